@@ -1,0 +1,1243 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US" sourcelanguage="en">
+<context>
+    <name>QObject</name>
+    <message>
+        <source>        Custom</source>
+        <translation>        Custom</translation>
+    </message>
+    <message>
+        <source>        Default</source>
+        <translation>        Default</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>%1 · protocol faults: %2 · open handles: %3</source>
+        <translation>%1 · protocol faults: %2 · open handles: %3</translation>
+    </message>
+    <message>
+        <source>1 Hour</source>
+        <translation>1 Hour</translation>
+    </message>
+    <message>
+        <source>1.5 Hour</source>
+        <translation>1.5 Hour</translation>
+    </message>
+    <message>
+        <source>1.6</source>
+        <translation>1.6</translation>
+    </message>
+    <message>
+        <source>1.8</source>
+        <translation>1.8</translation>
+    </message>
+    <message>
+        <source>2 Hour</source>
+        <translation>2 Hour</translation>
+    </message>
+    <message>
+        <source>2.0</source>
+        <translation>2.0</translation>
+    </message>
+    <message>
+        <source>2.2</source>
+        <translation>2.2</translation>
+    </message>
+    <message>
+        <source>2.4</source>
+        <translation>2.4</translation>
+    </message>
+    <message>
+        <source>2.5 Hour</source>
+        <translation>2.5 Hour</translation>
+    </message>
+    <message>
+        <source>2.6</source>
+        <translation>2.6</translation>
+    </message>
+    <message>
+        <source>3 Hour</source>
+        <translation>3 Hour</translation>
+    </message>
+    <message>
+        <source>3.5 Hour</source>
+        <translation>3.5 Hour</translation>
+    </message>
+    <message>
+        <source>30s</source>
+        <translation>30s</translation>
+    </message>
+    <message>
+        <source>4 Hour</source>
+        <translation>4 Hour</translation>
+    </message>
+    <message>
+        <source>5.4G</source>
+        <translation>5.4G</translation>
+    </message>
+    <message>
+        <source>5000K</source>
+        <translation>5000K</translation>
+    </message>
+    <message>
+        <source>5500K</source>
+        <translation>5500K</translation>
+    </message>
+    <message>
+        <source>6300K</source>
+        <translation>6300K</translation>
+    </message>
+    <message>
+        <source>6500K</source>
+        <translation>6500K</translation>
+    </message>
+    <message>
+        <source>7000K</source>
+        <translation>7000K</translation>
+    </message>
+    <message>
+        <source>7500K</source>
+        <translation>7500K</translation>
+    </message>
+    <message>
+        <source>8.1G</source>
+        <translation>8.1G</translation>
+    </message>
+    <message>
+        <source>9300K</source>
+        <translation>9300K</translation>
+    </message>
+    <message>
+        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
+        <translation>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</translation>
+    </message>
+    <message>
+        <source>A balanced picture for every day.</source>
+        <translation>A balanced picture for every day.</translation>
+    </message>
+    <message>
+        <source>A dim picture for dark rooms.</source>
+        <translation>A dim picture for dark rooms.</translation>
+    </message>
+    <message>
+        <source>A soft page for long texts.</source>
+        <translation>A soft page for long texts.</translation>
+    </message>
+    <message>
+        <source>A wide gamut for photographs.</source>
+        <translation>A wide gamut for photographs.</translation>
+    </message>
+    <message>
+        <source>A wide gamut under a D50 light.</source>
+        <translation>A wide gamut under a D50 light.</translation>
+    </message>
+    <message>
+        <source>AI Dual Mode</source>
+        <translation>AI Dual Mode</translation>
+    </message>
+    <message>
+        <source>Adaptive-Sync</source>
+        <translation>Adaptive-Sync</translation>
+    </message>
+    <message>
+        <source>Adobe</source>
+        <translation>Adobe</translation>
+    </message>
+    <message>
+        <source>Adobe Mode</source>
+        <translation>Adobe Mode</translation>
+    </message>
+    <message>
+        <source>AdobeRGB</source>
+        <translation>AdobeRGB</translation>
+    </message>
+    <message>
+        <source>AdobeRGB(D50)</source>
+        <translation>AdobeRGB(D50)</translation>
+    </message>
+    <message>
+        <source>Alignment</source>
+        <translation>Alignment</translation>
+    </message>
+    <message>
+        <source>Alignment Aid</source>
+        <translation>Alignment Aid</translation>
+    </message>
+    <message>
+        <source>Alignment_4</source>
+        <translation>Alignment_4</translation>
+    </message>
+    <message>
+        <source>Alignment_6</source>
+        <translation>Alignment_6</translation>
+    </message>
+    <message>
+        <source>Alignment_9</source>
+        <translation>Alignment_9</translation>
+    </message>
+    <message>
+        <source>American broadcasting primaries.</source>
+        <translation>American broadcasting primaries.</translation>
+    </message>
+    <message>
+        <source>Angle Ruler</source>
+        <translation>Angle Ruler</translation>
+    </message>
+    <message>
+        <source>Animate</source>
+        <translation>Animate</translation>
+    </message>
+    <message>
+        <source>Animate Mode</source>
+        <translation>Animate Mode</translation>
+    </message>
+    <message>
+        <source>Application is already running</source>
+        <translation>Application is already running</translation>
+    </message>
+    <message>
+        <source>Art Design</source>
+        <translation>Art Design</translation>
+    </message>
+    <message>
+        <source>Art Design Mode</source>
+        <translation>Art Design Mode</translation>
+    </message>
+    <message>
+        <source>Audio Mode</source>
+        <translation>Audio Mode</translation>
+    </message>
+    <message>
+        <source>Audio Mute</source>
+        <translation>Audio Mute</translation>
+    </message>
+    <message>
+        <source>Audio Volume</source>
+        <translation>Audio Volume</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>Auto</translation>
+    </message>
+    <message>
+        <source>Auto-L1</source>
+        <translation>Auto-L1</translation>
+    </message>
+    <message>
+        <source>Auto-L2</source>
+        <translation>Auto-L2</translation>
+    </message>
+    <message>
+        <source>B</source>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>Background running</source>
+        <translation>Background running</translation>
+    </message>
+    <message>
+        <source>Basic</source>
+        <translation>Basic</translation>
+    </message>
+    <message>
+        <source>Black Level</source>
+        <translation>Black Level</translation>
+    </message>
+    <message>
+        <source>Black and white, like paper.</source>
+        <translation>Black and white, like paper.</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Brightness</translation>
+    </message>
+    <message>
+        <source>C</source>
+        <translation>C</translation>
+    </message>
+    <message>
+        <source>CAD/CAM</source>
+        <translation>CAD/CAM</translation>
+    </message>
+    <message>
+        <source>CAD/CAM Mode</source>
+        <translation>CAD/CAM Mode</translation>
+    </message>
+    <message>
+        <source>CEC</source>
+        <translation>CEC</translation>
+    </message>
+    <message>
+        <source>CR Enhance</source>
+        <translation>CR Enhance</translation>
+    </message>
+    <message>
+        <source>Care Content</source>
+        <translation>Care Content</translation>
+    </message>
+    <message>
+        <source>Choose Custom to make it your own.</source>
+        <translation>Choose Custom to make it your own.</translation>
+    </message>
+    <message>
+        <source>Cinema colours at a D65 white.</source>
+        <translation>Cinema colours at a D65 white.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Close window</source>
+        <translation>Close window</translation>
+    </message>
+    <message>
+        <source>Color Enchance</source>
+        <translation>Color Enchance</translation>
+    </message>
+    <message>
+        <source>Color Saturation</source>
+        <translation>Color Saturation</translation>
+    </message>
+    <message>
+        <source>Color Space</source>
+        <translation>Color Space</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>Color Temperature</translation>
+    </message>
+    <message>
+        <source>Composition</source>
+        <translation>Composition</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contrast</translation>
+    </message>
+    <message>
+        <source>Convo</source>
+        <translation>Convo</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Custom</translation>
+    </message>
+    <message>
+        <source>Custom Mode</source>
+        <translation>Custom Mode</translation>
+    </message>
+    <message>
+        <source>Custom Size</source>
+        <translation>Custom Size</translation>
+    </message>
+    <message>
+        <source>DCI-P3</source>
+        <translation>DCI-P3</translation>
+    </message>
+    <message>
+        <source>DCI-P3 Mode</source>
+        <translation>DCI-P3 Mode</translation>
+    </message>
+    <message>
+        <source>DCI-P3(D65)</source>
+        <translation>DCI-P3(D65)</translation>
+    </message>
+    <message>
+        <source>DICOM</source>
+        <translation>DICOM</translation>
+    </message>
+    <message>
+        <source>DICOM Mode</source>
+        <translation>DICOM Mode</translation>
+    </message>
+    <message>
+        <source>DP Alt Mode</source>
+        <translation>DP Alt Mode</translation>
+    </message>
+    <message>
+        <source>DP/Type-C</source>
+        <translation>DP/Type-C</translation>
+    </message>
+    <message>
+        <source>DP1</source>
+        <translation>DP1</translation>
+    </message>
+    <message>
+        <source>DP2</source>
+        <translation>DP2</translation>
+    </message>
+    <message>
+        <source>Dark Programme</source>
+        <translation>Dark Programme</translation>
+    </message>
+    <message>
+        <source>Deep contrast for films.</source>
+        <translation>Deep contrast for films.</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Default</translation>
+    </message>
+    <message>
+        <source>Display P3</source>
+        <translation>Display P3</translation>
+    </message>
+    <message>
+        <source>Display P3 Mode</source>
+        <translation>Display P3 Mode</translation>
+    </message>
+    <message>
+        <source>Drop a chunk</source>
+        <translation>Drop a chunk</translation>
+    </message>
+    <message>
+        <source>DyDs TECH</source>
+        <translation>DyDs TECH</translation>
+    </message>
+    <message>
+        <source>E-Book</source>
+        <translation>E-Book</translation>
+    </message>
+    <message>
+        <source>E-Book Mode</source>
+        <translation>E-Book Mode</translation>
+    </message>
+    <message>
+        <source>EBU</source>
+        <translation>EBU</translation>
+    </message>
+    <message>
+        <source>EBU Mode</source>
+        <translation>EBU Mode</translation>
+    </message>
+    <message>
+        <source>Emberline</source>
+        <translation>Emberline</translation>
+    </message>
+    <message>
+        <source>European broadcasting primaries.</source>
+        <translation>European broadcasting primaries.</translation>
+    </message>
+    <message>
+        <source>Every request takes 400 ms longer</source>
+        <translation>Every request takes 400 ms longer</translation>
+    </message>
+    <message>
+        <source>Everything that the panel can show.</source>
+        <translation>Everything that the panel can show.</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <source>Eye Care</source>
+        <translation>Eye Care</translation>
+    </message>
+    <message>
+        <source>Eye Care Mode</source>
+        <translation>Eye Care Mode</translation>
+    </message>
+    <message>
+        <source>Eyeshield Remind</source>
+        <translation>Eyeshield Remind</translation>
+    </message>
+    <message>
+        <source>Fine lines and clear edges for drawings.</source>
+        <translation>Fine lines and clear edges for drawings.</translation>
+    </message>
+    <message>
+        <source>For code on a dark ground.</source>
+        <translation>For code on a dark ground.</translation>
+    </message>
+    <message>
+        <source>For code on a light ground.</source>
+        <translation>For code on a light ground.</translation>
+    </message>
+    <message>
+        <source>Four bytes of the next scene-mode block get lost</source>
+        <translation>Four bytes of the next scene-mode block get lost</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>Frame</translation>
+    </message>
+    <message>
+        <source>G</source>
+        <translation>G</translation>
+    </message>
+    <message>
+        <source>Gama</source>
+        <translation>Gama</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Game</translation>
+    </message>
+    <message>
+        <source>Game Aid</source>
+        <translation>Game Aid</translation>
+    </message>
+    <message>
+        <source>Game Rush</source>
+        <translation>Game Rush</translation>
+    </message>
+    <message>
+        <source>Game VS</source>
+        <translation>Game VS</translation>
+    </message>
+    <message>
+        <source>Go deaf</source>
+        <translation>Go deaf</translation>
+    </message>
+    <message>
+        <source>Golden Section</source>
+        <translation>Golden Section</translation>
+    </message>
+    <message>
+        <source>Gravity Sensor</source>
+        <translation>Gravity Sensor</translation>
+    </message>
+    <message>
+        <source>Gray Response</source>
+        <translation>Gray Response</translation>
+    </message>
+    <message>
+        <source>H-Position</source>
+        <translation>H-Position</translation>
+    </message>
+    <message>
+        <source>HDMI1</source>
+        <translation>HDMI1</translation>
+    </message>
+    <message>
+        <source>HDMI2</source>
+        <translation>HDMI2</translation>
+    </message>
+    <message>
+        <source>HDR</source>
+        <translation>HDR</translation>
+    </message>
+    <message>
+        <source>HDTV Video</source>
+        <translation>HDTV Video</translation>
+    </message>
+    <message>
+        <source>Halo Control</source>
+        <translation>Halo Control</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>High</translation>
+    </message>
+    <message>
+        <source>High-definition television.</source>
+        <translation>High-definition television.</translation>
+    </message>
+    <message>
+        <source>High-definition video work.</source>
+        <translation>High-definition video work.</translation>
+    </message>
+    <message>
+        <source>Hotkey conflict</source>
+        <translation>Hotkey conflict</translation>
+    </message>
+    <message>
+        <source>How the print will look under a D55 light.</source>
+        <translation>How the print will look under a D55 light.</translation>
+    </message>
+    <message>
+        <source>How the print will look under a D58 light.</source>
+        <translation>How the print will look under a D58 light.</translation>
+    </message>
+    <message>
+        <source>How the print will look.</source>
+        <translation>How the print will look.</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Hue</translation>
+    </message>
+    <message>
+        <source>Hue R Y G C B M</source>
+        <translation>Hue R Y G C B M</translation>
+    </message>
+    <message>
+        <source>I/O Settings</source>
+        <translation>I/O Settings</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>Input Signal</source>
+        <translation>Input Signal</translation>
+    </message>
+    <message>
+        <source>Last requests to the monitor</source>
+        <translation>Last requests to the monitor</translation>
+    </message>
+    <message>
+        <source>Less blue light for long days.</source>
+        <translation>Less blue light for long days.</translation>
+    </message>
+    <message>
+        <source>Level1</source>
+        <translation>Level1</translation>
+    </message>
+    <message>
+        <source>Level2</source>
+        <translation>Level2</translation>
+    </message>
+    <message>
+        <source>Level3</source>
+        <translation>Level3</translation>
+    </message>
+    <message>
+        <source>Light Programme</source>
+        <translation>Light Programme</translation>
+    </message>
+    <message>
+        <source>Light Sensor</source>
+        <translation>Light Sensor</translation>
+    </message>
+    <message>
+        <source>Localdimming</source>
+        <translation>Localdimming</translation>
+    </message>
+    <message>
+        <source>Lose a reply</source>
+        <translation>Lose a reply</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Low</translation>
+    </message>
+    <message>
+        <source>Low Blue Light</source>
+        <translation>Low Blue Light</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>MPCS</source>
+        <translation>MPCS</translation>
+    </message>
+    <message>
+        <source>MPCS/LD</source>
+        <translation>MPCS/LD</translation>
+    </message>
+    <message>
+        <source>MPCS/ULL FPS</source>
+        <translation>MPCS/ULL FPS</translation>
+    </message>
+    <message>
+        <source>Mac View</source>
+        <translation>Mac View</translation>
+    </message>
+    <message>
+        <source>Matches notebooks with a Display P3 screen.</source>
+        <translation>Matches notebooks with a Display P3 screen.</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Medium</translation>
+    </message>
+    <message>
+        <source>Menu Lock</source>
+        <translation>Menu Lock</translation>
+    </message>
+    <message>
+        <source>Minimise</source>
+        <translation>Minimise</translation>
+    </message>
+    <message>
+        <source>Mode %1</source>
+        <translation>Mode %1</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Movie</translation>
+    </message>
+    <message>
+        <source>Movie Mode</source>
+        <translation>Movie Mode</translation>
+    </message>
+    <message>
+        <source>Music Mode</source>
+        <translation>Music Mode</translation>
+    </message>
+    <message>
+        <source>NA</source>
+        <translation>NA</translation>
+    </message>
+    <message>
+        <source>NTSC Video</source>
+        <translation>NTSC Video</translation>
+    </message>
+    <message>
+        <source>NTSC television.</source>
+        <translation>NTSC television.</translation>
+    </message>
+    <message>
+        <source>Native</source>
+        <translation>Native</translation>
+    </message>
+    <message>
+        <source>Native Mode</source>
+        <translation>Native Mode</translation>
+    </message>
+    <message>
+        <source>Night</source>
+        <translation>Night</translation>
+    </message>
+    <message>
+        <source>Night Loom</source>
+        <translation>Night Loom</translation>
+    </message>
+    <message>
+        <source>Night Mode</source>
+        <translation>Night Mode</translation>
+    </message>
+    <message>
+        <source>Night View C.T</source>
+        <translation>Night View C.T</translation>
+    </message>
+    <message>
+        <source>Night Vision</source>
+        <translation>Night Vision</translation>
+    </message>
+    <message>
+        <source>No Signal Timer</source>
+        <translation>No Signal Timer</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>OSD Language</source>
+        <translation>OSD Language</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>Office Aid</source>
+        <translation>Office Aid</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Ok</translation>
+    </message>
+    <message>
+        <source>Oled Care</source>
+        <translation>Oled Care</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>On</translation>
+    </message>
+    <message>
+        <source>On-screen menu</source>
+        <translation>On-screen menu</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>Output Range</source>
+        <translation>Output Range</translation>
+    </message>
+    <message>
+        <source>PAL &amp; SECAM</source>
+        <translation>PAL &amp; SECAM</translation>
+    </message>
+    <message>
+        <source>PAL and SECAM television.</source>
+        <translation>PAL and SECAM television.</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Paper</translation>
+    </message>
+    <message>
+        <source>Paper Mode</source>
+        <translation>Paper Mode</translation>
+    </message>
+    <message>
+        <source>Paper_A4</source>
+        <translation>Paper_A4</translation>
+    </message>
+    <message>
+        <source>Paper_B5</source>
+        <translation>Paper_B5</translation>
+    </message>
+    <message>
+        <source>Paper_B6</source>
+        <translation>Paper_B6</translation>
+    </message>
+    <message>
+        <source>Photo(P3-D65)</source>
+        <translation>Photo(P3-D65)</translation>
+    </message>
+    <message>
+        <source>Photographs at a D65 white.</source>
+        <translation>Photographs at a D65 white.</translation>
+    </message>
+    <message>
+        <source>Picture Enhance</source>
+        <translation>Picture Enhance</translation>
+    </message>
+    <message>
+        <source>Plugged in</source>
+        <translation>Plugged in</translation>
+    </message>
+    <message>
+        <source>Power LED</source>
+        <translation>Power LED</translation>
+    </message>
+    <message>
+        <source>Power Saving</source>
+        <translation>Power Saving</translation>
+    </message>
+    <message>
+        <source>Print Mode</source>
+        <translation>Print Mode</translation>
+    </message>
+    <message>
+        <source>Print(P3-D50)</source>
+        <translation>Print(P3-D50)</translation>
+    </message>
+    <message>
+        <source>Proofs under a D50 light.</source>
+        <translation>Proofs under a D50 light.</translation>
+    </message>
+    <message>
+        <source>QUORVEL desk</source>
+        <translation>QUORVEL desk</translation>
+    </message>
+    <message>
+        <source>Quick Boot</source>
+        <translation>Quick Boot</translation>
+    </message>
+    <message>
+        <source>R</source>
+        <translation>R</translation>
+    </message>
+    <message>
+        <source>RGB Auto</source>
+        <translation>RGB Auto</translation>
+    </message>
+    <message>
+        <source>RGB Full</source>
+        <translation>RGB Full</translation>
+    </message>
+    <message>
+        <source>RGB Limit</source>
+        <translation>RGB Limit</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Reading</translation>
+    </message>
+    <message>
+        <source>Reading Mode</source>
+        <translation>Reading Mode</translation>
+    </message>
+    <message>
+        <source>Reading sample 0123</source>
+        <translation>Reading sample 0123</translation>
+    </message>
+    <message>
+        <source>Rec.709</source>
+        <translation>Rec.709</translation>
+    </message>
+    <message>
+        <source>Rec.709 Mode</source>
+        <translation>Rec.709 Mode</translation>
+    </message>
+    <message>
+        <source>Refuse writes</source>
+        <translation>Refuse writes</translation>
+    </message>
+    <message>
+        <source>Requests</source>
+        <translation>Requests</translation>
+    </message>
+    <message>
+        <source>Round</source>
+        <translation>Round</translation>
+    </message>
+    <message>
+        <source>Ruler</source>
+        <translation>Ruler</translation>
+    </message>
+    <message>
+        <source>SMPTE-C</source>
+        <translation>SMPTE-C</translation>
+    </message>
+    <message>
+        <source>SMPTE-C Mode</source>
+        <translation>SMPTE-C Mode</translation>
+    </message>
+    <message>
+        <source>Saturation R Y G C B M</source>
+        <translation>Saturation R Y G C B M</translation>
+    </message>
+    <message>
+        <source>Scence Follow</source>
+        <translation>Scence Follow</translation>
+    </message>
+    <message>
+        <source>Scene</source>
+        <translation>Scene</translation>
+    </message>
+    <message>
+        <source>Scene mode</source>
+        <translation>Scene mode</translation>
+    </message>
+    <message>
+        <source>Screen of the simulated monitor</source>
+        <translation>Screen of the simulated monitor</translation>
+    </message>
+    <message>
+        <source>Service Settings</source>
+        <translation>Service Settings</translation>
+    </message>
+    <message>
+        <source>Sharp motion with local dimming.</source>
+        <translation>Sharp motion with local dimming.</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>Sharpness</translation>
+    </message>
+    <message>
+        <source>Shortcut Key</source>
+        <translation>Shortcut Key</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Show</translation>
+    </message>
+    <message>
+        <source>Show Time(s)</source>
+        <translation>Show Time(s)</translation>
+    </message>
+    <message>
+        <source>Simulated monitor</source>
+        <translation>Simulated monitor</translation>
+    </message>
+    <message>
+        <source>Slow</source>
+        <translation>Slow</translation>
+    </message>
+    <message>
+        <source>Smooth</source>
+        <translation>Smooth</translation>
+    </message>
+    <message>
+        <source>Softproof</source>
+        <translation>Softproof</translation>
+    </message>
+    <message>
+        <source>Softproof(D55)</source>
+        <translation>Softproof(D55)</translation>
+    </message>
+    <message>
+        <source>Softproof(D58)</source>
+        <translation>Softproof(D58)</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Standard Mode</source>
+        <translation>Standard Mode</translation>
+    </message>
+    <message>
+        <source>Strong</source>
+        <translation>Strong</translation>
+    </message>
+    <message>
+        <source>Super Resolution</source>
+        <translation>Super Resolution</translation>
+    </message>
+    <message>
+        <source>System Settings</source>
+        <translation>System Settings</translation>
+    </message>
+    <message>
+        <source>Text Mode</source>
+        <translation>Text Mode</translation>
+    </message>
+    <message>
+        <source>The answer to the next read never arrives</source>
+        <translation>The answer to the next read never arrives</translation>
+    </message>
+    <message>
+        <source>The cable is pulled out until the button is released</source>
+        <translation>The cable is pulled out until the button is released</translation>
+    </message>
+    <message>
+        <source>The colours of the cinema.</source>
+        <translation>The colours of the cinema.</translation>
+    </message>
+    <message>
+        <source>The grey scale of medical pictures.</source>
+        <translation>The grey scale of medical pictures.</translation>
+    </message>
+    <message>
+        <source>The hotkey you set is occupied,please reset it again!</source>
+        <translation>The hotkey you set is occupied,please reset it again!</translation>
+    </message>
+    <message>
+        <source>The maker&apos;s own tuning.</source>
+        <translation>The maker&apos;s own tuning.</translation>
+    </message>
+    <message>
+        <source>The monitor answers nothing until the button is released</source>
+        <translation>The monitor answers nothing until the button is released</translation>
+    </message>
+    <message>
+        <source>The monitor takes no value until the button is released</source>
+        <translation>The monitor takes no value until the button is released</translation>
+    </message>
+    <message>
+        <source>The picture as the factory set it.</source>
+        <translation>The picture as the factory set it.</translation>
+    </message>
+    <message>
+        <source>The selected display is unsupported or the signal line is disconnected.</source>
+        <translation>The selected display is unsupported or the signal line is disconnected.</translation>
+    </message>
+    <message>
+        <source>The sharpest motion for shooters.</source>
+        <translation>The sharpest motion for shooters.</translation>
+    </message>
+    <message>
+        <source>The simulated monitor that is shown here</source>
+        <translation>The simulated monitor that is shown here</translation>
+    </message>
+    <message>
+        <source>The standard of the web.</source>
+        <translation>The standard of the web.</translation>
+    </message>
+    <message>
+        <source>The white of printed paper.</source>
+        <translation>The white of printed paper.</translation>
+    </message>
+    <message>
+        <source>This monitor has nothing to set here.</source>
+        <translation>This monitor has nothing to set here.</translation>
+    </message>
+    <message>
+        <source>Time, read or write, code, value and what became of it</source>
+        <translation>Time, read or write, code, value and what became of it</translation>
+    </message>
+    <message>
+        <source>Tool Settings</source>
+        <translation>Tool Settings</translation>
+    </message>
+    <message>
+        <source>Topspeed</source>
+        <translation>Topspeed</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>Transparency</translation>
+    </message>
+    <message>
+        <source>Triangle</source>
+        <translation>Triangle</translation>
+    </message>
+    <message>
+        <source>Trichotomy</source>
+        <translation>Trichotomy</translation>
+    </message>
+    <message>
+        <source>True colours for design work.</source>
+        <translation>True colours for design work.</translation>
+    </message>
+    <message>
+        <source>Type-B</source>
+        <translation>Type-B</translation>
+    </message>
+    <message>
+        <source>Type-C</source>
+        <translation>Type-C</translation>
+    </message>
+    <message>
+        <source>USB Power</source>
+        <translation>USB Power</translation>
+    </message>
+    <message>
+        <source>USB Switch</source>
+        <translation>USB Switch</translation>
+    </message>
+    <message>
+        <source>Ull-Level1</source>
+        <translation>Ull-Level1</translation>
+    </message>
+    <message>
+        <source>Ull-Level2</source>
+        <translation>Ull-Level2</translation>
+    </message>
+    <message>
+        <source>Ull-Level3</source>
+        <translation>Ull-Level3</translation>
+    </message>
+    <message>
+        <source>Unplug</source>
+        <translation>Unplug</translation>
+    </message>
+    <message>
+        <source>Unplugged</source>
+        <translation>Unplugged</translation>
+    </message>
+    <message>
+        <source>User1</source>
+        <translation>User1</translation>
+    </message>
+    <message>
+        <source>User1 R G B</source>
+        <translation>User1 R G B</translation>
+    </message>
+    <message>
+        <source>User2</source>
+        <translation>User2</translation>
+    </message>
+    <message>
+        <source>User2 R G B</source>
+        <translation>User2 R G B</translation>
+    </message>
+    <message>
+        <source>User3</source>
+        <translation>User3</translation>
+    </message>
+    <message>
+        <source>User3 R G B</source>
+        <translation>User3 R G B</translation>
+    </message>
+    <message>
+        <source>UserB</source>
+        <translation>UserB</translation>
+    </message>
+    <message>
+        <source>UserG</source>
+        <translation>UserG</translation>
+    </message>
+    <message>
+        <source>UserR</source>
+        <translation>UserR</translation>
+    </message>
+    <message>
+        <source>V-Position</source>
+        <translation>V-Position</translation>
+    </message>
+    <message>
+        <source>Vivid colours for animation.</source>
+        <translation>Vivid colours for animation.</translation>
+    </message>
+    <message>
+        <source>Web(sRGB)</source>
+        <translation>Web(sRGB)</translation>
+    </message>
+    <message>
+        <source>What most visitors of a page see.</source>
+        <translation>What most visitors of a page see.</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Your own picture. Changes are sent to the monitor as you make them.</source>
+        <translation>Your own picture. Changes are sent to the monitor as you make them.</translation>
+    </message>
+    <message>
+        <source>Zelmar</source>
+        <translation>Zelmar</translation>
+    </message>
+    <message>
+        <source>Zelmar Mode</source>
+        <translation>Zelmar Mode</translation>
+    </message>
+    <message>
+        <source>adjusted</source>
+        <translation>adjusted</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>connected</translation>
+    </message>
+    <message>
+        <source>deaf</source>
+        <translation>deaf</translation>
+    </message>
+    <message>
+        <source>garbled</source>
+        <translation>garbled</translation>
+    </message>
+    <message>
+        <source>lost</source>
+        <translation>lost</translation>
+    </message>
+    <message>
+        <source>no answer</source>
+        <translation>no answer</translation>
+    </message>
+    <message>
+        <source>no monitor</source>
+        <translation>no monitor</translation>
+    </message>
+    <message>
+        <source>ok</source>
+        <translation>ok</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>refused</translation>
+    </message>
+    <message>
+        <source>sRGB</source>
+        <translation>sRGB</translation>
+    </message>
+    <message>
+        <source>sRGB Mode</source>
+        <translation>sRGB Mode</translation>
+    </message>
+    <message>
+        <source>sRGB primaries with gamma 2.2.</source>
+        <translation>sRGB primaries with gamma 2.2.</translation>
+    </message>
+    <message>
+        <source>sRGB(2.2)</source>
+        <translation>sRGB(2.2)</translation>
+    </message>
+    <message>
+        <source>sRGB(2.2) Mode</source>
+        <translation>sRGB(2.2) Mode</translation>
+    </message>
+    <message>
+        <source>unexpected</source>
+        <translation>unexpected</translation>
+    </message>
+    <message>
+        <source>unplugged</source>
+        <translation>unplugged</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,1243 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja_JP" sourcelanguage="en">
+<context>
+    <name>QObject</name>
+    <message>
+        <source>        Custom</source>
+        <translation>        カスタム</translation>
+    </message>
+    <message>
+        <source>        Default</source>
+        <translation>        デフォルト</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>%1 · protocol faults: %2 · open handles: %3</source>
+        <translation>%1 · プロトコルエラー: %2 · 開いているハンドル: %3</translation>
+    </message>
+    <message>
+        <source>1 Hour</source>
+        <translation>1 時間</translation>
+    </message>
+    <message>
+        <source>1.5 Hour</source>
+        <translation>1.5 時間</translation>
+    </message>
+    <message>
+        <source>1.6</source>
+        <translation>1.6</translation>
+    </message>
+    <message>
+        <source>1.8</source>
+        <translation>1.8</translation>
+    </message>
+    <message>
+        <source>2 Hour</source>
+        <translation>2 時間</translation>
+    </message>
+    <message>
+        <source>2.0</source>
+        <translation>2.0</translation>
+    </message>
+    <message>
+        <source>2.2</source>
+        <translation>2.2</translation>
+    </message>
+    <message>
+        <source>2.4</source>
+        <translation>2.4</translation>
+    </message>
+    <message>
+        <source>2.5 Hour</source>
+        <translation>2.5 時間</translation>
+    </message>
+    <message>
+        <source>2.6</source>
+        <translation>2.6</translation>
+    </message>
+    <message>
+        <source>3 Hour</source>
+        <translation>3 時間</translation>
+    </message>
+    <message>
+        <source>3.5 Hour</source>
+        <translation>3.5 時間</translation>
+    </message>
+    <message>
+        <source>30s</source>
+        <translation>30 秒</translation>
+    </message>
+    <message>
+        <source>4 Hour</source>
+        <translation>4 時間</translation>
+    </message>
+    <message>
+        <source>5.4G</source>
+        <translation>5.4G</translation>
+    </message>
+    <message>
+        <source>5000K</source>
+        <translation>5000K</translation>
+    </message>
+    <message>
+        <source>5500K</source>
+        <translation>5500K</translation>
+    </message>
+    <message>
+        <source>6300K</source>
+        <translation>6300K</translation>
+    </message>
+    <message>
+        <source>6500K</source>
+        <translation>6500K</translation>
+    </message>
+    <message>
+        <source>7000K</source>
+        <translation>7000K</translation>
+    </message>
+    <message>
+        <source>7500K</source>
+        <translation>7500K</translation>
+    </message>
+    <message>
+        <source>8.1G</source>
+        <translation>8.1G</translation>
+    </message>
+    <message>
+        <source>9300K</source>
+        <translation>9300K</translation>
+    </message>
+    <message>
+        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
+        <translation>&lt;font color=white&gt;ディスプレイ情報を取得しています...&lt;/font&gt;</translation>
+    </message>
+    <message>
+        <source>A balanced picture for every day.</source>
+        <translation>日常使いに適したバランスのよい画質です。</translation>
+    </message>
+    <message>
+        <source>A dim picture for dark rooms.</source>
+        <translation>暗い部屋に適した明るさを抑えた画質です。</translation>
+    </message>
+    <message>
+        <source>A soft page for long texts.</source>
+        <translation>長文を読むのに適したやわらかな画質です。</translation>
+    </message>
+    <message>
+        <source>A wide gamut for photographs.</source>
+        <translation>写真に適した広い色域です。</translation>
+    </message>
+    <message>
+        <source>A wide gamut under a D50 light.</source>
+        <translation>D50 光源での広い色域です。</translation>
+    </message>
+    <message>
+        <source>AI Dual Mode</source>
+        <translation>AI デュアルモード</translation>
+    </message>
+    <message>
+        <source>Adaptive-Sync</source>
+        <translation>Adaptive-Sync</translation>
+    </message>
+    <message>
+        <source>Adobe</source>
+        <translation>Adobe</translation>
+    </message>
+    <message>
+        <source>Adobe Mode</source>
+        <translation>Adobe モード</translation>
+    </message>
+    <message>
+        <source>AdobeRGB</source>
+        <translation>AdobeRGB</translation>
+    </message>
+    <message>
+        <source>AdobeRGB(D50)</source>
+        <translation>AdobeRGB(D50)</translation>
+    </message>
+    <message>
+        <source>Alignment</source>
+        <translation>位置合わせ</translation>
+    </message>
+    <message>
+        <source>Alignment Aid</source>
+        <translation>位置合わせ補助</translation>
+    </message>
+    <message>
+        <source>Alignment_4</source>
+        <translation>位置合わせ 4</translation>
+    </message>
+    <message>
+        <source>Alignment_6</source>
+        <translation>位置合わせ 6</translation>
+    </message>
+    <message>
+        <source>Alignment_9</source>
+        <translation>位置合わせ 9</translation>
+    </message>
+    <message>
+        <source>American broadcasting primaries.</source>
+        <translation>米国の放送規格の三原色です。</translation>
+    </message>
+    <message>
+        <source>Angle Ruler</source>
+        <translation>角度定規</translation>
+    </message>
+    <message>
+        <source>Animate</source>
+        <translation>アニメ</translation>
+    </message>
+    <message>
+        <source>Animate Mode</source>
+        <translation>アニメモード</translation>
+    </message>
+    <message>
+        <source>Application is already running</source>
+        <translation>アプリケーションは既に起動しています</translation>
+    </message>
+    <message>
+        <source>Art Design</source>
+        <translation>アートデザイン</translation>
+    </message>
+    <message>
+        <source>Art Design Mode</source>
+        <translation>アートデザイン</translation>
+    </message>
+    <message>
+        <source>Audio Mode</source>
+        <translation>音声モード</translation>
+    </message>
+    <message>
+        <source>Audio Mute</source>
+        <translation>消音</translation>
+    </message>
+    <message>
+        <source>Audio Volume</source>
+        <translation>音量</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Auto-L1</source>
+        <translation>自動-L1</translation>
+    </message>
+    <message>
+        <source>Auto-L2</source>
+        <translation>自動-L2</translation>
+    </message>
+    <message>
+        <source>B</source>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>Background running</source>
+        <translation>バックグラウンドで実行中</translation>
+    </message>
+    <message>
+        <source>Basic</source>
+        <translation>基本設定</translation>
+    </message>
+    <message>
+        <source>Black Level</source>
+        <translation>黒レベル</translation>
+    </message>
+    <message>
+        <source>Black and white, like paper.</source>
+        <translation>紙のような白黒表示です。</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>輝度</translation>
+    </message>
+    <message>
+        <source>C</source>
+        <translation>C</translation>
+    </message>
+    <message>
+        <source>CAD/CAM</source>
+        <translation>CAD/CAM</translation>
+    </message>
+    <message>
+        <source>CAD/CAM Mode</source>
+        <translation>CAD/CAM モード</translation>
+    </message>
+    <message>
+        <source>CEC</source>
+        <translation>CEC</translation>
+    </message>
+    <message>
+        <source>CR Enhance</source>
+        <translation>コントラスト強調</translation>
+    </message>
+    <message>
+        <source>Care Content</source>
+        <translation>ケア項目</translation>
+    </message>
+    <message>
+        <source>Choose Custom to make it your own.</source>
+        <translation>「カスタム」を選ぶと好みに合わせて調整できます。</translation>
+    </message>
+    <message>
+        <source>Cinema colours at a D65 white.</source>
+        <translation>D65 白色点での映画の色です。</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>Close window</source>
+        <translation>ウィンドウを閉じる</translation>
+    </message>
+    <message>
+        <source>Color Enchance</source>
+        <translation>色彩強調</translation>
+    </message>
+    <message>
+        <source>Color Saturation</source>
+        <translation>彩度</translation>
+    </message>
+    <message>
+        <source>Color Space</source>
+        <translation>色空間</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>色温</translation>
+    </message>
+    <message>
+        <source>Composition</source>
+        <translation>構図</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>コントラスト</translation>
+    </message>
+    <message>
+        <source>Convo</source>
+        <translation>会話</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>カスタム</translation>
+    </message>
+    <message>
+        <source>Custom Mode</source>
+        <translation>カスタムモード</translation>
+    </message>
+    <message>
+        <source>Custom Size</source>
+        <translation>カスタムサイズ</translation>
+    </message>
+    <message>
+        <source>DCI-P3</source>
+        <translation>DCI-P3</translation>
+    </message>
+    <message>
+        <source>DCI-P3 Mode</source>
+        <translation>DCI-P3 モード</translation>
+    </message>
+    <message>
+        <source>DCI-P3(D65)</source>
+        <translation>DCI-P3(D65)</translation>
+    </message>
+    <message>
+        <source>DICOM</source>
+        <translation>DICOM</translation>
+    </message>
+    <message>
+        <source>DICOM Mode</source>
+        <translation>DICOM モード</translation>
+    </message>
+    <message>
+        <source>DP Alt Mode</source>
+        <translation>DP Alt モード</translation>
+    </message>
+    <message>
+        <source>DP/Type-C</source>
+        <translation>DP/Type-C</translation>
+    </message>
+    <message>
+        <source>DP1</source>
+        <translation>DP1</translation>
+    </message>
+    <message>
+        <source>DP2</source>
+        <translation>DP2</translation>
+    </message>
+    <message>
+        <source>Dark Programme</source>
+        <translation>プログラミング(暗)</translation>
+    </message>
+    <message>
+        <source>Deep contrast for films.</source>
+        <translation>映画に適した深みのあるコントラストです。</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>デフォルト</translation>
+    </message>
+    <message>
+        <source>Display P3</source>
+        <translation>Display P3</translation>
+    </message>
+    <message>
+        <source>Display P3 Mode</source>
+        <translation>Display P3 モード</translation>
+    </message>
+    <message>
+        <source>Drop a chunk</source>
+        <translation>ブロック欠落</translation>
+    </message>
+    <message>
+        <source>DyDs TECH</source>
+        <translation>DyDs TECH</translation>
+    </message>
+    <message>
+        <source>E-Book</source>
+        <translation>電子書籍</translation>
+    </message>
+    <message>
+        <source>E-Book Mode</source>
+        <translation>電子書籍モード</translation>
+    </message>
+    <message>
+        <source>EBU</source>
+        <translation>EBU</translation>
+    </message>
+    <message>
+        <source>EBU Mode</source>
+        <translation>EBU モード</translation>
+    </message>
+    <message>
+        <source>Emberline</source>
+        <translation>Emberline</translation>
+    </message>
+    <message>
+        <source>European broadcasting primaries.</source>
+        <translation>欧州の放送規格の三原色です。</translation>
+    </message>
+    <message>
+        <source>Every request takes 400 ms longer</source>
+        <translation>すべての要求に 400 ミリ秒余計にかかります</translation>
+    </message>
+    <message>
+        <source>Everything that the panel can show.</source>
+        <translation>パネルが表示できるすべての色です。</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>Eye Care</source>
+        <translation>アイケア</translation>
+    </message>
+    <message>
+        <source>Eye Care Mode</source>
+        <translation>アイケアモード</translation>
+    </message>
+    <message>
+        <source>Eyeshield Remind</source>
+        <translation>目の休憩通知</translation>
+    </message>
+    <message>
+        <source>Fine lines and clear edges for drawings.</source>
+        <translation>図面に適した細い線とくっきりした輪郭です。</translation>
+    </message>
+    <message>
+        <source>For code on a dark ground.</source>
+        <translation>暗い背景のコード向けです。</translation>
+    </message>
+    <message>
+        <source>For code on a light ground.</source>
+        <translation>明るい背景のコード向けです。</translation>
+    </message>
+    <message>
+        <source>Four bytes of the next scene-mode block get lost</source>
+        <translation>次のシーンモードのデータから 4 バイトが失われます</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>フレーム</translation>
+    </message>
+    <message>
+        <source>G</source>
+        <translation>G</translation>
+    </message>
+    <message>
+        <source>Gama</source>
+        <translation>ガンマ</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>ゲーム</translation>
+    </message>
+    <message>
+        <source>Game Aid</source>
+        <translation>ゲーム補助</translation>
+    </message>
+    <message>
+        <source>Game Rush</source>
+        <translation>ゲームラッシュ</translation>
+    </message>
+    <message>
+        <source>Game VS</source>
+        <translation>ゲーム対戦</translation>
+    </message>
+    <message>
+        <source>Go deaf</source>
+        <translation>応答停止</translation>
+    </message>
+    <message>
+        <source>Golden Section</source>
+        <translation>黄金分割</translation>
+    </message>
+    <message>
+        <source>Gravity Sensor</source>
+        <translation>重力センサー</translation>
+    </message>
+    <message>
+        <source>Gray Response</source>
+        <translation>階調応答</translation>
+    </message>
+    <message>
+        <source>H-Position</source>
+        <translation>水平位置</translation>
+    </message>
+    <message>
+        <source>HDMI1</source>
+        <translation>HDMI1</translation>
+    </message>
+    <message>
+        <source>HDMI2</source>
+        <translation>HDMI2</translation>
+    </message>
+    <message>
+        <source>HDR</source>
+        <translation>HDR</translation>
+    </message>
+    <message>
+        <source>HDTV Video</source>
+        <translation>HDTV ビデオ</translation>
+    </message>
+    <message>
+        <source>Halo Control</source>
+        <translation>ハロー制御</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>高</translation>
+    </message>
+    <message>
+        <source>High-definition television.</source>
+        <translation>ハイビジョンテレビ向けです。</translation>
+    </message>
+    <message>
+        <source>High-definition video work.</source>
+        <translation>ハイビジョン映像の制作向けです。</translation>
+    </message>
+    <message>
+        <source>Hotkey conflict</source>
+        <translation>ショートカットキーの競合</translation>
+    </message>
+    <message>
+        <source>How the print will look under a D55 light.</source>
+        <translation>D55 光源での印刷物の見え方です。</translation>
+    </message>
+    <message>
+        <source>How the print will look under a D58 light.</source>
+        <translation>D58 光源での印刷物の見え方です。</translation>
+    </message>
+    <message>
+        <source>How the print will look.</source>
+        <translation>印刷物の見え方です。</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>色相</translation>
+    </message>
+    <message>
+        <source>Hue R Y G C B M</source>
+        <translation>色相 R Y G C B M</translation>
+    </message>
+    <message>
+        <source>I/O Settings</source>
+        <translation>入出力設定</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>情報</translation>
+    </message>
+    <message>
+        <source>Input Signal</source>
+        <translation>入力信号</translation>
+    </message>
+    <message>
+        <source>Last requests to the monitor</source>
+        <translation>モニターへの最近の要求</translation>
+    </message>
+    <message>
+        <source>Less blue light for long days.</source>
+        <translation>長時間の作業に適したブルーライト低減です。</translation>
+    </message>
+    <message>
+        <source>Level1</source>
+        <translation>レベル 1</translation>
+    </message>
+    <message>
+        <source>Level2</source>
+        <translation>レベル 2</translation>
+    </message>
+    <message>
+        <source>Level3</source>
+        <translation>レベル 3</translation>
+    </message>
+    <message>
+        <source>Light Programme</source>
+        <translation>プログラミング(明)</translation>
+    </message>
+    <message>
+        <source>Light Sensor</source>
+        <translation>光センサー</translation>
+    </message>
+    <message>
+        <source>Localdimming</source>
+        <translation>ローカルディミング</translation>
+    </message>
+    <message>
+        <source>Lose a reply</source>
+        <translation>応答欠落</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>低</translation>
+    </message>
+    <message>
+        <source>Low Blue Light</source>
+        <translation>ブルーライト低減</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>MPCS</source>
+        <translation>MPCS</translation>
+    </message>
+    <message>
+        <source>MPCS/LD</source>
+        <translation>MPCS/LD</translation>
+    </message>
+    <message>
+        <source>MPCS/ULL FPS</source>
+        <translation>MPCS/ULL FPS</translation>
+    </message>
+    <message>
+        <source>Mac View</source>
+        <translation>Mac ビュー</translation>
+    </message>
+    <message>
+        <source>Matches notebooks with a Display P3 screen.</source>
+        <translation>Display P3 画面のノートパソコンと色を合わせます。</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>中</translation>
+    </message>
+    <message>
+        <source>Menu Lock</source>
+        <translation>メニューロック</translation>
+    </message>
+    <message>
+        <source>Minimise</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <source>Mode %1</source>
+        <translation>モード %1</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>映画</translation>
+    </message>
+    <message>
+        <source>Movie Mode</source>
+        <translation>映画モード</translation>
+    </message>
+    <message>
+        <source>Music Mode</source>
+        <translation>音楽モード</translation>
+    </message>
+    <message>
+        <source>NA</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>NTSC Video</source>
+        <translation>NTSC ビデオ</translation>
+    </message>
+    <message>
+        <source>NTSC television.</source>
+        <translation>NTSC 方式のテレビ向けです。</translation>
+    </message>
+    <message>
+        <source>Native</source>
+        <translation>ネイティブ</translation>
+    </message>
+    <message>
+        <source>Native Mode</source>
+        <translation>ネイティブモード</translation>
+    </message>
+    <message>
+        <source>Night</source>
+        <translation>夜間</translation>
+    </message>
+    <message>
+        <source>Night Loom</source>
+        <translation>Night Loom</translation>
+    </message>
+    <message>
+        <source>Night Mode</source>
+        <translation>夜間モード</translation>
+    </message>
+    <message>
+        <source>Night View C.T</source>
+        <translation>夜間色温</translation>
+    </message>
+    <message>
+        <source>Night Vision</source>
+        <translation>暗視</translation>
+    </message>
+    <message>
+        <source>No Signal Timer</source>
+        <translation>無信号タイマー</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>OSD Language</source>
+        <translation>OSD 言語</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>Office Aid</source>
+        <translation>オフィス補助</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Oled Care</source>
+        <translation>OLED ケア</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>On-screen menu</source>
+        <translation>オンスクリーンメニュー</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>Output Range</source>
+        <translation>出力レンジ</translation>
+    </message>
+    <message>
+        <source>PAL &amp; SECAM</source>
+        <translation>PAL &amp; SECAM</translation>
+    </message>
+    <message>
+        <source>PAL and SECAM television.</source>
+        <translation>PAL・SECAM 方式のテレビ向けです。</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>用紙</translation>
+    </message>
+    <message>
+        <source>Paper Mode</source>
+        <translation>ペーパーモード</translation>
+    </message>
+    <message>
+        <source>Paper_A4</source>
+        <translation>A4 用紙</translation>
+    </message>
+    <message>
+        <source>Paper_B5</source>
+        <translation>B5 用紙</translation>
+    </message>
+    <message>
+        <source>Paper_B6</source>
+        <translation>B6 用紙</translation>
+    </message>
+    <message>
+        <source>Photo(P3-D65)</source>
+        <translation>写真(P3-D65)</translation>
+    </message>
+    <message>
+        <source>Photographs at a D65 white.</source>
+        <translation>D65 白色点での写真向けです。</translation>
+    </message>
+    <message>
+        <source>Picture Enhance</source>
+        <translation>画質強化</translation>
+    </message>
+    <message>
+        <source>Plugged in</source>
+        <translation>接続済み</translation>
+    </message>
+    <message>
+        <source>Power LED</source>
+        <translation>電源ランプ</translation>
+    </message>
+    <message>
+        <source>Power Saving</source>
+        <translation>省電力</translation>
+    </message>
+    <message>
+        <source>Print Mode</source>
+        <translation>印刷モード</translation>
+    </message>
+    <message>
+        <source>Print(P3-D50)</source>
+        <translation>印刷(P3-D50)</translation>
+    </message>
+    <message>
+        <source>Proofs under a D50 light.</source>
+        <translation>D50 光源での校正刷り向けです。</translation>
+    </message>
+    <message>
+        <source>QUORVEL desk</source>
+        <translation>QUORVEL シミュレーター</translation>
+    </message>
+    <message>
+        <source>Quick Boot</source>
+        <translation>高速起動</translation>
+    </message>
+    <message>
+        <source>R</source>
+        <translation>R</translation>
+    </message>
+    <message>
+        <source>RGB Auto</source>
+        <translation>RGB 自動</translation>
+    </message>
+    <message>
+        <source>RGB Full</source>
+        <translation>RGB フル</translation>
+    </message>
+    <message>
+        <source>RGB Limit</source>
+        <translation>RGB リミット</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>読書</translation>
+    </message>
+    <message>
+        <source>Reading Mode</source>
+        <translation>読書モード</translation>
+    </message>
+    <message>
+        <source>Reading sample 0123</source>
+        <translation>読書サンプル 0123</translation>
+    </message>
+    <message>
+        <source>Rec.709</source>
+        <translation>Rec.709</translation>
+    </message>
+    <message>
+        <source>Rec.709 Mode</source>
+        <translation>Rec.709 モード</translation>
+    </message>
+    <message>
+        <source>Refuse writes</source>
+        <translation>書き込み拒否</translation>
+    </message>
+    <message>
+        <source>Requests</source>
+        <translation>要求</translation>
+    </message>
+    <message>
+        <source>Round</source>
+        <translation>円形</translation>
+    </message>
+    <message>
+        <source>Ruler</source>
+        <translation>定規</translation>
+    </message>
+    <message>
+        <source>SMPTE-C</source>
+        <translation>SMPTE-C</translation>
+    </message>
+    <message>
+        <source>SMPTE-C Mode</source>
+        <translation>SMPTE-C モード</translation>
+    </message>
+    <message>
+        <source>Saturation R Y G C B M</source>
+        <translation>彩度 R Y G C B M</translation>
+    </message>
+    <message>
+        <source>Scence Follow</source>
+        <translation>シーン連動</translation>
+    </message>
+    <message>
+        <source>Scene</source>
+        <translation>シーン</translation>
+    </message>
+    <message>
+        <source>Scene mode</source>
+        <translation>シーンモード</translation>
+    </message>
+    <message>
+        <source>Screen of the simulated monitor</source>
+        <translation>シミュレートされたモニターの画面</translation>
+    </message>
+    <message>
+        <source>Service Settings</source>
+        <translation>サービス設定</translation>
+    </message>
+    <message>
+        <source>Sharp motion with local dimming.</source>
+        <translation>ローカルディミングとくっきりした動きを両立します。</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>シャープネス</translation>
+    </message>
+    <message>
+        <source>Shortcut Key</source>
+        <translation>ショートカットキー</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>表示</translation>
+    </message>
+    <message>
+        <source>Show Time(s)</source>
+        <translation>表示時間(秒)</translation>
+    </message>
+    <message>
+        <source>Simulated monitor</source>
+        <translation>シミュレートされたモニター</translation>
+    </message>
+    <message>
+        <source>Slow</source>
+        <translation>低速</translation>
+    </message>
+    <message>
+        <source>Smooth</source>
+        <translation>なめらか</translation>
+    </message>
+    <message>
+        <source>Softproof</source>
+        <translation>Softproof</translation>
+    </message>
+    <message>
+        <source>Softproof(D55)</source>
+        <translation>Softproof(D55)</translation>
+    </message>
+    <message>
+        <source>Softproof(D58)</source>
+        <translation>Softproof(D58)</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>Standard Mode</source>
+        <translation>標準モード</translation>
+    </message>
+    <message>
+        <source>Strong</source>
+        <translation>強</translation>
+    </message>
+    <message>
+        <source>Super Resolution</source>
+        <translation>超解像</translation>
+    </message>
+    <message>
+        <source>System Settings</source>
+        <translation>システム設定</translation>
+    </message>
+    <message>
+        <source>Text Mode</source>
+        <translation>テキストモード</translation>
+    </message>
+    <message>
+        <source>The answer to the next read never arrives</source>
+        <translation>次の読み取りの応答が届きません</translation>
+    </message>
+    <message>
+        <source>The cable is pulled out until the button is released</source>
+        <translation>ボタンを戻すまでケーブルを抜いた状態にします</translation>
+    </message>
+    <message>
+        <source>The colours of the cinema.</source>
+        <translation>映画館の色です。</translation>
+    </message>
+    <message>
+        <source>The grey scale of medical pictures.</source>
+        <translation>医用画像のグレースケールです。</translation>
+    </message>
+    <message>
+        <source>The hotkey you set is occupied,please reset it again!</source>
+        <translation>設定したショートカットキーは既に使用されています。設定し直してください。</translation>
+    </message>
+    <message>
+        <source>The maker&apos;s own tuning.</source>
+        <translation>メーカー独自のチューニングです。</translation>
+    </message>
+    <message>
+        <source>The monitor answers nothing until the button is released</source>
+        <translation>ボタンを戻すまでモニターは応答しません</translation>
+    </message>
+    <message>
+        <source>The monitor takes no value until the button is released</source>
+        <translation>ボタンを戻すまでモニターは値を受け付けません</translation>
+    </message>
+    <message>
+        <source>The picture as the factory set it.</source>
+        <translation>工場出荷時の画質です。</translation>
+    </message>
+    <message>
+        <source>The selected display is unsupported or the signal line is disconnected.</source>
+        <translation>選択したディスプレイは対応していないか、信号ケーブルが接続されていません。</translation>
+    </message>
+    <message>
+        <source>The sharpest motion for shooters.</source>
+        <translation>シューティングゲームに適した最もくっきりした動きです。</translation>
+    </message>
+    <message>
+        <source>The simulated monitor that is shown here</source>
+        <translation>ここに表示するモニター</translation>
+    </message>
+    <message>
+        <source>The standard of the web.</source>
+        <translation>ウェブの標準色です。</translation>
+    </message>
+    <message>
+        <source>The white of printed paper.</source>
+        <translation>印刷用紙の白です。</translation>
+    </message>
+    <message>
+        <source>This monitor has nothing to set here.</source>
+        <translation>このモニターにはここで設定できる項目がありません。</translation>
+    </message>
+    <message>
+        <source>Time, read or write, code, value and what became of it</source>
+        <translation>時刻、読み書きの別、コード、値、結果</translation>
+    </message>
+    <message>
+        <source>Tool Settings</source>
+        <translation>ツール設定</translation>
+    </message>
+    <message>
+        <source>Topspeed</source>
+        <translation>最速</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>透明度</translation>
+    </message>
+    <message>
+        <source>Triangle</source>
+        <translation>三角形</translation>
+    </message>
+    <message>
+        <source>Trichotomy</source>
+        <translation>三分割</translation>
+    </message>
+    <message>
+        <source>True colours for design work.</source>
+        <translation>デザイン作業に適した忠実な色です。</translation>
+    </message>
+    <message>
+        <source>Type-B</source>
+        <translation>Type-B</translation>
+    </message>
+    <message>
+        <source>Type-C</source>
+        <translation>Type-C</translation>
+    </message>
+    <message>
+        <source>USB Power</source>
+        <translation>USB 給電</translation>
+    </message>
+    <message>
+        <source>USB Switch</source>
+        <translation>USB 切替</translation>
+    </message>
+    <message>
+        <source>Ull-Level1</source>
+        <translation>Ull-レベル 1</translation>
+    </message>
+    <message>
+        <source>Ull-Level2</source>
+        <translation>Ull-レベル 2</translation>
+    </message>
+    <message>
+        <source>Ull-Level3</source>
+        <translation>Ull-レベル 3</translation>
+    </message>
+    <message>
+        <source>Unplug</source>
+        <translation>ケーブルを抜く</translation>
+    </message>
+    <message>
+        <source>Unplugged</source>
+        <translation>未接続</translation>
+    </message>
+    <message>
+        <source>User1</source>
+        <translation>ユーザー 1</translation>
+    </message>
+    <message>
+        <source>User1 R G B</source>
+        <translation>ユーザー 1 R G B</translation>
+    </message>
+    <message>
+        <source>User2</source>
+        <translation>ユーザー 2</translation>
+    </message>
+    <message>
+        <source>User2 R G B</source>
+        <translation>ユーザー 2 R G B</translation>
+    </message>
+    <message>
+        <source>User3</source>
+        <translation>ユーザー 3</translation>
+    </message>
+    <message>
+        <source>User3 R G B</source>
+        <translation>ユーザー 3 R G B</translation>
+    </message>
+    <message>
+        <source>UserB</source>
+        <translation>ユーザー B</translation>
+    </message>
+    <message>
+        <source>UserG</source>
+        <translation>ユーザー G</translation>
+    </message>
+    <message>
+        <source>UserR</source>
+        <translation>ユーザー R</translation>
+    </message>
+    <message>
+        <source>V-Position</source>
+        <translation>垂直位置</translation>
+    </message>
+    <message>
+        <source>Vivid colours for animation.</source>
+        <translation>アニメに適した鮮やかな色です。</translation>
+    </message>
+    <message>
+        <source>Web(sRGB)</source>
+        <translation>ウェブ(sRGB)</translation>
+    </message>
+    <message>
+        <source>What most visitors of a page see.</source>
+        <translation>多くの閲覧者が目にする色です。</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Your own picture. Changes are sent to the monitor as you make them.</source>
+        <translation>お好みの画質です。変更はすぐモニターに送信されます。</translation>
+    </message>
+    <message>
+        <source>Zelmar</source>
+        <translation>Zelmar</translation>
+    </message>
+    <message>
+        <source>Zelmar Mode</source>
+        <translation>Zelmar モード</translation>
+    </message>
+    <message>
+        <source>adjusted</source>
+        <translation>調整済み</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>接続済み</translation>
+    </message>
+    <message>
+        <source>deaf</source>
+        <translation>応答停止</translation>
+    </message>
+    <message>
+        <source>garbled</source>
+        <translation>データ破損</translation>
+    </message>
+    <message>
+        <source>lost</source>
+        <translation>消失</translation>
+    </message>
+    <message>
+        <source>no answer</source>
+        <translation>応答なし</translation>
+    </message>
+    <message>
+        <source>no monitor</source>
+        <translation>モニターなし</translation>
+    </message>
+    <message>
+        <source>ok</source>
+        <translation>成功</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>拒否</translation>
+    </message>
+    <message>
+        <source>sRGB</source>
+        <translation>sRGB</translation>
+    </message>
+    <message>
+        <source>sRGB Mode</source>
+        <translation>sRGB モード</translation>
+    </message>
+    <message>
+        <source>sRGB primaries with gamma 2.2.</source>
+        <translation>sRGB の三原色、ガンマ 2.2 です。</translation>
+    </message>
+    <message>
+        <source>sRGB(2.2)</source>
+        <translation>sRGB(2.2)</translation>
+    </message>
+    <message>
+        <source>sRGB(2.2) Mode</source>
+        <translation>sRGB(2.2) モード</translation>
+    </message>
+    <message>
+        <source>unexpected</source>
+        <translation>想定外</translation>
+    </message>
+    <message>
+        <source>unplugged</source>
+        <translation>未接続</translation>
+    </message>
+</context>
+</TS>

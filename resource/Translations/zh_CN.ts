@@ -1,0 +1,1243 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>QObject</name>
+    <message>
+        <source>        Custom</source>
+        <translation>        自定义</translation>
+    </message>
+    <message>
+        <source>        Default</source>
+        <translation>        默认</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>%1 · protocol faults: %2 · open handles: %3</source>
+        <translation>%1 · 协议错误：%2 · 打开的句柄：%3</translation>
+    </message>
+    <message>
+        <source>1 Hour</source>
+        <translation>1 小时</translation>
+    </message>
+    <message>
+        <source>1.5 Hour</source>
+        <translation>1.5 小时</translation>
+    </message>
+    <message>
+        <source>1.6</source>
+        <translation>1.6</translation>
+    </message>
+    <message>
+        <source>1.8</source>
+        <translation>1.8</translation>
+    </message>
+    <message>
+        <source>2 Hour</source>
+        <translation>2 小时</translation>
+    </message>
+    <message>
+        <source>2.0</source>
+        <translation>2.0</translation>
+    </message>
+    <message>
+        <source>2.2</source>
+        <translation>2.2</translation>
+    </message>
+    <message>
+        <source>2.4</source>
+        <translation>2.4</translation>
+    </message>
+    <message>
+        <source>2.5 Hour</source>
+        <translation>2.5 小时</translation>
+    </message>
+    <message>
+        <source>2.6</source>
+        <translation>2.6</translation>
+    </message>
+    <message>
+        <source>3 Hour</source>
+        <translation>3 小时</translation>
+    </message>
+    <message>
+        <source>3.5 Hour</source>
+        <translation>3.5 小时</translation>
+    </message>
+    <message>
+        <source>30s</source>
+        <translation>30 秒</translation>
+    </message>
+    <message>
+        <source>4 Hour</source>
+        <translation>4 小时</translation>
+    </message>
+    <message>
+        <source>5.4G</source>
+        <translation>5.4G</translation>
+    </message>
+    <message>
+        <source>5000K</source>
+        <translation>5000K</translation>
+    </message>
+    <message>
+        <source>5500K</source>
+        <translation>5500K</translation>
+    </message>
+    <message>
+        <source>6300K</source>
+        <translation>6300K</translation>
+    </message>
+    <message>
+        <source>6500K</source>
+        <translation>6500K</translation>
+    </message>
+    <message>
+        <source>7000K</source>
+        <translation>7000K</translation>
+    </message>
+    <message>
+        <source>7500K</source>
+        <translation>7500K</translation>
+    </message>
+    <message>
+        <source>8.1G</source>
+        <translation>8.1G</translation>
+    </message>
+    <message>
+        <source>9300K</source>
+        <translation>9300K</translation>
+    </message>
+    <message>
+        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
+        <translation>&lt;font color=white&gt;正在获取显示设备信息...&lt;/font&gt;</translation>
+    </message>
+    <message>
+        <source>A balanced picture for every day.</source>
+        <translation>均衡的画面，适合日常使用。</translation>
+    </message>
+    <message>
+        <source>A dim picture for dark rooms.</source>
+        <translation>较暗的画面，适合昏暗的房间。</translation>
+    </message>
+    <message>
+        <source>A soft page for long texts.</source>
+        <translation>柔和的页面，适合长时间阅读。</translation>
+    </message>
+    <message>
+        <source>A wide gamut for photographs.</source>
+        <translation>适合摄影作品的广色域。</translation>
+    </message>
+    <message>
+        <source>A wide gamut under a D50 light.</source>
+        <translation>D50 光源下的广色域。</translation>
+    </message>
+    <message>
+        <source>AI Dual Mode</source>
+        <translation>AI 双模式</translation>
+    </message>
+    <message>
+        <source>Adaptive-Sync</source>
+        <translation>Adaptive-Sync</translation>
+    </message>
+    <message>
+        <source>Adobe</source>
+        <translation>Adobe</translation>
+    </message>
+    <message>
+        <source>Adobe Mode</source>
+        <translation>Adobe 模式</translation>
+    </message>
+    <message>
+        <source>AdobeRGB</source>
+        <translation>AdobeRGB</translation>
+    </message>
+    <message>
+        <source>AdobeRGB(D50)</source>
+        <translation>AdobeRGB(D50)</translation>
+    </message>
+    <message>
+        <source>Alignment</source>
+        <translation>对齐</translation>
+    </message>
+    <message>
+        <source>Alignment Aid</source>
+        <translation>对齐辅助</translation>
+    </message>
+    <message>
+        <source>Alignment_4</source>
+        <translation>对齐 4</translation>
+    </message>
+    <message>
+        <source>Alignment_6</source>
+        <translation>对齐 6</translation>
+    </message>
+    <message>
+        <source>Alignment_9</source>
+        <translation>对齐 9</translation>
+    </message>
+    <message>
+        <source>American broadcasting primaries.</source>
+        <translation>美国广播标准的三原色。</translation>
+    </message>
+    <message>
+        <source>Angle Ruler</source>
+        <translation>角度尺</translation>
+    </message>
+    <message>
+        <source>Animate</source>
+        <translation>动画</translation>
+    </message>
+    <message>
+        <source>Animate Mode</source>
+        <translation>动画模式</translation>
+    </message>
+    <message>
+        <source>Application is already running</source>
+        <translation>程序已在运行</translation>
+    </message>
+    <message>
+        <source>Art Design</source>
+        <translation>艺术设计</translation>
+    </message>
+    <message>
+        <source>Art Design Mode</source>
+        <translation>艺术设计模式</translation>
+    </message>
+    <message>
+        <source>Audio Mode</source>
+        <translation>音频模式</translation>
+    </message>
+    <message>
+        <source>Audio Mute</source>
+        <translation>静音</translation>
+    </message>
+    <message>
+        <source>Audio Volume</source>
+        <translation>音量</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>Auto-L1</source>
+        <translation>自动-L1</translation>
+    </message>
+    <message>
+        <source>Auto-L2</source>
+        <translation>自动-L2</translation>
+    </message>
+    <message>
+        <source>B</source>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>Background running</source>
+        <translation>正在后台运行</translation>
+    </message>
+    <message>
+        <source>Basic</source>
+        <translation>基本设置</translation>
+    </message>
+    <message>
+        <source>Black Level</source>
+        <translation>黑电平</translation>
+    </message>
+    <message>
+        <source>Black and white, like paper.</source>
+        <translation>黑白显示，如同纸张。</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>亮度</translation>
+    </message>
+    <message>
+        <source>C</source>
+        <translation>C</translation>
+    </message>
+    <message>
+        <source>CAD/CAM</source>
+        <translation>CAD/CAM</translation>
+    </message>
+    <message>
+        <source>CAD/CAM Mode</source>
+        <translation>CAD/CAM 模式</translation>
+    </message>
+    <message>
+        <source>CEC</source>
+        <translation>CEC</translation>
+    </message>
+    <message>
+        <source>CR Enhance</source>
+        <translation>对比度增强</translation>
+    </message>
+    <message>
+        <source>Care Content</source>
+        <translation>护理内容</translation>
+    </message>
+    <message>
+        <source>Choose Custom to make it your own.</source>
+        <translation>选择“自定义”即可按喜好调整。</translation>
+    </message>
+    <message>
+        <source>Cinema colours at a D65 white.</source>
+        <translation>D65 白点下的影院色彩。</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Close window</source>
+        <translation>关闭窗口</translation>
+    </message>
+    <message>
+        <source>Color Enchance</source>
+        <translation>色彩增强</translation>
+    </message>
+    <message>
+        <source>Color Saturation</source>
+        <translation>色彩饱和度</translation>
+    </message>
+    <message>
+        <source>Color Space</source>
+        <translation>色彩空间</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>色温</translation>
+    </message>
+    <message>
+        <source>Composition</source>
+        <translation>构图</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>对比度</translation>
+    </message>
+    <message>
+        <source>Convo</source>
+        <translation>对话</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>自定义</translation>
+    </message>
+    <message>
+        <source>Custom Mode</source>
+        <translation>自定义模式</translation>
+    </message>
+    <message>
+        <source>Custom Size</source>
+        <translation>自定义尺寸</translation>
+    </message>
+    <message>
+        <source>DCI-P3</source>
+        <translation>DCI-P3</translation>
+    </message>
+    <message>
+        <source>DCI-P3 Mode</source>
+        <translation>DCI-P3 模式</translation>
+    </message>
+    <message>
+        <source>DCI-P3(D65)</source>
+        <translation>DCI-P3(D65)</translation>
+    </message>
+    <message>
+        <source>DICOM</source>
+        <translation>DICOM</translation>
+    </message>
+    <message>
+        <source>DICOM Mode</source>
+        <translation>DICOM 模式</translation>
+    </message>
+    <message>
+        <source>DP Alt Mode</source>
+        <translation>DP Alt 模式</translation>
+    </message>
+    <message>
+        <source>DP/Type-C</source>
+        <translation>DP/Type-C</translation>
+    </message>
+    <message>
+        <source>DP1</source>
+        <translation>DP1</translation>
+    </message>
+    <message>
+        <source>DP2</source>
+        <translation>DP2</translation>
+    </message>
+    <message>
+        <source>Dark Programme</source>
+        <translation>深色编程</translation>
+    </message>
+    <message>
+        <source>Deep contrast for films.</source>
+        <translation>深邃对比，适合观看电影。</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>默认</translation>
+    </message>
+    <message>
+        <source>Display P3</source>
+        <translation>Display P3</translation>
+    </message>
+    <message>
+        <source>Display P3 Mode</source>
+        <translation>Display P3 模式</translation>
+    </message>
+    <message>
+        <source>Drop a chunk</source>
+        <translation>丢失数据块</translation>
+    </message>
+    <message>
+        <source>DyDs TECH</source>
+        <translation>DyDs TECH</translation>
+    </message>
+    <message>
+        <source>E-Book</source>
+        <translation>电子书</translation>
+    </message>
+    <message>
+        <source>E-Book Mode</source>
+        <translation>电子书模式</translation>
+    </message>
+    <message>
+        <source>EBU</source>
+        <translation>EBU</translation>
+    </message>
+    <message>
+        <source>EBU Mode</source>
+        <translation>EBU 模式</translation>
+    </message>
+    <message>
+        <source>Emberline</source>
+        <translation>Emberline</translation>
+    </message>
+    <message>
+        <source>European broadcasting primaries.</source>
+        <translation>欧洲广播标准的三原色。</translation>
+    </message>
+    <message>
+        <source>Every request takes 400 ms longer</source>
+        <translation>每个请求多花 400 毫秒</translation>
+    </message>
+    <message>
+        <source>Everything that the panel can show.</source>
+        <translation>面板所能显示的全部色彩。</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>退出</translation>
+    </message>
+    <message>
+        <source>Eye Care</source>
+        <translation>护眼</translation>
+    </message>
+    <message>
+        <source>Eye Care Mode</source>
+        <translation>护眼模式</translation>
+    </message>
+    <message>
+        <source>Eyeshield Remind</source>
+        <translation>护眼提醒</translation>
+    </message>
+    <message>
+        <source>Fine lines and clear edges for drawings.</source>
+        <translation>线条精细、边缘清晰，适合制图。</translation>
+    </message>
+    <message>
+        <source>For code on a dark ground.</source>
+        <translation>适合深色背景的代码。</translation>
+    </message>
+    <message>
+        <source>For code on a light ground.</source>
+        <translation>适合浅色背景的代码。</translation>
+    </message>
+    <message>
+        <source>Four bytes of the next scene-mode block get lost</source>
+        <translation>下一个情景模式数据块将丢失四个字节</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>边框</translation>
+    </message>
+    <message>
+        <source>G</source>
+        <translation>G</translation>
+    </message>
+    <message>
+        <source>Gama</source>
+        <translation>伽马</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>游戏</translation>
+    </message>
+    <message>
+        <source>Game Aid</source>
+        <translation>游戏辅助</translation>
+    </message>
+    <message>
+        <source>Game Rush</source>
+        <translation>游戏冲刺</translation>
+    </message>
+    <message>
+        <source>Game VS</source>
+        <translation>游戏对战</translation>
+    </message>
+    <message>
+        <source>Go deaf</source>
+        <translation>不再应答</translation>
+    </message>
+    <message>
+        <source>Golden Section</source>
+        <translation>黄金分割</translation>
+    </message>
+    <message>
+        <source>Gravity Sensor</source>
+        <translation>重力感应</translation>
+    </message>
+    <message>
+        <source>Gray Response</source>
+        <translation>灰阶响应</translation>
+    </message>
+    <message>
+        <source>H-Position</source>
+        <translation>水平位置</translation>
+    </message>
+    <message>
+        <source>HDMI1</source>
+        <translation>HDMI1</translation>
+    </message>
+    <message>
+        <source>HDMI2</source>
+        <translation>HDMI2</translation>
+    </message>
+    <message>
+        <source>HDR</source>
+        <translation>HDR</translation>
+    </message>
+    <message>
+        <source>HDTV Video</source>
+        <translation>HDTV 视频</translation>
+    </message>
+    <message>
+        <source>Halo Control</source>
+        <translation>光晕控制</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>高</translation>
+    </message>
+    <message>
+        <source>High-definition television.</source>
+        <translation>高清电视。</translation>
+    </message>
+    <message>
+        <source>High-definition video work.</source>
+        <translation>高清视频制作。</translation>
+    </message>
+    <message>
+        <source>Hotkey conflict</source>
+        <translation>快捷键冲突</translation>
+    </message>
+    <message>
+        <source>How the print will look under a D55 light.</source>
+        <translation>印刷品在 D55 光源下的效果。</translation>
+    </message>
+    <message>
+        <source>How the print will look under a D58 light.</source>
+        <translation>印刷品在 D58 光源下的效果。</translation>
+    </message>
+    <message>
+        <source>How the print will look.</source>
+        <translation>印刷品的最终效果。</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>色相</translation>
+    </message>
+    <message>
+        <source>Hue R Y G C B M</source>
+        <translation>色相 R Y G C B M</translation>
+    </message>
+    <message>
+        <source>I/O Settings</source>
+        <translation>I/O 设置</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>Input Signal</source>
+        <translation>输入信号</translation>
+    </message>
+    <message>
+        <source>Last requests to the monitor</source>
+        <translation>最近发给显示器的请求</translation>
+    </message>
+    <message>
+        <source>Less blue light for long days.</source>
+        <translation>减少蓝光，适合长时间工作。</translation>
+    </message>
+    <message>
+        <source>Level1</source>
+        <translation>等级 1</translation>
+    </message>
+    <message>
+        <source>Level2</source>
+        <translation>等级 2</translation>
+    </message>
+    <message>
+        <source>Level3</source>
+        <translation>等级 3</translation>
+    </message>
+    <message>
+        <source>Light Programme</source>
+        <translation>浅色编程</translation>
+    </message>
+    <message>
+        <source>Light Sensor</source>
+        <translation>光线感应</translation>
+    </message>
+    <message>
+        <source>Localdimming</source>
+        <translation>区域调光</translation>
+    </message>
+    <message>
+        <source>Lose a reply</source>
+        <translation>丢失应答</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>低</translation>
+    </message>
+    <message>
+        <source>Low Blue Light</source>
+        <translation>低蓝光</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>MPCS</source>
+        <translation>MPCS</translation>
+    </message>
+    <message>
+        <source>MPCS/LD</source>
+        <translation>MPCS/LD</translation>
+    </message>
+    <message>
+        <source>MPCS/ULL FPS</source>
+        <translation>MPCS/ULL FPS</translation>
+    </message>
+    <message>
+        <source>Mac View</source>
+        <translation>Mac 视图</translation>
+    </message>
+    <message>
+        <source>Matches notebooks with a Display P3 screen.</source>
+        <translation>与配备 Display P3 屏幕的笔记本电脑一致。</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>中</translation>
+    </message>
+    <message>
+        <source>Menu Lock</source>
+        <translation>菜单锁定</translation>
+    </message>
+    <message>
+        <source>Minimise</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <source>Mode %1</source>
+        <translation>模式 %1</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>电影</translation>
+    </message>
+    <message>
+        <source>Movie Mode</source>
+        <translation>电影模式</translation>
+    </message>
+    <message>
+        <source>Music Mode</source>
+        <translation>音乐模式</translation>
+    </message>
+    <message>
+        <source>NA</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>NTSC Video</source>
+        <translation>NTSC 视频</translation>
+    </message>
+    <message>
+        <source>NTSC television.</source>
+        <translation>NTSC 制式电视。</translation>
+    </message>
+    <message>
+        <source>Native</source>
+        <translation>原生</translation>
+    </message>
+    <message>
+        <source>Native Mode</source>
+        <translation>原生模式</translation>
+    </message>
+    <message>
+        <source>Night</source>
+        <translation>夜间</translation>
+    </message>
+    <message>
+        <source>Night Loom</source>
+        <translation>夜织</translation>
+    </message>
+    <message>
+        <source>Night Mode</source>
+        <translation>夜间模式</translation>
+    </message>
+    <message>
+        <source>Night View C.T</source>
+        <translation>夜间色温</translation>
+    </message>
+    <message>
+        <source>Night Vision</source>
+        <translation>夜视</translation>
+    </message>
+    <message>
+        <source>No Signal Timer</source>
+        <translation>无信号定时</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>OSD Language</source>
+        <translation>OSD 语言</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>关</translation>
+    </message>
+    <message>
+        <source>Office Aid</source>
+        <translation>办公辅助</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Oled Care</source>
+        <translation>OLED 护理</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>开</translation>
+    </message>
+    <message>
+        <source>On-screen menu</source>
+        <translation>屏幕菜单</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>开启</translation>
+    </message>
+    <message>
+        <source>Output Range</source>
+        <translation>输出范围</translation>
+    </message>
+    <message>
+        <source>PAL &amp; SECAM</source>
+        <translation>PAL &amp; SECAM</translation>
+    </message>
+    <message>
+        <source>PAL and SECAM television.</source>
+        <translation>PAL 和 SECAM 制式电视。</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>纸张</translation>
+    </message>
+    <message>
+        <source>Paper Mode</source>
+        <translation>纸张模式</translation>
+    </message>
+    <message>
+        <source>Paper_A4</source>
+        <translation>A4 纸</translation>
+    </message>
+    <message>
+        <source>Paper_B5</source>
+        <translation>B5 纸</translation>
+    </message>
+    <message>
+        <source>Paper_B6</source>
+        <translation>B6 纸</translation>
+    </message>
+    <message>
+        <source>Photo(P3-D65)</source>
+        <translation>照片(P3-D65)</translation>
+    </message>
+    <message>
+        <source>Photographs at a D65 white.</source>
+        <translation>D65 白点下的照片。</translation>
+    </message>
+    <message>
+        <source>Picture Enhance</source>
+        <translation>画质增强</translation>
+    </message>
+    <message>
+        <source>Plugged in</source>
+        <translation>已连接</translation>
+    </message>
+    <message>
+        <source>Power LED</source>
+        <translation>电源指示灯</translation>
+    </message>
+    <message>
+        <source>Power Saving</source>
+        <translation>节能</translation>
+    </message>
+    <message>
+        <source>Print Mode</source>
+        <translation>印刷模式</translation>
+    </message>
+    <message>
+        <source>Print(P3-D50)</source>
+        <translation>印刷(P3-D50)</translation>
+    </message>
+    <message>
+        <source>Proofs under a D50 light.</source>
+        <translation>D50 光源下的打样。</translation>
+    </message>
+    <message>
+        <source>QUORVEL desk</source>
+        <translation>QUORVEL 模拟台</translation>
+    </message>
+    <message>
+        <source>Quick Boot</source>
+        <translation>快速启动</translation>
+    </message>
+    <message>
+        <source>R</source>
+        <translation>R</translation>
+    </message>
+    <message>
+        <source>RGB Auto</source>
+        <translation>RGB 自动</translation>
+    </message>
+    <message>
+        <source>RGB Full</source>
+        <translation>RGB 全范围</translation>
+    </message>
+    <message>
+        <source>RGB Limit</source>
+        <translation>RGB 有限</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>阅读</translation>
+    </message>
+    <message>
+        <source>Reading Mode</source>
+        <translation>阅读模式</translation>
+    </message>
+    <message>
+        <source>Reading sample 0123</source>
+        <translation>阅读示例 0123</translation>
+    </message>
+    <message>
+        <source>Rec.709</source>
+        <translation>Rec.709</translation>
+    </message>
+    <message>
+        <source>Rec.709 Mode</source>
+        <translation>Rec.709 模式</translation>
+    </message>
+    <message>
+        <source>Refuse writes</source>
+        <translation>拒绝写入</translation>
+    </message>
+    <message>
+        <source>Requests</source>
+        <translation>请求</translation>
+    </message>
+    <message>
+        <source>Round</source>
+        <translation>圆形</translation>
+    </message>
+    <message>
+        <source>Ruler</source>
+        <translation>标尺</translation>
+    </message>
+    <message>
+        <source>SMPTE-C</source>
+        <translation>SMPTE-C</translation>
+    </message>
+    <message>
+        <source>SMPTE-C Mode</source>
+        <translation>SMPTE-C 模式</translation>
+    </message>
+    <message>
+        <source>Saturation R Y G C B M</source>
+        <translation>饱和度 R Y G C B M</translation>
+    </message>
+    <message>
+        <source>Scence Follow</source>
+        <translation>情景跟随</translation>
+    </message>
+    <message>
+        <source>Scene</source>
+        <translation>情景模式</translation>
+    </message>
+    <message>
+        <source>Scene mode</source>
+        <translation>情景模式</translation>
+    </message>
+    <message>
+        <source>Screen of the simulated monitor</source>
+        <translation>模拟显示器的屏幕</translation>
+    </message>
+    <message>
+        <source>Service Settings</source>
+        <translation>服务设置</translation>
+    </message>
+    <message>
+        <source>Sharp motion with local dimming.</source>
+        <translation>动态清晰，并支持区域调光。</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>锐度</translation>
+    </message>
+    <message>
+        <source>Shortcut Key</source>
+        <translation>快捷键</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>显示</translation>
+    </message>
+    <message>
+        <source>Show Time(s)</source>
+        <translation>显示时间(秒)</translation>
+    </message>
+    <message>
+        <source>Simulated monitor</source>
+        <translation>模拟显示器</translation>
+    </message>
+    <message>
+        <source>Slow</source>
+        <translation>迟缓</translation>
+    </message>
+    <message>
+        <source>Smooth</source>
+        <translation>平滑</translation>
+    </message>
+    <message>
+        <source>Softproof</source>
+        <translation>Softproof</translation>
+    </message>
+    <message>
+        <source>Softproof(D55)</source>
+        <translation>Softproof(D55)</translation>
+    </message>
+    <message>
+        <source>Softproof(D58)</source>
+        <translation>Softproof(D58)</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>标准</translation>
+    </message>
+    <message>
+        <source>Standard Mode</source>
+        <translation>标准模式</translation>
+    </message>
+    <message>
+        <source>Strong</source>
+        <translation>强</translation>
+    </message>
+    <message>
+        <source>Super Resolution</source>
+        <translation>超分辨率</translation>
+    </message>
+    <message>
+        <source>System Settings</source>
+        <translation>系统设置</translation>
+    </message>
+    <message>
+        <source>Text Mode</source>
+        <translation>文字模式</translation>
+    </message>
+    <message>
+        <source>The answer to the next read never arrives</source>
+        <translation>下一次读取收不到应答</translation>
+    </message>
+    <message>
+        <source>The cable is pulled out until the button is released</source>
+        <translation>线缆保持拔出，直到松开按钮</translation>
+    </message>
+    <message>
+        <source>The colours of the cinema.</source>
+        <translation>影院的色彩。</translation>
+    </message>
+    <message>
+        <source>The grey scale of medical pictures.</source>
+        <translation>医学影像的灰阶。</translation>
+    </message>
+    <message>
+        <source>The hotkey you set is occupied,please reset it again!</source>
+        <translation>您设置的快捷键已被占用，请重新设置！</translation>
+    </message>
+    <message>
+        <source>The maker&apos;s own tuning.</source>
+        <translation>厂商专属调校。</translation>
+    </message>
+    <message>
+        <source>The monitor answers nothing until the button is released</source>
+        <translation>显示器不再应答，直到松开按钮</translation>
+    </message>
+    <message>
+        <source>The monitor takes no value until the button is released</source>
+        <translation>显示器不接受任何值，直到松开按钮</translation>
+    </message>
+    <message>
+        <source>The picture as the factory set it.</source>
+        <translation>出厂设定的画面。</translation>
+    </message>
+    <message>
+        <source>The selected display is unsupported or the signal line is disconnected.</source>
+        <translation>所选显示器不受支持，或信号线未连接。</translation>
+    </message>
+    <message>
+        <source>The sharpest motion for shooters.</source>
+        <translation>最清晰的动态画面，适合射击游戏。</translation>
+    </message>
+    <message>
+        <source>The simulated monitor that is shown here</source>
+        <translation>此处显示的模拟显示器</translation>
+    </message>
+    <message>
+        <source>The standard of the web.</source>
+        <translation>网络内容的标准色彩。</translation>
+    </message>
+    <message>
+        <source>The white of printed paper.</source>
+        <translation>印刷纸张的白色。</translation>
+    </message>
+    <message>
+        <source>This monitor has nothing to set here.</source>
+        <translation>此显示器在这里没有可设置的项目。</translation>
+    </message>
+    <message>
+        <source>Time, read or write, code, value and what became of it</source>
+        <translation>时间、读取或写入、代码、值及结果</translation>
+    </message>
+    <message>
+        <source>Tool Settings</source>
+        <translation>工具设置</translation>
+    </message>
+    <message>
+        <source>Topspeed</source>
+        <translation>极速</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>透明度</translation>
+    </message>
+    <message>
+        <source>Triangle</source>
+        <translation>三角形</translation>
+    </message>
+    <message>
+        <source>Trichotomy</source>
+        <translation>三分法</translation>
+    </message>
+    <message>
+        <source>True colours for design work.</source>
+        <translation>色彩真实，适合设计工作。</translation>
+    </message>
+    <message>
+        <source>Type-B</source>
+        <translation>Type-B</translation>
+    </message>
+    <message>
+        <source>Type-C</source>
+        <translation>Type-C</translation>
+    </message>
+    <message>
+        <source>USB Power</source>
+        <translation>USB 供电</translation>
+    </message>
+    <message>
+        <source>USB Switch</source>
+        <translation>USB 切换</translation>
+    </message>
+    <message>
+        <source>Ull-Level1</source>
+        <translation>Ull-等级 1</translation>
+    </message>
+    <message>
+        <source>Ull-Level2</source>
+        <translation>Ull-等级 2</translation>
+    </message>
+    <message>
+        <source>Ull-Level3</source>
+        <translation>Ull-等级 3</translation>
+    </message>
+    <message>
+        <source>Unplug</source>
+        <translation>拔出线缆</translation>
+    </message>
+    <message>
+        <source>Unplugged</source>
+        <translation>已拔出</translation>
+    </message>
+    <message>
+        <source>User1</source>
+        <translation>用户 1</translation>
+    </message>
+    <message>
+        <source>User1 R G B</source>
+        <translation>用户 1 R G B</translation>
+    </message>
+    <message>
+        <source>User2</source>
+        <translation>用户 2</translation>
+    </message>
+    <message>
+        <source>User2 R G B</source>
+        <translation>用户 2 R G B</translation>
+    </message>
+    <message>
+        <source>User3</source>
+        <translation>用户 3</translation>
+    </message>
+    <message>
+        <source>User3 R G B</source>
+        <translation>用户 3 R G B</translation>
+    </message>
+    <message>
+        <source>UserB</source>
+        <translation>用户 B</translation>
+    </message>
+    <message>
+        <source>UserG</source>
+        <translation>用户 G</translation>
+    </message>
+    <message>
+        <source>UserR</source>
+        <translation>用户 R</translation>
+    </message>
+    <message>
+        <source>V-Position</source>
+        <translation>垂直位置</translation>
+    </message>
+    <message>
+        <source>Vivid colours for animation.</source>
+        <translation>色彩鲜艳，适合动画。</translation>
+    </message>
+    <message>
+        <source>Web(sRGB)</source>
+        <translation>网页(sRGB)</translation>
+    </message>
+    <message>
+        <source>What most visitors of a page see.</source>
+        <translation>大多数网页访客看到的色彩。</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Your own picture. Changes are sent to the monitor as you make them.</source>
+        <translation>您的自定义画面，更改会即时发送到显示器。</translation>
+    </message>
+    <message>
+        <source>Zelmar</source>
+        <translation>Zelmar</translation>
+    </message>
+    <message>
+        <source>Zelmar Mode</source>
+        <translation>Zelmar 模式</translation>
+    </message>
+    <message>
+        <source>adjusted</source>
+        <translation>已调整</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>已连接</translation>
+    </message>
+    <message>
+        <source>deaf</source>
+        <translation>无应答</translation>
+    </message>
+    <message>
+        <source>garbled</source>
+        <translation>数据错乱</translation>
+    </message>
+    <message>
+        <source>lost</source>
+        <translation>已丢失</translation>
+    </message>
+    <message>
+        <source>no answer</source>
+        <translation>无应答</translation>
+    </message>
+    <message>
+        <source>no monitor</source>
+        <translation>无显示器</translation>
+    </message>
+    <message>
+        <source>ok</source>
+        <translation>成功</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>已拒绝</translation>
+    </message>
+    <message>
+        <source>sRGB</source>
+        <translation>sRGB</translation>
+    </message>
+    <message>
+        <source>sRGB Mode</source>
+        <translation>sRGB 模式</translation>
+    </message>
+    <message>
+        <source>sRGB primaries with gamma 2.2.</source>
+        <translation>sRGB 三原色，伽马 2.2。</translation>
+    </message>
+    <message>
+        <source>sRGB(2.2)</source>
+        <translation>sRGB(2.2)</translation>
+    </message>
+    <message>
+        <source>sRGB(2.2) Mode</source>
+        <translation>sRGB(2.2) 模式</translation>
+    </message>
+    <message>
+        <source>unexpected</source>
+        <translation>意外数据</translation>
+    </message>
+    <message>
+        <source>unplugged</source>
+        <translation>已拔出</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,1243 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_TW" sourcelanguage="en">
+<context>
+    <name>QObject</name>
+    <message>
+        <source>        Custom</source>
+        <translation>        自訂</translation>
+    </message>
+    <message>
+        <source>        Default</source>
+        <translation>        預設</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>%1 · protocol faults: %2 · open handles: %3</source>
+        <translation>%1 · 通訊協定錯誤：%2 · 開啟的控制代碼：%3</translation>
+    </message>
+    <message>
+        <source>1 Hour</source>
+        <translation>1 小時</translation>
+    </message>
+    <message>
+        <source>1.5 Hour</source>
+        <translation>1.5 小時</translation>
+    </message>
+    <message>
+        <source>1.6</source>
+        <translation>1.6</translation>
+    </message>
+    <message>
+        <source>1.8</source>
+        <translation>1.8</translation>
+    </message>
+    <message>
+        <source>2 Hour</source>
+        <translation>2 小時</translation>
+    </message>
+    <message>
+        <source>2.0</source>
+        <translation>2.0</translation>
+    </message>
+    <message>
+        <source>2.2</source>
+        <translation>2.2</translation>
+    </message>
+    <message>
+        <source>2.4</source>
+        <translation>2.4</translation>
+    </message>
+    <message>
+        <source>2.5 Hour</source>
+        <translation>2.5 小時</translation>
+    </message>
+    <message>
+        <source>2.6</source>
+        <translation>2.6</translation>
+    </message>
+    <message>
+        <source>3 Hour</source>
+        <translation>3 小時</translation>
+    </message>
+    <message>
+        <source>3.5 Hour</source>
+        <translation>3.5 小時</translation>
+    </message>
+    <message>
+        <source>30s</source>
+        <translation>30 秒</translation>
+    </message>
+    <message>
+        <source>4 Hour</source>
+        <translation>4 小時</translation>
+    </message>
+    <message>
+        <source>5.4G</source>
+        <translation>5.4G</translation>
+    </message>
+    <message>
+        <source>5000K</source>
+        <translation>5000K</translation>
+    </message>
+    <message>
+        <source>5500K</source>
+        <translation>5500K</translation>
+    </message>
+    <message>
+        <source>6300K</source>
+        <translation>6300K</translation>
+    </message>
+    <message>
+        <source>6500K</source>
+        <translation>6500K</translation>
+    </message>
+    <message>
+        <source>7000K</source>
+        <translation>7000K</translation>
+    </message>
+    <message>
+        <source>7500K</source>
+        <translation>7500K</translation>
+    </message>
+    <message>
+        <source>8.1G</source>
+        <translation>8.1G</translation>
+    </message>
+    <message>
+        <source>9300K</source>
+        <translation>9300K</translation>
+    </message>
+    <message>
+        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
+        <translation>&lt;font color=white&gt;正在取得顯示裝置資訊...&lt;/font&gt;</translation>
+    </message>
+    <message>
+        <source>A balanced picture for every day.</source>
+        <translation>均衡的畫面，適合日常使用。</translation>
+    </message>
+    <message>
+        <source>A dim picture for dark rooms.</source>
+        <translation>較暗的畫面，適合昏暗的房間。</translation>
+    </message>
+    <message>
+        <source>A soft page for long texts.</source>
+        <translation>柔和的頁面，適合長時間閱讀。</translation>
+    </message>
+    <message>
+        <source>A wide gamut for photographs.</source>
+        <translation>適合攝影作品的廣色域。</translation>
+    </message>
+    <message>
+        <source>A wide gamut under a D50 light.</source>
+        <translation>D50 光源下的廣色域。</translation>
+    </message>
+    <message>
+        <source>AI Dual Mode</source>
+        <translation>AI 雙模式</translation>
+    </message>
+    <message>
+        <source>Adaptive-Sync</source>
+        <translation>Adaptive-Sync</translation>
+    </message>
+    <message>
+        <source>Adobe</source>
+        <translation>Adobe</translation>
+    </message>
+    <message>
+        <source>Adobe Mode</source>
+        <translation>Adobe 模式</translation>
+    </message>
+    <message>
+        <source>AdobeRGB</source>
+        <translation>AdobeRGB</translation>
+    </message>
+    <message>
+        <source>AdobeRGB(D50)</source>
+        <translation>AdobeRGB(D50)</translation>
+    </message>
+    <message>
+        <source>Alignment</source>
+        <translation>對齊</translation>
+    </message>
+    <message>
+        <source>Alignment Aid</source>
+        <translation>對齊輔助</translation>
+    </message>
+    <message>
+        <source>Alignment_4</source>
+        <translation>對齊 4</translation>
+    </message>
+    <message>
+        <source>Alignment_6</source>
+        <translation>對齊 6</translation>
+    </message>
+    <message>
+        <source>Alignment_9</source>
+        <translation>對齊 9</translation>
+    </message>
+    <message>
+        <source>American broadcasting primaries.</source>
+        <translation>美國廣播標準的三原色。</translation>
+    </message>
+    <message>
+        <source>Angle Ruler</source>
+        <translation>角度尺</translation>
+    </message>
+    <message>
+        <source>Animate</source>
+        <translation>動畫</translation>
+    </message>
+    <message>
+        <source>Animate Mode</source>
+        <translation>動畫模式</translation>
+    </message>
+    <message>
+        <source>Application is already running</source>
+        <translation>應用程式已在執行中</translation>
+    </message>
+    <message>
+        <source>Art Design</source>
+        <translation>藝術設計</translation>
+    </message>
+    <message>
+        <source>Art Design Mode</source>
+        <translation>藝術設計模式</translation>
+    </message>
+    <message>
+        <source>Audio Mode</source>
+        <translation>音訊模式</translation>
+    </message>
+    <message>
+        <source>Audio Mute</source>
+        <translation>靜音</translation>
+    </message>
+    <message>
+        <source>Audio Volume</source>
+        <translation>音量</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Auto-L1</source>
+        <translation>自動-L1</translation>
+    </message>
+    <message>
+        <source>Auto-L2</source>
+        <translation>自動-L2</translation>
+    </message>
+    <message>
+        <source>B</source>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>Background running</source>
+        <translation>正在背景執行</translation>
+    </message>
+    <message>
+        <source>Basic</source>
+        <translation>基本設定</translation>
+    </message>
+    <message>
+        <source>Black Level</source>
+        <translation>黑階</translation>
+    </message>
+    <message>
+        <source>Black and white, like paper.</source>
+        <translation>黑白顯示，如同紙張。</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>亮度</translation>
+    </message>
+    <message>
+        <source>C</source>
+        <translation>C</translation>
+    </message>
+    <message>
+        <source>CAD/CAM</source>
+        <translation>CAD/CAM</translation>
+    </message>
+    <message>
+        <source>CAD/CAM Mode</source>
+        <translation>CAD/CAM 模式</translation>
+    </message>
+    <message>
+        <source>CEC</source>
+        <translation>CEC</translation>
+    </message>
+    <message>
+        <source>CR Enhance</source>
+        <translation>對比度增強</translation>
+    </message>
+    <message>
+        <source>Care Content</source>
+        <translation>保養內容</translation>
+    </message>
+    <message>
+        <source>Choose Custom to make it your own.</source>
+        <translation>選擇「自訂」即可依喜好調整。</translation>
+    </message>
+    <message>
+        <source>Cinema colours at a D65 white.</source>
+        <translation>D65 白點下的電影院色彩。</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>Close window</source>
+        <translation>關閉視窗</translation>
+    </message>
+    <message>
+        <source>Color Enchance</source>
+        <translation>色彩增強</translation>
+    </message>
+    <message>
+        <source>Color Saturation</source>
+        <translation>色彩飽和度</translation>
+    </message>
+    <message>
+        <source>Color Space</source>
+        <translation>色彩空間</translation>
+    </message>
+    <message>
+        <source>Color Temperature</source>
+        <translation>色溫</translation>
+    </message>
+    <message>
+        <source>Composition</source>
+        <translation>構圖</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>對比度</translation>
+    </message>
+    <message>
+        <source>Convo</source>
+        <translation>對話</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>自訂</translation>
+    </message>
+    <message>
+        <source>Custom Mode</source>
+        <translation>自訂模式</translation>
+    </message>
+    <message>
+        <source>Custom Size</source>
+        <translation>自訂尺寸</translation>
+    </message>
+    <message>
+        <source>DCI-P3</source>
+        <translation>DCI-P3</translation>
+    </message>
+    <message>
+        <source>DCI-P3 Mode</source>
+        <translation>DCI-P3 模式</translation>
+    </message>
+    <message>
+        <source>DCI-P3(D65)</source>
+        <translation>DCI-P3(D65)</translation>
+    </message>
+    <message>
+        <source>DICOM</source>
+        <translation>DICOM</translation>
+    </message>
+    <message>
+        <source>DICOM Mode</source>
+        <translation>DICOM 模式</translation>
+    </message>
+    <message>
+        <source>DP Alt Mode</source>
+        <translation>DP Alt 模式</translation>
+    </message>
+    <message>
+        <source>DP/Type-C</source>
+        <translation>DP/Type-C</translation>
+    </message>
+    <message>
+        <source>DP1</source>
+        <translation>DP1</translation>
+    </message>
+    <message>
+        <source>DP2</source>
+        <translation>DP2</translation>
+    </message>
+    <message>
+        <source>Dark Programme</source>
+        <translation>深色程式設計</translation>
+    </message>
+    <message>
+        <source>Deep contrast for films.</source>
+        <translation>深邃對比，適合觀賞電影。</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>預設</translation>
+    </message>
+    <message>
+        <source>Display P3</source>
+        <translation>Display P3</translation>
+    </message>
+    <message>
+        <source>Display P3 Mode</source>
+        <translation>Display P3 模式</translation>
+    </message>
+    <message>
+        <source>Drop a chunk</source>
+        <translation>遺失資料區塊</translation>
+    </message>
+    <message>
+        <source>DyDs TECH</source>
+        <translation>DyDs TECH</translation>
+    </message>
+    <message>
+        <source>E-Book</source>
+        <translation>電子書</translation>
+    </message>
+    <message>
+        <source>E-Book Mode</source>
+        <translation>電子書模式</translation>
+    </message>
+    <message>
+        <source>EBU</source>
+        <translation>EBU</translation>
+    </message>
+    <message>
+        <source>EBU Mode</source>
+        <translation>EBU 模式</translation>
+    </message>
+    <message>
+        <source>Emberline</source>
+        <translation>Emberline</translation>
+    </message>
+    <message>
+        <source>European broadcasting primaries.</source>
+        <translation>歐洲廣播標準的三原色。</translation>
+    </message>
+    <message>
+        <source>Every request takes 400 ms longer</source>
+        <translation>每個要求多花 400 毫秒</translation>
+    </message>
+    <message>
+        <source>Everything that the panel can show.</source>
+        <translation>面板所能顯示的全部色彩。</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>結束</translation>
+    </message>
+    <message>
+        <source>Eye Care</source>
+        <translation>護眼</translation>
+    </message>
+    <message>
+        <source>Eye Care Mode</source>
+        <translation>護眼模式</translation>
+    </message>
+    <message>
+        <source>Eyeshield Remind</source>
+        <translation>護眼提醒</translation>
+    </message>
+    <message>
+        <source>Fine lines and clear edges for drawings.</source>
+        <translation>線條精細、邊緣清晰，適合製圖。</translation>
+    </message>
+    <message>
+        <source>For code on a dark ground.</source>
+        <translation>適合深色背景的程式碼。</translation>
+    </message>
+    <message>
+        <source>For code on a light ground.</source>
+        <translation>適合淺色背景的程式碼。</translation>
+    </message>
+    <message>
+        <source>Four bytes of the next scene-mode block get lost</source>
+        <translation>下一個情境模式資料區塊將遺失四個位元組</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>邊框</translation>
+    </message>
+    <message>
+        <source>G</source>
+        <translation>G</translation>
+    </message>
+    <message>
+        <source>Gama</source>
+        <translation>伽瑪</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>遊戲</translation>
+    </message>
+    <message>
+        <source>Game Aid</source>
+        <translation>遊戲輔助</translation>
+    </message>
+    <message>
+        <source>Game Rush</source>
+        <translation>遊戲衝刺</translation>
+    </message>
+    <message>
+        <source>Game VS</source>
+        <translation>遊戲對戰</translation>
+    </message>
+    <message>
+        <source>Go deaf</source>
+        <translation>不再回應</translation>
+    </message>
+    <message>
+        <source>Golden Section</source>
+        <translation>黃金分割</translation>
+    </message>
+    <message>
+        <source>Gravity Sensor</source>
+        <translation>重力感應</translation>
+    </message>
+    <message>
+        <source>Gray Response</source>
+        <translation>灰階反應</translation>
+    </message>
+    <message>
+        <source>H-Position</source>
+        <translation>水平位置</translation>
+    </message>
+    <message>
+        <source>HDMI1</source>
+        <translation>HDMI1</translation>
+    </message>
+    <message>
+        <source>HDMI2</source>
+        <translation>HDMI2</translation>
+    </message>
+    <message>
+        <source>HDR</source>
+        <translation>HDR</translation>
+    </message>
+    <message>
+        <source>HDTV Video</source>
+        <translation>HDTV 視訊</translation>
+    </message>
+    <message>
+        <source>Halo Control</source>
+        <translation>光暈控制</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>高</translation>
+    </message>
+    <message>
+        <source>High-definition television.</source>
+        <translation>高畫質電視。</translation>
+    </message>
+    <message>
+        <source>High-definition video work.</source>
+        <translation>高畫質視訊製作。</translation>
+    </message>
+    <message>
+        <source>Hotkey conflict</source>
+        <translation>快速鍵衝突</translation>
+    </message>
+    <message>
+        <source>How the print will look under a D55 light.</source>
+        <translation>印刷品在 D55 光源下的效果。</translation>
+    </message>
+    <message>
+        <source>How the print will look under a D58 light.</source>
+        <translation>印刷品在 D58 光源下的效果。</translation>
+    </message>
+    <message>
+        <source>How the print will look.</source>
+        <translation>印刷品的最終效果。</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>色相</translation>
+    </message>
+    <message>
+        <source>Hue R Y G C B M</source>
+        <translation>色相 R Y G C B M</translation>
+    </message>
+    <message>
+        <source>I/O Settings</source>
+        <translation>I/O 設定</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>資訊</translation>
+    </message>
+    <message>
+        <source>Input Signal</source>
+        <translation>輸入訊號</translation>
+    </message>
+    <message>
+        <source>Last requests to the monitor</source>
+        <translation>最近傳給顯示器的要求</translation>
+    </message>
+    <message>
+        <source>Less blue light for long days.</source>
+        <translation>減少藍光，適合長時間工作。</translation>
+    </message>
+    <message>
+        <source>Level1</source>
+        <translation>等級 1</translation>
+    </message>
+    <message>
+        <source>Level2</source>
+        <translation>等級 2</translation>
+    </message>
+    <message>
+        <source>Level3</source>
+        <translation>等級 3</translation>
+    </message>
+    <message>
+        <source>Light Programme</source>
+        <translation>淺色程式設計</translation>
+    </message>
+    <message>
+        <source>Light Sensor</source>
+        <translation>光線感應</translation>
+    </message>
+    <message>
+        <source>Localdimming</source>
+        <translation>區域調光</translation>
+    </message>
+    <message>
+        <source>Lose a reply</source>
+        <translation>遺失回應</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>低</translation>
+    </message>
+    <message>
+        <source>Low Blue Light</source>
+        <translation>低藍光</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>MPCS</source>
+        <translation>MPCS</translation>
+    </message>
+    <message>
+        <source>MPCS/LD</source>
+        <translation>MPCS/LD</translation>
+    </message>
+    <message>
+        <source>MPCS/ULL FPS</source>
+        <translation>MPCS/ULL FPS</translation>
+    </message>
+    <message>
+        <source>Mac View</source>
+        <translation>Mac 檢視</translation>
+    </message>
+    <message>
+        <source>Matches notebooks with a Display P3 screen.</source>
+        <translation>與配備 Display P3 螢幕的筆記型電腦一致。</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>中</translation>
+    </message>
+    <message>
+        <source>Menu Lock</source>
+        <translation>選單鎖定</translation>
+    </message>
+    <message>
+        <source>Minimise</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <source>Mode %1</source>
+        <translation>模式 %1</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>電影</translation>
+    </message>
+    <message>
+        <source>Movie Mode</source>
+        <translation>電影模式</translation>
+    </message>
+    <message>
+        <source>Music Mode</source>
+        <translation>音樂模式</translation>
+    </message>
+    <message>
+        <source>NA</source>
+        <translation>無</translation>
+    </message>
+    <message>
+        <source>NTSC Video</source>
+        <translation>NTSC 視訊</translation>
+    </message>
+    <message>
+        <source>NTSC television.</source>
+        <translation>NTSC 制式電視。</translation>
+    </message>
+    <message>
+        <source>Native</source>
+        <translation>原生</translation>
+    </message>
+    <message>
+        <source>Native Mode</source>
+        <translation>原生模式</translation>
+    </message>
+    <message>
+        <source>Night</source>
+        <translation>夜間</translation>
+    </message>
+    <message>
+        <source>Night Loom</source>
+        <translation>夜織</translation>
+    </message>
+    <message>
+        <source>Night Mode</source>
+        <translation>夜間模式</translation>
+    </message>
+    <message>
+        <source>Night View C.T</source>
+        <translation>夜間色溫</translation>
+    </message>
+    <message>
+        <source>Night Vision</source>
+        <translation>夜視</translation>
+    </message>
+    <message>
+        <source>No Signal Timer</source>
+        <translation>無訊號計時</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>確定</translation>
+    </message>
+    <message>
+        <source>OSD Language</source>
+        <translation>OSD 語言</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>關</translation>
+    </message>
+    <message>
+        <source>Office Aid</source>
+        <translation>辦公輔助</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>確定</translation>
+    </message>
+    <message>
+        <source>Oled Care</source>
+        <translation>OLED 保養</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>開</translation>
+    </message>
+    <message>
+        <source>On-screen menu</source>
+        <translation>螢幕選單</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>開啟</translation>
+    </message>
+    <message>
+        <source>Output Range</source>
+        <translation>輸出範圍</translation>
+    </message>
+    <message>
+        <source>PAL &amp; SECAM</source>
+        <translation>PAL &amp; SECAM</translation>
+    </message>
+    <message>
+        <source>PAL and SECAM television.</source>
+        <translation>PAL 與 SECAM 制式電視。</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>紙張</translation>
+    </message>
+    <message>
+        <source>Paper Mode</source>
+        <translation>紙張模式</translation>
+    </message>
+    <message>
+        <source>Paper_A4</source>
+        <translation>A4 紙</translation>
+    </message>
+    <message>
+        <source>Paper_B5</source>
+        <translation>B5 紙</translation>
+    </message>
+    <message>
+        <source>Paper_B6</source>
+        <translation>B6 紙</translation>
+    </message>
+    <message>
+        <source>Photo(P3-D65)</source>
+        <translation>相片(P3-D65)</translation>
+    </message>
+    <message>
+        <source>Photographs at a D65 white.</source>
+        <translation>D65 白點下的相片。</translation>
+    </message>
+    <message>
+        <source>Picture Enhance</source>
+        <translation>畫質增強</translation>
+    </message>
+    <message>
+        <source>Plugged in</source>
+        <translation>已連接</translation>
+    </message>
+    <message>
+        <source>Power LED</source>
+        <translation>電源指示燈</translation>
+    </message>
+    <message>
+        <source>Power Saving</source>
+        <translation>省電</translation>
+    </message>
+    <message>
+        <source>Print Mode</source>
+        <translation>印刷模式</translation>
+    </message>
+    <message>
+        <source>Print(P3-D50)</source>
+        <translation>印刷(P3-D50)</translation>
+    </message>
+    <message>
+        <source>Proofs under a D50 light.</source>
+        <translation>D50 光源下的打樣。</translation>
+    </message>
+    <message>
+        <source>QUORVEL desk</source>
+        <translation>QUORVEL 模擬台</translation>
+    </message>
+    <message>
+        <source>Quick Boot</source>
+        <translation>快速啟動</translation>
+    </message>
+    <message>
+        <source>R</source>
+        <translation>R</translation>
+    </message>
+    <message>
+        <source>RGB Auto</source>
+        <translation>RGB 自動</translation>
+    </message>
+    <message>
+        <source>RGB Full</source>
+        <translation>RGB 全範圍</translation>
+    </message>
+    <message>
+        <source>RGB Limit</source>
+        <translation>RGB 有限</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>閱讀</translation>
+    </message>
+    <message>
+        <source>Reading Mode</source>
+        <translation>閱讀模式</translation>
+    </message>
+    <message>
+        <source>Reading sample 0123</source>
+        <translation>閱讀範例 0123</translation>
+    </message>
+    <message>
+        <source>Rec.709</source>
+        <translation>Rec.709</translation>
+    </message>
+    <message>
+        <source>Rec.709 Mode</source>
+        <translation>Rec.709 模式</translation>
+    </message>
+    <message>
+        <source>Refuse writes</source>
+        <translation>拒絕寫入</translation>
+    </message>
+    <message>
+        <source>Requests</source>
+        <translation>要求</translation>
+    </message>
+    <message>
+        <source>Round</source>
+        <translation>圓形</translation>
+    </message>
+    <message>
+        <source>Ruler</source>
+        <translation>尺規</translation>
+    </message>
+    <message>
+        <source>SMPTE-C</source>
+        <translation>SMPTE-C</translation>
+    </message>
+    <message>
+        <source>SMPTE-C Mode</source>
+        <translation>SMPTE-C 模式</translation>
+    </message>
+    <message>
+        <source>Saturation R Y G C B M</source>
+        <translation>飽和度 R Y G C B M</translation>
+    </message>
+    <message>
+        <source>Scence Follow</source>
+        <translation>情境跟隨</translation>
+    </message>
+    <message>
+        <source>Scene</source>
+        <translation>情境模式</translation>
+    </message>
+    <message>
+        <source>Scene mode</source>
+        <translation>情境模式</translation>
+    </message>
+    <message>
+        <source>Screen of the simulated monitor</source>
+        <translation>模擬顯示器的螢幕</translation>
+    </message>
+    <message>
+        <source>Service Settings</source>
+        <translation>服務設定</translation>
+    </message>
+    <message>
+        <source>Sharp motion with local dimming.</source>
+        <translation>動態清晰，並支援區域調光。</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>銳利度</translation>
+    </message>
+    <message>
+        <source>Shortcut Key</source>
+        <translation>快速鍵</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>顯示</translation>
+    </message>
+    <message>
+        <source>Show Time(s)</source>
+        <translation>顯示時間(秒)</translation>
+    </message>
+    <message>
+        <source>Simulated monitor</source>
+        <translation>模擬顯示器</translation>
+    </message>
+    <message>
+        <source>Slow</source>
+        <translation>遲緩</translation>
+    </message>
+    <message>
+        <source>Smooth</source>
+        <translation>平滑</translation>
+    </message>
+    <message>
+        <source>Softproof</source>
+        <translation>Softproof</translation>
+    </message>
+    <message>
+        <source>Softproof(D55)</source>
+        <translation>Softproof(D55)</translation>
+    </message>
+    <message>
+        <source>Softproof(D58)</source>
+        <translation>Softproof(D58)</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>Standard Mode</source>
+        <translation>標準模式</translation>
+    </message>
+    <message>
+        <source>Strong</source>
+        <translation>強</translation>
+    </message>
+    <message>
+        <source>Super Resolution</source>
+        <translation>超解析度</translation>
+    </message>
+    <message>
+        <source>System Settings</source>
+        <translation>系統設定</translation>
+    </message>
+    <message>
+        <source>Text Mode</source>
+        <translation>文字模式</translation>
+    </message>
+    <message>
+        <source>The answer to the next read never arrives</source>
+        <translation>下一次讀取收不到回應</translation>
+    </message>
+    <message>
+        <source>The cable is pulled out until the button is released</source>
+        <translation>纜線保持拔出，直到放開按鈕</translation>
+    </message>
+    <message>
+        <source>The colours of the cinema.</source>
+        <translation>電影院的色彩。</translation>
+    </message>
+    <message>
+        <source>The grey scale of medical pictures.</source>
+        <translation>醫學影像的灰階。</translation>
+    </message>
+    <message>
+        <source>The hotkey you set is occupied,please reset it again!</source>
+        <translation>您設定的快速鍵已被佔用，請重新設定！</translation>
+    </message>
+    <message>
+        <source>The maker&apos;s own tuning.</source>
+        <translation>原廠專屬調校。</translation>
+    </message>
+    <message>
+        <source>The monitor answers nothing until the button is released</source>
+        <translation>顯示器不再回應，直到放開按鈕</translation>
+    </message>
+    <message>
+        <source>The monitor takes no value until the button is released</source>
+        <translation>顯示器不接受任何值，直到放開按鈕</translation>
+    </message>
+    <message>
+        <source>The picture as the factory set it.</source>
+        <translation>原廠設定的畫面。</translation>
+    </message>
+    <message>
+        <source>The selected display is unsupported or the signal line is disconnected.</source>
+        <translation>不支援所選的顯示器，或訊號線未連接。</translation>
+    </message>
+    <message>
+        <source>The sharpest motion for shooters.</source>
+        <translation>最清晰的動態畫面，適合射擊遊戲。</translation>
+    </message>
+    <message>
+        <source>The simulated monitor that is shown here</source>
+        <translation>此處顯示的模擬顯示器</translation>
+    </message>
+    <message>
+        <source>The standard of the web.</source>
+        <translation>網路內容的標準色彩。</translation>
+    </message>
+    <message>
+        <source>The white of printed paper.</source>
+        <translation>印刷紙張的白色。</translation>
+    </message>
+    <message>
+        <source>This monitor has nothing to set here.</source>
+        <translation>此顯示器在這裡沒有可設定的項目。</translation>
+    </message>
+    <message>
+        <source>Time, read or write, code, value and what became of it</source>
+        <translation>時間、讀取或寫入、代碼、值及結果</translation>
+    </message>
+    <message>
+        <source>Tool Settings</source>
+        <translation>工具設定</translation>
+    </message>
+    <message>
+        <source>Topspeed</source>
+        <translation>極速</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>透明度</translation>
+    </message>
+    <message>
+        <source>Triangle</source>
+        <translation>三角形</translation>
+    </message>
+    <message>
+        <source>Trichotomy</source>
+        <translation>三分法</translation>
+    </message>
+    <message>
+        <source>True colours for design work.</source>
+        <translation>色彩真實，適合設計工作。</translation>
+    </message>
+    <message>
+        <source>Type-B</source>
+        <translation>Type-B</translation>
+    </message>
+    <message>
+        <source>Type-C</source>
+        <translation>Type-C</translation>
+    </message>
+    <message>
+        <source>USB Power</source>
+        <translation>USB 供電</translation>
+    </message>
+    <message>
+        <source>USB Switch</source>
+        <translation>USB 切換</translation>
+    </message>
+    <message>
+        <source>Ull-Level1</source>
+        <translation>Ull-等級 1</translation>
+    </message>
+    <message>
+        <source>Ull-Level2</source>
+        <translation>Ull-等級 2</translation>
+    </message>
+    <message>
+        <source>Ull-Level3</source>
+        <translation>Ull-等級 3</translation>
+    </message>
+    <message>
+        <source>Unplug</source>
+        <translation>拔出纜線</translation>
+    </message>
+    <message>
+        <source>Unplugged</source>
+        <translation>已拔出</translation>
+    </message>
+    <message>
+        <source>User1</source>
+        <translation>使用者 1</translation>
+    </message>
+    <message>
+        <source>User1 R G B</source>
+        <translation>使用者 1 R G B</translation>
+    </message>
+    <message>
+        <source>User2</source>
+        <translation>使用者 2</translation>
+    </message>
+    <message>
+        <source>User2 R G B</source>
+        <translation>使用者 2 R G B</translation>
+    </message>
+    <message>
+        <source>User3</source>
+        <translation>使用者 3</translation>
+    </message>
+    <message>
+        <source>User3 R G B</source>
+        <translation>使用者 3 R G B</translation>
+    </message>
+    <message>
+        <source>UserB</source>
+        <translation>使用者 B</translation>
+    </message>
+    <message>
+        <source>UserG</source>
+        <translation>使用者 G</translation>
+    </message>
+    <message>
+        <source>UserR</source>
+        <translation>使用者 R</translation>
+    </message>
+    <message>
+        <source>V-Position</source>
+        <translation>垂直位置</translation>
+    </message>
+    <message>
+        <source>Vivid colours for animation.</source>
+        <translation>色彩鮮豔，適合動畫。</translation>
+    </message>
+    <message>
+        <source>Web(sRGB)</source>
+        <translation>網頁(sRGB)</translation>
+    </message>
+    <message>
+        <source>What most visitors of a page see.</source>
+        <translation>多數網頁訪客看到的色彩。</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Your own picture. Changes are sent to the monitor as you make them.</source>
+        <translation>您的自訂畫面，變更會即時傳送到顯示器。</translation>
+    </message>
+    <message>
+        <source>Zelmar</source>
+        <translation>Zelmar</translation>
+    </message>
+    <message>
+        <source>Zelmar Mode</source>
+        <translation>Zelmar 模式</translation>
+    </message>
+    <message>
+        <source>adjusted</source>
+        <translation>已調整</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>已連線</translation>
+    </message>
+    <message>
+        <source>deaf</source>
+        <translation>無回應</translation>
+    </message>
+    <message>
+        <source>garbled</source>
+        <translation>資料錯亂</translation>
+    </message>
+    <message>
+        <source>lost</source>
+        <translation>已遺失</translation>
+    </message>
+    <message>
+        <source>no answer</source>
+        <translation>無回應</translation>
+    </message>
+    <message>
+        <source>no monitor</source>
+        <translation>無顯示器</translation>
+    </message>
+    <message>
+        <source>ok</source>
+        <translation>成功</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>已拒絕</translation>
+    </message>
+    <message>
+        <source>sRGB</source>
+        <translation>sRGB</translation>
+    </message>
+    <message>
+        <source>sRGB Mode</source>
+        <translation>sRGB 模式</translation>
+    </message>
+    <message>
+        <source>sRGB primaries with gamma 2.2.</source>
+        <translation>sRGB 三原色，伽瑪 2.2。</translation>
+    </message>
+    <message>
+        <source>sRGB(2.2)</source>
+        <translation>sRGB(2.2)</translation>
+    </message>
+    <message>
+        <source>sRGB(2.2) Mode</source>
+        <translation>sRGB(2.2) 模式</translation>
+    </message>
+    <message>
+        <source>unexpected</source>
+        <translation>非預期</translation>
+    </message>
+    <message>
+        <source>unplugged</source>
+        <translation>已拔出</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,43 @@
+#include "controls/captions.h"
+
+#include <QFontMetrics>
+#include <QHelpEvent>
+#include <QToolTip>
+#include <QWidget>
+
+FittedCaption fitCaption(const QString &text, const QFont &font, int pixelSize, int width)
+{
+    FittedCaption fitted{font, text, false};
+    const int smallest = (pixelSize * 4 + 4) / 5;
+    for (int size = pixelSize; size >= smallest; --size) {
+        fitted.font.setPixelSize(size);
+        if (QFontMetrics(fitted.font).horizontalAdvance(text) <= width)
+            return fitted;
+    }
+    fitted.text = QFontMetrics(fitted.font).elidedText(text, Qt::ElideRight, qMax(0, width));
+    fitted.elided = true;
+    return fitted;
+}
+
+Caption::Caption(int pixelSize, const QString &text) : m_pixelSize(pixelSize), m_text(text)
+{
+}
+
+void Caption::draw(QPainter &painter, const QRect &rect, Qt::Alignment flags, const QColor &color)
+{
+    const FittedCaption fitted = fitCaption(m_text, painter.font(), m_pixelSize, rect.width());
+    m_elided = fitted.elided;
+    painter.save();
+    painter.setFont(fitted.font);
+    painter.setPen(color);
+    painter.drawText(rect, int(flags) | Qt::TextSingleLine, fitted.text);
+    painter.restore();
+}
+
+bool Caption::showToolTip(const QHelpEvent *event, QWidget *owner) const
+{
+    if (!m_elided)
+        return false;
+    QToolTip::showText(event->globalPos(), m_text, owner);
+    return true;
+}

@@ -1,0 +1,72 @@
+#include "controls/colorpicker.h"
+
+#include <QColorDialog>
+#include <QPainter>
+
+#include "controls/pictures.h"
+
+namespace {
+constexpr QSize kSize(56, 34);
+constexpr int kFrameWidth = 5;
+} // namespace
+
+ColorPicker::ColorPicker(QWidget *parent) : PaintedControl(parent)
+{
+    setFixedSize(kSize);
+    m_swatchRect = rect().adjusted(kFrameWidth, kFrameWidth, -kFrameWidth, -kFrameWidth);
+    setAccessibleDescription(m_color.name());
+}
+
+void ColorPicker::setColor(const QColor &color)
+{
+    if (!color.isValid())
+        return;
+    m_color = color;
+    setAccessibleDescription(color.name());
+    update();
+}
+
+void ColorPicker::onPickColor()
+{
+    const QColor picked = askColor();
+    if (!picked.isValid())
+        return;
+    setColor(picked);
+    Q_EMIT sigColorChanged(m_color);
+}
+
+QColor ColorPicker::askColor()
+{
+    return QColorDialog::getColor(m_color, this);
+}
+
+void ColorPicker::pressAt(const QPoint &position)
+{
+    if (m_swatchRect.contains(position))
+        onPickColor();
+}
+
+void ColorPicker::resizeEvent(QResizeEvent *)
+{
+    m_swatchRect = rect().adjusted(kFrameWidth, kFrameWidth, -kFrameWidth, -kFrameWidth);
+}
+
+void ColorPicker::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setOpacity(isEnabled() ? 1.0 : 0.35);
+    const bool hovered = isHovered() && isEnabled();
+    const QString state = hovered ? QStringLiteral("hover") : QString();
+    if (!Pictures::draw(painter, rect(),
+                        Pictures::ofState(Pictures::kRoot + QStringLiteral("img/picker/frame"), state))) {
+        painter.setPen(hovered ? QColor(0x7b, 0xfa, 0xdb) : QColor(27, 80, 67));
+        painter.setBrush(QColor(0x0f, 0x15, 0x12));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 8, 8);
+    }
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(m_color);
+    painter.drawRoundedRect(m_swatchRect, 4, 4);
+    painter.setOpacity(1.0);
+    drawFocus(painter, rect(), 8.0);
+}

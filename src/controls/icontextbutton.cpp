@@ -1,0 +1,86 @@
+#include "controls/icontextbutton.h"
+
+#include <QPainter>
+
+#include "controls/pictures.h"
+
+namespace {
+constexpr QSize kTileSize(90, 82);
+constexpr QRect kIconRect(33, 18, 24, 24);
+constexpr QRect kCaptionRect(5, 50, 80, 24);
+constexpr int kCaptionPixels = 14;
+const QColor kCheckedText(0x7b, 0xfa, 0xdb);
+const QColor kNormalText(0xad, 0xad, 0xad);
+const QColor kDisabledText(0x69, 0x69, 0x69);
+} // namespace
+
+IconTextButton::IconTextButton(const QString &iconBase, const QString &caption, QWidget *parent)
+    : PaintedControl(parent), m_normalPicture(Pictures::kRoot + QStringLiteral("img/icontext/normal.png")),
+      m_checkedPicture(Pictures::kRoot + QStringLiteral("img/icontext/checked.png")), m_iconBase(iconBase),
+      m_caption(kCaptionPixels)
+{
+    setFixedSize(kTileSize);
+    setCaption(caption);
+}
+
+void IconTextButton::setChecked(bool checked)
+{
+    if (m_checked == checked)
+        return;
+    m_checked = checked;
+    update();
+    announceChecked(this);
+}
+
+void IconTextButton::setCaption(const QString &caption)
+{
+    m_caption.setText(caption);
+    setAccessibleName(caption);
+    update();
+}
+
+void IconTextButton::setPictures(const QString &normal, const QString &checked)
+{
+    m_normalPicture = normal;
+    m_checkedPicture = checked;
+    update();
+}
+
+void IconTextButton::press()
+{
+    setChecked(!m_checked);
+    Q_EMIT clicked(m_checked);
+}
+
+void IconTextButton::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    drawTile(painter);
+    const QColor text = !isEnabled() ? kDisabledText : m_checked ? kCheckedText : kNormalText;
+    drawIcon(painter, text);
+    m_caption.draw(painter, kCaptionRect, Qt::AlignCenter, text);
+    drawFocus(painter, QRect(QPoint(), kTileSize), 10.0);
+}
+
+void IconTextButton::drawTile(QPainter &painter) const
+{
+    const QRect tile(QPoint(), kTileSize);
+    const bool lit = isEnabled() && (m_checked || isHovered());
+    if (Pictures::draw(painter, tile, lit ? m_checkedPicture : m_normalPicture))
+        return;
+    painter.setPen(lit ? kCheckedText : QColor(27, 80, 67));
+    painter.setBrush(lit ? QColor(0x26, 0x3d, 0x35) : QColor(0x1b, 0x23, 0x20));
+    painter.drawRoundedRect(QRectF(tile).adjusted(0.5, 0.5, -0.5, -0.5), 10, 10);
+}
+
+void IconTextButton::drawIcon(QPainter &painter, const QColor &plainColor) const
+{
+    const QString state = !isEnabled() ? QStringLiteral("disabled") : m_checked ? QStringLiteral("checked") : QString();
+    if (Pictures::draw(painter, kIconRect, Pictures::ofState(m_iconBase, state)) ||
+        Pictures::draw(painter, kIconRect, Pictures::ofState(m_iconBase)))
+        return;
+    painter.setPen(QPen(plainColor, 1.6));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawEllipse(kIconRect.adjusted(4, 4, -4, -4));
+}

@@ -1,0 +1,123 @@
+#include "controls/lefttabbutton.h"
+
+#include <algorithm>
+
+#include <QPainter>
+
+#include "controls/pictures.h"
+
+namespace {
+constexpr QSize kSize(208, 46);
+constexpr int kIconLeft = 19;
+constexpr int kIconSide = 24;
+constexpr int kCaptionLeft = 54;
+constexpr int kCaptionRightMargin = 8;
+constexpr int kCaptionPixels = 19;
+const QColor kNormalText(0xc9, 0xc9, 0xc9);
+const QColor kCheckedText(0xff, 0xff, 0xff);
+const QColor kDisabledText(0x69, 0x69, 0x69);
+} // namespace
+
+LeftTabButton::LeftTabButton(const QString &iconBase, const QString &caption, QWidget *parent)
+    : PaintedControl(parent), m_iconBase(iconBase), m_caption(kCaptionPixels)
+{
+    setFixedSize(kSize);
+    setCaption(caption);
+}
+
+void LeftTabButton::setChecked(bool checked)
+{
+    if (!m_selectable || m_checked == checked)
+        return;
+    m_checked = checked;
+    update();
+    announceChecked(this);
+}
+
+void LeftTabButton::setSelectable(bool selectable)
+{
+    m_selectable = selectable;
+    // What cannot be pressed is no stop for the Tab key.
+    setFocusPolicy(selectable ? Qt::StrongFocus : Qt::NoFocus);
+    update();
+}
+
+void LeftTabButton::setCaption(const QString &caption)
+{
+    m_caption.setText(caption);
+    setAccessibleName(caption);
+    update();
+}
+
+void LeftTabButton::press()
+{
+    if (!m_selectable)
+        return;
+    setChecked(true);
+    Q_EMIT clicked();
+}
+
+void LeftTabButton::keyPressEvent(QKeyEvent *event)
+{
+    const int step = event->key() == Qt::Key_Down ? 1 : event->key() == Qt::Key_Up ? -1 : 0;
+    if (step == 0 || !focusNeighbour(step))
+        PaintedControl::keyPressEvent(event);
+}
+
+bool LeftTabButton::focusNeighbour(int step)
+{
+    if (!parentWidget())
+        return false;
+    QList<LeftTabButton *> column =
+        parentWidget()->findChildren<LeftTabButton *>(QString(), Qt::FindDirectChildrenOnly);
+    column.removeIf([this](const LeftTabButton *button) {
+        return button != this && (button->isHidden() || !button->isEnabled() || !button->isSelectable());
+    });
+    std::stable_sort(column.begin(), column.end(),
+                     [](const LeftTabButton *a, const LeftTabButton *b) { return a->y() < b->y(); });
+    LeftTabButton *neighbour = column.value(column.indexOf(this) + step, nullptr);
+    if (neighbour)
+        neighbour->setFocus(step > 0 ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return neighbour != nullptr;
+}
+
+void LeftTabButton::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    drawBackground(painter);
+    drawIcon(painter);
+    const bool usable = isEnabled() && m_selectable;
+    const QColor color = !usable ? kDisabledText : m_checked ? kCheckedText : kNormalText;
+    const QRect textRect = rect().adjusted(kCaptionLeft, 0, -kCaptionRightMargin, 0);
+    m_caption.draw(painter, textRect, Qt::AlignLeft | Qt::AlignVCenter, color);
+    drawFocus(painter, rect(), 8.0);
+}
+
+void LeftTabButton::drawBackground(QPainter &painter) const
+{
+    const bool hovered = isHovered() && isEnabled() && m_selectable;
+    const QString state = m_checked ? QStringLiteral("checked")
+                          : hovered ? QStringLiteral("hover")
+                                    : QStringLiteral("normal");
+    if (Pictures::draw(painter, rect(), Pictures::ofState(Pictures::kRoot + QStringLiteral("img/left/tab"), state)))
+        return;
+    if (!m_checked && !hovered)
+        return;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(m_checked ? QColor(0x26, 0x3d, 0x35) : QColor(0x1e, 0x28, 0x24));
+    painter.drawRoundedRect(rect(), 8, 8);
+}
+
+void LeftTabButton::drawIcon(QPainter &painter) const
+{
+    const QRect icon(kIconLeft, (height() - kIconSide) / 2, kIconSide, kIconSide);
+    const bool usable = isEnabled() && m_selectable;
+    const QString state = !usable ? QStringLiteral("disabled") : m_checked ? QStringLiteral("checked") : QString();
+    if (Pictures::draw(painter, icon, Pictures::ofState(m_iconBase, state)) ||
+        Pictures::draw(painter, icon, Pictures::ofState(m_iconBase)))
+        return;
+    painter.setPen(QPen(usable ? kNormalText : kDisabledText, 1.6));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawEllipse(icon.adjusted(4, 4, -4, -4));
+}

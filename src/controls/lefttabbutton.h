@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QFrame>
+
+#include "controls/paintedcontrol.h"
+
+/// An entry of the left bar, 208 x 46: icon and caption. It takes a press only while it is enabled for selection.
+class LeftTabButton : public PaintedControl<QFrame>
+{
+    Q_OBJECT
+
+public:
+    /// @p iconBase is the path of the icon without suffix: "<base>.png", "<base>_checked.png", "<base>_disabled.png".
+    LeftTabButton(const QString &iconBase, const QString &caption, QWidget *parent = nullptr);
+
+    bool isChecked() const { return m_checked; }
+    /// Sets the checked state without a signal; ignored while the button is not enabled for selection.
+    void setChecked(bool checked);
+
+    bool isSelectable() const { return m_selectable; }
+    /// Whether the button is enabled for selection (true at first). The checked state stays as it is.
+    void setSelectable(bool selectable);
+
+    QString caption() const { return m_caption.text(); }
+    /// Sets the caption, which is the accessible name too.
+    void setCaption(const QString &caption);
+
+    QAccessible::Role accessibleRole() const override { return QAccessible::RadioButton; }
+    std::optional<bool> checkedState() const override { return m_checked; }
+    void press() override;
+
+Q_SIGNALS:
+    void clicked();
+
+protected:
+    const Caption *shownCaption() const override { return &m_caption; }
+    void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    bool focusNeighbour(int step);
+    void drawBackground(QPainter &painter) const;
+    void drawIcon(QPainter &painter) const;
+
+    QString m_iconBase;
+    Caption m_caption;
+    bool m_selectable = true;
+    bool m_checked = false;
+};

@@ -1,0 +1,20 @@
+#include "controls/messagebox.h"
+
+#include <QPushButton>
+
+static const char *const kStyle =
+    "QMessageBox {background-color: #101611;}QLabel{ color: white;}"
+    "QDialogButtonBox {qproperty-centerButtons: false;alignment: bottom right;}"
+    "QMessageBox QPushButton { border: 1px solid #8f8f91; border-radius: 4px; padding: 4px 12px; color: white;}";
+
+// The button must also look focused: Enter is what most people press.
+static const char *const kFocusStyle = "QMessageBox QPushButton:focus { border-color: #7bfadb;}";
+
+void showMessage(QMessageBox::Icon icon, const QString &title, const QString &text, const QString &button,
+                 QMessageBox::ButtonRole role, QWidget *parent)
+{
+    QMessageBox box(icon, title, text, QMessageBox::NoButton, parent);
+    box.setStyleSheet(QLatin1String(kStyle) + QLatin1String(kFocusStyle));
+    box.setDefaultButton(box.addButton(button, role));
+    box.exec();
+}

@@ -1,0 +1,8 @@
+#pragma once
+
+#include <QMessageBox>
+#include <QString>
+
+/// A message box in the program's dark look, with one button, shown modally. Texts come translated.
+void showMessage(QMessageBox::Icon icon, const QString &title, const QString &text, const QString &button,
+                 QMessageBox::ButtonRole role = QMessageBox::YesRole, QWidget *parent = nullptr);

@@ -1,0 +1,207 @@
+#include "controls/nowheelslider.h"
+
+#include <QKeyEvent>
+#include <QLinearGradient>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QWheelEvent>
+
+#include "controls/pictures.h"
+
+namespace {
+constexpr int kHandle = 20;
+constexpr int kGroove = 4;
+constexpr int kHeight = 26;
+const QColor kGrooveColor(0x2b, 0x36, 0x31);
+const QColor kMintDark(0x00, 0xc4, 0x8c);
+const QColor kMint(0x7b, 0xfa, 0xdb);
+const QColor kInside(0x0c, 0x10, 0x0e);
+const QColor kDisabled(0x4a, 0x55, 0x50);
+
+bool isStepKey(int key)
+{
+    switch (key) {
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+        return true;
+    default:
+        return false;
+    }
+}
+} // namespace
+
+NoWheelSlider::NoWheelSlider(QWidget *parent) : QSlider(Qt::Horizontal, parent)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_Hover);
+}
+
+void NoWheelSlider::setAccent(const QColor &accent)
+{
+    m_accent = accent;
+    update();
+}
+
+void NoWheelSlider::setUnknown(bool unknown)
+{
+    m_unknown = unknown;
+    update();
+}
+
+QSize NoWheelSlider::sizeHint() const
+{
+    return QSize(240, kHeight);
+}
+
+QSize NoWheelSlider::minimumSizeHint() const
+{
+    return QSize(3 * kHandle, kHeight);
+}
+
+QRect NoWheelSlider::grooveRect() const
+{
+    return QRect(kHandle / 2, (height() - kGroove) / 2, width() - kHandle, kGroove);
+}
+
+QPoint NoWheelSlider::handleCentre() const
+{
+    const QRect groove = grooveRect();
+    const int offset = QStyle::sliderPositionFromValue(minimum(), maximum(), sliderPosition(), groove.width());
+    return QPoint(groove.left() + offset, height() / 2);
+}
+
+int NoWheelSlider::valueAt(int x) const
+{
+    const QRect groove = grooveRect();
+    return QStyle::sliderValueFromPosition(minimum(), maximum(), x - groove.left(), groove.width());
+}
+
+void NoWheelSlider::wheelEvent(QWheelEvent *event)
+{
+    event->ignore();
+}
+
+void NoWheelSlider::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton || minimum() == maximum()) {
+        event->ignore();
+        return;
+    }
+    const int x = event->position().toPoint().x();
+    const int fromCentre = x - handleCentre().x();
+    m_grabOffset = qAbs(fromCentre) <= kHandle / 2 ? fromCentre : 0;
+    m_heldKey = 0;
+    setSliderDown(true);
+    setSliderPosition(valueAt(x - m_grabOffset));
+    event->accept();
+}
+
+void NoWheelSlider::mouseMoveEvent(QMouseEvent *event)
+{
+    if (isSliderDown() && event->buttons().testFlag(Qt::LeftButton))
+        setSliderPosition(valueAt(event->position().toPoint().x() - m_grabOffset));
+}
+
+void NoWheelSlider::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        setSliderDown(false);
+    else
+        event->ignore();
+}
+
+void NoWheelSlider::keyPressEvent(QKeyEvent *event)
+{
+    if (isStepKey(event->key())) {
+        // Down before the step, so that whoever hears of the step knows that more may come.
+        m_heldKey = event->key();
+        setSliderDown(true);
+    }
+    QSlider::keyPressEvent(event);
+}
+
+void NoWheelSlider::keyReleaseEvent(QKeyEvent *event)
+{
+    if (event->isAutoRepeat() || event->key() != m_heldKey) {
+        QSlider::keyReleaseEvent(event);
+        return;
+    }
+    m_heldKey = 0;
+    setSliderDown(false);
+}
+
+void NoWheelSlider::focusInEvent(QFocusEvent *event)
+{
+    m_focusRing.follow(event);
+    QSlider::focusInEvent(event);
+    update();
+}
+
+void NoWheelSlider::focusOutEvent(QFocusEvent *event)
+{
+    m_focusRing.follow(event);
+    // The key's release will go to another widget.
+    if (m_heldKey != 0) {
+        m_heldKey = 0;
+        setSliderDown(false);
+    }
+    QSlider::focusOutEvent(event);
+    update();
+}
+
+void NoWheelSlider::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    drawGroove(painter);
+    drawHandle(painter);
+    m_focusRing.draw(painter, rect(), height() / 2.0);
+}
+
+void NoWheelSlider::drawGroove(QPainter &painter) const
+{
+    const QRectF groove = grooveRect();
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(kGrooveColor);
+    painter.drawRoundedRect(groove, kGroove / 2.0, kGroove / 2.0);
+    if (m_unknown)
+        return;
+    QRectF filled = groove;
+    filled.setRight(handleCentre().x());
+    QLinearGradient mint(filled.topLeft(), filled.topRight());
+    mint.setColorAt(0.0, kMintDark);
+    mint.setColorAt(1.0, kMint);
+    painter.setBrush(!isEnabled() ? QBrush(kDisabled) : m_accent.isValid() ? QBrush(m_accent) : QBrush(mint));
+    painter.drawRoundedRect(filled, kGroove / 2.0, kGroove / 2.0);
+}
+
+void NoWheelSlider::drawHandle(QPainter &painter) const
+{
+    QRect handle(0, 0, kHandle, kHandle);
+    handle.moveTopLeft(handleCentre() - QPoint(kHandle / 2, kHandle / 2));
+    const bool plain = !m_unknown && (!m_accent.isValid() || !isEnabled());
+    const QString state = !isEnabled()                     ? QStringLiteral("disabled")
+                          : m_focusRing.isShown()          ? QStringLiteral("focus")
+                          : underMouse() || isSliderDown() ? QStringLiteral("hover")
+                                                           : QString();
+    const QString base = Pictures::kRoot + QStringLiteral("img/slider/handle");
+    if (!plain || !Pictures::draw(painter, handle, Pictures::ofState(base, state)))
+        drawRing(painter, handle);
+}
+
+void NoWheelSlider::drawRing(QPainter &painter, const QRect &handle) const
+{
+    QColor ring = !isEnabled() || m_unknown ? kDisabled : m_accent.isValid() ? m_accent : kMint;
+    if (isEnabled() && (underMouse() || isSliderDown()))
+        ring = ring.lighter(115);
+    painter.setPen(QPen(ring, m_unknown ? 1.5 : 3.0));
+    painter.setBrush(kInside);
+    painter.drawEllipse(QRectF(handle).adjusted(2, 2, -2, -2));
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QColor>
+#include <QSlider>
+
+#include "controls/focusring.h"
+
+/// A painted horizontal slider that leaves the mouse wheel to the page around it.
+/// A click on the groove jumps there. isSliderDown() is true while the user changes the value, by mouse or by
+/// keyboard: from sliderPressed() to sliderReleased(), which for a key is when it is let go.
+class NoWheelSlider : public QSlider
+{
+    Q_OBJECT
+
+public:
+    explicit NoWheelSlider(QWidget *parent = nullptr);
+
+    /// Colour of the filled part and the handle's ring; an invalid colour (the default) means the mint gradient.
+    void setAccent(const QColor &accent);
+
+    bool isUnknown() const { return m_unknown; }
+    /// Shows a hollow, dimmed handle: the value was not read yet.
+    void setUnknown(bool unknown);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void wheelEvent(QWheelEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QRect grooveRect() const;
+    QPoint handleCentre() const;
+    int valueAt(int x) const;
+    void drawGroove(QPainter &painter) const;
+    void drawHandle(QPainter &painter) const;
+    void drawRing(QPainter &painter, const QRect &handle) const;
+
+    QColor m_accent;
+    FocusRing m_focusRing;
+    /// The key that holds the slider down, 0 for none.
+    int m_heldKey = 0;
+    /// From the handle's centre to where the mouse took hold of it.
+    int m_grabOffset = 0;
+    bool m_unknown = false;
+};

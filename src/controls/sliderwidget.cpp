@@ -1,0 +1,94 @@
+#include "controls/sliderwidget.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+
+#include "controls/captionlabel.h"
+
+namespace {
+constexpr int kCaptionPixels = 15;
+constexpr int kValueWidth = 40;
+constexpr int kSpacing = 8;
+const QString kCaptionStyle = QStringLiteral("QLabel { color: #FFFFFF; }QLabel:disabled { color: #000; }");
+const QString kValueStyle = QStringLiteral("QLabel { color: #FFFFFF; }QLabel:disabled { color: #444; }");
+} // namespace
+
+SliderWidget::SliderWidget(const QString &name, int minimum, int maximum, QWidget *parent)
+    : QWidget(parent), m_captionLabel(new CaptionLabel(name, kCaptionPixels, this)), m_slider(new NoWheelSlider(this)),
+      m_valueLabel(new QLabel(this))
+{
+    setObjectName(name);
+    m_captionLabel->setStyleSheet(kCaptionStyle);
+    m_captionLabel->setBuddy(m_slider);
+    m_slider->setRange(minimum, maximum);
+    QFont font = m_valueLabel->font();
+    font.setPixelSize(kCaptionPixels);
+    m_valueLabel->setFont(font);
+    m_valueLabel->setStyleSheet(kValueStyle);
+    m_valueLabel->setFixedWidth(kValueWidth);
+    m_valueLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(kSpacing);
+    row->addWidget(m_captionLabel);
+    row->addWidget(m_slider, 1);
+    row->addWidget(m_valueLabel);
+    setFocusProxy(m_slider);
+    setCaption(name);
+    showValue();
+
+    connect(m_slider, &QSlider::valueChanged, this, &SliderWidget::onValueChanged);
+    connect(m_slider, &QSlider::sliderReleased, this, &SliderWidget::onSliderReleased);
+}
+
+QString SliderWidget::caption() const
+{
+    return m_captionLabel->text();
+}
+
+void SliderWidget::setCaption(const QString &caption)
+{
+    m_captionLabel->setText(caption);
+    setAccessibleName(caption);
+    m_slider->setAccessibleName(caption);
+}
+
+void SliderWidget::setCaptionWidth(int width)
+{
+    m_captionLabel->setFixedWidth(width);
+}
+
+void SliderWidget::setAccent(const QColor &accent)
+{
+    m_slider->setAccent(accent);
+}
+
+void SliderWidget::setValue(int value)
+{
+    setUnknown(false);
+    m_slider->setValue(value);
+}
+
+void SliderWidget::setUnknown(bool unknown)
+{
+    m_slider->setUnknown(unknown);
+    showValue();
+}
+
+void SliderWidget::onValueChanged(int value)
+{
+    setUnknown(false);
+    Q_EMIT sliderValueChanged(name(), value, false);
+}
+
+void SliderWidget::onSliderReleased()
+{
+    setUnknown(false);
+    Q_EMIT sliderValueChanged(name(), value(), true);
+}
+
+void SliderWidget::showValue()
+{
+    m_valueLabel->setText(isUnknown() ? QStringLiteral("–") : QStringLiteral("%1").arg(value()));
+}

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QWidget>
+
+#include "controls/nowheelslider.h"
+
+class CaptionLabel;
+class QLabel;
+
+/// A caption, a slider and the value as a number.
+class SliderWidget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// @p name is the object name, the first caption and what the signal sends; the range is inclusive.
+    SliderWidget(const QString &name, int minimum, int maximum, QWidget *parent = nullptr);
+
+    /// The untranslated name that the signal sends.
+    QString name() const { return objectName(); }
+
+    QString caption() const;
+    /// Sets the caption, which is the accessible name too; the name stays.
+    void setCaption(const QString &caption);
+    /// Fixes the caption's width, in pixels, so that the sliders of a column begin together.
+    void setCaptionWidth(int width);
+
+    /// Colour of the slider; an invalid colour means the mint gradient.
+    void setAccent(const QColor &accent);
+
+    int value() const { return m_slider->value(); }
+    /// Moves the slider, bounded by its range, and so emits sliderValueChanged(name, value, false) when it changed.
+    /// The value counts as known afterwards.
+    void setValue(int value);
+
+    bool isUnknown() const { return m_slider->isUnknown(); }
+    /// Shows a dash for a value that was not read yet, until one is set.
+    void setUnknown(bool unknown);
+
+    NoWheelSlider *slider() const { return m_slider; }
+    CaptionLabel *captionLabel() const { return m_captionLabel; }
+    QLabel *valueLabel() const { return m_valueLabel; }
+
+public Q_SLOTS:
+    void onValueChanged(int value);
+    void onSliderReleased();
+
+Q_SIGNALS:
+    /// @p bReleased is false for every step of a movement, true once when the user lets go of mouse or key.
+    void sliderValueChanged(QString sliderName, int value, bool bReleased);
+
+private:
+    void showValue();
+
+    CaptionLabel *m_captionLabel;
+    NoWheelSlider *m_slider;
+    QLabel *m_valueLabel;
+};

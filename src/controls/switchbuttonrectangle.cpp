@@ -1,0 +1,49 @@
+#include "controls/switchbuttonrectangle.h"
+
+#include <QPainter>
+
+namespace {
+constexpr QSize kSize(20, 20);
+const QColor kGround(1, 1, 1);
+const QColor kOutline(27, 80, 67);
+const QColor kHoveredOutline(0x7b, 0xfa, 0xdb, 150);
+const QColor kMark(0x7b, 0xfa, 0xdb);
+const QColor kDisabled(0x69, 0x69, 0x69);
+} // namespace
+
+SwitchButtonRectangle::SwitchButtonRectangle(QWidget *parent) : PaintedControl(parent)
+{
+    setFixedSize(kSize);
+}
+
+void SwitchButtonRectangle::setChecked(bool checked)
+{
+    if (m_checked == checked)
+        return;
+    m_checked = checked;
+    update();
+    announceChecked(this);
+}
+
+void SwitchButtonRectangle::press()
+{
+    setChecked(!m_checked);
+    Q_EMIT sigClicked(m_checked);
+}
+
+void SwitchButtonRectangle::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    // Room for the focus outline around the box.
+    const QRect box = rect().adjusted(2, 2, -2, -2);
+    painter.fillRect(box, kGround);
+    painter.setPen(!isEnabled() ? kDisabled.darker(170) : isHovered() ? kHoveredOutline : kOutline);
+    painter.drawRect(box.adjusted(0, 0, -1, -1));
+    if (m_checked) {
+        const QRectF inner = QRectF(box).adjusted(1, 1, -1, -1);
+        painter.setPen(QPen(isEnabled() ? kMark : kDisabled, 2.0, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter.setBrush(isEnabled() ? kOutline : kGround);
+        painter.drawRect(inner.adjusted(1, 1, -1, -1));
+    }
+    drawFocus(painter, rect(), 3.0);
+}

@@ -1,0 +1,59 @@
+#include "controls/zelmardialog.h"
+
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "controls/pictures.h"
+
+namespace {
+const QString kBackground = Pictures::kRoot + QStringLiteral("img/basicSetting/shortcutKey/dialog.png");
+constexpr QSize kFallbackSize(420, 200);
+const QString kStyle =
+    QStringLiteral("QLabel#title { color: #FFFFFF; font-size: 18px; }"
+                   "QLabel#text { color: #C9C9C9; font-size: 15px; }"
+                   "QPushButton { color: #0c100e; font-size: 15px; border: 1px solid transparent; border-radius: 8px;"
+                   " min-width: 112px; min-height: 34px;"
+                   " background: qlineargradient(x1:0, y1:0, x2:1, y2:0, stop:0 #00c48c, stop:1 #7bfadb); }"
+                   "QPushButton:hover { background: #9cffc8; }"
+                   "QPushButton:focus { border-color: #FFFFFF; }"
+                   "QPushButton:pressed { background: #00c48c; }");
+} // namespace
+
+ZelmarDialog::ZelmarDialog(QWidget *parent) : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint)
+{
+    setAttribute(Qt::WA_TranslucentBackground);
+    setWindowTitle(QObject::tr("Hotkey conflict"));
+    const QPixmap background = Pictures::load(kBackground, 1.0);
+    setFixedSize(background.isNull() ? kFallbackSize : background.size());
+    setStyleSheet(kStyle);
+
+    auto *title = new QLabel(windowTitle(), this);
+    title->setObjectName(QStringLiteral("title"));
+    auto *text = new QLabel(QObject::tr("The hotkey you set is occupied,please reset it again!"), this);
+    text->setObjectName(QStringLiteral("text"));
+    text->setWordWrap(true);
+    text->setAlignment(Qt::AlignCenter);
+    auto *ok = new QPushButton(QObject::tr("Ok"), this);
+    ok->setDefault(true);
+    setAccessibleDescription(text->text());
+
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(24, 16, 24, 20);
+    column->addWidget(title);
+    column->addWidget(text, 1);
+    column->addWidget(ok, 0, Qt::AlignHCenter);
+    connect(ok, &QPushButton::clicked, this, &QDialog::accept);
+}
+
+void ZelmarDialog::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    if (Pictures::draw(painter, rect(), kBackground))
+        return;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QColor(27, 80, 67));
+    painter.setBrush(QColor(0x1b, 0x23, 0x20));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 14, 14);
+}

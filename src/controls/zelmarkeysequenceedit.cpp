@@ -1,0 +1,118 @@
+#include "controls/zelmarkeysequenceedit.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QSignalBlocker>
+
+namespace {
+constexpr QSize kLeastSize(120, 34);
+const QString kStyle = QStringLiteral(
+    "QLineEdit { color: #7bfadb; background: #0f1512; border: 1px solid rgb(27,80,67); border-radius: 8px;"
+    " padding: 0 8px; font-size: 14px; }"
+    "QLineEdit:hover { background: #141c18; }"
+    "QLineEdit:focus { border-color: rgba(123,250,219,178); }"
+    "QLineEdit:disabled { color: #696969; border-color: #2b3631; }");
+
+QString nothingSet()
+{
+    return QObject::tr("NA");
+}
+
+/// Keeps the line edit from reacting to focus by itself and its hint in step with what it holds.
+class KeyFieldFilter : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        auto *lineEdit = qobject_cast<QLineEdit *>(watched);
+        if (lineEdit && event->type() == QEvent::FocusIn) {
+            if (lineEdit->text() == nothingSet())
+                lineEdit->setPlaceholderText(QString());
+            return true;
+        }
+        if (lineEdit && event->type() == QEvent::FocusOut) {
+            if (lineEdit->text().isEmpty())
+                lineEdit->setPlaceholderText(nothingSet());
+            return true;
+        }
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+bool isLetterOrDigit(int key)
+{
+    return (key >= Qt::Key_A && key <= Qt::Key_Z) || (key >= Qt::Key_0 && key <= Qt::Key_9);
+}
+} // namespace
+
+ZelmarKeySequenceEdit::ZelmarKeySequenceEdit(QWidget *parent)
+    : QKeySequenceEdit(parent), m_lineEdit(findChild<QLineEdit *>())
+{
+    m_lineEdit->setPlaceholderText(nothingSet());
+    m_lineEdit->setAlignment(Qt::AlignCenter);
+    m_lineEdit->setStyleSheet(kStyle);
+    m_lineEdit->setMinimumSize(kLeastSize);
+    m_lineEdit->installEventFilter(new KeyFieldFilter(this));
+}
+
+QString ZelmarKeySequenceEdit::text() const
+{
+    return keySequence().toString(QKeySequence::NativeText);
+}
+
+void ZelmarKeySequenceEdit::keyPressEvent(QKeyEvent *event)
+{
+    const Qt::KeyboardModifiers held = event->modifiers();
+    if (event->key() == Qt::Key_Backspace) {
+        clear();
+        m_lineEdit->setPlaceholderText(nothingSet());
+        return;
+    }
+    const bool wanted = (held & (Qt::ControlModifier | Qt::AltModifier)) && isLetterOrDigit(event->key());
+    // The digits of the numeric pad ("Num+5" in the native text) are left to whoever works in the foreground.
+    if (wanted && !held.testFlag(Qt::KeypadModifier) && !event->isAutoRepeat())
+        capture(event);
+    else
+        event->ignore();
+}
+
+void ZelmarKeySequenceEdit::capture(QKeyEvent *event)
+{
+    const QKeySequence sequence(event->keyCombination());
+    {
+        // The base class waits for further combinations; one is enough here, so its half-way state is not shown.
+        const QSignalBlocker blocker(this);
+        QKeySequenceEdit::keyPressEvent(event);
+        setKeySequence(sequence);
+    }
+    Q_EMIT keySequenceChanged(sequence);
+    Q_EMIT editingFinished();
+}
+
+void ZelmarKeySequenceEdit::focusInEvent(QFocusEvent *event)
+{
+    QKeySequenceEdit::focusInEvent(event);
+    m_lineEdit->update();
+}
+
+void ZelmarKeySequenceEdit::focusOutEvent(QFocusEvent *event)
+{
+    QKeySequenceEdit::focusOutEvent(event);
+    m_lineEdit->update();
+}
+
+void ZelmarKeySequenceEdit::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        m_lineEdit->setPlaceholderText(nothingSet());
+    QKeySequenceEdit::changeEvent(event);
+}
+
+void ZelmarKeySequenceEdit::paintEvent(QPaintEvent *event)
+{
+    if (m_lineEdit->text().isEmpty())
+        m_lineEdit->setPlaceholderText(nothingSet());
+    QKeySequenceEdit::paintEvent(event);
+}

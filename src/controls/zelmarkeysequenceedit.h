@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QKeySequenceEdit>
+
+class QLineEdit;
+
+/// A field that captures one key combination: Control or Alt with a letter or digit. It shows "NA" while empty.
+class ZelmarKeySequenceEdit : public QKeySequenceEdit
+{
+    Q_OBJECT
+
+public:
+    explicit ZelmarKeySequenceEdit(QWidget *parent = nullptr);
+
+    /// The combination in native text, empty for none.
+    QString text() const;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void capture(QKeyEvent *event);
+
+    QLineEdit *m_lineEdit;
+};

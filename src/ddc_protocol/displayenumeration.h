@@ -1,0 +1,37 @@
+#pragma once
+
+#include <atomic>
+#include <cstdint>
+#include <vector>
+
+#include <QByteArrayList>
+#include <QString>
+
+#include "platform/monitorconfiguration.h"
+
+/// One monitor that commands can go to; only the handle is used, null when the monitor could not be fetched.
+using MonitorInfo = platform::PhysicalMonitor;
+
+/// The monitors found, in step with the labels. Replaced only by findDevices, on the interface thread and under the
+/// transport's lock; read by the transport under that lock.
+extern std::vector<MonitorInfo> monitorList;
+
+/// Which of monitorList every command goes to. Written by the device session only.
+extern std::atomic<std::uint8_t> currentMonitorIndex;
+
+/// How the desktop spans the displays.
+enum class ProjectionMode { Unknown = 0, InternalOnly = 1, ExternalOnly = 2, Clone = 3, Extend = 4 };
+
+/// Set by currentProjectionMode and, from internal to external, by findDevices. Read by the device session.
+extern ProjectionMode projectionMode;
+
+/// Asks the platform for the active display paths and sets projectionMode. Returns the mode; Unknown, with
+/// projectionMode left as it was, when the platform does not tell.
+ProjectionMode currentProjectionMode();
+
+/// Rebuilds monitorList from the displays that show a toolkit screen and returns one label for each record, "1. Model".
+/// Handles of the previous list are released first.
+QByteArrayList findDevices();
+
+/// The model names of the monitors on display number n, joined by ";". Empty when any of them has no readable EDID.
+QString monitorNameFromDisplayIndex(int n);

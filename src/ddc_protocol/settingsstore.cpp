@@ -1,0 +1,93 @@
+#include "ddc_protocol/settingsstore.h"
+
+#include <QDebug>
+#include <QFile>
+#include <QSettings>
+
+namespace {
+
+/// An INI file opened for one operation.
+class IniFile
+{
+public:
+    explicit IniFile(const QString &fileName) : m_settings(fileName, QSettings::IniFormat) {}
+
+    QString text(const QString &key) const { return m_settings.value(key).toString(); }
+
+    void write(const QString &key, const QVariant &value)
+    {
+        keepForeignContent();
+        m_settings.setValue(key, value);
+        finish();
+    }
+
+    void clear()
+    {
+        keepForeignContent();
+        m_settings.clear();
+        finish();
+    }
+
+    QStringList keys() const { return m_settings.allKeys(); }
+
+private:
+    void keepForeignContent()
+    {
+        if (m_settings.status() != QSettings::FormatError)
+            return;
+        const QString copy = m_settings.fileName() + QLatin1String(".bad");
+        if (QFile::copy(m_settings.fileName(), copy))
+            qWarning().noquote() << m_settings.fileName() << "is damaged; what it held is kept in" << copy;
+    }
+
+    void finish()
+    {
+        m_settings.sync();
+        if (m_settings.status() == QSettings::AccessError)
+            qWarning().noquote() << "Cannot write" << m_settings.fileName();
+    }
+
+    QSettings m_settings;
+};
+
+} // namespace
+
+void clearSettingsFile(const QString &fileName)
+{
+    IniFile(fileName).clear();
+}
+
+QString settingsString(const QString &key, const QString &value, bool write, const QString &fileName)
+{
+    IniFile file(fileName);
+    if (!write)
+        return file.text(key);
+    file.write(key, value);
+    return {};
+}
+
+int settingsInt(const QString &key, int value, bool write)
+{
+    IniFile file(QString::fromLatin1(kConfigFile));
+    if (!write)
+        return file.text(key).toInt();
+    file.write(key, value);
+    return 0;
+}
+
+QList<QPair<QString, QString>> readAllSettings(const QString &fileName)
+{
+    const IniFile file(fileName);
+    QList<QPair<QString, QString>> settings;
+    for (const QString &key : file.keys())
+        settings.append({key, file.text(key)});
+    return settings;
+}
+
+QString languageSetting(bool write, const QString &code)
+{
+    const QString fileName = QString::fromLatin1(kConfigFile);
+    const QString stored = settingsString(QStringLiteral("General/Language"), code, write, fileName);
+    // The toolkit writes that key under [%General]; somebody editing the file by hand writes [General].
+    return stored.isEmpty() && !write ? settingsString(QStringLiteral("Language"), {}, false, fileName) : stored;
+}

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QList>
+#include <QPair>
+#include <QString>
+
+// Small operations over INI files of the working directory. Every call opens the file and closes it again; nothing is
+// cached. A file that cannot be written is logged and left as it is; one that holds something else than settings is
+// copied to "<name>.bad" before it is first overwritten.
+
+inline constexpr char kConfigFile[] = "config.ini";
+inline constexpr char kDeviceIndexKey[] = "PCSeting/DeviceIndex"; // spelled so in every user's file
+inline constexpr char kRestartKey[] = "SystemMode/Restart";
+
+/// Removes every key of the file. Callers that save a whole list call it first.
+void clearSettingsFile(const QString &fileName);
+
+/// Write: stores value under the key and returns an empty text. Read: the stored text, empty when absent.
+QString settingsString(const QString &key, const QString &value, bool write, const QString &fileName);
+
+/// As settingsString for an integer, always in config.ini. Write returns 0; read the integer, 0 when absent or none.
+int settingsInt(const QString &key, int value, bool write);
+
+/// Every key of the file with its value, sorted by key.
+QList<QPair<QString, QString>> readAllSettings(const QString &fileName);
+
+/// The interface language in config.ini. Write: stores the code and returns an empty text. Read: the stored code, empty
+/// when absent.
+QString languageSetting(bool write, const QString &code = {});

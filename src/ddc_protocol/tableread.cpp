@@ -1,0 +1,141 @@
+#include <optional>
+
+#include <QDebug>
+
+#include "ddc_protocol/transport.h"
+#include "platform/desk.h"
+
+namespace {
+
+constexpr std::uint8_t kNextChunk = 0xFE;
+constexpr std::uint8_t kRepeatChunk = 0xFF;
+constexpr int kChunkSize = 4;
+constexpr int kStepRetries = 5; // a step is tried once more than this
+constexpr platform::milliseconds kPause{250};
+
+/// One table read: its monitor, where its data goes, and the retries that are left to its second step, its third step
+/// and its stream.
+class TableRead
+{
+public:
+    TableRead(platform::PhysicalMonitorHandle monitor, std::uint8_t *buffer) : m_monitor(monitor), m_buffer(buffer) {}
+
+    int run(std::uint8_t a, std::uint8_t b, std::uint8_t c, int length);
+
+private:
+    bool request(std::uint8_t code);
+    bool mayRetry(int &retries);
+    void storeChunk();
+    std::optional<int> open(std::uint8_t a, std::uint8_t b, std::uint8_t c);
+    bool stream(int remaining);
+
+    platform::PhysicalMonitorHandle m_monitor;
+    std::uint8_t *m_buffer;
+    std::uint32_t m_current = 0;
+    std::uint32_t m_maximum = 0;
+    int m_count = 0;
+    int m_secondRetries = kStepRetries;
+    int m_thirdRetries = kStepRetries;
+    int m_streamRetries = kStepRetries;
+};
+
+std::uint32_t lastError()
+{
+    return platform::desk().monitors().lastError();
+}
+
+QString hex(std::uint8_t code)
+{
+    return QString::number(code, 16);
+}
+
+bool TableRead::request(std::uint8_t code)
+{
+    m_current = 0;
+    m_maximum = 0;
+    return m_monitor && platform::desk().monitors().getFeature(m_monitor, code, m_current, m_maximum);
+}
+
+bool TableRead::mayRetry(int &retries)
+{
+    if (retries == 0)
+        return false;
+    --retries;
+    return true;
+}
+
+void TableRead::storeChunk()
+{
+    std::uint8_t *chunk = m_buffer + 2 + m_count;
+    chunk[0] = static_cast<std::uint8_t>(m_maximum >> 8);
+    chunk[1] = static_cast<std::uint8_t>(m_maximum);
+    chunk[2] = static_cast<std::uint8_t>(m_current >> 8);
+    chunk[3] = static_cast<std::uint8_t>(m_current);
+    m_count += kChunkSize;
+}
+
+/// Opens the stream. Nothing when it stands, else the result to fail with.
+std::optional<int> TableRead::open(std::uint8_t a, std::uint8_t b, std::uint8_t c)
+{
+    for (;;) {
+        if (!request(a))
+            qDebug().noquote().nospace() << "ErrorCode 99 " << lastError();
+        if (!request(b)) {
+            if (!mayRetry(m_secondRetries)) {
+                qDebug() << "Fail to retry, errorCode=9922\r";
+                return 0;
+            }
+            qDebug().noquote().nospace() << "Fail to retry, errorCode=22 " << lastError();
+        } else if (request(c)) {
+            return {};
+        } else {
+            if (!mayRetry(m_thirdRetries)) {
+                qDebug().noquote().nospace() << "Faile to retry errorCode= 99 22 " << hex(c) << "\r";
+                return -1;
+            }
+            qDebug().noquote().nospace() << "Fail to retry errorCode= " << hex(c) << " " << lastError();
+        }
+        platform::desk().clock().sleep(kPause);
+    }
+}
+
+bool TableRead::stream(int remaining)
+{
+    std::uint8_t code = kNextChunk;
+    while (remaining > 0) {
+        if (request(code)) {
+            storeChunk();
+            remaining -= kChunkSize;
+            m_streamRetries = kStepRetries;
+            code = kNextChunk;
+            continue;
+        }
+        if (!mayRetry(m_streamRetries)) {
+            qDebug() << "---loop get data error.\r";
+            return false;
+        }
+        platform::desk().clock().sleep(kPause);
+        code = kRepeatChunk;
+    }
+    return true;
+}
+
+int TableRead::run(std::uint8_t a, std::uint8_t b, std::uint8_t c, int length)
+{
+    if (const std::optional<int> failure = open(a, b, c))
+        return *failure;
+    storeChunk();
+    if (!stream(length - kChunkSize))
+        return 0;
+    request(kNextChunk); // closes the stream, whatever the monitor says
+    return m_count;
+}
+
+} // namespace
+
+int DDCCIReadTable(platform::PhysicalMonitorHandle monitor, std::uint8_t a, std::uint8_t b, std::uint8_t c,
+                   std::uint8_t *buffer, int length)
+{
+    const auto lock = lockTransport();
+    return TableRead(monitor, buffer).run(a, b, c, length);
+}

@@ -1,0 +1,188 @@
+#include "ddc_protocol/transport.h"
+
+#include <algorithm>
+
+#include <QDebug>
+
+#include "ddc_protocol/displayenumeration.h"
+#include "platform/desk.h"
+
+using platform::milliseconds;
+
+std::array<std::uint8_t, 9> commandPacket = {};
+std::vector<std::uint8_t> tableBuffer(2);
+std::atomic<std::uint8_t> tableReadLength = 0;
+std::atomic<bool> commandsSuspended = false;
+std::atomic<int> reloadEdidType = kFullRead;
+
+namespace {
+
+constexpr std::uint32_t kNoAnswer = 0xFFFFFFFF;
+constexpr int kWriteAttempts = 2;
+constexpr int kReadAttempts = 5;
+constexpr milliseconds kWritePause{100};
+constexpr milliseconds kReadPause{250};
+constexpr std::size_t kPacketVendorByte = 3;
+constexpr std::size_t kPacketCodeByte = 5;
+
+std::recursive_mutex s_transport;
+std::function<void()> s_reconnect;
+
+QString hex(std::uint32_t number)
+{
+    return QString::number(number, 16);
+}
+
+void pause(milliseconds duration)
+{
+    platform::desk().clock().sleep(duration);
+}
+
+bool request(platform::PhysicalMonitorHandle monitor, std::uint8_t code, std::uint32_t &current, std::uint32_t &maximum)
+{
+    current = 0;
+    maximum = 0;
+    return monitor && platform::desk().monitors().getFeature(monitor, code, current, maximum);
+}
+
+/// The monitor that commands go to. The first search takes any stored index, so it may lie beyond the list; such a
+/// request must fail like a monitor that does not answer.
+platform::PhysicalMonitorHandle selectedMonitor()
+{
+    const std::size_t index = currentMonitorIndex;
+    if (index < monitorList.size())
+        return monitorList[index].handle;
+    qDebug().nospace() << "Monitor index " << index << " is beyond the " << monitorList.size() << " found";
+    return nullptr;
+}
+
+bool writeOnce(std::uint16_t value)
+{
+    for (const std::size_t byte : {kPacketVendorByte, kPacketCodeByte}) {
+        if (SetVcpValue(commandPacket[byte], value))
+            continue;
+        qDebug().noquote().nospace() << "Fail to retry errorCode: 03 " << hex(commandPacket[byte]);
+        return false;
+    }
+    return true;
+}
+
+int readCommand(COMMAND_set_Type command, bool logged)
+{
+    const auto lock = lockTransport();
+    BuildCommandPacket(command, 0);
+    std::uint32_t value = kNoAnswer;
+    for (int attempt = 0; attempt < kReadAttempts; ++attempt) {
+        GetVcpValue(commandPacket[kPacketVendorByte]);
+        value = GetVcpValue(commandPacket[kPacketCodeByte]);
+        if (value < kNoAnswer)
+            break;
+        if (logged)
+            qDebug().noquote().nospace() << "Faile to retry errorCode: 01 99 " << hex(commandPacket[kPacketCodeByte]);
+        pause(kReadPause);
+    }
+    return static_cast<int>(value);
+}
+
+} // namespace
+
+std::unique_lock<std::recursive_mutex> lockTransport()
+{
+    return std::unique_lock(s_transport);
+}
+
+void setReconnectHandler(std::function<void()> handler)
+{
+    const auto lock = lockTransport();
+    s_reconnect = std::move(handler);
+}
+
+int BuildCommandPacket(COMMAND_set_Type command, std::uint16_t value)
+{
+    const CommandRow &row = commandTable[static_cast<std::size_t>(command)];
+    const std::size_t length = (row[2] & 0x7F) + 5u;
+    std::uint8_t checksum = 0;
+    for (std::size_t i = 0; i + 1 < length; ++i) {
+        const bool high = i == length - 3;
+        const bool low = i == length - 2;
+        commandPacket[i] = high ? static_cast<std::uint8_t>(value >> 8) : low ? static_cast<std::uint8_t>(value) : row[i];
+        checksum ^= commandPacket[i];
+    }
+    commandPacket[length - 1] = checksum;
+    return static_cast<int>(length);
+}
+
+std::uint32_t GetVcpValue(std::uint8_t code)
+{
+    const auto lock = lockTransport();
+    if (monitorList.empty())
+        return 0;
+    std::uint32_t current = 0;
+    std::uint32_t maximum = 0;
+    return request(selectedMonitor(), code, current, maximum) ? current : kNoAnswer;
+}
+
+bool SetVcpValue(std::uint8_t code, std::uint32_t value)
+{
+    const auto lock = lockTransport();
+    if (monitorList.empty())
+        return false;
+    const platform::PhysicalMonitorHandle monitor = selectedMonitor();
+    return monitor && platform::desk().monitors().setFeature(monitor, code, value);
+}
+
+bool Korvu_SetCommandVal(COMMAND_set_Type command, std::uint16_t value, std::uint16_t)
+{
+    if (commandsSuspended)
+        return false;
+    std::function<void()> reconnect;
+    {
+        const auto lock = lockTransport();
+        BuildCommandPacket(command, value);
+        for (int attempt = 0; attempt < kWriteAttempts; ++attempt) {
+            if (writeOnce(value))
+                return true;
+            pause(kWritePause);
+        }
+        qDebug().noquote().nospace() << "Write faile, errorCode: 03 99" << hex(commandPacket[kPacketCodeByte]) << "\r";
+        reloadEdidType = kReconnect;
+        reconnect = s_reconnect;
+    }
+    if (reconnect)
+        reconnect();
+    return false;
+}
+
+int Korvu_GetCommandVal(COMMAND_set_Type command, std::uint16_t)
+{
+    return readCommand(command, true);
+}
+
+int Korvu_GetCommandValQuiet(COMMAND_set_Type command, std::uint16_t)
+{
+    return readCommand(command, false);
+}
+
+bool Korvu_GetCommandValMax(COMMAND_set_Type command, std::uint32_t &current, std::uint32_t &maximum)
+{
+    const auto lock = lockTransport();
+    if (monitorList.empty())
+        return false;
+    BuildCommandPacket(command, 0);
+    GetVcpValue(commandPacket[kPacketVendorByte]);
+    request(selectedMonitor(), commandPacket[kPacketCodeByte], current, maximum);
+    return true;
+}
+
+const std::uint8_t *Korvu_ReadCommandTable(COMMAND_set_Type command, std::uint16_t selector, std::uint16_t length)
+{
+    const auto lock = lockTransport();
+    BuildCommandPacket(command, selector);
+    if (monitorList.empty())
+        return nullptr;
+    tableBuffer.assign(2 + std::max<std::size_t>(4, (length + 3u) / 4 * 4), 0);
+    tableReadLength = static_cast<std::uint8_t>(DDCCIReadTable(selectedMonitor(), kVendorCode, commandPacket[kPacketCodeByte],
+                                                               static_cast<std::uint8_t>(selector & 0xFF),
+                                                               tableBuffer.data(), length));
+    return tableBuffer.data() + 2;
+}

@@ -1,0 +1,96 @@
+#include <QDebug>
+#include <QFontDatabase>
+#include <QLocale>
+
+#include "controls/messagebox.h"
+#include "controls/sharedfonts.h"
+#include "ddc_protocol/devicestate.h"
+#include "ddc_protocol/loghandler.h"
+#include "ddc_protocol/settingsstore.h"
+#include "globalapplication.h"
+#include "mainwindow.h"
+#include "platform/deskfactory.h"
+#include "searchdevicedlg.h"
+#include "singleapplication.h"
+
+namespace {
+
+constexpr char kElevatedArgument[] = "runas";
+constexpr std::intptr_t kShellSuccess = 32; // results above it
+constexpr platform::milliseconds kStartUpWait{1000};
+
+/// Whether a copy with administrator rights was started in this one's place.
+bool handedToElevatedCopy(int argc, char **argv)
+{
+    platform::Process &process = platform::desk().process();
+    if (process.isUserAnAdmin())
+        return false;
+    if (argc > 1 && qstrcmp(argv[1], kElevatedArgument) == 0)
+        return false; // this is the copy: asking again would never end
+    return process.shellExecuteRunas(QString::fromLocal8Bit(argv[0]), QLatin1String(kElevatedArgument)) > kShellSuccess;
+}
+
+void loadInterfaceFont()
+{
+    const int id = QFontDatabase::addApplicationFont(QStringLiteral(":/resource/HARMONYOS_SANS_SC_REGULAR.TTF"));
+    if (id == -1) {
+        qDebug() << "Failed to load font.";
+        return;
+    }
+    const QStringList families = QFontDatabase::applicationFontFamilies(id);
+    if (families.isEmpty()) {
+        qDebug() << "Failed to find font family.";
+        return;
+    }
+    QFont font(families.first());
+    font.setPixelSize(18);
+    QApplication::setFont(font);
+}
+
+int runProgram(SingleApplication &application)
+{
+    QApplication::setAttribute(Qt::AA_Use96Dpi); // high-dpi scaling needs no attribute: Qt 6 always scales
+    QApplication::setQuitOnLastWindowClosed(false);
+    loadInterfaceFont();
+    setUpSharedFonts();
+    deviceState.clear();
+
+    SearchDeviceDlg session;
+    session.searchDevices();
+    session.hide();
+
+    MainWindow window(session);
+    QObject::connect(&application, &SingleApplication::anotherInstanceStarted, &window, &MainWindow::showWindow);
+    window.show();
+    platform::desk().mainWindowShown();
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const std::unique_ptr<platform::Desk> desk = platform::createDesk();
+    platform::installDesk(desk.get());
+    if (handedToElevatedCopy(argc, argv))
+        return 0;
+
+    SingleApplication application(argc, argv);
+    qInstallMessageHandler(logMessageHandler);
+    GlobalApplication language;
+    const QString stored = languageSetting(false);
+    language.switchApplicationLanguage(stored.isEmpty() ? QLocale::system().name() : stored);
+    qDebug() << "main...";
+    desk->clock().sleep(kStartUpWait);
+
+    const platform::NamedMutex mutex = desk->process().createMutex(QStringLiteral("QUORVEL"));
+    if (mutex.error == platform::kErrorAlreadyExists) {
+        desk->process().closeHandle(mutex.handle);
+        showMessage(QMessageBox::Information, QObject::tr("Information"), QObject::tr("Application is already running"),
+                    QObject::tr("OK"));
+        return -1;
+    }
+    const int result = runProgram(application);
+    desk->process().closeHandle(mutex.handle);
+    return result;
+}

@@ -1,0 +1,200 @@
+#include "mainwindow.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDebug>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QStackedWidget>
+#include <QSystemTrayIcon>
+#include <QVBoxLayout>
+
+#include "controls/pictures.h"
+#include "controls/sharedfonts.h"
+#include "ddc_protocol/latestvaluesender.h"
+#include "ddc_protocol/transport.h"
+#include "leftbar.h"
+#include "page/Scene/pagescenesetting.h"
+#include "page/emptypage.h"
+#include "searchdevicedlg.h"
+#include "toptabframe.h"
+
+namespace {
+
+MainWindow *s_mainWindow = nullptr;
+
+constexpr int kTopHeight = 72;
+constexpr int kLeftWidth = 232;
+constexpr int kMargin = 24;
+constexpr int kStatusHeight = 40;
+constexpr int kBalloonTime = 10000; // ms
+
+} // namespace
+
+MainWindow *MainWindow::instance()
+{
+    return s_mainWindow;
+}
+
+MainWindow::MainWindow(SearchDeviceDlg &session) : m_session(session)
+{
+    s_mainWindow = this;
+    commandsSuspended = true; // what the construction moves must not reach the monitor
+    buildForm();
+    setWindowTitle(QStringLiteral("QUORVEL"));
+    setUpFrame();
+    initialise();
+    commandsSuspended = false;
+    updateControlText();
+
+    m_barStack->setCurrentIndex(0);
+    for (int family = kSceneFamilies; family < kFamilies; ++family)
+        leftBar(family)->setCurrent(0);
+    showFamily(0);
+    openFamilyOfScene();
+    updateInterface();
+}
+
+MainWindow::~MainWindow()
+{
+    m_session.setHost(nullptr);
+    s_mainWindow = nullptr;
+}
+
+void MainWindow::buildForm()
+{
+    m_sender = new LatestValueSender(this);
+    m_tabs = new TopTabFrame(this);
+    m_barStack = new QStackedWidget(this);
+    m_pages = new QStackedWidget(this);
+    m_status = new QLabel(this);
+    for (int family = 0; family < kFamilies; ++family) {
+        auto *bar = new LeftBar(navigationEntries(family, deviceState), m_barStack);
+        m_bars[static_cast<std::size_t>(family)] = bar;
+        m_barStack->addWidget(bar);
+        connect(bar, &LeftBar::entryChosen, this, [this, family](int index) { chooseEntry(family, index); });
+    }
+    connect(m_tabs, &TopTabFrame::tabChosen, this, &MainWindow::showFamily);
+    connect(m_tabs, &TopTabFrame::minimiseClicked, this, &QWidget::showMinimized);
+    connect(m_tabs, &TopTabFrame::closeClicked, this, &QWidget::close);
+}
+
+void MainWindow::setUpFrame()
+{
+    setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint);
+    setAttribute(Qt::WA_TranslucentBackground);
+    const QPixmap picture = Pictures::load(Pictures::kRoot + QStringLiteral("img/bg.png"), devicePixelRatioF());
+    setPixmap(picture);
+    setScaledContents(true);
+    const QSize size = (QSizeF(picture.size()) / picture.devicePixelRatio()).toSize();
+    setFixedSize(size);
+
+    m_tabs->setGeometry(0, 0, size.width(), kTopHeight);
+    m_barStack->setGeometry(0, kTopHeight, kLeftWidth, size.height() - kTopHeight - kStatusHeight);
+    m_status->setGeometry(kMargin, size.height() - kStatusHeight, kLeftWidth - kMargin, kStatusHeight - 8);
+    m_pages->setGeometry(kLeftWidth + kMargin, kTopHeight + kMargin, size.width() - kLeftWidth - 2 * kMargin,
+                         size.height() - kTopHeight - 2 * kMargin);
+}
+
+void MainWindow::initialise()
+{
+    m_status->setFont(noteFont);
+    m_scenePage = new pageSceneSetting(m_session, *m_sender, m_pages);
+    m_emptyPage = new EmptyPage(m_pages);
+    m_pages->addWidget(m_scenePage);
+    m_pages->addWidget(m_emptyPage);
+    connect(m_scenePage, &pageSceneSetting::modeChangeBegins, this, [this] { setInterfaceMode(0); });
+    connect(m_scenePage, &pageSceneSetting::modeChangeEnded, this, [this] { setInterfaceMode(3); });
+    connect(m_scenePage, &pageSceneSetting::viewShown, this, &MainWindow::followSceneMode);
+    createTrayIcon();
+    m_session.setHost(this);
+}
+
+void MainWindow::createTrayIcon()
+{
+    if (!QSystemTrayIcon::isSystemTrayAvailable()) {
+        qDebug() << "SystemTray not available";
+        return;
+    }
+    m_tray = new QSystemTrayIcon(QIcon(Pictures::kRoot + QStringLiteral("app.ico")), this);
+    m_tray->setToolTip(QStringLiteral("QUORVEL"));
+    auto *menu = new QMenu(this);
+    menu->setStyleSheet(QStringLiteral("QMenu { background-color: #161d1a; color: #c9c9c9; border: 1px solid #1b5043; }"
+                                       "QMenu::item { padding: 6px 24px; } QMenu::item:selected { background: #1b5043; }"));
+    menu->addAction(QObject::tr("Show"), this, &MainWindow::showWindow);
+    menu->addAction(QObject::tr("Exit"), qApp, &QCoreApplication::quit);
+    m_tray->setContextMenu(menu);
+    connect(m_tray, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
+        if (reason != QSystemTrayIcon::Context)
+            showWindow();
+    });
+    m_tray->show();
+}
+
+void MainWindow::showFamily(int family)
+{
+    m_family = family;
+    m_tabs->setCurrent(family);
+    m_barStack->setCurrentIndex(family);
+    showEntryPage(family);
+}
+
+void MainWindow::showEntryPage(int family)
+{
+    if (family < kSceneFamilies) {
+        m_pages->setCurrentWidget(m_scenePage);
+        return;
+    }
+    const LeftBar *bar = leftBar(family);
+    m_emptyPage->setEntry(bar->entries()[static_cast<std::size_t>(bar->current())].label);
+    m_pages->setCurrentWidget(m_emptyPage);
+}
+
+void MainWindow::chooseEntry(int family, int index)
+{
+    const NavigationEntry &entry = leftBar(family)->entries()[static_cast<std::size_t>(index)];
+    if (entry.sceneValue != 0)
+        m_scenePage->chooseScene(entry.sceneValue);
+    showEntryPage(family);
+}
+
+void MainWindow::followSceneMode()
+{
+    for (int family = 0; family < kSceneFamilies; ++family)
+        leftBar(family)->setCurrentScene(deviceState.value(Command::SceneMode));
+}
+
+void MainWindow::showWindow()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    hide();
+    event->ignore();
+    if (m_tray)
+        m_tray->showMessage(QStringLiteral("QUORVEL"), QObject::tr("Background running"), QSystemTrayIcon::Information,
+                            kBalloonTime);
+}
+
+void MainWindow::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        m_dragStart = event->globalPosition().toPoint() - pos();
+}
+
+void MainWindow::mouseMoveEvent(QMouseEvent *event)
+{
+    if (m_dragStart && event->buttons().testFlag(Qt::LeftButton))
+        move(event->globalPosition().toPoint() - *m_dragStart);
+}
+
+void MainWindow::mouseReleaseEvent(QMouseEvent *)
+{
+    m_dragStart.reset();
+}

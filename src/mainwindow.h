@@ -1,0 +1,87 @@
+#pragma once
+
+#include <array>
+#include <optional>
+
+#include <QLabel>
+
+#include "navigation.h"
+#include "sessionhost.h"
+
+class EmptyPage;
+class LatestValueSender;
+class LeftBar;
+class QStackedWidget;
+class QSystemTrayIcon;
+class SearchDeviceDlg;
+class TopTabFrame;
+class pageSceneSetting;
+
+/// The program's one top-level window: tabs, left bars and pages. Closing hides it; "Exit" in the tray ends the program.
+class MainWindow : public QLabel, public SessionHost
+{
+    Q_OBJECT
+public:
+    explicit MainWindow(SearchDeviceDlg &session);
+    ~MainWindow() override;
+
+    /// The one main window; null before it exists.
+    static MainWindow *instance();
+
+    /// What pages switch around long work: 0 nothing can be chosen, 1 everything can, 3 as 1 and the model's say on the
+    /// current bar, 4 the busy mode of the accessory, 5 its end.
+    void setInterfaceMode(int code);
+
+    void updateControlText();
+
+    void refreshPages() override;
+    void reconnectPages() override;
+    void updateInterface() override;
+    void hideWindow() override { hide(); }
+    void showWindow() override;
+    void deviceArrived() override;
+    void deviceRemoved() override;
+
+    TopTabFrame *tabs() const { return m_tabs; }
+    LeftBar *leftBar(int family) const { return m_bars[static_cast<std::size_t>(family)]; }
+    pageSceneSetting *scenePage() const { return m_scenePage; }
+    QSystemTrayIcon *trayIcon() const { return m_tray; }
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+
+private Q_SLOTS:
+    void showFamily(int family);
+
+private:
+    void buildForm();
+    void setUpFrame();
+    void initialise();
+    void createTrayIcon();
+    void chooseEntry(int family, int index);
+    void showEntryPage(int family);
+    void followSceneMode();
+    void openFamilyOfScene();
+    void decideEntriesByModel();
+    void setAccessoryBusy(bool busy);
+    void checkMonitor();
+    bool rereadSceneMode();
+
+    SearchDeviceDlg &m_session;
+    LatestValueSender *m_sender = nullptr;
+    TopTabFrame *m_tabs = nullptr;
+    QStackedWidget *m_barStack = nullptr;
+    std::array<LeftBar *, kFamilies> m_bars = {};
+    QStackedWidget *m_pages = nullptr;
+    pageSceneSetting *m_scenePage = nullptr;
+    EmptyPage *m_emptyPage = nullptr;
+    QLabel *m_status = nullptr;
+    QSystemTrayIcon *m_tray = nullptr; ///< null where there is no tray
+    int m_family = 0;
+    bool m_monitorAnswers = true;
+    bool m_checkWaiting = false;
+    std::optional<QPoint> m_dragStart; ///< where the window was taken hold of
+};

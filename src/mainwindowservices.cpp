@@ -1,0 +1,140 @@
+// What the main window does for the session and the pages: refreshing, interface modes, the monitor's state.
+
+#include <QStackedWidget>
+
+#include "controls/lefttabbutton.h"
+#include "ddc_protocol/displayenumeration.h"
+#include "ddc_protocol/latestvaluesender.h"
+#include "ddc_protocol/scenemodes.h"
+#include "ddc_protocol/transport.h"
+#include "leftbar.h"
+#include "mainwindow.h"
+#include "page/Scene/pagescenesetting.h"
+#include "page/emptypage.h"
+#include "platform/desk.h"
+#include "searchdevicedlg.h"
+#include "toptabframe.h"
+
+namespace {
+
+enum InterfaceMode { kLocked = 0, kUnlocked = 1, kByModel = 3, kBusy = 4, kBusyEnded = 5 };
+
+constexpr platform::milliseconds kRemovalSettles{300}; // one unplugging is told several times
+
+} // namespace
+
+void MainWindow::refreshPages()
+{
+    m_sender->drain(); // or a drag's last value would fall into the suspension and be lost
+    commandsSuspended = true;
+    m_scenePage->updateInterfaceData();
+    commandsSuspended = false;
+    updateControlText();
+}
+
+void MainWindow::updateControlText()
+{
+    m_tabs->updateControlText();
+    for (LeftBar *bar : m_bars)
+        bar->updateControlText();
+    m_scenePage->updateControlText();
+    m_emptyPage->updateControlText();
+    updateInterface();
+}
+
+void MainWindow::updateInterface()
+{
+    const QByteArray label = m_session.labels().value(currentMonitorIndex.load());
+    const QString state = label.isEmpty()    ? QObject::tr("no monitor")
+                          : m_monitorAnswers ? QObject::tr("connected")
+                                             : QObject::tr("no answer");
+    const bool good = !label.isEmpty() && m_monitorAnswers;
+    m_status->setText(QStringLiteral("<span style='color:%1'>●</span> <span style='color:#adadad'>%2 · %3</span>")
+                          .arg(good ? QStringLiteral("#00ff71") : QStringLiteral("#da676d"),
+                               label.isEmpty() ? QStringLiteral("–") : QString::fromUtf8(label).toHtmlEscaped(), state));
+    m_status->setAccessibleName(QString::fromUtf8(label) + QLatin1Char(' ') + state);
+}
+
+void MainWindow::reconnectPages()
+{
+    m_monitorAnswers = rereadSceneMode();
+    refreshPages();
+}
+
+/// One request instead of a patient read: a monitor that is silent must not hold up the window.
+bool MainWindow::rereadSceneMode()
+{
+    std::uint32_t mode = 0;
+    std::uint32_t maximum = 0;
+    Korvu_GetCommandValMax(readRow(Command::SceneMode), mode, maximum);
+    if (mode < 1 || mode > kHighestSceneMode)
+        return false;
+    const int value = static_cast<int>(mode);
+    if (value != deviceState.value(Command::SceneMode))
+        deviceState.invalidateSceneBlock();
+    deviceState.store(Command::SceneMode, value);
+    deviceState.lastSceneModeSent = value;
+    return value % 2 != 0 || deviceState.sceneBlockValid() || m_session.readSceneModeData(value);
+}
+
+void MainWindow::deviceArrived()
+{
+    updateInterface();
+}
+
+void MainWindow::deviceRemoved()
+{
+    if (m_checkWaiting)
+        return;
+    m_checkWaiting = true;
+    platform::desk().clock().callLater(kRemovalSettles, this, [this] { checkMonitor(); });
+}
+
+void MainWindow::checkMonitor()
+{
+    m_checkWaiting = false;
+    std::uint32_t mode = 0;
+    std::uint32_t maximum = 0;
+    Korvu_GetCommandValMax(readRow(Command::SceneMode), mode, maximum);
+    m_monitorAnswers = mode != 0;
+    updateInterface();
+}
+
+void MainWindow::openFamilyOfScene()
+{
+    followSceneMode();
+    if (const auto family = familyOfSceneValue(deviceState.value(Command::SceneMode)))
+        showFamily(static_cast<int>(*family));
+}
+
+void MainWindow::setInterfaceMode(int code)
+{
+    const bool enabled = code != kLocked;
+    m_tabs->setTabsEnabled(enabled);
+    for (LeftBar *bar : m_bars) {
+        for (LeftTabButton *button : bar->buttons())
+            button->setEnabled(enabled);
+    }
+    m_pages->setEnabled(enabled);
+    if (code == kByModel)
+        decideEntriesByModel();
+    else if (code == kBusy || code == kBusyEnded)
+        setAccessoryBusy(code == kBusy);
+}
+
+/// Entries that need a function of the monitor can be chosen only where it has it.
+void MainWindow::decideEntriesByModel()
+{
+    const LeftBar *bar = leftBar(m_family);
+    for (std::size_t i = 1; i < bar->entries().size() && i <= 2; ++i) {
+        const auto &needs = bar->entries()[i].needs;
+        bar->buttons()[i]->setSelectable(!needs || deviceState.has(*needs));
+    }
+}
+
+void MainWindow::setAccessoryBusy(bool busy)
+{
+    const LeftBar *bar = leftBar(kAccessoryFamily);
+    for (std::size_t i = 0; i < bar->buttons().size(); ++i)
+        bar->buttons()[i]->setEnabled(!busy || static_cast<int>(i) == bar->current());
+}

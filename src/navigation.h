@@ -1,0 +1,30 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "ddc_protocol/devicestate.h"
+
+/// One entry of a left bar.
+struct NavigationEntry {
+    const char *label; ///< source text
+    const char *icon;  ///< picture name under img/entry/
+    int sceneValue = 0; ///< the scene mode that the entry switches to; 0 for an entry that opens a page
+    std::optional<Capability> needs = {}; ///< can be chosen only on monitors that have it
+};
+
+/// One tab of the window.
+struct NavigationFamily {
+    const char *label;
+    const char *icon; ///< picture name under img/tab/
+};
+
+inline constexpr int kFamilies = 9;
+inline constexpr int kSceneFamilies = 4; ///< the first families show scene modes
+inline constexpr int kAccessoryFamily = 7;
+
+std::span<const NavigationFamily, kFamilies> navigationFamilies();
+
+/// The entries of a family's left bar, 0 to 8, for the connected monitor.
+std::vector<NavigationEntry> navigationEntries(int family, const DeviceState &state);

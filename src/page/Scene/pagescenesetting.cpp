@@ -1,0 +1,221 @@
+#include "page/Scene/pagescenesetting.h"
+
+#include <QButtonGroup>
+#include <QFile>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+#include "controls/pictures.h"
+#include "controls/sharedfonts.h"
+#include "ddc_protocol/latestvaluesender.h"
+#include "ddc_protocol/scenemodes.h"
+#include "page/Scene/scenetable.h"
+#include "page/Scene/workthread.h"
+#include "page/engine/halfbutton.h"
+
+// The leading blanks are part of the two labels.
+static const char *const kDefaultLabel = QT_TRANSLATE_NOOP("QObject", "        Default");
+static const char *const kCustomLabel = QT_TRANSLATE_NOOP("QObject", "        Custom");
+
+pageSceneSetting::pageSceneSetting(SearchDeviceDlg &session, LatestValueSender &sender, QWidget *parent)
+    : SettingsPage(sender, parent), m_worker(new WorkThread(session, this)), m_areas(new QStackedWidget(this))
+{
+    setObjectName(QStringLiteral("pageSceneSetting"));
+    QFile style(QStringLiteral(":/resource/css/page_scene_mode.css"));
+    if (style.open(QIODevice::ReadOnly))
+        setStyleSheet(QString::fromUtf8(style.readAll()));
+
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(24, 16, 24, 16);
+    column->setSpacing(16);
+    column->addWidget(buildHeader());
+    m_areas->addWidget(buildDefaultArea());
+    m_areas->addWidget(buildCustomArea());
+    column->addWidget(m_areas, 1);
+
+    addRules();
+    connect(m_worker, &QThread::finished, this, &pageSceneSetting::onWorkFinished);
+    showHalf(deviceState.value(Command::SceneMode) % 2 != 0);
+    updateInterfaceData();
+}
+
+pageSceneSetting::~pageSceneSetting()
+{
+    m_worker->wait();
+}
+
+QWidget *pageSceneSetting::buildHeader()
+{
+    auto *header = new QWidget(this);
+    m_title = new QLabel(header);
+    m_title->setObjectName(QStringLiteral("title"));
+    m_title->setFont(titleFont);
+    m_note = new QLabel(header);
+    m_note->setObjectName(QStringLiteral("note"));
+    m_note->setFont(noteFont);
+    m_defaultButton = makeHalfButton(kDefaultLabel, texts(), header);
+    m_customButton = makeHalfButton(kCustomLabel, texts(), header);
+
+    auto *halves = new QButtonGroup(this);
+    auto *grid = new QGridLayout(header);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(0);
+    grid->addWidget(m_title, 0, 0);
+    grid->addWidget(m_note, 1, 0);
+    grid->setColumnStretch(0, 1);
+    for (QPushButton *half : {m_defaultButton, m_customButton}) {
+        halves->addButton(half);
+        grid->addWidget(half, 0, grid->columnCount(), 2, 1);
+        connect(half, &QPushButton::clicked, this, &pageSceneSetting::onHalfClicked);
+    }
+    return header;
+}
+
+QWidget *pageSceneSetting::buildDefaultArea()
+{
+    auto *area = new QWidget(this);
+    m_defaultIcon = new QLabel(area);
+    m_defaultText = new QLabel(area);
+    m_defaultText->setObjectName(QStringLiteral("note"));
+    m_defaultText->setFont(noteFont);
+    m_defaultText->setAlignment(Qt::AlignCenter);
+    auto *column = new QVBoxLayout(area);
+    column->setSpacing(16);
+    column->addStretch(2);
+    column->addWidget(m_defaultIcon, 0, Qt::AlignHCenter);
+    column->addWidget(m_defaultText);
+    column->addStretch(3);
+    return area;
+}
+
+QWidget *pageSceneSetting::buildCustomArea()
+{
+    m_customArea = new QWidget(this);
+    m_customArea->setObjectName(QStringLiteral("customArea"));
+    auto *column = new QVBoxLayout(m_customArea);
+    column->setContentsMargins(0, 0, 16, 0);
+    column->setSpacing(18);
+    buildSections(sceneSections(), column);
+    column->addStretch(1);
+
+    auto *scroll = new QScrollArea(this);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setWidget(m_customArea);
+    return scroll;
+}
+
+void pageSceneSetting::addRules()
+{
+    beforeSending(Command::ColorTemperature, [this](int value) { followColorTemperature(value); });
+    afterSending(Command::ColorEnhance, [this](int) { enableSaturation(); });
+    // A Sharpness that the monitor did not take leaves the block in doubt, until it is read again.
+    onResult(Command::Sharpness, [](int value, bool ok) { deviceState.store(Command::Sharpness, ok ? value : kBlockNotValid); });
+    for (int channel = 0; channel < 3; ++channel) {
+        chooseCommand(kUserColourSliders[channel], [this, channel]() -> std::optional<Command> {
+            if (m_userColourSlot == 0)
+                return {};
+            return kUserColours[m_userColourSlot - 1][channel];
+        });
+    }
+}
+
+void pageSceneSetting::onHalfClicked()
+{
+    const QString text = qobject_cast<QPushButton *>(QObject::sender())->text();
+    if (text == QObject::tr(kDefaultLabel))
+        switchHalf(true);
+    else if (text == QObject::tr(kCustomLabel))
+        switchHalf(false);
+}
+
+void pageSceneSetting::showHalf(bool defaultView)
+{
+    m_defaultView = defaultView;
+    m_defaultButton->setChecked(defaultView);
+    m_customButton->setChecked(!defaultView);
+    m_areas->setCurrentIndex(defaultView ? 0 : 1);
+    showTitle();
+    Q_EMIT viewShown(defaultView);
+}
+
+void pageSceneSetting::switchHalf(bool defaultView)
+{
+    const int value = deviceState.value(Command::SceneMode);
+    const bool isOdd = value % 2 != 0;
+    const int wanted = defaultView == isOdd ? value : defaultView ? value - 1 : value + 1;
+    deviceState.store(Command::SceneMode, wanted);
+    showHalf(defaultView);
+
+    const bool changed = wanted != deviceState.lastSceneModeSent;
+    if (deviceState.sceneBlockValid()) {
+        if (changed)
+            sendSceneMode();
+        fillCustomArea();
+        return;
+    }
+    Q_EMIT modeChangeBegins();
+    if (changed) {
+        sender().drain();
+        deviceState.lastSceneModeSent = wanted;
+        m_worker->start();
+    } else {
+        Q_EMIT modeChangeEnded();
+    }
+}
+
+void pageSceneSetting::sendSceneMode()
+{
+    const int value = deviceState.value(Command::SceneMode);
+    send(Command::SceneMode, value);
+    deviceState.lastSceneModeSent = value;
+}
+
+void pageSceneSetting::onWorkFinished()
+{
+    showHalf(m_defaultView);
+    fillCustomArea();
+    Q_EMIT modeChangeEnded();
+}
+
+void pageSceneSetting::chooseScene(int value)
+{
+    const SceneMode *wanted = sceneModeOf(value);
+    if (!wanted || wanted == sceneModeOf(deviceState.value(Command::SceneMode)))
+        return;
+    sender().drain(); // a drag's last value belongs to the mode that is left
+    deviceState.invalidateSceneBlock();
+    deviceState.store(Command::SceneMode, wanted->value);
+    showHalf(true);
+    sendSceneMode();
+}
+
+void pageSceneSetting::showTitle()
+{
+    const SceneMode *mode = sceneModeOf(deviceState.value(Command::SceneMode));
+    m_title->setText(mode ? QObject::tr(mode->label) : QObject::tr("Scene"));
+    m_note->setText(m_defaultView ? QObject::tr("The picture as the factory set it.")
+                                  : QObject::tr("Your own picture. Changes are sent to the monitor as you make them."));
+    m_defaultText->setText((mode ? QObject::tr(mode->hint) + QLatin1Char('\n') : QString())
+                           + QObject::tr("Choose Custom to make it your own."));
+    const QString icon = QStringLiteral("img/entry/%1_checked.png").arg(QLatin1String(mode ? mode->icon : "standard"));
+    const QPixmap picture = Pictures::load(Pictures::kRoot + icon, 2.0);
+    m_defaultIcon->setPixmap(picture.scaled(picture.size() * 2, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+}
+
+void pageSceneSetting::updateInterfaceData()
+{
+    showHalf(deviceState.value(Command::SceneMode) % 2 != 0);
+    fillCustomArea();
+}
+
+void pageSceneSetting::updateControlText()
+{
+    SettingsPage::updateControlText();
+    showTitle();
+}

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "page/engine/settingspage.h"
+
+class QPushButton;
+class QScrollArea;
+class QStackedWidget;
+class SearchDeviceDlg;
+class WorkThread;
+
+/// Edits the picture of the scene mode that is on: its factory half, and the half with the user's own parameters.
+class pageSceneSetting : public SettingsPage
+{
+    Q_OBJECT
+public:
+    pageSceneSetting(SearchDeviceDlg &session, LatestValueSender &sender, QWidget *parent = nullptr);
+    ~pageSceneSetting() override;
+
+    /// Switches the monitor to a mode, by its odd value. A mode that is on already, in either half, is left alone.
+    void chooseScene(int value);
+
+    bool isDefaultView() const { return m_defaultView; }
+
+    void updateInterfaceData() override;
+    void updateControlText() override;
+
+Q_SIGNALS:
+    /// A slow change of mode begins, and has ended: the window keeps the user's hands off in between.
+    void modeChangeBegins();
+    void modeChangeEnded();
+
+    /// Which half is shown now.
+    void viewShown(bool defaultView);
+
+private Q_SLOTS:
+    void onHalfClicked();
+    void onWorkFinished();
+
+private:
+    QWidget *buildHeader();
+    QWidget *buildDefaultArea();
+    QWidget *buildCustomArea();
+    void addRules();
+
+    void showHalf(bool defaultView);
+    void switchHalf(bool defaultView);
+    void sendSceneMode();
+    void fillCustomArea();
+    void showTitle();
+
+    void followColorTemperature(int value);
+    void enableTemperatureSliders(int value);
+    void fillUserColours(int value);
+    void enableForScene();
+    void enableSaturation();
+
+    WorkThread *m_worker;
+    QLabel *m_title = nullptr;
+    QLabel *m_note = nullptr;
+    QLabel *m_defaultIcon = nullptr;
+    QLabel *m_defaultText = nullptr;
+    QPushButton *m_defaultButton = nullptr;
+    QPushButton *m_customButton = nullptr;
+    QStackedWidget *m_areas = nullptr;
+    QWidget *m_customArea = nullptr;
+    bool m_defaultView = true;
+    int m_userColourSlot = 0; ///< which user preset the R, G, B sliders edit; 0 none
+};

@@ -1,0 +1,103 @@
+#include "page/Scene/scenetable.h"
+
+#include <QString>
+
+#define LABEL(text) QT_TRANSLATE_NOOP("QObject", text)
+
+namespace {
+
+constexpr int kWideCaption = 150;
+constexpr int kNarrowCaption = 52;
+
+constexpr SliderSpec kPictureSliders[] = {
+    {"Brightness", LABEL("Brightness"), Command::Brightness, 0, 100},
+    {"CR Enhance", LABEL("CR Enhance"), Command::ContrastEnhance, 0, 5, SendOn::Release},
+    {"Contrast", LABEL("Contrast"), Command::Contrast, 0, 100},
+    {"Super Resolution", LABEL("Super Resolution"), Command::SuperResolution, 0, 5, SendOn::Release},
+    {"Sharpness", LABEL("Sharpness"), Command::Sharpness, 0, 8},
+    {"Black Level", LABEL("Black Level"), Command::BlackLevel, 0, 100, SendOn::Release},
+    {"Color Enchance", LABEL("Color Enchance"), Command::ColorEnhance, 0, 10, SendOn::Release},
+    {"Low Blue Light", LABEL("Low Blue Light"), Command::LowBlueLight, 0, 4},
+    {"Halo Control", LABEL("Halo Control"), Command::HaloControl, 0, 100, SendOn::Release, Accent::Mint,
+     Capability::HaloControl},
+};
+
+constexpr Option kGamma[] = {
+    {LABEL("1.6"), 0}, {LABEL("1.8"), 1}, {LABEL("2.0"), 2},     {LABEL("2.2"), 3},
+    {LABEL("2.4"), 4}, {LABEL("2.6"), 5}, {LABEL("CAD/CAM"), 7}, // 6 is sRGB, which has no button
+};
+constexpr Option kGrayResponse[] = {
+    {LABEL("Close"), 0}, {LABEL("Level1"), 1}, {LABEL("Level2"), 2}, {LABEL("Level3"), 3}, {LABEL("Topspeed"), 4}};
+constexpr Option kLightSensor[] = {{LABEL("Close"), 0}, {LABEL("Open"), 1}};
+
+// The monitor numbers these two from 2: 0 and 1 belong to other models.
+constexpr Option kLocalDimming[] = {
+    {LABEL("Close"), 2}, {LABEL("Low"), 3}, {LABEL("Smooth"), 4}, {LABEL("Medium"), 5}, {LABEL("Strong"), 6}};
+constexpr Option kMotionTech[] = {
+    {LABEL("Close"), 2},      {LABEL("Low"), 3},        {LABEL("Medium"), 4},    {LABEL("High"), 5},
+    {LABEL("Ull-Level1"), 6}, {LABEL("Ull-Level2"), 7}, {LABEL("Ull-Level3"), 8}};
+
+constexpr Option kColorTemperature[] = {
+    {LABEL("5000K"), 0}, {LABEL("5500K"), 1}, {LABEL("6300K"), 2},          {LABEL("6500K"), 3},
+    {LABEL("7000K"), 4}, {LABEL("7500K"), 5}, {LABEL("9300K"), 6},          {LABEL("Night View C.T"), 7},
+    {LABEL("User1"), 8}, {LABEL("User2"), 9}, {LABEL("User3"), 10},
+};
+
+constexpr SliderSpec kNightView[] = {
+    {kNightViewSlider, LABEL("Night View C.T"), Command::NightViewTemperature, 0, 100, SendOn::Release}};
+
+// These three go to the preset that is chosen; the page picks the command.
+constexpr SliderSpec kUserSliders[] = {
+    {"UserR", LABEL("UserR"), Command::User1Red, 0, 100, SendOn::Move, Accent::Red},
+    {"UserG", LABEL("UserG"), Command::User1Green, 0, 100, SendOn::Move, Accent::Green},
+    {"UserB", LABEL("UserB"), Command::User1Blue, 0, 100, SendOn::Move, Accent::Blue},
+};
+
+constexpr SliderSpec kSaturation[] = {
+    {"Saturation_R", LABEL("R"), Command::SaturationRed, 0, 100, SendOn::Move, Accent::Red},
+    {"Saturation_Y", LABEL("Y"), Command::SaturationYellow, 0, 100, SendOn::Move, Accent::Yellow},
+    {"Saturation_G", LABEL("G"), Command::SaturationGreen, 0, 100, SendOn::Move, Accent::Green},
+    {"Saturation_C", LABEL("C"), Command::SaturationCyan, 0, 100, SendOn::Move, Accent::Cyan},
+    {"Saturation_B", LABEL("B"), Command::SaturationBlue, 0, 100, SendOn::Move, Accent::Blue},
+    {"Saturation_M", LABEL("M"), Command::SaturationMagenta, 0, 100, SendOn::Move, Accent::Magenta},
+};
+
+constexpr SliderSpec kHue[] = {
+    {"Hue_R", LABEL("R"), Command::HueRed, 0, 100, SendOn::Move, Accent::Red},
+    {"Hue_Y", LABEL("Y"), Command::HueYellow, 0, 100, SendOn::Move, Accent::Yellow},
+    {"Hue_G", LABEL("G"), Command::HueGreen, 0, 100, SendOn::Move, Accent::Green},
+    {"Hue_C", LABEL("C"), Command::HueCyan, 0, 100, SendOn::Move, Accent::Cyan},
+    {"Hue_B", LABEL("B"), Command::HueBlue, 0, 100, SendOn::Move, Accent::Blue},
+    {"Hue_M", LABEL("M"), Command::HueMagenta, 0, 100, SendOn::Move, Accent::Magenta},
+};
+
+const Section kSections[] = {
+    SliderGrid{nullptr, 2, kWideCaption, kPictureSliders},
+    OptionGroup{LABEL("Gama"), Command::Gamma, kGamma},
+    OptionGroup{LABEL("Gray Response"), Command::GrayResponse, kGrayResponse},
+    OptionGroup{LABEL("Light Sensor"), Command::LightSensor, kLightSensor},
+    OptionGroup{LABEL("Localdimming"), Command::LocalDimming, kLocalDimming, Capability::LocalDimming},
+    OptionGroup{LABEL("DyDs TECH"), Command::MotionTech, kMotionTech},
+    OptionGroup{LABEL("Color Temperature"), Command::ColorTemperature, kColorTemperature},
+    SliderGrid{nullptr, 2, kWideCaption, kNightView},
+    SliderGrid{nullptr, 3, kNarrowCaption, kUserSliders},
+    SliderGrid{LABEL("Color Saturation"), 3, kNarrowCaption, kSaturation},
+    SliderGrid{LABEL("Hue"), 3, kNarrowCaption, kHue},
+};
+
+} // namespace
+
+std::span<const Section> sceneSections()
+{
+    return kSections;
+}
+
+bool isHueSlider(const QString &name)
+{
+    return name.startsWith(QLatin1String("Hue_"));
+}
+
+bool isSaturationSlider(const QString &name)
+{
+    return name.startsWith(QLatin1String("Saturation_"));
+}

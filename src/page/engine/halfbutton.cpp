@@ -1,0 +1,39 @@
+#include "page/engine/halfbutton.h"
+
+#include <QPushButton>
+
+#include "page/engine/boundtexts.h"
+
+namespace {
+
+constexpr int kPixels = 15;
+
+const char *const kStyle =
+    "QPushButton { border-image: url(%1normal.png); color: #adadad; padding-right: %2px; }"
+    "QPushButton:hover { border-image: url(%1hover.png); }"
+    "QPushButton:checked { border-image: url(%1checked.png); color: #0c100e; }"
+    "QPushButton:focus { border-image: url(%1focus.png); }"
+    "QPushButton:checked:focus { border-image: url(%1checkedfocus.png); }";
+
+} // namespace
+
+QPushButton *makeHalfButton(const char *label, BoundTexts &texts, QWidget *parent)
+{
+    auto *button = new QPushButton(parent);
+    button->setFixedSize(128, 40);
+    button->setCheckable(true);
+    button->setFocusPolicy(Qt::TabFocus);
+    QFont font = button->font();
+    font.setPixelSize(kPixels);
+    button->setFont(font);
+    texts.bind(label, [button](const QString &text) {
+        button->setText(text);
+        button->setAccessibleName(text.trimmed());
+        // The blanks before the label are balanced behind it, so that the word stands in the middle.
+        const qsizetype blanks = text.size() - QStringView(text).trimmed().size();
+        const int width = QFontMetrics(button->font()).horizontalAdvance(QString(blanks, QLatin1Char(' ')));
+        button->setStyleSheet(
+            QString::fromLatin1(kStyle).arg(QStringLiteral(":/resource/img/option/selector_"), QString::number(width)));
+    });
+    return button;
+}

@@ -1,0 +1,105 @@
+#include "page/engine/optiongrouprow.h"
+
+#include <QButtonGroup>
+#include <QHBoxLayout>
+#include <QPushButton>
+
+#include "controls/captionlabel.h"
+#include "page/engine/boundtexts.h"
+#include "page/engine/flowlayout.h"
+
+namespace {
+
+constexpr int kCaptionWidth = 150;
+constexpr int kCaptionPixels = 15;
+constexpr int kButtonPixels = 14;
+constexpr int kButtonHeight = 34;
+constexpr int kTextMargin = 10; // on either side of a button's text
+constexpr int kSpacing = 8;
+
+struct ButtonSize {
+    int width;
+    const char *pictures;
+};
+constexpr ButtonSize kButtonSizes[] = {{78, "small"}, {124, "big"}, {196, "wide"}};
+
+// Four states by picture, in the order normal, hover, checked, disabled; then the keyboard focus and the text colours.
+const char *const kPictureStyle = "QPushButton { border-image: url(%1);}QPushButton:hover { border-image: url(%2);}"
+                                  "QPushButton:checked { border-image: url(%3);}"
+                                  "QPushButton:disabled { border-image: url(%4);}";
+const char *const kTextStyle = "QPushButton:focus { border-image: url(%1);}QPushButton:checked:focus { border-image: url(%2);}"
+                               "QPushButton { color: #c9c9c9; }QPushButton:checked { color: #0c100e; }"
+                               "QPushButton:disabled { color: #696969; }";
+
+QString picture(const char *size, const char *state)
+{
+    return QStringLiteral(":/resource/img/option/%1_%2.png").arg(QLatin1String(size), QLatin1String(state));
+}
+
+} // namespace
+
+void dressOptionButton(QPushButton *button)
+{
+    QFont font = button->font();
+    font.setPixelSize(kButtonPixels);
+    button->setFont(font);
+    const int needed = QFontMetrics(font).horizontalAdvance(button->text()) + 2 * kTextMargin;
+    const ButtonSize *size = kButtonSizes;
+    while (size != std::end(kButtonSizes) - 1 && size->width < needed)
+        ++size;
+    button->setFixedSize(size->width, kButtonHeight);
+    const char *name = size->pictures;
+    button->setStyleSheet(QString::fromLatin1(kPictureStyle)
+                              .arg(picture(name, "normal"), picture(name, "hover"), picture(name, "checked"),
+                                   picture(name, "disabled"))
+                          + QString::fromLatin1(kTextStyle).arg(picture(name, "focus"), picture(name, "checkedfocus")));
+}
+
+OptionGroupRow::OptionGroupRow(const OptionGroup &group, BoundTexts &texts, QWidget *parent)
+    : QWidget(parent), m_group(group), m_exclusive(new QButtonGroup(this))
+{
+    auto *caption = new CaptionLabel(QString(), kCaptionPixels, this);
+    caption->setFixedSize(kCaptionWidth, kButtonHeight);
+    texts.bind(group.label, [caption](const QString &text) { caption->setText(text); });
+    caption->setStyleSheet(QStringLiteral("QLabel { color: #FFFFFF; }QLabel:disabled { color: #000; }"));
+
+    auto *flow = new FlowLayout(kSpacing);
+    for (const Option &option : group.options) {
+        auto *button = new QPushButton(this);
+        button->setObjectName(QStringLiteral("%1_%2").arg(QLatin1String(group.label), QLatin1String(option.label)));
+        button->setCheckable(true);
+        button->setFocusPolicy(Qt::TabFocus);
+        texts.bind(option.label, [button, label = group.label](const QString &text) {
+            button->setText(text);
+            button->setAccessibleName(QStringLiteral("%1: %2").arg(QObject::tr(label), text));
+            dressOptionButton(button);
+        });
+        m_exclusive->addButton(button);
+        connect(button, &QPushButton::clicked, this, [this, button] { Q_EMIT optionClicked(button); });
+        m_buttons.push_back(button);
+        flow->addWidget(button);
+    }
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(kSpacing);
+    row->addWidget(caption, 0, Qt::AlignTop);
+    row->addLayout(flow, 1);
+}
+
+QPushButton *OptionGroupRow::buttonOf(int value) const
+{
+    for (std::size_t i = 0; i < m_buttons.size(); ++i) {
+        if (m_group.options[i].value == value)
+            return m_buttons[i];
+    }
+    return nullptr;
+}
+
+void OptionGroupRow::showValue(std::optional<int> value)
+{
+    QPushButton *chosen = value ? buttonOf(*value) : nullptr;
+    m_exclusive->setExclusive(false); // else the last checked button could not be released
+    for (QPushButton *button : m_buttons)
+        button->setChecked(button == chosen);
+    m_exclusive->setExclusive(true);
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <vector>
+
+#include <QPushButton>
+#include <QWidget>
+
+#include "page/engine/pagetable.h"
+
+class BoundTexts;
+class CaptionLabel;
+class QButtonGroup;
+
+/// The heading of an option group and its buttons, one of which is checked, or none while the value is not known.
+class OptionGroupRow : public QWidget
+{
+    Q_OBJECT
+public:
+    OptionGroupRow(const OptionGroup &group, BoundTexts &texts, QWidget *parent = nullptr);
+
+    const OptionGroup &group() const { return m_group; }
+    const std::vector<QPushButton *> &buttons() const { return m_buttons; }
+
+    /// The button of an option's value; null when the group has no such option.
+    QPushButton *buttonOf(int value) const;
+
+    /// Checks the button of a value, or none.
+    void showValue(std::optional<int> value);
+
+Q_SIGNALS:
+    /// The user chose the button, by mouse or keyboard.
+    void optionClicked(QPushButton *button);
+
+private:
+    OptionGroup m_group;
+    QButtonGroup *m_exclusive;
+    std::vector<QPushButton *> m_buttons;
+};
+
+/// Gives a button the pictures of an option button, as small as its text allows.
+void dressOptionButton(QPushButton *button);

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <variant>
+
+#include "ddc_protocol/devicestate.h"
+
+// A settings page is a table of these. Labels are source texts, marked by QT_TRANSLATE_NOOP("QObject", ...).
+
+/// One option of a group: the button's label and the value that the monitor gets.
+struct Option {
+    const char *label;
+    int value;
+};
+
+/// Buttons of which one is chosen. A button's object name is "<group label>_<option label>".
+struct OptionGroup {
+    const char *label;
+    Command command;
+    std::span<const Option> options;
+    std::optional<Capability> needs = {}; ///< built only for monitors that have it
+};
+
+enum class SendOn { Move, Release };
+
+/// Slider colours; Mint is the look's own.
+enum class Accent { Mint, Red, Yellow, Green, Cyan, Blue, Magenta };
+
+/// A slider. Its object name is the name; the caption may be shorter where a heading says the rest.
+struct SliderSpec {
+    const char *name;
+    const char *caption;
+    Command command;
+    int minimum;
+    int maximum;
+    SendOn sendOn = SendOn::Move;
+    Accent accent = Accent::Mint;
+    std::optional<Capability> needs = {};
+};
+
+/// Sliders in columns, filled row by row, under a heading if there is one.
+struct SliderGrid {
+    const char *heading; ///< may be null
+    int columns;
+    int captionWidth; ///< pixels
+    std::span<const SliderSpec> sliders;
+};
+
+using Section = std::variant<SliderGrid, OptionGroup>;

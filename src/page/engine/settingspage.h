@@ -1,0 +1,104 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <vector>
+
+#include <QLabel>
+#include <QPushButton>
+
+#include "page/engine/boundtexts.h"
+#include "page/engine/pagetable.h"
+
+class LatestValueSender;
+class OptionGroupRow;
+class QVBoxLayout;
+class SliderWidget;
+
+/// What every page of monitor settings is: controls built from tables, filled from the snapshot without sending, and
+/// one command for each action of the user. A page derives from it, hands it its sections and adds its exceptions.
+class SettingsPage : public QLabel
+{
+    Q_OBJECT
+public:
+    /// The sender carries the values of dragged sliders; the window owns the one that all pages share.
+    explicit SettingsPage(LatestValueSender &sender, QWidget *parent = nullptr);
+
+    /// Fills every control from the snapshot. Sends nothing.
+    virtual void updateInterfaceData();
+
+    /// Shows every text in the language of now.
+    virtual void updateControlText();
+
+    /// The controls in the order of their creation.
+    const std::vector<OptionGroupRow *> &optionGroups() const { return m_groups; }
+    const std::vector<SliderWidget *> &sliders() const { return m_sliders; }
+
+    OptionGroupRow *optionGroup(Command command) const;
+    SliderWidget *slider(const char *name) const;
+
+protected:
+    using Rule = std::function<void(int value)>;
+
+    /// While it lives the page moves its own sliders, and the slider slot does nothing.
+    class Updating
+    {
+    public:
+        explicit Updating(SettingsPage &page) : m_page(page), m_before(page.m_updating) { page.m_updating = true; }
+        ~Updating() { m_page.m_updating = m_before; }
+        Q_DISABLE_COPY_MOVE(Updating)
+
+    private:
+        SettingsPage &m_page;
+        bool m_before;
+    };
+
+    /// Builds the sections, in order, into a column; those that the monitor lacks are left out.
+    void buildSections(std::span<const Section> sections, QVBoxLayout *column);
+
+    /// Exceptions of a page: what happens before a command's value is sent, after it, and once the monitor has taken
+    /// it or not. A result rule replaces the storing of a moved slider's value.
+    void beforeSending(Command command, Rule rule) { m_before[command] = std::move(rule); }
+    void afterSending(Command command, Rule rule) { m_after[command] = std::move(rule); }
+    void onResult(Command command, std::function<void(int value, bool ok)> rule) { m_results[command] = std::move(rule); }
+
+    /// Which command a slider's value goes to; nothing to send none. For sliders that serve several commands.
+    void chooseCommand(const char *sliderName, std::function<std::optional<Command>()> choose);
+
+    /// Sends a command at once, behind whatever a drag has left to send. True when the monitor took it.
+    bool send(Command command, int value);
+
+    /// Sets a slider and its known or unknown look, under Updating.
+    void fillSlider(SliderWidget *slider, Command command);
+
+    LatestValueSender &sender() { return m_sender; }
+    BoundTexts &texts() { return m_texts; }
+    bool isUpdating() const { return m_updating; }
+
+private Q_SLOTS:
+    void onOptionClicked(QPushButton *button);
+    void onSliderChanged(const QString &name, int value, bool released);
+    void onSent(Command command, int value, bool ok);
+
+private:
+    struct Slider {
+        SliderSpec spec;
+        SliderWidget *widget;
+        std::function<std::optional<Command>()> choose;
+    };
+
+    void addOptions(const OptionGroup &group, QVBoxLayout *column);
+    void addSliders(const SliderGrid &grid, QVBoxLayout *column);
+    SliderWidget *makeSlider(const SliderSpec &spec, int captionWidth);
+    void apply(const std::map<Command, Rule> &rules, Command command, int value) const;
+
+    LatestValueSender &m_sender;
+    BoundTexts m_texts;
+    bool m_updating = false;
+    std::vector<OptionGroupRow *> m_groups;
+    std::vector<SliderWidget *> m_sliders;
+    std::vector<Slider> m_sliderEntries;
+    std::map<Command, Rule> m_before;
+    std::map<Command, Rule> m_after;
+    std::map<Command, std::function<void(int, bool)>> m_results;
+};

@@ -1,0 +1,91 @@
+// The part of the page engine that turns tables into controls.
+
+#include <QGridLayout>
+#include <QVBoxLayout>
+
+#include "controls/captionlabel.h"
+#include "controls/sliderwidget.h"
+#include "page/engine/optiongrouprow.h"
+#include "page/engine/settingspage.h"
+
+namespace {
+
+constexpr int kColumnSpacing = 40;
+constexpr int kRowSpacing = 16;
+constexpr int kHeadingPixels = 15;
+
+QColor colorOf(Accent accent)
+{
+    switch (accent) {
+    case Accent::Mint: break;
+    case Accent::Red: return {0xff, 0x6b, 0x6b};
+    case Accent::Yellow: return {0xff, 0xd1, 0x66};
+    case Accent::Green: return {0x4b, 0xe0, 0x8a};
+    case Accent::Cyan: return {0x4b, 0xd6, 0xe0};
+    case Accent::Blue: return {0x5a, 0xa9, 0xff};
+    case Accent::Magenta: return {0xd9, 0x8b, 0xff};
+    }
+    return {};
+}
+
+bool isAvailable(const std::optional<Capability> &needs)
+{
+    return !needs || deviceState.has(*needs);
+}
+
+} // namespace
+
+void SettingsPage::buildSections(std::span<const Section> sections, QVBoxLayout *column)
+{
+    for (const Section &section : sections) {
+        if (const auto *group = std::get_if<OptionGroup>(&section))
+            addOptions(*group, column);
+        else
+            addSliders(std::get<SliderGrid>(section), column);
+    }
+}
+
+void SettingsPage::addOptions(const OptionGroup &group, QVBoxLayout *column)
+{
+    if (!isAvailable(group.needs))
+        return;
+    auto *row = new OptionGroupRow(group, m_texts, this);
+    connect(row, &OptionGroupRow::optionClicked, this, &SettingsPage::onOptionClicked);
+    m_groups.push_back(row);
+    column->addWidget(row);
+}
+
+void SettingsPage::addSliders(const SliderGrid &grid, QVBoxLayout *column)
+{
+    if (grid.heading) {
+        auto *heading = new CaptionLabel(QString(), kHeadingPixels, this);
+        heading->setStyleSheet(QStringLiteral("color: #FFFFFF;"));
+        m_texts.bind(grid.heading, [heading](const QString &text) { heading->setText(text); });
+        column->addWidget(heading);
+    }
+    auto *cells = new QGridLayout;
+    cells->setHorizontalSpacing(kColumnSpacing);
+    cells->setVerticalSpacing(kRowSpacing);
+    int cell = 0;
+    for (const SliderSpec &spec : grid.sliders) {
+        if (!isAvailable(spec.needs))
+            continue;
+        cells->addWidget(makeSlider(spec, grid.captionWidth), cell / grid.columns, cell % grid.columns);
+        ++cell;
+    }
+    for (int i = 0; i < grid.columns; ++i)
+        cells->setColumnStretch(i, 1);
+    column->addLayout(cells);
+}
+
+SliderWidget *SettingsPage::makeSlider(const SliderSpec &spec, int captionWidth)
+{
+    auto *slider = new SliderWidget(QLatin1String(spec.name), spec.minimum, spec.maximum, this);
+    slider->setCaptionWidth(captionWidth);
+    slider->setAccent(colorOf(spec.accent));
+    m_texts.bind(spec.caption, [slider](const QString &text) { slider->setCaption(text); });
+    connect(slider, &SliderWidget::sliderValueChanged, this, &SettingsPage::onSliderChanged);
+    m_sliders.push_back(slider);
+    m_sliderEntries.push_back({spec, slider, {}});
+    return slider;
+}

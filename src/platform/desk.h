@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/clock.h"
+#include "platform/devicenotifications.h"
+#include "platform/displays.h"
+#include "platform/monitorconfiguration.h"
+#include "platform/process.h"
+
+namespace platform {
+
+/// Everything outside the process. Each concern is one small interface in the platform's own terms; what is done with
+/// the answers is decided above.
+class Desk
+{
+public:
+    virtual ~Desk() = default;
+
+    virtual Displays &displays() = 0;
+    virtual MonitorConfiguration &monitors() = 0;
+    virtual Process &process() = 0;
+    virtual DeviceNotifications &deviceNotifications() = 0;
+    virtual Clock &clock() = 0;
+
+    /// Called once when the main window is shown: a desk that has something of its own to show opens it now.
+    virtual void mainWindowShown() {}
+};
+
+/// The desk that the process works on. The composition root (or a test) installs it before anything else runs.
+Desk &desk();
+
+/// Makes a desk the current one; null takes it away. The caller keeps ownership and outlives every use.
+void installDesk(Desk *desk);
+
+} // namespace platform

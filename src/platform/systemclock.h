@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/clock.h"
+
+namespace platform {
+
+/// The clock of both desks: real time.
+class SystemClock final : public Clock
+{
+public:
+    void sleep(milliseconds duration) override;
+    QDateTime now() override;
+    void callLater(milliseconds delay, QObject *context, std::function<void()> task) override;
+};
+
+} // namespace platform

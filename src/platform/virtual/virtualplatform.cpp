@@ -1,0 +1,256 @@
+#include "platform/virtual/virtualplatform.h"
+
+#include <QCoreApplication>
+#include <QProcess>
+
+#include "platform/systemclock.h"
+#include "virtualdesk/deskscript.h"
+#include "virtualdesk/deskwindow.h"
+#include "virtualdesk/virtualdesk.h"
+
+namespace platform {
+
+namespace {
+
+using virtualdesk::VirtualDesk;
+
+constexpr std::intptr_t kShellSuccess = 32; // results above it mean that the program was started
+
+class VirtualDisplays final : public Displays
+{
+public:
+    explicit VirtualDisplays(VirtualDesk &desk) : m_desk(desk) {}
+
+    std::optional<std::vector<DisplayPath>> activePaths() override
+    {
+        auto paths = m_desk.paths();
+        if (paths.empty()) // the system has always a path while it shows anything
+            return std::nullopt;
+        return paths;
+    }
+
+    void enumerate(const std::function<bool(DisplayHandle)> &visit) override
+    {
+        const auto displays = m_desk.displays();
+        for (const DisplayHandle display : displays) {
+            if (!visit(display))
+                return;
+        }
+    }
+
+    std::optional<DisplayInfo> info(DisplayHandle display) override { return m_desk.displayInfo(display); }
+    std::optional<DisplayDevice> adapter(std::uint32_t index) override { return m_desk.adapter(index); }
+    std::optional<DisplayDevice> monitor(const QString &adapterName, std::uint32_t index) override
+    {
+        return m_desk.monitorDevice(adapterName, index);
+    }
+    std::optional<RegistryValue> localMachineValue(const QString &keyPath, const QString &valueName) override
+    {
+        return m_desk.registryValue(keyPath, valueName);
+    }
+    std::vector<Screen> screens() override { return m_desk.screens(); }
+
+private:
+    VirtualDesk &m_desk;
+};
+
+class VirtualMonitors final : public MonitorConfiguration
+{
+public:
+    explicit VirtualMonitors(VirtualDesk &desk) : m_desk(desk) {}
+
+    std::optional<std::uint32_t> count(DisplayHandle display) override
+    {
+        const auto monitors = m_desk.monitorsOf(display);
+        if (!monitors)
+            return std::nullopt;
+        return static_cast<std::uint32_t>(monitors->size());
+    }
+
+    bool fetch(DisplayHandle display, std::span<PhysicalMonitor> monitors) override
+    {
+        const auto found = m_desk.monitorsOf(display);
+        if (!found || monitors.empty() || monitors.size() > found->size())
+            return false;
+        for (std::size_t i = 0; i < monitors.size(); ++i) {
+            monitors[i] = {};
+            monitors[i].handle = m_desk.openHandle((*found)[i]);
+            std::u16string_view(u"Generic PnP Monitor").copy(monitors[i].description, 127);
+        }
+        return true;
+    }
+
+    void destroy(std::span<PhysicalMonitor> monitors) override
+    {
+        for (const PhysicalMonitor &monitor : monitors) {
+            if (monitor.handle != nullptr)
+                m_desk.closeHandle(monitor.handle);
+        }
+    }
+
+    bool getFeature(PhysicalMonitorHandle monitor, std::uint8_t code, std::uint32_t &current,
+                    std::uint32_t &maximum) override
+    {
+        virtualdesk::SimulatedMonitor *target = m_desk.monitorOfHandle(monitor);
+        if (target == nullptr)
+            return finish(virtualdesk::kErrorInvalidHandle);
+        const virtualdesk::Reply reply = target->read(code);
+        if (reply.ok()) {
+            current = reply.current;
+            maximum = reply.maximum;
+        }
+        return finish(reply.error);
+    }
+
+    bool setFeature(PhysicalMonitorHandle monitor, std::uint8_t code, std::uint32_t value) override
+    {
+        virtualdesk::SimulatedMonitor *target = m_desk.monitorOfHandle(monitor);
+        return finish(target == nullptr ? virtualdesk::kErrorInvalidHandle : target->write(code, value).error);
+    }
+
+    std::uint32_t lastError() override { return s_lastError; }
+
+private:
+    /// Success leaves the number of the last failure, as the system does.
+    static bool finish(std::uint32_t error)
+    {
+        if (error != 0)
+            s_lastError = error;
+        return error == 0;
+    }
+
+    static thread_local std::uint32_t s_lastError; // each thread has its own, as on the system
+    VirtualDesk &m_desk;
+};
+
+thread_local std::uint32_t VirtualMonitors::s_lastError = 0;
+
+class VirtualProcess final : public Process
+{
+public:
+    explicit VirtualProcess(VirtualDesk &desk) : m_desk(desk) {}
+
+    bool isUserAnAdmin() override { return m_desk.administrator; }
+
+    std::intptr_t shellExecuteRunas(const QString &file, const QString &parameters) override
+    {
+        m_desk.elevated.push_back({file, {parameters}, {}});
+        if (m_desk.startsPrograms && m_desk.runasResult > kShellSuccess)
+            QProcess::startDetached(file, QProcess::splitCommand(parameters));
+        return m_desk.runasResult;
+    }
+
+    NamedMutex createMutex(const QString &name) override { return m_desk.createMutex(name); }
+
+    void closeHandle(void *handle) override
+    {
+        if (handle != nullptr)
+            m_desk.closeMutex(handle);
+    }
+
+    bool startDetached(const QString &program, const QStringList &arguments, const QString &folder) override
+    {
+        m_desk.started.push_back({program, arguments, folder});
+        if (m_desk.startsPrograms)
+            return QProcess::startDetached(program, arguments, folder);
+        return m_desk.startSucceeds;
+    }
+
+private:
+    VirtualDesk &m_desk;
+};
+
+class VirtualNotifications final : public DeviceNotifications
+{
+public:
+    explicit VirtualNotifications(VirtualDesk &desk) : m_desk(desk) {}
+
+    void *registerInterface(WId window, const Guid &interfaceClass) override
+    {
+        return window == 0 ? nullptr : m_desk.registrations().add(window, interfaceClass);
+    }
+
+    void unregister(void *registration) override
+    {
+        if (registration != nullptr)
+            m_desk.registrations().remove(registration);
+    }
+
+private:
+    VirtualDesk &m_desk;
+};
+
+/// What the process's own desk stands on; a base, so that it is there before the adapters are.
+struct OwnDesk
+{
+    SystemClock ownClock;
+    VirtualDesk ownDesk{ownClock, virtualdesk::setupFromEnvironment()};
+};
+
+class ProcessDesk final : private OwnDesk, public VirtualPlatform
+{
+public:
+    ProcessDesk() : VirtualPlatform(ownDesk, ownClock) { ownDesk.startsPrograms = true; }
+
+    void mainWindowShown() override
+    {
+        VirtualPlatform::mainWindowShown();
+        if (m_window != nullptr || qEnvironmentVariable("QUORVEL_DESK_WINDOW") == QLatin1String("0"))
+            return;
+        m_window = std::make_unique<virtualdesk::DeskWindow>(ownDesk);
+        // The desk outlives the application object, which a widget must not.
+        QObject::connect(qApp, &QCoreApplication::aboutToQuit, m_window.get(), [this] { m_window.reset(); });
+        m_window->show();
+    }
+
+private:
+    std::unique_ptr<virtualdesk::DeskWindow> m_window;
+};
+
+} // namespace
+
+VirtualPlatform::VirtualPlatform(VirtualDesk &desk, Clock &clock)
+    : m_desk(desk), m_clock(clock), m_displays(std::make_unique<VirtualDisplays>(desk)),
+      m_monitors(std::make_unique<VirtualMonitors>(desk)), m_process(std::make_unique<VirtualProcess>(desk)),
+      m_deviceNotifications(std::make_unique<VirtualNotifications>(desk))
+{
+}
+
+VirtualPlatform::~VirtualPlatform() = default;
+
+Displays &VirtualPlatform::displays()
+{
+    return *m_displays;
+}
+
+MonitorConfiguration &VirtualPlatform::monitors()
+{
+    return *m_monitors;
+}
+
+Process &VirtualPlatform::process()
+{
+    return *m_process;
+}
+
+DeviceNotifications &VirtualPlatform::deviceNotifications()
+{
+    return *m_deviceNotifications;
+}
+
+Clock &VirtualPlatform::clock()
+{
+    return m_clock;
+}
+
+void VirtualPlatform::mainWindowShown()
+{
+    m_desk.startEvents();
+}
+
+std::unique_ptr<Desk> createVirtualDesk()
+{
+    return std::make_unique<ProcessDesk>();
+}
+
+} // namespace platform

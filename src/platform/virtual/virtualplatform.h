@@ -1,0 +1,45 @@
+#pragma once
+
+#include <memory>
+
+#include "platform/desk.h"
+
+namespace virtualdesk {
+class VirtualDesk;
+}
+
+namespace platform {
+
+/// The platform's calls answered by a simulated desk. The desk and the clock outlive it. It shows no window.
+class VirtualPlatform : public Desk
+{
+public:
+    VirtualPlatform(virtualdesk::VirtualDesk &desk, Clock &clock);
+    ~VirtualPlatform() override;
+
+    Displays &displays() override;
+    MonitorConfiguration &monitors() override;
+    Process &process() override;
+    DeviceNotifications &deviceNotifications() override;
+    Clock &clock() override;
+
+    /// Starts the script's timed events.
+    void mainWindowShown() override;
+
+protected:
+    virtualdesk::VirtualDesk &virtualDesk() { return m_desk; }
+
+private:
+    virtualdesk::VirtualDesk &m_desk;
+    Clock &m_clock;
+    std::unique_ptr<Displays> m_displays;
+    std::unique_ptr<MonitorConfiguration> m_monitors;
+    std::unique_ptr<Process> m_process;
+    std::unique_ptr<DeviceNotifications> m_deviceNotifications;
+};
+
+/// The simulated desk of a process, set up by the environment, in real time. Its window opens beside the main window
+/// unless QUORVEL_DESK_WINDOW is 0.
+std::unique_ptr<Desk> createVirtualDesk();
+
+} // namespace platform

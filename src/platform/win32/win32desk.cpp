@@ -1,0 +1,37 @@
+#include "platform/win32/win32desk.h"
+
+#include "platform/systemclock.h"
+#include "platform/win32/win32devicenotifications.h"
+#include "platform/win32/win32displays.h"
+#include "platform/win32/win32monitorconfiguration.h"
+#include "platform/win32/win32process.h"
+
+namespace platform {
+
+namespace {
+
+class Win32Desk final : public Desk
+{
+public:
+    Displays &displays() override { return m_displays; }
+    MonitorConfiguration &monitors() override { return m_monitors; }
+    Process &process() override { return m_process; }
+    DeviceNotifications &deviceNotifications() override { return m_deviceNotifications; }
+    Clock &clock() override { return m_clock; }
+
+private:
+    Win32Displays m_displays;
+    Win32MonitorConfiguration m_monitors;
+    Win32Process m_process;
+    Win32DeviceNotifications m_deviceNotifications;
+    SystemClock m_clock;
+};
+
+} // namespace
+
+std::unique_ptr<Desk> createWin32Desk()
+{
+    return std::make_unique<Win32Desk>();
+}
+
+} // namespace platform

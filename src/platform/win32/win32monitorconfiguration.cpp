@@ -1,0 +1,76 @@
+#include "platform/win32/win32monitorconfiguration.h"
+
+#include <cstddef>
+
+#include <windows.h>
+
+#include <physicalmonitorenumerationapi.h>
+
+// mingw-w64 brings the import library of these two calls, but up to version 10 not their header.
+#if __has_include(<lowlevelmonitorconfigurationapi.h>)
+#include <lowlevelmonitorconfigurationapi.h>
+#else
+extern "C" {
+using MC_VCP_CODE_TYPE = int;
+BOOL WINAPI GetVCPFeatureAndVCPFeatureReply(HANDLE monitor, BYTE code, MC_VCP_CODE_TYPE *type, DWORD *current,
+                                            DWORD *maximum);
+BOOL WINAPI SetVCPFeature(HANDLE monitor, BYTE code, DWORD value);
+}
+#endif
+
+namespace platform {
+
+static_assert(sizeof(PhysicalMonitor) == sizeof(PHYSICAL_MONITOR));
+static_assert(offsetof(PhysicalMonitor, handle) == offsetof(PHYSICAL_MONITOR, hPhysicalMonitor));
+static_assert(offsetof(PhysicalMonitor, description) == offsetof(PHYSICAL_MONITOR, szPhysicalMonitorDescription));
+
+namespace {
+
+PHYSICAL_MONITOR *records(std::span<PhysicalMonitor> monitors)
+{
+    return reinterpret_cast<PHYSICAL_MONITOR *>(monitors.data());
+}
+
+} // namespace
+
+std::optional<std::uint32_t> Win32MonitorConfiguration::count(DisplayHandle display)
+{
+    DWORD count = 0;
+    if (!GetNumberOfPhysicalMonitorsFromHMONITOR(static_cast<HMONITOR>(display), &count))
+        return std::nullopt;
+    return count;
+}
+
+bool Win32MonitorConfiguration::fetch(DisplayHandle display, std::span<PhysicalMonitor> monitors)
+{
+    return GetPhysicalMonitorsFromHMONITOR(static_cast<HMONITOR>(display), static_cast<DWORD>(monitors.size()),
+                                           records(monitors));
+}
+
+void Win32MonitorConfiguration::destroy(std::span<PhysicalMonitor> monitors)
+{
+    DestroyPhysicalMonitors(static_cast<DWORD>(monitors.size()), records(monitors));
+}
+
+bool Win32MonitorConfiguration::getFeature(PhysicalMonitorHandle monitor, std::uint8_t code, std::uint32_t &current,
+                                           std::uint32_t &maximum)
+{
+    DWORD currentValue = current;
+    DWORD maximumValue = maximum;
+    const bool answered = GetVCPFeatureAndVCPFeatureReply(monitor, code, nullptr, &currentValue, &maximumValue);
+    current = currentValue;
+    maximum = maximumValue;
+    return answered;
+}
+
+bool Win32MonitorConfiguration::setFeature(PhysicalMonitorHandle monitor, std::uint8_t code, std::uint32_t value)
+{
+    return SetVCPFeature(monitor, code, value);
+}
+
+std::uint32_t Win32MonitorConfiguration::lastError()
+{
+    return GetLastError();
+}
+
+} // namespace platform

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/process.h"
+
+namespace platform {
+
+/// Rights, elevation, named mutexes (shell32, kernel32) and detached programs.
+class Win32Process final : public Process
+{
+public:
+    bool isUserAnAdmin() override;
+    std::intptr_t shellExecuteRunas(const QString &file, const QString &parameters) override;
+    NamedMutex createMutex(const QString &name) override;
+    void closeHandle(void *handle) override;
+    bool startDetached(const QString &program, const QStringList &arguments, const QString &folder) override;
+};
+
+} // namespace platform

@@ -1,0 +1,200 @@
+#include "searchdevicedlg.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QDebug>
+#include <QHBoxLayout>
+
+#include "controls/messagebox.h"
+#include "ddc_protocol/displayenumeration.h"
+#include "ddc_protocol/settingsstore.h"
+#include "ddc_protocol/transport.h"
+#include "platform/desk.h"
+#include "relaunch.h"
+#include "sessionhost.h"
+
+using platform::milliseconds;
+
+namespace {
+
+constexpr int kPasses = 5;
+constexpr milliseconds kPassPause{200};
+
+} // namespace
+
+SearchDeviceDlg::SearchDeviceDlg(QWidget *parent) : QDialog(parent), m_deviceBox(new QComboBox(this))
+{
+    (new QHBoxLayout(this))->addWidget(m_deviceBox);
+    setReconnectHandler([this] { requestReconnect(); });
+    registerNotifications();
+}
+
+SearchDeviceDlg::~SearchDeviceDlg()
+{
+    setReconnectHandler({});
+    for (void *registration : m_registrations)
+        platform::desk().deviceNotifications().unregister(registration);
+}
+
+std::uint8_t SearchDeviceDlg::storedIndex() const
+{
+    const auto index = static_cast<std::uint8_t>(settingsInt(QString::fromLatin1(kDeviceIndexKey), 0, false));
+    // Before the first search there are no labels and the subtraction wraps: any stored index is then accepted. That is
+    // meant; only the second pass falls back.
+    const quint64 highest = static_cast<quint64>(m_labels.size()) - 1;
+    const bool accepted = index <= highest && projectionMode != ProjectionMode::Clone;
+    return accepted ? index : 0;
+}
+
+void SearchDeviceDlg::fillDeviceBox()
+{
+    m_fillingBox = true;
+    m_labels = findDevices();
+    m_deviceBox->clear();
+    for (const QByteArray &label : std::as_const(m_labels)) {
+        if (!label.isEmpty())
+            m_deviceBox->addItem(QString::fromUtf8(label));
+    }
+    connect(m_deviceBox, &QComboBox::currentIndexChanged, this, &SearchDeviceDlg::onCurrentDeviceChanged,
+            Qt::UniqueConnection);
+    m_fillingBox = false;
+}
+
+void SearchDeviceDlg::chooseIndexForPass(int pass)
+{
+    const int labels = static_cast<int>(m_labels.size());
+    const int index = currentMonitorIndex;
+    if (pass == 1 && index != 0)
+        currentMonitorIndex = 0;
+    else if (pass == 1)
+        currentMonitorIndex = labels >= 2 ? 1 : 0;
+    else if (pass > 1 && index + 1 < labels)
+        currentMonitorIndex = static_cast<std::uint8_t>(index + 1);
+    qDebug() << "Connet device Count=" << m_deviceBox->count() << "disp_sle" << currentMonitorIndex.load();
+}
+
+bool SearchDeviceDlg::readForReason()
+{
+    switch (reloadEdidType) {
+    case kFullRead: return readDataFromDevice();
+    case kSceneBlockOnly: return readSceneModeData(deviceState.value(Command::SceneMode));
+    default: return true;
+    }
+}
+
+SearchDeviceDlg::PassResult SearchDeviceDlg::runPass(int pass)
+{
+    fillDeviceBox();
+    chooseIndexForPass(pass);
+    if (m_deviceBox->count() == 0) {
+        if (m_host)
+            m_host->refreshPages();
+        return PassResult::Finished;
+    }
+    m_fillingBox = true;
+    m_deviceBox->setCurrentIndex(currentMonitorIndex);
+    m_fillingBox = false;
+
+    if (m_host && (reloadEdidType == kReconnect || reloadEdidType == kIdle)) {
+        qDebug() << "Reconnect device...";
+        m_host->reconnectPages();
+        return PassResult::Abandoned;
+    }
+    if (m_host && reloadEdidType == kFullRead)
+        m_host->hideWindow();
+    // The flag refuses other searches, not the later passes of this one.
+    if (m_host && pass == 0) {
+        if (m_host->searchIsReading) {
+            qDebug() << "nativeEvent: Aready searching devices Data!";
+            return PassResult::Abandoned;
+        }
+        m_host->searchIsReading = true;
+    }
+    m_readSucceeded = readForReason();
+    if (!m_readSucceeded)
+        return PassResult::Next;
+    if (m_host)
+        m_host->refreshPages();
+    return PassResult::Finished;
+}
+
+void SearchDeviceDlg::searchDevices()
+{
+    currentProjectionMode();
+    currentMonitorIndex = storedIndex();
+    m_readSucceeded = false;
+    for (int pass = 0; pass < kPasses; ++pass) {
+        const PassResult result = runPass(pass);
+        if (result == PassResult::Abandoned)
+            return;
+        if (result == PassResult::Finished)
+            break;
+        platform::desk().clock().sleep(kPassPause);
+    }
+    if (m_host)
+        m_host->searchIsReading = false;
+
+    settingsInt(QString::fromLatin1(kDeviceIndexKey), currentMonitorIndex, true);
+    if (reloadEdidType == kFullRead && !m_readSucceeded) {
+        qDebug() << "DDC/CI erorr, App exit!";
+        settingsInt(QString::fromLatin1(kDeviceIndexKey), 0, true);
+        exitUnsupported();
+    } else {
+        reloadEdidType = kIdle;
+    }
+}
+
+void SearchDeviceDlg::exitUnsupported()
+{
+    showMessage(QMessageBox::Information, QObject::tr("Exit"),
+                QObject::tr("The selected display is unsupported or the signal line is disconnected."),
+                QObject::tr("Exit"));
+    std::exit(0);
+}
+
+void SearchDeviceDlg::delayedSearchDevices()
+{
+    m_reconnectWaiting = false;
+    const int reason = reloadEdidType;
+    qDebug() << "delayedSearchDevices: Reloader EDID Type:" << reason;
+    if (reason == kRestartProgram) {
+        settingsInt(QString::fromLatin1(kRestartKey), 1, true);
+        relaunchAndQuit();
+    } else {
+        searchDevices();
+    }
+    if (m_host) {
+        if (reason == kReconnect || reason == kIdle)
+            m_host->refreshPages();
+        else if (reason == kFullRead)
+            m_host->showWindow();
+        m_host->updateInterface();
+    }
+    reloadEdidType = kIdle;
+}
+
+void SearchDeviceDlg::requestReconnect()
+{
+    // On the interface thread the search runs at once. A worker's is queued, and one in the queue is enough.
+    if (!m_reconnectWaiting.exchange(true))
+        QMetaObject::invokeMethod(this, &SearchDeviceDlg::delayedSearchDevices);
+}
+
+void SearchDeviceDlg::requestSearchAfter(int delay)
+{
+    QMetaObject::invokeMethod(this, [this, delay] {
+        platform::desk().clock().callLater(milliseconds(delay), this, [this] { delayedSearchDevices(); });
+    });
+}
+
+void SearchDeviceDlg::onCurrentDeviceChanged(int index)
+{
+    if (m_fillingBox || index < 0)
+        return;
+    settingsInt(QString::fromLatin1(kDeviceIndexKey), index, true);
+    reloadEdidType = kFullRead;
+    delayedSearchDevices();
+}

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <vector>
+
+#include <QByteArrayList>
+#include <QDialog>
+
+#include "ddc_protocol/devicestate.h"
+#include "platform/nativemessage.h"
+
+class QComboBox;
+class QProgressDialog;
+class SessionHost;
+
+/// The one device session: chooses the monitor that commands go to, reads its settings into deviceState, follows
+/// devices being plugged in and out, and finds the monitor again when it stops answering. It is never shown; its combo
+/// box of monitor labels stands on the machine-selection page.
+class SearchDeviceDlg : public QDialog
+{
+    Q_OBJECT
+public:
+    explicit SearchDeviceDlg(QWidget *parent = nullptr);
+    ~SearchDeviceDlg() override;
+
+    /// The main window, once there is one; null takes it away.
+    void setHost(SessionHost *host) { m_host = host; }
+
+    /// Finds the monitors, chooses one and reads what reloadEdidType says. Ends the program with a message when the
+    /// start-up read fails on every monitor.
+    void searchDevices();
+
+    /// The recovery after a failed write, a monitor's arrival or a failed scene read.
+    void delayedSearchDevices();
+
+    /// Reads the whole snapshot. False when the monitor tells no scene mode.
+    bool readDataFromDevice();
+
+    /// Reads the scene-mode block of an even mode; safe from the scene-mode worker. A short block schedules a
+    /// reconnection and gives false. A positive odd mode gives false, a negative odd one true, both without reading:
+    /// callers rely on that asymmetry.
+    bool readSceneModeData(int mode);
+
+    /// The labels of the last search, in the order of monitorList.
+    const QByteArrayList &labels() const { return m_labels; }
+    QComboBox *deviceBox() const { return m_deviceBox; }
+
+    bool nativeEvent(const QByteArray &eventType, void *message, qintptr *result) override;
+
+protected:
+    /// Says that the display cannot be used and ends the process with code 0.
+    virtual void exitUnsupported();
+
+private Q_SLOTS:
+    void onCurrentDeviceChanged(int index);
+
+private:
+    enum class PassResult { Next, Finished, Abandoned };
+
+    std::uint8_t storedIndex() const;
+    void fillDeviceBox();
+    void chooseIndexForPass(int pass);
+    PassResult runPass(int pass);
+    bool readForReason();
+    void requestSearchAfter(int delay);
+    void requestReconnect();
+    void registerNotifications();
+    void handleArrival(const platform::DeviceBroadcast *broadcast);
+    void handleRemoval(const platform::DeviceBroadcast *broadcast);
+
+    SessionHost *m_host = nullptr;
+    QComboBox *m_deviceBox;
+    QByteArrayList m_labels;
+    std::vector<void *> m_registrations;
+    bool m_fillingBox = false;
+    bool m_readSucceeded = false;
+    std::atomic<bool> m_reconnectWaiting = false;
+};

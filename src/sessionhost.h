@@ -1,0 +1,26 @@
+#pragma once
+
+/// What the device session asks of the main window. All calls come on the interface thread.
+class SessionHost
+{
+public:
+    virtual ~SessionHost() = default;
+
+    /// Fills every page from the snapshot, then retranslates.
+    virtual void refreshPages() = 0;
+
+    /// Asks the pages to read again after a failed command.
+    virtual void reconnectPages() = 0;
+
+    /// Brings what is not a page up to date: the monitor's name and state.
+    virtual void updateInterface() = 0;
+
+    virtual void hideWindow() = 0;
+    virtual void showWindow() = 0;
+
+    virtual void deviceArrived() = 0;
+    virtual void deviceRemoved() = 0;
+
+    /// Whether a search is reading data at this moment; set and cleared by the session.
+    bool searchIsReading = false;
+};

@@ -1,0 +1,78 @@
+#include "toptabframe.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+
+#include "controls/pictures.h"
+#include "navigation.h"
+#include "toptab.h"
+
+namespace {
+
+constexpr int kMarkLeft = 24;
+constexpr int kMarkSide = 32;
+constexpr int kNameLeft = 66;
+constexpr int kNamePixels = 18;
+constexpr int kTabsLeft = 216;
+
+} // namespace
+
+TopTabFrame::TopTabFrame(QWidget *parent) : QFrame(parent)
+{
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(kTabsLeft, 0, 16, 0);
+    row->setSpacing(0);
+    for (const NavigationFamily &family : navigationFamilies()) {
+        const QString icon = Pictures::kRoot + QLatin1String("img/tab/") + QLatin1String(family.icon);
+        auto *tab = new TopTab(icon, QObject::tr(family.label), this);
+        connect(tab, &TopTab::clicked, this, [this, index = static_cast<int>(m_tabs.size())] { Q_EMIT tabChosen(index); });
+        m_tabs.push_back(tab);
+        row->addWidget(tab);
+    }
+    row->addStretch(1);
+    m_minimise = new TopWindowButton(Pictures::kRoot + QStringLiteral("img/top_min"), this);
+    m_close = new TopWindowButton(Pictures::kRoot + QStringLiteral("img/top_close"), this);
+    connect(m_minimise, &TopWindowButton::clicked, this, &TopTabFrame::minimiseClicked);
+    connect(m_close, &TopWindowButton::clicked, this, &TopTabFrame::closeClicked);
+    row->addWidget(m_minimise);
+    row->addWidget(m_close);
+    updateControlText();
+    setCurrent(0);
+}
+
+void TopTabFrame::setCurrent(int index)
+{
+    m_current = index;
+    for (std::size_t i = 0; i < m_tabs.size(); ++i)
+        m_tabs[i]->setChecked(static_cast<int>(i) == index);
+}
+
+void TopTabFrame::setTabsEnabled(bool enabled)
+{
+    for (TopTab *tab : m_tabs)
+        tab->setEnabled(enabled);
+}
+
+void TopTabFrame::updateControlText()
+{
+    for (std::size_t i = 0; i < m_tabs.size(); ++i)
+        m_tabs[i]->setCaption(QObject::tr(navigationFamilies()[i].label));
+    for (auto [button, text] : {std::pair(m_minimise, QObject::tr("Minimise")), std::pair(m_close, QObject::tr("Close window"))}) {
+        button->setAccessibleName(text);
+        button->setToolTip(text);
+    }
+}
+
+void TopTabFrame::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    Pictures::draw(painter, QRect(kMarkLeft, (height() - kMarkSide) / 2, kMarkSide, kMarkSide),
+                   Pictures::kRoot + QStringLiteral("img/logo.png"));
+    QFont name = font();
+    name.setPixelSize(kNamePixels);
+    name.setLetterSpacing(QFont::AbsoluteSpacing, 3);
+    painter.setFont(name);
+    painter.setPen(QColor(0xff, 0xff, 0xff));
+    painter.drawText(QRect(kNameLeft, 0, kTabsLeft - kNameLeft, height()), Qt::AlignVCenter, QStringLiteral("QUORVEL"));
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <optional>
+
+#include <QByteArray>
+#include <QString>
+
+#include "virtualdesk/desksetup.h"
+
+namespace virtualdesk {
+
+/// Reads a desk from JSON. What the script leaves out is as in the default desk. On a fault the result is empty and
+/// error says what is wrong and where. Codes are numbers or text such as "0x10"; all keys:
+///
+///     {
+///       "latency": "realistic" | "none" | {"read_ms": 40, "write_ms": 50},
+///       "topology": "extend" | "clone" | "single",
+///       "administrator": true, "runas_result": 42,
+///       "displays": [{"name": "\\\\.\\DISPLAY1", "bounds": [0, 0, 1920, 1080]}],
+///       "monitors": [{"model": "Q27-OLED" | "Q32-MPCS" | "Q34-MINI", "display": 0, "plugged": true,
+///                     "edid": "00ff..." | {"random": 64}, "values": {"0x10": 30}, "latency": ..., "faults": [event]}],
+///       "events": [{"at_ms": 1000, "monitor": 0, "event": ...}]
+///     }
+///
+/// An event is {"event": kind} with kind plug, unplug, recover, deaf, refuse (with "code"), refuse_writes, drop_chunks,
+/// lose_replies, garble (both may have a "code"), latency (with "read_ms", "write_ms") or delay (with "ms"). "times" is a
+/// number of requests or "always"; it is 1 unless given, for deaf "always". at_ms counts from the main window's opening.
+std::optional<DeskSetup> parseDeskScript(const QByteArray &json, QString &error);
+
+/// The desk of this process: from the file that QUORVEL_DESK_SCRIPT names, else the default desk with realistic timing.
+/// A file that cannot be used is named in a warning, and the default desk taken. QUORVEL_DESK_LATENCY ("realistic" or
+/// "none") wins over both.
+DeskSetup setupFromEnvironment();
+
+} // namespace virtualdesk

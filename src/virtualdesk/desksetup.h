@@ -1,0 +1,92 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include <QByteArray>
+#include <QRect>
+#include <QString>
+
+#include "virtualdesk/monitormodel.h"
+#include "virtualdesk/simulatedmonitor.h"
+
+namespace virtualdesk {
+
+/// Something that happens to a monitor, at once or at its time.
+struct MonitorEvent
+{
+    enum class Kind {
+        Plug,
+        Unplug,
+        Deaf,
+        Recover,
+        Refuse,
+        RefuseWrites,
+        DropChunks,
+        LoseReplies,
+        Garble,
+        Latency,
+        Delay
+    };
+
+    Kind kind = Kind::Recover;
+    int times = 1;                     ///< requests, or kForEver
+    int code = Faults::kAnyCommand;    ///< VCP code, for Refuse, LoseReplies, Garble
+    std::chrono::milliseconds read{0}; ///< for Latency; for Delay of every request
+    std::chrono::milliseconds write{0};
+};
+
+struct TimedEvent
+{
+    std::chrono::milliseconds at{0}; ///< after the main window was first shown
+    int monitor = 0;
+    MonitorEvent event;
+};
+
+struct MonitorSetup
+{
+    const MonitorModel *model = nullptr;
+    int display = 0;
+    bool plugged = true;
+    std::optional<QByteArray> edid; ///< instead of the model's own
+    std::vector<std::pair<std::uint8_t, std::uint16_t>> values;
+    std::vector<MonitorEvent> faults;
+};
+
+struct DisplaySetup
+{
+    QString deviceName;
+    QRect bounds; ///< null: the primary screen's for the first display, else beside the display before
+};
+
+/// How the active display paths follow from the plugged monitors.
+enum class Topology {
+    Natural, ///< one path a monitor; those of one display share its source
+    Clone,   ///< all share one source
+    Single   ///< one path only, whatever is plugged
+};
+
+/// What lies on the desk at the start.
+struct DeskSetup
+{
+    std::vector<DisplaySetup> displays;
+    std::vector<MonitorSetup> monitors;
+    std::vector<TimedEvent> events;
+    Topology topology = Topology::Natural;
+    std::chrono::milliseconds readLatency{0};
+    std::chrono::milliseconds writeLatency{0};
+    bool administrator = true;
+    int runasResult = 42; ///< above 32: the elevated process was started
+};
+
+/// What a request costs on a real wire.
+inline constexpr std::chrono::milliseconds kRealisticRead{40};
+inline constexpr std::chrono::milliseconds kRealisticWrite{50};
+
+/// Two monitors of different models on two displays side by side, without latency.
+DeskSetup defaultSetup();
+
+} // namespace virtualdesk

@@ -1,0 +1,194 @@
+#include "virtualdesk/osdfunctions.h"
+
+#include <algorithm>
+#include <array>
+#include <vector>
+
+#include <QObject>
+
+namespace virtualdesk {
+
+namespace {
+
+#define NAME(text) QT_TRANSLATE_NOOP("QObject", text)
+
+constexpr OsdOption kSwitch[] = {{0, NAME("Close")}, {1, NAME("Open")}};
+constexpr OsdOption kColorTemperature[] = {{0, "5000K"}, {1, "5500K"}, {2, "6300K"}, {3, "6500K"},
+                                           {4, "7000K"}, {5, "7500K"}, {6, "9300K"}, {7, NAME("Night View C.T")},
+                                           {8, "User1"}, {9, "User2"}, {10, "User3"}};
+constexpr OsdOption kGamma[] = {{0, "1.6"}, {1, "1.8"}, {2, "2.0"},  {3, "2.2"},
+                                {4, "2.4"}, {5, "2.6"}, {6, "sRGB"}, {7, "CAD/CAM"}};
+// 0 is the off state of the switch that the same menus have beside their levels.
+constexpr OsdOption kLocalDimming[] = {{0, NAME("Close")},  {2, NAME("Close")},  {3, NAME("Low")},
+                                       {4, NAME("Smooth")}, {5, NAME("Medium")}, {6, NAME("Strong")}};
+constexpr OsdOption kMotion[] = {{0, NAME("Close")},      {2, NAME("Close")},     {3, NAME("Low")},
+                                 {4, NAME("Medium")},     {5, NAME("High")},      {6, NAME("Ull-Level1")},
+                                 {7, NAME("Ull-Level2")}, {8, NAME("Ull-Level3")}};
+constexpr OsdOption kResponse[] = {
+    {0, NAME("Close")}, {1, NAME("Level1")}, {2, NAME("Level2")}, {3, NAME("Level3")}, {4, NAME("Topspeed")}};
+constexpr OsdOption kHdr[] = {{0, NAME("Close")}, {1, NAME("Auto")}, {2, NAME("Game")}, {3, NAME("Movie")}};
+constexpr OsdOption kNightVision[] = {
+    {0, NAME("Close")}, {1, NAME("Level1")}, {2, NAME("Level2")}, {3, NAME("Auto-L1")}, {4, NAME("Auto-L2")}};
+constexpr OsdOption kInput[] = {{0, NAME("Auto")},   {1, NAME("DP1")},   {2, NAME("DP2")},
+                                {3, NAME("Type-C")}, {4, NAME("HDMI1")}, {5, NAME("HDMI2")}};
+constexpr OsdOption kUsb[] = {{0, NAME("Type-C")}, {1, NAME("Type-B")}};
+constexpr OsdOption kRange[] = {{0, NAME("RGB Auto")}, {1, NAME("RGB Limit")}, {2, NAME("RGB Full")}};
+constexpr OsdOption kLink[] = {{0, NAME("5.4G")}, {1, NAME("8.1G")}};
+constexpr OsdOption kAudio[] = {{0, NAME("Standard")}, {1, NAME("Movie")}, {2, NAME("Convo")}};
+constexpr OsdOption kSaving[] = {{0, NAME("Close")}, {1, NAME("Level1")}, {2, NAME("Level2")}};
+constexpr OsdOption kLed[] = {{1, NAME("Close")}, {2, NAME("Level1")}, {3, NAME("Level2")}, {4, NAME("Level3")}};
+constexpr OsdOption kPaper[] = {
+    {0, NAME("Close")}, {1, NAME("Paper_A4")}, {2, NAME("Paper_B5")}, {3, NAME("Paper_B6")}, {4, NAME("Custom Size")}};
+constexpr OsdOption kAlignment[] = {
+    {0, NAME("Close")}, {1, NAME("Alignment_4")}, {2, NAME("Alignment_6")}, {3, NAME("Alignment_9")}};
+constexpr OsdOption kRuler[] = {{0, NAME("Close")}, {1, NAME("Ruler")}, {2, NAME("Angle Ruler")}};
+constexpr OsdOption kComposition[] = {{0, NAME("Close")},          {1, NAME("Triangle")},   {2, NAME("Frame")},
+                                      {3, NAME("Golden Section")}, {4, NAME("Trichotomy")}, {5, NAME("Round")}};
+constexpr OsdOption kRest[] = {{0, NAME("Close")},    {1, NAME("30s")},      {2, NAME("1 Hour")},
+                               {3, NAME("1.5 Hour")}, {4, NAME("2 Hour")},   {5, NAME("2.5 Hour")},
+                               {6, NAME("3 Hour")},   {7, NAME("3.5 Hour")}, {8, NAME("4 Hour")}};
+
+// In the order of the OSD; picture first, since the scene changes most of it.
+constexpr OsdFunction kMenu[] = {
+    {0x10, NAME("Brightness"), 50, 100, {}},
+    {0x12, NAME("Contrast"), 50, 100, {}},
+    {0x87, NAME("Sharpness"), 4, 8, {}},
+    {0x14, NAME("Color Temperature"), 3, 10, kColorTemperature},
+    {0x15, NAME("Night View C.T"), 50, 100, {}},
+    {0x26, NAME("Gama"), 3, 7, kGamma},
+    {0x40, NAME("Color Enchance"), 0, 10, {}},
+    {0x41, NAME("CR Enhance"), 2, 10, {}},
+    {0x42, NAME("Black Level"), 50, 100, {}},
+    {0x44, NAME("Super Resolution"), 1, 5, {}},
+    {0x49, NAME("Gray Response"), 1, 4, kResponse},
+    {0x48, NAME("DyDs TECH"), 2, 8, kMotion},
+    {0x47, NAME("Localdimming"), 4, 6, kLocalDimming},
+    {0x46, NAME("Halo Control"), 40, 100, {}},
+    {0xD8, NAME("Low Blue Light"), 0, 4, {}},
+    {0xDA, NAME("Light Sensor"), 0, 1, kSwitch},
+    {0x4A, NAME("HDR"), 0, 3, kHdr},
+    {0x45, NAME("Night Vision"), 0, 4, kNightVision},
+    {0x43, NAME("Adaptive-Sync"), 1, 1, kSwitch},
+    {0xE4, NAME("Game Rush"), 0, 1, kSwitch},
+    {0x57, NAME("Input Signal"), 1, 5, kInput},
+    {0x60, NAME("Output Range"), 0, 2, kRange},
+    {0x5F, NAME("USB Switch"), 0, 1, kUsb},
+    {0xD5, NAME("USB Power"), 1, 1, kSwitch},
+    {0xD6, NAME("DP Alt Mode"), 0, 1, kSwitch},
+    {0xD7, NAME("DP/Type-C"), 1, 1, kLink},
+    {0xD9, NAME("CEC"), 0, 1, kSwitch},
+    {0x61, NAME("Quick Boot"), 0, 1, kSwitch},
+    {0xF6, NAME("Audio Volume"), 30, 100, {}},
+    {0xF7, NAME("Audio Mute"), 0, 1, kSwitch},
+    {0xEA, NAME("Audio Mode"), 0, 2, kAudio},
+    {0xC0, NAME("Show Time(s)"), 20, 100, {}},
+    {0xC1, NAME("H-Position"), 50, 100, {}},
+    {0xC2, NAME("V-Position"), 50, 100, {}},
+    {0xC3, NAME("Transparency"), 0, 100, {}},
+    {0xC4, NAME("Menu Lock"), 0, 1, kSwitch},
+    {0xC5, NAME("Power LED"), 2, 4, kLed},
+    {0xC6, NAME("Power Saving"), 0, 2, kSaving},
+    {0xCC, NAME("OSD Language"), 2, 23, {}},
+    {0xE3, NAME("No Signal Timer"), 15, 100, {}},
+    {0xEB, NAME("Gravity Sensor"), 0, 1, kSwitch},
+    {0xE0, NAME("AI Dual Mode"), 0, 1, kSwitch},
+    {0xEC, NAME("Paper"), 0, 4, kPaper},
+    {0xF1, NAME("Alignment"), 0, 3, kAlignment},
+    {0xF2, NAME("Ruler"), 0, 2, kRuler},
+    {0x3B, NAME("Alignment Aid"), 0, 1, kSwitch},
+    {0xF8, NAME("Composition"), 0, 5, kComposition},
+    {0xF9, NAME("Eyeshield Remind"), 0, 8, kRest},
+};
+
+// Odd value of each mode; the next even one is the same mode with the user's own picture.
+constexpr OsdOption kScenes[] = {
+    {1, NAME("Standard")},        {3, NAME("CAD/CAM")},      {5, NAME("Animate")},
+    {7, NAME("Art Design")},      {9, NAME("Movie")},        {11, NAME("Reading")},
+    {13, NAME("Night")},          {15, NAME("Eye Care")},    {17, NAME("Light Programme")},
+    {19, NAME("Dark Programme")}, {21, NAME("E-Book")},      {23, NAME("Zelmar")},
+    {25, NAME("MPCS/ULL FPS")},   {27, NAME("MPCS/LD")},     {29, NAME("Display P3")},
+    {31, NAME("sRGB(2.2)")},      {33, NAME("DCI-P3(D65)")}, {35, NAME("HDTV Video")},
+    {37, NAME("NTSC Video")},     {39, NAME("PAL & SECAM")}, {41, NAME("Print(P3-D50)")},
+    {43, NAME("Photo(P3-D65)")},  {45, NAME("Web(sRGB)")},   {47, NAME("AdobeRGB")},
+    {49, NAME("Native")},         {51, NAME("EBU")},         {53, NAME("SMPTE-C")},
+    {55, NAME("Rec.709")},        {57, NAME("DICOM")},       {59, NAME("Paper")},
+    {61, NAME("Adobe")},          {63, NAME("sRGB")},        {65, NAME("DCI-P3")},
+    {81, NAME("AdobeRGB(D50)")},  {83, NAME("Softproof")},   {85, NAME("Softproof(D55)")},
+    {87, NAME("Softproof(D58)")},
+};
+
+#undef NAME
+
+struct CodeRange
+{
+    int first;
+    int last;
+};
+constexpr CodeRange kCodeRanges[] = {{0x01, 0x0E}, {0x10, 0x10}, {0x12, 0x12}, {0x14, 0x1E}, {0x22, 0x22},
+                                     {0x24, 0x24}, {0x26, 0x26}, {0x30, 0x4D}, {0x50, 0x57}, {0x59, 0x6A},
+                                     {0x70, 0x8D}, {0x9B, 0xA0}, {0xC0, 0xC8}, {0xCC, 0xCC}, {0xD0, 0xDA},
+                                     {0xE0, 0xE1}, {0xE3, 0xF2}, {0xF6, 0xFB}, {0xFD, 0xFD}};
+
+std::vector<std::uint8_t> listCodes()
+{
+    std::vector<std::uint8_t> codes;
+    for (const CodeRange &range : kCodeRanges) {
+        for (int code = range.first; code <= range.last; ++code)
+            codes.push_back(static_cast<std::uint8_t>(code));
+    }
+    return codes;
+}
+
+} // namespace
+
+std::span<const std::uint8_t> commandCodes()
+{
+    static const std::vector<std::uint8_t> codes = listCodes();
+    return codes;
+}
+
+OsdFunction osdFunction(std::uint8_t code)
+{
+    const auto found = std::find_if(std::begin(kMenu), std::end(kMenu),
+                                    [code](const OsdFunction &function) { return function.code == code; });
+    if (found != std::end(kMenu))
+        return *found;
+    if (code >= 0x16 && code <= 0x1E) // the three user presets, red, green and blue each
+        return {code, "", 80, 100, {}};
+    if ((code >= 0x59 && code <= 0x5E) || (code >= 0x9B && code <= 0xA0)) // saturation and hue of six colours
+        return {code, "", 50, 100, {}};
+    return {code, "", 0, 255, {}};
+}
+
+std::span<const OsdFunction> osdMenu()
+{
+    return kMenu;
+}
+
+QString osdName(const OsdFunction &function)
+{
+    return *function.name == '\0' ? QString() : QObject::tr(function.name);
+}
+
+QString osdValueText(const OsdFunction &function, std::uint16_t value)
+{
+    for (const OsdOption &option : function.options) {
+        if (option.value == value)
+            return QObject::tr(option.name);
+    }
+    return QString::number(value);
+}
+
+QString sceneName(int mode)
+{
+    const int factory = mode % 2 == 0 ? mode - 1 : mode;
+    QString name = QObject::tr("Mode %1").arg(mode);
+    for (const OsdOption &scene : kScenes) {
+        if (scene.value == factory)
+            name = QObject::tr(scene.name);
+    }
+    const QString half = mode % 2 == 0 ? QObject::tr("Custom") : QObject::tr("Default");
+    return QObject::tr("%1 · %2").arg(name, half);
+}
+
+} // namespace virtualdesk

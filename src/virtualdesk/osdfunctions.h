@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+
+#include <QString>
+
+namespace virtualdesk {
+
+/// One choice of an OSD function: the value on the wire and what the OSD calls it.
+struct OsdOption
+{
+    std::uint16_t value;
+    const char *name;
+};
+
+/// One OSD function as the monitor's own firmware knows it.
+struct OsdFunction
+{
+    std::uint8_t code;                  ///< VCP code
+    const char *name;                   ///< empty for a code without a menu entry
+    std::uint16_t factory;              ///< value after a factory reset
+    std::uint16_t maximum;              ///< highest value; what the reply reports as maximum
+    std::span<const OsdOption> options; ///< the only values taken; empty for a plain number 0..maximum
+};
+
+/// The 168 command codes of the monitor, rising.
+std::span<const std::uint8_t> commandCodes();
+
+/// The function behind a command code; a nameless one of 0..255 when the OSD has no entry for it.
+OsdFunction osdFunction(std::uint8_t code);
+
+/// The functions with a menu entry, in the order of the OSD.
+std::span<const OsdFunction> osdMenu();
+
+/// The function's name in the interface language.
+QString osdName(const OsdFunction &function);
+
+/// What the OSD shows for a value: the option's name in the interface language, or the number.
+QString osdValueText(const OsdFunction &function, std::uint16_t value);
+
+/// The name of a scene mode, 1..90, in the interface language, with "Default" or "Custom".
+QString sceneName(int mode);
+
+} // namespace virtualdesk

@@ -1,0 +1,158 @@
+#pragma once
+
+#include <array>
+#include <atomic>
+#include <deque>
+#include <functional>
+#include <mutex>
+#include <optional>
+#include <thread>
+#include <vector>
+
+#include <QByteArray>
+
+#include "platform/clock.h"
+#include "virtualdesk/faults.h"
+#include "virtualdesk/monitormodel.h"
+#include "virtualdesk/request.h"
+
+namespace virtualdesk {
+
+/// A monitor as the wire sees it. It speaks the vendor protocol: every command is a request on 0x99 and then one on the
+/// command code, both writes (of the same value) or both reads. A read of 0x22 may be followed by a read whose code is
+/// an even scene mode: that opens the 40-byte block of the mode, four bytes a reply, 0xFE for the next four, 0xFF for
+/// the last four again, and one more 0xFE closes it. Safe from any thread.
+class SimulatedMonitor
+{
+public:
+    using Listener = std::function<void(const Request &)>;
+
+    static constexpr std::size_t kHistorySize = 2048;
+
+    /// Both outlive the monitor. The clock times requests and spends the latency.
+    SimulatedMonitor(const MonitorModel &model, platform::Clock &clock);
+
+    const MonitorModel &model() const { return m_model; }
+
+    // The wire.
+
+    /// A VCP read; fails with an error number and zeroes when the monitor does not answer.
+    Reply read(std::uint8_t code);
+
+    /// A VCP write. An accepted write tells nothing about the value, as on the real wire.
+    Reply write(std::uint8_t code, std::uint32_t value);
+
+    // The monitor's own state, as its buttons and its menu would reach it; nothing here is a request.
+
+    std::uint16_t value(std::uint8_t code) const;
+    std::uint16_t maximum(std::uint8_t code) const;
+    /// Sets a value unchecked; scene mode and picture values have the effect that they have on the wire.
+    void setValue(std::uint8_t code, std::uint16_t value);
+    /// The 40 bytes of a mode, 1..90: an even mode's are the user's own.
+    QByteArray block(int mode) const;
+    /// Replaces the block of an even mode; shorter data changes only the first bytes.
+    void setBlock(int mode, const QByteArray &bytes);
+
+    // Faults. Counts are requests, or kForEver.
+
+    void refuse(std::uint8_t code, int times = 1) { arm(&Faults::refuse, code, times); }
+    void refuseWrites(int times = 1) { arm(&Faults::refuseWrites, times); }
+    /// The next reads are done, but the caller sees them fail; code may narrow it to one code.
+    void loseReplies(int times = 1, int code = Faults::kAnyCommand) { arm(&Faults::loseReplies, times, code); }
+    /// The next reads answer wrong numbers.
+    void garbleReplies(int times = 1, int code = Faults::kAnyCommand) { arm(&Faults::garbleReplies, times, code); }
+    /// The next continuations of table streams fail; 0xFF then brings the four bytes that got lost.
+    void dropChunks(int times = 1) { arm(&Faults::dropChunks, times); }
+    /// Every request fails from now on, and a conversation is forgotten; it hears again after so many requests.
+    void goDeaf(int requests = kForEver) { arm(&Faults::goDeaf, requests); }
+    /// Ends every fault.
+    void recover() { arm(&Faults::clear); }
+    Faults::Armed armedFaults() const;
+
+    void setPlugged(bool plugged);
+    bool isPlugged() const;
+
+    /// What each request costs.
+    void setLatency(platform::milliseconds read, platform::milliseconds write)
+    {
+        m_readLatency = read.count();
+        m_writeLatency = write.count();
+    }
+    platform::milliseconds readLatency() const { return platform::milliseconds(m_readLatency); }
+    /// What each request costs on top of that: a monitor that is busy with something else.
+    void setDelay(platform::milliseconds delay) { m_delay = delay.count(); }
+    bool isSlow() const { return m_delay > 0; }
+
+    // Watching.
+
+    /// The last requests, oldest first, at most kHistorySize.
+    std::vector<Request> history() const;
+    void clearHistory();
+    ProtocolFaults protocolFaults() const;
+
+    /// Called after each request, on the thread that made it, with nothing locked that a request or a question needs.
+    int addListener(Listener listener);
+    /// When this returns no call is under way in another thread and none comes any more.
+    void removeListener(int id);
+
+private:
+    struct Announcement
+    {
+        RequestKind kind;
+        std::uint32_t value;
+        std::thread::id thread;
+        bool heard; ///< the caller knows that it arrived
+    };
+    struct Stream
+    {
+        int mode;
+        int chunk; ///< the four bytes sent last; 10 is past the end
+    };
+
+    template <typename... Arguments, typename... Given> void arm(void (Faults::*fault)(Arguments...), Given... given)
+    {
+        const std::lock_guard lock(m_mutex);
+        (m_faults.*fault)(given...);
+    }
+
+    Reply request(RequestKind kind, std::uint8_t code, std::uint32_t value);
+    Reply serve(Request &request);
+    Reply converse(Request &request);
+    Reply announce(Request &request);
+    Reply continueStream(Request &request);
+    Reply command(Request &request);
+    bool matchesAnnouncement(const Request &request, const Announcement &announcement);
+    Reply answer(std::uint8_t code) const;
+    Reply answerChunk() const;
+    void take(Request &request);
+    void apply(std::uint8_t code, std::uint16_t value);
+    void changeScene(int mode);
+    void resetToFactory();
+    void forgetConversation();
+    void tell(const Request &request);
+
+    const MonitorModel &m_model;
+    platform::Clock &m_clock;
+    std::atomic<int> m_inFlight = 0;
+    std::atomic<std::int64_t> m_readLatency = 0;
+    std::atomic<std::int64_t> m_writeLatency = 0;
+    std::atomic<std::int64_t> m_delay = 0;
+
+    mutable std::mutex m_mutex; // guards everything down to the listeners
+    std::array<std::uint16_t, 256> m_values{};
+    std::array<SceneBlock, kLastMode + 1> m_blocks{};
+    std::optional<Announcement> m_announcement;
+    std::optional<Stream> m_stream;
+    bool m_selectorExpected = false;
+    bool m_plugged = true;
+    Faults m_faults;
+    ProtocolFaults m_protocolFaults;
+    std::deque<Request> m_history;
+
+    // Recursive, since a listener may pull the plug, which makes the program send requests from within.
+    std::recursive_mutex m_listenerMutex;
+    std::vector<std::pair<int, Listener>> m_listeners;
+    int m_nextListener = 1;
+};
+
+} // namespace virtualdesk

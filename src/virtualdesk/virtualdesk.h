@@ -1,0 +1,147 @@
+#pragma once
+
+#include <map>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <vector>
+
+#include <QObject>
+#include <QStringList>
+
+#include "platform/clock.h"
+#include "platform/displays.h"
+#include "platform/process.h"
+#include "virtualdesk/desksetup.h"
+#include "virtualdesk/devicemessages.h"
+#include "virtualdesk/simulatedmonitor.h"
+
+namespace virtualdesk {
+
+/// A program that was asked to be started.
+struct StartedProgram
+{
+    QString program;
+    QStringList arguments;
+    QString folder;
+};
+
+/// A desk without hardware: displays with simulated monitors on them, and what the program may ask of the system. Tests
+/// set it up and look at it by the functions here; the program reaches it through the platform's interfaces only.
+/// Interface thread, except monitorOfHandle.
+class VirtualDesk : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The clock outlives the desk. Without a set-up: the default desk without latency.
+    explicit VirtualDesk(platform::Clock &clock, const DeskSetup &setup = defaultSetup());
+    ~VirtualDesk() override;
+
+    // The monitors.
+
+    std::size_t monitorCount() const { return m_seats.size(); }
+    SimulatedMonitor &monitor(std::size_t index) { return *m_seats.at(index).monitor; }
+    /// Changes the enumeration and tells the windows that registered for monitors.
+    void plug(std::size_t index);
+    void unplug(std::size_t index);
+    /// Does to a monitor what a script may ask for.
+    void apply(std::size_t index, const MonitorEvent &event);
+    /// Starts the timed events of the script; calls after the first do nothing.
+    void startEvents();
+
+    // Displays, for the platform's enumeration.
+
+    std::vector<platform::DisplayPath> paths() const;
+    std::vector<platform::DisplayHandle> displays() const;
+    std::optional<platform::DisplayInfo> displayInfo(platform::DisplayHandle display);
+    std::optional<platform::DisplayDevice> adapter(std::uint32_t index) const;
+    std::optional<platform::DisplayDevice> monitorDevice(const QString &adapterName, std::uint32_t index) const;
+    std::optional<platform::RegistryValue> registryValue(const QString &keyPath, const QString &valueName) const;
+    std::vector<platform::Screen> screens() const;
+
+    /// Each replaces what follows from the plugged monitors, until called with nothing. An empty path list is a failed
+    /// call.
+    void setPaths(std::optional<std::vector<platform::DisplayPath>> paths) { m_paths = std::move(paths); }
+    void setScreens(std::optional<std::vector<platform::Screen>> screens) { m_screens = std::move(screens); }
+    /// Replaces the displays; monitors keep their display's index, and those beyond the last one are not seen.
+    void setDisplays(std::vector<DisplaySetup> displays);
+    /// Moves a monitor to another display.
+    void setMonitorDisplay(std::size_t index, int display);
+    /// The registry's EDID of a monitor; nothing takes the value away.
+    void setRegistryEdid(std::size_t index, std::optional<QByteArray> edid);
+
+    // Handles of physical monitors.
+
+    /// The monitors on a display; nothing for a display that is not enumerated (any more).
+    std::optional<std::vector<std::size_t>> monitorsOf(platform::DisplayHandle display);
+    void *openHandle(std::size_t index);
+    void closeHandle(void *handle);
+    /// Null for a handle that is not open, which is counted. Safe from any thread.
+    SimulatedMonitor *monitorOfHandle(void *handle);
+    int handlesOpen() const;
+    /// Uses of handles that were closed, outdated or never given.
+    int handleFaults() const;
+
+    // The process.
+
+    bool administrator = true;
+    int runasResult = 42;
+    /// Whether programs are really started; a test leaves it off.
+    bool startsPrograms = false;
+    /// Whether starting a program succeeds.
+    bool startSucceeds = true;
+    std::vector<StartedProgram> started;  ///< detached
+    std::vector<StartedProgram> elevated; ///< asked for with "runas"
+
+    platform::NamedMutex createMutex(const QString &name);
+    void closeMutex(void *handle);
+    /// Where the files are that stand for names; the system's folder for temporary files at first.
+    void setMutexFolder(const QString &folder) { m_mutexFolder = folder; }
+
+    // Device messages.
+
+    DeviceRegistrations &registrations() { return m_registrations; }
+    /// A device-interface broadcast, kDeviceArrival or kDeviceRemoveComplete, to the windows registered for its class.
+    void deliverDeviceMessage(std::uint64_t event, const platform::Guid &interfaceClass = kMonitorInterfaceClass);
+
+Q_SIGNALS:
+    /// A monitor was plugged or unplugged, or a fault was set on one.
+    void monitorsChanged();
+
+private:
+    struct Seat
+    {
+        std::unique_ptr<SimulatedMonitor> monitor;
+        int display;
+        std::optional<QByteArray> edid;
+    };
+    struct OpenMutex;
+
+    void setPlugged(std::size_t index, bool plugged);
+    void displaysChanged();
+    std::vector<std::size_t> pluggedOn(std::size_t display) const;
+    QRect boundsOf(std::size_t display) const;
+    std::optional<std::size_t> displayOf(platform::DisplayHandle handle);
+    QString hardwarePath(std::size_t index) const;
+    void countHandleFault();
+
+    platform::Clock &m_clock;
+    std::vector<DisplaySetup> m_displays;
+    std::vector<Seat> m_seats;
+    std::vector<TimedEvent> m_events;
+    Topology m_topology;
+    std::optional<std::vector<platform::DisplayPath>> m_paths;
+    std::optional<std::vector<platform::Screen>> m_screens;
+    std::uintptr_t m_displayGeneration = 1; // display handles of an older set-up are outdated
+    DeviceRegistrations m_registrations;
+    QString m_mutexFolder;
+    std::vector<std::unique_ptr<OpenMutex>> m_mutexes;
+
+    mutable std::mutex m_handleMutex; // guards what follows
+    std::map<void *, std::size_t> m_handles;
+    std::uintptr_t m_nextHandle = 0x51000;
+    int m_handleFaults = 0;
+};
+
+} // namespace virtualdesk

@@ -1,0 +1,647 @@
+#include <functional>
+#include <memory>
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QWheelEvent>
+
+#include "controls/captions.h"
+#include "controls/colorpicker.h"
+#include "controls/colorselecter.h"
+#include "controls/icontextbutton.h"
+#include "controls/icontextbutton2.h"
+#include "controls/lefttabbutton.h"
+#include "controls/pictures.h"
+#include "controls/sliderwidget.h"
+#include "controls/switchbutton.h"
+#include "controls/switchbuttonrectangle.h"
+#include "controls/wheeleventfilter.h"
+#include "controls/zelmardialog.h"
+#include "controls/zelmarkeysequenceedit.h"
+
+namespace {
+const QString kIcon = QStringLiteral(":/no/such/icon");
+
+/// A picker whose user always answers the same.
+class AnsweredPicker : public ColorPicker
+{
+public:
+    explicit AnsweredPicker(const QColor &answer) : ColorPicker(nullptr), m_answer(answer) {}
+    int asked = 0;
+
+protected:
+    QColor askColor() override
+    {
+        ++asked;
+        return m_answer;
+    }
+
+private:
+    QColor m_answer;
+};
+
+/// What a control said, one string a signal.
+using Said = QStringList;
+
+/// Makes a control that writes its signals into the list.
+using Maker = std::function<QWidget *(Said &)>;
+
+void sendFocus(QWidget *widget, QEvent::Type type, Qt::FocusReason reason)
+{
+    QFocusEvent event(type, reason);
+    QApplication::sendEvent(widget, &event);
+}
+
+SliderWidget *laidOutSlider(Said &said)
+{
+    auto *widget = new SliderWidget(QStringLiteral("Brightness"), 0, 100);
+    QObject::connect(widget, &SliderWidget::sliderValueChanged, widget,
+                     [&said](const QString &name, int value, bool released) {
+                         said << QStringLiteral("%1 %2 %3").arg(name).arg(value).arg(released ? "end" : "step");
+                     });
+    widget->resize(400, 30);
+    widget->layout()->activate();
+    return widget;
+}
+
+/// The point of the slider's groove that stands for the value 0..100.
+QPoint pointOf(const QSlider *slider, int value)
+{
+    return QPoint(10 + (slider->width() - 20) * value / 100, slider->height() / 2);
+}
+} // namespace
+
+class TestControls : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void switchFollowsTheHalfThatWasPressed_data();
+    void switchFollowsTheHalfThatWasPressed();
+    void keyboardPressesAsTheMouseDoes_data();
+    void keyboardPressesAsTheMouseDoes();
+    void leftTabIgnoresWhatItIsNotEnabledFor();
+    void leftTabMovesFocusAlongTheColumn();
+    void hoverEndsWithTheWindow();
+    void swatchesAnswerOnlyInside();
+    void arrowKeysWalkTheSwatches();
+    void pickerTakesOnlyAnAnswer_data();
+    void pickerTakesOnlyAnAnswer();
+    void sliderReports_data();
+    void sliderReports();
+    void sliderEndsWhenFocusGoes();
+    void sliderIsDownDuringAKeyStep();
+    void unknownValueEndsWithTheFirstOne();
+    void wheelScrollsThePage_data();
+    void wheelScrollsThePage();
+    void keyFieldCaptures_data();
+    void keyFieldCaptures();
+    void keyFieldEndsAfterOneCombination();
+    void emptyKeyFieldSaysSo();
+    void dialogIsAcceptedByItsButton();
+    void focusOutlineIsForTheKeyboard_data();
+    void focusOutlineIsForTheKeyboard();
+    void captionFits_data();
+    void captionFits();
+    void picturesAreSharp();
+    void assistiveSoftwareSeesAndPresses();
+};
+
+void TestControls::switchFollowsTheHalfThatWasPressed_data()
+{
+    QTest::addColumn<bool>("before");
+    QTest::addColumn<int>("x");
+    QTest::addColumn<bool>("after");
+    QTest::newRow("left half switches off") << true << 10 << false;
+    QTest::newRow("left half of a switch that is off") << false << 10 << false;
+    QTest::newRow("right half switches on") << false << 110 << true;
+    QTest::newRow("right half of a switch that is on") << true << 110 << true;
+    QTest::newRow("exact centre switches off") << true << 60 << false;
+    QTest::newRow("first pixel of the right half") << false << 61 << true;
+}
+
+void TestControls::switchFollowsTheHalfThatWasPressed()
+{
+    QFETCH(bool, before);
+    QFETCH(int, x);
+    QFETCH(bool, after);
+    SwitchButton button;
+    button.setChecked(before);
+    QSignalSpy spy(&button, &SwitchButton::sigChecked);
+    QTest::mousePress(&button, Qt::LeftButton, {}, QPoint(x, 19));
+    QCOMPARE(button.isChecked(), after);
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(spy.first().first().toBool(), after);
+}
+
+void TestControls::keyboardPressesAsTheMouseDoes_data()
+{
+    QTest::addColumn<Maker>("make");
+    QTest::addColumn<QPoint>("point");
+    QTest::addColumn<Said>("expected");
+    const auto word = [](bool on) { return on ? QStringLiteral("on") : QStringLiteral("off"); };
+
+    // Every control is pressed twice, so toggles come back and the others stay.
+    QTest::newRow("IconTextButton toggles") << Maker([word](Said &said) {
+        auto *button = new IconTextButton(kIcon, QStringLiteral("Ruler"));
+        connect(button, &IconTextButton::clicked, button, [&said, word](bool on) { said << word(on); });
+        return button;
+    }) << QPoint(45, 40) << Said{"on", "off"};
+    QTest::newRow("IconTextButton2 stays checked") << Maker([word](Said &said) {
+        auto *button = new IconTextButton2(kIcon, kIcon, QStringLiteral("Ruler"));
+        connect(button, &IconTextButton2::clicked, button,
+                [&said, word, button] { said << word(button->isChecked()); });
+        return button;
+    }) << QPoint(20, 20) << Said{"on", "on"};
+    QTest::newRow("LeftTabButton stays checked") << Maker([word](Said &said) {
+        auto *button = new LeftTabButton(kIcon, QStringLiteral("Movie Mode"));
+        connect(button, &LeftTabButton::clicked, button, [&said, word, button] { said << word(button->isChecked()); });
+        return button;
+    }) << QPoint(20, 20) << Said{"on", "on"};
+    QTest::newRow("SwitchButtonRectangle toggles") << Maker([word](Said &said) {
+        auto *button = new SwitchButtonRectangle;
+        connect(button, &SwitchButtonRectangle::sigClicked, button, [&said, word](bool on) { said << word(on); });
+        return button;
+    }) << QPoint(10, 10) << Said{"on", "off"};
+    QTest::newRow("ColorSelecter selects") << Maker([](Said &said) {
+        auto *row = new ColorSelecter({kIcon, kIcon, kIcon});
+        row->resize(row->sizeHint());
+        row->grab(); // lays the swatches out
+        sendFocus(row, QEvent::FocusIn, Qt::TabFocusReason);
+        connect(row, &ColorSelecter::sigClicked, row, [&said](int index) { said << QString::number(index); });
+        return row;
+    }) << QPoint(22, 20) << Said{"0", "0"};
+    QTest::newRow("ColorPicker asks") << Maker([](Said &said) {
+        auto *picker = new AnsweredPicker(Qt::red);
+        connect(picker, &ColorPicker::sigColorChanged, picker, [&said](const QColor &color) { said << color.name(); });
+        return picker;
+    }) << QPoint(28, 17) << Said{"#ff0000", "#ff0000"};
+}
+
+void TestControls::keyboardPressesAsTheMouseDoes()
+{
+    QFETCH(Maker, make);
+    QFETCH(QPoint, point);
+    QFETCH(Said, expected);
+
+    Said byMouse;
+    const std::unique_ptr<QWidget> clicked(make(byMouse));
+    QTest::mouseClick(clicked.get(), Qt::LeftButton, {}, point);
+    QTest::mouseClick(clicked.get(), Qt::LeftButton, {}, point);
+    QTest::mouseClick(clicked.get(), Qt::RightButton, {}, point);
+    QCOMPARE(byMouse, expected);
+
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) {
+        Said byKey;
+        const std::unique_ptr<QWidget> typed(make(byKey));
+        QVERIFY(typed->focusPolicy() & Qt::TabFocus);
+        QTest::keyClick(typed.get(), key);
+        QTest::keyClick(typed.get(), key);
+        QKeyEvent held(QEvent::KeyPress, key, Qt::NoModifier, QString(), true);
+        QApplication::sendEvent(typed.get(), &held);
+        QCOMPARE(byKey, expected);
+    }
+
+    // The switch has no single press point: the keys name the half.
+    SwitchButton button;
+    QSignalSpy spy(&button, &SwitchButton::sigChecked);
+    for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Right, Qt::Key_Left, Qt::Key_Space})
+        QTest::keyClick(&button, key);
+    QList<bool> said;
+    for (const QVariantList &arguments : spy)
+        said << arguments.first().toBool();
+    QCOMPARE(said, (QList<bool>{true, true, false, true}));
+}
+
+void TestControls::leftTabIgnoresWhatItIsNotEnabledFor()
+{
+    LeftTabButton button(kIcon, QStringLiteral("Movie Mode"));
+    QSignalSpy spy(&button, &LeftTabButton::clicked);
+    button.setSelectable(false);
+    QTest::mousePress(&button, Qt::LeftButton);
+    QTest::keyClick(&button, Qt::Key_Space);
+    button.setChecked(true);
+    QVERIFY(!button.isChecked());
+    QCOMPARE(spy.count(), 0);
+
+    button.setSelectable(true);
+    button.setChecked(true);
+    button.setSelectable(false);
+    button.setChecked(false);
+    QVERIFY(button.isChecked());
+    QCOMPARE(spy.count(), 0);
+}
+
+void TestControls::leftTabMovesFocusAlongTheColumn()
+{
+    QWidget bar;
+    QList<LeftTabButton *> column;
+    for (int i = 0; i < 4; ++i) {
+        column << new LeftTabButton(kIcon, QString::number(i), &bar);
+        column.last()->move(0, i * 46);
+    }
+    column[1]->setSelectable(false);
+    column[0]->setFocus();
+    const auto press = [&bar](Qt::Key key) { QTest::keyClick(bar.focusWidget(), key); };
+    press(Qt::Key_Down);
+    QCOMPARE(bar.focusWidget(), column[2]);
+    press(Qt::Key_Down);
+    press(Qt::Key_Down);
+    QCOMPARE(bar.focusWidget(), column[3]);
+    press(Qt::Key_Up);
+    press(Qt::Key_Up);
+    QCOMPARE(bar.focusWidget(), column[0]);
+    for (const LeftTabButton *button : std::as_const(column))
+        QVERIFY(!button->isChecked());
+}
+
+void TestControls::hoverEndsWithTheWindow()
+{
+    IconTextButton button(kIcon, QStringLiteral("Ruler"));
+    QEnterEvent enter(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
+    for (const QEvent::Type end : {QEvent::Leave, QEvent::WindowDeactivate}) {
+        QApplication::sendEvent(&button, &enter);
+        QVERIFY(button.isHovered());
+        QEvent event(end);
+        QApplication::sendEvent(&button, &event);
+        QVERIFY(!button.isHovered());
+    }
+}
+
+void TestControls::swatchesAnswerOnlyInside()
+{
+    ColorSelecter row({kIcon, kIcon, kIcon});
+    row.resize(300, 40);
+    row.grab();
+    QSignalSpy spy(&row, &ColorSelecter::sigClicked);
+    const QRect second = row.swatchRect(1);
+    QMouseEvent over(QEvent::MouseMove, second.center(), second.center(), Qt::NoButton, Qt::NoButton, {});
+    QApplication::sendEvent(&row, &over);
+    QCOMPARE(row.hoveredIndex(), 1);
+    QTest::mousePress(&row, Qt::LeftButton, {}, QPoint(second.right() + 3, second.center().y()));
+    QCOMPARE(row.selectedIndex(), -1);
+    QTest::mousePress(&row, Qt::LeftButton, {}, second.center());
+    QCOMPARE(row.selectedIndex(), 1);
+    QCOMPARE(spy.count(), 1);
+
+    // Too narrow for the usual step, the swatches still lie apart and inside.
+    row.resize(114, 40);
+    row.grab();
+    QVERIFY(!row.swatchRect(0).intersects(row.swatchRect(1)));
+    QVERIFY(row.rect().contains(row.swatchRect(2)));
+    row.setSelectedIndex(3);
+    QCOMPARE(row.selectedIndex(), -1);
+}
+
+void TestControls::arrowKeysWalkTheSwatches()
+{
+    ColorSelecter row({kIcon, kIcon, kIcon});
+    row.setSelectedIndex(1);
+    sendFocus(&row, QEvent::FocusIn, Qt::TabFocusReason);
+    QCOMPARE(row.hoveredIndex(), 1);
+    for (int i = 0; i < 3; ++i)
+        QTest::keyClick(&row, Qt::Key_Right);
+    QCOMPARE(row.hoveredIndex(), 2);
+    QCOMPARE(row.selectedIndex(), 1);
+    QTest::keyClick(&row, Qt::Key_Space);
+    QCOMPARE(row.selectedIndex(), 2);
+    sendFocus(&row, QEvent::FocusOut, Qt::TabFocusReason);
+    QCOMPARE(row.hoveredIndex(), -1);
+}
+
+void TestControls::pickerTakesOnlyAnAnswer_data()
+{
+    QTest::addColumn<QColor>("answer");
+    QTest::addColumn<QPoint>("point");
+    QTest::addColumn<int>("asked");
+    QTest::addColumn<QColor>("color");
+    QTest::newRow("chosen") << QColor(1, 2, 3) << QPoint(28, 17) << 1 << QColor(1, 2, 3);
+    QTest::newRow("cancelled") << QColor() << QPoint(28, 17) << 1 << QColor(Qt::blue);
+    QTest::newRow("pressed on the frame") << QColor(1, 2, 3) << QPoint(1, 1) << 0 << QColor(Qt::blue);
+}
+
+void TestControls::pickerTakesOnlyAnAnswer()
+{
+    QFETCH(QColor, answer);
+    QFETCH(QPoint, point);
+    QFETCH(int, asked);
+    QFETCH(QColor, color);
+    AnsweredPicker picker(answer);
+    picker.setColor(Qt::blue);
+    QSignalSpy spy(&picker, &ColorPicker::sigColorChanged);
+    QTest::mousePress(&picker, Qt::LeftButton, {}, point);
+    QCOMPARE(picker.asked, asked);
+    QCOMPARE(picker.color(), color);
+    QCOMPARE(spy.count(), color == QColor(Qt::blue) ? 0 : 1);
+}
+
+void TestControls::sliderReports_data()
+{
+    using Action = std::function<void(SliderWidget *)>;
+    QTest::addColumn<Action>("action");
+    QTest::addColumn<Said>("expected");
+
+    // The slider stands at 50.
+    QTest::newRow("groove click jumps") << Action([](SliderWidget *widget) {
+        QTest::mouseClick(widget->slider(), Qt::LeftButton, {}, pointOf(widget->slider(), 80));
+    }) << Said{"Brightness 80 step", "Brightness 80 end"};
+    QTest::newRow("drag keeps hold where it took it") << Action([](SliderWidget *widget) {
+        const QPoint grab = pointOf(widget->slider(), 50) + QPoint(6, 0);
+        QTest::mousePress(widget->slider(), Qt::LeftButton, {}, grab);
+        const QPoint to = pointOf(widget->slider(), 70) + QPoint(6, 0);
+        QMouseEvent move(QEvent::MouseMove, to, to, Qt::NoButton, Qt::LeftButton, {});
+        QApplication::sendEvent(widget->slider(), &move);
+        QTest::mouseRelease(widget->slider(), Qt::LeftButton, {}, to);
+    }) << Said{"Brightness 70 step", "Brightness 70 end"};
+    QTest::newRow("key step") << Action([](SliderWidget *widget) { QTest::keyClick(widget->slider(), Qt::Key_Right); })
+                              << Said{"Brightness 51 step", "Brightness 51 end"};
+    QTest::newRow("held key ends once") << Action([](SliderWidget *widget) {
+        QTest::keyPress(widget->slider(), Qt::Key_Left);
+        for (const QEvent::Type type : {QEvent::KeyRelease, QEvent::KeyPress}) {
+            QKeyEvent repeated(type, Qt::Key_Left, Qt::NoModifier, QString(), true);
+            QApplication::sendEvent(widget->slider(), &repeated);
+        }
+        QTest::keyRelease(widget->slider(), Qt::Key_Left);
+    }) << Said{"Brightness 49 step", "Brightness 48 step", "Brightness 48 end"};
+    QTest::newRow("set by the program") << Action([](SliderWidget *widget) {
+        widget->setValue(20);
+        widget->setValue(20);
+    }) << Said{"Brightness 20 step"};
+    QTest::newRow("double click is two presses") << Action([](SliderWidget *widget) {
+        const QPoint point = pointOf(widget->slider(), 50);
+        QTest::mouseClick(widget->slider(), Qt::LeftButton, {}, point);
+        QTest::mouseDClick(widget->slider(), Qt::LeftButton, {}, point);
+        QTest::mouseRelease(widget->slider(), Qt::LeftButton, {}, point);
+    }) << Said{"Brightness 50 end", "Brightness 50 end"};
+    QTest::newRow("disabled in mid-drag") << Action([](SliderWidget *widget) {
+        QTest::mousePress(widget->slider(), Qt::LeftButton, {}, pointOf(widget->slider(), 30));
+        widget->setEnabled(false);
+    }) << Said{"Brightness 30 step", "Brightness 30 end"};
+}
+
+void TestControls::sliderReports()
+{
+    QFETCH(std::function<void(SliderWidget *)>, action);
+    QFETCH(Said, expected);
+    Said said;
+    const std::unique_ptr<SliderWidget> widget(laidOutSlider(said));
+    widget->setValue(50);
+    said.clear();
+    action(widget.get());
+    QCOMPARE(said, expected);
+    QCOMPARE(widget->valueLabel()->text(), QString::number(widget->value()));
+}
+
+void TestControls::sliderEndsWhenFocusGoes()
+{
+    Said said;
+    const std::unique_ptr<SliderWidget> widget(laidOutSlider(said));
+    QTest::keyPress(widget->slider(), Qt::Key_Right);
+    sendFocus(widget->slider(), QEvent::FocusOut, Qt::OtherFocusReason);
+    QTest::keyRelease(widget->slider(), Qt::Key_Right);
+    QCOMPARE(said, (Said{"Brightness 1 step", "Brightness 1 end"}));
+}
+
+void TestControls::sliderIsDownDuringAKeyStep()
+{
+    Said said;
+    const std::unique_ptr<SliderWidget> widget(laidOutSlider(said));
+    bool downAtStep = false;
+    connect(widget->slider(), &QSlider::valueChanged, this, [&] { downAtStep = widget->slider()->isSliderDown(); });
+    QTest::keyClick(widget->slider(), Qt::Key_PageUp);
+    QVERIFY(downAtStep);
+    QVERIFY(!widget->slider()->isSliderDown());
+    widget->setValue(3);
+    QVERIFY(!downAtStep);
+}
+
+void TestControls::unknownValueEndsWithTheFirstOne()
+{
+    Said said;
+    const std::unique_ptr<SliderWidget> widget(laidOutSlider(said));
+    widget->setUnknown(true);
+    QCOMPARE(widget->valueLabel()->text(), QStringLiteral("–"));
+    // The value that the slider stands at anyway is news as well.
+    widget->setValue(0);
+    QVERIFY(!widget->isUnknown());
+    QCOMPARE(widget->valueLabel()->text(), QStringLiteral("0"));
+    QVERIFY(said.isEmpty());
+    widget->setUnknown(true);
+    QTest::keyClick(widget->slider(), Qt::Key_Right);
+    QCOMPARE(widget->valueLabel()->text(), QStringLiteral("1"));
+}
+
+void TestControls::wheelScrollsThePage_data()
+{
+    QTest::addColumn<bool>("slider");
+    QTest::newRow("slider") << true;
+    QTest::newRow("filtered combo box") << false;
+}
+
+void TestControls::wheelScrollsThePage()
+{
+    QFETCH(bool, slider);
+    QScrollArea area;
+    auto *page = new QWidget;
+    page->setFixedSize(200, 2000);
+    area.setWidget(page);
+    area.resize(220, 200);
+    auto *line = new NoWheelSlider(page);
+    auto *box = new QComboBox(page);
+    box->addItems({"a", "b", "c"});
+    box->setCurrentIndex(1);
+    WheelEventFilter filter;
+    box->installEventFilter(&filter);
+    line->setValue(50);
+    area.show();
+
+    QWheelEvent wheel(QPointF(5, 5), QPointF(5, 5), QPoint(), QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    // Only what seems to come from the window system travels on to parents.
+    QSpontaneKeyEvent::setSpontaneous(&wheel);
+    qApp->notify(slider ? static_cast<QWidget *>(line) : box, &wheel);
+    QCOMPARE(line->value(), 50);
+    QCOMPARE(box->currentIndex(), 1);
+    QVERIFY(area.verticalScrollBar()->value() > 0);
+}
+
+void TestControls::keyFieldCaptures_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("modifiers");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char *name, Qt::Key key, Qt::KeyboardModifiers modifiers, const char *text) {
+        QTest::newRow(name) << int(key) << int(modifiers.toInt()) << QString::fromLatin1(text);
+    };
+    // The field holds Alt+9 before.
+    row("Control and letter", Qt::Key_A, Qt::ControlModifier, "Ctrl+A");
+    row("Alt and digit", Qt::Key_0, Qt::AltModifier, "Alt+0");
+    row("Shift may be added", Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier, "Ctrl+Shift+Z");
+    row("the same again", Qt::Key_9, Qt::AltModifier, "Alt+9");
+    row("Shift alone", Qt::Key_A, Qt::ShiftModifier, "Alt+9");
+    row("no modifier", Qt::Key_A, Qt::NoModifier, "Alt+9");
+    row("numeric pad", Qt::Key_5, Qt::ControlModifier | Qt::KeypadModifier, "Alt+9");
+    row("function key", Qt::Key_F1, Qt::ControlModifier, "Alt+9");
+    row("modifier alone", Qt::Key_Control, Qt::ControlModifier, "Alt+9");
+    row("Backspace clears", Qt::Key_Backspace, Qt::NoModifier, "");
+}
+
+void TestControls::keyFieldCaptures()
+{
+    QFETCH(int, key);
+    QFETCH(int, modifiers);
+    QFETCH(QString, text);
+    ZelmarKeySequenceEdit field;
+    field.setKeySequence(QKeySequence(Qt::ALT | Qt::Key_9));
+    QTest::keyPress(&field, Qt::Key(key), Qt::KeyboardModifiers::fromInt(modifiers));
+    QCOMPARE(field.text(), text);
+    QCOMPARE(field.findChild<QLineEdit *>()->text(), text);
+}
+
+void TestControls::keyFieldEndsAfterOneCombination()
+{
+    ZelmarKeySequenceEdit field;
+    QSignalSpy changed(&field, &QKeySequenceEdit::keySequenceChanged);
+    QSignalSpy finished(&field, &QKeySequenceEdit::editingFinished);
+    QTest::keyPress(&field, Qt::Key_A, Qt::ControlModifier);
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(finished.count(), 1);
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_A, Qt::ControlModifier, QString(), true);
+    QApplication::sendEvent(&field, &held);
+    QTest::keyRelease(&field, Qt::Key_A, Qt::ControlModifier);
+    QCOMPARE(finished.count(), 1);
+    // A second combination replaces the first instead of joining it.
+    QTest::keyPress(&field, Qt::Key_B, Qt::ControlModifier);
+    QCOMPARE(field.keySequence(), QKeySequence(Qt::CTRL | Qt::Key_B));
+    QCOMPARE(finished.count(), 2);
+}
+
+void TestControls::emptyKeyFieldSaysSo()
+{
+    ZelmarKeySequenceEdit field;
+    auto *line = field.findChild<QLineEdit *>();
+    QCOMPARE(line->placeholderText(), QStringLiteral("NA"));
+    line->setText(QStringLiteral("NA"));
+    sendFocus(line, QEvent::FocusIn, Qt::MouseFocusReason);
+    QCOMPARE(line->placeholderText(), QString());
+    line->clear();
+    sendFocus(line, QEvent::FocusOut, Qt::MouseFocusReason);
+    QCOMPARE(line->placeholderText(), QStringLiteral("NA"));
+    QTest::keyPress(&field, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyPress(&field, Qt::Key_Backspace);
+    QCOMPARE(line->placeholderText(), QStringLiteral("NA"));
+    // Emptied by the page, the base class puts a hint of its own there until the field is painted.
+    field.setKeySequence(QKeySequence(Qt::CTRL | Qt::Key_C));
+    field.clear();
+    field.grab();
+    QCOMPARE(line->placeholderText(), QStringLiteral("NA"));
+}
+
+void TestControls::dialogIsAcceptedByItsButton()
+{
+    ZelmarDialog dialog;
+    QCOMPARE(dialog.windowTitle(), QStringLiteral("Hotkey conflict"));
+    QSignalSpy accepted(&dialog, &QDialog::accepted);
+    auto *ok = dialog.findChild<QPushButton *>();
+    QVERIFY(ok->isDefault());
+    ok->click();
+    QCOMPARE(accepted.count(), 1);
+}
+
+void TestControls::focusOutlineIsForTheKeyboard_data()
+{
+    QTest::addColumn<QList<Qt::FocusReason>>("reasons");
+    QTest::addColumn<bool>("shown");
+    QTest::newRow("Tab") << QList{Qt::TabFocusReason} << true;
+    QTest::newRow("Backtab") << QList{Qt::BacktabFocusReason} << true;
+    QTest::newRow("mouse") << QList{Qt::MouseFocusReason} << false;
+    QTest::newRow("mouse after Tab") << QList{Qt::TabFocusReason, Qt::MouseFocusReason} << false;
+    QTest::newRow("window back after Tab") << QList{Qt::TabFocusReason, Qt::ActiveWindowFocusReason} << true;
+    QTest::newRow("window back after mouse") << QList{Qt::MouseFocusReason, Qt::ActiveWindowFocusReason} << false;
+}
+
+void TestControls::focusOutlineIsForTheKeyboard()
+{
+    QFETCH(QList<Qt::FocusReason>, reasons);
+    QFETCH(bool, shown);
+    FocusRing ring;
+    for (const Qt::FocusReason reason : std::as_const(reasons)) {
+        const QFocusEvent out(QEvent::FocusOut, reason);
+        ring.follow(&out);
+        QVERIFY(!ring.isShown());
+        const QFocusEvent in(QEvent::FocusIn, reason);
+        ring.follow(&in);
+    }
+    QCOMPARE(ring.isShown(), shown);
+}
+
+void TestControls::captionFits_data()
+{
+    QTest::addColumn<int>("percent");
+    QTest::addColumn<int>("leastPixels");
+    QTest::addColumn<int>("mostPixels");
+    QTest::addColumn<bool>("elided");
+    QTest::newRow("room enough") << 100 << 20 << 20 << false;
+    QTest::newRow("shrunk") << 90 << 16 << 19 << false;
+    QTest::newRow("elided") << 50 << 16 << 16 << true;
+    QTest::newRow("no room at all") << 0 << 16 << 16 << true;
+}
+
+void TestControls::captionFits()
+{
+    QFETCH(int, percent);
+    const QString text = QStringLiteral("A caption of some length");
+    QFont font;
+    font.setPixelSize(20);
+    const int width = (QFontMetrics(font).horizontalAdvance(text) * percent + 99) / 100;
+    const FittedCaption fitted = fitCaption(text, QFont(), 20, width);
+    QTEST(fitted.elided, "elided");
+    QFETCH(int, leastPixels);
+    QFETCH(int, mostPixels);
+    QVERIFY(fitted.font.pixelSize() >= leastPixels && fitted.font.pixelSize() <= mostPixels);
+    if (percent > 0)
+        QVERIFY(QFontMetrics(fitted.font).horizontalAdvance(fitted.text) <= width);
+    QCOMPARE(fitted.text == text, !fitted.elided);
+}
+
+void TestControls::picturesAreSharp()
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("a.png"));
+    QVERIFY(QImage(10, 10, QImage::Format_RGB32).save(path));
+    QCOMPARE(Pictures::load(path, 2.0).size(), QSize(10, 10));
+    QVERIFY(QImage(20, 20, QImage::Format_RGB32).save(folder.filePath(QStringLiteral("a@2x.png"))));
+    QCOMPARE(Pictures::load(path, 1.0).size(), QSize(10, 10));
+    const QPixmap doubled = Pictures::load(path, 1.5);
+    QCOMPARE(doubled.size(), QSize(20, 20));
+    QCOMPARE(doubled.devicePixelRatio(), 2.0);
+    QVERIFY(Pictures::load(folder.filePath(QStringLiteral("b.png")), 2.0).isNull());
+}
+
+void TestControls::assistiveSoftwareSeesAndPresses()
+{
+    IconTextButton button(kIcon, QStringLiteral("Ruler"));
+    QSignalSpy spy(&button, &IconTextButton::clicked);
+    QAccessibleInterface *seen = QAccessible::queryAccessibleInterface(&button);
+    QVERIFY(seen);
+    QCOMPARE(seen->role(), QAccessible::CheckBox);
+    QCOMPARE(seen->text(QAccessible::Name), QStringLiteral("Ruler"));
+    QVERIFY(!seen->state().checked);
+    seen->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QVERIFY(seen->state().checked);
+    QCOMPARE(spy.count(), 1);
+    button.setEnabled(false);
+    seen->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCOMPARE(spy.count(), 1);
+}
+
+QTEST_MAIN(TestControls)
+#include "tst_controls.moc"
