@@ -9,7 +9,8 @@
 
 namespace {
 
-constexpr platform::Guid kAccessoryClass = {0xE6327CAD, 0xDCEC, 0x4949, {0xAE, 0x8A, 0x99, 0x1E, 0x97, 0x6A, 0x79, 0xD2}};
+constexpr platform::Guid kAccessoryClass = {
+    0xE6327CAD, 0xDCEC, 0x4949, {0xAE, 0x8A, 0x99, 0x1E, 0x97, 0x6A, 0x79, 0xD2}};
 constexpr platform::Guid kHidClass = {0x4D1E55B2, 0xF16F, 0x11CF, {0x88, 0xCB, 0x00, 0x11, 0x11, 0x00, 0x00, 0x30}};
 constexpr platform::Guid kMonitorClass = {0xE6F07B5F, 0xEE97, 0x4A90, {0xB0, 0x76, 0x33, 0xF5, 0x7B, 0xF4, 0xEA, 0xA7}};
 constexpr int kMonitorArrivalDelay = 1000; // ms: the display set-up changes for a while
@@ -59,7 +60,8 @@ void SearchDeviceDlg::handleArrival(const platform::DeviceBroadcast *broadcast)
         return;
     if (m_host)
         m_host->deviceArrived();
-    const platform::Guid &arrived = reinterpret_cast<const platform::DeviceInterfaceBroadcast *>(broadcast)->interfaceClass;
+    const platform::Guid &arrived =
+        reinterpret_cast<const platform::DeviceInterfaceBroadcast *>(broadcast)->interfaceClass;
     if (arrived == kMonitorClass)
         requestSearchAfter(kMonitorArrivalDelay);
 }

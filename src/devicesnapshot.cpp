@@ -70,7 +70,8 @@ void prepare(QProgressDialog &progress, bool care)
     progress.setWindowModality(Qt::ApplicationModal);
     progress.setCancelButton(nullptr); // half a snapshot would be of no use
     progress.setMinimumDuration(0);
-    const std::size_t reads = audioReads().size() + (care ? careReads().size() : 0) + modelReads().size() + officeReads().size();
+    const std::size_t reads =
+        audioReads().size() + (care ? careReads().size() : 0) + modelReads().size() + officeReads().size();
     progress.setMaximum(static_cast<int>(reads) + 2); // the block and the office area
     progress.setValue(0);
 }

@@ -8,7 +8,8 @@
 
 namespace {
 
-struct Translation {
+struct Translation
+{
     const char *prefix;
     const char *file;
 };

@@ -42,7 +42,8 @@ void LeftBar::setCurrentScene(int sceneValue)
 {
     int index = -1;
     for (std::size_t i = 0; i < m_entries.size(); ++i) {
-        if (m_entries[i].sceneValue != 0 && (sceneValue == m_entries[i].sceneValue || sceneValue == m_entries[i].sceneValue + 1))
+        if (m_entries[i].sceneValue != 0 &&
+            (sceneValue == m_entries[i].sceneValue || sceneValue == m_entries[i].sceneValue + 1))
             index = static_cast<int>(i);
     }
     setCurrent(index);

@@ -120,8 +120,9 @@ void MainWindow::createTrayIcon()
     m_tray = new QSystemTrayIcon(QIcon(Pictures::kRoot + QStringLiteral("app.ico")), this);
     m_tray->setToolTip(QStringLiteral("QUORVEL"));
     auto *menu = new QMenu(this);
-    menu->setStyleSheet(QStringLiteral("QMenu { background-color: #161d1a; color: #c9c9c9; border: 1px solid #1b5043; }"
-                                       "QMenu::item { padding: 6px 24px; } QMenu::item:selected { background: #1b5043; }"));
+    menu->setStyleSheet(
+        QStringLiteral("QMenu { background-color: #161d1a; color: #c9c9c9; border: 1px solid #1b5043; }"
+                       "QMenu::item { padding: 6px 24px; } QMenu::item:selected { background: #1b5043; }"));
     menu->addAction(QObject::tr("Show"), this, &MainWindow::showWindow);
     menu->addAction(QObject::tr("Exit"), qApp, &QCoreApplication::quit);
     m_tray->setContextMenu(menu);

@@ -17,7 +17,8 @@ class SearchDeviceDlg;
 class TopTabFrame;
 class pageSceneSetting;
 
-/// The program's one top-level window: tabs, left bars and pages. Closing hides it; "Exit" in the tray ends the program.
+/// The program's one top-level window: tabs, left bars and pages. Closing hides it; "Exit" in the tray ends the
+/// program.
 class MainWindow : public QLabel, public SessionHost
 {
     Q_OBJECT

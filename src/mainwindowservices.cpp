@@ -51,7 +51,8 @@ void MainWindow::updateInterface()
     const bool good = !label.isEmpty() && m_monitorAnswers;
     m_status->setText(QStringLiteral("<span style='color:%1'>●</span> <span style='color:#adadad'>%2 · %3</span>")
                           .arg(good ? QStringLiteral("#00ff71") : QStringLiteral("#da676d"),
-                               label.isEmpty() ? QStringLiteral("–") : QString::fromUtf8(label).toHtmlEscaped(), state));
+                               label.isEmpty() ? QStringLiteral("–") : QString::fromUtf8(label).toHtmlEscaped(),
+                               state));
     m_status->setAccessibleName(QString::fromUtf8(label) + QLatin1Char(' ') + state);
 }
 

@@ -9,15 +9,9 @@
 namespace {
 
 constexpr NavigationFamily kFamilyTable[kFamilies] = {
-    {LABEL("Scene"), "scene"},
-    {LABEL("Mac View"), "mac_view"},
-    {LABEL("Color Space"), "color_space"},
-    {LABEL("Print Mode"), "print_mode"},
-    {LABEL("Office Aid"), "office_aid"},
-    {LABEL("Game Aid"), "game_aid"},
-    {LABEL("Oled Care"), "oled_care"},
-    {LABEL("Night Loom"), "night_loom"},
-    {LABEL("Basic"), "basic"},
+    {LABEL("Scene"), "scene"},           {LABEL("Mac View"), "mac_view"},     {LABEL("Color Space"), "color_space"},
+    {LABEL("Print Mode"), "print_mode"}, {LABEL("Office Aid"), "office_aid"}, {LABEL("Game Aid"), "game_aid"},
+    {LABEL("Oled Care"), "oled_care"},   {LABEL("Night Loom"), "night_loom"}, {LABEL("Basic"), "basic"},
 };
 
 constexpr NavigationEntry kOfficeAid[] = {
@@ -36,13 +30,13 @@ constexpr NavigationEntry kGameAid[] = {
 };
 constexpr NavigationEntry kOledCare[] = {{LABEL("Care Content"), "care_content"}};
 constexpr NavigationEntry kNightLoom[] = {
-    {LABEL("Animate Mode"), "led_animate"}, {LABEL("Text Mode"), "led_text"},     {LABEL("Music Mode"), "led_music"},
+    {LABEL("Animate Mode"), "led_animate"},   {LABEL("Text Mode"), "led_text"},     {LABEL("Music Mode"), "led_music"},
     {LABEL("System Settings"), "led_system"}, {LABEL("Custom Mode"), "led_custom"}, {LABEL("Game VS"), "game_vs"},
 };
 constexpr NavigationEntry kBasic[] = {
-    {LABEL("System Settings"), "system_settings"},   {LABEL("Shortcut Key"), "shortcut_key"},
-    {LABEL("Scence Follow"), "scence_follow"},       {LABEL("Service Settings"), "service_settings"},
-    {LABEL("Tool Settings"), "tool_settings"},       {LABEL("I/O Settings"), "io_settings"},
+    {LABEL("System Settings"), "system_settings"}, {LABEL("Shortcut Key"), "shortcut_key"},
+    {LABEL("Scence Follow"), "scence_follow"},     {LABEL("Service Settings"), "service_settings"},
+    {LABEL("Tool Settings"), "tool_settings"},     {LABEL("I/O Settings"), "io_settings"},
 };
 
 constexpr std::span<const NavigationEntry> kPlainFamilies[] = {kOfficeAid, kGameAid, kOledCare, kNightLoom, kBasic};

@@ -7,15 +7,17 @@
 #include "ddc_protocol/devicestate.h"
 
 /// One entry of a left bar.
-struct NavigationEntry {
-    const char *label; ///< source text
-    const char *icon;  ///< picture name under img/entry/
+struct NavigationEntry
+{
+    const char *label;  ///< source text
+    const char *icon;   ///< picture name under img/entry/
     int sceneValue = 0; ///< the scene mode that the entry switches to; 0 for an entry that opens a page
     std::optional<Capability> needs = {}; ///< can be chosen only on monitors that have it
 };
 
 /// One tab of the window.
-struct NavigationFamily {
+struct NavigationFamily
+{
     const char *label;
     const char *icon; ///< picture name under img/tab/
 };

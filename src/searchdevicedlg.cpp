@@ -79,9 +79,12 @@ void SearchDeviceDlg::chooseIndexForPass(int pass)
 bool SearchDeviceDlg::readForReason()
 {
     switch (reloadEdidType) {
-    case kFullRead: return readDataFromDevice();
-    case kSceneBlockOnly: return readSceneModeData(deviceState.value(Command::SceneMode));
-    default: return true;
+    case kFullRead:
+        return readDataFromDevice();
+    case kSceneBlockOnly:
+        return readSceneModeData(deviceState.value(Command::SceneMode));
+    default:
+        return true;
     }
 }
 

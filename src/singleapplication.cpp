@@ -38,8 +38,9 @@ void SingleApplication::becomeServer()
     connect(m_localServer, &QLocalServer::newConnection, this, &SingleApplication::newLocalConnection);
     // The clean-up of a stale name sits behind a listen that worked, so it never runs. That is meant to stay: the named
     // mutex is what refuses a second instance, and a name that another instance serves must not be taken from it.
-    if (m_localServer->listen(applicationName()) && m_localServer->serverError() == QAbstractSocket::AddressInUseError
-        && QFile::exists(m_localServer->serverName())) {
+    if (m_localServer->listen(applicationName()) &&
+        m_localServer->serverError() == QAbstractSocket::AddressInUseError &&
+        QFile::exists(m_localServer->serverName())) {
         QFile::remove(m_localServer->serverName());
         m_localServer->listen(applicationName());
     }

@@ -6,10 +6,10 @@ constexpr SnapshotRead kAudioReads[] = {
     {Command::AudioVolume, true}, {Command::AudioMute, true, true}, {Command::AudioMode, false}};
 
 constexpr SnapshotRead kCareReads[] = {
-    {Command::PixelShift, false},       {Command::CareFunction2, true},     {Command::DetectionRate, false},
-    {Command::StaticIcon, false},       {Command::CareState5, true, true},  {Command::Taskbar, false},
-    {Command::Boundary, false},         {Command::CareState8, true, true},  {Command::CareSwitch9, true, true},
-    {Command::CareMode, false},         {Command::CareIsp, false},          {Command::CareFunctionB, true},
+    {Command::PixelShift, false},   {Command::CareFunction2, true},    {Command::DetectionRate, false},
+    {Command::StaticIcon, false},   {Command::CareState5, true, true}, {Command::Taskbar, false},
+    {Command::Boundary, false},     {Command::CareState8, true, true}, {Command::CareSwitch9, true, true},
+    {Command::CareMode, false},     {Command::CareIsp, false},         {Command::CareFunctionB, true},
     {Command::CareFunctionE, true},
 };
 
@@ -17,11 +17,8 @@ constexpr SnapshotRead kModelReads[] = {
     {Command::Paper, false}, {Command::Capability, true}, {Command::Firmware, true}};
 
 constexpr SnapshotRead kOfficeReads[] = {
-    {Command::Alignment, false},
-    {Command::Ruler, false},
-    {Command::AlignmentAid, true, true},
-    {Command::Composition, false},
-    {Command::RestTimer, false},
+    {Command::Alignment, false},   {Command::Ruler, false},     {Command::AlignmentAid, true, true},
+    {Command::Composition, false}, {Command::RestTimer, false},
 };
 
 } // namespace

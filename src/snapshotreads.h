@@ -5,7 +5,8 @@
 #include "ddc_protocol/commandtable.h"
 
 /// One single read of the start-up snapshot.
-struct SnapshotRead {
+struct SnapshotRead
+{
     Command command;
     bool logged;           ///< a failed attempt is logged
     bool isSwitch = false; ///< kept as 0 or 1

@@ -25,7 +25,8 @@ TopTabFrame::TopTabFrame(QWidget *parent) : QFrame(parent)
     for (const NavigationFamily &family : navigationFamilies()) {
         const QString icon = Pictures::kRoot + QLatin1String("img/tab/") + QLatin1String(family.icon);
         auto *tab = new TopTab(icon, QObject::tr(family.label), this);
-        connect(tab, &TopTab::clicked, this, [this, index = static_cast<int>(m_tabs.size())] { Q_EMIT tabChosen(index); });
+        connect(tab, &TopTab::clicked, this,
+                [this, index = static_cast<int>(m_tabs.size())] { Q_EMIT tabChosen(index); });
         m_tabs.push_back(tab);
         row->addWidget(tab);
     }
@@ -57,7 +58,8 @@ void TopTabFrame::updateControlText()
 {
     for (std::size_t i = 0; i < m_tabs.size(); ++i)
         m_tabs[i]->setCaption(QObject::tr(navigationFamilies()[i].label));
-    for (auto [button, text] : {std::pair(m_minimise, QObject::tr("Minimise")), std::pair(m_close, QObject::tr("Close window"))}) {
+    for (auto [button, text] :
+         {std::pair(m_minimise, QObject::tr("Minimise")), std::pair(m_close, QObject::tr("Close window"))}) {
         button->setAccessibleName(text);
         button->setToolTip(text);
     }

@@ -44,3 +44,20 @@ ensure_packages() {
 apt_install() {
     as_root env DEBIAN_FRONTEND=noninteractive apt-get -q -y --no-install-recommends install "$@" >&2
 }
+
+# What building the program and its tests takes; read by the tools that source this file.
+# shellcheck disable=SC2034
+BUILD_PACKAGES=(
+    g++ cmake ninja-build ccache qt6-base-dev qt6-base-dev-tools qt6-l10n-tools libgl1-mesa-dev
+    fontconfig
+)
+
+# Configures and builds a preset: build_preset NAME [CMAKE-OPTION...]
+build_preset() {
+    local preset=$1
+    shift
+    local log="build/$preset-configure.log"
+    mkdir -p build
+    cmake --preset "$preset" -DCMAKE_CXX_COMPILER_LAUNCHER=ccache "$@" >"$log" 2>&1 || { cat "$log" >&2; die "configuring $preset failed"; }
+    cmake --build "build/$preset"
+}

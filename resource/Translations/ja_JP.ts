@@ -1133,15 +1133,15 @@
     </message>
     <message>
         <source>UserB</source>
-        <translation>ユーザー B</translation>
+        <translation>青(B)</translation>
     </message>
     <message>
         <source>UserG</source>
-        <translation>ユーザー G</translation>
+        <translation>緑(G)</translation>
     </message>
     <message>
         <source>UserR</source>
-        <translation>ユーザー R</translation>
+        <translation>赤(R)</translation>
     </message>
     <message>
         <source>V-Position</source>

@@ -1133,15 +1133,15 @@
     </message>
     <message>
         <source>UserB</source>
-        <translation>用户 B</translation>
+        <translation>用户B</translation>
     </message>
     <message>
         <source>UserG</source>
-        <translation>用户 G</translation>
+        <translation>用户G</translation>
     </message>
     <message>
         <source>UserR</source>
-        <translation>用户 R</translation>
+        <translation>用户R</translation>
     </message>
     <message>
         <source>V-Position</source>

@@ -1133,15 +1133,15 @@
     </message>
     <message>
         <source>UserB</source>
-        <translation>使用者 B</translation>
+        <translation>使用者B</translation>
     </message>
     <message>
         <source>UserG</source>
-        <translation>使用者 G</translation>
+        <translation>使用者G</translation>
     </message>
     <message>
         <source>UserR</source>
-        <translation>使用者 R</translation>
+        <translation>使用者R</translation>
     </message>
     <message>
         <source>V-Position</source>

@@ -2,7 +2,8 @@
 
 namespace {
 
-struct CodeRange {
+struct CodeRange
+{
     int first;
     int last;
 };

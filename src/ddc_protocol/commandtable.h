@@ -6,24 +6,24 @@
 /// The vendor command codes that the program uses, by OSD function. Value ranges stand beside each; an option's number
 /// is the monitor's own. Codes that no page names stay in the table, so that every row keeps its number.
 enum class Command : std::uint8_t {
-    PixelShift = 0x01,      ///< OLED care, as all of 0x01 to 0x0E
+    PixelShift = 0x01, ///< OLED care, as all of 0x01 to 0x0E
     CareFunction2 = 0x02,
     DetectionRate = 0x03,
     StaticIcon = 0x04,
-    CareState5 = 0x05,      ///< 0 or 1, read only
+    CareState5 = 0x05, ///< 0 or 1, read only
     Taskbar = 0x06,
     Boundary = 0x07,
-    CareState8 = 0x08,      ///< 0 or 1, read only
-    CareSwitch9 = 0x09,     ///< 0 or 1
+    CareState8 = 0x08,  ///< 0 or 1, read only
+    CareSwitch9 = 0x09, ///< 0 or 1
     CareMode = 0x0A,
     CareFunctionB = 0x0B,
     CareIsp = 0x0D,
     CareFunctionE = 0x0E,
-    Brightness = 0x10,      ///< 0 to 100
-    Contrast = 0x12,        ///< 0 to 100
-    ColorTemperature = 0x14, ///< option 0 to 10
+    Brightness = 0x10,           ///< 0 to 100
+    Contrast = 0x12,             ///< 0 to 100
+    ColorTemperature = 0x14,     ///< option 0 to 10
     NightViewTemperature = 0x15, ///< 0 to 100
-    User1Red = 0x16,        ///< 0 to 100, as all user colours
+    User1Red = 0x16,             ///< 0 to 100, as all user colours
     User1Green = 0x17,
     User1Blue = 0x18,
     User2Red = 0x19,
@@ -51,26 +51,26 @@ enum class Command : std::uint8_t {
     SaturationCyan = 0x5C,
     SaturationBlue = 0x5D,
     SaturationMagenta = 0x5E,
-    Sharpness = 0x87,       ///< 0 to 8; the snapshot marks an unread scene block by 10
+    Sharpness = 0x87, ///< 0 to 8; the snapshot marks an unread scene block by 10
     HueRed = 0x9B,
     HueYellow = 0x9C,
     HueGreen = 0x9D,
     HueCyan = 0x9E,
     HueBlue = 0x9F,
     HueMagenta = 0xA0,
-    LowBlueLight = 0xD8,    ///< 0 to 4
-    LightSensor = 0xDA,     ///< 0 or 1
-    AudioMode = 0xEA,       ///< option 0 to 2
-    Paper = 0xEC,           ///< option 0 to 4
-    Capability = 0xED,      ///< the capability word, read only (see devicestate.h)
-    Firmware = 0xEE,        ///< major in the high byte, minor in the low byte, read only
-    OfficeArea = 0xEF,      ///< maximum and current value are the office area's sizes, read only
-    Alignment = 0xF1,       ///< option 0 to 3
-    Ruler = 0xF2,           ///< option 0 to 2
-    AudioVolume = 0xF6,     ///< 0 to 100
-    AudioMute = 0xF7,       ///< 0 or 1
-    Composition = 0xF8,     ///< option 0 to 5
-    RestTimer = 0xF9,       ///< option 0 to 8
+    LowBlueLight = 0xD8, ///< 0 to 4
+    LightSensor = 0xDA,  ///< 0 or 1
+    AudioMode = 0xEA,    ///< option 0 to 2
+    Paper = 0xEC,        ///< option 0 to 4
+    Capability = 0xED,   ///< the capability word, read only (see devicestate.h)
+    Firmware = 0xEE,     ///< major in the high byte, minor in the low byte, read only
+    OfficeArea = 0xEF,   ///< maximum and current value are the office area's sizes, read only
+    Alignment = 0xF1,    ///< option 0 to 3
+    Ruler = 0xF2,        ///< option 0 to 2
+    AudioVolume = 0xF6,  ///< 0 to 100
+    AudioMute = 0xF7,    ///< 0 or 1
+    Composition = 0xF8,  ///< option 0 to 5
+    RestTimer = 0xF9,    ///< option 0 to 8
 };
 
 /// A vendor command: its number is a row of commandTable. Even rows write, the next odd row reads the same code.

@@ -4,17 +4,18 @@ DeviceState deviceState;
 
 // The hue values end in the order C, M, Y and the saturation values in Y, C, M: the monitor packs them so.
 constinit const std::array<Command, kSceneBlockValues> kSceneBlockLayout = {
-    Command::Brightness,       Command::Contrast,        Command::Sharpness,       Command::ColorEnhance,
-    Command::ContrastEnhance,  Command::BlackLevel,      Command::ColorTemperature,
-    Command::User1Red,         Command::User1Green,      Command::User1Blue,
-    Command::User2Red,         Command::User2Green,      Command::User2Blue,
-    Command::User3Red,         Command::User3Green,      Command::User3Blue,
-    Command::HueRed,           Command::HueGreen,        Command::HueBlue,
-    Command::HueCyan,          Command::HueMagenta,      Command::HueYellow,
-    Command::SaturationRed,    Command::SaturationGreen, Command::SaturationBlue,
-    Command::SaturationYellow, Command::SaturationCyan,  Command::SaturationMagenta,
-    Command::LowBlueLight,     Command::Gamma,           Command::SuperResolution, Command::GrayResponse,
-    Command::NightViewTemperature, Command::LightSensor, Command::LocalDimming,    Command::HaloControl,
+    Command::Brightness,        Command::Contrast,         Command::Sharpness,
+    Command::ColorEnhance,      Command::ContrastEnhance,  Command::BlackLevel,
+    Command::ColorTemperature,  Command::User1Red,         Command::User1Green,
+    Command::User1Blue,         Command::User2Red,         Command::User2Green,
+    Command::User2Blue,         Command::User3Red,         Command::User3Green,
+    Command::User3Blue,         Command::HueRed,           Command::HueGreen,
+    Command::HueBlue,           Command::HueCyan,          Command::HueMagenta,
+    Command::HueYellow,         Command::SaturationRed,    Command::SaturationGreen,
+    Command::SaturationBlue,    Command::SaturationYellow, Command::SaturationCyan,
+    Command::SaturationMagenta, Command::LowBlueLight,     Command::Gamma,
+    Command::SuperResolution,   Command::GrayResponse,     Command::NightViewTemperature,
+    Command::LightSensor,       Command::LocalDimming,     Command::HaloControl,
     Command::MotionTech,
 };
 

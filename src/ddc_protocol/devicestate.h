@@ -61,7 +61,8 @@ public:
     std::atomic<int> lastSceneModeSent = 0;
 
 private:
-    struct Entry {
+    struct Entry
+    {
         std::atomic<int> value = 0;
         std::atomic<bool> known = false;
     };

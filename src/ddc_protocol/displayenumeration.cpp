@@ -14,7 +14,8 @@ ProjectionMode projectionMode = ProjectionMode::Unknown;
 namespace {
 
 /// One monitor that the enumeration met.
-struct EnumerationEntry {
+struct EnumerationEntry
+{
     QString deviceName;
     platform::DisplayHandle display = nullptr;
     QString model;
@@ -43,7 +44,8 @@ void collectEntries(platform::DisplayHandle display, std::vector<EnumerationEntr
     if (!match.hasMatch())
         return;
     static const QRegularExpression separator(QStringLiteral("[;]"));
-    const QStringList names = monitorNameFromDisplayIndex(match.captured(1).toInt()).split(separator, Qt::SkipEmptyParts);
+    const QStringList names =
+        monitorNameFromDisplayIndex(match.captured(1).toInt()).split(separator, Qt::SkipEmptyParts);
     if (projectionMode == ProjectionMode::InternalOnly && names.size() >= 2) {
         qDebug() << "ExternalOnly";
         projectionMode = ProjectionMode::ExternalOnly;
@@ -70,7 +72,7 @@ void appendMonitor(const EnumerationEntry &entry, int number, const QString &scr
     labels += QStringLiteral("%1. %2").arg(number).arg(name).toUtf8();
     const MonitorInfo record = firstPhysicalMonitor(entry.display);
     qDebug().noquote() << "hMonitor " << entry.display << "deviceName " << entry.deviceName << "model " << entry.model
-             << "Monitor.hPhysicalMonitor" << record.handle;
+                       << "Monitor.hPhysicalMonitor" << record.handle;
     monitorList.push_back(record);
 }
 

@@ -19,8 +19,8 @@ QString descriptorName(const QByteArray &edid)
     for (const qsizetype offset : kDescriptorOffsets) {
         if (offset + kDescriptorSize - 1 >= edid.size())
             break;
-        const bool isName = edid[offset] == 0 && edid[offset + 1] == 0 && edid[offset + 2] == 0
-                            && edid[offset + 3] == kMonitorNameTag;
+        const bool isName =
+            edid[offset] == 0 && edid[offset + 1] == 0 && edid[offset + 2] == 0 && edid[offset + 3] == kMonitorNameTag;
         if (!isName)
             continue;
         const QString name = QString::fromLatin1(edid.constData() + offset + kNameOffset, kNameSize).trimmed();

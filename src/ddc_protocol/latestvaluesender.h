@@ -30,7 +30,8 @@ Q_SIGNALS:
     void sent(Command command, int value, bool ok);
 
 private:
-    struct Pending {
+    struct Pending
+    {
         Command command;
         int value;
     };

@@ -53,7 +53,8 @@ constexpr SceneMode kSceneModes[] = {
 };
 // clang-format on
 
-struct FamilyRange {
+struct FamilyRange
+{
     int first;
     int last;
     SceneFamily family;

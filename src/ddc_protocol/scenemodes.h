@@ -11,7 +11,8 @@
 enum class SceneFamily { Scene, MacView, ColorSpace, PrintMode };
 
 /// One scene mode: the odd value with factory parameters; the next even value is the same mode with the user's.
-struct SceneMode {
+struct SceneMode
+{
     SceneFamily family;
     const char *label; ///< source text, to be translated in the context QObject
     int value;

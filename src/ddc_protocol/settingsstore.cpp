@@ -6,6 +6,21 @@
 
 namespace {
 
+/// Whether a file has lines that are neither a section, a comment nor a key with its value.
+bool holdsForeignLines(const QString &fileName)
+{
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    while (!file.atEnd()) {
+        const QByteArray line = file.readLine().trimmed();
+        const bool known = line.isEmpty() || line.startsWith('[') || line.startsWith(';') || line.indexOf('=') > 0;
+        if (!known || line.contains('\0'))
+            return true;
+    }
+    return false;
+}
+
 /// An INI file opened for one operation.
 class IniFile
 {
@@ -31,12 +46,11 @@ public:
     QStringList keys() const { return m_settings.allKeys(); }
 
 private:
+    /// The toolkit drops what it does not understand when it writes; somebody may want it back.
     void keepForeignContent()
     {
-        if (m_settings.status() != QSettings::FormatError)
-            return;
         const QString copy = m_settings.fileName() + QLatin1String(".bad");
-        if (QFile::copy(m_settings.fileName(), copy))
+        if (holdsForeignLines(m_settings.fileName()) && QFile::copy(m_settings.fileName(), copy))
             qWarning().noquote() << m_settings.fileName() << "is damaged; what it held is kept in" << copy;
     }
 

@@ -105,7 +105,9 @@ int BuildCommandPacket(COMMAND_set_Type command, std::uint16_t value)
     for (std::size_t i = 0; i + 1 < length; ++i) {
         const bool high = i == length - 3;
         const bool low = i == length - 2;
-        commandPacket[i] = high ? static_cast<std::uint8_t>(value >> 8) : low ? static_cast<std::uint8_t>(value) : row[i];
+        commandPacket[i] = high  ? static_cast<std::uint8_t>(value >> 8)
+                           : low ? static_cast<std::uint8_t>(value)
+                                 : row[i];
         checksum ^= commandPacket[i];
     }
     commandPacket[length - 1] = checksum;
@@ -181,8 +183,8 @@ const std::uint8_t *Korvu_ReadCommandTable(COMMAND_set_Type command, std::uint16
     if (monitorList.empty())
         return nullptr;
     tableBuffer.assign(2 + std::max<std::size_t>(4, (length + 3u) / 4 * 4), 0);
-    tableReadLength = static_cast<std::uint8_t>(DDCCIReadTable(selectedMonitor(), kVendorCode, commandPacket[kPacketCodeByte],
-                                                               static_cast<std::uint8_t>(selector & 0xFF),
-                                                               tableBuffer.data(), length));
+    tableReadLength = static_cast<std::uint8_t>(
+        DDCCIReadTable(selectedMonitor(), kVendorCode, commandPacket[kPacketCodeByte],
+                       static_cast<std::uint8_t>(selector & 0xFF), tableBuffer.data(), length));
     return tableBuffer.data() + 2;
 }

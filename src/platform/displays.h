@@ -15,32 +15,37 @@ namespace platform {
 using DisplayHandle = void *;
 
 /// One active display path: which source (desktop surface) of which adapter it shows.
-struct DisplayPath {
+struct DisplayPath
+{
     std::uint64_t adapterId = 0;
     std::uint32_t sourceId = 0;
     bool operator==(const DisplayPath &) const = default;
 };
 
 /// What GetMonitorInfoW tells of a display.
-struct DisplayInfo {
+struct DisplayInfo
+{
     QRect bounds;       ///< in desktop pixels
     QString deviceName; ///< ends in DISPLAY and the display number, such as "\\.\DISPLAY1"
 };
 
 /// One record of EnumDisplayDevicesW.
-struct DisplayDevice {
+struct DisplayDevice
+{
     QString name; ///< "\\.\DISPLAY1" for an adapter, "\\.\DISPLAY1\Monitor0" for a monitor
     QString id;   ///< for a monitor its device-interface name, "\\?\DISPLAY#...#{class}"
 };
 
 /// One screen as the interface toolkit sees it.
-struct Screen {
+struct Screen
+{
     QString name;
     QRect geometry;
 };
 
 /// A registry value as it is stored; only binary values matter to the program.
-struct RegistryValue {
+struct RegistryValue
+{
     bool isBinary = false;
     QByteArray bytes;
 };

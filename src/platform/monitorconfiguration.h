@@ -12,7 +12,8 @@ namespace platform {
 using PhysicalMonitorHandle = void *;
 
 /// One physical-monitor record, laid out as the platform's PHYSICAL_MONITOR.
-struct PhysicalMonitor {
+struct PhysicalMonitor
+{
     PhysicalMonitorHandle handle = nullptr;
     char16_t description[128] = {}; ///< as the platform fills it; not used for labels
 };

@@ -5,7 +5,8 @@
 namespace platform {
 
 /// A native window message, laid out as the 64-bit MSG. Event type of the filters: "windows_generic_MSG".
-struct NativeMessage {
+struct NativeMessage
+{
     void *window = nullptr;
     std::uint32_t message = 0;
     std::uint64_t wParam = 0;
@@ -20,7 +21,8 @@ static_assert(sizeof(NativeMessage) == 48);
 inline constexpr const char *kNativeEventType = "windows_generic_MSG";
 
 /// A 128-bit class identifier, laid out as the platform's GUID.
-struct Guid {
+struct Guid
+{
     std::uint32_t data1 = 0;
     std::uint16_t data2 = 0;
     std::uint16_t data3 = 0;
@@ -29,20 +31,22 @@ struct Guid {
 };
 static_assert(sizeof(Guid) == 16);
 
-inline constexpr std::uint32_t kMessageDeviceChange = 0x0219; ///< WM_DEVICECHANGE
-inline constexpr std::uint64_t kDeviceArrival = 0x8000;       ///< DBT_DEVICEARRIVAL
+inline constexpr std::uint32_t kMessageDeviceChange = 0x0219;  ///< WM_DEVICECHANGE
+inline constexpr std::uint64_t kDeviceArrival = 0x8000;        ///< DBT_DEVICEARRIVAL
 inline constexpr std::uint64_t kDeviceRemoveComplete = 0x8004; ///< DBT_DEVICEREMOVECOMPLETE
-inline constexpr std::uint32_t kDeviceTypeInterface = 5;      ///< DBT_DEVTYP_DEVICEINTERFACE
+inline constexpr std::uint32_t kDeviceTypeInterface = 5;       ///< DBT_DEVTYP_DEVICEINTERFACE
 
 /// The head of every device broadcast that lParam points to (DEV_BROADCAST_HDR).
-struct DeviceBroadcast {
+struct DeviceBroadcast
+{
     std::uint32_t size = 0;
     std::uint32_t deviceType = 0;
     std::uint32_t reserved = 0;
 };
 
 /// A device-interface broadcast up to its class (DEV_BROADCAST_DEVICEINTERFACE_W); the name follows.
-struct DeviceInterfaceBroadcast {
+struct DeviceInterfaceBroadcast
+{
     DeviceBroadcast head;
     Guid interfaceClass;
 };

@@ -8,7 +8,8 @@
 namespace platform {
 
 /// The answer of CreateMutexW: a handle, and the error number that the call left (183: the name already exists).
-struct NamedMutex {
+struct NamedMutex
+{
     void *handle = nullptr;
     std::uint32_t error = 0;
 };

@@ -115,7 +115,8 @@ void pageSceneSetting::addRules()
     beforeSending(Command::ColorTemperature, [this](int value) { followColorTemperature(value); });
     afterSending(Command::ColorEnhance, [this](int) { enableSaturation(); });
     // A Sharpness that the monitor did not take leaves the block in doubt, until it is read again.
-    onResult(Command::Sharpness, [](int value, bool ok) { deviceState.store(Command::Sharpness, ok ? value : kBlockNotValid); });
+    onResult(Command::Sharpness,
+             [](int value, bool ok) { deviceState.store(Command::Sharpness, ok ? value : kBlockNotValid); });
     for (int channel = 0; channel < 3; ++channel) {
         chooseCommand(kUserColourSliders[channel], [this, channel]() -> std::optional<Command> {
             if (m_userColourSlot == 0)
@@ -201,8 +202,8 @@ void pageSceneSetting::showTitle()
     m_title->setText(mode ? QObject::tr(mode->label) : QObject::tr("Scene"));
     m_note->setText(m_defaultView ? QObject::tr("The picture as the factory set it.")
                                   : QObject::tr("Your own picture. Changes are sent to the monitor as you make them."));
-    m_defaultText->setText((mode ? QObject::tr(mode->hint) + QLatin1Char('\n') : QString())
-                           + QObject::tr("Choose Custom to make it your own."));
+    m_defaultText->setText((mode ? QObject::tr(mode->hint) + QLatin1Char('\n') : QString()) +
+                           QObject::tr("Choose Custom to make it your own."));
     const QString icon = QStringLiteral("img/entry/%1_checked.png").arg(QLatin1String(mode ? mode->icon : "standard"));
     const QPixmap picture = Pictures::load(Pictures::kRoot + icon, 2.0);
     m_defaultIcon->setPixmap(picture.scaled(picture.size() * 2, Qt::KeepAspectRatio, Qt::SmoothTransformation));

@@ -33,13 +33,13 @@ constexpr Option kLightSensor[] = {{LABEL("Close"), 0}, {LABEL("Open"), 1}};
 // The monitor numbers these two from 2: 0 and 1 belong to other models.
 constexpr Option kLocalDimming[] = {
     {LABEL("Close"), 2}, {LABEL("Low"), 3}, {LABEL("Smooth"), 4}, {LABEL("Medium"), 5}, {LABEL("Strong"), 6}};
-constexpr Option kMotionTech[] = {
-    {LABEL("Close"), 2},      {LABEL("Low"), 3},        {LABEL("Medium"), 4},    {LABEL("High"), 5},
-    {LABEL("Ull-Level1"), 6}, {LABEL("Ull-Level2"), 7}, {LABEL("Ull-Level3"), 8}};
+constexpr Option kMotionTech[] = {{LABEL("Close"), 2},     {LABEL("Low"), 3},        {LABEL("Medium"), 4},
+                                  {LABEL("High"), 5},      {LABEL("Ull-Level1"), 6}, {LABEL("Ull-Level2"), 7},
+                                  {LABEL("Ull-Level3"), 8}};
 
 constexpr Option kColorTemperature[] = {
-    {LABEL("5000K"), 0}, {LABEL("5500K"), 1}, {LABEL("6300K"), 2},          {LABEL("6500K"), 3},
-    {LABEL("7000K"), 4}, {LABEL("7500K"), 5}, {LABEL("9300K"), 6},          {LABEL("Night View C.T"), 7},
+    {LABEL("5000K"), 0}, {LABEL("5500K"), 1}, {LABEL("6300K"), 2},  {LABEL("6500K"), 3},
+    {LABEL("7000K"), 4}, {LABEL("7500K"), 5}, {LABEL("9300K"), 6},  {LABEL("Night View C.T"), 7},
     {LABEL("User1"), 8}, {LABEL("User2"), 9}, {LABEL("User3"), 10},
 };
 

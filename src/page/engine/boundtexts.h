@@ -18,7 +18,8 @@ public:
     void retranslate() const;
 
 private:
-    struct Entry {
+    struct Entry
+    {
         const char *source;
         Apply apply;
     };

@@ -8,12 +8,11 @@ namespace {
 
 constexpr int kPixels = 15;
 
-const char *const kStyle =
-    "QPushButton { border-image: url(%1normal.png); color: #adadad; padding-right: %2px; }"
-    "QPushButton:hover { border-image: url(%1hover.png); }"
-    "QPushButton:checked { border-image: url(%1checked.png); color: #0c100e; }"
-    "QPushButton:focus { border-image: url(%1focus.png); }"
-    "QPushButton:checked:focus { border-image: url(%1checkedfocus.png); }";
+const char *const kStyle = "QPushButton { border-image: url(%1normal.png); color: #adadad; padding-right: %2px; }"
+                           "QPushButton:hover { border-image: url(%1hover.png); }"
+                           "QPushButton:checked { border-image: url(%1checked.png); color: #0c100e; }"
+                           "QPushButton:focus { border-image: url(%1focus.png); }"
+                           "QPushButton:checked:focus { border-image: url(%1checkedfocus.png); }";
 
 } // namespace
 

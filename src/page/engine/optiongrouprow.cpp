@@ -17,7 +17,8 @@ constexpr int kButtonHeight = 34;
 constexpr int kTextMargin = 10; // on either side of a button's text
 constexpr int kSpacing = 8;
 
-struct ButtonSize {
+struct ButtonSize
+{
     int width;
     const char *pictures;
 };
@@ -27,9 +28,10 @@ constexpr ButtonSize kButtonSizes[] = {{78, "small"}, {124, "big"}, {196, "wide"
 const char *const kPictureStyle = "QPushButton { border-image: url(%1);}QPushButton:hover { border-image: url(%2);}"
                                   "QPushButton:checked { border-image: url(%3);}"
                                   "QPushButton:disabled { border-image: url(%4);}";
-const char *const kTextStyle = "QPushButton:focus { border-image: url(%1);}QPushButton:checked:focus { border-image: url(%2);}"
-                               "QPushButton { color: #c9c9c9; }QPushButton:checked { color: #0c100e; }"
-                               "QPushButton:disabled { color: #696969; }";
+const char *const kTextStyle =
+    "QPushButton:focus { border-image: url(%1);}QPushButton:checked:focus { border-image: url(%2);}"
+    "QPushButton { color: #c9c9c9; }QPushButton:checked { color: #0c100e; }"
+    "QPushButton:disabled { color: #696969; }";
 
 QString picture(const char *size, const char *state)
 {
@@ -49,10 +51,10 @@ void dressOptionButton(QPushButton *button)
         ++size;
     button->setFixedSize(size->width, kButtonHeight);
     const char *name = size->pictures;
-    button->setStyleSheet(QString::fromLatin1(kPictureStyle)
-                              .arg(picture(name, "normal"), picture(name, "hover"), picture(name, "checked"),
-                                   picture(name, "disabled"))
-                          + QString::fromLatin1(kTextStyle).arg(picture(name, "focus"), picture(name, "checkedfocus")));
+    button->setStyleSheet(
+        QString::fromLatin1(kPictureStyle)
+            .arg(picture(name, "normal"), picture(name, "hover"), picture(name, "checked"), picture(name, "disabled")) +
+        QString::fromLatin1(kTextStyle).arg(picture(name, "focus"), picture(name, "checkedfocus")));
 }
 
 OptionGroupRow::OptionGroupRow(const OptionGroup &group, BoundTexts &texts, QWidget *parent)

@@ -9,13 +9,15 @@
 // A settings page is a table of these. Labels are source texts, marked by QT_TRANSLATE_NOOP("QObject", ...).
 
 /// One option of a group: the button's label and the value that the monitor gets.
-struct Option {
+struct Option
+{
     const char *label;
     int value;
 };
 
 /// Buttons of which one is chosen. A button's object name is "<group label>_<option label>".
-struct OptionGroup {
+struct OptionGroup
+{
     const char *label;
     Command command;
     std::span<const Option> options;
@@ -28,7 +30,8 @@ enum class SendOn { Move, Release };
 enum class Accent { Mint, Red, Yellow, Green, Cyan, Blue, Magenta };
 
 /// A slider. Its object name is the name; the caption may be shorter where a heading says the rest.
-struct SliderSpec {
+struct SliderSpec
+{
     const char *name;
     const char *caption;
     Command command;
@@ -40,7 +43,8 @@ struct SliderSpec {
 };
 
 /// Sliders in columns, filled row by row, under a heading if there is one.
-struct SliderGrid {
+struct SliderGrid
+{
     const char *heading; ///< may be null
     int columns;
     int captionWidth; ///< pixels

@@ -18,9 +18,8 @@ SettingsPage::SettingsPage(LatestValueSender &sender, QWidget *parent) : QLabel(
 
 OptionGroupRow *SettingsPage::optionGroup(Command command) const
 {
-    const auto group = std::find_if(m_groups.begin(), m_groups.end(), [command](const OptionGroupRow *row) {
-        return row->group().command == command;
-    });
+    const auto group = std::find_if(m_groups.begin(), m_groups.end(),
+                                    [command](const OptionGroupRow *row) { return row->group().command == command; });
     return group == m_groups.end() ? nullptr : *group;
 }
 

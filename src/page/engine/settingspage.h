@@ -60,7 +60,10 @@ protected:
     /// it or not. A result rule replaces the storing of a moved slider's value.
     void beforeSending(Command command, Rule rule) { m_before[command] = std::move(rule); }
     void afterSending(Command command, Rule rule) { m_after[command] = std::move(rule); }
-    void onResult(Command command, std::function<void(int value, bool ok)> rule) { m_results[command] = std::move(rule); }
+    void onResult(Command command, std::function<void(int value, bool ok)> rule)
+    {
+        m_results[command] = std::move(rule);
+    }
 
     /// Which command a slider's value goes to; nothing to send none. For sliders that serve several commands.
     void chooseCommand(const char *sliderName, std::function<std::optional<Command>()> choose);
@@ -81,7 +84,8 @@ private Q_SLOTS:
     void onSent(Command command, int value, bool ok);
 
 private:
-    struct Slider {
+    struct Slider
+    {
         SliderSpec spec;
         SliderWidget *widget;
         std::function<std::optional<Command>()> choose;

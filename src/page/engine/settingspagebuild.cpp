@@ -17,13 +17,20 @@ constexpr int kHeadingPixels = 15;
 QColor colorOf(Accent accent)
 {
     switch (accent) {
-    case Accent::Mint: break;
-    case Accent::Red: return {0xff, 0x6b, 0x6b};
-    case Accent::Yellow: return {0xff, 0xd1, 0x66};
-    case Accent::Green: return {0x4b, 0xe0, 0x8a};
-    case Accent::Cyan: return {0x4b, 0xd6, 0xe0};
-    case Accent::Blue: return {0x5a, 0xa9, 0xff};
-    case Accent::Magenta: return {0xd9, 0x8b, 0xff};
+    case Accent::Mint:
+        break;
+    case Accent::Red:
+        return {0xff, 0x6b, 0x6b};
+    case Accent::Yellow:
+        return {0xff, 0xd1, 0x66};
+    case Accent::Green:
+        return {0x4b, 0xe0, 0x8a};
+    case Accent::Cyan:
+        return {0x4b, 0xd6, 0xe0};
+    case Accent::Blue:
+        return {0x5a, 0xa9, 0xff};
+    case Accent::Magenta:
+        return {0xd9, 0x8b, 0xff};
     }
     return {};
 }

@@ -1,0 +1,180 @@
+#include <QtTest>
+
+#include "ddc_protocol/displayenumeration.h"
+#include "ddc_protocol/edid.h"
+#include "support/deskfixture.h"
+
+namespace {
+
+QByteArray edidOf(const QList<QPair<int, QByteArray>> &descriptors, int size = 128)
+{
+    QByteArray edid(size, '\0');
+    if (size >= 12) {
+        edid[8] = 0x43; // read little-endian this word is 0x0443: A, B, C
+        edid[9] = 0x04;
+        edid[10] = char(0xF3);
+        edid[11] = 0x01;
+    }
+    for (const auto &[offset, name] : descriptors)
+        edid.replace(offset, 5 + name.size(), QByteArray::fromHex("000000fc00") + name);
+    return edid;
+}
+
+} // namespace
+
+class TestDisplays : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init() { m_desk = std::make_unique<DeskFixture>(); }
+    void cleanup() { m_desk.reset(); }
+    void modelName_data();
+    void modelName();
+    void randomBytesNeverCrash();
+    void projection_data();
+    void projection();
+    void labels_data();
+    void labels();
+    void unreadableEdidDropsTheDisplay_data();
+    void unreadableEdidDropsTheDisplay();
+    void secondMonitorMakesInternalExternal();
+    void handlesAreReleased();
+
+private:
+    std::unique_ptr<DeskFixture> m_desk;
+};
+
+void TestDisplays::modelName_data()
+{
+    QTest::addColumn<QByteArray>("edid");
+    QTest::addColumn<QString>("name");
+    const QByteArray name = "Q27-OLED\n    ";
+    QTest::newRow("empty") << QByteArray() << QString();
+    QTest::newRow("71 bytes") << edidOf({}, 71) << QString();
+    QTest::newRow("127 bytes") << edidOf({{54, name}}, 127) << QString();
+    QTest::newRow("second descriptor") << edidOf({{72, name}}) << "Q27-OLED";
+    QTest::newRow("last descriptor") << edidOf({{108, name}}) << "Q27-OLED";
+    QTest::newRow("256 bytes") << edidOf({{54, name}}, 256) << "Q27-OLED";
+    QTest::newRow("an empty one before") << edidOf({{54, QByteArray(13, ' ')}, {90, name}}) << "Q27-OLED";
+    QTest::newRow("Latin-1") << edidOf({{54, QByteArray("B\xFCro 27\n     ")}}) << QStringLiteral("B\u00FCro 27");
+    QTest::newRow("no descriptor") << edidOf({}) << "ABC-01F3";
+    QByteArray timing = edidOf({{54, name}});
+    timing[54] = 1; // a timing whose bytes happen to look like a name
+    QTest::newRow("timing, not a name") << timing << "ABC-01F3";
+}
+
+void TestDisplays::modelName()
+{
+    QFETCH(QByteArray, edid);
+    QTEST(edidModelName(edid), "name");
+}
+
+void TestDisplays::randomBytesNeverCrash()
+{
+    QRandomGenerator random(20240309);
+    for (int size = 0; size < 400; ++size) {
+        QByteArray bytes(size, '\0');
+        for (char &byte : bytes)
+            byte = static_cast<char>(random.generate());
+        QCOMPARE(edidModelName(bytes).isNull(), size < 128);
+    }
+}
+
+void TestDisplays::projection_data()
+{
+    QTest::addColumn<QList<int>>("sources");
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<QStringList>("log");
+    QTest::newRow("one") << QList<int>{0} << 1 << QStringList{"InternalOnly"};
+    QTest::newRow("clone") << QList<int>{0, 0} << 3 << QStringList{"Clone"};
+    QTest::newRow("extend") << QList<int>{0, 1} << 4 << QStringList();
+    QTest::newRow("three that share") << QList<int>{0, 0, 0} << 4 << QStringList();
+    QTest::newRow("call failed") << QList<int>{} << 0 << QStringList();
+}
+
+void TestDisplays::projection()
+{
+    QFETCH(QList<int>, sources);
+    QFETCH(int, mode);
+    projectionMode = ProjectionMode::ExternalOnly;
+    std::vector<platform::DisplayPath> paths;
+    for (const int source : sources)
+        paths.push_back({7, static_cast<std::uint32_t>(source)});
+    m_desk->desk.setPaths(paths);
+    QCOMPARE(int(currentProjectionMode()), mode);
+    QCOMPARE(int(projectionMode), mode == 0 ? 2 : mode);
+    QTEST(m_desk->takeLog(), "log");
+}
+
+void TestDisplays::labels_data()
+{
+    QTest::addColumn<int>("secondDisplay"); // of the second monitor
+    QTest::addColumn<QList<QRect>>("screens");
+    QTest::addColumn<QByteArrayList>("labels");
+    const QRect left(0, 0, 1920, 1080);
+    const QRect right(1920, 0, 1920, 1080);
+    QTest::newRow("side by side") << 1 << QList{left, right} << QByteArrayList{"1. Q27-OLED", "2. Q32-MPCS"};
+    QTest::newRow("toolkit's order") << 1 << QList{right, left} << QByteArrayList{"2. Q32-MPCS", "1. Q27-OLED"};
+    QTest::newRow("a screen on no display")
+        << 1 << QList{left, QRect(5000, 0, 100, 100)} << QByteArrayList{"1. Q27-OLED"};
+    QTest::newRow("two on one display") << 0 << QList{left} << QByteArrayList{"1. Q27-OLED", "2. Q32-MPCS"};
+    QTest::newRow("numbers restart for every screen")
+        << 0 << QList{left, left} << QByteArrayList{"1. Q27-OLED", "2. Q32-MPCS", "1. Q27-OLED", "2. Q32-MPCS"};
+    QTest::newRow("no screen") << 1 << QList<QRect>() << QByteArrayList();
+}
+
+void TestDisplays::labels()
+{
+    QFETCH(int, secondDisplay);
+    QFETCH(QList<QRect>, screens);
+    m_desk->desk.setMonitorDisplay(1, secondDisplay);
+    std::vector<platform::Screen> toolkit;
+    for (const QRect &geometry : screens)
+        toolkit.push_back({QStringLiteral("Screen"), geometry});
+    m_desk->desk.setScreens(toolkit);
+    const QByteArrayList found = findDevices();
+    QTEST(found, "labels");
+    QCOMPARE(monitorList.size(), static_cast<std::size_t>(found.size()));
+}
+
+void TestDisplays::unreadableEdidDropsTheDisplay_data()
+{
+    QTest::addColumn<bool>("present");
+    QTest::addColumn<QByteArray>("edid");
+    QTest::addColumn<QByteArrayList>("labels");
+    QTest::newRow("no value") << false << QByteArray() << QByteArrayList{"1. Q32-MPCS"};
+    QTest::newRow("empty value") << true << QByteArray() << QByteArrayList{"1. Q32-MPCS"};
+    QTest::newRow("short block") << true << QByteArray(71, 'x') << QByteArrayList{"1. Q32-MPCS"};
+}
+
+void TestDisplays::unreadableEdidDropsTheDisplay()
+{
+    QFETCH(bool, present);
+    QFETCH(QByteArray, edid);
+    m_desk->desk.setRegistryEdid(0, present ? std::optional(edid) : std::nullopt);
+    QTEST(findDevices(), "labels");
+    QCOMPARE(m_desk->takeLog().contains(QStringLiteral("EDID read error.")), edid.isEmpty());
+}
+
+void TestDisplays::secondMonitorMakesInternalExternal()
+{
+    m_desk->desk.setMonitorDisplay(1, 0);
+    projectionMode = ProjectionMode::InternalOnly;
+    findDevices();
+    QCOMPARE(projectionMode, ProjectionMode::ExternalOnly);
+    projectionMode = ProjectionMode::Extend;
+    findDevices();
+    QCOMPARE(projectionMode, ProjectionMode::Extend);
+}
+
+void TestDisplays::handlesAreReleased()
+{
+    m_desk->desk.setMonitorDisplay(1, 0); // two physical monitors behind one handle, of which the first is kept
+    for (int i = 0; i < 5; ++i)
+        findDevices();
+    QCOMPARE(m_desk->desk.handlesOpen(), 2);
+    QCOMPARE(m_desk->desk.handleFaults(), 0);
+}
+
+QTEST_MAIN(TestDisplays)
+#include "tst_displays.moc"

@@ -1,0 +1,267 @@
+#include <QCloseEvent>
+#include <QtTest>
+
+#include "controls/lefttabbutton.h"
+#include "controls/sliderwidget.h"
+#include "ddc_protocol/displayenumeration.h"
+#include "ddc_protocol/transport.h"
+#include "leftbar.h"
+#include "mainwindow.h"
+#include "page/Scene/pagescenesetting.h"
+#include "page/emptypage.h"
+#include "searchdevicedlg.h"
+#include "support/deskfixture.h"
+#include "toptab.h"
+#include "toptabframe.h"
+
+class TestMainWindow : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void cleanup();
+    void constructionSendsNothing();
+    void openingFamily_data();
+    void openingFamily();
+    void entriesByModel();
+    void entrySwitchesTheScene();
+    void otherEntriesNameThemselves();
+    void interfaceModes_data();
+    void interfaceModes();
+    void closingHides();
+    void dragging();
+    void refreshKeepsADraggedValue();
+    void reconnectShowsTheMonitorsState();
+    void unpluggingAndPlugging();
+    void keyboardWalksTheTabs();
+
+private:
+    void start(int scene, std::size_t monitor = 0);
+    LeftTabButton *entry(int family, const char *label) const;
+    QString status() const;
+
+    std::unique_ptr<DeskFixture> m_desk;
+    std::unique_ptr<SearchDeviceDlg> m_session;
+    std::unique_ptr<MainWindow> m_window;
+};
+
+void TestMainWindow::start(int scene, std::size_t monitor)
+{
+    m_desk = std::make_unique<DeskFixture>();
+    m_desk->monitor(monitor).setValue(0x22, static_cast<std::uint16_t>(scene));
+    if (monitor != 0)
+        m_desk->desk.unplug(0);
+    m_session = std::make_unique<SearchDeviceDlg>();
+    m_session->searchDevices();
+    m_desk->takeCommands(monitor);
+    m_window = std::make_unique<MainWindow>(*m_session);
+    m_window->show();
+}
+
+void TestMainWindow::cleanup()
+{
+    m_window.reset();
+    QVERIFY(!MainWindow::instance());
+    m_session.reset();
+    m_desk.reset();
+}
+
+LeftTabButton *TestMainWindow::entry(int family, const char *label) const
+{
+    for (LeftTabButton *button : m_window->leftBar(family)->buttons()) {
+        if (button->caption() == QLatin1String(label))
+            return button;
+    }
+    return nullptr;
+}
+
+QString TestMainWindow::status() const
+{
+    for (const QLabel *label : m_window->findChildren<QLabel *>()) {
+        if (label->accessibleName().contains("connected") || label->accessibleName().contains("no "))
+            return label->accessibleName().trimmed();
+    }
+    return {};
+}
+
+void TestMainWindow::constructionSendsNothing()
+{
+    start(10);
+    QCOMPARE(m_desk->takeRequests(), QStringList());
+    QVERIFY(!commandsSuspended);
+    QCOMPARE(MainWindow::instance(), m_window.get());
+    QCOMPARE(m_window->size(), QSize(1280, 800));
+    QCOMPARE(static_cast<quint32>(m_window->windowFlags() & ~Qt::WindowType_Mask), 0xC800u);
+}
+
+void TestMainWindow::openingFamily_data()
+{
+    QTest::addColumn<int>("scene");
+    QTest::addColumn<int>("family");
+    QTest::addColumn<int>("entry");
+    QTest::newRow("scene") << 1 << 0 << 1; // behind the maker's own mode
+    QTest::newRow("scene, custom") << 10 << 0 << 5;
+    QTest::newRow("mac view") << 29 << 1 << 0;
+    QTest::newRow("colour space") << 50 << 2 << 0;
+    QTest::newRow("print mode") << 85 << 3 << 2;
+}
+
+void TestMainWindow::openingFamily()
+{
+    QFETCH(int, scene);
+    QFETCH(int, family);
+    QFETCH(int, entry);
+    start(scene);
+    QCOMPARE(m_window->tabs()->current(), family);
+    QCOMPARE(m_window->leftBar(family)->current(), entry);
+    QVERIFY(m_window->scenePage()->isVisible());
+    QCOMPARE(m_window->scenePage()->isDefaultView(), scene % 2 != 0);
+}
+
+void TestMainWindow::entriesByModel()
+{
+    start(9);
+    QVERIFY(entry(0, "Zelmar Mode"));
+    QVERIFY(!entry(0, "MPCS/LD"));
+    cleanup();
+    start(9, 1);
+    QVERIFY(!entry(0, "Zelmar Mode"));
+    QVERIFY(entry(0, "MPCS/LD"));
+}
+
+void TestMainWindow::entrySwitchesTheScene()
+{
+    start(10);
+    QTest::mouseClick(entry(0, "Night Mode"), Qt::LeftButton);
+    QTest::keyClick(entry(1, "AdobeRGB"), Qt::Key_Return);
+    QCOMPARE(m_desk->takeRequests(), (QStringList{"W 99=13", "W 22=13", "W 99=47", "W 22=47"}));
+    QVERIFY(entry(1, "AdobeRGB")->isChecked());
+    QCOMPARE(m_window->leftBar(0)->current(), -1); // the mode that is on belongs to the other family
+}
+
+void TestMainWindow::otherEntriesNameThemselves()
+{
+    start(10);
+    for (int family = kSceneFamilies; family < kFamilies; ++family) {
+        QTest::mouseClick(m_window->tabs()->tabs()[static_cast<std::size_t>(family)], Qt::LeftButton);
+        for (LeftTabButton *button : m_window->leftBar(family)->buttons()) {
+            QTest::mouseClick(button, Qt::LeftButton);
+            const auto *page = m_window->findChild<EmptyPage *>();
+            QVERIFY(page->isVisible());
+            bool named = false;
+            for (const QLabel *label : page->findChildren<QLabel *>())
+                named = named || label->text() == button->caption();
+            QVERIFY2(named, qPrintable(button->caption()));
+        }
+    }
+    QCOMPARE(m_desk->takeRequests(), QStringList());
+}
+
+void TestMainWindow::interfaceModes_data()
+{
+    QTest::addColumn<int>("code");
+    QTest::addColumn<bool>("tabs");
+    QTest::addColumn<int>("accessoryEntries"); // that can be chosen
+    QTest::newRow("0 locks") << 0 << false << 0;
+    QTest::newRow("1 unlocks") << 1 << true << 6;
+    QTest::newRow("3 by model") << 3 << true << 6;
+    QTest::newRow("4 busy") << 4 << true << 1;
+    QTest::newRow("5 busy ended") << 5 << true << 6;
+}
+
+void TestMainWindow::interfaceModes()
+{
+    QFETCH(int, code);
+    QFETCH(bool, tabs);
+    QFETCH(int, accessoryEntries);
+    start(10);
+    m_window->setInterfaceMode(0);
+    m_window->setInterfaceMode(code);
+    QCOMPARE(m_window->tabs()->tabs().front()->isEnabled(), tabs);
+    QCOMPARE(entry(0, "Night Mode")->isEnabled(), tabs);
+    const auto &buttons = m_window->leftBar(kAccessoryFamily)->buttons();
+    QCOMPARE(std::count_if(buttons.begin(), buttons.end(), [](auto *button) { return button->isEnabled(); }),
+             accessoryEntries);
+    if (!tabs) {
+        QTest::mouseClick(entry(0, "Night Mode"), Qt::LeftButton);
+        QCOMPARE(m_desk->takeRequests(), QStringList());
+    }
+}
+
+void TestMainWindow::closingHides()
+{
+    start(10);
+    QCloseEvent event;
+    QCoreApplication::sendEvent(m_window.get(), &event);
+    QVERIFY(!event.isAccepted());
+    QVERIFY(m_window->isHidden());
+    m_window->showWindow();
+    QVERIFY(m_window->isVisible());
+}
+
+void TestMainWindow::dragging()
+{
+    start(10);
+    const QPoint before = m_window->pos();
+    QTest::mousePress(m_window.get(), Qt::LeftButton, {}, QPoint(120, 740));
+    QTest::mouseMove(m_window.get(), QPoint(150, 720));
+    QCOMPARE(m_window->pos() - before, QPoint(30, -20));
+    QTest::mouseRelease(m_window.get(), Qt::LeftButton, {}, QPoint(120, 740));
+    QTest::mouseMove(m_window.get(), QPoint(300, 300));
+    QCOMPARE(m_window->pos() - before, QPoint(30, -20));
+}
+
+void TestMainWindow::refreshKeepsADraggedValue()
+{
+    start(10);
+    {
+        const auto busy = lockTransport();
+        m_window->scenePage()->slider("Brightness")->slider()->setSliderPosition(17);
+    }
+    m_window->refreshPages(); // must not swallow what the drag has still to send
+    QCOMPARE(int(m_desk->monitor().value(0x10)), 17);
+    QVERIFY(!commandsSuspended);
+}
+
+void TestMainWindow::reconnectShowsTheMonitorsState()
+{
+    start(10);
+    QCOMPARE(status(), QStringLiteral("1. Q27-OLED connected"));
+    m_desk->monitor().goDeaf();
+    m_desk->clock.takeWaits();
+    QTest::mouseClick(entry(0, "Night Mode"), Qt::LeftButton);
+    QCOMPARE(status(), QStringLiteral("1. Q27-OLED no answer"));
+    QCOMPARE(m_desk->clock.takeWaits(), (QList<int>{100, 100})); // the write's own; the window does not wait on top
+    m_desk->monitor().recover();
+    m_session->delayedSearchDevices();
+    QCOMPARE(status(), QStringLiteral("1. Q27-OLED connected"));
+    QVERIFY(entry(0, "Movie Mode")->isChecked()); // what the monitor says is on
+    QVERIFY(!m_window->scenePage()->isDefaultView());
+    QVERIFY(deviceState.sceneBlockValid());
+}
+
+void TestMainWindow::unpluggingAndPlugging()
+{
+    start(10);
+    m_desk->desk.unplug(0);
+    m_desk->clock.advance(platform::milliseconds(300));
+    QCOMPARE(status(), QStringLiteral("1. Q27-OLED no answer"));
+    m_desk->desk.plug(0);
+    m_desk->clock.advance(platform::milliseconds(1000));
+    QCOMPARE(status(), QStringLiteral("1. Q27-OLED connected"));
+    QCOMPARE(m_desk->desk.handleFaults(), 0);
+}
+
+void TestMainWindow::keyboardWalksTheTabs()
+{
+    start(10);
+    const auto &tabs = m_window->tabs()->tabs();
+    m_window->activateWindow();
+    tabs[1]->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(tabs[1], Qt::Key_Right);
+    QTest::keyClick(tabs[2], Qt::Key_Space);
+    QCOMPARE(m_window->tabs()->current(), 2);
+    QVERIFY(tabs[2]->accessibleName() == "Color Space");
+}
+
+QTEST_MAIN(TestMainWindow)
+#include "tst_mainwindow.moc"

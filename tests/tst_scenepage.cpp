@@ -1,0 +1,396 @@
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QtTest>
+
+#include "controls/nowheelslider.h"
+#include "controls/sliderwidget.h"
+#include "ddc_protocol/latestvaluesender.h"
+#include "ddc_protocol/transport.h"
+#include "page/Scene/pagescenesetting.h"
+#include "page/Scene/scenetable.h"
+#include "page/engine/optiongrouprow.h"
+#include "searchdevicedlg.h"
+#include "support/deskfixture.h"
+
+class TestScenePage : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void cleanup();
+    void fillingSendsNothing();
+    void fillingShowsTheBlock();
+    void optionsSend_data();
+    void optionsSend();
+    void keyboardPressesOptions();
+    void slidersSend_data();
+    void slidersSend();
+    void dragEndsOnTheLastValue();
+    void sharpnessKeepsOnlyWhatWasTaken();
+    void colorTemperature();
+    void userSlidersFollowTheSlot();
+    void colorEnhanceHoldsSaturation_data();
+    void colorEnhanceHoldsSaturation();
+    void motionOptionsByScene_data();
+    void motionOptionsByScene();
+    void partsByModel();
+    void halves_data();
+    void halves();
+    void halfWithUnreadBlock();
+    void halfWithUnreadableBlock();
+    void chooseScene();
+    void unknownGroupIsIgnored();
+
+private:
+    void start(int scene, std::size_t monitor = 0);
+    QPushButton *option(Command command, int value) const { return m_page->optionGroup(command)->buttonOf(value); }
+    QPushButton *half(const char *label) const;
+    void press(const char *slider, int value);
+
+    std::unique_ptr<DeskFixture> m_desk;
+    std::unique_ptr<SearchDeviceDlg> m_session;
+    std::unique_ptr<LatestValueSender> m_sender;
+    std::unique_ptr<pageSceneSetting> m_page;
+};
+
+void TestScenePage::start(int scene, std::size_t monitor)
+{
+    m_desk = std::make_unique<DeskFixture>();
+    m_desk->monitor(monitor).setValue(0x22, static_cast<std::uint16_t>(scene));
+    if (monitor != 0)
+        m_desk->desk.unplug(0);
+    m_session = std::make_unique<SearchDeviceDlg>();
+    m_session->searchDevices();
+    m_sender = std::make_unique<LatestValueSender>();
+    m_page = std::make_unique<pageSceneSetting>(*m_session, *m_sender);
+    m_page->resize(1000, 680);
+    m_page->show();
+    m_desk->takeCommands(monitor);
+}
+
+void TestScenePage::cleanup()
+{
+    m_page.reset();
+    m_sender.reset();
+    m_session.reset();
+    QCOMPARE(m_desk->monitor().protocolFaults().total(), 0);
+    m_desk.reset();
+}
+
+QPushButton *TestScenePage::half(const char *label) const
+{
+    for (QPushButton *button : m_page->findChildren<QPushButton *>()) {
+        if (button->text() == QLatin1String(label))
+            return button;
+    }
+    return nullptr;
+}
+
+/// Moves a slider to a value and lets go, as a user does.
+void TestScenePage::press(const char *slider, int value)
+{
+    NoWheelSlider *control = m_page->slider(slider)->slider();
+    control->setSliderDown(true);
+    control->setSliderPosition(value);
+    control->setSliderDown(false);
+    m_sender->drain();
+    QCoreApplication::processEvents(); // what the sender has to tell
+}
+
+void TestScenePage::fillingSendsNothing()
+{
+    start(10);
+    for (int round = 0; round < 3; ++round) {
+        deviceState.store(Command::Brightness, 10 * round);
+        deviceState.store(Command::ColorTemperature, 8 + round);
+        m_page->updateInterfaceData();
+        m_page->updateControlText();
+    }
+    m_sender->drain();
+    QCOMPARE(m_desk->takeRequests(), QStringList());
+    QCOMPARE(m_page->slider("Brightness")->value(), 20);
+}
+
+void TestScenePage::fillingShowsTheBlock()
+{
+    start(10);
+    const QByteArray block = m_desk->monitor().block(10);
+    QCOMPARE(m_page->slider("Brightness")->value(), int(block[0]));
+    QCOMPARE(m_page->slider("Hue_C")->value(), int(block[19]));        // hues: R, G, B, C, M, Y
+    QCOMPARE(m_page->slider("Saturation_Y")->value(), int(block[25])); // saturations: R, G, B, Y, C, M
+    QVERIFY(option(Command::LocalDimming, block[34])->isChecked());
+    QVERIFY(option(Command::ColorTemperature, block[6])->isChecked());
+}
+
+void TestScenePage::optionsSend_data()
+{
+    QTest::addColumn<int>("command");
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<QString>("sent");
+    QTest::newRow("dimming is numbered from 2") << 0x47 << "Close"
+                                                << "W 47=2";
+    QTest::newRow("grey response from 0") << 0x49 << "Close"
+                                          << "W 49=0";
+    QTest::newRow("motion, a label within another") << 0x48 << "Ull-Level1"
+                                                    << "W 48=6";
+    QTest::newRow("gamma leaves 6 out") << 0x26 << "CAD/CAM"
+                                        << "W 26=7";
+    QTest::newRow("last temperature") << 0x14 << "User3"
+                                      << "W 14=10";
+    QTest::newRow("switch") << 0xDA << "Open"
+                            << "W da=1";
+}
+
+void TestScenePage::optionsSend()
+{
+    QFETCH(int, command);
+    QFETCH(QString, label);
+    QFETCH(QString, sent);
+    start(10);
+    for (QPushButton *button : m_page->optionGroup(Command(command))->buttons()) {
+        if (button->text() == label)
+            QTest::mouseClick(button, Qt::LeftButton);
+    }
+    QCOMPARE(m_desk->takeCommands(), QStringList{sent});
+    QCOMPARE(deviceState.value(Command(command)), sent.section('=', 1).toInt());
+}
+
+void TestScenePage::keyboardPressesOptions()
+{
+    start(10);
+    QTest::keyClick(option(Command::GrayResponse, 3), Qt::Key_Space);
+    QCOMPARE(m_desk->takeCommands(), QStringList{"W 49=3"});
+    QVERIFY(option(Command::GrayResponse, 3)->isChecked());
+}
+
+void TestScenePage::slidersSend_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("value");
+    QTest::addColumn<QString>("sent");
+    QTest::addColumn<bool>("onlyOnRelease");
+    QTest::newRow("Brightness") << "Brightness" << 73 << "W 10=73" << false;
+    QTest::newRow("CR Enhance") << "CR Enhance" << 5 << "W 41=5" << true;
+    QTest::newRow("Color Enchance") << "Color Enchance" << 4 << "W 40=4" << true;
+    QTest::newRow("Saturation") << "Saturation_M" << 9 << "W 5e=9" << false;
+    QTest::newRow("Hue") << "Hue_Y" << 9 << "W 9c=9" << false;
+}
+
+void TestScenePage::slidersSend()
+{
+    QFETCH(QString, name);
+    QFETCH(int, value);
+    QFETCH(QString, sent);
+    QFETCH(bool, onlyOnRelease);
+    start(10);
+    const QByteArray slider = name.toLatin1();
+    NoWheelSlider *control = m_page->slider(slider.constData())->slider();
+    control->setSliderDown(true);
+    control->setSliderPosition(value);
+    m_sender->drain();
+    QCOMPARE(m_desk->takeCommands(), onlyOnRelease ? QStringList() : QStringList{sent});
+    QCOMPARE(m_page->slider(slider.constData())->value(), value);
+    control->setSliderDown(false);
+    m_sender->drain();
+    QCOMPARE(m_desk->takeCommands(), onlyOnRelease ? QStringList{sent} : QStringList());
+}
+
+void TestScenePage::dragEndsOnTheLastValue()
+{
+    start(10);
+    NoWheelSlider *control = m_page->slider("Brightness")->slider();
+    control->setSliderDown(true);
+    for (int value = 0; value <= 100; ++value)
+        control->setSliderPosition(value);
+    control->setSliderPosition(37);
+    control->setSliderDown(false);
+    // A click right behind the drag must not overtake its last value.
+    QTest::mouseClick(option(Command::Gamma, 4), Qt::LeftButton);
+    const QStringList commands = m_desk->takeCommands();
+    QCOMPARE(commands.last(), QStringLiteral("W 26=4"));
+    QCOMPARE(commands.at(commands.size() - 2), QStringLiteral("W 10=37"));
+    QCOMPARE(int(m_desk->monitor().value(0x10)), 37);
+}
+
+void TestScenePage::sharpnessKeepsOnlyWhatWasTaken()
+{
+    start(10);
+    press("Sharpness", 7);
+    QCOMPARE(deviceState.value(Command::Sharpness), 7);
+    m_desk->monitor().refuse(0x87, 2);
+    press("Sharpness", 6);
+    QVERIFY(!deviceState.sceneBlockValid());
+    QCOMPARE(m_page->slider("Sharpness")->value(), 6); // the page leaves its control where the user put it
+}
+
+void TestScenePage::colorTemperature()
+{
+    start(10);
+    QTest::mouseClick(option(Command::ColorTemperature, 9), Qt::LeftButton);
+    QVERIFY(m_page->slider("UserR")->isEnabled());
+    QVERIFY(!m_page->slider(kNightViewSlider)->isEnabled());
+    QCOMPARE(m_page->slider("UserG")->value(), deviceState.value(Command::User2Green));
+    QTest::mouseClick(option(Command::ColorTemperature, 0), Qt::LeftButton);
+    for (const char *name : kUserColourSliders) {
+        QVERIFY(!m_page->slider(name)->isEnabled());
+        QCOMPARE(m_page->slider(name)->value(), 0);
+    }
+    QTest::mouseClick(option(Command::ColorTemperature, 7), Qt::LeftButton);
+    QVERIFY(m_page->slider(kNightViewSlider)->isEnabled());
+    m_sender->drain();
+    QCOMPARE(m_desk->takeCommands(), (QStringList{"W 14=9", "W 14=0", "W 14=7"})); // the sliders' moves sent nothing
+}
+
+void TestScenePage::userSlidersFollowTheSlot()
+{
+    start(10);
+    QTest::mouseClick(option(Command::ColorTemperature, 8), Qt::LeftButton);
+    press("UserR", 11);
+    QTest::mouseClick(option(Command::ColorTemperature, 10), Qt::LeftButton);
+    press("UserR", 33);
+    QCOMPARE(m_desk->takeCommands(), (QStringList{"W 14=8", "W 16=11", "W 14=10", "W 1c=33"}));
+    QTest::mouseClick(option(Command::ColorTemperature, 8), Qt::LeftButton);
+    QCOMPARE(m_page->slider("UserR")->value(), 11); // each preset keeps its own
+}
+
+void TestScenePage::colorEnhanceHoldsSaturation_data()
+{
+    QTest::addColumn<int>("scene");
+    QTest::addColumn<int>("enhance");
+    QTest::addColumn<bool>("saturation");
+    QTest::addColumn<bool>("hue");
+    QTest::newRow("off") << 10 << 0 << true << true;
+    QTest::newRow("on") << 10 << 3 << false << true;
+    QTest::newRow("e-book, off") << 22 << 0 << false << false;
+    QTest::newRow("e-book, on") << 22 << 3 << false << false;
+}
+
+void TestScenePage::colorEnhanceHoldsSaturation()
+{
+    QFETCH(int, scene);
+    QFETCH(int, enhance);
+    start(scene);
+    deviceState.store(Command::ColorEnhance, enhance);
+    m_page->updateInterfaceData();
+    QTEST(m_page->slider("Saturation_R")->isEnabled(), "saturation");
+    QTEST(m_page->slider("Hue_R")->isEnabled(), "hue");
+    QTEST(m_page->slider("Color Enchance")->isEnabled(), "hue");
+    if (scene == 10) {
+        press("Color Enchance", enhance == 0 ? 1 : 0);
+        QCOMPARE(m_page->slider("Saturation_M")->isEnabled(), enhance != 0);
+    }
+}
+
+void TestScenePage::motionOptionsByScene_data()
+{
+    QTest::addColumn<int>("scene");
+    QTest::addColumn<QList<int>>("enabled");
+    QTest::addColumn<bool>("dimming");
+    QTest::newRow("26") << 26 << QList<int>{2, 6, 7, 8} << false;
+    QTest::newRow("28") << 28 << QList<int>{2, 3, 4, 5} << true;
+    QTest::newRow("any other") << 10 << QList<int>{2, 3, 4, 5, 6, 7, 8} << true;
+}
+
+void TestScenePage::motionOptionsByScene()
+{
+    QFETCH(int, scene);
+    QFETCH(QList<int>, enabled);
+    QFETCH(bool, dimming);
+    start(10);
+    deviceState.store(Command::SceneMode, scene);
+    m_page->updateInterfaceData();
+    QList<int> found;
+    for (int value = 2; value <= 8; ++value) {
+        if (option(Command::MotionTech, value)->isEnabled())
+            found.append(value);
+    }
+    QCOMPARE(found, enabled);
+    QCOMPARE(!m_page->optionGroup(Command::LocalDimming)->isHidden(), dimming);
+}
+
+void TestScenePage::partsByModel()
+{
+    start(10, 1); // a monitor without local dimming and halo control
+    QVERIFY(!m_page->optionGroup(Command::LocalDimming));
+    QVERIFY(!m_page->slider("Halo Control"));
+    QVERIFY(m_page->slider("Brightness"));
+}
+
+void TestScenePage::halves_data()
+{
+    QTest::addColumn<int>("scene");
+    QTest::addColumn<QByteArray>("half");
+    QTest::addColumn<QStringList>("sent");
+    QTest::newRow("custom to default") << 10 << QByteArray("        Default") << QStringList{"W 22=9"};
+    QTest::newRow("already custom") << 10 << QByteArray("        Custom") << QStringList();
+    QTest::newRow("already default") << 9 << QByteArray("        Default") << QStringList();
+}
+
+void TestScenePage::halves()
+{
+    QFETCH(int, scene);
+    QFETCH(QByteArray, half);
+    start(scene);
+    QSignalSpy shown(m_page.get(), &pageSceneSetting::viewShown);
+    QTest::mouseClick(this->half(half.constData()), Qt::LeftButton);
+    QTEST(m_desk->takeCommands(), "sent");
+    QCOMPARE(shown.last().first().toBool(), half.contains("Default"));
+    QCOMPARE(deviceState.value(Command::SceneMode) % 2 != 0, half.contains("Default"));
+}
+
+void TestScenePage::halfWithUnreadBlock()
+{
+    start(9); // starting in the factory half, the block has not been read
+    QSignalSpy begins(m_page.get(), &pageSceneSetting::modeChangeBegins);
+    QSignalSpy ended(m_page.get(), &pageSceneSetting::modeChangeEnded);
+    m_desk->monitor().setBlock(10, QByteArray(1, char(77)));
+    QTest::mouseClick(half("        Custom"), Qt::LeftButton);
+    QCOMPARE(begins.count(), 1);
+    QTRY_COMPARE(ended.count(), 1);
+    QStringList expected = {"R 22", "R 0a"};
+    expected += QStringList(10, "R fe");
+    expected += "W 22=10";
+    QCOMPARE(m_desk->takeCommands(), expected);
+    QCOMPARE(m_page->slider("Brightness")->value(), 77);
+}
+
+void TestScenePage::halfWithUnreadableBlock()
+{
+    start(9);
+    QSignalSpy ended(m_page.get(), &pageSceneSetting::modeChangeEnded);
+    const int before = m_page->slider("Brightness")->value();
+    m_desk->monitor().dropChunks(6);
+    QTest::mouseClick(half("        Custom"), Qt::LeftButton);
+    QTRY_COMPARE(ended.count(), 1);
+    QCOMPARE(m_desk->takeCommands().last(), QStringLiteral("W 22=10"));
+    QCOMPARE(m_page->slider("Brightness")->value(), before);
+    QVERIFY(!deviceState.sceneBlockValid());
+}
+
+void TestScenePage::chooseScene()
+{
+    start(10);
+    m_page->chooseScene(9); // on already, in its custom half
+    QCOMPARE(m_desk->takeCommands(), QStringList());
+    m_page->slider("Brightness")->slider()->setSliderPosition(5);
+    m_page->chooseScene(13);
+    QCOMPARE(m_desk->takeCommands(), (QStringList{"W 10=5", "W 22=13"}));
+    QCOMPARE(int(m_desk->monitor().block(10).at(0)), 5); // the drag belonged to the mode before
+    QVERIFY(!deviceState.sceneBlockValid());             // and the block on the page does no longer
+    QVERIFY(m_page->isDefaultView());
+}
+
+void TestScenePage::unknownGroupIsIgnored()
+{
+    start(10);
+    QPushButton *button = option(Command::GrayResponse, 1);
+    button->setObjectName("Gray Response_no such option");
+    deviceState.store(Command::GrayResponse, 4);
+    QTest::mouseClick(button, Qt::LeftButton);
+    QCOMPARE(m_desk->takeCommands(), QStringList{"W 49=4"}); // what the group holds, once more
+    button->setObjectName("no such group");
+    QTest::mouseClick(button, Qt::LeftButton);
+    QCOMPARE(m_desk->takeCommands(), QStringList());
+}
+
+QTEST_MAIN(TestScenePage)
+#include "tst_scenepage.moc"

@@ -1,0 +1,369 @@
+#include <QComboBox>
+#include <QtTest>
+
+#include "ddc_protocol/displayenumeration.h"
+#include "ddc_protocol/settingsstore.h"
+#include "ddc_protocol/transport.h"
+#include "searchdevicedlg.h"
+#include "sessionhost.h"
+#include "support/deskfixture.h"
+
+using virtualdesk::kForEver;
+
+namespace {
+
+/// A session that says so instead of ending the process.
+class Session : public SearchDeviceDlg
+{
+public:
+    int exits = 0;
+
+protected:
+    void exitUnsupported() override { ++exits; }
+};
+
+/// A main window that keeps what it was asked for.
+class Host : public SessionHost
+{
+public:
+    void refreshPages() override
+    {
+        calls.append("refresh");
+        if (onRefresh)
+            onRefresh();
+    }
+    void reconnectPages() override { calls.append("reconnect"); }
+    void updateInterface() override { calls.append("update"); }
+    void hideWindow() override { calls.append("hide"); }
+    void showWindow() override { calls.append("show"); }
+    void deviceArrived() override { calls.append("arrived"); }
+    void deviceRemoved() override { calls.append("removed"); }
+    QStringList take() { return std::exchange(calls, {}); }
+
+    QStringList calls;
+    std::function<void()> onRefresh;
+};
+
+constexpr platform::Guid kHidClass = {0x4D1E55B2, 0xF16F, 0x11CF, {0x88, 0xCB, 0x00, 0x11, 0x11, 0x00, 0x00, 0x30}};
+
+} // namespace
+
+class TestSession : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void startUpReadOrder();
+    void careRowsAreReadOnceTheModelIsKnown();
+    void snapshotValues();
+    void sceneBlockBytes();
+    void passes_data();
+    void passes();
+    void noMonitorEndsTheProgram();
+    void storedIndexOnLaterSearches_data();
+    void storedIndexOnLaterSearches();
+    void reasons_data();
+    void reasons();
+    void secondSearchIsRefused();
+    void sceneReads_data();
+    void sceneReads();
+    void brokenBlockSchedulesReconnect();
+    void restartStartsACopy();
+    void failedWriteReconnects();
+    void deviceMessages();
+    void silentInTheMiddle();
+    void chosenDeviceIsStoredAndRead();
+
+private:
+    std::unique_ptr<DeskFixture> m_desk;
+    std::unique_ptr<Session> m_session;
+    Host m_host;
+};
+
+void TestSession::init()
+{
+    m_desk = std::make_unique<DeskFixture>();
+    m_session = std::make_unique<Session>();
+    m_host = Host();
+    m_desk->monitor(0).setValue(0x22, 12);
+    m_desk->monitor(1).setValue(0x22, 9);
+}
+
+void TestSession::cleanup()
+{
+    QCOMPARE(m_desk->desk.handleFaults(), 0);
+    m_session.reset();
+    m_desk.reset();
+}
+
+void TestSession::startUpReadOrder()
+{
+    m_session->searchDevices();
+    QStringList expected = {"R 22", "R f6", "R f7", "R ea", "R 22", "R 0c"};
+    expected += QStringList(10, "R fe");
+    expected += {"R ec", "R ed", "R ee", "R ef", "R f1", "R f2", "R 3b", "R f8", "R f9"};
+    QCOMPARE(m_desk->takeCommands(), expected);
+    QCOMPARE(m_desk->takeCommands(1), QStringList());
+    QCOMPARE(reloadEdidType.load(), int(kIdle));
+    QCOMPARE(settingsInt(kDeviceIndexKey, 7, false), 0);
+    QCOMPARE(m_session->exits, 0);
+}
+
+void TestSession::careRowsAreReadOnceTheModelIsKnown()
+{
+    m_session->searchDevices(); // the capability word arrives behind the care rows
+    m_desk->takeCommands();
+    QVERIFY(m_session->readDataFromDevice());
+    const QStringList care = {"R 01", "R 02", "R 03", "R 04", "R 05", "R 06", "R 07",
+                              "R 08", "R 09", "R 0a", "R 0d", "R 0b", "R 0e"};
+    QCOMPARE(m_desk->takeCommands().mid(4, care.size()), care);
+}
+
+void TestSession::snapshotValues()
+{
+    m_desk->monitor().setValue(0xF6, 33);
+    m_desk->monitor().setValue(0xF7, 1);
+    m_desk->monitor().refuse(0xF8, kForEver);
+    m_session->searchDevices();
+    QCOMPARE(deviceState.value(Command::AudioVolume), 33);
+    QCOMPARE(deviceState.value(Command::AudioMute), 1);
+    QCOMPARE(deviceState.value(Command::Composition), -1); // refused, kept as returned, and not known
+    QVERIFY(!deviceState.isKnown(Command::Composition));
+    QVERIFY(deviceState.isKnown(Command::RestTimer));
+    QVERIFY(deviceState.has(Capability::OledPanel));
+    QCOMPARE(deviceState.productLine(), 1);
+    QVERIFY(deviceState.officeMaximumHorizontal > deviceState.officeMaximumVertical);
+    QCOMPARE(deviceState.lastSceneModeSent.load(), 12);
+}
+
+void TestSession::sceneBlockBytes()
+{
+    QByteArray block(40, '\0');
+    for (int i = 0; i < block.size(); ++i)
+        block[i] = static_cast<char>(i + 1);
+    std::array<std::uint8_t, 40> bytes = {};
+    std::copy(block.begin(), block.end(), bytes.begin());
+    deviceState.storeSceneBlock(bytes);
+    QCOMPARE(deviceState.value(Command::Sharpness), 3);
+    QCOMPARE(deviceState.value(Command::HueCyan), 20); // hues end in C, M, Y
+    QCOMPARE(deviceState.value(Command::HueYellow), 22);
+    QCOMPARE(deviceState.value(Command::SaturationYellow), 26); // saturations in Y, C, M
+    QCOMPARE(deviceState.value(Command::SaturationMagenta), 28);
+    QCOMPARE(deviceState.value(Command::LightSensor), 1); // 34 in the block, but it is a switch
+    QCOMPARE(deviceState.value(Command::MotionTech), 37);
+}
+
+void TestSession::passes_data()
+{
+    QTest::addColumn<QString>("stored");
+    QTest::addColumn<QList<int>>("deaf");
+    QTest::addColumn<int>("chosen");
+    QTest::addColumn<int>("exits");
+    QTest::newRow("first answers") << "0" << QList<int>{} << 0 << 0;
+    QTest::newRow("stored one answers") << "1" << QList<int>{} << 1 << 0;
+    QTest::newRow("stored one is silent") << "1" << QList<int>{1} << 0 << 0;
+    QTest::newRow("first is silent") << "0" << QList<int>{0} << 1 << 0;
+    QTest::newRow("stored far beyond the list") << "7" << QList<int>{} << 0 << 0;
+    QTest::newRow("stored nonsense") << "-250" << QList<int>{} << 0 << 0; // its low byte is 6
+    QTest::newRow("all are silent") << "1" << QList<int>{0, 1} << 0 << 1;
+}
+
+void TestSession::passes()
+{
+    QFETCH(QString, stored);
+    QFETCH(QList<int>, deaf);
+    settingsString(kDeviceIndexKey, stored, true, kConfigFile);
+    for (const int index : deaf)
+        m_desk->monitor(static_cast<std::size_t>(index)).goDeaf();
+    m_session->searchDevices();
+    QTEST(settingsInt(kDeviceIndexKey, 0, false), "chosen");
+    QTEST(m_session->exits, "exits");
+    const QStringList log = m_desk->takeLog();
+    QCOMPARE(log.contains("DDC/CI erorr, App exit!"), m_session->exits == 1);
+    if (m_session->exits == 1)
+        QCOMPARE(log.filter("Connet device Count=").size(), 5);
+}
+
+void TestSession::noMonitorEndsTheProgram()
+{
+    m_desk->desk.unplug(0);
+    m_desk->desk.unplug(1);
+    m_session->searchDevices();
+    QCOMPARE(m_session->exits, 1);
+    QCOMPARE(m_desk->takeLog().filter("Connet device Count=").size(), 1);
+}
+
+void TestSession::storedIndexOnLaterSearches_data()
+{
+    QTest::addColumn<int>("stored");
+    QTest::addColumn<bool>("clone");
+    QTest::addColumn<int>("used");
+    QTest::newRow("within") << 1 << false << 1;
+    QTest::newRow("beyond") << 2 << false << 0;
+    QTest::newRow("only the low byte counts") << 257 << false << 1;
+    QTest::newRow("clone mode") << 1 << true << 0;
+}
+
+void TestSession::storedIndexOnLaterSearches()
+{
+    QFETCH(int, stored);
+    QFETCH(bool, clone);
+    m_session->searchDevices();
+    settingsInt(kDeviceIndexKey, stored, true);
+    if (clone)
+        m_desk->desk.setPaths(std::vector<platform::DisplayPath>{{1, 1}, {1, 1}});
+    m_session->searchDevices();
+    QTEST(int(currentMonitorIndex), "used");
+}
+
+void TestSession::reasons_data()
+{
+    QTest::addColumn<int>("reason");
+    QTest::addColumn<QStringList>("calls");
+    QTest::addColumn<int>("commands"); // that reach the monitor
+    QTest::newRow("reconnect") << int(kReconnect) << QStringList{"reconnect", "refresh", "update"} << 0;
+    QTest::newRow("idle") << int(kIdle) << QStringList{"reconnect", "refresh", "update"} << 0;
+    QTest::newRow("full read") << int(kFullRead) << QStringList{"hide", "refresh", "show", "update"} << 25;
+    QTest::newRow("scene block") << int(kSceneBlockOnly) << QStringList{"refresh", "update"} << 12;
+}
+
+void TestSession::reasons()
+{
+    QFETCH(int, reason);
+    deviceState.store(Command::SceneMode, 12);
+    m_session->setHost(&m_host);
+    reloadEdidType = reason;
+    m_session->delayedSearchDevices();
+    QTEST(m_host.take(), "calls");
+    QTEST(int(m_desk->takeCommands().size()), "commands");
+    QCOMPARE(reloadEdidType.load(), int(kIdle));
+    QVERIFY(!m_host.searchIsReading);
+}
+
+void TestSession::secondSearchIsRefused()
+{
+    m_session->setHost(&m_host);
+    m_host.onRefresh = [this] { // somebody searches while this search is at work
+        m_host.onRefresh = {};
+        m_desk->takeLog();
+        m_desk->takeCommands();
+        m_session->searchDevices();
+        QVERIFY(m_desk->takeLog().contains("nativeEvent: Aready searching devices Data!"));
+        QCOMPARE(m_desk->takeCommands(), QStringList());
+    };
+    m_session->searchDevices();
+    QVERIFY(!m_host.onRefresh);
+    QVERIFY(!m_host.searchIsReading);
+}
+
+void TestSession::sceneReads_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<bool>("result");
+    QTest::addColumn<int>("commands");
+    QTest::newRow("even") << 12 << true << 12;
+    QTest::newRow("positive odd") << 11 << false << 0;
+    QTest::newRow("negative odd") << -3 << true << 0;
+}
+
+void TestSession::sceneReads()
+{
+    QFETCH(int, mode);
+    findDevices();
+    QTEST(m_session->readSceneModeData(mode), "result");
+    QTEST(int(m_desk->takeCommands().size()), "commands");
+    QCOMPARE(deviceState.sceneBlockValid(), mode == 12);
+}
+
+void TestSession::brokenBlockSchedulesReconnect()
+{
+    findDevices();
+    m_session->setHost(&m_host);
+    reloadEdidType = kIdle;
+    m_desk->monitor().dropChunks(6);
+    QVERIFY(!m_session->readSceneModeData(12));
+    QVERIFY(!deviceState.sceneBlockValid()); // what was there is not half overwritten
+    QVERIFY(m_desk->takeLog().contains("get cust buffer failed, datelen=  0"));
+    QCOMPARE(reloadEdidType.load(), int(kReconnect));
+    m_desk->clock.advance(platform::milliseconds(199));
+    QCOMPARE(m_host.take(), QStringList());
+    m_desk->clock.advance(platform::milliseconds(1));
+    QCOMPARE(m_host.take(), (QStringList{"reconnect", "refresh", "update"}));
+}
+
+void TestSession::restartStartsACopy()
+{
+    reloadEdidType = kRestartProgram;
+    m_session->delayedSearchDevices();
+    QCOMPARE(settingsInt(kRestartKey, 0, false), 1);
+    QCOMPARE(m_desk->desk.started.size(), std::size_t(1));
+    QCOMPARE(m_desk->desk.started.front().program, QCoreApplication::applicationFilePath());
+    QCOMPARE(m_desk->takeRequests(), QStringList());
+}
+
+void TestSession::failedWriteReconnects()
+{
+    m_session->searchDevices();
+    m_session->setHost(&m_host);
+    m_desk->monitor().refuseWrites(2);
+    m_desk->takeLog();
+    QVERIFY(!Korvu_SetCommandVal(writeRow(Command::Brightness), 5, 10));
+    QCOMPARE(m_host.take(), (QStringList{"reconnect", "refresh", "update"}));
+    QVERIFY(m_desk->takeLog().contains("delayedSearchDevices: Reloader EDID Type: 0"));
+}
+
+void TestSession::deviceMessages()
+{
+    m_session->searchDevices();
+    m_session->setHost(&m_host);
+    m_desk->desk.deliverDeviceMessage(platform::kDeviceArrival, kHidClass);
+    QCOMPARE(m_host.take(), QStringList{"arrived"});
+    QCOMPARE(m_desk->clock.tasksWaiting(), std::size_t(0));
+
+    m_desk->desk.unplug(1);
+    QCOMPARE(m_host.take(), (QStringList{"removed", "removed"})); // an interface is told twice
+    m_desk->desk.plug(1);
+    QCOMPARE(m_host.take(), QStringList{"arrived"});
+    m_desk->clock.advance(platform::milliseconds(999));
+    QCOMPARE(m_host.take(), QStringList());
+    m_desk->clock.advance(platform::milliseconds(1));
+    QCOMPARE(m_host.take(), (QStringList{"reconnect", "refresh", "update"}));
+
+    platform::NativeMessage other;
+    other.message = platform::kMessageDeviceChange;
+    other.wParam = platform::kDeviceRemoveComplete; // without a broadcast behind it
+    qintptr result = 0;
+    QVERIFY(!m_session->nativeEvent("xcb_generic_event_t", &other, &result));
+    QCOMPARE(m_host.take(), QStringList());
+    m_session->nativeEvent(platform::kNativeEventType, &other, &result);
+    QCOMPARE(m_host.take(), QStringList{"removed"});
+}
+
+void TestSession::silentInTheMiddle()
+{
+    int requests = 0;
+    const int listener = m_desk->monitor().addListener([&](const virtualdesk::Request &) {
+        if (++requests == 15)
+            m_desk->monitor().goDeaf(30);
+    });
+    m_session->searchDevices();
+    m_desk->monitor().removeListener(listener);
+    QCOMPARE(m_session->exits, 0); // what came before and after the silence is a snapshot to work with
+    QVERIFY(deviceState.isKnown(Command::AudioVolume));
+    QVERIFY(deviceState.isKnown(Command::RestTimer));
+}
+
+void TestSession::chosenDeviceIsStoredAndRead()
+{
+    m_session->searchDevices();
+    m_session->setHost(&m_host);
+    m_desk->takeCommands(1);
+    m_session->deviceBox()->setCurrentIndex(1);
+    QCOMPARE(settingsInt(kDeviceIndexKey, 0, false), 1);
+    QVERIFY(m_desk->takeCommands(1).size() > 10);
+    QCOMPARE(m_host.take(), (QStringList{"hide", "refresh", "show", "update"}));
+}
+
+QTEST_MAIN(TestSession)
+#include "tst_session.moc"

@@ -1,0 +1,259 @@
+#include <thread>
+
+#include <QDir>
+#include <QtTest>
+
+#include "ddc_protocol/loghandler.h"
+#include "ddc_protocol/scenemodes.h"
+#include "ddc_protocol/settingsstore.h"
+#include "globalapplication.h"
+#include "support/deskfixture.h"
+
+namespace {
+
+void write(const QString &name, const QByteArray &content)
+{
+    QFile file(name);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content);
+}
+
+QByteArray content(const QString &name)
+{
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void log(QtMsgType type, const char *text)
+{
+    logMessageHandler(type, QMessageLogContext("src/file.cpp", 42, "f", "default"), QString::fromUtf8(text));
+}
+
+} // namespace
+
+class TestShell : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init() { m_desk = std::make_unique<DeskFixture>(); }
+    void cleanup() { m_desk.reset(); }
+    void logLines_data();
+    void logLines();
+    void logChangesFileAtMidnight();
+    void logFromManyThreads();
+    void logIntoAMissingFolder();
+    void languagePrefixes_data();
+    void languagePrefixes();
+    void everyLanguageLoads_data();
+    void everyLanguageLoads();
+    void switchingBackAndForth();
+    void damagedSettings_data();
+    void damagedSettings();
+    void damagedSettingsAreKept();
+    void unwritableSettingsAreReported();
+    void storeRoundTrip();
+    void sceneFamilies_data();
+    void sceneFamilies();
+
+private:
+    std::unique_ptr<DeskFixture> m_desk;
+};
+
+void TestShell::logLines_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QByteArray>("start");
+    QTest::newRow("debug") << int(QtDebugMsg) << QByteArray("Debug:  (");
+    QTest::newRow("info") << int(QtInfoMsg) << QByteArray("Debug:  (");
+    QTest::newRow("warning") << int(QtWarningMsg) << QByteArray("Warning:  (");
+    QTest::newRow("critical") << int(QtCriticalMsg) << QByteArray("Critical: ("); // one blank, as it stands
+    QTest::newRow("fatal") << int(QtFatalMsg) << QByteArray("Fatal:  (");
+}
+
+void TestShell::logLines()
+{
+    QFETCH(int, type);
+    QFETCH(QByteArray, start);
+    m_desk->clock.setNow(QDateTime(QDate(2024, 3, 9), QTime(23, 5, 7, 45)));
+    log(QtMsgType(type), "100 %1 of %4 \xC3\xA9");
+    QCOMPARE(content("QUORVEL_2024-03-09.log"),
+             start + "src/file.cpp) L:(42) \t2024-03-09 23:05:07.045 \t100 %1 of %4 \xC3\xA9\r\n");
+}
+
+void TestShell::logChangesFileAtMidnight()
+{
+    m_desk->clock.setNow(QDateTime(QDate(2024, 3, 9), QTime(23, 59, 59, 999)));
+    log(QtDebugMsg, "late");
+    m_desk->clock.sleep(platform::milliseconds(2));
+    log(QtDebugMsg, "early");
+    QVERIFY(content("QUORVEL_2024-03-09.log").endsWith("late\r\n"));
+    QVERIFY(content("QUORVEL_2024-03-10.log").contains("2024-03-10 00:00:00.001 \tearly"));
+}
+
+void TestShell::logFromManyThreads()
+{
+    std::vector<std::thread> threads;
+    for (int t = 0; t < 8; ++t) {
+        threads.emplace_back([] {
+            for (int i = 0; i < 50; ++i)
+                log(QtDebugMsg, "a line that must stay whole");
+        });
+    }
+    for (std::thread &thread : threads)
+        thread.join();
+    const QByteArrayList lines = content("QUORVEL_2024-03-09.log").split('\n');
+    QCOMPARE(lines.size(), 8 * 50 + 1);
+    for (const QByteArray &line : lines.first(8 * 50))
+        QVERIFY(line.startsWith("Debug:  (") && line.endsWith("\ta line that must stay whole\r"));
+}
+
+void TestShell::logIntoAMissingFolder()
+{
+    QDir::current().mkdir("gone");
+    QDir::setCurrent("gone");
+    QVERIFY(QDir(m_desk->folder()).rmdir("gone"));
+    log(QtDebugMsg, "lost");
+    QDir::setCurrent(m_desk->folder());
+    QCOMPARE(QDir::current().entryList({"*.log"}), QStringList());
+}
+
+void TestShell::languagePrefixes_data()
+{
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<QString>("file");
+    QTest::newRow("zh_TW") << "zh_TW"
+                           << "zh_TW";
+    QTest::newRow("zh_TW.Big5") << "zh_TW.Big5"
+                                << "zh_TW";
+    QTest::newRow("zh_HK") << "zh_HK"
+                           << "zh_CN";
+    QTest::newRow("zh") << "zh"
+                        << "zh_CN";
+    QTest::newRow("en_GB") << "en_GB"
+                           << "en_us";
+    QTest::newRow("ja_JP") << "ja_JP"
+                           << "ja_JP";
+    QTest::newRow("ja alone") << "ja"
+                              << "en_us";
+    QTest::newRow("case matters") << "ZH_tw"
+                                  << "en_us";
+    QTest::newRow("unknown") << "xx"
+                             << "en_us";
+    QTest::newRow("empty") << ""
+                           << "en_us";
+    QTest::newRow("a megabyte") << "zh_TW" + QString(1 << 20, 'x') << "zh_TW";
+}
+
+void TestShell::languagePrefixes()
+{
+    QFETCH(QString, code);
+    QFETCH(QString, file);
+    QCOMPARE(GlobalApplication::translationFile(code), QStringLiteral(":/Translations/%1.qm").arg(file));
+    GlobalApplication application;
+    application.switchApplicationLanguage(code);
+    for (const QString &line : m_desk->takeLog())
+        QVERIFY(line.size() < 1000); // whatever the settings file holds, the log stays readable
+}
+
+void TestShell::everyLanguageLoads_data()
+{
+    QTest::addColumn<QString>("brightness");
+    QTest::newRow("zh_TW") << QStringLiteral("亮度");
+    QTest::newRow("zh") << QStringLiteral("亮度");
+    QTest::newRow("en") << QStringLiteral("Brightness");
+    QTest::newRow("ja_JP") << QStringLiteral("輝度");
+}
+
+void TestShell::everyLanguageLoads()
+{
+    GlobalApplication application;
+    application.switchApplicationLanguage(QString::fromLatin1(QTest::currentDataTag()));
+    QTEST(QObject::tr("Brightness"), "brightness");
+    QVERIFY(QObject::tr("        Default").startsWith("        ")); // the blanks are part of the label
+}
+
+void TestShell::switchingBackAndForth()
+{
+    GlobalApplication application;
+    application.switchApplicationLanguage("ja_JP");
+    application.switchApplicationLanguage("en");
+    QCOMPARE(QObject::tr("Exit"), QStringLiteral("Exit")); // the older translation is gone, not below
+    application.switchApplicationLanguage("zh");
+    QVERIFY(QObject::tr("Exit") != QStringLiteral("Exit"));
+}
+
+void TestShell::damagedSettings_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QString>("language");
+    QTest::newRow("empty") << QByteArray() << 0 << QString();
+    QTest::newRow("text") << QByteArray("no settings at all\n[[[\n=\n") << 0 << QString();
+    QTest::newRow("binary") << QByteArray("\x00\xff\x1a\x00[PC\x00", 9) << 0 << QString();
+    QTest::newRow("no number") << QByteArray("[PCSeting]\nDeviceIndex=first\n") << 0 << QString();
+    QTest::newRow("negative") << QByteArray("[PCSeting]\nDeviceIndex=-3\n") << -3 << QString();
+    QTest::newRow("huge") << QByteArray("[PCSeting]\nDeviceIndex=99999999999999999999\n") << 0 << QString();
+    QTest::newRow("written by the program") << QByteArray("[%General]\nLanguage=ja_JP\n") << 0 << "ja_JP";
+    QTest::newRow("written by hand") << QByteArray("[General]\nLanguage=zh\n") << 0 << "zh";
+}
+
+void TestShell::damagedSettings()
+{
+    QFETCH(QByteArray, file);
+    write("config.ini", file);
+    QTEST(settingsInt(kDeviceIndexKey, 0, false), "index");
+    QTEST(languageSetting(false), "language");
+}
+
+void TestShell::damagedSettingsAreKept()
+{
+    const QByteArray foreign = "a file of somebody else\n[PCSeting]\nDeviceIndex=1\n";
+    write("config.ini", foreign);
+    settingsInt(kDeviceIndexKey, 3, true);
+    QCOMPARE(settingsInt(kDeviceIndexKey, 0, false), 3);
+    QCOMPARE(content("config.ini.bad"), foreign);
+}
+
+void TestShell::unwritableSettingsAreReported()
+{
+    QDir::current().mkdir("config.ini"); // stands in the way, whoever runs the test
+    settingsInt(kDeviceIndexKey, 3, true);
+    QCOMPARE(settingsInt(kDeviceIndexKey, 0, false), 0);
+    QVERIFY(m_desk->takeLog().join('\n').contains("Cannot write"));
+}
+
+void TestShell::storeRoundTrip()
+{
+    languageSetting(true, "zh_TW");
+    QCOMPARE(languageSetting(false), QStringLiteral("zh_TW"));
+    settingsString("12/switchStatus", "on", true, "basicMode.ini");
+    settingsString("12/plusKey", "Ctrl+A", true, "basicMode.ini");
+    const QList<QPair<QString, QString>> expected = {{"12/plusKey", "Ctrl+A"}, {"12/switchStatus", "on"}};
+    QCOMPARE(readAllSettings("basicMode.ini"), expected);
+    clearSettingsFile("basicMode.ini");
+    QVERIFY(readAllSettings("basicMode.ini").isEmpty());
+    QCOMPARE(languageSetting(false), QStringLiteral("zh_TW"));
+}
+
+void TestShell::sceneFamilies_data()
+{
+    QTest::addColumn<int>("value");
+    QTest::addColumn<int>("family"); // -1 none
+    constexpr int kRows[][2] = {{-1, -1}, {0, -1}, {1, 0},  {28, 0}, {29, 1}, {48, 1},
+                                {49, 2},  {80, 2}, {81, 3}, {90, 3}, {91, -1}};
+    for (const auto &[value, family] : kRows)
+        QTest::newRow(qPrintable(QString::number(value))) << value << family;
+}
+
+void TestShell::sceneFamilies()
+{
+    QFETCH(int, value);
+    QFETCH(int, family);
+    const auto found = familyOfSceneValue(value);
+    QCOMPARE(found ? int(*found) : -1, family);
+    if (const SceneMode *mode = sceneModeOf(value))
+        QCOMPARE(int(mode->family), family); // the two tables agree
+}
+
+QTEST_MAIN(TestShell)
+#include "tst_shell.moc"
