@@ -41,6 +41,7 @@ MainWindow::MainWindow(SearchDeviceDlg &session) : m_session(session)
 {
     s_mainWindow = this;
     commandsSuspended = true; // what the construction moves must not reach the monitor
+    m_labelPixmap = Pictures::load(Pictures::kRoot + QStringLiteral("img/lable_img.png"), devicePixelRatioF());
     buildForm();
     setWindowTitle(QStringLiteral("QUORVEL"));
     setUpFrame();

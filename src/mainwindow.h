@@ -29,6 +29,9 @@ public:
     /// The one main window; null before it exists.
     static MainWindow *instance();
 
+    /// The plate that pages put behind captions; loaded once.
+    const QPixmap &labelPixmap() const { return m_labelPixmap; }
+
     /// What pages switch around long work: 0 nothing can be chosen, 1 everything can, 3 as 1 and the model's say on the
     /// current bar, 4 the busy mode of the accessory, 5 its end.
     void setInterfaceMode(int code);
@@ -54,6 +57,17 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
 
+public Q_SLOTS:
+    // Hooks that only log their names, on purpose: working hot keys go through the shortcut page.
+    void onBrightnessAddShortcut();
+    void onBrightnessSubShortcut();
+    void onSoundAddShortcut();
+    void onSoundSubShortcut();
+    void onEyeModeShortcut();
+    void onSplitModeShortcut();
+    void onAudioRhyShortcut();
+    void onScreenRhyShortcut();
+
 private Q_SLOTS:
     void showFamily(int family);
 
@@ -72,6 +86,7 @@ private:
     bool rereadSceneMode();
 
     SearchDeviceDlg &m_session;
+    QPixmap m_labelPixmap;
     LatestValueSender *m_sender = nullptr;
     TopTabFrame *m_tabs = nullptr;
     QStackedWidget *m_barStack = nullptr;

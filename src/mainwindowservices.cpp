@@ -117,6 +117,10 @@ void MainWindow::setInterfaceMode(int code)
             button->setEnabled(enabled);
     }
     m_pages->setEnabled(enabled);
+    if (enabled)
+        unsetCursor();
+    else
+        setCursor(Qt::BusyCursor);
     if (code == kByModel)
         decideEntriesByModel();
     else if (code == kBusy || code == kBusyEnded)

@@ -148,6 +148,10 @@ void pageSceneSetting::showHalf(bool defaultView)
 void pageSceneSetting::switchHalf(bool defaultView)
 {
     const int value = deviceState.value(Command::SceneMode);
+    if (value < 1) { // no mode is known, so there is no other half to go to
+        showHalf(m_defaultView);
+        return;
+    }
     const bool isOdd = value % 2 != 0;
     const int wanted = defaultView == isOdd ? value : defaultView ? value - 1 : value + 1;
     deviceState.store(Command::SceneMode, wanted);
