@@ -12,7 +12,7 @@
 
 #include "controls/pictures.h"
 #include "controls/sharedfonts.h"
-#include "ddc_protocol/latestvaluesender.h"
+#include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/transport.h"
 #include "leftbar.h"
 #include "page/Scene/pagescenesetting.h"
@@ -65,7 +65,7 @@ MainWindow::~MainWindow()
 
 void MainWindow::buildForm()
 {
-    m_sender = new LatestValueSender(this);
+    m_queue = new CommandQueue(this);
     m_tabs = new TopTabFrame(this);
     m_barStack = new QStackedWidget(this);
     m_pages = new QStackedWidget(this);
@@ -101,7 +101,7 @@ void MainWindow::setUpFrame()
 void MainWindow::initialise()
 {
     m_status->setFont(noteFont);
-    m_scenePage = new pageSceneSetting(m_session, *m_sender, m_pages);
+    m_scenePage = new pageSceneSetting(m_session, *m_queue, m_pages);
     m_emptyPage = new EmptyPage(m_pages);
     m_pages->addWidget(m_scenePage);
     m_pages->addWidget(m_emptyPage);

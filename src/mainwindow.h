@@ -9,7 +9,7 @@
 #include "sessionhost.h"
 
 class EmptyPage;
-class LatestValueSender;
+class CommandQueue;
 class LeftBar;
 class QStackedWidget;
 class QSystemTrayIcon;
@@ -87,7 +87,7 @@ private:
 
     SearchDeviceDlg &m_session;
     QPixmap m_labelPixmap;
-    LatestValueSender *m_sender = nullptr;
+    CommandQueue *m_queue = nullptr;
     TopTabFrame *m_tabs = nullptr;
     QStackedWidget *m_barStack = nullptr;
     std::array<LeftBar *, kFamilies> m_bars = {};

@@ -3,8 +3,8 @@
 #include <QStackedWidget>
 
 #include "controls/lefttabbutton.h"
+#include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/displayenumeration.h"
-#include "ddc_protocol/latestvaluesender.h"
 #include "ddc_protocol/scenemodes.h"
 #include "ddc_protocol/transport.h"
 #include "leftbar.h"
@@ -25,7 +25,7 @@ constexpr platform::milliseconds kRemovalSettles{300}; // one unplugging is told
 
 void MainWindow::refreshPages()
 {
-    m_sender->drain(); // or a drag's last value would fall into the suspension and be lost
+    m_queue->drain(); // or a drag's last value would fall into the suspension and be lost
     commandsSuspended = true;
     m_scenePage->updateInterfaceData();
     commandsSuspended = false;
@@ -65,17 +65,14 @@ void MainWindow::reconnectPages()
 /// One request instead of a patient read: a monitor that is silent must not hold up the window.
 bool MainWindow::rereadSceneMode()
 {
-    std::uint32_t mode = 0;
-    std::uint32_t maximum = 0;
-    Korvu_GetCommandValMax(readRow(Command::SceneMode), mode, maximum);
+    const int mode = readCommandOnce(readRow(Command::SceneMode)).value_or(0);
     if (mode < 1 || mode > kHighestSceneMode)
         return false;
-    const int value = static_cast<int>(mode);
-    if (value != deviceState.value(Command::SceneMode))
+    if (mode != deviceState.value(Command::SceneMode))
         deviceState.invalidateSceneBlock();
-    deviceState.store(Command::SceneMode, value);
-    deviceState.lastSceneModeSent = value;
-    return value % 2 != 0 || deviceState.sceneBlockValid() || m_session.readSceneModeData(value);
+    deviceState.store(Command::SceneMode, mode);
+    deviceState.lastSceneModeSent = mode;
+    return mode % 2 != 0 || deviceState.sceneBlockValid() || m_session.readSceneModeData(mode);
 }
 
 void MainWindow::deviceArrived()
@@ -94,10 +91,7 @@ void MainWindow::deviceRemoved()
 void MainWindow::checkMonitor()
 {
     m_checkWaiting = false;
-    std::uint32_t mode = 0;
-    std::uint32_t maximum = 0;
-    Korvu_GetCommandValMax(readRow(Command::SceneMode), mode, maximum);
-    m_monitorAnswers = mode != 0;
+    m_monitorAnswers = readCommandOnce(readRow(Command::SceneMode)).has_value();
     updateInterface();
 }
 

@@ -4,7 +4,7 @@
 
 #include "controls/nowheelslider.h"
 #include "controls/sliderwidget.h"
-#include "ddc_protocol/latestvaluesender.h"
+#include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/transport.h"
 #include "page/Scene/pagescenesetting.h"
 #include "page/Scene/scenetable.h"
@@ -48,7 +48,7 @@ private:
 
     std::unique_ptr<DeskFixture> m_desk;
     std::unique_ptr<SearchDeviceDlg> m_session;
-    std::unique_ptr<LatestValueSender> m_sender;
+    std::unique_ptr<CommandQueue> m_queue;
     std::unique_ptr<pageSceneSetting> m_page;
 };
 
@@ -60,8 +60,8 @@ void TestScenePage::start(int scene, std::size_t monitor)
         m_desk->desk.unplug(0);
     m_session = std::make_unique<SearchDeviceDlg>();
     m_session->searchDevices();
-    m_sender = std::make_unique<LatestValueSender>();
-    m_page = std::make_unique<pageSceneSetting>(*m_session, *m_sender);
+    m_queue = std::make_unique<CommandQueue>();
+    m_page = std::make_unique<pageSceneSetting>(*m_session, *m_queue);
     m_page->resize(1000, 680);
     m_page->show();
     m_desk->takeCommands(monitor);
@@ -70,7 +70,7 @@ void TestScenePage::start(int scene, std::size_t monitor)
 void TestScenePage::cleanup()
 {
     m_page.reset();
-    m_sender.reset();
+    m_queue.reset();
     m_session.reset();
     QCOMPARE(m_desk->monitor().protocolFaults().total(), 0);
     m_desk.reset();
@@ -92,8 +92,8 @@ void TestScenePage::press(const char *slider, int value)
     control->setSliderDown(true);
     control->setSliderPosition(value);
     control->setSliderDown(false);
-    m_sender->drain();
-    QCoreApplication::processEvents(); // what the sender has to tell
+    m_queue->drain();
+    QCoreApplication::processEvents(); // what the queue has to tell
 }
 
 void TestScenePage::fillingSendsNothing()
@@ -105,7 +105,7 @@ void TestScenePage::fillingSendsNothing()
         m_page->updateInterfaceData();
         m_page->updateControlText();
     }
-    m_sender->drain();
+    m_queue->drain();
     QCOMPARE(m_desk->takeRequests(), QStringList());
     QCOMPARE(m_page->slider("Brightness")->value(), 20);
 }
@@ -186,11 +186,11 @@ void TestScenePage::slidersSend()
     NoWheelSlider *control = m_page->slider(slider.constData())->slider();
     control->setSliderDown(true);
     control->setSliderPosition(value);
-    m_sender->drain();
+    m_queue->drain();
     QCOMPARE(m_desk->takeCommands(), onlyOnRelease ? QStringList() : QStringList{sent});
     QCOMPARE(m_page->slider(slider.constData())->value(), value);
     control->setSliderDown(false);
-    m_sender->drain();
+    m_queue->drain();
     QCOMPARE(m_desk->takeCommands(), onlyOnRelease ? QStringList{sent} : QStringList());
 }
 
@@ -236,7 +236,7 @@ void TestScenePage::colorTemperature()
     }
     QTest::mouseClick(option(Command::ColorTemperature, 7), Qt::LeftButton);
     QVERIFY(m_page->slider(kNightViewSlider)->isEnabled());
-    m_sender->drain();
+    m_queue->drain();
     QCOMPARE(m_desk->takeCommands(), (QStringList{"W 14=9", "W 14=0", "W 14=7"})); // the sliders' moves sent nothing
 }
 

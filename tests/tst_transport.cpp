@@ -5,7 +5,7 @@
 
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/displayenumeration.h"
-#include "ddc_protocol/latestvaluesender.h"
+#include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/transport.h"
 #include "support/deskfixture.h"
 
@@ -53,7 +53,7 @@ private Q_SLOTS:
     void tableReadLengths_data();
     void tableReadLengths();
     void twoThreadsNeverInterleave();
-    void senderKeepsTheNewestValue();
+    void queueKeepsTheNewestValue();
 
 private:
     std::unique_ptr<DeskFixture> m_desk;
@@ -333,17 +333,17 @@ void TestTransport::twoThreadsNeverInterleave()
     QCOMPARE(m_desk->monitor().protocolFaults().total(), 0);
 }
 
-void TestTransport::senderKeepsTheNewestValue()
+void TestTransport::queueKeepsTheNewestValue()
 {
-    LatestValueSender sender;
-    QSignalSpy sent(&sender, &LatestValueSender::sent);
+    CommandQueue queue;
+    QSignalSpy sent(&queue, &CommandQueue::sent);
     {
         const auto busy = lockTransport(); // the monitor is at work on something else
         for (int value = 1; value <= 60; ++value)
-            sender.post(Command::Brightness, value);
-        sender.post(Command::Contrast, 7);
+            queue.post(Command::Brightness, value);
+        queue.post(Command::Contrast, 7);
     }
-    sender.drain();
+    queue.drain();
     QCOMPARE(int(m_desk->monitor().value(0x10)), 60);
     QCOMPARE(int(m_desk->monitor().value(0x12)), 7);
     QVERIFY(sent.count() <= 3); // at most the first value was on its way already

@@ -165,6 +165,17 @@ int Korvu_GetCommandValQuiet(COMMAND_set_Type command, std::uint16_t)
     return readCommand(command, false);
 }
 
+std::optional<int> readCommandOnce(COMMAND_set_Type command)
+{
+    const auto lock = lockTransport();
+    if (monitorList.empty())
+        return {};
+    BuildCommandPacket(command, 0);
+    GetVcpValue(commandPacket[kPacketVendorByte]);
+    const std::uint32_t value = GetVcpValue(commandPacket[kPacketCodeByte]);
+    return value == kNoAnswer ? std::nullopt : std::optional(static_cast<int>(value));
+}
+
 bool Korvu_GetCommandValMax(COMMAND_set_Type command, std::uint32_t &current, std::uint32_t &maximum)
 {
     const auto lock = lockTransport();

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <functional>
 #include <mutex>
+#include <optional>
 #include <vector>
 
 #include "ddc_protocol/commandtable.h"
@@ -59,6 +60,10 @@ int Korvu_GetCommandVal(COMMAND_set_Type command, std::uint16_t retries);
 
 /// Korvu_GetCommandVal without log lines.
 int Korvu_GetCommandValQuiet(COMMAND_set_Type command, std::uint16_t retries);
+
+/// Reads a command once, without retry and without a log line; nothing when the monitor did not answer or there is
+/// none.
+std::optional<int> readCommandOnce(COMMAND_set_Type command);
 
 /// Reads a command once, without retry: current and maximum value, both 0 when the monitor did not answer. False only
 /// when there is no monitor.

@@ -23,8 +23,9 @@ namespace virtualdesk {
 ///     }
 ///
 /// An event is {"event": kind} with kind plug, unplug, recover, deaf, refuse (with "code"), refuse_writes, drop_chunks,
-/// lose_replies, garble (both may have a "code"), latency (with "read_ms", "write_ms") or delay (with "ms"). "times" is a
-/// number of requests or "always"; it is 1 unless given, for deaf "always". at_ms counts from the main window's opening.
+/// lose_replies, garble (both may have a "code"), latency (with "read_ms", "write_ms") or delay (with "ms"). "times" is
+/// a number of requests or "always"; it is 1 unless given, for deaf "always". at_ms counts from the main window's
+/// opening.
 std::optional<DeskSetup> parseDeskScript(const QByteArray &json, QString &error);
 
 /// The desk of this process: from the file that QUORVEL_DESK_SCRIPT names, else the default desk with realistic timing.

@@ -30,6 +30,7 @@ constexpr platform::milliseconds kSlow{400};
 
 constexpr char kStyle[] = R"(
 virtualdesk--DeskWindow { background-color: #0d1210; }
+QLabel, QPushButton, QComboBox { font-size: 13px; }
 QLabel { color: #c9c9c9; }
 QLabel#title { color: #7bfadb; font-weight: 600; }
 QLabel#value { color: #9cffc8; }

@@ -10,7 +10,7 @@
 
 #include "controls/pictures.h"
 #include "controls/sharedfonts.h"
-#include "ddc_protocol/latestvaluesender.h"
+#include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/scenemodes.h"
 #include "page/Scene/scenetable.h"
 #include "page/Scene/workthread.h"
@@ -20,8 +20,8 @@
 static const char *const kDefaultLabel = QT_TRANSLATE_NOOP("QObject", "        Default");
 static const char *const kCustomLabel = QT_TRANSLATE_NOOP("QObject", "        Custom");
 
-pageSceneSetting::pageSceneSetting(SearchDeviceDlg &session, LatestValueSender &sender, QWidget *parent)
-    : SettingsPage(sender, parent), m_worker(new WorkThread(session, this)), m_areas(new QStackedWidget(this))
+pageSceneSetting::pageSceneSetting(SearchDeviceDlg &session, CommandQueue &queue, QWidget *parent)
+    : SettingsPage(queue, parent), m_worker(new WorkThread(session, this)), m_areas(new QStackedWidget(this))
 {
     setObjectName(QStringLiteral("pageSceneSetting"));
     QFile style(QStringLiteral(":/resource/css/page_scene_mode.css"));
@@ -166,7 +166,7 @@ void pageSceneSetting::switchHalf(bool defaultView)
     }
     Q_EMIT modeChangeBegins();
     if (changed) {
-        sender().drain();
+        queue().drain();
         deviceState.lastSceneModeSent = wanted;
         m_worker->start();
     } else {
@@ -193,7 +193,7 @@ void pageSceneSetting::chooseScene(int value)
     const SceneMode *wanted = sceneModeOf(value);
     if (!wanted || wanted == sceneModeOf(deviceState.value(Command::SceneMode)))
         return;
-    sender().drain(); // a drag's last value belongs to the mode that is left
+    queue().drain(); // a drag's last value belongs to the mode that is left
     deviceState.invalidateSceneBlock();
     deviceState.store(Command::SceneMode, wanted->value);
     showHalf(true);

@@ -13,7 +13,7 @@ class pageSceneSetting : public SettingsPage
 {
     Q_OBJECT
 public:
-    pageSceneSetting(SearchDeviceDlg &session, LatestValueSender &sender, QWidget *parent = nullptr);
+    pageSceneSetting(SearchDeviceDlg &session, CommandQueue &queue, QWidget *parent = nullptr);
     ~pageSceneSetting() override;
 
     /// Switches the monitor to a mode, by its odd value. A mode that is on already, in either half, is left alone.

@@ -5,15 +5,15 @@
 #include <QPushButton>
 
 #include "controls/sliderwidget.h"
-#include "ddc_protocol/latestvaluesender.h"
+#include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/transport.h"
 #include "page/engine/optiongrouprow.h"
 
 static constexpr int kRetries = 10; // handed to the transport, which does not use it
 
-SettingsPage::SettingsPage(LatestValueSender &sender, QWidget *parent) : QLabel(parent), m_sender(sender)
+SettingsPage::SettingsPage(CommandQueue &queue, QWidget *parent) : QLabel(parent), m_queue(queue)
 {
-    connect(&sender, &LatestValueSender::sent, this, &SettingsPage::onSent);
+    connect(&queue, &CommandQueue::sent, this, &SettingsPage::onSent);
 }
 
 OptionGroupRow *SettingsPage::optionGroup(Command command) const
@@ -47,7 +47,7 @@ void SettingsPage::apply(const std::map<Command, Rule> &rules, Command command, 
 
 bool SettingsPage::send(Command command, int value)
 {
-    m_sender.drain();
+    m_queue.drain();
     return Korvu_SetCommandVal(writeRow(command), static_cast<std::uint16_t>(value), kRetries);
 }
 
@@ -87,7 +87,7 @@ void SettingsPage::onSliderChanged(const QString &name, int value, bool released
     if (!storesOnResult)
         deviceState.store(*command, value);
     if (released == (entry->spec.sendOn == SendOn::Release)) {
-        m_sender.post(*command, value);
+        m_queue.post(*command, value);
         apply(m_after, *command, value);
     }
 }

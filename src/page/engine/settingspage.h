@@ -10,7 +10,7 @@
 #include "page/engine/boundtexts.h"
 #include "page/engine/pagetable.h"
 
-class LatestValueSender;
+class CommandQueue;
 class OptionGroupRow;
 class QVBoxLayout;
 class SliderWidget;
@@ -21,8 +21,8 @@ class SettingsPage : public QLabel
 {
     Q_OBJECT
 public:
-    /// The sender carries the values of dragged sliders; the window owns the one that all pages share.
-    explicit SettingsPage(LatestValueSender &sender, QWidget *parent = nullptr);
+    /// The queue carries the values of dragged sliders; the window owns the one that all pages share.
+    explicit SettingsPage(CommandQueue &queue, QWidget *parent = nullptr);
 
     /// Fills every control from the snapshot. Sends nothing.
     virtual void updateInterfaceData();
@@ -74,7 +74,7 @@ protected:
     /// Sets a slider and its known or unknown look, under Updating.
     void fillSlider(SliderWidget *slider, Command command);
 
-    LatestValueSender &sender() { return m_sender; }
+    CommandQueue &queue() { return m_queue; }
     BoundTexts &texts() { return m_texts; }
     bool isUpdating() const { return m_updating; }
 
@@ -96,7 +96,7 @@ private:
     SliderWidget *makeSlider(const SliderSpec &spec, int captionWidth);
     void apply(const std::map<Command, Rule> &rules, Command command, int value) const;
 
-    LatestValueSender &m_sender;
+    CommandQueue &m_queue;
     BoundTexts m_texts;
     bool m_updating = false;
     std::vector<OptionGroupRow *> m_groups;
