@@ -52,12 +52,24 @@ BUILD_PACKAGES=(
     fontconfig
 )
 
-# Configures and builds a preset: build_preset NAME [CMAKE-OPTION...]
-build_preset() {
+# Configures a preset: configure_preset NAME [CMAKE-OPTION...]
+configure_preset() {
     local preset=$1
     shift
     local log="build/$preset-configure.log"
     mkdir -p build
     cmake --preset "$preset" -DCMAKE_CXX_COMPILER_LAUNCHER=ccache "$@" >"$log" 2>&1 || { cat "$log" >&2; die "configuring $preset failed"; }
-    cmake --build "build/$preset"
+}
+
+# Configures and builds a preset with its tests: build_preset NAME [CMAKE-OPTION...]
+build_preset() {
+    configure_preset "$@"
+    cmake --build "build/$1"
+}
+
+# Builds the program alone, by the release preset, and prints where it is.
+build_quorvel() {
+    configure_preset release
+    cmake --build build/release --target quorvel >&2
+    printf '%s\n' "$PWD/build/release/src/quorvel"
 }

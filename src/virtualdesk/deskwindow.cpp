@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include "virtualdesk/osdfunctions.h"
@@ -354,6 +355,8 @@ void DeskWindow::appendRequests(const std::vector<Request> &requests)
     for (std::size_t i = skipped; i < requests.size(); ++i)
         lines.append(requestLine(requests[i]));
     m_requests->appendPlainText(lines.join(QLatin1Char('\n')));
+    if (!m_requests->hasFocus()) // else somebody reads there
+        m_requests->verticalScrollBar()->setValue(m_requests->verticalScrollBar()->maximum());
 }
 
 void DeskWindow::refreshOsd()

@@ -1,11 +1,14 @@
 #include "platform/virtual/virtualplatform.h"
 
+#include <optional>
+
 #include <QCoreApplication>
 #include <QProcess>
 
 #include "platform/systemclock.h"
 #include "virtualdesk/deskscript.h"
 #include "virtualdesk/deskwindow.h"
+#include "virtualdesk/requestlog.h"
 #include "virtualdesk/virtualdesk.h"
 
 namespace platform {
@@ -190,7 +193,13 @@ struct OwnDesk
 class ProcessDesk final : private OwnDesk, public VirtualPlatform
 {
 public:
-    ProcessDesk() : VirtualPlatform(ownDesk, ownClock) { ownDesk.startsPrograms = true; }
+    ProcessDesk() : VirtualPlatform(ownDesk, ownClock)
+    {
+        ownDesk.startsPrograms = true;
+        const QString requestFile = qEnvironmentVariable("QUORVEL_DESK_LOG");
+        if (!requestFile.isEmpty())
+            m_requestLog.emplace(ownDesk, requestFile);
+    }
 
     void mainWindowShown() override
     {
@@ -204,6 +213,7 @@ public:
     }
 
 private:
+    std::optional<virtualdesk::RequestLog> m_requestLog;
     std::unique_ptr<virtualdesk::DeskWindow> m_window;
 };
 

@@ -1,0 +1,178 @@
+"""What a case needs to run the program under Wine: a display of its own, a prefix, a simulated monitor, eyes and hands."""
+
+import contextlib
+import os
+import pathlib
+import re
+import shutil
+import subprocess
+import time
+
+TITLE = "QUORVEL"
+EDID_KEY = (r"HKLM\SYSTEM\CurrentControlSet\Enum\DISPLAY\Default_Monitor\0000&0000\Device Parameters")
+COMMAND_SECONDS = 60
+START_SECONDS = 40
+
+
+def wait_for(condition, what, seconds=15.0):
+    """Polls until condition() gives something true and returns it; fails the case after that many seconds."""
+    end = time.monotonic() + seconds
+    while time.monotonic() < end:
+        found = condition()
+        if found:
+            return found
+        time.sleep(0.05)
+    raise AssertionError(f"waited {seconds:g} s in vain for {what}")
+
+
+def edid(name):
+    """A 128-byte EDID whose second descriptor holds the model name."""
+    block = bytearray(128)
+    block[0:8] = b"\x00\xff\xff\xff\xff\xff\xff\x00"
+    descriptor = b"\x00\x00\x00\xfc\x00" + name.encode("latin-1").ljust(13, b" ")
+    block[72:90] = descriptor
+    block[127] = -sum(block) & 0xFF
+    return bytes(block)
+
+
+class Rig:
+    """The display, the window manager and the Wine prefix that all cases share."""
+
+    def __init__(self, program, standins, work):
+        self.work = pathlib.Path(work).resolve()
+        self.standins = pathlib.Path(standins).resolve()
+        self.program = self.work / "program"
+        shutil.rmtree(self.program, ignore_errors=True)
+        shutil.copytree(program, self.program)
+        shutil.copy(self.standins / "dxva2.dll", self.program)
+        self.environment = {name: value for name, value in os.environ.items() if not name.startswith(("QT_", "QUORVEL_"))}
+        self.environment.update(
+            WINEPREFIX=str(self.work / "prefix"), WINEARCH="win64", WINEDEBUG="-all",
+            WINEDLLOVERRIDES="dxva2=n,b;mscoree,mshtml=", LC_ALL="en_US.UTF-8")
+        self._servers = []
+
+    def __enter__(self):
+        try:
+            self._start_display()
+            self.run(["wineboot", "-i"], seconds=180)
+        except BaseException:
+            self.__exit__()
+            raise
+        return self
+
+    def __exit__(self, *_):
+        with contextlib.suppress(subprocess.SubprocessError):
+            self.run(["wineserver", "-k"])
+        for server in reversed(self._servers):
+            server.terminate()
+            server.wait(10)
+
+    def run(self, command, seconds=COMMAND_SECONDS, check=False):
+        """Runs a command in the rig's environment and returns its output."""
+        result = subprocess.run(command, env=self.environment, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                                stderr=subprocess.DEVNULL, timeout=seconds, check=check, text=True)
+        return result.stdout.strip()
+
+    def start(self, command, **options):
+        return subprocess.Popen(command, env=self.environment | options.pop("extra", {}), stdin=subprocess.DEVNULL,
+                                stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, **options)
+
+    def put_edid(self, block):
+        """Stores the EDID of the one display where Windows keeps it; None takes it away."""
+        change = ["add", EDID_KEY, "/v", "EDID", "/t", "REG_BINARY", "/d", block.hex()] if block else \
+            ["delete", EDID_KEY, "/v", "EDID"]
+        self.run(["wine", "reg", *change, "/f"], check=block is not None)
+
+    def screenshot(self, path):
+        self.run(["import", "-window", "root", str(path)])
+
+    def _start_display(self):
+        read_end, write_end = os.pipe()
+        self._servers.append(self.start(
+            ["Xvfb", "-displayfd", str(write_end), "-screen", "0", "1600x1000x24", "-nolisten", "tcp"],
+            pass_fds=[write_end]))
+        os.close(write_end)
+        with os.fdopen(read_end) as numbers:  # one free display number, once the server is ready
+            self.environment["DISPLAY"] = ":" + numbers.readline().strip()
+        self._servers.append(self.start(["openbox"]))
+
+
+class Run:
+    """One start of the program in an empty working folder, with a monitor of its own."""
+
+    def __init__(self, rig, name, registers=None, block=None):
+        self.rig = rig
+        self.folder = rig.work / "cases" / name
+        shutil.rmtree(self.folder, ignore_errors=True)
+        self.monitor = self.folder / "monitor"
+        self.monitor.mkdir(parents=True)
+        (self.monitor / "registers.txt").write_text(
+            "".join(f"{code:02x} {value}\n" for code, value in (registers or {}).items()))
+        (self.monitor / "block.txt").write_text(" ".join(map(str, block or [])))
+        self.processes = []
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        self.rig.screenshot(self.folder / "screen.png")
+        for process in self.processes:
+            process.kill()
+            process.wait(10)
+
+    def start(self, *arguments):
+        """Starts the program here and returns the process."""
+        process = self.rig.start(["wine", str(self.rig.program / "quorvel.exe"), *arguments], cwd=self.folder,
+                                 extra={"QUORVEL_TEST_MONITOR": "Z:" + str(self.monitor)})
+        self.processes.append(process)
+        return process
+
+    def start_and_show(self):
+        """Starts the program, waits for its window and returns the window's position on the screen."""
+        process = self.start()
+
+        def window():
+            assert process.poll() is None, f"the program ended with {process.returncode}"
+            return self.window(at_least=800)  # the progress of the first read bears the same title
+        return wait_for(window, "the window", START_SECONDS)
+
+    def window(self, title=TITLE, at_least=100):
+        """(x, y, width, height) of the visible window of that title, if it is that wide; or None."""
+        for number in self.rig.run(["xdotool", "search", "--onlyvisible", "--name", f"^{title}$"]).split():
+            shape = dict(line.split("=") for line in
+                         self.rig.run(["xdotool", "getwindowgeometry", "--shell", number]).splitlines())
+            if int(shape.get("WIDTH", 0)) >= at_least:
+                return tuple(int(shape[key]) for key in ("X", "Y", "WIDTH", "HEIGHT"))
+        return None
+
+    def click(self, window, x, y):
+        """Presses the left mouse button at a place of the window."""
+        self.rig.run(["xdotool", "mousemove", str(window[0] + x), str(window[1] + y), "sleep", "0.2", "click", "1"])
+
+    def press(self, key):
+        self.rig.run(["xdotool", "key", key])
+
+    def requests(self):
+        """What reached the monitor so far, a request each."""
+        file = self.monitor / "requests.txt"
+        return file.read_text().splitlines() if file.exists() else []
+
+    def refuse(self, *requests):
+        """From now on the monitor does not take these requests, such as "W 99"."""
+        new = self.monitor / "refuse.new"
+        new.write_text("".join(request + "\n" for request in requests))
+        new.replace(self.monitor / "refuse.txt")
+
+    def log(self):
+        """The lines of the day's log so far."""
+        return [line for file in sorted(self.folder.glob("QUORVEL_*.log"))
+                for line in file.read_bytes().decode("utf-8", "replace").split("\r\n") if line]
+
+    def logged(self, text):
+        return [line for line in self.log() if text in line]
+
+
+def time_of(line):
+    """The second of the day, with its fraction, at which a log line was written."""
+    hours, minutes, seconds = re.search(r"\t\d{4}-\d\d-\d\d (\d\d):(\d\d):(\d\d\.\d{3}) \t", line).groups()
+    return int(hours) * 3600 + int(minutes) * 60 + float(seconds)
