@@ -68,6 +68,7 @@ void prepare(QProgressDialog &progress, bool care)
         QStringLiteral("QProgressDialog { background-color: rgb(46,47,48);}QProgressDialog QLabel {color: white;}"
                        "QProgressBar {color: white;}"));
     progress.setWindowModality(Qt::ApplicationModal);
+    progress.setMinimumWidth(360);
     progress.setCancelButton(nullptr); // half a snapshot would be of no use
     progress.setMinimumDuration(0);
     const std::size_t reads =

@@ -13,8 +13,13 @@
 #include "controls/pictures.h"
 #include "controls/sharedfonts.h"
 #include "ddc_protocol/commandqueue.h"
+#include "ddc_protocol/scenemodes.h"
 #include "ddc_protocol/transport.h"
 #include "leftbar.h"
+#include "page/BasicSetting/pagesystemsetting.h"
+#include "page/Game/pagepictureenhanc.h"
+#include "page/IO/pageiosetting.h"
+#include "page/Office/pageoffice.h"
 #include "page/Scene/pagescenesetting.h"
 #include "page/emptypage.h"
 #include "searchdevicedlg.h"
@@ -27,6 +32,7 @@ MainWindow *s_mainWindow = nullptr;
 constexpr int kTopHeight = 72;
 constexpr int kLeftWidth = 232;
 constexpr int kMargin = 24;
+constexpr int kStatusLeft = 32; // below the entries' icons
 constexpr int kStatusHeight = 40;
 constexpr int kBalloonTime = 10000; // ms
 
@@ -93,7 +99,7 @@ void MainWindow::setUpFrame()
 
     m_tabs->setGeometry(0, 0, size.width(), kTopHeight);
     m_barStack->setGeometry(0, kTopHeight, kLeftWidth, size.height() - kTopHeight - kStatusHeight);
-    m_status->setGeometry(kMargin, size.height() - kStatusHeight, kLeftWidth - kMargin, kStatusHeight - 8);
+    m_status->setGeometry(kStatusLeft, size.height() - kStatusHeight, kLeftWidth - kStatusLeft, kStatusHeight - 8);
     m_pages->setGeometry(kLeftWidth + kMargin, kTopHeight + kMargin, size.width() - kLeftWidth - 2 * kMargin,
                          size.height() - kTopHeight - 2 * kMargin);
 }
@@ -101,15 +107,39 @@ void MainWindow::setUpFrame()
 void MainWindow::initialise()
 {
     m_status->setFont(noteFont);
-    m_scenePage = new pageSceneSetting(m_session, *m_queue, m_pages);
-    m_emptyPage = new EmptyPage(m_pages);
-    m_pages->addWidget(m_scenePage);
-    m_pages->addWidget(m_emptyPage);
+    createPages();
     connect(m_scenePage, &pageSceneSetting::modeChangeBegins, this, [this] { setInterfaceMode(0); });
     connect(m_scenePage, &pageSceneSetting::modeChangeEnded, this, [this] { setInterfaceMode(3); });
     connect(m_scenePage, &pageSceneSetting::viewShown, this, &MainWindow::followSceneMode);
     createTrayIcon();
     m_session.setHost(this);
+}
+
+void MainWindow::createPages()
+{
+    m_scenePage = new pageSceneSetting(m_session, *m_queue, m_pages);
+    m_officePage = new PageOffice(*m_queue, m_pages);
+    auto *system = new pageSystemSetting(m_session, *m_queue, m_pages);
+    connect(system, &pageSystemSetting::resetBegins, this, &MainWindow::hideWindow);
+    addPage(PageId::Scene, m_scenePage);
+    addPage(PageId::Office, m_officePage);
+    addPage(PageId::PictureEnhance, new pagePictureEnhanc(*m_queue, m_pages));
+    addPage(PageId::SystemSetting, system);
+    addPage(PageId::IoSetting, new pageIOSetting(*m_queue, m_pages));
+    m_emptyPage = new EmptyPage(m_pages);
+    m_pages->addWidget(m_emptyPage);
+}
+
+void MainWindow::addPage(PageId id, SettingsPage *page)
+{
+    m_settingsPages[id] = page;
+    m_pages->addWidget(page);
+}
+
+SettingsPage *MainWindow::settingsPage(PageId id) const
+{
+    const auto page = m_settingsPages.find(id);
+    return page == m_settingsPages.end() ? nullptr : page->second;
 }
 
 void MainWindow::createTrayIcon()
@@ -145,12 +175,27 @@ void MainWindow::showFamily(int family)
 void MainWindow::showEntryPage(int family)
 {
     if (family < kSceneFamilies) {
-        m_pages->setCurrentWidget(m_scenePage);
+        showSceneFamily(family);
         return;
     }
     const LeftBar *bar = leftBar(family);
-    m_emptyPage->setEntry(bar->entries()[static_cast<std::size_t>(bar->current())].label);
-    m_pages->setCurrentWidget(m_emptyPage);
+    const NavigationEntry &entry = bar->entries()[static_cast<std::size_t>(bar->current())];
+    SettingsPage *page = settingsPage(entry.page);
+    if (page == m_officePage)
+        m_officePage->showPanel(entry.label);
+    if (!page)
+        m_emptyPage->showEntry(entry.label);
+    m_pages->setCurrentWidget(page ? page : static_cast<QWidget *>(m_emptyPage));
+}
+
+/// The scene page belongs to the family whose mode is on; the others ask to choose one.
+void MainWindow::showSceneFamily(int family)
+{
+    const SceneMode *mode = sceneModeOf(deviceState.value(Command::SceneMode));
+    const bool isOn = !mode || static_cast<int>(mode->family) == family;
+    if (!isOn)
+        m_emptyPage->showFamily(navigationFamilies()[static_cast<std::size_t>(family)].label, mode->label);
+    m_pages->setCurrentWidget(isOn ? m_scenePage : static_cast<QWidget *>(m_emptyPage));
 }
 
 void MainWindow::chooseEntry(int family, int index)
@@ -165,6 +210,8 @@ void MainWindow::followSceneMode()
 {
     for (int family = 0; family < kSceneFamilies; ++family)
         leftBar(family)->setCurrentScene(deviceState.value(Command::SceneMode));
+    if (m_family < kSceneFamilies)
+        showSceneFamily(m_family);
 }
 
 void MainWindow::showWindow()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <map>
 #include <optional>
 
 #include <QLabel>
@@ -15,6 +16,9 @@ class QStackedWidget;
 class QSystemTrayIcon;
 class SearchDeviceDlg;
 class TopTabFrame;
+class PageOffice;
+class PanelPage;
+class SettingsPage;
 class pageSceneSetting;
 
 /// The program's one top-level window: tabs, left bars and pages. Closing hides it; "Exit" in the tray ends the
@@ -49,6 +53,8 @@ public:
     TopTabFrame *tabs() const { return m_tabs; }
     LeftBar *leftBar(int family) const { return m_bars[static_cast<std::size_t>(family)]; }
     pageSceneSetting *scenePage() const { return m_scenePage; }
+    /// The page of monitor settings that an entry leads to; null for those that are none.
+    SettingsPage *settingsPage(PageId id) const;
     QSystemTrayIcon *trayIcon() const { return m_tray; }
 
 protected:
@@ -75,9 +81,12 @@ private:
     void buildForm();
     void setUpFrame();
     void initialise();
+    void createPages();
+    void addPage(PageId id, SettingsPage *page);
     void createTrayIcon();
     void chooseEntry(int family, int index);
     void showEntryPage(int family);
+    void showSceneFamily(int family);
     void followSceneMode();
     void openFamilyOfScene();
     void decideEntriesByModel();
@@ -93,6 +102,8 @@ private:
     std::array<LeftBar *, kFamilies> m_bars = {};
     QStackedWidget *m_pages = nullptr;
     pageSceneSetting *m_scenePage = nullptr;
+    std::map<PageId, SettingsPage *> m_settingsPages;
+    PageOffice *m_officePage = nullptr;
     EmptyPage *m_emptyPage = nullptr;
     QLabel *m_status = nullptr;
     QSystemTrayIcon *m_tray = nullptr; ///< null where there is no tray

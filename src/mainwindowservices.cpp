@@ -27,7 +27,8 @@ void MainWindow::refreshPages()
 {
     m_queue->drain(); // or a drag's last value would fall into the suspension and be lost
     commandsSuspended = true;
-    m_scenePage->updateInterfaceData();
+    for (const auto &[id, page] : m_settingsPages)
+        page->updateInterfaceData();
     commandsSuspended = false;
     updateControlText();
 }
@@ -37,7 +38,8 @@ void MainWindow::updateControlText()
     m_tabs->updateControlText();
     for (LeftBar *bar : m_bars)
         bar->updateControlText();
-    m_scenePage->updateControlText();
+    for (const auto &[id, page] : m_settingsPages)
+        page->updateControlText();
     m_emptyPage->updateControlText();
     updateInterface();
 }
@@ -49,10 +51,10 @@ void MainWindow::updateInterface()
                           : m_monitorAnswers ? QObject::tr("connected")
                                              : QObject::tr("no answer");
     const bool good = !label.isEmpty() && m_monitorAnswers;
-    m_status->setText(QStringLiteral("<span style='color:%1'>●</span> <span style='color:#adadad'>%2 · %3</span>")
-                          .arg(good ? QStringLiteral("#00ff71") : QStringLiteral("#da676d"),
-                               label.isEmpty() ? QStringLiteral("–") : QString::fromUtf8(label).toHtmlEscaped(),
-                               state));
+    const QString name = label.isEmpty() ? QStringLiteral("–") : QString::fromUtf8(label).toHtmlEscaped();
+    m_status->setText(QStringLiteral("<span style='color:%1; font-size:9px'>●</span>&nbsp;&nbsp;"
+                                     "<span style='color:#adadad'>%2 · %3</span>")
+                          .arg(good ? QStringLiteral("#00ff71") : QStringLiteral("#da676d"), name, state));
     m_status->setAccessibleName(QString::fromUtf8(label) + QLatin1Char(' ') + state);
 }
 

@@ -1,10 +1,7 @@
 #include "navigation.h"
 
-#include <QtGlobal>
-
 #include "ddc_protocol/scenemodes.h"
-
-#define LABEL(text) QT_TRANSLATE_NOOP("QObject", text)
+#include "page/engine/labels.h"
 
 namespace {
 
@@ -15,17 +12,17 @@ constexpr NavigationFamily kFamilyTable[kFamilies] = {
 };
 
 constexpr NavigationEntry kOfficeAid[] = {
-    {LABEL("Paper"), "office_paper"},
-    {LABEL("Alignment"), "alignment"},
-    {LABEL("Ruler"), "ruler"},
-    {LABEL("Alignment Aid"), "alignment_aid"},
-    {LABEL("Composition"), "composition"},
-    {LABEL("Eyeshield Remind"), "eyeshield_remind"},
-    {LABEL("AI Dual Mode"), "ai_dual_mode"},
+    {LABEL("Paper"), "office_paper", PageId::Office},
+    {LABEL("Alignment"), "alignment", PageId::Office},
+    {LABEL("Ruler"), "ruler", PageId::Office},
+    {LABEL("Alignment Aid"), "alignment_aid", PageId::Office},
+    {LABEL("Composition"), "composition", PageId::Office},
+    {LABEL("Eyeshield Remind"), "eyeshield_remind", PageId::Office},
+    {LABEL("AI Dual Mode"), "ai_dual_mode", PageId::Office},
 };
 constexpr NavigationEntry kGameAid[] = {
     {LABEL("Game Aid"), "game_aid"},
-    {LABEL("Picture Enhance"), "picture_enhance"},
+    {LABEL("Picture Enhance"), "picture_enhance", PageId::PictureEnhance},
     {LABEL("Emberline"), "emberline"},
 };
 constexpr NavigationEntry kOledCare[] = {{LABEL("Care Content"), "care_content"}};
@@ -34,9 +31,12 @@ constexpr NavigationEntry kNightLoom[] = {
     {LABEL("System Settings"), "led_system"}, {LABEL("Custom Mode"), "led_custom"}, {LABEL("Game VS"), "game_vs"},
 };
 constexpr NavigationEntry kBasic[] = {
-    {LABEL("System Settings"), "system_settings"}, {LABEL("Shortcut Key"), "shortcut_key"},
-    {LABEL("Scence Follow"), "scence_follow"},     {LABEL("Service Settings"), "service_settings"},
-    {LABEL("Tool Settings"), "tool_settings"},     {LABEL("I/O Settings"), "io_settings"},
+    {LABEL("System Settings"), "system_settings", PageId::SystemSetting},
+    {LABEL("Shortcut Key"), "shortcut_key"},
+    {LABEL("Scence Follow"), "scence_follow"},
+    {LABEL("Service Settings"), "service_settings", PageId::ServicesSetting},
+    {LABEL("Tool Settings"), "tool_settings", PageId::ToolSetting},
+    {LABEL("I/O Settings"), "io_settings", PageId::IoSetting},
 };
 
 constexpr std::span<const NavigationEntry> kPlainFamilies[] = {kOfficeAid, kGameAid, kOledCare, kNightLoom, kBasic};
@@ -56,6 +56,6 @@ std::vector<NavigationEntry> navigationEntries(int family, const DeviceState &st
     }
     std::vector<NavigationEntry> entries;
     for (const SceneMode *mode : sceneModesOf(static_cast<SceneFamily>(family), state))
-        entries.push_back({mode->label, mode->icon, mode->value});
+        entries.push_back({mode->label, mode->icon, PageId::Scene, mode->value});
     return entries;
 }

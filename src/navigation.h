@@ -6,11 +6,15 @@
 
 #include "ddc_protocol/devicestate.h"
 
+/// The pages that entries lead to.
+enum class PageId { Scene, Office, PictureEnhance, SystemSetting, ToolSetting, ServicesSetting, IoSetting, Empty };
+
 /// One entry of a left bar.
 struct NavigationEntry
 {
-    const char *label;  ///< source text
-    const char *icon;   ///< picture name under img/entry/
+    const char *label; ///< source text
+    const char *icon;  ///< picture name under img/entry/
+    PageId page = PageId::Empty;
     int sceneValue = 0; ///< the scene mode that the entry switches to; 0 for an entry that opens a page
     std::optional<Capability> needs = {}; ///< can be chosen only on monitors that have it
 };

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void entriesByModel();
     void entrySwitchesTheScene();
     void otherEntriesNameThemselves();
+    void familiesWithoutTheModeAskToChoose();
     void interfaceModes_data();
     void interfaceModes();
     void closingHides();
@@ -37,6 +38,7 @@ private Q_SLOTS:
 private:
     void start(int scene, std::size_t monitor = 0);
     LeftTabButton *entry(int family, const char *label) const;
+    QStringList shownTexts(const QWidget *page) const;
     QString status() const;
 
     std::unique_ptr<DeskFixture> m_desk;
@@ -72,6 +74,14 @@ LeftTabButton *TestMainWindow::entry(int family, const char *label) const
             return button;
     }
     return nullptr;
+}
+
+QStringList TestMainWindow::shownTexts(const QWidget *page) const
+{
+    QStringList texts;
+    for (const QLabel *label : page->findChildren<QLabel *>())
+        texts.append(label->text());
+    return texts;
 }
 
 QString TestMainWindow::status() const
@@ -143,17 +153,28 @@ void TestMainWindow::otherEntriesNameThemselves()
     start(10);
     for (int family = kSceneFamilies; family < kFamilies; ++family) {
         QTest::mouseClick(m_window->tabs()->tabs()[static_cast<std::size_t>(family)], Qt::LeftButton);
-        for (LeftTabButton *button : m_window->leftBar(family)->buttons()) {
-            QTest::mouseClick(button, Qt::LeftButton);
-            const auto *page = m_window->findChild<EmptyPage *>();
-            QVERIFY(page->isVisible());
-            bool named = false;
-            for (const QLabel *label : page->findChildren<QLabel *>())
-                named = named || label->text() == button->caption();
-            QVERIFY2(named, qPrintable(button->caption()));
+        const LeftBar *bar = m_window->leftBar(family);
+        for (std::size_t i = 0; i < bar->buttons().size(); ++i) {
+            QTest::mouseClick(bar->buttons()[i], Qt::LeftButton);
+            const QWidget *page = m_window->settingsPage(bar->entries()[i].page);
+            if (!page)
+                page = m_window->findChild<EmptyPage *>();
+            QVERIFY2(page->isVisible(), bar->entries()[i].label);
+            if (qobject_cast<const EmptyPage *>(page))
+                QVERIFY2(shownTexts(page).contains(bar->buttons()[i]->caption()), bar->entries()[i].label);
         }
     }
-    QCOMPARE(m_desk->takeRequests(), QStringList());
+    QVERIFY(m_desk->takeRequests().filter("W ").isEmpty()); // opening pages asks, but sends nothing
+}
+
+void TestMainWindow::familiesWithoutTheModeAskToChoose()
+{
+    start(10);
+    QTest::mouseClick(m_window->tabs()->tabs()[1], Qt::LeftButton);
+    QVERIFY(!m_window->scenePage()->isVisible());
+    QVERIFY(shownTexts(m_window->findChild<EmptyPage *>()).join('|').contains("Movie Mode"));
+    QTest::mouseClick(entry(1, "HDTV Video"), Qt::LeftButton);
+    QVERIFY(m_window->scenePage()->isVisible());
 }
 
 void TestMainWindow::interfaceModes_data()

@@ -4,12 +4,24 @@
 <context>
     <name>QObject</name>
     <message>
+        <source>         Disable</source>
+        <translation>         Disable</translation>
+    </message>
+    <message>
+        <source>         Enable</source>
+        <translation>         Enable</translation>
+    </message>
+    <message>
         <source>        Custom</source>
         <translation>        Custom</translation>
     </message>
     <message>
         <source>        Default</source>
         <translation>        Default</translation>
+    </message>
+    <message>
+        <source> already enabled!</source>
+        <translation> already enabled!</translation>
     </message>
     <message>
         <source>%1 · %2</source>
@@ -188,6 +200,10 @@
         <translation>Angle Ruler</translation>
     </message>
     <message>
+        <source>Angle close</source>
+        <translation>Angle close</translation>
+    </message>
+    <message>
         <source>Animate</source>
         <translation>Animate</translation>
     </message>
@@ -198,6 +214,10 @@
     <message>
         <source>Application is already running</source>
         <translation>Application is already running</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Apply</translation>
     </message>
     <message>
         <source>Art Design</source>
@@ -214,6 +234,10 @@
     <message>
         <source>Audio Mute</source>
         <translation>Audio Mute</translation>
+    </message>
+    <message>
+        <source>Audio Settings</source>
+        <translation>Audio Settings</translation>
     </message>
     <message>
         <source>Audio Volume</source>
@@ -284,6 +308,10 @@
         <translation>Choose Custom to make it your own.</translation>
     </message>
     <message>
+        <source>Choose a mode on the left. On now: %1</source>
+        <translation>Choose a mode on the left. On now: %1</translation>
+    </message>
+    <message>
         <source>Cinema colours at a D65 white.</source>
         <translation>Cinema colours at a D65 white.</translation>
     </message>
@@ -298,6 +326,10 @@
     <message>
         <source>Color Enchance</source>
         <translation>Color Enchance</translation>
+    </message>
+    <message>
+        <source>Color Enhance</source>
+        <translation>Color Enhance</translation>
     </message>
     <message>
         <source>Color Saturation</source>
@@ -396,8 +428,16 @@
         <translation>Drop a chunk</translation>
     </message>
     <message>
+        <source>DyDs</source>
+        <translation>DyDs</translation>
+    </message>
+    <message>
         <source>DyDs TECH</source>
         <translation>DyDs TECH</translation>
+    </message>
+    <message>
+        <source>Dynamic OD</source>
+        <translation>Dynamic OD</translation>
     </message>
     <message>
         <source>E-Book</source>
@@ -532,6 +572,10 @@
         <translation>Halo Control</translation>
     </message>
     <message>
+        <source>Height</source>
+        <translation>Height</translation>
+    </message>
+    <message>
         <source>High</source>
         <translation>High</translation>
     </message>
@@ -656,6 +700,10 @@
         <translation>Menu Lock</translation>
     </message>
     <message>
+        <source>Menu lock already opened!</source>
+        <translation>Menu lock already opened!</translation>
+    </message>
+    <message>
         <source>Minimise</source>
         <translation>Minimise</translation>
     </message>
@@ -716,6 +764,10 @@
         <translation>Night Vision</translation>
     </message>
     <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+    <message>
         <source>No Signal Timer</source>
         <translation>No Signal Timer</translation>
     </message>
@@ -726,6 +778,10 @@
     <message>
         <source>OSD Language</source>
         <translation>OSD Language</translation>
+    </message>
+    <message>
+        <source>OSD Setting</source>
+        <translation>OSD Setting</translation>
     </message>
     <message>
         <source>Off</source>
@@ -746,6 +802,10 @@
     <message>
         <source>On</source>
         <translation>On</translation>
+    </message>
+    <message>
+        <source>On now: %1</source>
+        <translation>On now: %1</translation>
     </message>
     <message>
         <source>On-screen menu</source>
@@ -876,6 +936,10 @@
         <translation>Requests</translation>
     </message>
     <message>
+        <source>Reset Factory</source>
+        <translation>Reset Factory</translation>
+    </message>
+    <message>
         <source>Round</source>
         <translation>Round</translation>
     </message>
@@ -890,6 +954,10 @@
     <message>
         <source>SMPTE-C Mode</source>
         <translation>SMPTE-C Mode</translation>
+    </message>
+    <message>
+        <source>SR</source>
+        <translation>SR</translation>
     </message>
     <message>
         <source>Saturation R Y G C B M</source>
@@ -914,6 +982,14 @@
     <message>
         <source>Service Settings</source>
         <translation>Service Settings</translation>
+    </message>
+    <message>
+        <source>Set everything back to how the monitor left the factory? It will be away for some seconds.</source>
+        <translation>Set everything back to how the monitor left the factory? It will be away for some seconds.</translation>
+    </message>
+    <message>
+        <source>Shadow Balance</source>
+        <translation>Shadow Balance</translation>
     </message>
     <message>
         <source>Sharp motion with local dimming.</source>
@@ -1012,6 +1088,14 @@
         <translation>The monitor answers nothing until the button is released</translation>
     </message>
     <message>
+        <source>The monitor did not take the reset.</source>
+        <translation>The monitor did not take the reset.</translation>
+    </message>
+    <message>
+        <source>The monitor did not take the size.</source>
+        <translation>The monitor did not take the size.</translation>
+    </message>
+    <message>
         <source>The monitor takes no value until the button is released</source>
         <translation>The monitor takes no value until the button is released</translation>
     </message>
@@ -1042,6 +1126,10 @@
     <message>
         <source>This monitor has nothing to set here.</source>
         <translation>This monitor has nothing to set here.</translation>
+    </message>
+    <message>
+        <source>Time to rest your eyes for a while.</source>
+        <translation>Time to rest your eyes for a while.</translation>
     </message>
     <message>
         <source>Time, read or write, code, value and what became of it</source>
@@ -1160,8 +1248,16 @@
         <translation>What most visitors of a page see.</translation>
     </message>
     <message>
+        <source>Width</source>
+        <translation>Width</translation>
+    </message>
+    <message>
         <source>Y</source>
         <translation>Y</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Yes</translation>
     </message>
     <message>
         <source>Your own picture. Changes are sent to the monitor as you make them.</source>

@@ -4,12 +4,24 @@
 <context>
     <name>QObject</name>
     <message>
+        <source>         Disable</source>
+        <translation>         無効</translation>
+    </message>
+    <message>
+        <source>         Enable</source>
+        <translation>         有効</translation>
+    </message>
+    <message>
         <source>        Custom</source>
         <translation>        カスタム</translation>
     </message>
     <message>
         <source>        Default</source>
         <translation>        デフォルト</translation>
+    </message>
+    <message>
+        <source> already enabled!</source>
+        <translation> は既に有効です！</translation>
     </message>
     <message>
         <source>%1 · %2</source>
@@ -188,6 +200,10 @@
         <translation>角度定規</translation>
     </message>
     <message>
+        <source>Angle close</source>
+        <translation>角度オフ</translation>
+    </message>
+    <message>
         <source>Animate</source>
         <translation>アニメ</translation>
     </message>
@@ -198,6 +214,10 @@
     <message>
         <source>Application is already running</source>
         <translation>アプリケーションは既に起動しています</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>適用</translation>
     </message>
     <message>
         <source>Art Design</source>
@@ -214,6 +234,10 @@
     <message>
         <source>Audio Mute</source>
         <translation>消音</translation>
+    </message>
+    <message>
+        <source>Audio Settings</source>
+        <translation>音声設定</translation>
     </message>
     <message>
         <source>Audio Volume</source>
@@ -284,6 +308,10 @@
         <translation>「カスタム」を選ぶと好みに合わせて調整できます。</translation>
     </message>
     <message>
+        <source>Choose a mode on the left. On now: %1</source>
+        <translation>左側でモードを選んでください。現在: %1</translation>
+    </message>
+    <message>
         <source>Cinema colours at a D65 white.</source>
         <translation>D65 白色点での映画の色です。</translation>
     </message>
@@ -297,6 +325,10 @@
     </message>
     <message>
         <source>Color Enchance</source>
+        <translation>色彩強調</translation>
+    </message>
+    <message>
+        <source>Color Enhance</source>
         <translation>色彩強調</translation>
     </message>
     <message>
@@ -396,8 +428,16 @@
         <translation>ブロック欠落</translation>
     </message>
     <message>
+        <source>DyDs</source>
+        <translation>DyDs</translation>
+    </message>
+    <message>
         <source>DyDs TECH</source>
         <translation>DyDs TECH</translation>
+    </message>
+    <message>
+        <source>Dynamic OD</source>
+        <translation>動的 OD</translation>
     </message>
     <message>
         <source>E-Book</source>
@@ -532,6 +572,10 @@
         <translation>ハロー制御</translation>
     </message>
     <message>
+        <source>Height</source>
+        <translation>高さ</translation>
+    </message>
+    <message>
         <source>High</source>
         <translation>高</translation>
     </message>
@@ -656,6 +700,10 @@
         <translation>メニューロック</translation>
     </message>
     <message>
+        <source>Menu lock already opened!</source>
+        <translation>メニューロック中です！</translation>
+    </message>
+    <message>
         <source>Minimise</source>
         <translation>最小化</translation>
     </message>
@@ -716,6 +764,10 @@
         <translation>暗視</translation>
     </message>
     <message>
+        <source>No</source>
+        <translation>いいえ</translation>
+    </message>
+    <message>
         <source>No Signal Timer</source>
         <translation>無信号タイマー</translation>
     </message>
@@ -726,6 +778,10 @@
     <message>
         <source>OSD Language</source>
         <translation>OSD 言語</translation>
+    </message>
+    <message>
+        <source>OSD Setting</source>
+        <translation>OSD 設定</translation>
     </message>
     <message>
         <source>Off</source>
@@ -746,6 +802,10 @@
     <message>
         <source>On</source>
         <translation>オン</translation>
+    </message>
+    <message>
+        <source>On now: %1</source>
+        <translation>現在: %1</translation>
     </message>
     <message>
         <source>On-screen menu</source>
@@ -876,6 +936,10 @@
         <translation>要求</translation>
     </message>
     <message>
+        <source>Reset Factory</source>
+        <translation>初期化</translation>
+    </message>
+    <message>
         <source>Round</source>
         <translation>円形</translation>
     </message>
@@ -890,6 +954,10 @@
     <message>
         <source>SMPTE-C Mode</source>
         <translation>SMPTE-C モード</translation>
+    </message>
+    <message>
+        <source>SR</source>
+        <translation>SR</translation>
     </message>
     <message>
         <source>Saturation R Y G C B M</source>
@@ -914,6 +982,14 @@
     <message>
         <source>Service Settings</source>
         <translation>サービス設定</translation>
+    </message>
+    <message>
+        <source>Set everything back to how the monitor left the factory? It will be away for some seconds.</source>
+        <translation>モニターのすべての設定を工場出荷時に戻しますか？数秒間モニターを使用できなくなります。</translation>
+    </message>
+    <message>
+        <source>Shadow Balance</source>
+        <translation>シャドウバランス</translation>
     </message>
     <message>
         <source>Sharp motion with local dimming.</source>
@@ -1012,6 +1088,14 @@
         <translation>ボタンを戻すまでモニターは応答しません</translation>
     </message>
     <message>
+        <source>The monitor did not take the reset.</source>
+        <translation>モニターはリセットを受け付けませんでした。</translation>
+    </message>
+    <message>
+        <source>The monitor did not take the size.</source>
+        <translation>モニターはサイズを受け付けませんでした。</translation>
+    </message>
+    <message>
         <source>The monitor takes no value until the button is released</source>
         <translation>ボタンを戻すまでモニターは値を受け付けません</translation>
     </message>
@@ -1042,6 +1126,10 @@
     <message>
         <source>This monitor has nothing to set here.</source>
         <translation>このモニターにはここで設定できる項目がありません。</translation>
+    </message>
+    <message>
+        <source>Time to rest your eyes for a while.</source>
+        <translation>少し目を休めましょう。</translation>
     </message>
     <message>
         <source>Time, read or write, code, value and what became of it</source>
@@ -1160,8 +1248,16 @@
         <translation>多くの閲覧者が目にする色です。</translation>
     </message>
     <message>
+        <source>Width</source>
+        <translation>幅</translation>
+    </message>
+    <message>
         <source>Y</source>
         <translation>Y</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>はい</translation>
     </message>
     <message>
         <source>Your own picture. Changes are sent to the monitor as you make them.</source>

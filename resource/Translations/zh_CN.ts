@@ -4,12 +4,24 @@
 <context>
     <name>QObject</name>
     <message>
+        <source>         Disable</source>
+        <translation>         关闭</translation>
+    </message>
+    <message>
+        <source>         Enable</source>
+        <translation>         开启</translation>
+    </message>
+    <message>
         <source>        Custom</source>
         <translation>        自定义</translation>
     </message>
     <message>
         <source>        Default</source>
         <translation>        默认</translation>
+    </message>
+    <message>
+        <source> already enabled!</source>
+        <translation> 已启用！</translation>
     </message>
     <message>
         <source>%1 · %2</source>
@@ -188,6 +200,10 @@
         <translation>角度尺</translation>
     </message>
     <message>
+        <source>Angle close</source>
+        <translation>关闭角度</translation>
+    </message>
+    <message>
         <source>Animate</source>
         <translation>动画</translation>
     </message>
@@ -198,6 +214,10 @@
     <message>
         <source>Application is already running</source>
         <translation>程序已在运行</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>应用</translation>
     </message>
     <message>
         <source>Art Design</source>
@@ -214,6 +234,10 @@
     <message>
         <source>Audio Mute</source>
         <translation>静音</translation>
+    </message>
+    <message>
+        <source>Audio Settings</source>
+        <translation>音频设置</translation>
     </message>
     <message>
         <source>Audio Volume</source>
@@ -284,6 +308,10 @@
         <translation>选择“自定义”即可按喜好调整。</translation>
     </message>
     <message>
+        <source>Choose a mode on the left. On now: %1</source>
+        <translation>请在左侧选择模式。当前：%1</translation>
+    </message>
+    <message>
         <source>Cinema colours at a D65 white.</source>
         <translation>D65 白点下的影院色彩。</translation>
     </message>
@@ -297,6 +325,10 @@
     </message>
     <message>
         <source>Color Enchance</source>
+        <translation>色彩增强</translation>
+    </message>
+    <message>
+        <source>Color Enhance</source>
         <translation>色彩增强</translation>
     </message>
     <message>
@@ -396,8 +428,16 @@
         <translation>丢失数据块</translation>
     </message>
     <message>
+        <source>DyDs</source>
+        <translation>DyDs</translation>
+    </message>
+    <message>
         <source>DyDs TECH</source>
         <translation>DyDs TECH</translation>
+    </message>
+    <message>
+        <source>Dynamic OD</source>
+        <translation>动态 OD</translation>
     </message>
     <message>
         <source>E-Book</source>
@@ -532,6 +572,10 @@
         <translation>光晕控制</translation>
     </message>
     <message>
+        <source>Height</source>
+        <translation>高度</translation>
+    </message>
+    <message>
         <source>High</source>
         <translation>高</translation>
     </message>
@@ -656,6 +700,10 @@
         <translation>菜单锁定</translation>
     </message>
     <message>
+        <source>Menu lock already opened!</source>
+        <translation>菜单锁定已开启！</translation>
+    </message>
+    <message>
         <source>Minimise</source>
         <translation>最小化</translation>
     </message>
@@ -716,6 +764,10 @@
         <translation>夜视</translation>
     </message>
     <message>
+        <source>No</source>
+        <translation>否</translation>
+    </message>
+    <message>
         <source>No Signal Timer</source>
         <translation>无信号定时</translation>
     </message>
@@ -726,6 +778,10 @@
     <message>
         <source>OSD Language</source>
         <translation>OSD 语言</translation>
+    </message>
+    <message>
+        <source>OSD Setting</source>
+        <translation>OSD 设置</translation>
     </message>
     <message>
         <source>Off</source>
@@ -746,6 +802,10 @@
     <message>
         <source>On</source>
         <translation>开</translation>
+    </message>
+    <message>
+        <source>On now: %1</source>
+        <translation>当前：%1</translation>
     </message>
     <message>
         <source>On-screen menu</source>
@@ -876,6 +936,10 @@
         <translation>请求</translation>
     </message>
     <message>
+        <source>Reset Factory</source>
+        <translation>恢复出厂设置</translation>
+    </message>
+    <message>
         <source>Round</source>
         <translation>圆形</translation>
     </message>
@@ -890,6 +954,10 @@
     <message>
         <source>SMPTE-C Mode</source>
         <translation>SMPTE-C 模式</translation>
+    </message>
+    <message>
+        <source>SR</source>
+        <translation>SR</translation>
     </message>
     <message>
         <source>Saturation R Y G C B M</source>
@@ -914,6 +982,14 @@
     <message>
         <source>Service Settings</source>
         <translation>服务设置</translation>
+    </message>
+    <message>
+        <source>Set everything back to how the monitor left the factory? It will be away for some seconds.</source>
+        <translation>要将显示器的所有设置恢复为出厂状态吗？显示器将有数秒无法使用。</translation>
+    </message>
+    <message>
+        <source>Shadow Balance</source>
+        <translation>暗部平衡</translation>
     </message>
     <message>
         <source>Sharp motion with local dimming.</source>
@@ -1012,6 +1088,14 @@
         <translation>显示器不再应答，直到松开按钮</translation>
     </message>
     <message>
+        <source>The monitor did not take the reset.</source>
+        <translation>显示器未执行重置。</translation>
+    </message>
+    <message>
+        <source>The monitor did not take the size.</source>
+        <translation>显示器未接受该尺寸。</translation>
+    </message>
+    <message>
         <source>The monitor takes no value until the button is released</source>
         <translation>显示器不接受任何值，直到松开按钮</translation>
     </message>
@@ -1042,6 +1126,10 @@
     <message>
         <source>This monitor has nothing to set here.</source>
         <translation>此显示器在这里没有可设置的项目。</translation>
+    </message>
+    <message>
+        <source>Time to rest your eyes for a while.</source>
+        <translation>该让眼睛休息一下了。</translation>
     </message>
     <message>
         <source>Time, read or write, code, value and what became of it</source>
@@ -1133,15 +1221,15 @@
     </message>
     <message>
         <source>UserB</source>
-        <translation>用户B</translation>
+        <translation>蓝(B)</translation>
     </message>
     <message>
         <source>UserG</source>
-        <translation>用户G</translation>
+        <translation>绿(G)</translation>
     </message>
     <message>
         <source>UserR</source>
-        <translation>用户R</translation>
+        <translation>红(R)</translation>
     </message>
     <message>
         <source>V-Position</source>
@@ -1160,8 +1248,16 @@
         <translation>大多数网页访客看到的色彩。</translation>
     </message>
     <message>
+        <source>Width</source>
+        <translation>宽度</translation>
+    </message>
+    <message>
         <source>Y</source>
         <translation>Y</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>是</translation>
     </message>
     <message>
         <source>Your own picture. Changes are sent to the monitor as you make them.</source>

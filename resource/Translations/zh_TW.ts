@@ -4,12 +4,24 @@
 <context>
     <name>QObject</name>
     <message>
+        <source>         Disable</source>
+        <translation>         關閉</translation>
+    </message>
+    <message>
+        <source>         Enable</source>
+        <translation>         開啟</translation>
+    </message>
+    <message>
         <source>        Custom</source>
         <translation>        自訂</translation>
     </message>
     <message>
         <source>        Default</source>
         <translation>        預設</translation>
+    </message>
+    <message>
+        <source> already enabled!</source>
+        <translation> 已啟用！</translation>
     </message>
     <message>
         <source>%1 · %2</source>
@@ -188,6 +200,10 @@
         <translation>角度尺</translation>
     </message>
     <message>
+        <source>Angle close</source>
+        <translation>關閉角度</translation>
+    </message>
+    <message>
         <source>Animate</source>
         <translation>動畫</translation>
     </message>
@@ -198,6 +214,10 @@
     <message>
         <source>Application is already running</source>
         <translation>應用程式已在執行中</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>套用</translation>
     </message>
     <message>
         <source>Art Design</source>
@@ -214,6 +234,10 @@
     <message>
         <source>Audio Mute</source>
         <translation>靜音</translation>
+    </message>
+    <message>
+        <source>Audio Settings</source>
+        <translation>音訊設定</translation>
     </message>
     <message>
         <source>Audio Volume</source>
@@ -284,6 +308,10 @@
         <translation>選擇「自訂」即可依喜好調整。</translation>
     </message>
     <message>
+        <source>Choose a mode on the left. On now: %1</source>
+        <translation>請在左側選擇模式。目前：%1</translation>
+    </message>
+    <message>
         <source>Cinema colours at a D65 white.</source>
         <translation>D65 白點下的電影院色彩。</translation>
     </message>
@@ -297,6 +325,10 @@
     </message>
     <message>
         <source>Color Enchance</source>
+        <translation>色彩增強</translation>
+    </message>
+    <message>
+        <source>Color Enhance</source>
         <translation>色彩增強</translation>
     </message>
     <message>
@@ -396,8 +428,16 @@
         <translation>遺失資料區塊</translation>
     </message>
     <message>
+        <source>DyDs</source>
+        <translation>DyDs</translation>
+    </message>
+    <message>
         <source>DyDs TECH</source>
         <translation>DyDs TECH</translation>
+    </message>
+    <message>
+        <source>Dynamic OD</source>
+        <translation>動態 OD</translation>
     </message>
     <message>
         <source>E-Book</source>
@@ -532,6 +572,10 @@
         <translation>光暈控制</translation>
     </message>
     <message>
+        <source>Height</source>
+        <translation>高度</translation>
+    </message>
+    <message>
         <source>High</source>
         <translation>高</translation>
     </message>
@@ -656,6 +700,10 @@
         <translation>選單鎖定</translation>
     </message>
     <message>
+        <source>Menu lock already opened!</source>
+        <translation>選單鎖定已開啟！</translation>
+    </message>
+    <message>
         <source>Minimise</source>
         <translation>最小化</translation>
     </message>
@@ -716,6 +764,10 @@
         <translation>夜視</translation>
     </message>
     <message>
+        <source>No</source>
+        <translation>否</translation>
+    </message>
+    <message>
         <source>No Signal Timer</source>
         <translation>無訊號計時</translation>
     </message>
@@ -726,6 +778,10 @@
     <message>
         <source>OSD Language</source>
         <translation>OSD 語言</translation>
+    </message>
+    <message>
+        <source>OSD Setting</source>
+        <translation>OSD 設定</translation>
     </message>
     <message>
         <source>Off</source>
@@ -746,6 +802,10 @@
     <message>
         <source>On</source>
         <translation>開</translation>
+    </message>
+    <message>
+        <source>On now: %1</source>
+        <translation>目前：%1</translation>
     </message>
     <message>
         <source>On-screen menu</source>
@@ -876,6 +936,10 @@
         <translation>要求</translation>
     </message>
     <message>
+        <source>Reset Factory</source>
+        <translation>恢復原廠設定</translation>
+    </message>
+    <message>
         <source>Round</source>
         <translation>圓形</translation>
     </message>
@@ -890,6 +954,10 @@
     <message>
         <source>SMPTE-C Mode</source>
         <translation>SMPTE-C 模式</translation>
+    </message>
+    <message>
+        <source>SR</source>
+        <translation>SR</translation>
     </message>
     <message>
         <source>Saturation R Y G C B M</source>
@@ -914,6 +982,14 @@
     <message>
         <source>Service Settings</source>
         <translation>服務設定</translation>
+    </message>
+    <message>
+        <source>Set everything back to how the monitor left the factory? It will be away for some seconds.</source>
+        <translation>要將顯示器的所有設定恢復為出廠狀態嗎？顯示器將有數秒無法使用。</translation>
+    </message>
+    <message>
+        <source>Shadow Balance</source>
+        <translation>暗部平衡</translation>
     </message>
     <message>
         <source>Sharp motion with local dimming.</source>
@@ -1012,6 +1088,14 @@
         <translation>顯示器不再回應，直到放開按鈕</translation>
     </message>
     <message>
+        <source>The monitor did not take the reset.</source>
+        <translation>顯示器未執行重設。</translation>
+    </message>
+    <message>
+        <source>The monitor did not take the size.</source>
+        <translation>顯示器未接受此尺寸。</translation>
+    </message>
+    <message>
         <source>The monitor takes no value until the button is released</source>
         <translation>顯示器不接受任何值，直到放開按鈕</translation>
     </message>
@@ -1042,6 +1126,10 @@
     <message>
         <source>This monitor has nothing to set here.</source>
         <translation>此顯示器在這裡沒有可設定的項目。</translation>
+    </message>
+    <message>
+        <source>Time to rest your eyes for a while.</source>
+        <translation>該讓眼睛休息一下了。</translation>
     </message>
     <message>
         <source>Time, read or write, code, value and what became of it</source>
@@ -1133,15 +1221,15 @@
     </message>
     <message>
         <source>UserB</source>
-        <translation>使用者B</translation>
+        <translation>藍(B)</translation>
     </message>
     <message>
         <source>UserG</source>
-        <translation>使用者G</translation>
+        <translation>綠(G)</translation>
     </message>
     <message>
         <source>UserR</source>
-        <translation>使用者R</translation>
+        <translation>紅(R)</translation>
     </message>
     <message>
         <source>V-Position</source>
@@ -1160,8 +1248,16 @@
         <translation>多數網頁訪客看到的色彩。</translation>
     </message>
     <message>
+        <source>Width</source>
+        <translation>寬度</translation>
+    </message>
+    <message>
         <source>Y</source>
         <translation>Y</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>是</translation>
     </message>
     <message>
         <source>Your own picture. Changes are sent to the monitor as you make them.</source>

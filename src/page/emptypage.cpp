@@ -4,9 +4,12 @@
 
 #include "controls/pictures.h"
 #include "controls/sharedfonts.h"
+#include "page/engine/pagestyle.h"
 
 EmptyPage::EmptyPage(QWidget *parent) : QLabel(parent), m_title(new QLabel(this)), m_note(new QLabel(this))
 {
+    setObjectName(QStringLiteral("EmptyPage"));
+    dressPage(this);
     auto *picture = new QLabel(this);
     picture->setPixmap(Pictures::load(Pictures::kRoot + QStringLiteral("img/empty_page.png"), devicePixelRatioF()));
     m_title->setFont(titleFont);
@@ -21,14 +24,24 @@ EmptyPage::EmptyPage(QWidget *parent) : QLabel(parent), m_title(new QLabel(this)
     column->setSpacing(12);
 }
 
-void EmptyPage::setEntry(const char *label)
+void EmptyPage::showEntry(const char *label)
 {
-    m_entry = label;
+    m_label = label;
+    m_modeOn = nullptr;
+    updateControlText();
+}
+
+void EmptyPage::showFamily(const char *label, const char *modeOn)
+{
+    m_label = label;
+    m_modeOn = modeOn;
     updateControlText();
 }
 
 void EmptyPage::updateControlText()
 {
-    m_title->setText(QObject::tr(m_entry));
+    m_title->setText(QObject::tr(m_label));
     m_note->setText(QObject::tr("This monitor has nothing to set here."));
+    if (m_modeOn)
+        m_note->setText(QObject::tr("Choose a mode on the left. On now: %1").arg(QObject::tr(m_modeOn)));
 }

@@ -266,7 +266,7 @@ void DeskWindow::placeBesideProgram()
 {
     const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
     resize(kWindowSize.boundedTo(available.size()));
-    move(available.right() - width() + 1, available.top() + (available.height() - height()) / 2);
+    move(available.right() - width() - kMargin, available.top() + (available.height() - height()) / 2);
 }
 
 void DeskWindow::changeEvent(QEvent *event)

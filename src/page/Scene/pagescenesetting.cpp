@@ -1,7 +1,6 @@
 #include "page/Scene/pagescenesetting.h"
 
 #include <QButtonGroup>
-#include <QFile>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QScrollArea>
@@ -15,6 +14,7 @@
 #include "page/Scene/scenetable.h"
 #include "page/Scene/workthread.h"
 #include "page/engine/halfbutton.h"
+#include "page/engine/pagestyle.h"
 
 // The leading blanks are part of the two labels.
 static const char *const kDefaultLabel = QT_TRANSLATE_NOOP("QObject", "        Default");
@@ -24,14 +24,16 @@ pageSceneSetting::pageSceneSetting(SearchDeviceDlg &session, CommandQueue &queue
     : SettingsPage(queue, parent), m_worker(new WorkThread(session, this)), m_areas(new QStackedWidget(this))
 {
     setObjectName(QStringLiteral("pageSceneSetting"));
-    QFile style(QStringLiteral(":/resource/css/page_scene_mode.css"));
-    if (style.open(QIODevice::ReadOnly))
-        setStyleSheet(QString::fromUtf8(style.readAll()));
+    dressPage(this);
 
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(24, 16, 24, 16);
     column->setSpacing(16);
     column->addWidget(buildHeader());
+    auto *line = new QFrame(this);
+    line->setObjectName(QStringLiteral("line"));
+    line->setFixedHeight(1);
+    column->addWidget(line);
     m_areas->addWidget(buildDefaultArea());
     m_areas->addWidget(buildCustomArea());
     column->addWidget(m_areas, 1);

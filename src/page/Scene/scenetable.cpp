@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#define LABEL(text) QT_TRANSLATE_NOOP("QObject", text)
+#include "page/engine/commonoptions.h"
 
 namespace {
 
@@ -26,16 +26,10 @@ constexpr Option kGamma[] = {
     {LABEL("1.6"), 0}, {LABEL("1.8"), 1}, {LABEL("2.0"), 2},     {LABEL("2.2"), 3},
     {LABEL("2.4"), 4}, {LABEL("2.6"), 5}, {LABEL("CAD/CAM"), 7}, // 6 is sRGB, which has no button
 };
-constexpr Option kGrayResponse[] = {
-    {LABEL("Close"), 0}, {LABEL("Level1"), 1}, {LABEL("Level2"), 2}, {LABEL("Level3"), 3}, {LABEL("Topspeed"), 4}};
-constexpr Option kLightSensor[] = {{LABEL("Close"), 0}, {LABEL("Open"), 1}};
 
-// The monitor numbers these two from 2: 0 and 1 belong to other models.
+// The monitor numbers these from 2: 0 and 1 belong to other models.
 constexpr Option kLocalDimming[] = {
     {LABEL("Close"), 2}, {LABEL("Low"), 3}, {LABEL("Smooth"), 4}, {LABEL("Medium"), 5}, {LABEL("Strong"), 6}};
-constexpr Option kMotionTech[] = {{LABEL("Close"), 2},     {LABEL("Low"), 3},        {LABEL("Medium"), 4},
-                                  {LABEL("High"), 5},      {LABEL("Ull-Level1"), 6}, {LABEL("Ull-Level2"), 7},
-                                  {LABEL("Ull-Level3"), 8}};
 
 constexpr Option kColorTemperature[] = {
     {LABEL("5000K"), 0}, {LABEL("5500K"), 1}, {LABEL("6300K"), 2},  {LABEL("6500K"), 3},
@@ -74,10 +68,10 @@ constexpr SliderSpec kHue[] = {
 const Section kSections[] = {
     SliderGrid{nullptr, 2, kWideCaption, kPictureSliders},
     OptionGroup{LABEL("Gama"), Command::Gamma, kGamma},
-    OptionGroup{LABEL("Gray Response"), Command::GrayResponse, kGrayResponse},
-    OptionGroup{LABEL("Light Sensor"), Command::LightSensor, kLightSensor},
+    OptionGroup{LABEL("Gray Response"), Command::GrayResponse, kGrayResponseOptions},
+    OptionGroup{LABEL("Light Sensor"), Command::LightSensor, kCloseOpen},
     OptionGroup{LABEL("Localdimming"), Command::LocalDimming, kLocalDimming, Capability::LocalDimming},
-    OptionGroup{LABEL("DyDs TECH"), Command::MotionTech, kMotionTech},
+    OptionGroup{LABEL("DyDs TECH"), Command::MotionTech, kMotionOptions},
     OptionGroup{LABEL("Color Temperature"), Command::ColorTemperature, kColorTemperature},
     SliderGrid{nullptr, 2, kWideCaption, kNightView},
     SliderGrid{nullptr, 3, kNarrowCaption, kUserSliders},

@@ -16,23 +16,28 @@ const char *const kStyle = "QPushButton { border-image: url(%1normal.png); color
 
 } // namespace
 
-QPushButton *makeHalfButton(const char *label, BoundTexts &texts, QWidget *parent)
+void dressHalfButton(QPushButton *button)
 {
-    auto *button = new QPushButton(parent);
     button->setFixedSize(128, 40);
-    button->setCheckable(true);
-    button->setFocusPolicy(Qt::TabFocus);
     QFont font = button->font();
     font.setPixelSize(kPixels);
     button->setFont(font);
+    // The blanks before the label are balanced behind it, so that the word stands in the middle.
+    const qsizetype blanks = button->text().size() - QStringView(button->text()).trimmed().size();
+    const int width = QFontMetrics(font).horizontalAdvance(QString(blanks, QLatin1Char(' ')));
+    button->setStyleSheet(
+        QString::fromLatin1(kStyle).arg(QStringLiteral(":/resource/img/option/selector_"), QString::number(width)));
+}
+
+QPushButton *makeHalfButton(const char *label, BoundTexts &texts, QWidget *parent)
+{
+    auto *button = new QPushButton(parent);
+    button->setCheckable(true);
+    button->setFocusPolicy(Qt::StrongFocus);
     texts.bind(label, [button](const QString &text) {
         button->setText(text);
         button->setAccessibleName(text.trimmed());
-        // The blanks before the label are balanced behind it, so that the word stands in the middle.
-        const qsizetype blanks = text.size() - QStringView(text).trimmed().size();
-        const int width = QFontMetrics(button->font()).horizontalAdvance(QString(blanks, QLatin1Char(' ')));
-        button->setStyleSheet(
-            QString::fromLatin1(kStyle).arg(QStringLiteral(":/resource/img/option/selector_"), QString::number(width)));
+        dressHalfButton(button);
     });
     return button;
 }

@@ -4,5 +4,8 @@ class BoundTexts;
 class QPushButton;
 class QWidget;
 
-/// One half of a two-way selector, checkable; its label's leading blanks are kept.
+/// Gives a button the pictures of one half of a selector or switch; its label's leading blanks are kept.
+void dressHalfButton(QPushButton *button);
+
+/// One half of a two-way selector, checkable.
 QPushButton *makeHalfButton(const char *label, BoundTexts &texts, QWidget *parent);

@@ -7,6 +7,7 @@
 #include "controls/captionlabel.h"
 #include "page/engine/boundtexts.h"
 #include "page/engine/flowlayout.h"
+#include "page/engine/halfbutton.h"
 
 namespace {
 
@@ -58,23 +59,25 @@ void dressOptionButton(QPushButton *button)
 }
 
 OptionGroupRow::OptionGroupRow(const OptionGroup &group, BoundTexts &texts, QWidget *parent)
-    : QWidget(parent), m_group(group), m_exclusive(new QButtonGroup(this))
+    : QWidget(parent), m_group(group), m_caption(new CaptionLabel(QString(), kCaptionPixels, this)),
+      m_exclusive(new QButtonGroup(this))
 {
-    auto *caption = new CaptionLabel(QString(), kCaptionPixels, this);
-    caption->setFixedSize(kCaptionWidth, kButtonHeight);
-    texts.bind(group.label, [caption](const QString &text) { caption->setText(text); });
-    caption->setStyleSheet(QStringLiteral("QLabel { color: #FFFFFF; }QLabel:disabled { color: #000; }"));
+    m_caption->setFixedSize(kCaptionWidth, kButtonHeight);
+    texts.bind(group.label, [this](const QString &text) { m_caption->setText(text); });
+    m_caption->setStyleSheet(QStringLiteral("QLabel { color: #FFFFFF; }QLabel:disabled { color: #000; }"));
 
     auto *flow = new FlowLayout(kSpacing);
     for (const Option &option : group.options) {
         auto *button = new QPushButton(this);
-        button->setObjectName(QStringLiteral("%1_%2").arg(QLatin1String(group.label), QLatin1String(option.label)));
+        button->setObjectName(
+            QStringLiteral("%1_%2").arg(QString::fromUtf8(group.label), QString::fromUtf8(option.label)));
         button->setCheckable(true);
-        button->setFocusPolicy(Qt::TabFocus);
-        texts.bind(option.label, [button, label = group.label](const QString &text) {
+        button->setFocusPolicy(Qt::StrongFocus);
+        const auto dress = group.look == GroupLook::Switch ? dressHalfButton : dressOptionButton;
+        texts.bind(option.label, [button, dress, label = group.label](const QString &text) {
             button->setText(text);
-            button->setAccessibleName(QStringLiteral("%1: %2").arg(QObject::tr(label), text));
-            dressOptionButton(button);
+            button->setAccessibleName(QStringLiteral("%1: %2").arg(QObject::tr(label), text.trimmed()));
+            dress(button);
         });
         m_exclusive->addButton(button);
         connect(button, &QPushButton::clicked, this, [this, button] { Q_EMIT optionClicked(button); });
@@ -84,17 +87,23 @@ OptionGroupRow::OptionGroupRow(const OptionGroup &group, BoundTexts &texts, QWid
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(kSpacing);
-    row->addWidget(caption, 0, Qt::AlignTop);
+    row->addWidget(m_caption, 0, Qt::AlignTop);
     row->addLayout(flow, 1);
 }
 
 QPushButton *OptionGroupRow::buttonOf(int value) const
 {
+    QPushButton *found = nullptr;
     for (std::size_t i = 0; i < m_buttons.size(); ++i) {
         if (m_group.options[i].value == value)
-            return m_buttons[i];
+            found = m_buttons[i]; // of two with one value the later is the off side
     }
-    return nullptr;
+    return found;
+}
+
+void OptionGroupRow::hideCaption()
+{
+    m_caption->hide();
 }
 
 void OptionGroupRow::showValue(std::optional<int> value)

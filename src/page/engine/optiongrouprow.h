@@ -24,6 +24,9 @@ public:
     /// The button of an option's value; null when the group has no such option.
     QPushButton *buttonOf(int value) const;
 
+    /// Leaves the heading away, where what stands above says the same.
+    void hideCaption();
+
     /// Checks the button of a value, or none.
     void showValue(std::optional<int> value);
 
@@ -33,6 +36,7 @@ Q_SIGNALS:
 
 private:
     OptionGroup m_group;
+    CaptionLabel *m_caption;
     QButtonGroup *m_exclusive;
     std::vector<QPushButton *> m_buttons;
 };

@@ -4,6 +4,8 @@
 #include <span>
 #include <variant>
 
+#include <QtGlobal>
+
 #include "ddc_protocol/devicestate.h"
 
 // A settings page is a table of these. Labels are source texts, marked by QT_TRANSLATE_NOOP("QObject", ...).
@@ -15,6 +17,9 @@ struct Option
     int value;
 };
 
+/// How a group looks: a row of option buttons, or the two halves of a switch.
+enum class GroupLook { Buttons, Switch };
+
 /// Buttons of which one is chosen. A button's object name is "<group label>_<option label>".
 struct OptionGroup
 {
@@ -22,7 +27,12 @@ struct OptionGroup
     Command command;
     std::span<const Option> options;
     std::optional<Capability> needs = {}; ///< built only for monitors that have it
+    GroupLook look = GroupLook::Buttons;
 };
+
+/// The two options of every switch; the blanks are part of the labels.
+inline constexpr Option kSwitchOptions[] = {{QT_TRANSLATE_NOOP("QObject", "         Enable"), 1},
+                                            {QT_TRANSLATE_NOOP("QObject", "         Disable"), 0}};
 
 enum class SendOn { Move, Release };
 
@@ -51,4 +61,20 @@ struct SliderGrid
     std::span<const SliderSpec> sliders;
 };
 
-using Section = std::variant<SliderGrid, OptionGroup>;
+/// Something that the page builds itself, by its name.
+struct CustomPart
+{
+    const char *name;
+};
+
+using Section = std::variant<SliderGrid, OptionGroup, CustomPart>;
+
+/// One entry of a page's own list, and what its panel holds. The panel's object name is the widget name.
+struct PanelSpec
+{
+    const char *label;
+    const char *icon; ///< picture name under img/entry/
+    const char *widgetName;
+    std::span<const Section> sections;
+    std::optional<Capability> needs = {};
+};

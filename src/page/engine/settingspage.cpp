@@ -14,6 +14,7 @@ static constexpr int kRetries = 10; // handed to the transport, which does not u
 SettingsPage::SettingsPage(CommandQueue &queue, QWidget *parent) : QLabel(parent), m_queue(queue)
 {
     connect(&queue, &CommandQueue::sent, this, &SettingsPage::onSent);
+    connect(&queue, &CommandQueue::answered, this, &SettingsPage::onAnswered);
 }
 
 OptionGroupRow *SettingsPage::optionGroup(Command command) const
@@ -51,25 +52,40 @@ bool SettingsPage::send(Command command, int value)
     return Korvu_SetCommandVal(writeRow(command), static_cast<std::uint16_t>(value), kRetries);
 }
 
-void SettingsPage::onOptionClicked(QPushButton *button)
+/// The group and option that an object name stands for. A name of a group without an option gives what the group holds.
+std::optional<SettingsPage::Choice> SettingsPage::choiceOf(const QString &objectName) const
 {
-    const QString name = button->objectName();
+    std::optional<Choice> fallback;
     for (const OptionGroupRow *row : m_groups) {
         const OptionGroup &group = row->group();
-        const QString prefix = QLatin1String(group.label) + QLatin1Char('_');
-        if (!name.startsWith(prefix))
+        const QString prefix = QString::fromUtf8(group.label) + QLatin1Char('_');
+        if (!objectName.startsWith(prefix))
             continue;
-        const auto option = std::find_if(group.options.begin(), group.options.end(), [&](const Option &candidate) {
-            return name == prefix + QLatin1String(candidate.label);
-        });
-        // A name of the group without an option sends what the group holds once more.
-        const int value = option != group.options.end() ? option->value : deviceState.value(group.command);
-        deviceState.store(group.command, value);
-        apply(m_before, group.command, value);
-        send(group.command, value);
-        apply(m_after, group.command, value);
+        for (const Option &option : group.options) {
+            if (objectName == prefix + QString::fromUtf8(option.label))
+                return Choice{group.command, option.value};
+        }
+        if (!fallback)
+            fallback = Choice{group.command, deviceState.value(group.command)};
+    }
+    return fallback;
+}
+
+void SettingsPage::onOptionClicked(QPushButton *button)
+{
+    const std::optional<Choice> choice = choiceOf(button->objectName());
+    if (!choice)
+        return;
+    if (const auto veto = m_vetoes.find(choice->command); veto != m_vetoes.end() && veto->second(choice->value)) {
+        updateInterfaceData(); // the button shows again what is set
         return;
     }
+    deviceState.store(choice->command, choice->value);
+    apply(m_before, choice->command, choice->value);
+    const bool ok = send(choice->command, choice->value);
+    apply(m_after, choice->command, choice->value);
+    if (const auto rule = m_results.find(choice->command); rule != m_results.end())
+        rule->second(choice->value, ok);
 }
 
 void SettingsPage::onSliderChanged(const QString &name, int value, bool released)
@@ -96,6 +112,41 @@ void SettingsPage::onSent(Command command, int value, bool ok)
 {
     if (const auto rule = m_results.find(command); rule != m_results.end())
         rule->second(value, ok);
+}
+
+std::set<Command> SettingsPage::shownCommands() const
+{
+    std::set<Command> commands;
+    for (const OptionGroupRow *row : m_groups)
+        commands.insert(row->group().command);
+    for (const Slider &entry : m_sliderEntries)
+        commands.insert(entry.spec.command);
+    return commands;
+}
+
+void SettingsPage::showEvent(QShowEvent *event)
+{
+    QLabel::showEvent(event);
+    if (!m_asksWhenShown)
+        return;
+    for (const Command command : shownCommands()) {
+        if (!deviceState.isKnown(command))
+            m_queue.ask(command);
+    }
+}
+
+void SettingsPage::onAnswered(Command command, int value)
+{
+    if (!shownCommands().contains(command))
+        return;
+    if (!deviceState.isKnown(command)) // the user may have set it while the answer was on its way
+        deviceState.store(command, value);
+    updateInterfaceData();
+}
+
+QWidget *SettingsPage::buildPart(const char *)
+{
+    return nullptr;
 }
 
 void SettingsPage::fillSlider(SliderWidget *slider, Command command)

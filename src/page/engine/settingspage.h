@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <map>
+#include <set>
 #include <vector>
 
 #include <QLabel>
@@ -56,6 +57,14 @@ protected:
     /// Builds the sections, in order, into a column; those that the monitor lacks are left out.
     void buildSections(std::span<const Section> sections, QVBoxLayout *column);
 
+    /// Builds a part that the tables only name; null for a name that the page does not know.
+    virtual QWidget *buildPart(const char *name);
+
+    /// From now on, whenever the page is shown, what its controls do not know yet is asked for in the background.
+    void askWhenShown() { m_asksWhenShown = true; }
+
+    void showEvent(QShowEvent *event) override;
+
     /// Exceptions of a page: what happens before a command's value is sent, after it, and once the monitor has taken
     /// it or not. A result rule replaces the storing of a moved slider's value.
     void beforeSending(Command command, Rule rule) { m_before[command] = std::move(rule); }
@@ -64,6 +73,9 @@ protected:
     {
         m_results[command] = std::move(rule);
     }
+
+    /// When the rule says true, an option of the command is not sent and nothing changes; the rule tells the user why.
+    void refuseWhen(Command command, std::function<bool(int value)> rule) { m_vetoes[command] = std::move(rule); }
 
     /// Which command a slider's value goes to; nothing to send none. For sliders that serve several commands.
     void chooseCommand(const char *sliderName, std::function<std::optional<Command>()> choose);
@@ -82,6 +94,7 @@ private Q_SLOTS:
     void onOptionClicked(QPushButton *button);
     void onSliderChanged(const QString &name, int value, bool released);
     void onSent(Command command, int value, bool ok);
+    void onAnswered(Command command, int value);
 
 private:
     struct Slider
@@ -91,18 +104,28 @@ private:
         std::function<std::optional<Command>()> choose;
     };
 
+    struct Choice
+    {
+        Command command;
+        int value;
+    };
+
+    std::optional<Choice> choiceOf(const QString &objectName) const;
     void addOptions(const OptionGroup &group, QVBoxLayout *column);
     void addSliders(const SliderGrid &grid, QVBoxLayout *column);
     SliderWidget *makeSlider(const SliderSpec &spec, int captionWidth);
+    std::set<Command> shownCommands() const;
     void apply(const std::map<Command, Rule> &rules, Command command, int value) const;
 
     CommandQueue &m_queue;
     BoundTexts m_texts;
     bool m_updating = false;
+    bool m_asksWhenShown = false;
     std::vector<OptionGroupRow *> m_groups;
     std::vector<SliderWidget *> m_sliders;
     std::vector<Slider> m_sliderEntries;
     std::map<Command, Rule> m_before;
     std::map<Command, Rule> m_after;
     std::map<Command, std::function<void(int, bool)>> m_results;
+    std::map<Command, std::function<bool(int)>> m_vetoes;
 };

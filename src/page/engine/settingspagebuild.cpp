@@ -47,8 +47,10 @@ void SettingsPage::buildSections(std::span<const Section> sections, QVBoxLayout 
     for (const Section &section : sections) {
         if (const auto *group = std::get_if<OptionGroup>(&section))
             addOptions(*group, column);
-        else
-            addSliders(std::get<SliderGrid>(section), column);
+        else if (const auto *grid = std::get_if<SliderGrid>(&section))
+            addSliders(*grid, column);
+        else if (QWidget *part = buildPart(std::get<CustomPart>(section).name))
+            column->addWidget(part);
     }
 }
 
@@ -80,8 +82,10 @@ void SettingsPage::addSliders(const SliderGrid &grid, QVBoxLayout *column)
         cells->addWidget(makeSlider(spec, grid.captionWidth), cell / grid.columns, cell % grid.columns);
         ++cell;
     }
-    for (int i = 0; i < grid.columns; ++i)
+    for (int i = 0; i < grid.columns; ++i) {
+        cells->addItem(new QSpacerItem(0, 0), cell / grid.columns + 1, i); // an empty column is as wide as the others
         cells->setColumnStretch(i, 1);
+    }
     column->addLayout(cells);
 }
 

@@ -1,0 +1,41 @@
+#include "benchdesk.h"
+
+#include <chrono>
+
+#include <QDir>
+
+#include "ddc_protocol/devicestate.h"
+#include "ddc_protocol/displayenumeration.h"
+#include "ddc_protocol/loghandler.h"
+#include "ddc_protocol/transport.h"
+
+void MeteredClock::sleep(platform::milliseconds duration)
+{
+    const auto begin = std::chrono::steady_clock::now();
+    m_clock.sleep(duration);
+    m_sleptNanoseconds += std::chrono::nanoseconds(std::chrono::steady_clock::now() - begin).count();
+}
+
+static void dropMessage(QtMsgType, const QMessageLogContext &, const QString &)
+{
+}
+
+BenchDesk::BenchDesk(bool logged) : m_folderBefore(QDir::currentPath())
+{
+    platform::installDesk(&m_platform);
+    QDir::setCurrent(m_folder.path());
+    desk.setMutexFolder(m_folder.path());
+    commandsSuspended = false;
+    reloadEdidType = kFullRead;
+    currentMonitorIndex = 0;
+    deviceState.clear();
+    qInstallMessageHandler(logged ? logMessageHandler : dropMessage);
+}
+
+BenchDesk::~BenchDesk()
+{
+    qInstallMessageHandler(nullptr);
+    monitorList.clear();
+    QDir::setCurrent(m_folderBefore);
+    platform::installDesk(nullptr);
+}

@@ -1,0 +1,77 @@
+#include "page/BasicSetting/pagesystemsetting.h"
+
+#include <QDebug>
+#include <QGridLayout>
+
+#include "ddc_protocol/settingsstore.h"
+#include "ddc_protocol/transport.h"
+#include "page/BasicSetting/systemtable.h"
+#include "page/engine/halfbutton.h"
+#include "page/engine/labels.h"
+#include "platform/desk.h"
+#include "searchdevicedlg.h"
+
+namespace {
+
+constexpr int kFactoryBrightness = 10; ///< of the LED accessory
+constexpr int kFactoryPlaybackLevel = 5;
+constexpr platform::milliseconds kResetTime{20000};
+
+} // namespace
+
+pageSystemSetting::pageSystemSetting(SearchDeviceDlg &session, CommandQueue &queue, QWidget *parent)
+    : PanelPage(QStringLiteral("pageSystemSetting"), OwnList::Shown, queue, parent), m_session(session)
+{
+    buildPanels(systemPanels());
+    refuseWhen(Command::MenuLock, [this](int value) { return refusesSecondLock(value); });
+}
+
+QWidget *pageSystemSetting::buildPart(const char *)
+{
+    auto *part = new QWidget(this);
+    auto *grid = new QGridLayout(part);
+    grid->setContentsMargins(0, 0, 0, 0);
+    auto *question = new QLabel(part);
+    question->setStyleSheet(QStringLiteral("color: #c9c9c9;"));
+    question->setWordWrap(true);
+    texts().bind(LABEL("Set everything back to how the monitor left the factory? It will be away for some seconds."),
+                 [question](const QString &text) { question->setText(text); });
+    grid->addWidget(question, 0, 0, 1, 3);
+    QPushButton *yes = makeHalfButton(LABEL("Yes"), texts(), part);
+    QPushButton *no = makeHalfButton(LABEL("No"), texts(), part);
+    yes->setObjectName(QStringLiteral("Reset Factory_Yes"));
+    no->setObjectName(QStringLiteral("Reset Factory_No"));
+    for (QPushButton *button : {yes, no})
+        button->setCheckable(false);
+    connect(yes, &QPushButton::clicked, this, &pageSystemSetting::resetFactory);
+    grid->addWidget(yes, 1, 0);
+    grid->addWidget(no, 1, 1);
+    grid->setColumnStretch(2, 1);
+    return part;
+}
+
+void pageSystemSetting::resetFactory()
+{
+    if (!send(Command::ResetFactory, 0)) {
+        showNotice(QObject::tr("The monitor did not take the reset."));
+        return;
+    }
+    qDebug() << "reset begin";
+    Q_EMIT resetBegins();
+    reloadEdidType = kRestartProgram;
+    settingsInt(QStringLiteral("SystemMode/Brightness"), kFactoryBrightness, true);
+    settingsInt(QStringLiteral("SystemMode/PlaybackLevel"), kFactoryPlaybackLevel, true);
+    platform::desk().clock().callLater(kResetTime, this, [this] {
+        reloadEdidType = kRestartProgram; // whatever happened in between
+        m_session.delayedSearchDevices();
+        qDebug() << "Restart begin";
+    });
+}
+
+bool pageSystemSetting::refusesSecondLock(int value)
+{
+    const bool already =
+        value == 1 && deviceState.isKnown(Command::MenuLock) && deviceState.value(Command::MenuLock) == 1;
+    showNotice(already ? QObject::tr("Menu lock already opened!") : QString());
+    return already;
+}

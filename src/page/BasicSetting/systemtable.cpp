@@ -1,0 +1,80 @@
+#include "page/BasicSetting/systemtable.h"
+
+#include "page/engine/commonoptions.h"
+
+namespace {
+
+constexpr int kCaption = 150;
+
+constexpr SliderSpec kOsd[] = {
+    {"Show Time(s)", LABEL("Show Time(s)"), Command::OsdShowTime, 5, 100},
+    {"H-Position", LABEL("H-Position"), Command::OsdHPosition, 0, 100},
+    {"V-Position", LABEL("V-Position"), Command::OsdVPosition, 0, 100},
+    {"Transparency", LABEL("Transparency"), Command::OsdTransparency, 0, 100},
+    {"No Signal Timer", LABEL("No Signal Timer"), Command::NoSignalTimer, 0, 100},
+};
+constexpr SliderSpec kVolume[] = {{"Audio Volume", LABEL("Audio Volume"), Command::AudioVolume, 0, 100}};
+constexpr Option kAudioMode[] = {{LABEL("Standard"), 0}, {LABEL("Movie"), 1}, {LABEL("Convo"), 2}};
+constexpr Option kPowerSaving[] = {{LABEL("Close"), 0}, {LABEL("Level1"), 1}, {LABEL("Level2"), 2}};
+
+// Unlike Power Saving these start at 1.
+constexpr Option kPowerLed[] = {{LABEL("Close"), 1}, {LABEL("Level1"), 2}, {LABEL("Level2"), 3}, {LABEL("Level3"), 4}};
+
+// The places in the list, counted from 1, but for the fifth and the last, which the monitor has exchanged. The names
+// are shown as they stand in every language; two of them are spelled oddly on purpose.
+constexpr Option kLanguages[] = {
+    {"简体中文", 1},
+    {"English", 2},
+    {"한국어", 3},
+    {"عربى", 4},
+    {"Türkçe", 23},
+    {"Deutsch", 6},
+    {"Nederland", 7},
+    {"Suomi", 8},
+    {"Français", 9},
+    {"Ελληνικά", 10},
+    {"Indonesia", 11},
+    {"Italiano", 12},
+    {"日本語", 13},
+    {"Malaysia", 14},
+    {"Polskie", 15},
+    {"Português", 16},
+    {"Pусский", 17},
+    {"Español", 18},
+    {"ไทย", 19},
+    {"Українська", 20},
+    {"Tiếng Việt", 21},
+    {"繁體中文", 22},
+    {"Portugues do Brasilazil", 5},
+};
+
+const Section kOutputRange[] = {OptionGroup{LABEL("Output Range"), Command::OutputRange, kOutputRangeOptions}};
+const Section kOsdSetting[] = {SliderGrid{nullptr, 1, kCaption, kOsd}};
+const Section kPowerSavingPanel[] = {OptionGroup{LABEL("Power Saving"), Command::PowerSaving, kPowerSaving}};
+const Section kAudioSettings[] = {SliderGrid{nullptr, 1, kCaption, kVolume},
+                                  OptionGroup{LABEL("Audio Mute"), Command::AudioMute, kCloseOpen},
+                                  OptionGroup{LABEL("Audio Mode"), Command::AudioMode, kAudioMode}};
+const Section kPowerLedPanel[] = {OptionGroup{LABEL("Power LED"), Command::PowerLed, kPowerLed}};
+const Section kGravitySensor[] = {OptionGroup{LABEL("Gravity Sensor"), Command::GravitySensor, kCloseOpen}};
+const Section kResetFactory[] = {CustomPart{kResetPart}};
+const Section kOsdLanguage[] = {OptionGroup{LABEL("OSD Language"), Command::OsdLanguage, kLanguages}};
+const Section kMenuLock[] = {OptionGroup{LABEL("Menu Lock"), Command::MenuLock, kSwitchOptions, {}, GroupLook::Switch}};
+
+const PanelSpec kPanels[] = {
+    {LABEL("Output Range"), "native", "pageOutputRange", kOutputRange},
+    {LABEL("OSD Setting"), "standard", "pageOSDSetting", kOsdSetting},
+    {LABEL("Power Saving"), "eye_care", "pagePowerSaving", kPowerSavingPanel},
+    {LABEL("Audio Settings"), "led_music", "pageAduioSettings", kAudioSettings}, // spelled so
+    {LABEL("Power LED"), "light_programme", "pagePowerLED", kPowerLedPanel},
+    {LABEL("Gravity Sensor"), "alignment_aid", "pageGravitySensor", kGravitySensor},
+    {LABEL("Reset Factory"), "service_settings", "pageRestFactorySettings", kResetFactory},
+    {LABEL("OSD Language"), "led_text", "pageLanguage", kOsdLanguage},
+    {LABEL("Menu Lock"), "care_content", "pageMenuLock", kMenuLock},
+};
+
+} // namespace
+
+std::span<const PanelSpec> systemPanels()
+{
+    return kPanels;
+}

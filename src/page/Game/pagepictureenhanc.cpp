@@ -1,0 +1,27 @@
+#include "page/Game/pagepictureenhanc.h"
+
+#include <QDebug>
+
+#include "page/Game/picturetable.h"
+
+pagePictureEnhanc::pagePictureEnhanc(CommandQueue &queue, QWidget *parent)
+    : PanelPage(QStringLiteral("pagePictureEnhanc"), OwnList::Shown, queue, parent)
+{
+    buildPanels(picturePanels(deviceState));
+}
+
+/// The two cannot be on together, so with the first on the second is not even opened.
+bool pagePictureEnhanc::mayShow(const PanelSpec &panel)
+{
+    const bool excluded = qstrcmp(panel.label, kAdaptiveSyncItem) == 0 && deviceState.value(Command::GameRush) > 0;
+    if (excluded)
+        showNotice(alreadyEnabled(kGameRushItem));
+    return !excluded;
+}
+
+void pagePictureEnhanc::updateControlText()
+{
+    if (static_cast<int>(entries().size()) != panelCount())
+        qDebug() << "buttonLeftText-size != buttonList-size";
+    PanelPage::updateControlText();
+}

@@ -1,0 +1,74 @@
+#include "page/Game/picturetable.h"
+
+#include "page/engine/commonoptions.h"
+
+namespace {
+
+constexpr int kCaption = 150;
+
+// The off half of the switches of the motion function and of local dimming sends 0, although the option "Close" of the
+// same groups sends 2. The other half would send 0 as well, so it is not offered.
+constexpr Option kOffOnly[] = {{LABEL("         Disable"), 0}};
+
+constexpr Option kNightVision[] = {
+    {LABEL("Close"), 0}, {LABEL("Level1"), 1}, {LABEL("Level2"), 2}, {LABEL("Auto-L1"), 3}, {LABEL("Auto-L2"), 4}};
+constexpr Option kHdr[] = {{LABEL("Close"), 0}, {LABEL("Auto"), 1}, {LABEL("Game"), 2}, {LABEL("Movie"), 3}};
+
+// The last option is "High" here and "Strong" on the scene page; the value is the same.
+constexpr Option kLocalDimming[] = {
+    {LABEL("Close"), 2}, {LABEL("Low"), 3}, {LABEL("Smooth"), 4}, {LABEL("Medium"), 5}, {LABEL("High"), 6}};
+
+constexpr SliderSpec kColorEnhance[] = {
+    {"Color Enhance", LABEL("Color Enhance"), Command::ColorEnhance, 0, 10, SendOn::Release}};
+constexpr SliderSpec kContrastEnhance[] = {
+    {"CR Enhance", LABEL("CR Enhance"), Command::ContrastEnhance, 0, 5, SendOn::Release}};
+constexpr SliderSpec kShadowBalance[] = {
+    {"Shadow Balance", LABEL("Shadow Balance"), Command::BlackLevel, 0, 100, SendOn::Release}};
+constexpr SliderSpec kSuperResolution[] = {{"SR", LABEL("SR"), Command::SuperResolution, 0, 5, SendOn::Release}};
+constexpr SliderSpec kHaloControl[] = {
+    {"Halo Control", LABEL("Halo Control"), Command::HaloControl, 0, 100, SendOn::Release}};
+
+constexpr OptionGroup makeSwitch(const char *label, Command command, std::span<const Option> halves = kSwitchOptions)
+{
+    return {label, command, halves, {}, GroupLook::Switch};
+}
+
+const Section kGameRush[] = {makeSwitch(LABEL("Game Rush"), Command::GameRush)};
+const Section kDyds[] = {makeSwitch(LABEL("DyDs"), Command::MotionTech, kOffOnly),
+                         OptionGroup{LABEL("DyDs"), Command::MotionTech, kMotionOptions}};
+const Section kMpcs[] = {makeSwitch(LABEL("MPCS"), Command::MotionTech, kOffOnly),
+                         OptionGroup{LABEL("MPCS"), Command::MotionTech, kMotionOptions}};
+const Section kNightVisionPanel[] = {OptionGroup{LABEL("Night Vision"), Command::NightVision, kNightVision}};
+const Section kDynamicOd[] = {OptionGroup{LABEL("Dynamic OD"), Command::GrayResponse, kGrayResponseOptions}};
+const Section kHdrPanel[] = {OptionGroup{LABEL("HDR"), Command::Hdr, kHdr}};
+const Section kColorEnhancePanel[] = {SliderGrid{nullptr, 1, kCaption, kColorEnhance}};
+const Section kContrastEnhancePanel[] = {SliderGrid{nullptr, 1, kCaption, kContrastEnhance}};
+const Section kShadowBalancePanel[] = {SliderGrid{nullptr, 1, kCaption, kShadowBalance}};
+const Section kSuperResolutionPanel[] = {SliderGrid{nullptr, 1, kCaption, kSuperResolution}};
+const Section kLocalDimmingPanel[] = {makeSwitch(LABEL("Localdimming"), Command::LocalDimming, kOffOnly),
+                                      OptionGroup{LABEL("Localdimming"), Command::LocalDimming, kLocalDimming}};
+const Section kHaloControlPanel[] = {SliderGrid{nullptr, 1, kCaption, kHaloControl}};
+const Section kAdaptiveSync[] = {makeSwitch(LABEL("Adaptive-Sync"), Command::AdaptiveSync)};
+
+} // namespace
+
+std::vector<PanelSpec> picturePanels(const DeviceState &state)
+{
+    const PanelSpec motion = state.has(Capability::MpcsMotion)
+                                 ? PanelSpec{LABEL("MPCS"), "mpcs_fps", "pageMotion", kMpcs}
+                                 : PanelSpec{LABEL("DyDs"), "mpcs_fps", "pageMotion", kDyds};
+    return {
+        {LABEL("Game Rush"), "game_aid", "pageGameRush", kGameRush},
+        motion,
+        {LABEL("Night Vision"), "night", "pageNightVision", kNightVisionPanel},
+        {LABEL("Dynamic OD"), "animate", "pageDynamicOD", kDynamicOd},
+        {LABEL("HDR"), "light_programme", "pageHDR", kHdrPanel},
+        {LABEL("Color Enhance"), "art_design", "pageColorEnhance", kColorEnhancePanel},
+        {LABEL("CR Enhance"), "picture_enhance", "pageCREnhance", kContrastEnhancePanel},
+        {LABEL("Shadow Balance"), "dark_programme", "pageShadowBalance", kShadowBalancePanel},
+        {LABEL("SR"), "standard", "pageSR", kSuperResolutionPanel},
+        {LABEL("Localdimming"), "mpcs_ld", "pageLocaldimming", kLocalDimmingPanel, Capability::LocalDimming},
+        {LABEL("Halo Control"), "eye_care", "pageHaloControl", kHaloControlPanel, Capability::HaloControl},
+        {LABEL("Adaptive-Sync"), "emberline", "pageAdaptiveSync", kAdaptiveSync},
+    };
+}

@@ -1,0 +1,42 @@
+#include "page/IO/iotable.h"
+
+#include "page/engine/commonoptions.h"
+
+namespace {
+
+constexpr Option kUsbSwitch[] = {{LABEL("Type-C"), 0}, {LABEL("Type-B"), 1}};
+constexpr Option kDpTypeC[] = {{LABEL("5.4G"), 0}, {LABEL("8.1G"), 1}};
+constexpr Option kInputSignal[] = {{LABEL("Auto"), 0},   {LABEL("DP1"), 1},   {LABEL("DP2"), 2},
+                                   {LABEL("Type-C"), 3}, {LABEL("HDMI1"), 4}, {LABEL("HDMI2"), 5}};
+
+constexpr OptionGroup makeSwitch(const char *label, Command command)
+{
+    return {label, command, kSwitchOptions, {}, GroupLook::Switch};
+}
+
+const Section kOutputRange[] = {OptionGroup{LABEL("Output Range"), Command::OutputRange, kOutputRangeOptions}};
+const Section kQuickBoot[] = {makeSwitch(LABEL("Quick Boot"), Command::QuickBoot)};
+const Section kUsbPower[] = {makeSwitch(LABEL("USB Power"), Command::UsbPower),
+                             makeSwitch(LABEL("DP Alt Mode"), Command::DpAltMode)};
+const Section kUsbSwitchPanel[] = {OptionGroup{LABEL("USB Switch"), Command::UsbSwitch, kUsbSwitch},
+                                   OptionGroup{LABEL("DP/Type-C"), Command::DpTypeC, kDpTypeC}};
+const Section kInputSignalPanel[] = {CustomPart{kInputNowPart},
+                                     OptionGroup{LABEL("Input Signal"), Command::InputSignal, kInputSignal},
+                                     CustomPart{kPreviewPart}};
+const Section kCec[] = {makeSwitch(LABEL("CEC"), Command::Cec)};
+
+const PanelSpec kPanels[] = {
+    {LABEL("Output Range"), "native", "pageOutputRange", kOutputRange},
+    {LABEL("Quick Boot"), "emberline", "pageQuickBoot", kQuickBoot},
+    {LABEL("USB Power"), "io_settings", "pageUSBPower", kUsbPower},
+    {LABEL("USB Switch"), "service_settings", "pageUSBSwitch", kUsbSwitchPanel},
+    {LABEL("Input Signal"), "hdtv_video", "pageInputSignal", kInputSignalPanel},
+    {LABEL("CEC"), "scence_follow", "pageCEC", kCec},
+};
+
+} // namespace
+
+std::span<const PanelSpec> ioPanels()
+{
+    return kPanels;
+}

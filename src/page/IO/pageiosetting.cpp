@@ -1,0 +1,77 @@
+#include "page/IO/pageiosetting.h"
+
+#include "controls/pictures.h"
+#include "controls/sharedfonts.h"
+#include "page/IO/iotable.h"
+#include "page/engine/optiongrouprow.h"
+
+namespace {
+
+/// The pictures of the inputs 1 to 5.
+constexpr const char *kPreviews[] = {"dp1", "dp2", "type_c", "hdmi1", "hdmi2"};
+
+} // namespace
+
+pageIOSetting::pageIOSetting(CommandQueue &queue, QWidget *parent)
+    : PanelPage(QStringLiteral("pageIOSetting"), OwnList::Shown, queue, parent)
+{
+    buildPanels(ioPanels());
+    // Both keep the monitor half awake while it is off, and it does so for one of them only.
+    refuseWhen(Command::Cec, [this](int value) { return excludes(Command::QuickBoot, "Quick Boot", value); });
+    refuseWhen(Command::QuickBoot, [this](int value) { return excludes(Command::Cec, "CEC", value); });
+    afterSending(Command::InputSignal, [this](int) {
+        m_inputWasChosen = true;
+        showPreview();
+    });
+}
+
+bool pageIOSetting::excludes(Command other, const char *label, int value)
+{
+    const bool excluded = value == 1 && deviceState.value(other) == 1;
+    showNotice(excluded ? alreadyEnabled(label) : QString());
+    return excluded;
+}
+
+QWidget *pageIOSetting::buildPart(const char *name)
+{
+    QLabel *&part = qstrcmp(name, kPreviewPart) == 0 ? m_preview : m_inputNow;
+    part = new QLabel(this);
+    part->setFont(noteFont);
+    part->setObjectName(QLatin1String(name));
+    part->setStyleSheet(QStringLiteral("color: #9cffc8;"));
+    return part;
+}
+
+void pageIOSetting::updateInterfaceData()
+{
+    PanelPage::updateInterfaceData();
+    if (!m_inputWasChosen)
+        showInput();
+    showPreview();
+}
+
+void pageIOSetting::updateControlText()
+{
+    PanelPage::updateControlText();
+    showInput();
+}
+
+/// Marks the input that the picture comes from now: choosing another one blanks it.
+void pageIOSetting::showInput()
+{
+    const OptionGroupRow *row = optionGroup(Command::InputSignal);
+    const QPushButton *button = row->buttonOf(deviceState.value(Command::InputSignal));
+    const bool known = deviceState.isKnown(Command::InputSignal) && button;
+    m_inputNow->setText(known ? QObject::tr("On now: %1").arg(button->text()) : QString());
+}
+
+void pageIOSetting::showPreview()
+{
+    const int input = deviceState.value(Command::InputSignal);
+    const bool hasPicture = deviceState.isKnown(Command::InputSignal) && input >= 1 && input <= 5;
+    m_preview->setVisible(hasPicture);
+    if (!hasPicture)
+        return;
+    const QString picture = QStringLiteral("img/preview/%1.png").arg(QLatin1String(kPreviews[input - 1]));
+    m_preview->setPixmap(Pictures::load(Pictures::kRoot + picture, devicePixelRatioF()));
+}

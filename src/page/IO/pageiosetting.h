@@ -1,0 +1,26 @@
+#pragma once
+
+#include "page/engine/panelpage.h"
+
+/// The monitor's inputs and outputs.
+class pageIOSetting : public PanelPage
+{
+    Q_OBJECT
+public:
+    explicit pageIOSetting(CommandQueue &queue, QWidget *parent = nullptr);
+
+    void updateInterfaceData() override;
+    void updateControlText() override;
+
+protected:
+    QWidget *buildPart(const char *name) override;
+
+private:
+    bool excludes(Command other, const char *label, int value);
+    void showInput();
+    void showPreview();
+
+    QLabel *m_inputNow = nullptr;
+    QLabel *m_preview = nullptr;
+    bool m_inputWasChosen = false;
+};

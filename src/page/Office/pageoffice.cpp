@@ -1,0 +1,99 @@
+#include "page/Office/pageoffice.h"
+
+#include <QHBoxLayout>
+#include <QSpinBox>
+
+#include "controls/desktoptoast.h"
+#include "controls/wheeleventfilter.h"
+#include "page/Office/officetable.h"
+#include "page/engine/labels.h"
+#include "page/engine/optiongrouprow.h"
+#include "platform/desk.h"
+
+namespace {
+
+constexpr int kSmallestPaper = 10;  // mm
+constexpr int kHeightFlag = 0x8000; // tells the height from the width, which share a command
+constexpr platform::milliseconds kReminderShown{10000};
+
+} // namespace
+
+PageOffice::PageOffice(CommandQueue &queue, QWidget *parent)
+    : PanelPage(QStringLiteral("PageOffice"), OwnList::None, queue, parent), m_toast(std::make_unique<DesktopToast>())
+{
+    buildPanels(officePanels());
+    afterSending(Command::Paper, [this](int) { showPaperSize(); });
+    afterSending(Command::RestTimer, [this](int option) { m_reminder.setOption(option); });
+    connect(&m_reminder, &RestReminder::timeIsUp, this, &PageOffice::remind);
+}
+
+PageOffice::~PageOffice() = default;
+
+QWidget *PageOffice::buildPart(const char *)
+{
+    m_paperSize = new QWidget(this);
+    m_width = makeSizeField(QStringLiteral("paperWidth"));
+    m_height = makeSizeField(QStringLiteral("paperHeight"));
+    auto *row = new QHBoxLayout(m_paperSize);
+    row->setContentsMargins(0, 0, 0, 0);
+    for (const auto &[field, label] : {std::pair(m_width, LABEL("Width")), std::pair(m_height, LABEL("Height"))}) {
+        auto *caption = new QLabel(m_paperSize);
+        caption->setStyleSheet(QStringLiteral("color: #c9c9c9;"));
+        texts().bind(label, [caption, spin = field](const QString &text) {
+            caption->setText(text);
+            spin->setAccessibleName(text);
+        });
+        row->addWidget(caption);
+        row->addWidget(field);
+    }
+    auto *apply = new QPushButton(m_paperSize);
+    apply->setObjectName(QStringLiteral("paperApply"));
+    texts().bind(LABEL("Apply"), [apply](const QString &text) {
+        apply->setText(text);
+        dressOptionButton(apply);
+    });
+    connect(apply, &QPushButton::clicked, this, &PageOffice::sendPaperSize);
+    row->addWidget(apply);
+    row->addStretch(1);
+    return m_paperSize;
+}
+
+QSpinBox *PageOffice::makeSizeField(const QString &name)
+{
+    auto *field = new QSpinBox(m_paperSize);
+    field->setObjectName(name);
+    field->setSuffix(QStringLiteral(" mm"));
+    field->setFixedSize(110, 34);
+    field->installEventFilter(new WheelEventFilter(field));
+    return field;
+}
+
+/// The monitor takes a size by two writes of its office area's command, millimetres each, the height with the top bit.
+void PageOffice::sendPaperSize()
+{
+    const bool ok = send(Command::Paper, kCustomPaper) && send(Command::OfficeArea, m_width->value()) &&
+                    send(Command::OfficeArea, m_height->value() | kHeightFlag);
+    showNotice(ok ? QString() : QObject::tr("The monitor did not take the size."));
+}
+
+void PageOffice::showPaperSize()
+{
+    const int width = static_cast<int>(deviceState.officeMaximumHorizontal);
+    const int height = static_cast<int>(deviceState.officeMaximumVertical);
+    m_paperSize->setVisible(deviceState.value(Command::Paper) == kCustomPaper && width > 0 && height > 0);
+    m_width->setRange(kSmallestPaper, std::max(width, kSmallestPaper));
+    m_height->setRange(kSmallestPaper, std::max(height, kSmallestPaper));
+}
+
+void PageOffice::updateInterfaceData()
+{
+    PanelPage::updateInterfaceData();
+    showPaperSize();
+    m_reminder.setOption(deviceState.isKnown(Command::RestTimer) ? deviceState.value(Command::RestTimer) : 0);
+}
+
+void PageOffice::remind()
+{
+    m_toast->showNote(QObject::tr("Eyeshield Remind"), QObject::tr("Time to rest your eyes for a while."));
+    platform::desk().clock().callLater(kReminderShown, m_toast.get(), [this] { m_toast->hide(); });
+}

@@ -1,0 +1,195 @@
+#include "page/engine/panelpage.h"
+
+#include <QHBoxLayout>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+#include "controls/lefttabbutton.h"
+#include "controls/pictures.h"
+#include "controls/sharedfonts.h"
+#include "page/engine/optiongrouprow.h"
+#include "page/engine/pagestyle.h"
+
+namespace {
+
+constexpr int kListWidth = 232;
+constexpr int kEntryPitch = 48;
+constexpr int kPanelSpacing = 20;
+
+QPushButton *makeArrow(const QString &name, const QString &arrow, QWidget *parent)
+{
+    auto *button = new QPushButton(arrow, parent);
+    button->setObjectName(name);
+    button->setFixedHeight(24);
+    button->setFocusPolicy(Qt::NoFocus); // the keyboard walks the entries themselves
+    return button;
+}
+
+} // namespace
+
+PanelPage::PanelPage(const QString &name, OwnList list, CommandQueue &queue, QWidget *parent)
+    : SettingsPage(queue, parent), m_list(list), m_stack(new QStackedWidget(this)), m_notice(new QLabel(this))
+{
+    setObjectName(name);
+    dressPage(this);
+    m_notice->setObjectName(QStringLiteral("notice"));
+    m_notice->setFont(noteFont);
+    m_notice->setWordWrap(true);
+    askWhenShown();
+}
+
+void PanelPage::buildPanels(std::span<const PanelSpec> panels)
+{
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(m_list == OwnList::Shown ? 0 : 24, 16, 24, 16);
+    row->setSpacing(24);
+    for (const PanelSpec &panel : panels) {
+        if (!panel.needs || deviceState.has(*panel.needs))
+            m_panels.push_back(panel);
+    }
+    if (m_list == OwnList::Shown)
+        row->addWidget(buildList());
+    auto *column = new QVBoxLayout;
+    column->addWidget(m_stack, 1);
+    column->addWidget(m_notice);
+    row->addLayout(column, 1);
+    for (const PanelSpec &panel : m_panels)
+        m_stack->addWidget(buildPanel(panel));
+    showPanel(0);
+    updateInterfaceData();
+}
+
+QWidget *PanelPage::buildList()
+{
+    auto *bar = new QFrame(this);
+    bar->setObjectName(QStringLiteral("frameLeftBar"));
+    bar->setFixedWidth(kListWidth);
+    auto *entries = new QFrame(bar);
+    entries->setObjectName(QStringLiteral("frameLeftBar2"));
+    auto *column = new QVBoxLayout(entries);
+    column->setContentsMargins(12, 0, 12, 0);
+    column->setSpacing(2);
+    for (const PanelSpec &panel : m_panels)
+        addEntry(panel, column);
+    column->addStretch(1);
+
+    m_listArea = new QScrollArea(bar);
+    m_listArea->setWidgetResizable(true);
+    m_listArea->setFrameShape(QFrame::NoFrame);
+    m_listArea->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_listArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_listArea->setFocusPolicy(Qt::NoFocus);
+    m_listArea->setWidget(entries);
+    m_upper = makeArrow(QStringLiteral("pushButton_Upper"), QStringLiteral("▲"), bar);
+    m_down = makeArrow(QStringLiteral("pushButton_Down"), QStringLiteral("▼"), bar);
+    connect(m_upper, &QPushButton::clicked, this, [this] { scrollList(-1); });
+    connect(m_down, &QPushButton::clicked, this, [this] { scrollList(1); });
+    // The arrows are there only when there is something to scroll to.
+    connect(m_listArea->verticalScrollBar(), &QScrollBar::rangeChanged, this, [this](int minimum, int maximum) {
+        m_upper->setVisible(maximum > minimum);
+        m_down->setVisible(maximum > minimum);
+    });
+    m_upper->hide();
+    m_down->hide();
+
+    auto *layout = new QVBoxLayout(bar);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_upper);
+    layout->addWidget(m_listArea, 1);
+    layout->addWidget(m_down);
+    return bar;
+}
+
+void PanelPage::addEntry(const PanelSpec &panel, QLayout *column)
+{
+    const QString icon = Pictures::kRoot + QLatin1String("img/entry/") + QLatin1String(panel.icon);
+    auto *entry = new LeftTabButton(icon, QString(), this);
+    entry->setObjectName(QLatin1String(panel.label));
+    texts().bind(panel.label, [entry](const QString &text) { entry->setCaption(text); });
+    connect(entry, &LeftTabButton::clicked, this,
+            [this, index = static_cast<int>(m_entries.size())] { choose(index); });
+    m_entries.push_back(entry);
+    column->addWidget(entry);
+}
+
+QWidget *PanelPage::buildPanel(const PanelSpec &panel)
+{
+    auto *content = new QWidget(m_stack);
+    content->setObjectName(QLatin1String(panel.widgetName));
+    auto *column = new QVBoxLayout(content);
+    column->setContentsMargins(0, 8, 0, 0);
+    column->setSpacing(kPanelSpacing);
+    auto *title = new QLabel(content);
+    title->setObjectName(QStringLiteral("title"));
+    title->setFont(titleFont);
+    texts().bind(panel.label, [title](const QString &text) { title->setText(text); });
+    column->addWidget(title);
+    const std::size_t before = optionGroups().size();
+    buildSections(panel.sections, column);
+    for (std::size_t i = before; i < optionGroups().size(); ++i) {
+        if (qstrcmp(optionGroups()[i]->group().label, panel.label) == 0)
+            optionGroups()[i]->hideCaption();
+    }
+    column->addStretch(1);
+    return content;
+}
+
+int PanelPage::panelCount() const
+{
+    return m_stack->count();
+}
+
+int PanelPage::currentPanel() const
+{
+    return m_stack->currentIndex();
+}
+
+void PanelPage::choose(int index)
+{
+    if (!mayShow(m_panels[static_cast<std::size_t>(index)]))
+        index = currentPanel();
+    else
+        showNotice({});
+    m_stack->setCurrentIndex(index);
+    for (std::size_t i = 0; i < m_entries.size(); ++i)
+        m_entries[i]->setChecked(static_cast<int>(i) == index);
+}
+
+void PanelPage::showPanel(int index)
+{
+    if (index >= 0 && index < panelCount())
+        choose(index);
+}
+
+void PanelPage::showPanel(const char *label)
+{
+    for (std::size_t i = 0; i < m_panels.size(); ++i) {
+        if (qstrcmp(m_panels[i].label, label) == 0)
+            showPanel(static_cast<int>(i));
+    }
+}
+
+void PanelPage::scrollList(int steps)
+{
+    QScrollBar *bar = m_listArea->verticalScrollBar();
+    bar->setValue(bar->value() + steps * kEntryPitch);
+}
+
+QString PanelPage::alreadyEnabled(const char *label)
+{
+    const QString ending = QObject::tr(" already enabled!");
+    return QObject::tr(label) + ending;
+}
+
+QString PanelPage::notice() const
+{
+    return m_notice->text();
+}
+
+void PanelPage::showNotice(const QString &text)
+{
+    m_notice->setText(text);
+    m_notice->setVisible(!text.isEmpty());
+}

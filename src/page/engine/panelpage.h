@@ -1,0 +1,62 @@
+#pragma once
+
+#include "page/engine/settingspage.h"
+
+class LeftTabButton;
+class QPushButton;
+class QScrollArea;
+class QStackedWidget;
+
+/// A settings page of several panels, of which one is shown. The user chooses it in the page's own list, or, on pages
+/// without one, in the window's left bar.
+class PanelPage : public SettingsPage
+{
+    Q_OBJECT
+public:
+    enum class OwnList { Shown, None };
+
+    /// Builds the panels that the monitor has and shows the first. The page's object name is what its style goes by.
+    PanelPage(const QString &name, OwnList list, CommandQueue &queue, QWidget *parent = nullptr);
+
+    int panelCount() const;
+    int currentPanel() const;
+
+    /// Shows a panel, by its place among those that the monitor has, or by its source label.
+    void showPanel(int index);
+    void showPanel(const char *label);
+
+    /// The entries of the page's own list; empty on pages without one.
+    const std::vector<LeftTabButton *> &entries() const { return m_entries; }
+
+    /// What is written under the panel, such as why something was not done; empty when there is nothing to say.
+    QString notice() const;
+
+protected:
+    /// To be called once by the page's constructor, when its own members stand.
+    void buildPanels(std::span<const PanelSpec> panels);
+
+    /// Whether a panel may be chosen now; a page that says no shows why.
+    virtual bool mayShow(const PanelSpec &) { return true; }
+
+    /// The warning of two functions that exclude each other; the label of the one that is on, as a source text.
+    static QString alreadyEnabled(const char *label);
+
+    /// Writes something under the panel until another one is chosen or something is sent.
+    void showNotice(const QString &text);
+
+private:
+    QWidget *buildList();
+    QWidget *buildPanel(const PanelSpec &panel);
+    void addEntry(const PanelSpec &panel, QLayout *column);
+    void choose(int index);
+    void scrollList(int steps);
+
+    OwnList m_list;
+    std::vector<PanelSpec> m_panels;
+    std::vector<LeftTabButton *> m_entries;
+    QScrollArea *m_listArea = nullptr;
+    QPushButton *m_upper = nullptr;
+    QPushButton *m_down = nullptr;
+    QStackedWidget *m_stack;
+    QLabel *m_notice;
+};

@@ -1,0 +1,373 @@
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QSpinBox>
+#include <QtTest>
+
+#include "controls/desktoptoast.h"
+#include "controls/lefttabbutton.h"
+#include "controls/nowheelslider.h"
+#include "controls/sliderwidget.h"
+#include "ddc_protocol/commandqueue.h"
+#include "ddc_protocol/settingsstore.h"
+#include "ddc_protocol/transport.h"
+#include "page/BasicSetting/pagesystemsetting.h"
+#include "page/Game/pagepictureenhanc.h"
+#include "page/IO/iotable.h"
+#include "page/IO/pageiosetting.h"
+#include "page/Office/pageoffice.h"
+#include "page/engine/optiongrouprow.h"
+#include "searchdevicedlg.h"
+#include "support/deskfixture.h"
+
+using virtualdesk::kForEver;
+
+/// The pages that are a table and its exceptions: picture enhancement, office, I/O and system settings.
+class TestPages : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void optionsSend_data();
+    void optionsSend();
+    void slidersSend_data();
+    void slidersSend();
+    void unknownValuesAreAskedFor();
+    void refusedCodeStaysUnknown();
+    void answersDoNotOverwriteTheUser();
+    void valuesOutOfRange();
+    void listByModel_data();
+    void listByModel();
+    void gameRushExcludesAdaptiveSync();
+    void oneOfTwoStandbyFunctions();
+    void inputPreview();
+    void menuLockOnce();
+    void resetFactory();
+    void resetRefused();
+    void customPaper();
+    void restReminder();
+
+private:
+    enum Page { Picture, Office, Io, System };
+    PanelPage *page(int which);
+    QPushButton *button(int which, const QString &name) { return page(which)->findChild<QPushButton *>(name); }
+    void settle();
+
+    std::unique_ptr<DeskFixture> m_desk;
+    std::unique_ptr<SearchDeviceDlg> m_session;
+    std::unique_ptr<CommandQueue> m_queue;
+    std::map<int, std::unique_ptr<PanelPage>> m_pages;
+};
+
+void TestPages::init()
+{
+    m_desk = std::make_unique<DeskFixture>();
+    m_session = std::make_unique<SearchDeviceDlg>();
+    m_session->searchDevices();
+    m_queue = std::make_unique<CommandQueue>();
+    m_desk->takeCommands();
+}
+
+void TestPages::cleanup()
+{
+    m_pages.clear();
+    m_queue.reset();
+    m_session.reset();
+    m_desk.reset();
+}
+
+PanelPage *TestPages::page(int which)
+{
+    std::unique_ptr<PanelPage> &page = m_pages[which];
+    if (!page && which == Picture)
+        page = std::make_unique<pagePictureEnhanc>(*m_queue);
+    else if (!page && which == Office)
+        page = std::make_unique<PageOffice>(*m_queue);
+    else if (!page && which == Io)
+        page = std::make_unique<pageIOSetting>(*m_queue);
+    else if (!page)
+        page = std::make_unique<pageSystemSetting>(*m_session, *m_queue);
+    return page.get();
+}
+
+/// Until the last of the system page's questions, which go by rising code, has been answered.
+void TestPages::settle()
+{
+    QTRY_VERIFY(deviceState.isKnown(Command::GravitySensor));
+}
+
+void TestPages::optionsSend_data()
+{
+    QTest::addColumn<int>("which");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("sent");
+    const auto row = [](int which, const char *name, const char *sent) {
+        QTest::newRow(name) << which << name << sent;
+    };
+    row(Picture, "Localdimming_High", "W 47=6"); // Strong on the scene page
+    row(Picture, "DyDs_Close", "W 48=2");
+    row(Picture, "DyDs_         Disable", "W 48=0"); // the switch of the same group
+    row(Picture, "Localdimming_         Disable", "W 47=0");
+    row(Picture, "Game Rush_         Enable", "W e4=1");
+    row(Picture, "Adaptive-Sync_         Disable", "W 43=0");
+    row(Office, "Ruler_Angle close", "W f2=0");
+    row(Office, "Ruler_Ruler", "W f2=1");
+    row(Office, "Ruler_Angle Ruler", "W f2=2");
+    row(Office, "Alignment Aid_Open", "W 3b=1"); // not the group Alignment
+    row(Office, "Alignment_Alignment_9", "W f1=3");
+    row(Office, "Eyeshield Remind_4 Hour", "W f9=8");
+    row(Office, "Eyeshield Remind_30s", "W f9=1");
+    row(Office, "AI Dual Mode_Open", "W e0=1");
+    row(Io, "Input Signal_HDMI2", "W 57=5");
+    row(Io, "Input Signal_Type-C", "W 57=3");
+    row(Io, "USB Switch_Type-C", "W 5f=0");
+    row(Io, "DP/Type-C_8.1G", "W d7=1");
+    row(Io, "DP Alt Mode_         Enable", "W d6=1");
+    row(System, "Power LED_Close", "W c5=1"); // starts at 1
+    row(System, "Power Saving_Close", "W c6=0");
+    row(System, "Audio Mode_Convo", "W ea=2");
+    row(System, "OSD Language_English", "W cc=2");
+    row(System, "OSD Language_Türkçe", "W cc=23"); // exchanged with the last
+    row(System, "OSD Language_Portugues do Brasilazil", "W cc=5");
+    row(System, "OSD Language_日本語", "W cc=13");
+    row(System, "Menu Lock_         Enable", "W c4=1");
+}
+
+void TestPages::optionsSend()
+{
+    QFETCH(int, which);
+    QFETCH(QString, name);
+    QFETCH(QString, sent);
+    QPushButton *option = button(which, name);
+    QVERIFY(option);
+    QTest::mouseClick(option, Qt::LeftButton);
+    QCOMPARE(m_desk->takeCommands(), QStringList{sent});
+    page(which)->updateInterfaceData();
+    m_queue->drain();
+    QCOMPARE(m_desk->takeCommands(), QStringList()); // filling echoes nothing
+    QVERIFY(option->isChecked());
+}
+
+void TestPages::slidersSend_data()
+{
+    QTest::addColumn<int>("which");
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<int>("value");
+    QTest::addColumn<QStringList>("moved");
+    QTest::addColumn<QStringList>("released");
+    QTest::newRow("picture") << int(Picture) << QByteArray("Shadow Balance") << 41 << QStringList()
+                             << QStringList{"W 42=41"};
+    QTest::newRow("system") << int(System) << QByteArray("Audio Volume") << 41 << QStringList{"W f6=41"}
+                            << QStringList();
+}
+
+void TestPages::slidersSend()
+{
+    QFETCH(int, which);
+    QFETCH(QByteArray, name);
+    QFETCH(int, value);
+    NoWheelSlider *slider = page(which)->slider(name.constData())->slider();
+    slider->setSliderDown(true);
+    slider->setSliderPosition(value);
+    m_queue->drain();
+    QTEST(m_desk->takeCommands(), "moved");
+    slider->setSliderDown(false);
+    m_queue->drain();
+    QTEST(m_desk->takeCommands(), "released");
+}
+
+void TestPages::unknownValuesAreAskedFor()
+{
+    m_desk->monitor().setValue(0xC5, 3);
+    m_desk->monitor().setValue(0xC1, 77);
+    QVERIFY(page(System)->slider("H-Position")->isUnknown());
+    QVERIFY(!page(System)->slider("Audio Volume")->isUnknown()); // in the snapshot already
+    page(System)->show();
+    settle();
+    QCOMPARE(page(System)->slider("H-Position")->value(), 77);
+    QVERIFY(button(System, "Power LED_Level2")->isChecked());
+    const QStringList asked = m_desk->takeCommands();
+    QVERIFY(asked.contains("R c5") && !asked.contains("R f6") && asked.filter("W").isEmpty());
+    page(System)->hide();
+    page(System)->show();
+    m_queue.reset();                                 // whatever it still had to do
+    QCOMPARE(m_desk->takeCommands(), QStringList()); // asked once
+}
+
+void TestPages::refusedCodeStaysUnknown()
+{
+    m_desk->monitor().refuse(0xC1, kForEver);
+    m_desk->takeLog();
+    page(System)->show();
+    settle();
+    QVERIFY(page(System)->slider("H-Position")->isUnknown());
+    QVERIFY(!page(System)->slider("V-Position")->isUnknown());
+    QCOMPARE(m_desk->takeLog().filter("errorCode"), QStringList());
+    QCOMPARE(m_desk->clock.takeWaits(), QList<int>()); // nobody waits for a code that is refused
+}
+
+void TestPages::answersDoNotOverwriteTheUser()
+{
+    {
+        const auto busy = lockTransport(); // the question is on its way
+        page(System)->show();
+        deviceState.store(Command::PowerLed, 4);
+    }
+    settle();
+    QCOMPARE(deviceState.value(Command::PowerLed), 4);
+    QVERIFY(button(System, "Power LED_Level3")->isChecked());
+}
+
+void TestPages::valuesOutOfRange()
+{
+    deviceState.store(Command::OsdHPosition, 5000);
+    deviceState.store(Command::PowerLed, 99);
+    page(System)->updateInterfaceData();
+    QCOMPARE(page(System)->slider("H-Position")->value(), 100);
+    for (const QPushButton *option : page(System)->optionGroup(Command::PowerLed)->buttons())
+        QVERIFY(!option->isChecked());
+    QCOMPARE(m_desk->takeCommands(), QStringList());
+}
+
+void TestPages::listByModel_data()
+{
+    QTest::addColumn<int>("capability");
+    QTest::addColumn<int>("items");
+    QTest::addColumn<QString>("motion");
+    QTest::newRow("everything") << 3 << 12 << "DyDs";
+    QTest::newRow("no dimming, no halo") << 0 << 10 << "DyDs";
+    QTest::newRow("MPCS") << 64 << 10 << "MPCS";
+}
+
+void TestPages::listByModel()
+{
+    QFETCH(int, capability);
+    QFETCH(int, items);
+    QFETCH(QString, motion);
+    deviceState.store(Command::Capability, capability);
+    QCOMPARE(page(Picture)->panelCount(), items);
+    QCOMPARE(page(Picture)->entries()[1]->caption(), motion);
+    QVERIFY(button(Picture, motion + "_Ull-Level3"));
+}
+
+void TestPages::gameRushExcludesAdaptiveSync()
+{
+    QTest::mouseClick(button(Picture, "Game Rush_         Enable"), Qt::LeftButton);
+    m_desk->takeCommands();
+    QTest::mouseClick(page(Picture)->entries().back(), Qt::LeftButton);
+    QCOMPARE(page(Picture)->currentPanel(), 0);
+    QVERIFY(page(Picture)->entries().front()->isChecked());
+    QCOMPARE(page(Picture)->notice(), QStringLiteral("Game Rush already enabled!"));
+    QTest::mouseClick(button(Picture, "Game Rush_         Disable"), Qt::LeftButton);
+    QTest::mouseClick(page(Picture)->entries().back(), Qt::LeftButton);
+    QCOMPARE(page(Picture)->currentPanel(), page(Picture)->panelCount() - 1);
+    QCOMPARE(page(Picture)->notice(), QString());
+}
+
+void TestPages::oneOfTwoStandbyFunctions()
+{
+    deviceState.store(Command::QuickBoot, 1);
+    deviceState.store(Command::Cec, 0);
+    page(Io)->updateInterfaceData();
+    QTest::mouseClick(button(Io, "CEC_         Enable"), Qt::LeftButton);
+    QCOMPARE(page(Io)->notice(), QStringLiteral("Quick Boot already enabled!"));
+    QVERIFY(button(Io, "CEC_         Disable")->isChecked()); // as before the press
+    QCOMPARE(m_desk->takeCommands(), QStringList());
+    QTest::mouseClick(button(Io, "Quick Boot_         Disable"), Qt::LeftButton);
+    QTest::mouseClick(button(Io, "CEC_         Enable"), Qt::LeftButton);
+    QCOMPARE(m_desk->takeCommands(), (QStringList{"W 61=0", "W d9=1"}));
+    QCOMPARE(page(Io)->notice(), QString());
+}
+
+void TestPages::inputPreview()
+{
+    deviceState.store(Command::InputSignal, 1);
+    page(Io)->updateInterfaceData();
+    auto *preview = page(Io)->findChild<QLabel *>(kPreviewPart);
+    auto *now = page(Io)->findChild<QLabel *>(kInputNowPart);
+    QVERIFY(!preview->isHidden());
+    QCOMPARE(now->text(), QStringLiteral("On now: DP1"));
+    QTest::mouseClick(button(Io, "Input Signal_Auto"), Qt::LeftButton);
+    QVERIFY(preview->isHidden());
+    QTest::mouseClick(button(Io, "Input Signal_HDMI2"), Qt::LeftButton);
+    QVERIFY(!preview->isHidden());
+    QCOMPARE(now->text(), QStringLiteral("On now: DP1")); // the picture still comes from there
+}
+
+void TestPages::menuLockOnce()
+{
+    QTest::mouseClick(button(System, "Menu Lock_         Enable"), Qt::LeftButton);
+    QTest::mouseClick(button(System, "Menu Lock_         Enable"), Qt::LeftButton);
+    QCOMPARE(page(System)->notice(), QStringLiteral("Menu lock already opened!"));
+    QTest::mouseClick(button(System, "Menu Lock_         Disable"), Qt::LeftButton);
+    QCOMPARE(m_desk->takeCommands(), (QStringList{"W c4=1", "W c4=0"}));
+}
+
+void TestPages::resetFactory()
+{
+    QSignalSpy begins(static_cast<pageSystemSetting *>(page(System)), &pageSystemSetting::resetBegins);
+    QTest::mouseClick(button(System, "Reset Factory_No"), Qt::LeftButton);
+    QCOMPARE(m_desk->takeCommands(), QStringList());
+    QTest::mouseClick(button(System, "Reset Factory_Yes"), Qt::LeftButton);
+    QCOMPARE(m_desk->takeCommands(), QStringList{"W c7=0"});
+    QCOMPARE(begins.count(), 1);
+    QCOMPARE(settingsInt("SystemMode/Brightness", 0, false), 10);
+    QCOMPARE(settingsInt("SystemMode/PlaybackLevel", 0, false), 5);
+    m_desk->clock.advance(platform::milliseconds(19999));
+    QVERIFY(m_desk->desk.started.empty());
+    m_desk->clock.advance(platform::milliseconds(1));
+    QCOMPARE(m_desk->desk.started.size(), std::size_t(1)); // the search of a reset is a fresh start
+    QVERIFY(m_desk->takeLog().filter("Restart begin").size() == 1);
+}
+
+void TestPages::resetRefused()
+{
+    QSignalSpy begins(static_cast<pageSystemSetting *>(page(System)), &pageSystemSetting::resetBegins);
+    m_desk->monitor().refuse(0xC7, kForEver);
+    QTest::mouseClick(button(System, "Reset Factory_Yes"), Qt::LeftButton);
+    QCOMPARE(begins.count(), 0);
+    QVERIFY(!page(System)->notice().isEmpty());
+    QCOMPARE(settingsInt("SystemMode/Brightness", 0, false), 0);
+    QCOMPARE(m_desk->clock.tasksWaiting(), std::size_t(0));
+}
+
+void TestPages::customPaper()
+{
+    auto *width = page(Office)->findChild<QSpinBox *>("paperWidth");
+    auto *height = page(Office)->findChild<QSpinBox *>("paperHeight");
+    QVERIFY(width->parentWidget()->isHidden());
+    QTest::mouseClick(button(Office, "Paper_Custom Size"), Qt::LeftButton);
+    QVERIFY(!width->parentWidget()->isHidden());
+    width->setValue(100000);
+    height->setValue(120);
+    QCOMPARE(width->value(), int(deviceState.officeMaximumHorizontal));
+    m_desk->takeCommands();
+    QTest::mouseClick(button(Office, "paperApply"), Qt::LeftButton);
+    QCOMPARE(m_desk->takeCommands(),
+             (QStringList{"W ec=4", QStringLiteral("W ef=%1").arg(width->value()), "W ef=32888"}));
+}
+
+void TestPages::restReminder()
+{
+    auto *office = static_cast<PageOffice *>(page(Office));
+    QTest::mouseClick(button(Office, "Eyeshield Remind_30s"), Qt::LeftButton);
+    m_desk->clock.advance(platform::milliseconds(29999));
+    QVERIFY(!office->toast()->isVisible());
+    m_desk->clock.advance(platform::milliseconds(1));
+    QVERIFY(office->toast()->isVisible());
+    m_desk->clock.advance(platform::milliseconds(10000));
+    QVERIFY(!office->toast()->isVisible()); // goes away by itself
+    m_desk->clock.advance(platform::milliseconds(20000));
+    QVERIFY(office->toast()->isVisible()); // and comes again
+    QTest::mouseClick(button(Office, "Eyeshield Remind_1.5 Hour"), Qt::LeftButton);
+    m_desk->clock.advance(std::chrono::minutes(89));
+    QVERIFY(!office->toast()->isVisible());
+    m_desk->clock.advance(std::chrono::minutes(1));
+    QVERIFY(office->toast()->isVisible());
+    QTest::mouseClick(button(Office, "Eyeshield Remind_Close"), Qt::LeftButton);
+    m_desk->clock.advance(std::chrono::hours(9));
+    QVERIFY(!office->toast()->isVisible());
+}
+
+QTEST_MAIN(TestPages)
+#include "tst_pages.moc"
