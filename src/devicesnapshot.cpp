@@ -1,7 +1,5 @@
 // The session's reads: the whole snapshot, and the block of one scene mode.
 
-#include <algorithm>
-
 #include <QDebug>
 #include <QProgressDialog>
 
@@ -14,7 +12,6 @@ using platform::milliseconds;
 
 namespace {
 
-constexpr int kRetries = 10; // handed to the transport, which does not use it
 constexpr int kSceneModeTries = 2;
 constexpr milliseconds kSceneModePause{200};
 constexpr int kBrokenBlockDelay = 200; // ms
@@ -22,7 +19,7 @@ constexpr int kBrokenBlockDelay = 200; // ms
 int read(const SnapshotRead &item)
 {
     const COMMAND_set_Type row = readRow(item.command);
-    return item.logged ? Korvu_GetCommandVal(row, kRetries) : Korvu_GetCommandValQuiet(row, kRetries);
+    return item.logged ? Korvu_GetCommandVal(row, kRetryCount) : Korvu_GetCommandValQuiet(row, kRetryCount);
 }
 
 void readGroup(std::span<const SnapshotRead> group, QProgressDialog &progress)
@@ -39,7 +36,7 @@ bool readSceneMode()
 {
     int mode = -1;
     for (int attempt = 0; attempt < kSceneModeTries; ++attempt) {
-        mode = Korvu_GetCommandVal(readRow(Command::SceneMode), kRetries);
+        mode = Korvu_GetCommandVal(readRow(Command::SceneMode), kRetryCount);
         if (mode >= 1 && mode <= kHighestSceneMode)
             break;
         qDebug() << "Retry to get scene modem.";
@@ -82,6 +79,7 @@ void prepare(QProgressDialog &progress, bool care)
 bool SearchDeviceDlg::readDataFromDevice()
 {
     qDebug() << "ReadData from device begin ...";
+    deviceState.forgetSettings();
     if (!readSceneMode())
         return false;
 

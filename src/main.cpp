@@ -27,7 +27,7 @@ bool handedToElevatedCopy(int argc, char **argv)
         return false;
     if (argc > 1 && qstrcmp(argv[1], kElevatedArgument) == 0)
         return false; // this is the copy: asking again would never end
-    return process.shellExecuteRunas(QString::fromLocal8Bit(argv[0]), QLatin1String(kElevatedArgument)) > kShellSuccess;
+    return process.shellExecuteRunas(process.ownFile(), QLatin1String(kElevatedArgument)) > kShellSuccess;
 }
 
 void loadInterfaceFont()
@@ -47,7 +47,7 @@ void loadInterfaceFont()
     QApplication::setFont(font);
 }
 
-int runProgram(SingleApplication &application)
+int runProgram(SingleApplication &application, void *mutex)
 {
     QApplication::setAttribute(Qt::AA_Use96Dpi); // high-dpi scaling needs no attribute: Qt 6 always scales
     QApplication::setQuitOnLastWindowClosed(false);
@@ -63,7 +63,9 @@ int runProgram(SingleApplication &application)
     QObject::connect(&application, &SingleApplication::anotherInstanceStarted, &window, &MainWindow::showWindow);
     window.show();
     platform::desk().mainWindowShown();
-    return QApplication::exec();
+    const int result = QApplication::exec();
+    platform::desk().process().closeHandle(mutex); // first: a copy that was started in our place waits only a second
+    return result;
 }
 
 } // namespace
@@ -90,7 +92,7 @@ int main(int argc, char *argv[])
                     QObject::tr("OK"));
         return -1;
     }
-    const int result = runProgram(application);
-    desk->process().closeHandle(mutex.handle);
+    const int result = runProgram(application, mutex.handle);
+    qInstallMessageHandler(nullptr); // it asks the desk for the time, and the desk goes now
     return result;
 }

@@ -16,12 +16,15 @@
 #include "ddc_protocol/scenemodes.h"
 #include "ddc_protocol/transport.h"
 #include "leftbar.h"
+#include "page/BasicSetting/pagepcsetting.h"
+#include "page/BasicSetting/pageservicessetting.h"
 #include "page/BasicSetting/pagesystemsetting.h"
 #include "page/Game/pagepictureenhanc.h"
 #include "page/IO/pageiosetting.h"
 #include "page/Office/pageoffice.h"
 #include "page/Scene/pagescenesetting.h"
 #include "page/emptypage.h"
+#include "platform/desk.h"
 #include "searchdevicedlg.h"
 #include "toptabframe.h"
 
@@ -66,6 +69,7 @@ MainWindow::MainWindow(SearchDeviceDlg &session) : m_session(session)
 MainWindow::~MainWindow()
 {
     m_session.setHost(nullptr);
+    delete m_pages; // before the queue that they send through
     s_mainWindow = nullptr;
 }
 
@@ -108,8 +112,8 @@ void MainWindow::initialise()
 {
     m_status->setFont(noteFont);
     createPages();
-    connect(m_scenePage, &pageSceneSetting::modeChangeBegins, this, [this] { setInterfaceMode(0); });
-    connect(m_scenePage, &pageSceneSetting::modeChangeEnded, this, [this] { setInterfaceMode(3); });
+    connect(m_scenePage, &pageSceneSetting::modeChangeBegins, this, [this] { setInterfaceMode(kLocked); });
+    connect(m_scenePage, &pageSceneSetting::modeChangeEnded, this, [this] { setInterfaceMode(kByModel); });
     connect(m_scenePage, &pageSceneSetting::viewShown, this, &MainWindow::followSceneMode);
     createTrayIcon();
     m_session.setHost(this);
@@ -125,6 +129,8 @@ void MainWindow::createPages()
     addPage(PageId::Office, m_officePage);
     addPage(PageId::PictureEnhance, new pagePictureEnhanc(*m_queue, m_pages));
     addPage(PageId::SystemSetting, system);
+    addPage(PageId::ToolSetting, new pagePCSetting(m_session, *m_queue, m_pages));
+    addPage(PageId::ServicesSetting, new pageServicesSetting(*m_queue, m_pages));
     addPage(PageId::IoSetting, new pageIOSetting(*m_queue, m_pages));
     m_emptyPage = new EmptyPage(m_pages);
     m_pages->addWidget(m_emptyPage);
@@ -155,7 +161,7 @@ void MainWindow::createTrayIcon()
         QStringLiteral("QMenu { background-color: #161d1a; color: #c9c9c9; border: 1px solid #1b5043; }"
                        "QMenu::item { padding: 6px 24px; } QMenu::item:selected { background: #1b5043; }"));
     menu->addAction(QObject::tr("Show"), this, &MainWindow::showWindow);
-    menu->addAction(QObject::tr("Exit"), qApp, &QCoreApplication::quit);
+    menu->addAction(QObject::tr("Exit"), qApp, [] { platform::desk().process().quit(); });
     m_tray->setContextMenu(menu);
     connect(m_tray, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
         if (reason != QSystemTrayIcon::Context)

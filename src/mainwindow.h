@@ -5,6 +5,7 @@
 #include <optional>
 
 #include <QLabel>
+#include <QPointer>
 
 #include "navigation.h"
 #include "sessionhost.h"
@@ -20,6 +21,9 @@ class PageOffice;
 class PanelPage;
 class SettingsPage;
 class pageSceneSetting;
+
+/// The codes of MainWindow::setInterfaceMode; 2 has no meaning.
+enum InterfaceMode { kLocked = 0, kUnlocked = 1, kByModel = 3, kBusy = 4, kBusyEnded = 5 };
 
 /// The program's one top-level window: tabs, left bars and pages. Closing hides it; "Exit" in the tray ends the
 /// program.
@@ -110,5 +114,7 @@ private:
     int m_family = 0;
     bool m_monitorAnswers = true;
     bool m_checkWaiting = false;
+    bool m_blockGivenUp = false;       ///< the block of the mode that is on could not be read
+    QPointer<QWidget> m_focusBefore;   ///< while nothing can be used
     std::optional<QPoint> m_dragStart; ///< where the window was taken hold of
 };

@@ -17,15 +17,14 @@
 
 namespace {
 
-enum InterfaceMode { kLocked = 0, kUnlocked = 1, kByModel = 3, kBusy = 4, kBusyEnded = 5 };
-
 constexpr platform::milliseconds kRemovalSettles{300}; // one unplugging is told several times
 
 } // namespace
 
 void MainWindow::refreshPages()
 {
-    m_queue->drain(); // or a drag's last value would fall into the suspension and be lost
+    m_queue->drain();                  // or a drag's last value would fall into the suspension and be lost
+    const auto lock = lockTransport(); // the scene-mode worker waits instead of being silenced
     commandsSuspended = true;
     for (const auto &[id, page] : m_settingsPages)
         page->updateInterfaceData();
@@ -74,7 +73,12 @@ bool MainWindow::rereadSceneMode()
         deviceState.invalidateSceneBlock();
     deviceState.store(Command::SceneMode, mode);
     deviceState.lastSceneModeSent = mode;
-    return mode % 2 != 0 || deviceState.sceneBlockValid() || m_session.readSceneModeData(mode);
+    if (mode % 2 != 0 || deviceState.sceneBlockValid()) {
+        m_blockGivenUp = false;
+    } else if (!m_blockGivenUp) {
+        m_blockGivenUp = !m_session.readSceneModeData(mode); // a failure asks for a reconnection: try only once
+    }
+    return true;
 }
 
 void MainWindow::deviceArrived()
@@ -107,6 +111,8 @@ void MainWindow::openFamilyOfScene()
 void MainWindow::setInterfaceMode(int code)
 {
     const bool enabled = code != kLocked;
+    if (!enabled)
+        m_focusBefore = focusWidget();
     m_tabs->setTabsEnabled(enabled);
     for (LeftBar *bar : m_bars) {
         for (LeftTabButton *button : bar->buttons())
@@ -117,6 +123,10 @@ void MainWindow::setInterfaceMode(int code)
         unsetCursor();
     else
         setCursor(Qt::BusyCursor);
+    if (enabled && m_focusBefore) // disabling takes the keyboard's place away
+        m_focusBefore->setFocus();
+    if (enabled)
+        m_focusBefore.clear();
     if (code == kByModel)
         decideEntriesByModel();
     else if (code == kBusy || code == kBusyEnded)
@@ -128,8 +138,8 @@ void MainWindow::decideEntriesByModel()
 {
     const LeftBar *bar = leftBar(m_family);
     for (std::size_t i = 1; i < bar->entries().size() && i <= 2; ++i) {
-        const auto &needs = bar->entries()[i].needs;
-        bar->buttons()[i]->setSelectable(!needs || deviceState.has(*needs));
+        const std::uint16_t bits = bar->entries()[i].needsAny;
+        bar->buttons()[i]->setSelectable(bits == 0 || deviceState.hasAny(bits));
     }
 }
 

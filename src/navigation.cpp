@@ -11,6 +11,13 @@ constexpr NavigationFamily kFamilyTable[kFamilies] = {
     {LABEL("Oled Care"), "oled_care"},   {LABEL("Night Loom"), "night_loom"}, {LABEL("Basic"), "basic"},
 };
 
+constexpr std::uint16_t bit(Capability capability)
+{
+    return static_cast<std::uint16_t>(capability);
+}
+constexpr std::uint16_t kPictureFunctions =
+    bit(Capability::LocalDimming) | bit(Capability::MpcsMotion) | bit(Capability::GameFunctions);
+
 constexpr NavigationEntry kOfficeAid[] = {
     {LABEL("Paper"), "office_paper", PageId::Office},
     {LABEL("Alignment"), "alignment", PageId::Office},
@@ -22,8 +29,8 @@ constexpr NavigationEntry kOfficeAid[] = {
 };
 constexpr NavigationEntry kGameAid[] = {
     {LABEL("Game Aid"), "game_aid"},
-    {LABEL("Picture Enhance"), "picture_enhance", PageId::PictureEnhance},
-    {LABEL("Emberline"), "emberline"},
+    {LABEL("Picture Enhance"), "picture_enhance", PageId::PictureEnhance, 0, kPictureFunctions},
+    {LABEL("Emberline"), "emberline", PageId::Empty, 0, bit(Capability::GameFunctions)},
 };
 constexpr NavigationEntry kOledCare[] = {{LABEL("Care Content"), "care_content"}};
 constexpr NavigationEntry kNightLoom[] = {

@@ -15,8 +15,8 @@ struct NavigationEntry
     const char *label; ///< source text
     const char *icon;  ///< picture name under img/entry/
     PageId page = PageId::Empty;
-    int sceneValue = 0; ///< the scene mode that the entry switches to; 0 for an entry that opens a page
-    std::optional<Capability> needs = {}; ///< can be chosen only on monitors that have it
+    int sceneValue = 0;         ///< the scene mode that the entry switches to; 0 for an entry that opens a page
+    std::uint16_t needsAny = 0; ///< capability bits of which the monitor must have one; 0 for an entry of every monitor
 };
 
 /// One tab of the window.

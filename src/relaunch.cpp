@@ -8,5 +8,5 @@ void relaunchAndQuit()
 {
     platform::desk().process().startDetached(QCoreApplication::applicationFilePath(),
                                              QCoreApplication::arguments().mid(1), QString());
-    QCoreApplication::quit();
+    platform::desk().process().quit();
 }

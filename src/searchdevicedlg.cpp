@@ -1,12 +1,12 @@
 #include "searchdevicedlg.h"
 
-#include <algorithm>
 #include <cstdlib>
 
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QDebug>
 #include <QHBoxLayout>
+#include <QScopeGuard>
 
 #include "controls/messagebox.h"
 #include "ddc_protocol/displayenumeration.h"
@@ -28,6 +28,7 @@ constexpr milliseconds kPassPause{200};
 SearchDeviceDlg::SearchDeviceDlg(QWidget *parent) : QDialog(parent), m_deviceBox(new QComboBox(this))
 {
     (new QHBoxLayout(this))->addWidget(m_deviceBox);
+    connect(m_deviceBox, &QComboBox::currentIndexChanged, this, &SearchDeviceDlg::onCurrentDeviceChanged);
     setReconnectHandler([this] { requestReconnect(); });
     registerNotifications();
 }
@@ -58,8 +59,6 @@ void SearchDeviceDlg::fillDeviceBox()
         if (!label.isEmpty())
             m_deviceBox->addItem(QString::fromUtf8(label));
     }
-    connect(m_deviceBox, &QComboBox::currentIndexChanged, this, &SearchDeviceDlg::onCurrentDeviceChanged,
-            Qt::UniqueConnection);
     m_fillingBox = false;
 }
 
@@ -108,14 +107,6 @@ SearchDeviceDlg::PassResult SearchDeviceDlg::runPass(int pass)
     }
     if (m_host && reloadEdidType == kFullRead)
         m_host->hideWindow();
-    // The flag refuses other searches, not the later passes of this one.
-    if (m_host && pass == 0) {
-        if (m_host->searchIsReading) {
-            qDebug() << "nativeEvent: Aready searching devices Data!";
-            return PassResult::Abandoned;
-        }
-        m_host->searchIsReading = true;
-    }
     m_readSucceeded = readForReason();
     if (!m_readSucceeded)
         return PassResult::Next;
@@ -126,6 +117,13 @@ SearchDeviceDlg::PassResult SearchDeviceDlg::runPass(int pass)
 
 void SearchDeviceDlg::searchDevices()
 {
+    // The progress dialog lets events in, so a device that arrives may want a search within this one.
+    if (m_searching) {
+        qDebug() << "nativeEvent: Aready searching devices Data!";
+        return;
+    }
+    m_searching = true;
+    const auto ended = qScopeGuard([this] { m_searching = false; });
     currentProjectionMode();
     currentMonitorIndex = storedIndex();
     m_readSucceeded = false;
@@ -137,9 +135,6 @@ void SearchDeviceDlg::searchDevices()
             break;
         platform::desk().clock().sleep(kPassPause);
     }
-    if (m_host)
-        m_host->searchIsReading = false;
-
     settingsInt(QString::fromLatin1(kDeviceIndexKey), currentMonitorIndex, true);
     if (reloadEdidType == kFullRead && !m_readSucceeded) {
         qDebug() << "DDC/CI erorr, App exit!";
@@ -161,6 +156,10 @@ void SearchDeviceDlg::exitUnsupported()
 void SearchDeviceDlg::delayedSearchDevices()
 {
     m_reconnectWaiting = false;
+    if (m_searching) {
+        qDebug() << "nativeEvent: Aready searching devices Data!";
+        return;
+    }
     const int reason = reloadEdidType;
     qDebug() << "delayedSearchDevices: Reloader EDID Type:" << reason;
     if (reason == kRestartProgram) {
@@ -198,6 +197,5 @@ void SearchDeviceDlg::onCurrentDeviceChanged(int index)
     if (m_fillingBox || index < 0)
         return;
     settingsInt(QString::fromLatin1(kDeviceIndexKey), index, true);
-    reloadEdidType = kFullRead;
-    delayedSearchDevices();
+    relaunchAndQuit(); // everything shown belongs to the monitor before, down to the entries of the left bars
 }

@@ -9,12 +9,11 @@
 #include "platform/nativemessage.h"
 
 class QComboBox;
-class QProgressDialog;
 class SessionHost;
 
 /// The one device session: chooses the monitor that commands go to, reads its settings into deviceState, follows
 /// devices being plugged in and out, and finds the monitor again when it stops answering. It is never shown; its combo
-/// box of monitor labels stands on the machine-selection page.
+/// box holds the labels of the monitors.
 class SearchDeviceDlg : public QDialog
 {
     Q_OBJECT
@@ -73,5 +72,6 @@ private:
     std::vector<void *> m_registrations;
     bool m_fillingBox = false;
     bool m_readSucceeded = false;
+    bool m_searching = false; ///< refuses a search within a search
     std::atomic<bool> m_reconnectWaiting = false;
 };

@@ -20,7 +20,4 @@ public:
 
     virtual void deviceArrived() = 0;
     virtual void deviceRemoved() = 0;
-
-    /// Whether a search is reading data at this moment; set and cleared by the session.
-    bool searchIsReading = false;
 };

@@ -1,17 +1,9 @@
 #include <functional>
 #include <memory>
 
-#include <QComboBox>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QWheelEvent>
 
 #include "controls/captions.h"
 #include "controls/colorpicker.h"
@@ -20,12 +12,9 @@
 #include "controls/icontextbutton2.h"
 #include "controls/lefttabbutton.h"
 #include "controls/pictures.h"
-#include "controls/sliderwidget.h"
 #include "controls/switchbutton.h"
 #include "controls/switchbuttonrectangle.h"
-#include "controls/wheeleventfilter.h"
-#include "controls/zelmardialog.h"
-#include "controls/zelmarkeysequenceedit.h"
+#include "support/controlevents.h"
 
 namespace {
 const QString kIcon = QStringLiteral(":/no/such/icon");
@@ -48,35 +37,8 @@ private:
     QColor m_answer;
 };
 
-/// What a control said, one string a signal.
-using Said = QStringList;
-
 /// Makes a control that writes its signals into the list.
 using Maker = std::function<QWidget *(Said &)>;
-
-void sendFocus(QWidget *widget, QEvent::Type type, Qt::FocusReason reason)
-{
-    QFocusEvent event(type, reason);
-    QApplication::sendEvent(widget, &event);
-}
-
-SliderWidget *laidOutSlider(Said &said)
-{
-    auto *widget = new SliderWidget(QStringLiteral("Brightness"), 0, 100);
-    QObject::connect(widget, &SliderWidget::sliderValueChanged, widget,
-                     [&said](const QString &name, int value, bool released) {
-                         said << QStringLiteral("%1 %2 %3").arg(name).arg(value).arg(released ? "end" : "step");
-                     });
-    widget->resize(400, 30);
-    widget->layout()->activate();
-    return widget;
-}
-
-/// The point of the slider's groove that stands for the value 0..100.
-QPoint pointOf(const QSlider *slider, int value)
-{
-    return QPoint(10 + (slider->width() - 20) * value / 100, slider->height() / 2);
-}
 } // namespace
 
 class TestControls : public QObject
@@ -95,18 +57,6 @@ private Q_SLOTS:
     void arrowKeysWalkTheSwatches();
     void pickerTakesOnlyAnAnswer_data();
     void pickerTakesOnlyAnAnswer();
-    void sliderReports_data();
-    void sliderReports();
-    void sliderEndsWhenFocusGoes();
-    void sliderIsDownDuringAKeyStep();
-    void unknownValueEndsWithTheFirstOne();
-    void wheelScrollsThePage_data();
-    void wheelScrollsThePage();
-    void keyFieldCaptures_data();
-    void keyFieldCaptures();
-    void keyFieldEndsAfterOneCombination();
-    void emptyKeyFieldSaysSo();
-    void dialogIsAcceptedByItsButton();
     void focusOutlineIsForTheKeyboard_data();
     void focusOutlineIsForTheKeyboard();
     void captionFits_data();
@@ -341,219 +291,6 @@ void TestControls::pickerTakesOnlyAnAnswer()
     QCOMPARE(picker.asked, asked);
     QCOMPARE(picker.color(), color);
     QCOMPARE(spy.count(), color == QColor(Qt::blue) ? 0 : 1);
-}
-
-void TestControls::sliderReports_data()
-{
-    using Action = std::function<void(SliderWidget *)>;
-    QTest::addColumn<Action>("action");
-    QTest::addColumn<Said>("expected");
-
-    // The slider stands at 50.
-    QTest::newRow("groove click jumps") << Action([](SliderWidget *widget) {
-        QTest::mouseClick(widget->slider(), Qt::LeftButton, {}, pointOf(widget->slider(), 80));
-    }) << Said{"Brightness 80 step", "Brightness 80 end"};
-    QTest::newRow("drag keeps hold where it took it") << Action([](SliderWidget *widget) {
-        const QPoint grab = pointOf(widget->slider(), 50) + QPoint(6, 0);
-        QTest::mousePress(widget->slider(), Qt::LeftButton, {}, grab);
-        const QPoint to = pointOf(widget->slider(), 70) + QPoint(6, 0);
-        QMouseEvent move(QEvent::MouseMove, to, to, Qt::NoButton, Qt::LeftButton, {});
-        QApplication::sendEvent(widget->slider(), &move);
-        QTest::mouseRelease(widget->slider(), Qt::LeftButton, {}, to);
-    }) << Said{"Brightness 70 step", "Brightness 70 end"};
-    QTest::newRow("key step") << Action([](SliderWidget *widget) { QTest::keyClick(widget->slider(), Qt::Key_Right); })
-                              << Said{"Brightness 51 step", "Brightness 51 end"};
-    QTest::newRow("held key ends once") << Action([](SliderWidget *widget) {
-        QTest::keyPress(widget->slider(), Qt::Key_Left);
-        for (const QEvent::Type type : {QEvent::KeyRelease, QEvent::KeyPress}) {
-            QKeyEvent repeated(type, Qt::Key_Left, Qt::NoModifier, QString(), true);
-            QApplication::sendEvent(widget->slider(), &repeated);
-        }
-        QTest::keyRelease(widget->slider(), Qt::Key_Left);
-    }) << Said{"Brightness 49 step", "Brightness 48 step", "Brightness 48 end"};
-    QTest::newRow("set by the program") << Action([](SliderWidget *widget) {
-        widget->setValue(20);
-        widget->setValue(20);
-    }) << Said{"Brightness 20 step"};
-    QTest::newRow("double click is two presses") << Action([](SliderWidget *widget) {
-        const QPoint point = pointOf(widget->slider(), 50);
-        QTest::mouseClick(widget->slider(), Qt::LeftButton, {}, point);
-        QTest::mouseDClick(widget->slider(), Qt::LeftButton, {}, point);
-        QTest::mouseRelease(widget->slider(), Qt::LeftButton, {}, point);
-    }) << Said{"Brightness 50 end", "Brightness 50 end"};
-    QTest::newRow("disabled in mid-drag") << Action([](SliderWidget *widget) {
-        QTest::mousePress(widget->slider(), Qt::LeftButton, {}, pointOf(widget->slider(), 30));
-        widget->setEnabled(false);
-    }) << Said{"Brightness 30 step", "Brightness 30 end"};
-}
-
-void TestControls::sliderReports()
-{
-    QFETCH(std::function<void(SliderWidget *)>, action);
-    QFETCH(Said, expected);
-    Said said;
-    const std::unique_ptr<SliderWidget> widget(laidOutSlider(said));
-    widget->setValue(50);
-    said.clear();
-    action(widget.get());
-    QCOMPARE(said, expected);
-    QCOMPARE(widget->valueLabel()->text(), QString::number(widget->value()));
-}
-
-void TestControls::sliderEndsWhenFocusGoes()
-{
-    Said said;
-    const std::unique_ptr<SliderWidget> widget(laidOutSlider(said));
-    QTest::keyPress(widget->slider(), Qt::Key_Right);
-    sendFocus(widget->slider(), QEvent::FocusOut, Qt::OtherFocusReason);
-    QTest::keyRelease(widget->slider(), Qt::Key_Right);
-    QCOMPARE(said, (Said{"Brightness 1 step", "Brightness 1 end"}));
-}
-
-void TestControls::sliderIsDownDuringAKeyStep()
-{
-    Said said;
-    const std::unique_ptr<SliderWidget> widget(laidOutSlider(said));
-    bool downAtStep = false;
-    connect(widget->slider(), &QSlider::valueChanged, this, [&] { downAtStep = widget->slider()->isSliderDown(); });
-    QTest::keyClick(widget->slider(), Qt::Key_PageUp);
-    QVERIFY(downAtStep);
-    QVERIFY(!widget->slider()->isSliderDown());
-    widget->setValue(3);
-    QVERIFY(!downAtStep);
-}
-
-void TestControls::unknownValueEndsWithTheFirstOne()
-{
-    Said said;
-    const std::unique_ptr<SliderWidget> widget(laidOutSlider(said));
-    widget->setUnknown(true);
-    QCOMPARE(widget->valueLabel()->text(), QStringLiteral("–"));
-    // The value that the slider stands at anyway is news as well.
-    widget->setValue(0);
-    QVERIFY(!widget->isUnknown());
-    QCOMPARE(widget->valueLabel()->text(), QStringLiteral("0"));
-    QVERIFY(said.isEmpty());
-    widget->setUnknown(true);
-    QTest::keyClick(widget->slider(), Qt::Key_Right);
-    QCOMPARE(widget->valueLabel()->text(), QStringLiteral("1"));
-}
-
-void TestControls::wheelScrollsThePage_data()
-{
-    QTest::addColumn<bool>("slider");
-    QTest::newRow("slider") << true;
-    QTest::newRow("filtered combo box") << false;
-}
-
-void TestControls::wheelScrollsThePage()
-{
-    QFETCH(bool, slider);
-    QScrollArea area;
-    auto *page = new QWidget;
-    page->setFixedSize(200, 2000);
-    area.setWidget(page);
-    area.resize(220, 200);
-    auto *line = new NoWheelSlider(page);
-    auto *box = new QComboBox(page);
-    box->addItems({"a", "b", "c"});
-    box->setCurrentIndex(1);
-    WheelEventFilter filter;
-    box->installEventFilter(&filter);
-    line->setValue(50);
-    area.show();
-
-    QWheelEvent wheel(QPointF(5, 5), QPointF(5, 5), QPoint(), QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
-                      Qt::NoScrollPhase, false);
-    // Only what seems to come from the window system travels on to parents.
-    QSpontaneKeyEvent::setSpontaneous(&wheel);
-    qApp->notify(slider ? static_cast<QWidget *>(line) : box, &wheel);
-    QCOMPARE(line->value(), 50);
-    QCOMPARE(box->currentIndex(), 1);
-    QVERIFY(area.verticalScrollBar()->value() > 0);
-}
-
-void TestControls::keyFieldCaptures_data()
-{
-    QTest::addColumn<int>("key");
-    QTest::addColumn<int>("modifiers");
-    QTest::addColumn<QString>("text");
-    const auto row = [](const char *name, Qt::Key key, Qt::KeyboardModifiers modifiers, const char *text) {
-        QTest::newRow(name) << int(key) << int(modifiers.toInt()) << QString::fromLatin1(text);
-    };
-    // The field holds Alt+9 before.
-    row("Control and letter", Qt::Key_A, Qt::ControlModifier, "Ctrl+A");
-    row("Alt and digit", Qt::Key_0, Qt::AltModifier, "Alt+0");
-    row("Shift may be added", Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier, "Ctrl+Shift+Z");
-    row("the same again", Qt::Key_9, Qt::AltModifier, "Alt+9");
-    row("Shift alone", Qt::Key_A, Qt::ShiftModifier, "Alt+9");
-    row("no modifier", Qt::Key_A, Qt::NoModifier, "Alt+9");
-    row("numeric pad", Qt::Key_5, Qt::ControlModifier | Qt::KeypadModifier, "Alt+9");
-    row("function key", Qt::Key_F1, Qt::ControlModifier, "Alt+9");
-    row("modifier alone", Qt::Key_Control, Qt::ControlModifier, "Alt+9");
-    row("Backspace clears", Qt::Key_Backspace, Qt::NoModifier, "");
-}
-
-void TestControls::keyFieldCaptures()
-{
-    QFETCH(int, key);
-    QFETCH(int, modifiers);
-    QFETCH(QString, text);
-    ZelmarKeySequenceEdit field;
-    field.setKeySequence(QKeySequence(Qt::ALT | Qt::Key_9));
-    QTest::keyPress(&field, Qt::Key(key), Qt::KeyboardModifiers::fromInt(modifiers));
-    QCOMPARE(field.text(), text);
-    QCOMPARE(field.findChild<QLineEdit *>()->text(), text);
-}
-
-void TestControls::keyFieldEndsAfterOneCombination()
-{
-    ZelmarKeySequenceEdit field;
-    QSignalSpy changed(&field, &QKeySequenceEdit::keySequenceChanged);
-    QSignalSpy finished(&field, &QKeySequenceEdit::editingFinished);
-    QTest::keyPress(&field, Qt::Key_A, Qt::ControlModifier);
-    QCOMPARE(changed.count(), 1);
-    QCOMPARE(finished.count(), 1);
-    QKeyEvent held(QEvent::KeyPress, Qt::Key_A, Qt::ControlModifier, QString(), true);
-    QApplication::sendEvent(&field, &held);
-    QTest::keyRelease(&field, Qt::Key_A, Qt::ControlModifier);
-    QCOMPARE(finished.count(), 1);
-    // A second combination replaces the first instead of joining it.
-    QTest::keyPress(&field, Qt::Key_B, Qt::ControlModifier);
-    QCOMPARE(field.keySequence(), QKeySequence(Qt::CTRL | Qt::Key_B));
-    QCOMPARE(finished.count(), 2);
-}
-
-void TestControls::emptyKeyFieldSaysSo()
-{
-    ZelmarKeySequenceEdit field;
-    auto *line = field.findChild<QLineEdit *>();
-    QCOMPARE(line->placeholderText(), QStringLiteral("NA"));
-    line->setText(QStringLiteral("NA"));
-    sendFocus(line, QEvent::FocusIn, Qt::MouseFocusReason);
-    QCOMPARE(line->placeholderText(), QString());
-    line->clear();
-    sendFocus(line, QEvent::FocusOut, Qt::MouseFocusReason);
-    QCOMPARE(line->placeholderText(), QStringLiteral("NA"));
-    QTest::keyPress(&field, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyPress(&field, Qt::Key_Backspace);
-    QCOMPARE(line->placeholderText(), QStringLiteral("NA"));
-    // Emptied by the page, the base class puts a hint of its own there until the field is painted.
-    field.setKeySequence(QKeySequence(Qt::CTRL | Qt::Key_C));
-    field.clear();
-    field.grab();
-    QCOMPARE(line->placeholderText(), QStringLiteral("NA"));
-}
-
-void TestControls::dialogIsAcceptedByItsButton()
-{
-    ZelmarDialog dialog;
-    QCOMPARE(dialog.windowTitle(), QStringLiteral("Hotkey conflict"));
-    QSignalSpy accepted(&dialog, &QDialog::accepted);
-    auto *ok = dialog.findChild<QPushButton *>();
-    QVERIFY(ok->isDefault());
-    ok->click();
-    QCOMPARE(accepted.count(), 1);
 }
 
 void TestControls::focusOutlineIsForTheKeyboard_data()

@@ -73,7 +73,7 @@ private Q_SLOTS:
     void failedWriteReconnects();
     void deviceMessages();
     void silentInTheMiddle();
-    void chosenDeviceIsStoredAndRead();
+    void chosenDeviceIsStoredAndTheProgramRestarts();
 
 private:
     std::unique_ptr<DeskFixture> m_desk;
@@ -238,7 +238,6 @@ void TestSession::reasons()
     QTEST(m_host.take(), "calls");
     QTEST(int(m_desk->takeCommands().size()), "commands");
     QCOMPARE(reloadEdidType.load(), int(kIdle));
-    QVERIFY(!m_host.searchIsReading);
 }
 
 void TestSession::secondSearchIsRefused()
@@ -254,7 +253,6 @@ void TestSession::secondSearchIsRefused()
     };
     m_session->searchDevices();
     QVERIFY(!m_host.onRefresh);
-    QVERIFY(!m_host.searchIsReading);
 }
 
 void TestSession::sceneReads_data()
@@ -354,15 +352,13 @@ void TestSession::silentInTheMiddle()
     QVERIFY(deviceState.isKnown(Command::RestTimer));
 }
 
-void TestSession::chosenDeviceIsStoredAndRead()
+void TestSession::chosenDeviceIsStoredAndTheProgramRestarts()
 {
     m_session->searchDevices();
-    m_session->setHost(&m_host);
-    m_desk->takeCommands(1);
+    QCOMPARE(m_desk->desk.started.size(), std::size_t(0)); // filling the box is no choice
     m_session->deviceBox()->setCurrentIndex(1);
     QCOMPARE(settingsInt(kDeviceIndexKey, 0, false), 1);
-    QVERIFY(m_desk->takeCommands(1).size() > 10);
-    QCOMPARE(m_host.take(), (QStringList{"hide", "refresh", "show", "update"}));
+    QCOMPARE(m_desk->desk.started.size(), std::size_t(1));
 }
 
 QTEST_MAIN(TestSession)

@@ -3,9 +3,9 @@
 #include <QSignalSpy>
 #include <QtTest>
 
+#include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/displayenumeration.h"
-#include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/transport.h"
 #include "support/deskfixture.h"
 
@@ -256,7 +256,6 @@ void TestTransport::tableRead_data()
     QTest::addColumn<QStringList>("opening");
     QTest::addColumn<QString>("lastLine");
     QTest::addColumn<int>("waits");
-    const QString transmit = QString::number(virtualdesk::kErrorNotSupported);
     QTest::newRow("clean") << 0 << 0 << 40 << QStringList{"R 99", "R 22", "R 0c"} << QString() << 0;
     QTest::newRow("second step once") << 0x22 << 1 << 40 << QStringList{"R 99", "R 22!", "R 99", "R 22", "R 0c"}
                                       << QStringLiteral("Fail to retry, errorCode=22 ") << 1;

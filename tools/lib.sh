@@ -58,7 +58,7 @@ configure_preset() {
     shift
     local log="build/$preset-configure.log"
     mkdir -p build
-    cmake --preset "$preset" -DCMAKE_CXX_COMPILER_LAUNCHER=ccache "$@" >"$log" 2>&1 || { cat "$log" >&2; die "configuring $preset failed"; }
+    cmake --preset "$preset" -DCMAKE_CXX_COMPILER_LAUNCHER=ccache -DQUORVEL_WERROR=ON "$@" >"$log" 2>&1 || { cat "$log" >&2; die "configuring $preset failed"; }
 }
 
 # Configures and builds a preset with its tests: build_preset NAME [CMAKE-OPTION...]

@@ -24,6 +24,10 @@
         <translation> already enabled!</translation>
     </message>
     <message>
+        <source>%1 cannot be written. Nothing was changed.</source>
+        <translation>%1 cannot be written. Nothing was changed.</translation>
+    </message>
+    <message>
         <source>%1 · %2</source>
         <translation>%1 · %2</translation>
     </message>
@@ -424,6 +428,10 @@
         <translation>Display P3 Mode</translation>
     </message>
     <message>
+        <source>Display Version</source>
+        <translation>Display Version</translation>
+    </message>
+    <message>
         <source>Drop a chunk</source>
         <translation>Drop a chunk</translation>
     </message>
@@ -524,12 +532,28 @@
         <translation>Game Aid</translation>
     </message>
     <message>
+        <source>Game Crosshair</source>
+        <translation>Game Crosshair</translation>
+    </message>
+    <message>
         <source>Game Rush</source>
         <translation>Game Rush</translation>
     </message>
     <message>
+        <source>Game Time</source>
+        <translation>Game Time</translation>
+    </message>
+    <message>
         <source>Game VS</source>
         <translation>Game VS</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <source>General Settings</source>
+        <translation>General Settings</translation>
     </message>
     <message>
         <source>Go deaf</source>
@@ -570,6 +594,10 @@
     <message>
         <source>Halo Control</source>
         <translation>Halo Control</translation>
+    </message>
+    <message>
+        <source>HawkEye Vision</source>
+        <translation>HawkEye Vision</translation>
     </message>
     <message>
         <source>Height</source>
@@ -622,6 +650,14 @@
     <message>
         <source>Input Signal</source>
         <translation>Input Signal</translation>
+    </message>
+    <message>
+        <source>Knowledge</source>
+        <translation>Knowledge</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Language</translation>
     </message>
     <message>
         <source>Last requests to the monitor</source>
@@ -686,6 +722,10 @@
     <message>
         <source>Mac View</source>
         <translation>Mac View</translation>
+    </message>
+    <message>
+        <source>Machine Select</source>
+        <translation>Machine Select</translation>
     </message>
     <message>
         <source>Matches notebooks with a Display P3 screen.</source>
@@ -816,6 +856,10 @@
         <translation>Open</translation>
     </message>
     <message>
+        <source>Open the page</source>
+        <translation>Open the page</translation>
+    </message>
+    <message>
         <source>Output Range</source>
         <translation>Output Range</translation>
     </message>
@@ -884,8 +928,16 @@
         <translation>Proofs under a D50 light.</translation>
     </message>
     <message>
+        <source>QR Code</source>
+        <translation>QR Code</translation>
+    </message>
+    <message>
         <source>QUORVEL desk</source>
         <translation>QUORVEL desk</translation>
+    </message>
+    <message>
+        <source>Questions and answers about your monitor, in your web browser.</source>
+        <translation>Questions and answers about your monitor, in your web browser.</translation>
     </message>
     <message>
         <source>Quick Boot</source>
@@ -928,6 +980,14 @@
         <translation>Rec.709 Mode</translation>
     </message>
     <message>
+        <source>Recommended to set [Expand These Monitors] in the System-&gt; Screen when operating multiple monitors.</source>
+        <translation>Recommended to set [Expand These Monitors] in the System-&gt; Screen when operating multiple monitors.</translation>
+    </message>
+    <message>
+        <source>Refresh Rate</source>
+        <translation>Refresh Rate</translation>
+    </message>
+    <message>
         <source>Refuse writes</source>
         <translation>Refuse writes</translation>
     </message>
@@ -948,6 +1008,10 @@
         <translation>Ruler</translation>
     </message>
     <message>
+        <source>Run on startup</source>
+        <translation>Run on startup</translation>
+    </message>
+    <message>
         <source>SMPTE-C</source>
         <translation>SMPTE-C</translation>
     </message>
@@ -962,6 +1026,10 @@
     <message>
         <source>Saturation R Y G C B M</source>
         <translation>Saturation R Y G C B M</translation>
+    </message>
+    <message>
+        <source>Scan it with a phone to read more about your monitor.</source>
+        <translation>Scan it with a phone to read more about your monitor.</translation>
     </message>
     <message>
         <source>Scence Follow</source>
@@ -1044,6 +1112,14 @@
         <translation>Standard Mode</translation>
     </message>
     <message>
+        <source>Starts the program that brings the monitor&apos;s firmware up to date. Leave the monitor switched on until it has finished.</source>
+        <translation>Starts the program that brings the monitor&apos;s firmware up to date. Leave the monitor switched on until it has finished.</translation>
+    </message>
+    <message>
+        <source>Stopwatch</source>
+        <translation>Stopwatch</translation>
+    </message>
+    <message>
         <source>Strong</source>
         <translation>Strong</translation>
     </message>
@@ -1058,6 +1134,14 @@
     <message>
         <source>Text Mode</source>
         <translation>Text Mode</translation>
+    </message>
+    <message>
+        <source>The APP will reload data when switching machines.</source>
+        <translation>The APP will reload data when switching machines.</translation>
+    </message>
+    <message>
+        <source>The APP will restart automatically when switching languages.</source>
+        <translation>The APP will restart automatically when switching languages.</translation>
     </message>
     <message>
         <source>The answer to the next read never arrives</source>
@@ -1096,8 +1180,16 @@
         <translation>The monitor did not take the size.</translation>
     </message>
     <message>
+        <source>The monitor did not take this setting.</source>
+        <translation>The monitor did not take this setting.</translation>
+    </message>
+    <message>
         <source>The monitor takes no value until the button is released</source>
         <translation>The monitor takes no value until the button is released</translation>
+    </message>
+    <message>
+        <source>The page %1 could not be opened.</source>
+        <translation>The page %1 could not be opened.</translation>
     </message>
     <message>
         <source>The picture as the factory set it.</source>
@@ -1120,6 +1212,18 @@
         <translation>The standard of the web.</translation>
     </message>
     <message>
+        <source>The system did not allow &quot;%1&quot; to be changed.</source>
+        <translation>The system did not allow &quot;%1&quot; to be changed.</translation>
+    </message>
+    <message>
+        <source>The upgrade program %1 could not be started.</source>
+        <translation>The upgrade program %1 could not be started.</translation>
+    </message>
+    <message>
+        <source>The upgrade program is running already.</source>
+        <translation>The upgrade program is running already.</translation>
+    </message>
+    <message>
         <source>The white of printed paper.</source>
         <translation>The white of printed paper.</translation>
     </message>
@@ -1138,6 +1242,14 @@
     <message>
         <source>Tool Settings</source>
         <translation>Tool Settings</translation>
+    </message>
+    <message>
+        <source>Tool Version: </source>
+        <translation>Tool Version: </translation>
+    </message>
+    <message>
+        <source>Tool language settings</source>
+        <translation>Tool language settings</translation>
     </message>
     <message>
         <source>Topspeed</source>
@@ -1194,6 +1306,10 @@
     <message>
         <source>Unplugged</source>
         <translation>Unplugged</translation>
+    </message>
+    <message>
+        <source>Upgrade</source>
+        <translation>Upgrade</translation>
     </message>
     <message>
         <source>User1</source>
@@ -1286,6 +1402,10 @@
     <message>
         <source>garbled</source>
         <translation>garbled</translation>
+    </message>
+    <message>
+        <source>https://www.quorvel.example/knowledge</source>
+        <translation>https://www.quorvel.example/knowledge</translation>
     </message>
     <message>
         <source>lost</source>

@@ -24,6 +24,10 @@
         <translation> は既に有効です！</translation>
     </message>
     <message>
+        <source>%1 cannot be written. Nothing was changed.</source>
+        <translation>%1 に書き込めません。変更はありません。</translation>
+    </message>
+    <message>
         <source>%1 · %2</source>
         <translation>%1 · %2</translation>
     </message>
@@ -424,6 +428,10 @@
         <translation>Display P3 モード</translation>
     </message>
     <message>
+        <source>Display Version</source>
+        <translation>本体バージョン</translation>
+    </message>
+    <message>
         <source>Drop a chunk</source>
         <translation>ブロック欠落</translation>
     </message>
@@ -524,12 +532,28 @@
         <translation>ゲーム補助</translation>
     </message>
     <message>
+        <source>Game Crosshair</source>
+        <translation>照準</translation>
+    </message>
+    <message>
         <source>Game Rush</source>
         <translation>ゲームラッシュ</translation>
     </message>
     <message>
+        <source>Game Time</source>
+        <translation>ゲームタイマー</translation>
+    </message>
+    <message>
         <source>Game VS</source>
         <translation>ゲーム対戦</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>ガンマ</translation>
+    </message>
+    <message>
+        <source>General Settings</source>
+        <translation>一般設定</translation>
     </message>
     <message>
         <source>Go deaf</source>
@@ -570,6 +594,10 @@
     <message>
         <source>Halo Control</source>
         <translation>ハロー制御</translation>
+    </message>
+    <message>
+        <source>HawkEye Vision</source>
+        <translation>ホークアイ</translation>
     </message>
     <message>
         <source>Height</source>
@@ -622,6 +650,14 @@
     <message>
         <source>Input Signal</source>
         <translation>入力信号</translation>
+    </message>
+    <message>
+        <source>Knowledge</source>
+        <translation>ナレッジ</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>言語</translation>
     </message>
     <message>
         <source>Last requests to the monitor</source>
@@ -686,6 +722,10 @@
     <message>
         <source>Mac View</source>
         <translation>Mac ビュー</translation>
+    </message>
+    <message>
+        <source>Machine Select</source>
+        <translation>モニター選択</translation>
     </message>
     <message>
         <source>Matches notebooks with a Display P3 screen.</source>
@@ -816,6 +856,10 @@
         <translation>オン</translation>
     </message>
     <message>
+        <source>Open the page</source>
+        <translation>ページを開く</translation>
+    </message>
+    <message>
         <source>Output Range</source>
         <translation>出力レンジ</translation>
     </message>
@@ -884,8 +928,16 @@
         <translation>D50 光源での校正刷り向けです。</translation>
     </message>
     <message>
+        <source>QR Code</source>
+        <translation>QR コード</translation>
+    </message>
+    <message>
         <source>QUORVEL desk</source>
         <translation>QUORVEL シミュレーター</translation>
+    </message>
+    <message>
+        <source>Questions and answers about your monitor, in your web browser.</source>
+        <translation>モニターに関するよくある質問と回答をウェブブラウザーで表示します。</translation>
     </message>
     <message>
         <source>Quick Boot</source>
@@ -928,6 +980,14 @@
         <translation>Rec.709 モード</translation>
     </message>
     <message>
+        <source>Recommended to set [Expand These Monitors] in the System-&gt; Screen when operating multiple monitors.</source>
+        <translation>複数のモニターを使用する場合は、「システム -&gt; ディスプレイ」で[表示画面を拡張する]に設定することをお勧めします。</translation>
+    </message>
+    <message>
+        <source>Refresh Rate</source>
+        <translation>リフレッシュレート</translation>
+    </message>
+    <message>
         <source>Refuse writes</source>
         <translation>書き込み拒否</translation>
     </message>
@@ -948,6 +1008,10 @@
         <translation>定規</translation>
     </message>
     <message>
+        <source>Run on startup</source>
+        <translation>起動時に実行</translation>
+    </message>
+    <message>
         <source>SMPTE-C</source>
         <translation>SMPTE-C</translation>
     </message>
@@ -962,6 +1026,10 @@
     <message>
         <source>Saturation R Y G C B M</source>
         <translation>彩度 R Y G C B M</translation>
+    </message>
+    <message>
+        <source>Scan it with a phone to read more about your monitor.</source>
+        <translation>スマートフォンで読み取ると、モニターの詳しい情報を確認できます。</translation>
     </message>
     <message>
         <source>Scence Follow</source>
@@ -1044,6 +1112,14 @@
         <translation>標準モード</translation>
     </message>
     <message>
+        <source>Starts the program that brings the monitor&apos;s firmware up to date. Leave the monitor switched on until it has finished.</source>
+        <translation>モニターのファームウェアを更新するプログラムを起動します。完了するまでモニターの電源を切らないでください。</translation>
+    </message>
+    <message>
+        <source>Stopwatch</source>
+        <translation>ストップウォッチ</translation>
+    </message>
+    <message>
         <source>Strong</source>
         <translation>強</translation>
     </message>
@@ -1058,6 +1134,14 @@
     <message>
         <source>Text Mode</source>
         <translation>テキストモード</translation>
+    </message>
+    <message>
+        <source>The APP will reload data when switching machines.</source>
+        <translation>モニターを切り替えると、アプリはデータを再読み込みします。</translation>
+    </message>
+    <message>
+        <source>The APP will restart automatically when switching languages.</source>
+        <translation>言語を切り替えると、アプリは自動的に再起動します。</translation>
     </message>
     <message>
         <source>The answer to the next read never arrives</source>
@@ -1096,8 +1180,16 @@
         <translation>モニターはサイズを受け付けませんでした。</translation>
     </message>
     <message>
+        <source>The monitor did not take this setting.</source>
+        <translation>モニターがこの設定を受け付けませんでした。</translation>
+    </message>
+    <message>
         <source>The monitor takes no value until the button is released</source>
         <translation>ボタンを戻すまでモニターは値を受け付けません</translation>
+    </message>
+    <message>
+        <source>The page %1 could not be opened.</source>
+        <translation>ページ %1 を開けませんでした。</translation>
     </message>
     <message>
         <source>The picture as the factory set it.</source>
@@ -1120,6 +1212,18 @@
         <translation>ウェブの標準色です。</translation>
     </message>
     <message>
+        <source>The system did not allow &quot;%1&quot; to be changed.</source>
+        <translation>システムにより「%1」の変更が許可されませんでした。</translation>
+    </message>
+    <message>
+        <source>The upgrade program %1 could not be started.</source>
+        <translation>更新プログラム %1 を起動できませんでした。</translation>
+    </message>
+    <message>
+        <source>The upgrade program is running already.</source>
+        <translation>更新プログラムは既に実行中です。</translation>
+    </message>
+    <message>
         <source>The white of printed paper.</source>
         <translation>印刷用紙の白です。</translation>
     </message>
@@ -1138,6 +1242,14 @@
     <message>
         <source>Tool Settings</source>
         <translation>ツール設定</translation>
+    </message>
+    <message>
+        <source>Tool Version: </source>
+        <translation>ツールのバージョン: </translation>
+    </message>
+    <message>
+        <source>Tool language settings</source>
+        <translation>ツールの言語設定</translation>
     </message>
     <message>
         <source>Topspeed</source>
@@ -1194,6 +1306,10 @@
     <message>
         <source>Unplugged</source>
         <translation>未接続</translation>
+    </message>
+    <message>
+        <source>Upgrade</source>
+        <translation>更新</translation>
     </message>
     <message>
         <source>User1</source>
@@ -1286,6 +1402,10 @@
     <message>
         <source>garbled</source>
         <translation>データ破損</translation>
+    </message>
+    <message>
+        <source>https://www.quorvel.example/knowledge</source>
+        <translation>https://www.quorvel.example/knowledge</translation>
     </message>
     <message>
         <source>lost</source>

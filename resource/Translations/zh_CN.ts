@@ -24,6 +24,10 @@
         <translation> 已启用！</translation>
     </message>
     <message>
+        <source>%1 cannot be written. Nothing was changed.</source>
+        <translation>无法写入 %1，未作任何更改。</translation>
+    </message>
+    <message>
         <source>%1 · %2</source>
         <translation>%1 · %2</translation>
     </message>
@@ -424,6 +428,10 @@
         <translation>Display P3 模式</translation>
     </message>
     <message>
+        <source>Display Version</source>
+        <translation>显示器版本</translation>
+    </message>
+    <message>
         <source>Drop a chunk</source>
         <translation>丢失数据块</translation>
     </message>
@@ -524,12 +532,28 @@
         <translation>游戏辅助</translation>
     </message>
     <message>
+        <source>Game Crosshair</source>
+        <translation>游戏准星</translation>
+    </message>
+    <message>
         <source>Game Rush</source>
         <translation>游戏冲刺</translation>
     </message>
     <message>
+        <source>Game Time</source>
+        <translation>游戏计时</translation>
+    </message>
+    <message>
         <source>Game VS</source>
         <translation>游戏对战</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>伽马</translation>
+    </message>
+    <message>
+        <source>General Settings</source>
+        <translation>常规设置</translation>
     </message>
     <message>
         <source>Go deaf</source>
@@ -570,6 +594,10 @@
     <message>
         <source>Halo Control</source>
         <translation>光晕控制</translation>
+    </message>
+    <message>
+        <source>HawkEye Vision</source>
+        <translation>鹰眼视野</translation>
     </message>
     <message>
         <source>Height</source>
@@ -622,6 +650,14 @@
     <message>
         <source>Input Signal</source>
         <translation>输入信号</translation>
+    </message>
+    <message>
+        <source>Knowledge</source>
+        <translation>知识库</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>语言</translation>
     </message>
     <message>
         <source>Last requests to the monitor</source>
@@ -686,6 +722,10 @@
     <message>
         <source>Mac View</source>
         <translation>Mac 视图</translation>
+    </message>
+    <message>
+        <source>Machine Select</source>
+        <translation>显示器选择</translation>
     </message>
     <message>
         <source>Matches notebooks with a Display P3 screen.</source>
@@ -816,6 +856,10 @@
         <translation>开启</translation>
     </message>
     <message>
+        <source>Open the page</source>
+        <translation>打开网页</translation>
+    </message>
+    <message>
         <source>Output Range</source>
         <translation>输出范围</translation>
     </message>
@@ -884,8 +928,16 @@
         <translation>D50 光源下的打样。</translation>
     </message>
     <message>
+        <source>QR Code</source>
+        <translation>二维码</translation>
+    </message>
+    <message>
         <source>QUORVEL desk</source>
         <translation>QUORVEL 模拟台</translation>
+    </message>
+    <message>
+        <source>Questions and answers about your monitor, in your web browser.</source>
+        <translation>在网页浏览器中查看有关显示器的常见问题与解答。</translation>
     </message>
     <message>
         <source>Quick Boot</source>
@@ -928,6 +980,14 @@
         <translation>Rec.709 模式</translation>
     </message>
     <message>
+        <source>Recommended to set [Expand These Monitors] in the System-&gt; Screen when operating multiple monitors.</source>
+        <translation>使用多台显示器时，建议在“系统 -&gt; 屏幕”中设置[扩展这些显示器]。</translation>
+    </message>
+    <message>
+        <source>Refresh Rate</source>
+        <translation>刷新率</translation>
+    </message>
+    <message>
         <source>Refuse writes</source>
         <translation>拒绝写入</translation>
     </message>
@@ -948,6 +1008,10 @@
         <translation>标尺</translation>
     </message>
     <message>
+        <source>Run on startup</source>
+        <translation>开机启动</translation>
+    </message>
+    <message>
         <source>SMPTE-C</source>
         <translation>SMPTE-C</translation>
     </message>
@@ -962,6 +1026,10 @@
     <message>
         <source>Saturation R Y G C B M</source>
         <translation>饱和度 R Y G C B M</translation>
+    </message>
+    <message>
+        <source>Scan it with a phone to read more about your monitor.</source>
+        <translation>用手机扫描，了解更多显示器信息。</translation>
     </message>
     <message>
         <source>Scence Follow</source>
@@ -1044,6 +1112,14 @@
         <translation>标准模式</translation>
     </message>
     <message>
+        <source>Starts the program that brings the monitor&apos;s firmware up to date. Leave the monitor switched on until it has finished.</source>
+        <translation>启动显示器固件升级程序。升级完成前请勿关闭显示器。</translation>
+    </message>
+    <message>
+        <source>Stopwatch</source>
+        <translation>秒表</translation>
+    </message>
+    <message>
         <source>Strong</source>
         <translation>强</translation>
     </message>
@@ -1058,6 +1134,14 @@
     <message>
         <source>Text Mode</source>
         <translation>文字模式</translation>
+    </message>
+    <message>
+        <source>The APP will reload data when switching machines.</source>
+        <translation>切换显示器时，程序将重新加载数据。</translation>
+    </message>
+    <message>
+        <source>The APP will restart automatically when switching languages.</source>
+        <translation>切换语言时，程序将自动重新启动。</translation>
     </message>
     <message>
         <source>The answer to the next read never arrives</source>
@@ -1096,8 +1180,16 @@
         <translation>显示器未接受该尺寸。</translation>
     </message>
     <message>
+        <source>The monitor did not take this setting.</source>
+        <translation>显示器未接受此设置。</translation>
+    </message>
+    <message>
         <source>The monitor takes no value until the button is released</source>
         <translation>显示器不接受任何值，直到松开按钮</translation>
+    </message>
+    <message>
+        <source>The page %1 could not be opened.</source>
+        <translation>无法打开网页 %1。</translation>
     </message>
     <message>
         <source>The picture as the factory set it.</source>
@@ -1120,6 +1212,18 @@
         <translation>网络内容的标准色彩。</translation>
     </message>
     <message>
+        <source>The system did not allow &quot;%1&quot; to be changed.</source>
+        <translation>系统不允许更改“%1”。</translation>
+    </message>
+    <message>
+        <source>The upgrade program %1 could not be started.</source>
+        <translation>无法启动升级程序 %1。</translation>
+    </message>
+    <message>
+        <source>The upgrade program is running already.</source>
+        <translation>升级程序已在运行。</translation>
+    </message>
+    <message>
         <source>The white of printed paper.</source>
         <translation>印刷纸张的白色。</translation>
     </message>
@@ -1138,6 +1242,14 @@
     <message>
         <source>Tool Settings</source>
         <translation>工具设置</translation>
+    </message>
+    <message>
+        <source>Tool Version: </source>
+        <translation>软件版本： </translation>
+    </message>
+    <message>
+        <source>Tool language settings</source>
+        <translation>软件语言设置</translation>
     </message>
     <message>
         <source>Topspeed</source>
@@ -1194,6 +1306,10 @@
     <message>
         <source>Unplugged</source>
         <translation>已拔出</translation>
+    </message>
+    <message>
+        <source>Upgrade</source>
+        <translation>升级</translation>
     </message>
     <message>
         <source>User1</source>
@@ -1286,6 +1402,10 @@
     <message>
         <source>garbled</source>
         <translation>数据错乱</translation>
+    </message>
+    <message>
+        <source>https://www.quorvel.example/knowledge</source>
+        <translation>https://www.quorvel.example/knowledge</translation>
     </message>
     <message>
         <source>lost</source>

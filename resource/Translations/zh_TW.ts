@@ -24,6 +24,10 @@
         <translation> 已啟用！</translation>
     </message>
     <message>
+        <source>%1 cannot be written. Nothing was changed.</source>
+        <translation>無法寫入 %1，未做任何變更。</translation>
+    </message>
+    <message>
         <source>%1 · %2</source>
         <translation>%1 · %2</translation>
     </message>
@@ -424,6 +428,10 @@
         <translation>Display P3 模式</translation>
     </message>
     <message>
+        <source>Display Version</source>
+        <translation>顯示器版本</translation>
+    </message>
+    <message>
         <source>Drop a chunk</source>
         <translation>遺失資料區塊</translation>
     </message>
@@ -524,12 +532,28 @@
         <translation>遊戲輔助</translation>
     </message>
     <message>
+        <source>Game Crosshair</source>
+        <translation>遊戲準星</translation>
+    </message>
+    <message>
         <source>Game Rush</source>
         <translation>遊戲衝刺</translation>
     </message>
     <message>
+        <source>Game Time</source>
+        <translation>遊戲計時</translation>
+    </message>
+    <message>
         <source>Game VS</source>
         <translation>遊戲對戰</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>伽瑪</translation>
+    </message>
+    <message>
+        <source>General Settings</source>
+        <translation>一般設定</translation>
     </message>
     <message>
         <source>Go deaf</source>
@@ -570,6 +594,10 @@
     <message>
         <source>Halo Control</source>
         <translation>光暈控制</translation>
+    </message>
+    <message>
+        <source>HawkEye Vision</source>
+        <translation>鷹眼視野</translation>
     </message>
     <message>
         <source>Height</source>
@@ -622,6 +650,14 @@
     <message>
         <source>Input Signal</source>
         <translation>輸入訊號</translation>
+    </message>
+    <message>
+        <source>Knowledge</source>
+        <translation>知識庫</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>語言</translation>
     </message>
     <message>
         <source>Last requests to the monitor</source>
@@ -686,6 +722,10 @@
     <message>
         <source>Mac View</source>
         <translation>Mac 檢視</translation>
+    </message>
+    <message>
+        <source>Machine Select</source>
+        <translation>顯示器選擇</translation>
     </message>
     <message>
         <source>Matches notebooks with a Display P3 screen.</source>
@@ -816,6 +856,10 @@
         <translation>開啟</translation>
     </message>
     <message>
+        <source>Open the page</source>
+        <translation>開啟網頁</translation>
+    </message>
+    <message>
         <source>Output Range</source>
         <translation>輸出範圍</translation>
     </message>
@@ -884,8 +928,16 @@
         <translation>D50 光源下的打樣。</translation>
     </message>
     <message>
+        <source>QR Code</source>
+        <translation>QR 碼</translation>
+    </message>
+    <message>
         <source>QUORVEL desk</source>
         <translation>QUORVEL 模擬台</translation>
+    </message>
+    <message>
+        <source>Questions and answers about your monitor, in your web browser.</source>
+        <translation>在網頁瀏覽器中檢視有關顯示器的常見問題與解答。</translation>
     </message>
     <message>
         <source>Quick Boot</source>
@@ -928,6 +980,14 @@
         <translation>Rec.709 模式</translation>
     </message>
     <message>
+        <source>Recommended to set [Expand These Monitors] in the System-&gt; Screen when operating multiple monitors.</source>
+        <translation>使用多台顯示器時，建議在「系統 -&gt; 螢幕」中設定[延伸這些顯示器]。</translation>
+    </message>
+    <message>
+        <source>Refresh Rate</source>
+        <translation>更新率</translation>
+    </message>
+    <message>
         <source>Refuse writes</source>
         <translation>拒絕寫入</translation>
     </message>
@@ -948,6 +1008,10 @@
         <translation>尺規</translation>
     </message>
     <message>
+        <source>Run on startup</source>
+        <translation>開機時啟動</translation>
+    </message>
+    <message>
         <source>SMPTE-C</source>
         <translation>SMPTE-C</translation>
     </message>
@@ -962,6 +1026,10 @@
     <message>
         <source>Saturation R Y G C B M</source>
         <translation>飽和度 R Y G C B M</translation>
+    </message>
+    <message>
+        <source>Scan it with a phone to read more about your monitor.</source>
+        <translation>用手機掃描，進一步了解您的顯示器。</translation>
     </message>
     <message>
         <source>Scence Follow</source>
@@ -1044,6 +1112,14 @@
         <translation>標準模式</translation>
     </message>
     <message>
+        <source>Starts the program that brings the monitor&apos;s firmware up to date. Leave the monitor switched on until it has finished.</source>
+        <translation>啟動顯示器韌體升級程式。升級完成前請勿關閉顯示器。</translation>
+    </message>
+    <message>
+        <source>Stopwatch</source>
+        <translation>碼錶</translation>
+    </message>
+    <message>
         <source>Strong</source>
         <translation>強</translation>
     </message>
@@ -1058,6 +1134,14 @@
     <message>
         <source>Text Mode</source>
         <translation>文字模式</translation>
+    </message>
+    <message>
+        <source>The APP will reload data when switching machines.</source>
+        <translation>切換顯示器時，程式將重新載入資料。</translation>
+    </message>
+    <message>
+        <source>The APP will restart automatically when switching languages.</source>
+        <translation>切換語言時，程式將自動重新啟動。</translation>
     </message>
     <message>
         <source>The answer to the next read never arrives</source>
@@ -1096,8 +1180,16 @@
         <translation>顯示器未接受此尺寸。</translation>
     </message>
     <message>
+        <source>The monitor did not take this setting.</source>
+        <translation>顯示器未接受此設定。</translation>
+    </message>
+    <message>
         <source>The monitor takes no value until the button is released</source>
         <translation>顯示器不接受任何值，直到放開按鈕</translation>
+    </message>
+    <message>
+        <source>The page %1 could not be opened.</source>
+        <translation>無法開啟網頁 %1。</translation>
     </message>
     <message>
         <source>The picture as the factory set it.</source>
@@ -1120,6 +1212,18 @@
         <translation>網路內容的標準色彩。</translation>
     </message>
     <message>
+        <source>The system did not allow &quot;%1&quot; to be changed.</source>
+        <translation>系統不允許變更「%1」。</translation>
+    </message>
+    <message>
+        <source>The upgrade program %1 could not be started.</source>
+        <translation>無法啟動升級程式 %1。</translation>
+    </message>
+    <message>
+        <source>The upgrade program is running already.</source>
+        <translation>升級程式已在執行中。</translation>
+    </message>
+    <message>
         <source>The white of printed paper.</source>
         <translation>印刷紙張的白色。</translation>
     </message>
@@ -1138,6 +1242,14 @@
     <message>
         <source>Tool Settings</source>
         <translation>工具設定</translation>
+    </message>
+    <message>
+        <source>Tool Version: </source>
+        <translation>軟體版本： </translation>
+    </message>
+    <message>
+        <source>Tool language settings</source>
+        <translation>軟體語言設定</translation>
     </message>
     <message>
         <source>Topspeed</source>
@@ -1194,6 +1306,10 @@
     <message>
         <source>Unplugged</source>
         <translation>已拔出</translation>
+    </message>
+    <message>
+        <source>Upgrade</source>
+        <translation>升級</translation>
     </message>
     <message>
         <source>User1</source>
@@ -1286,6 +1402,10 @@
     <message>
         <source>garbled</source>
         <translation>資料錯亂</translation>
+    </message>
+    <message>
+        <source>https://www.quorvel.example/knowledge</source>
+        <translation>https://www.quorvel.example/knowledge</translation>
     </message>
     <message>
         <source>lost</source>

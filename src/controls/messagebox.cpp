@@ -18,3 +18,14 @@ void showMessage(QMessageBox::Icon icon, const QString &title, const QString &te
     box.setDefaultButton(box.addButton(button, role));
     box.exec();
 }
+
+bool askYesNo(const QString &title, const QString &text, QWidget *parent)
+{
+    QMessageBox box(QMessageBox::Question, title, text, QMessageBox::NoButton, parent);
+    box.setStyleSheet(QLatin1String(kStyle) + QLatin1String(kFocusStyle));
+    box.setDefaultButton(box.addButton(QObject::tr("Yes"), QMessageBox::YesRole));
+    QPushButton *no = box.addButton(QObject::tr("No"), QMessageBox::NoRole);
+    box.setEscapeButton(no);
+    box.exec();
+    return box.clickedButton() != no;
+}

@@ -6,3 +6,6 @@
 /// A message box in the program's dark look, with one button, shown modally. Texts come translated.
 void showMessage(QMessageBox::Icon icon, const QString &title, const QString &text, const QString &button,
                  QMessageBox::ButtonRole role = QMessageBox::YesRole, QWidget *parent = nullptr);
+
+/// A question in the same look, with "Yes" and "No". True on any answer but "No", which Escape gives as well.
+bool askYesNo(const QString &title, const QString &text, QWidget *parent = nullptr);

@@ -38,7 +38,8 @@ void CommandQueue::ask(Command command)
 {
     {
         const std::lock_guard lock(m_mutex);
-        m_questions.push_back(command);
+        if (std::find(m_questions.begin(), m_questions.end(), command) == m_questions.end())
+            m_questions.push_back(command);
     }
     m_wake.notify_one();
 }
@@ -69,7 +70,7 @@ void CommandQueue::sendNext(std::unique_lock<std::mutex> &lock)
     m_pending.erase(m_pending.begin());
     m_sending = true;
     lock.unlock();
-    const bool ok = Korvu_SetCommandVal(writeRow(next.command), static_cast<std::uint16_t>(next.value), 10);
+    const bool ok = Korvu_SetCommandVal(writeRow(next.command), static_cast<std::uint16_t>(next.value), kRetryCount);
     Q_EMIT sent(next.command, next.value, ok);
     lock.lock();
     m_sending = false;

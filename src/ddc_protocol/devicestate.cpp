@@ -1,5 +1,7 @@
 #include "ddc_protocol/devicestate.h"
 
+#include <algorithm>
+
 DeviceState deviceState;
 
 // The hue values end in the order C, M, Y and the saturation values in Y, C, M: the monitor packs them so.
@@ -54,16 +56,39 @@ void DeviceState::store(Command command, int value)
     entry.known = value != -1;
 }
 
-bool DeviceState::has(Capability capability) const
+bool DeviceState::hasAny(std::uint16_t bits) const
 {
     const int word = value(Command::Capability);
-    return word > 0 && (word & static_cast<int>(capability)) != 0;
+    return word > 0 && (word & bits) != 0;
 }
 
 int DeviceState::productLine() const
 {
     const int word = value(Command::Capability);
     return word > 0 ? (word >> 4) & 3 : 0;
+}
+
+void DeviceState::invalidateSceneBlock()
+{
+    for (const Command command : kSceneBlockLayout)
+        m_entries[placeOf(command)].known = false;
+    m_entries[placeOf(Command::Sharpness)].value = kBlockNotValid;
+}
+
+void DeviceState::forgetSettings()
+{
+    const int capability = value(Command::Capability);
+    clear();
+    store(Command::Capability, capability);
+}
+
+void DeviceState::storeUserValue(Command command, int value)
+{
+    const bool inBlock =
+        std::find(kSceneBlockLayout.begin(), kSceneBlockLayout.end(), command) != kSceneBlockLayout.end();
+    if (inBlock && sceneBlockValid() && this->value(Command::SceneMode) % 2 != 0)
+        invalidateSceneBlock();
+    store(command, value);
 }
 
 void DeviceState::storeSceneBlock(std::span<const std::uint8_t, kSceneBlockSize> block)

@@ -42,7 +42,10 @@ public:
     /// Keeps a value. -1 is the transport's "no answer": it is kept as returned, but does not make the value known.
     void store(Command command, int value);
 
-    bool has(Capability capability) const;
+    bool has(Capability capability) const { return hasAny(static_cast<std::uint16_t>(capability)); }
+
+    /// Whether the monitor has at least one of some capabilities, given as bits of the capability word.
+    bool hasAny(std::uint16_t bits) const;
 
     /// 1, 2 or 3; 0 when the monitor does not tell.
     int productLine() const;
@@ -51,7 +54,16 @@ public:
     void storeSceneBlock(std::span<const std::uint8_t, kSceneBlockSize> block);
 
     bool sceneBlockValid() const { return value(Command::Sharpness) != kBlockNotValid; }
-    void invalidateSceneBlock() { store(Command::Sharpness, kBlockNotValid); }
+
+    /// Forgets the values of the scene-mode block: they belong to another mode.
+    void invalidateSceneBlock();
+
+    /// Forgets everything but the model: what is read next belongs to a monitor that may be another one.
+    void forgetSettings();
+
+    /// Keeps what the user has set. In a mode with factory parameters the change is not the custom block's, which then
+    /// has to be read again before it is shown.
+    void storeUserValue(Command command, int value);
 
     /// Written by a full read, in the office area's units; 0 when not known.
     std::atomic<std::uint32_t> officeMaximumHorizontal = 0;

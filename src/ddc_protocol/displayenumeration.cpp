@@ -33,7 +33,7 @@ QByteArray readEdid(QString interfaceName)
     return value && value->isBinary ? value->bytes : QByteArray();
 }
 
-void collectEntries(platform::DisplayHandle display, std::vector<EnumerationEntry> &entries)
+void getMonitorInfoList(platform::DisplayHandle display, std::vector<EnumerationEntry> &entries)
 {
     const auto info = platform::desk().displays().info(display);
     const QString deviceName = info ? info->deviceName : QString();
@@ -104,7 +104,7 @@ QByteArrayList findDevices()
 
     std::vector<EnumerationEntry> entries;
     displays.enumerate([&entries](platform::DisplayHandle display) {
-        collectEntries(display, entries);
+        getMonitorInfoList(display, entries);
         return true;
     });
     qDebug() << "monitor counts: " << entries.size();

@@ -16,7 +16,8 @@ using MonitorInfo = platform::PhysicalMonitor;
 /// transport's lock; read by the transport under that lock.
 extern std::vector<MonitorInfo> monitorList;
 
-/// Which of monitorList every command goes to. Written by the device session only.
+/// Which of monitorList every command goes to. Written by the device session, and by the choice
+/// of another machine just before the program starts anew.
 extern std::atomic<std::uint8_t> currentMonitorIndex;
 
 /// How the desktop spans the displays.

@@ -32,8 +32,15 @@ public:
     void write(const QString &key, const QVariant &value)
     {
         keepForeignContent();
+        const QVariant before = m_settings.value(key);
         m_settings.setValue(key, value);
-        finish();
+        if (finish())
+            return;
+        // The toolkit would go on telling this process the value that the file did not take.
+        if (before.isValid())
+            m_settings.setValue(key, before);
+        else
+            m_settings.remove(key);
     }
 
     void clear()
@@ -54,11 +61,13 @@ private:
             qWarning().noquote() << m_settings.fileName() << "is damaged; what it held is kept in" << copy;
     }
 
-    void finish()
+    bool finish()
     {
         m_settings.sync();
-        if (m_settings.status() == QSettings::AccessError)
+        const bool written = m_settings.status() != QSettings::AccessError;
+        if (!written)
             qWarning().noquote() << "Cannot write" << m_settings.fileName();
+        return written;
     }
 
     QSettings m_settings;

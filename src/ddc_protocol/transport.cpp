@@ -99,6 +99,7 @@ void setReconnectHandler(std::function<void()> handler)
 
 int BuildCommandPacket(COMMAND_set_Type command, std::uint16_t value)
 {
+    const auto lock = lockTransport();
     const CommandRow &row = commandTable[static_cast<std::size_t>(command)];
     const std::size_t length = (row[2] & 0x7F) + 5u;
     std::uint8_t checksum = 0;
@@ -135,11 +136,11 @@ bool SetVcpValue(std::uint8_t code, std::uint32_t value)
 
 bool Korvu_SetCommandVal(COMMAND_set_Type command, std::uint16_t value, std::uint16_t)
 {
-    if (commandsSuspended)
-        return false;
     std::function<void()> reconnect;
     {
-        const auto lock = lockTransport();
+        const auto lock = lockTransport(); // first: whoever suspends for a moment holds it, and others only wait
+        if (commandsSuspended)
+            return false;
         BuildCommandPacket(command, value);
         for (int attempt = 0; attempt < kWriteAttempts; ++attempt) {
             if (writeOnce(value))

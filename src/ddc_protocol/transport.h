@@ -41,6 +41,9 @@ enum ReloadReason {
     kIdle = 255,
 };
 
+/// What callers hand to the commands as their last argument, which the transport does not use.
+inline constexpr std::uint16_t kRetryCount = 10;
+
 /// Fills commandPacket for a command and its value; returns the packet's length, 9.
 int BuildCommandPacket(COMMAND_set_Type command, std::uint16_t value);
 

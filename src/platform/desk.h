@@ -3,8 +3,10 @@
 #include "platform/clock.h"
 #include "platform/devicenotifications.h"
 #include "platform/displays.h"
+#include "platform/globalkeys.h"
 #include "platform/monitorconfiguration.h"
 #include "platform/process.h"
+#include "platform/startup.h"
 
 namespace platform {
 
@@ -18,7 +20,9 @@ public:
     virtual Displays &displays() = 0;
     virtual MonitorConfiguration &monitors() = 0;
     virtual Process &process() = 0;
+    virtual StartUp &startUp() = 0;
     virtual DeviceNotifications &deviceNotifications() = 0;
+    virtual GlobalKeys &globalKeys() = 0;
     virtual Clock &clock() = 0;
 
     /// Called once when the main window is shown: a desk that has something of its own to show opens it now.

@@ -36,6 +36,12 @@ inline constexpr std::uint64_t kDeviceArrival = 0x8000;        ///< DBT_DEVICEAR
 inline constexpr std::uint64_t kDeviceRemoveComplete = 0x8004; ///< DBT_DEVICEREMOVECOMPLETE
 inline constexpr std::uint32_t kDeviceTypeInterface = 5;       ///< DBT_DEVTYP_DEVICEINTERFACE
 
+inline constexpr std::uint32_t kMessageHotKey = 0x0312; ///< WM_HOTKEY: lParam is virtual key << 16 | modifiers
+inline constexpr std::uint32_t kModifierAlt = 1;        ///< MOD_ALT
+inline constexpr std::uint32_t kModifierControl = 2;    ///< MOD_CONTROL
+inline constexpr std::uint32_t kModifierShift = 4;      ///< MOD_SHIFT
+inline constexpr std::uint32_t kModifierWin = 8;        ///< MOD_WIN
+
 /// The head of every device broadcast that lParam points to (DEV_BROADCAST_HDR).
 struct DeviceBroadcast
 {

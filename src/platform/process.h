@@ -26,6 +26,9 @@ public:
     /// Whether the user has administrator rights (IsUserAnAdmin). False also when the question cannot be answered.
     virtual bool isUserAnAdmin() = 0;
 
+    /// The full path of this program's own file, known before there is an application object.
+    virtual QString ownFile() = 0;
+
     /// Starts a file elevated, in a normal window (ShellExecute, verb "runas"). A result above 32 means success.
     virtual std::intptr_t shellExecuteRunas(const QString &file, const QString &parameters) = 0;
 
@@ -37,6 +40,9 @@ public:
 
     /// Starts a program detached from this one; an empty folder means this process's own. False when it did not start.
     virtual bool startDetached(const QString &program, const QStringList &arguments, const QString &folder) = 0;
+
+    /// Ends the event loop, and with it this process, without asking windows to close (they would go to the tray).
+    virtual void quit() = 0;
 };
 
 } // namespace platform

@@ -217,6 +217,7 @@ DeskSetup readSetup(Reader &reader, const QJsonObject &root)
     setup.topology = readTopology(reader, root.value(QLatin1String("topology")));
     readLatency(reader, root.value(QLatin1String("latency")), setup.readLatency, setup.writeLatency);
     setup.administrator = root.value(QLatin1String("administrator")).toBool(true);
+    setup.startUpWritable = root.value(QLatin1String("startup_writable")).toBool(true);
     setup.runasResult = reader.number(root, "runas_result", setup.runasResult, 0, 1000);
     return setup;
 }

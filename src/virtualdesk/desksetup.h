@@ -79,7 +79,8 @@ struct DeskSetup
     std::chrono::milliseconds readLatency{0};
     std::chrono::milliseconds writeLatency{0};
     bool administrator = true;
-    int runasResult = 42; ///< above 32: the elevated process was started
+    bool startUpWritable = true; ///< whether what starts at log-on may be changed
+    int runasResult = 42;        ///< above 32: the elevated process was started
 };
 
 /// What a request costs on a real wire.

@@ -227,6 +227,8 @@ Reply SimulatedMonitor::answerChunk() const
 /// Takes a written value as far as it makes sense: a number is limited, anything else out of range is ignored.
 void SimulatedMonitor::take(Request &request)
 {
+    if (request.code == kOfficeSizeCode && request.value <= 0xFF)
+        return; // the size of a paper, which changes nothing that can be read back
     const OsdFunction function = osdFunction(request.code);
     const auto isOption = [&](const OsdOption &option) { return option.value == request.value; };
     const bool known =

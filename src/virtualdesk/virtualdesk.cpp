@@ -30,8 +30,9 @@ struct VirtualDesk::OpenMutex
 
 VirtualDesk::VirtualDesk(platform::Clock &clock, const DeskSetup &setup)
     : administrator(setup.administrator), runasResult(setup.runasResult), m_clock(clock), m_displays(setup.displays),
-      m_events(setup.events), m_topology(setup.topology), m_mutexFolder(QDir::tempPath())
+      m_events(setup.events), m_topology(setup.topology), m_mutexFolder(QDir::tempPath()), m_startUp(m_mutexFolder)
 {
+    m_startUp.writable = setup.startUpWritable;
     for (const MonitorSetup &each : setup.monitors) {
         auto monitor = std::make_unique<SimulatedMonitor>(*each.model, clock);
         monitor->setLatency(setup.readLatency, setup.writeLatency);
@@ -45,6 +46,12 @@ VirtualDesk::VirtualDesk(platform::Clock &clock, const DeskSetup &setup)
 }
 
 VirtualDesk::~VirtualDesk() = default;
+
+void VirtualDesk::setMutexFolder(const QString &folder)
+{
+    m_mutexFolder = folder;
+    m_startUp.setFolder(folder);
+}
 
 void VirtualDesk::plug(std::size_t index)
 {

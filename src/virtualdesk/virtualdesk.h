@@ -14,7 +14,9 @@
 #include "platform/process.h"
 #include "virtualdesk/desksetup.h"
 #include "virtualdesk/devicemessages.h"
+#include "virtualdesk/hotkeys.h"
 #include "virtualdesk/simulatedmonitor.h"
+#include "virtualdesk/startupfile.h"
 
 namespace virtualdesk {
 
@@ -87,23 +89,33 @@ public:
 
     bool administrator = true;
     int runasResult = 42;
-    /// Whether programs are really started; a test leaves it off.
+    /// Whether programs are really started and this one really quits; a test leaves it off.
     bool startsPrograms = false;
     /// Whether starting a program succeeds.
     bool startSucceeds = true;
+    int quits = 0;                        ///< how often this program was asked to end
     std::vector<StartedProgram> started;  ///< detached
     std::vector<StartedProgram> elevated; ///< asked for with "runas"
 
     platform::NamedMutex createMutex(const QString &name);
     void closeMutex(void *handle);
-    /// Where the files are that stand for names; the system's folder for temporary files at first.
-    void setMutexFolder(const QString &folder) { m_mutexFolder = folder; }
+    /// What starts at log-on.
+    StartUpFile &startUp() { return m_startUp; }
+    /// Where the files are that stand for names and for the log-on list; the system's folder for temporary files at
+    /// first.
+    void setMutexFolder(const QString &folder);
 
     // Device messages.
 
     DeviceRegistrations &registrations() { return m_registrations; }
     /// A device-interface broadcast, kDeviceArrival or kDeviceRemoveComplete, to the windows registered for its class.
     void deliverDeviceMessage(std::uint64_t event, const platform::Guid &interfaceClass = kMonitorInterfaceClass);
+
+    // Global keys.
+
+    HotKeys &hotKeys() { return m_hotKeys; }
+    /// Somebody presses a key, kModifier... bits and virtual-key code. False when the program has not registered it.
+    bool pressKey(std::uint32_t modifiers, std::uint32_t virtualKey) { return m_hotKeys.press(modifiers, virtualKey); }
 
 Q_SIGNALS:
     /// A monitor was plugged or unplugged, or a fault was set on one.
@@ -135,7 +147,9 @@ private:
     std::optional<std::vector<platform::Screen>> m_screens;
     std::uintptr_t m_displayGeneration = 1; // display handles of an older set-up are outdated
     DeviceRegistrations m_registrations;
+    HotKeys m_hotKeys;
     QString m_mutexFolder;
+    StartUpFile m_startUp;
     std::vector<std::unique_ptr<OpenMutex>> m_mutexes;
 
     mutable std::mutex m_handleMutex; // guards what follows

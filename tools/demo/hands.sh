@@ -6,7 +6,7 @@ declare -A PLACE=(
     [tab]='268 36' [tab-step]='104 0'
     [entry]='116 108' [entry-step]='0 48'
     [default-half]='1039 142' [custom-half]='1166 142'
-    [slider-left]='449 198' [slider-right]='667 198' # of the first slider, Brightness: its groove's ends
+    [slider-left]='449 216' [slider-right]='667 216' # of the first slider, Brightness: its groove's ends
     [page]='460 600'
     [nothing]='640 770' # the window's lower edge: nothing lights up there
     [unplug]='342 351'  # in the desk's window

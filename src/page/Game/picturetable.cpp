@@ -6,9 +6,9 @@ namespace {
 
 constexpr int kCaption = 150;
 
-// The off half of the switches of the motion function and of local dimming sends 0, although the option "Close" of the
-// same groups sends 2. The other half would send 0 as well, so it is not offered.
-constexpr Option kOffOnly[] = {{LABEL("         Disable"), 0}};
+// The switches of the motion function and of local dimming always send 0, although the option "Close" of the same
+// groups sends 2. Both are meant.
+constexpr Option kAlwaysOff[] = {{LABEL("         Enable"), 0}, {LABEL("         Disable"), 0}};
 
 constexpr Option kNightVision[] = {
     {LABEL("Close"), 0}, {LABEL("Level1"), 1}, {LABEL("Level2"), 2}, {LABEL("Auto-L1"), 3}, {LABEL("Auto-L2"), 4}};
@@ -34,9 +34,9 @@ constexpr OptionGroup makeSwitch(const char *label, Command command, std::span<c
 }
 
 const Section kGameRush[] = {makeSwitch(LABEL("Game Rush"), Command::GameRush)};
-const Section kDyds[] = {makeSwitch(LABEL("DyDs"), Command::MotionTech, kOffOnly),
+const Section kDyds[] = {makeSwitch(LABEL("DyDs"), Command::MotionTech, kAlwaysOff),
                          OptionGroup{LABEL("DyDs"), Command::MotionTech, kMotionOptions}};
-const Section kMpcs[] = {makeSwitch(LABEL("MPCS"), Command::MotionTech, kOffOnly),
+const Section kMpcs[] = {makeSwitch(LABEL("MPCS"), Command::MotionTech, kAlwaysOff),
                          OptionGroup{LABEL("MPCS"), Command::MotionTech, kMotionOptions}};
 const Section kNightVisionPanel[] = {OptionGroup{LABEL("Night Vision"), Command::NightVision, kNightVision}};
 const Section kDynamicOd[] = {OptionGroup{LABEL("Dynamic OD"), Command::GrayResponse, kGrayResponseOptions}};
@@ -45,7 +45,7 @@ const Section kColorEnhancePanel[] = {SliderGrid{nullptr, 1, kCaption, kColorEnh
 const Section kContrastEnhancePanel[] = {SliderGrid{nullptr, 1, kCaption, kContrastEnhance}};
 const Section kShadowBalancePanel[] = {SliderGrid{nullptr, 1, kCaption, kShadowBalance}};
 const Section kSuperResolutionPanel[] = {SliderGrid{nullptr, 1, kCaption, kSuperResolution}};
-const Section kLocalDimmingPanel[] = {makeSwitch(LABEL("Localdimming"), Command::LocalDimming, kOffOnly),
+const Section kLocalDimmingPanel[] = {makeSwitch(LABEL("Localdimming"), Command::LocalDimming, kAlwaysOff),
                                       OptionGroup{LABEL("Localdimming"), Command::LocalDimming, kLocalDimming}};
 const Section kHaloControlPanel[] = {SliderGrid{nullptr, 1, kCaption, kHaloControl}};
 const Section kAdaptiveSync[] = {makeSwitch(LABEL("Adaptive-Sync"), Command::AdaptiveSync)};

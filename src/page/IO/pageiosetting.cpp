@@ -19,10 +19,7 @@ pageIOSetting::pageIOSetting(CommandQueue &queue, QWidget *parent)
     // Both keep the monitor half awake while it is off, and it does so for one of them only.
     refuseWhen(Command::Cec, [this](int value) { return excludes(Command::QuickBoot, "Quick Boot", value); });
     refuseWhen(Command::QuickBoot, [this](int value) { return excludes(Command::Cec, "CEC", value); });
-    afterSending(Command::InputSignal, [this](int) {
-        m_inputWasChosen = true;
-        showPreview();
-    });
+    afterSending(Command::InputSignal, [this](int) { showPreview(); });
 }
 
 bool pageIOSetting::excludes(Command other, const char *label, int value)
@@ -45,8 +42,9 @@ QWidget *pageIOSetting::buildPart(const char *name)
 void pageIOSetting::updateInterfaceData()
 {
     PanelPage::updateInterfaceData();
-    if (!m_inputWasChosen)
-        showInput();
+    if (!m_inputOn && deviceState.isKnown(Command::InputSignal))
+        m_inputOn = deviceState.value(Command::InputSignal);
+    showInput();
     showPreview();
 }
 
@@ -56,13 +54,11 @@ void pageIOSetting::updateControlText()
     showInput();
 }
 
-/// Marks the input that the picture comes from now: choosing another one blanks it.
+/// Marks the input that the picture came from when the page was first filled: choosing another one blanks it.
 void pageIOSetting::showInput()
 {
-    const OptionGroupRow *row = optionGroup(Command::InputSignal);
-    const QPushButton *button = row->buttonOf(deviceState.value(Command::InputSignal));
-    const bool known = deviceState.isKnown(Command::InputSignal) && button;
-    m_inputNow->setText(known ? QObject::tr("On now: %1").arg(button->text()) : QString());
+    const QPushButton *button = m_inputOn ? optionGroup(Command::InputSignal)->buttonOf(*m_inputOn) : nullptr;
+    m_inputNow->setText(button ? QObject::tr("On now: %1").arg(button->text()) : QString());
 }
 
 void pageIOSetting::showPreview()

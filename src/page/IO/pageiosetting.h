@@ -22,5 +22,5 @@ private:
 
     QLabel *m_inputNow = nullptr;
     QLabel *m_preview = nullptr;
-    bool m_inputWasChosen = false;
+    std::optional<int> m_inputOn;
 };

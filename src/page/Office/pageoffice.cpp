@@ -12,9 +12,14 @@
 
 namespace {
 
-constexpr int kSmallestPaper = 10;  // mm
-constexpr int kHeightFlag = 0x8000; // tells the height from the width, which share a command
+constexpr int kSmallestPaper = 10; // mm
+constexpr int kHeightFlag = 0x80;  // tells the height from the width, which share a command
 constexpr platform::milliseconds kReminderShown{10000};
+
+int hundredths(int size, std::uint32_t maximum)
+{
+    return maximum == 0 ? 0 : qRound(100.0 * size / maximum);
+}
 
 } // namespace
 
@@ -23,7 +28,7 @@ PageOffice::PageOffice(CommandQueue &queue, QWidget *parent)
 {
     buildPanels(officePanels());
     afterSending(Command::Paper, [this](int) { showPaperSize(); });
-    afterSending(Command::RestTimer, [this](int option) { m_reminder.setOption(option); });
+    onResult(Command::RestTimer, [this](int option, bool ok) { m_reminder.setOption(ok ? option : 0); });
     connect(&m_reminder, &RestReminder::timeIsUp, this, &PageOffice::remind);
 }
 
@@ -68,11 +73,14 @@ QSpinBox *PageOffice::makeSizeField(const QString &name)
     return field;
 }
 
-/// The monitor takes a size by two writes of its office area's command, millimetres each, the height with the top bit.
+/// The monitor takes a size by two writes of its office area's command: the width and, with the top bit, the height, in
+/// hundredths of the area, so that each fits the one byte of every command's value.
 void PageOffice::sendPaperSize()
 {
-    const bool ok = send(Command::Paper, kCustomPaper) && send(Command::OfficeArea, m_width->value()) &&
-                    send(Command::OfficeArea, m_height->value() | kHeightFlag);
+    const int width = hundredths(m_width->value(), deviceState.officeMaximumHorizontal);
+    const int height = hundredths(m_height->value(), deviceState.officeMaximumVertical);
+    const bool ok = send(Command::Paper, kCustomPaper) && send(Command::OfficeArea, width) &&
+                    send(Command::OfficeArea, height | kHeightFlag);
     showNotice(ok ? QString() : QObject::tr("The monitor did not take the size."));
 }
 

@@ -117,8 +117,11 @@ void pageSceneSetting::addRules()
     beforeSending(Command::ColorTemperature, [this](int value) { followColorTemperature(value); });
     afterSending(Command::ColorEnhance, [this](int) { enableSaturation(); });
     // A Sharpness that the monitor did not take leaves the block in doubt, until it is read again.
-    onResult(Command::Sharpness,
-             [](int value, bool ok) { deviceState.store(Command::Sharpness, ok ? value : kBlockNotValid); });
+    // A late answer must not make a block valid that belongs to another mode by now.
+    onResult(Command::Sharpness, [](int value, bool ok) {
+        if (deviceState.sceneBlockValid())
+            deviceState.store(Command::Sharpness, ok ? value : kBlockNotValid);
+    });
     for (int channel = 0; channel < 3; ++channel) {
         chooseCommand(kUserColourSliders[channel], [this, channel]() -> std::optional<Command> {
             if (m_userColourSlot == 0)
@@ -170,7 +173,7 @@ void pageSceneSetting::switchHalf(bool defaultView)
     if (changed) {
         queue().drain();
         deviceState.lastSceneModeSent = wanted;
-        m_worker->start();
+        m_worker->begin(wanted);
     } else {
         Q_EMIT modeChangeEnded();
     }
@@ -179,13 +182,15 @@ void pageSceneSetting::switchHalf(bool defaultView)
 void pageSceneSetting::sendSceneMode()
 {
     const int value = deviceState.value(Command::SceneMode);
-    send(Command::SceneMode, value);
-    deviceState.lastSceneModeSent = value;
+    deviceState.lastSceneModeSent = value; // before: a send that fails makes the session record what is really on
+    showResult(send(Command::SceneMode, value));
 }
 
 void pageSceneSetting::onWorkFinished()
 {
-    showHalf(m_defaultView);
+    deviceState.store(Command::SceneMode, m_worker->mode()); // a reconnection meanwhile may have read the mode before
+    deviceState.lastSceneModeSent = m_worker->mode();
+    showHalf(m_worker->mode() % 2 != 0);
     fillCustomArea();
     Q_EMIT modeChangeEnded();
 }
@@ -206,6 +211,7 @@ void pageSceneSetting::showTitle()
 {
     const SceneMode *mode = sceneModeOf(deviceState.value(Command::SceneMode));
     m_title->setText(mode ? QObject::tr(mode->label) : QObject::tr("Scene"));
+    m_note->setStyleSheet(m_lastResult ? QString() : QStringLiteral("color: #da676d;"));
     m_note->setText(m_defaultView ? QObject::tr("The picture as the factory set it.")
                                   : QObject::tr("Your own picture. Changes are sent to the monitor as you make them."));
     m_defaultText->setText((mode ? QObject::tr(mode->hint) + QLatin1Char('\n') : QString()) +
@@ -213,6 +219,14 @@ void pageSceneSetting::showTitle()
     const QString icon = QStringLiteral("img/entry/%1_checked.png").arg(QLatin1String(mode ? mode->icon : "standard"));
     const QPixmap picture = Pictures::load(Pictures::kRoot + icon, 2.0);
     m_defaultIcon->setPixmap(picture.scaled(picture.size() * 2, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+}
+
+void pageSceneSetting::showResult(bool ok)
+{
+    if (ok == m_lastResult)
+        return;
+    m_lastResult = ok;
+    showTitle();
 }
 
 void pageSceneSetting::updateInterfaceData()

@@ -32,6 +32,9 @@ Q_SIGNALS:
     /// Which half is shown now.
     void viewShown(bool defaultView);
 
+protected:
+    void showResult(bool ok) override;
+
 private Q_SLOTS:
     void onHalfClicked();
     void onWorkFinished();
@@ -64,5 +67,6 @@ private:
     QStackedWidget *m_areas = nullptr;
     QWidget *m_customArea = nullptr;
     bool m_defaultView = true;
+    bool m_lastResult = true; ///< whether the monitor took what was set last
     int m_userColourSlot = 0; ///< which user preset the R, G, B sliders edit; 0 none
 };

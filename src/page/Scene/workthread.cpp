@@ -7,9 +7,14 @@ WorkThread::WorkThread(SearchDeviceDlg &session, QObject *parent) : QThread(pare
 {
 }
 
+void WorkThread::begin(int mode)
+{
+    m_mode = mode;
+    start();
+}
+
 void WorkThread::run()
 {
-    const int mode = deviceState.value(Command::SceneMode);
-    m_session.readSceneModeData(mode);
-    Korvu_SetCommandVal(writeRow(Command::SceneMode), static_cast<std::uint16_t>(mode), 10);
+    m_session.readSceneModeData(m_mode);
+    Korvu_SetCommandVal(writeRow(Command::SceneMode), static_cast<std::uint16_t>(m_mode), kRetryCount);
 }

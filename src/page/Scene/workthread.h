@@ -4,17 +4,24 @@
 
 class SearchDeviceDlg;
 
-/// Reads the block of the current scene mode and then sends the mode, off the interface thread: the table read is
-/// slow. It touches nothing of the page but the snapshot.
+/// Reads the block of a scene mode and then sends the mode, off the interface thread: the table read is slow. It
+/// touches nothing of the page but the snapshot.
 class WorkThread : public QThread
 {
     Q_OBJECT
 public:
     explicit WorkThread(SearchDeviceDlg &session, QObject *parent = nullptr);
 
+    /// Starts the work for a scene mode; the work before has finished.
+    void begin(int mode);
+
+    /// The mode of the last work.
+    int mode() const { return m_mode; }
+
 protected:
     void run() override;
 
 private:
     SearchDeviceDlg &m_session;
+    int m_mode = 0;
 };

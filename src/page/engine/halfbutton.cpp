@@ -25,8 +25,10 @@ void dressHalfButton(QPushButton *button)
     // The blanks before the label are balanced behind it, so that the word stands in the middle.
     const qsizetype blanks = button->text().size() - QStringView(button->text()).trimmed().size();
     const int width = QFontMetrics(font).horizontalAdvance(QString(blanks, QLatin1Char(' ')));
-    button->setStyleSheet(
-        QString::fromLatin1(kStyle).arg(QStringLiteral(":/resource/img/option/selector_"), QString::number(width)));
+    const QString style =
+        QString::fromLatin1(kStyle).arg(QStringLiteral(":/resource/img/option/selector_"), QString::number(width));
+    if (button->styleSheet() != style)
+        button->setStyleSheet(style);
 }
 
 QPushButton *makeHalfButton(const char *label, BoundTexts &texts, QWidget *parent)

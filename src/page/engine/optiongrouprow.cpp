@@ -32,7 +32,8 @@ const char *const kPictureStyle = "QPushButton { border-image: url(%1);}QPushBut
 const char *const kTextStyle =
     "QPushButton:focus { border-image: url(%1);}QPushButton:checked:focus { border-image: url(%2);}"
     "QPushButton { color: #c9c9c9; }QPushButton:checked { color: #0c100e; }"
-    "QPushButton:disabled { color: #696969; }";
+    "QPushButton:disabled { color: #696969; }"
+    "QPushButton:checked:disabled { border-image: url(%3); }";
 
 QString picture(const char *size, const char *state)
 {
@@ -50,12 +51,15 @@ void dressOptionButton(QPushButton *button)
     const ButtonSize *size = kButtonSizes;
     while (size != std::end(kButtonSizes) - 1 && size->width < needed)
         ++size;
+    if (button->width() == size->width && !button->styleSheet().isEmpty())
+        return; // a style sheet is dear, and it would be the same
     button->setFixedSize(size->width, kButtonHeight);
     const char *name = size->pictures;
     button->setStyleSheet(
         QString::fromLatin1(kPictureStyle)
             .arg(picture(name, "normal"), picture(name, "hover"), picture(name, "checked"), picture(name, "disabled")) +
-        QString::fromLatin1(kTextStyle).arg(picture(name, "focus"), picture(name, "checkedfocus")));
+        QString::fromLatin1(kTextStyle)
+            .arg(picture(name, "focus"), picture(name, "checkedfocus"), picture(name, "checkeddisabled")));
 }
 
 OptionGroupRow::OptionGroupRow(const OptionGroup &group, BoundTexts &texts, QWidget *parent)

@@ -34,6 +34,7 @@ PanelPage::PanelPage(const QString &name, OwnList list, CommandQueue &queue, QWi
 {
     setObjectName(name);
     dressPage(this);
+    m_stack->setObjectName(QStringLiteral("rightStackedWidget"));
     m_notice->setObjectName(QStringLiteral("notice"));
     m_notice->setFont(noteFont);
     m_notice->setWordWrap(true);
@@ -175,6 +176,11 @@ void PanelPage::scrollList(int steps)
 {
     QScrollBar *bar = m_listArea->verticalScrollBar();
     bar->setValue(bar->value() + steps * kEntryPitch);
+}
+
+void PanelPage::showResult(bool ok)
+{
+    showNotice(ok ? QString() : QObject::tr("The monitor did not take this setting."));
 }
 
 QString PanelPage::alreadyEnabled(const char *label)

@@ -35,6 +35,8 @@ protected:
     /// To be called once by the page's constructor, when its own members stand.
     void buildPanels(std::span<const PanelSpec> panels);
 
+    void showResult(bool ok) override;
+
     /// Whether a panel may be chosen now; a page that says no shows why.
     virtual bool mayShow(const PanelSpec &) { return true; }
 

@@ -9,8 +9,6 @@
 #include "ddc_protocol/transport.h"
 #include "page/engine/optiongrouprow.h"
 
-static constexpr int kRetries = 10; // handed to the transport, which does not use it
-
 SettingsPage::SettingsPage(CommandQueue &queue, QWidget *parent) : QLabel(parent), m_queue(queue)
 {
     connect(&queue, &CommandQueue::sent, this, &SettingsPage::onSent);
@@ -49,7 +47,7 @@ void SettingsPage::apply(const std::map<Command, Rule> &rules, Command command, 
 bool SettingsPage::send(Command command, int value)
 {
     m_queue.drain();
-    return Korvu_SetCommandVal(writeRow(command), static_cast<std::uint16_t>(value), kRetries);
+    return Korvu_SetCommandVal(writeRow(command), static_cast<std::uint16_t>(value), kRetryCount);
 }
 
 /// The group and option that an object name stands for. A name of a group without an option gives what the group holds.
@@ -80,12 +78,15 @@ void SettingsPage::onOptionClicked(QPushButton *button)
         updateInterfaceData(); // the button shows again what is set
         return;
     }
-    deviceState.store(choice->command, choice->value);
+    deviceState.storeUserValue(choice->command, choice->value);
     apply(m_before, choice->command, choice->value);
     const bool ok = send(choice->command, choice->value);
     apply(m_after, choice->command, choice->value);
-    if (const auto rule = m_results.find(choice->command); rule != m_results.end())
-        rule->second(choice->value, ok);
+    for (OptionGroupRow *row : m_groups) { // several rows may stand for one command
+        if (row->group().command == choice->command)
+            row->showValue(choice->value);
+    }
+    onSent(choice->command, choice->value, ok);
 }
 
 void SettingsPage::onSliderChanged(const QString &name, int value, bool released)
@@ -101,7 +102,7 @@ void SettingsPage::onSliderChanged(const QString &name, int value, bool released
         return;
     const bool storesOnResult = m_results.contains(*command);
     if (!storesOnResult)
-        deviceState.store(*command, value);
+        deviceState.storeUserValue(*command, value);
     if (released == (entry->spec.sendOn == SendOn::Release)) {
         m_queue.post(*command, value);
         apply(m_after, *command, value);
@@ -110,6 +111,8 @@ void SettingsPage::onSliderChanged(const QString &name, int value, bool released
 
 void SettingsPage::onSent(Command command, int value, bool ok)
 {
+    if (shownCommands().contains(command))
+        showResult(ok);
     if (const auto rule = m_results.find(command); rule != m_results.end())
         rule->second(value, ok);
 }
@@ -127,6 +130,7 @@ std::set<Command> SettingsPage::shownCommands() const
 void SettingsPage::showEvent(QShowEvent *event)
 {
     QLabel::showEvent(event);
+    updateInterfaceData(); // another page may have changed what this one shows
     if (!m_asksWhenShown)
         return;
     for (const Command command : shownCommands()) {
@@ -142,6 +146,10 @@ void SettingsPage::onAnswered(Command command, int value)
     if (!deviceState.isKnown(command)) // the user may have set it while the answer was on its way
         deviceState.store(command, value);
     updateInterfaceData();
+}
+
+void SettingsPage::showResult(bool)
+{
 }
 
 QWidget *SettingsPage::buildPart(const char *)

@@ -60,6 +60,9 @@ protected:
     /// Builds a part that the tables only name; null for a name that the page does not know.
     virtual QWidget *buildPart(const char *name);
 
+    /// Tells the user whether the monitor took what was set last; a page says so in its own place.
+    virtual void showResult(bool ok);
+
     /// From now on, whenever the page is shown, what its controls do not know yet is asked for in the background.
     void askWhenShown() { m_asksWhenShown = true; }
 

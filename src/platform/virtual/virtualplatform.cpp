@@ -3,6 +3,7 @@
 #include <optional>
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QProcess>
 
 #include "platform/systemclock.h"
@@ -135,6 +136,12 @@ public:
 
     bool isUserAnAdmin() override { return m_desk.administrator; }
 
+    QString ownFile() override
+    {
+        const QString file = QFile::symLinkTarget(QStringLiteral("/proc/self/exe")); // where there is such a thing
+        return file.isEmpty() ? QCoreApplication::applicationFilePath() : file;
+    }
+
     std::intptr_t shellExecuteRunas(const QString &file, const QString &parameters) override
     {
         m_desk.elevated.push_back({file, {parameters}, {}});
@@ -151,6 +158,13 @@ public:
             m_desk.closeMutex(handle);
     }
 
+    void quit() override
+    {
+        ++m_desk.quits;
+        if (m_desk.startsPrograms)
+            QCoreApplication::exit();
+    }
+
     bool startDetached(const QString &program, const QStringList &arguments, const QString &folder) override
     {
         m_desk.started.push_back({program, arguments, folder});
@@ -158,6 +172,19 @@ public:
             return QProcess::startDetached(program, arguments, folder);
         return m_desk.startSucceeds;
     }
+
+private:
+    VirtualDesk &m_desk;
+};
+
+class VirtualStartUp final : public StartUp
+{
+public:
+    explicit VirtualStartUp(VirtualDesk &desk) : m_desk(desk) {}
+
+    std::optional<QString> value(const QString &name) override { return m_desk.startUp().value(name); }
+    bool setValue(const QString &name, const QString &text) override { return m_desk.startUp().setValue(name, text); }
+    bool removeValue(const QString &name) override { return m_desk.startUp().removeValue(name); }
 
 private:
     VirtualDesk &m_desk;
@@ -178,6 +205,22 @@ public:
         if (registration != nullptr)
             m_desk.registrations().remove(registration);
     }
+
+private:
+    VirtualDesk &m_desk;
+};
+
+class VirtualGlobalKeys final : public GlobalKeys
+{
+public:
+    explicit VirtualGlobalKeys(VirtualDesk &desk) : m_desk(desk) {}
+
+    bool registerKey(int id, std::uint32_t modifiers, std::uint32_t virtualKey) override
+    {
+        return m_desk.hotKeys().add(id, modifiers, virtualKey);
+    }
+
+    bool unregisterKey(int id) override { return m_desk.hotKeys().remove(id); }
 
 private:
     VirtualDesk &m_desk;
@@ -222,7 +265,9 @@ private:
 VirtualPlatform::VirtualPlatform(VirtualDesk &desk, Clock &clock)
     : m_desk(desk), m_clock(clock), m_displays(std::make_unique<VirtualDisplays>(desk)),
       m_monitors(std::make_unique<VirtualMonitors>(desk)), m_process(std::make_unique<VirtualProcess>(desk)),
-      m_deviceNotifications(std::make_unique<VirtualNotifications>(desk))
+      m_startUp(std::make_unique<VirtualStartUp>(desk)),
+      m_deviceNotifications(std::make_unique<VirtualNotifications>(desk)),
+      m_globalKeys(std::make_unique<VirtualGlobalKeys>(desk))
 {
 }
 
@@ -243,9 +288,19 @@ Process &VirtualPlatform::process()
     return *m_process;
 }
 
+StartUp &VirtualPlatform::startUp()
+{
+    return *m_startUp;
+}
+
 DeviceNotifications &VirtualPlatform::deviceNotifications()
 {
     return *m_deviceNotifications;
+}
+
+GlobalKeys &VirtualPlatform::globalKeys()
+{
+    return *m_globalKeys;
 }
 
 Clock &VirtualPlatform::clock()

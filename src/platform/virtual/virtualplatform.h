@@ -20,7 +20,9 @@ public:
     Displays &displays() override;
     MonitorConfiguration &monitors() override;
     Process &process() override;
+    StartUp &startUp() override;
     DeviceNotifications &deviceNotifications() override;
+    GlobalKeys &globalKeys() override;
     Clock &clock() override;
 
     /// Starts the script's timed events.
@@ -35,7 +37,9 @@ private:
     std::unique_ptr<Displays> m_displays;
     std::unique_ptr<MonitorConfiguration> m_monitors;
     std::unique_ptr<Process> m_process;
+    std::unique_ptr<StartUp> m_startUp;
     std::unique_ptr<DeviceNotifications> m_deviceNotifications;
+    std::unique_ptr<GlobalKeys> m_globalKeys;
 };
 
 /// The simulated desk of a process, set up by the environment, in real time. Its window opens beside the main window

@@ -3,8 +3,10 @@
 #include "platform/systemclock.h"
 #include "platform/win32/win32devicenotifications.h"
 #include "platform/win32/win32displays.h"
+#include "platform/win32/win32globalkeys.h"
 #include "platform/win32/win32monitorconfiguration.h"
 #include "platform/win32/win32process.h"
+#include "platform/win32/win32startup.h"
 
 namespace platform {
 
@@ -16,14 +18,18 @@ public:
     Displays &displays() override { return m_displays; }
     MonitorConfiguration &monitors() override { return m_monitors; }
     Process &process() override { return m_process; }
+    StartUp &startUp() override { return m_startUp; }
     DeviceNotifications &deviceNotifications() override { return m_deviceNotifications; }
+    GlobalKeys &globalKeys() override { return m_globalKeys; }
     Clock &clock() override { return m_clock; }
 
 private:
     Win32Displays m_displays;
     Win32MonitorConfiguration m_monitors;
     Win32Process m_process;
+    Win32StartUp m_startUp;
     Win32DeviceNotifications m_deviceNotifications;
+    Win32GlobalKeys m_globalKeys;
     SystemClock m_clock;
 };
 

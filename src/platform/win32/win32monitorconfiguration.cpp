@@ -49,7 +49,11 @@ bool Win32MonitorConfiguration::fetch(DisplayHandle display, std::span<PhysicalM
 
 void Win32MonitorConfiguration::destroy(std::span<PhysicalMonitor> monitors)
 {
-    DestroyPhysicalMonitors(static_cast<DWORD>(monitors.size()), records(monitors));
+    // One at a time: a null handle must not keep the others from being released.
+    for (PhysicalMonitor &monitor : monitors) {
+        if (monitor.handle)
+            DestroyPhysicalMonitors(1, records(std::span(&monitor, 1)));
+    }
 }
 
 bool Win32MonitorConfiguration::getFeature(PhysicalMonitorHandle monitor, std::uint8_t code, std::uint32_t &current,

@@ -1,10 +1,13 @@
 #include "platform/win32/win32process.h"
 
+#include <array>
+
 #include <windows.h>
 
 #include <shellapi.h>
 #include <shlobj.h>
 
+#include <QCoreApplication>
 #include <QProcess>
 
 #include "platform/win32/win32strings.h"
@@ -16,6 +19,13 @@ static_assert(kErrorAlreadyExists == ERROR_ALREADY_EXISTS);
 bool Win32Process::isUserAnAdmin()
 {
     return IsUserAnAdmin();
+}
+
+QString Win32Process::ownFile()
+{
+    std::array<wchar_t, 32768> path; // the longest that the system knows
+    const DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
+    return QString::fromWCharArray(path.data(), static_cast<int>(length));
 }
 
 std::intptr_t Win32Process::shellExecuteRunas(const QString &file, const QString &parameters)
@@ -42,6 +52,11 @@ void Win32Process::closeHandle(void *handle)
 bool Win32Process::startDetached(const QString &program, const QStringList &arguments, const QString &folder)
 {
     return QProcess::startDetached(program, arguments, folder);
+}
+
+void Win32Process::quit()
+{
+    QCoreApplication::exit();
 }
 
 } // namespace platform

@@ -9,10 +9,12 @@ class Win32Process final : public Process
 {
 public:
     bool isUserAnAdmin() override;
+    QString ownFile() override;
     std::intptr_t shellExecuteRunas(const QString &file, const QString &parameters) override;
     NamedMutex createMutex(const QString &name) override;
     void closeHandle(void *handle) override;
     bool startDetached(const QString &program, const QStringList &arguments, const QString &folder) override;
+    void quit() override;
 };
 
 } // namespace platform

@@ -1,0 +1,236 @@
+#include "page/BasicSetting/pagepcsetting.h"
+
+#include <algorithm>
+
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QDebug>
+#include <QDir>
+#include <QHBoxLayout>
+#include <QListView>
+
+#include "controls/messagebox.h"
+#include "controls/sharedfonts.h"
+#include "controls/wheeleventfilter.h"
+#include "ddc_protocol/displayenumeration.h"
+#include "ddc_protocol/settingsstore.h"
+#include "page/BasicSetting/toollanguage.h"
+#include "page/engine/labels.h"
+#include "page/engine/optiongrouprow.h"
+#include "platform/desk.h"
+#include "relaunch.h"
+#include "searchdevicedlg.h"
+
+namespace {
+
+constexpr Command kNoCommand{}; // these options are the tool's own and never go to the monitor
+constexpr char kStartUp[] = LABEL("Run on startup");
+constexpr char kLanguage[] = LABEL("Tool language settings");
+constexpr char kVersion[] = "version";
+constexpr char kMachine[] = "machine";
+
+// Added to what the page's style says of every combo box: its arrow without a frame, and the open list.
+const char *const kMachinesStyle =
+    "QComboBox::drop-down { border: none; width: 28px; }"
+    "QComboBox::down-arrow { image: url(:/resource/img/option/drop.png); width: 14px; height: 14px; }"
+    "QListView { background-color: #222d28; color: #c9c9c9; border: 1px solid #31403a; outline: none; font-size: 14px; "
+    "padding: 4px; }"
+    "QListView::item { min-height: 32px; }"
+    "QListView::item:selected { background-color: #1b5043; color: #ffffff; }";
+
+constexpr Option kYesNo[] = {{LABEL("Yes"), 1}, {LABEL("No"), 0}};
+
+const Section kGeneral[] = {CustomPart{kStartUp}, CustomPart{kLanguage}, CustomPart{kVersion}};
+const Section kMachineSelect[] = {CustomPart{kMachine}};
+const PanelSpec kPanels[] = {
+    {LABEL("General Settings"), "tool_settings", "pageGeneralSettings", kGeneral},
+    {LABEL("Machine Select"), "machine_select", "pageMachineSelect", kMachineSelect},
+};
+
+/// The languages as options, each with its place in the list.
+std::span<const Option> languageOptions()
+{
+    static const std::vector<Option> options = [] {
+        std::vector<Option> list;
+        for (const ToolLanguage &language : toolLanguages())
+            list.push_back({language.label, static_cast<int>(list.size())});
+        return list;
+    }();
+    return options;
+}
+
+QString programPath()
+{
+    return QDir::toNativeSeparators(QCoreApplication::applicationFilePath());
+}
+
+/// A copy of the program that lies elsewhere may stand in the list under the same name: that is not this one.
+bool runsOnStartUp()
+{
+    const auto value = platform::desk().startUp().value(QCoreApplication::applicationName());
+    return value && value->compare(programPath(), Qt::CaseInsensitive) == 0;
+}
+
+QString notWritten()
+{
+    return QObject::tr("%1 cannot be written. Nothing was changed.").arg(QLatin1String(kConfigFile));
+}
+
+} // namespace
+
+pagePCSetting::pagePCSetting(SearchDeviceDlg &session, CommandQueue &queue, QWidget *parent)
+    : PanelPage(QStringLiteral("pagePCSetting"), OwnList::Shown, queue, parent), m_session(session)
+{
+    buildPanels(kPanels);
+}
+
+QWidget *pagePCSetting::buildPart(const char *name)
+{
+    if (qstrcmp(name, kStartUp) == 0)
+        return m_startUp = makeOptions({kStartUp, kNoCommand, kYesNo});
+    if (qstrcmp(name, kLanguage) == 0)
+        return m_language = makeOptions({kLanguage, kNoCommand, languageOptions()});
+    return qstrcmp(name, kVersion) == 0 ? buildVersion() : buildMachine();
+}
+
+OptionGroupRow *pagePCSetting::makeOptions(const OptionGroup &group)
+{
+    auto *row = new OptionGroupRow(group, texts(), this);
+    connect(row, &OptionGroupRow::optionClicked, this, &pagePCSetting::onButtonClicked);
+    return row;
+}
+
+QWidget *pagePCSetting::buildVersion()
+{
+    auto *version = new QLabel(this);
+    version->setObjectName(QStringLiteral("note"));
+    version->setFont(noteFont);
+    texts().bind(LABEL("Tool Version: "),
+                 [version](const QString &text) { version->setText(text + QStringLiteral(QUORVEL_VERSION)); });
+    return version;
+}
+
+QWidget *pagePCSetting::buildMachine()
+{
+    auto *part = new QWidget(this);
+    m_machines = new QComboBox(part);
+    m_machines->setObjectName(QStringLiteral("machines"));
+    m_machines->setView(new QListView(m_machines)); // the style sheet reaches this view only, not the system's own
+    m_machines->setStyleSheet(QLatin1String(kMachinesStyle));
+    m_machines->setFixedSize(320, 36);
+    m_machines->installEventFilter(new WheelEventFilter(m_machines));
+    connect(m_machines, &QComboBox::currentIndexChanged, this, &pagePCSetting::onComboxIndexChanged);
+    texts().bind(LABEL("Machine Select"), [this](const QString &text) { m_machines->setAccessibleName(text); });
+    auto *hint = new QLabel(part);
+    hint->setObjectName(QStringLiteral("note"));
+    hint->setFont(noteFont);
+    hint->setWordWrap(true);
+    texts().bind(
+        LABEL("Recommended to set [Expand These Monitors] in the System-> Screen when operating multiple monitors."),
+        [hint](const QString &text) { hint->setText(text); });
+    auto *column = new QVBoxLayout(part);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(12);
+    column->addWidget(m_machines);
+    column->addWidget(hint);
+    return part;
+}
+
+void pagePCSetting::updateInterfaceData()
+{
+    PanelPage::updateInterfaceData();
+    showWhatIsSet();
+    updateMachineCombox();
+}
+
+void pagePCSetting::showEvent(QShowEvent *event)
+{
+    PanelPage::showEvent(event);
+    showWhatIsSet(); // other programs may have changed it since
+}
+
+void pagePCSetting::showWhatIsSet()
+{
+    m_startUp->showValue(runsOnStartUp() ? 1 : 0);
+    const ToolLanguage &language = toolLanguageOf(toolLanguageCode());
+    m_language->showValue(static_cast<int>(&language - toolLanguages().data()));
+}
+
+void pagePCSetting::updateMachineCombox()
+{
+    qDebug() << "updateMachineCombox";
+    const Updating updating(*this);
+    m_machines->clear();
+    for (const QByteArray &label : m_session.labels()) {
+        if (!label.isEmpty())
+            m_machines->addItem(QString::fromUtf8(label));
+    }
+    m_machines->setCurrentIndex(currentMonitorIndex);
+    m_machines->update();
+}
+
+bool pagePCSetting::ask(const QString &title, const QString &text)
+{
+    return askYesNo(title, text, window());
+}
+
+void pagePCSetting::onButtonClicked(QPushButton *button)
+{
+    const QString name = button->objectName();
+    showNotice({});
+    if (name.contains(QLatin1String(kStartUp)))
+        setRunOnStartUp(name.contains(QLatin1String("Yes")));
+    else if (name.contains(QLatin1String(kLanguage)))
+        changeLanguage(name);
+}
+
+void pagePCSetting::setRunOnStartUp(bool on)
+{
+    platform::StartUp &startUp = platform::desk().startUp();
+    const QString name = QCoreApplication::applicationName();
+    const bool ok = on ? startUp.setValue(name, programPath()) : startUp.removeValue(name);
+    if (!ok || runsOnStartUp() != on)
+        showNotice(QObject::tr("The system did not allow \"%1\" to be changed.").arg(QObject::tr(kStartUp)));
+    showWhatIsSet();
+}
+
+void pagePCSetting::changeLanguage(const QString &objectName)
+{
+    const auto languages = toolLanguages();
+    const auto language = std::find_if(languages.begin(), languages.end(), [&objectName](const ToolLanguage &each) {
+        return objectName.contains(QString::fromUtf8(each.label));
+    });
+    if (language == languages.end())
+        return;
+    const QString code = QLatin1String(language->code);
+    if (ask(QObject::tr("Language"), QObject::tr("The APP will restart automatically when switching languages."))) {
+        languageSetting(true, code);
+        if (languageSetting(false) == code)
+            return relaunchAndQuit();
+        showNotice(notWritten());
+    }
+    showWhatIsSet();
+}
+
+void pagePCSetting::onComboxIndexChanged(int nIndex)
+{
+    if (isUpdating() || nIndex < 0 || nIndex == currentMonitorIndex)
+        return;
+    showNotice({});
+    if (ask(QObject::tr("Machine Select"), QObject::tr("The APP will reload data when switching machines."))) {
+        if (storeMachine(nIndex)) {
+            currentMonitorIndex = static_cast<std::uint8_t>(nIndex);
+            return relaunchAndQuit();
+        }
+        showNotice(notWritten());
+    }
+    const Updating updating(*this);
+    m_machines->setCurrentIndex(currentMonitorIndex);
+}
+
+bool pagePCSetting::storeMachine(int index)
+{
+    const QString key = QLatin1String(kDeviceIndexKey);
+    settingsInt(key, index, true);
+    return settingsInt(key, 0, false) == index;
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "page/engine/panelpage.h"
+
+class QComboBox;
+class SearchDeviceDlg;
+
+/// The settings of the tool itself: start at log-on, language, and which of the connected monitors it controls.
+class pagePCSetting : public PanelPage
+{
+    Q_OBJECT
+public:
+    pagePCSetting(SearchDeviceDlg &session, CommandQueue &queue, QWidget *parent = nullptr);
+
+    void updateInterfaceData() override;
+
+    /// Fills the machine list with the monitors that the session found. Changes no machine.
+    void updateMachineCombox();
+
+protected:
+    QWidget *buildPart(const char *name) override;
+    void showEvent(QShowEvent *event) override;
+
+    /// Asks before the program starts anew; anything but "No" is true.
+    virtual bool ask(const QString &title, const QString &text);
+
+private Q_SLOTS:
+    void onButtonClicked(QPushButton *button);
+    void onComboxIndexChanged(int nIndex);
+
+private:
+    OptionGroupRow *makeOptions(const OptionGroup &group);
+    QWidget *buildVersion();
+    QWidget *buildMachine();
+    void showWhatIsSet();
+    void setRunOnStartUp(bool on);
+    void changeLanguage(const QString &objectName);
+    bool storeMachine(int index);
+
+    SearchDeviceDlg &m_session;
+    OptionGroupRow *m_startUp = nullptr;
+    OptionGroupRow *m_language = nullptr;
+    QComboBox *m_machines = nullptr;
+};

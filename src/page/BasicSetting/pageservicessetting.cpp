@@ -1,0 +1,219 @@
+#include "page/BasicSetting/pageservicessetting.h"
+
+#include <QDebug>
+#include <QDesktopServices>
+#include <QProcess>
+#include <QUrl>
+#include <QVBoxLayout>
+
+#include "controls/lefttabbutton.h"
+#include "controls/pictures.h"
+#include "controls/sharedfonts.h"
+#include "page/BasicSetting/toollanguage.h"
+#include "page/engine/labels.h"
+#include "platform/desk.h"
+
+namespace {
+
+constexpr char kVersion[] = LABEL("Display Version");
+constexpr char kQrCode[] = LABEL("QR Code");
+constexpr char kKnowledge[] = LABEL("Knowledge");
+constexpr char kUpgrade[] = LABEL("Upgrade");
+
+const Section kVersionPanel[] = {CustomPart{kVersion}};
+const Section kQrCodePanel[] = {CustomPart{kQrCode}};
+const Section kKnowledgePanel[] = {CustomPart{kKnowledge}};
+const Section kUpgradePanel[] = {CustomPart{kUpgrade}};
+const PanelSpec kPanels[] = {
+    {kVersion, "standard", "pageDisplayVersion", kVersionPanel},
+    {kQrCode, "qr_code", "pageQrCode", kQrCodePanel},
+    {kKnowledge, "knowledge", "pageKnowledge", kKnowledgePanel},
+    {kUpgrade, "upgrade", "pageUpgrade", kUpgradePanel},
+};
+
+constexpr char kPictures[] = "img/basicSetting/servicesSetting/";
+constexpr char kUpgrader[] = "Flasqon.exe"; // looked for beside the program and where the system looks
+constexpr platform::milliseconds kStartLimit{30000};
+constexpr int kLineWithQrCode = 1;
+
+/// What the upgrade program calls the product lines; it takes any other monitor for one of the first.
+QString upgradeCode(int productLine)
+{
+    switch (productLine) {
+    case 2:
+        return QStringLiteral("PW");
+    case 3:
+        return QStringLiteral("EXP");
+    default:
+        return QStringLiteral("XB");
+    }
+}
+
+/// The upgrade program knows Simplified Chinese as "zh"; every other code it gets as the tool keeps it.
+QString upgradeLanguage(const QString &code)
+{
+    return code == QLatin1String("zh_CN") ? QStringLiteral("zh") : code;
+}
+
+} // namespace
+
+pageServicesSetting::pageServicesSetting(CommandQueue &queue, QWidget *parent)
+    : PanelPage(QStringLiteral("pageServicesSetting"), OwnList::Shown, queue, parent)
+{
+    buildPanels(kPanels);
+}
+
+pageServicesSetting::~pageServicesSetting()
+{
+    // A child process is killed with its owner, and a monitor whose upgrade is cut off may not start again: the program
+    // goes on without its owner until this process ends.
+    if (m_upgrade && m_upgrade->state() != QProcess::NotRunning) {
+        m_upgrade->disconnect(this);
+        m_upgrade->setParent(nullptr);
+    }
+}
+
+QWidget *pageServicesSetting::buildPart(const char *name)
+{
+    if (qstrcmp(name, kVersion) == 0)
+        return buildVersion();
+    if (qstrcmp(name, kQrCode) == 0)
+        return buildQrCode();
+    if (qstrcmp(name, kKnowledge) == 0)
+        return buildAction(LABEL("Questions and answers about your monitor, in your web browser."),
+                           LABEL("Open the page"), "knowledge", &pageServicesSetting::onKnowledgeButtonClicked);
+    return buildAction(LABEL("Starts the program that brings the monitor's firmware up to date. Leave the monitor "
+                             "switched on until it has finished."),
+                       kUpgrade, "upgrade", &pageServicesSetting::onUpgradeButtonClicked);
+}
+
+QWidget *pageServicesSetting::buildVersion()
+{
+    m_version = new QLabel(this);
+    m_version->setObjectName(QStringLiteral("displayVersion"));
+    m_version->setStyleSheet(QStringLiteral("color: #7bfadb; font-size: 28px;"));
+    texts().bind(kVersion, [this](const QString &text) { m_version->setAccessibleDescription(text); });
+    return m_version;
+}
+
+QWidget *pageServicesSetting::buildQrCode()
+{
+    auto *part = new QWidget(this);
+    auto *picture = new QLabel(part);
+    picture->setObjectName(QStringLiteral("qrCode"));
+    picture->setPixmap(
+        Pictures::load(Pictures::kRoot + QLatin1String(kPictures) + QLatin1String("qr_code.png"), devicePixelRatioF()));
+    texts().bind(kQrCode, [picture](const QString &text) { picture->setAccessibleName(text); });
+    auto *column = new QVBoxLayout(part);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(12);
+    column->addWidget(picture);
+    column->addWidget(makeNote(LABEL("Scan it with a phone to read more about your monitor."), part));
+    return part;
+}
+
+/// A note and the button that does what it says; the pictures are "<pictures>_normal.png" and "<pictures>_check.png".
+QWidget *pageServicesSetting::buildAction(const char *note, const char *label, const char *pictures,
+                                          void (pageServicesSetting::*pressed)())
+{
+    auto *part = new QWidget(this);
+    auto *button = new QPushButton(part);
+    button->setObjectName(QLatin1String(pictures));
+    button->setFixedSize(220, 52);
+    const QString base = Pictures::kRoot + QLatin1String(kPictures) + QLatin1String(pictures);
+    button->setStyleSheet(
+        QStringLiteral("QPushButton { border-image: url(%1_normal.png); color: #c9c9c9; padding-left: 40px;"
+                       " font-size: 16px; }"
+                       "QPushButton:hover, QPushButton:focus, QPushButton:pressed { border-image: url(%1_check.png);"
+                       " color: #ffffff; }")
+            .arg(base));
+    texts().bind(label, [button](const QString &text) { button->setText(text); });
+    connect(button, &QPushButton::clicked, this, pressed);
+    auto *column = new QVBoxLayout(part);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(20);
+    column->addWidget(makeNote(note, part));
+    column->addWidget(button);
+    return part;
+}
+
+QLabel *pageServicesSetting::makeNote(const char *text, QWidget *parent)
+{
+    auto *note = new QLabel(parent);
+    note->setObjectName(QStringLiteral("note"));
+    note->setFont(noteFont);
+    note->setWordWrap(true);
+    texts().bind(text, [note](const QString &translated) { note->setText(translated); });
+    return note;
+}
+
+bool pageServicesSetting::mayShow(const PanelSpec &panel)
+{
+    return panel.label != kQrCode || deviceState.productLine() == kLineWithQrCode;
+}
+
+void pageServicesSetting::updateInterfaceData()
+{
+    PanelPage::updateInterfaceData();
+    showVersion();
+    const bool hasQrCode = deviceState.productLine() == kLineWithQrCode;
+    for (std::size_t i = 0; i < entries().size(); ++i) {
+        if (entries()[i]->objectName() != QLatin1String(kQrCode))
+            continue;
+        entries()[i]->setVisible(hasQrCode);
+        if (!hasQrCode && currentPanel() == static_cast<int>(i))
+            showPanel(0);
+    }
+}
+
+/// The parts are written as the monitor's own menu does: in base 16.
+void pageServicesSetting::showVersion()
+{
+    if (!deviceState.isKnown(Command::Firmware)) {
+        m_version->setText(QStringLiteral("–"));
+        return;
+    }
+    const int firmware = deviceState.value(Command::Firmware);
+    m_version->setText(QStringLiteral("v%1.%2").arg(firmware >> 8 & 0xFF, 0, 16).arg(firmware & 0xFF, 0, 16));
+}
+
+void pageServicesSetting::onKnowledgeButtonClicked()
+{
+    // Translated like a text, so that a language may have a page of its own.
+    const QString address = QObject::tr("https://www.quorvel.example/knowledge");
+    const bool opened = QDesktopServices::openUrl(QUrl(address));
+    showNotice(opened ? QString() : QObject::tr("The page %1 could not be opened.").arg(address));
+}
+
+void pageServicesSetting::onUpgradeButtonClicked()
+{
+    if (m_upgrade && m_upgrade->state() != QProcess::NotRunning) {
+        showNotice(QObject::tr("The upgrade program is running already."));
+        return;
+    }
+    startUpgrade({upgradeCode(deviceState.productLine()), upgradeLanguage(toolLanguageCode())});
+}
+
+void pageServicesSetting::startUpgrade(const QStringList &arguments)
+{
+    showNotice({});
+    delete m_upgrade;
+    m_upgrade = new QProcess(this);
+    connect(m_upgrade, &QProcess::started, this, [this] { showNotice({}); });
+    connect(m_upgrade, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart)
+            upgradeFailed();
+    });
+    m_upgrade->start(QLatin1String(kUpgrader), arguments, QIODevice::ReadWrite);
+    platform::desk().clock().callLater(kStartLimit, m_upgrade, [this] {
+        if (m_upgrade->state() == QProcess::Starting)
+            upgradeFailed();
+    });
+}
+
+void pageServicesSetting::upgradeFailed()
+{
+    disconnect(m_upgrade, &QProcess::errorOccurred, this, nullptr); // one failure is told once
+    qDebug() << "start failed!";
+    showNotice(QObject::tr("The upgrade program %1 could not be started.").arg(QLatin1String(kUpgrader)));
+}

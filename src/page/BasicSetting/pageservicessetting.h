@@ -1,0 +1,37 @@
+#pragma once
+
+#include "page/engine/panelpage.h"
+
+class QProcess;
+
+/// What there is around the monitor: its firmware version, where to read more, and the firmware's upgrade.
+class pageServicesSetting : public PanelPage
+{
+    Q_OBJECT
+public:
+    explicit pageServicesSetting(CommandQueue &queue, QWidget *parent = nullptr);
+    ~pageServicesSetting() override;
+
+    void updateInterfaceData() override;
+
+protected:
+    QWidget *buildPart(const char *name) override;
+    bool mayShow(const PanelSpec &panel) override;
+
+private Q_SLOTS:
+    void onKnowledgeButtonClicked();
+    void onUpgradeButtonClicked();
+
+private:
+    QWidget *buildVersion();
+    QWidget *buildQrCode();
+    QWidget *buildAction(const char *note, const char *label, const char *pictures,
+                         void (pageServicesSetting::*pressed)());
+    QLabel *makeNote(const char *text, QWidget *parent);
+    void showVersion();
+    void startUpgrade(const QStringList &arguments);
+    void upgradeFailed();
+
+    QLabel *m_version = nullptr;
+    QProcess *m_upgrade = nullptr; ///< the last upgrade program that was started
+};

@@ -1,0 +1,421 @@
+#include <QComboBox>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QPushButton>
+#include <QTimer>
+#include <QUrl>
+#include <QWheelEvent>
+#include <QtTest>
+
+#include "controls/lefttabbutton.h"
+#include "ddc_protocol/commandqueue.h"
+#include "ddc_protocol/displayenumeration.h"
+#include "ddc_protocol/settingsstore.h"
+#include "page/BasicSetting/pagepcsetting.h"
+#include "page/BasicSetting/pageservicessetting.h"
+#include "searchdevicedlg.h"
+#include "support/deskfixture.h"
+
+using namespace std::chrono_literals;
+
+namespace {
+
+/// The tool page with its questions answered by the test.
+class AnsweredPage : public pagePCSetting
+{
+public:
+    using pagePCSetting::pagePCSetting;
+    bool answer = true;
+    QStringList questions;
+
+protected:
+    bool ask(const QString &title, const QString &) override
+    {
+        questions.append(title);
+        return answer;
+    }
+};
+
+/// The tool page with the box that users see.
+class AskingPage : public pagePCSetting
+{
+public:
+    using pagePCSetting::ask;
+    using pagePCSetting::pagePCSetting;
+};
+
+/// A row of a data table whose columns are numbers and texts.
+void row(const char *name, const auto &...values)
+{
+    const auto column = [](const auto &value) {
+        if constexpr (std::is_convertible_v<decltype(value), const char *>)
+            return QString::fromUtf8(value);
+        else
+            return value;
+    };
+    (QTest::newRow(name) << ... << column(values));
+}
+
+} // namespace
+
+/// The pages about the tool itself: start at log-on, language, machine; and the services around the monitor.
+class TestToolPages : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void startUpIsWritten();
+    void refusedStartUpFallsBack();
+    void startUpIsReadAnewWhenShown();
+    void languageRestarts_data();
+    void languageRestarts();
+    void declinedLanguage();
+    void shownLanguage_data();
+    void shownLanguage();
+    void unwritableConfig();
+    void machineRestarts();
+    void noMachineChange();
+    void questionBox();
+    void firmwareVersion_data();
+    void firmwareVersion();
+    void qrCodeByProductLine();
+    void knowledgeOpens();
+    void upgradeArguments_data();
+    void upgradeArguments();
+    void missingUpgrader();
+    void slowUpgrader();
+
+public Q_SLOTS:
+    void takeUrl(const QUrl &url) { m_opened = url; }
+
+private:
+    AnsweredPage &toolPage();
+    pageServicesSetting &servicesPage();
+    void press(const QString &name);
+    bool isChecked(const QString &name) { return toolPage().findChild<QPushButton *>(name)->isChecked(); }
+    QComboBox *machines() { return toolPage().findChild<QComboBox *>(); }
+    QString config() const;
+    QString startUpValue() const;
+    void installUpgrader(const char *script);
+
+    std::unique_ptr<DeskFixture> m_desk;
+    std::unique_ptr<SearchDeviceDlg> m_session;
+    std::unique_ptr<CommandQueue> m_queue;
+    std::unique_ptr<AnsweredPage> m_tool;
+    std::unique_ptr<pageServicesSetting> m_services;
+    QByteArray m_path;
+    QUrl m_opened;
+};
+
+void TestToolPages::init()
+{
+    m_path = qgetenv("PATH");
+    m_desk = std::make_unique<DeskFixture>();
+    m_session = std::make_unique<SearchDeviceDlg>();
+    m_session->searchDevices();
+    m_queue = std::make_unique<CommandQueue>();
+    languageSetting(true, QStringLiteral("en"));
+}
+
+void TestToolPages::cleanup()
+{
+    m_tool.reset();
+    m_services.reset();
+    m_queue.reset();
+    m_session.reset();
+    m_desk.reset();
+    qputenv("PATH", m_path);
+}
+
+AnsweredPage &TestToolPages::toolPage()
+{
+    if (!m_tool) {
+        m_tool = std::make_unique<AnsweredPage>(*m_session, *m_queue);
+        m_tool->show();
+    }
+    return *m_tool;
+}
+
+pageServicesSetting &TestToolPages::servicesPage()
+{
+    if (!m_services) {
+        m_services = std::make_unique<pageServicesSetting>(*m_queue);
+        m_services->show();
+    }
+    return *m_services;
+}
+
+void TestToolPages::press(const QString &name)
+{
+    QTest::mouseClick(toolPage().findChild<QPushButton *>(name), Qt::LeftButton);
+}
+
+QString TestToolPages::config() const
+{
+    QFile file(QStringLiteral("config.ini"));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+QString TestToolPages::startUpValue() const
+{
+    return m_desk->desk.startUp().value(QCoreApplication::applicationName()).value_or(QStringLiteral("none"));
+}
+
+/// Puts a program of the upgrade program's name where the system looks first.
+void TestToolPages::installUpgrader(const char *script)
+{
+    qputenv("PATH", m_desk->folder().toLocal8Bit() + ':' + m_path);
+    QFile file(m_desk->folder() + QStringLiteral("/Flasqon.exe"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(script);
+    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+void TestToolPages::startUpIsWritten()
+{
+    QVERIFY(isChecked("Run on startup_No"));
+    press("Run on startup_Yes");
+    QCOMPARE(startUpValue(), QDir::toNativeSeparators(QCoreApplication::applicationFilePath()));
+    QVERIFY(isChecked("Run on startup_Yes"));
+    press("Run on startup_No");
+    QCOMPARE(startUpValue(), QStringLiteral("none"));
+    QVERIFY(isChecked("Run on startup_No"));
+    QCOMPARE(toolPage().notice(), QString());
+}
+
+void TestToolPages::refusedStartUpFallsBack()
+{
+    m_desk->desk.startUp().writable = false;
+    press("Run on startup_Yes");
+    QVERIFY(isChecked("Run on startup_No"));
+    QVERIFY(toolPage().notice().contains("Run on startup"));
+    m_desk->desk.startUp().writable = true;
+    press("Run on startup_Yes");
+    QCOMPARE(toolPage().notice(), QString());
+    m_desk->desk.startUp().writable = false;
+    press("Run on startup_No");
+    QVERIFY(isChecked("Run on startup_Yes"));
+}
+
+void TestToolPages::startUpIsReadAnewWhenShown()
+{
+    toolPage().hide();
+    m_desk->desk.startUp().setValue(QCoreApplication::applicationName(), QCoreApplication::applicationFilePath());
+    toolPage().show();
+    QVERIFY(isChecked("Run on startup_Yes"));
+    toolPage().hide();
+    m_desk->desk.startUp().setValue(QCoreApplication::applicationName(), QStringLiteral("/elsewhere/quorvel"));
+    toolPage().show();
+    QVERIFY(isChecked("Run on startup_No")); // another copy of the program
+}
+
+void TestToolPages::languageRestarts_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QString>("code");
+    row("zh_TW", "繁體中文", "zh_TW");
+    row("en, which is in use", "English", "en");
+    row("zh", "简体中文", "zh");
+    row("ja_JP", "日本語", "ja_JP");
+}
+
+void TestToolPages::languageRestarts()
+{
+    QFETCH(QString, button);
+    QFETCH(QString, code);
+    press("Tool language settings_" + button);
+    QCOMPARE(toolPage().questions, QStringList{"Language"});
+    QCOMPARE(languageSetting(false), code);
+    QCOMPARE(m_desk->desk.started.size(), std::size_t(1));
+    QCOMPARE(m_desk->desk.started[0].program, QCoreApplication::applicationFilePath());
+    QCOMPARE(m_desk->desk.started[0].arguments, QCoreApplication::arguments().mid(1));
+    QCOMPARE(m_desk->desk.started[0].folder, QString());
+}
+
+void TestToolPages::declinedLanguage()
+{
+    toolPage().answer = false;
+    press("Tool language settings_日本語");
+    QCOMPARE(toolPage().questions, QStringList{"Language"});
+    QCOMPARE(languageSetting(false), QStringLiteral("en"));
+    QVERIFY(m_desk->desk.started.empty());
+    QVERIFY(isChecked("Tool language settings_English"));
+}
+
+void TestToolPages::shownLanguage_data()
+{
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<QString>("button");
+    row("traditional, not its prefix", "zh_TW", "繁體中文");
+    row("any other Chinese", "zh_HK", "简体中文");
+    row("ja alone is not known", "ja", "English");
+    row("territory", "en_GB", "English");
+}
+
+void TestToolPages::shownLanguage()
+{
+    QFETCH(QString, code);
+    QFETCH(QString, button);
+    languageSetting(true, code);
+    QVERIFY(isChecked("Tool language settings_" + button));
+}
+
+void TestToolPages::unwritableConfig()
+{
+    const int shown = machines()->currentIndex();
+    QFile::remove(QStringLiteral("config.ini"));
+    QVERIFY(QDir().mkpath(QStringLiteral("config.ini/full"))); // not even an administrator writes over that
+    press("Tool language settings_日本語");
+    QVERIFY(toolPage().notice().contains("config.ini"));
+    QVERIFY(isChecked("Tool language settings_English"));
+    toolPage().showPanel("Machine Select");
+    QCOMPARE(toolPage().notice(), QString());
+    machines()->setCurrentIndex(1 - shown);
+    QVERIFY(toolPage().notice().contains("config.ini"));
+    QCOMPARE(machines()->currentIndex(), shown);
+    QCOMPARE(int(currentMonitorIndex), shown);
+    QVERIFY(m_desk->desk.started.empty());
+}
+
+void TestToolPages::machineRestarts()
+{
+    QCOMPARE(machines()->count(), 2);
+    machines()->setCurrentIndex(1);
+    QCOMPARE(toolPage().questions, QStringList{"Machine Select"});
+    QCOMPARE(int(currentMonitorIndex), 1);
+    QVERIFY(config().contains("[PCSeting]\nDeviceIndex=1"));
+    QCOMPARE(m_desk->desk.started.size(), std::size_t(1));
+    QCOMPARE(m_desk->desk.started[0].arguments, QCoreApplication::arguments().mid(1));
+}
+
+void TestToolPages::noMachineChange()
+{
+    machines()->setCurrentIndex(0);
+    for (int round = 0; round < 2; ++round) {
+        currentMonitorIndex = static_cast<std::uint8_t>(1 - round);
+        m_desk->takeLog();
+        toolPage().updateMachineCombox();
+        QVERIFY(m_desk->takeLog().contains("updateMachineCombox"));
+        QCOMPARE(machines()->currentIndex(), 1 - round);
+    }
+    QWheelEvent wheel(QPointF(9, 9), machines()->mapToGlobal(QPointF(9, 9)), {}, QPoint(0, -120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(machines(), &wheel);
+    QCOMPARE(toolPage().questions, QStringList());
+    toolPage().answer = false;
+    machines()->setCurrentIndex(1);
+    QCOMPARE(toolPage().questions.size(), 1);
+    QCOMPARE(machines()->currentIndex(), 0);
+    QCOMPARE(settingsInt(QStringLiteral("PCSeting/DeviceIndex"), 0, false), 0);
+    QVERIFY(m_desk->desk.started.empty());
+}
+
+void TestToolPages::questionBox()
+{
+    AskingPage page(*m_session, *m_queue);
+    for (const auto key : {Qt::Key_Enter, Qt::Key_Escape}) {
+        QTimer::singleShot(0, this, [key] { QTest::keyClick(QApplication::activeModalWidget(), key); });
+        QCOMPARE(page.ask(QStringLiteral("Title"), QStringLiteral("Text?")), key == Qt::Key_Enter);
+    }
+}
+
+void TestToolPages::firmwareVersion_data()
+{
+    QTest::addColumn<int>("reply");
+    QTest::addColumn<QString>("text");
+    row("10 is a", 0x010A, "v1.a");
+    row("16 is 10", 0x0110, "v1.10");
+    row("both ends", 0xFF00, "vff.0");
+    row("no answer", -1, "–");
+}
+
+void TestToolPages::firmwareVersion()
+{
+    QFETCH(int, reply);
+    deviceState.clear();
+    deviceState.store(Command::Firmware, reply);
+    QTEST(servicesPage().findChild<QLabel *>("displayVersion")->text(), "text");
+}
+
+void TestToolPages::qrCodeByProductLine()
+{
+    for (const int line : {1, 2, 3, 0, 1}) {
+        deviceState.store(Command::Capability, line << 4);
+        servicesPage().updateInterfaceData();
+        servicesPage().showPanel("QR Code");
+        QCOMPARE(servicesPage().findChild<QLabel *>("qrCode")->isVisible(), line == 1);
+        QCOMPARE(servicesPage().findChild<LeftTabButton *>("QR Code")->isVisible(), line == 1);
+    }
+}
+
+void TestToolPages::knowledgeOpens()
+{
+    QDesktopServices::setUrlHandler(QStringLiteral("https"), this, "takeUrl");
+    servicesPage().findChild<QPushButton *>("knowledge")->click();
+    QDesktopServices::unsetUrlHandler(QStringLiteral("https"));
+    QVERIFY(m_opened.isValid());
+    QCOMPARE(m_opened.scheme(), QStringLiteral("https"));
+    QCOMPARE(servicesPage().notice(), QString());
+}
+
+void TestToolPages::upgradeArguments_data()
+{
+    QTest::addColumn<int>("line");
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<QString>("arguments");
+    row("line 1, en", 1, "en", "XB en\n");
+    row("line 2, zh", 2, "zh", "PW zh\n");
+    row("line 3, zh_CN", 3, "zh_CN", "EXP zh\n");
+    row("no line, another language", 0, "ja_JP", "XB ja_JP\n");
+    row("the system's language", 1, "", "XB " + QLocale::system().name() + QLatin1Char(10));
+}
+
+void TestToolPages::upgradeArguments()
+{
+    QFETCH(int, line);
+    QFETCH(QString, code);
+    deviceState.store(Command::Capability, line << 4);
+    languageSetting(true, code);
+    installUpgrader("#!/bin/sh\necho \"$*\"\nread wait\n");
+    auto *button = servicesPage().findChild<QPushButton *>("upgrade");
+    button->click();
+    auto *upgrade = servicesPage().findChild<QProcess *>();
+    QVERIFY(upgrade->waitForReadyRead());
+    QTEST(QString::fromLocal8Bit(upgrade->readAllStandardOutput()), "arguments");
+    button->click();
+    QVERIFY(!servicesPage().notice().isEmpty()); // one upgrade at a time
+    QCOMPARE(servicesPage().findChildren<QProcess *>(), QList<QProcess *>{upgrade});
+    upgrade->write("\n");
+    QVERIFY(upgrade->waitForFinished());
+    m_desk->clock.advance(30s);
+    QVERIFY(!m_desk->takeLog().contains("start failed!"));
+}
+
+void TestToolPages::missingUpgrader()
+{
+    qputenv("PATH", m_desk->folder().toLocal8Bit());
+    servicesPage().findChild<QPushButton *>("upgrade")->click();
+    servicesPage().findChild<QProcess *>()->waitForStarted();
+    QVERIFY(servicesPage().notice().contains("Flasqon.exe"));
+    m_desk->clock.advance(30s);
+    QCOMPARE(m_desk->takeLog().count("start failed!"), 1);
+}
+
+void TestToolPages::slowUpgrader()
+{
+    installUpgrader("#!/bin/sh\n");
+    servicesPage().findChild<QPushButton *>("upgrade")->click();
+    m_desk->clock.advance(29999ms);
+    QCOMPARE(servicesPage().notice(), QString());
+    m_desk->clock.advance(1ms);
+    QCOMPARE(m_desk->takeLog().count("start failed!"), 1);
+    QVERIFY(!servicesPage().notice().isEmpty());
+    QVERIFY(servicesPage().findChild<QProcess *>()->waitForFinished()); // it came after all
+    QCOMPARE(servicesPage().notice(), QString());
+}
+
+QTEST_MAIN(TestToolPages)
+#include "tst_toolpages.moc"
