@@ -28,6 +28,8 @@ private Q_SLOTS:
     void familiesWithoutTheModeAskToChoose();
     void interfaceModes_data();
     void interfaceModes();
+    void gameEntriesByModel();
+    void unreadableBlockIsTriedOnce();
     void closingHides();
     void dragging();
     void refreshKeepsADraggedValue();
@@ -136,6 +138,9 @@ void TestMainWindow::entriesByModel()
     start(9, 1);
     QVERIFY(!entry(0, "Zelmar Mode"));
     QVERIFY(entry(0, "MPCS/LD"));
+    QVERIFY(!m_window->scenePage()->optionGroup(Command::LocalDimming));
+    QVERIFY(!m_window->scenePage()->slider("Halo Control"));
+    QVERIFY(m_window->scenePage()->slider("Brightness"));
 }
 
 void TestMainWindow::entrySwitchesTheScene()
@@ -206,6 +211,33 @@ void TestMainWindow::interfaceModes()
         QTest::mouseClick(entry(0, "Night Mode"), Qt::LeftButton);
         QCOMPARE(m_desk->takeRequests(), QStringList());
     }
+}
+
+void TestMainWindow::gameEntriesByModel()
+{
+    for (const std::size_t monitor : {0, 1}) { // the second one has no game functions
+        start(10, monitor);
+        QTest::mouseClick(m_window->tabs()->tabs()[5], Qt::LeftButton);
+        m_window->setInterfaceMode(kByModel);
+        QVERIFY(entry(5, "Picture Enhance")->isSelectable());
+        QCOMPARE(entry(5, "Emberline")->isSelectable(), monitor == 0);
+        m_window->setInterfaceMode(kUnlocked);
+        if (monitor == 0)
+            cleanup();
+    }
+}
+
+void TestMainWindow::unreadableBlockIsTriedOnce()
+{
+    start(9);
+    m_desk->monitor().setValue(0x22, 10); // by the monitor's own buttons
+    m_desk->monitor().dropChunks(virtualdesk::kForEver);
+    m_session->delayedSearchDevices();
+    QVERIFY(m_desk->takeCommands().contains("R 0a"));
+    for (int round = 0; round < 5; ++round)
+        m_desk->clock.advance(platform::milliseconds(200)); // the reconnections that follow a failed block
+    QVERIFY(!m_desk->takeCommands().contains("R 0a"));
+    QCOMPARE(m_desk->clock.tasksWaiting(), std::size_t(0));
 }
 
 void TestMainWindow::closingHides()

@@ -35,6 +35,7 @@ private Q_SLOTS:
     void unknownValuesAreAskedFor();
     void refusedCodeStaysUnknown();
     void answersDoNotOverwriteTheUser();
+    void refusedSettingIsTold();
     void valuesOutOfRange();
     void listByModel_data();
     void listByModel();
@@ -216,6 +217,15 @@ void TestPages::answersDoNotOverwriteTheUser()
     settle();
     QCOMPARE(deviceState.value(Command::PowerLed), 4);
     QVERIFY(button(System, "Power LED_Level3")->isChecked());
+}
+
+void TestPages::refusedSettingIsTold()
+{
+    m_desk->monitor().refuse(0xC5, 2);
+    QTest::mouseClick(button(System, "Power LED_Level3"), Qt::LeftButton);
+    QVERIFY(page(System)->notice().contains("did not take"));
+    QTest::mouseClick(button(System, "Power LED_Level3"), Qt::LeftButton);
+    QCOMPARE(page(System)->notice(), QString());
 }
 
 void TestPages::valuesOutOfRange()

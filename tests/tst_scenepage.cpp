@@ -32,12 +32,12 @@ private Q_SLOTS:
     void colorEnhanceHoldsSaturation();
     void motionOptionsByScene_data();
     void motionOptionsByScene();
-    void partsByModel();
     void halves_data();
     void halves();
     void halfWithUnreadBlock();
     void halfWithUnreadableBlock();
     void chooseScene();
+    void factoryEditsAreNotTheUsers();
     void unknownGroupIsIgnored();
 
 private:
@@ -307,14 +307,6 @@ void TestScenePage::motionOptionsByScene()
     QCOMPARE(!m_page->optionGroup(Command::LocalDimming)->isHidden(), dimming);
 }
 
-void TestScenePage::partsByModel()
-{
-    start(10, 1); // a monitor without local dimming and halo control
-    QVERIFY(!m_page->optionGroup(Command::LocalDimming));
-    QVERIFY(!m_page->slider("Halo Control"));
-    QVERIFY(m_page->slider("Brightness"));
-}
-
 void TestScenePage::halves_data()
 {
     QTest::addColumn<int>("scene");
@@ -377,6 +369,17 @@ void TestScenePage::chooseScene()
     QCOMPARE(int(m_desk->monitor().block(10).at(0)), 5); // the drag belonged to the mode before
     QVERIFY(!deviceState.sceneBlockValid());             // and the block on the page does no longer
     QVERIFY(m_page->isDefaultView());
+}
+
+void TestScenePage::factoryEditsAreNotTheUsers()
+{
+    start(10);
+    QTest::mouseClick(half("        Default"), Qt::LeftButton);
+    deviceState.storeUserValue(Command::BlackLevel, 3); // on another page, while the factory mode is on
+    QSignalSpy ended(m_page.get(), &pageSceneSetting::modeChangeEnded);
+    QTest::mouseClick(half("        Custom"), Qt::LeftButton);
+    QTRY_COMPARE(ended.count(), 1);
+    QCOMPARE(m_page->slider("Black Level")->value(), int(m_desk->monitor().block(10).at(5)));
 }
 
 void TestScenePage::unknownGroupIsIgnored()

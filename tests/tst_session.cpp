@@ -66,6 +66,7 @@ private Q_SLOTS:
     void reasons_data();
     void reasons();
     void secondSearchIsRefused();
+    void arrivalDuringTheStartUpRead();
     void sceneReads_data();
     void sceneReads();
     void brokenBlockSchedulesReconnect();
@@ -253,6 +254,20 @@ void TestSession::secondSearchIsRefused()
     };
     m_session->searchDevices();
     QVERIFY(!m_host.onRefresh);
+}
+
+void TestSession::arrivalDuringTheStartUpRead()
+{
+    bool arrived = false; // the progress dialog lets such events in
+    const int listener = m_desk->monitor().addListener([&](const virtualdesk::Request &request) {
+        if (request.code == 0xEC && !std::exchange(arrived, true))
+            m_session->delayedSearchDevices();
+    });
+    m_session->searchDevices();
+    m_desk->monitor().removeListener(listener);
+    QCOMPARE(m_desk->takeCommands().count("R ed"), 1); // one read, not one within the other
+    QCOMPARE(m_session->exits, 0);
+    QCOMPARE(reloadEdidType.load(), int(kIdle));
 }
 
 void TestSession::sceneReads_data()
