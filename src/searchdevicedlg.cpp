@@ -101,7 +101,7 @@ SearchDeviceDlg::PassResult SearchDeviceDlg::runPass(int pass)
     m_fillingBox = false;
 
     if (m_host && (reloadEdidType == kReconnect || reloadEdidType == kIdle)) {
-        qDebug() << "Reconnect device...";
+        qDebug() << "Reconnet device...";
         m_host->reconnectPages();
         return PassResult::Abandoned;
     }
