@@ -12,6 +12,7 @@ TITLE = "QUORVEL"
 EDID_KEY = (r"HKLM\SYSTEM\CurrentControlSet\Enum\DISPLAY\Default_Monitor\0000&0000\Device Parameters")
 COMMAND_SECONDS = 60
 START_SECONDS = 40
+RUN_KEY = r"HKCU\Software\Microsoft\Windows\CurrentVersion\Run"
 
 
 def wait_for(condition, what, seconds=15.0):
@@ -83,6 +84,18 @@ class Rig:
             ["delete", EDID_KEY, "/v", "EDID"]
         self.run(["wine", "reg", *change, "/f"], check=block is not None)
 
+    def started_with_windows(self):
+        """The command that starts the program when the user logs on; None when it is not in that list."""
+        found = re.search(r"QUORVEL\s+REG_SZ\s+(.+)", self.run(["wine", "reg", "query", RUN_KEY, "/v", "QUORVEL"]))
+        return found and found[1].strip()
+
+    def forget_start(self):
+        self.run(["wine", "reg", "delete", RUN_KEY, "/v", "QUORVEL", "/f"])
+
+    def copies(self):
+        """The process numbers of all running copies of the program, as Windows counts them."""
+        return re.findall(r"(\w+) +\d+ .*'quorvel\.exe'", self.run(["wine", "winedbg", "--command", "info proc"]))
+
     def screenshot(self, path):
         self.run(["import", "-window", "root", str(path)])
 
@@ -144,6 +157,10 @@ class Run:
             if int(shape.get("WIDTH", 0)) >= at_least:
                 return tuple(int(shape[key]) for key in ("X", "Y", "WIDTH", "HEIGHT"))
         return None
+
+    def active_title(self):
+        """The title of the window that has the keyboard; unlike a search, in any script."""
+        return self.rig.run(["xdotool", "getactivewindow", "getwindowname"])
 
     def click(self, window, x, y):
         """Presses the left mouse button at a place of the window."""

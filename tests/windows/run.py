@@ -3,12 +3,13 @@
 and the exit code. One function a case; the last line says how many passed."""
 
 import argparse
+import shutil
 import subprocess
 import sys
 import time
 import traceback
 
-from rig import Rig, Run, edid, time_of, wait_for
+from rig import START_SECONDS, Rig, Run, edid, time_of, wait_for
 
 MOVIE_CUSTOM = 10
 STANDARD = (1, 2)
@@ -23,10 +24,23 @@ LEFT_BAR_X = 116
 FIRST_ENTRY_Y = 112
 CLOSE_BUTTON_X = 1243
 TOP_BAR_Y = 36
+BASIC_TAB_X = 1100
+SERVICE_SETTINGS = 3
+TOOL_SETTINGS = 4
+PAGE_LIST_X = 380
+PAGE_LIST_Y = 136
+RUN_ON_STARTUP = {"Yes": (710, 189), "No": (796, 189)}
+LANGUAGES = {"en": (796, 243), "ja_JP": (968, 243)}
+UPGRADE_BUTTON = (620, 245)  # whether the note above it takes one line or two
 
 
 def entry_y(index):
     return FIRST_ENTRY_Y + 48 * index
+
+
+def open_basic_page(run, window, index):
+    run.click(window, BASIC_TAB_X, TOP_BAR_Y)
+    run.click(window, LEFT_BAR_X, entry_y(index))
 
 
 def codes_of(requests):
@@ -182,6 +196,79 @@ def case_closed_window(rig):
         assert run.processes[0].poll() is None
 
 
+def case_run_key(rig):
+    """"Run on startup" writes the program's own place into the list of what Windows starts, and takes it out again."""
+    rig.forget_start()
+    try:
+        with started(rig, "run_key") as run:
+            window = run.start_and_show()
+            open_basic_page(run, window, TOOL_SETTINGS)
+            assert rig.started_with_windows() is None
+            run.click(window, *RUN_ON_STARTUP["Yes"])
+            command = wait_for(rig.started_with_windows, "the value QUORVEL")
+            assert command == "Z:" + str(rig.program / "quorvel.exe").replace("/", "\\"), command
+            run.click(window, *RUN_ON_STARTUP["No"])
+            wait_for(lambda: rig.started_with_windows() is None, "the value to go")
+    finally:
+        rig.forget_start()  # or the next session of this prefix would begin with the program
+
+
+def choose_language(run, window, code, question):
+    """Presses the language's button in the tool settings and answers the question, whose title is given, with yes."""
+    open_basic_page(run, window, TOOL_SETTINGS)
+    run.click(window, *LANGUAGES[code])
+    wait_for(lambda: run.active_title() == question, "the question")
+    run.press("Return")
+
+
+def case_restart(rig):
+    """Another language ends the program with 0, and a new copy runs in its place, alone and in that language."""
+    try:
+        with started(rig, "restart") as run:
+            window = run.start_and_show()
+            first = rig.copies()
+            choose_language(run, window, "ja_JP", "Language")
+            assert run.processes[0].wait(15) == 0, run.processes[0].returncode
+            window = wait_for(lambda: run.window(at_least=800), "the window of the new copy", START_SECONDS)
+            second = rig.copies()
+            assert len(first) == len(second) == 1 and first != second, (first, second)
+            assert "Language=ja_JP" in (run.folder / "config.ini").read_text().split()
+            assert len(run.logged("ReadData from device begin")) == 2, run.log()
+            # A copy that finds no monitor ends of itself: so the last one does.
+            rig.put_edid(None)
+            choose_language(run, window, "en", "言語")
+            wait_for(lambda: run.window("Exit"), "the exit box of the last copy", START_SECONDS)
+            last = rig.copies()
+            assert len(last) == 1 and last != second, (second, last)
+            run.press("Return")
+            wait_for(lambda: not rig.copies(), "the last copy to end")
+    finally:
+        rig.run(["wine", "taskkill", "/f", "/im", "quorvel.exe"])  # a copy that a failed case left behind
+
+
+def case_upgrader(rig):
+    """The upgrade program, beside the program or in the working folder, is told the product line and the language."""
+    for name, line, stored, entry, beside, expected in (
+            ("upgrader_line_1", 1, None, 3, True, ["XB", "en_US"]),
+            ("upgrader_line_2", 2, "ja_JP", 2, False, ["PW", "ja_JP"]),
+            ("upgrader_line_3", 3, "zh_CN", 2, False, ["EXP", "zh"])):
+        with started(rig, name, registers=REGISTERS | {0xED: line << 4}) as run:
+            if stored:
+                (run.folder / "config.ini").write_text(f"[General]\nLanguage={stored}\n")
+            upgrader = (rig.program if beside else run.folder) / "Flasqon.exe"
+            shutil.copy(rig.standins / "Flasqon.exe", upgrader)
+            try:
+                window = run.start_and_show()
+                open_basic_page(run, window, SERVICE_SETTINGS)
+                run.click(window, PAGE_LIST_X, PAGE_LIST_Y + 48 * entry)
+                run.click(window, *UPGRADE_BUTTON)
+                told = run.folder / "flasqon.txt"
+                wait_for(told.exists, "the upgrade program")
+                assert told.read_text().split("\n") == [*expected, ""], told.read_text()
+            finally:
+                upgrader.unlink()
+
+
 CASES = [value for name, value in list(globals().items()) if name.startswith("case_")]
 
 
@@ -201,7 +288,7 @@ def run_case(rig, case):
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--program", required=True, help="folder of quorvel.exe and its libraries")
-    parser.add_argument("--standins", required=True, help="folder of dxva2.dll and windowprobe.exe")
+    parser.add_argument("--standins", required=True, help="folder of dxva2.dll, windowprobe.exe and Flasqon.exe")
     parser.add_argument("--work", required=True, help="where the Wine prefix and the cases' folders are made")
     parser.add_argument("names", nargs="*", help="cases to run, all when none is named")
     arguments = parser.parse_args()
