@@ -5,6 +5,8 @@
 declare -A PLACE=(
     [tab]='268 36' [tab-step]='104 0'
     [entry]='116 108' [entry-step]='0 48'
+    [panel]='380 141' [panel-step]='0 48'     # in a settings page's own list
+    [option]='300 190'                        # the first of a panel's options
     [default-half]='1039 142' [custom-half]='1166 142'
     [slider-left]='449 216' [slider-right]='667 216' # of the first slider, Brightness: its groove's ends
     [page]='460 600'
@@ -39,6 +41,14 @@ click_at() {
     read -r x y < <(place "${@:2}")
     point_at "$1" "$x" "$y"
     timeout 5 xdotool click 1
+}
+
+# Presses the option some steps after the first, by the keyboard, as widths differ: choose_option WINDOW STEPS
+choose_option() {
+    local step
+    click_at "$1" option
+    for ((step = 0; step < $2; ++step)); do timeout 5 xdotool key Right; done
+    timeout 5 xdotool key space
 }
 
 # Drags Brightness in a few moves, as a hand would: drag_brightness WINDOW FROM TO

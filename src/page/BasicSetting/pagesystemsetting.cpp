@@ -31,8 +31,9 @@ QWidget *pageSystemSetting::buildPart(const char *)
     auto *part = new QWidget(this);
     auto *grid = new QGridLayout(part);
     grid->setContentsMargins(0, 0, 0, 0);
+    grid->setVerticalSpacing(16);
     auto *question = new QLabel(part);
-    question->setStyleSheet(QStringLiteral("color: #c9c9c9;"));
+    question->setStyleSheet(QStringLiteral("color: #c9c9c9; font-size: 14px;"));
     question->setWordWrap(true);
     texts().bind(LABEL("Set everything back to how the monitor left the factory? It will be away for some seconds."),
                  [question](const QString &text) { question->setText(text); });

@@ -43,7 +43,7 @@ QWidget *PageOffice::buildPart(const char *)
     row->setContentsMargins(0, 0, 0, 0);
     for (const auto &[field, label] : {std::pair(m_width, LABEL("Width")), std::pair(m_height, LABEL("Height"))}) {
         auto *caption = new QLabel(m_paperSize);
-        caption->setStyleSheet(QStringLiteral("color: #c9c9c9;"));
+        caption->setStyleSheet(QStringLiteral("color: #c9c9c9; font-size: 15px; margin-right: 8px;"));
         texts().bind(label, [caption, spin = field](const QString &text) {
             caption->setText(text);
             spin->setAccessibleName(text);
@@ -69,6 +69,7 @@ QSpinBox *PageOffice::makeSizeField(const QString &name)
     field->setObjectName(name);
     field->setSuffix(QStringLiteral(" mm"));
     field->setFixedSize(110, 34);
+    field->setButtonSymbols(QAbstractSpinBox::NoButtons); // typed, or stepped by the arrow keys
     field->installEventFilter(new WheelEventFilter(field));
     return field;
 }

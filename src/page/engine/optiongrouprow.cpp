@@ -15,6 +15,7 @@ constexpr int kCaptionWidth = 150;
 constexpr int kCaptionPixels = 15;
 constexpr int kButtonPixels = 14;
 constexpr int kButtonHeight = 34;
+constexpr int kHalfHeight = 40;
 constexpr int kTextMargin = 10; // on either side of a button's text
 constexpr int kSpacing = 8;
 
@@ -66,7 +67,7 @@ OptionGroupRow::OptionGroupRow(const OptionGroup &group, BoundTexts &texts, QWid
     : QWidget(parent), m_group(group), m_caption(new CaptionLabel(QString(), kCaptionPixels, this)),
       m_exclusive(new QButtonGroup(this))
 {
-    m_caption->setFixedSize(kCaptionWidth, kButtonHeight);
+    m_caption->setFixedSize(kCaptionWidth, group.look == GroupLook::Switch ? kHalfHeight : kButtonHeight);
     texts.bind(group.label, [this](const QString &text) { m_caption->setText(text); });
     m_caption->setStyleSheet(QStringLiteral("QLabel { color: #FFFFFF; }QLabel:disabled { color: #000; }"));
 

@@ -1,5 +1,7 @@
 #include "page/engine/panelpage.h"
 
+#include <algorithm>
+
 #include <QHBoxLayout>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -129,10 +131,12 @@ QWidget *PanelPage::buildPanel(const PanelSpec &panel)
     column->addWidget(title);
     const std::size_t before = optionGroups().size();
     buildSections(panel.sections, column);
-    for (std::size_t i = before; i < optionGroups().size(); ++i) {
-        if (qstrcmp(optionGroups()[i]->group().label, panel.label) == 0)
-            optionGroups()[i]->hideCaption();
-    }
+    const std::span rows = std::span(optionGroups()).subspan(before);
+    const auto repeatsTitle = [&panel](const OptionGroupRow *row) {
+        return qstrcmp(row->group().label, panel.label) == 0;
+    };
+    if (std::all_of(rows.begin(), rows.end(), repeatsTitle)) // else the buttons would not line up
+        std::for_each(rows.begin(), rows.end(), [](OptionGroupRow *row) { row->hideCaption(); });
     column->addStretch(1);
     return content;
 }
