@@ -172,6 +172,8 @@ void TestPages::slidersSend()
     slider->setSliderPosition(value);
     m_queue->drain();
     QTEST(m_desk->takeCommands(), "moved");
+    if (which == Picture)
+        QVERIFY(deviceState.value(Command::BlackLevel) != value); // stored when it is sent
     slider->setSliderDown(false);
     m_queue->drain();
     QTEST(m_desk->takeCommands(), "released");

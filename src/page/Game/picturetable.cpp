@@ -19,14 +19,15 @@ constexpr Option kLocalDimming[] = {
     {LABEL("Close"), 2}, {LABEL("Low"), 3}, {LABEL("Smooth"), 4}, {LABEL("Medium"), 5}, {LABEL("High"), 6}};
 
 constexpr SliderSpec kColorEnhance[] = {
-    {"Color Enhance", LABEL("Color Enhance"), Command::ColorEnhance, 0, 10, SendOn::Release}};
+    {"Color Enhance", LABEL("Color Enhance"), Command::ColorEnhance, 0, 10, SendOn::ReleaseWithStore}};
 constexpr SliderSpec kContrastEnhance[] = {
-    {"CR Enhance", LABEL("CR Enhance"), Command::ContrastEnhance, 0, 5, SendOn::Release}};
+    {"CR Enhance", LABEL("CR Enhance"), Command::ContrastEnhance, 0, 5, SendOn::ReleaseWithStore}};
 constexpr SliderSpec kShadowBalance[] = {
-    {"Shadow Balance", LABEL("Shadow Balance"), Command::BlackLevel, 0, 100, SendOn::Release}};
-constexpr SliderSpec kSuperResolution[] = {{"SR", LABEL("SR"), Command::SuperResolution, 0, 5, SendOn::Release}};
+    {"Shadow Balance", LABEL("Shadow Balance"), Command::BlackLevel, 0, 100, SendOn::ReleaseWithStore}};
+constexpr SliderSpec kSuperResolution[] = {
+    {"SR", LABEL("SR"), Command::SuperResolution, 0, 5, SendOn::ReleaseWithStore}};
 constexpr SliderSpec kHaloControl[] = {
-    {"Halo Control", LABEL("Halo Control"), Command::HaloControl, 0, 100, SendOn::Release}};
+    {"Halo Control", LABEL("Halo Control"), Command::HaloControl, 0, 100, SendOn::ReleaseWithStore}};
 
 constexpr OptionGroup makeSwitch(const char *label, Command command, std::span<const Option> halves = kSwitchOptions)
 {

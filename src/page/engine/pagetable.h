@@ -34,7 +34,9 @@ struct OptionGroup
 inline constexpr Option kSwitchOptions[] = {{QT_TRANSLATE_NOOP("QObject", "         Enable"), 1},
                                             {QT_TRANSLATE_NOOP("QObject", "         Disable"), 0}};
 
-enum class SendOn { Move, Release };
+/// When a slider's value is sent: on every move, or when it is let go. It is stored on every move, or, by the last,
+/// only when it is sent.
+enum class SendOn { Move, Release, ReleaseWithStore };
 
 /// Slider colours; Mint is the look's own.
 enum class Accent { Mint, Red, Yellow, Green, Cyan, Blue, Magenta };

@@ -100,10 +100,11 @@ void SettingsPage::onSliderChanged(const QString &name, int value, bool released
     const std::optional<Command> command = entry->choose ? entry->choose() : entry->spec.command;
     if (!command)
         return;
-    const bool storesOnResult = m_results.contains(*command);
-    if (!storesOnResult)
+    const SendOn sendOn = entry->spec.sendOn;
+    const bool storesLater = m_results.contains(*command) || (sendOn == SendOn::ReleaseWithStore && !released);
+    if (!storesLater)
         deviceState.storeUserValue(*command, value);
-    if (released == (entry->spec.sendOn == SendOn::Release)) {
+    if (released == (sendOn != SendOn::Move)) {
         m_queue.post(*command, value);
         apply(m_after, *command, value);
     }
