@@ -3,6 +3,7 @@
 #include "platform/clock.h"
 #include "platform/devicenotifications.h"
 #include "platform/displays.h"
+#include "platform/foreground.h"
 #include "platform/globalkeys.h"
 #include "platform/monitorconfiguration.h"
 #include "platform/process.h"
@@ -23,6 +24,7 @@ public:
     virtual StartUp &startUp() = 0;
     virtual DeviceNotifications &deviceNotifications() = 0;
     virtual GlobalKeys &globalKeys() = 0;
+    virtual Foreground &foreground() = 0;
     virtual Clock &clock() = 0;
 
     /// Called once when the main window is shown: a desk that has something of its own to show opens it now.
