@@ -1,4 +1,5 @@
 #include <QCloseEvent>
+#include <QMessageBox>
 #include <QtTest>
 
 #include "controls/lefttabbutton.h"
@@ -7,12 +8,14 @@
 #include "ddc_protocol/transport.h"
 #include "leftbar.h"
 #include "mainwindow.h"
+#include "page/Nightloom/ledworkthread.h"
 #include "page/Scene/pagescenesetting.h"
 #include "page/emptypage.h"
 #include "searchdevicedlg.h"
 #include "support/deskfixture.h"
 #include "toptab.h"
 #include "toptabframe.h"
+#include "usb-hid/hidtransport.h"
 
 class TestMainWindow : public QObject
 {
@@ -36,6 +39,9 @@ private Q_SLOTS:
     void reconnectShowsTheMonitorsState();
     void unpluggingAndPlugging();
     void keyboardWalksTheTabs();
+    void accessoryIsOpenedAndFollowed();
+    void missingAccessoryIsTold();
+    void busyModeStopsTheWorker();
 
 private:
     void start(int scene, std::size_t monitor = 0);
@@ -314,6 +320,62 @@ void TestMainWindow::keyboardWalksTheTabs()
     QTest::keyClick(tabs[2], Qt::Key_Space);
     QCOMPARE(m_window->tabs()->current(), 2);
     QVERIFY(tabs[2]->accessibleName() == "Color Space");
+}
+
+void TestMainWindow::accessoryIsOpenedAndFollowed()
+{
+    start(10);
+    virtualdesk::SimulatedAccessory &accessory = m_desk->desk.accessory();
+    QVERIFY(hidHandle);
+    QCOMPARE(accessory.handlesOpen(), 1);
+    accessory.setPlugged(false);
+    QVERIFY(hidHandle); // nobody noticed yet
+    accessory.setPlugged(true);
+    AccessoryReport report;
+    buildLiveStop(report);
+    QCOMPARE(writeHid(report), HidWrite::Done); // the arrival opened it anew
+    QCOMPARE(accessory.handlesOpen(), 1);
+    m_window.reset();
+    QVERIFY(!hidHandle);
+    QCOMPARE(accessory.handlesOpen() + accessory.handleFaults(), 0);
+}
+
+void TestMainWindow::missingAccessoryIsTold()
+{
+    start(10);
+    QVERIFY(m_window->ensureHidConnected());
+    m_desk->desk.accessory().setPlugged(false);
+    for (int i = 0; i < 2; ++i) { // every time
+        QStringList box;
+        QTimer::singleShot(0, this, [&box] {
+            const auto *shown = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            QVERIFY(shown);
+            QCOMPARE(shown->icon(), QMessageBox::Warning);
+            QVERIFY(shown->styleSheet().startsWith("QMessageBox {background-color: #101611;}QLabel{ color: white;}"));
+            box = {shown->windowTitle(), shown->text()};
+            for (QAbstractButton *button : shown->buttons())
+                box.append(button->text());
+            shown->buttons().first()->click();
+        });
+        QVERIFY(!m_window->ensureHidConnected());
+        QCOMPARE(box, (QStringList{"Warning", "No Type-C data cable or HDMI/DP + USB data cable connected.", "OK"}));
+    }
+    m_desk->desk.accessory().setPlugged(true);
+    QVERIFY(m_window->ensureHidConnected());
+}
+
+void TestMainWindow::busyModeStopsTheWorker()
+{
+    start(10);
+    ledWorkThread *worker = ledWorkThread::instance();
+    worker->begin(ledWorkThread::ClockLoop);
+    QTRY_VERIFY(m_desk->desk.accessory().state().liveFrames > 0);
+    m_window->setInterfaceMode(kBusy);
+    QCOMPARE(worker->state(), ledWorkThread::Stopped);
+    QVERIFY(worker->wait(10000));
+    worker->begin(ledWorkThread::ClockLoop);
+    m_window.reset(); // the program's end
+    QVERIFY(worker->isFinished());
 }
 
 QTEST_MAIN(TestMainWindow)
