@@ -105,7 +105,7 @@ private:
     void decideEntriesByModel();
     void stopAccessoryWork();
     void setAccessoryBusy(bool busy);
-    void closeAccessory();
+    void endAccessoryWork();
     void checkMonitor();
     bool rereadSceneMode();
 
