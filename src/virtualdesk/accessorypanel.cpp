@@ -89,7 +89,7 @@ QString uploadText(const AccessoryUpload &upload, int form)
                                                   : QObject::tr("mode %1").arg(upload.mode, 2, 16, QLatin1Char('0'));
     if (!upload.isComplete())
         return QObject::tr("%1, chunk %2 of %3").arg(kind).arg(upload.received).arg(upload.total);
-    return QObject::tr("%1, %2 frames").arg(kind).arg(frameCount(upload, form));
+    return QObject::tr("%1, frames: %2").arg(kind).arg(frameCount(upload, form));
 }
 
 QString switchText(int value)
