@@ -1,4 +1,5 @@
 #include <QCloseEvent>
+#include <QMessageBox>
 #include <QtTest>
 
 #include "controls/lefttabbutton.h"
@@ -10,6 +11,7 @@
 #include "leftbar.h"
 #include "mainwindow.h"
 #include "page/BasicSetting/hotkeyoverlay.h"
+#include "page/Nightloom/ledworkthread.h"
 #include "page/Scene/pagescenesetting.h"
 #include "page/emptypage.h"
 #include "page/engine/optiongrouprow.h"
@@ -20,6 +22,7 @@
 #include "support/deskfixture.h"
 #include "toptab.h"
 #include "toptabframe.h"
+#include "usb-hid/hidtransport.h"
 
 using namespace std::chrono_literals;
 
@@ -47,6 +50,9 @@ private Q_SLOTS:
     void keyboardWalksTheTabs();
     void hotKeysShow();
     void followedScenesShow();
+    void accessoryIsOpenedAndFollowed();
+    void missingAccessoryIsTold();
+    void busyModeStopsTheWorker();
 
 private:
     void start(
@@ -357,6 +363,62 @@ void TestMainWindow::followedScenesShow()
     m_desk->desk.applications().bringToFront(1);
     QCOMPARE(m_desk->monitor().value(0x22), std::uint16_t(13));
     QVERIFY(entry(0, "Night Mode")->isChecked());
+}
+
+void TestMainWindow::accessoryIsOpenedAndFollowed()
+{
+    start(10);
+    virtualdesk::SimulatedAccessory &accessory = m_desk->desk.accessory();
+    QVERIFY(hidHandle);
+    QCOMPARE(accessory.handlesOpen(), 1);
+    accessory.setPlugged(false);
+    QVERIFY(hidHandle); // nobody noticed yet
+    accessory.setPlugged(true);
+    AccessoryReport report;
+    buildLiveStop(report);
+    QCOMPARE(writeHid(report), HidWrite::Done); // the arrival opened it anew
+    QCOMPARE(accessory.handlesOpen(), 1);
+    m_window.reset();
+    QVERIFY(!hidHandle);
+    QCOMPARE(accessory.handlesOpen() + accessory.handleFaults(), 0);
+}
+
+void TestMainWindow::missingAccessoryIsTold()
+{
+    start(10);
+    QVERIFY(m_window->ensureHidConnected());
+    m_desk->desk.accessory().setPlugged(false);
+    for (int i = 0; i < 2; ++i) { // every time
+        QStringList box;
+        QTimer::singleShot(0, this, [&box] {
+            const auto *shown = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            QVERIFY(shown);
+            QCOMPARE(shown->icon(), QMessageBox::Warning);
+            QVERIFY(shown->styleSheet().startsWith("QMessageBox {background-color: #101611;}QLabel{ color: white;}"));
+            box = {shown->windowTitle(), shown->text()};
+            for (QAbstractButton *button : shown->buttons())
+                box.append(button->text());
+            shown->buttons().first()->click();
+        });
+        QVERIFY(!m_window->ensureHidConnected());
+        QCOMPARE(box, (QStringList{"Warning", "No Type-C data cable or HDMI/DP + USB data cable connected.", "OK"}));
+    }
+    m_desk->desk.accessory().setPlugged(true);
+    QVERIFY(m_window->ensureHidConnected());
+}
+
+void TestMainWindow::busyModeStopsTheWorker()
+{
+    start(10);
+    ledWorkThread *worker = ledWorkThread::instance();
+    worker->begin(ledWorkThread::ClockLoop);
+    QTRY_VERIFY(m_desk->desk.accessory().state().liveFrames > 0);
+    m_window->setInterfaceMode(kBusy);
+    QCOMPARE(worker->state(), ledWorkThread::Stopped);
+    QVERIFY(worker->wait(10000));
+    worker->begin(ledWorkThread::ClockLoop);
+    m_window.reset(); // the program's end
+    QVERIFY(worker->isFinished());
 }
 
 QTEST_MAIN(TestMainWindow)

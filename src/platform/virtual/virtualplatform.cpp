@@ -8,6 +8,7 @@
 
 #include "platform/systemclock.h"
 #include "platform/virtual/virtualforeground.h"
+#include "platform/virtual/virtualhid.h"
 #include "virtualdesk/deskscript.h"
 #include "virtualdesk/deskwindow.h"
 #include "virtualdesk/requestlog.h"
@@ -269,7 +270,7 @@ VirtualPlatform::VirtualPlatform(VirtualDesk &desk, Clock &clock)
       m_startUp(std::make_unique<VirtualStartUp>(desk)),
       m_deviceNotifications(std::make_unique<VirtualNotifications>(desk)),
       m_globalKeys(std::make_unique<VirtualGlobalKeys>(desk)),
-      m_foreground(std::make_unique<VirtualForeground>(desk.applications()))
+      m_foreground(std::make_unique<VirtualForeground>(desk.applications())), m_hid(std::make_unique<VirtualHid>(desk))
 {
 }
 
@@ -308,6 +309,11 @@ GlobalKeys &VirtualPlatform::globalKeys()
 Foreground &VirtualPlatform::foreground()
 {
     return *m_foreground;
+}
+
+Hid &VirtualPlatform::hid()
+{
+    return *m_hid;
 }
 
 Clock &VirtualPlatform::clock()
