@@ -117,7 +117,7 @@ private:
     void checkMonitor();
     void fillPages();
     void showShortcutResult(int function, Command command, int value, bool ok);
-    QString valueText(Command command, int value) const;
+    QString valueText(int function, Command command, int value) const;
     bool rereadSceneMode();
 
     SearchDeviceDlg &m_session;

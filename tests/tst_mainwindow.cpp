@@ -50,6 +50,7 @@ private Q_SLOTS:
     void keyboardWalksTheTabs();
     void hotKeysShow();
     void followedScenesShow();
+    void refusedHotKeyIsNotKept();
     void accessoryIsOpenedAndFollowed();
     void missingAccessoryIsTold();
     void busyModeStopsTheWorker();
@@ -419,6 +420,19 @@ void TestMainWindow::busyModeStopsTheWorker()
     worker->begin(ledWorkThread::ClockLoop);
     m_window.reset(); // the program's end
     QVERIFY(worker->isFinished());
+}
+
+void TestMainWindow::refusedHotKeyIsNotKept()
+{
+    start(10, 0, [] { saveShortcuts({true, {{1, true, QStringLiteral("Ctrl+1"), {}}}}); });
+    m_desk->clock.advance(200ms);
+    m_desk->monitor().refuseWrites(4); // the command with its retry
+    m_desk->desk.pressKey(platform::kModifierControl, '1');
+    m_desk->clock.advance(10s);
+    QCOMPARE(m_desk->monitor().value(0x22), std::uint16_t(10));
+    QCOMPARE(deviceState.value(Command::SceneMode), 10); // what is on
+    QVERIFY(entry(0, "Movie Mode")->isChecked());
+    QVERIFY(!m_window->overlay()->text().contains(QStringLiteral("parameters")));
 }
 
 QTEST_MAIN(TestMainWindow)

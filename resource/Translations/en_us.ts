@@ -28,6 +28,10 @@
         <translation>%1 cannot be written. Nothing was changed.</translation>
     </message>
     <message>
+        <source>%1 cannot be written: what is set here lasts until the program ends.</source>
+        <translation>%1 cannot be written: what is set here lasts until the program ends.</translation>
+    </message>
+    <message>
         <source>%1 is in the list already.</source>
         <translation>%1 is in the list already.</translation>
     </message>
@@ -596,8 +600,8 @@
         <translation>Frame</translation>
     </message>
     <message>
-        <source>From now on another program has it, unless QUORVEL had it before.</source>
-        <translation>From now on another program has it, unless QUORVEL had it before.</translation>
+        <source>From now on another program has it.</source>
+        <translation>From now on another program has it.</translation>
     </message>
     <message>
         <source>Function</source>
@@ -1414,6 +1418,10 @@
     <message>
         <source>The program has not registered this combination.</source>
         <translation>The program has not registered this combination.</translation>
+    </message>
+    <message>
+        <source>The program has this combination already.</source>
+        <translation>The program has this combination already.</translation>
     </message>
     <message>
         <source>The program heard it.</source>

@@ -28,6 +28,10 @@
         <translation>%1 に書き込めません。変更はありません。</translation>
     </message>
     <message>
+        <source>%1 cannot be written: what is set here lasts until the program ends.</source>
+        <translation>%1 に書き込めません。ここでの設定はプログラムの終了まで有効です。</translation>
+    </message>
+    <message>
         <source>%1 is in the list already.</source>
         <translation>%1 は既にリストにあります。</translation>
     </message>
@@ -596,8 +600,8 @@
         <translation>フレーム</translation>
     </message>
     <message>
-        <source>From now on another program has it, unless QUORVEL had it before.</source>
-        <translation>QUORVEL が先に登録していなければ、以後は別のプログラムのものです。</translation>
+        <source>From now on another program has it.</source>
+        <translation>以後は別のプログラムのものです。</translation>
     </message>
     <message>
         <source>Function</source>
@@ -1414,6 +1418,10 @@
     <message>
         <source>The program has not registered this combination.</source>
         <translation>プログラムはこの組み合わせを登録していません。</translation>
+    </message>
+    <message>
+        <source>The program has this combination already.</source>
+        <translation>この組み合わせは既に登録されています。</translation>
     </message>
     <message>
         <source>The program heard it.</source>

@@ -28,6 +28,10 @@
         <translation>无法写入 %1，未作任何更改。</translation>
     </message>
     <message>
+        <source>%1 cannot be written: what is set here lasts until the program ends.</source>
+        <translation>%1 无法写入：此处的设置在程序结束前有效。</translation>
+    </message>
+    <message>
         <source>%1 is in the list already.</source>
         <translation>%1 已在列表中。</translation>
     </message>
@@ -596,8 +600,8 @@
         <translation>边框</translation>
     </message>
     <message>
-        <source>From now on another program has it, unless QUORVEL had it before.</source>
-        <translation>从现在起由另一个程序占用，除非 QUORVEL 已先注册。</translation>
+        <source>From now on another program has it.</source>
+        <translation>从现在起由另一个程序占用。</translation>
     </message>
     <message>
         <source>Function</source>
@@ -1414,6 +1418,10 @@
     <message>
         <source>The program has not registered this combination.</source>
         <translation>程序未注册该组合键。</translation>
+    </message>
+    <message>
+        <source>The program has this combination already.</source>
+        <translation>QUORVEL 已注册该组合键。</translation>
     </message>
     <message>
         <source>The program heard it.</source>

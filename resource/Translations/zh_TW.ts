@@ -28,6 +28,10 @@
         <translation>無法寫入 %1，未做任何變更。</translation>
     </message>
     <message>
+        <source>%1 cannot be written: what is set here lasts until the program ends.</source>
+        <translation>%1 無法寫入：此處的設定在程式結束前有效。</translation>
+    </message>
+    <message>
         <source>%1 is in the list already.</source>
         <translation>%1 已在清單中。</translation>
     </message>
@@ -596,8 +600,8 @@
         <translation>邊框</translation>
     </message>
     <message>
-        <source>From now on another program has it, unless QUORVEL had it before.</source>
-        <translation>從現在起由另一個程式佔用，除非 QUORVEL 已先註冊。</translation>
+        <source>From now on another program has it.</source>
+        <translation>從現在起由另一個程式佔用。</translation>
     </message>
     <message>
         <source>Function</source>
@@ -1414,6 +1418,10 @@
     <message>
         <source>The program has not registered this combination.</source>
         <translation>程式未註冊該組合鍵。</translation>
+    </message>
+    <message>
+        <source>The program has this combination already.</source>
+        <translation>QUORVEL 已註冊該組合鍵。</translation>
     </message>
     <message>
         <source>The program heard it.</source>
