@@ -1,0 +1,139 @@
+#include "page/Nightloom/frametabs.h"
+
+#include <algorithm>
+
+#include <QScrollArea>
+#include <QSignalBlocker>
+#include <QTabBar>
+
+#include "page/Nightloom/matrixeditor.h"
+
+/// What a tab holds: the editor in the middle of a sheet.
+class FrameSheet : public QScrollArea
+{
+public:
+    FrameSheet(int id, MatrixEditor *matrixEditor, QWidget *parent)
+        : QScrollArea(parent), frameId(id), editor(matrixEditor)
+    {
+        setFrameShape(QFrame::NoFrame);
+        setAlignment(Qt::AlignCenter);
+        setFocusPolicy(Qt::NoFocus);
+        setWidget(editor);
+        connect(editor, &MatrixEditor::cursorMoved, this,
+                [this](const QRect &cell) { ensureVisible(cell.center().x(), cell.center().y()); });
+    }
+
+    const int frameId;
+    MatrixEditor *const editor;
+};
+
+FrameTabs::FrameTabs(int form, QWidget *parent) : QTabWidget(parent), m_form(form)
+{
+    setUsesScrollButtons(true);
+    setDocumentMode(true);
+    tabBar()->setDrawBase(false);
+    tabBar()->setExpanding(false);
+    connect(this, &QTabWidget::currentChanged, this, [this] { showOnionSkin(); });
+}
+
+FrameSheet *FrameTabs::sheet(int index) const
+{
+    return static_cast<FrameSheet *>(widget(index));
+}
+
+MatrixEditor *FrameTabs::editor(int index) const
+{
+    const FrameSheet *found = sheet(index);
+    return found ? found->editor : nullptr;
+}
+
+void FrameTabs::apply(const AnimationState &state, int place, const std::function<void(int removed)> &removed)
+{
+    {
+        const QSignalBlocker quiet(this);
+        setUpdatesEnabled(false);
+        tabBar()->hide(); // or it would lay out all tabs anew for each of them
+        removeTabsWithout(state, removed);
+        for (int i = 0; i < static_cast<int>(state.frames.size()); ++i) {
+            const AnimationFrame &frame = state.frames[static_cast<std::size_t>(i)];
+            if (i < count() && sheet(i)->frameId == frame.id)
+                editor(i)->setFrame(toFrame(frame.cells, m_form).flat());
+            else
+                addSheet(i, frame);
+        }
+        setCurrentIndex(std::clamp(place, 0, std::max(count() - 1, 0)));
+        tabBar()->show();
+        setUpdatesEnabled(true);
+    }
+    Q_EMIT currentChanged(currentIndex());
+}
+
+void FrameTabs::removeTabsWithout(const AnimationState &state, const std::function<void(int removed)> &removed)
+{
+    int gone = 0;
+    for (int i = count() - 1; i >= 0; --i) {
+        const auto stays = [id = sheet(i)->frameId](const AnimationFrame &frame) { return frame.id == id; };
+        if (std::any_of(state.frames.begin(), state.frames.end(), stays))
+            continue;
+        QWidget *page = widget(i);
+        removeTab(i);
+        delete page;
+        ++gone;
+        if (removed)
+            removed(gone);
+    }
+}
+
+void FrameTabs::addSheet(int index, const AnimationFrame &frame)
+{
+    MatrixEditor *matrixEditor = createMatrixEditor(m_form, nullptr);
+    if (m_cellSize != 0)
+        matrixEditor->setCellSize(m_cellSize);
+    matrixEditor->setFrame(toFrame(frame.cells, m_form).flat());
+    auto *page = new FrameSheet(frame.id, matrixEditor, this);
+    connect(matrixEditor, &MatrixEditor::edited, this, [this, page] { Q_EMIT edited(indexOf(page)); });
+    insertTab(index, page, QString::number(frame.number));
+}
+
+QByteArrayList FrameTabs::digits() const
+{
+    QByteArrayList all;
+    for (int i = 0; i < count(); ++i)
+        all.append(editor(i)->frame().digits());
+    return all;
+}
+
+void FrameTabs::setCellSize(int pixels)
+{
+    m_cellSize = pixels;
+    for (int i = 0; i < count(); ++i)
+        editor(i)->setCellSize(pixels);
+}
+
+void FrameTabs::setOnionSkin(bool on)
+{
+    m_onionSkin = on;
+    showOnionSkin();
+}
+
+void FrameTabs::showOnionSkin()
+{
+    const int current = currentIndex();
+    for (int i = 0; i < count(); ++i) {
+        const bool shines = m_onionSkin && i == current && i > 0;
+        editor(i)->setOnionSkin(shines ? std::optional(editor(i - 1)->frame()) : std::nullopt);
+    }
+}
+
+void FrameTabs::showInstead(int index)
+{
+    const MatrixEditor *shown = editor(index);
+    for (int i = 0; i < count(); ++i)
+        editor(i)->setShownInstead(shown && i == currentIndex() ? std::optional(shown->frame()) : std::nullopt);
+}
+
+void FrameTabs::updateControlText()
+{
+    for (int i = 0; i < count(); ++i)
+        editor(i)->updateControlText();
+}
