@@ -19,13 +19,15 @@ namespace virtualdesk {
 ///       "displays": [{"name": "\\\\.\\DISPLAY1", "bounds": [0, 0, 1920, 1080]}],
 ///       "monitors": [{"model": "Q27-OLED" | "Q32-MPCS" | "Q34-MINI", "display": 0, "plugged": true,
 ///                     "edid": "00ff..." | {"random": 64}, "values": {"0x10": 30}, "latency": ..., "faults": [event]}],
+///       "accessory": {"plugged": true, "form": 0, "faults": [...]},
 ///       "events": [{"at_ms": 1000, "monitor": 0, "event": ...}]
 ///     }
 ///
 /// An event is {"event": kind} with kind plug, unplug, recover, deaf, refuse (with "code"), refuse_writes, drop_chunks,
 /// lose_replies, garble (both may have a "code"), latency (with "read_ms", "write_ms") or delay (with "ms"). "times" is
 /// a number of requests or "always"; it is 1 unless given, for deaf "always". at_ms counts from the main window's
-/// opening.
+/// opening. A fault of the accessory is {"event": "refuse_writes" or "fail_open", "times": ...}, or {"event": "unplug",
+/// "at_write": n}.
 std::optional<DeskSetup> parseDeskScript(const QByteArray &json, QString &error);
 
 /// The desk of this process: from the file that QUORVEL_DESK_SCRIPT names, else the default desk with realistic timing.

@@ -4,6 +4,7 @@
 #include "platform/win32/win32devicenotifications.h"
 #include "platform/win32/win32displays.h"
 #include "platform/win32/win32globalkeys.h"
+#include "platform/win32/win32hid.h"
 #include "platform/win32/win32monitorconfiguration.h"
 #include "platform/win32/win32process.h"
 #include "platform/win32/win32startup.h"
@@ -21,6 +22,7 @@ public:
     StartUp &startUp() override { return m_startUp; }
     DeviceNotifications &deviceNotifications() override { return m_deviceNotifications; }
     GlobalKeys &globalKeys() override { return m_globalKeys; }
+    Hid &hid() override { return m_hid; }
     Clock &clock() override { return m_clock; }
 
 private:
@@ -30,6 +32,7 @@ private:
     Win32StartUp m_startUp;
     Win32DeviceNotifications m_deviceNotifications;
     Win32GlobalKeys m_globalKeys;
+    Win32Hid m_hid;
     SystemClock m_clock;
 };
 
