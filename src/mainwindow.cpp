@@ -21,6 +21,7 @@
 #include "page/BasicSetting/pagesystemsetting.h"
 #include "page/Game/pagepictureenhanc.h"
 #include "page/IO/pageiosetting.h"
+#include "page/Nightloom/pageledmatrixcanvas.h"
 #include "page/Office/pageoffice.h"
 #include "page/Scene/pagescenesetting.h"
 #include "page/emptypage.h"
@@ -132,8 +133,21 @@ void MainWindow::createPages()
     addPage(PageId::ToolSetting, new pagePCSetting(m_session, *m_queue, m_pages));
     addPage(PageId::ServicesSetting, new pageServicesSetting(*m_queue, m_pages));
     addPage(PageId::IoSetting, new pageIOSetting(*m_queue, m_pages));
+    createAccessoryPages();
     m_emptyPage = new EmptyPage(m_pages);
     m_pages->addWidget(m_emptyPage);
+}
+
+void MainWindow::createAccessoryPages()
+{
+    const auto isBusy = [this](auto *page) {
+        using AnyPage = std::remove_pointer_t<decltype(page)>;
+        connect(page, &AnyPage::busyBegins, this, [this] { setInterfaceMode(kBusy); });
+        connect(page, &AnyPage::busyEnded, this, [this] { setInterfaceMode(kBusyEnded); });
+    };
+    auto *canvas = new pageLEDMatrixCanvas([] { return true; }, m_pages);
+    isBusy(canvas);
+    addPage(PageId::LedCanvas, canvas);
 }
 
 void MainWindow::addPage(PageId id, Page *page)

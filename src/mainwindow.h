@@ -89,6 +89,7 @@ private:
     void setUpFrame();
     void initialise();
     void createPages();
+    void createAccessoryPages();
     void addPage(PageId id, Page *page);
     void createTrayIcon();
     void chooseEntry(int family, int index);

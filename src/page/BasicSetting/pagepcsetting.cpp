@@ -7,16 +7,15 @@
 #include <QDebug>
 #include <QDir>
 #include <QHBoxLayout>
-#include <QListView>
 
 #include "controls/messagebox.h"
 #include "controls/sharedfonts.h"
-#include "controls/wheeleventfilter.h"
 #include "ddc_protocol/displayenumeration.h"
 #include "ddc_protocol/settingsstore.h"
 #include "page/BasicSetting/toollanguage.h"
 #include "page/engine/labels.h"
 #include "page/engine/optiongrouprow.h"
+#include "page/engine/pagestyle.h"
 #include "platform/desk.h"
 #include "relaunch.h"
 #include "searchdevicedlg.h"
@@ -28,15 +27,6 @@ constexpr char kStartUp[] = LABEL("Run on startup");
 constexpr char kLanguage[] = LABEL("Tool language settings");
 constexpr char kVersion[] = "version";
 constexpr char kMachine[] = "machine";
-
-// Added to what the page's style says of every combo box: its arrow without a frame, and the open list.
-const char *const kMachinesStyle =
-    "QComboBox::drop-down { border: none; width: 28px; }"
-    "QComboBox::down-arrow { image: url(:/resource/img/option/drop.png); width: 14px; height: 14px; }"
-    "QListView { background-color: #222d28; color: #c9c9c9; border: 1px solid #31403a; outline: none; font-size: 14px; "
-    "padding: 4px; }"
-    "QListView::item { min-height: 32px; }"
-    "QListView::item:selected { background-color: #1b5043; color: #ffffff; }";
 
 constexpr Option kYesNo[] = {{LABEL("Yes"), 1}, {LABEL("No"), 0}};
 
@@ -115,10 +105,8 @@ QWidget *pagePCSetting::buildMachine()
     auto *part = new QWidget(this);
     m_machines = new QComboBox(part);
     m_machines->setObjectName(QStringLiteral("machines"));
-    m_machines->setView(new QListView(m_machines)); // the style sheet reaches this view only, not the system's own
-    m_machines->setStyleSheet(QLatin1String(kMachinesStyle));
+    dressComboBox(m_machines);
     m_machines->setFixedSize(320, 36);
-    m_machines->installEventFilter(new WheelEventFilter(m_machines));
     connect(m_machines, &QComboBox::currentIndexChanged, this, &pagePCSetting::onComboxIndexChanged);
     texts().bind(LABEL("Machine Select"), [this](const QString &text) { m_machines->setAccessibleName(text); });
     auto *hint = new QLabel(part);

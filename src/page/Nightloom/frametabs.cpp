@@ -19,6 +19,7 @@ public:
         setAlignment(Qt::AlignCenter);
         setFocusPolicy(Qt::NoFocus);
         setWidget(editor);
+        editor->setAutoFillBackground(false); // the scroll area has switched it on
         connect(editor, &MatrixEditor::cursorMoved, this,
                 [this](const QRect &cell) { ensureVisible(cell.center().x(), cell.center().y()); });
     }
@@ -27,13 +28,19 @@ public:
     MatrixEditor *const editor;
 };
 
-FrameTabs::FrameTabs(int form, QWidget *parent) : QTabWidget(parent), m_form(form)
+FrameTabs::FrameTabs(QWidget *parent) : QTabWidget(parent)
 {
     setUsesScrollButtons(true);
     setDocumentMode(true);
     tabBar()->setDrawBase(false);
     tabBar()->setExpanding(false);
     connect(this, &QTabWidget::currentChanged, this, [this] { showOnionSkin(); });
+}
+
+void FrameTabs::setForm(int form)
+{
+    m_form = form;
+    m_cellSize = 0;
 }
 
 FrameSheet *FrameTabs::sheet(int index) const

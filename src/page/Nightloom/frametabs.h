@@ -15,8 +15,10 @@ class FrameTabs : public QTabWidget
 {
     Q_OBJECT
 public:
-    /// For frames of a form.
-    explicit FrameTabs(int form, QWidget *parent = nullptr);
+    explicit FrameTabs(QWidget *parent = nullptr);
+
+    /// From the next animation on its frames are of this form.
+    void setForm(int form);
 
     /// Shows an animation: tabs of frames that it does not have go, those that are missing come, the others stay and
     /// take the cells. The tab at @p place, or the nearest, becomes the open one. @p removed is told how many tabs are
@@ -52,7 +54,7 @@ private:
     void removeTabsWithout(const AnimationState &state, const std::function<void(int removed)> &removed);
     void showOnionSkin();
 
-    const int m_form;
+    int m_form = 0;
     int m_cellSize = 0; ///< 0 until chosen: each editor as it is
     bool m_onionSkin = false;
 };

@@ -5,11 +5,12 @@
 #include <QProgressBar>
 #include <QPushButton>
 
+#include "controls/sliderwidget.h"
 #include "ledmatrix/matrixform.h"
 #include "page/Nightloom/animationfile.h"
 #include "page/Nightloom/frametabs.h"
 #include "page/Nightloom/matrixeditor.h"
-#include "page/engine/labels.h"
+#include "usb-hid/accessoryupload.h"
 
 namespace {
 
@@ -25,8 +26,7 @@ AnimationState firstState(int form, int &nextId)
 } // namespace
 
 pageLEDMatrixCanvas::pageLEDMatrixCanvas(AccessoryCheck ensureConnected, QWidget *parent)
-    : QLabel(parent), m_ensureConnected(std::move(ensureConnected)), m_form(matrixForm),
-      m_history(firstState(m_form, m_nextId)), m_thread(*this), m_tabs(new FrameTabs(m_form, this)),
+    : QLabel(parent), m_ensureConnected(std::move(ensureConnected)), m_thread(*this), m_tabs(new FrameTabs(this)),
       m_count(new QLabel(this)), m_notice(new QLabel(this)), m_progress(new QProgressBar(this))
 {
     buildForm();
@@ -40,13 +40,39 @@ pageLEDMatrixCanvas::pageLEDMatrixCanvas(AccessoryCheck ensureConnected, QWidget
             m_tabs->showInstead(-1);
         updateButtons();
     });
-    m_tabs->apply(m_history.state(), 0);
-    updateButtons();
+    followMatrixForm();
 }
 
 pageLEDMatrixCanvas::~pageLEDMatrixCanvas()
 {
+    stopUploads(); // the window would wait for them
     m_thread.wait();
+}
+
+/// Another form of the accessory was chosen: its own animation is drawn on, and the other one waits.
+void pageLEDMatrixCanvas::followMatrixForm()
+{
+    if (m_busy || m_form == matrixForm)
+        return;
+    endStrokes();
+    m_form = matrixForm;
+    m_history = &m_histories.try_emplace(m_form, firstState(m_form, m_nextId)).first->second;
+    m_tabs->setForm(m_form);
+    m_tabs->apply(m_history->state(), m_history->state().place);
+    const QSignalBlocker quiet(m_cellSize->slider());
+    m_cellSize->setValue(m_form == kRectangleForm ? LEDMatrixWidgetRect::kCellSize : LEDMatrixWidget::kCellSize);
+    onChanged();
+}
+
+void pageLEDMatrixCanvas::updateInterfaceData()
+{
+    followMatrixForm();
+}
+
+void pageLEDMatrixCanvas::showEvent(QShowEvent *event)
+{
+    QLabel::showEvent(event);
+    followMatrixForm();
 }
 
 void pageLEDMatrixCanvas::updateControlText()
@@ -81,7 +107,7 @@ void pageLEDMatrixCanvas::addFrame()
     endStrokes();
     if (!mayAddFrame())
         return;
-    AnimationState state = m_history.state();
+    AnimationState state = m_history->state();
     state.place = static_cast<int>(state.frames.size());
     state.frames.push_back(newFrame(state));
     change(std::move(state));
@@ -92,7 +118,7 @@ void pageLEDMatrixCanvas::duplicateFrame()
     endStrokes();
     if (m_tabs->count() == 0 || !mayAddFrame())
         return;
-    AnimationState state = m_history.state();
+    AnimationState state = m_history->state();
     const int original = m_tabs->currentIndex();
     AnimationFrame copy = newFrame(state);
     copy.cells = state.frames[static_cast<std::size_t>(original)].cells;
@@ -106,7 +132,7 @@ void pageLEDMatrixCanvas::deleteFrame()
     endStrokes();
     if (m_tabs->count() == 0)
         return;
-    AnimationState state = m_history.state();
+    AnimationState state = m_history->state();
     state.place = m_tabs->currentIndex();
     state.frames.erase(state.frames.begin() + state.place);
     if (state.frames.empty())
@@ -119,7 +145,7 @@ void pageLEDMatrixCanvas::cleanFrame()
     endStrokes();
     if (m_tabs->count() == 0)
         return;
-    AnimationState state = m_history.state();
+    AnimationState state = m_history->state();
     state.place = m_tabs->currentIndex();
     QBitArray &cells = state.frames[static_cast<std::size_t>(state.place)].cells;
     if (cells.count(true) == 0)
@@ -131,20 +157,20 @@ void pageLEDMatrixCanvas::cleanFrame()
 void pageLEDMatrixCanvas::undo()
 {
     endStrokes();
-    if (m_busy || !m_history.canUndo())
+    if (m_busy || !m_history->canUndo())
         return;
-    const int place = m_history.undo();
-    m_tabs->apply(m_history.state(), place);
+    const int place = m_history->undo();
+    m_tabs->apply(m_history->state(), place);
     onChanged();
 }
 
 void pageLEDMatrixCanvas::redo()
 {
     endStrokes();
-    if (m_busy || !m_history.canRedo())
+    if (m_busy || !m_history->canRedo())
         return;
-    const int place = m_history.redo();
-    m_tabs->apply(m_history.state(), place);
+    const int place = m_history->redo();
+    m_tabs->apply(m_history->state(), place);
     onChanged();
 }
 
@@ -166,17 +192,17 @@ void pageLEDMatrixCanvas::endStrokes()
 
 void pageLEDMatrixCanvas::change(AnimationState state)
 {
-    m_history.push(std::move(state));
-    m_tabs->apply(m_history.state(), m_history.state().place);
+    m_history->push(std::move(state));
+    m_tabs->apply(m_history->state(), m_history->state().place);
     onChanged();
 }
 
 void pageLEDMatrixCanvas::onEdited(int index)
 {
-    AnimationState state = m_history.state();
+    AnimationState state = m_history->state();
     state.place = index;
     state.frames[static_cast<std::size_t>(index)].cells = toBits(m_tabs->editor(index)->frame());
-    m_history.push(std::move(state)); // the editor shows it already
+    m_history->push(std::move(state)); // the editor shows it already
     onChanged();
 }
 
@@ -194,8 +220,8 @@ void pageLEDMatrixCanvas::updateButtons()
     m_count->setText(frames.arg(m_tabs->count()));
     for (const char *label : {"Duplicate Frame", "Delete Frame", "Clean Frame", "Preview"})
         button(label)->setEnabled(any);
-    button("Undo")->setEnabled(m_history.canUndo());
-    button("Redo")->setEnabled(m_history.canRedo());
+    button("Undo")->setEnabled(m_history->canUndo());
+    button("Redo")->setEnabled(m_history->canRedo());
     button("Write Animate")->setEnabled(m_saved);
     button("Preview")->setChecked(m_player.isPlaying());
     m_cellSize->setEnabled(any);

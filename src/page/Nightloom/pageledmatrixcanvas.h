@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 
 #include <QLabel>
 #include <QPointer>
@@ -31,7 +32,7 @@ public:
     explicit pageLEDMatrixCanvas(AccessoryCheck ensureConnected, QWidget *parent = nullptr);
     ~pageLEDMatrixCanvas() override;
 
-    void updateInterfaceData() override {} // nothing here comes from the monitor
+    void updateInterfaceData() override;
     void updateControlText() override;
     QWidget *widget() override { return this; }
 
@@ -41,7 +42,7 @@ public:
     QString notice() const { return m_notice->text(); }
 
     /// Counts the frames. It is compared before a frame is added, so one frame more than the maximum finds room.
-    int frameCounter() const { return static_cast<int>(m_history.state().frames.size()); }
+    int frameCounter() const { return static_cast<int>(m_history->state().frames.size()); }
     std::uint8_t modeByte() const { return m_mode; }
     /// The file last saved, exported or imported; empty before.
     QString dataFile() const { return m_dataFile; }
@@ -76,6 +77,8 @@ protected:
     /// A warning box with "OK".
     virtual void warn(const QString &text);
 
+    void showEvent(QShowEvent *event) override;
+
 private Q_SLOTS:
     void onProgress(int value);
 
@@ -85,10 +88,10 @@ private:
     void buildFrameTools(QVBoxLayout *column);
     void buildViewTools(QVBoxLayout *column);
     void buildFileTools(QVBoxLayout *column);
-    SliderWidget *makeSlider(const char *label, int minimum, int maximum, int value);
     QWidget *buildModeBox();
     void bindShortcuts();
 
+    void followMatrixForm();
     void endStrokes();
     bool mayAddFrame();
     AnimationFrame newFrame(AnimationState &state);
@@ -106,9 +109,10 @@ private:
 
     AccessoryCheck m_ensureConnected;
     BoundTexts m_texts;
-    const int m_form;
+    int m_form = -1;
     int m_nextId = 0;
-    AnimationHistory m_history;
+    std::map<int, AnimationHistory> m_histories; ///< by form: an animation of one cannot be shown in the other
+    AnimationHistory *m_history = nullptr;       ///< of the form that is shown
     FramePlayer m_player;
     LEDThread m_thread;
     FrameTabs *m_tabs;

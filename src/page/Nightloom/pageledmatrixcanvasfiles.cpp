@@ -7,11 +7,11 @@
 #include <QProgressBar>
 
 #include "controls/messagebox.h"
-#include "ledmatrix/matrixform.h"
 #include "ledmatrix/matrixframe.h"
 #include "page/Nightloom/animationfile.h"
 #include "page/Nightloom/frametabs.h"
 #include "page/Nightloom/pageledmatrixcanvas.h"
+#include "page/Nightloom/toolcolumn.h"
 #include "usb-hid/accessoryupload.h"
 
 namespace {
@@ -137,8 +137,8 @@ void pageLEDMatrixCanvas::importFrames()
     }
     const double sum = static_cast<double>(m_tabs->count()) + static_cast<double>(animation.frames.size());
     const int step = std::max(static_cast<int>(0.1 * sum), 1);
-    m_history.push(std::move(state));
-    m_tabs->apply(m_history.state(), 0, [&](int removed) {
+    m_history->push(std::move(state));
+    m_tabs->apply(m_history->state(), 0, [&](int removed) {
         if (removed % step == 0)
             showProgress(static_cast<int>(removed / sum * 100.0));
     });
@@ -160,7 +160,5 @@ void pageLEDMatrixCanvas::fail(const QString &error)
 
 void pageLEDMatrixCanvas::showProgress(int value)
 {
-    m_progress->setMinimum(std::min(value, 0)); // a failure is shown as what it is, -1
-    m_progress->setFormat(value < 0 ? QStringLiteral("%v") : QStringLiteral("%p%"));
-    m_progress->setValue(std::min(value, m_progress->maximum()));
+    showValue(m_progress, value);
 }

@@ -2,7 +2,6 @@
 
 #include <QComboBox>
 #include <QHBoxLayout>
-#include <QListView>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QShortcut>
@@ -10,8 +9,6 @@
 #include "controls/captionlabel.h"
 #include "controls/sharedfonts.h"
 #include "controls/sliderwidget.h"
-#include "controls/wheeleventfilter.h"
-#include "ledmatrix/matrixform.h"
 #include "page/Nightloom/frametabs.h"
 #include "page/Nightloom/matrixeditor.h"
 #include "page/Nightloom/pageledmatrixcanvas.h"
@@ -23,7 +20,6 @@ namespace {
 
 constexpr int kSmallestCell = 6; // pixels
 constexpr int kBiggestCell = 20;
-constexpr int kCaptionWidth = 88;
 
 struct Tool
 {
@@ -101,10 +97,7 @@ QWidget *pageLEDMatrixCanvas::buildTools()
     column->addWidget(makeToolLine(m_tools));
     buildFileTools(column);
 
-    m_progress->setRange(0, 100);
-    m_progress->setFixedHeight(20);
-    m_progress->setAlignment(Qt::AlignCenter);
-    m_texts.bind(LABEL("Progress"), [this](const QString &text) { m_progress->setAccessibleName(text); });
+    dressProgressBar(m_progress, m_texts);
     m_notice->setObjectName(QStringLiteral("notice"));
     m_notice->setFont(noteFont);
     m_notice->setWordWrap(true);
@@ -136,25 +129,12 @@ void pageLEDMatrixCanvas::buildViewTools(QVBoxLayout *column)
     row->addWidget(preview);
     row->addWidget(onionSkin);
     column->addLayout(row);
-    SliderWidget *speed =
-        makeSlider(LABEL("Frames/s"), FramePlayer::kSlowest, FramePlayer::kFastest, FramePlayer::kUsual);
-    const int cell = m_form == kTaperingForm ? LEDMatrixWidget::kCellSize : LEDMatrixWidgetRect::kCellSize;
-    m_cellSize = makeSlider(LABEL("Cell Size"), kSmallestCell, kBiggestCell, cell);
-    connect(speed, &SliderWidget::sliderValueChanged, this,
-            [this](const QString &, int value) { m_player.setSpeed(value); });
+    m_cellSize =
+        makeToolSlider(LABEL("Cell Size"), kSmallestCell, kBiggestCell, LEDMatrixWidget::kCellSize, m_texts, m_tools);
     connect(m_cellSize, &SliderWidget::sliderValueChanged, this,
             [this](const QString &, int value) { m_tabs->setCellSize(value); });
-    column->addWidget(speed);
+    column->addWidget(makeSpeedSlider(m_player, m_texts, m_tools));
     column->addWidget(m_cellSize);
-}
-
-SliderWidget *pageLEDMatrixCanvas::makeSlider(const char *label, int minimum, int maximum, int value)
-{
-    auto *slider = new SliderWidget(QLatin1String(label), minimum, maximum, m_tools);
-    slider->setCaptionWidth(kCaptionWidth);
-    slider->setValue(value);
-    m_texts.bind(label, [slider](const QString &text) { slider->setCaption(text); });
-    return slider;
 }
 
 void pageLEDMatrixCanvas::buildFileTools(QVBoxLayout *column)
@@ -171,12 +151,11 @@ QWidget *pageLEDMatrixCanvas::buildModeBox()
     row->setSpacing(8);
     auto *caption = new CaptionLabel(QString(), 15, part);
     caption->setStyleSheet(QStringLiteral("QLabel { color: #ffffff; } QLabel:disabled { color: #696969; }"));
-    caption->setFixedWidth(kCaptionWidth);
+    caption->setFixedWidth(kToolCaptionWidth);
     m_modes = new QComboBox(part);
     m_modes->setObjectName(QStringLiteral("modes"));
-    m_modes->setView(new QListView(m_modes)); // the style sheet reaches this view only, not the system's own
+    dressComboBox(m_modes);
     m_modes->setFixedHeight(36);
-    m_modes->installEventFilter(new WheelEventFilter(m_modes));
     for (int i = 0; i < kModes; ++i) {
         m_modes->addItem(QString());
         m_texts.bind(kModeLabels[i], [this, i](const QString &text) { m_modes->setItemText(i, text); });

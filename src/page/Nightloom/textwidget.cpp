@@ -18,23 +18,10 @@ namespace {
 constexpr int kLongestText = 500;
 constexpr const char *kMotionLabels[] = {LABEL("Scroll Left"), LABEL("Scroll Right"), LABEL("Standing")};
 
-/// The preview of a form; of a number that is no form there is nothing to see.
-QWidget *makeStage(MatrixEditor *preview, QWidget *parent)
-{
-    auto *stage = new QScrollArea(parent);
-    stage->setFrameShape(QFrame::NoFrame);
-    stage->setAlignment(Qt::AlignCenter);
-    stage->setFocusPolicy(Qt::NoFocus);
-    if (preview)
-        stage->setWidget(preview);
-    return stage;
-}
-
 } // namespace
 
 TextWidget::TextWidget(BoundTexts &texts, QWidget *parent)
-    : QWidget(parent), m_form(matrixForm), m_shown(m_form, {}, m_motion), m_input(new QLineEdit(this)),
-      m_preview(createMatrixEditor(m_form, this))
+    : QWidget(parent), m_shown(m_form, {}, m_motion), m_input(new QLineEdit(this)), m_stage(new QScrollArea(this))
 {
     m_input->setObjectName(QStringLiteral("text"));
     m_input->setMaxLength(kLongestText);
@@ -49,18 +36,17 @@ TextWidget::TextWidget(BoundTexts &texts, QWidget *parent)
     column->setSpacing(16);
     column->addWidget(m_input);
     column->addLayout(motions);
-    column->addWidget(makeStage(m_preview, this), 1);
-    if (m_preview) {
-        m_preview->setEditable(false);
-        m_preview->setFocusPolicy(Qt::NoFocus);
-        m_preview->unsetCursor();
-    }
+    m_stage->setFrameShape(QFrame::NoFrame);
+    m_stage->setAlignment(Qt::AlignCenter);
+    m_stage->setFocusPolicy(Qt::NoFocus);
+    column->addWidget(m_stage, 1);
     connect(m_input, &QLineEdit::textChanged, this, &TextWidget::onTextChanged);
     connect(&m_player, &FramePlayer::frameDue, this, &TextWidget::showFrame);
     connect(&m_player, &FramePlayer::playingChanged, this, [this](bool playing) {
         if (!playing)
             showFrame(m_shown.fullestFrame());
     });
+    followMatrixForm();
 }
 
 TextWidget::~TextWidget() = default;
@@ -82,6 +68,29 @@ void TextWidget::buildMotions(BoundTexts &texts, QHBoxLayout *row)
     m_motions.front()->setChecked(true);
 }
 
+void TextWidget::followMatrixForm()
+{
+    if (m_form == matrixForm)
+        return;
+    m_form = matrixForm;
+    m_preview = createMatrixEditor(m_form, nullptr);
+    delete m_stage->takeWidget();
+    if (m_preview) {
+        m_preview->setEditable(false);
+        m_preview->setFocusPolicy(Qt::NoFocus);
+        m_preview->unsetCursor();
+        m_stage->setWidget(m_preview);
+        m_preview->setAutoFillBackground(false); // the scroll area has switched it on
+    }
+    onTextChanged();
+}
+
+void TextWidget::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    followMatrixForm();
+}
+
 QString TextWidget::text() const
 {
     return m_input->text();
@@ -98,7 +107,7 @@ void TextWidget::onTextChanged()
 {
     const bool playing = m_player.isPlaying();
     m_player.stop();
-    m_shown = renderer(text(), m_motion);
+    m_shown = renderer(m_form, text(), m_motion);
     showFrame(m_shown.fullestFrame());
     if (playing)
         m_player.play(m_shown.frameCount());

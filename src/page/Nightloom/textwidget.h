@@ -10,8 +10,10 @@
 
 class BoundTexts;
 class MatrixEditor;
+class QHBoxLayout;
 class QLineEdit;
 class QPushButton;
+class QScrollArea;
 
 /// Where a text for the accessory is written, with a preview of how it will go over the matrix.
 class TextWidget : public QWidget
@@ -22,6 +24,7 @@ public:
     ~TextWidget() override;
 
     QLineEdit *input() const { return m_input; }
+    /// Null while the matrix form is none.
     MatrixEditor *preview() const { return m_preview; }
     FramePlayer &player() { return m_player; }
 
@@ -30,7 +33,7 @@ public:
     void setMotion(TextMotion motion);
 
     /// The glyph source of a text. Usable from any thread.
-    TextRenderer renderer(const QString &text, TextMotion motion) const { return {m_form, text, motion}; }
+    static TextRenderer renderer(int form, const QString &text, TextMotion motion) { return {form, text, motion}; }
 
     /// Renders the text into frames, telling by the signals. False, with a log line, when there is no text.
     bool startJob();
@@ -45,16 +48,21 @@ Q_SIGNALS:
     void progress(int percent);
     void framesReady(const QByteArrayList &frames);
 
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private:
-    void buildMotions(BoundTexts &texts, class QHBoxLayout *row);
+    void buildMotions(BoundTexts &texts, QHBoxLayout *row);
+    void followMatrixForm();
     void onTextChanged();
     void showFrame(int index);
 
-    const int m_form;
+    int m_form = -1;
     TextMotion m_motion = TextMotion::Left;
     TextRenderer m_shown; ///< what the preview shows
     QLineEdit *m_input;
-    MatrixEditor *m_preview;
+    QScrollArea *m_stage;
+    MatrixEditor *m_preview = nullptr;
     std::vector<QPushButton *> m_motions;
     FramePlayer m_player;
     std::unique_ptr<WorkerThread> m_job; ///< the latest

@@ -1,9 +1,10 @@
 #include "page/Nightloom/workerthread.h"
 
+#include "ledmatrix/matrixform.h"
 #include "page/Nightloom/textwidget.h"
 
 WorkerThread::WorkerThread(std::int32_t value, const QString &text, std::int32_t direction, const TextWidget &widget)
-    : m_value(value), m_text(text), m_direction(direction), m_widget(widget)
+    : m_form(matrixForm), m_value(value), m_text(text), m_direction(direction), m_widget(widget)
 {
 }
 
@@ -23,7 +24,7 @@ void WorkerThread::run()
 {
     if (m_text.isEmpty())
         return;
-    const TextRenderer renderer = m_widget.renderer(m_text, static_cast<TextMotion>(m_direction));
+    const TextRenderer renderer = m_widget.renderer(m_form, m_text, static_cast<TextMotion>(m_direction));
     QByteArrayList frames;
     const int total = renderer.frameCount();
     for (int i = 1; i <= total; ++i) {

@@ -29,6 +29,7 @@ protected:
     void run() override;
 
 private:
+    const int m_form; ///< of the matrix when the job began
     std::int32_t m_value;
     QString m_text;
     std::int32_t m_direction;
