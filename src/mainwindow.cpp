@@ -21,7 +21,10 @@
 #include "page/BasicSetting/pagesystemsetting.h"
 #include "page/Game/pagepictureenhanc.h"
 #include "page/IO/pageiosetting.h"
+#include "page/Nightloom/matrixformsetting.h"
 #include "page/Nightloom/pageledmatrixcanvas.h"
+#include "page/Nightloom/pageledmatrixtext.h"
+#include "page/Nightloom/pageledsystem.h"
 #include "page/Office/pageoffice.h"
 #include "page/Scene/pagescenesetting.h"
 #include "page/emptypage.h"
@@ -54,6 +57,8 @@ MainWindow::MainWindow(SearchDeviceDlg &session) : m_session(session)
     m_labelPixmap = Pictures::load(Pictures::kRoot + QStringLiteral("img/lable_img.png"), devicePixelRatioF());
     buildForm();
     setWindowTitle(QStringLiteral("QUORVEL"));
+    loadMatrixForm();
+    reopenHidDevice();
     setUpFrame();
     initialise();
     commandsSuspended = false;
@@ -70,7 +75,9 @@ MainWindow::MainWindow(SearchDeviceDlg &session) : m_session(session)
 MainWindow::~MainWindow()
 {
     m_session.setHost(nullptr);
+    stopAccessoryWork();
     delete m_pages; // before the queue that they send through
+    closeAccessory();
     s_mainWindow = nullptr;
 }
 
@@ -140,14 +147,19 @@ void MainWindow::createPages()
 
 void MainWindow::createAccessoryPages()
 {
-    const auto isBusy = [this](auto *page) {
+    const AccessoryCheck check = [this] { return ensureHidConnected(); };
+    auto *text = new pageLEDMatrixText(check, m_pages);
+    auto *canvas = new pageLEDMatrixCanvas(check, m_pages);
+    const auto followWork = [this](auto *page) {
         using AnyPage = std::remove_pointer_t<decltype(page)>;
         connect(page, &AnyPage::busyBegins, this, [this] { setInterfaceMode(kBusy); });
         connect(page, &AnyPage::busyEnded, this, [this] { setInterfaceMode(kBusyEnded); });
     };
-    auto *canvas = new pageLEDMatrixCanvas([] { return true; }, m_pages);
-    isBusy(canvas);
+    followWork(text);
+    followWork(canvas);
+    addPage(PageId::LedText, text);
     addPage(PageId::LedCanvas, canvas);
+    addPage(PageId::LedSystem, new pageLEDSystem(check, *m_queue, m_pages));
 }
 
 void MainWindow::addPage(PageId id, Page *page)

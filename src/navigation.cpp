@@ -37,7 +37,7 @@ constexpr NavigationEntry kNightLoom[] = {
     {LABEL("Animate Mode"), "led_animate"},
     {LABEL("Text Mode"), "led_text", PageId::LedText},
     {LABEL("Music Mode"), "led_music"},
-    {LABEL("System Settings"), "led_system"},
+    {LABEL("System Settings"), "led_system", PageId::LedSystem},
     {LABEL("Custom Mode"), "led_custom", PageId::LedCanvas},
     {LABEL("Game VS"), "game_vs"},
 };

@@ -17,6 +17,7 @@ enum class PageId {
     IoSetting,
     LedText,
     LedCanvas,
+    LedSystem,
     Empty
 };
 
