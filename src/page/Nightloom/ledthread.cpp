@@ -20,7 +20,6 @@ void LEDThread::begin(State state, LEDJob job)
     m_state = state;
     m_job = std::move(job);
     fail({});
-    m_working = true;
     start(QThread::TimeCriticalPriority);
 }
 
@@ -49,8 +48,8 @@ void LEDThread::run()
         Q_EMIT progress(kImportNow);
         break;
     }
-    m_working = false;
     Q_EMIT progress(kEnd);
+    Q_EMIT workEnded();
 }
 
 void LEDThread::exportFrames()

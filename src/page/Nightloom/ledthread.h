@@ -1,6 +1,5 @@
 #pragma once
 
-#include <atomic>
 #include <cstdint>
 #include <mutex>
 
@@ -37,15 +36,15 @@ public:
 
     State state() const { return m_state; }
 
-    /// Whether there is work left to do; an upload reports 100 on its way as well.
-    bool isWorking() const { return m_working; }
-
     /// Why the last work failed; empty when the reason is not known.
     QString error() const;
 
 Q_SIGNALS:
     /// Percent, and beyond 100 during an upload; the constants above.
     void progress(int value);
+
+    /// Follows the last progress. 100 alone does not say that the work is done: it is passed on the way as well.
+    void workEnded();
 
 protected:
     void run() override;
@@ -57,7 +56,6 @@ private:
     pageLEDMatrixCanvas &m_page;
     State m_state = Export;
     LEDJob m_job;
-    std::atomic<bool> m_working = false;
     mutable std::mutex m_mutex;
     QString m_error; ///< guarded by the mutex
 };

@@ -32,6 +32,7 @@ pageLEDMatrixCanvas::pageLEDMatrixCanvas(AccessoryCheck ensureConnected, QWidget
     buildForm();
     bindShortcuts();
     connect(&m_thread, &LEDThread::progress, this, &pageLEDMatrixCanvas::onProgress);
+    connect(&m_thread, &LEDThread::workEnded, this, &pageLEDMatrixCanvas::endWork);
     connect(m_tabs, &FrameTabs::edited, this, &pageLEDMatrixCanvas::onEdited);
     connect(m_tabs, &FrameTabs::currentChanged, this, [this] { m_player.stop(); });
     connect(&m_player, &FramePlayer::frameDue, m_tabs, &FrameTabs::showInstead);

@@ -103,14 +103,10 @@ void pageLEDMatrixCanvas::onProgress(int value)
         return fail(m_thread.error());
     if (!m_failed) // a failure stays in sight
         showProgress(value);
-    if (value == LEDThread::kEnd && !m_thread.isWorking())
-        endWork();
 }
 
 void pageLEDMatrixCanvas::endWork()
 {
-    if (!m_busy)
-        return;
     m_busy = false;
     if (m_saves && !m_failed)
         m_saved = m_tabs->count() > 0;

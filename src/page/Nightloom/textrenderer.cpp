@@ -26,7 +26,7 @@ struct TextBand
 
 constexpr TextBand bandOf(int form)
 {
-    return form == kTaperingForm ? TextBand{4, 22, 17} : TextBand{0, 25, 19};
+    return form == kTaperingForm ? TextBand{3, 20, 14} : TextBand{0, 25, 19};
 }
 
 } // namespace
