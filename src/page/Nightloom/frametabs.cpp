@@ -3,44 +3,98 @@
 #include <algorithm>
 
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QTabBar>
 
 #include "page/Nightloom/matrixeditor.h"
 
-/// What a tab holds: the editor in the middle of a sheet.
-class FrameSheet : public QScrollArea
+/// What a tab holds: a frame's editor on its sheet. It is light, for there are many; what scrolls is lent to it while
+/// its tab is open.
+class FrameSheet : public QWidget
 {
 public:
-    FrameSheet(int id, MatrixEditor *matrixEditor, QWidget *parent)
-        : QScrollArea(parent), frameId(id), editor(matrixEditor)
+    FrameSheet(int id, MatrixEditor *matrixEditor) : frameId(id), editor(matrixEditor) { takeBack(); }
+
+    void lend(QScrollArea *view)
     {
-        setFrameShape(QFrame::NoFrame);
-        setAlignment(Qt::AlignCenter);
-        setFocusPolicy(Qt::NoFocus);
-        setWidget(editor);
+        view->setParent(this);
+        view->setGeometry(rect());
+        view->setWidget(editor);
         editor->setAutoFillBackground(false); // the scroll area has switched it on
-        connect(editor, &MatrixEditor::cursorMoved, this,
-                [this](const QRect &cell) { ensureVisible(cell.center().x(), cell.center().y()); });
+        editor->show();
+        view->show();
+        m_view = view;
+    }
+
+    void takeBack()
+    {
+        m_view = nullptr;
+        editor->hide();
+        editor->setParent(this);
     }
 
     const int frameId;
     MatrixEditor *const editor;
+
+protected:
+    void resizeEvent(QResizeEvent *) override
+    {
+        if (m_view)
+            m_view->setGeometry(rect());
+    }
+
+private:
+    QScrollArea *m_view = nullptr;
 };
 
-FrameTabs::FrameTabs(QWidget *parent) : QTabWidget(parent)
+FrameTabs::FrameTabs(QWidget *parent) : QTabWidget(parent), m_view(new QScrollArea(this))
 {
+    m_view->setFrameShape(QFrame::NoFrame);
+    m_view->setAlignment(Qt::AlignCenter);
+    m_view->setFocusPolicy(Qt::NoFocus);
+    m_view->hide();
     setUsesScrollButtons(true);
     setDocumentMode(true);
     tabBar()->setDrawBase(false);
     tabBar()->setExpanding(false);
-    connect(this, &QTabWidget::currentChanged, this, [this] { showOnionSkin(); });
+    connect(this, &QTabWidget::currentChanged, this, [this] {
+        openSheet();
+        showOnionSkin();
+    });
 }
 
 void FrameTabs::setForm(int form)
 {
     m_form = form;
     m_cellSize = 0;
+}
+
+/// Gives the view to the tab that is open; it stays where it was scrolled to.
+void FrameTabs::openSheet()
+{
+    FrameSheet *now = sheet(currentIndex());
+    if (now == m_open)
+        return;
+    const QPoint place(m_view->horizontalScrollBar()->value(), m_view->verticalScrollBar()->value());
+    closeSheet();
+    if (!now)
+        return;
+    m_open = now;
+    now->lend(m_view);
+    m_view->horizontalScrollBar()->setValue(place.x());
+    m_view->verticalScrollBar()->setValue(place.y());
+}
+
+void FrameTabs::closeSheet()
+{
+    if (!m_open)
+        return;
+    m_view->takeWidget();
+    m_open->takeBack();
+    m_view->hide();
+    m_view->setParent(this);
+    m_open = nullptr;
 }
 
 FrameSheet *FrameTabs::sheet(int index) const
@@ -82,7 +136,9 @@ void FrameTabs::removeTabsWithout(const AnimationState &state, const std::functi
         const auto stays = [id = sheet(i)->frameId](const AnimationFrame &frame) { return frame.id == id; };
         if (std::any_of(state.frames.begin(), state.frames.end(), stays))
             continue;
-        QWidget *page = widget(i);
+        FrameSheet *page = sheet(i);
+        if (page == m_open)
+            closeSheet();
         removeTab(i);
         delete page;
         ++gone;
@@ -97,8 +153,10 @@ void FrameTabs::addSheet(int index, const AnimationFrame &frame)
     if (m_cellSize != 0)
         matrixEditor->setCellSize(m_cellSize);
     matrixEditor->setFrame(toFrame(frame.cells, m_form).flat());
-    auto *page = new FrameSheet(frame.id, matrixEditor, this);
+    auto *page = new FrameSheet(frame.id, matrixEditor); // the tabs own it when they have taken it
     connect(matrixEditor, &MatrixEditor::edited, this, [this, page] { Q_EMIT edited(indexOf(page)); });
+    connect(matrixEditor, &MatrixEditor::cursorMoved, m_view,
+            [this](const QRect &cell) { m_view->ensureVisible(cell.center().x(), cell.center().y()); });
     insertTab(index, page, QString::number(frame.number));
 }
 

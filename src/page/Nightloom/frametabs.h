@@ -9,6 +9,7 @@
 
 class FrameSheet;
 class MatrixEditor;
+class QScrollArea;
 
 /// A tab for every frame of an animation, each with its editor on a sheet that scrolls.
 class FrameTabs : public QTabWidget
@@ -49,11 +50,15 @@ Q_SIGNALS:
     void edited(int index);
 
 private:
+    void openSheet();
+    void closeSheet();
     FrameSheet *sheet(int index) const;
     void addSheet(int index, const AnimationFrame &frame);
     void removeTabsWithout(const AnimationState &state, const std::function<void(int removed)> &removed);
     void showOnionSkin();
 
+    QScrollArea *const m_view;
+    FrameSheet *m_open = nullptr; ///< which has the view
     int m_form = 0;
     int m_cellSize = 0; ///< 0 until chosen: each editor as it is
     bool m_onionSkin = false;
