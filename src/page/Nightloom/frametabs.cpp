@@ -48,8 +48,29 @@ private:
     QScrollArea *m_view = nullptr;
 };
 
+namespace {
+
+/// Numbers need no measuring: the bar asks for every tab's size again whenever one comes.
+class NumberBar : public QTabBar
+{
+public:
+    using QTabBar::QTabBar;
+
+protected:
+    QSize tabSizeHint(int index) const override
+    {
+        constexpr int kMargins = 22;
+        constexpr int kDigit = 9;
+        constexpr int kHeight = 32;
+        return {kMargins + kDigit * std::max(static_cast<int>(tabText(index).size()), 2), kHeight};
+    }
+};
+
+} // namespace
+
 FrameTabs::FrameTabs(QWidget *parent) : QTabWidget(parent), m_view(new QScrollArea(this))
 {
+    setTabBar(new NumberBar(this));
     m_view->setFrameShape(QFrame::NoFrame);
     m_view->setAlignment(Qt::AlignCenter);
     m_view->setFocusPolicy(Qt::NoFocus);
