@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <QMouseEvent>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalBlocker>
@@ -38,6 +39,9 @@ public:
     MatrixEditor *const editor;
 
 protected:
+    /// A press beside the cells must not take hold of the window: it is a stroke that missed.
+    void mousePressEvent(QMouseEvent *event) override { event->accept(); }
+
     void resizeEvent(QResizeEvent *) override
     {
         if (m_view)

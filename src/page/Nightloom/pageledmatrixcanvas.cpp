@@ -60,7 +60,6 @@ void pageLEDMatrixCanvas::followMatrixForm()
     m_history = &m_histories.try_emplace(m_form, firstState(m_form, m_nextId)).first->second;
     m_tabs->setForm(m_form);
     m_tabs->apply(m_history->state(), m_history->state().place);
-    const QSignalBlocker quiet(m_cellSize->slider());
     m_cellSize->setValue(m_form == kRectangleForm ? LEDMatrixWidgetRect::kCellSize : LEDMatrixWidget::kCellSize);
     onChanged();
 }

@@ -4,7 +4,7 @@
 #include "page/Nightloom/textwidget.h"
 
 WorkerThread::WorkerThread(std::int32_t value, const QString &text, std::int32_t direction, const TextWidget &widget)
-    : m_form(matrixForm), m_value(value), m_text(text), m_direction(direction), m_widget(widget)
+    : m_value(value), m_text(text), m_direction(direction), m_widget(widget), m_form(matrixForm)
 {
 }
 

@@ -29,11 +29,11 @@ protected:
     void run() override;
 
 private:
-    const int m_form; ///< of the matrix when the job began
     std::int32_t m_value;
     QString m_text;
     std::int32_t m_direction;
     const TextWidget &m_widget; ///< holds the glyph source
+    const int m_form;           ///< of the matrix when the job began
     std::mutex m_mutex;
     QByteArrayList m_frames; ///< guarded by the mutex
 };
