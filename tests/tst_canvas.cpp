@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QTabBar>
 #include <QtTest>
 
 #include "ledmatrix/matrixform.h"
@@ -114,6 +115,7 @@ private Q_SLOTS:
     void tabNumbers();
     void undoBringsEverythingBack();
     void unfinishedStrokeIsKept();
+    void keyboardReachesTheCells();
     void previewAndOnionSkin();
     void exportInTabOrder();
     void exportProgress_data();
@@ -287,6 +289,27 @@ void TestCanvas::unfinishedStrokeIsKept()
     page->undo();
     page->redo();
     QCOMPARE(litCells(*page->tabs()->editor(0)), 1);
+}
+
+void TestCanvas::keyboardReachesTheCells()
+{
+    const auto page = makePage();
+    page->addFrame();
+    page->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(page.get()));
+    page->tabs()->tabBar()->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(page->focusWidget(), Qt::Key_Tab);
+    MatrixEditor *editor = page->tabs()->currentEditor();
+    QCOMPARE(page->focusWidget(), editor);
+    QTest::keyClick(editor, Qt::Key_Space);
+    QCOMPARE(litCells(*editor), 1);
+    QTest::keyClick(editor, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(litCells(*editor), 0);
+    QTest::keyClick(editor, Qt::Key_Y, Qt::ControlModifier);
+    QCOMPARE(litCells(*editor), 1);
+    QTest::keyClick(editor, Qt::Key_Z, Qt::ControlModifier);
+    QTest::keyClick(editor, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(litCells(*editor), 1);
 }
 
 void TestCanvas::previewAndOnionSkin()

@@ -107,6 +107,7 @@ void FrameTabs::openSheet()
         return;
     m_open = now;
     now->lend(m_view);
+    setTabOrder(tabBar(), now->editor); // the keyboard goes from the tab to its cells
     m_view->horizontalScrollBar()->setValue(place.x());
     m_view->verticalScrollBar()->setValue(place.y());
 }

@@ -181,6 +181,12 @@ void MatrixEditor::moveCursor(MatrixCell cell)
     Q_EMIT cursorMoved(m_geometry.cellRect(m_cursor));
 }
 
+/// What scrolls brings the cursor's cell into sight when the focus comes, not the middle of the frame.
+QVariant MatrixEditor::inputMethodQuery(Qt::InputMethodQuery query) const
+{
+    return query == Qt::ImCursorRectangle ? m_geometry.cellRect(m_cursor) : QLabel::inputMethodQuery(query);
+}
+
 void MatrixEditor::updateControlText()
 {
     setAccessibleName(QObject::tr("LED matrix"));

@@ -59,6 +59,7 @@ protected:
     MatrixEditor(int form, int cellSize, QWidget *parent);
 
     QSize sizeHint() const override { return m_geometry.size(); }
+    QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
