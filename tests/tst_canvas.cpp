@@ -1,96 +1,13 @@
-#include <sys/resource.h>
-
-#include <csignal>
-
-#include <QComboBox>
-#include <QFile>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QTabBar>
 #include <QtTest>
 
-#include "ledmatrix/matrixform.h"
-#include "page/Nightloom/animationfile.h"
-#include "page/Nightloom/frametabs.h"
-#include "page/Nightloom/matrixeditor.h"
-#include "page/Nightloom/pageledmatrixcanvas.h"
+#include "support/answeredcanvas.h"
 #include "support/deskfixture.h"
-#include "usb-hid/hidtransport.h"
 
 using namespace std::chrono_literals;
 
 namespace {
-
-constexpr char kDataFile[] = "./LEDMatrixData.txt";
-
-/// The canvas page with its boxes and file dialogs answered by the test.
-class AnsweredCanvas : public pageLEDMatrixCanvas
-{
-public:
-    AnsweredCanvas() : pageLEDMatrixCanvas([this] { return connected; })
-    {
-        connect(this, &pageLEDMatrixCanvas::busyBegins, this, [this] { busyEvents.append(1); });
-        connect(this, &pageLEDMatrixCanvas::busyEnded, this, [this] { busyEvents.append(0); });
-    }
-
-    bool connected = true;
-    QString fileName;
-    QStringList warnings;
-    QList<int> busyEvents;
-
-protected:
-    QString askSaveFile() override { return fileName; }
-    QString askOpenFile() override { return fileName; }
-    void warn(const QString &text) override { warnings.append(text); }
-};
-
-/// The first byte beyond which files cannot grow, as on a full disk, for as long as it lives.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes)
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{bytes, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &m_before); }
-    Q_DISABLE_COPY_MOVE(FullDisk)
-
-private:
-    rlimit m_before{};
-};
-
-QByteArray contentOf(const QString &fileName)
-{
-    QFile file(fileName);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(cannot be opened)");
-}
-
-void writeFile(const QString &fileName, const QByteArray &content)
-{
-    QFile file(fileName);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
-}
-
-QPoint middle(const MatrixEditor &editor, MatrixCell cell)
-{
-    return editor.geometry().cellRect(cell).center();
-}
-
-int litCells(const MatrixEditor &editor)
-{
-    return static_cast<int>(editor.frame().digits().count('1'));
-}
-
-/// Draws cell number i of row 0 in the open editor.
-void draw(AnsweredCanvas &page, int column)
-{
-    QTest::mouseClick(page.tabs()->currentEditor(), Qt::LeftButton, {},
-                      middle(*page.tabs()->currentEditor(), {0, column}));
-}
 
 QStringList tabNames(const AnsweredCanvas &page)
 {
@@ -102,40 +19,22 @@ QStringList tabNames(const AnsweredCanvas &page)
 
 } // namespace
 
-/// The page that animations are drawn on: its frames, its history, its files and its upload.
+/// The page that animations are drawn on: its frames, their history, and how they are looked at.
 class TestCanvas : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
     void init();
     void cleanup();
-    void importRules_data();
-    void importRules();
     void frameCounter();
     void tabNumbers();
     void undoBringsEverythingBack();
     void unfinishedStrokeIsKept();
     void keyboardReachesTheCells();
     void previewAndOnionSkin();
-    void exportInTabOrder();
-    void exportProgress_data();
-    void exportProgress();
-    void fullDiskKeepsTheOldFile();
-    void faultsLeaveThePageUsable_data();
-    void faultsLeaveThePageUsable();
-    void dialogFailures();
-    void savedFlag();
-    void upload_data();
-    void upload();
     void eachFormHasItsAnimation();
 
 private:
-    std::unique_ptr<AnsweredCanvas> makePage(int form = kTaperingForm);
-    static bool finish(const AnsweredCanvas &page)
-    {
-        return QTest::qWaitFor([&page] { return !page.isBusy(); });
-    }
-
     std::unique_ptr<DeskFixture> m_desk;
 };
 
@@ -147,58 +46,8 @@ void TestCanvas::init()
 
 void TestCanvas::cleanup()
 {
-    closeHid();
     matrixForm = kTaperingForm;
     m_desk.reset();
-}
-
-std::unique_ptr<AnsweredCanvas> TestCanvas::makePage(int form)
-{
-    matrixForm = form;
-    auto page = std::make_unique<AnsweredCanvas>();
-    page->resize(1000, 680);
-    page->show();
-    return page;
-}
-
-void TestCanvas::importRules_data()
-{
-    QTest::addColumn<int>("form");
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<int>("frames");
-    QTest::addColumn<int>("litInFirst");
-    const QByteArray frame = QByteArray("1") + QByteArray(1048, '0') + QByteArray("1");
-    QTest::newRow("too short for a frame") << 1 << frame.first(1049) << 0 << 0;
-    QTest::newRow("one frame") << 1 << frame << 1 << 2;
-    QTest::newRow("a frame and a piece") << 1 << frame + frame.first(1049) << 1 << 2;
-    QTest::newRow("steps of 1050 for the tapering form too") << 0 << frame.repeated(2) << 2 << 1;
-    QTest::newRow("more than the maximum") << 1 << frame.repeated(193) << 192 << 2;
-    QTest::newRow("a million bytes") << 1 << QByteArray(1'000'000, '1') << 192 << 1050;
-    QTest::newRow("anything but 1 is dark") << 1 << QByteArray(1050, '\xff').replace(5, 2, "1\0", 2) << 1 << 1;
-}
-
-void TestCanvas::importRules()
-{
-    QFETCH(int, form);
-    QFETCH(QByteArray, content);
-    QFETCH(int, frames);
-    const auto page = makePage(form);
-    page->addFrame();
-    writeFile(QStringLiteral("in.csv"), content);
-    page->fileName = QStringLiteral("in.csv");
-    page->importAnimate();
-    QVERIFY(finish(*page));
-    QCOMPARE(page->tabs()->count(), frames); // those that were there are gone in any case
-    QCOMPARE(page->frameCounter(), frames);
-    if (frames > 0) {
-        QTEST(litCells(*page->tabs()->editor(0)), "litInFirst");
-        QCOMPARE(page->tabs()->tabText(0), QStringLiteral("1"));
-    }
-    QVERIFY(m_desk->takeLog().contains(QStringLiteral("Frame size: %1").arg(frames)));
-    QCOMPARE(page->notice().isEmpty(), frames > 0);
-    QCOMPARE(page->busyEvents, (QList<int>{1, 0}));
-    page->undo();
-    QCOMPARE(tabNames(*page), (QStringList{"1", "2"}));
 }
 
 void TestCanvas::frameCounter()
@@ -340,174 +189,6 @@ void TestCanvas::previewAndOnionSkin()
     m_desk->clock.advance(1s);
     QCOMPARE(m_desk->clock.tasksWaiting(), std::size_t(0));
     QCOMPARE(page->tabs()->editor(1)->frame().digits(), "01" + QByteArray(947, '0'));
-}
-
-void TestCanvas::exportInTabOrder()
-{
-    const auto page = makePage(kRectangleForm);
-    draw(*page, 0);
-    page->duplicateFrame();
-    draw(*page, 1);
-    page->fileName = QStringLiteral("out.csv");
-    writeFile(page->fileName, "what was there before");
-    page->exportAnimate();
-    QVERIFY(!page->button("Add Frame")->isEnabled());
-    QVERIFY(finish(*page));
-    QCOMPARE(contentOf(page->fileName), "10" + QByteArray(1048, '0') + "11" + QByteArray(1048, '0'));
-    QCOMPARE(page->dataFile(), page->fileName);
-    QCOMPARE(page->progressBar()->value(), 100);
-    QCOMPARE(QDir().entryList(QDir::Files), QStringList{"out.csv"});
-    QVERIFY(!page->button("Write Animate")->isEnabled()); // exported is not saved
-}
-
-void TestCanvas::exportProgress_data()
-{
-    QTest::addColumn<int>("frames");
-    QTest::addColumn<QList<int>>("values");
-    QTest::newRow("none") << 0 << QList<int>{100};
-    QTest::newRow("each of a few") << 3 << QList<int>{33, 66, 100, 100};
-    QTest::newRow("every second") << 25 << QList<int>{8, 16, 24, 32, 40, 48, 56, 64, 72, 80, 88, 96, 100};
-}
-
-void TestCanvas::exportProgress()
-{
-    QFETCH(int, frames);
-    const auto page = makePage();
-    LEDThread thread(*page);
-    QList<int> values;
-    connect(&thread, &LEDThread::progress, this, [&values](int value) { values.append(value); });
-    thread.begin(LEDThread::Export, {QByteArrayList(frames, QByteArray(949, '0')), QStringLiteral("out.csv")});
-    thread.wait();
-    QCoreApplication::processEvents();
-    QTEST(values, "values");
-}
-
-void TestCanvas::fullDiskKeepsTheOldFile()
-{
-    const auto page = makePage();
-    page->addFrame();
-    page->saveAnimate();
-    QVERIFY(finish(*page));
-    const QByteArray before = contentOf(QLatin1String(kDataFile));
-    draw(*page, 2);
-    {
-        const FullDisk full(1000); // the second frame finds no room
-        page->saveAnimate();
-        QVERIFY(finish(*page));
-    }
-    QCOMPARE(contentOf(QLatin1String(kDataFile)), before);
-    QCOMPARE(QDir().entryList(QDir::Files).count(), 1);
-    QCOMPARE(page->progressBar()->value(), -1);
-    QVERIFY(page->notice().startsWith(QStringLiteral("The file cannot be written")));
-    QVERIFY(!page->button("Write Animate")->isEnabled());
-    page->saveAnimate();
-    QVERIFY(finish(*page));
-    QVERIFY(contentOf(QLatin1String(kDataFile)) != before);
-    QVERIFY(page->button("Write Animate")->isEnabled());
-    QVERIFY(page->notice().isEmpty());
-}
-
-void TestCanvas::faultsLeaveThePageUsable_data()
-{
-    QTest::addColumn<QString>("fileName");
-    QTest::addColumn<bool>("imports");
-    QTest::newRow("export into a folder that is not there") << "missing/out.csv" << false;
-    QTest::newRow("export onto a folder") << "folder" << false;
-    QTest::newRow("import of a file that is not there") << "missing.csv" << true;
-    QTest::newRow("import of a folder") << "folder" << true;
-}
-
-void TestCanvas::faultsLeaveThePageUsable()
-{
-    QFETCH(bool, imports);
-    QFETCH(QString, fileName);
-    QDir().mkdir(QStringLiteral("folder"));
-    const auto page = makePage();
-    draw(*page, 4);
-    page->saveAnimate();
-    QVERIFY(finish(*page));
-    page->fileName = fileName;
-    if (imports)
-        page->importAnimate();
-    else
-        page->exportAnimate();
-    QVERIFY(finish(*page));
-    QCOMPARE(page->progressBar()->value(), -1);
-    QVERIFY(!page->notice().isEmpty());
-    QVERIFY(m_desk->takeLog().join(QLatin1Char(' ')).contains(QStringLiteral("Failed to open file:")) ||
-            fileName == QStringLiteral("folder"));
-    QCOMPARE(litCells(*page->tabs()->editor(0)), 1);
-    QVERIFY(page->button("Add Frame")->isEnabled() && page->tabs()->isEnabled());
-    QVERIFY(!page->button("Write Animate")->isEnabled()); // it would send that file
-    QCOMPARE(page->busyEvents, (QList<int>{1, 0, 1, 0}));
-}
-
-void TestCanvas::dialogFailures()
-{
-    const auto page = makePage();
-    page->exportAnimate();
-    page->importAnimate();
-    page->fileName = QStringLiteral("empty.csv");
-    writeFile(page->fileName, {});
-    page->importAnimate();
-    QCOMPARE(page->warnings, (QStringList{"No file path selected.", "No file path selected.", "File is null."}));
-    QVERIFY(page->dataFile().isEmpty() && page->busyEvents.isEmpty());
-    QCOMPARE(page->tabs()->count(), 1);
-}
-
-void TestCanvas::savedFlag()
-{
-    const auto page = makePage();
-    const auto save = [&] {
-        page->saveAnimate();
-        return finish(*page) && page->button("Write Animate")->isEnabled();
-    };
-    QVERIFY(!page->button("Write Animate")->isEnabled());
-    QVERIFY(save());
-    draw(*page, 0);
-    QVERIFY(!page->button("Write Animate")->isEnabled());
-    QVERIFY(save());
-    page->undo();
-    QVERIFY(!page->button("Write Animate")->isEnabled());
-    page->deleteFrame();
-    QVERIFY(!save()); // there is nothing to send
-}
-
-void TestCanvas::upload_data()
-{
-    QTest::addColumn<bool>("connected");
-    QTest::addColumn<bool>("fileGoes");
-    QTest::addColumn<int>("shown");
-    QTest::newRow("whole") << true << false << 100;
-    QTest::newRow("without accessory") << false << false << 100;
-    QTest::newRow("the file is gone") << true << true << -1;
-}
-
-void TestCanvas::upload()
-{
-    QFETCH(bool, connected);
-    QFETCH(bool, fileGoes);
-    reopenHid();
-    const auto page = makePage();
-    page->findChild<QComboBox *>()->setCurrentIndex(4);
-    for (int i = 0; i < 24; ++i) // 425 chunks: its progress passes 100 on its way
-        page->addFrame();
-    page->saveAnimate();
-    QVERIFY(finish(*page));
-    m_desk->clock.takeWaits();
-    if (fileGoes)
-        QFile::remove(QLatin1String(kDataFile));
-    page->connected = connected;
-    page->writeAnimate();
-    QVERIFY(finish(*page));
-    QTEST(page->progressBar()->value(), "shown");
-    QCOMPARE(page->notice().isEmpty(), !fileGoes);
-    QCOMPARE(m_desk->clock.takeWaits().count(), connected ? 6 : 0);
-    const virtualdesk::AccessoryUpload upload = m_desk->desk.accessory().state().upload;
-    QCOMPARE(upload.isComplete(), connected && !fileGoes);
-    QCOMPARE(int(upload.mode), connected ? 0x28 : 0);
-    QVERIFY(page->button("Write Animate")->isEnabled());
-    QCOMPARE(page->busyEvents.count(), connected ? 4 : 2);
 }
 
 void TestCanvas::eachFormHasItsAnimation()

@@ -1,12 +1,10 @@
 #include "page/Nightloom/animationfile.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <system_error>
 
 #include <QDebug>
 #include <QFile>
-#include <QFileInfo>
+#include <QSaveFile>
 
 namespace {
 
@@ -15,17 +13,6 @@ constexpr qint64 kFrameBytes = 1050;
 void logFailure(const QString &error)
 {
     qDebug() << "Failed to open file:" << error;
-}
-
-/// One step, so that no moment is left in which neither file is there.
-QString replaceFile(const QString &newFile, const QString &fileName)
-{
-    const QFileInfo old(fileName);
-    if (old.exists() && (!old.isFile() || !old.isWritable()))
-        return QObject::tr("The file is write-protected.");
-    std::error_code error;
-    std::filesystem::rename(newFile.toStdU16String(), fileName.toStdU16String(), error);
-    return error ? QString::fromLocal8Bit(error.message()) : QString();
 }
 
 } // namespace
@@ -50,19 +37,18 @@ QString writeAnimation(const QString &fileName, const QByteArrayList &frames,
         QFile old(fileName);
         return !old.exists() || old.remove() ? QString() : old.errorString();
     }
-    const QString part = fileName + QStringLiteral(".part");
-    QFile::remove(part);
-    QString error;
-    for (qsizetype i = 0; i < frames.size() && error.isEmpty(); ++i) {
-        error = appendFrame(part, frames[i]);
-        if (error.isEmpty())
-            written(static_cast<int>(i) + 1);
+    QSaveFile file(fileName);
+    if (!file.open(QIODevice::WriteOnly)) {
+        logFailure(file.errorString());
+        return file.errorString();
     }
-    if (error.isEmpty())
-        error = replaceFile(part, fileName);
-    if (!error.isEmpty())
-        QFile::remove(part);
-    return error;
+    for (qsizetype i = 0; i < frames.size(); ++i) {
+        // Flushed each time: what fails only when the file is closed goes unnoticed.
+        if (file.write(frames[i]) != frames[i].size() || !file.flush())
+            return file.errorString();
+        written(static_cast<int>(i) + 1);
+    }
+    return file.commit() ? QString() : file.errorString();
 }
 
 ReadAnimation readAnimation(const QString &fileName)
