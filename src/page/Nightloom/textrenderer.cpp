@@ -16,17 +16,19 @@ constexpr int kLitFrom = 4 * 110;   // of the four pixels' brightness, 0 to 255 
 constexpr int kHeldFrames = 20;     // that each piece of a standing text stays
 constexpr int kWidestText = 100000; // cells; nobody reads longer ones
 
-/// Where the text stands: the tapering form is wide enough near its top only.
+/// Where the text stands and how: the tapering form is wide enough near its top only, and thin stems would fall between
+/// its cells.
 struct TextBand
 {
     int top; ///< row
     int rows;
     int pixels; ///< of the font, in cells
+    QFont::Weight weight;
 };
 
 constexpr TextBand bandOf(int form)
 {
-    return form == kTaperingForm ? TextBand{3, 20, 14} : TextBand{0, 25, 19};
+    return form == kTaperingForm ? TextBand{3, 20, 14, QFont::Bold} : TextBand{0, 25, 19, QFont::Medium};
 }
 
 } // namespace
@@ -45,7 +47,7 @@ void TextRenderer::drawStrip(const QString &text)
     const TextBand band = bandOf(m_form);
     QFont font;
     font.setPixelSize(band.pixels * kFineness);
-    font.setWeight(QFont::Medium);
+    font.setWeight(band.weight);
     const QString line = QString(text).replace(QLatin1Char('\n'), QLatin1Char(' '));
     const int pixels = QFontMetrics(font).horizontalAdvance(line);
     m_width = std::clamp((pixels + kFineness - 1) / kFineness, 1, kWidestText);
