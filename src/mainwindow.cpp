@@ -31,6 +31,7 @@
 #include "platform/desk.h"
 #include "searchdevicedlg.h"
 #include "toptabframe.h"
+#include "usb-hid/hidtransport.h"
 
 namespace {
 
@@ -75,9 +76,9 @@ MainWindow::MainWindow(SearchDeviceDlg &session) : m_session(session)
 MainWindow::~MainWindow()
 {
     m_session.setHost(nullptr);
-    stopAccessoryWork();
+    endAccessoryWork();
     delete m_pages; // before the queue that they send through
-    closeAccessory();
+    closeHid();
     s_mainWindow = nullptr;
 }
 
@@ -140,6 +141,7 @@ void MainWindow::createPages()
     addPage(PageId::ToolSetting, new pagePCSetting(m_session, *m_queue, m_pages));
     addPage(PageId::ServicesSetting, new pageServicesSetting(*m_queue, m_pages));
     addPage(PageId::IoSetting, new pageIOSetting(*m_queue, m_pages));
+    createAutomation();
     createAccessoryPages();
     m_emptyPage = new EmptyPage(m_pages);
     m_pages->addWidget(m_emptyPage);

@@ -5,6 +5,7 @@
 #include "leftbar.h"
 #include "mainwindow.h"
 #include "page/Nightloom/ledworkthread.h"
+#include "usb-hid/accessoryupload.h"
 #include "usb-hid/hidtransport.h"
 
 void MainWindow::reopenHidDevice()
@@ -29,7 +30,7 @@ void MainWindow::warnNotConnected()
                 QMessageBox::YesRole, this);
 }
 
-/// Ends whatever streams to the accessory: only one may.
+/// The one place where all that streams to the accessory, or feeds what does, is stopped.
 void MainWindow::stopAccessoryWork()
 {
     ledWorkThread::instance()->stop();
@@ -44,9 +45,9 @@ void MainWindow::setAccessoryBusy(bool busy)
         bar->buttons()[i]->setEnabled(!busy || static_cast<int>(i) == bar->current());
 }
 
-/// At the end of the program, when no page can ask for work any more.
-void MainWindow::closeAccessory()
+/// At the end of the program, while the pages that the work belongs to are still there.
+void MainWindow::endAccessoryWork()
 {
+    stopUploads();
     ledWorkThread::shutDown();
-    closeHid();
 }

@@ -17,6 +17,8 @@ enum class PageId {
     IoSetting,
     LedText,
     LedCanvas,
+    ShortcutKey,
+    ScenarioFollowing,
     LedSystem,
     Empty
 };

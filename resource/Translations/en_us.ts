@@ -28,12 +28,32 @@
         <translation>%1 cannot be written. Nothing was changed.</translation>
     </message>
     <message>
+        <source>%1 is in the list already.</source>
+        <translation>%1 is in the list already.</translation>
+    </message>
+    <message>
+        <source>%1 is taken by another program or function and does nothing here.</source>
+        <translation>%1 is taken by another program or function and does nothing here.</translation>
+    </message>
+    <message>
+        <source>%1 more programs of the file are followed and not shown.</source>
+        <translation>%1 more programs of the file are followed and not shown.</translation>
+    </message>
+    <message>
         <source>%1 · %2</source>
         <translation>%1 · %2</translation>
     </message>
     <message>
         <source>%1 · protocol faults: %2 · open handles: %3</source>
         <translation>%1 · protocol faults: %2 · open handles: %3</translation>
+    </message>
+    <message>
+        <source>%1, chunk %2 of %3</source>
+        <translation>%1, chunk %2 of %3</translation>
+    </message>
+    <message>
+        <source>%1, frames: %2</source>
+        <translation>%1, frames: %2</translation>
     </message>
     <message>
         <source>1 Hour</source>
@@ -156,8 +176,16 @@
         <translation>AI Dual Mode</translation>
     </message>
     <message>
+        <source>Accessory</source>
+        <translation>Accessory</translation>
+    </message>
+    <message>
         <source>Adaptive-Sync</source>
         <translation>Adaptive-Sync</translation>
+    </message>
+    <message>
+        <source>Add Scence</source>
+        <translation>Add Scence</translation>
     </message>
     <message>
         <source>Adobe</source>
@@ -196,6 +224,14 @@
         <translation>Alignment_9</translation>
     </message>
     <message>
+        <source>All file (*.*)</source>
+        <translation>All file (*.*)</translation>
+    </message>
+    <message>
+        <source>All hot keys rest while the switch above is off.</source>
+        <translation>All hot keys rest while the switch above is off.</translation>
+    </message>
+    <message>
         <source>American broadcasting primaries.</source>
         <translation>American broadcasting primaries.</translation>
     </message>
@@ -214,6 +250,18 @@
     <message>
         <source>Animate Mode</source>
         <translation>Animate Mode</translation>
+    </message>
+    <message>
+        <source>Animations</source>
+        <translation>Animations</translation>
+    </message>
+    <message>
+        <source>Another program registers the combination first</source>
+        <translation>Another program registers the combination first</translation>
+    </message>
+    <message>
+        <source>Another program…</source>
+        <translation>Another program…</translation>
     </message>
     <message>
         <source>Application is already running</source>
@@ -284,6 +332,10 @@
         <translation>Brightness</translation>
     </message>
     <message>
+        <source>Bring to the front</source>
+        <translation>Bring to the front</translation>
+    </message>
+    <message>
         <source>C</source>
         <translation>C</translation>
     </message>
@@ -308,6 +360,10 @@
         <translation>Care Content</translation>
     </message>
     <message>
+        <source>Changes count once you press &quot;%1&quot;.</source>
+        <translation>Changes count once you press &quot;%1&quot;.</translation>
+    </message>
+    <message>
         <source>Choose Custom to make it your own.</source>
         <translation>Choose Custom to make it your own.</translation>
     </message>
@@ -318,6 +374,10 @@
     <message>
         <source>Cinema colours at a D65 white.</source>
         <translation>Cinema colours at a D65 white.</translation>
+    </message>
+    <message>
+        <source>Clock</source>
+        <translation>Clock</translation>
     </message>
     <message>
         <source>Close</source>
@@ -346,6 +406,10 @@
     <message>
         <source>Color Temperature</source>
         <translation>Color Temperature</translation>
+    </message>
+    <message>
+        <source>Combination to press</source>
+        <translation>Combination to press</translation>
     </message>
     <message>
         <source>Composition</source>
@@ -418,6 +482,14 @@
     <message>
         <source>Default</source>
         <translation>Default</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>Desktop</translation>
     </message>
     <message>
         <source>Display P3</source>
@@ -500,6 +572,14 @@
         <translation>Fine lines and clear edges for drawings.</translation>
     </message>
     <message>
+        <source>Follow Desc</source>
+        <translation>Pair a program with a scene mode: the monitor switches while the program is in front, and back to the base scene when it is not.</translation>
+    </message>
+    <message>
+        <source>Follow Setting</source>
+        <translation>Scene Following</translation>
+    </message>
+    <message>
         <source>For code on a dark ground.</source>
         <translation>For code on a dark ground.</translation>
     </message>
@@ -514,6 +594,14 @@
     <message>
         <source>Frame</source>
         <translation>Frame</translation>
+    </message>
+    <message>
+        <source>From now on another program has it, unless QUORVEL had it before.</source>
+        <translation>From now on another program has it, unless QUORVEL had it before.</translation>
+    </message>
+    <message>
+        <source>Function</source>
+        <translation>Function</translation>
     </message>
     <message>
         <source>G</source>
@@ -546,6 +634,10 @@
     <message>
         <source>Game VS</source>
         <translation>Game VS</translation>
+    </message>
+    <message>
+        <source>Game report</source>
+        <translation>Game report</translation>
     </message>
     <message>
         <source>Gamma</source>
@@ -616,8 +708,16 @@
         <translation>High-definition video work.</translation>
     </message>
     <message>
+        <source>Hold Ctrl or Alt and press a letter or a digit.</source>
+        <translation>Hold Ctrl or Alt and press a letter or a digit.</translation>
+    </message>
+    <message>
         <source>Hotkey conflict</source>
         <translation>Hotkey conflict</translation>
+    </message>
+    <message>
+        <source>Hotkey overlay</source>
+        <translation>Hotkey overlay</translation>
     </message>
     <message>
         <source>How the print will look under a D55 light.</source>
@@ -652,8 +752,32 @@
         <translation>Input Signal</translation>
     </message>
     <message>
+        <source>Keyboard</source>
+        <translation>Keyboard</translation>
+    </message>
+    <message>
+        <source>Keys of the numeric pad cannot be used.</source>
+        <translation>Keys of the numeric pad cannot be used.</translation>
+    </message>
+    <message>
         <source>Knowledge</source>
         <translation>Knowledge</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_ADD_KEY</source>
+        <translation>Add Hotkey</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_SHORTCUTKEY</source>
+        <translation>Shortcut Keys</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_SHORTCUTKEY_DESC</source>
+        <translation>Keys for functions of the monitor that work anywhere on the desktop: Ctrl or Alt with a letter or a digit; Backspace clears a field.</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>Lamp</translation>
     </message>
     <message>
         <source>Language</source>
@@ -686,6 +810,10 @@
     <message>
         <source>Light Sensor</source>
         <translation>Light Sensor</translation>
+    </message>
+    <message>
+        <source>Live frames</source>
+        <translation>Live frames</translation>
     </message>
     <message>
         <source>Localdimming</source>
@@ -732,6 +860,18 @@
         <translation>Matches notebooks with a Display P3 screen.</translation>
     </message>
     <message>
+        <source>Matrix Form</source>
+        <translation>Matrix Form</translation>
+    </message>
+    <message>
+        <source>Matrix Lamp</source>
+        <translation>Matrix Lamp</translation>
+    </message>
+    <message>
+        <source>Matrix of the simulated accessory</source>
+        <translation>Matrix of the simulated accessory</translation>
+    </message>
+    <message>
         <source>Medium</source>
         <translation>Medium</translation>
     </message>
@@ -750,6 +890,10 @@
     <message>
         <source>Mode %1</source>
         <translation>Mode %1</translation>
+    </message>
+    <message>
+        <source>Monitor</source>
+        <translation>Monitor</translation>
     </message>
     <message>
         <source>Movie</source>
@@ -784,6 +928,10 @@
         <translation>Native Mode</translation>
     </message>
     <message>
+        <source>Next value</source>
+        <translation>Next value</translation>
+    </message>
+    <message>
         <source>Night</source>
         <translation>Night</translation>
     </message>
@@ -810,6 +958,18 @@
     <message>
         <source>No Signal Timer</source>
         <translation>No Signal Timer</translation>
+    </message>
+    <message>
+        <source>No Type-C data cable or HDMI/DP + USB data cable connected.</source>
+        <translation>No Type-C data cable or HDMI/DP + USB data cable connected.</translation>
+    </message>
+    <message>
+        <source>No hot keys yet: choose a function above and add it.</source>
+        <translation>No hot keys yet: choose a function above and add it.</translation>
+    </message>
+    <message>
+        <source>No programs yet: add one and choose its scene.</source>
+        <translation>No programs yet: add one and choose its scene.</translation>
     </message>
     <message>
         <source>OK</source>
@@ -904,6 +1064,10 @@
         <translation>Picture Enhance</translation>
     </message>
     <message>
+        <source>Playback Level</source>
+        <translation>Playback Level</translation>
+    </message>
+    <message>
         <source>Plugged in</source>
         <translation>Plugged in</translation>
     </message>
@@ -916,6 +1080,10 @@
         <translation>Power Saving</translation>
     </message>
     <message>
+        <source>Press</source>
+        <translation>Press</translation>
+    </message>
+    <message>
         <source>Print Mode</source>
         <translation>Print Mode</translation>
     </message>
@@ -924,8 +1092,16 @@
         <translation>Print(P3-D50)</translation>
     </message>
     <message>
+        <source>Programs</source>
+        <translation>Programs</translation>
+    </message>
+    <message>
         <source>Proofs under a D50 light.</source>
         <translation>Proofs under a D50 light.</translation>
+    </message>
+    <message>
+        <source>Pull out in mid-transfer</source>
+        <translation>Pull out in mid-transfer</translation>
     </message>
     <message>
         <source>QR Code</source>
@@ -982,6 +1158,14 @@
     <message>
         <source>Recommended to set [Expand These Monitors] in the System-&gt; Screen when operating multiple monitors.</source>
         <translation>Recommended to set [Expand These Monitors] in the System-&gt; Screen when operating multiple monitors.</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rectangle</translation>
+    </message>
+    <message>
+        <source>Rectangular form</source>
+        <translation>Rectangular form</translation>
     </message>
     <message>
         <source>Refresh Rate</source>
@@ -1080,6 +1264,10 @@
         <translation>Show Time(s)</translation>
     </message>
     <message>
+        <source>Shown</source>
+        <translation>Shown</translation>
+    </message>
+    <message>
         <source>Simulated monitor</source>
         <translation>Simulated monitor</translation>
     </message>
@@ -1128,8 +1316,24 @@
         <translation>Super Resolution</translation>
     </message>
     <message>
+        <source>Switch off</source>
+        <translation>Switch off</translation>
+    </message>
+    <message>
+        <source>Switch on</source>
+        <translation>Switch on</translation>
+    </message>
+    <message>
         <source>System Settings</source>
         <translation>System Settings</translation>
+    </message>
+    <message>
+        <source>Taken by another</source>
+        <translation>Taken by another</translation>
+    </message>
+    <message>
+        <source>Tapering</source>
+        <translation>Tapering</translation>
     </message>
     <message>
         <source>Text Mode</source>
@@ -1144,8 +1348,20 @@
         <translation>The APP will restart automatically when switching languages.</translation>
     </message>
     <message>
+        <source>The accessory is the model with 25 rows of 42 cells</source>
+        <translation>The accessory is the model with 25 rows of 42 cells</translation>
+    </message>
+    <message>
+        <source>The accessory takes no report until the button is released</source>
+        <translation>The accessory takes no report until the button is released</translation>
+    </message>
+    <message>
         <source>The answer to the next read never arrives</source>
         <translation>The answer to the next read never arrives</translation>
+    </message>
+    <message>
+        <source>The cable is pulled out at the eighth report from now</source>
+        <translation>The cable is pulled out at the eighth report from now</translation>
     </message>
     <message>
         <source>The cable is pulled out until the button is released</source>
@@ -1196,6 +1412,14 @@
         <translation>The picture as the factory set it.</translation>
     </message>
     <message>
+        <source>The program has not registered this combination.</source>
+        <translation>The program has not registered this combination.</translation>
+    </message>
+    <message>
+        <source>The program heard it.</source>
+        <translation>The program heard it.</translation>
+    </message>
+    <message>
         <source>The selected display is unsupported or the signal line is disconnected.</source>
         <translation>The selected display is unsupported or the signal line is disconnected.</translation>
     </message>
@@ -1226,6 +1450,10 @@
     <message>
         <source>The white of printed paper.</source>
         <translation>The white of printed paper.</translation>
+    </message>
+    <message>
+        <source>This function has its row already.</source>
+        <translation>This function has its row already.</translation>
     </message>
     <message>
         <source>This monitor has nothing to set here.</source>
@@ -1272,6 +1500,10 @@
         <translation>True colours for design work.</translation>
     </message>
     <message>
+        <source>Type the combination here, then press it on the whole desktop</source>
+        <translation>Type the combination here, then press it on the whole desktop</translation>
+    </message>
+    <message>
         <source>Type-B</source>
         <translation>Type-B</translation>
     </message>
@@ -1310,6 +1542,10 @@
     <message>
         <source>Upgrade</source>
         <translation>Upgrade</translation>
+    </message>
+    <message>
+        <source>Upload</source>
+        <translation>Upload</translation>
     </message>
     <message>
         <source>User1</source>
@@ -1352,8 +1588,16 @@
         <translation>V-Position</translation>
     </message>
     <message>
+        <source>Value before</source>
+        <translation>Value before</translation>
+    </message>
+    <message>
         <source>Vivid colours for animation.</source>
         <translation>Vivid colours for animation.</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warning</translation>
     </message>
     <message>
         <source>Web(sRGB)</source>
@@ -1366,6 +1610,14 @@
     <message>
         <source>Width</source>
         <translation>Width</translation>
+    </message>
+    <message>
+        <source>With the factory parameters</source>
+        <translation>With the factory parameters</translation>
+    </message>
+    <message>
+        <source>With your own parameters</source>
+        <translation>With your own parameters</translation>
     </message>
     <message>
         <source>Y</source>
@@ -1408,8 +1660,20 @@
         <translation>https://www.quorvel.example/knowledge</translation>
     </message>
     <message>
+        <source>lamp off</source>
+        <translation>lamp off</translation>
+    </message>
+    <message>
+        <source>live</source>
+        <translation>live</translation>
+    </message>
+    <message>
         <source>lost</source>
         <translation>lost</translation>
+    </message>
+    <message>
+        <source>mode %1</source>
+        <translation>mode %1</translation>
     </message>
     <message>
         <source>no answer</source>
@@ -1420,8 +1684,16 @@
         <translation>no monitor</translation>
     </message>
     <message>
+        <source>nothing</source>
+        <translation>nothing</translation>
+    </message>
+    <message>
         <source>ok</source>
         <translation>ok</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>open</translation>
     </message>
     <message>
         <source>refused</source>
@@ -1448,12 +1720,20 @@
         <translation>sRGB(2.2) Mode</translation>
     </message>
     <message>
+        <source>text</source>
+        <translation>text</translation>
+    </message>
+    <message>
         <source>unexpected</source>
         <translation>unexpected</translation>
     </message>
     <message>
         <source>unplugged</source>
         <translation>unplugged</translation>
+    </message>
+    <message>
+        <source>upload</source>
+        <translation>upload</translation>
     </message>
 </context>
 </TS>

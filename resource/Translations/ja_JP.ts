@@ -28,12 +28,32 @@
         <translation>%1 に書き込めません。変更はありません。</translation>
     </message>
     <message>
+        <source>%1 is in the list already.</source>
+        <translation>%1 は既にリストにあります。</translation>
+    </message>
+    <message>
+        <source>%1 is taken by another program or function and does nothing here.</source>
+        <translation>%1 は他のプログラムまたは機能が使用中のため、ここでは動作しません。</translation>
+    </message>
+    <message>
+        <source>%1 more programs of the file are followed and not shown.</source>
+        <translation>ファイル内の他の %1 個のプログラムも追従しますが、表示していません。</translation>
+    </message>
+    <message>
         <source>%1 · %2</source>
         <translation>%1 · %2</translation>
     </message>
     <message>
         <source>%1 · protocol faults: %2 · open handles: %3</source>
         <translation>%1 · プロトコルエラー: %2 · 開いているハンドル: %3</translation>
+    </message>
+    <message>
+        <source>%1, chunk %2 of %3</source>
+        <translation>%1、チャンク %2 / %3</translation>
+    </message>
+    <message>
+        <source>%1, frames: %2</source>
+        <translation>%1、フレーム数: %2</translation>
     </message>
     <message>
         <source>1 Hour</source>
@@ -156,8 +176,16 @@
         <translation>AI デュアルモード</translation>
     </message>
     <message>
+        <source>Accessory</source>
+        <translation>アクセサリ</translation>
+    </message>
+    <message>
         <source>Adaptive-Sync</source>
         <translation>Adaptive-Sync</translation>
+    </message>
+    <message>
+        <source>Add Scence</source>
+        <translation>シーンを追加</translation>
     </message>
     <message>
         <source>Adobe</source>
@@ -196,6 +224,14 @@
         <translation>位置合わせ 9</translation>
     </message>
     <message>
+        <source>All file (*.*)</source>
+        <translation>すべてのファイル (*.*)</translation>
+    </message>
+    <message>
+        <source>All hot keys rest while the switch above is off.</source>
+        <translation>上のスイッチがオフの間、すべてのホットキーは休止します。</translation>
+    </message>
+    <message>
         <source>American broadcasting primaries.</source>
         <translation>米国の放送規格の三原色です。</translation>
     </message>
@@ -214,6 +250,18 @@
     <message>
         <source>Animate Mode</source>
         <translation>アニメモード</translation>
+    </message>
+    <message>
+        <source>Animations</source>
+        <translation>アニメーション</translation>
+    </message>
+    <message>
+        <source>Another program registers the combination first</source>
+        <translation>別のプログラムがこの組み合わせを先に登録します</translation>
+    </message>
+    <message>
+        <source>Another program…</source>
+        <translation>別のプログラム…</translation>
     </message>
     <message>
         <source>Application is already running</source>
@@ -284,6 +332,10 @@
         <translation>輝度</translation>
     </message>
     <message>
+        <source>Bring to the front</source>
+        <translation>前面に出す</translation>
+    </message>
+    <message>
         <source>C</source>
         <translation>C</translation>
     </message>
@@ -308,6 +360,10 @@
         <translation>ケア項目</translation>
     </message>
     <message>
+        <source>Changes count once you press &quot;%1&quot;.</source>
+        <translation>「%1」を押すと変更が有効になります。</translation>
+    </message>
+    <message>
         <source>Choose Custom to make it your own.</source>
         <translation>「カスタム」を選ぶと好みに合わせて調整できます。</translation>
     </message>
@@ -318,6 +374,10 @@
     <message>
         <source>Cinema colours at a D65 white.</source>
         <translation>D65 白色点での映画の色です。</translation>
+    </message>
+    <message>
+        <source>Clock</source>
+        <translation>時計</translation>
     </message>
     <message>
         <source>Close</source>
@@ -346,6 +406,10 @@
     <message>
         <source>Color Temperature</source>
         <translation>色温</translation>
+    </message>
+    <message>
+        <source>Combination to press</source>
+        <translation>押す組み合わせ</translation>
     </message>
     <message>
         <source>Composition</source>
@@ -418,6 +482,14 @@
     <message>
         <source>Default</source>
         <translation>デフォルト</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>デスクトップ</translation>
     </message>
     <message>
         <source>Display P3</source>
@@ -500,6 +572,14 @@
         <translation>図面に適した細い線とくっきりした輪郭です。</translation>
     </message>
     <message>
+        <source>Follow Desc</source>
+        <translation>アプリごとにシーンモードを指定します。アプリが前面にある間だけモニターが切り替わり、離れると基本のシーンに戻ります。</translation>
+    </message>
+    <message>
+        <source>Follow Setting</source>
+        <translation>シーン追従の設定</translation>
+    </message>
+    <message>
         <source>For code on a dark ground.</source>
         <translation>暗い背景のコード向けです。</translation>
     </message>
@@ -514,6 +594,14 @@
     <message>
         <source>Frame</source>
         <translation>フレーム</translation>
+    </message>
+    <message>
+        <source>From now on another program has it, unless QUORVEL had it before.</source>
+        <translation>QUORVEL が先に登録していなければ、以後は別のプログラムのものです。</translation>
+    </message>
+    <message>
+        <source>Function</source>
+        <translation>機能</translation>
     </message>
     <message>
         <source>G</source>
@@ -546,6 +634,10 @@
     <message>
         <source>Game VS</source>
         <translation>ゲーム対戦</translation>
+    </message>
+    <message>
+        <source>Game report</source>
+        <translation>ゲームレポート</translation>
     </message>
     <message>
         <source>Gamma</source>
@@ -616,8 +708,16 @@
         <translation>ハイビジョン映像の制作向けです。</translation>
     </message>
     <message>
+        <source>Hold Ctrl or Alt and press a letter or a digit.</source>
+        <translation>Ctrl または Alt を押しながら、英字か数字を押してください。</translation>
+    </message>
+    <message>
         <source>Hotkey conflict</source>
         <translation>ショートカットキーの競合</translation>
+    </message>
+    <message>
+        <source>Hotkey overlay</source>
+        <translation>ホットキー表示</translation>
     </message>
     <message>
         <source>How the print will look under a D55 light.</source>
@@ -652,8 +752,32 @@
         <translation>入力信号</translation>
     </message>
     <message>
+        <source>Keyboard</source>
+        <translation>キーボード</translation>
+    </message>
+    <message>
+        <source>Keys of the numeric pad cannot be used.</source>
+        <translation>テンキーのキーは使えません。</translation>
+    </message>
+    <message>
         <source>Knowledge</source>
         <translation>ナレッジ</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_ADD_KEY</source>
+        <translation>ホットキーを追加</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_SHORTCUTKEY</source>
+        <translation>ショートカットキー</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_SHORTCUTKEY_DESC</source>
+        <translation>モニターの機能に、デスクトップのどこでも使えるキーを割り当てます。Ctrl か Alt と英字または数字。Backspace で消去します。</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>ランプ</translation>
     </message>
     <message>
         <source>Language</source>
@@ -686,6 +810,10 @@
     <message>
         <source>Light Sensor</source>
         <translation>光センサー</translation>
+    </message>
+    <message>
+        <source>Live frames</source>
+        <translation>ライブフレーム</translation>
     </message>
     <message>
         <source>Localdimming</source>
@@ -732,6 +860,18 @@
         <translation>Display P3 画面のノートパソコンと色を合わせます。</translation>
     </message>
     <message>
+        <source>Matrix Form</source>
+        <translation>マトリクス形状</translation>
+    </message>
+    <message>
+        <source>Matrix Lamp</source>
+        <translation>マトリクスランプ</translation>
+    </message>
+    <message>
+        <source>Matrix of the simulated accessory</source>
+        <translation>シミュレートされたアクセサリのマトリクス</translation>
+    </message>
+    <message>
         <source>Medium</source>
         <translation>中</translation>
     </message>
@@ -750,6 +890,10 @@
     <message>
         <source>Mode %1</source>
         <translation>モード %1</translation>
+    </message>
+    <message>
+        <source>Monitor</source>
+        <translation>モニター</translation>
     </message>
     <message>
         <source>Movie</source>
@@ -784,6 +928,10 @@
         <translation>ネイティブモード</translation>
     </message>
     <message>
+        <source>Next value</source>
+        <translation>次の値</translation>
+    </message>
+    <message>
         <source>Night</source>
         <translation>夜間</translation>
     </message>
@@ -810,6 +958,18 @@
     <message>
         <source>No Signal Timer</source>
         <translation>無信号タイマー</translation>
+    </message>
+    <message>
+        <source>No Type-C data cable or HDMI/DP + USB data cable connected.</source>
+        <translation>Type-C データケーブルまたは HDMI/DP + USB データケーブルが接続されていません。</translation>
+    </message>
+    <message>
+        <source>No hot keys yet: choose a function above and add it.</source>
+        <translation>ホットキーはまだありません。上で機能を選んで追加してください。</translation>
+    </message>
+    <message>
+        <source>No programs yet: add one and choose its scene.</source>
+        <translation>プログラムはまだありません。追加してシーンを選んでください。</translation>
     </message>
     <message>
         <source>OK</source>
@@ -904,6 +1064,10 @@
         <translation>画質強化</translation>
     </message>
     <message>
+        <source>Playback Level</source>
+        <translation>再生レベル</translation>
+    </message>
+    <message>
         <source>Plugged in</source>
         <translation>接続済み</translation>
     </message>
@@ -916,6 +1080,10 @@
         <translation>省電力</translation>
     </message>
     <message>
+        <source>Press</source>
+        <translation>押す</translation>
+    </message>
+    <message>
         <source>Print Mode</source>
         <translation>印刷モード</translation>
     </message>
@@ -924,8 +1092,16 @@
         <translation>印刷(P3-D50)</translation>
     </message>
     <message>
+        <source>Programs</source>
+        <translation>プログラム</translation>
+    </message>
+    <message>
         <source>Proofs under a D50 light.</source>
         <translation>D50 光源での校正刷り向けです。</translation>
+    </message>
+    <message>
+        <source>Pull out in mid-transfer</source>
+        <translation>転送中に抜く</translation>
     </message>
     <message>
         <source>QR Code</source>
@@ -982,6 +1158,14 @@
     <message>
         <source>Recommended to set [Expand These Monitors] in the System-&gt; Screen when operating multiple monitors.</source>
         <translation>複数のモニターを使用する場合は、「システム -&gt; ディスプレイ」で[表示画面を拡張する]に設定することをお勧めします。</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>長方形</translation>
+    </message>
+    <message>
+        <source>Rectangular form</source>
+        <translation>長方形タイプ</translation>
     </message>
     <message>
         <source>Refresh Rate</source>
@@ -1080,6 +1264,10 @@
         <translation>表示時間(秒)</translation>
     </message>
     <message>
+        <source>Shown</source>
+        <translation>表示内容</translation>
+    </message>
+    <message>
         <source>Simulated monitor</source>
         <translation>シミュレートされたモニター</translation>
     </message>
@@ -1128,8 +1316,24 @@
         <translation>超解像</translation>
     </message>
     <message>
+        <source>Switch off</source>
+        <translation>オフにする</translation>
+    </message>
+    <message>
+        <source>Switch on</source>
+        <translation>オンにする</translation>
+    </message>
+    <message>
         <source>System Settings</source>
         <translation>システム設定</translation>
+    </message>
+    <message>
+        <source>Taken by another</source>
+        <translation>他で使用</translation>
+    </message>
+    <message>
+        <source>Tapering</source>
+        <translation>先細り</translation>
     </message>
     <message>
         <source>Text Mode</source>
@@ -1144,8 +1348,20 @@
         <translation>言語を切り替えると、アプリは自動的に再起動します。</translation>
     </message>
     <message>
+        <source>The accessory is the model with 25 rows of 42 cells</source>
+        <translation>アクセサリは 25 行 × 42 セルのモデルです</translation>
+    </message>
+    <message>
+        <source>The accessory takes no report until the button is released</source>
+        <translation>ボタンを戻すまでアクセサリはレポートを受け取りません</translation>
+    </message>
+    <message>
         <source>The answer to the next read never arrives</source>
         <translation>次の読み取りの応答が届きません</translation>
+    </message>
+    <message>
+        <source>The cable is pulled out at the eighth report from now</source>
+        <translation>今から 8 番目のレポートでケーブルが抜かれます</translation>
     </message>
     <message>
         <source>The cable is pulled out until the button is released</source>
@@ -1196,6 +1412,14 @@
         <translation>工場出荷時の画質です。</translation>
     </message>
     <message>
+        <source>The program has not registered this combination.</source>
+        <translation>プログラムはこの組み合わせを登録していません。</translation>
+    </message>
+    <message>
+        <source>The program heard it.</source>
+        <translation>プログラムが受け取りました。</translation>
+    </message>
+    <message>
         <source>The selected display is unsupported or the signal line is disconnected.</source>
         <translation>選択したディスプレイは対応していないか、信号ケーブルが接続されていません。</translation>
     </message>
@@ -1226,6 +1450,10 @@
     <message>
         <source>The white of printed paper.</source>
         <translation>印刷用紙の白です。</translation>
+    </message>
+    <message>
+        <source>This function has its row already.</source>
+        <translation>この機能は既にリストにあります。</translation>
     </message>
     <message>
         <source>This monitor has nothing to set here.</source>
@@ -1272,6 +1500,10 @@
         <translation>デザイン作業に適した忠実な色です。</translation>
     </message>
     <message>
+        <source>Type the combination here, then press it on the whole desktop</source>
+        <translation>ここに組み合わせを入力し、デスクトップ全体で押します</translation>
+    </message>
+    <message>
         <source>Type-B</source>
         <translation>Type-B</translation>
     </message>
@@ -1310,6 +1542,10 @@
     <message>
         <source>Upgrade</source>
         <translation>更新</translation>
+    </message>
+    <message>
+        <source>Upload</source>
+        <translation>アップロード</translation>
     </message>
     <message>
         <source>User1</source>
@@ -1352,8 +1588,16 @@
         <translation>垂直位置</translation>
     </message>
     <message>
+        <source>Value before</source>
+        <translation>前の値</translation>
+    </message>
+    <message>
         <source>Vivid colours for animation.</source>
         <translation>アニメに適した鮮やかな色です。</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
     </message>
     <message>
         <source>Web(sRGB)</source>
@@ -1366,6 +1610,14 @@
     <message>
         <source>Width</source>
         <translation>幅</translation>
+    </message>
+    <message>
+        <source>With the factory parameters</source>
+        <translation>工場出荷時の設定</translation>
+    </message>
+    <message>
+        <source>With your own parameters</source>
+        <translation>ユーザー設定</translation>
     </message>
     <message>
         <source>Y</source>
@@ -1408,8 +1660,20 @@
         <translation>https://www.quorvel.example/knowledge</translation>
     </message>
     <message>
+        <source>lamp off</source>
+        <translation>ランプ消灯</translation>
+    </message>
+    <message>
+        <source>live</source>
+        <translation>ライブ</translation>
+    </message>
+    <message>
         <source>lost</source>
         <translation>消失</translation>
+    </message>
+    <message>
+        <source>mode %1</source>
+        <translation>モード %1</translation>
     </message>
     <message>
         <source>no answer</source>
@@ -1420,8 +1684,16 @@
         <translation>モニターなし</translation>
     </message>
     <message>
+        <source>nothing</source>
+        <translation>なし</translation>
+    </message>
+    <message>
         <source>ok</source>
         <translation>成功</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>開く</translation>
     </message>
     <message>
         <source>refused</source>
@@ -1448,12 +1720,20 @@
         <translation>sRGB(2.2) モード</translation>
     </message>
     <message>
+        <source>text</source>
+        <translation>テキスト</translation>
+    </message>
+    <message>
         <source>unexpected</source>
         <translation>想定外</translation>
     </message>
     <message>
         <source>unplugged</source>
         <translation>未接続</translation>
+    </message>
+    <message>
+        <source>upload</source>
+        <translation>アップロード済み</translation>
     </message>
 </context>
 </TS>

@@ -28,12 +28,32 @@
         <translation>无法写入 %1，未作任何更改。</translation>
     </message>
     <message>
+        <source>%1 is in the list already.</source>
+        <translation>%1 已在列表中。</translation>
+    </message>
+    <message>
+        <source>%1 is taken by another program or function and does nothing here.</source>
+        <translation>%1 已被其他程序或功能占用，在此不起作用。</translation>
+    </message>
+    <message>
+        <source>%1 more programs of the file are followed and not shown.</source>
+        <translation>文件中另有 %1 个程序会被跟随，但未显示。</translation>
+    </message>
+    <message>
         <source>%1 · %2</source>
         <translation>%1 · %2</translation>
     </message>
     <message>
         <source>%1 · protocol faults: %2 · open handles: %3</source>
         <translation>%1 · 协议错误：%2 · 打开的句柄：%3</translation>
+    </message>
+    <message>
+        <source>%1, chunk %2 of %3</source>
+        <translation>%1，第 %2 块，共 %3 块</translation>
+    </message>
+    <message>
+        <source>%1, frames: %2</source>
+        <translation>%1，帧数：%2</translation>
     </message>
     <message>
         <source>1 Hour</source>
@@ -156,8 +176,16 @@
         <translation>AI 双模式</translation>
     </message>
     <message>
+        <source>Accessory</source>
+        <translation>配件</translation>
+    </message>
+    <message>
         <source>Adaptive-Sync</source>
         <translation>Adaptive-Sync</translation>
+    </message>
+    <message>
+        <source>Add Scence</source>
+        <translation>添加场景</translation>
     </message>
     <message>
         <source>Adobe</source>
@@ -196,6 +224,14 @@
         <translation>对齐 9</translation>
     </message>
     <message>
+        <source>All file (*.*)</source>
+        <translation>所有文件 (*.*)</translation>
+    </message>
+    <message>
+        <source>All hot keys rest while the switch above is off.</source>
+        <translation>上方开关关闭时，所有快捷键均不起作用。</translation>
+    </message>
+    <message>
         <source>American broadcasting primaries.</source>
         <translation>美国广播标准的三原色。</translation>
     </message>
@@ -214,6 +250,18 @@
     <message>
         <source>Animate Mode</source>
         <translation>动画模式</translation>
+    </message>
+    <message>
+        <source>Animations</source>
+        <translation>动画</translation>
+    </message>
+    <message>
+        <source>Another program registers the combination first</source>
+        <translation>由另一个程序先注册该组合键</translation>
+    </message>
+    <message>
+        <source>Another program…</source>
+        <translation>其他程序…</translation>
     </message>
     <message>
         <source>Application is already running</source>
@@ -284,6 +332,10 @@
         <translation>亮度</translation>
     </message>
     <message>
+        <source>Bring to the front</source>
+        <translation>切换到前台</translation>
+    </message>
+    <message>
         <source>C</source>
         <translation>C</translation>
     </message>
@@ -308,6 +360,10 @@
         <translation>护理内容</translation>
     </message>
     <message>
+        <source>Changes count once you press &quot;%1&quot;.</source>
+        <translation>按“%1”后更改生效。</translation>
+    </message>
+    <message>
         <source>Choose Custom to make it your own.</source>
         <translation>选择“自定义”即可按喜好调整。</translation>
     </message>
@@ -318,6 +374,10 @@
     <message>
         <source>Cinema colours at a D65 white.</source>
         <translation>D65 白点下的影院色彩。</translation>
+    </message>
+    <message>
+        <source>Clock</source>
+        <translation>时钟</translation>
     </message>
     <message>
         <source>Close</source>
@@ -346,6 +406,10 @@
     <message>
         <source>Color Temperature</source>
         <translation>色温</translation>
+    </message>
+    <message>
+        <source>Combination to press</source>
+        <translation>要按下的组合键</translation>
     </message>
     <message>
         <source>Composition</source>
@@ -418,6 +482,14 @@
     <message>
         <source>Default</source>
         <translation>默认</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>桌面</translation>
     </message>
     <message>
         <source>Display P3</source>
@@ -500,6 +572,14 @@
         <translation>线条精细、边缘清晰，适合制图。</translation>
     </message>
     <message>
+        <source>Follow Desc</source>
+        <translation>为应用程序指定场景模式：该程序位于前台时显示器自动切换，离开后恢复基础场景。</translation>
+    </message>
+    <message>
+        <source>Follow Setting</source>
+        <translation>场景跟随设置</translation>
+    </message>
+    <message>
         <source>For code on a dark ground.</source>
         <translation>适合深色背景的代码。</translation>
     </message>
@@ -514,6 +594,14 @@
     <message>
         <source>Frame</source>
         <translation>边框</translation>
+    </message>
+    <message>
+        <source>From now on another program has it, unless QUORVEL had it before.</source>
+        <translation>从现在起由另一个程序占用，除非 QUORVEL 已先注册。</translation>
+    </message>
+    <message>
+        <source>Function</source>
+        <translation>功能</translation>
     </message>
     <message>
         <source>G</source>
@@ -546,6 +634,10 @@
     <message>
         <source>Game VS</source>
         <translation>游戏对战</translation>
+    </message>
+    <message>
+        <source>Game report</source>
+        <translation>游戏报告</translation>
     </message>
     <message>
         <source>Gamma</source>
@@ -616,8 +708,16 @@
         <translation>高清视频制作。</translation>
     </message>
     <message>
+        <source>Hold Ctrl or Alt and press a letter or a digit.</source>
+        <translation>请按住 Ctrl 或 Alt 再按字母或数字。</translation>
+    </message>
+    <message>
         <source>Hotkey conflict</source>
         <translation>快捷键冲突</translation>
+    </message>
+    <message>
+        <source>Hotkey overlay</source>
+        <translation>快捷键提示</translation>
     </message>
     <message>
         <source>How the print will look under a D55 light.</source>
@@ -652,8 +752,32 @@
         <translation>输入信号</translation>
     </message>
     <message>
+        <source>Keyboard</source>
+        <translation>键盘</translation>
+    </message>
+    <message>
+        <source>Keys of the numeric pad cannot be used.</source>
+        <translation>不能使用数字小键盘的按键。</translation>
+    </message>
+    <message>
         <source>Knowledge</source>
         <translation>知识库</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_ADD_KEY</source>
+        <translation>添加快捷键</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_SHORTCUTKEY</source>
+        <translation>快捷键</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_SHORTCUTKEY_DESC</source>
+        <translation>为显示器功能指定全局快捷键，在桌面任何位置都有效：Ctrl 或 Alt 加字母或数字，Backspace 清除。</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>灯</translation>
     </message>
     <message>
         <source>Language</source>
@@ -686,6 +810,10 @@
     <message>
         <source>Light Sensor</source>
         <translation>光线感应</translation>
+    </message>
+    <message>
+        <source>Live frames</source>
+        <translation>实时帧</translation>
     </message>
     <message>
         <source>Localdimming</source>
@@ -732,6 +860,18 @@
         <translation>与配备 Display P3 屏幕的笔记本电脑一致。</translation>
     </message>
     <message>
+        <source>Matrix Form</source>
+        <translation>矩阵形状</translation>
+    </message>
+    <message>
+        <source>Matrix Lamp</source>
+        <translation>矩阵灯</translation>
+    </message>
+    <message>
+        <source>Matrix of the simulated accessory</source>
+        <translation>模拟配件的矩阵</translation>
+    </message>
+    <message>
         <source>Medium</source>
         <translation>中</translation>
     </message>
@@ -750,6 +890,10 @@
     <message>
         <source>Mode %1</source>
         <translation>模式 %1</translation>
+    </message>
+    <message>
+        <source>Monitor</source>
+        <translation>显示器</translation>
     </message>
     <message>
         <source>Movie</source>
@@ -784,6 +928,10 @@
         <translation>原生模式</translation>
     </message>
     <message>
+        <source>Next value</source>
+        <translation>下一个值</translation>
+    </message>
+    <message>
         <source>Night</source>
         <translation>夜间</translation>
     </message>
@@ -810,6 +958,18 @@
     <message>
         <source>No Signal Timer</source>
         <translation>无信号定时</translation>
+    </message>
+    <message>
+        <source>No Type-C data cable or HDMI/DP + USB data cable connected.</source>
+        <translation>未连接 Type-C 数据线或 HDMI/DP + USB 数据线。</translation>
+    </message>
+    <message>
+        <source>No hot keys yet: choose a function above and add it.</source>
+        <translation>还没有快捷键：请在上方选择功能并添加。</translation>
+    </message>
+    <message>
+        <source>No programs yet: add one and choose its scene.</source>
+        <translation>还没有程序：请添加程序并选择其场景。</translation>
     </message>
     <message>
         <source>OK</source>
@@ -904,6 +1064,10 @@
         <translation>画质增强</translation>
     </message>
     <message>
+        <source>Playback Level</source>
+        <translation>播放等级</translation>
+    </message>
+    <message>
         <source>Plugged in</source>
         <translation>已连接</translation>
     </message>
@@ -916,6 +1080,10 @@
         <translation>节能</translation>
     </message>
     <message>
+        <source>Press</source>
+        <translation>按下</translation>
+    </message>
+    <message>
         <source>Print Mode</source>
         <translation>印刷模式</translation>
     </message>
@@ -924,8 +1092,16 @@
         <translation>印刷(P3-D50)</translation>
     </message>
     <message>
+        <source>Programs</source>
+        <translation>程序</translation>
+    </message>
+    <message>
         <source>Proofs under a D50 light.</source>
         <translation>D50 光源下的打样。</translation>
+    </message>
+    <message>
+        <source>Pull out in mid-transfer</source>
+        <translation>传输中拔出</translation>
     </message>
     <message>
         <source>QR Code</source>
@@ -982,6 +1158,14 @@
     <message>
         <source>Recommended to set [Expand These Monitors] in the System-&gt; Screen when operating multiple monitors.</source>
         <translation>使用多台显示器时，建议在“系统 -&gt; 屏幕”中设置[扩展这些显示器]。</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>矩形</translation>
+    </message>
+    <message>
+        <source>Rectangular form</source>
+        <translation>矩形款</translation>
     </message>
     <message>
         <source>Refresh Rate</source>
@@ -1080,6 +1264,10 @@
         <translation>显示时间(秒)</translation>
     </message>
     <message>
+        <source>Shown</source>
+        <translation>显示内容</translation>
+    </message>
+    <message>
         <source>Simulated monitor</source>
         <translation>模拟显示器</translation>
     </message>
@@ -1128,8 +1316,24 @@
         <translation>超分辨率</translation>
     </message>
     <message>
+        <source>Switch off</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Switch on</source>
+        <translation>打开</translation>
+    </message>
+    <message>
         <source>System Settings</source>
         <translation>系统设置</translation>
+    </message>
+    <message>
+        <source>Taken by another</source>
+        <translation>被占用</translation>
+    </message>
+    <message>
+        <source>Tapering</source>
+        <translation>锥形</translation>
     </message>
     <message>
         <source>Text Mode</source>
@@ -1144,8 +1348,20 @@
         <translation>切换语言时，程序将自动重新启动。</translation>
     </message>
     <message>
+        <source>The accessory is the model with 25 rows of 42 cells</source>
+        <translation>配件为 25 行、每行 42 格的型号</translation>
+    </message>
+    <message>
+        <source>The accessory takes no report until the button is released</source>
+        <translation>松开按钮前，配件不接收任何报告</translation>
+    </message>
+    <message>
         <source>The answer to the next read never arrives</source>
         <translation>下一次读取收不到应答</translation>
+    </message>
+    <message>
+        <source>The cable is pulled out at the eighth report from now</source>
+        <translation>从现在起第八个报告时拔出线缆</translation>
     </message>
     <message>
         <source>The cable is pulled out until the button is released</source>
@@ -1196,6 +1412,14 @@
         <translation>出厂设定的画面。</translation>
     </message>
     <message>
+        <source>The program has not registered this combination.</source>
+        <translation>程序未注册该组合键。</translation>
+    </message>
+    <message>
+        <source>The program heard it.</source>
+        <translation>程序已收到。</translation>
+    </message>
+    <message>
         <source>The selected display is unsupported or the signal line is disconnected.</source>
         <translation>所选显示器不受支持，或信号线未连接。</translation>
     </message>
@@ -1226,6 +1450,10 @@
     <message>
         <source>The white of printed paper.</source>
         <translation>印刷纸张的白色。</translation>
+    </message>
+    <message>
+        <source>This function has its row already.</source>
+        <translation>该功能已在列表中。</translation>
     </message>
     <message>
         <source>This monitor has nothing to set here.</source>
@@ -1272,6 +1500,10 @@
         <translation>色彩真实，适合设计工作。</translation>
     </message>
     <message>
+        <source>Type the combination here, then press it on the whole desktop</source>
+        <translation>在此输入组合键，然后在整个桌面上按下</translation>
+    </message>
+    <message>
         <source>Type-B</source>
         <translation>Type-B</translation>
     </message>
@@ -1310,6 +1542,10 @@
     <message>
         <source>Upgrade</source>
         <translation>升级</translation>
+    </message>
+    <message>
+        <source>Upload</source>
+        <translation>上传</translation>
     </message>
     <message>
         <source>User1</source>
@@ -1352,8 +1588,16 @@
         <translation>垂直位置</translation>
     </message>
     <message>
+        <source>Value before</source>
+        <translation>上一个值</translation>
+    </message>
+    <message>
         <source>Vivid colours for animation.</source>
         <translation>色彩鲜艳，适合动画。</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
     </message>
     <message>
         <source>Web(sRGB)</source>
@@ -1366,6 +1610,14 @@
     <message>
         <source>Width</source>
         <translation>宽度</translation>
+    </message>
+    <message>
+        <source>With the factory parameters</source>
+        <translation>出厂参数</translation>
+    </message>
+    <message>
+        <source>With your own parameters</source>
+        <translation>自定义参数</translation>
     </message>
     <message>
         <source>Y</source>
@@ -1408,8 +1660,20 @@
         <translation>https://www.quorvel.example/knowledge</translation>
     </message>
     <message>
+        <source>lamp off</source>
+        <translation>灯已关</translation>
+    </message>
+    <message>
+        <source>live</source>
+        <translation>实时</translation>
+    </message>
+    <message>
         <source>lost</source>
         <translation>已丢失</translation>
+    </message>
+    <message>
+        <source>mode %1</source>
+        <translation>模式 %1</translation>
     </message>
     <message>
         <source>no answer</source>
@@ -1420,8 +1684,16 @@
         <translation>无显示器</translation>
     </message>
     <message>
+        <source>nothing</source>
+        <translation>无</translation>
+    </message>
+    <message>
         <source>ok</source>
         <translation>成功</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>打开</translation>
     </message>
     <message>
         <source>refused</source>
@@ -1448,12 +1720,20 @@
         <translation>sRGB(2.2) 模式</translation>
     </message>
     <message>
+        <source>text</source>
+        <translation>文字</translation>
+    </message>
+    <message>
         <source>unexpected</source>
         <translation>意外数据</translation>
     </message>
     <message>
         <source>unplugged</source>
         <translation>已拔出</translation>
+    </message>
+    <message>
+        <source>upload</source>
+        <translation>已上传内容</translation>
     </message>
 </context>
 </TS>

@@ -28,12 +28,32 @@
         <translation>無法寫入 %1，未做任何變更。</translation>
     </message>
     <message>
+        <source>%1 is in the list already.</source>
+        <translation>%1 已在清單中。</translation>
+    </message>
+    <message>
+        <source>%1 is taken by another program or function and does nothing here.</source>
+        <translation>%1 已被其他程式或功能佔用，在此不起作用。</translation>
+    </message>
+    <message>
+        <source>%1 more programs of the file are followed and not shown.</source>
+        <translation>檔案中另有 %1 個程式會被跟隨，但未顯示。</translation>
+    </message>
+    <message>
         <source>%1 · %2</source>
         <translation>%1 · %2</translation>
     </message>
     <message>
         <source>%1 · protocol faults: %2 · open handles: %3</source>
         <translation>%1 · 通訊協定錯誤：%2 · 開啟的控制代碼：%3</translation>
+    </message>
+    <message>
+        <source>%1, chunk %2 of %3</source>
+        <translation>%1，第 %2 塊，共 %3 塊</translation>
+    </message>
+    <message>
+        <source>%1, frames: %2</source>
+        <translation>%1，影格數：%2</translation>
     </message>
     <message>
         <source>1 Hour</source>
@@ -156,8 +176,16 @@
         <translation>AI 雙模式</translation>
     </message>
     <message>
+        <source>Accessory</source>
+        <translation>配件</translation>
+    </message>
+    <message>
         <source>Adaptive-Sync</source>
         <translation>Adaptive-Sync</translation>
+    </message>
+    <message>
+        <source>Add Scence</source>
+        <translation>新增場景</translation>
     </message>
     <message>
         <source>Adobe</source>
@@ -196,6 +224,14 @@
         <translation>對齊 9</translation>
     </message>
     <message>
+        <source>All file (*.*)</source>
+        <translation>所有檔案 (*.*)</translation>
+    </message>
+    <message>
+        <source>All hot keys rest while the switch above is off.</source>
+        <translation>上方開關關閉時，所有快速鍵均不起作用。</translation>
+    </message>
+    <message>
         <source>American broadcasting primaries.</source>
         <translation>美國廣播標準的三原色。</translation>
     </message>
@@ -214,6 +250,18 @@
     <message>
         <source>Animate Mode</source>
         <translation>動畫模式</translation>
+    </message>
+    <message>
+        <source>Animations</source>
+        <translation>動畫</translation>
+    </message>
+    <message>
+        <source>Another program registers the combination first</source>
+        <translation>由另一個程式先註冊該組合鍵</translation>
+    </message>
+    <message>
+        <source>Another program…</source>
+        <translation>其他程式…</translation>
     </message>
     <message>
         <source>Application is already running</source>
@@ -284,6 +332,10 @@
         <translation>亮度</translation>
     </message>
     <message>
+        <source>Bring to the front</source>
+        <translation>切換到前景</translation>
+    </message>
+    <message>
         <source>C</source>
         <translation>C</translation>
     </message>
@@ -308,6 +360,10 @@
         <translation>保養內容</translation>
     </message>
     <message>
+        <source>Changes count once you press &quot;%1&quot;.</source>
+        <translation>按「%1」後變更生效。</translation>
+    </message>
+    <message>
         <source>Choose Custom to make it your own.</source>
         <translation>選擇「自訂」即可依喜好調整。</translation>
     </message>
@@ -318,6 +374,10 @@
     <message>
         <source>Cinema colours at a D65 white.</source>
         <translation>D65 白點下的電影院色彩。</translation>
+    </message>
+    <message>
+        <source>Clock</source>
+        <translation>時鐘</translation>
     </message>
     <message>
         <source>Close</source>
@@ -346,6 +406,10 @@
     <message>
         <source>Color Temperature</source>
         <translation>色溫</translation>
+    </message>
+    <message>
+        <source>Combination to press</source>
+        <translation>要按下的組合鍵</translation>
     </message>
     <message>
         <source>Composition</source>
@@ -418,6 +482,14 @@
     <message>
         <source>Default</source>
         <translation>預設</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>刪除</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>桌面</translation>
     </message>
     <message>
         <source>Display P3</source>
@@ -500,6 +572,14 @@
         <translation>線條精細、邊緣清晰，適合製圖。</translation>
     </message>
     <message>
+        <source>Follow Desc</source>
+        <translation>為應用程式指定場景模式：該程式位於前景時顯示器自動切換，離開後恢復基礎場景。</translation>
+    </message>
+    <message>
+        <source>Follow Setting</source>
+        <translation>場景跟隨設定</translation>
+    </message>
+    <message>
         <source>For code on a dark ground.</source>
         <translation>適合深色背景的程式碼。</translation>
     </message>
@@ -514,6 +594,14 @@
     <message>
         <source>Frame</source>
         <translation>邊框</translation>
+    </message>
+    <message>
+        <source>From now on another program has it, unless QUORVEL had it before.</source>
+        <translation>從現在起由另一個程式佔用，除非 QUORVEL 已先註冊。</translation>
+    </message>
+    <message>
+        <source>Function</source>
+        <translation>功能</translation>
     </message>
     <message>
         <source>G</source>
@@ -546,6 +634,10 @@
     <message>
         <source>Game VS</source>
         <translation>遊戲對戰</translation>
+    </message>
+    <message>
+        <source>Game report</source>
+        <translation>遊戲報告</translation>
     </message>
     <message>
         <source>Gamma</source>
@@ -616,8 +708,16 @@
         <translation>高畫質視訊製作。</translation>
     </message>
     <message>
+        <source>Hold Ctrl or Alt and press a letter or a digit.</source>
+        <translation>請按住 Ctrl 或 Alt 再按字母或數字。</translation>
+    </message>
+    <message>
         <source>Hotkey conflict</source>
         <translation>快速鍵衝突</translation>
+    </message>
+    <message>
+        <source>Hotkey overlay</source>
+        <translation>快速鍵提示</translation>
     </message>
     <message>
         <source>How the print will look under a D55 light.</source>
@@ -652,8 +752,32 @@
         <translation>輸入訊號</translation>
     </message>
     <message>
+        <source>Keyboard</source>
+        <translation>鍵盤</translation>
+    </message>
+    <message>
+        <source>Keys of the numeric pad cannot be used.</source>
+        <translation>不能使用數字鍵盤的按鍵。</translation>
+    </message>
+    <message>
         <source>Knowledge</source>
         <translation>知識庫</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_ADD_KEY</source>
+        <translation>新增快速鍵</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_SHORTCUTKEY</source>
+        <translation>快速鍵</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_SHORTCUTKEY_DESC</source>
+        <translation>為顯示器功能指定全域快速鍵，在桌面任何位置都有效：Ctrl 或 Alt 加字母或數字，Backspace 清除。</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>燈</translation>
     </message>
     <message>
         <source>Language</source>
@@ -686,6 +810,10 @@
     <message>
         <source>Light Sensor</source>
         <translation>光線感應</translation>
+    </message>
+    <message>
+        <source>Live frames</source>
+        <translation>即時影格</translation>
     </message>
     <message>
         <source>Localdimming</source>
@@ -732,6 +860,18 @@
         <translation>與配備 Display P3 螢幕的筆記型電腦一致。</translation>
     </message>
     <message>
+        <source>Matrix Form</source>
+        <translation>矩陣形狀</translation>
+    </message>
+    <message>
+        <source>Matrix Lamp</source>
+        <translation>矩陣燈</translation>
+    </message>
+    <message>
+        <source>Matrix of the simulated accessory</source>
+        <translation>模擬配件的矩陣</translation>
+    </message>
+    <message>
         <source>Medium</source>
         <translation>中</translation>
     </message>
@@ -750,6 +890,10 @@
     <message>
         <source>Mode %1</source>
         <translation>模式 %1</translation>
+    </message>
+    <message>
+        <source>Monitor</source>
+        <translation>顯示器</translation>
     </message>
     <message>
         <source>Movie</source>
@@ -784,6 +928,10 @@
         <translation>原生模式</translation>
     </message>
     <message>
+        <source>Next value</source>
+        <translation>下一個值</translation>
+    </message>
+    <message>
         <source>Night</source>
         <translation>夜間</translation>
     </message>
@@ -810,6 +958,18 @@
     <message>
         <source>No Signal Timer</source>
         <translation>無訊號計時</translation>
+    </message>
+    <message>
+        <source>No Type-C data cable or HDMI/DP + USB data cable connected.</source>
+        <translation>未連接 Type-C 資料線或 HDMI/DP + USB 資料線。</translation>
+    </message>
+    <message>
+        <source>No hot keys yet: choose a function above and add it.</source>
+        <translation>尚無快速鍵：請在上方選擇功能並新增。</translation>
+    </message>
+    <message>
+        <source>No programs yet: add one and choose its scene.</source>
+        <translation>尚無程式：請新增程式並選擇其場景。</translation>
     </message>
     <message>
         <source>OK</source>
@@ -904,6 +1064,10 @@
         <translation>畫質增強</translation>
     </message>
     <message>
+        <source>Playback Level</source>
+        <translation>播放等級</translation>
+    </message>
+    <message>
         <source>Plugged in</source>
         <translation>已連接</translation>
     </message>
@@ -916,6 +1080,10 @@
         <translation>省電</translation>
     </message>
     <message>
+        <source>Press</source>
+        <translation>按下</translation>
+    </message>
+    <message>
         <source>Print Mode</source>
         <translation>印刷模式</translation>
     </message>
@@ -924,8 +1092,16 @@
         <translation>印刷(P3-D50)</translation>
     </message>
     <message>
+        <source>Programs</source>
+        <translation>程式</translation>
+    </message>
+    <message>
         <source>Proofs under a D50 light.</source>
         <translation>D50 光源下的打樣。</translation>
+    </message>
+    <message>
+        <source>Pull out in mid-transfer</source>
+        <translation>傳輸中拔出</translation>
     </message>
     <message>
         <source>QR Code</source>
@@ -982,6 +1158,14 @@
     <message>
         <source>Recommended to set [Expand These Monitors] in the System-&gt; Screen when operating multiple monitors.</source>
         <translation>使用多台顯示器時，建議在「系統 -&gt; 螢幕」中設定[延伸這些顯示器]。</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>矩形</translation>
+    </message>
+    <message>
+        <source>Rectangular form</source>
+        <translation>矩形款</translation>
     </message>
     <message>
         <source>Refresh Rate</source>
@@ -1080,6 +1264,10 @@
         <translation>顯示時間(秒)</translation>
     </message>
     <message>
+        <source>Shown</source>
+        <translation>顯示內容</translation>
+    </message>
+    <message>
         <source>Simulated monitor</source>
         <translation>模擬顯示器</translation>
     </message>
@@ -1128,8 +1316,24 @@
         <translation>超解析度</translation>
     </message>
     <message>
+        <source>Switch off</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>Switch on</source>
+        <translation>開啟</translation>
+    </message>
+    <message>
         <source>System Settings</source>
         <translation>系統設定</translation>
+    </message>
+    <message>
+        <source>Taken by another</source>
+        <translation>被佔用</translation>
+    </message>
+    <message>
+        <source>Tapering</source>
+        <translation>錐形</translation>
     </message>
     <message>
         <source>Text Mode</source>
@@ -1144,8 +1348,20 @@
         <translation>切換語言時，程式將自動重新啟動。</translation>
     </message>
     <message>
+        <source>The accessory is the model with 25 rows of 42 cells</source>
+        <translation>配件為 25 列、每列 42 格的型號</translation>
+    </message>
+    <message>
+        <source>The accessory takes no report until the button is released</source>
+        <translation>放開按鈕前，配件不接收任何報告</translation>
+    </message>
+    <message>
         <source>The answer to the next read never arrives</source>
         <translation>下一次讀取收不到回應</translation>
+    </message>
+    <message>
+        <source>The cable is pulled out at the eighth report from now</source>
+        <translation>從現在起第八個報告時拔出線纜</translation>
     </message>
     <message>
         <source>The cable is pulled out until the button is released</source>
@@ -1196,6 +1412,14 @@
         <translation>原廠設定的畫面。</translation>
     </message>
     <message>
+        <source>The program has not registered this combination.</source>
+        <translation>程式未註冊該組合鍵。</translation>
+    </message>
+    <message>
+        <source>The program heard it.</source>
+        <translation>程式已收到。</translation>
+    </message>
+    <message>
         <source>The selected display is unsupported or the signal line is disconnected.</source>
         <translation>不支援所選的顯示器，或訊號線未連接。</translation>
     </message>
@@ -1226,6 +1450,10 @@
     <message>
         <source>The white of printed paper.</source>
         <translation>印刷紙張的白色。</translation>
+    </message>
+    <message>
+        <source>This function has its row already.</source>
+        <translation>該功能已在清單中。</translation>
     </message>
     <message>
         <source>This monitor has nothing to set here.</source>
@@ -1272,6 +1500,10 @@
         <translation>色彩真實，適合設計工作。</translation>
     </message>
     <message>
+        <source>Type the combination here, then press it on the whole desktop</source>
+        <translation>在此輸入組合鍵，然後在整個桌面上按下</translation>
+    </message>
+    <message>
         <source>Type-B</source>
         <translation>Type-B</translation>
     </message>
@@ -1310,6 +1542,10 @@
     <message>
         <source>Upgrade</source>
         <translation>升級</translation>
+    </message>
+    <message>
+        <source>Upload</source>
+        <translation>上傳</translation>
     </message>
     <message>
         <source>User1</source>
@@ -1352,8 +1588,16 @@
         <translation>垂直位置</translation>
     </message>
     <message>
+        <source>Value before</source>
+        <translation>上一個值</translation>
+    </message>
+    <message>
         <source>Vivid colours for animation.</source>
         <translation>色彩鮮豔，適合動畫。</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
     </message>
     <message>
         <source>Web(sRGB)</source>
@@ -1366,6 +1610,14 @@
     <message>
         <source>Width</source>
         <translation>寬度</translation>
+    </message>
+    <message>
+        <source>With the factory parameters</source>
+        <translation>原廠參數</translation>
+    </message>
+    <message>
+        <source>With your own parameters</source>
+        <translation>自訂參數</translation>
     </message>
     <message>
         <source>Y</source>
@@ -1408,8 +1660,20 @@
         <translation>https://www.quorvel.example/knowledge</translation>
     </message>
     <message>
+        <source>lamp off</source>
+        <translation>燈已關</translation>
+    </message>
+    <message>
+        <source>live</source>
+        <translation>即時</translation>
+    </message>
+    <message>
         <source>lost</source>
         <translation>已遺失</translation>
+    </message>
+    <message>
+        <source>mode %1</source>
+        <translation>模式 %1</translation>
     </message>
     <message>
         <source>no answer</source>
@@ -1420,8 +1684,16 @@
         <translation>無顯示器</translation>
     </message>
     <message>
+        <source>nothing</source>
+        <translation>無</translation>
+    </message>
+    <message>
         <source>ok</source>
         <translation>成功</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>開啟</translation>
     </message>
     <message>
         <source>refused</source>
@@ -1448,12 +1720,20 @@
         <translation>sRGB(2.2) 模式</translation>
     </message>
     <message>
+        <source>text</source>
+        <translation>文字</translation>
+    </message>
+    <message>
         <source>unexpected</source>
         <translation>非預期</translation>
     </message>
     <message>
         <source>unplugged</source>
         <translation>已拔出</translation>
+    </message>
+    <message>
+        <source>upload</source>
+        <translation>已上傳內容</translation>
     </message>
 </context>
 </TS>

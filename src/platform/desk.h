@@ -3,6 +3,7 @@
 #include "platform/clock.h"
 #include "platform/devicenotifications.h"
 #include "platform/displays.h"
+#include "platform/foreground.h"
 #include "platform/globalkeys.h"
 #include "platform/hid.h"
 #include "platform/monitorconfiguration.h"
@@ -24,6 +25,7 @@ public:
     virtual StartUp &startUp() = 0;
     virtual DeviceNotifications &deviceNotifications() = 0;
     virtual GlobalKeys &globalKeys() = 0;
+    virtual Foreground &foreground() = 0;
     virtual Hid &hid() = 0;
     virtual Clock &clock() = 0;
 

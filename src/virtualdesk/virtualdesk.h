@@ -13,6 +13,7 @@
 #include "platform/clock.h"
 #include "platform/displays.h"
 #include "platform/process.h"
+#include "virtualdesk/applications.h"
 #include "virtualdesk/desksetup.h"
 #include "virtualdesk/devicemessages.h"
 #include "virtualdesk/hotkeys.h"
@@ -128,6 +129,10 @@ public:
     /// Somebody presses a key, kModifier... bits and virtual-key code. False when the program has not registered it.
     bool pressKey(std::uint32_t modifiers, std::uint32_t virtualKey) { return m_hotKeys.press(modifiers, virtualKey); }
 
+    // The other programs.
+
+    Applications &applications() { return m_applications; }
+
 Q_SIGNALS:
     /// A monitor was plugged or unplugged, or a fault was set on one.
     void monitorsChanged();
@@ -161,6 +166,7 @@ private:
     std::uintptr_t m_displayGeneration = 1; // display handles of an older set-up are outdated
     DeviceRegistrations m_registrations;
     HotKeys m_hotKeys;
+    Applications m_applications;
     SimulatedAccessory m_accessory;
     QString m_mutexFolder;
     StartUpFile m_startUp;

@@ -12,10 +12,11 @@
 #include "controls/sharedfonts.h"
 #include "ddc_protocol/displayenumeration.h"
 #include "ddc_protocol/settingsstore.h"
+#include "page/BasicSetting/hotkeyoverlay.h"
 #include "page/BasicSetting/toollanguage.h"
+#include "page/engine/dropdown.h"
 #include "page/engine/labels.h"
 #include "page/engine/optiongrouprow.h"
-#include "page/engine/pagestyle.h"
 #include "platform/desk.h"
 #include "relaunch.h"
 #include "searchdevicedlg.h"
@@ -25,12 +26,13 @@ namespace {
 constexpr Command kNoCommand{}; // these options are the tool's own and never go to the monitor
 constexpr char kStartUp[] = LABEL("Run on startup");
 constexpr char kLanguage[] = LABEL("Tool language settings");
+constexpr char kOverlay[] = LABEL("Hotkey overlay");
 constexpr char kVersion[] = "version";
 constexpr char kMachine[] = "machine";
 
 constexpr Option kYesNo[] = {{LABEL("Yes"), 1}, {LABEL("No"), 0}};
 
-const Section kGeneral[] = {CustomPart{kStartUp}, CustomPart{kLanguage}, CustomPart{kVersion}};
+const Section kGeneral[] = {CustomPart{kStartUp}, CustomPart{kLanguage}, CustomPart{kOverlay}, CustomPart{kVersion}};
 const Section kMachineSelect[] = {CustomPart{kMachine}};
 const PanelSpec kPanels[] = {
     {LABEL("General Settings"), "tool_settings", "pageGeneralSettings", kGeneral},
@@ -80,6 +82,8 @@ QWidget *pagePCSetting::buildPart(const char *name)
         return m_startUp = makeOptions({kStartUp, kNoCommand, kYesNo});
     if (qstrcmp(name, kLanguage) == 0)
         return m_language = makeOptions({kLanguage, kNoCommand, languageOptions()});
+    if (qstrcmp(name, kOverlay) == 0)
+        return m_overlay = makeOptions({kOverlay, kNoCommand, kYesNo});
     return qstrcmp(name, kVersion) == 0 ? buildVersion() : buildMachine();
 }
 
@@ -103,9 +107,8 @@ QWidget *pagePCSetting::buildVersion()
 QWidget *pagePCSetting::buildMachine()
 {
     auto *part = new QWidget(this);
-    m_machines = new QComboBox(part);
+    m_machines = makeDropDown(part);
     m_machines->setObjectName(QStringLiteral("machines"));
-    dressComboBox(m_machines);
     m_machines->setFixedSize(320, 36);
     connect(m_machines, &QComboBox::currentIndexChanged, this, &pagePCSetting::onComboxIndexChanged);
     texts().bind(LABEL("Machine Select"), [this](const QString &text) { m_machines->setAccessibleName(text); });
@@ -140,6 +143,7 @@ void pagePCSetting::showEvent(QShowEvent *event)
 void pagePCSetting::showWhatIsSet()
 {
     m_startUp->showValue(runsOnStartUp() ? 1 : 0);
+    m_overlay->showValue(hotkeyOverlayOn() ? 1 : 0);
     const ToolLanguage &language = toolLanguageOf(toolLanguageCode());
     m_language->showValue(static_cast<int>(&language - toolLanguages().data()));
 }
@@ -168,6 +172,8 @@ void pagePCSetting::onButtonClicked(QPushButton *button)
     showNotice({});
     if (name.contains(QLatin1String(kStartUp)))
         setRunOnStartUp(name.contains(QLatin1String("Yes")));
+    else if (name.contains(QLatin1String(kOverlay)))
+        setOverlay(name.contains(QLatin1String("Yes")));
     else if (name.contains(QLatin1String(kLanguage)))
         changeLanguage(name);
 }
@@ -179,6 +185,13 @@ void pagePCSetting::setRunOnStartUp(bool on)
     const bool ok = on ? startUp.setValue(name, programPath()) : startUp.removeValue(name);
     if (!ok || runsOnStartUp() != on)
         showNotice(QObject::tr("The system did not allow \"%1\" to be changed.").arg(QObject::tr(kStartUp)));
+    showWhatIsSet();
+}
+
+void pagePCSetting::setOverlay(bool on)
+{
+    if (!setHotkeyOverlayOn(on))
+        showNotice(notWritten());
     showWhatIsSet();
 }
 

@@ -13,6 +13,7 @@
 #include "page/Nightloom/matrixeditor.h"
 #include "page/Nightloom/pageledmatrixcanvas.h"
 #include "page/Nightloom/toolcolumn.h"
+#include "page/engine/dropdown.h"
 #include "page/engine/labels.h"
 #include "page/engine/pagestyle.h"
 
@@ -152,9 +153,8 @@ QWidget *pageLEDMatrixCanvas::buildModeBox()
     auto *caption = new CaptionLabel(QString(), 15, part);
     caption->setStyleSheet(QStringLiteral("QLabel { color: #ffffff; } QLabel:disabled { color: #696969; }"));
     caption->setFixedWidth(kToolCaptionWidth);
-    m_modes = new QComboBox(part);
+    m_modes = makeDropDown(part);
     m_modes->setObjectName(QStringLiteral("modes"));
-    dressComboBox(m_modes);
     m_modes->setFixedHeight(36);
     for (int i = 0; i < kModes; ++i) {
         m_modes->addItem(QString());

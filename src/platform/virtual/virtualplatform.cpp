@@ -7,6 +7,7 @@
 #include <QProcess>
 
 #include "platform/systemclock.h"
+#include "platform/virtual/virtualforeground.h"
 #include "platform/virtual/virtualhid.h"
 #include "virtualdesk/deskscript.h"
 #include "virtualdesk/deskwindow.h"
@@ -268,7 +269,8 @@ VirtualPlatform::VirtualPlatform(VirtualDesk &desk, Clock &clock)
       m_monitors(std::make_unique<VirtualMonitors>(desk)), m_process(std::make_unique<VirtualProcess>(desk)),
       m_startUp(std::make_unique<VirtualStartUp>(desk)),
       m_deviceNotifications(std::make_unique<VirtualNotifications>(desk)),
-      m_globalKeys(std::make_unique<VirtualGlobalKeys>(desk)), m_hid(std::make_unique<VirtualHid>(desk))
+      m_globalKeys(std::make_unique<VirtualGlobalKeys>(desk)),
+      m_foreground(std::make_unique<VirtualForeground>(desk.applications())), m_hid(std::make_unique<VirtualHid>(desk))
 {
 }
 
@@ -302,6 +304,11 @@ DeviceNotifications &VirtualPlatform::deviceNotifications()
 GlobalKeys &VirtualPlatform::globalKeys()
 {
     return *m_globalKeys;
+}
+
+Foreground &VirtualPlatform::foreground()
+{
+    return *m_foreground;
 }
 
 Hid &VirtualPlatform::hid()

@@ -23,6 +23,7 @@ public:
     StartUp &startUp() override;
     DeviceNotifications &deviceNotifications() override;
     GlobalKeys &globalKeys() override;
+    Foreground &foreground() override;
     Hid &hid() override;
     Clock &clock() override;
 
@@ -41,6 +42,7 @@ private:
     std::unique_ptr<StartUp> m_startUp;
     std::unique_ptr<DeviceNotifications> m_deviceNotifications;
     std::unique_ptr<GlobalKeys> m_globalKeys;
+    std::unique_ptr<Foreground> m_foreground;
     std::unique_ptr<Hid> m_hid;
 };
 

@@ -3,6 +3,7 @@
 #include "platform/systemclock.h"
 #include "platform/win32/win32devicenotifications.h"
 #include "platform/win32/win32displays.h"
+#include "platform/win32/win32foreground.h"
 #include "platform/win32/win32globalkeys.h"
 #include "platform/win32/win32hid.h"
 #include "platform/win32/win32monitorconfiguration.h"
@@ -22,6 +23,7 @@ public:
     StartUp &startUp() override { return m_startUp; }
     DeviceNotifications &deviceNotifications() override { return m_deviceNotifications; }
     GlobalKeys &globalKeys() override { return m_globalKeys; }
+    Foreground &foreground() override { return m_foreground; }
     Hid &hid() override { return m_hid; }
     Clock &clock() override { return m_clock; }
 
@@ -32,6 +34,7 @@ private:
     Win32StartUp m_startUp;
     Win32DeviceNotifications m_deviceNotifications;
     Win32GlobalKeys m_globalKeys;
+    Win32Foreground m_foreground;
     Win32Hid m_hid;
     SystemClock m_clock;
 };
