@@ -102,6 +102,7 @@ private:
     void setUpFrame();
     void initialise();
     void createPages();
+    void createAccessoryPages();
     void addPage(PageId id, Page *page);
     void createAutomation();
     void createTrayIcon();

@@ -15,6 +15,8 @@ enum class PageId {
     ToolSetting,
     ServicesSetting,
     IoSetting,
+    LedText,
+    LedCanvas,
     ShortcutKey,
     ScenarioFollowing,
     LedSystem,

@@ -188,6 +188,10 @@
         <translation>Adaptive-Sync</translation>
     </message>
     <message>
+        <source>Add Frame</source>
+        <translation>Add Frame</translation>
+    </message>
+    <message>
         <source>Add Scence</source>
         <translation>Add Scence</translation>
     </message>
@@ -360,8 +364,16 @@
         <translation>CR Enhance</translation>
     </message>
     <message>
+        <source>CSV file (*.csv);</source>
+        <translation>CSV file (*.csv);</translation>
+    </message>
+    <message>
         <source>Care Content</source>
         <translation>Care Content</translation>
+    </message>
+    <message>
+        <source>Cell Size</source>
+        <translation>Cell Size</translation>
     </message>
     <message>
         <source>Changes count once you press &quot;%1&quot;.</source>
@@ -378,6 +390,10 @@
     <message>
         <source>Cinema colours at a D65 white.</source>
         <translation>Cinema colours at a D65 white.</translation>
+    </message>
+    <message>
+        <source>Clean Frame</source>
+        <translation>Clean Frame</translation>
     </message>
     <message>
         <source>Clock</source>
@@ -492,6 +508,10 @@
         <translation>Delete</translation>
     </message>
     <message>
+        <source>Delete Frame</source>
+        <translation>Delete Frame</translation>
+    </message>
+    <message>
         <source>Desktop</source>
         <translation>Desktop</translation>
     </message>
@@ -510,6 +530,10 @@
     <message>
         <source>Drop a chunk</source>
         <translation>Drop a chunk</translation>
+    </message>
+    <message>
+        <source>Duplicate Frame</source>
+        <translation>Duplicate Frame</translation>
     </message>
     <message>
         <source>DyDs</source>
@@ -544,6 +568,10 @@
         <translation>Emberline</translation>
     </message>
     <message>
+        <source>Erase</source>
+        <translation>Erase</translation>
+    </message>
+    <message>
         <source>European broadcasting primaries.</source>
         <translation>European broadcasting primaries.</translation>
     </message>
@@ -560,6 +588,10 @@
         <translation>Exit</translation>
     </message>
     <message>
+        <source>Export Animate</source>
+        <translation>Export Animate</translation>
+    </message>
+    <message>
         <source>Eye Care</source>
         <translation>Eye Care</translation>
     </message>
@@ -570,6 +602,10 @@
     <message>
         <source>Eyeshield Remind</source>
         <translation>Eyeshield Remind</translation>
+    </message>
+    <message>
+        <source>File is null.</source>
+        <translation>File is null.</translation>
     </message>
     <message>
         <source>Fine lines and clear edges for drawings.</source>
@@ -598,6 +634,14 @@
     <message>
         <source>Frame</source>
         <translation>Frame</translation>
+    </message>
+    <message>
+        <source>Frames/s</source>
+        <translation>Frames/s</translation>
+    </message>
+    <message>
+        <source>Frames: %1</source>
+        <translation>Frames: %1</translation>
     </message>
     <message>
         <source>From now on another program has it.</source>
@@ -748,6 +792,10 @@
         <translation>I/O Settings</translation>
     </message>
     <message>
+        <source>Import Animate</source>
+        <translation>Import Animate</translation>
+    </message>
+    <message>
         <source>Information</source>
         <translation>Information</translation>
     </message>
@@ -778,6 +826,10 @@
     <message>
         <source>LANGUAGE_SHORTCUTKEY_DESC</source>
         <translation>Keys for functions of the monitor that work anywhere on the desktop: Ctrl or Alt with a letter or a digit; Backspace clears a field.</translation>
+    </message>
+    <message>
+        <source>LED matrix</source>
+        <translation>LED matrix</translation>
     </message>
     <message>
         <source>Lamp</source>
@@ -876,6 +928,10 @@
         <translation>Matrix of the simulated accessory</translation>
     </message>
     <message>
+        <source>Maximum 192 frames</source>
+        <translation>Maximum 192 frames</translation>
+    </message>
+    <message>
         <source>Medium</source>
         <translation>Medium</translation>
     </message>
@@ -892,8 +948,32 @@
         <translation>Minimise</translation>
     </message>
     <message>
+        <source>Mode</source>
+        <translation>Mode</translation>
+    </message>
+    <message>
         <source>Mode %1</source>
         <translation>Mode %1</translation>
+    </message>
+    <message>
+        <source>Mode1</source>
+        <translation>Mode1</translation>
+    </message>
+    <message>
+        <source>Mode2</source>
+        <translation>Mode2</translation>
+    </message>
+    <message>
+        <source>Mode3</source>
+        <translation>Mode3</translation>
+    </message>
+    <message>
+        <source>Mode4</source>
+        <translation>Mode4</translation>
+    </message>
+    <message>
+        <source>Mode5</source>
+        <translation>Mode5</translation>
     </message>
     <message>
         <source>Monitor</source>
@@ -968,6 +1048,10 @@
         <translation>No Type-C data cable or HDMI/DP + USB data cable connected.</translation>
     </message>
     <message>
+        <source>No file path selected.</source>
+        <translation>No file path selected.</translation>
+    </message>
+    <message>
         <source>No hot keys yet: choose a function above and add it.</source>
         <translation>No hot keys yet: choose a function above and add it.</translation>
     </message>
@@ -1014,6 +1098,10 @@
     <message>
         <source>On-screen menu</source>
         <translation>On-screen menu</translation>
+    </message>
+    <message>
+        <source>Onion Skin</source>
+        <translation>Onion Skin</translation>
     </message>
     <message>
         <source>Open</source>
@@ -1088,6 +1176,10 @@
         <translation>Press</translation>
     </message>
     <message>
+        <source>Preview</source>
+        <translation>Preview</translation>
+    </message>
+    <message>
         <source>Print Mode</source>
         <translation>Print Mode</translation>
     </message>
@@ -1098,6 +1190,10 @@
     <message>
         <source>Programs</source>
         <translation>Programs</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progress</translation>
     </message>
     <message>
         <source>Proofs under a D50 light.</source>
@@ -1172,12 +1268,20 @@
         <translation>Rectangular form</translation>
     </message>
     <message>
+        <source>Redo</source>
+        <translation>Redo</translation>
+    </message>
+    <message>
         <source>Refresh Rate</source>
         <translation>Refresh Rate</translation>
     </message>
     <message>
         <source>Refuse writes</source>
         <translation>Refuse writes</translation>
+    </message>
+    <message>
+        <source>Rendering</source>
+        <translation>Rendering</translation>
     </message>
     <message>
         <source>Requests</source>
@@ -1190,6 +1294,10 @@
     <message>
         <source>Round</source>
         <translation>Round</translation>
+    </message>
+    <message>
+        <source>Row %1, cell %2: %3</source>
+        <translation>Row %1, cell %2: %3</translation>
     </message>
     <message>
         <source>Ruler</source>
@@ -1216,6 +1324,18 @@
         <translation>Saturation R Y G C B M</translation>
     </message>
     <message>
+        <source>Save Animate</source>
+        <translation>Save Animate</translation>
+    </message>
+    <message>
+        <source>Save Data</source>
+        <translation>Save Data</translation>
+    </message>
+    <message>
+        <source>Save File</source>
+        <translation>Save File</translation>
+    </message>
+    <message>
         <source>Scan it with a phone to read more about your monitor.</source>
         <translation>Scan it with a phone to read more about your monitor.</translation>
     </message>
@@ -1234,6 +1354,18 @@
     <message>
         <source>Screen of the simulated monitor</source>
         <translation>Screen of the simulated monitor</translation>
+    </message>
+    <message>
+        <source>Scroll Left</source>
+        <translation>Scroll Left</translation>
+    </message>
+    <message>
+        <source>Scroll Right</source>
+        <translation>Scroll Right</translation>
+    </message>
+    <message>
+        <source>Select File</source>
+        <translation>Select File</translation>
     </message>
     <message>
         <source>Service Settings</source>
@@ -1304,6 +1436,10 @@
         <translation>Standard Mode</translation>
     </message>
     <message>
+        <source>Standing</source>
+        <translation>Standing</translation>
+    </message>
+    <message>
         <source>Starts the program that brings the monitor&apos;s firmware up to date. Leave the monitor switched on until it has finished.</source>
         <translation>Starts the program that brings the monitor&apos;s firmware up to date. Leave the monitor switched on until it has finished.</translation>
     </message>
@@ -1340,6 +1476,10 @@
         <translation>Tapering</translation>
     </message>
     <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
         <source>Text Mode</source>
         <translation>Text Mode</translation>
     </message>
@@ -1374,6 +1514,18 @@
     <message>
         <source>The colours of the cinema.</source>
         <translation>The colours of the cinema.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1</source>
+        <translation>The file cannot be read: %1</translation>
+    </message>
+    <message>
+        <source>The file cannot be written: %1</source>
+        <translation>The file cannot be written: %1</translation>
+    </message>
+    <message>
+        <source>The file holds no whole frame.</source>
+        <translation>The file holds no whole frame.</translation>
     </message>
     <message>
         <source>The grey scale of medical pictures.</source>
@@ -1460,6 +1612,10 @@
         <translation>The white of printed paper.</translation>
     </message>
     <message>
+        <source>There is no text yet.</source>
+        <translation>There is no text yet.</translation>
+    </message>
+    <message>
         <source>This function has its row already.</source>
         <translation>This function has its row already.</translation>
     </message>
@@ -1538,6 +1694,10 @@
     <message>
         <source>Ull-Level3</source>
         <translation>Ull-Level3</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Undo</translation>
     </message>
     <message>
         <source>Unplug</source>
@@ -1628,6 +1788,18 @@
         <translation>With your own parameters</translation>
     </message>
     <message>
+        <source>Write Animate</source>
+        <translation>Write Animate</translation>
+    </message>
+    <message>
+        <source>Write Data</source>
+        <translation>Write Data</translation>
+    </message>
+    <message>
+        <source>Write here what the matrix shall show.</source>
+        <translation>Write here what the matrix shall show.</translation>
+    </message>
+    <message>
         <source>Y</source>
         <translation>Y</translation>
     </message>
@@ -1696,8 +1868,16 @@
         <translation>nothing</translation>
     </message>
     <message>
+        <source>off</source>
+        <translation>off</translation>
+    </message>
+    <message>
         <source>ok</source>
         <translation>ok</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>on</translation>
     </message>
     <message>
         <source>open</source>

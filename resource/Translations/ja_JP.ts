@@ -188,6 +188,10 @@
         <translation>Adaptive-Sync</translation>
     </message>
     <message>
+        <source>Add Frame</source>
+        <translation>フレーム追加</translation>
+    </message>
+    <message>
         <source>Add Scence</source>
         <translation>シーンを追加</translation>
     </message>
@@ -360,8 +364,16 @@
         <translation>コントラスト強調</translation>
     </message>
     <message>
+        <source>CSV file (*.csv);</source>
+        <translation>CSVファイル (*.csv);</translation>
+    </message>
+    <message>
         <source>Care Content</source>
         <translation>ケア項目</translation>
+    </message>
+    <message>
+        <source>Cell Size</source>
+        <translation>セルの大きさ</translation>
     </message>
     <message>
         <source>Changes count once you press &quot;%1&quot;.</source>
@@ -378,6 +390,10 @@
     <message>
         <source>Cinema colours at a D65 white.</source>
         <translation>D65 白色点での映画の色です。</translation>
+    </message>
+    <message>
+        <source>Clean Frame</source>
+        <translation>フレーム消去</translation>
     </message>
     <message>
         <source>Clock</source>
@@ -492,6 +508,10 @@
         <translation>削除</translation>
     </message>
     <message>
+        <source>Delete Frame</source>
+        <translation>フレーム削除</translation>
+    </message>
+    <message>
         <source>Desktop</source>
         <translation>デスクトップ</translation>
     </message>
@@ -510,6 +530,10 @@
     <message>
         <source>Drop a chunk</source>
         <translation>ブロック欠落</translation>
+    </message>
+    <message>
+        <source>Duplicate Frame</source>
+        <translation>フレーム複製</translation>
     </message>
     <message>
         <source>DyDs</source>
@@ -544,6 +568,10 @@
         <translation>Emberline</translation>
     </message>
     <message>
+        <source>Erase</source>
+        <translation>消去</translation>
+    </message>
+    <message>
         <source>European broadcasting primaries.</source>
         <translation>欧州の放送規格の三原色です。</translation>
     </message>
@@ -560,6 +588,10 @@
         <translation>終了</translation>
     </message>
     <message>
+        <source>Export Animate</source>
+        <translation>アニメ書き出し</translation>
+    </message>
+    <message>
         <source>Eye Care</source>
         <translation>アイケア</translation>
     </message>
@@ -570,6 +602,10 @@
     <message>
         <source>Eyeshield Remind</source>
         <translation>目の休憩通知</translation>
+    </message>
+    <message>
+        <source>File is null.</source>
+        <translation>ファイルが空です。</translation>
     </message>
     <message>
         <source>Fine lines and clear edges for drawings.</source>
@@ -598,6 +634,14 @@
     <message>
         <source>Frame</source>
         <translation>フレーム</translation>
+    </message>
+    <message>
+        <source>Frames/s</source>
+        <translation>フレーム/秒</translation>
+    </message>
+    <message>
+        <source>Frames: %1</source>
+        <translation>フレーム数: %1</translation>
     </message>
     <message>
         <source>From now on another program has it.</source>
@@ -748,6 +792,10 @@
         <translation>入出力設定</translation>
     </message>
     <message>
+        <source>Import Animate</source>
+        <translation>アニメ読み込み</translation>
+    </message>
+    <message>
         <source>Information</source>
         <translation>情報</translation>
     </message>
@@ -778,6 +826,10 @@
     <message>
         <source>LANGUAGE_SHORTCUTKEY_DESC</source>
         <translation>モニターの機能に、デスクトップのどこでも使えるキーを割り当てます。Ctrl か Alt と英字または数字。Backspace で消去します。</translation>
+    </message>
+    <message>
+        <source>LED matrix</source>
+        <translation>LEDマトリクス</translation>
     </message>
     <message>
         <source>Lamp</source>
@@ -876,6 +928,10 @@
         <translation>シミュレートされたアクセサリのマトリクス</translation>
     </message>
     <message>
+        <source>Maximum 192 frames</source>
+        <translation>最大192フレーム</translation>
+    </message>
+    <message>
         <source>Medium</source>
         <translation>中</translation>
     </message>
@@ -892,8 +948,32 @@
         <translation>最小化</translation>
     </message>
     <message>
+        <source>Mode</source>
+        <translation>モード</translation>
+    </message>
+    <message>
         <source>Mode %1</source>
         <translation>モード %1</translation>
+    </message>
+    <message>
+        <source>Mode1</source>
+        <translation>モード1</translation>
+    </message>
+    <message>
+        <source>Mode2</source>
+        <translation>モード2</translation>
+    </message>
+    <message>
+        <source>Mode3</source>
+        <translation>モード3</translation>
+    </message>
+    <message>
+        <source>Mode4</source>
+        <translation>モード4</translation>
+    </message>
+    <message>
+        <source>Mode5</source>
+        <translation>モード5</translation>
     </message>
     <message>
         <source>Monitor</source>
@@ -968,6 +1048,10 @@
         <translation>Type-C データケーブルまたは HDMI/DP + USB データケーブルが接続されていません。</translation>
     </message>
     <message>
+        <source>No file path selected.</source>
+        <translation>ファイルが選択されていません。</translation>
+    </message>
+    <message>
         <source>No hot keys yet: choose a function above and add it.</source>
         <translation>ホットキーはまだありません。上で機能を選んで追加してください。</translation>
     </message>
@@ -1014,6 +1098,10 @@
     <message>
         <source>On-screen menu</source>
         <translation>オンスクリーンメニュー</translation>
+    </message>
+    <message>
+        <source>Onion Skin</source>
+        <translation>前フレーム透過</translation>
     </message>
     <message>
         <source>Open</source>
@@ -1088,6 +1176,10 @@
         <translation>押す</translation>
     </message>
     <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
+    </message>
+    <message>
         <source>Print Mode</source>
         <translation>印刷モード</translation>
     </message>
@@ -1098,6 +1190,10 @@
     <message>
         <source>Programs</source>
         <translation>プログラム</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>進行状況</translation>
     </message>
     <message>
         <source>Proofs under a D50 light.</source>
@@ -1172,12 +1268,20 @@
         <translation>長方形タイプ</translation>
     </message>
     <message>
+        <source>Redo</source>
+        <translation>やり直す</translation>
+    </message>
+    <message>
         <source>Refresh Rate</source>
         <translation>リフレッシュレート</translation>
     </message>
     <message>
         <source>Refuse writes</source>
         <translation>書き込み拒否</translation>
+    </message>
+    <message>
+        <source>Rendering</source>
+        <translation>描画中</translation>
     </message>
     <message>
         <source>Requests</source>
@@ -1190,6 +1294,10 @@
     <message>
         <source>Round</source>
         <translation>円形</translation>
+    </message>
+    <message>
+        <source>Row %1, cell %2: %3</source>
+        <translation>%1行 %2番: %3</translation>
     </message>
     <message>
         <source>Ruler</source>
@@ -1216,6 +1324,18 @@
         <translation>彩度 R Y G C B M</translation>
     </message>
     <message>
+        <source>Save Animate</source>
+        <translation>アニメ保存</translation>
+    </message>
+    <message>
+        <source>Save Data</source>
+        <translation>データ保存</translation>
+    </message>
+    <message>
+        <source>Save File</source>
+        <translation>ファイルを保存</translation>
+    </message>
+    <message>
         <source>Scan it with a phone to read more about your monitor.</source>
         <translation>スマートフォンで読み取ると、モニターの詳しい情報を確認できます。</translation>
     </message>
@@ -1234,6 +1354,18 @@
     <message>
         <source>Screen of the simulated monitor</source>
         <translation>シミュレートされたモニターの画面</translation>
+    </message>
+    <message>
+        <source>Scroll Left</source>
+        <translation>左へスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll Right</source>
+        <translation>右へスクロール</translation>
+    </message>
+    <message>
+        <source>Select File</source>
+        <translation>ファイルを選択</translation>
     </message>
     <message>
         <source>Service Settings</source>
@@ -1304,6 +1436,10 @@
         <translation>標準モード</translation>
     </message>
     <message>
+        <source>Standing</source>
+        <translation>固定表示</translation>
+    </message>
+    <message>
         <source>Starts the program that brings the monitor&apos;s firmware up to date. Leave the monitor switched on until it has finished.</source>
         <translation>モニターのファームウェアを更新するプログラムを起動します。完了するまでモニターの電源を切らないでください。</translation>
     </message>
@@ -1340,6 +1476,10 @@
         <translation>先細り</translation>
     </message>
     <message>
+        <source>Text</source>
+        <translation>テキスト</translation>
+    </message>
+    <message>
         <source>Text Mode</source>
         <translation>テキストモード</translation>
     </message>
@@ -1374,6 +1514,18 @@
     <message>
         <source>The colours of the cinema.</source>
         <translation>映画館の色です。</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1</source>
+        <translation>ファイルを読み込めません: %1</translation>
+    </message>
+    <message>
+        <source>The file cannot be written: %1</source>
+        <translation>ファイルに書き込めません: %1</translation>
+    </message>
+    <message>
+        <source>The file holds no whole frame.</source>
+        <translation>ファイルに完全なフレームがありません。</translation>
     </message>
     <message>
         <source>The grey scale of medical pictures.</source>
@@ -1460,6 +1612,10 @@
         <translation>印刷用紙の白です。</translation>
     </message>
     <message>
+        <source>There is no text yet.</source>
+        <translation>テキストがまだありません。</translation>
+    </message>
+    <message>
         <source>This function has its row already.</source>
         <translation>この機能は既にリストにあります。</translation>
     </message>
@@ -1538,6 +1694,10 @@
     <message>
         <source>Ull-Level3</source>
         <translation>Ull-レベル 3</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
     </message>
     <message>
         <source>Unplug</source>
@@ -1628,6 +1788,18 @@
         <translation>ユーザー設定</translation>
     </message>
     <message>
+        <source>Write Animate</source>
+        <translation>アニメ書き込み</translation>
+    </message>
+    <message>
+        <source>Write Data</source>
+        <translation>データ書き込み</translation>
+    </message>
+    <message>
+        <source>Write here what the matrix shall show.</source>
+        <translation>マトリクスに表示する文字を入力してください。</translation>
+    </message>
+    <message>
         <source>Y</source>
         <translation>Y</translation>
     </message>
@@ -1696,8 +1868,16 @@
         <translation>なし</translation>
     </message>
     <message>
+        <source>off</source>
+        <translation>消灯</translation>
+    </message>
+    <message>
         <source>ok</source>
         <translation>成功</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>点灯</translation>
     </message>
     <message>
         <source>open</source>

@@ -188,6 +188,10 @@
         <translation>Adaptive-Sync</translation>
     </message>
     <message>
+        <source>Add Frame</source>
+        <translation>添加帧</translation>
+    </message>
+    <message>
         <source>Add Scence</source>
         <translation>添加场景</translation>
     </message>
@@ -360,8 +364,16 @@
         <translation>对比度增强</translation>
     </message>
     <message>
+        <source>CSV file (*.csv);</source>
+        <translation>CSV文件 (*.csv);</translation>
+    </message>
+    <message>
         <source>Care Content</source>
         <translation>护理内容</translation>
+    </message>
+    <message>
+        <source>Cell Size</source>
+        <translation>格子大小</translation>
     </message>
     <message>
         <source>Changes count once you press &quot;%1&quot;.</source>
@@ -378,6 +390,10 @@
     <message>
         <source>Cinema colours at a D65 white.</source>
         <translation>D65 白点下的影院色彩。</translation>
+    </message>
+    <message>
+        <source>Clean Frame</source>
+        <translation>清空帧</translation>
     </message>
     <message>
         <source>Clock</source>
@@ -492,6 +508,10 @@
         <translation>删除</translation>
     </message>
     <message>
+        <source>Delete Frame</source>
+        <translation>删除帧</translation>
+    </message>
+    <message>
         <source>Desktop</source>
         <translation>桌面</translation>
     </message>
@@ -510,6 +530,10 @@
     <message>
         <source>Drop a chunk</source>
         <translation>丢失数据块</translation>
+    </message>
+    <message>
+        <source>Duplicate Frame</source>
+        <translation>复制帧</translation>
     </message>
     <message>
         <source>DyDs</source>
@@ -544,6 +568,10 @@
         <translation>Emberline</translation>
     </message>
     <message>
+        <source>Erase</source>
+        <translation>擦除</translation>
+    </message>
+    <message>
         <source>European broadcasting primaries.</source>
         <translation>欧洲广播标准的三原色。</translation>
     </message>
@@ -560,6 +588,10 @@
         <translation>退出</translation>
     </message>
     <message>
+        <source>Export Animate</source>
+        <translation>导出动画</translation>
+    </message>
+    <message>
         <source>Eye Care</source>
         <translation>护眼</translation>
     </message>
@@ -570,6 +602,10 @@
     <message>
         <source>Eyeshield Remind</source>
         <translation>护眼提醒</translation>
+    </message>
+    <message>
+        <source>File is null.</source>
+        <translation>文件为空。</translation>
     </message>
     <message>
         <source>Fine lines and clear edges for drawings.</source>
@@ -598,6 +634,14 @@
     <message>
         <source>Frame</source>
         <translation>边框</translation>
+    </message>
+    <message>
+        <source>Frames/s</source>
+        <translation>帧/秒</translation>
+    </message>
+    <message>
+        <source>Frames: %1</source>
+        <translation>帧数：%1</translation>
     </message>
     <message>
         <source>From now on another program has it.</source>
@@ -748,6 +792,10 @@
         <translation>I/O 设置</translation>
     </message>
     <message>
+        <source>Import Animate</source>
+        <translation>导入动画</translation>
+    </message>
+    <message>
         <source>Information</source>
         <translation>提示</translation>
     </message>
@@ -778,6 +826,10 @@
     <message>
         <source>LANGUAGE_SHORTCUTKEY_DESC</source>
         <translation>为显示器功能指定全局快捷键，在桌面任何位置都有效：Ctrl 或 Alt 加字母或数字，Backspace 清除。</translation>
+    </message>
+    <message>
+        <source>LED matrix</source>
+        <translation>LED矩阵</translation>
     </message>
     <message>
         <source>Lamp</source>
@@ -876,6 +928,10 @@
         <translation>模拟配件的矩阵</translation>
     </message>
     <message>
+        <source>Maximum 192 frames</source>
+        <translation>最多192帧</translation>
+    </message>
+    <message>
         <source>Medium</source>
         <translation>中</translation>
     </message>
@@ -892,8 +948,32 @@
         <translation>最小化</translation>
     </message>
     <message>
+        <source>Mode</source>
+        <translation>模式</translation>
+    </message>
+    <message>
         <source>Mode %1</source>
         <translation>模式 %1</translation>
+    </message>
+    <message>
+        <source>Mode1</source>
+        <translation>模式1</translation>
+    </message>
+    <message>
+        <source>Mode2</source>
+        <translation>模式2</translation>
+    </message>
+    <message>
+        <source>Mode3</source>
+        <translation>模式3</translation>
+    </message>
+    <message>
+        <source>Mode4</source>
+        <translation>模式4</translation>
+    </message>
+    <message>
+        <source>Mode5</source>
+        <translation>模式5</translation>
     </message>
     <message>
         <source>Monitor</source>
@@ -968,6 +1048,10 @@
         <translation>未连接 Type-C 数据线或 HDMI/DP + USB 数据线。</translation>
     </message>
     <message>
+        <source>No file path selected.</source>
+        <translation>未选择文件路径。</translation>
+    </message>
+    <message>
         <source>No hot keys yet: choose a function above and add it.</source>
         <translation>还没有快捷键：请在上方选择功能并添加。</translation>
     </message>
@@ -1014,6 +1098,10 @@
     <message>
         <source>On-screen menu</source>
         <translation>屏幕菜单</translation>
+    </message>
+    <message>
+        <source>Onion Skin</source>
+        <translation>洋葱皮</translation>
     </message>
     <message>
         <source>Open</source>
@@ -1088,6 +1176,10 @@
         <translation>按下</translation>
     </message>
     <message>
+        <source>Preview</source>
+        <translation>预览</translation>
+    </message>
+    <message>
         <source>Print Mode</source>
         <translation>印刷模式</translation>
     </message>
@@ -1098,6 +1190,10 @@
     <message>
         <source>Programs</source>
         <translation>程序</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>进度</translation>
     </message>
     <message>
         <source>Proofs under a D50 light.</source>
@@ -1172,12 +1268,20 @@
         <translation>矩形款</translation>
     </message>
     <message>
+        <source>Redo</source>
+        <translation>重做</translation>
+    </message>
+    <message>
         <source>Refresh Rate</source>
         <translation>刷新率</translation>
     </message>
     <message>
         <source>Refuse writes</source>
         <translation>拒绝写入</translation>
+    </message>
+    <message>
+        <source>Rendering</source>
+        <translation>正在生成</translation>
     </message>
     <message>
         <source>Requests</source>
@@ -1190,6 +1294,10 @@
     <message>
         <source>Round</source>
         <translation>圆形</translation>
+    </message>
+    <message>
+        <source>Row %1, cell %2: %3</source>
+        <translation>第%1行第%2格：%3</translation>
     </message>
     <message>
         <source>Ruler</source>
@@ -1216,6 +1324,18 @@
         <translation>饱和度 R Y G C B M</translation>
     </message>
     <message>
+        <source>Save Animate</source>
+        <translation>保存动画</translation>
+    </message>
+    <message>
+        <source>Save Data</source>
+        <translation>保存数据</translation>
+    </message>
+    <message>
+        <source>Save File</source>
+        <translation>保存文件</translation>
+    </message>
+    <message>
         <source>Scan it with a phone to read more about your monitor.</source>
         <translation>用手机扫描，了解更多显示器信息。</translation>
     </message>
@@ -1234,6 +1354,18 @@
     <message>
         <source>Screen of the simulated monitor</source>
         <translation>模拟显示器的屏幕</translation>
+    </message>
+    <message>
+        <source>Scroll Left</source>
+        <translation>向左滚动</translation>
+    </message>
+    <message>
+        <source>Scroll Right</source>
+        <translation>向右滚动</translation>
+    </message>
+    <message>
+        <source>Select File</source>
+        <translation>选择文件</translation>
     </message>
     <message>
         <source>Service Settings</source>
@@ -1304,6 +1436,10 @@
         <translation>标准模式</translation>
     </message>
     <message>
+        <source>Standing</source>
+        <translation>静止</translation>
+    </message>
+    <message>
         <source>Starts the program that brings the monitor&apos;s firmware up to date. Leave the monitor switched on until it has finished.</source>
         <translation>启动显示器固件升级程序。升级完成前请勿关闭显示器。</translation>
     </message>
@@ -1340,6 +1476,10 @@
         <translation>锥形</translation>
     </message>
     <message>
+        <source>Text</source>
+        <translation>文字</translation>
+    </message>
+    <message>
         <source>Text Mode</source>
         <translation>文字模式</translation>
     </message>
@@ -1374,6 +1514,18 @@
     <message>
         <source>The colours of the cinema.</source>
         <translation>影院的色彩。</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1</source>
+        <translation>文件无法读取：%1</translation>
+    </message>
+    <message>
+        <source>The file cannot be written: %1</source>
+        <translation>文件无法写入：%1</translation>
+    </message>
+    <message>
+        <source>The file holds no whole frame.</source>
+        <translation>文件中没有完整的帧。</translation>
     </message>
     <message>
         <source>The grey scale of medical pictures.</source>
@@ -1460,6 +1612,10 @@
         <translation>印刷纸张的白色。</translation>
     </message>
     <message>
+        <source>There is no text yet.</source>
+        <translation>还没有文字。</translation>
+    </message>
+    <message>
         <source>This function has its row already.</source>
         <translation>该功能已在列表中。</translation>
     </message>
@@ -1538,6 +1694,10 @@
     <message>
         <source>Ull-Level3</source>
         <translation>Ull-等级 3</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
     </message>
     <message>
         <source>Unplug</source>
@@ -1628,6 +1788,18 @@
         <translation>自定义参数</translation>
     </message>
     <message>
+        <source>Write Animate</source>
+        <translation>写入动画</translation>
+    </message>
+    <message>
+        <source>Write Data</source>
+        <translation>写入数据</translation>
+    </message>
+    <message>
+        <source>Write here what the matrix shall show.</source>
+        <translation>在此输入要在矩阵上显示的文字。</translation>
+    </message>
+    <message>
         <source>Y</source>
         <translation>Y</translation>
     </message>
@@ -1696,8 +1868,16 @@
         <translation>无</translation>
     </message>
     <message>
+        <source>off</source>
+        <translation>灭</translation>
+    </message>
+    <message>
         <source>ok</source>
         <translation>成功</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>亮</translation>
     </message>
     <message>
         <source>open</source>

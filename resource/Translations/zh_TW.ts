@@ -188,6 +188,10 @@
         <translation>Adaptive-Sync</translation>
     </message>
     <message>
+        <source>Add Frame</source>
+        <translation>新增畫格</translation>
+    </message>
+    <message>
         <source>Add Scence</source>
         <translation>新增場景</translation>
     </message>
@@ -360,8 +364,16 @@
         <translation>對比度增強</translation>
     </message>
     <message>
+        <source>CSV file (*.csv);</source>
+        <translation>CSV檔案 (*.csv);</translation>
+    </message>
+    <message>
         <source>Care Content</source>
         <translation>保養內容</translation>
+    </message>
+    <message>
+        <source>Cell Size</source>
+        <translation>格子大小</translation>
     </message>
     <message>
         <source>Changes count once you press &quot;%1&quot;.</source>
@@ -378,6 +390,10 @@
     <message>
         <source>Cinema colours at a D65 white.</source>
         <translation>D65 白點下的電影院色彩。</translation>
+    </message>
+    <message>
+        <source>Clean Frame</source>
+        <translation>清空畫格</translation>
     </message>
     <message>
         <source>Clock</source>
@@ -492,6 +508,10 @@
         <translation>刪除</translation>
     </message>
     <message>
+        <source>Delete Frame</source>
+        <translation>刪除畫格</translation>
+    </message>
+    <message>
         <source>Desktop</source>
         <translation>桌面</translation>
     </message>
@@ -510,6 +530,10 @@
     <message>
         <source>Drop a chunk</source>
         <translation>遺失資料區塊</translation>
+    </message>
+    <message>
+        <source>Duplicate Frame</source>
+        <translation>複製畫格</translation>
     </message>
     <message>
         <source>DyDs</source>
@@ -544,6 +568,10 @@
         <translation>Emberline</translation>
     </message>
     <message>
+        <source>Erase</source>
+        <translation>擦除</translation>
+    </message>
+    <message>
         <source>European broadcasting primaries.</source>
         <translation>歐洲廣播標準的三原色。</translation>
     </message>
@@ -560,6 +588,10 @@
         <translation>結束</translation>
     </message>
     <message>
+        <source>Export Animate</source>
+        <translation>匯出動畫</translation>
+    </message>
+    <message>
         <source>Eye Care</source>
         <translation>護眼</translation>
     </message>
@@ -570,6 +602,10 @@
     <message>
         <source>Eyeshield Remind</source>
         <translation>護眼提醒</translation>
+    </message>
+    <message>
+        <source>File is null.</source>
+        <translation>檔案為空。</translation>
     </message>
     <message>
         <source>Fine lines and clear edges for drawings.</source>
@@ -598,6 +634,14 @@
     <message>
         <source>Frame</source>
         <translation>邊框</translation>
+    </message>
+    <message>
+        <source>Frames/s</source>
+        <translation>畫格/秒</translation>
+    </message>
+    <message>
+        <source>Frames: %1</source>
+        <translation>畫格數：%1</translation>
     </message>
     <message>
         <source>From now on another program has it.</source>
@@ -748,6 +792,10 @@
         <translation>I/O 設定</translation>
     </message>
     <message>
+        <source>Import Animate</source>
+        <translation>匯入動畫</translation>
+    </message>
+    <message>
         <source>Information</source>
         <translation>資訊</translation>
     </message>
@@ -778,6 +826,10 @@
     <message>
         <source>LANGUAGE_SHORTCUTKEY_DESC</source>
         <translation>為顯示器功能指定全域快速鍵，在桌面任何位置都有效：Ctrl 或 Alt 加字母或數字，Backspace 清除。</translation>
+    </message>
+    <message>
+        <source>LED matrix</source>
+        <translation>LED矩陣</translation>
     </message>
     <message>
         <source>Lamp</source>
@@ -876,6 +928,10 @@
         <translation>模擬配件的矩陣</translation>
     </message>
     <message>
+        <source>Maximum 192 frames</source>
+        <translation>最多192個畫格</translation>
+    </message>
+    <message>
         <source>Medium</source>
         <translation>中</translation>
     </message>
@@ -892,8 +948,32 @@
         <translation>最小化</translation>
     </message>
     <message>
+        <source>Mode</source>
+        <translation>模式</translation>
+    </message>
+    <message>
         <source>Mode %1</source>
         <translation>模式 %1</translation>
+    </message>
+    <message>
+        <source>Mode1</source>
+        <translation>模式1</translation>
+    </message>
+    <message>
+        <source>Mode2</source>
+        <translation>模式2</translation>
+    </message>
+    <message>
+        <source>Mode3</source>
+        <translation>模式3</translation>
+    </message>
+    <message>
+        <source>Mode4</source>
+        <translation>模式4</translation>
+    </message>
+    <message>
+        <source>Mode5</source>
+        <translation>模式5</translation>
     </message>
     <message>
         <source>Monitor</source>
@@ -968,6 +1048,10 @@
         <translation>未連接 Type-C 資料線或 HDMI/DP + USB 資料線。</translation>
     </message>
     <message>
+        <source>No file path selected.</source>
+        <translation>未選擇檔案路徑。</translation>
+    </message>
+    <message>
         <source>No hot keys yet: choose a function above and add it.</source>
         <translation>尚無快速鍵：請在上方選擇功能並新增。</translation>
     </message>
@@ -1014,6 +1098,10 @@
     <message>
         <source>On-screen menu</source>
         <translation>螢幕選單</translation>
+    </message>
+    <message>
+        <source>Onion Skin</source>
+        <translation>洋蔥皮</translation>
     </message>
     <message>
         <source>Open</source>
@@ -1088,6 +1176,10 @@
         <translation>按下</translation>
     </message>
     <message>
+        <source>Preview</source>
+        <translation>預覽</translation>
+    </message>
+    <message>
         <source>Print Mode</source>
         <translation>印刷模式</translation>
     </message>
@@ -1098,6 +1190,10 @@
     <message>
         <source>Programs</source>
         <translation>程式</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>進度</translation>
     </message>
     <message>
         <source>Proofs under a D50 light.</source>
@@ -1172,12 +1268,20 @@
         <translation>矩形款</translation>
     </message>
     <message>
+        <source>Redo</source>
+        <translation>重做</translation>
+    </message>
+    <message>
         <source>Refresh Rate</source>
         <translation>更新率</translation>
     </message>
     <message>
         <source>Refuse writes</source>
         <translation>拒絕寫入</translation>
+    </message>
+    <message>
+        <source>Rendering</source>
+        <translation>正在產生</translation>
     </message>
     <message>
         <source>Requests</source>
@@ -1190,6 +1294,10 @@
     <message>
         <source>Round</source>
         <translation>圓形</translation>
+    </message>
+    <message>
+        <source>Row %1, cell %2: %3</source>
+        <translation>第%1列第%2格：%3</translation>
     </message>
     <message>
         <source>Ruler</source>
@@ -1216,6 +1324,18 @@
         <translation>飽和度 R Y G C B M</translation>
     </message>
     <message>
+        <source>Save Animate</source>
+        <translation>儲存動畫</translation>
+    </message>
+    <message>
+        <source>Save Data</source>
+        <translation>儲存資料</translation>
+    </message>
+    <message>
+        <source>Save File</source>
+        <translation>儲存檔案</translation>
+    </message>
+    <message>
         <source>Scan it with a phone to read more about your monitor.</source>
         <translation>用手機掃描，進一步了解您的顯示器。</translation>
     </message>
@@ -1234,6 +1354,18 @@
     <message>
         <source>Screen of the simulated monitor</source>
         <translation>模擬顯示器的螢幕</translation>
+    </message>
+    <message>
+        <source>Scroll Left</source>
+        <translation>向左捲動</translation>
+    </message>
+    <message>
+        <source>Scroll Right</source>
+        <translation>向右捲動</translation>
+    </message>
+    <message>
+        <source>Select File</source>
+        <translation>選擇檔案</translation>
     </message>
     <message>
         <source>Service Settings</source>
@@ -1304,6 +1436,10 @@
         <translation>標準模式</translation>
     </message>
     <message>
+        <source>Standing</source>
+        <translation>靜止</translation>
+    </message>
+    <message>
         <source>Starts the program that brings the monitor&apos;s firmware up to date. Leave the monitor switched on until it has finished.</source>
         <translation>啟動顯示器韌體升級程式。升級完成前請勿關閉顯示器。</translation>
     </message>
@@ -1340,6 +1476,10 @@
         <translation>錐形</translation>
     </message>
     <message>
+        <source>Text</source>
+        <translation>文字</translation>
+    </message>
+    <message>
         <source>Text Mode</source>
         <translation>文字模式</translation>
     </message>
@@ -1374,6 +1514,18 @@
     <message>
         <source>The colours of the cinema.</source>
         <translation>電影院的色彩。</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1</source>
+        <translation>檔案無法讀取：%1</translation>
+    </message>
+    <message>
+        <source>The file cannot be written: %1</source>
+        <translation>檔案無法寫入：%1</translation>
+    </message>
+    <message>
+        <source>The file holds no whole frame.</source>
+        <translation>檔案中沒有完整的畫格。</translation>
     </message>
     <message>
         <source>The grey scale of medical pictures.</source>
@@ -1460,6 +1612,10 @@
         <translation>印刷紙張的白色。</translation>
     </message>
     <message>
+        <source>There is no text yet.</source>
+        <translation>還沒有文字。</translation>
+    </message>
+    <message>
         <source>This function has its row already.</source>
         <translation>該功能已在清單中。</translation>
     </message>
@@ -1538,6 +1694,10 @@
     <message>
         <source>Ull-Level3</source>
         <translation>Ull-等級 3</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>復原</translation>
     </message>
     <message>
         <source>Unplug</source>
@@ -1628,6 +1788,18 @@
         <translation>自訂參數</translation>
     </message>
     <message>
+        <source>Write Animate</source>
+        <translation>寫入動畫</translation>
+    </message>
+    <message>
+        <source>Write Data</source>
+        <translation>寫入資料</translation>
+    </message>
+    <message>
+        <source>Write here what the matrix shall show.</source>
+        <translation>在此輸入要在矩陣上顯示的文字。</translation>
+    </message>
+    <message>
         <source>Y</source>
         <translation>Y</translation>
     </message>
@@ -1696,8 +1868,16 @@
         <translation>無</translation>
     </message>
     <message>
+        <source>off</source>
+        <translation>滅</translation>
+    </message>
+    <message>
         <source>ok</source>
         <translation>成功</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>亮</translation>
     </message>
     <message>
         <source>open</source>
