@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/audiocapture.h"
 #include "platform/clock.h"
 #include "platform/devicenotifications.h"
 #include "platform/displays.h"
@@ -23,6 +24,7 @@ public:
     virtual StartUp &startUp() = 0;
     virtual DeviceNotifications &deviceNotifications() = 0;
     virtual GlobalKeys &globalKeys() = 0;
+    virtual AudioCapture &audio() = 0;
     virtual Clock &clock() = 0;
 
     /// Called once when the main window is shown: a desk that has something of its own to show opens it now.

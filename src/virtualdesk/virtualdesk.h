@@ -15,6 +15,7 @@
 #include "virtualdesk/desksetup.h"
 #include "virtualdesk/devicemessages.h"
 #include "virtualdesk/hotkeys.h"
+#include "virtualdesk/simulatedendpoint.h"
 #include "virtualdesk/simulatedmonitor.h"
 #include "virtualdesk/startupfile.h"
 
@@ -105,6 +106,10 @@ public:
     /// first.
     void setMutexFolder(const QString &folder);
 
+    // The sound system. Any thread.
+
+    SimulatedEndpoint &sound() { return m_sound; }
+
     // Device messages.
 
     DeviceRegistrations &registrations() { return m_registrations; }
@@ -150,6 +155,7 @@ private:
     HotKeys m_hotKeys;
     QString m_mutexFolder;
     StartUpFile m_startUp;
+    SimulatedEndpoint m_sound;
     std::vector<std::unique_ptr<OpenMutex>> m_mutexes;
 
     mutable std::mutex m_handleMutex; // guards what follows

@@ -7,6 +7,7 @@
 #include <QProcess>
 
 #include "platform/systemclock.h"
+#include "platform/virtual/virtualaudio.h"
 #include "virtualdesk/deskscript.h"
 #include "virtualdesk/deskwindow.h"
 #include "virtualdesk/requestlog.h"
@@ -267,7 +268,7 @@ VirtualPlatform::VirtualPlatform(VirtualDesk &desk, Clock &clock)
       m_monitors(std::make_unique<VirtualMonitors>(desk)), m_process(std::make_unique<VirtualProcess>(desk)),
       m_startUp(std::make_unique<VirtualStartUp>(desk)),
       m_deviceNotifications(std::make_unique<VirtualNotifications>(desk)),
-      m_globalKeys(std::make_unique<VirtualGlobalKeys>(desk))
+      m_globalKeys(std::make_unique<VirtualGlobalKeys>(desk)), m_audio(std::make_unique<VirtualAudio>(desk.sound()))
 {
 }
 
@@ -301,6 +302,11 @@ DeviceNotifications &VirtualPlatform::deviceNotifications()
 GlobalKeys &VirtualPlatform::globalKeys()
 {
     return *m_globalKeys;
+}
+
+AudioCapture &VirtualPlatform::audio()
+{
+    return *m_audio;
 }
 
 Clock &VirtualPlatform::clock()

@@ -23,6 +23,7 @@ public:
     StartUp &startUp() override;
     DeviceNotifications &deviceNotifications() override;
     GlobalKeys &globalKeys() override;
+    AudioCapture &audio() override;
     Clock &clock() override;
 
     /// Starts the script's timed events.
@@ -40,6 +41,7 @@ private:
     std::unique_ptr<StartUp> m_startUp;
     std::unique_ptr<DeviceNotifications> m_deviceNotifications;
     std::unique_ptr<GlobalKeys> m_globalKeys;
+    std::unique_ptr<AudioCapture> m_audio;
 };
 
 /// The simulated desk of a process, set up by the environment, in real time. Its window opens beside the main window

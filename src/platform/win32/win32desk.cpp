@@ -1,6 +1,7 @@
 #include "platform/win32/win32desk.h"
 
 #include "platform/systemclock.h"
+#include "platform/win32/win32audio.h"
 #include "platform/win32/win32devicenotifications.h"
 #include "platform/win32/win32displays.h"
 #include "platform/win32/win32globalkeys.h"
@@ -21,6 +22,7 @@ public:
     StartUp &startUp() override { return m_startUp; }
     DeviceNotifications &deviceNotifications() override { return m_deviceNotifications; }
     GlobalKeys &globalKeys() override { return m_globalKeys; }
+    AudioCapture &audio() override { return m_audio; }
     Clock &clock() override { return m_clock; }
 
 private:
@@ -30,6 +32,7 @@ private:
     Win32StartUp m_startUp;
     Win32DeviceNotifications m_deviceNotifications;
     Win32GlobalKeys m_globalKeys;
+    Win32Audio m_audio;
     SystemClock m_clock;
 };
 
