@@ -136,16 +136,21 @@ void MainWindow::createPages()
     m_pages->addWidget(m_emptyPage);
 }
 
-void MainWindow::addPage(PageId id, SettingsPage *page)
+void MainWindow::addPage(PageId id, Page *page)
 {
-    m_settingsPages[id] = page;
-    m_pages->addWidget(page);
+    m_pageOf[id] = page;
+    m_pages->addWidget(page->widget());
+}
+
+Page *MainWindow::page(PageId id) const
+{
+    const auto found = m_pageOf.find(id);
+    return found == m_pageOf.end() ? nullptr : found->second;
 }
 
 SettingsPage *MainWindow::settingsPage(PageId id) const
 {
-    const auto page = m_settingsPages.find(id);
-    return page == m_settingsPages.end() ? nullptr : page->second;
+    return dynamic_cast<SettingsPage *>(page(id));
 }
 
 void MainWindow::createTrayIcon()
@@ -186,12 +191,12 @@ void MainWindow::showEntryPage(int family)
     }
     const LeftBar *bar = leftBar(family);
     const NavigationEntry &entry = bar->entries()[static_cast<std::size_t>(bar->current())];
-    SettingsPage *page = settingsPage(entry.page);
-    if (page == m_officePage)
+    Page *const chosen = page(entry.page);
+    if (entry.page == PageId::Office)
         m_officePage->showPanel(entry.label);
-    if (!page)
+    if (!chosen)
         m_emptyPage->showEntry(entry.label);
-    m_pages->setCurrentWidget(page ? page : static_cast<QWidget *>(m_emptyPage));
+    m_pages->setCurrentWidget(chosen ? chosen->widget() : m_emptyPage);
 }
 
 /// The scene page belongs to the family whose mode is on; the others ask to choose one.

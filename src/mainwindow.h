@@ -17,6 +17,7 @@ class QStackedWidget;
 class QSystemTrayIcon;
 class SearchDeviceDlg;
 class TopTabFrame;
+class Page;
 class PageOffice;
 class PanelPage;
 class SettingsPage;
@@ -59,6 +60,8 @@ public:
     pageSceneSetting *scenePage() const { return m_scenePage; }
     /// The page of monitor settings that an entry leads to; null for those that are none.
     SettingsPage *settingsPage(PageId id) const;
+    /// The page that an entry leads to; null for entries without one.
+    Page *page(PageId id) const;
     QSystemTrayIcon *trayIcon() const { return m_tray; }
 
 protected:
@@ -86,7 +89,7 @@ private:
     void setUpFrame();
     void initialise();
     void createPages();
-    void addPage(PageId id, SettingsPage *page);
+    void addPage(PageId id, Page *page);
     void createTrayIcon();
     void chooseEntry(int family, int index);
     void showEntryPage(int family);
@@ -106,7 +109,7 @@ private:
     std::array<LeftBar *, kFamilies> m_bars = {};
     QStackedWidget *m_pages = nullptr;
     pageSceneSetting *m_scenePage = nullptr;
-    std::map<PageId, SettingsPage *> m_settingsPages;
+    std::map<PageId, Page *> m_pageOf;
     PageOffice *m_officePage = nullptr;
     EmptyPage *m_emptyPage = nullptr;
     QLabel *m_status = nullptr;

@@ -26,7 +26,7 @@ void MainWindow::refreshPages()
     m_queue->drain();                  // or a drag's last value would fall into the suspension and be lost
     const auto lock = lockTransport(); // the scene-mode worker waits instead of being silenced
     commandsSuspended = true;
-    for (const auto &[id, page] : m_settingsPages)
+    for (const auto &[id, page] : m_pageOf)
         page->updateInterfaceData();
     commandsSuspended = false;
     updateControlText();
@@ -37,7 +37,7 @@ void MainWindow::updateControlText()
     m_tabs->updateControlText();
     for (LeftBar *bar : m_bars)
         bar->updateControlText();
-    for (const auto &[id, page] : m_settingsPages)
+    for (const auto &[id, page] : m_pageOf)
         page->updateControlText();
     m_emptyPage->updateControlText();
     updateInterface();

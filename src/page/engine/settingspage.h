@@ -9,6 +9,7 @@
 #include <QPushButton>
 
 #include "page/engine/boundtexts.h"
+#include "page/engine/page.h"
 #include "page/engine/pagetable.h"
 
 class CommandQueue;
@@ -18,7 +19,7 @@ class SliderWidget;
 
 /// What every page of monitor settings is: controls built from tables, filled from the snapshot without sending, and
 /// one command for each action of the user. A page derives from it, hands it its sections and adds its exceptions.
-class SettingsPage : public QLabel
+class SettingsPage : public QLabel, public Page
 {
     Q_OBJECT
 public:
@@ -26,10 +27,12 @@ public:
     explicit SettingsPage(CommandQueue &queue, QWidget *parent = nullptr);
 
     /// Fills every control from the snapshot. Sends nothing.
-    virtual void updateInterfaceData();
+    void updateInterfaceData() override;
 
     /// Shows every text in the language of now.
-    virtual void updateControlText();
+    void updateControlText() override;
+
+    QWidget *widget() override { return this; }
 
     /// The controls in the order of their creation.
     const std::vector<OptionGroupRow *> &optionGroups() const { return m_groups; }

@@ -1,0 +1,19 @@
+#pragma once
+
+class QWidget;
+
+/// What the window asks of every page, whatever the page is made of. Interface thread only.
+class Page
+{
+public:
+    virtual ~Page() = default;
+
+    /// Fills every control with what is known of the monitor and the settings. Sends nothing.
+    virtual void updateInterfaceData() = 0;
+
+    /// Shows every text in the language of now.
+    virtual void updateControlText() = 0;
+
+    /// What is shown; it owns the page.
+    virtual QWidget *widget() = 0;
+};
