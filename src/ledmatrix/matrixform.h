@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <span>
 
 // The accessory is built in two forms. Everything that makes, keeps, sends or shows a frame asks here how its form is
@@ -9,8 +10,8 @@ inline constexpr int kTaperingForm = 0;
 inline constexpr int kRectangleForm = 1;
 
 /// The form of the accessory that is used; a number that is no form makes every producer of frames do nothing. Written
-/// on the interface thread while no sender runs.
-inline int matrixForm = kTaperingForm;
+/// on the interface thread only; a sender may read the old one once more.
+inline std::atomic<int> matrixForm = kTaperingForm;
 
 /// A row of cells.
 struct MatrixRow

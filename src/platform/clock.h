@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <functional>
+#include <stop_token>
 
 #include <QDateTime>
 
@@ -19,6 +20,13 @@ public:
 
     /// Blocks the calling thread.
     virtual void sleep(milliseconds duration) = 0;
+
+    /// As sleep, but ends as soon as a stop is asked for, where the clock can.
+    virtual void sleepUnlessStopped(milliseconds duration, const std::stop_token &stop)
+    {
+        if (!stop.stop_requested())
+            sleep(duration);
+    }
 
     /// The local date and time.
     virtual QDateTime now() = 0;

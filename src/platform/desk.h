@@ -5,6 +5,7 @@
 #include "platform/devicenotifications.h"
 #include "platform/displays.h"
 #include "platform/globalkeys.h"
+#include "platform/hid.h"
 #include "platform/monitorconfiguration.h"
 #include "platform/process.h"
 #include "platform/startup.h"
@@ -25,6 +26,7 @@ public:
     virtual DeviceNotifications &deviceNotifications() = 0;
     virtual GlobalKeys &globalKeys() = 0;
     virtual AudioCapture &audio() = 0;
+    virtual Hid &hid() = 0;
     virtual Clock &clock() = 0;
 
     /// Called once when the main window is shown: a desk that has something of its own to show opens it now.

@@ -9,6 +9,7 @@ class SystemClock final : public Clock
 {
 public:
     void sleep(milliseconds duration) override;
+    void sleepUnlessStopped(milliseconds duration, const std::stop_token &stop) override;
     QDateTime now() override;
     void callLater(milliseconds delay, QObject *context, std::function<void()> task) override;
 };

@@ -176,6 +176,33 @@ DisplaySetup readDisplay(Reader &reader, const QJsonObject &object, std::size_t 
     return display;
 }
 
+int readTimes(Reader &reader, const QJsonObject &object)
+{
+    const bool always = object.value(QLatin1String("times")) == QLatin1String("always");
+    return always ? kForEver : reader.number(object, "times", 1, kForEver, 1000000);
+}
+
+AccessorySetup readAccessory(Reader &reader, const QJsonObject &object)
+{
+    AccessorySetup accessory;
+    accessory.plugged = object.value(QLatin1String("plugged")).toBool(true);
+    accessory.form = reader.number(object, "form", 0, 0, 1);
+    const QJsonArray faults = reader.list(object, "faults");
+    for (const QJsonValue &value : faults) {
+        const QJsonObject fault = value.toObject();
+        const QString name = fault.value(QLatin1String("event")).toString();
+        if (name == QLatin1String("refuse_writes"))
+            accessory.refusedWrites = readTimes(reader, fault);
+        else if (name == QLatin1String("fail_open"))
+            accessory.failedOpens = readTimes(reader, fault);
+        else if (name == QLatin1String("unplug"))
+            accessory.unplugAtWrite = reader.number(fault, "at_write", 1, 1, 1000000);
+        else
+            reader.fail(QStringLiteral("unknown \"event\" of the accessory: \"%1\"").arg(name));
+    }
+    return accessory;
+}
+
 Topology readTopology(Reader &reader, const QJsonValue &value)
 {
     if (value.isUndefined() || value == QLatin1String("extend"))
@@ -216,6 +243,7 @@ DeskSetup readSetup(Reader &reader, const QJsonObject &root)
             reader.fail(QStringLiteral("\"events\" without monitors"));
         setup.events.push_back({reader.wait(event, "at_ms"), monitor, readEvent(reader, event)});
     }
+    setup.accessory = readAccessory(reader, root.value(QLatin1String("accessory")).toObject());
     setup.topology = readTopology(reader, root.value(QLatin1String("topology")));
     readLatency(reader, root.value(QLatin1String("latency")), setup.readLatency, setup.writeLatency);
     setup.administrator = root.value(QLatin1String("administrator")).toBool(true);

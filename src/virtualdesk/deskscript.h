@@ -24,14 +24,16 @@ namespace virtualdesk {
 ///                 "rate": 48000, "channels": 2, "converts_rates": false, "packet_frames": 480,
 ///                 "plays": "nothing" | "silence" | "tone" | "two_tones" | "sweep" | "noise" | "wave",
 ///                 "frequency": 440, "second_frequency": 2500, "volume": 50, "file": "x.wav",
-///                 "faults": [{"call": "get_buffer", "result": "0x88890018", "times": 1}]}
+///                 "faults": [{"call": "get_buffer", "result": "0x88890018", "times": 1}]},
+///       "accessory": {"plugged": true, "form": 0, "faults": [...]}
 ///     }
 ///
 /// An audio fault may name any call of AudioCall, written so, and last "always".
 /// An event is {"event": kind} with kind plug, unplug, recover, deaf, refuse (with "code"), refuse_writes, drop_chunks,
 /// lose_replies, garble (both may have a "code"), latency (with "read_ms", "write_ms") or delay (with "ms"). "times" is
 /// a number of requests or "always"; it is 1 unless given, for deaf "always". at_ms counts from the main window's
-/// opening.
+/// opening. A fault of the accessory is {"event": "refuse_writes" or "fail_open", "times": ...}, or {"event": "unplug",
+/// "at_write": n}.
 std::optional<DeskSetup> parseDeskScript(const QByteArray &json, QString &error);
 
 /// The desk of this process: from the file that QUORVEL_DESK_SCRIPT names, else the default desk with realistic timing.

@@ -63,6 +63,16 @@ struct DisplaySetup
     QRect bounds; ///< null: the primary screen's for the first display, else beside the display before
 };
 
+/// The LED-matrix accessory. Counts are 0 for never, and may be kForEver but for the last.
+struct AccessorySetup
+{
+    bool plugged = true;
+    int form = 0; ///< 0 tapering, 1 rectangle
+    int refusedWrites = 0;
+    int failedOpens = 0;
+    int unplugAtWrite = 0;
+};
+
 /// How the active display paths follow from the plugged monitors.
 enum class Topology {
     Natural, ///< one path a monitor; those of one display share its source
@@ -76,6 +86,7 @@ struct DeskSetup
     std::vector<DisplaySetup> displays;
     std::vector<MonitorSetup> monitors;
     std::vector<TimedEvent> events;
+    AccessorySetup accessory;
     Topology topology = Topology::Natural;
     std::chrono::milliseconds readLatency{0};
     std::chrono::milliseconds writeLatency{0};

@@ -13,6 +13,10 @@ namespace virtualdesk {
 inline constexpr platform::Guid kMonitorInterfaceClass{
     0xE6F07B5F, 0xEE97, 0x4A90, {0xB0, 0x76, 0x33, 0xF5, 0x7B, 0xF4, 0xEA, 0xA7}};
 
+/// The interface class of HID devices in device broadcasts.
+inline constexpr platform::Guid kHidInterfaceClass{
+    0x4D1E55B2, 0xF16F, 0x11CF, {0x88, 0xCB, 0x00, 0x11, 0x11, 0x00, 0x00, 0x30}};
+
 /// Hands a message to the application's native event filters and then, unless one took it, to the window whose native
 /// handle it names: the way that every native message takes through the toolkit. True when somebody took it.
 bool deliverNativeMessage(platform::NativeMessage message);

@@ -30,8 +30,8 @@ struct VirtualDesk::OpenMutex
 
 VirtualDesk::VirtualDesk(platform::Clock &clock, const DeskSetup &setup)
     : administrator(setup.administrator), runasResult(setup.runasResult), m_clock(clock), m_displays(setup.displays),
-      m_events(setup.events), m_topology(setup.topology), m_mutexFolder(QDir::tempPath()), m_startUp(m_mutexFolder),
-      m_sound(clock, setup.sound)
+      m_events(setup.events), m_topology(setup.topology), m_accessory(clock), m_mutexFolder(QDir::tempPath()),
+      m_startUp(m_mutexFolder), m_sound(clock, setup.sound)
 {
     for (const AudioFault &fault : setup.audioFaults)
         m_sound.fail(fault);
@@ -46,6 +46,12 @@ VirtualDesk::VirtualDesk(platform::Clock &clock, const DeskSetup &setup)
         for (const MonitorEvent &fault : each.faults)
             apply(m_seats.size() - 1, fault);
     }
+    m_accessory.setForm(setup.accessory.form);
+    m_accessory.setPlugged(setup.accessory.plugged);
+    m_accessory.refuseWrites(setup.accessory.refusedWrites);
+    m_accessory.failOpens(setup.accessory.failedOpens);
+    m_accessory.unplugAtWrite(setup.accessory.unplugAtWrite);
+    m_accessory.onPlugged([this](bool plugged) { accessoryPlugged(plugged); });
 }
 
 VirtualDesk::~VirtualDesk() = default;
@@ -75,7 +81,19 @@ void VirtualDesk::setPlugged(std::size_t index, bool plugged)
         displaysChanged();
         deliverDeviceMessage(plugged ? platform::kDeviceArrival : platform::kDeviceRemoveComplete);
     };
-    // Pulled out in the middle of a worker's request: the system tells the windows on their own thread.
+    announceOnOwnThread(announce);
+}
+
+void VirtualDesk::accessoryPlugged(bool plugged)
+{
+    announceOnOwnThread([this, plugged] {
+        deliverDeviceMessage(plugged ? platform::kDeviceArrival : platform::kDeviceRemoveComplete, kHidInterfaceClass);
+    });
+}
+
+/// Pulled out in the middle of a worker's request: the system tells the windows on their own thread.
+void VirtualDesk::announceOnOwnThread(const std::function<void()> &announce)
+{
     if (QThread::currentThread() == thread())
         announce();
     else

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -15,6 +16,7 @@
 #include "virtualdesk/desksetup.h"
 #include "virtualdesk/devicemessages.h"
 #include "virtualdesk/hotkeys.h"
+#include "virtualdesk/simulatedaccessory.h"
 #include "virtualdesk/simulatedendpoint.h"
 #include "virtualdesk/simulatedmonitor.h"
 #include "virtualdesk/startupfile.h"
@@ -116,6 +118,15 @@ public:
     /// A device-interface broadcast, kDeviceArrival or kDeviceRemoveComplete, to the windows registered for its class.
     void deliverDeviceMessage(std::uint64_t event, const platform::Guid &interfaceClass = kMonitorInterfaceClass);
 
+    // The accessory. Plugging it in and out changes the HID enumeration and tells the windows that registered for HID
+    // devices.
+
+    SimulatedAccessory &accessory() { return m_accessory; }
+    /// Whether there are HID devices beside it.
+    bool hasHidDevices = true;
+    /// Entries of HID enumerations that were not released.
+    int hidEntriesHeld = 0;
+
     // Global keys.
 
     HotKeys &hotKeys() { return m_hotKeys; }
@@ -136,6 +147,8 @@ private:
     struct OpenMutex;
 
     void setPlugged(std::size_t index, bool plugged);
+    void accessoryPlugged(bool plugged);
+    void announceOnOwnThread(const std::function<void()> &announce);
     void displaysChanged();
     std::vector<std::size_t> pluggedOn(std::size_t display) const;
     QRect boundsOf(std::size_t display) const;
@@ -153,6 +166,7 @@ private:
     std::uintptr_t m_displayGeneration = 1; // display handles of an older set-up are outdated
     DeviceRegistrations m_registrations;
     HotKeys m_hotKeys;
+    SimulatedAccessory m_accessory;
     QString m_mutexFolder;
     StartUpFile m_startUp;
     SimulatedEndpoint m_sound;

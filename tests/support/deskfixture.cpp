@@ -7,6 +7,9 @@
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/displayenumeration.h"
 #include "ddc_protocol/transport.h"
+#include "ledmatrix/matrixform.h"
+#include "usb-hid/hidtransport.h"
+#include "usb-hid/livesender.h"
 
 namespace {
 
@@ -46,6 +49,9 @@ DeskFixture::DeskFixture() : desk(clock), m_folderBefore(QDir::currentPath()), m
     projectionMode = ProjectionMode::Unknown;
     monitorList.clear();
     deviceState.clear();
+    matrixForm = kTaperingForm;
+    clearHidFlags();
+    resetLiveLatch();
     takeLog();
     qInstallMessageHandler(collect);
 }
@@ -53,6 +59,7 @@ DeskFixture::DeskFixture() : desk(clock), m_folderBefore(QDir::currentPath()), m
 DeskFixture::~DeskFixture()
 {
     qInstallMessageHandler(nullptr);
+    closeHid();
     monitorList.clear();
     QDir::setCurrent(m_folderBefore);
     platform::installDesk(nullptr);

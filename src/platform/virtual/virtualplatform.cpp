@@ -8,6 +8,7 @@
 
 #include "platform/systemclock.h"
 #include "platform/virtual/virtualaudio.h"
+#include "platform/virtual/virtualhid.h"
 #include "virtualdesk/deskscript.h"
 #include "virtualdesk/deskwindow.h"
 #include "virtualdesk/requestlog.h"
@@ -268,7 +269,8 @@ VirtualPlatform::VirtualPlatform(VirtualDesk &desk, Clock &clock)
       m_monitors(std::make_unique<VirtualMonitors>(desk)), m_process(std::make_unique<VirtualProcess>(desk)),
       m_startUp(std::make_unique<VirtualStartUp>(desk)),
       m_deviceNotifications(std::make_unique<VirtualNotifications>(desk)),
-      m_globalKeys(std::make_unique<VirtualGlobalKeys>(desk)), m_audio(std::make_unique<VirtualAudio>(desk.sound()))
+      m_globalKeys(std::make_unique<VirtualGlobalKeys>(desk)), m_audio(std::make_unique<VirtualAudio>(desk.sound())),
+      m_hid(std::make_unique<VirtualHid>(desk))
 {
 }
 
@@ -307,6 +309,11 @@ GlobalKeys &VirtualPlatform::globalKeys()
 AudioCapture &VirtualPlatform::audio()
 {
     return *m_audio;
+}
+
+Hid &VirtualPlatform::hid()
+{
+    return *m_hid;
 }
 
 Clock &VirtualPlatform::clock()

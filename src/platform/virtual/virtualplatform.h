@@ -24,6 +24,7 @@ public:
     DeviceNotifications &deviceNotifications() override;
     GlobalKeys &globalKeys() override;
     AudioCapture &audio() override;
+    Hid &hid() override;
     Clock &clock() override;
 
     /// Starts the script's timed events.
@@ -42,6 +43,7 @@ private:
     std::unique_ptr<DeviceNotifications> m_deviceNotifications;
     std::unique_ptr<GlobalKeys> m_globalKeys;
     std::unique_ptr<AudioCapture> m_audio;
+    std::unique_ptr<Hid> m_hid;
 };
 
 /// The simulated desk of a process, set up by the environment, in real time. Its window opens beside the main window

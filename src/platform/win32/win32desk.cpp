@@ -5,6 +5,7 @@
 #include "platform/win32/win32devicenotifications.h"
 #include "platform/win32/win32displays.h"
 #include "platform/win32/win32globalkeys.h"
+#include "platform/win32/win32hid.h"
 #include "platform/win32/win32monitorconfiguration.h"
 #include "platform/win32/win32process.h"
 #include "platform/win32/win32startup.h"
@@ -23,6 +24,7 @@ public:
     DeviceNotifications &deviceNotifications() override { return m_deviceNotifications; }
     GlobalKeys &globalKeys() override { return m_globalKeys; }
     AudioCapture &audio() override { return m_audio; }
+    Hid &hid() override { return m_hid; }
     Clock &clock() override { return m_clock; }
 
 private:
@@ -33,6 +35,7 @@ private:
     Win32DeviceNotifications m_deviceNotifications;
     Win32GlobalKeys m_globalKeys;
     Win32Audio m_audio;
+    Win32Hid m_hid;
     SystemClock m_clock;
 };
 

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+#include <QString>
+
+// Uploads of a file into the accessory's memory. They take as long as the device does, 6 s or 24 s before the first
+// byte, and so run in a thread of their own. The file holds a digit a cell, frame behind frame; what it holds beyond
+// the device's memory is not sent.
+//
+// progress is called with percents on the calling thread. Whatever the device does, the last one is 100; without a
+// file it is -1.
+
+/// Uploads a hand-drawn animation, at most 192 frames of 949 cells. mode is the canvas's mode byte, 0x24 to 0x28.
+/// After the waits progress runs from 30 to 130. While the device is away, its chunks are left out.
+void uploadAnimation(const QString &fileName, std::uint8_t mode, const std::function<void(int)> &progress);
+
+/// Uploads a rendered text, at most 822 frames of 949 cells. progress runs to 100 twice: through the waits, then
+/// through the chunks. Ends when the device is away.
+void uploadText(const QString &fileName, const std::function<void(int)> &progress);
+
+/// Ends the uploads that are under way, in whatever thread, within a chunk or a wait of theirs; they report nothing
+/// more. For the program's end.
+void stopUploads();

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <atomic>
+#include <cstdint>
+
+#include "platform/hid.h"
+#include "usb-hid/accessorypackets.h"
+
+// The one accessory and the one handle to it. Reports are only written, never read.
+
+/// An enumeration saw the device; stays set until somebody clears it. Interface thread only.
+inline bool hidFound = false;
+
+/// The device was opened. Interface thread only.
+inline bool hidOpened = false;
+
+/// The shared handle, null while closed. Only reopenHid and closeHid, on the interface thread, write it.
+inline std::atomic<platform::HidDevice *> hidHandle = nullptr;
+
+/// Whether the device is connected. Once it was found, true without looking again.
+bool Fun_hid_find(std::uint16_t vendor, std::uint16_t product);
+
+/// Opens the device when it was found and is not open yet; null otherwise, or when that fails.
+platform::HidDevice *Fun_hid_open(std::uint16_t vendor, std::uint16_t product);
+
+/// Forgets what was found and opened, so that the next reopenHid looks again.
+void clearHidFlags();
+
+/// Closes the shared handle and opens the accessory anew, unless the flags say that it is open.
+void reopenHid();
+
+/// Closes the shared handle if there is one.
+void closeHid();
+
+enum class HidWrite { Done, NoHandle, Failed };
+
+/// Writes a report's bytes, exactly as many as it has, through the shared handle. Logs nothing. Safe from any thread:
+/// the handle is not closed meanwhile.
+HidWrite writeHid(const AccessoryReport &report);
+
+/// Writes a report of a page: without a handle it is left out, a failure is logged.
+void writePageReport(const AccessoryReport &report);
+
+inline constexpr char kHidWriteError[] = "HID write error.";
