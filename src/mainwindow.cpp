@@ -132,6 +132,7 @@ void MainWindow::createPages()
     addPage(PageId::ToolSetting, new pagePCSetting(m_session, *m_queue, m_pages));
     addPage(PageId::ServicesSetting, new pageServicesSetting(*m_queue, m_pages));
     addPage(PageId::IoSetting, new pageIOSetting(*m_queue, m_pages));
+    createAutomation();
     m_emptyPage = new EmptyPage(m_pages);
     m_pages->addWidget(m_emptyPage);
 }

@@ -11,6 +11,7 @@
 #include "sessionhost.h"
 
 class EmptyPage;
+class HotkeyOverlay;
 class CommandQueue;
 class LeftBar;
 class QStackedWidget;
@@ -21,7 +22,9 @@ class Page;
 class PageOffice;
 class PanelPage;
 class SettingsPage;
+class pageScenarioFollowing;
 class pageSceneSetting;
+class pageShortcutKey;
 
 /// The codes of MainWindow::setInterfaceMode; 2 has no meaning.
 enum InterfaceMode { kLocked = 0, kUnlocked = 1, kByModel = 3, kBusy = 4, kBusyEnded = 5 };
@@ -62,6 +65,7 @@ public:
     SettingsPage *settingsPage(PageId id) const;
     /// The page that an entry leads to; null for entries without one.
     Page *page(PageId id) const;
+    HotkeyOverlay *overlay() const { return m_overlay; }
     QSystemTrayIcon *trayIcon() const { return m_tray; }
 
 protected:
@@ -90,6 +94,7 @@ private:
     void initialise();
     void createPages();
     void addPage(PageId id, Page *page);
+    void createAutomation();
     void createTrayIcon();
     void chooseEntry(int family, int index);
     void showEntryPage(int family);
@@ -99,6 +104,9 @@ private:
     void decideEntriesByModel();
     void setAccessoryBusy(bool busy);
     void checkMonitor();
+    void fillPages();
+    void showShortcutResult(int function, Command command, int value, bool ok);
+    QString valueText(Command command, int value) const;
     bool rereadSceneMode();
 
     SearchDeviceDlg &m_session;
@@ -111,6 +119,7 @@ private:
     pageSceneSetting *m_scenePage = nullptr;
     std::map<PageId, Page *> m_pageOf;
     PageOffice *m_officePage = nullptr;
+    HotkeyOverlay *m_overlay = nullptr;
     EmptyPage *m_emptyPage = nullptr;
     QLabel *m_status = nullptr;
     QSystemTrayIcon *m_tray = nullptr; ///< null where there is no tray

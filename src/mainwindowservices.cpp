@@ -23,13 +23,18 @@ constexpr platform::milliseconds kRemovalSettles{300}; // one unplugging is told
 
 void MainWindow::refreshPages()
 {
+    fillPages();
+    updateControlText();
+}
+
+void MainWindow::fillPages()
+{
     m_queue->drain();                  // or a drag's last value would fall into the suspension and be lost
     const auto lock = lockTransport(); // the scene-mode worker waits instead of being silenced
     commandsSuspended = true;
     for (const auto &[id, page] : m_pageOf)
         page->updateInterfaceData();
     commandsSuspended = false;
-    updateControlText();
 }
 
 void MainWindow::updateControlText()
@@ -71,8 +76,7 @@ bool MainWindow::rereadSceneMode()
         return false;
     if (mode != deviceState.value(Command::SceneMode))
         deviceState.invalidateSceneBlock();
-    deviceState.store(Command::SceneMode, mode);
-    deviceState.lastSceneModeSent = mode;
+    noteSceneMode(mode);
     if (mode % 2 != 0 || deviceState.sceneBlockValid()) {
         m_blockGivenUp = false;
     } else if (!m_blockGivenUp) {

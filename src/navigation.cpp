@@ -39,8 +39,8 @@ constexpr NavigationEntry kNightLoom[] = {
 };
 constexpr NavigationEntry kBasic[] = {
     {LABEL("System Settings"), "system_settings", PageId::SystemSetting},
-    {LABEL("Shortcut Key"), "shortcut_key"},
-    {LABEL("Scence Follow"), "scence_follow"},
+    {LABEL("Shortcut Key"), "shortcut_key", PageId::ShortcutKey},
+    {LABEL("Scence Follow"), "scence_follow", PageId::ScenarioFollowing},
     {LABEL("Service Settings"), "service_settings", PageId::ServicesSetting},
     {LABEL("Tool Settings"), "tool_settings", PageId::ToolSetting},
     {LABEL("I/O Settings"), "io_settings", PageId::IoSetting},

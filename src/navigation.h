@@ -7,7 +7,18 @@
 #include "ddc_protocol/devicestate.h"
 
 /// The pages that entries lead to.
-enum class PageId { Scene, Office, PictureEnhance, SystemSetting, ToolSetting, ServicesSetting, IoSetting, Empty };
+enum class PageId {
+    Scene,
+    Office,
+    PictureEnhance,
+    SystemSetting,
+    ToolSetting,
+    ServicesSetting,
+    IoSetting,
+    ShortcutKey,
+    ScenarioFollowing,
+    Empty
+};
 
 /// One entry of a left bar.
 struct NavigationEntry

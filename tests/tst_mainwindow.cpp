@@ -9,6 +9,7 @@
 #include "mainwindow.h"
 #include "page/Scene/pagescenesetting.h"
 #include "page/emptypage.h"
+#include "page/engine/page.h"
 #include "searchdevicedlg.h"
 #include "support/deskfixture.h"
 #include "toptab.h"
@@ -161,9 +162,8 @@ void TestMainWindow::otherEntriesNameThemselves()
         const LeftBar *bar = m_window->leftBar(family);
         for (std::size_t i = 0; i < bar->buttons().size(); ++i) {
             QTest::mouseClick(bar->buttons()[i], Qt::LeftButton);
-            const QWidget *page = m_window->settingsPage(bar->entries()[i].page);
-            if (!page)
-                page = m_window->findChild<EmptyPage *>();
+            Page *known = m_window->page(bar->entries()[i].page);
+            const QWidget *page = known ? known->widget() : m_window->findChild<EmptyPage *>();
             QVERIFY2(page->isVisible(), bar->entries()[i].label);
             if (qobject_cast<const EmptyPage *>(page))
                 QVERIFY2(shownTexts(page).contains(bar->buttons()[i]->caption()), bar->entries()[i].label);

@@ -28,6 +28,18 @@
         <translation>%1 cannot be written. Nothing was changed.</translation>
     </message>
     <message>
+        <source>%1 is in the list already.</source>
+        <translation>%1 is in the list already.</translation>
+    </message>
+    <message>
+        <source>%1 is taken by another program or function and does nothing here.</source>
+        <translation>%1 is taken by another program or function and does nothing here.</translation>
+    </message>
+    <message>
+        <source>%1 more programs of the file are followed and not shown.</source>
+        <translation>%1 more programs of the file are followed and not shown.</translation>
+    </message>
+    <message>
         <source>%1 · %2</source>
         <translation>%1 · %2</translation>
     </message>
@@ -160,6 +172,10 @@
         <translation>Adaptive-Sync</translation>
     </message>
     <message>
+        <source>Add Scence</source>
+        <translation>Add Scence</translation>
+    </message>
+    <message>
         <source>Adobe</source>
         <translation>Adobe</translation>
     </message>
@@ -196,6 +212,14 @@
         <translation>Alignment_9</translation>
     </message>
     <message>
+        <source>All file (*.*)</source>
+        <translation>All file (*.*)</translation>
+    </message>
+    <message>
+        <source>All hot keys rest while the switch above is off.</source>
+        <translation>All hot keys rest while the switch above is off.</translation>
+    </message>
+    <message>
         <source>American broadcasting primaries.</source>
         <translation>American broadcasting primaries.</translation>
     </message>
@@ -214,6 +238,14 @@
     <message>
         <source>Animate Mode</source>
         <translation>Animate Mode</translation>
+    </message>
+    <message>
+        <source>Another program registers the combination first</source>
+        <translation>Another program registers the combination first</translation>
+    </message>
+    <message>
+        <source>Another program…</source>
+        <translation>Another program…</translation>
     </message>
     <message>
         <source>Application is already running</source>
@@ -284,6 +316,10 @@
         <translation>Brightness</translation>
     </message>
     <message>
+        <source>Bring to the front</source>
+        <translation>Bring to the front</translation>
+    </message>
+    <message>
         <source>C</source>
         <translation>C</translation>
     </message>
@@ -306,6 +342,10 @@
     <message>
         <source>Care Content</source>
         <translation>Care Content</translation>
+    </message>
+    <message>
+        <source>Changes count once you press &quot;%1&quot;.</source>
+        <translation>Changes count once you press &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Choose Custom to make it your own.</source>
@@ -346,6 +386,10 @@
     <message>
         <source>Color Temperature</source>
         <translation>Color Temperature</translation>
+    </message>
+    <message>
+        <source>Combination to press</source>
+        <translation>Combination to press</translation>
     </message>
     <message>
         <source>Composition</source>
@@ -418,6 +462,14 @@
     <message>
         <source>Default</source>
         <translation>Default</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>Desktop</translation>
     </message>
     <message>
         <source>Display P3</source>
@@ -500,6 +552,14 @@
         <translation>Fine lines and clear edges for drawings.</translation>
     </message>
     <message>
+        <source>Follow Desc</source>
+        <translation>Pair a program with a scene mode: the monitor switches while the program is in front, and back to the base scene when it is not.</translation>
+    </message>
+    <message>
+        <source>Follow Setting</source>
+        <translation>Scene Following</translation>
+    </message>
+    <message>
         <source>For code on a dark ground.</source>
         <translation>For code on a dark ground.</translation>
     </message>
@@ -514,6 +574,14 @@
     <message>
         <source>Frame</source>
         <translation>Frame</translation>
+    </message>
+    <message>
+        <source>From now on another program has it, unless QUORVEL had it before.</source>
+        <translation>From now on another program has it, unless QUORVEL had it before.</translation>
+    </message>
+    <message>
+        <source>Function</source>
+        <translation>Function</translation>
     </message>
     <message>
         <source>G</source>
@@ -616,8 +684,16 @@
         <translation>High-definition video work.</translation>
     </message>
     <message>
+        <source>Hold Ctrl or Alt and press a letter or a digit.</source>
+        <translation>Hold Ctrl or Alt and press a letter or a digit.</translation>
+    </message>
+    <message>
         <source>Hotkey conflict</source>
         <translation>Hotkey conflict</translation>
+    </message>
+    <message>
+        <source>Hotkey overlay</source>
+        <translation>Hotkey overlay</translation>
     </message>
     <message>
         <source>How the print will look under a D55 light.</source>
@@ -652,8 +728,28 @@
         <translation>Input Signal</translation>
     </message>
     <message>
+        <source>Keyboard</source>
+        <translation>Keyboard</translation>
+    </message>
+    <message>
+        <source>Keys of the numeric pad cannot be used.</source>
+        <translation>Keys of the numeric pad cannot be used.</translation>
+    </message>
+    <message>
         <source>Knowledge</source>
         <translation>Knowledge</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_ADD_KEY</source>
+        <translation>Add Hotkey</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_SHORTCUTKEY</source>
+        <translation>Shortcut Keys</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_SHORTCUTKEY_DESC</source>
+        <translation>Keys for functions of the monitor that work anywhere on the desktop: Ctrl or Alt with a letter or a digit; Backspace clears a field.</translation>
     </message>
     <message>
         <source>Language</source>
@@ -752,6 +848,10 @@
         <translation>Mode %1</translation>
     </message>
     <message>
+        <source>Monitor</source>
+        <translation>Monitor</translation>
+    </message>
+    <message>
         <source>Movie</source>
         <translation>Movie</translation>
     </message>
@@ -784,6 +884,10 @@
         <translation>Native Mode</translation>
     </message>
     <message>
+        <source>Next value</source>
+        <translation>Next value</translation>
+    </message>
+    <message>
         <source>Night</source>
         <translation>Night</translation>
     </message>
@@ -810,6 +914,14 @@
     <message>
         <source>No Signal Timer</source>
         <translation>No Signal Timer</translation>
+    </message>
+    <message>
+        <source>No hot keys yet: choose a function above and add it.</source>
+        <translation>No hot keys yet: choose a function above and add it.</translation>
+    </message>
+    <message>
+        <source>No programs yet: add one and choose its scene.</source>
+        <translation>No programs yet: add one and choose its scene.</translation>
     </message>
     <message>
         <source>OK</source>
@@ -916,12 +1028,20 @@
         <translation>Power Saving</translation>
     </message>
     <message>
+        <source>Press</source>
+        <translation>Press</translation>
+    </message>
+    <message>
         <source>Print Mode</source>
         <translation>Print Mode</translation>
     </message>
     <message>
         <source>Print(P3-D50)</source>
         <translation>Print(P3-D50)</translation>
+    </message>
+    <message>
+        <source>Programs</source>
+        <translation>Programs</translation>
     </message>
     <message>
         <source>Proofs under a D50 light.</source>
@@ -1128,8 +1248,20 @@
         <translation>Super Resolution</translation>
     </message>
     <message>
+        <source>Switch off</source>
+        <translation>Switch off</translation>
+    </message>
+    <message>
+        <source>Switch on</source>
+        <translation>Switch on</translation>
+    </message>
+    <message>
         <source>System Settings</source>
         <translation>System Settings</translation>
+    </message>
+    <message>
+        <source>Taken by another</source>
+        <translation>Taken by another</translation>
     </message>
     <message>
         <source>Text Mode</source>
@@ -1196,6 +1328,14 @@
         <translation>The picture as the factory set it.</translation>
     </message>
     <message>
+        <source>The program has not registered this combination.</source>
+        <translation>The program has not registered this combination.</translation>
+    </message>
+    <message>
+        <source>The program heard it.</source>
+        <translation>The program heard it.</translation>
+    </message>
+    <message>
         <source>The selected display is unsupported or the signal line is disconnected.</source>
         <translation>The selected display is unsupported or the signal line is disconnected.</translation>
     </message>
@@ -1226,6 +1366,10 @@
     <message>
         <source>The white of printed paper.</source>
         <translation>The white of printed paper.</translation>
+    </message>
+    <message>
+        <source>This function has its row already.</source>
+        <translation>This function has its row already.</translation>
     </message>
     <message>
         <source>This monitor has nothing to set here.</source>
@@ -1270,6 +1414,10 @@
     <message>
         <source>True colours for design work.</source>
         <translation>True colours for design work.</translation>
+    </message>
+    <message>
+        <source>Type the combination here, then press it on the whole desktop</source>
+        <translation>Type the combination here, then press it on the whole desktop</translation>
     </message>
     <message>
         <source>Type-B</source>
@@ -1352,6 +1500,10 @@
         <translation>V-Position</translation>
     </message>
     <message>
+        <source>Value before</source>
+        <translation>Value before</translation>
+    </message>
+    <message>
         <source>Vivid colours for animation.</source>
         <translation>Vivid colours for animation.</translation>
     </message>
@@ -1366,6 +1518,14 @@
     <message>
         <source>Width</source>
         <translation>Width</translation>
+    </message>
+    <message>
+        <source>With the factory parameters</source>
+        <translation>With the factory parameters</translation>
+    </message>
+    <message>
+        <source>With your own parameters</source>
+        <translation>With your own parameters</translation>
     </message>
     <message>
         <source>Y</source>
@@ -1422,6 +1582,10 @@
     <message>
         <source>ok</source>
         <translation>ok</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>open</translation>
     </message>
     <message>
         <source>refused</source>

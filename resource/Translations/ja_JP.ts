@@ -28,6 +28,18 @@
         <translation>%1 に書き込めません。変更はありません。</translation>
     </message>
     <message>
+        <source>%1 is in the list already.</source>
+        <translation>%1 は既にリストにあります。</translation>
+    </message>
+    <message>
+        <source>%1 is taken by another program or function and does nothing here.</source>
+        <translation>%1 は他のプログラムまたは機能が使用中のため、ここでは動作しません。</translation>
+    </message>
+    <message>
+        <source>%1 more programs of the file are followed and not shown.</source>
+        <translation>ファイル内の他の %1 個のプログラムも追従しますが、表示していません。</translation>
+    </message>
+    <message>
         <source>%1 · %2</source>
         <translation>%1 · %2</translation>
     </message>
@@ -160,6 +172,10 @@
         <translation>Adaptive-Sync</translation>
     </message>
     <message>
+        <source>Add Scence</source>
+        <translation>シーンを追加</translation>
+    </message>
+    <message>
         <source>Adobe</source>
         <translation>Adobe</translation>
     </message>
@@ -196,6 +212,14 @@
         <translation>位置合わせ 9</translation>
     </message>
     <message>
+        <source>All file (*.*)</source>
+        <translation>すべてのファイル (*.*)</translation>
+    </message>
+    <message>
+        <source>All hot keys rest while the switch above is off.</source>
+        <translation>上のスイッチがオフの間、すべてのホットキーは休止します。</translation>
+    </message>
+    <message>
         <source>American broadcasting primaries.</source>
         <translation>米国の放送規格の三原色です。</translation>
     </message>
@@ -214,6 +238,14 @@
     <message>
         <source>Animate Mode</source>
         <translation>アニメモード</translation>
+    </message>
+    <message>
+        <source>Another program registers the combination first</source>
+        <translation>別のプログラムがこの組み合わせを先に登録します</translation>
+    </message>
+    <message>
+        <source>Another program…</source>
+        <translation>別のプログラム…</translation>
     </message>
     <message>
         <source>Application is already running</source>
@@ -284,6 +316,10 @@
         <translation>輝度</translation>
     </message>
     <message>
+        <source>Bring to the front</source>
+        <translation>前面に出す</translation>
+    </message>
+    <message>
         <source>C</source>
         <translation>C</translation>
     </message>
@@ -306,6 +342,10 @@
     <message>
         <source>Care Content</source>
         <translation>ケア項目</translation>
+    </message>
+    <message>
+        <source>Changes count once you press &quot;%1&quot;.</source>
+        <translation>「%1」を押すと変更が有効になります。</translation>
     </message>
     <message>
         <source>Choose Custom to make it your own.</source>
@@ -346,6 +386,10 @@
     <message>
         <source>Color Temperature</source>
         <translation>色温</translation>
+    </message>
+    <message>
+        <source>Combination to press</source>
+        <translation>押す組み合わせ</translation>
     </message>
     <message>
         <source>Composition</source>
@@ -418,6 +462,14 @@
     <message>
         <source>Default</source>
         <translation>デフォルト</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>デスクトップ</translation>
     </message>
     <message>
         <source>Display P3</source>
@@ -500,6 +552,14 @@
         <translation>図面に適した細い線とくっきりした輪郭です。</translation>
     </message>
     <message>
+        <source>Follow Desc</source>
+        <translation>アプリごとにシーンモードを指定します。アプリが前面にある間だけモニターが切り替わり、離れると基本のシーンに戻ります。</translation>
+    </message>
+    <message>
+        <source>Follow Setting</source>
+        <translation>シーン追従の設定</translation>
+    </message>
+    <message>
         <source>For code on a dark ground.</source>
         <translation>暗い背景のコード向けです。</translation>
     </message>
@@ -514,6 +574,14 @@
     <message>
         <source>Frame</source>
         <translation>フレーム</translation>
+    </message>
+    <message>
+        <source>From now on another program has it, unless QUORVEL had it before.</source>
+        <translation>QUORVEL が先に登録していなければ、以後は別のプログラムのものです。</translation>
+    </message>
+    <message>
+        <source>Function</source>
+        <translation>機能</translation>
     </message>
     <message>
         <source>G</source>
@@ -616,8 +684,16 @@
         <translation>ハイビジョン映像の制作向けです。</translation>
     </message>
     <message>
+        <source>Hold Ctrl or Alt and press a letter or a digit.</source>
+        <translation>Ctrl または Alt を押しながら、英字か数字を押してください。</translation>
+    </message>
+    <message>
         <source>Hotkey conflict</source>
         <translation>ショートカットキーの競合</translation>
+    </message>
+    <message>
+        <source>Hotkey overlay</source>
+        <translation>ホットキー表示</translation>
     </message>
     <message>
         <source>How the print will look under a D55 light.</source>
@@ -652,8 +728,28 @@
         <translation>入力信号</translation>
     </message>
     <message>
+        <source>Keyboard</source>
+        <translation>キーボード</translation>
+    </message>
+    <message>
+        <source>Keys of the numeric pad cannot be used.</source>
+        <translation>テンキーのキーは使えません。</translation>
+    </message>
+    <message>
         <source>Knowledge</source>
         <translation>ナレッジ</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_ADD_KEY</source>
+        <translation>ホットキーを追加</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_SHORTCUTKEY</source>
+        <translation>ショートカットキー</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_SHORTCUTKEY_DESC</source>
+        <translation>モニターの機能に、デスクトップのどこでも使えるキーを割り当てます。Ctrl か Alt と英字または数字。Backspace で消去します。</translation>
     </message>
     <message>
         <source>Language</source>
@@ -752,6 +848,10 @@
         <translation>モード %1</translation>
     </message>
     <message>
+        <source>Monitor</source>
+        <translation>モニター</translation>
+    </message>
+    <message>
         <source>Movie</source>
         <translation>映画</translation>
     </message>
@@ -784,6 +884,10 @@
         <translation>ネイティブモード</translation>
     </message>
     <message>
+        <source>Next value</source>
+        <translation>次の値</translation>
+    </message>
+    <message>
         <source>Night</source>
         <translation>夜間</translation>
     </message>
@@ -810,6 +914,14 @@
     <message>
         <source>No Signal Timer</source>
         <translation>無信号タイマー</translation>
+    </message>
+    <message>
+        <source>No hot keys yet: choose a function above and add it.</source>
+        <translation>ホットキーはまだありません。上で機能を選んで追加してください。</translation>
+    </message>
+    <message>
+        <source>No programs yet: add one and choose its scene.</source>
+        <translation>プログラムはまだありません。追加してシーンを選んでください。</translation>
     </message>
     <message>
         <source>OK</source>
@@ -916,12 +1028,20 @@
         <translation>省電力</translation>
     </message>
     <message>
+        <source>Press</source>
+        <translation>押す</translation>
+    </message>
+    <message>
         <source>Print Mode</source>
         <translation>印刷モード</translation>
     </message>
     <message>
         <source>Print(P3-D50)</source>
         <translation>印刷(P3-D50)</translation>
+    </message>
+    <message>
+        <source>Programs</source>
+        <translation>プログラム</translation>
     </message>
     <message>
         <source>Proofs under a D50 light.</source>
@@ -1128,8 +1248,20 @@
         <translation>超解像</translation>
     </message>
     <message>
+        <source>Switch off</source>
+        <translation>オフにする</translation>
+    </message>
+    <message>
+        <source>Switch on</source>
+        <translation>オンにする</translation>
+    </message>
+    <message>
         <source>System Settings</source>
         <translation>システム設定</translation>
+    </message>
+    <message>
+        <source>Taken by another</source>
+        <translation>他で使用</translation>
     </message>
     <message>
         <source>Text Mode</source>
@@ -1196,6 +1328,14 @@
         <translation>工場出荷時の画質です。</translation>
     </message>
     <message>
+        <source>The program has not registered this combination.</source>
+        <translation>プログラムはこの組み合わせを登録していません。</translation>
+    </message>
+    <message>
+        <source>The program heard it.</source>
+        <translation>プログラムが受け取りました。</translation>
+    </message>
+    <message>
         <source>The selected display is unsupported or the signal line is disconnected.</source>
         <translation>選択したディスプレイは対応していないか、信号ケーブルが接続されていません。</translation>
     </message>
@@ -1226,6 +1366,10 @@
     <message>
         <source>The white of printed paper.</source>
         <translation>印刷用紙の白です。</translation>
+    </message>
+    <message>
+        <source>This function has its row already.</source>
+        <translation>この機能は既にリストにあります。</translation>
     </message>
     <message>
         <source>This monitor has nothing to set here.</source>
@@ -1270,6 +1414,10 @@
     <message>
         <source>True colours for design work.</source>
         <translation>デザイン作業に適した忠実な色です。</translation>
+    </message>
+    <message>
+        <source>Type the combination here, then press it on the whole desktop</source>
+        <translation>ここに組み合わせを入力し、デスクトップ全体で押します</translation>
     </message>
     <message>
         <source>Type-B</source>
@@ -1352,6 +1500,10 @@
         <translation>垂直位置</translation>
     </message>
     <message>
+        <source>Value before</source>
+        <translation>前の値</translation>
+    </message>
+    <message>
         <source>Vivid colours for animation.</source>
         <translation>アニメに適した鮮やかな色です。</translation>
     </message>
@@ -1366,6 +1518,14 @@
     <message>
         <source>Width</source>
         <translation>幅</translation>
+    </message>
+    <message>
+        <source>With the factory parameters</source>
+        <translation>工場出荷時の設定</translation>
+    </message>
+    <message>
+        <source>With your own parameters</source>
+        <translation>ユーザー設定</translation>
     </message>
     <message>
         <source>Y</source>
@@ -1422,6 +1582,10 @@
     <message>
         <source>ok</source>
         <translation>成功</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>開く</translation>
     </message>
     <message>
         <source>refused</source>

@@ -28,6 +28,18 @@
         <translation>无法写入 %1，未作任何更改。</translation>
     </message>
     <message>
+        <source>%1 is in the list already.</source>
+        <translation>%1 已在列表中。</translation>
+    </message>
+    <message>
+        <source>%1 is taken by another program or function and does nothing here.</source>
+        <translation>%1 已被其他程序或功能占用，在此不起作用。</translation>
+    </message>
+    <message>
+        <source>%1 more programs of the file are followed and not shown.</source>
+        <translation>文件中另有 %1 个程序会被跟随，但未显示。</translation>
+    </message>
+    <message>
         <source>%1 · %2</source>
         <translation>%1 · %2</translation>
     </message>
@@ -160,6 +172,10 @@
         <translation>Adaptive-Sync</translation>
     </message>
     <message>
+        <source>Add Scence</source>
+        <translation>添加场景</translation>
+    </message>
+    <message>
         <source>Adobe</source>
         <translation>Adobe</translation>
     </message>
@@ -196,6 +212,14 @@
         <translation>对齐 9</translation>
     </message>
     <message>
+        <source>All file (*.*)</source>
+        <translation>所有文件 (*.*)</translation>
+    </message>
+    <message>
+        <source>All hot keys rest while the switch above is off.</source>
+        <translation>上方开关关闭时，所有快捷键均不起作用。</translation>
+    </message>
+    <message>
         <source>American broadcasting primaries.</source>
         <translation>美国广播标准的三原色。</translation>
     </message>
@@ -214,6 +238,14 @@
     <message>
         <source>Animate Mode</source>
         <translation>动画模式</translation>
+    </message>
+    <message>
+        <source>Another program registers the combination first</source>
+        <translation>由另一个程序先注册该组合键</translation>
+    </message>
+    <message>
+        <source>Another program…</source>
+        <translation>其他程序…</translation>
     </message>
     <message>
         <source>Application is already running</source>
@@ -284,6 +316,10 @@
         <translation>亮度</translation>
     </message>
     <message>
+        <source>Bring to the front</source>
+        <translation>切换到前台</translation>
+    </message>
+    <message>
         <source>C</source>
         <translation>C</translation>
     </message>
@@ -306,6 +342,10 @@
     <message>
         <source>Care Content</source>
         <translation>护理内容</translation>
+    </message>
+    <message>
+        <source>Changes count once you press &quot;%1&quot;.</source>
+        <translation>按“%1”后更改生效。</translation>
     </message>
     <message>
         <source>Choose Custom to make it your own.</source>
@@ -346,6 +386,10 @@
     <message>
         <source>Color Temperature</source>
         <translation>色温</translation>
+    </message>
+    <message>
+        <source>Combination to press</source>
+        <translation>要按下的组合键</translation>
     </message>
     <message>
         <source>Composition</source>
@@ -418,6 +462,14 @@
     <message>
         <source>Default</source>
         <translation>默认</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>桌面</translation>
     </message>
     <message>
         <source>Display P3</source>
@@ -500,6 +552,14 @@
         <translation>线条精细、边缘清晰，适合制图。</translation>
     </message>
     <message>
+        <source>Follow Desc</source>
+        <translation>为应用程序指定场景模式：该程序位于前台时显示器自动切换，离开后恢复基础场景。</translation>
+    </message>
+    <message>
+        <source>Follow Setting</source>
+        <translation>场景跟随设置</translation>
+    </message>
+    <message>
         <source>For code on a dark ground.</source>
         <translation>适合深色背景的代码。</translation>
     </message>
@@ -514,6 +574,14 @@
     <message>
         <source>Frame</source>
         <translation>边框</translation>
+    </message>
+    <message>
+        <source>From now on another program has it, unless QUORVEL had it before.</source>
+        <translation>从现在起由另一个程序占用，除非 QUORVEL 已先注册。</translation>
+    </message>
+    <message>
+        <source>Function</source>
+        <translation>功能</translation>
     </message>
     <message>
         <source>G</source>
@@ -616,8 +684,16 @@
         <translation>高清视频制作。</translation>
     </message>
     <message>
+        <source>Hold Ctrl or Alt and press a letter or a digit.</source>
+        <translation>请按住 Ctrl 或 Alt 再按字母或数字。</translation>
+    </message>
+    <message>
         <source>Hotkey conflict</source>
         <translation>快捷键冲突</translation>
+    </message>
+    <message>
+        <source>Hotkey overlay</source>
+        <translation>快捷键提示</translation>
     </message>
     <message>
         <source>How the print will look under a D55 light.</source>
@@ -652,8 +728,28 @@
         <translation>输入信号</translation>
     </message>
     <message>
+        <source>Keyboard</source>
+        <translation>键盘</translation>
+    </message>
+    <message>
+        <source>Keys of the numeric pad cannot be used.</source>
+        <translation>不能使用数字小键盘的按键。</translation>
+    </message>
+    <message>
         <source>Knowledge</source>
         <translation>知识库</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_ADD_KEY</source>
+        <translation>添加快捷键</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_SHORTCUTKEY</source>
+        <translation>快捷键</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_SHORTCUTKEY_DESC</source>
+        <translation>为显示器功能指定全局快捷键，在桌面任何位置都有效：Ctrl 或 Alt 加字母或数字，Backspace 清除。</translation>
     </message>
     <message>
         <source>Language</source>
@@ -752,6 +848,10 @@
         <translation>模式 %1</translation>
     </message>
     <message>
+        <source>Monitor</source>
+        <translation>显示器</translation>
+    </message>
+    <message>
         <source>Movie</source>
         <translation>电影</translation>
     </message>
@@ -784,6 +884,10 @@
         <translation>原生模式</translation>
     </message>
     <message>
+        <source>Next value</source>
+        <translation>下一个值</translation>
+    </message>
+    <message>
         <source>Night</source>
         <translation>夜间</translation>
     </message>
@@ -810,6 +914,14 @@
     <message>
         <source>No Signal Timer</source>
         <translation>无信号定时</translation>
+    </message>
+    <message>
+        <source>No hot keys yet: choose a function above and add it.</source>
+        <translation>还没有快捷键：请在上方选择功能并添加。</translation>
+    </message>
+    <message>
+        <source>No programs yet: add one and choose its scene.</source>
+        <translation>还没有程序：请添加程序并选择其场景。</translation>
     </message>
     <message>
         <source>OK</source>
@@ -916,12 +1028,20 @@
         <translation>节能</translation>
     </message>
     <message>
+        <source>Press</source>
+        <translation>按下</translation>
+    </message>
+    <message>
         <source>Print Mode</source>
         <translation>印刷模式</translation>
     </message>
     <message>
         <source>Print(P3-D50)</source>
         <translation>印刷(P3-D50)</translation>
+    </message>
+    <message>
+        <source>Programs</source>
+        <translation>程序</translation>
     </message>
     <message>
         <source>Proofs under a D50 light.</source>
@@ -1128,8 +1248,20 @@
         <translation>超分辨率</translation>
     </message>
     <message>
+        <source>Switch off</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Switch on</source>
+        <translation>打开</translation>
+    </message>
+    <message>
         <source>System Settings</source>
         <translation>系统设置</translation>
+    </message>
+    <message>
+        <source>Taken by another</source>
+        <translation>被占用</translation>
     </message>
     <message>
         <source>Text Mode</source>
@@ -1196,6 +1328,14 @@
         <translation>出厂设定的画面。</translation>
     </message>
     <message>
+        <source>The program has not registered this combination.</source>
+        <translation>程序未注册该组合键。</translation>
+    </message>
+    <message>
+        <source>The program heard it.</source>
+        <translation>程序已收到。</translation>
+    </message>
+    <message>
         <source>The selected display is unsupported or the signal line is disconnected.</source>
         <translation>所选显示器不受支持，或信号线未连接。</translation>
     </message>
@@ -1226,6 +1366,10 @@
     <message>
         <source>The white of printed paper.</source>
         <translation>印刷纸张的白色。</translation>
+    </message>
+    <message>
+        <source>This function has its row already.</source>
+        <translation>该功能已在列表中。</translation>
     </message>
     <message>
         <source>This monitor has nothing to set here.</source>
@@ -1270,6 +1414,10 @@
     <message>
         <source>True colours for design work.</source>
         <translation>色彩真实，适合设计工作。</translation>
+    </message>
+    <message>
+        <source>Type the combination here, then press it on the whole desktop</source>
+        <translation>在此输入组合键，然后在整个桌面上按下</translation>
     </message>
     <message>
         <source>Type-B</source>
@@ -1352,6 +1500,10 @@
         <translation>垂直位置</translation>
     </message>
     <message>
+        <source>Value before</source>
+        <translation>上一个值</translation>
+    </message>
+    <message>
         <source>Vivid colours for animation.</source>
         <translation>色彩鲜艳，适合动画。</translation>
     </message>
@@ -1366,6 +1518,14 @@
     <message>
         <source>Width</source>
         <translation>宽度</translation>
+    </message>
+    <message>
+        <source>With the factory parameters</source>
+        <translation>出厂参数</translation>
+    </message>
+    <message>
+        <source>With your own parameters</source>
+        <translation>自定义参数</translation>
     </message>
     <message>
         <source>Y</source>
@@ -1422,6 +1582,10 @@
     <message>
         <source>ok</source>
         <translation>成功</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>打开</translation>
     </message>
     <message>
         <source>refused</source>

@@ -28,6 +28,18 @@
         <translation>無法寫入 %1，未做任何變更。</translation>
     </message>
     <message>
+        <source>%1 is in the list already.</source>
+        <translation>%1 已在清單中。</translation>
+    </message>
+    <message>
+        <source>%1 is taken by another program or function and does nothing here.</source>
+        <translation>%1 已被其他程式或功能佔用，在此不起作用。</translation>
+    </message>
+    <message>
+        <source>%1 more programs of the file are followed and not shown.</source>
+        <translation>檔案中另有 %1 個程式會被跟隨，但未顯示。</translation>
+    </message>
+    <message>
         <source>%1 · %2</source>
         <translation>%1 · %2</translation>
     </message>
@@ -160,6 +172,10 @@
         <translation>Adaptive-Sync</translation>
     </message>
     <message>
+        <source>Add Scence</source>
+        <translation>新增場景</translation>
+    </message>
+    <message>
         <source>Adobe</source>
         <translation>Adobe</translation>
     </message>
@@ -196,6 +212,14 @@
         <translation>對齊 9</translation>
     </message>
     <message>
+        <source>All file (*.*)</source>
+        <translation>所有檔案 (*.*)</translation>
+    </message>
+    <message>
+        <source>All hot keys rest while the switch above is off.</source>
+        <translation>上方開關關閉時，所有快速鍵均不起作用。</translation>
+    </message>
+    <message>
         <source>American broadcasting primaries.</source>
         <translation>美國廣播標準的三原色。</translation>
     </message>
@@ -214,6 +238,14 @@
     <message>
         <source>Animate Mode</source>
         <translation>動畫模式</translation>
+    </message>
+    <message>
+        <source>Another program registers the combination first</source>
+        <translation>由另一個程式先註冊該組合鍵</translation>
+    </message>
+    <message>
+        <source>Another program…</source>
+        <translation>其他程式…</translation>
     </message>
     <message>
         <source>Application is already running</source>
@@ -284,6 +316,10 @@
         <translation>亮度</translation>
     </message>
     <message>
+        <source>Bring to the front</source>
+        <translation>切換到前景</translation>
+    </message>
+    <message>
         <source>C</source>
         <translation>C</translation>
     </message>
@@ -306,6 +342,10 @@
     <message>
         <source>Care Content</source>
         <translation>保養內容</translation>
+    </message>
+    <message>
+        <source>Changes count once you press &quot;%1&quot;.</source>
+        <translation>按「%1」後變更生效。</translation>
     </message>
     <message>
         <source>Choose Custom to make it your own.</source>
@@ -346,6 +386,10 @@
     <message>
         <source>Color Temperature</source>
         <translation>色溫</translation>
+    </message>
+    <message>
+        <source>Combination to press</source>
+        <translation>要按下的組合鍵</translation>
     </message>
     <message>
         <source>Composition</source>
@@ -418,6 +462,14 @@
     <message>
         <source>Default</source>
         <translation>預設</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>刪除</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>桌面</translation>
     </message>
     <message>
         <source>Display P3</source>
@@ -500,6 +552,14 @@
         <translation>線條精細、邊緣清晰，適合製圖。</translation>
     </message>
     <message>
+        <source>Follow Desc</source>
+        <translation>為應用程式指定場景模式：該程式位於前景時顯示器自動切換，離開後恢復基礎場景。</translation>
+    </message>
+    <message>
+        <source>Follow Setting</source>
+        <translation>場景跟隨設定</translation>
+    </message>
+    <message>
         <source>For code on a dark ground.</source>
         <translation>適合深色背景的程式碼。</translation>
     </message>
@@ -514,6 +574,14 @@
     <message>
         <source>Frame</source>
         <translation>邊框</translation>
+    </message>
+    <message>
+        <source>From now on another program has it, unless QUORVEL had it before.</source>
+        <translation>從現在起由另一個程式佔用，除非 QUORVEL 已先註冊。</translation>
+    </message>
+    <message>
+        <source>Function</source>
+        <translation>功能</translation>
     </message>
     <message>
         <source>G</source>
@@ -616,8 +684,16 @@
         <translation>高畫質視訊製作。</translation>
     </message>
     <message>
+        <source>Hold Ctrl or Alt and press a letter or a digit.</source>
+        <translation>請按住 Ctrl 或 Alt 再按字母或數字。</translation>
+    </message>
+    <message>
         <source>Hotkey conflict</source>
         <translation>快速鍵衝突</translation>
+    </message>
+    <message>
+        <source>Hotkey overlay</source>
+        <translation>快速鍵提示</translation>
     </message>
     <message>
         <source>How the print will look under a D55 light.</source>
@@ -652,8 +728,28 @@
         <translation>輸入訊號</translation>
     </message>
     <message>
+        <source>Keyboard</source>
+        <translation>鍵盤</translation>
+    </message>
+    <message>
+        <source>Keys of the numeric pad cannot be used.</source>
+        <translation>不能使用數字鍵盤的按鍵。</translation>
+    </message>
+    <message>
         <source>Knowledge</source>
         <translation>知識庫</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_ADD_KEY</source>
+        <translation>新增快速鍵</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_SHORTCUTKEY</source>
+        <translation>快速鍵</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_SHORTCUTKEY_DESC</source>
+        <translation>為顯示器功能指定全域快速鍵，在桌面任何位置都有效：Ctrl 或 Alt 加字母或數字，Backspace 清除。</translation>
     </message>
     <message>
         <source>Language</source>
@@ -752,6 +848,10 @@
         <translation>模式 %1</translation>
     </message>
     <message>
+        <source>Monitor</source>
+        <translation>顯示器</translation>
+    </message>
+    <message>
         <source>Movie</source>
         <translation>電影</translation>
     </message>
@@ -784,6 +884,10 @@
         <translation>原生模式</translation>
     </message>
     <message>
+        <source>Next value</source>
+        <translation>下一個值</translation>
+    </message>
+    <message>
         <source>Night</source>
         <translation>夜間</translation>
     </message>
@@ -810,6 +914,14 @@
     <message>
         <source>No Signal Timer</source>
         <translation>無訊號計時</translation>
+    </message>
+    <message>
+        <source>No hot keys yet: choose a function above and add it.</source>
+        <translation>尚無快速鍵：請在上方選擇功能並新增。</translation>
+    </message>
+    <message>
+        <source>No programs yet: add one and choose its scene.</source>
+        <translation>尚無程式：請新增程式並選擇其場景。</translation>
     </message>
     <message>
         <source>OK</source>
@@ -916,12 +1028,20 @@
         <translation>省電</translation>
     </message>
     <message>
+        <source>Press</source>
+        <translation>按下</translation>
+    </message>
+    <message>
         <source>Print Mode</source>
         <translation>印刷模式</translation>
     </message>
     <message>
         <source>Print(P3-D50)</source>
         <translation>印刷(P3-D50)</translation>
+    </message>
+    <message>
+        <source>Programs</source>
+        <translation>程式</translation>
     </message>
     <message>
         <source>Proofs under a D50 light.</source>
@@ -1128,8 +1248,20 @@
         <translation>超解析度</translation>
     </message>
     <message>
+        <source>Switch off</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>Switch on</source>
+        <translation>開啟</translation>
+    </message>
+    <message>
         <source>System Settings</source>
         <translation>系統設定</translation>
+    </message>
+    <message>
+        <source>Taken by another</source>
+        <translation>被佔用</translation>
     </message>
     <message>
         <source>Text Mode</source>
@@ -1196,6 +1328,14 @@
         <translation>原廠設定的畫面。</translation>
     </message>
     <message>
+        <source>The program has not registered this combination.</source>
+        <translation>程式未註冊該組合鍵。</translation>
+    </message>
+    <message>
+        <source>The program heard it.</source>
+        <translation>程式已收到。</translation>
+    </message>
+    <message>
         <source>The selected display is unsupported or the signal line is disconnected.</source>
         <translation>不支援所選的顯示器，或訊號線未連接。</translation>
     </message>
@@ -1226,6 +1366,10 @@
     <message>
         <source>The white of printed paper.</source>
         <translation>印刷紙張的白色。</translation>
+    </message>
+    <message>
+        <source>This function has its row already.</source>
+        <translation>該功能已在清單中。</translation>
     </message>
     <message>
         <source>This monitor has nothing to set here.</source>
@@ -1270,6 +1414,10 @@
     <message>
         <source>True colours for design work.</source>
         <translation>色彩真實，適合設計工作。</translation>
+    </message>
+    <message>
+        <source>Type the combination here, then press it on the whole desktop</source>
+        <translation>在此輸入組合鍵，然後在整個桌面上按下</translation>
     </message>
     <message>
         <source>Type-B</source>
@@ -1352,6 +1500,10 @@
         <translation>垂直位置</translation>
     </message>
     <message>
+        <source>Value before</source>
+        <translation>上一個值</translation>
+    </message>
+    <message>
         <source>Vivid colours for animation.</source>
         <translation>色彩鮮豔，適合動畫。</translation>
     </message>
@@ -1366,6 +1518,14 @@
     <message>
         <source>Width</source>
         <translation>寬度</translation>
+    </message>
+    <message>
+        <source>With the factory parameters</source>
+        <translation>原廠參數</translation>
+    </message>
+    <message>
+        <source>With your own parameters</source>
+        <translation>自訂參數</translation>
     </message>
     <message>
         <source>Y</source>
@@ -1422,6 +1582,10 @@
     <message>
         <source>ok</source>
         <translation>成功</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>開啟</translation>
     </message>
     <message>
         <source>refused</source>

@@ -45,6 +45,12 @@ bool isLetterOrDigit(int key)
 {
     return (key >= Qt::Key_A && key <= Qt::Key_Z) || (key >= Qt::Key_0 && key <= Qt::Key_9);
 }
+
+bool isModifier(int key)
+{
+    return key == Qt::Key_Control || key == Qt::Key_Alt || key == Qt::Key_Shift || key == Qt::Key_Meta ||
+           key == Qt::Key_AltGr;
+}
 } // namespace
 
 ZelmarKeySequenceEdit::ZelmarKeySequenceEdit(QWidget *parent)
@@ -72,10 +78,22 @@ void ZelmarKeySequenceEdit::keyPressEvent(QKeyEvent *event)
     }
     const bool wanted = (held & (Qt::ControlModifier | Qt::AltModifier)) && isLetterOrDigit(event->key());
     // The digits of the numeric pad ("Num+5" in the native text) are left to whoever works in the foreground.
-    if (wanted && !held.testFlag(Qt::KeypadModifier) && !event->isAutoRepeat())
+    if (wanted && !held.testFlag(Qt::KeypadModifier) && !event->isAutoRepeat()) {
         capture(event);
+        return;
+    }
+    refuse(event);
+    event->ignore();
+}
+
+void ZelmarKeySequenceEdit::refuse(const QKeyEvent *event)
+{
+    if (event->isAutoRepeat() || isModifier(event->key()))
+        return; // a combination is only beginning
+    if (event->modifiers().testFlag(Qt::KeypadModifier))
+        Q_EMIT refused(QObject::tr("Keys of the numeric pad cannot be used."));
     else
-        event->ignore();
+        Q_EMIT refused(QObject::tr("Hold Ctrl or Alt and press a letter or a digit."));
 }
 
 void ZelmarKeySequenceEdit::capture(QKeyEvent *event)

@@ -15,6 +15,10 @@ public:
     /// The combination in native text, empty for none.
     QString text() const;
 
+Q_SIGNALS:
+    /// A combination was pressed that the field does not take, and why not.
+    void refused(const QString &why);
+
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
@@ -24,6 +28,7 @@ protected:
 
 private:
     void capture(QKeyEvent *event);
+    void refuse(const QKeyEvent *event);
 
     QLineEdit *m_lineEdit;
 };

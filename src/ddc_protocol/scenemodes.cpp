@@ -88,6 +88,14 @@ const SceneMode *sceneModeOf(int value)
     return nullptr;
 }
 
+void noteSceneMode(int value)
+{
+    if (sceneModeOf(value) != sceneModeOf(deviceState.value(Command::SceneMode)))
+        deviceState.invalidateSceneBlock();
+    deviceState.lastSceneModeSent = value;
+    deviceState.store(Command::SceneMode, value);
+}
+
 std::optional<SceneFamily> familyOfSceneValue(int value)
 {
     for (const FamilyRange &range : kFamilyRanges) {

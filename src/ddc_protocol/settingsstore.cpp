@@ -27,7 +27,13 @@ class IniFile
 public:
     explicit IniFile(const QString &fileName) : m_settings(fileName, QSettings::IniFormat) {}
 
-    QString text(const QString &key) const { return m_settings.value(key).toString(); }
+    /// A text with commas that somebody wrote by hand, without quotes, is a list to the toolkit.
+    QString text(const QString &key) const
+    {
+        const QVariant value = m_settings.value(key);
+        return value.typeId() == QMetaType::QStringList ? value.toStringList().join(QLatin1String(", "))
+                                                        : value.toString();
+    }
 
     void write(const QString &key, const QVariant &value)
     {
@@ -48,6 +54,16 @@ public:
         keepForeignContent();
         m_settings.clear();
         finish();
+    }
+
+    /// One write to the disk, by a file that takes the old one's place when it is complete.
+    bool replace(const QList<QPair<QString, QString>> &settings)
+    {
+        keepForeignContent();
+        m_settings.clear();
+        for (const auto &[key, value] : settings)
+            m_settings.setValue(key, value);
+        return finish();
     }
 
     QStringList keys() const { return m_settings.allKeys(); }
@@ -105,6 +121,11 @@ QList<QPair<QString, QString>> readAllSettings(const QString &fileName)
     for (const QString &key : file.keys())
         settings.append({key, file.text(key)});
     return settings;
+}
+
+bool writeAllSettings(const QString &fileName, const QList<QPair<QString, QString>> &settings)
+{
+    return IniFile(fileName).replace(settings);
 }
 
 QString languageSetting(bool write, const QString &code)

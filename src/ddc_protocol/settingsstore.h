@@ -24,6 +24,10 @@ int settingsInt(const QString &key, int value, bool write);
 /// Every key of the file with its value, sorted by key.
 QList<QPair<QString, QString>> readAllSettings(const QString &fileName);
 
+/// Replaces everything the file holds, in one step: whatever happens meanwhile, the file holds the old settings or the
+/// new ones. False when it could not be written; then it holds the old ones.
+bool writeAllSettings(const QString &fileName, const QList<QPair<QString, QString>> &settings);
+
 /// The interface language in config.ini. Write: stores the code and returns an empty text. Read: the stored code, empty
 /// when absent.
 QString languageSetting(bool write, const QString &code = {});

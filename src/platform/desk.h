@@ -4,6 +4,7 @@
 #include "platform/clock.h"
 #include "platform/devicenotifications.h"
 #include "platform/displays.h"
+#include "platform/foreground.h"
 #include "platform/globalkeys.h"
 #include "platform/hid.h"
 #include "platform/monitorconfiguration.h"
@@ -27,6 +28,7 @@ public:
     virtual GlobalKeys &globalKeys() = 0;
     virtual AudioCapture &audio() = 0;
     virtual Hid &hid() = 0;
+    virtual Foreground &foreground() = 0;
     virtual Clock &clock() = 0;
 
     /// Called once when the main window is shown: a desk that has something of its own to show opens it now.

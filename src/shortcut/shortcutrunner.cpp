@@ -13,22 +13,15 @@ namespace {
 constexpr platform::milliseconds kRest(200);
 constexpr std::uint16_t kRetries = 10;
 
-/// The rest of what a new scene mode means: the custom block of another mode is not this one's.
-void noteSceneMode(int mode)
+/// True when the monitor took it.
+bool send(Command command, COMMAND_set_Type row, std::uint16_t value)
 {
-    if (sceneModeOf(mode) != sceneModeOf(deviceState.value(Command::SceneMode)))
-        deviceState.invalidateSceneBlock();
-    deviceState.lastSceneModeSent = mode;
-}
-
-void send(const ShortcutStep &step)
-{
-    const auto command = Command(commandCode(step.row));
-    const auto value = static_cast<std::uint16_t>(step.value);
-    Korvu_SetCommandVal(step.row, value, kRetries);
+    const bool ok = Korvu_SetCommandVal(row, value, kRetries);
     if (command == Command::SceneMode)
         noteSceneMode(value);
-    deviceState.store(command, value);
+    else
+        deviceState.store(command, value);
+    return ok;
 }
 
 } // namespace
@@ -40,25 +33,28 @@ ShortcutRunner::ShortcutRunner(QObject *parent) : QObject(parent)
 
 void ShortcutRunner::shortcutKeyCommand(int function, int direction)
 {
-    if (m_ready && run(function, direction))
+    if (!m_ready)
+        return;
+    if (direction != static_cast<int>(ShortcutKey::Plus) && direction != static_cast<int>(ShortcutKey::Minus)) {
         rest();
-}
-
-/// Whether the keys rest now.
-bool ShortcutRunner::run(int function, int direction)
-{
-    if (direction != static_cast<int>(ShortcutKey::Plus) && direction != static_cast<int>(ShortcutKey::Minus))
-        return true;
+        return;
+    }
     const auto functions = shortcutFunctions();
     if (function < 0 || static_cast<std::size_t>(function) >= functions.size()) {
         qDebug().noquote() << QStringLiteral("%1 暂未支持").arg(function);
-        return true;
+        rest();
+        return;
     }
+    Q_EMIT begins();
     const auto read = [](COMMAND_set_Type row) { return Korvu_GetCommandVal(row, kRetries); };
     const ShortcutStep step =
         shortcutStep(functions[static_cast<std::size_t>(function)].rule, ShortcutKey(direction), read);
-    send(step);
-    return step.locks;
+    const auto command = Command(commandCode(step.row));
+    const auto value = static_cast<std::uint16_t>(step.value);
+    const bool ok = send(command, step.row, value);
+    if (step.locks)
+        rest();
+    Q_EMIT sent(function, command, value, ok);
 }
 
 void ShortcutRunner::rest()

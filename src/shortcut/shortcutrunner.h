@@ -18,8 +18,14 @@ public:
     /// is logged. Does nothing while the keys rest.
     void shortcutKeyCommand(int function, int direction);
 
+Q_SIGNALS:
+    /// A function is about to ask the monitor; whoever holds back commands sends them now.
+    void begins();
+
+    /// A function has sent a value, and whether the monitor took it.
+    void sent(int function, Command command, int value, bool ok);
+
 private:
-    bool run(int function, int direction);
     void rest();
 
     bool m_ready = false;

@@ -1,49 +1,49 @@
 #include "virtualdesk/deskwindow.h"
 
-#include <QComboBox>
 #include <QEvent>
-#include <QFontDatabase>
-#include <QGridLayout>
 #include <QGuiApplication>
-#include <QLabel>
-#include <QPainter>
-#include <QPlainTextEdit>
-#include <QPushButton>
 #include <QScreen>
-#include <QScrollArea>
-#include <QScrollBar>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QVBoxLayout>
 
-#include "virtualdesk/osdfunctions.h"
-#include "virtualdesk/screenview.h"
-#include "virtualdesk/virtualdesk.h"
+#include "virtualdesk/desktoppanel.h"
+#include "virtualdesk/monitorpanel.h"
 
 namespace virtualdesk {
 
 namespace {
 
-constexpr QSize kWindowSize(420, 720);
+constexpr QSize kWindowSize(420, 760);
 constexpr int kMargin = 16;
-constexpr int kKeptLines = 400;
-constexpr std::size_t kShownAtOnce = 100;
-constexpr std::chrono::milliseconds kRefreshDelay{60};
-constexpr platform::milliseconds kSlow{400};
 
 constexpr char kStyle[] = R"(
 virtualdesk--DeskWindow { background-color: #0d1210; }
-QLabel, QPushButton, QComboBox { font-size: 13px; }
+QTabWidget::pane { border: none; }
+QTabWidget > QWidget { background-color: transparent; }
+QTabBar::tab { color: #adadad; background: transparent; border: none; border-bottom: 2px solid transparent;
+    padding: 6px 14px; font-size: 13px; }
+QTabBar::tab:hover { color: #ffffff; }
+QTabBar::tab:selected { color: #7bfadb; border-bottom-color: #7bfadb; }
+QLineEdit { color: #9cffc8; background-color: #161d1a; border: 1px solid rgb(27,80,67); border-radius: 6px;
+    padding: 5px 8px; min-height: 18px; font-size: 13px; }
+QLineEdit:focus { border-color: #7bfadb; }
+QLabel, QPushButton, QComboBox, QListWidget { font-size: 13px; }
 QLabel { color: #c9c9c9; }
 QLabel#title { color: #7bfadb; font-weight: 600; }
 QLabel#value { color: #9cffc8; }
 QLabel#state { color: #adadad; }
-QScrollArea, QPlainTextEdit { background-color: #161d1a; border: 1px solid rgb(27,80,67); border-radius: 8px; }
+QScrollArea, QPlainTextEdit, QListWidget { background-color: #161d1a; border: 1px solid rgb(27,80,67); border-radius: 8px; }
 QWidget#osd { background-color: transparent; }
 QPlainTextEdit { color: #adadad; padding: 4px; selection-background-color: #1b5043; }
-QPlainTextEdit:focus, QScrollArea:focus { border-color: #7bfadb; }
+QPlainTextEdit:focus, QScrollArea:focus, QListWidget:focus { border-color: #7bfadb; }
 QPushButton, QComboBox { color: #ffffff; background-color: #1b2320; border: 1px solid rgb(27,80,67);
     border-radius: 6px; padding: 5px 8px; min-height: 18px; }
 QPushButton:hover, QComboBox:hover { border-color: #4fae95; }
 QPushButton:focus, QComboBox:focus { border-color: #7bfadb; }
+QListWidget { color: #c9c9c9; outline: none; padding: 4px; }
+QListWidget::item { padding: 6px 8px; border-radius: 6px; }
+QListWidget::item:selected { color: #ffffff; background-color: #1b5043; }
 QPushButton:checked { color: #ffffff; background-color: #5a2a2d; border-color: #da676d; }
 QComboBox::drop-down { border: none; width: 22px; }
 QComboBox QAbstractItemView { color: #ffffff; background-color: #1b2320; selection-background-color: #1b5043; }
@@ -54,107 +54,9 @@ QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 QToolTip { color: #ffffff; background-color: #1b2320; border: 1px solid rgb(27,80,67); }
 )";
 
-#define NAME(text) QT_TRANSLATE_NOOP("QObject", text)
-
-/// One thing that can go wrong with a monitor. A button is down while the fault waits or lasts.
-struct FaultSpec
-{
-    const char *text;
-    const char *tip;
-    void (*set)(VirtualDesk &desk, std::size_t index, bool on);
-    bool (*isSet)(const SimulatedMonitor &monitor);
-};
-
-constexpr FaultSpec kFaults[] = {
-    {NAME("Refuse writes"), NAME("The monitor takes no value until the button is released"),
-     [](VirtualDesk &desk, std::size_t index, bool on) { desk.monitor(index).refuseWrites(on ? kForEver : 0); },
-     [](const SimulatedMonitor &monitor) { return monitor.armedFaults().refuseWrites; }},
-    {NAME("Drop a chunk"), NAME("Four bytes of the next scene-mode block get lost"),
-     [](VirtualDesk &desk, std::size_t index, bool on) { desk.monitor(index).dropChunks(on ? 1 : 0); },
-     [](const SimulatedMonitor &monitor) { return monitor.armedFaults().dropChunks; }},
-    {NAME("Lose a reply"), NAME("The answer to the next read never arrives"),
-     [](VirtualDesk &desk, std::size_t index, bool on) { desk.monitor(index).loseReplies(on ? 1 : 0); },
-     [](const SimulatedMonitor &monitor) { return monitor.armedFaults().loseReplies; }},
-    {NAME("Go deaf"), NAME("The monitor answers nothing until the button is released"),
-     [](VirtualDesk &desk, std::size_t index, bool on) { desk.monitor(index).goDeaf(on ? kForEver : 0); },
-     [](const SimulatedMonitor &monitor) { return monitor.armedFaults().deaf; }},
-    {NAME("Slow"), NAME("Every request takes 400 ms longer"),
-     [](VirtualDesk &desk, std::size_t index, bool on) {
-         desk.monitor(index).setDelay(on ? kSlow : platform::milliseconds(0));
-     },
-     [](const SimulatedMonitor &monitor) { return monitor.isSlow(); }},
-    {NAME("Unplug"), NAME("The cable is pulled out until the button is released"),
-     [](VirtualDesk &desk, std::size_t index, bool on) { on ? desk.unplug(index) : desk.plug(index); },
-     [](const SimulatedMonitor &monitor) { return !monitor.isPlugged(); }},
-};
-constexpr int kFaultColumns = 3;
-
-constexpr const char *kOutcomes[] = {NAME("ok"),      NAME("adjusted"), NAME("garbled"), NAME("unexpected"),
-                                     NAME("refused"), NAME("lost"),     NAME("deaf"),    NAME("unplugged")};
-
-// Rows of the OSD that gather several codes each, below those of the menu.
-struct GatheredRow
-{
-    const char *name;
-    std::uint8_t first;
-    int count;
-};
-constexpr GatheredRow kGatheredRows[] = {
-    {NAME("User1 R G B"), 0x16, 3},     {NAME("User2 R G B"), 0x19, 3},
-    {NAME("User3 R G B"), 0x1C, 3},     {NAME("Saturation R Y G C B M"), 0x59, 6},
-    {NAME("Hue R Y G C B M"), 0x9B, 6},
-};
-
-#undef NAME
-
-constexpr std::uint8_t kMotionCode = 0x48;
-
-bool hasFunction(const MonitorModel &model, const OsdFunction &function)
-{
-    if (function.code == 0x47)
-        return (model.capabilities & LocalDimming) != 0;
-    if (function.code == 0x46)
-        return (model.capabilities & HaloControl) != 0;
-    return true;
-}
-
-QString requestLine(const Request &request)
-{
-    return QStringLiteral("%1 %2 %3 %4 %5")
-        .arg(request.time.toString(QStringLiteral("hh:mm:ss.zzz")))
-        .arg(QLatin1Char(request.kind == RequestKind::Read ? 'R' : 'W'))
-        .arg(request.code, 2, 16, QLatin1Char('0'))
-        .arg(request.value, 5)
-        .arg(QObject::tr(kOutcomes[static_cast<int>(request.outcome)]));
-}
-
-/// A combo box whose arrow is drawn in the window's colours; a style sheet can only give it a picture.
-class Selector : public QComboBox
-{
-public:
-    using QComboBox::QComboBox;
-
-protected:
-    void paintEvent(QPaintEvent *event) override
-    {
-        QComboBox::paintEvent(event);
-        QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(QColor(0x7b, 0xfa, 0xdb), 1.6));
-        const QPointF tip(width() - 16.0, height() / 2.0 + 2.0);
-        painter.drawPolyline(QPolygonF({tip + QPointF(-4, -4), tip, tip + QPointF(4, -4)}));
-    }
-};
-
-void setTextOf(QLabel *label, const QString &text)
-{
-    if (label->text() != text)
-        label->setText(text);
-}
-
 } // namespace
 
-DeskWindow::DeskWindow(VirtualDesk &desk) : m_desk(desk)
+DeskWindow::DeskWindow(VirtualDesk &desk) : m_tabs(new QTabWidget(this))
 {
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_QuitOnClose, false);
@@ -163,103 +65,25 @@ DeskWindow::DeskWindow(VirtualDesk &desk) : m_desk(desk)
     QFont font = this->font();
     font.setPixelSize(13);
     setFont(font);
-
-    m_selector = new Selector(this);
-    m_screen = new ScreenView(this);
-    m_state = new QLabel(this);
-    m_state->setObjectName(QStringLiteral("state"));
-    m_osdTitle = new QLabel(this);
-    m_requestsTitle = new QLabel(this);
-    for (QLabel *title : {m_osdTitle, m_requestsTitle})
-        title->setObjectName(QStringLiteral("title"));
-    m_requests = new QPlainTextEdit(this);
-    m_requests->setReadOnly(true);
-    m_requests->setTabChangesFocus(true);
-    m_requests->setMaximumBlockCount(kKeptLines);
-    m_requests->setLineWrapMode(QPlainTextEdit::NoWrap);
-    m_requests->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    fixed.setPixelSize(12);
-    m_requests->setFont(fixed);
+    m_tabs->tabBar()->setDrawBase(false);
 
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    layout->setSpacing(8);
-    layout->addWidget(m_selector);
-    layout->addWidget(m_screen);
-    layout->addLayout(buildFaults());
-    layout->addWidget(m_state);
-    layout->addWidget(m_osdTitle);
-    layout->addWidget(buildOsd(), 3);
-    layout->addWidget(m_requestsTitle);
-    layout->addWidget(m_requests, 2);
-
-    m_refreshTimer.setSingleShot(true);
-    m_refreshTimer.setInterval(kRefreshDelay);
-    connect(&m_refreshTimer, &QTimer::timeout, this, &DeskWindow::refresh);
-    connect(&m_desk, &VirtualDesk::monitorsChanged, this, &DeskWindow::askForRefresh);
-    for (std::size_t i = 0; i < m_desk.monitorCount(); ++i)
-        m_selector->addItem(QLatin1String(m_desk.monitor(i).model().name));
-    connect(m_selector, &QComboBox::currentIndexChanged, this, &DeskWindow::selectMonitor);
-
+    layout->setContentsMargins(kMargin, 8, kMargin, kMargin);
+    layout->addWidget(m_tabs);
+    addPanel<MonitorPanel>(desk, QT_TRANSLATE_NOOP("QObject", "Monitor"));
+    addPanel<DesktopPanel>(desk, QT_TRANSLATE_NOOP("QObject", "Desktop"));
     retranslate();
-    selectMonitor(0);
     placeBesideProgram();
 }
 
-DeskWindow::~DeskWindow()
+template <class Panel> void DeskWindow::addPanel(VirtualDesk &desk, const char *title)
 {
-    if (m_listener != 0)
-        monitor().removeListener(m_listener);
-}
-
-SimulatedMonitor &DeskWindow::monitor() const
-{
-    return m_desk.monitor(m_index);
-}
-
-QWidget *DeskWindow::buildOsd()
-{
-    auto *area = new QScrollArea(this);
-    area->setWidgetResizable(true);
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    auto *content = new QWidget(area);
-    content->setObjectName(QStringLiteral("osd"));
-    area->viewport()->setAutoFillBackground(false);
-    auto *grid = new QGridLayout(content);
-    grid->setContentsMargins(12, 8, 12, 8);
-    grid->setVerticalSpacing(4);
-    grid->setColumnStretch(0, 1);
-    const int rows = 1 + static_cast<int>(osdMenu().size() + std::size(kGatheredRows));
-    for (int row = 0; row < rows; ++row) {
-        auto *name = new QLabel(content);
-        auto *value = new QLabel(content);
-        value->setObjectName(QStringLiteral("value"));
-        grid->addWidget(name, row, 0);
-        grid->addWidget(value, row, 1, Qt::AlignRight);
-        m_osdRows.emplace_back(name, value);
-    }
-    area->setWidget(content);
-    return area;
-}
-
-QLayout *DeskWindow::buildFaults()
-{
-    auto *grid = new QGridLayout;
-    grid->setSpacing(8);
-    for (const FaultSpec &fault : kFaults) {
-        auto *button = new QPushButton(this);
-        button->setCheckable(true);
-        button->setEnabled(m_desk.monitorCount() > 0);
-        connect(button, &QPushButton::clicked, this, [this, &fault](bool on) {
-            fault.set(m_desk, m_index, on);
-            askForRefresh();
-        });
-        const int place = static_cast<int>(m_faultButtons.size());
-        grid->addWidget(button, place / kFaultColumns, place % kFaultColumns);
-        m_faultButtons.push_back(button);
-    }
-    return grid;
+    auto *panel = new Panel(desk, this);
+    const int place = m_tabs->addTab(panel, QString());
+    m_retranslate.push_back([this, panel, place, title] {
+        m_tabs->setTabText(place, QObject::tr(title));
+        panel->retranslate();
+    });
 }
 
 void DeskWindow::placeBesideProgram()
@@ -279,120 +103,8 @@ void DeskWindow::changeEvent(QEvent *event)
 void DeskWindow::retranslate()
 {
     setWindowTitle(QObject::tr("QUORVEL desk"));
-    m_osdTitle->setText(QObject::tr("On-screen menu"));
-    m_requestsTitle->setText(QObject::tr("Requests"));
-    m_selector->setAccessibleName(QObject::tr("Simulated monitor"));
-    m_selector->setToolTip(QObject::tr("The simulated monitor that is shown here"));
-    m_screen->setAccessibleName(QObject::tr("Screen of the simulated monitor"));
-    m_requests->setAccessibleName(QObject::tr("Last requests to the monitor"));
-    m_requests->setToolTip(QObject::tr("Time, read or write, code, value and what became of it"));
-    for (std::size_t i = 0; i < m_faultButtons.size(); ++i) {
-        m_faultButtons[i]->setText(QObject::tr(kFaults[i].text));
-        m_faultButtons[i]->setToolTip(QObject::tr(kFaults[i].tip));
-        m_faultButtons[i]->setAccessibleDescription(QObject::tr(kFaults[i].tip));
-    }
-    askForRefresh();
-}
-
-void DeskWindow::selectMonitor(int index)
-{
-    if (index < 0 || static_cast<std::size_t>(index) >= m_desk.monitorCount())
-        return;
-    if (m_listener != 0)
-        monitor().removeListener(m_listener);
-    m_index = static_cast<std::size_t>(index);
-    m_requests->clear();
-    {
-        const std::lock_guard lock(m_arrivedMutex);
-        m_arrived.clear();
-    }
-    // A request between the two lines is shown twice, none is missed.
-    m_listener = monitor().addListener([this](const Request &request) { requestArrived(request); });
-    appendRequests(monitor().history());
-    refresh();
-}
-
-/// On any thread.
-void DeskWindow::requestArrived(const Request &request)
-{
-    {
-        const std::lock_guard lock(m_arrivedMutex);
-        m_arrived.push_back(request);
-        if (std::exchange(m_refreshAsked, true))
-            return;
-    }
-    QMetaObject::invokeMethod(this, &DeskWindow::askForRefresh, Qt::QueuedConnection);
-}
-
-void DeskWindow::askForRefresh()
-{
-    if (!m_refreshTimer.isActive())
-        m_refreshTimer.start();
-}
-
-void DeskWindow::refresh()
-{
-    std::vector<Request> arrived;
-    {
-        const std::lock_guard lock(m_arrivedMutex);
-        arrived.swap(m_arrived);
-        m_refreshAsked = false;
-    }
-    appendRequests(arrived);
-    if (m_desk.monitorCount() == 0)
-        return;
-    m_screen->show(monitor());
-    refreshOsd();
-    refreshState();
-}
-
-void DeskWindow::appendRequests(const std::vector<Request> &requests)
-{
-    if (requests.empty())
-        return;
-    const std::size_t skipped = requests.size() > kShownAtOnce ? requests.size() - kShownAtOnce : 0;
-    QStringList lines;
-    for (std::size_t i = skipped; i < requests.size(); ++i)
-        lines.append(requestLine(requests[i]));
-    m_requests->appendPlainText(lines.join(QLatin1Char('\n')));
-    if (!m_requests->hasFocus()) // else somebody reads there
-        m_requests->verticalScrollBar()->setValue(m_requests->verticalScrollBar()->maximum());
-}
-
-void DeskWindow::refreshOsd()
-{
-    const MonitorModel &model = monitor().model();
-    std::size_t row = 0;
-    const auto put = [this, &row](const QString &name, const QString &value, bool visible) {
-        const auto [nameLabel, valueLabel] = m_osdRows[row++];
-        setTextOf(nameLabel, name);
-        setTextOf(valueLabel, value);
-        nameLabel->setVisible(visible);
-        valueLabel->setVisible(visible);
-    };
-    put(QObject::tr("Scene mode"), sceneName(monitor().value(kSceneCode)), true);
-    for (const OsdFunction &function : osdMenu()) {
-        const bool isMpcs = function.code == kMotionCode && (model.capabilities & MotionIsMpcs) != 0;
-        put(isMpcs ? QObject::tr("MPCS") : osdName(function), osdValueText(function, monitor().value(function.code)),
-            hasFunction(model, function));
-    }
-    for (const GatheredRow &gathered : kGatheredRows) {
-        QStringList values;
-        for (int i = 0; i < gathered.count; ++i)
-            values.append(QString::number(monitor().value(static_cast<std::uint8_t>(gathered.first + i))));
-        put(QObject::tr(gathered.name), values.join(QLatin1String("  ")), true);
-    }
-}
-
-void DeskWindow::refreshState()
-{
-    for (std::size_t i = 0; i < m_faultButtons.size(); ++i)
-        m_faultButtons[i]->setChecked(kFaults[i].isSet(monitor()));
-    const QString plugged = monitor().isPlugged() ? QObject::tr("Plugged in") : QObject::tr("Unplugged");
-    setTextOf(m_state, QObject::tr("%1 · protocol faults: %2 · open handles: %3")
-                           .arg(plugged)
-                           .arg(monitor().protocolFaults().total())
-                           .arg(m_desk.handlesOpen()));
+    for (const auto &retranslatePanel : m_retranslate)
+        retranslatePanel();
 }
 
 } // namespace virtualdesk

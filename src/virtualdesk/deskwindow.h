@@ -1,27 +1,17 @@
 #pragma once
 
-#include <mutex>
+#include <functional>
 #include <vector>
 
-#include <QTimer>
 #include <QWidget>
 
-#include "virtualdesk/request.h"
-
-class QComboBox;
-class QLabel;
-class QLayout;
-class QPlainTextEdit;
-class QPushButton;
+class QTabWidget;
 
 namespace virtualdesk {
 
-class ScreenView;
-class SimulatedMonitor;
 class VirtualDesk;
 
-/// Beside the program: what a person in front of the simulated monitor would see, what the monitor was asked, and
-/// buttons for everything that can go wrong with it. It follows the monitor without polling.
+/// Beside the program: what lies on the simulated desk and what can be done to it, a tab each.
 class DeskWindow : public QWidget
 {
     Q_OBJECT
@@ -29,42 +19,17 @@ class DeskWindow : public QWidget
 public:
     /// The desk outlives the window.
     explicit DeskWindow(VirtualDesk &desk);
-    ~DeskWindow() override;
 
 protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    QWidget *buildOsd();
-    QLayout *buildFaults();
+    template <class Panel> void addPanel(VirtualDesk &desk, const char *title);
     void placeBesideProgram();
     void retranslate();
-    void selectMonitor(int index);
-    void requestArrived(const Request &request);
-    void refresh();
-    void refreshOsd();
-    void refreshState();
-    void appendRequests(const std::vector<Request> &requests);
-    void askForRefresh();
-    SimulatedMonitor &monitor() const;
 
-    VirtualDesk &m_desk;
-    std::size_t m_index = 0;
-    int m_listener = 0;
-
-    std::mutex m_arrivedMutex; // requests come from any thread
-    std::vector<Request> m_arrived;
-    bool m_refreshAsked = false;
-
-    QTimer m_refreshTimer; // single shot: many requests, one repaint
-    QComboBox *m_selector = nullptr;
-    ScreenView *m_screen = nullptr;
-    QLabel *m_osdTitle = nullptr;
-    QLabel *m_requestsTitle = nullptr;
-    QLabel *m_state = nullptr;
-    QPlainTextEdit *m_requests = nullptr;
-    std::vector<std::pair<QLabel *, QLabel *>> m_osdRows; // name and value, in the order of the OSD
-    std::vector<QPushButton *> m_faultButtons;            // in the order of the fault table
+    QTabWidget *m_tabs;
+    std::vector<std::function<void()>> m_retranslate; ///< a panel each, its tab included
 };
 
 } // namespace virtualdesk

@@ -13,6 +13,7 @@
 #include "platform/clock.h"
 #include "platform/displays.h"
 #include "platform/process.h"
+#include "virtualdesk/applications.h"
 #include "virtualdesk/desksetup.h"
 #include "virtualdesk/devicemessages.h"
 #include "virtualdesk/hotkeys.h"
@@ -133,6 +134,10 @@ public:
     /// Somebody presses a key, kModifier... bits and virtual-key code. False when the program has not registered it.
     bool pressKey(std::uint32_t modifiers, std::uint32_t virtualKey) { return m_hotKeys.press(modifiers, virtualKey); }
 
+    // The other programs.
+
+    Applications &applications() { return m_applications; }
+
 Q_SIGNALS:
     /// A monitor was plugged or unplugged, or a fault was set on one.
     void monitorsChanged();
@@ -167,6 +172,7 @@ private:
     DeviceRegistrations m_registrations;
     HotKeys m_hotKeys;
     SimulatedAccessory m_accessory;
+    Applications m_applications;
     QString m_mutexFolder;
     StartUpFile m_startUp;
     SimulatedEndpoint m_sound;

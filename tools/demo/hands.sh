@@ -11,7 +11,7 @@ declare -A PLACE=(
     [slider-left]='449 216' [slider-right]='667 216' # of the first slider, Brightness: its groove's ends
     [page]='460 600'
     [nothing]='640 770' # the window's lower edge: nothing lights up there
-    [unplug]='342 351'  # in the desk's window
+    [unplug]='342 393'  # in the desk's window
 )
 
 # Prints a place, some steps on: place NAME [STEPS]

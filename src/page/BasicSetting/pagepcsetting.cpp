@@ -7,14 +7,14 @@
 #include <QDebug>
 #include <QDir>
 #include <QHBoxLayout>
-#include <QListView>
 
 #include "controls/messagebox.h"
 #include "controls/sharedfonts.h"
-#include "controls/wheeleventfilter.h"
 #include "ddc_protocol/displayenumeration.h"
 #include "ddc_protocol/settingsstore.h"
+#include "page/BasicSetting/hotkeyoverlay.h"
 #include "page/BasicSetting/toollanguage.h"
+#include "page/engine/dropdown.h"
 #include "page/engine/labels.h"
 #include "page/engine/optiongrouprow.h"
 #include "platform/desk.h"
@@ -26,21 +26,13 @@ namespace {
 constexpr Command kNoCommand{}; // these options are the tool's own and never go to the monitor
 constexpr char kStartUp[] = LABEL("Run on startup");
 constexpr char kLanguage[] = LABEL("Tool language settings");
+constexpr char kOverlay[] = LABEL("Hotkey overlay");
 constexpr char kVersion[] = "version";
 constexpr char kMachine[] = "machine";
 
-// Added to what the page's style says of every combo box: its arrow without a frame, and the open list.
-const char *const kMachinesStyle =
-    "QComboBox::drop-down { border: none; width: 28px; }"
-    "QComboBox::down-arrow { image: url(:/resource/img/option/drop.png); width: 14px; height: 14px; }"
-    "QListView { background-color: #222d28; color: #c9c9c9; border: 1px solid #31403a; outline: none; font-size: 14px; "
-    "padding: 4px; }"
-    "QListView::item { min-height: 32px; }"
-    "QListView::item:selected { background-color: #1b5043; color: #ffffff; }";
-
 constexpr Option kYesNo[] = {{LABEL("Yes"), 1}, {LABEL("No"), 0}};
 
-const Section kGeneral[] = {CustomPart{kStartUp}, CustomPart{kLanguage}, CustomPart{kVersion}};
+const Section kGeneral[] = {CustomPart{kStartUp}, CustomPart{kLanguage}, CustomPart{kOverlay}, CustomPart{kVersion}};
 const Section kMachineSelect[] = {CustomPart{kMachine}};
 const PanelSpec kPanels[] = {
     {LABEL("General Settings"), "tool_settings", "pageGeneralSettings", kGeneral},
@@ -90,6 +82,8 @@ QWidget *pagePCSetting::buildPart(const char *name)
         return m_startUp = makeOptions({kStartUp, kNoCommand, kYesNo});
     if (qstrcmp(name, kLanguage) == 0)
         return m_language = makeOptions({kLanguage, kNoCommand, languageOptions()});
+    if (qstrcmp(name, kOverlay) == 0)
+        return m_overlay = makeOptions({kOverlay, kNoCommand, kYesNo});
     return qstrcmp(name, kVersion) == 0 ? buildVersion() : buildMachine();
 }
 
@@ -113,12 +107,9 @@ QWidget *pagePCSetting::buildVersion()
 QWidget *pagePCSetting::buildMachine()
 {
     auto *part = new QWidget(this);
-    m_machines = new QComboBox(part);
+    m_machines = makeDropDown(part);
     m_machines->setObjectName(QStringLiteral("machines"));
-    m_machines->setView(new QListView(m_machines)); // the style sheet reaches this view only, not the system's own
-    m_machines->setStyleSheet(QLatin1String(kMachinesStyle));
     m_machines->setFixedSize(320, 36);
-    m_machines->installEventFilter(new WheelEventFilter(m_machines));
     connect(m_machines, &QComboBox::currentIndexChanged, this, &pagePCSetting::onComboxIndexChanged);
     texts().bind(LABEL("Machine Select"), [this](const QString &text) { m_machines->setAccessibleName(text); });
     auto *hint = new QLabel(part);
@@ -152,6 +143,7 @@ void pagePCSetting::showEvent(QShowEvent *event)
 void pagePCSetting::showWhatIsSet()
 {
     m_startUp->showValue(runsOnStartUp() ? 1 : 0);
+    m_overlay->showValue(hotkeyOverlayOn() ? 1 : 0);
     const ToolLanguage &language = toolLanguageOf(toolLanguageCode());
     m_language->showValue(static_cast<int>(&language - toolLanguages().data()));
 }
@@ -180,6 +172,8 @@ void pagePCSetting::onButtonClicked(QPushButton *button)
     showNotice({});
     if (name.contains(QLatin1String(kStartUp)))
         setRunOnStartUp(name.contains(QLatin1String("Yes")));
+    else if (name.contains(QLatin1String(kOverlay)))
+        setOverlay(name.contains(QLatin1String("Yes")));
     else if (name.contains(QLatin1String(kLanguage)))
         changeLanguage(name);
 }
@@ -191,6 +185,13 @@ void pagePCSetting::setRunOnStartUp(bool on)
     const bool ok = on ? startUp.setValue(name, programPath()) : startUp.removeValue(name);
     if (!ok || runsOnStartUp() != on)
         showNotice(QObject::tr("The system did not allow \"%1\" to be changed.").arg(QObject::tr(kStartUp)));
+    showWhatIsSet();
+}
+
+void pagePCSetting::setOverlay(bool on)
+{
+    if (!setHotkeyOverlayOn(on))
+        showNotice(notWritten());
     showWhatIsSet();
 }
 

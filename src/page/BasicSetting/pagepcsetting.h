@@ -34,11 +34,13 @@ private:
     QWidget *buildMachine();
     void showWhatIsSet();
     void setRunOnStartUp(bool on);
+    void setOverlay(bool on);
     void changeLanguage(const QString &objectName);
     bool storeMachine(int index);
 
     SearchDeviceDlg &m_session;
     OptionGroupRow *m_startUp = nullptr;
     OptionGroupRow *m_language = nullptr;
+    OptionGroupRow *m_overlay = nullptr;
     QComboBox *m_machines = nullptr;
 };

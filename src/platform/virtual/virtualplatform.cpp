@@ -8,6 +8,7 @@
 
 #include "platform/systemclock.h"
 #include "platform/virtual/virtualaudio.h"
+#include "platform/virtual/virtualforeground.h"
 #include "platform/virtual/virtualhid.h"
 #include "virtualdesk/deskscript.h"
 #include "virtualdesk/deskwindow.h"
@@ -270,7 +271,7 @@ VirtualPlatform::VirtualPlatform(VirtualDesk &desk, Clock &clock)
       m_startUp(std::make_unique<VirtualStartUp>(desk)),
       m_deviceNotifications(std::make_unique<VirtualNotifications>(desk)),
       m_globalKeys(std::make_unique<VirtualGlobalKeys>(desk)), m_audio(std::make_unique<VirtualAudio>(desk.sound())),
-      m_hid(std::make_unique<VirtualHid>(desk))
+      m_hid(std::make_unique<VirtualHid>(desk)), m_foreground(std::make_unique<VirtualForeground>(desk.applications()))
 {
 }
 
@@ -314,6 +315,11 @@ AudioCapture &VirtualPlatform::audio()
 Hid &VirtualPlatform::hid()
 {
     return *m_hid;
+}
+
+Foreground &VirtualPlatform::foreground()
+{
+    return *m_foreground;
 }
 
 Clock &VirtualPlatform::clock()

@@ -25,6 +25,7 @@ public:
     GlobalKeys &globalKeys() override;
     AudioCapture &audio() override;
     Hid &hid() override;
+    Foreground &foreground() override;
     Clock &clock() override;
 
     /// Starts the script's timed events.
@@ -44,6 +45,7 @@ private:
     std::unique_ptr<GlobalKeys> m_globalKeys;
     std::unique_ptr<AudioCapture> m_audio;
     std::unique_ptr<Hid> m_hid;
+    std::unique_ptr<Foreground> m_foreground;
 };
 
 /// The simulated desk of a process, set up by the environment, in real time. Its window opens beside the main window

@@ -4,6 +4,7 @@
 #include "platform/win32/win32audio.h"
 #include "platform/win32/win32devicenotifications.h"
 #include "platform/win32/win32displays.h"
+#include "platform/win32/win32foreground.h"
 #include "platform/win32/win32globalkeys.h"
 #include "platform/win32/win32hid.h"
 #include "platform/win32/win32monitorconfiguration.h"
@@ -25,6 +26,7 @@ public:
     GlobalKeys &globalKeys() override { return m_globalKeys; }
     AudioCapture &audio() override { return m_audio; }
     Hid &hid() override { return m_hid; }
+    Foreground &foreground() override { return m_foreground; }
     Clock &clock() override { return m_clock; }
 
 private:
@@ -36,6 +38,7 @@ private:
     Win32GlobalKeys m_globalKeys;
     Win32Audio m_audio;
     Win32Hid m_hid;
+    Win32Foreground m_foreground;
     SystemClock m_clock;
 };
 

@@ -1,0 +1,51 @@
+#include "page/BasicSetting/hotkeyoverlay.h"
+
+#include "controls/desktoptoast.h"
+#include "ddc_protocol/settingsstore.h"
+#include "platform/desk.h"
+
+namespace {
+
+constexpr platform::milliseconds kShown{1500};
+const QString kKey = QStringLiteral("PCSeting/HotkeyOverlay");
+const QString kOff = QStringLiteral("off");
+
+QString stored(bool write, const QString &value = {})
+{
+    return settingsString(kKey, value, write, QLatin1String(kConfigFile));
+}
+
+} // namespace
+
+bool hotkeyOverlayOn()
+{
+    return stored(false) != kOff;
+}
+
+bool setHotkeyOverlayOn(bool on)
+{
+    stored(true, on ? QStringLiteral("on") : kOff);
+    return hotkeyOverlayOn() == on;
+}
+
+HotkeyOverlay::HotkeyOverlay(QObject *parent) : QObject(parent), m_toast(std::make_unique<DesktopToast>())
+{
+}
+
+HotkeyOverlay::~HotkeyOverlay() = default;
+
+void HotkeyOverlay::showNote(const QString &function, const QString &value)
+{
+    if (!hotkeyOverlayOn())
+        return;
+    m_toast->showNote(function, value);
+    platform::desk().clock().callLater(kShown, this, [this, note = ++m_notes] {
+        if (note == m_notes)
+            m_toast->hide();
+    });
+}
+
+bool HotkeyOverlay::isShown() const
+{
+    return m_toast->isVisible();
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <memory>
+
+#include <QObject>
+
+class DesktopToast;
+
+/// Whether a hot key shows on the desktop what it did; so at first.
+bool hotkeyOverlayOn();
+
+/// False when the setting could not be stored.
+bool setHotkeyOverlayOn(bool on);
+
+/// A note in the corner of the desktop about the last hot key: the function and its new value, for 1.5 s.
+class HotkeyOverlay : public QObject
+{
+    Q_OBJECT
+public:
+    explicit HotkeyOverlay(QObject *parent = nullptr);
+    ~HotkeyOverlay() override;
+
+    /// Shows a note in place of the one before, unless the user has switched that off.
+    void showNote(const QString &function, const QString &value);
+
+    bool isShown() const;
+
+private:
+    std::unique_ptr<DesktopToast> m_toast;
+    int m_notes = 0; ///< a note does not end with the time of the one before
+};

@@ -1,0 +1,183 @@
+#include "page/BasicSetting/pageshortcutkey.h"
+
+#include <algorithm>
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QPushButton>
+
+#include "controls/zelmardialog.h"
+#include "controls/zelmarkeysequenceedit.h"
+#include "ddc_protocol/devicestate.h"
+#include "page/BasicSetting/shortcutrow.h"
+#include "page/engine/dropdown.h"
+#include "page/engine/labels.h"
+#include "shortcut/shortcutfunctions.h"
+
+pageShortcutKey::pageShortcutKey(QWidget *parent)
+    : ListPage(QStringLiteral("pageShortcutKey"), LABEL("LANGUAGE_SHORTCUTKEY"), LABEL("LANGUAGE_SHORTCUTKEY_DESC"),
+               LABEL("No hot keys yet: choose a function above and add it."), parent),
+      m_master(new QPushButton(this)), m_functions(makeDropDown(this))
+{
+    m_master->setObjectName(QStringLiteral("pushButton"));
+    m_master->setFixedSize(64, 32);
+    heading()->addWidget(m_master);
+    buildTools();
+    connect(m_master, &QPushButton::clicked, this, &pageShortcutKey::on_pushButton_clicked);
+    fillFunctions();
+    loadRows();
+    refreshState();
+}
+
+void pageShortcutKey::buildTools()
+{
+    m_functions->setFixedSize(260, 36);
+    auto *add = makeButton(LABEL("LANGUAGE_ADD_KEY"), QStringLiteral("pushButton_2"));
+    connect(add, &QPushButton::clicked, this, &pageShortcutKey::on_pushButton_2_clicked);
+    tools()->addWidget(m_functions);
+    tools()->addWidget(add);
+    QPushButton *apply = addApplyButton(QStringLiteral("pushButtonAppli"));
+    connect(apply, &QPushButton::clicked, this, &pageShortcutKey::on_pushButtonAppli_clicked);
+}
+
+void pageShortcutKey::fillFunctions()
+{
+    const int chosen = std::max(0, m_functions->currentIndex());
+    m_functions->clear();
+    for (const ShortcutFunction &function : shortcutFunctionsOf(deviceState))
+        m_functions->addItem(QObject::tr(function.name));
+    m_functions->setCurrentIndex(chosen);
+    m_functions->setAccessibleName(QObject::tr("Function"));
+}
+
+void pageShortcutKey::loadRows()
+{
+    const ShortcutList list = loadShortcuts();
+    m_masterOn = list.masterOn;
+    for (const ShortcutEntry &entry : list.entries) {
+        if (entry.function < m_functions->count())
+            addShortcutRow(entry);
+        else
+            m_otherEntries.push_back(entry);
+    }
+}
+
+ShortcutRow *pageShortcutKey::addShortcutRow(const ShortcutEntry &entry)
+{
+    auto *row = new ShortcutRow(entry, this);
+    for (ZelmarKeySequenceEdit *edit : {row->plusEdit(), row->minusEdit()}) {
+        connect(edit, &QKeySequenceEdit::editingFinished, this, &pageShortcutKey::on_editFinish);
+        connect(edit, &QKeySequenceEdit::keySequenceChanged, this, [this, row] {
+            row->takeFields();
+            setWaiting(true);
+        });
+        connect(edit, &ZelmarKeySequenceEdit::refused, this,
+                [this](const QString &why) { showNotice(why, Tone::Warning); });
+    }
+    connect(row->switchButton(), &QPushButton::clicked, this, [this, row] { toggleRow(row); });
+    connect(row->trashButton(), &QPushButton::clicked, this, [this, row] { deleteRow(row); });
+    connect(row, &ShortcutRow::activated, this, [this, row](int direction) {
+        if (m_masterOn)
+            m_runner.shortcutKeyCommand(row->function(), direction);
+    });
+    m_rows.push_back(row);
+    addRow(row);
+    return row;
+}
+
+bool pageShortcutKey::isUsedElsewhere(const ZelmarKeySequenceEdit *edit) const
+{
+    const QString text = edit->text();
+    return std::any_of(m_rows.begin(), m_rows.end(), [edit, &text](const ShortcutRow *row) {
+        return (row->plusEdit() != edit && row->plusEdit()->text() == text) ||
+               (row->minusEdit() != edit && row->minusEdit()->text() == text);
+    });
+}
+
+void pageShortcutKey::on_editFinish()
+{
+    auto *edit = qobject_cast<ZelmarKeySequenceEdit *>(sender());
+    if (!edit || edit->text().isEmpty())
+        return;
+    showNotice({});
+    if (!isUsedElsewhere(edit))
+        return;
+    showConflict();
+    edit->clear();
+}
+
+void pageShortcutKey::showConflict()
+{
+    ZelmarDialog(window()).exec();
+}
+
+void pageShortcutKey::on_pushButton_clicked()
+{
+    m_masterOn = !m_masterOn;
+    refreshState();
+}
+
+void pageShortcutKey::on_pushButton_2_clicked()
+{
+    const int function = m_functions->currentIndex();
+    const auto sameFunction = [function](const ShortcutRow *row) { return row->function() == function; };
+    const auto found = std::find_if(m_rows.begin(), m_rows.end(), sameFunction);
+    if (found != m_rows.end())
+        showNotice(QObject::tr("This function has its row already."));
+    else
+        setWaiting(true);
+    ShortcutRow *row = found != m_rows.end() ? *found : addShortcutRow({function, true, {}, {}});
+    row->plusEdit()->setFocus();
+}
+
+void pageShortcutKey::on_pushButtonAppli_clicked()
+{
+    save();
+}
+
+void pageShortcutKey::toggleRow(ShortcutRow *row)
+{
+    row->setOn(!row->entry().isOn);
+    refreshState();
+}
+
+void pageShortcutKey::deleteRow(ShortcutRow *row)
+{
+    row->releaseKeys();
+    std::erase(m_rows, row);
+    removeRow(row);
+    setWaiting(true);
+}
+
+void pageShortcutKey::refreshState()
+{
+    dressSwitch(m_master, m_masterOn);
+    for (ShortcutRow *row : m_rows)
+        row->refresh();
+    save();
+}
+
+/// All keys are given back before any is registered, so that two rows can change keys with each other.
+void pageShortcutKey::save()
+{
+    ShortcutList list{m_masterOn, m_otherEntries};
+    for (ShortcutRow *row : m_rows) {
+        row->releaseKeys();
+        list.entries.push_back(row->entry());
+    }
+    for (ShortcutRow *row : m_rows)
+        row->registerKeys();
+    showStored(saveShortcuts(list), QStringLiteral("basicMode.ini"));
+    if (!m_masterOn && notice().isEmpty())
+        showNotice(QObject::tr("All hot keys rest while the switch above is off."));
+}
+
+void pageShortcutKey::updateControlText()
+{
+    ListPage::updateControlText();
+    fillFunctions();
+    m_master->setAccessibleName(QObject::tr("LANGUAGE_SHORTCUTKEY"));
+    dressSwitch(m_master, m_masterOn);
+    for (ShortcutRow *row : m_rows)
+        row->updateControlText();
+}

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <vector>
+
+#include "page/engine/listpage.h"
+#include "shortcut/shortcutlist.h"
+#include "shortcut/shortcutrunner.h"
+
+class QComboBox;
+class ShortcutRow;
+class ZelmarKeySequenceEdit;
+
+/// Binds key combinations that work anywhere on the desktop to functions of the monitor, and runs them.
+class pageShortcutKey : public ListPage
+{
+    Q_OBJECT
+public:
+    explicit pageShortcutKey(QWidget *parent = nullptr);
+
+    void updateInterfaceData() override {} ///< nothing here comes from the monitor
+    void updateControlText() override;
+
+    /// What the keys do is reported by its signals.
+    ShortcutRunner *runner() { return &m_runner; }
+
+    bool isMasterOn() const { return m_masterOn; }
+    const std::vector<ShortcutRow *> &shortcutRows() const { return m_rows; }
+    QComboBox *functionBox() const { return m_functions; }
+
+protected:
+    /// Tells that a key is used twice on this page.
+    virtual void showConflict();
+
+private Q_SLOTS:
+    void on_editFinish();
+    void on_pushButton_clicked();      ///< the master switch
+    void on_pushButton_2_clicked();    ///< adds the chosen function
+    void on_pushButtonAppli_clicked(); ///< stores and registers everything
+
+private:
+    void buildTools();
+    void fillFunctions();
+    void loadRows();
+    ShortcutRow *addShortcutRow(const ShortcutEntry &entry);
+    void toggleRow(ShortcutRow *row);
+    void deleteRow(ShortcutRow *row);
+    void refreshState();
+    void save();
+    bool isUsedElsewhere(const ZelmarKeySequenceEdit *edit) const;
+
+    ShortcutRunner m_runner;
+    bool m_masterOn = true;
+    std::vector<ShortcutRow *> m_rows;
+    std::vector<ShortcutEntry> m_otherEntries; ///< functions that this monitor lacks, kept for the one that has them
+    QPushButton *m_master;
+    QComboBox *m_functions;
+};

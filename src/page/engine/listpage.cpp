@@ -1,0 +1,167 @@
+#include "page/engine/listpage.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QStyle>
+#include <QVBoxLayout>
+
+#include "controls/pictures.h"
+#include "controls/sharedfonts.h"
+#include "page/engine/labels.h"
+#include "page/engine/pagestyle.h"
+
+namespace {
+
+const QString kBackground = Pictures::kRoot + QStringLiteral("img/nightLoom/bg_3.png");
+constexpr QSize kFallbackSize(1000, 680);
+constexpr int kMargin = 24;
+constexpr int kFixedItems = 2; // of the rows' column: what an empty list says, and the stretch below
+constexpr int kButtonHeight = 36;
+const char *const kTrashStyle = "QPushButton { border-image: url(%1trash_normal.png); }"
+                                "QPushButton:hover, QPushButton:focus { border-image: url(%1trash_checked.png); }";
+
+QLabel *makeLabel(const QString &name, const QFont &font, QWidget *parent)
+{
+    auto *label = new QLabel(parent);
+    label->setObjectName(name);
+    label->setFont(font);
+    label->setWordWrap(true);
+    return label;
+}
+
+} // namespace
+
+ListPage::ListPage(const QString &name, const char *title, const char *description, const char *nothing,
+                   QWidget *parent)
+    : QFrame(parent), m_heading(new QHBoxLayout), m_tools(new QHBoxLayout),
+      m_nothing(makeLabel(QStringLiteral("note"), QFont(), this)),
+      m_notice(makeLabel(QStringLiteral("listNotice"), noteFont, this))
+{
+    setObjectName(name);
+    dressPage(this);
+    const QPixmap background = Pictures::load(kBackground, 1.0);
+    setFixedSize(background.isNull() ? kFallbackSize : background.size());
+
+    QLabel *heading = makeLabel(QStringLiteral("title"), titleFont, this);
+    QLabel *note = makeLabel(QStringLiteral("note"), noteFont, this);
+    m_texts.bind(title, [heading](const QString &text) { heading->setText(text); });
+    m_texts.bind(nothing, [this](const QString &text) { m_nothing->setText(text); });
+    m_texts.bind(description, [note](const QString &text) { note->setText(text); });
+    m_heading->addWidget(heading, 1);
+    m_tools->setSpacing(12);
+
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(kMargin, kMargin, kMargin, 16);
+    column->setSpacing(12);
+    column->addLayout(m_heading);
+    column->addWidget(note);
+    column->addLayout(m_tools);
+    column->addWidget(buildList(), 1);
+    column->addWidget(m_notice);
+    showNotice({});
+    showWhetherEmpty();
+}
+
+QWidget *ListPage::buildList()
+{
+    auto *area = new QScrollArea(this);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setFocusPolicy(Qt::NoFocus);
+    auto *content = new QWidget(area);
+    content->setObjectName(QStringLiteral("customArea"));
+    m_rows = new QVBoxLayout(content);
+    m_rows->setContentsMargins(0, 0, 0, 0);
+    m_rows->setSpacing(8);
+    m_nothing->setAlignment(Qt::AlignCenter);
+    m_nothing->setParent(content);
+    m_rows->addWidget(m_nothing, 1);
+    m_rows->addStretch();
+    area->setWidget(content);
+    return area;
+}
+
+void ListPage::addRow(QWidget *row)
+{
+    m_rows->insertWidget(m_rows->count() - 1, row);
+    showWhetherEmpty();
+}
+
+void ListPage::showWhetherEmpty()
+{
+    m_nothing->setVisible(m_rows->count() == kFixedItems);
+}
+
+void ListPage::removeRow(QWidget *row)
+{
+    m_rows->removeWidget(row);
+    row->hide();
+    row->deleteLater();
+    showWhetherEmpty();
+}
+
+void ListPage::updateControlText()
+{
+    m_texts.retranslate();
+}
+
+void ListPage::showNotice(const QString &text, Tone tone)
+{
+    m_notice->setText(text);
+    m_notice->setVisible(!text.isEmpty());
+    m_notice->setProperty("warning", tone == Tone::Warning);
+    m_notice->style()->polish(m_notice);
+}
+
+QPushButton *ListPage::makeButton(const char *label, const QString &name)
+{
+    auto *button = new QPushButton(this);
+    button->setObjectName(name);
+    button->setProperty("plain", true);
+    button->setFixedHeight(kButtonHeight);
+    m_texts.bind(label, [button](const QString &text) { button->setText(text); });
+    return button;
+}
+
+QPushButton *ListPage::addApplyButton(const QString &name)
+{
+    m_apply = makeButton(LABEL("Apply"), name);
+    m_tools->addStretch(1);
+    m_tools->addWidget(m_apply);
+    return m_apply;
+}
+
+void ListPage::setWaiting(bool waiting)
+{
+    m_apply->setProperty("waiting", waiting);
+    m_apply->style()->polish(m_apply);
+    if (waiting)
+        showNotice(QObject::tr("Changes count once you press \"%1\".").arg(m_apply->text()));
+}
+
+void ListPage::showStored(bool stored, const QString &fileName)
+{
+    setWaiting(!stored);
+    if (stored)
+        showNotice({});
+    else
+        showNotice(QObject::tr("%1 cannot be written. Nothing was changed.").arg(fileName), Tone::Warning);
+}
+
+void ListPage::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    Pictures::draw(painter, rect(), kBackground);
+}
+
+QPushButton *makeTrashButton(QWidget *parent)
+{
+    auto *button = new QPushButton(parent);
+    button->setFixedSize(32, 32);
+    const QString folder = Pictures::kRoot + QStringLiteral("img/basicSetting/shortcutKey/");
+    button->setStyleSheet(QString::fromLatin1(kTrashStyle).arg(folder));
+    return button;
+}

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include <QString>
+
+namespace virtualdesk {
+
+/// A program that runs on the desk.
+struct Application
+{
+    QString path;             ///< as the system names it, with backslashes
+    bool isProtected = false; ///< its process cannot be opened
+    bool hasProcess = true;   ///< off: its window is gone by the time somebody asks
+};
+
+/// The other programs of the desk, one of which is in front, and who wants to hear when that changes. Interface thread
+/// only.
+class Applications
+{
+public:
+    using Hook = void (*)(std::uint32_t event, void *window);
+
+    /// A browser, a game, a film player and a protected program.
+    Applications();
+
+    const std::vector<Application> &list() const { return m_list; }
+    void setList(std::vector<Application> list);
+
+    /// Brings a program to the front, also one that is there already: whoever hooked the event is called.
+    void bringToFront(std::size_t index);
+    /// The program in front; nothing at first.
+    std::optional<std::size_t> inFront() const { return m_inFront; }
+
+    /// An event of any kind and window, as the system might send it.
+    void raiseEvent(std::uint32_t event, void *window) const;
+
+    // What the platform asks for.
+
+    void *setHook(std::uint32_t first, std::uint32_t last, Hook hook);
+    void unhook(void *hook);
+    bool isHooked() const { return m_hook != nullptr; }
+    std::uint32_t processOf(void *window) const;
+    void *openProcess(std::uint32_t processId);
+    void closeProcess(void *process);
+    /// Nothing for a path that does not fit into 260 characters.
+    std::optional<QString> imageName(void *process) const;
+    QString windowText(void *window) const;
+    /// Processes that were opened and not closed.
+    int processesOpen() const { return m_processesOpen; }
+
+private:
+    const Application *applicationOf(std::uintptr_t token) const;
+
+    std::vector<Application> m_list;
+    std::optional<std::size_t> m_inFront;
+    std::uint32_t m_first = 0;
+    std::uint32_t m_last = 0;
+    Hook m_hook = nullptr;
+    int m_processesOpen = 0;
+};
+
+} // namespace virtualdesk

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <mutex>
+#include <vector>
+
+#include <QTimer>
+#include <QWidget>
+
+#include "virtualdesk/request.h"
+
+class QComboBox;
+class QLabel;
+class QLayout;
+class QPlainTextEdit;
+class QPushButton;
+
+namespace virtualdesk {
+
+class ScreenView;
+class SimulatedMonitor;
+class VirtualDesk;
+
+/// What a person in front of the simulated monitor would see, what the monitor was asked, and
+/// buttons for everything that can go wrong with it. It follows the monitor without polling.
+class MonitorPanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// The desk outlives the panel.
+    explicit MonitorPanel(VirtualDesk &desk, QWidget *parent = nullptr);
+    ~MonitorPanel() override;
+
+    void retranslate();
+
+private:
+    QWidget *buildOsd();
+    QLayout *buildFaults();
+    void selectMonitor(int index);
+    void requestArrived(const Request &request);
+    void refresh();
+    void refreshOsd();
+    void refreshState();
+    void appendRequests(const std::vector<Request> &requests);
+    void askForRefresh();
+    SimulatedMonitor &monitor() const;
+
+    VirtualDesk &m_desk;
+    std::size_t m_index = 0;
+    int m_listener = 0;
+
+    std::mutex m_arrivedMutex; // requests come from any thread
+    std::vector<Request> m_arrived;
+    bool m_refreshAsked = false;
+
+    QTimer m_refreshTimer; // single shot: many requests, one repaint
+    QComboBox *m_selector = nullptr;
+    ScreenView *m_screen = nullptr;
+    QLabel *m_osdTitle = nullptr;
+    QLabel *m_requestsTitle = nullptr;
+    QLabel *m_state = nullptr;
+    QPlainTextEdit *m_requests = nullptr;
+    std::vector<std::pair<QLabel *, QLabel *>> m_osdRows; // name and value, in the order of the OSD
+    std::vector<QPushButton *> m_faultButtons;            // in the order of the fault table
+};
+
+} // namespace virtualdesk
