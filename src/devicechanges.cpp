@@ -6,6 +6,7 @@
 #include "platform/desk.h"
 #include "searchdevicedlg.h"
 #include "sessionhost.h"
+#include "usb-hid/hidtransport.h"
 
 namespace {
 
@@ -62,6 +63,11 @@ void SearchDeviceDlg::handleArrival(const platform::DeviceBroadcast *broadcast)
         m_host->deviceArrived();
     const platform::Guid &arrived =
         reinterpret_cast<const platform::DeviceInterfaceBroadcast *>(broadcast)->interfaceClass;
+    if (arrived == kHidClass) {
+        clearHidFlags();
+        if (m_host)
+            m_host->reopenHidDevice();
+    }
     if (arrived == kMonitorClass)
         requestSearchAfter(kMonitorArrivalDelay);
 }

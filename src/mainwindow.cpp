@@ -21,6 +21,8 @@
 #include "page/BasicSetting/pagesystemsetting.h"
 #include "page/Game/pagepictureenhanc.h"
 #include "page/IO/pageiosetting.h"
+#include "page/Nightloom/matrixformsetting.h"
+#include "page/Nightloom/pageledsystem.h"
 #include "page/Office/pageoffice.h"
 #include "page/Scene/pagescenesetting.h"
 #include "page/emptypage.h"
@@ -53,6 +55,8 @@ MainWindow::MainWindow(SearchDeviceDlg &session) : m_session(session)
     m_labelPixmap = Pictures::load(Pictures::kRoot + QStringLiteral("img/lable_img.png"), devicePixelRatioF());
     buildForm();
     setWindowTitle(QStringLiteral("QUORVEL"));
+    loadMatrixForm();
+    reopenHidDevice();
     setUpFrame();
     initialise();
     commandsSuspended = false;
@@ -69,7 +73,9 @@ MainWindow::MainWindow(SearchDeviceDlg &session) : m_session(session)
 MainWindow::~MainWindow()
 {
     m_session.setHost(nullptr);
+    stopAccessoryWork();
     delete m_pages; // before the queue that they send through
+    closeAccessory();
     s_mainWindow = nullptr;
 }
 
@@ -133,6 +139,7 @@ void MainWindow::createPages()
     addPage(PageId::ServicesSetting, new pageServicesSetting(*m_queue, m_pages));
     addPage(PageId::IoSetting, new pageIOSetting(*m_queue, m_pages));
     createAutomation();
+    addPage(PageId::LedSystem, new pageLEDSystem([this] { return ensureHidConnected(); }, *m_queue, m_pages));
     m_emptyPage = new EmptyPage(m_pages);
     m_pages->addWidget(m_emptyPage);
 }

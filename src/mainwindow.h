@@ -58,6 +58,12 @@ public:
     void deviceArrived() override;
     void deviceRemoved() override;
 
+    /// Closes the accessory's handle and opens the accessory anew, unless the flags say that it is open.
+    void reopenHidDevice() override;
+
+    /// Looks for the accessory, whatever was found before. False when it is not there, which the user is told.
+    bool ensureHidConnected();
+
     TopTabFrame *tabs() const { return m_tabs; }
     LeftBar *leftBar(int family) const { return m_bars[static_cast<std::size_t>(family)]; }
     pageSceneSetting *scenePage() const { return m_scenePage; }
@@ -73,6 +79,9 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+
+    /// Tells the user that the accessory is not connected, and waits for the answer.
+    virtual void warnNotConnected();
 
 public Q_SLOTS:
     // Hooks that only log their names, on purpose: working hot keys go through the shortcut page.
@@ -102,7 +111,9 @@ private:
     void followSceneMode();
     void openFamilyOfScene();
     void decideEntriesByModel();
+    void stopAccessoryWork();
     void setAccessoryBusy(bool busy);
+    void closeAccessory();
     void checkMonitor();
     void fillPages();
     void showShortcutResult(int function, Command command, int value, bool ok);

@@ -146,10 +146,3 @@ void MainWindow::decideEntriesByModel()
         bar->buttons()[i]->setSelectable(bits == 0 || deviceState.hasAny(bits));
     }
 }
-
-void MainWindow::setAccessoryBusy(bool busy)
-{
-    const LeftBar *bar = leftBar(kAccessoryFamily);
-    for (std::size_t i = 0; i < bar->buttons().size(); ++i)
-        bar->buttons()[i]->setEnabled(!busy || static_cast<int>(i) == bar->current());
-}

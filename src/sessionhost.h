@@ -20,4 +20,7 @@ public:
 
     virtual void deviceArrived() = 0;
     virtual void deviceRemoved() = 0;
+
+    /// Looks for the LED-matrix accessory again; the flags of what was found are cleared.
+    virtual void reopenHidDevice() = 0;
 };

@@ -7,6 +7,7 @@
 #include "searchdevicedlg.h"
 #include "sessionhost.h"
 #include "support/deskfixture.h"
+#include "usb-hid/hidtransport.h"
 
 using virtualdesk::kForEver;
 
@@ -38,13 +39,12 @@ public:
     void showWindow() override { calls.append("show"); }
     void deviceArrived() override { calls.append("arrived"); }
     void deviceRemoved() override { calls.append("removed"); }
+    void reopenHidDevice() override { calls.append(hidFound || hidOpened ? "reopen" : "reopen anew"); }
     QStringList take() { return std::exchange(calls, {}); }
 
     QStringList calls;
     std::function<void()> onRefresh;
 };
-
-constexpr platform::Guid kHidClass = {0x4D1E55B2, 0xF16F, 0x11CF, {0x88, 0xCB, 0x00, 0x11, 0x11, 0x00, 0x00, 0x30}};
 
 } // namespace
 
@@ -330,12 +330,15 @@ void TestSession::deviceMessages()
 {
     m_session->searchDevices();
     m_session->setHost(&m_host);
-    m_desk->desk.deliverDeviceMessage(platform::kDeviceArrival, kHidClass);
-    QCOMPARE(m_host.take(), QStringList{"arrived"});
+    hidFound = hidOpened = true;
+    m_desk->desk.accessory().setPlugged(false);
+    QCOMPARE(m_host.take(), (QStringList{"removed", "removed"})); // an interface is told twice
+    m_desk->desk.accessory().setPlugged(true);
+    QCOMPARE(m_host.take(), (QStringList{"arrived", "reopen anew"}));
     QCOMPARE(m_desk->clock.tasksWaiting(), std::size_t(0));
 
     m_desk->desk.unplug(1);
-    QCOMPARE(m_host.take(), (QStringList{"removed", "removed"})); // an interface is told twice
+    QCOMPARE(m_host.take(), (QStringList{"removed", "removed"}));
     m_desk->desk.plug(1);
     QCOMPARE(m_host.take(), QStringList{"arrived"});
     m_desk->clock.advance(platform::milliseconds(999));

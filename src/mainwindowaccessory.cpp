@@ -1,0 +1,52 @@
+// What the main window does for the LED-matrix accessory: its handle, and the busy mode around long work with it.
+
+#include "controls/lefttabbutton.h"
+#include "controls/messagebox.h"
+#include "leftbar.h"
+#include "mainwindow.h"
+#include "page/Nightloom/ledworkthread.h"
+#include "usb-hid/hidtransport.h"
+
+void MainWindow::reopenHidDevice()
+{
+    reopenHid();
+}
+
+bool MainWindow::ensureHidConnected()
+{
+    clearHidFlags(); // what was found before may be gone
+    reopenHidDevice();
+    if (hidHandle)
+        return true;
+    warnNotConnected();
+    return false;
+}
+
+void MainWindow::warnNotConnected()
+{
+    showMessage(QMessageBox::Warning, QObject::tr("Warning"),
+                QObject::tr("No Type-C data cable or HDMI/DP + USB data cable connected."), QObject::tr("OK"),
+                QMessageBox::YesRole, this);
+}
+
+/// Ends whatever streams to the accessory: only one may.
+void MainWindow::stopAccessoryWork()
+{
+    ledWorkThread::instance()->stop();
+}
+
+void MainWindow::setAccessoryBusy(bool busy)
+{
+    if (busy)
+        stopAccessoryWork();
+    const LeftBar *bar = leftBar(kAccessoryFamily);
+    for (std::size_t i = 0; i < bar->buttons().size(); ++i)
+        bar->buttons()[i]->setEnabled(!busy || static_cast<int>(i) == bar->current());
+}
+
+/// At the end of the program, when no page can ask for work any more.
+void MainWindow::closeAccessory()
+{
+    ledWorkThread::shutDown();
+    closeHid();
+}

@@ -1,0 +1,163 @@
+#include "page/Nightloom/ledworkthread.h"
+
+#include <algorithm>
+
+#include "ledmatrix/matrixform.h"
+#include "page/Nightloom/dateled.h"
+#include "page/Nightloom/ledframesource.h"
+#include "platform/desk.h"
+#include "usb-hid/accessoryupload.h"
+#include "usb-hid/livesender.h"
+
+namespace {
+
+constexpr platform::milliseconds kClockPass{500};
+constexpr unsigned long kUploadLook = 50; // ms
+
+std::atomic<bool> s_exists = false;
+
+} // namespace
+
+ledWorkThread *ledWorkThread::instance()
+{
+    static ledWorkThread thread;
+    s_exists = true;
+    return &thread;
+}
+
+ledWorkThread::~ledWorkThread()
+{
+    s_exists = false;
+    wait();
+}
+
+void ledWorkThread::shutDown()
+{
+    if (!s_exists)
+        return;
+    ledWorkThread *thread = instance();
+    thread->stop();
+    {
+        const std::lock_guard lock(thread->m_mutex);
+        thread->m_shutDown.request_stop();
+        thread->m_shutDown = std::stop_source();
+    }
+    do
+        stopUploads(); // again and again: one may have been about to begin
+    while (!thread->wait(kUploadLook));
+}
+
+void ledWorkThread::setSource(LedFrameSource *source)
+{
+    const std::lock_guard lock(m_sourceMutex);
+    m_source = source;
+}
+
+void ledWorkThread::setLevels(std::vector<std::int32_t> levels)
+{
+    const std::lock_guard lock(m_mutex);
+    m_levels = std::move(levels);
+}
+
+void ledWorkThread::begin(State state)
+{
+    const std::lock_guard lock(m_mutex);
+    m_state = state;
+    m_running = 0; // a clock loop would never end for what waits
+    if (std::find(m_waiting.begin(), m_waiting.end(), state) == m_waiting.end())
+        m_waiting.push_back(state);
+    if (std::exchange(m_works, true))
+        return;
+    wait(); // it may be on its last steps out of run, where a start would be lost
+    start(QThread::TimeCriticalPriority);
+}
+
+void ledWorkThread::stop()
+{
+    const std::lock_guard lock(m_mutex);
+    m_running = 0;
+    m_state = Stopped;
+    m_waiting.clear();
+    exit(0);
+}
+
+std::optional<ledWorkThread::State> ledWorkThread::takeWork()
+{
+    const std::lock_guard lock(m_mutex);
+    m_works = !m_waiting.empty();
+    if (!m_works)
+        return std::nullopt;
+    const State state = m_waiting.front();
+    m_waiting.pop_front();
+    m_running = state == ClockLoop ? 1 : 0; // here, or a stop in between would be undone
+    return state;
+}
+
+void ledWorkThread::run()
+{
+    while (const auto state = takeWork())
+        work(*state);
+}
+
+void ledWorkThread::work(State state)
+{
+    switch (state) {
+    case BuildSpectrum:
+        return buildSpectrum();
+    case SendSpectrum:
+        return sendSpectrum();
+    case ClockLoop:
+        return runClock();
+    case UploadText:
+        return uploadText(QLatin1String(kTextFile), [this](int percent) { Q_EMIT progress(percent); });
+    case Stopped:
+        break;
+    }
+}
+
+void ledWorkThread::buildSpectrum()
+{
+    {
+        const std::lock_guard lock(m_sourceMutex);
+        AudioVisual *visual = m_source ? m_source->audioVisual() : nullptr;
+        if (!visual)
+            return;
+        visual->clear();
+        const std::lock_guard levelsLock(m_mutex);
+        visual->setLevels(m_levels);
+    }
+    Q_EMIT frameBuilt(0);
+}
+
+void ledWorkThread::sendSpectrum()
+{
+    const std::lock_guard lock(m_sourceMutex);
+    AudioVisual *visual = m_source ? m_source->audioVisual() : nullptr;
+    if (!visual)
+        return;
+    sendData(visual->frame());
+    m_source->frameSent();
+}
+
+void ledWorkThread::runClock()
+{
+    std::stop_token ended;
+    {
+        const std::lock_guard lock(m_mutex);
+        ended = m_shutDown.get_token();
+    }
+    do {
+        const QDateTime now = platform::desk().clock().now();
+        m_minute = now.time().minute();
+        if (const auto renderer = makeClockRenderer(matrixForm)) {
+            renderer->render(now.time());
+            sendData(renderer->frame());
+        }
+        platform::desk().clock().sleepUnlessStopped(kClockPass, ended);
+    } while (m_running == 1);
+}
+
+void ledWorkThread::sendData(std::span<const std::int32_t> cells)
+{
+    sendLiveFrame(cells);
+}
