@@ -22,6 +22,7 @@
 #include "page/Game/pagepictureenhanc.h"
 #include "page/IO/pageiosetting.h"
 #include "page/Nightloom/matrixformsetting.h"
+#include "page/Nightloom/pageledmusic.h"
 #include "page/Nightloom/pageledsystem.h"
 #include "page/Office/pageoffice.h"
 #include "page/Scene/pagescenesetting.h"
@@ -139,7 +140,10 @@ void MainWindow::createPages()
     addPage(PageId::ServicesSetting, new pageServicesSetting(*m_queue, m_pages));
     addPage(PageId::IoSetting, new pageIOSetting(*m_queue, m_pages));
     createAutomation();
-    addPage(PageId::LedSystem, new pageLEDSystem([this] { return ensureHidConnected(); }, *m_queue, m_pages));
+    const AccessoryCheck connected = [this] { return ensureHidConnected(); };
+    m_musicPage = new pageLEDMusic(connected, *m_queue, m_pages);
+    addPage(PageId::LedMusic, m_musicPage);
+    addPage(PageId::LedSystem, new pageLEDSystem(connected, *m_queue, m_pages));
     m_emptyPage = new EmptyPage(m_pages);
     m_pages->addWidget(m_emptyPage);
 }

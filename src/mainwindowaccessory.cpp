@@ -5,6 +5,7 @@
 #include "leftbar.h"
 #include "mainwindow.h"
 #include "page/Nightloom/ledworkthread.h"
+#include "page/Nightloom/pageledmusic.h"
 #include "usb-hid/hidtransport.h"
 
 void MainWindow::reopenHidDevice()
@@ -37,6 +38,7 @@ void MainWindow::stopAccessoryWork()
 
 void MainWindow::setAccessoryBusy(bool busy)
 {
+    m_musicPage->setBusy(busy); // stops listening before the worker is stopped
     if (busy)
         stopAccessoryWork();
     const LeftBar *bar = leftBar(kAccessoryFamily);

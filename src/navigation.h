@@ -17,6 +17,7 @@ enum class PageId {
     IoSetting,
     ShortcutKey,
     ScenarioFollowing,
+    LedMusic,
     LedSystem,
     Empty
 };

@@ -168,10 +168,12 @@ void pageLEDMusic::setBusy(bool busy)
     m_busy = busy;
     if (!m_on)
         return;
-    if (busy)
-        stopCapture();
-    else
-        startCapture();
+    if (!busy) {
+        ledWorkThread::instance()->setSource(this);
+        return startCapture();
+    }
+    stopCapture();
+    ledWorkThread::instance()->setSource(nullptr); // once this returns no frame of ours is under way
 }
 
 void pageLEDMusic::startCapture()
