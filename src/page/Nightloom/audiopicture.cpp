@@ -12,9 +12,10 @@ constexpr int kStepsPerLimit = 3;
 constexpr int kMatrixWidth = 270;
 constexpr int kGap = 28;
 constexpr int kCaptionHeight = 24;
-constexpr int kCaptionPixels = 11;
-constexpr int kLargestCell = 8;
-constexpr QSize kSize(900, 380);
+constexpr int kCaptionPixels = 12;
+constexpr int kCell = 10; // before it is scaled to what fits
+constexpr qreal kLargestScale = 0.8;
+constexpr QSize kSize(900, 460);
 
 const QColor kGround(0x12, 0x18, 0x15);
 const QColor kLine(255, 255, 255, 13);
@@ -23,10 +24,6 @@ const QColor kFoot(0x1f, 0x8f, 0x74);
 const QColor kMint(0x7b, 0xfa, 0xdb);
 const QColor kTop(0x9c, 0xff, 0xc8);
 const QColor kCaption(0xad, 0xad, 0xad);
-
-// Where each band begins, in Hz.
-constexpr const char *kBands[] = {"100", "150", "205", "300", "400", "500", "800", "1 k", "1.6 k", "2 k", "3 k"};
-static_assert(std::size(kBands) == kSpectrumBands);
 
 void paintPanel(QPainter &painter, const QRect &area)
 {
@@ -122,29 +119,32 @@ void AudioPicture::paintBars(QPainter &painter, const QRect &area) const
             painter.setBrush(colours);
             painter.drawRoundedRect(filled, 4, 4);
         }
-        painter.setPen(kCaption);
-        painter.drawText(QRectF(area.left() + bar * pitch, column.bottom() + 6, pitch, kCaptionHeight - 6),
-                         Qt::AlignHCenter | Qt::AlignBottom, QLatin1String(kBands[bar]));
     }
+    // No frequencies: which tones a band holds depends on the rate and the channels of what is heard.
+    const QRectF captions(area.left(), area.bottom() - kCaptionHeight, area.width(), kCaptionHeight);
+    painter.setPen(kCaption);
+    painter.drawText(captions, Qt::AlignLeft | Qt::AlignBottom, QObject::tr("Low"));
+    painter.drawText(captions, Qt::AlignRight | Qt::AlignBottom, QObject::tr("High"));
 }
 
 void AudioPicture::paintMatrix(QPainter &painter, const QRect &area) const
 {
-    const QSize cells = MatrixGeometry(m_form, 1).size(); // in cells
-    if (cells.isEmpty())
+    const MatrixGeometry geometry(m_form, kCell);
+    const QSizeF size = geometry.size();
+    if (size.isEmpty())
         return;
-    const int fits = std::min(area.width() / cells.width(), area.height() / cells.height());
-    const MatrixGeometry geometry(m_form, std::clamp(fits, 1, kLargestCell));
-    const QPoint corner = area.center() - QPoint(geometry.size().width() / 2, geometry.size().height() / 2);
+    const qreal scale = std::min({area.width() / size.width(), area.height() / size.height(), kLargestScale});
+    painter.translate(QRectF(area).center() - QPointF(size.width(), size.height()) * scale / 2);
+    painter.scale(scale, scale);
     const auto rows = matrixRows(m_form);
     const auto flat = m_bars->frame();
-    const qreal gap = geometry.cellSize() / 10.0;
+    const qreal gap = kCell / 10.0;
     painter.setPen(Qt::NoPen);
     for (int row = 0; row < static_cast<int>(rows.size()); ++row) {
         const MatrixRow &layout = rows[static_cast<std::size_t>(row)];
         for (int column = 0; column < layout.cells; ++column) {
             painter.setBrush(flat[static_cast<std::size_t>(layout.first + column)] != 0 ? kMint : kEmpty);
-            const QRectF cell = QRectF(geometry.cellRect({row, column}).translated(corner));
+            const QRectF cell = QRectF(geometry.cellRect({row, column}));
             painter.drawEllipse(cell.adjusted(gap, gap, -gap, -gap));
         }
     }
