@@ -74,10 +74,13 @@ AudioLed::AudioLed() : AudioBars(kTaperingForm)
     const int left = (matrixColumns(kTaperingForm) - (2 * bars - 1)) / 2;
     for (int bar = 0; bar < bars; ++bar) {
         for (int row = static_cast<int>(rows.size()) - 1; row >= 0; --row) {
-            // Odd rows lie half a cell beside the even ones: there the bar takes the cell to the right.
+            // Odd rows lie half a cell beside the even ones: there the bar takes the cell to the right, or, at the
+            // form's edge, to the left.
+            const int cells = rows[static_cast<std::size_t>(row)].cells;
             const int halves = 2 * (left + 2 * bar) + row % 2 - matrixRowShift(kTaperingForm, row);
-            if (halves >= 0 && halves / 2 < rows[static_cast<std::size_t>(row)].cells)
-                addStep(static_cast<std::size_t>(bar), {{row, halves / 2}});
+            const int column = halves / 2 == cells ? halves / 2 - row % 2 : halves / 2;
+            if (halves >= 0 && column < cells)
+                addStep(static_cast<std::size_t>(bar), {{row, column}});
         }
     }
 }
