@@ -54,7 +54,8 @@ public:
     {
         for (std::size_t i = 0; i < samples.size() && 2 * i < m_input.size(); ++i)
             m_input[2 * i] = samples[i];
-        for (std::size_t k = 0; k < m_magnitudes.size() && k <= samples.size() / 2; ++k) {
+        const std::size_t used = 6400 * m_magnitudes.size() / 22050; // no band looks beyond
+        for (std::size_t k = 0; k < used && k <= samples.size() / 2; ++k) {
             std::complex<double> sum;
             for (std::size_t n = 0; n < m_length; ++n) {
                 if (m_input[n] != 0)

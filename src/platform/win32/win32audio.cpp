@@ -111,7 +111,8 @@ public:
         const HRESULT result = m_client->GetMixFormat(&mix);
         format = {};
         if (SUCCEEDED(result) && mix)
-            std::memcpy(&format, mix, std::min(sizeof(WAVEFORMATEX) + mix->cbSize, sizeof(format)));
+            std::memcpy(static_cast<void *>(&format), mix,
+                        std::min(sizeof(WAVEFORMATEX) + mix->cbSize, sizeof(format)));
         CoTaskMemFree(mix);
         return code(result);
     }
