@@ -30,6 +30,7 @@
 #include "platform/desk.h"
 #include "searchdevicedlg.h"
 #include "toptabframe.h"
+#include "usb-hid/hidtransport.h"
 
 namespace {
 
@@ -74,9 +75,9 @@ MainWindow::MainWindow(SearchDeviceDlg &session) : m_session(session)
 MainWindow::~MainWindow()
 {
     m_session.setHost(nullptr);
-    stopAccessoryWork();
+    endAccessoryWork();
     delete m_pages; // before the queue that they send through
-    closeAccessory();
+    closeHid();
     s_mainWindow = nullptr;
 }
 

@@ -114,7 +114,7 @@ private:
     void decideEntriesByModel();
     void stopAccessoryWork();
     void setAccessoryBusy(bool busy);
-    void closeAccessory();
+    void endAccessoryWork();
     void checkMonitor();
     void fillPages();
     void showShortcutResult(int function, Command command, int value, bool ok);

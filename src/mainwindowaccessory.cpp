@@ -6,6 +6,7 @@
 #include "mainwindow.h"
 #include "page/Nightloom/ledworkthread.h"
 #include "page/Nightloom/pageledmusic.h"
+#include "usb-hid/accessoryupload.h"
 #include "usb-hid/hidtransport.h"
 
 void MainWindow::reopenHidDevice()
@@ -30,7 +31,7 @@ void MainWindow::warnNotConnected()
                 QMessageBox::YesRole, this);
 }
 
-/// Ends whatever streams to the accessory: only one may.
+/// The one place where all that streams to the accessory, or feeds what does, is stopped.
 void MainWindow::stopAccessoryWork()
 {
     ledWorkThread::instance()->stop();
@@ -46,9 +47,9 @@ void MainWindow::setAccessoryBusy(bool busy)
         bar->buttons()[i]->setEnabled(!busy || static_cast<int>(i) == bar->current());
 }
 
-/// At the end of the program, when no page can ask for work any more.
-void MainWindow::closeAccessory()
+/// At the end of the program, while the pages that the work belongs to are still there.
+void MainWindow::endAccessoryWork()
 {
+    stopUploads();
     ledWorkThread::shutDown();
-    closeHid();
 }

@@ -170,6 +170,7 @@ void TestVirtualDesk::readsScripts()
             {"model": "Q32-MPCS", "edid": "00 ff", "values": {"0x10": 12},
              "faults": [{"event": "refuse", "code": "0x12", "times": "always"}]},
             {"model": "Q27-OLED", "plugged": false, "edid": {"random": 64}, "latency": "none"}],
+        "accessory": {"form": 1, "faults": [{"event": "fail_open", "times": 2}, {"event": "unplug", "at_write": 1}]},
         "events": [{"at_ms": 700, "event": "plug", "monitor": 1}, {"at_ms": 900, "event": "deaf", "times": 2}]
     })",
                                        error);
@@ -182,6 +183,13 @@ void TestVirtualDesk::readsScripts()
     QCOMPARE(readPair(desk.monitor(0), 0x10).current, 12u);
     for (int i = 0; i < 3; ++i)
         QVERIFY(!readPair(desk.monitor(0), 0x12).ok());
+    QCOMPARE(desk.accessory().form(), 1);
+    QVERIFY(!desk.accessory().open());
+    QVERIFY(!desk.accessory().open());
+    void *handle = desk.accessory().open();
+    QVERIFY(handle);
+    QCOMPARE(desk.accessory().write(handle, {}), -1);
+    QVERIFY(!desk.accessory().isPlugged());
 
     QCOMPARE(desk.paths().size(), 1u);
     desk.startEvents();
@@ -214,6 +222,8 @@ void TestVirtualDesk::namesScriptFaults_data()
     QTest::newRow("odd hexadecimal") << QByteArray(R"({"monitors": [{"model": "Q27-OLED", "edid": "00f"}]})")
                                      << "\"edid\"";
     QTest::newRow("negative wait") << QByteArray(R"({"latency": {"read_ms": -1}})") << "\"read_ms\"";
+    QTest::newRow("no such form") << QByteArray(R"({"accessory": {"form": 2}})") << "\"form\"";
+    QTest::newRow("fault of nothing") << QByteArray(R"({"accessory": {"faults": [{"event": "sing"}]}})") << "\"sing\"";
     QTest::newRow("refuse what") << QByteArray(R"({"events": [{"event": "refuse"}]})") << "\"code\"";
 }
 

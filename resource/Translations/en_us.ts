@@ -48,6 +48,14 @@
         <translation>%1 · protocol faults: %2 · open handles: %3</translation>
     </message>
     <message>
+        <source>%1, chunk %2 of %3</source>
+        <translation>%1, chunk %2 of %3</translation>
+    </message>
+    <message>
+        <source>%1, frames: %2</source>
+        <translation>%1, frames: %2</translation>
+    </message>
+    <message>
         <source>1 Hour</source>
         <translation>1 Hour</translation>
     </message>
@@ -168,6 +176,10 @@
         <translation>AI Dual Mode</translation>
     </message>
     <message>
+        <source>Accessory</source>
+        <translation>Accessory</translation>
+    </message>
+    <message>
         <source>Adaptive-Sync</source>
         <translation>Adaptive-Sync</translation>
     </message>
@@ -238,6 +250,10 @@
     <message>
         <source>Animate Mode</source>
         <translation>Animate Mode</translation>
+    </message>
+    <message>
+        <source>Animations</source>
+        <translation>Animations</translation>
     </message>
     <message>
         <source>Another program registers the combination first</source>
@@ -358,6 +374,10 @@
     <message>
         <source>Cinema colours at a D65 white.</source>
         <translation>Cinema colours at a D65 white.</translation>
+    </message>
+    <message>
+        <source>Clock</source>
+        <translation>Clock</translation>
     </message>
     <message>
         <source>Close</source>
@@ -616,6 +636,10 @@
         <translation>Game VS</translation>
     </message>
     <message>
+        <source>Game report</source>
+        <translation>Game report</translation>
+    </message>
+    <message>
         <source>Gamma</source>
         <translation>Gamma</translation>
     </message>
@@ -752,6 +776,10 @@
         <translation>Keys for functions of the monitor that work anywhere on the desktop: Ctrl or Alt with a letter or a digit; Backspace clears a field.</translation>
     </message>
     <message>
+        <source>Lamp</source>
+        <translation>Lamp</translation>
+    </message>
+    <message>
         <source>Language</source>
         <translation>Language</translation>
     </message>
@@ -782,6 +810,10 @@
     <message>
         <source>Light Sensor</source>
         <translation>Light Sensor</translation>
+    </message>
+    <message>
+        <source>Live frames</source>
+        <translation>Live frames</translation>
     </message>
     <message>
         <source>Localdimming</source>
@@ -826,6 +858,18 @@
     <message>
         <source>Matches notebooks with a Display P3 screen.</source>
         <translation>Matches notebooks with a Display P3 screen.</translation>
+    </message>
+    <message>
+        <source>Matrix Form</source>
+        <translation>Matrix Form</translation>
+    </message>
+    <message>
+        <source>Matrix Lamp</source>
+        <translation>Matrix Lamp</translation>
+    </message>
+    <message>
+        <source>Matrix of the simulated accessory</source>
+        <translation>Matrix of the simulated accessory</translation>
     </message>
     <message>
         <source>Medium</source>
@@ -914,6 +958,10 @@
     <message>
         <source>No Signal Timer</source>
         <translation>No Signal Timer</translation>
+    </message>
+    <message>
+        <source>No Type-C data cable or HDMI/DP + USB data cable connected.</source>
+        <translation>No Type-C data cable or HDMI/DP + USB data cable connected.</translation>
     </message>
     <message>
         <source>No hot keys yet: choose a function above and add it.</source>
@@ -1016,6 +1064,10 @@
         <translation>Picture Enhance</translation>
     </message>
     <message>
+        <source>Playback Level</source>
+        <translation>Playback Level</translation>
+    </message>
+    <message>
         <source>Plugged in</source>
         <translation>Plugged in</translation>
     </message>
@@ -1046,6 +1098,10 @@
     <message>
         <source>Proofs under a D50 light.</source>
         <translation>Proofs under a D50 light.</translation>
+    </message>
+    <message>
+        <source>Pull out in mid-transfer</source>
+        <translation>Pull out in mid-transfer</translation>
     </message>
     <message>
         <source>QR Code</source>
@@ -1102,6 +1158,14 @@
     <message>
         <source>Recommended to set [Expand These Monitors] in the System-&gt; Screen when operating multiple monitors.</source>
         <translation>Recommended to set [Expand These Monitors] in the System-&gt; Screen when operating multiple monitors.</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rectangle</translation>
+    </message>
+    <message>
+        <source>Rectangular form</source>
+        <translation>Rectangular form</translation>
     </message>
     <message>
         <source>Refresh Rate</source>
@@ -1200,6 +1264,10 @@
         <translation>Show Time(s)</translation>
     </message>
     <message>
+        <source>Shown</source>
+        <translation>Shown</translation>
+    </message>
+    <message>
         <source>Simulated monitor</source>
         <translation>Simulated monitor</translation>
     </message>
@@ -1264,6 +1332,10 @@
         <translation>Taken by another</translation>
     </message>
     <message>
+        <source>Tapering</source>
+        <translation>Tapering</translation>
+    </message>
+    <message>
         <source>Text Mode</source>
         <translation>Text Mode</translation>
     </message>
@@ -1276,8 +1348,20 @@
         <translation>The APP will restart automatically when switching languages.</translation>
     </message>
     <message>
+        <source>The accessory is the model with 25 rows of 42 cells</source>
+        <translation>The accessory is the model with 25 rows of 42 cells</translation>
+    </message>
+    <message>
+        <source>The accessory takes no report until the button is released</source>
+        <translation>The accessory takes no report until the button is released</translation>
+    </message>
+    <message>
         <source>The answer to the next read never arrives</source>
         <translation>The answer to the next read never arrives</translation>
+    </message>
+    <message>
+        <source>The cable is pulled out at the eighth report from now</source>
+        <translation>The cable is pulled out at the eighth report from now</translation>
     </message>
     <message>
         <source>The cable is pulled out until the button is released</source>
@@ -1460,6 +1544,10 @@
         <translation>Upgrade</translation>
     </message>
     <message>
+        <source>Upload</source>
+        <translation>Upload</translation>
+    </message>
+    <message>
         <source>User1</source>
         <translation>User1</translation>
     </message>
@@ -1506,6 +1594,10 @@
     <message>
         <source>Vivid colours for animation.</source>
         <translation>Vivid colours for animation.</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warning</translation>
     </message>
     <message>
         <source>Web(sRGB)</source>
@@ -1568,8 +1660,20 @@
         <translation>https://www.quorvel.example/knowledge</translation>
     </message>
     <message>
+        <source>lamp off</source>
+        <translation>lamp off</translation>
+    </message>
+    <message>
+        <source>live</source>
+        <translation>live</translation>
+    </message>
+    <message>
         <source>lost</source>
         <translation>lost</translation>
+    </message>
+    <message>
+        <source>mode %1</source>
+        <translation>mode %1</translation>
     </message>
     <message>
         <source>no answer</source>
@@ -1578,6 +1682,10 @@
     <message>
         <source>no monitor</source>
         <translation>no monitor</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nothing</translation>
     </message>
     <message>
         <source>ok</source>
@@ -1612,12 +1720,20 @@
         <translation>sRGB(2.2) Mode</translation>
     </message>
     <message>
+        <source>text</source>
+        <translation>text</translation>
+    </message>
+    <message>
         <source>unexpected</source>
         <translation>unexpected</translation>
     </message>
     <message>
         <source>unplugged</source>
         <translation>unplugged</translation>
+    </message>
+    <message>
+        <source>upload</source>
+        <translation>upload</translation>
     </message>
 </context>
 </TS>

@@ -48,6 +48,14 @@
         <translation>%1 · プロトコルエラー: %2 · 開いているハンドル: %3</translation>
     </message>
     <message>
+        <source>%1, chunk %2 of %3</source>
+        <translation>%1、チャンク %2 / %3</translation>
+    </message>
+    <message>
+        <source>%1, frames: %2</source>
+        <translation>%1、フレーム数: %2</translation>
+    </message>
+    <message>
         <source>1 Hour</source>
         <translation>1 時間</translation>
     </message>
@@ -168,6 +176,10 @@
         <translation>AI デュアルモード</translation>
     </message>
     <message>
+        <source>Accessory</source>
+        <translation>アクセサリ</translation>
+    </message>
+    <message>
         <source>Adaptive-Sync</source>
         <translation>Adaptive-Sync</translation>
     </message>
@@ -238,6 +250,10 @@
     <message>
         <source>Animate Mode</source>
         <translation>アニメモード</translation>
+    </message>
+    <message>
+        <source>Animations</source>
+        <translation>アニメーション</translation>
     </message>
     <message>
         <source>Another program registers the combination first</source>
@@ -358,6 +374,10 @@
     <message>
         <source>Cinema colours at a D65 white.</source>
         <translation>D65 白色点での映画の色です。</translation>
+    </message>
+    <message>
+        <source>Clock</source>
+        <translation>時計</translation>
     </message>
     <message>
         <source>Close</source>
@@ -616,6 +636,10 @@
         <translation>ゲーム対戦</translation>
     </message>
     <message>
+        <source>Game report</source>
+        <translation>ゲームレポート</translation>
+    </message>
+    <message>
         <source>Gamma</source>
         <translation>ガンマ</translation>
     </message>
@@ -752,6 +776,10 @@
         <translation>モニターの機能に、デスクトップのどこでも使えるキーを割り当てます。Ctrl か Alt と英字または数字。Backspace で消去します。</translation>
     </message>
     <message>
+        <source>Lamp</source>
+        <translation>ランプ</translation>
+    </message>
+    <message>
         <source>Language</source>
         <translation>言語</translation>
     </message>
@@ -782,6 +810,10 @@
     <message>
         <source>Light Sensor</source>
         <translation>光センサー</translation>
+    </message>
+    <message>
+        <source>Live frames</source>
+        <translation>ライブフレーム</translation>
     </message>
     <message>
         <source>Localdimming</source>
@@ -826,6 +858,18 @@
     <message>
         <source>Matches notebooks with a Display P3 screen.</source>
         <translation>Display P3 画面のノートパソコンと色を合わせます。</translation>
+    </message>
+    <message>
+        <source>Matrix Form</source>
+        <translation>マトリクス形状</translation>
+    </message>
+    <message>
+        <source>Matrix Lamp</source>
+        <translation>マトリクスランプ</translation>
+    </message>
+    <message>
+        <source>Matrix of the simulated accessory</source>
+        <translation>シミュレートされたアクセサリのマトリクス</translation>
     </message>
     <message>
         <source>Medium</source>
@@ -914,6 +958,10 @@
     <message>
         <source>No Signal Timer</source>
         <translation>無信号タイマー</translation>
+    </message>
+    <message>
+        <source>No Type-C data cable or HDMI/DP + USB data cable connected.</source>
+        <translation>Type-C データケーブルまたは HDMI/DP + USB データケーブルが接続されていません。</translation>
     </message>
     <message>
         <source>No hot keys yet: choose a function above and add it.</source>
@@ -1016,6 +1064,10 @@
         <translation>画質強化</translation>
     </message>
     <message>
+        <source>Playback Level</source>
+        <translation>再生レベル</translation>
+    </message>
+    <message>
         <source>Plugged in</source>
         <translation>接続済み</translation>
     </message>
@@ -1046,6 +1098,10 @@
     <message>
         <source>Proofs under a D50 light.</source>
         <translation>D50 光源での校正刷り向けです。</translation>
+    </message>
+    <message>
+        <source>Pull out in mid-transfer</source>
+        <translation>転送中に抜く</translation>
     </message>
     <message>
         <source>QR Code</source>
@@ -1102,6 +1158,14 @@
     <message>
         <source>Recommended to set [Expand These Monitors] in the System-&gt; Screen when operating multiple monitors.</source>
         <translation>複数のモニターを使用する場合は、「システム -&gt; ディスプレイ」で[表示画面を拡張する]に設定することをお勧めします。</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>長方形</translation>
+    </message>
+    <message>
+        <source>Rectangular form</source>
+        <translation>長方形タイプ</translation>
     </message>
     <message>
         <source>Refresh Rate</source>
@@ -1200,6 +1264,10 @@
         <translation>表示時間(秒)</translation>
     </message>
     <message>
+        <source>Shown</source>
+        <translation>表示内容</translation>
+    </message>
+    <message>
         <source>Simulated monitor</source>
         <translation>シミュレートされたモニター</translation>
     </message>
@@ -1264,6 +1332,10 @@
         <translation>他で使用</translation>
     </message>
     <message>
+        <source>Tapering</source>
+        <translation>先細り</translation>
+    </message>
+    <message>
         <source>Text Mode</source>
         <translation>テキストモード</translation>
     </message>
@@ -1276,8 +1348,20 @@
         <translation>言語を切り替えると、アプリは自動的に再起動します。</translation>
     </message>
     <message>
+        <source>The accessory is the model with 25 rows of 42 cells</source>
+        <translation>アクセサリは 25 行 × 42 セルのモデルです</translation>
+    </message>
+    <message>
+        <source>The accessory takes no report until the button is released</source>
+        <translation>ボタンを戻すまでアクセサリはレポートを受け取りません</translation>
+    </message>
+    <message>
         <source>The answer to the next read never arrives</source>
         <translation>次の読み取りの応答が届きません</translation>
+    </message>
+    <message>
+        <source>The cable is pulled out at the eighth report from now</source>
+        <translation>今から 8 番目のレポートでケーブルが抜かれます</translation>
     </message>
     <message>
         <source>The cable is pulled out until the button is released</source>
@@ -1460,6 +1544,10 @@
         <translation>更新</translation>
     </message>
     <message>
+        <source>Upload</source>
+        <translation>アップロード</translation>
+    </message>
+    <message>
         <source>User1</source>
         <translation>ユーザー 1</translation>
     </message>
@@ -1506,6 +1594,10 @@
     <message>
         <source>Vivid colours for animation.</source>
         <translation>アニメに適した鮮やかな色です。</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
     </message>
     <message>
         <source>Web(sRGB)</source>
@@ -1568,8 +1660,20 @@
         <translation>https://www.quorvel.example/knowledge</translation>
     </message>
     <message>
+        <source>lamp off</source>
+        <translation>ランプ消灯</translation>
+    </message>
+    <message>
+        <source>live</source>
+        <translation>ライブ</translation>
+    </message>
+    <message>
         <source>lost</source>
         <translation>消失</translation>
+    </message>
+    <message>
+        <source>mode %1</source>
+        <translation>モード %1</translation>
     </message>
     <message>
         <source>no answer</source>
@@ -1578,6 +1682,10 @@
     <message>
         <source>no monitor</source>
         <translation>モニターなし</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>なし</translation>
     </message>
     <message>
         <source>ok</source>
@@ -1612,12 +1720,20 @@
         <translation>sRGB(2.2) モード</translation>
     </message>
     <message>
+        <source>text</source>
+        <translation>テキスト</translation>
+    </message>
+    <message>
         <source>unexpected</source>
         <translation>想定外</translation>
     </message>
     <message>
         <source>unplugged</source>
         <translation>未接続</translation>
+    </message>
+    <message>
+        <source>upload</source>
+        <translation>アップロード済み</translation>
     </message>
 </context>
 </TS>

@@ -48,6 +48,14 @@
         <translation>%1 · 协议错误：%2 · 打开的句柄：%3</translation>
     </message>
     <message>
+        <source>%1, chunk %2 of %3</source>
+        <translation>%1，第 %2 块，共 %3 块</translation>
+    </message>
+    <message>
+        <source>%1, frames: %2</source>
+        <translation>%1，帧数：%2</translation>
+    </message>
+    <message>
         <source>1 Hour</source>
         <translation>1 小时</translation>
     </message>
@@ -168,6 +176,10 @@
         <translation>AI 双模式</translation>
     </message>
     <message>
+        <source>Accessory</source>
+        <translation>配件</translation>
+    </message>
+    <message>
         <source>Adaptive-Sync</source>
         <translation>Adaptive-Sync</translation>
     </message>
@@ -238,6 +250,10 @@
     <message>
         <source>Animate Mode</source>
         <translation>动画模式</translation>
+    </message>
+    <message>
+        <source>Animations</source>
+        <translation>动画</translation>
     </message>
     <message>
         <source>Another program registers the combination first</source>
@@ -358,6 +374,10 @@
     <message>
         <source>Cinema colours at a D65 white.</source>
         <translation>D65 白点下的影院色彩。</translation>
+    </message>
+    <message>
+        <source>Clock</source>
+        <translation>时钟</translation>
     </message>
     <message>
         <source>Close</source>
@@ -616,6 +636,10 @@
         <translation>游戏对战</translation>
     </message>
     <message>
+        <source>Game report</source>
+        <translation>游戏报告</translation>
+    </message>
+    <message>
         <source>Gamma</source>
         <translation>伽马</translation>
     </message>
@@ -752,6 +776,10 @@
         <translation>为显示器功能指定全局快捷键，在桌面任何位置都有效：Ctrl 或 Alt 加字母或数字，Backspace 清除。</translation>
     </message>
     <message>
+        <source>Lamp</source>
+        <translation>灯</translation>
+    </message>
+    <message>
         <source>Language</source>
         <translation>语言</translation>
     </message>
@@ -782,6 +810,10 @@
     <message>
         <source>Light Sensor</source>
         <translation>光线感应</translation>
+    </message>
+    <message>
+        <source>Live frames</source>
+        <translation>实时帧</translation>
     </message>
     <message>
         <source>Localdimming</source>
@@ -826,6 +858,18 @@
     <message>
         <source>Matches notebooks with a Display P3 screen.</source>
         <translation>与配备 Display P3 屏幕的笔记本电脑一致。</translation>
+    </message>
+    <message>
+        <source>Matrix Form</source>
+        <translation>矩阵形状</translation>
+    </message>
+    <message>
+        <source>Matrix Lamp</source>
+        <translation>矩阵灯</translation>
+    </message>
+    <message>
+        <source>Matrix of the simulated accessory</source>
+        <translation>模拟配件的矩阵</translation>
     </message>
     <message>
         <source>Medium</source>
@@ -914,6 +958,10 @@
     <message>
         <source>No Signal Timer</source>
         <translation>无信号定时</translation>
+    </message>
+    <message>
+        <source>No Type-C data cable or HDMI/DP + USB data cable connected.</source>
+        <translation>未连接 Type-C 数据线或 HDMI/DP + USB 数据线。</translation>
     </message>
     <message>
         <source>No hot keys yet: choose a function above and add it.</source>
@@ -1016,6 +1064,10 @@
         <translation>画质增强</translation>
     </message>
     <message>
+        <source>Playback Level</source>
+        <translation>播放等级</translation>
+    </message>
+    <message>
         <source>Plugged in</source>
         <translation>已连接</translation>
     </message>
@@ -1046,6 +1098,10 @@
     <message>
         <source>Proofs under a D50 light.</source>
         <translation>D50 光源下的打样。</translation>
+    </message>
+    <message>
+        <source>Pull out in mid-transfer</source>
+        <translation>传输中拔出</translation>
     </message>
     <message>
         <source>QR Code</source>
@@ -1102,6 +1158,14 @@
     <message>
         <source>Recommended to set [Expand These Monitors] in the System-&gt; Screen when operating multiple monitors.</source>
         <translation>使用多台显示器时，建议在“系统 -&gt; 屏幕”中设置[扩展这些显示器]。</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>矩形</translation>
+    </message>
+    <message>
+        <source>Rectangular form</source>
+        <translation>矩形款</translation>
     </message>
     <message>
         <source>Refresh Rate</source>
@@ -1200,6 +1264,10 @@
         <translation>显示时间(秒)</translation>
     </message>
     <message>
+        <source>Shown</source>
+        <translation>显示内容</translation>
+    </message>
+    <message>
         <source>Simulated monitor</source>
         <translation>模拟显示器</translation>
     </message>
@@ -1264,6 +1332,10 @@
         <translation>被占用</translation>
     </message>
     <message>
+        <source>Tapering</source>
+        <translation>锥形</translation>
+    </message>
+    <message>
         <source>Text Mode</source>
         <translation>文字模式</translation>
     </message>
@@ -1276,8 +1348,20 @@
         <translation>切换语言时，程序将自动重新启动。</translation>
     </message>
     <message>
+        <source>The accessory is the model with 25 rows of 42 cells</source>
+        <translation>配件为 25 行、每行 42 格的型号</translation>
+    </message>
+    <message>
+        <source>The accessory takes no report until the button is released</source>
+        <translation>松开按钮前，配件不接收任何报告</translation>
+    </message>
+    <message>
         <source>The answer to the next read never arrives</source>
         <translation>下一次读取收不到应答</translation>
+    </message>
+    <message>
+        <source>The cable is pulled out at the eighth report from now</source>
+        <translation>从现在起第八个报告时拔出线缆</translation>
     </message>
     <message>
         <source>The cable is pulled out until the button is released</source>
@@ -1460,6 +1544,10 @@
         <translation>升级</translation>
     </message>
     <message>
+        <source>Upload</source>
+        <translation>上传</translation>
+    </message>
+    <message>
         <source>User1</source>
         <translation>用户 1</translation>
     </message>
@@ -1506,6 +1594,10 @@
     <message>
         <source>Vivid colours for animation.</source>
         <translation>色彩鲜艳，适合动画。</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
     </message>
     <message>
         <source>Web(sRGB)</source>
@@ -1568,8 +1660,20 @@
         <translation>https://www.quorvel.example/knowledge</translation>
     </message>
     <message>
+        <source>lamp off</source>
+        <translation>灯已关</translation>
+    </message>
+    <message>
+        <source>live</source>
+        <translation>实时</translation>
+    </message>
+    <message>
         <source>lost</source>
         <translation>已丢失</translation>
+    </message>
+    <message>
+        <source>mode %1</source>
+        <translation>模式 %1</translation>
     </message>
     <message>
         <source>no answer</source>
@@ -1578,6 +1682,10 @@
     <message>
         <source>no monitor</source>
         <translation>无显示器</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>无</translation>
     </message>
     <message>
         <source>ok</source>
@@ -1612,12 +1720,20 @@
         <translation>sRGB(2.2) 模式</translation>
     </message>
     <message>
+        <source>text</source>
+        <translation>文字</translation>
+    </message>
+    <message>
         <source>unexpected</source>
         <translation>意外数据</translation>
     </message>
     <message>
         <source>unplugged</source>
         <translation>已拔出</translation>
+    </message>
+    <message>
+        <source>upload</source>
+        <translation>已上传内容</translation>
     </message>
 </context>
 </TS>

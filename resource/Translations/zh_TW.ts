@@ -48,6 +48,14 @@
         <translation>%1 · 通訊協定錯誤：%2 · 開啟的控制代碼：%3</translation>
     </message>
     <message>
+        <source>%1, chunk %2 of %3</source>
+        <translation>%1，第 %2 塊，共 %3 塊</translation>
+    </message>
+    <message>
+        <source>%1, frames: %2</source>
+        <translation>%1，影格數：%2</translation>
+    </message>
+    <message>
         <source>1 Hour</source>
         <translation>1 小時</translation>
     </message>
@@ -168,6 +176,10 @@
         <translation>AI 雙模式</translation>
     </message>
     <message>
+        <source>Accessory</source>
+        <translation>配件</translation>
+    </message>
+    <message>
         <source>Adaptive-Sync</source>
         <translation>Adaptive-Sync</translation>
     </message>
@@ -238,6 +250,10 @@
     <message>
         <source>Animate Mode</source>
         <translation>動畫模式</translation>
+    </message>
+    <message>
+        <source>Animations</source>
+        <translation>動畫</translation>
     </message>
     <message>
         <source>Another program registers the combination first</source>
@@ -358,6 +374,10 @@
     <message>
         <source>Cinema colours at a D65 white.</source>
         <translation>D65 白點下的電影院色彩。</translation>
+    </message>
+    <message>
+        <source>Clock</source>
+        <translation>時鐘</translation>
     </message>
     <message>
         <source>Close</source>
@@ -616,6 +636,10 @@
         <translation>遊戲對戰</translation>
     </message>
     <message>
+        <source>Game report</source>
+        <translation>遊戲報告</translation>
+    </message>
+    <message>
         <source>Gamma</source>
         <translation>伽瑪</translation>
     </message>
@@ -752,6 +776,10 @@
         <translation>為顯示器功能指定全域快速鍵，在桌面任何位置都有效：Ctrl 或 Alt 加字母或數字，Backspace 清除。</translation>
     </message>
     <message>
+        <source>Lamp</source>
+        <translation>燈</translation>
+    </message>
+    <message>
         <source>Language</source>
         <translation>語言</translation>
     </message>
@@ -782,6 +810,10 @@
     <message>
         <source>Light Sensor</source>
         <translation>光線感應</translation>
+    </message>
+    <message>
+        <source>Live frames</source>
+        <translation>即時影格</translation>
     </message>
     <message>
         <source>Localdimming</source>
@@ -826,6 +858,18 @@
     <message>
         <source>Matches notebooks with a Display P3 screen.</source>
         <translation>與配備 Display P3 螢幕的筆記型電腦一致。</translation>
+    </message>
+    <message>
+        <source>Matrix Form</source>
+        <translation>矩陣形狀</translation>
+    </message>
+    <message>
+        <source>Matrix Lamp</source>
+        <translation>矩陣燈</translation>
+    </message>
+    <message>
+        <source>Matrix of the simulated accessory</source>
+        <translation>模擬配件的矩陣</translation>
     </message>
     <message>
         <source>Medium</source>
@@ -914,6 +958,10 @@
     <message>
         <source>No Signal Timer</source>
         <translation>無訊號計時</translation>
+    </message>
+    <message>
+        <source>No Type-C data cable or HDMI/DP + USB data cable connected.</source>
+        <translation>未連接 Type-C 資料線或 HDMI/DP + USB 資料線。</translation>
     </message>
     <message>
         <source>No hot keys yet: choose a function above and add it.</source>
@@ -1016,6 +1064,10 @@
         <translation>畫質增強</translation>
     </message>
     <message>
+        <source>Playback Level</source>
+        <translation>播放等級</translation>
+    </message>
+    <message>
         <source>Plugged in</source>
         <translation>已連接</translation>
     </message>
@@ -1046,6 +1098,10 @@
     <message>
         <source>Proofs under a D50 light.</source>
         <translation>D50 光源下的打樣。</translation>
+    </message>
+    <message>
+        <source>Pull out in mid-transfer</source>
+        <translation>傳輸中拔出</translation>
     </message>
     <message>
         <source>QR Code</source>
@@ -1102,6 +1158,14 @@
     <message>
         <source>Recommended to set [Expand These Monitors] in the System-&gt; Screen when operating multiple monitors.</source>
         <translation>使用多台顯示器時，建議在「系統 -&gt; 螢幕」中設定[延伸這些顯示器]。</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>矩形</translation>
+    </message>
+    <message>
+        <source>Rectangular form</source>
+        <translation>矩形款</translation>
     </message>
     <message>
         <source>Refresh Rate</source>
@@ -1200,6 +1264,10 @@
         <translation>顯示時間(秒)</translation>
     </message>
     <message>
+        <source>Shown</source>
+        <translation>顯示內容</translation>
+    </message>
+    <message>
         <source>Simulated monitor</source>
         <translation>模擬顯示器</translation>
     </message>
@@ -1264,6 +1332,10 @@
         <translation>被佔用</translation>
     </message>
     <message>
+        <source>Tapering</source>
+        <translation>錐形</translation>
+    </message>
+    <message>
         <source>Text Mode</source>
         <translation>文字模式</translation>
     </message>
@@ -1276,8 +1348,20 @@
         <translation>切換語言時，程式將自動重新啟動。</translation>
     </message>
     <message>
+        <source>The accessory is the model with 25 rows of 42 cells</source>
+        <translation>配件為 25 列、每列 42 格的型號</translation>
+    </message>
+    <message>
+        <source>The accessory takes no report until the button is released</source>
+        <translation>放開按鈕前，配件不接收任何報告</translation>
+    </message>
+    <message>
         <source>The answer to the next read never arrives</source>
         <translation>下一次讀取收不到回應</translation>
+    </message>
+    <message>
+        <source>The cable is pulled out at the eighth report from now</source>
+        <translation>從現在起第八個報告時拔出線纜</translation>
     </message>
     <message>
         <source>The cable is pulled out until the button is released</source>
@@ -1460,6 +1544,10 @@
         <translation>升級</translation>
     </message>
     <message>
+        <source>Upload</source>
+        <translation>上傳</translation>
+    </message>
+    <message>
         <source>User1</source>
         <translation>使用者 1</translation>
     </message>
@@ -1506,6 +1594,10 @@
     <message>
         <source>Vivid colours for animation.</source>
         <translation>色彩鮮豔，適合動畫。</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
     </message>
     <message>
         <source>Web(sRGB)</source>
@@ -1568,8 +1660,20 @@
         <translation>https://www.quorvel.example/knowledge</translation>
     </message>
     <message>
+        <source>lamp off</source>
+        <translation>燈已關</translation>
+    </message>
+    <message>
+        <source>live</source>
+        <translation>即時</translation>
+    </message>
+    <message>
         <source>lost</source>
         <translation>已遺失</translation>
+    </message>
+    <message>
+        <source>mode %1</source>
+        <translation>模式 %1</translation>
     </message>
     <message>
         <source>no answer</source>
@@ -1578,6 +1682,10 @@
     <message>
         <source>no monitor</source>
         <translation>無顯示器</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>無</translation>
     </message>
     <message>
         <source>ok</source>
@@ -1612,12 +1720,20 @@
         <translation>sRGB(2.2) 模式</translation>
     </message>
     <message>
+        <source>text</source>
+        <translation>文字</translation>
+    </message>
+    <message>
         <source>unexpected</source>
         <translation>非預期</translation>
     </message>
     <message>
         <source>unplugged</source>
         <translation>已拔出</translation>
+    </message>
+    <message>
+        <source>upload</source>
+        <translation>已上傳內容</translation>
     </message>
 </context>
 </TS>

@@ -26,9 +26,9 @@ public:
     virtual StartUp &startUp() = 0;
     virtual DeviceNotifications &deviceNotifications() = 0;
     virtual GlobalKeys &globalKeys() = 0;
-    virtual AudioCapture &audio() = 0;
-    virtual Hid &hid() = 0;
     virtual Foreground &foreground() = 0;
+    virtual Hid &hid() = 0;
+    virtual AudioCapture &audio() = 0;
     virtual Clock &clock() = 0;
 
     /// Called once when the main window is shown: a desk that has something of its own to show opens it now.

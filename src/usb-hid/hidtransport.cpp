@@ -1,13 +1,16 @@
 #include "usb-hid/hidtransport.h"
 
-#include <mutex>
-
 #include <QDebug>
 
 #include "platform/desk.h"
 
 // Writers in other threads hold it while they write: a device that is opened anew closes the handle under them.
-static std::mutex s_handleMutex;
+static std::recursive_mutex s_handleMutex;
+
+std::unique_lock<std::recursive_mutex> lockHid()
+{
+    return std::unique_lock(s_handleMutex);
+}
 
 bool Fun_hid_find(std::uint16_t vendor, std::uint16_t product)
 {
@@ -52,7 +55,7 @@ void clearHidFlags()
 
 void closeHid()
 {
-    const std::lock_guard lock(s_handleMutex);
+    const auto lock = lockHid();
     if (platform::HidDevice *device = hidHandle.exchange(nullptr))
         platform::desk().hid().close(device);
 }
@@ -70,7 +73,7 @@ void reopenHid()
 
 HidWrite writeHid(const AccessoryReport &report)
 {
-    const std::lock_guard lock(s_handleMutex);
+    const auto lock = lockHid();
     platform::HidDevice *device = hidHandle;
     if (!device)
         return HidWrite::NoHandle;

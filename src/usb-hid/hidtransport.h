@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <cstdint>
+#include <mutex>
 
 #include "platform/hid.h"
 #include "usb-hid/accessorypackets.h"
@@ -31,6 +32,10 @@ void reopenHid();
 
 /// Closes the shared handle if there is one.
 void closeHid();
+
+/// Keeps other threads from writing to, closing and opening the accessory until the lock goes: for reports that belong
+/// together.
+std::unique_lock<std::recursive_mutex> lockHid();
 
 enum class HidWrite { Done, NoHandle, Failed };
 

@@ -27,6 +27,7 @@ void sendLiveFrame(std::span<const std::int32_t> cells)
     if (cells.empty() || std::ssize(cells) != matrixCells(matrixForm))
         return;
     const int total = chunkCount(std::ssize(cells));
+    const auto lock = lockHid(); // a page's report may not fall between the chunks
     AccessoryReport chunk;
     for (int index = 1; index <= total; ++index) {
         const auto part = cells.subspan(static_cast<std::size_t>(index - 1) * kChunkCells);

@@ -7,6 +7,7 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include "virtualdesk/accessorypanel.h"
 #include "virtualdesk/desktoppanel.h"
 #include "virtualdesk/monitorpanel.h"
 
@@ -72,6 +73,7 @@ DeskWindow::DeskWindow(VirtualDesk &desk) : m_tabs(new QTabWidget(this))
     layout->addWidget(m_tabs);
     addPanel<MonitorPanel>(desk, QT_TRANSLATE_NOOP("QObject", "Monitor"));
     addPanel<DesktopPanel>(desk, QT_TRANSLATE_NOOP("QObject", "Desktop"));
+    addPanel<AccessoryPanel>(desk, QT_TRANSLATE_NOOP("QObject", "Accessory"));
     retranslate();
     placeBesideProgram();
 }

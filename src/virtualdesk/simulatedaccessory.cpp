@@ -82,6 +82,7 @@ int SimulatedAccessory::serve(void *handle, AccessoryWrite &write)
     if (write.fault != nullptr) {
         write.outcome = AccessoryWrite::Outcome::Fault;
         ++m_protocolFaults;
+        m_lastFault = write.fault;
     }
     return static_cast<int>(bytes.size()); // the bus carries nonsense as well
 }
@@ -171,6 +172,12 @@ int SimulatedAccessory::protocolFaults() const
 {
     const std::lock_guard lock(m_mutex);
     return m_protocolFaults;
+}
+
+const char *SimulatedAccessory::lastFault() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_lastFault;
 }
 
 int SimulatedAccessory::handleFaults() const

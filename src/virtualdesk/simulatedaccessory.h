@@ -71,6 +71,8 @@ public:
     AccessoryState state() const;
     /// Reports that the device could not make sense of.
     int protocolFaults() const;
+    /// What was wrong with the last of them; null before the first.
+    const char *lastFault() const;
     /// Uses of handles that were closed or never given.
     int handleFaults() const;
     int handlesOpen() const;
@@ -110,6 +112,7 @@ private:
     int m_openFailures = 0;
     int m_writesToUnplug = 0;
     int m_protocolFaults = 0;
+    const char *m_lastFault = nullptr;
     int m_handleFaults = 0;
     std::deque<AccessoryWrite> m_history;
 

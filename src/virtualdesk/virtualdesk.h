@@ -171,8 +171,8 @@ private:
     std::uintptr_t m_displayGeneration = 1; // display handles of an older set-up are outdated
     DeviceRegistrations m_registrations;
     HotKeys m_hotKeys;
-    SimulatedAccessory m_accessory;
     Applications m_applications;
+    SimulatedAccessory m_accessory;
     QString m_mutexFolder;
     StartUpFile m_startUp;
     SimulatedEndpoint m_sound;

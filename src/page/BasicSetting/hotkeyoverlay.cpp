@@ -45,6 +45,11 @@ void HotkeyOverlay::showNote(const QString &function, const QString &value)
     });
 }
 
+QString HotkeyOverlay::text() const
+{
+    return QStringLiteral("%1: %2").arg(m_toast->title(), m_toast->text());
+}
+
 bool HotkeyOverlay::isShown() const
 {
     return m_toast->isVisible();

@@ -25,6 +25,9 @@ public:
 
     bool isShown() const;
 
+    /// What the last note said, as "function: value".
+    QString text() const;
+
 private:
     std::unique_ptr<DesktopToast> m_toast;
     int m_notes = 0; ///< a note does not end with the time of the one before

@@ -18,6 +18,8 @@ constexpr platform::milliseconds kWorkerEnds{150}; // a frame that is under way 
 constexpr Command kNoCommand{};                    // these options are the accessory's and never go to the monitor
 constexpr int kHighestLevel = 10;
 constexpr int kHighestBrightness = 100;
+constexpr int kUsualLevel = 5; // until the user has chosen
+constexpr int kUsualBrightness = 50;
 constexpr int kCaptionWidth = 140;
 
 constexpr char kSliders[] = "sliders";
@@ -32,9 +34,10 @@ constexpr Option kForms[] = {{LABEL("Tapering"), kTaperingForm}, {LABEL("Rectang
 const Section kSettings[] = {CustomPart{kSliders}, CustomPart{kLamp}, CustomPart{kForm}, CustomPart{kClock}};
 const PanelSpec kPanels[] = {{LABEL("System Settings"), "led_system", "pageLEDSystemPanel", kSettings}};
 
-int stored(const char *key)
+int stored(const char *key, int usual)
 {
-    return settingsInt(QLatin1String(key), 0, false);
+    const bool isStored = !settingsString(QLatin1String(key), {}, false, QLatin1String(kConfigFile)).isEmpty();
+    return isStored ? settingsInt(QLatin1String(key), 0, false) : usual;
 }
 
 } // namespace
@@ -111,8 +114,8 @@ void pageLEDSystem::showEvent(QShowEvent *event)
 void pageLEDSystem::showWhatIsSet()
 {
     const Updating updating(*this);
-    m_level->setValue(stored(kPlaybackLevelKey));
-    m_brightness->setValue(stored(kLedBrightnessKey));
+    m_level->setValue(stored(kPlaybackLevelKey, kUsualLevel));
+    m_brightness->setValue(stored(kLedBrightnessKey, kUsualBrightness));
     m_lamp->showValue(m_lampSet);
     m_form->showValue(matrixForm.load());
     m_clock->showValue(ledWorkThread::instance()->state() == ledWorkThread::ClockLoop ? 1 : 0);

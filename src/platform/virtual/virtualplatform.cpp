@@ -270,8 +270,9 @@ VirtualPlatform::VirtualPlatform(VirtualDesk &desk, Clock &clock)
       m_monitors(std::make_unique<VirtualMonitors>(desk)), m_process(std::make_unique<VirtualProcess>(desk)),
       m_startUp(std::make_unique<VirtualStartUp>(desk)),
       m_deviceNotifications(std::make_unique<VirtualNotifications>(desk)),
-      m_globalKeys(std::make_unique<VirtualGlobalKeys>(desk)), m_audio(std::make_unique<VirtualAudio>(desk.sound())),
-      m_hid(std::make_unique<VirtualHid>(desk)), m_foreground(std::make_unique<VirtualForeground>(desk.applications()))
+      m_globalKeys(std::make_unique<VirtualGlobalKeys>(desk)),
+      m_foreground(std::make_unique<VirtualForeground>(desk.applications())), m_hid(std::make_unique<VirtualHid>(desk)),
+      m_audio(std::make_unique<VirtualAudio>(desk.sound()))
 {
 }
 
@@ -307,9 +308,9 @@ GlobalKeys &VirtualPlatform::globalKeys()
     return *m_globalKeys;
 }
 
-AudioCapture &VirtualPlatform::audio()
+Foreground &VirtualPlatform::foreground()
 {
-    return *m_audio;
+    return *m_foreground;
 }
 
 Hid &VirtualPlatform::hid()
@@ -317,9 +318,9 @@ Hid &VirtualPlatform::hid()
     return *m_hid;
 }
 
-Foreground &VirtualPlatform::foreground()
+AudioCapture &VirtualPlatform::audio()
 {
-    return *m_foreground;
+    return *m_audio;
 }
 
 Clock &VirtualPlatform::clock()

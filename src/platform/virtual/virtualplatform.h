@@ -23,9 +23,9 @@ public:
     StartUp &startUp() override;
     DeviceNotifications &deviceNotifications() override;
     GlobalKeys &globalKeys() override;
-    AudioCapture &audio() override;
-    Hid &hid() override;
     Foreground &foreground() override;
+    Hid &hid() override;
+    AudioCapture &audio() override;
     Clock &clock() override;
 
     /// Starts the script's timed events.
@@ -43,9 +43,9 @@ private:
     std::unique_ptr<StartUp> m_startUp;
     std::unique_ptr<DeviceNotifications> m_deviceNotifications;
     std::unique_ptr<GlobalKeys> m_globalKeys;
-    std::unique_ptr<AudioCapture> m_audio;
-    std::unique_ptr<Hid> m_hid;
     std::unique_ptr<Foreground> m_foreground;
+    std::unique_ptr<Hid> m_hid;
+    std::unique_ptr<AudioCapture> m_audio;
 };
 
 /// The simulated desk of a process, set up by the environment, in real time. Its window opens beside the main window

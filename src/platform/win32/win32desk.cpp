@@ -24,9 +24,9 @@ public:
     StartUp &startUp() override { return m_startUp; }
     DeviceNotifications &deviceNotifications() override { return m_deviceNotifications; }
     GlobalKeys &globalKeys() override { return m_globalKeys; }
-    AudioCapture &audio() override { return m_audio; }
-    Hid &hid() override { return m_hid; }
     Foreground &foreground() override { return m_foreground; }
+    Hid &hid() override { return m_hid; }
+    AudioCapture &audio() override { return m_audio; }
     Clock &clock() override { return m_clock; }
 
 private:
@@ -36,9 +36,9 @@ private:
     Win32StartUp m_startUp;
     Win32DeviceNotifications m_deviceNotifications;
     Win32GlobalKeys m_globalKeys;
-    Win32Audio m_audio;
-    Win32Hid m_hid;
     Win32Foreground m_foreground;
+    Win32Hid m_hid;
+    Win32Audio m_audio;
     SystemClock m_clock;
 };
 

@@ -1,0 +1,268 @@
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QtTest>
+
+#include "ddc_protocol/devicestate.h"
+#include "ddc_protocol/displayenumeration.h"
+#include "following/followlist.h"
+#include "page/Following/followrow.h"
+#include "page/Following/pagescenariofollowing.h"
+#include "support/deskfixture.h"
+#include "support/textfile.h"
+
+using namespace std::chrono_literals;
+
+namespace {
+
+const QString kFile = QStringLiteral("scenceSetting.ini");
+
+enum Program : std::size_t { Game, Film, Other, Protected, Gone, Deep, SameName, OtherCase };
+
+/// The page, with its file dialog answered by the test.
+class TestedPage : public pageScenarioFollowing
+{
+public:
+    QString answer;
+
+protected:
+    QString askForProgram() override { return answer; }
+};
+
+} // namespace
+
+class TestFollowing : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void followsAndReturns();
+    void shortVisitsLeaveTheScene();
+    void baseMode_data();
+    void baseMode();
+    void programsThatCannotBeTold();
+    void otherEventsAreIgnored();
+    void changesCountWhenApplied();
+    void fileIsExact();
+    void fileNames();
+    void loading_data();
+    void loading();
+    void veryLongFile();
+    void hookLivesWithThePage();
+
+private:
+    void start(const std::vector<FollowEntry> &entries);
+    QStringList front(Program program, std::chrono::milliseconds later = 1s);
+    FollowRow *row(std::size_t index) const { return m_page->followRows()[index]; }
+    QPushButton *button(const char *name) const { return m_page->findChild<QPushButton *>(QLatin1String(name)); }
+
+    std::unique_ptr<DeskFixture> m_desk;
+    std::unique_ptr<TestedPage> m_page;
+};
+
+void TestFollowing::init()
+{
+    m_desk = std::make_unique<DeskFixture>();
+    findDevices();
+    m_desk->desk.applications().setList({{QStringLiteral("D:\\Games\\Race.exe")},
+                                         {QStringLiteral("C:\\Film\\film.exe")},
+                                         {QStringLiteral("C:\\Windows\\notes.exe")},
+                                         {QStringLiteral("C:\\Windows\\task.exe"), true},
+                                         {QStringLiteral("C:\\Windows\\gone.exe"), false, false},
+                                         {QStringLiteral("C:\\") + QString(250, QLatin1Char('d')) + "\\deep.exe"},
+                                         {QStringLiteral("E:\\Elsewhere\\Race.exe")},
+                                         {QStringLiteral("D:\\Games\\race.exe")}});
+}
+
+void TestFollowing::cleanup()
+{
+    m_page.reset();
+    QCOMPARE(m_desk->desk.applications().processesOpen(), 0);
+    deviceState.clear();
+    m_desk.reset();
+}
+
+void TestFollowing::start(const std::vector<FollowEntry> &entries)
+{
+    QVERIFY(saveFollowList(entries));
+    m_page = std::make_unique<TestedPage>();
+    m_desk->takeCommands();
+}
+
+/// Brings a program to the front some time later; what the monitor was then asked.
+QStringList TestFollowing::front(Program program, std::chrono::milliseconds later)
+{
+    m_desk->clock.advance(later);
+    m_desk->clock.takeWaits();
+    m_desk->desk.applications().bringToFront(program);
+    return m_desk->takeCommands();
+}
+
+void TestFollowing::followsAndReturns()
+{
+    start({{QStringLiteral("D:/Games/Race.exe"), 6}, {QStringLiteral("C:/Film/film.exe"), 11}});
+    QCOMPARE(front(Game), QStringList{"W 22=13"});
+    QCOMPARE(m_desk->clock.takeWaits(), QList<int>(150, 1)); // a millisecond at a time
+    QCOMPARE(front(Game), QStringList());                    // it is on already
+    QCOMPARE(m_desk->clock.takeWaits().size(), 150);         // but only known after the wait
+    QCOMPARE(front(Film), QStringList{"W 22=29"});
+    QCOMPARE(deviceState.value(Command::SceneMode), 29);
+    QCOMPARE(front(Other), QStringList{"W 22=1"});
+    QCOMPARE(m_desk->clock.takeWaits().size(), 150);
+    QCOMPARE(front(Other), QStringList());
+    QCOMPARE(m_desk->clock.takeWaits().size(), 0);
+    QCOMPARE(front(SameName), QStringList{"W 22=13"}); // folders are not told apart
+    QCOMPARE(front(OtherCase), QStringList{"W 22=1"}); // letter case is
+}
+
+void TestFollowing::shortVisitsLeaveTheScene()
+{
+    start({{QStringLiteral("D:/Games/Race.exe"), 6}});
+    front(Game);
+    QCOMPARE(front(Other, 299ms), QStringList());
+    QCOMPARE(front(Other, 1ms), QStringList{"W 22=1"}); // the next change decides
+    front(Game);
+    front(Game, 5s);
+    QCOMPARE(front(Other, 200ms), QStringList()); // each match counts, also one that wrote nothing
+}
+
+void TestFollowing::baseMode_data()
+{
+    QTest::addColumn<int>("capabilities");
+    QTest::addColumn<QString>("base");
+    QTest::newRow("plain") << 0 << "W 22=1";
+    QTest::newRow("with the extra scene") << static_cast<int>(Capability::ExtraScene) << "W 22=23";
+}
+
+void TestFollowing::baseMode()
+{
+    QFETCH(int, capabilities);
+    QFETCH(QString, base);
+    deviceState.store(Command::Capability, capabilities);
+    start({});
+    QCOMPARE(front(Other), QStringList{base}); // once, without any program in the list
+    QCOMPARE(front(Game), QStringList());
+}
+
+void TestFollowing::programsThatCannotBeTold()
+{
+    start({{QStringLiteral("C:/Windows/task.exe"), 2}});
+    for (const Program program : {Protected, Gone, Deep})
+        QCOMPARE(front(program), QStringList());
+}
+
+void TestFollowing::otherEventsAreIgnored()
+{
+    start({});
+    virtualdesk::Applications &applications = m_desk->desk.applications();
+    applications.raiseEvent(3, nullptr);
+    applications.raiseEvent(4, reinterpret_cast<void *>(0x20001));
+    QCOMPARE(m_desk->takeCommands(), QStringList());
+}
+
+void TestFollowing::changesCountWhenApplied()
+{
+    start({{QStringLiteral("D:/Games/Race.exe"), 6}});
+    row(0)->sceneBox()->setCurrentIndex(0);
+    m_page->answer = QStringLiteral("C:/Film/film.exe");
+    button("pushButtonAdd")->click();
+    m_page->updateControlText(); // as after every refresh of the window
+    QCOMPARE(front(Game), QStringList{"W 22=13"});
+    QCOMPARE(front(Film), QStringList{"W 22=1"}); // not in the list yet: the base mode
+    button("pushButtonApply")->click();
+    row(1)->trashButton()->click();
+    QCOMPARE(front(Other), QStringList());
+    QCOMPARE(m_page->followRows().size(), std::size_t(1));
+    QCOMPARE(loadFollowList().size(), std::size_t(2)); // until it is applied
+    button("pushButtonApply")->click();
+    QCOMPARE(loadFollowList(), (std::vector<FollowEntry>{{QStringLiteral("D:/Games/Race.exe"), 0}}));
+}
+
+void TestFollowing::fileIsExact()
+{
+    const QByteArray text = "[My%20Film.exe]\nappPath=C:/Film/My Film.exe\nappScence=11\n\n"
+                            "[Race.exe]\nappPath=D:/Games/Race.exe\nappScence=0\n";
+    writeText(kFile, text);
+    m_page = std::make_unique<TestedPage>();
+    QCOMPARE(m_page->followRows().size(), std::size_t(2));
+    QCOMPARE(readText(kFile), text);
+}
+
+void TestFollowing::fileNames()
+{
+    const std::vector<FollowEntry> entries = {{QStringLiteral("C:/a b/.hidden.tar.gz"), 1},
+                                              {QStringLiteral("/opt/100%, [x]=y;z.exe"), 2},
+                                              {QStringLiteral("C:/Race.exe"), 3},
+                                              {QStringLiteral("C:/race.exe"), 4},
+                                              {QStringLiteral("C:/映画 é.exe"), 5},
+                                              {QStringLiteral("C:/General"), 6},
+                                              {QStringLiteral("C:/@At.exe"), 7}};
+    start(entries);
+    QCOMPARE(m_page->followRows().size(), entries.size());
+    for (const FollowEntry &entry : loadFollowList())
+        QVERIFY2(std::find(entries.begin(), entries.end(), entry) != entries.end(), qPrintable(entry.path));
+    m_page->answer = QStringLiteral("D:/other/Race.exe");
+    button("pushButtonAdd")->click();
+    QCOMPARE(m_page->followRows().size(), entries.size());
+    QVERIFY(m_page->notice().contains(QStringLiteral("Race.exe")));
+}
+
+void TestFollowing::loading_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QStringList>("rows"); // path and scene that is shown
+    QTest::newRow("nothing") << QByteArray() << QStringList();
+    QTest::newRow("missing keys") << QByteArray("[a.exe]\nappScence=3\n[b.exe]\nappPath=C:/b.exe\n")
+                                  << QStringList{"C:/b.exe 0"};
+    QTest::newRow("no such scene") << QByteArray("[a.exe]\nappPath=C:/a.exe\nappScence=12\n"
+                                                 "[b.exe]\nappPath=C:/b.exe\nappScence=-1\n"
+                                                 "[c.exe]\nappPath=C:/c.exe\nappScence=x\n")
+                                   << QStringList{"C:/a.exe 0", "C:/b.exe 0", "C:/c.exe 0"};
+    QTest::newRow("comma without quotes")
+        << QByteArray("[a.exe]\nappPath=C:/x, y/a.exe\nappScence=1\n") << QStringList{"C:/x, y/a.exe 1"};
+    QTest::newRow("two groups, one file")
+        << QByteArray("[a]\nappPath=C:/a.exe\n[b]\nappPath=D:/a.exe\n") << QStringList{"C:/a.exe 0"};
+    QTest::newRow("a folder") << QByteArray("[a]\nappPath=C:/\n[b]\nappPath=\n") << QStringList();
+    QTest::newRow("another program's file") << QByteArray("<html>\n\1\2\3\n[a]\nx=1\n") << QStringList();
+}
+
+void TestFollowing::loading()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QStringList, rows);
+    writeText(kFile, text);
+    m_page = std::make_unique<TestedPage>();
+    QStringList shown;
+    for (const FollowRow *each : m_page->followRows())
+        shown.append(QStringLiteral("%1 %2").arg(each->path()).arg(each->sceneBox()->currentIndex()));
+    QCOMPARE(shown, rows);
+}
+
+void TestFollowing::veryLongFile()
+{
+    QByteArray text;
+    for (int i = 0; i < 34000; ++i) {
+        const QByteArray name = "p" + QByteArray::number(i) + ".exe";
+        text += "[" + name + "]\nappPath=C:/" + name + "\nappScence=5\n";
+    }
+    text += "[zz.exe]\nappPath=D:/Games/Race.exe\nappScence=6\n";
+    writeText(kFile, text);
+    m_page = std::make_unique<TestedPage>();
+    QVERIFY(m_page->followRows().size() < 1000); // nobody scrolls through more
+    QVERIFY(!m_page->notice().isEmpty());
+    QCOMPARE(loadFollowList().size(), std::size_t(34001)); // none is lost
+    QCOMPARE(front(Game), QStringList{"W 22=13"});         // and each is followed
+}
+
+void TestFollowing::hookLivesWithThePage()
+{
+    start({});
+    QVERIFY(m_desk->desk.applications().isHooked());
+    m_page.reset();
+    QVERIFY(!m_desk->desk.applications().isHooked());
+    QCOMPARE(front(Other), QStringList());
+}
+
+QTEST_MAIN(TestFollowing)
+#include "tst_following.moc"

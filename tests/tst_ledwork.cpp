@@ -1,0 +1,430 @@
+#include <thread>
+
+#include <QDeadlineTimer>
+#include <QFile>
+#include <QPushButton>
+#include <QSemaphore>
+#include <QtTest>
+
+#include "controls/sliderwidget.h"
+#include "ddc_protocol/commandqueue.h"
+#include "ddc_protocol/settingsstore.h"
+#include "ledmatrix/matrixform.h"
+#include "ledmatrix/matrixgeometry.h"
+#include "page/Nightloom/dateled.h"
+#include "page/Nightloom/ledframesource.h"
+#include "page/Nightloom/ledworkthread.h"
+#include "page/Nightloom/matrixformsetting.h"
+#include "page/Nightloom/pageledsystem.h"
+#include "page/engine/optiongrouprow.h"
+#include "support/deskfixture.h"
+#include "usb-hid/hidtransport.h"
+#include "virtualdesk/accessorypanel.h"
+#include "virtualdesk/matrixview.h"
+
+using virtualdesk::AccessoryPanel;
+using virtualdesk::kForEver;
+
+namespace {
+
+/// A music page that lights as many cells as its first level says.
+class Source : public LedFrameSource, public AudioVisual
+{
+public:
+    AudioVisual *audioVisual() override { return hasVisual ? this : nullptr; }
+    void frameSent() override { ++sent; }
+    void clear() override { m_cells.assign(static_cast<std::size_t>(matrixCells(matrixForm)), 0); }
+    void setLevels(const std::vector<std::int32_t> &levels) override
+    {
+        ++built;
+        drawn = levels.empty() ? 0 : levels.front();
+        std::fill_n(m_cells.begin(), std::min<std::size_t>(m_cells.size(), static_cast<std::size_t>(drawn)), 1);
+    }
+    std::span<const std::int32_t> frame() const override { return m_cells; }
+
+    bool hasVisual = true;
+    std::atomic<int> built = 0, sent = 0, drawn = 0;
+
+private:
+    std::vector<std::int32_t> m_cells;
+};
+
+/// What a renderer lit, as its grid of dots: seven lines of 21.
+QStringList dots(const ClockRenderer &renderer, int form)
+{
+    MatrixFrame frame(form);
+    frame.setFlat(renderer.frame());
+    QStringList lines;
+    for (int y = 0; y < 7; ++y) {
+        QString line;
+        for (int x = 0; x < 21; ++x) {
+            const int row = form == kTaperingForm ? 2 * y : 5 + 2 * y;
+            const int column = form == kTaperingForm ? x + 2 - matrixRowShift(form, row) / 2 : 2 * x;
+            line += QLatin1Char(frame.contains(row, column) && frame.cell(row, column) == 1 ? '#' : '.');
+        }
+        lines.append(line);
+    }
+    return lines;
+}
+
+} // namespace
+
+class TestLedWork : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void clockDigits_data();
+    void clockDigits();
+    void colonBlinks();
+    void clockStopsWithinOnePass();
+    void clockStoppedBeforeItBegan();
+    void clockOfNoFormSendsNothing();
+    void spectrum();
+    void spectrumWithoutSource();
+    void noRequestIsLost();
+    void textUploadEndsTheClock();
+    void shutDownEndsAnUpload();
+    void settingsAreSentAndStored();
+    void lampStopsTheLiveDisplay();
+    void withoutDeviceNothingHappens();
+    void writeErrorsAreLogged();
+    void clockSwitch();
+    void formIsChosenAndLoaded();
+    void panelShowsTheAccessory();
+
+private:
+    virtualdesk::SimulatedAccessory &accessory() { return m_desk->desk.accessory(); }
+    void makePage();
+    void release(SliderWidget *slider, int value);
+    QList<QByteArray> takeWrites();
+
+    std::unique_ptr<DeskFixture> m_desk;
+    std::unique_ptr<CommandQueue> m_queue;
+    std::unique_ptr<pageLEDSystem> m_page;
+    ledWorkThread *m_worker = nullptr;
+    bool m_connected = true;
+};
+
+void TestLedWork::init()
+{
+    m_desk = std::make_unique<DeskFixture>();
+    m_worker = ledWorkThread::instance();
+    m_connected = true;
+    reopenHid();
+    m_desk->takeLog();
+}
+
+void TestLedWork::cleanup()
+{
+    ledWorkThread::shutDown();
+    m_worker->setSource(nullptr);
+    m_page.reset();
+    m_queue.reset();
+    const int faults = accessory().protocolFaults() + accessory().handleFaults();
+    m_desk.reset();
+    QCOMPARE(faults, 0);
+}
+
+void TestLedWork::clockDigits_data()
+{
+    QTest::addColumn<int>("form");
+    QTest::newRow("tapering") << kTaperingForm;
+    QTest::newRow("rectangle") << kRectangleForm;
+}
+
+void TestLedWork::clockDigits()
+{
+    QFETCH(int, form);
+    const auto renderer = makeClockRenderer(form);
+    renderer->render(QTime(23, 47, 10));
+    QCOMPARE(int(renderer->frame().size()), matrixCells(form));
+    const QStringList expected = {
+        ".##...##......#..####", //
+        "#..#.#..#....##.....#", //
+        "...#....#.#.#.#.....#", //
+        "..#...##....#.#....#.", //
+        ".#......#.#.####...#.", //
+        "#....#..#.....#...#..", //
+        "####..##......#...#..", //
+    };
+    QCOMPARE(dots(*renderer, form).join('\n'), expected.join('\n'));
+}
+
+void TestLedWork::colonBlinks()
+{
+    const auto lit = [](int msec) {
+        DateLedRect renderer;
+        renderer.render(QTime(11, 11, 59, msec));
+        return std::count(renderer.frame().begin(), renderer.frame().end(), 1);
+    };
+    QCOMPARE(lit(499) - lit(500), 8);
+    QCOMPARE(lit(0), lit(499));
+    QCOMPARE(lit(500), lit(999));
+}
+
+void TestLedWork::clockStopsWithinOnePass()
+{
+    m_desk->clock.setNow(QDateTime(QDate(2024, 3, 9), QTime(12, 34)));
+    const int listener = accessory().addListener([this] {
+        if (accessory().state().liveFrames == 3)
+            m_worker->stop();
+    });
+    m_worker->begin(ledWorkThread::ClockLoop);
+    QVERIFY(m_worker->wait(10000));
+    accessory().removeListener(listener);
+    QCOMPARE(accessory().state().liveFrames, 3);
+    QCOMPARE(m_desk->clock.takeWaits(), (QList<int>{500, 500, 500}));
+    QCOMPARE(m_worker->minute(), 34);
+    QCOMPARE(m_worker->state(), ledWorkThread::Stopped);
+}
+
+void TestLedWork::clockStoppedBeforeItBegan()
+{
+    for (int i = 0; i < 200; ++i) {
+        m_worker->begin(ledWorkThread::ClockLoop);
+        m_worker->stop();
+        QVERIFY(m_worker->wait(10000));
+    }
+}
+
+void TestLedWork::clockOfNoFormSendsNothing()
+{
+    matrixForm = 7;
+    m_worker->begin(ledWorkThread::ClockLoop);
+    qsizetype waits = 0; // it goes on, should the form be set right
+    while (waits < 3)
+        waits += m_desk->clock.takeWaits().size();
+    m_worker->stop();
+    QVERIFY(m_worker->wait(10000));
+    QCOMPARE(accessory().history().size(), 0u);
+}
+
+void TestLedWork::spectrum()
+{
+    Source source;
+    QSignalSpy built(m_worker, &ledWorkThread::frameBuilt);
+    m_worker->setSource(&source);
+    m_worker->setLevels({40, 1, 2});
+    m_worker->begin(ledWorkThread::BuildSpectrum);
+    QTRY_COMPARE(built.count(), 1);
+    QCOMPARE(built.first().first().toInt(), 0);
+    QCOMPARE(accessory().history().size(), 0u);
+    m_worker->begin(ledWorkThread::SendSpectrum);
+    QTRY_COMPARE(source.sent.load(), 1);
+    const auto cells = accessory().state().liveCells;
+    QCOMPARE(int(std::count(cells.begin(), cells.end(), 1)), 40);
+    m_worker->setSource(nullptr);
+}
+
+void TestLedWork::spectrumWithoutSource()
+{
+    QSignalSpy built(m_worker, &ledWorkThread::frameBuilt);
+    Source source;
+    source.hasVisual = false; // as for a form that is none
+    for (LedFrameSource *each : {static_cast<LedFrameSource *>(nullptr), static_cast<LedFrameSource *>(&source)}) {
+        m_worker->setSource(each);
+        m_worker->begin(ledWorkThread::BuildSpectrum);
+        m_worker->begin(ledWorkThread::SendSpectrum);
+        QVERIFY(m_worker->wait(10000));
+    }
+    m_worker->setSource(nullptr);
+    QCoreApplication::processEvents();
+    QCOMPARE(built.count(), 0);
+    QCOMPARE(source.sent.load(), 0);
+    QCOMPARE(accessory().history().size(), 0u);
+}
+
+void TestLedWork::noRequestIsLost()
+{
+    Source source;
+    m_worker->setSource(&source);
+    for (int i = 1; i <= 3000; ++i) {
+        m_worker->setLevels({i});
+        m_worker->begin(ledWorkThread::BuildSpectrum); // while it works, on its way out, or not at all
+        const QDeadlineTimer patience(10000);
+        while (i % 3 == 0 && source.drawn != i && !patience.hasExpired())
+            std::this_thread::yield();
+    }
+    QVERIFY(m_worker->wait(10000));
+    QCOMPARE(source.drawn.load(), 3000);
+    m_worker->setSource(nullptr);
+}
+
+void TestLedWork::textUploadEndsTheClock()
+{
+    QFile file{QLatin1String(ledWorkThread::kTextFile)};
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(QByteArray(949, '1'));
+    file.close();
+    QSignalSpy progress(m_worker, &ledWorkThread::progress);
+    m_worker->begin(ledWorkThread::ClockLoop);
+    QTRY_VERIFY(accessory().state().liveFrames > 0);
+    m_worker->begin(ledWorkThread::UploadText);
+    QVERIFY(m_worker->wait(10000));
+    QCoreApplication::processEvents();
+    QVERIFY(accessory().state().upload.isComplete());
+    QCOMPARE(accessory().state().upload.mode, 0x2F);
+    QCOMPARE(progress.at(24).first().toInt(), 100); // the device is prepared
+    QCOMPARE(progress.last().first().toInt(), 100);
+}
+
+void TestLedWork::shutDownEndsAnUpload()
+{
+    QFile file{QLatin1String(ledWorkThread::kTextFile)};
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(QByteArray(56 * 13930, '1'));
+    file.close();
+    QSemaphore begun;
+    const int listener = accessory().addListener([this, &begun] {
+        if (accessory().state().upload.received == 5)
+            begun.release();
+    });
+    m_worker->begin(ledWorkThread::UploadText);
+    QVERIFY(begun.tryAcquire(1, 10000));
+    ledWorkThread::shutDown();
+    accessory().removeListener(listener);
+    QVERIFY(m_worker->isFinished());
+    QVERIFY(!accessory().state().upload.isComplete());
+}
+
+void TestLedWork::makePage()
+{
+    m_queue = std::make_unique<CommandQueue>();
+    m_page = std::make_unique<pageLEDSystem>([this] { return m_connected; }, *m_queue);
+    m_desk->clock.takeWaits();
+}
+
+void TestLedWork::release(SliderWidget *slider, int value)
+{
+    slider->setValue(value);
+    slider->onSliderReleased();
+}
+
+QList<QByteArray> TestLedWork::takeWrites()
+{
+    QList<QByteArray> writes;
+    for (const auto &write : accessory().history())
+        writes.append(write.bytes.toHex());
+    accessory().clearHistory();
+    return writes;
+}
+
+void TestLedWork::settingsAreSentAndStored()
+{
+    makePage();
+    m_page->levelSlider()->setValue(7);
+    QCOMPARE(takeWrites(), QList<QByteArray>()); // it is still being dragged
+    release(m_page->levelSlider(), 8);
+    release(m_page->brightnessSlider(), 90);
+    QCOMPARE(m_desk->clock.takeWaits(), (QList<int>{150, 150}));
+    QCOMPARE(accessory().state().level, 8);
+    QCOMPARE(accessory().state().brightness, 90);
+    QCOMPARE(takeWrites().size(), 2);
+    QCOMPARE(settingsInt(QLatin1String(kPlaybackLevelKey), 0, false), 8);
+    QCOMPARE(settingsInt(QLatin1String(kLedBrightnessKey), 0, false), 90);
+    makePage();
+    QCOMPARE(m_page->levelSlider()->value(), 8);
+    m_page->updateInterfaceData();
+    QCOMPARE(takeWrites(), QList<QByteArray>()); // filling sends nothing
+}
+
+void TestLedWork::lampStopsTheLiveDisplay()
+{
+    makePage();
+    m_worker->begin(ledWorkThread::ClockLoop);
+    QTRY_VERIFY(accessory().state().showsLive);
+    m_page->lampOptions()->buttonOf(0)->click();
+    QVERIFY(m_worker->wait(10000));
+    QList<QByteArray> writes = takeWrites();
+    writes.removeIf([](const QByteArray &write) { return write.startsWith("01e000"); });
+    QCOMPARE(writes, (QList<QByteArray>{"01e001b089", "01d00400f972"}));
+    QVERIFY(m_page->lampOptions()->buttonOf(0)->isChecked());
+    m_page->lampOptions()->buttonOf(1)->click();
+    QCOMPARE(accessory().state().lamp, 1);
+}
+
+void TestLedWork::withoutDeviceNothingHappens()
+{
+    makePage();
+    m_connected = false;
+    release(m_page->levelSlider(), 9);
+    m_page->lampOptions()->buttonOf(1)->click();
+    m_page->clockOptions()->buttonOf(1)->click();
+    QCOMPARE(takeWrites(), QList<QByteArray>());
+    QCOMPARE(m_desk->clock.takeWaits(), QList<int>());
+    QCOMPARE(m_page->levelSlider()->value(), 5); // as it was
+    QVERIFY(!m_page->lampOptions()->buttonOf(1)->isChecked());
+    QVERIFY(m_page->clockOptions()->buttonOf(0)->isChecked());
+    QVERIFY(!QFile::exists(QLatin1String(kConfigFile)));
+}
+
+void TestLedWork::writeErrorsAreLogged()
+{
+    makePage();
+    accessory().refuseWrites(kForEver);
+    m_page->lampOptions()->buttonOf(1)->click();
+    QCOMPARE(m_desk->takeLog(), (QStringList{"HID write error.", "HID write error."}));
+    closeHid();
+    m_page->lampOptions()->buttonOf(0)->click();
+    QCOMPARE(m_desk->takeLog(), QStringList());
+}
+
+void TestLedWork::clockSwitch()
+{
+    makePage();
+    m_page->clockOptions()->buttonOf(1)->click();
+    QTRY_VERIFY(accessory().state().liveFrames > 2);
+    QVERIFY(m_page->clockOptions()->buttonOf(1)->isChecked());
+    m_page->clockOptions()->buttonOf(0)->click();
+    QVERIFY(m_worker->wait(10000));
+    QVERIFY(m_page->clockOptions()->buttonOf(0)->isChecked());
+}
+
+void TestLedWork::formIsChosenAndLoaded()
+{
+    makePage();
+    m_page->formOptions()->buttonOf(1)->click();
+    QCOMPARE(matrixForm.load(), 1);
+    for (const auto &[stored, loaded] : {std::pair{0, 0}, {1, 1}, {2, 0}, {-1, 0}}) {
+        settingsInt(QLatin1String(kMatrixFormKey), stored, true);
+        loadMatrixForm();
+        QCOMPARE(matrixForm.load(), loaded);
+    }
+}
+
+void TestLedWork::panelShowsTheAccessory()
+{
+    AccessoryPanel panel(m_desk->desk);
+    panel.show();
+    QCOMPARE(panel.matrix()->litCells(), 0);
+    const auto button = [&panel](const char *name) { return panel.findChild<QPushButton *>(QLatin1String(name)); };
+    accessory().setForm(1);
+    matrixForm = 1;
+    m_worker->sendData(std::vector<std::int32_t>(1050, 1));
+    QTRY_COMPARE(panel.matrix()->litCells(), 1050);
+    QVERIFY(button("form")->isChecked());
+    button("unplug")->click();
+    QVERIFY(!accessory().isPlugged());
+    QTRY_COMPARE(panel.matrix()->litCells(), 0);
+    button("unplug")->click();
+    clearHidFlags();
+    reopenHid();
+    button("refuse")->click();
+    AccessoryReport report;
+    buildLiveStop(report);
+    QCOMPARE(writeHid(report), HidWrite::Failed);
+    button("refuse")->click();
+    clearHidFlags();
+    reopenHid();
+    button("pull")->click();
+    for (int i = 1; i <= 8; ++i)
+        QCOMPARE(writeHid(report), i < 8 ? HidWrite::Done : HidWrite::Failed);
+    QTRY_VERIFY(button("unplug")->isChecked());
+    QVERIFY(!button("pull")->isChecked());
+    QCOMPARE(panel.values().size(), 8);
+}
+
+QTEST_MAIN(TestLedWork)
+#include "tst_ledwork.moc"

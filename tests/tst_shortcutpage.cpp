@@ -1,0 +1,362 @@
+#include <QComboBox>
+#include <QLabel>
+#include <QProcess>
+#include <QPushButton>
+#include <QtTest>
+
+#include "controls/zelmardialog.h"
+#include "controls/zelmarkeysequenceedit.h"
+#include "ddc_protocol/devicestate.h"
+#include "ddc_protocol/displayenumeration.h"
+#include "page/BasicSetting/hotkeyoverlay.h"
+#include "page/BasicSetting/pageshortcutkey.h"
+#include "page/BasicSetting/shortcutrow.h"
+#include "platform/nativemessage.h"
+#include "shortcut/shortcutlist.h"
+#include "support/deskfixture.h"
+#include "support/textfile.h"
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr std::uint32_t kControl = platform::kModifierControl;
+constexpr std::uint32_t kAlt = platform::kModifierAlt;
+const QString kFile = QStringLiteral("basicMode.ini");
+const char *const kSaverArgument = "--save-again-and-again";
+
+/// Answers the dialog at once and counts how often it was shown.
+class TestedPage : public pageShortcutKey
+{
+public:
+    int conflicts = 0;
+
+protected:
+    void showConflict() override { ++conflicts; }
+};
+
+/// Two lists of different lengths, so that a half-written one is neither.
+ShortcutList listOf(int length)
+{
+    ShortcutList list;
+    for (int function = 0; function < length; ++function)
+        list.entries.push_back({function, true, QStringLiteral("Ctrl+%1").arg(function % 10), QStringLiteral("Alt+Q")});
+    return list;
+}
+
+} // namespace
+
+/// Saves for ever; what the test kills.
+int saveAgainAndAgain()
+{
+    for (int i = 0; i < 1000000; ++i) {
+        if (!saveShortcuts(listOf(i % 2 == 0 ? 24 : 3)))
+            return 1;
+        if (i == 0)
+            puts("saving");
+        fflush(stdout);
+    }
+    return 0;
+}
+
+class TestShortcutPage : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void roundTripIsExact();
+    void loading_data();
+    void loading();
+    void keysReachTheMonitor();
+    void rowSwitchGivesKeysBack();
+    void masterSwitchRestsAllKeys();
+    void conflictEmptiesTheField();
+    void refusedKeysAreShown();
+    void twoRowsChangeKeys();
+    void addAndDelete();
+    void otherMonitorsRowsAreKept();
+    void fieldSaysWhyNot();
+    void unwritableFile();
+    void killedWhileSaving();
+    void overlay();
+
+private:
+    void start();
+    ShortcutRow *row(std::size_t index) const { return m_page->shortcutRows()[index]; }
+    QPushButton *button(const char *name) const { return m_page->findChild<QPushButton *>(QLatin1String(name)); }
+    QStringList press(std::uint32_t modifiers, char key);
+
+    std::unique_ptr<DeskFixture> m_desk;
+    std::unique_ptr<TestedPage> m_page;
+};
+
+void TestShortcutPage::init()
+{
+    m_desk = std::make_unique<DeskFixture>();
+    findDevices();
+    deviceState.store(Command::Capability, static_cast<int>(Capability::GameFunctions));
+}
+
+void TestShortcutPage::cleanup()
+{
+    m_page.reset();
+    deviceState.clear();
+    m_desk.reset();
+}
+
+void TestShortcutPage::start()
+{
+    m_page = std::make_unique<TestedPage>();
+    m_desk->clock.advance(200ms);
+}
+
+QStringList TestShortcutPage::press(std::uint32_t modifiers, char key)
+{
+    m_desk->takeCommands();
+    m_desk->desk.pressKey(modifiers, static_cast<std::uint32_t>(key));
+    m_desk->clock.advance(200ms);
+    return m_desk->takeCommands();
+}
+
+void TestShortcutPage::roundTripIsExact()
+{
+    const QByteArray text = "[12]\nplusKey=Ctrl+B\nsubKey=Ctrl+Alt+5\nswitchStatus=on\n\n"
+                            "[29]\nplusKey=\nsubKey=Alt+Q\nswitchStatus=off\n\n"
+                            "[basicMode]\nswitchStatus=off\n";
+    writeText(kFile, text);
+    start();
+    QCOMPARE(readText(kFile), text); // the page has stored it once by now
+    QCOMPARE(m_page->shortcutRows().size(), std::size_t(2));
+    QVERIFY(!m_page->isMasterOn());
+    QVERIFY(row(0)->plusEdit()->isEnabled());
+    QVERIFY(!row(1)->minusEdit()->isEnabled());
+}
+
+void TestShortcutPage::loading_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QList<int>>("functions");
+    QTest::addColumn<int>("keys"); // registered afterwards
+    const auto many = [] {
+        QByteArray lines = "[3]\nplusKey=Ctrl+3\nswitchStatus=on\n";
+        for (int i = 100; i < 50100; ++i)
+            lines += "[" + QByteArray::number(i) + "]\nswitchStatus=on\n";
+        return lines;
+    };
+    QTest::newRow("no file") << QByteArray() << QList<int>() << 0;
+    QTest::newRow("unknown numbers") << QByteArray(
+                                            "[30]\nswitchStatus=on\n[-1]\nswitchStatus=on\n[x]\nswitchStatus=on\n"
+                                            "[07]\nswitchStatus=on\n")
+                                     << QList<int>() << 0;
+    QTest::newRow("missing keys") << QByteArray("[1]\nswitchStatus=on\n[2]\nplusKey=Ctrl+2\n") << QList<int>{1} << 0;
+    QTest::newRow("switch in other case") << QByteArray("[1]\nplusKey=Ctrl+1\nswitchStatus=ON\n") << QList<int>{1} << 0;
+    QTest::newRow("no keys at all") << QByteArray("[1]\nplusKey=Ctrl+Bogus\nsubKey=,,,\nswitchStatus=on\n")
+                                    << QList<int>{1} << 0;
+    QTest::newRow("several combinations")
+        << QByteArray("[1]\nplusKey=\"Ctrl+A, Ctrl+B\"\nswitchStatus=on\n") << QList<int>{1} << 1;
+    QTest::newRow("same key twice")
+        << QByteArray("[1]\nplusKey=Ctrl+1\nswitchStatus=on\n[2]\nplusKey=Ctrl+1\nsubKey=Ctrl+2\nswitchStatus=on\n")
+        << QList<int>{1, 2} << 2;
+    QTest::newRow("in list order") << QByteArray("[9]\nswitchStatus=on\n[10]\nswitchStatus=on\n[2]\nswitchStatus=off\n")
+                                   << QList<int>{2, 9, 10} << 0;
+    QTest::newRow("another program's file") << QByteArray("\x7f"
+                                                          "ELF\0\0\1\2\3\n<html>\n{ }\n",
+                                                          24)
+                                            << QList<int>() << 0;
+    QTest::newRow("very long") << many() << QList<int>{3} << 1;
+}
+
+void TestShortcutPage::loading()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QList<int>, functions);
+    QFETCH(int, keys);
+    if (!text.isEmpty())
+        writeText(kFile, text);
+    start();
+    QList<int> shown;
+    for (const ShortcutRow *each : m_page->shortcutRows())
+        shown.append(each->function());
+    QCOMPARE(shown, functions);
+    QCOMPARE(m_desk->desk.hotKeys().count(), std::size_t(keys));
+}
+
+void TestShortcutPage::keysReachTheMonitor()
+{
+    m_desk->monitor().setValue(0x10, 95);
+    saveShortcuts({true, {{12, true, QStringLiteral("Ctrl+B"), QStringLiteral("Alt+B")}}});
+    start();
+    QCOMPARE(press(kControl, 'B'), (QStringList{"R 10", "W 10=100"}));
+    QCOMPARE(press(kAlt, 'B'), (QStringList{"R 10", "W 10=90"}));
+    m_desk->desk.pressKey(kAlt, 'B');
+    m_desk->desk.pressKey(kAlt, 'B'); // within 200 ms
+    QCOMPARE(m_desk->takeCommands(), (QStringList{"R 10", "W 10=80"}));
+    QCOMPARE(deviceState.value(Command::Brightness), 80);
+}
+
+void TestShortcutPage::rowSwitchGivesKeysBack()
+{
+    saveShortcuts({true, {{1, true, QStringLiteral("Ctrl+1"), QStringLiteral("Ctrl+2")}}});
+    start();
+    QCOMPARE(m_desk->desk.hotKeys().count(), std::size_t(2));
+    row(0)->switchButton()->click();
+    QCOMPARE(m_desk->desk.hotKeys().count(), std::size_t(0));
+    QVERIFY(!row(0)->plusEdit()->isEnabled());
+    QCOMPARE(row(0)->plusEdit()->text(), QStringLiteral("Ctrl+1"));
+    QVERIFY(readText(kFile).contains("switchStatus=off"));
+    row(0)->switchButton()->click();
+    QCOMPARE(press(kControl, '2'), QStringList{"W 22=4"});
+}
+
+void TestShortcutPage::masterSwitchRestsAllKeys()
+{
+    saveShortcuts({true, {{1, true, QStringLiteral("Ctrl+1"), {}}}});
+    start();
+    button("pushButton")->click();
+    QVERIFY(readText(kFile).contains("[basicMode]\nswitchStatus=off"));
+    QCOMPARE(press(kControl, '1'), QStringList());
+    QVERIFY(!m_page->notice().isEmpty());
+    button("pushButton")->click();
+    QCOMPARE(press(kControl, '1'), QStringList{"W 22=3"});
+}
+
+void TestShortcutPage::conflictEmptiesTheField()
+{
+    saveShortcuts({true, {{1, true, QStringLiteral("Ctrl+1"), {}}, {2, true, {}, {}}}});
+    start();
+    QTest::keyClick(row(1)->minusEdit(), Qt::Key_1, Qt::ControlModifier);
+    QCOMPARE(m_page->conflicts, 1);
+    QCOMPARE(row(1)->minusEdit()->text(), QString());
+    QCOMPARE(row(0)->plusEdit()->text(), QStringLiteral("Ctrl+1"));
+    QTest::keyClick(row(1)->minusEdit(), Qt::Key_1, Qt::ControlModifier | Qt::ShiftModifier); // another combination
+    QTest::keyClick(row(0)->plusEdit(), Qt::Key_1, Qt::ControlModifier);                      // its own is no conflict
+    QTest::keyClick(row(0)->minusEdit(), Qt::Key_Backspace);                                  // nor are empty fields
+    QCOMPARE(m_page->conflicts, 1);
+}
+
+void TestShortcutPage::refusedKeysAreShown()
+{
+    m_desk->desk.hotKeys().take(kControl, 'K');
+    saveShortcuts({true, {{1, true, QStringLiteral("Ctrl+K"), QStringLiteral("Ctrl+L")}}});
+    start();
+    QVERIFY(row(0)->isTaken(0));
+    QVERIFY(!row(0)->isTaken(1));
+    const auto *problem = row(0)->findChild<QLabel *>(QStringLiteral("problem"));
+    QVERIFY(!problem->isHidden());
+    QVERIFY(problem->text().contains(QStringLiteral("Ctrl+K")));
+    QTest::keyClick(row(0)->plusEdit(), Qt::Key_J, Qt::ControlModifier);
+    button("pushButtonAppli")->click();
+    QVERIFY(problem->isHidden());
+    QCOMPARE(press(kControl, 'J'), QStringList{"W 22=3"});
+}
+
+void TestShortcutPage::twoRowsChangeKeys()
+{
+    saveShortcuts({true, {{1, true, QStringLiteral("Ctrl+1"), {}}, {2, true, QStringLiteral("Ctrl+2"), {}}}});
+    start();
+    QTest::keyClick(row(0)->plusEdit(), Qt::Key_Backspace);
+    QTest::keyClick(row(1)->plusEdit(), Qt::Key_1, Qt::ControlModifier);
+    QTest::keyClick(row(0)->plusEdit(), Qt::Key_2, Qt::ControlModifier);
+    QCOMPARE(press(kControl, '1'), QStringList{"W 22=3"}); // not before it is applied
+    button("pushButtonAppli")->click();
+    QCOMPARE(press(kControl, '1'), QStringList{"W 22=5"});
+    QCOMPARE(press(kControl, '2'), QStringList{"W 22=3"});
+}
+
+void TestShortcutPage::addAndDelete()
+{
+    start();
+    m_page->functionBox()->setCurrentIndex(12);
+    button("pushButton_2")->click();
+    button("pushButton_2")->click(); // a function has one row
+    QCOMPARE(m_page->shortcutRows().size(), std::size_t(1));
+    QTest::keyClick(row(0)->plusEdit(), Qt::Key_B, Qt::ControlModifier);
+    button("pushButtonAppli")->click();
+    QCOMPARE(loadShortcuts().entries, (std::vector<ShortcutEntry>{{12, true, QStringLiteral("Ctrl+B"), {}}}));
+    row(0)->trashButton()->click();
+    QCOMPARE(m_desk->desk.hotKeys().count(), std::size_t(0));
+    button("pushButton_2")->click(); // it may come again
+    QCOMPARE(m_page->shortcutRows().size(), std::size_t(1));
+    QVERIFY(row(0)->plusEdit()->text().isEmpty());
+}
+
+void TestShortcutPage::otherMonitorsRowsAreKept()
+{
+    const ShortcutEntry game{26, true, QStringLiteral("Ctrl+G"), {}};
+    saveShortcuts({true, {{1, true, {}, {}}, game}});
+    deviceState.store(Command::Capability, 0);
+    start();
+    QCOMPARE(m_page->functionBox()->count(), 24);
+    QCOMPARE(m_page->shortcutRows().size(), std::size_t(1));
+    QCOMPARE(m_desk->desk.hotKeys().count(), std::size_t(0));
+    button("pushButtonAppli")->click();
+    QCOMPARE(loadShortcuts().entries.back(), game);
+}
+
+void TestShortcutPage::fieldSaysWhyNot()
+{
+    saveShortcuts({true, {{1, true, {}, {}}}});
+    start();
+    QTest::keyClick(row(0)->plusEdit(), Qt::Key_Control, Qt::ControlModifier); // only the beginning of one
+    QVERIFY(m_page->notice().isEmpty());
+    QTest::keyClick(row(0)->plusEdit(), Qt::Key_A, Qt::ShiftModifier);
+    const QString noModifier = m_page->notice();
+    QVERIFY(!noModifier.isEmpty());
+    QTest::keyClick(row(0)->plusEdit(), Qt::Key_5, Qt::ControlModifier | Qt::KeypadModifier);
+    QVERIFY(!m_page->notice().isEmpty() && m_page->notice() != noModifier);
+    QVERIFY(row(0)->plusEdit()->text().isEmpty());
+}
+
+void TestShortcutPage::unwritableFile()
+{
+    start();
+    QVERIFY(QDir().mkdir(kFile + QStringLiteral(".d"))); // a folder under the file's name takes no settings
+    QFile::remove(kFile);
+    QVERIFY(QDir().rename(kFile + QStringLiteral(".d"), kFile));
+    m_page->functionBox()->setCurrentIndex(2);
+    button("pushButton_2")->click();
+    button("pushButtonAppli")->click();
+    QVERIFY(m_page->notice().contains(kFile));
+    QCOMPARE(m_page->shortcutRows().size(), std::size_t(1)); // nothing of what is shown is lost
+}
+
+void TestShortcutPage::killedWhileSaving()
+{
+    for (int round = 0; round < 12; ++round) {
+        QProcess saver;
+        saver.start(QCoreApplication::applicationFilePath(), {QLatin1String(kSaverArgument)});
+        QVERIFY(saver.waitForReadyRead());
+        saver.waitForFinished(round); // let it save on for some milliseconds
+        saver.kill();
+        QVERIFY(saver.waitForFinished());
+        const ShortcutList list = loadShortcuts();
+        QVERIFY(list == listOf(24) || list == listOf(3));
+    }
+}
+
+void TestShortcutPage::overlay()
+{
+    HotkeyOverlay overlay;
+    overlay.showNote(QStringLiteral("Brightness"), QStringLiteral("50"));
+    m_desk->clock.advance(1000ms);
+    overlay.showNote(QStringLiteral("Brightness"), QStringLiteral("60"));
+    m_desk->clock.advance(1000ms);
+    QVERIFY(overlay.isShown()); // the second note has its own time
+    m_desk->clock.advance(500ms);
+    QVERIFY(!overlay.isShown());
+    QVERIFY(setHotkeyOverlayOn(false));
+    overlay.showNote(QStringLiteral("Brightness"), QStringLiteral("70"));
+    QVERIFY(!overlay.isShown());
+}
+
+int main(int argc, char *argv[])
+{
+    if (argc > 1 && qstrcmp(argv[1], kSaverArgument) == 0)
+        return saveAgainAndAgain();
+    QApplication application(argc, argv);
+    TestShortcutPage test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_shortcutpage.moc"
