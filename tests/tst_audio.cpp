@@ -311,7 +311,7 @@ void TestAudio::switchesOffWithStopReport()
     const auto history = rig.fixture.desk.accessory().history();
     QVERIFY(history.back().bytes.startsWith(QByteArray("\x01\xE0\x01", 3)));
     QTRY_VERIFY(!rig.capturing());
-    QTest::qWait(0); // heights that were under way
+    QCoreApplication::processEvents(); // heights that were under way
     QCOMPARE(rig.fixture.desk.accessory().history().size(), history.size());
     QVERIFY(rig.page->picture()->heights().isEmpty());
     QVERIFY(!rig.page->note().isEmpty());
@@ -329,7 +329,7 @@ void TestAudio::busyModeInterrupts()
     rig.page->setBusy(true);
     const std::size_t written = rig.fixture.desk.accessory().history().size();
     QTRY_VERIFY(!SoundAnalyzer::instance().isRunning());
-    QTest::qWait(0);
+    QCoreApplication::processEvents();
     QCOMPARE(rig.fixture.desk.accessory().history().size(), written);
     QVERIFY(rig.page->isMusicOn());
 
@@ -347,7 +347,7 @@ void TestAudio::saysWhyNothingMoves()
     const QString off = rig.page->note();
     endpoint.setPresent(false);
     rig.press(rig.page->switchOptions(), 1);
-    const QString waiting = rig.page->note();
+    const QString waiting = rig.page->note(); // for the attempt to listen
     QTRY_VERIFY(rig.page->note() != waiting && rig.page->note() != off);
     const QString none = rig.page->note();
 
@@ -371,7 +371,6 @@ void TestAudio::clockTakesOver()
     // The window's busy mode is not needed for this: another page simply begins its own work.
     QTRY_VERIFY([&] {
         ledWorkThread::instance()->begin(ledWorkThread::ClockLoop);
-        QTest::qWait(1);
         return !rig.page->isMusicOn();
     }());
     QVERIFY(rig.page->switchOptions()->buttonOf(0)->isChecked());
