@@ -22,9 +22,6 @@
 #include "page/Game/pagepictureenhanc.h"
 #include "page/IO/pageiosetting.h"
 #include "page/Nightloom/matrixformsetting.h"
-#include "page/Nightloom/pageledmatrixcanvas.h"
-#include "page/Nightloom/pageledmatrixtext.h"
-#include "page/Nightloom/pageledsystem.h"
 #include "page/Office/pageoffice.h"
 #include "page/Scene/pagescenesetting.h"
 #include "page/emptypage.h"
@@ -145,23 +142,6 @@ void MainWindow::createPages()
     createAccessoryPages();
     m_emptyPage = new EmptyPage(m_pages);
     m_pages->addWidget(m_emptyPage);
-}
-
-void MainWindow::createAccessoryPages()
-{
-    const AccessoryCheck check = [this] { return ensureHidConnected(); };
-    auto *text = new pageLEDMatrixText(check, m_pages);
-    auto *canvas = new pageLEDMatrixCanvas(check, m_pages);
-    const auto followWork = [this](auto *page) {
-        using AnyPage = std::remove_pointer_t<decltype(page)>;
-        connect(page, &AnyPage::busyBegins, this, [this] { setInterfaceMode(kBusy); });
-        connect(page, &AnyPage::busyEnded, this, [this] { setInterfaceMode(kBusyEnded); });
-    };
-    followWork(text);
-    followWork(canvas);
-    addPage(PageId::LedText, text);
-    addPage(PageId::LedCanvas, canvas);
-    addPage(PageId::LedSystem, new pageLEDSystem(check, *m_queue, m_pages));
 }
 
 void MainWindow::addPage(PageId id, Page *page)

@@ -22,6 +22,7 @@ class Page;
 class PageOffice;
 class PanelPage;
 class SettingsPage;
+class pageLEDMusic;
 class pageScenarioFollowing;
 class pageSceneSetting;
 class pageShortcutKey;
@@ -131,6 +132,7 @@ private:
     pageSceneSetting *m_scenePage = nullptr;
     std::map<PageId, Page *> m_pageOf;
     PageOffice *m_officePage = nullptr;
+    pageLEDMusic *m_musicPage = nullptr;
     HotkeyOverlay *m_overlay = nullptr;
     EmptyPage *m_emptyPage = nullptr;
     QLabel *m_status = nullptr;

@@ -36,7 +36,7 @@ constexpr NavigationEntry kOledCare[] = {{LABEL("Care Content"), "care_content"}
 constexpr NavigationEntry kNightLoom[] = {
     {LABEL("Animate Mode"), "led_animate"},
     {LABEL("Text Mode"), "led_text", PageId::LedText},
-    {LABEL("Music Mode"), "led_music"},
+    {LABEL("Music Mode"), "led_music", PageId::LedMusic},
     {LABEL("System Settings"), "led_system", PageId::LedSystem},
     {LABEL("Custom Mode"), "led_custom", PageId::LedCanvas},
     {LABEL("Game VS"), "game_vs"},

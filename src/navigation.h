@@ -19,6 +19,7 @@ enum class PageId {
     LedCanvas,
     ShortcutKey,
     ScenarioFollowing,
+    LedMusic,
     LedSystem,
     Empty
 };

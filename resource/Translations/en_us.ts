@@ -156,6 +156,10 @@
         <translation>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</translation>
     </message>
     <message>
+        <source>A WAV file</source>
+        <translation>A WAV file</translation>
+    </message>
+    <message>
         <source>A balanced picture for every day.</source>
         <translation>A balanced picture for every day.</translation>
     </message>
@@ -166,6 +170,14 @@
     <message>
         <source>A soft page for long texts.</source>
         <translation>A soft page for long texts.</translation>
+    </message>
+    <message>
+        <source>A sweep</source>
+        <translation>A sweep</translation>
+    </message>
+    <message>
+        <source>A tone</source>
+        <translation>A tone</translation>
     </message>
     <message>
         <source>A wide gamut for photographs.</source>
@@ -264,6 +276,10 @@
         <translation>Animations</translation>
     </message>
     <message>
+        <source>Another device becomes the default one</source>
+        <translation>Another device becomes the default one</translation>
+    </message>
+    <message>
         <source>Another program registers the combination first</source>
         <translation>Another program registers the combination first</translation>
     </message>
@@ -324,6 +340,10 @@
         <translation>Background running</translation>
     </message>
     <message>
+        <source>Bars</source>
+        <translation>Bars</translation>
+    </message>
+    <message>
         <source>Basic</source>
         <translation>Basic</translation>
     </message>
@@ -342,6 +362,10 @@
     <message>
         <source>Bring to the front</source>
         <translation>Bring to the front</translation>
+    </message>
+    <message>
+        <source>Buffer error</source>
+        <translation>Buffer error</translation>
     </message>
     <message>
         <source>C</source>
@@ -378,6 +402,10 @@
     <message>
         <source>Changes count once you press &quot;%1&quot;.</source>
         <translation>Changes count once you press &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Channels</translation>
     </message>
     <message>
         <source>Choose Custom to make it your own.</source>
@@ -576,6 +604,10 @@
         <translation>European broadcasting primaries.</translation>
     </message>
     <message>
+        <source>Every packet holds 7001 frames until the button is released</source>
+        <translation>Every packet holds 7001 frames until the button is released</translation>
+    </message>
+    <message>
         <source>Every request takes 400 ms longer</source>
         <translation>Every request takes 400 ms longer</translation>
     </message>
@@ -592,6 +624,14 @@
         <translation>Export Animate</translation>
     </message>
     <message>
+        <source>Extensible, floating point</source>
+        <translation>Extensible, floating point</translation>
+    </message>
+    <message>
+        <source>Extensible, integer</source>
+        <translation>Extensible, integer</translation>
+    </message>
+    <message>
         <source>Eye Care</source>
         <translation>Eye Care</translation>
     </message>
@@ -602,6 +642,10 @@
     <message>
         <source>Eyeshield Remind</source>
         <translation>Eyeshield Remind</translation>
+    </message>
+    <message>
+        <source>Falling Peaks</source>
+        <translation>Falling Peaks</translation>
     </message>
     <message>
         <source>File is null.</source>
@@ -642,6 +686,10 @@
     <message>
         <source>Frames: %1</source>
         <translation>Frames: %1</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Frequency</translation>
     </message>
     <message>
         <source>From now on another program has it.</source>
@@ -736,6 +784,10 @@
         <translation>Halo Control</translation>
     </message>
     <message>
+        <source>Hanging</source>
+        <translation>Hanging</translation>
+    </message>
+    <message>
         <source>HawkEye Vision</source>
         <translation>HawkEye Vision</translation>
     </message>
@@ -786,6 +838,10 @@
     <message>
         <source>Hue R Y G C B M</source>
         <translation>Hue R Y G C B M</translation>
+    </message>
+    <message>
+        <source>Huge packets</source>
+        <translation>Huge packets</translation>
     </message>
     <message>
         <source>I/O Settings</source>
@@ -868,6 +924,10 @@
         <translation>Light Sensor</translation>
     </message>
     <message>
+        <source>Listening…</source>
+        <translation>Listening…</translation>
+    </message>
+    <message>
         <source>Live frames</source>
         <translation>Live frames</translation>
     </message>
@@ -948,6 +1008,14 @@
         <translation>Minimise</translation>
     </message>
     <message>
+        <source>Mirrored</source>
+        <translation>Mirrored</translation>
+    </message>
+    <message>
+        <source>Mix format</source>
+        <translation>Mix format</translation>
+    </message>
+    <message>
         <source>Mode</source>
         <translation>Mode</translation>
     </message>
@@ -1012,6 +1080,10 @@
         <translation>Native Mode</translation>
     </message>
     <message>
+        <source>New device</source>
+        <translation>New device</translation>
+    </message>
+    <message>
         <source>Next value</source>
         <translation>Next value</translation>
     </message>
@@ -1058,6 +1130,18 @@
     <message>
         <source>No programs yet: add one and choose its scene.</source>
         <translation>No programs yet: add one and choose its scene.</translation>
+    </message>
+    <message>
+        <source>Noise</source>
+        <translation>Noise</translation>
+    </message>
+    <message>
+        <source>Nothing is heard: no program plays, or the sound output is gone.</source>
+        <translation>Nothing is heard: no program plays, or the sound output is gone.</translation>
+    </message>
+    <message>
+        <source>Nothing plays</source>
+        <translation>Nothing plays</translation>
     </message>
     <message>
         <source>OK</source>
@@ -1156,6 +1240,14 @@
         <translation>Picture Enhance</translation>
     </message>
     <message>
+        <source>Plain, floating point</source>
+        <translation>Plain, floating point</translation>
+    </message>
+    <message>
+        <source>Plain, integer</source>
+        <translation>Plain, integer</translation>
+    </message>
+    <message>
         <source>Playback Level</source>
         <translation>Playback Level</translation>
     </message>
@@ -1200,6 +1292,10 @@
         <translation>Proofs under a D50 light.</translation>
     </message>
     <message>
+        <source>Pull out</source>
+        <translation>Pull out</translation>
+    </message>
+    <message>
         <source>Pull out in mid-transfer</source>
         <translation>Pull out in mid-transfer</translation>
     </message>
@@ -1234,6 +1330,10 @@
     <message>
         <source>RGB Limit</source>
         <translation>RGB Limit</translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation>Rate</translation>
     </message>
     <message>
         <source>Reading</source>
@@ -1274,6 +1374,10 @@
     <message>
         <source>Refresh Rate</source>
         <translation>Refresh Rate</translation>
+    </message>
+    <message>
+        <source>Refuse format</source>
+        <translation>Refuse format</translation>
     </message>
     <message>
         <source>Refuse writes</source>
@@ -1364,6 +1468,10 @@
         <translation>Scroll Right</translation>
     </message>
     <message>
+        <source>Second tone</source>
+        <translation>Second tone</translation>
+    </message>
+    <message>
         <source>Select File</source>
         <translation>Select File</translation>
     </message>
@@ -1404,6 +1512,10 @@
         <translation>Shown</translation>
     </message>
     <message>
+        <source>Silence</source>
+        <translation>Silence</translation>
+    </message>
+    <message>
         <source>Simulated monitor</source>
         <translation>Simulated monitor</translation>
     </message>
@@ -1428,6 +1540,14 @@
         <translation>Softproof(D58)</translation>
     </message>
     <message>
+        <source>Sound</source>
+        <translation>Sound</translation>
+    </message>
+    <message>
+        <source>Sound output</source>
+        <translation>Sound output</translation>
+    </message>
+    <message>
         <source>Standard</source>
         <translation>Standard</translation>
     </message>
@@ -1442,6 +1562,10 @@
     <message>
         <source>Starts the program that brings the monitor&apos;s firmware up to date. Leave the monitor switched on until it has finished.</source>
         <translation>Starts the program that brings the monitor&apos;s firmware up to date. Leave the monitor switched on until it has finished.</translation>
+    </message>
+    <message>
+        <source>Stop service</source>
+        <translation>Stop service</translation>
     </message>
     <message>
         <source>Stopwatch</source>
@@ -1476,6 +1600,10 @@
         <translation>Tapering</translation>
     </message>
     <message>
+        <source>Template</source>
+        <translation>Template</translation>
+    </message>
+    <message>
         <source>Text</source>
         <translation>Text</translation>
     </message>
@@ -1494,6 +1622,10 @@
     <message>
         <source>The accessory is the model with 25 rows of 42 cells</source>
         <translation>The accessory is the model with 25 rows of 42 cells</translation>
+    </message>
+    <message>
+        <source>The accessory shows what this computer plays as soon as the music mode is open.</source>
+        <translation>The accessory shows what this computer plays as soon as the music mode is open.</translation>
     </message>
     <message>
         <source>The accessory takes no report until the button is released</source>
@@ -1560,6 +1692,14 @@
         <translation>The monitor takes no value until the button is released</translation>
     </message>
     <message>
+        <source>The next client is not initialised</source>
+        <translation>The next client is not initialised</translation>
+    </message>
+    <message>
+        <source>The next packet cannot be fetched</source>
+        <translation>The next packet cannot be fetched</translation>
+    </message>
+    <message>
         <source>The page %1 could not be opened.</source>
         <translation>The page %1 could not be opened.</translation>
     </message>
@@ -1600,6 +1740,10 @@
         <translation>The system did not allow &quot;%1&quot; to be changed.</translation>
     </message>
     <message>
+        <source>The system&apos;s audio service is down until the button is released</source>
+        <translation>The system&apos;s audio service is down until the button is released</translation>
+    </message>
+    <message>
         <source>The upgrade program %1 could not be started.</source>
         <translation>The upgrade program %1 could not be started.</translation>
     </message>
@@ -1612,8 +1756,16 @@
         <translation>The white of printed paper.</translation>
     </message>
     <message>
+        <source>There is no sound output until the button is released</source>
+        <translation>There is no sound output until the button is released</translation>
+    </message>
+    <message>
         <source>There is no text yet.</source>
         <translation>There is no text yet.</translation>
+    </message>
+    <message>
+        <source>This computer has no sound output to listen to. It is looked for again every few seconds.</source>
+        <translation>This computer has no sound output to listen to. It is looked for again every few seconds.</translation>
     </message>
     <message>
         <source>This function has its row already.</source>
@@ -1662,6 +1814,10 @@
     <message>
         <source>True colours for design work.</source>
         <translation>True colours for design work.</translation>
+    </message>
+    <message>
+        <source>Two tones</source>
+        <translation>Two tones</translation>
     </message>
     <message>
         <source>Type the combination here, then press it on the whole desktop</source>
@@ -1764,6 +1920,10 @@
         <translation>Vivid colours for animation.</translation>
     </message>
     <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
         <source>Warning</source>
         <translation>Warning</translation>
     </message>
@@ -1772,8 +1932,16 @@
         <translation>Web(sRGB)</translation>
     </message>
     <message>
+        <source>What goes wrong</source>
+        <translation>What goes wrong</translation>
+    </message>
+    <message>
         <source>What most visitors of a page see.</source>
         <translation>What most visitors of a page see.</translation>
+    </message>
+    <message>
+        <source>What plays</source>
+        <translation>What plays</translation>
     </message>
     <message>
         <source>Width</source>
@@ -1862,6 +2030,10 @@
     <message>
         <source>no monitor</source>
         <translation>no monitor</translation>
+    </message>
+    <message>
+        <source>not a WAV file of 16-bit or floating-point samples</source>
+        <translation>not a WAV file of 16-bit or floating-point samples</translation>
     </message>
     <message>
         <source>nothing</source>

@@ -156,6 +156,10 @@
         <translation>&lt;font color=white&gt;ディスプレイ情報を取得しています...&lt;/font&gt;</translation>
     </message>
     <message>
+        <source>A WAV file</source>
+        <translation>WAV ファイル</translation>
+    </message>
+    <message>
         <source>A balanced picture for every day.</source>
         <translation>日常使いに適したバランスのよい画質です。</translation>
     </message>
@@ -166,6 +170,14 @@
     <message>
         <source>A soft page for long texts.</source>
         <translation>長文を読むのに適したやわらかな画質です。</translation>
+    </message>
+    <message>
+        <source>A sweep</source>
+        <translation>スイープ</translation>
+    </message>
+    <message>
+        <source>A tone</source>
+        <translation>単音</translation>
     </message>
     <message>
         <source>A wide gamut for photographs.</source>
@@ -264,6 +276,10 @@
         <translation>アニメーション</translation>
     </message>
     <message>
+        <source>Another device becomes the default one</source>
+        <translation>別のデバイスが既定になります</translation>
+    </message>
+    <message>
         <source>Another program registers the combination first</source>
         <translation>別のプログラムがこの組み合わせを先に登録します</translation>
     </message>
@@ -324,6 +340,10 @@
         <translation>バックグラウンドで実行中</translation>
     </message>
     <message>
+        <source>Bars</source>
+        <translation>バー</translation>
+    </message>
+    <message>
         <source>Basic</source>
         <translation>基本設定</translation>
     </message>
@@ -342,6 +362,10 @@
     <message>
         <source>Bring to the front</source>
         <translation>前面に出す</translation>
+    </message>
+    <message>
+        <source>Buffer error</source>
+        <translation>バッファエラー</translation>
     </message>
     <message>
         <source>C</source>
@@ -378,6 +402,10 @@
     <message>
         <source>Changes count once you press &quot;%1&quot;.</source>
         <translation>「%1」を押すと変更が有効になります。</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>チャンネル</translation>
     </message>
     <message>
         <source>Choose Custom to make it your own.</source>
@@ -576,6 +604,10 @@
         <translation>欧州の放送規格の三原色です。</translation>
     </message>
     <message>
+        <source>Every packet holds 7001 frames until the button is released</source>
+        <translation>ボタンを戻すまで、各パケットは 7001 フレームになります</translation>
+    </message>
+    <message>
         <source>Every request takes 400 ms longer</source>
         <translation>すべての要求に 400 ミリ秒余計にかかります</translation>
     </message>
@@ -592,6 +624,14 @@
         <translation>アニメ書き出し</translation>
     </message>
     <message>
+        <source>Extensible, floating point</source>
+        <translation>拡張形式、浮動小数点</translation>
+    </message>
+    <message>
+        <source>Extensible, integer</source>
+        <translation>拡張形式、整数</translation>
+    </message>
+    <message>
         <source>Eye Care</source>
         <translation>アイケア</translation>
     </message>
@@ -602,6 +642,10 @@
     <message>
         <source>Eyeshield Remind</source>
         <translation>目の休憩通知</translation>
+    </message>
+    <message>
+        <source>Falling Peaks</source>
+        <translation>落下ピーク</translation>
     </message>
     <message>
         <source>File is null.</source>
@@ -642,6 +686,10 @@
     <message>
         <source>Frames: %1</source>
         <translation>フレーム数: %1</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>周波数</translation>
     </message>
     <message>
         <source>From now on another program has it.</source>
@@ -736,6 +784,10 @@
         <translation>ハロー制御</translation>
     </message>
     <message>
+        <source>Hanging</source>
+        <translation>吊り下げ</translation>
+    </message>
+    <message>
         <source>HawkEye Vision</source>
         <translation>ホークアイ</translation>
     </message>
@@ -786,6 +838,10 @@
     <message>
         <source>Hue R Y G C B M</source>
         <translation>色相 R Y G C B M</translation>
+    </message>
+    <message>
+        <source>Huge packets</source>
+        <translation>巨大パケット</translation>
     </message>
     <message>
         <source>I/O Settings</source>
@@ -868,6 +924,10 @@
         <translation>光センサー</translation>
     </message>
     <message>
+        <source>Listening…</source>
+        <translation>聞き取り中…</translation>
+    </message>
+    <message>
         <source>Live frames</source>
         <translation>ライブフレーム</translation>
     </message>
@@ -948,6 +1008,14 @@
         <translation>最小化</translation>
     </message>
     <message>
+        <source>Mirrored</source>
+        <translation>ミラー</translation>
+    </message>
+    <message>
+        <source>Mix format</source>
+        <translation>ミックス形式</translation>
+    </message>
+    <message>
         <source>Mode</source>
         <translation>モード</translation>
     </message>
@@ -1012,6 +1080,10 @@
         <translation>ネイティブモード</translation>
     </message>
     <message>
+        <source>New device</source>
+        <translation>新しいデバイス</translation>
+    </message>
+    <message>
         <source>Next value</source>
         <translation>次の値</translation>
     </message>
@@ -1058,6 +1130,18 @@
     <message>
         <source>No programs yet: add one and choose its scene.</source>
         <translation>プログラムはまだありません。追加してシーンを選んでください。</translation>
+    </message>
+    <message>
+        <source>Noise</source>
+        <translation>ノイズ</translation>
+    </message>
+    <message>
+        <source>Nothing is heard: no program plays, or the sound output is gone.</source>
+        <translation>音が聞こえません。再生中のプログラムがないか、音声出力がなくなりました。</translation>
+    </message>
+    <message>
+        <source>Nothing plays</source>
+        <translation>再生なし</translation>
     </message>
     <message>
         <source>OK</source>
@@ -1156,6 +1240,14 @@
         <translation>画質強化</translation>
     </message>
     <message>
+        <source>Plain, floating point</source>
+        <translation>標準形式、浮動小数点</translation>
+    </message>
+    <message>
+        <source>Plain, integer</source>
+        <translation>標準形式、整数</translation>
+    </message>
+    <message>
         <source>Playback Level</source>
         <translation>再生レベル</translation>
     </message>
@@ -1200,6 +1292,10 @@
         <translation>D50 光源での校正刷り向けです。</translation>
     </message>
     <message>
+        <source>Pull out</source>
+        <translation>抜く</translation>
+    </message>
+    <message>
         <source>Pull out in mid-transfer</source>
         <translation>転送中に抜く</translation>
     </message>
@@ -1234,6 +1330,10 @@
     <message>
         <source>RGB Limit</source>
         <translation>RGB リミット</translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation>レート</translation>
     </message>
     <message>
         <source>Reading</source>
@@ -1274,6 +1374,10 @@
     <message>
         <source>Refresh Rate</source>
         <translation>リフレッシュレート</translation>
+    </message>
+    <message>
+        <source>Refuse format</source>
+        <translation>形式を拒否</translation>
     </message>
     <message>
         <source>Refuse writes</source>
@@ -1364,6 +1468,10 @@
         <translation>右へスクロール</translation>
     </message>
     <message>
+        <source>Second tone</source>
+        <translation>2 つ目の音</translation>
+    </message>
+    <message>
         <source>Select File</source>
         <translation>ファイルを選択</translation>
     </message>
@@ -1404,6 +1512,10 @@
         <translation>表示内容</translation>
     </message>
     <message>
+        <source>Silence</source>
+        <translation>無音</translation>
+    </message>
+    <message>
         <source>Simulated monitor</source>
         <translation>シミュレートされたモニター</translation>
     </message>
@@ -1428,6 +1540,14 @@
         <translation>Softproof(D58)</translation>
     </message>
     <message>
+        <source>Sound</source>
+        <translation>サウンド</translation>
+    </message>
+    <message>
+        <source>Sound output</source>
+        <translation>音声出力</translation>
+    </message>
+    <message>
         <source>Standard</source>
         <translation>標準</translation>
     </message>
@@ -1442,6 +1562,10 @@
     <message>
         <source>Starts the program that brings the monitor&apos;s firmware up to date. Leave the monitor switched on until it has finished.</source>
         <translation>モニターのファームウェアを更新するプログラムを起動します。完了するまでモニターの電源を切らないでください。</translation>
+    </message>
+    <message>
+        <source>Stop service</source>
+        <translation>サービス停止</translation>
     </message>
     <message>
         <source>Stopwatch</source>
@@ -1476,6 +1600,10 @@
         <translation>先細り</translation>
     </message>
     <message>
+        <source>Template</source>
+        <translation>テンプレート</translation>
+    </message>
+    <message>
         <source>Text</source>
         <translation>テキスト</translation>
     </message>
@@ -1494,6 +1622,10 @@
     <message>
         <source>The accessory is the model with 25 rows of 42 cells</source>
         <translation>アクセサリは 25 行 × 42 セルのモデルです</translation>
+    </message>
+    <message>
+        <source>The accessory shows what this computer plays as soon as the music mode is open.</source>
+        <translation>音楽モードをオンにすると、このコンピューターの再生音がアクセサリーに表示されます。</translation>
     </message>
     <message>
         <source>The accessory takes no report until the button is released</source>
@@ -1560,6 +1692,14 @@
         <translation>ボタンを戻すまでモニターは値を受け付けません</translation>
     </message>
     <message>
+        <source>The next client is not initialised</source>
+        <translation>次のクライアントは初期化されません</translation>
+    </message>
+    <message>
+        <source>The next packet cannot be fetched</source>
+        <translation>次のパケットを取得できません</translation>
+    </message>
+    <message>
         <source>The page %1 could not be opened.</source>
         <translation>ページ %1 を開けませんでした。</translation>
     </message>
@@ -1600,6 +1740,10 @@
         <translation>システムにより「%1」の変更が許可されませんでした。</translation>
     </message>
     <message>
+        <source>The system&apos;s audio service is down until the button is released</source>
+        <translation>ボタンを戻すまで、システムの音声サービスは停止します</translation>
+    </message>
+    <message>
         <source>The upgrade program %1 could not be started.</source>
         <translation>更新プログラム %1 を起動できませんでした。</translation>
     </message>
@@ -1612,8 +1756,16 @@
         <translation>印刷用紙の白です。</translation>
     </message>
     <message>
+        <source>There is no sound output until the button is released</source>
+        <translation>ボタンを戻すまで、音声出力がありません</translation>
+    </message>
+    <message>
         <source>There is no text yet.</source>
         <translation>テキストがまだありません。</translation>
+    </message>
+    <message>
+        <source>This computer has no sound output to listen to. It is looked for again every few seconds.</source>
+        <translation>このコンピューターには聞き取れる音声出力がありません。数秒ごとに再検索します。</translation>
     </message>
     <message>
         <source>This function has its row already.</source>
@@ -1662,6 +1814,10 @@
     <message>
         <source>True colours for design work.</source>
         <translation>デザイン作業に適した忠実な色です。</translation>
+    </message>
+    <message>
+        <source>Two tones</source>
+        <translation>2 つの音</translation>
     </message>
     <message>
         <source>Type the combination here, then press it on the whole desktop</source>
@@ -1764,6 +1920,10 @@
         <translation>アニメに適した鮮やかな色です。</translation>
     </message>
     <message>
+        <source>Volume</source>
+        <translation>音量</translation>
+    </message>
+    <message>
         <source>Warning</source>
         <translation>警告</translation>
     </message>
@@ -1772,8 +1932,16 @@
         <translation>ウェブ(sRGB)</translation>
     </message>
     <message>
+        <source>What goes wrong</source>
+        <translation>起こす障害</translation>
+    </message>
+    <message>
         <source>What most visitors of a page see.</source>
         <translation>多くの閲覧者が目にする色です。</translation>
+    </message>
+    <message>
+        <source>What plays</source>
+        <translation>再生内容</translation>
     </message>
     <message>
         <source>Width</source>
@@ -1862,6 +2030,10 @@
     <message>
         <source>no monitor</source>
         <translation>モニターなし</translation>
+    </message>
+    <message>
+        <source>not a WAV file of 16-bit or floating-point samples</source>
+        <translation>16 ビットまたは浮動小数点の WAV ファイルではありません</translation>
     </message>
     <message>
         <source>nothing</source>

@@ -156,6 +156,10 @@
         <translation>&lt;font color=white&gt;正在获取显示设备信息...&lt;/font&gt;</translation>
     </message>
     <message>
+        <source>A WAV file</source>
+        <translation>WAV 文件</translation>
+    </message>
+    <message>
         <source>A balanced picture for every day.</source>
         <translation>均衡的画面，适合日常使用。</translation>
     </message>
@@ -166,6 +170,14 @@
     <message>
         <source>A soft page for long texts.</source>
         <translation>柔和的页面，适合长时间阅读。</translation>
+    </message>
+    <message>
+        <source>A sweep</source>
+        <translation>扫频</translation>
+    </message>
+    <message>
+        <source>A tone</source>
+        <translation>单音</translation>
     </message>
     <message>
         <source>A wide gamut for photographs.</source>
@@ -264,6 +276,10 @@
         <translation>动画</translation>
     </message>
     <message>
+        <source>Another device becomes the default one</source>
+        <translation>另一个设备成为默认设备</translation>
+    </message>
+    <message>
         <source>Another program registers the combination first</source>
         <translation>由另一个程序先注册该组合键</translation>
     </message>
@@ -324,6 +340,10 @@
         <translation>正在后台运行</translation>
     </message>
     <message>
+        <source>Bars</source>
+        <translation>条形</translation>
+    </message>
+    <message>
         <source>Basic</source>
         <translation>基本设置</translation>
     </message>
@@ -342,6 +362,10 @@
     <message>
         <source>Bring to the front</source>
         <translation>切换到前台</translation>
+    </message>
+    <message>
+        <source>Buffer error</source>
+        <translation>缓冲区错误</translation>
     </message>
     <message>
         <source>C</source>
@@ -378,6 +402,10 @@
     <message>
         <source>Changes count once you press &quot;%1&quot;.</source>
         <translation>按“%1”后更改生效。</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>声道</translation>
     </message>
     <message>
         <source>Choose Custom to make it your own.</source>
@@ -576,6 +604,10 @@
         <translation>欧洲广播标准的三原色。</translation>
     </message>
     <message>
+        <source>Every packet holds 7001 frames until the button is released</source>
+        <translation>松开按钮前，每个数据包含 7001 帧</translation>
+    </message>
+    <message>
         <source>Every request takes 400 ms longer</source>
         <translation>每个请求多花 400 毫秒</translation>
     </message>
@@ -592,6 +624,14 @@
         <translation>导出动画</translation>
     </message>
     <message>
+        <source>Extensible, floating point</source>
+        <translation>扩展格式，浮点</translation>
+    </message>
+    <message>
+        <source>Extensible, integer</source>
+        <translation>扩展格式，整数</translation>
+    </message>
+    <message>
         <source>Eye Care</source>
         <translation>护眼</translation>
     </message>
@@ -602,6 +642,10 @@
     <message>
         <source>Eyeshield Remind</source>
         <translation>护眼提醒</translation>
+    </message>
+    <message>
+        <source>Falling Peaks</source>
+        <translation>下落峰值</translation>
     </message>
     <message>
         <source>File is null.</source>
@@ -642,6 +686,10 @@
     <message>
         <source>Frames: %1</source>
         <translation>帧数：%1</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>频率</translation>
     </message>
     <message>
         <source>From now on another program has it.</source>
@@ -736,6 +784,10 @@
         <translation>光晕控制</translation>
     </message>
     <message>
+        <source>Hanging</source>
+        <translation>悬挂</translation>
+    </message>
+    <message>
         <source>HawkEye Vision</source>
         <translation>鹰眼视野</translation>
     </message>
@@ -786,6 +838,10 @@
     <message>
         <source>Hue R Y G C B M</source>
         <translation>色相 R Y G C B M</translation>
+    </message>
+    <message>
+        <source>Huge packets</source>
+        <translation>超大数据包</translation>
     </message>
     <message>
         <source>I/O Settings</source>
@@ -868,6 +924,10 @@
         <translation>光线感应</translation>
     </message>
     <message>
+        <source>Listening…</source>
+        <translation>正在聆听…</translation>
+    </message>
+    <message>
         <source>Live frames</source>
         <translation>实时帧</translation>
     </message>
@@ -948,6 +1008,14 @@
         <translation>最小化</translation>
     </message>
     <message>
+        <source>Mirrored</source>
+        <translation>镜像</translation>
+    </message>
+    <message>
+        <source>Mix format</source>
+        <translation>混音格式</translation>
+    </message>
+    <message>
         <source>Mode</source>
         <translation>模式</translation>
     </message>
@@ -1012,6 +1080,10 @@
         <translation>原生模式</translation>
     </message>
     <message>
+        <source>New device</source>
+        <translation>新设备</translation>
+    </message>
+    <message>
         <source>Next value</source>
         <translation>下一个值</translation>
     </message>
@@ -1058,6 +1130,18 @@
     <message>
         <source>No programs yet: add one and choose its scene.</source>
         <translation>还没有程序：请添加程序并选择其场景。</translation>
+    </message>
+    <message>
+        <source>Noise</source>
+        <translation>噪声</translation>
+    </message>
+    <message>
+        <source>Nothing is heard: no program plays, or the sound output is gone.</source>
+        <translation>没有声音：没有程序在播放，或声音输出已断开。</translation>
+    </message>
+    <message>
+        <source>Nothing plays</source>
+        <translation>无播放</translation>
     </message>
     <message>
         <source>OK</source>
@@ -1156,6 +1240,14 @@
         <translation>画质增强</translation>
     </message>
     <message>
+        <source>Plain, floating point</source>
+        <translation>普通格式，浮点</translation>
+    </message>
+    <message>
+        <source>Plain, integer</source>
+        <translation>普通格式，整数</translation>
+    </message>
+    <message>
         <source>Playback Level</source>
         <translation>播放等级</translation>
     </message>
@@ -1200,6 +1292,10 @@
         <translation>D50 光源下的打样。</translation>
     </message>
     <message>
+        <source>Pull out</source>
+        <translation>拔出</translation>
+    </message>
+    <message>
         <source>Pull out in mid-transfer</source>
         <translation>传输中拔出</translation>
     </message>
@@ -1234,6 +1330,10 @@
     <message>
         <source>RGB Limit</source>
         <translation>RGB 有限</translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation>采样率</translation>
     </message>
     <message>
         <source>Reading</source>
@@ -1274,6 +1374,10 @@
     <message>
         <source>Refresh Rate</source>
         <translation>刷新率</translation>
+    </message>
+    <message>
+        <source>Refuse format</source>
+        <translation>拒绝格式</translation>
     </message>
     <message>
         <source>Refuse writes</source>
@@ -1364,6 +1468,10 @@
         <translation>向右滚动</translation>
     </message>
     <message>
+        <source>Second tone</source>
+        <translation>第二音</translation>
+    </message>
+    <message>
         <source>Select File</source>
         <translation>选择文件</translation>
     </message>
@@ -1404,6 +1512,10 @@
         <translation>显示内容</translation>
     </message>
     <message>
+        <source>Silence</source>
+        <translation>静音</translation>
+    </message>
+    <message>
         <source>Simulated monitor</source>
         <translation>模拟显示器</translation>
     </message>
@@ -1428,6 +1540,14 @@
         <translation>Softproof(D58)</translation>
     </message>
     <message>
+        <source>Sound</source>
+        <translation>声音</translation>
+    </message>
+    <message>
+        <source>Sound output</source>
+        <translation>声音输出</translation>
+    </message>
+    <message>
         <source>Standard</source>
         <translation>标准</translation>
     </message>
@@ -1442,6 +1562,10 @@
     <message>
         <source>Starts the program that brings the monitor&apos;s firmware up to date. Leave the monitor switched on until it has finished.</source>
         <translation>启动显示器固件升级程序。升级完成前请勿关闭显示器。</translation>
+    </message>
+    <message>
+        <source>Stop service</source>
+        <translation>停止服务</translation>
     </message>
     <message>
         <source>Stopwatch</source>
@@ -1476,6 +1600,10 @@
         <translation>锥形</translation>
     </message>
     <message>
+        <source>Template</source>
+        <translation>模板</translation>
+    </message>
+    <message>
         <source>Text</source>
         <translation>文字</translation>
     </message>
@@ -1494,6 +1622,10 @@
     <message>
         <source>The accessory is the model with 25 rows of 42 cells</source>
         <translation>配件为 25 行、每行 42 格的型号</translation>
+    </message>
+    <message>
+        <source>The accessory shows what this computer plays as soon as the music mode is open.</source>
+        <translation>打开音乐模式后，配件会显示本机正在播放的声音。</translation>
     </message>
     <message>
         <source>The accessory takes no report until the button is released</source>
@@ -1560,6 +1692,14 @@
         <translation>显示器不接受任何值，直到松开按钮</translation>
     </message>
     <message>
+        <source>The next client is not initialised</source>
+        <translation>下一个客户端不会被初始化</translation>
+    </message>
+    <message>
+        <source>The next packet cannot be fetched</source>
+        <translation>下一个数据包无法读取</translation>
+    </message>
+    <message>
         <source>The page %1 could not be opened.</source>
         <translation>无法打开网页 %1。</translation>
     </message>
@@ -1600,6 +1740,10 @@
         <translation>系统不允许更改“%1”。</translation>
     </message>
     <message>
+        <source>The system&apos;s audio service is down until the button is released</source>
+        <translation>松开按钮前，系统音频服务停止</translation>
+    </message>
+    <message>
         <source>The upgrade program %1 could not be started.</source>
         <translation>无法启动升级程序 %1。</translation>
     </message>
@@ -1612,8 +1756,16 @@
         <translation>印刷纸张的白色。</translation>
     </message>
     <message>
+        <source>There is no sound output until the button is released</source>
+        <translation>松开按钮前，没有声音输出</translation>
+    </message>
+    <message>
         <source>There is no text yet.</source>
         <translation>还没有文字。</translation>
+    </message>
+    <message>
+        <source>This computer has no sound output to listen to. It is looked for again every few seconds.</source>
+        <translation>此电脑没有可聆听的声音输出，每隔几秒会重新查找。</translation>
     </message>
     <message>
         <source>This function has its row already.</source>
@@ -1662,6 +1814,10 @@
     <message>
         <source>True colours for design work.</source>
         <translation>色彩真实，适合设计工作。</translation>
+    </message>
+    <message>
+        <source>Two tones</source>
+        <translation>双音</translation>
     </message>
     <message>
         <source>Type the combination here, then press it on the whole desktop</source>
@@ -1764,6 +1920,10 @@
         <translation>色彩鲜艳，适合动画。</translation>
     </message>
     <message>
+        <source>Volume</source>
+        <translation>音量</translation>
+    </message>
+    <message>
         <source>Warning</source>
         <translation>警告</translation>
     </message>
@@ -1772,8 +1932,16 @@
         <translation>网页(sRGB)</translation>
     </message>
     <message>
+        <source>What goes wrong</source>
+        <translation>故障模拟</translation>
+    </message>
+    <message>
         <source>What most visitors of a page see.</source>
         <translation>大多数网页访客看到的色彩。</translation>
+    </message>
+    <message>
+        <source>What plays</source>
+        <translation>播放内容</translation>
     </message>
     <message>
         <source>Width</source>
@@ -1862,6 +2030,10 @@
     <message>
         <source>no monitor</source>
         <translation>无显示器</translation>
+    </message>
+    <message>
+        <source>not a WAV file of 16-bit or floating-point samples</source>
+        <translation>不是 16 位或浮点采样的 WAV 文件</translation>
     </message>
     <message>
         <source>nothing</source>

@@ -156,6 +156,10 @@
         <translation>&lt;font color=white&gt;正在取得顯示裝置資訊...&lt;/font&gt;</translation>
     </message>
     <message>
+        <source>A WAV file</source>
+        <translation>WAV 檔案</translation>
+    </message>
+    <message>
         <source>A balanced picture for every day.</source>
         <translation>均衡的畫面，適合日常使用。</translation>
     </message>
@@ -166,6 +170,14 @@
     <message>
         <source>A soft page for long texts.</source>
         <translation>柔和的頁面，適合長時間閱讀。</translation>
+    </message>
+    <message>
+        <source>A sweep</source>
+        <translation>掃頻</translation>
+    </message>
+    <message>
+        <source>A tone</source>
+        <translation>單音</translation>
     </message>
     <message>
         <source>A wide gamut for photographs.</source>
@@ -264,6 +276,10 @@
         <translation>動畫</translation>
     </message>
     <message>
+        <source>Another device becomes the default one</source>
+        <translation>另一個裝置成為預設裝置</translation>
+    </message>
+    <message>
         <source>Another program registers the combination first</source>
         <translation>由另一個程式先註冊該組合鍵</translation>
     </message>
@@ -324,6 +340,10 @@
         <translation>正在背景執行</translation>
     </message>
     <message>
+        <source>Bars</source>
+        <translation>長條</translation>
+    </message>
+    <message>
         <source>Basic</source>
         <translation>基本設定</translation>
     </message>
@@ -342,6 +362,10 @@
     <message>
         <source>Bring to the front</source>
         <translation>切換到前景</translation>
+    </message>
+    <message>
+        <source>Buffer error</source>
+        <translation>緩衝區錯誤</translation>
     </message>
     <message>
         <source>C</source>
@@ -378,6 +402,10 @@
     <message>
         <source>Changes count once you press &quot;%1&quot;.</source>
         <translation>按「%1」後變更生效。</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>聲道</translation>
     </message>
     <message>
         <source>Choose Custom to make it your own.</source>
@@ -576,6 +604,10 @@
         <translation>歐洲廣播標準的三原色。</translation>
     </message>
     <message>
+        <source>Every packet holds 7001 frames until the button is released</source>
+        <translation>放開按鈕前，每個封包含 7001 幀</translation>
+    </message>
+    <message>
         <source>Every request takes 400 ms longer</source>
         <translation>每個要求多花 400 毫秒</translation>
     </message>
@@ -592,6 +624,14 @@
         <translation>匯出動畫</translation>
     </message>
     <message>
+        <source>Extensible, floating point</source>
+        <translation>延伸格式，浮點</translation>
+    </message>
+    <message>
+        <source>Extensible, integer</source>
+        <translation>延伸格式，整數</translation>
+    </message>
+    <message>
         <source>Eye Care</source>
         <translation>護眼</translation>
     </message>
@@ -602,6 +642,10 @@
     <message>
         <source>Eyeshield Remind</source>
         <translation>護眼提醒</translation>
+    </message>
+    <message>
+        <source>Falling Peaks</source>
+        <translation>下落峰值</translation>
     </message>
     <message>
         <source>File is null.</source>
@@ -642,6 +686,10 @@
     <message>
         <source>Frames: %1</source>
         <translation>畫格數：%1</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>頻率</translation>
     </message>
     <message>
         <source>From now on another program has it.</source>
@@ -736,6 +784,10 @@
         <translation>光暈控制</translation>
     </message>
     <message>
+        <source>Hanging</source>
+        <translation>懸掛</translation>
+    </message>
+    <message>
         <source>HawkEye Vision</source>
         <translation>鷹眼視野</translation>
     </message>
@@ -786,6 +838,10 @@
     <message>
         <source>Hue R Y G C B M</source>
         <translation>色相 R Y G C B M</translation>
+    </message>
+    <message>
+        <source>Huge packets</source>
+        <translation>超大封包</translation>
     </message>
     <message>
         <source>I/O Settings</source>
@@ -868,6 +924,10 @@
         <translation>光線感應</translation>
     </message>
     <message>
+        <source>Listening…</source>
+        <translation>正在聆聽…</translation>
+    </message>
+    <message>
         <source>Live frames</source>
         <translation>即時影格</translation>
     </message>
@@ -948,6 +1008,14 @@
         <translation>最小化</translation>
     </message>
     <message>
+        <source>Mirrored</source>
+        <translation>鏡像</translation>
+    </message>
+    <message>
+        <source>Mix format</source>
+        <translation>混音格式</translation>
+    </message>
+    <message>
         <source>Mode</source>
         <translation>模式</translation>
     </message>
@@ -1012,6 +1080,10 @@
         <translation>原生模式</translation>
     </message>
     <message>
+        <source>New device</source>
+        <translation>新裝置</translation>
+    </message>
+    <message>
         <source>Next value</source>
         <translation>下一個值</translation>
     </message>
@@ -1058,6 +1130,18 @@
     <message>
         <source>No programs yet: add one and choose its scene.</source>
         <translation>尚無程式：請新增程式並選擇其場景。</translation>
+    </message>
+    <message>
+        <source>Noise</source>
+        <translation>雜訊</translation>
+    </message>
+    <message>
+        <source>Nothing is heard: no program plays, or the sound output is gone.</source>
+        <translation>沒有聲音：沒有程式在播放，或音訊輸出已中斷。</translation>
+    </message>
+    <message>
+        <source>Nothing plays</source>
+        <translation>無播放</translation>
     </message>
     <message>
         <source>OK</source>
@@ -1156,6 +1240,14 @@
         <translation>畫質增強</translation>
     </message>
     <message>
+        <source>Plain, floating point</source>
+        <translation>一般格式，浮點</translation>
+    </message>
+    <message>
+        <source>Plain, integer</source>
+        <translation>一般格式，整數</translation>
+    </message>
+    <message>
         <source>Playback Level</source>
         <translation>播放等級</translation>
     </message>
@@ -1200,6 +1292,10 @@
         <translation>D50 光源下的打樣。</translation>
     </message>
     <message>
+        <source>Pull out</source>
+        <translation>拔出</translation>
+    </message>
+    <message>
         <source>Pull out in mid-transfer</source>
         <translation>傳輸中拔出</translation>
     </message>
@@ -1234,6 +1330,10 @@
     <message>
         <source>RGB Limit</source>
         <translation>RGB 有限</translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation>取樣率</translation>
     </message>
     <message>
         <source>Reading</source>
@@ -1274,6 +1374,10 @@
     <message>
         <source>Refresh Rate</source>
         <translation>更新率</translation>
+    </message>
+    <message>
+        <source>Refuse format</source>
+        <translation>拒絕格式</translation>
     </message>
     <message>
         <source>Refuse writes</source>
@@ -1364,6 +1468,10 @@
         <translation>向右捲動</translation>
     </message>
     <message>
+        <source>Second tone</source>
+        <translation>第二音</translation>
+    </message>
+    <message>
         <source>Select File</source>
         <translation>選擇檔案</translation>
     </message>
@@ -1404,6 +1512,10 @@
         <translation>顯示內容</translation>
     </message>
     <message>
+        <source>Silence</source>
+        <translation>靜音</translation>
+    </message>
+    <message>
         <source>Simulated monitor</source>
         <translation>模擬顯示器</translation>
     </message>
@@ -1428,6 +1540,14 @@
         <translation>Softproof(D58)</translation>
     </message>
     <message>
+        <source>Sound</source>
+        <translation>聲音</translation>
+    </message>
+    <message>
+        <source>Sound output</source>
+        <translation>音訊輸出</translation>
+    </message>
+    <message>
         <source>Standard</source>
         <translation>標準</translation>
     </message>
@@ -1442,6 +1562,10 @@
     <message>
         <source>Starts the program that brings the monitor&apos;s firmware up to date. Leave the monitor switched on until it has finished.</source>
         <translation>啟動顯示器韌體升級程式。升級完成前請勿關閉顯示器。</translation>
+    </message>
+    <message>
+        <source>Stop service</source>
+        <translation>停止服務</translation>
     </message>
     <message>
         <source>Stopwatch</source>
@@ -1476,6 +1600,10 @@
         <translation>錐形</translation>
     </message>
     <message>
+        <source>Template</source>
+        <translation>範本</translation>
+    </message>
+    <message>
         <source>Text</source>
         <translation>文字</translation>
     </message>
@@ -1494,6 +1622,10 @@
     <message>
         <source>The accessory is the model with 25 rows of 42 cells</source>
         <translation>配件為 25 列、每列 42 格的型號</translation>
+    </message>
+    <message>
+        <source>The accessory shows what this computer plays as soon as the music mode is open.</source>
+        <translation>開啟音樂模式後，配件會顯示本機正在播放的聲音。</translation>
     </message>
     <message>
         <source>The accessory takes no report until the button is released</source>
@@ -1560,6 +1692,14 @@
         <translation>顯示器不接受任何值，直到放開按鈕</translation>
     </message>
     <message>
+        <source>The next client is not initialised</source>
+        <translation>下一個用戶端不會被初始化</translation>
+    </message>
+    <message>
+        <source>The next packet cannot be fetched</source>
+        <translation>下一個封包無法讀取</translation>
+    </message>
+    <message>
         <source>The page %1 could not be opened.</source>
         <translation>無法開啟網頁 %1。</translation>
     </message>
@@ -1600,6 +1740,10 @@
         <translation>系統不允許變更「%1」。</translation>
     </message>
     <message>
+        <source>The system&apos;s audio service is down until the button is released</source>
+        <translation>放開按鈕前，系統音訊服務停止</translation>
+    </message>
+    <message>
         <source>The upgrade program %1 could not be started.</source>
         <translation>無法啟動升級程式 %1。</translation>
     </message>
@@ -1612,8 +1756,16 @@
         <translation>印刷紙張的白色。</translation>
     </message>
     <message>
+        <source>There is no sound output until the button is released</source>
+        <translation>放開按鈕前，沒有音訊輸出</translation>
+    </message>
+    <message>
         <source>There is no text yet.</source>
         <translation>還沒有文字。</translation>
+    </message>
+    <message>
+        <source>This computer has no sound output to listen to. It is looked for again every few seconds.</source>
+        <translation>此電腦沒有可聆聽的音訊輸出，每隔幾秒會重新尋找。</translation>
     </message>
     <message>
         <source>This function has its row already.</source>
@@ -1662,6 +1814,10 @@
     <message>
         <source>True colours for design work.</source>
         <translation>色彩真實，適合設計工作。</translation>
+    </message>
+    <message>
+        <source>Two tones</source>
+        <translation>雙音</translation>
     </message>
     <message>
         <source>Type the combination here, then press it on the whole desktop</source>
@@ -1764,6 +1920,10 @@
         <translation>色彩鮮豔，適合動畫。</translation>
     </message>
     <message>
+        <source>Volume</source>
+        <translation>音量</translation>
+    </message>
+    <message>
         <source>Warning</source>
         <translation>警告</translation>
     </message>
@@ -1772,8 +1932,16 @@
         <translation>網頁(sRGB)</translation>
     </message>
     <message>
+        <source>What goes wrong</source>
+        <translation>故障模擬</translation>
+    </message>
+    <message>
         <source>What most visitors of a page see.</source>
         <translation>多數網頁訪客看到的色彩。</translation>
+    </message>
+    <message>
+        <source>What plays</source>
+        <translation>播放內容</translation>
     </message>
     <message>
         <source>Width</source>
@@ -1862,6 +2030,10 @@
     <message>
         <source>no monitor</source>
         <translation>無顯示器</translation>
+    </message>
+    <message>
+        <source>not a WAV file of 16-bit or floating-point samples</source>
+        <translation>不是 16 位元或浮點取樣的 WAV 檔案</translation>
     </message>
     <message>
         <source>nothing</source>
