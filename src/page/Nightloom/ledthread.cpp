@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "page/Nightloom/animationfile.h"
+#include "ledmatrix/animationfile.h"
 #include "page/Nightloom/pageledmatrixcanvas.h"
 #include "usb-hid/accessoryupload.h"
 

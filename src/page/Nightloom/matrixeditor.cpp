@@ -5,7 +5,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-#include "page/Nightloom/animationfile.h"
+#include "ledmatrix/animationfile.h"
 
 namespace {
 

@@ -6,8 +6,8 @@
 #include <QPushButton>
 
 #include "controls/sliderwidget.h"
+#include "ledmatrix/animationfile.h"
 #include "ledmatrix/matrixform.h"
-#include "page/Nightloom/animationfile.h"
 #include "page/Nightloom/frametabs.h"
 #include "page/Nightloom/matrixeditor.h"
 #include "usb-hid/accessoryupload.h"

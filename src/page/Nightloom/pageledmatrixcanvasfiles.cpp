@@ -7,8 +7,8 @@
 #include <QProgressBar>
 
 #include "controls/messagebox.h"
+#include "ledmatrix/animationfile.h"
 #include "ledmatrix/matrixframe.h"
-#include "page/Nightloom/animationfile.h"
 #include "page/Nightloom/frametabs.h"
 #include "page/Nightloom/pageledmatrixcanvas.h"
 #include "page/Nightloom/toolcolumn.h"

@@ -7,7 +7,7 @@
 
 #include "controls/sharedfonts.h"
 #include "controls/sliderwidget.h"
-#include "page/Nightloom/animationfile.h"
+#include "ledmatrix/animationfile.h"
 #include "page/Nightloom/ledworkthread.h"
 #include "page/Nightloom/textwidget.h"
 #include "page/Nightloom/toolcolumn.h"
