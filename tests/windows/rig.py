@@ -26,6 +26,13 @@ def wait_for(condition, what, seconds=15.0):
     raise AssertionError(f"waited {seconds:g} s in vain for {what}")
 
 
+def put(file, text):
+    """Writes a file that a reader never meets half of."""
+    new = file.with_suffix(".new")
+    new.write_text(text)
+    new.replace(file)
+
+
 def edid(name):
     """A 128-byte EDID whose second descriptor holds the model name."""
     block = bytearray(128)
@@ -133,12 +140,21 @@ class Run:
             process.kill()
             process.wait(10)
 
-    def start(self, *arguments):
+    def start(self):
         """Starts the program here and returns the process."""
-        process = self.rig.start(["wine", str(self.rig.program / "quorvel.exe"), *arguments], cwd=self.folder,
-                                 extra={"QUORVEL_TEST_MONITOR": "Z:" + str(self.monitor)})
+        return self.start_other(self.rig.program / "quorvel.exe")
+
+    def start_other(self, program, *arguments):
+        """Starts any Windows program here, to end with the case at the latest, and returns the process."""
+        process = self.rig.start(["wine", str(program), *arguments], cwd=self.folder,
+                                 extra={"QUORVEL_TEST_MONITOR": f"Z:{self.monitor}"})
         self.processes.append(process)
         return process
+
+    def announce(self, device_class):
+        """Tells the program's windows that a device has arrived: a "monitor" or a "hid"."""
+        sent = self.rig.run(["wine", str(self.rig.standins / "windowprobe.exe"), TITLE, device_class], check=True)
+        assert int(sent) >= 1, sent
 
     def start_and_show(self):
         """Starts the program, waits for its window and returns the window's position on the screen."""
@@ -174,11 +190,13 @@ class Run:
         file = self.monitor / "requests.txt"
         return file.read_text().splitlines() if file.exists() else []
 
+    def times(self):
+        """When each of them came, in seconds of the clock of the day."""
+        return [int(line) / 1000 for line in (self.monitor / "times.txt").read_text().splitlines()]
+
     def refuse(self, *requests):
         """From now on the monitor does not take these requests, such as "W 99"."""
-        new = self.monitor / "refuse.new"
-        new.write_text("".join(request + "\n" for request in requests))
-        new.replace(self.monitor / "refuse.txt")
+        put(self.monitor / "refuse.txt", "".join(request + "\n" for request in requests))
 
     def log(self):
         """The lines of the day's log so far."""
