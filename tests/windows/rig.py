@@ -52,7 +52,8 @@ class Rig:
         self.program = self.work / "program"
         shutil.rmtree(self.program, ignore_errors=True)
         shutil.copytree(program, self.program)
-        shutil.copy(self.standins / "dxva2.dll", self.program)
+        for library in ("dxva2.dll", "libhidapi.dll"):
+            shutil.copy(self.standins / library, self.program)
         self.environment = {name: value for name, value in os.environ.items() if not name.startswith(("QT_", "QUORVEL_"))}
         self.environment.update(
             WINEPREFIX=str(self.work / "prefix"), WINEARCH="win64", WINEDEBUG="-all",
@@ -129,6 +130,7 @@ class Run:
         (self.monitor / "registers.txt").write_text(
             "".join(f"{code:02x} {value}\n" for code, value in (registers or {}).items()))
         (self.monitor / "block.txt").write_text(" ".join(map(str, block or [])))
+        self.accessory = None
         self.processes = []
 
     def __enter__(self):
@@ -146,8 +148,9 @@ class Run:
 
     def start_other(self, program, *arguments):
         """Starts any Windows program here, to end with the case at the latest, and returns the process."""
+        places = {"QUORVEL_TEST_MONITOR": self.monitor, "QUORVEL_TEST_ACCESSORY": self.accessory}
         process = self.rig.start(["wine", str(program), *arguments], cwd=self.folder,
-                                 extra={"QUORVEL_TEST_MONITOR": f"Z:{self.monitor}"})
+                                 extra={name: f"Z:{place}" for name, place in places.items() if place})
         self.processes.append(process)
         return process
 

@@ -8,12 +8,13 @@ import sys
 import time
 import traceback
 
+import cases_accessory
 import cases_automation
 import cases_monitor
 import cases_program
 from rig import Rig, edid
 
-AREAS = (cases_monitor, cases_program, cases_automation)
+AREAS = (cases_monitor, cases_program, cases_automation, cases_accessory)
 CASES = [value for area in AREAS for name, value in vars(area).items() if name.startswith("case_")]
 
 
