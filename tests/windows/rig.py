@@ -194,8 +194,8 @@ class Run:
         return file.read_text().splitlines() if file.exists() else []
 
     def times(self):
-        """When each of them came, in seconds of the clock of the day."""
-        return [int(line) / 1000 for line in (self.monitor / "times.txt").read_text().splitlines()]
+        """When each of them came, in milliseconds of the clock of the day."""
+        return [int(line) for line in (self.monitor / "times.txt").read_text().splitlines()]
 
     def refuse(self, *requests):
         """From now on the monitor does not take these requests, such as "W 99"."""
