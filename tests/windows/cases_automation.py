@@ -1,6 +1,6 @@
 """Hot keys and scenario following: real key presses, other programs with keys of their own, programs in front."""
 
-import os
+import contextlib
 import shutil
 import time
 
@@ -140,22 +140,35 @@ def case_killed_while_saving(rig):
         new = file.read_bytes()
         assert b"plusKey=Ctrl+B" in new and new != old
         run.processes[0].kill()
+
+        def others():  # beside the file while it is written; an empty one is only just being made
+            return [other for other in run.folder.glob(file.name + ".*") if other.stat().st_size]
+
+        def begun():
+            with contextlib.suppress(FileNotFoundError):  # gone while it was looked at
+                return others()
+
+        def changed():
+            return file.read_bytes() != old
+
         left = []
-        for _ in range(4):
+        for moment in (changed, begun) * 3:  # what the last one leaves meets the next start
+            for other in run.folder.glob(file.name + ".*"):
+                other.unlink()
             file.write_bytes(old)
-            kill_at_save(run, file)
+            kill_at(run, moment)
             left.append(file.read_bytes())
         assert all(content in (old, new) for content in left), left
-        assert old in left, "no kill came before the new file was in place"
+        assert old in left and new in left, left
         run.start_and_show()
         assert file.read_bytes() == new
 
 
-def kill_at_save(run, file):
-    """Starts the program and kills it at the first sign that it writes the file: another file of nearly that name."""
+def kill_at(run, moment):
+    """Starts the program and kills it the very moment that comes true."""
     process = run.start()
     end = time.monotonic() + START_SECONDS
-    while not [name for name in os.listdir(run.folder) if name.startswith(file.name) and name != file.name]:
+    while not moment():
         assert time.monotonic() < end, "the program stored nothing"
     process.kill()
     process.wait(10)
