@@ -22,7 +22,6 @@
 #include "page/Game/pagepictureenhanc.h"
 #include "page/IO/pageiosetting.h"
 #include "page/Nightloom/matrixformsetting.h"
-#include "page/Nightloom/pageledsystem.h"
 #include "page/Office/pageoffice.h"
 #include "page/Scene/pagescenesetting.h"
 #include "page/emptypage.h"
@@ -140,7 +139,7 @@ void MainWindow::createPages()
     addPage(PageId::ServicesSetting, new pageServicesSetting(*m_queue, m_pages));
     addPage(PageId::IoSetting, new pageIOSetting(*m_queue, m_pages));
     createAutomation();
-    addPage(PageId::LedSystem, new pageLEDSystem([this] { return ensureHidConnected(); }, *m_queue, m_pages));
+    createAccessoryPages();
     m_emptyPage = new EmptyPage(m_pages);
     m_pages->addWidget(m_emptyPage);
 }

@@ -22,6 +22,7 @@ class Page;
 class PageOffice;
 class PanelPage;
 class SettingsPage;
+class pageLEDMusic;
 class pageScenarioFollowing;
 class pageSceneSetting;
 class pageShortcutKey;
@@ -102,6 +103,7 @@ private:
     void setUpFrame();
     void initialise();
     void createPages();
+    void createAccessoryPages();
     void addPage(PageId id, Page *page);
     void createAutomation();
     void createTrayIcon();
@@ -117,7 +119,7 @@ private:
     void checkMonitor();
     void fillPages();
     void showShortcutResult(int function, Command command, int value, bool ok);
-    QString valueText(Command command, int value) const;
+    QString valueText(int function, Command command, int value) const;
     bool rereadSceneMode();
 
     SearchDeviceDlg &m_session;
@@ -130,6 +132,7 @@ private:
     pageSceneSetting *m_scenePage = nullptr;
     std::map<PageId, Page *> m_pageOf;
     PageOffice *m_officePage = nullptr;
+    pageLEDMusic *m_musicPage = nullptr;
     HotkeyOverlay *m_overlay = nullptr;
     EmptyPage *m_emptyPage = nullptr;
     QLabel *m_status = nullptr;

@@ -1,12 +1,37 @@
-// What the main window does for the LED-matrix accessory: its handle, and the busy mode around long work with it.
+// What the main window does for the LED-matrix accessory: its pages, its handle, and the busy mode around long work.
+
+#include <QStackedWidget>
 
 #include "controls/lefttabbutton.h"
 #include "controls/messagebox.h"
 #include "leftbar.h"
 #include "mainwindow.h"
 #include "page/Nightloom/ledworkthread.h"
+#include "page/Nightloom/pageledmatrixcanvas.h"
+#include "page/Nightloom/pageledmatrixtext.h"
+#include "page/Nightloom/pageledmusic.h"
+#include "page/Nightloom/pageledsystem.h"
 #include "usb-hid/accessoryupload.h"
 #include "usb-hid/hidtransport.h"
+
+void MainWindow::createAccessoryPages()
+{
+    const AccessoryCheck check = [this] { return ensureHidConnected(); };
+    auto *text = new pageLEDMatrixText(check, m_pages);
+    auto *canvas = new pageLEDMatrixCanvas(check, m_pages);
+    const auto followWork = [this](auto *page) {
+        using AnyPage = std::remove_pointer_t<decltype(page)>;
+        connect(page, &AnyPage::busyBegins, this, [this] { setInterfaceMode(kBusy); });
+        connect(page, &AnyPage::busyEnded, this, [this] { setInterfaceMode(kBusyEnded); });
+    };
+    followWork(text);
+    followWork(canvas);
+    addPage(PageId::LedText, text);
+    addPage(PageId::LedCanvas, canvas);
+    m_musicPage = new pageLEDMusic(check, *m_queue, m_pages);
+    addPage(PageId::LedMusic, m_musicPage);
+    addPage(PageId::LedSystem, new pageLEDSystem(check, *m_queue, m_pages));
+}
 
 void MainWindow::reopenHidDevice()
 {
@@ -38,6 +63,7 @@ void MainWindow::stopAccessoryWork()
 
 void MainWindow::setAccessoryBusy(bool busy)
 {
+    m_musicPage->setBusy(busy); // stops listening before the worker is stopped
     if (busy)
         stopAccessoryWork();
     const LeftBar *bar = leftBar(kAccessoryFamily);

@@ -11,6 +11,13 @@
 #include "page/engine/settingspage.h"
 #include "shortcut/shortcutfunctions.h"
 
+/// The switches of the game aids, which no page shows.
+static bool isAidSwitch(Command command)
+{
+    return command == Command::RefreshRate || command == Command::Crosshair || command == Command::Stopwatch ||
+           command == Command::GameTime;
+}
+
 void MainWindow::createAutomation()
 {
     m_overlay = new HotkeyOverlay(this);
@@ -30,14 +37,15 @@ void MainWindow::createAutomation()
 void MainWindow::showShortcutResult(int function, Command command, int value, bool ok)
 {
     const QString name = QObject::tr(shortcutFunctions()[static_cast<std::size_t>(function)].name);
-    m_overlay->showNote(name, ok ? valueText(command, value) : QObject::tr("The monitor did not take this setting."));
+    m_overlay->showNote(name, ok ? valueText(function, command, value)
+                                 : QObject::tr("The monitor did not take this setting."));
     fillPages();
     if (command == Command::SceneMode)
         followSceneMode();
 }
 
 /// A value as the page that sets it names it; a number where no page does.
-QString MainWindow::valueText(Command command, int value) const
+QString MainWindow::valueText(int function, Command command, int value) const
 {
     if (command == Command::SceneMode)
         return value % 2 != 0 ? QObject::tr("With the factory parameters") : QObject::tr("With your own parameters");
@@ -48,5 +56,10 @@ QString MainWindow::valueText(Command command, int value) const
         if (option)
             return option->text().trimmed();
     }
+    const auto *fixed = std::get_if<FixedValues>(&shortcutFunctions()[static_cast<std::size_t>(function)].rule);
+    if (fixed)
+        return value == fixed->plus ? QObject::tr("On") : QObject::tr("Off");
+    if (isAidSwitch(command))
+        return value != 0 ? QObject::tr("On") : QObject::tr("Off");
     return QString::number(value);
 }

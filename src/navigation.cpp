@@ -34,9 +34,12 @@ constexpr NavigationEntry kGameAid[] = {
 };
 constexpr NavigationEntry kOledCare[] = {{LABEL("Care Content"), "care_content"}};
 constexpr NavigationEntry kNightLoom[] = {
-    {LABEL("Animate Mode"), "led_animate"}, {LABEL("Text Mode"), "led_text"},
-    {LABEL("Music Mode"), "led_music"},     {LABEL("System Settings"), "led_system", PageId::LedSystem},
-    {LABEL("Custom Mode"), "led_custom"},   {LABEL("Game VS"), "game_vs"},
+    {LABEL("Animate Mode"), "led_animate"},
+    {LABEL("Text Mode"), "led_text", PageId::LedText},
+    {LABEL("Music Mode"), "led_music", PageId::LedMusic},
+    {LABEL("System Settings"), "led_system", PageId::LedSystem},
+    {LABEL("Custom Mode"), "led_custom", PageId::LedCanvas},
+    {LABEL("Game VS"), "game_vs"},
 };
 constexpr NavigationEntry kBasic[] = {
     {LABEL("System Settings"), "system_settings", PageId::SystemSetting},

@@ -15,8 +15,11 @@ enum class PageId {
     ToolSetting,
     ServicesSetting,
     IoSetting,
+    LedText,
+    LedCanvas,
     ShortcutKey,
     ScenarioFollowing,
+    LedMusic,
     LedSystem,
     Empty
 };

@@ -1,5 +1,4 @@
 #include <QComboBox>
-#include <QLabel>
 #include <QPushButton>
 #include <QtTest>
 
@@ -125,6 +124,8 @@ void TestFollowing::shortVisitsLeaveTheScene()
     front(Game);
     front(Game, 5s);
     QCOMPARE(front(Other, 200ms), QStringList()); // each match counts, also one that wrote nothing
+    m_desk->clock.setNow(m_desk->clock.now().addSecs(-3600));
+    QCOMPARE(front(Other, 0ms), QStringList{"W 22=1"}); // a clock that was set back holds up nothing
 }
 
 void TestFollowing::baseMode_data()
@@ -223,6 +224,7 @@ void TestFollowing::loading_data()
         << QByteArray("[a.exe]\nappPath=C:/x, y/a.exe\nappScence=1\n") << QStringList{"C:/x, y/a.exe 1"};
     QTest::newRow("two groups, one file")
         << QByteArray("[a]\nappPath=C:/a.exe\n[b]\nappPath=D:/a.exe\n") << QStringList{"C:/a.exe 0"};
+    QTest::newRow("no group") << QByteArray("appPath=C:/a.exe\n") << QStringList();
     QTest::newRow("a folder") << QByteArray("[a]\nappPath=C:/\n[b]\nappPath=\n") << QStringList();
     QTest::newRow("another program's file") << QByteArray("<html>\n\1\2\3\n[a]\nx=1\n") << QStringList();
 }

@@ -2,6 +2,7 @@
 #include <QMessageBox>
 #include <QtTest>
 
+#include "PictureAudioCom/soundanalyzer.h"
 #include "controls/lefttabbutton.h"
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
@@ -12,6 +13,7 @@
 #include "mainwindow.h"
 #include "page/BasicSetting/hotkeyoverlay.h"
 #include "page/Nightloom/ledworkthread.h"
+#include "page/Nightloom/pageledmusic.h"
 #include "page/Scene/pagescenesetting.h"
 #include "page/emptypage.h"
 #include "page/engine/optiongrouprow.h"
@@ -50,9 +52,11 @@ private Q_SLOTS:
     void keyboardWalksTheTabs();
     void hotKeysShow();
     void followedScenesShow();
+    void refusedHotKeyIsNotKept();
     void accessoryIsOpenedAndFollowed();
     void missingAccessoryIsTold();
     void busyModeStopsTheWorker();
+    void busyModeInterruptsMusic();
 
 private:
     void start(
@@ -419,6 +423,34 @@ void TestMainWindow::busyModeStopsTheWorker()
     worker->begin(ledWorkThread::ClockLoop);
     m_window.reset(); // the program's end
     QVERIFY(worker->isFinished());
+}
+
+void TestMainWindow::refusedHotKeyIsNotKept()
+{
+    start(10, 0, [] { saveShortcuts({true, {{1, true, QStringLiteral("Ctrl+1"), {}}}}); });
+    m_desk->clock.advance(200ms);
+    m_desk->monitor().refuseWrites(4); // the command with its retry
+    m_desk->desk.pressKey(platform::kModifierControl, '1');
+    m_desk->clock.advance(10s);
+    QCOMPARE(m_desk->monitor().value(0x22), std::uint16_t(10));
+    QCOMPARE(deviceState.value(Command::SceneMode), 10); // what is on
+    QVERIFY(entry(0, "Movie Mode")->isChecked());
+    QVERIFY(!m_window->overlay()->text().contains(QStringLiteral("parameters")));
+}
+
+void TestMainWindow::busyModeInterruptsMusic()
+{
+    start(10);
+    SoundAnalyzer &analyzer = SoundAnalyzer::instance();
+    auto *music = qobject_cast<pageLEDMusic *>(m_window->page(PageId::LedMusic)->widget());
+    music->switchOptions()->buttonOf(1)->click();
+    QTRY_VERIFY(analyzer.isCapturing());
+    m_window->setInterfaceMode(kBusy);
+    QTRY_VERIFY(!analyzer.isRunning());
+    m_window->setInterfaceMode(kBusyEnded);
+    QTRY_VERIFY(analyzer.isCapturing());
+    m_window.reset(); // the program's end
+    QVERIFY(analyzer.isFinished());
 }
 
 QTEST_MAIN(TestMainWindow)

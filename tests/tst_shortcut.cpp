@@ -6,7 +6,7 @@
 #include "ddc_protocol/displayenumeration.h"
 #include "ddc_protocol/transport.h"
 #include "platform/desk.h"
-#include "shortcut/nativekeys.h"
+#include "platform/nativekeys.h"
 #include "shortcut/qxtglobalshortcut.h"
 #include "shortcut/shortcutfunctions.h"
 #include "shortcut/shortcutrunner.h"

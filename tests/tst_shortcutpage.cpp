@@ -4,7 +4,6 @@
 #include <QPushButton>
 #include <QtTest>
 
-#include "controls/zelmardialog.h"
 #include "controls/zelmarkeysequenceedit.h"
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/displayenumeration.h"
@@ -77,6 +76,9 @@ private Q_SLOTS:
     void addAndDelete();
     void otherMonitorsRowsAreKept();
     void fieldSaysWhyNot();
+    void registeredKeysCanBeTyped();
+    void keysOfOneId();
+    void factoryModeKeepsItsBlock();
     void unwritableFile();
     void killedWhileSaving();
     void overlay();
@@ -306,6 +308,48 @@ void TestShortcutPage::fieldSaysWhyNot()
     QTest::keyClick(row(0)->plusEdit(), Qt::Key_5, Qt::ControlModifier | Qt::KeypadModifier);
     QVERIFY(!m_page->notice().isEmpty() && m_page->notice() != noModifier);
     QVERIFY(row(0)->plusEdit()->text().isEmpty());
+    QTest::keyClick(row(0)->plusEdit(), Qt::Key_A, Qt::AltModifier);
+    QVERIFY(m_page->notice().contains(button("pushButtonAppli")->text())); // what to do next
+}
+
+/// The system keeps a registered combination from every field, so it comes back as a hot key.
+void TestShortcutPage::registeredKeysCanBeTyped()
+{
+    saveShortcuts({true, {{1, true, QStringLiteral("Ctrl+1"), {}}, {2, true, {}, {}}}});
+    start();
+    m_page->show();
+    m_page->activateWindow();
+    row(1)->plusEdit()->setFocus();
+    QTRY_COMPARE(QApplication::focusWidget(), row(1)->plusEdit());
+    QCOMPARE(press(kControl, '1'), QStringList());
+    QCOMPARE(m_page->conflicts, 1);
+    row(0)->plusEdit()->setFocus();
+    QCOMPARE(press(kControl, '1'), QStringList());
+    QCOMPARE(row(0)->plusEdit()->text(), QStringLiteral("Ctrl+1"));
+    QCOMPARE(m_page->conflicts, 1);
+    button("pushButtonAppli")->setFocus();
+    QCOMPARE(press(kControl, '1'), QStringList{"W 22=3"});
+}
+
+/// Ctrl+A and Alt+B have one id; the system may take either away.
+void TestShortcutPage::keysOfOneId()
+{
+    saveShortcuts({true, {{1, true, QStringLiteral("Ctrl+A"), {}}, {2, true, QStringLiteral("Alt+B"), {}}}});
+    start();
+    row(1)->trashButton()->click();
+    QCOMPARE(press(kControl, 'A'), QStringList{"W 22=3"});
+    QCOMPARE(m_desk->desk.hotKeys().count(), std::size_t(1));
+}
+
+void TestShortcutPage::factoryModeKeepsItsBlock()
+{
+    saveShortcuts({true, {{12, true, QStringLiteral("Ctrl+B"), {}}}});
+    start();
+    deviceState.store(Command::SceneMode, 9);
+    deviceState.store(Command::Sharpness, 4);
+    QVERIFY(deviceState.sceneBlockValid());
+    press(kControl, 'B');
+    QVERIFY(!deviceState.sceneBlockValid()); // the value that was set is not the custom half's
 }
 
 void TestShortcutPage::unwritableFile()
@@ -318,7 +362,8 @@ void TestShortcutPage::unwritableFile()
     button("pushButton_2")->click();
     button("pushButtonAppli")->click();
     QVERIFY(m_page->notice().contains(kFile));
-    QCOMPARE(m_page->shortcutRows().size(), std::size_t(1)); // nothing of what is shown is lost
+    QVERIFY(button("pushButtonAppli")->property("waiting").toBool());
+    QVERIFY(loadShortcuts().entries.empty()); // nobody is told what the file did not take
 }
 
 void TestShortcutPage::killedWhileSaving()
@@ -326,7 +371,7 @@ void TestShortcutPage::killedWhileSaving()
     for (int round = 0; round < 12; ++round) {
         QProcess saver;
         saver.start(QCoreApplication::applicationFilePath(), {QLatin1String(kSaverArgument)});
-        QVERIFY(saver.waitForReadyRead());
+        QVERIFY(saver.waitForReadyRead(60000));
         saver.waitForFinished(round); // let it save on for some milliseconds
         saver.kill();
         QVERIFY(saver.waitForFinished());

@@ -28,6 +28,10 @@
         <translation>%1 cannot be written. Nothing was changed.</translation>
     </message>
     <message>
+        <source>%1 cannot be written: what is set here lasts until the program ends.</source>
+        <translation>%1 cannot be written: what is set here lasts until the program ends.</translation>
+    </message>
+    <message>
         <source>%1 is in the list already.</source>
         <translation>%1 is in the list already.</translation>
     </message>
@@ -152,6 +156,10 @@
         <translation>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</translation>
     </message>
     <message>
+        <source>A WAV file</source>
+        <translation>A WAV file</translation>
+    </message>
+    <message>
         <source>A balanced picture for every day.</source>
         <translation>A balanced picture for every day.</translation>
     </message>
@@ -162,6 +170,14 @@
     <message>
         <source>A soft page for long texts.</source>
         <translation>A soft page for long texts.</translation>
+    </message>
+    <message>
+        <source>A sweep</source>
+        <translation>A sweep</translation>
+    </message>
+    <message>
+        <source>A tone</source>
+        <translation>A tone</translation>
     </message>
     <message>
         <source>A wide gamut for photographs.</source>
@@ -182,6 +198,10 @@
     <message>
         <source>Adaptive-Sync</source>
         <translation>Adaptive-Sync</translation>
+    </message>
+    <message>
+        <source>Add Frame</source>
+        <translation>Add Frame</translation>
     </message>
     <message>
         <source>Add Scence</source>
@@ -256,6 +276,10 @@
         <translation>Animations</translation>
     </message>
     <message>
+        <source>Another device becomes the default one</source>
+        <translation>Another device becomes the default one</translation>
+    </message>
+    <message>
         <source>Another program registers the combination first</source>
         <translation>Another program registers the combination first</translation>
     </message>
@@ -316,6 +340,10 @@
         <translation>Background running</translation>
     </message>
     <message>
+        <source>Bars</source>
+        <translation>Bars</translation>
+    </message>
+    <message>
         <source>Basic</source>
         <translation>Basic</translation>
     </message>
@@ -334,6 +362,10 @@
     <message>
         <source>Bring to the front</source>
         <translation>Bring to the front</translation>
+    </message>
+    <message>
+        <source>Buffer error</source>
+        <translation>Buffer error</translation>
     </message>
     <message>
         <source>C</source>
@@ -356,12 +388,24 @@
         <translation>CR Enhance</translation>
     </message>
     <message>
+        <source>CSV file (*.csv);</source>
+        <translation>CSV file (*.csv);</translation>
+    </message>
+    <message>
         <source>Care Content</source>
         <translation>Care Content</translation>
     </message>
     <message>
+        <source>Cell Size</source>
+        <translation>Cell Size</translation>
+    </message>
+    <message>
         <source>Changes count once you press &quot;%1&quot;.</source>
         <translation>Changes count once you press &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Channels</translation>
     </message>
     <message>
         <source>Choose Custom to make it your own.</source>
@@ -374,6 +418,10 @@
     <message>
         <source>Cinema colours at a D65 white.</source>
         <translation>Cinema colours at a D65 white.</translation>
+    </message>
+    <message>
+        <source>Clean Frame</source>
+        <translation>Clean Frame</translation>
     </message>
     <message>
         <source>Clock</source>
@@ -488,6 +536,10 @@
         <translation>Delete</translation>
     </message>
     <message>
+        <source>Delete Frame</source>
+        <translation>Delete Frame</translation>
+    </message>
+    <message>
         <source>Desktop</source>
         <translation>Desktop</translation>
     </message>
@@ -506,6 +558,10 @@
     <message>
         <source>Drop a chunk</source>
         <translation>Drop a chunk</translation>
+    </message>
+    <message>
+        <source>Duplicate Frame</source>
+        <translation>Duplicate Frame</translation>
     </message>
     <message>
         <source>DyDs</source>
@@ -540,8 +596,16 @@
         <translation>Emberline</translation>
     </message>
     <message>
+        <source>Erase</source>
+        <translation>Erase</translation>
+    </message>
+    <message>
         <source>European broadcasting primaries.</source>
         <translation>European broadcasting primaries.</translation>
+    </message>
+    <message>
+        <source>Every packet holds 7001 frames until the button is released</source>
+        <translation>Every packet holds 7001 frames until the button is released</translation>
     </message>
     <message>
         <source>Every request takes 400 ms longer</source>
@@ -556,6 +620,18 @@
         <translation>Exit</translation>
     </message>
     <message>
+        <source>Export Animate</source>
+        <translation>Export Animate</translation>
+    </message>
+    <message>
+        <source>Extensible, floating point</source>
+        <translation>Extensible, floating point</translation>
+    </message>
+    <message>
+        <source>Extensible, integer</source>
+        <translation>Extensible, integer</translation>
+    </message>
+    <message>
         <source>Eye Care</source>
         <translation>Eye Care</translation>
     </message>
@@ -566,6 +642,14 @@
     <message>
         <source>Eyeshield Remind</source>
         <translation>Eyeshield Remind</translation>
+    </message>
+    <message>
+        <source>Falling Peaks</source>
+        <translation>Falling Peaks</translation>
+    </message>
+    <message>
+        <source>File is null.</source>
+        <translation>File is null.</translation>
     </message>
     <message>
         <source>Fine lines and clear edges for drawings.</source>
@@ -596,8 +680,20 @@
         <translation>Frame</translation>
     </message>
     <message>
-        <source>From now on another program has it, unless QUORVEL had it before.</source>
-        <translation>From now on another program has it, unless QUORVEL had it before.</translation>
+        <source>Frames/s</source>
+        <translation>Frames/s</translation>
+    </message>
+    <message>
+        <source>Frames: %1</source>
+        <translation>Frames: %1</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Frequency</translation>
+    </message>
+    <message>
+        <source>From now on another program has it.</source>
+        <translation>From now on another program has it.</translation>
     </message>
     <message>
         <source>Function</source>
@@ -688,6 +784,10 @@
         <translation>Halo Control</translation>
     </message>
     <message>
+        <source>Hanging</source>
+        <translation>Hanging</translation>
+    </message>
+    <message>
         <source>HawkEye Vision</source>
         <translation>HawkEye Vision</translation>
     </message>
@@ -740,8 +840,16 @@
         <translation>Hue R Y G C B M</translation>
     </message>
     <message>
+        <source>Huge packets</source>
+        <translation>Huge packets</translation>
+    </message>
+    <message>
         <source>I/O Settings</source>
         <translation>I/O Settings</translation>
+    </message>
+    <message>
+        <source>Import Animate</source>
+        <translation>Import Animate</translation>
     </message>
     <message>
         <source>Information</source>
@@ -774,6 +882,10 @@
     <message>
         <source>LANGUAGE_SHORTCUTKEY_DESC</source>
         <translation>Keys for functions of the monitor that work anywhere on the desktop: Ctrl or Alt with a letter or a digit; Backspace clears a field.</translation>
+    </message>
+    <message>
+        <source>LED matrix</source>
+        <translation>LED matrix</translation>
     </message>
     <message>
         <source>Lamp</source>
@@ -810,6 +922,10 @@
     <message>
         <source>Light Sensor</source>
         <translation>Light Sensor</translation>
+    </message>
+    <message>
+        <source>Listening…</source>
+        <translation>Listening…</translation>
     </message>
     <message>
         <source>Live frames</source>
@@ -872,6 +988,10 @@
         <translation>Matrix of the simulated accessory</translation>
     </message>
     <message>
+        <source>Maximum 192 frames</source>
+        <translation>Maximum 192 frames</translation>
+    </message>
+    <message>
         <source>Medium</source>
         <translation>Medium</translation>
     </message>
@@ -888,8 +1008,40 @@
         <translation>Minimise</translation>
     </message>
     <message>
+        <source>Mirrored</source>
+        <translation>Mirrored</translation>
+    </message>
+    <message>
+        <source>Mix format</source>
+        <translation>Mix format</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Mode</translation>
+    </message>
+    <message>
         <source>Mode %1</source>
         <translation>Mode %1</translation>
+    </message>
+    <message>
+        <source>Mode1</source>
+        <translation>Mode1</translation>
+    </message>
+    <message>
+        <source>Mode2</source>
+        <translation>Mode2</translation>
+    </message>
+    <message>
+        <source>Mode3</source>
+        <translation>Mode3</translation>
+    </message>
+    <message>
+        <source>Mode4</source>
+        <translation>Mode4</translation>
+    </message>
+    <message>
+        <source>Mode5</source>
+        <translation>Mode5</translation>
     </message>
     <message>
         <source>Monitor</source>
@@ -928,6 +1080,10 @@
         <translation>Native Mode</translation>
     </message>
     <message>
+        <source>New device</source>
+        <translation>New device</translation>
+    </message>
+    <message>
         <source>Next value</source>
         <translation>Next value</translation>
     </message>
@@ -964,12 +1120,28 @@
         <translation>No Type-C data cable or HDMI/DP + USB data cable connected.</translation>
     </message>
     <message>
+        <source>No file path selected.</source>
+        <translation>No file path selected.</translation>
+    </message>
+    <message>
         <source>No hot keys yet: choose a function above and add it.</source>
         <translation>No hot keys yet: choose a function above and add it.</translation>
     </message>
     <message>
         <source>No programs yet: add one and choose its scene.</source>
         <translation>No programs yet: add one and choose its scene.</translation>
+    </message>
+    <message>
+        <source>Noise</source>
+        <translation>Noise</translation>
+    </message>
+    <message>
+        <source>Nothing is heard: no program plays, or the sound output is gone.</source>
+        <translation>Nothing is heard: no program plays, or the sound output is gone.</translation>
+    </message>
+    <message>
+        <source>Nothing plays</source>
+        <translation>Nothing plays</translation>
     </message>
     <message>
         <source>OK</source>
@@ -1010,6 +1182,10 @@
     <message>
         <source>On-screen menu</source>
         <translation>On-screen menu</translation>
+    </message>
+    <message>
+        <source>Onion Skin</source>
+        <translation>Onion Skin</translation>
     </message>
     <message>
         <source>Open</source>
@@ -1064,6 +1240,14 @@
         <translation>Picture Enhance</translation>
     </message>
     <message>
+        <source>Plain, floating point</source>
+        <translation>Plain, floating point</translation>
+    </message>
+    <message>
+        <source>Plain, integer</source>
+        <translation>Plain, integer</translation>
+    </message>
+    <message>
         <source>Playback Level</source>
         <translation>Playback Level</translation>
     </message>
@@ -1084,6 +1268,10 @@
         <translation>Press</translation>
     </message>
     <message>
+        <source>Preview</source>
+        <translation>Preview</translation>
+    </message>
+    <message>
         <source>Print Mode</source>
         <translation>Print Mode</translation>
     </message>
@@ -1096,8 +1284,16 @@
         <translation>Programs</translation>
     </message>
     <message>
+        <source>Progress</source>
+        <translation>Progress</translation>
+    </message>
+    <message>
         <source>Proofs under a D50 light.</source>
         <translation>Proofs under a D50 light.</translation>
+    </message>
+    <message>
+        <source>Pull out</source>
+        <translation>Pull out</translation>
     </message>
     <message>
         <source>Pull out in mid-transfer</source>
@@ -1136,6 +1332,10 @@
         <translation>RGB Limit</translation>
     </message>
     <message>
+        <source>Rate</source>
+        <translation>Rate</translation>
+    </message>
+    <message>
         <source>Reading</source>
         <translation>Reading</translation>
     </message>
@@ -1168,12 +1368,24 @@
         <translation>Rectangular form</translation>
     </message>
     <message>
+        <source>Redo</source>
+        <translation>Redo</translation>
+    </message>
+    <message>
         <source>Refresh Rate</source>
         <translation>Refresh Rate</translation>
     </message>
     <message>
+        <source>Refuse format</source>
+        <translation>Refuse format</translation>
+    </message>
+    <message>
         <source>Refuse writes</source>
         <translation>Refuse writes</translation>
+    </message>
+    <message>
+        <source>Rendering</source>
+        <translation>Rendering</translation>
     </message>
     <message>
         <source>Requests</source>
@@ -1186,6 +1398,10 @@
     <message>
         <source>Round</source>
         <translation>Round</translation>
+    </message>
+    <message>
+        <source>Row %1, cell %2: %3</source>
+        <translation>Row %1, cell %2: %3</translation>
     </message>
     <message>
         <source>Ruler</source>
@@ -1212,6 +1428,18 @@
         <translation>Saturation R Y G C B M</translation>
     </message>
     <message>
+        <source>Save Animate</source>
+        <translation>Save Animate</translation>
+    </message>
+    <message>
+        <source>Save Data</source>
+        <translation>Save Data</translation>
+    </message>
+    <message>
+        <source>Save File</source>
+        <translation>Save File</translation>
+    </message>
+    <message>
         <source>Scan it with a phone to read more about your monitor.</source>
         <translation>Scan it with a phone to read more about your monitor.</translation>
     </message>
@@ -1230,6 +1458,22 @@
     <message>
         <source>Screen of the simulated monitor</source>
         <translation>Screen of the simulated monitor</translation>
+    </message>
+    <message>
+        <source>Scroll Left</source>
+        <translation>Scroll Left</translation>
+    </message>
+    <message>
+        <source>Scroll Right</source>
+        <translation>Scroll Right</translation>
+    </message>
+    <message>
+        <source>Second tone</source>
+        <translation>Second tone</translation>
+    </message>
+    <message>
+        <source>Select File</source>
+        <translation>Select File</translation>
     </message>
     <message>
         <source>Service Settings</source>
@@ -1268,6 +1512,10 @@
         <translation>Shown</translation>
     </message>
     <message>
+        <source>Silence</source>
+        <translation>Silence</translation>
+    </message>
+    <message>
         <source>Simulated monitor</source>
         <translation>Simulated monitor</translation>
     </message>
@@ -1292,6 +1540,14 @@
         <translation>Softproof(D58)</translation>
     </message>
     <message>
+        <source>Sound</source>
+        <translation>Sound</translation>
+    </message>
+    <message>
+        <source>Sound output</source>
+        <translation>Sound output</translation>
+    </message>
+    <message>
         <source>Standard</source>
         <translation>Standard</translation>
     </message>
@@ -1300,8 +1556,16 @@
         <translation>Standard Mode</translation>
     </message>
     <message>
+        <source>Standing</source>
+        <translation>Standing</translation>
+    </message>
+    <message>
         <source>Starts the program that brings the monitor&apos;s firmware up to date. Leave the monitor switched on until it has finished.</source>
         <translation>Starts the program that brings the monitor&apos;s firmware up to date. Leave the monitor switched on until it has finished.</translation>
+    </message>
+    <message>
+        <source>Stop service</source>
+        <translation>Stop service</translation>
     </message>
     <message>
         <source>Stopwatch</source>
@@ -1336,6 +1600,14 @@
         <translation>Tapering</translation>
     </message>
     <message>
+        <source>Template</source>
+        <translation>Template</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
         <source>Text Mode</source>
         <translation>Text Mode</translation>
     </message>
@@ -1350,6 +1622,10 @@
     <message>
         <source>The accessory is the model with 25 rows of 42 cells</source>
         <translation>The accessory is the model with 25 rows of 42 cells</translation>
+    </message>
+    <message>
+        <source>The accessory shows what this computer plays as soon as the music mode is open.</source>
+        <translation>The accessory shows what this computer plays as soon as the music mode is open.</translation>
     </message>
     <message>
         <source>The accessory takes no report until the button is released</source>
@@ -1370,6 +1646,18 @@
     <message>
         <source>The colours of the cinema.</source>
         <translation>The colours of the cinema.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1</source>
+        <translation>The file cannot be read: %1</translation>
+    </message>
+    <message>
+        <source>The file cannot be written: %1</source>
+        <translation>The file cannot be written: %1</translation>
+    </message>
+    <message>
+        <source>The file holds no whole frame.</source>
+        <translation>The file holds no whole frame.</translation>
     </message>
     <message>
         <source>The grey scale of medical pictures.</source>
@@ -1404,6 +1692,14 @@
         <translation>The monitor takes no value until the button is released</translation>
     </message>
     <message>
+        <source>The next client is not initialised</source>
+        <translation>The next client is not initialised</translation>
+    </message>
+    <message>
+        <source>The next packet cannot be fetched</source>
+        <translation>The next packet cannot be fetched</translation>
+    </message>
+    <message>
         <source>The page %1 could not be opened.</source>
         <translation>The page %1 could not be opened.</translation>
     </message>
@@ -1414,6 +1710,10 @@
     <message>
         <source>The program has not registered this combination.</source>
         <translation>The program has not registered this combination.</translation>
+    </message>
+    <message>
+        <source>The program has this combination already.</source>
+        <translation>The program has this combination already.</translation>
     </message>
     <message>
         <source>The program heard it.</source>
@@ -1440,6 +1740,10 @@
         <translation>The system did not allow &quot;%1&quot; to be changed.</translation>
     </message>
     <message>
+        <source>The system&apos;s audio service is down until the button is released</source>
+        <translation>The system&apos;s audio service is down until the button is released</translation>
+    </message>
+    <message>
         <source>The upgrade program %1 could not be started.</source>
         <translation>The upgrade program %1 could not be started.</translation>
     </message>
@@ -1450,6 +1754,18 @@
     <message>
         <source>The white of printed paper.</source>
         <translation>The white of printed paper.</translation>
+    </message>
+    <message>
+        <source>There is no sound output until the button is released</source>
+        <translation>There is no sound output until the button is released</translation>
+    </message>
+    <message>
+        <source>There is no text yet.</source>
+        <translation>There is no text yet.</translation>
+    </message>
+    <message>
+        <source>This computer has no sound output to listen to. It is looked for again every few seconds.</source>
+        <translation>This computer has no sound output to listen to. It is looked for again every few seconds.</translation>
     </message>
     <message>
         <source>This function has its row already.</source>
@@ -1500,6 +1816,10 @@
         <translation>True colours for design work.</translation>
     </message>
     <message>
+        <source>Two tones</source>
+        <translation>Two tones</translation>
+    </message>
+    <message>
         <source>Type the combination here, then press it on the whole desktop</source>
         <translation>Type the combination here, then press it on the whole desktop</translation>
     </message>
@@ -1530,6 +1850,10 @@
     <message>
         <source>Ull-Level3</source>
         <translation>Ull-Level3</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Undo</translation>
     </message>
     <message>
         <source>Unplug</source>
@@ -1596,6 +1920,10 @@
         <translation>Vivid colours for animation.</translation>
     </message>
     <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
         <source>Warning</source>
         <translation>Warning</translation>
     </message>
@@ -1604,8 +1932,16 @@
         <translation>Web(sRGB)</translation>
     </message>
     <message>
+        <source>What goes wrong</source>
+        <translation>What goes wrong</translation>
+    </message>
+    <message>
         <source>What most visitors of a page see.</source>
         <translation>What most visitors of a page see.</translation>
+    </message>
+    <message>
+        <source>What plays</source>
+        <translation>What plays</translation>
     </message>
     <message>
         <source>Width</source>
@@ -1618,6 +1954,18 @@
     <message>
         <source>With your own parameters</source>
         <translation>With your own parameters</translation>
+    </message>
+    <message>
+        <source>Write Animate</source>
+        <translation>Write Animate</translation>
+    </message>
+    <message>
+        <source>Write Data</source>
+        <translation>Write Data</translation>
+    </message>
+    <message>
+        <source>Write here what the matrix shall show.</source>
+        <translation>Write here what the matrix shall show.</translation>
     </message>
     <message>
         <source>Y</source>
@@ -1684,12 +2032,24 @@
         <translation>no monitor</translation>
     </message>
     <message>
+        <source>not a WAV file of 16-bit or floating-point samples</source>
+        <translation>not a WAV file of 16-bit or floating-point samples</translation>
+    </message>
+    <message>
         <source>nothing</source>
         <translation>nothing</translation>
     </message>
     <message>
+        <source>off</source>
+        <translation>off</translation>
+    </message>
+    <message>
         <source>ok</source>
         <translation>ok</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>on</translation>
     </message>
     <message>
         <source>open</source>

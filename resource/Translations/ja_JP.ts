@@ -28,6 +28,10 @@
         <translation>%1 に書き込めません。変更はありません。</translation>
     </message>
     <message>
+        <source>%1 cannot be written: what is set here lasts until the program ends.</source>
+        <translation>%1 に書き込めません。ここでの設定はプログラムの終了まで有効です。</translation>
+    </message>
+    <message>
         <source>%1 is in the list already.</source>
         <translation>%1 は既にリストにあります。</translation>
     </message>
@@ -152,6 +156,10 @@
         <translation>&lt;font color=white&gt;ディスプレイ情報を取得しています...&lt;/font&gt;</translation>
     </message>
     <message>
+        <source>A WAV file</source>
+        <translation>WAV ファイル</translation>
+    </message>
+    <message>
         <source>A balanced picture for every day.</source>
         <translation>日常使いに適したバランスのよい画質です。</translation>
     </message>
@@ -162,6 +170,14 @@
     <message>
         <source>A soft page for long texts.</source>
         <translation>長文を読むのに適したやわらかな画質です。</translation>
+    </message>
+    <message>
+        <source>A sweep</source>
+        <translation>スイープ</translation>
+    </message>
+    <message>
+        <source>A tone</source>
+        <translation>単音</translation>
     </message>
     <message>
         <source>A wide gamut for photographs.</source>
@@ -182,6 +198,10 @@
     <message>
         <source>Adaptive-Sync</source>
         <translation>Adaptive-Sync</translation>
+    </message>
+    <message>
+        <source>Add Frame</source>
+        <translation>フレーム追加</translation>
     </message>
     <message>
         <source>Add Scence</source>
@@ -256,6 +276,10 @@
         <translation>アニメーション</translation>
     </message>
     <message>
+        <source>Another device becomes the default one</source>
+        <translation>別のデバイスが既定になります</translation>
+    </message>
+    <message>
         <source>Another program registers the combination first</source>
         <translation>別のプログラムがこの組み合わせを先に登録します</translation>
     </message>
@@ -316,6 +340,10 @@
         <translation>バックグラウンドで実行中</translation>
     </message>
     <message>
+        <source>Bars</source>
+        <translation>バー</translation>
+    </message>
+    <message>
         <source>Basic</source>
         <translation>基本設定</translation>
     </message>
@@ -334,6 +362,10 @@
     <message>
         <source>Bring to the front</source>
         <translation>前面に出す</translation>
+    </message>
+    <message>
+        <source>Buffer error</source>
+        <translation>バッファエラー</translation>
     </message>
     <message>
         <source>C</source>
@@ -356,12 +388,24 @@
         <translation>コントラスト強調</translation>
     </message>
     <message>
+        <source>CSV file (*.csv);</source>
+        <translation>CSVファイル (*.csv);</translation>
+    </message>
+    <message>
         <source>Care Content</source>
         <translation>ケア項目</translation>
     </message>
     <message>
+        <source>Cell Size</source>
+        <translation>セルの大きさ</translation>
+    </message>
+    <message>
         <source>Changes count once you press &quot;%1&quot;.</source>
         <translation>「%1」を押すと変更が有効になります。</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>チャンネル</translation>
     </message>
     <message>
         <source>Choose Custom to make it your own.</source>
@@ -374,6 +418,10 @@
     <message>
         <source>Cinema colours at a D65 white.</source>
         <translation>D65 白色点での映画の色です。</translation>
+    </message>
+    <message>
+        <source>Clean Frame</source>
+        <translation>フレーム消去</translation>
     </message>
     <message>
         <source>Clock</source>
@@ -488,6 +536,10 @@
         <translation>削除</translation>
     </message>
     <message>
+        <source>Delete Frame</source>
+        <translation>フレーム削除</translation>
+    </message>
+    <message>
         <source>Desktop</source>
         <translation>デスクトップ</translation>
     </message>
@@ -506,6 +558,10 @@
     <message>
         <source>Drop a chunk</source>
         <translation>ブロック欠落</translation>
+    </message>
+    <message>
+        <source>Duplicate Frame</source>
+        <translation>フレーム複製</translation>
     </message>
     <message>
         <source>DyDs</source>
@@ -540,8 +596,16 @@
         <translation>Emberline</translation>
     </message>
     <message>
+        <source>Erase</source>
+        <translation>消去</translation>
+    </message>
+    <message>
         <source>European broadcasting primaries.</source>
         <translation>欧州の放送規格の三原色です。</translation>
+    </message>
+    <message>
+        <source>Every packet holds 7001 frames until the button is released</source>
+        <translation>ボタンを戻すまで、各パケットは 7001 フレームになります</translation>
     </message>
     <message>
         <source>Every request takes 400 ms longer</source>
@@ -556,6 +620,18 @@
         <translation>終了</translation>
     </message>
     <message>
+        <source>Export Animate</source>
+        <translation>アニメ書き出し</translation>
+    </message>
+    <message>
+        <source>Extensible, floating point</source>
+        <translation>拡張形式、浮動小数点</translation>
+    </message>
+    <message>
+        <source>Extensible, integer</source>
+        <translation>拡張形式、整数</translation>
+    </message>
+    <message>
         <source>Eye Care</source>
         <translation>アイケア</translation>
     </message>
@@ -566,6 +642,14 @@
     <message>
         <source>Eyeshield Remind</source>
         <translation>目の休憩通知</translation>
+    </message>
+    <message>
+        <source>Falling Peaks</source>
+        <translation>落下ピーク</translation>
+    </message>
+    <message>
+        <source>File is null.</source>
+        <translation>ファイルが空です。</translation>
     </message>
     <message>
         <source>Fine lines and clear edges for drawings.</source>
@@ -596,8 +680,20 @@
         <translation>フレーム</translation>
     </message>
     <message>
-        <source>From now on another program has it, unless QUORVEL had it before.</source>
-        <translation>QUORVEL が先に登録していなければ、以後は別のプログラムのものです。</translation>
+        <source>Frames/s</source>
+        <translation>フレーム/秒</translation>
+    </message>
+    <message>
+        <source>Frames: %1</source>
+        <translation>フレーム数: %1</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>周波数</translation>
+    </message>
+    <message>
+        <source>From now on another program has it.</source>
+        <translation>以後は別のプログラムのものです。</translation>
     </message>
     <message>
         <source>Function</source>
@@ -688,6 +784,10 @@
         <translation>ハロー制御</translation>
     </message>
     <message>
+        <source>Hanging</source>
+        <translation>吊り下げ</translation>
+    </message>
+    <message>
         <source>HawkEye Vision</source>
         <translation>ホークアイ</translation>
     </message>
@@ -740,8 +840,16 @@
         <translation>色相 R Y G C B M</translation>
     </message>
     <message>
+        <source>Huge packets</source>
+        <translation>巨大パケット</translation>
+    </message>
+    <message>
         <source>I/O Settings</source>
         <translation>入出力設定</translation>
+    </message>
+    <message>
+        <source>Import Animate</source>
+        <translation>アニメ読み込み</translation>
     </message>
     <message>
         <source>Information</source>
@@ -774,6 +882,10 @@
     <message>
         <source>LANGUAGE_SHORTCUTKEY_DESC</source>
         <translation>モニターの機能に、デスクトップのどこでも使えるキーを割り当てます。Ctrl か Alt と英字または数字。Backspace で消去します。</translation>
+    </message>
+    <message>
+        <source>LED matrix</source>
+        <translation>LEDマトリクス</translation>
     </message>
     <message>
         <source>Lamp</source>
@@ -810,6 +922,10 @@
     <message>
         <source>Light Sensor</source>
         <translation>光センサー</translation>
+    </message>
+    <message>
+        <source>Listening…</source>
+        <translation>聞き取り中…</translation>
     </message>
     <message>
         <source>Live frames</source>
@@ -872,6 +988,10 @@
         <translation>シミュレートされたアクセサリのマトリクス</translation>
     </message>
     <message>
+        <source>Maximum 192 frames</source>
+        <translation>最大192フレーム</translation>
+    </message>
+    <message>
         <source>Medium</source>
         <translation>中</translation>
     </message>
@@ -888,8 +1008,40 @@
         <translation>最小化</translation>
     </message>
     <message>
+        <source>Mirrored</source>
+        <translation>ミラー</translation>
+    </message>
+    <message>
+        <source>Mix format</source>
+        <translation>ミックス形式</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>モード</translation>
+    </message>
+    <message>
         <source>Mode %1</source>
         <translation>モード %1</translation>
+    </message>
+    <message>
+        <source>Mode1</source>
+        <translation>モード1</translation>
+    </message>
+    <message>
+        <source>Mode2</source>
+        <translation>モード2</translation>
+    </message>
+    <message>
+        <source>Mode3</source>
+        <translation>モード3</translation>
+    </message>
+    <message>
+        <source>Mode4</source>
+        <translation>モード4</translation>
+    </message>
+    <message>
+        <source>Mode5</source>
+        <translation>モード5</translation>
     </message>
     <message>
         <source>Monitor</source>
@@ -928,6 +1080,10 @@
         <translation>ネイティブモード</translation>
     </message>
     <message>
+        <source>New device</source>
+        <translation>新しいデバイス</translation>
+    </message>
+    <message>
         <source>Next value</source>
         <translation>次の値</translation>
     </message>
@@ -964,12 +1120,28 @@
         <translation>Type-C データケーブルまたは HDMI/DP + USB データケーブルが接続されていません。</translation>
     </message>
     <message>
+        <source>No file path selected.</source>
+        <translation>ファイルが選択されていません。</translation>
+    </message>
+    <message>
         <source>No hot keys yet: choose a function above and add it.</source>
         <translation>ホットキーはまだありません。上で機能を選んで追加してください。</translation>
     </message>
     <message>
         <source>No programs yet: add one and choose its scene.</source>
         <translation>プログラムはまだありません。追加してシーンを選んでください。</translation>
+    </message>
+    <message>
+        <source>Noise</source>
+        <translation>ノイズ</translation>
+    </message>
+    <message>
+        <source>Nothing is heard: no program plays, or the sound output is gone.</source>
+        <translation>音が聞こえません。再生中のプログラムがないか、音声出力がなくなりました。</translation>
+    </message>
+    <message>
+        <source>Nothing plays</source>
+        <translation>再生なし</translation>
     </message>
     <message>
         <source>OK</source>
@@ -1010,6 +1182,10 @@
     <message>
         <source>On-screen menu</source>
         <translation>オンスクリーンメニュー</translation>
+    </message>
+    <message>
+        <source>Onion Skin</source>
+        <translation>前フレーム透過</translation>
     </message>
     <message>
         <source>Open</source>
@@ -1064,6 +1240,14 @@
         <translation>画質強化</translation>
     </message>
     <message>
+        <source>Plain, floating point</source>
+        <translation>標準形式、浮動小数点</translation>
+    </message>
+    <message>
+        <source>Plain, integer</source>
+        <translation>標準形式、整数</translation>
+    </message>
+    <message>
         <source>Playback Level</source>
         <translation>再生レベル</translation>
     </message>
@@ -1084,6 +1268,10 @@
         <translation>押す</translation>
     </message>
     <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
+    </message>
+    <message>
         <source>Print Mode</source>
         <translation>印刷モード</translation>
     </message>
@@ -1096,8 +1284,16 @@
         <translation>プログラム</translation>
     </message>
     <message>
+        <source>Progress</source>
+        <translation>進行状況</translation>
+    </message>
+    <message>
         <source>Proofs under a D50 light.</source>
         <translation>D50 光源での校正刷り向けです。</translation>
+    </message>
+    <message>
+        <source>Pull out</source>
+        <translation>抜く</translation>
     </message>
     <message>
         <source>Pull out in mid-transfer</source>
@@ -1136,6 +1332,10 @@
         <translation>RGB リミット</translation>
     </message>
     <message>
+        <source>Rate</source>
+        <translation>レート</translation>
+    </message>
+    <message>
         <source>Reading</source>
         <translation>読書</translation>
     </message>
@@ -1168,12 +1368,24 @@
         <translation>長方形タイプ</translation>
     </message>
     <message>
+        <source>Redo</source>
+        <translation>やり直す</translation>
+    </message>
+    <message>
         <source>Refresh Rate</source>
         <translation>リフレッシュレート</translation>
     </message>
     <message>
+        <source>Refuse format</source>
+        <translation>形式を拒否</translation>
+    </message>
+    <message>
         <source>Refuse writes</source>
         <translation>書き込み拒否</translation>
+    </message>
+    <message>
+        <source>Rendering</source>
+        <translation>描画中</translation>
     </message>
     <message>
         <source>Requests</source>
@@ -1186,6 +1398,10 @@
     <message>
         <source>Round</source>
         <translation>円形</translation>
+    </message>
+    <message>
+        <source>Row %1, cell %2: %3</source>
+        <translation>%1行 %2番: %3</translation>
     </message>
     <message>
         <source>Ruler</source>
@@ -1212,6 +1428,18 @@
         <translation>彩度 R Y G C B M</translation>
     </message>
     <message>
+        <source>Save Animate</source>
+        <translation>アニメ保存</translation>
+    </message>
+    <message>
+        <source>Save Data</source>
+        <translation>データ保存</translation>
+    </message>
+    <message>
+        <source>Save File</source>
+        <translation>ファイルを保存</translation>
+    </message>
+    <message>
         <source>Scan it with a phone to read more about your monitor.</source>
         <translation>スマートフォンで読み取ると、モニターの詳しい情報を確認できます。</translation>
     </message>
@@ -1230,6 +1458,22 @@
     <message>
         <source>Screen of the simulated monitor</source>
         <translation>シミュレートされたモニターの画面</translation>
+    </message>
+    <message>
+        <source>Scroll Left</source>
+        <translation>左へスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll Right</source>
+        <translation>右へスクロール</translation>
+    </message>
+    <message>
+        <source>Second tone</source>
+        <translation>2 つ目の音</translation>
+    </message>
+    <message>
+        <source>Select File</source>
+        <translation>ファイルを選択</translation>
     </message>
     <message>
         <source>Service Settings</source>
@@ -1268,6 +1512,10 @@
         <translation>表示内容</translation>
     </message>
     <message>
+        <source>Silence</source>
+        <translation>無音</translation>
+    </message>
+    <message>
         <source>Simulated monitor</source>
         <translation>シミュレートされたモニター</translation>
     </message>
@@ -1292,6 +1540,14 @@
         <translation>Softproof(D58)</translation>
     </message>
     <message>
+        <source>Sound</source>
+        <translation>サウンド</translation>
+    </message>
+    <message>
+        <source>Sound output</source>
+        <translation>音声出力</translation>
+    </message>
+    <message>
         <source>Standard</source>
         <translation>標準</translation>
     </message>
@@ -1300,8 +1556,16 @@
         <translation>標準モード</translation>
     </message>
     <message>
+        <source>Standing</source>
+        <translation>固定表示</translation>
+    </message>
+    <message>
         <source>Starts the program that brings the monitor&apos;s firmware up to date. Leave the monitor switched on until it has finished.</source>
         <translation>モニターのファームウェアを更新するプログラムを起動します。完了するまでモニターの電源を切らないでください。</translation>
+    </message>
+    <message>
+        <source>Stop service</source>
+        <translation>サービス停止</translation>
     </message>
     <message>
         <source>Stopwatch</source>
@@ -1336,6 +1600,14 @@
         <translation>先細り</translation>
     </message>
     <message>
+        <source>Template</source>
+        <translation>テンプレート</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>テキスト</translation>
+    </message>
+    <message>
         <source>Text Mode</source>
         <translation>テキストモード</translation>
     </message>
@@ -1350,6 +1622,10 @@
     <message>
         <source>The accessory is the model with 25 rows of 42 cells</source>
         <translation>アクセサリは 25 行 × 42 セルのモデルです</translation>
+    </message>
+    <message>
+        <source>The accessory shows what this computer plays as soon as the music mode is open.</source>
+        <translation>音楽モードをオンにすると、このコンピューターの再生音がアクセサリーに表示されます。</translation>
     </message>
     <message>
         <source>The accessory takes no report until the button is released</source>
@@ -1370,6 +1646,18 @@
     <message>
         <source>The colours of the cinema.</source>
         <translation>映画館の色です。</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1</source>
+        <translation>ファイルを読み込めません: %1</translation>
+    </message>
+    <message>
+        <source>The file cannot be written: %1</source>
+        <translation>ファイルに書き込めません: %1</translation>
+    </message>
+    <message>
+        <source>The file holds no whole frame.</source>
+        <translation>ファイルに完全なフレームがありません。</translation>
     </message>
     <message>
         <source>The grey scale of medical pictures.</source>
@@ -1404,6 +1692,14 @@
         <translation>ボタンを戻すまでモニターは値を受け付けません</translation>
     </message>
     <message>
+        <source>The next client is not initialised</source>
+        <translation>次のクライアントは初期化されません</translation>
+    </message>
+    <message>
+        <source>The next packet cannot be fetched</source>
+        <translation>次のパケットを取得できません</translation>
+    </message>
+    <message>
         <source>The page %1 could not be opened.</source>
         <translation>ページ %1 を開けませんでした。</translation>
     </message>
@@ -1414,6 +1710,10 @@
     <message>
         <source>The program has not registered this combination.</source>
         <translation>プログラムはこの組み合わせを登録していません。</translation>
+    </message>
+    <message>
+        <source>The program has this combination already.</source>
+        <translation>この組み合わせは既に登録されています。</translation>
     </message>
     <message>
         <source>The program heard it.</source>
@@ -1440,6 +1740,10 @@
         <translation>システムにより「%1」の変更が許可されませんでした。</translation>
     </message>
     <message>
+        <source>The system&apos;s audio service is down until the button is released</source>
+        <translation>ボタンを戻すまで、システムの音声サービスは停止します</translation>
+    </message>
+    <message>
         <source>The upgrade program %1 could not be started.</source>
         <translation>更新プログラム %1 を起動できませんでした。</translation>
     </message>
@@ -1450,6 +1754,18 @@
     <message>
         <source>The white of printed paper.</source>
         <translation>印刷用紙の白です。</translation>
+    </message>
+    <message>
+        <source>There is no sound output until the button is released</source>
+        <translation>ボタンを戻すまで、音声出力がありません</translation>
+    </message>
+    <message>
+        <source>There is no text yet.</source>
+        <translation>テキストがまだありません。</translation>
+    </message>
+    <message>
+        <source>This computer has no sound output to listen to. It is looked for again every few seconds.</source>
+        <translation>このコンピューターには聞き取れる音声出力がありません。数秒ごとに再検索します。</translation>
     </message>
     <message>
         <source>This function has its row already.</source>
@@ -1500,6 +1816,10 @@
         <translation>デザイン作業に適した忠実な色です。</translation>
     </message>
     <message>
+        <source>Two tones</source>
+        <translation>2 つの音</translation>
+    </message>
+    <message>
         <source>Type the combination here, then press it on the whole desktop</source>
         <translation>ここに組み合わせを入力し、デスクトップ全体で押します</translation>
     </message>
@@ -1530,6 +1850,10 @@
     <message>
         <source>Ull-Level3</source>
         <translation>Ull-レベル 3</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
     </message>
     <message>
         <source>Unplug</source>
@@ -1596,6 +1920,10 @@
         <translation>アニメに適した鮮やかな色です。</translation>
     </message>
     <message>
+        <source>Volume</source>
+        <translation>音量</translation>
+    </message>
+    <message>
         <source>Warning</source>
         <translation>警告</translation>
     </message>
@@ -1604,8 +1932,16 @@
         <translation>ウェブ(sRGB)</translation>
     </message>
     <message>
+        <source>What goes wrong</source>
+        <translation>起こす障害</translation>
+    </message>
+    <message>
         <source>What most visitors of a page see.</source>
         <translation>多くの閲覧者が目にする色です。</translation>
+    </message>
+    <message>
+        <source>What plays</source>
+        <translation>再生内容</translation>
     </message>
     <message>
         <source>Width</source>
@@ -1618,6 +1954,18 @@
     <message>
         <source>With your own parameters</source>
         <translation>ユーザー設定</translation>
+    </message>
+    <message>
+        <source>Write Animate</source>
+        <translation>アニメ書き込み</translation>
+    </message>
+    <message>
+        <source>Write Data</source>
+        <translation>データ書き込み</translation>
+    </message>
+    <message>
+        <source>Write here what the matrix shall show.</source>
+        <translation>マトリクスに表示する文字を入力してください。</translation>
     </message>
     <message>
         <source>Y</source>
@@ -1684,12 +2032,24 @@
         <translation>モニターなし</translation>
     </message>
     <message>
+        <source>not a WAV file of 16-bit or floating-point samples</source>
+        <translation>16 ビットまたは浮動小数点の WAV ファイルではありません</translation>
+    </message>
+    <message>
         <source>nothing</source>
         <translation>なし</translation>
     </message>
     <message>
+        <source>off</source>
+        <translation>消灯</translation>
+    </message>
+    <message>
         <source>ok</source>
         <translation>成功</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>点灯</translation>
     </message>
     <message>
         <source>open</source>

@@ -28,6 +28,10 @@
         <translation>无法写入 %1，未作任何更改。</translation>
     </message>
     <message>
+        <source>%1 cannot be written: what is set here lasts until the program ends.</source>
+        <translation>%1 无法写入：此处的设置在程序结束前有效。</translation>
+    </message>
+    <message>
         <source>%1 is in the list already.</source>
         <translation>%1 已在列表中。</translation>
     </message>
@@ -152,6 +156,10 @@
         <translation>&lt;font color=white&gt;正在获取显示设备信息...&lt;/font&gt;</translation>
     </message>
     <message>
+        <source>A WAV file</source>
+        <translation>WAV 文件</translation>
+    </message>
+    <message>
         <source>A balanced picture for every day.</source>
         <translation>均衡的画面，适合日常使用。</translation>
     </message>
@@ -162,6 +170,14 @@
     <message>
         <source>A soft page for long texts.</source>
         <translation>柔和的页面，适合长时间阅读。</translation>
+    </message>
+    <message>
+        <source>A sweep</source>
+        <translation>扫频</translation>
+    </message>
+    <message>
+        <source>A tone</source>
+        <translation>单音</translation>
     </message>
     <message>
         <source>A wide gamut for photographs.</source>
@@ -182,6 +198,10 @@
     <message>
         <source>Adaptive-Sync</source>
         <translation>Adaptive-Sync</translation>
+    </message>
+    <message>
+        <source>Add Frame</source>
+        <translation>添加帧</translation>
     </message>
     <message>
         <source>Add Scence</source>
@@ -256,6 +276,10 @@
         <translation>动画</translation>
     </message>
     <message>
+        <source>Another device becomes the default one</source>
+        <translation>另一个设备成为默认设备</translation>
+    </message>
+    <message>
         <source>Another program registers the combination first</source>
         <translation>由另一个程序先注册该组合键</translation>
     </message>
@@ -316,6 +340,10 @@
         <translation>正在后台运行</translation>
     </message>
     <message>
+        <source>Bars</source>
+        <translation>条形</translation>
+    </message>
+    <message>
         <source>Basic</source>
         <translation>基本设置</translation>
     </message>
@@ -334,6 +362,10 @@
     <message>
         <source>Bring to the front</source>
         <translation>切换到前台</translation>
+    </message>
+    <message>
+        <source>Buffer error</source>
+        <translation>缓冲区错误</translation>
     </message>
     <message>
         <source>C</source>
@@ -356,12 +388,24 @@
         <translation>对比度增强</translation>
     </message>
     <message>
+        <source>CSV file (*.csv);</source>
+        <translation>CSV文件 (*.csv);</translation>
+    </message>
+    <message>
         <source>Care Content</source>
         <translation>护理内容</translation>
     </message>
     <message>
+        <source>Cell Size</source>
+        <translation>格子大小</translation>
+    </message>
+    <message>
         <source>Changes count once you press &quot;%1&quot;.</source>
         <translation>按“%1”后更改生效。</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>声道</translation>
     </message>
     <message>
         <source>Choose Custom to make it your own.</source>
@@ -374,6 +418,10 @@
     <message>
         <source>Cinema colours at a D65 white.</source>
         <translation>D65 白点下的影院色彩。</translation>
+    </message>
+    <message>
+        <source>Clean Frame</source>
+        <translation>清空帧</translation>
     </message>
     <message>
         <source>Clock</source>
@@ -488,6 +536,10 @@
         <translation>删除</translation>
     </message>
     <message>
+        <source>Delete Frame</source>
+        <translation>删除帧</translation>
+    </message>
+    <message>
         <source>Desktop</source>
         <translation>桌面</translation>
     </message>
@@ -506,6 +558,10 @@
     <message>
         <source>Drop a chunk</source>
         <translation>丢失数据块</translation>
+    </message>
+    <message>
+        <source>Duplicate Frame</source>
+        <translation>复制帧</translation>
     </message>
     <message>
         <source>DyDs</source>
@@ -540,8 +596,16 @@
         <translation>Emberline</translation>
     </message>
     <message>
+        <source>Erase</source>
+        <translation>擦除</translation>
+    </message>
+    <message>
         <source>European broadcasting primaries.</source>
         <translation>欧洲广播标准的三原色。</translation>
+    </message>
+    <message>
+        <source>Every packet holds 7001 frames until the button is released</source>
+        <translation>松开按钮前，每个数据包含 7001 帧</translation>
     </message>
     <message>
         <source>Every request takes 400 ms longer</source>
@@ -556,6 +620,18 @@
         <translation>退出</translation>
     </message>
     <message>
+        <source>Export Animate</source>
+        <translation>导出动画</translation>
+    </message>
+    <message>
+        <source>Extensible, floating point</source>
+        <translation>扩展格式，浮点</translation>
+    </message>
+    <message>
+        <source>Extensible, integer</source>
+        <translation>扩展格式，整数</translation>
+    </message>
+    <message>
         <source>Eye Care</source>
         <translation>护眼</translation>
     </message>
@@ -566,6 +642,14 @@
     <message>
         <source>Eyeshield Remind</source>
         <translation>护眼提醒</translation>
+    </message>
+    <message>
+        <source>Falling Peaks</source>
+        <translation>下落峰值</translation>
+    </message>
+    <message>
+        <source>File is null.</source>
+        <translation>文件为空。</translation>
     </message>
     <message>
         <source>Fine lines and clear edges for drawings.</source>
@@ -596,8 +680,20 @@
         <translation>边框</translation>
     </message>
     <message>
-        <source>From now on another program has it, unless QUORVEL had it before.</source>
-        <translation>从现在起由另一个程序占用，除非 QUORVEL 已先注册。</translation>
+        <source>Frames/s</source>
+        <translation>帧/秒</translation>
+    </message>
+    <message>
+        <source>Frames: %1</source>
+        <translation>帧数：%1</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>频率</translation>
+    </message>
+    <message>
+        <source>From now on another program has it.</source>
+        <translation>从现在起由另一个程序占用。</translation>
     </message>
     <message>
         <source>Function</source>
@@ -688,6 +784,10 @@
         <translation>光晕控制</translation>
     </message>
     <message>
+        <source>Hanging</source>
+        <translation>悬挂</translation>
+    </message>
+    <message>
         <source>HawkEye Vision</source>
         <translation>鹰眼视野</translation>
     </message>
@@ -740,8 +840,16 @@
         <translation>色相 R Y G C B M</translation>
     </message>
     <message>
+        <source>Huge packets</source>
+        <translation>超大数据包</translation>
+    </message>
+    <message>
         <source>I/O Settings</source>
         <translation>I/O 设置</translation>
+    </message>
+    <message>
+        <source>Import Animate</source>
+        <translation>导入动画</translation>
     </message>
     <message>
         <source>Information</source>
@@ -774,6 +882,10 @@
     <message>
         <source>LANGUAGE_SHORTCUTKEY_DESC</source>
         <translation>为显示器功能指定全局快捷键，在桌面任何位置都有效：Ctrl 或 Alt 加字母或数字，Backspace 清除。</translation>
+    </message>
+    <message>
+        <source>LED matrix</source>
+        <translation>LED矩阵</translation>
     </message>
     <message>
         <source>Lamp</source>
@@ -810,6 +922,10 @@
     <message>
         <source>Light Sensor</source>
         <translation>光线感应</translation>
+    </message>
+    <message>
+        <source>Listening…</source>
+        <translation>正在聆听…</translation>
     </message>
     <message>
         <source>Live frames</source>
@@ -872,6 +988,10 @@
         <translation>模拟配件的矩阵</translation>
     </message>
     <message>
+        <source>Maximum 192 frames</source>
+        <translation>最多192帧</translation>
+    </message>
+    <message>
         <source>Medium</source>
         <translation>中</translation>
     </message>
@@ -888,8 +1008,40 @@
         <translation>最小化</translation>
     </message>
     <message>
+        <source>Mirrored</source>
+        <translation>镜像</translation>
+    </message>
+    <message>
+        <source>Mix format</source>
+        <translation>混音格式</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>模式</translation>
+    </message>
+    <message>
         <source>Mode %1</source>
         <translation>模式 %1</translation>
+    </message>
+    <message>
+        <source>Mode1</source>
+        <translation>模式1</translation>
+    </message>
+    <message>
+        <source>Mode2</source>
+        <translation>模式2</translation>
+    </message>
+    <message>
+        <source>Mode3</source>
+        <translation>模式3</translation>
+    </message>
+    <message>
+        <source>Mode4</source>
+        <translation>模式4</translation>
+    </message>
+    <message>
+        <source>Mode5</source>
+        <translation>模式5</translation>
     </message>
     <message>
         <source>Monitor</source>
@@ -928,6 +1080,10 @@
         <translation>原生模式</translation>
     </message>
     <message>
+        <source>New device</source>
+        <translation>新设备</translation>
+    </message>
+    <message>
         <source>Next value</source>
         <translation>下一个值</translation>
     </message>
@@ -964,12 +1120,28 @@
         <translation>未连接 Type-C 数据线或 HDMI/DP + USB 数据线。</translation>
     </message>
     <message>
+        <source>No file path selected.</source>
+        <translation>未选择文件路径。</translation>
+    </message>
+    <message>
         <source>No hot keys yet: choose a function above and add it.</source>
         <translation>还没有快捷键：请在上方选择功能并添加。</translation>
     </message>
     <message>
         <source>No programs yet: add one and choose its scene.</source>
         <translation>还没有程序：请添加程序并选择其场景。</translation>
+    </message>
+    <message>
+        <source>Noise</source>
+        <translation>噪声</translation>
+    </message>
+    <message>
+        <source>Nothing is heard: no program plays, or the sound output is gone.</source>
+        <translation>没有声音：没有程序在播放，或声音输出已断开。</translation>
+    </message>
+    <message>
+        <source>Nothing plays</source>
+        <translation>无播放</translation>
     </message>
     <message>
         <source>OK</source>
@@ -1010,6 +1182,10 @@
     <message>
         <source>On-screen menu</source>
         <translation>屏幕菜单</translation>
+    </message>
+    <message>
+        <source>Onion Skin</source>
+        <translation>洋葱皮</translation>
     </message>
     <message>
         <source>Open</source>
@@ -1064,6 +1240,14 @@
         <translation>画质增强</translation>
     </message>
     <message>
+        <source>Plain, floating point</source>
+        <translation>普通格式，浮点</translation>
+    </message>
+    <message>
+        <source>Plain, integer</source>
+        <translation>普通格式，整数</translation>
+    </message>
+    <message>
         <source>Playback Level</source>
         <translation>播放等级</translation>
     </message>
@@ -1084,6 +1268,10 @@
         <translation>按下</translation>
     </message>
     <message>
+        <source>Preview</source>
+        <translation>预览</translation>
+    </message>
+    <message>
         <source>Print Mode</source>
         <translation>印刷模式</translation>
     </message>
@@ -1096,8 +1284,16 @@
         <translation>程序</translation>
     </message>
     <message>
+        <source>Progress</source>
+        <translation>进度</translation>
+    </message>
+    <message>
         <source>Proofs under a D50 light.</source>
         <translation>D50 光源下的打样。</translation>
+    </message>
+    <message>
+        <source>Pull out</source>
+        <translation>拔出</translation>
     </message>
     <message>
         <source>Pull out in mid-transfer</source>
@@ -1136,6 +1332,10 @@
         <translation>RGB 有限</translation>
     </message>
     <message>
+        <source>Rate</source>
+        <translation>采样率</translation>
+    </message>
+    <message>
         <source>Reading</source>
         <translation>阅读</translation>
     </message>
@@ -1168,12 +1368,24 @@
         <translation>矩形款</translation>
     </message>
     <message>
+        <source>Redo</source>
+        <translation>重做</translation>
+    </message>
+    <message>
         <source>Refresh Rate</source>
         <translation>刷新率</translation>
     </message>
     <message>
+        <source>Refuse format</source>
+        <translation>拒绝格式</translation>
+    </message>
+    <message>
         <source>Refuse writes</source>
         <translation>拒绝写入</translation>
+    </message>
+    <message>
+        <source>Rendering</source>
+        <translation>正在生成</translation>
     </message>
     <message>
         <source>Requests</source>
@@ -1186,6 +1398,10 @@
     <message>
         <source>Round</source>
         <translation>圆形</translation>
+    </message>
+    <message>
+        <source>Row %1, cell %2: %3</source>
+        <translation>第%1行第%2格：%3</translation>
     </message>
     <message>
         <source>Ruler</source>
@@ -1212,6 +1428,18 @@
         <translation>饱和度 R Y G C B M</translation>
     </message>
     <message>
+        <source>Save Animate</source>
+        <translation>保存动画</translation>
+    </message>
+    <message>
+        <source>Save Data</source>
+        <translation>保存数据</translation>
+    </message>
+    <message>
+        <source>Save File</source>
+        <translation>保存文件</translation>
+    </message>
+    <message>
         <source>Scan it with a phone to read more about your monitor.</source>
         <translation>用手机扫描，了解更多显示器信息。</translation>
     </message>
@@ -1230,6 +1458,22 @@
     <message>
         <source>Screen of the simulated monitor</source>
         <translation>模拟显示器的屏幕</translation>
+    </message>
+    <message>
+        <source>Scroll Left</source>
+        <translation>向左滚动</translation>
+    </message>
+    <message>
+        <source>Scroll Right</source>
+        <translation>向右滚动</translation>
+    </message>
+    <message>
+        <source>Second tone</source>
+        <translation>第二音</translation>
+    </message>
+    <message>
+        <source>Select File</source>
+        <translation>选择文件</translation>
     </message>
     <message>
         <source>Service Settings</source>
@@ -1268,6 +1512,10 @@
         <translation>显示内容</translation>
     </message>
     <message>
+        <source>Silence</source>
+        <translation>静音</translation>
+    </message>
+    <message>
         <source>Simulated monitor</source>
         <translation>模拟显示器</translation>
     </message>
@@ -1292,6 +1540,14 @@
         <translation>Softproof(D58)</translation>
     </message>
     <message>
+        <source>Sound</source>
+        <translation>声音</translation>
+    </message>
+    <message>
+        <source>Sound output</source>
+        <translation>声音输出</translation>
+    </message>
+    <message>
         <source>Standard</source>
         <translation>标准</translation>
     </message>
@@ -1300,8 +1556,16 @@
         <translation>标准模式</translation>
     </message>
     <message>
+        <source>Standing</source>
+        <translation>静止</translation>
+    </message>
+    <message>
         <source>Starts the program that brings the monitor&apos;s firmware up to date. Leave the monitor switched on until it has finished.</source>
         <translation>启动显示器固件升级程序。升级完成前请勿关闭显示器。</translation>
+    </message>
+    <message>
+        <source>Stop service</source>
+        <translation>停止服务</translation>
     </message>
     <message>
         <source>Stopwatch</source>
@@ -1336,6 +1600,14 @@
         <translation>锥形</translation>
     </message>
     <message>
+        <source>Template</source>
+        <translation>模板</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文字</translation>
+    </message>
+    <message>
         <source>Text Mode</source>
         <translation>文字模式</translation>
     </message>
@@ -1350,6 +1622,10 @@
     <message>
         <source>The accessory is the model with 25 rows of 42 cells</source>
         <translation>配件为 25 行、每行 42 格的型号</translation>
+    </message>
+    <message>
+        <source>The accessory shows what this computer plays as soon as the music mode is open.</source>
+        <translation>打开音乐模式后，配件会显示本机正在播放的声音。</translation>
     </message>
     <message>
         <source>The accessory takes no report until the button is released</source>
@@ -1370,6 +1646,18 @@
     <message>
         <source>The colours of the cinema.</source>
         <translation>影院的色彩。</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1</source>
+        <translation>文件无法读取：%1</translation>
+    </message>
+    <message>
+        <source>The file cannot be written: %1</source>
+        <translation>文件无法写入：%1</translation>
+    </message>
+    <message>
+        <source>The file holds no whole frame.</source>
+        <translation>文件中没有完整的帧。</translation>
     </message>
     <message>
         <source>The grey scale of medical pictures.</source>
@@ -1404,6 +1692,14 @@
         <translation>显示器不接受任何值，直到松开按钮</translation>
     </message>
     <message>
+        <source>The next client is not initialised</source>
+        <translation>下一个客户端不会被初始化</translation>
+    </message>
+    <message>
+        <source>The next packet cannot be fetched</source>
+        <translation>下一个数据包无法读取</translation>
+    </message>
+    <message>
         <source>The page %1 could not be opened.</source>
         <translation>无法打开网页 %1。</translation>
     </message>
@@ -1414,6 +1710,10 @@
     <message>
         <source>The program has not registered this combination.</source>
         <translation>程序未注册该组合键。</translation>
+    </message>
+    <message>
+        <source>The program has this combination already.</source>
+        <translation>QUORVEL 已注册该组合键。</translation>
     </message>
     <message>
         <source>The program heard it.</source>
@@ -1440,6 +1740,10 @@
         <translation>系统不允许更改“%1”。</translation>
     </message>
     <message>
+        <source>The system&apos;s audio service is down until the button is released</source>
+        <translation>松开按钮前，系统音频服务停止</translation>
+    </message>
+    <message>
         <source>The upgrade program %1 could not be started.</source>
         <translation>无法启动升级程序 %1。</translation>
     </message>
@@ -1450,6 +1754,18 @@
     <message>
         <source>The white of printed paper.</source>
         <translation>印刷纸张的白色。</translation>
+    </message>
+    <message>
+        <source>There is no sound output until the button is released</source>
+        <translation>松开按钮前，没有声音输出</translation>
+    </message>
+    <message>
+        <source>There is no text yet.</source>
+        <translation>还没有文字。</translation>
+    </message>
+    <message>
+        <source>This computer has no sound output to listen to. It is looked for again every few seconds.</source>
+        <translation>此电脑没有可聆听的声音输出，每隔几秒会重新查找。</translation>
     </message>
     <message>
         <source>This function has its row already.</source>
@@ -1500,6 +1816,10 @@
         <translation>色彩真实，适合设计工作。</translation>
     </message>
     <message>
+        <source>Two tones</source>
+        <translation>双音</translation>
+    </message>
+    <message>
         <source>Type the combination here, then press it on the whole desktop</source>
         <translation>在此输入组合键，然后在整个桌面上按下</translation>
     </message>
@@ -1530,6 +1850,10 @@
     <message>
         <source>Ull-Level3</source>
         <translation>Ull-等级 3</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
     </message>
     <message>
         <source>Unplug</source>
@@ -1596,6 +1920,10 @@
         <translation>色彩鲜艳，适合动画。</translation>
     </message>
     <message>
+        <source>Volume</source>
+        <translation>音量</translation>
+    </message>
+    <message>
         <source>Warning</source>
         <translation>警告</translation>
     </message>
@@ -1604,8 +1932,16 @@
         <translation>网页(sRGB)</translation>
     </message>
     <message>
+        <source>What goes wrong</source>
+        <translation>故障模拟</translation>
+    </message>
+    <message>
         <source>What most visitors of a page see.</source>
         <translation>大多数网页访客看到的色彩。</translation>
+    </message>
+    <message>
+        <source>What plays</source>
+        <translation>播放内容</translation>
     </message>
     <message>
         <source>Width</source>
@@ -1618,6 +1954,18 @@
     <message>
         <source>With your own parameters</source>
         <translation>自定义参数</translation>
+    </message>
+    <message>
+        <source>Write Animate</source>
+        <translation>写入动画</translation>
+    </message>
+    <message>
+        <source>Write Data</source>
+        <translation>写入数据</translation>
+    </message>
+    <message>
+        <source>Write here what the matrix shall show.</source>
+        <translation>在此输入要在矩阵上显示的文字。</translation>
     </message>
     <message>
         <source>Y</source>
@@ -1684,12 +2032,24 @@
         <translation>无显示器</translation>
     </message>
     <message>
+        <source>not a WAV file of 16-bit or floating-point samples</source>
+        <translation>不是 16 位或浮点采样的 WAV 文件</translation>
+    </message>
+    <message>
         <source>nothing</source>
         <translation>无</translation>
     </message>
     <message>
+        <source>off</source>
+        <translation>灭</translation>
+    </message>
+    <message>
         <source>ok</source>
         <translation>成功</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>亮</translation>
     </message>
     <message>
         <source>open</source>

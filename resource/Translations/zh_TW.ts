@@ -28,6 +28,10 @@
         <translation>無法寫入 %1，未做任何變更。</translation>
     </message>
     <message>
+        <source>%1 cannot be written: what is set here lasts until the program ends.</source>
+        <translation>%1 無法寫入：此處的設定在程式結束前有效。</translation>
+    </message>
+    <message>
         <source>%1 is in the list already.</source>
         <translation>%1 已在清單中。</translation>
     </message>
@@ -152,6 +156,10 @@
         <translation>&lt;font color=white&gt;正在取得顯示裝置資訊...&lt;/font&gt;</translation>
     </message>
     <message>
+        <source>A WAV file</source>
+        <translation>WAV 檔案</translation>
+    </message>
+    <message>
         <source>A balanced picture for every day.</source>
         <translation>均衡的畫面，適合日常使用。</translation>
     </message>
@@ -162,6 +170,14 @@
     <message>
         <source>A soft page for long texts.</source>
         <translation>柔和的頁面，適合長時間閱讀。</translation>
+    </message>
+    <message>
+        <source>A sweep</source>
+        <translation>掃頻</translation>
+    </message>
+    <message>
+        <source>A tone</source>
+        <translation>單音</translation>
     </message>
     <message>
         <source>A wide gamut for photographs.</source>
@@ -182,6 +198,10 @@
     <message>
         <source>Adaptive-Sync</source>
         <translation>Adaptive-Sync</translation>
+    </message>
+    <message>
+        <source>Add Frame</source>
+        <translation>新增畫格</translation>
     </message>
     <message>
         <source>Add Scence</source>
@@ -256,6 +276,10 @@
         <translation>動畫</translation>
     </message>
     <message>
+        <source>Another device becomes the default one</source>
+        <translation>另一個裝置成為預設裝置</translation>
+    </message>
+    <message>
         <source>Another program registers the combination first</source>
         <translation>由另一個程式先註冊該組合鍵</translation>
     </message>
@@ -316,6 +340,10 @@
         <translation>正在背景執行</translation>
     </message>
     <message>
+        <source>Bars</source>
+        <translation>長條</translation>
+    </message>
+    <message>
         <source>Basic</source>
         <translation>基本設定</translation>
     </message>
@@ -334,6 +362,10 @@
     <message>
         <source>Bring to the front</source>
         <translation>切換到前景</translation>
+    </message>
+    <message>
+        <source>Buffer error</source>
+        <translation>緩衝區錯誤</translation>
     </message>
     <message>
         <source>C</source>
@@ -356,12 +388,24 @@
         <translation>對比度增強</translation>
     </message>
     <message>
+        <source>CSV file (*.csv);</source>
+        <translation>CSV檔案 (*.csv);</translation>
+    </message>
+    <message>
         <source>Care Content</source>
         <translation>保養內容</translation>
     </message>
     <message>
+        <source>Cell Size</source>
+        <translation>格子大小</translation>
+    </message>
+    <message>
         <source>Changes count once you press &quot;%1&quot;.</source>
         <translation>按「%1」後變更生效。</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>聲道</translation>
     </message>
     <message>
         <source>Choose Custom to make it your own.</source>
@@ -374,6 +418,10 @@
     <message>
         <source>Cinema colours at a D65 white.</source>
         <translation>D65 白點下的電影院色彩。</translation>
+    </message>
+    <message>
+        <source>Clean Frame</source>
+        <translation>清空畫格</translation>
     </message>
     <message>
         <source>Clock</source>
@@ -488,6 +536,10 @@
         <translation>刪除</translation>
     </message>
     <message>
+        <source>Delete Frame</source>
+        <translation>刪除畫格</translation>
+    </message>
+    <message>
         <source>Desktop</source>
         <translation>桌面</translation>
     </message>
@@ -506,6 +558,10 @@
     <message>
         <source>Drop a chunk</source>
         <translation>遺失資料區塊</translation>
+    </message>
+    <message>
+        <source>Duplicate Frame</source>
+        <translation>複製畫格</translation>
     </message>
     <message>
         <source>DyDs</source>
@@ -540,8 +596,16 @@
         <translation>Emberline</translation>
     </message>
     <message>
+        <source>Erase</source>
+        <translation>擦除</translation>
+    </message>
+    <message>
         <source>European broadcasting primaries.</source>
         <translation>歐洲廣播標準的三原色。</translation>
+    </message>
+    <message>
+        <source>Every packet holds 7001 frames until the button is released</source>
+        <translation>放開按鈕前，每個封包含 7001 幀</translation>
     </message>
     <message>
         <source>Every request takes 400 ms longer</source>
@@ -556,6 +620,18 @@
         <translation>結束</translation>
     </message>
     <message>
+        <source>Export Animate</source>
+        <translation>匯出動畫</translation>
+    </message>
+    <message>
+        <source>Extensible, floating point</source>
+        <translation>延伸格式，浮點</translation>
+    </message>
+    <message>
+        <source>Extensible, integer</source>
+        <translation>延伸格式，整數</translation>
+    </message>
+    <message>
         <source>Eye Care</source>
         <translation>護眼</translation>
     </message>
@@ -566,6 +642,14 @@
     <message>
         <source>Eyeshield Remind</source>
         <translation>護眼提醒</translation>
+    </message>
+    <message>
+        <source>Falling Peaks</source>
+        <translation>下落峰值</translation>
+    </message>
+    <message>
+        <source>File is null.</source>
+        <translation>檔案為空。</translation>
     </message>
     <message>
         <source>Fine lines and clear edges for drawings.</source>
@@ -596,8 +680,20 @@
         <translation>邊框</translation>
     </message>
     <message>
-        <source>From now on another program has it, unless QUORVEL had it before.</source>
-        <translation>從現在起由另一個程式佔用，除非 QUORVEL 已先註冊。</translation>
+        <source>Frames/s</source>
+        <translation>畫格/秒</translation>
+    </message>
+    <message>
+        <source>Frames: %1</source>
+        <translation>畫格數：%1</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>頻率</translation>
+    </message>
+    <message>
+        <source>From now on another program has it.</source>
+        <translation>從現在起由另一個程式佔用。</translation>
     </message>
     <message>
         <source>Function</source>
@@ -688,6 +784,10 @@
         <translation>光暈控制</translation>
     </message>
     <message>
+        <source>Hanging</source>
+        <translation>懸掛</translation>
+    </message>
+    <message>
         <source>HawkEye Vision</source>
         <translation>鷹眼視野</translation>
     </message>
@@ -740,8 +840,16 @@
         <translation>色相 R Y G C B M</translation>
     </message>
     <message>
+        <source>Huge packets</source>
+        <translation>超大封包</translation>
+    </message>
+    <message>
         <source>I/O Settings</source>
         <translation>I/O 設定</translation>
+    </message>
+    <message>
+        <source>Import Animate</source>
+        <translation>匯入動畫</translation>
     </message>
     <message>
         <source>Information</source>
@@ -774,6 +882,10 @@
     <message>
         <source>LANGUAGE_SHORTCUTKEY_DESC</source>
         <translation>為顯示器功能指定全域快速鍵，在桌面任何位置都有效：Ctrl 或 Alt 加字母或數字，Backspace 清除。</translation>
+    </message>
+    <message>
+        <source>LED matrix</source>
+        <translation>LED矩陣</translation>
     </message>
     <message>
         <source>Lamp</source>
@@ -810,6 +922,10 @@
     <message>
         <source>Light Sensor</source>
         <translation>光線感應</translation>
+    </message>
+    <message>
+        <source>Listening…</source>
+        <translation>正在聆聽…</translation>
     </message>
     <message>
         <source>Live frames</source>
@@ -872,6 +988,10 @@
         <translation>模擬配件的矩陣</translation>
     </message>
     <message>
+        <source>Maximum 192 frames</source>
+        <translation>最多192個畫格</translation>
+    </message>
+    <message>
         <source>Medium</source>
         <translation>中</translation>
     </message>
@@ -888,8 +1008,40 @@
         <translation>最小化</translation>
     </message>
     <message>
+        <source>Mirrored</source>
+        <translation>鏡像</translation>
+    </message>
+    <message>
+        <source>Mix format</source>
+        <translation>混音格式</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>模式</translation>
+    </message>
+    <message>
         <source>Mode %1</source>
         <translation>模式 %1</translation>
+    </message>
+    <message>
+        <source>Mode1</source>
+        <translation>模式1</translation>
+    </message>
+    <message>
+        <source>Mode2</source>
+        <translation>模式2</translation>
+    </message>
+    <message>
+        <source>Mode3</source>
+        <translation>模式3</translation>
+    </message>
+    <message>
+        <source>Mode4</source>
+        <translation>模式4</translation>
+    </message>
+    <message>
+        <source>Mode5</source>
+        <translation>模式5</translation>
     </message>
     <message>
         <source>Monitor</source>
@@ -928,6 +1080,10 @@
         <translation>原生模式</translation>
     </message>
     <message>
+        <source>New device</source>
+        <translation>新裝置</translation>
+    </message>
+    <message>
         <source>Next value</source>
         <translation>下一個值</translation>
     </message>
@@ -964,12 +1120,28 @@
         <translation>未連接 Type-C 資料線或 HDMI/DP + USB 資料線。</translation>
     </message>
     <message>
+        <source>No file path selected.</source>
+        <translation>未選擇檔案路徑。</translation>
+    </message>
+    <message>
         <source>No hot keys yet: choose a function above and add it.</source>
         <translation>尚無快速鍵：請在上方選擇功能並新增。</translation>
     </message>
     <message>
         <source>No programs yet: add one and choose its scene.</source>
         <translation>尚無程式：請新增程式並選擇其場景。</translation>
+    </message>
+    <message>
+        <source>Noise</source>
+        <translation>雜訊</translation>
+    </message>
+    <message>
+        <source>Nothing is heard: no program plays, or the sound output is gone.</source>
+        <translation>沒有聲音：沒有程式在播放，或音訊輸出已中斷。</translation>
+    </message>
+    <message>
+        <source>Nothing plays</source>
+        <translation>無播放</translation>
     </message>
     <message>
         <source>OK</source>
@@ -1010,6 +1182,10 @@
     <message>
         <source>On-screen menu</source>
         <translation>螢幕選單</translation>
+    </message>
+    <message>
+        <source>Onion Skin</source>
+        <translation>洋蔥皮</translation>
     </message>
     <message>
         <source>Open</source>
@@ -1064,6 +1240,14 @@
         <translation>畫質增強</translation>
     </message>
     <message>
+        <source>Plain, floating point</source>
+        <translation>一般格式，浮點</translation>
+    </message>
+    <message>
+        <source>Plain, integer</source>
+        <translation>一般格式，整數</translation>
+    </message>
+    <message>
         <source>Playback Level</source>
         <translation>播放等級</translation>
     </message>
@@ -1084,6 +1268,10 @@
         <translation>按下</translation>
     </message>
     <message>
+        <source>Preview</source>
+        <translation>預覽</translation>
+    </message>
+    <message>
         <source>Print Mode</source>
         <translation>印刷模式</translation>
     </message>
@@ -1096,8 +1284,16 @@
         <translation>程式</translation>
     </message>
     <message>
+        <source>Progress</source>
+        <translation>進度</translation>
+    </message>
+    <message>
         <source>Proofs under a D50 light.</source>
         <translation>D50 光源下的打樣。</translation>
+    </message>
+    <message>
+        <source>Pull out</source>
+        <translation>拔出</translation>
     </message>
     <message>
         <source>Pull out in mid-transfer</source>
@@ -1136,6 +1332,10 @@
         <translation>RGB 有限</translation>
     </message>
     <message>
+        <source>Rate</source>
+        <translation>取樣率</translation>
+    </message>
+    <message>
         <source>Reading</source>
         <translation>閱讀</translation>
     </message>
@@ -1168,12 +1368,24 @@
         <translation>矩形款</translation>
     </message>
     <message>
+        <source>Redo</source>
+        <translation>重做</translation>
+    </message>
+    <message>
         <source>Refresh Rate</source>
         <translation>更新率</translation>
     </message>
     <message>
+        <source>Refuse format</source>
+        <translation>拒絕格式</translation>
+    </message>
+    <message>
         <source>Refuse writes</source>
         <translation>拒絕寫入</translation>
+    </message>
+    <message>
+        <source>Rendering</source>
+        <translation>正在產生</translation>
     </message>
     <message>
         <source>Requests</source>
@@ -1186,6 +1398,10 @@
     <message>
         <source>Round</source>
         <translation>圓形</translation>
+    </message>
+    <message>
+        <source>Row %1, cell %2: %3</source>
+        <translation>第%1列第%2格：%3</translation>
     </message>
     <message>
         <source>Ruler</source>
@@ -1212,6 +1428,18 @@
         <translation>飽和度 R Y G C B M</translation>
     </message>
     <message>
+        <source>Save Animate</source>
+        <translation>儲存動畫</translation>
+    </message>
+    <message>
+        <source>Save Data</source>
+        <translation>儲存資料</translation>
+    </message>
+    <message>
+        <source>Save File</source>
+        <translation>儲存檔案</translation>
+    </message>
+    <message>
         <source>Scan it with a phone to read more about your monitor.</source>
         <translation>用手機掃描，進一步了解您的顯示器。</translation>
     </message>
@@ -1230,6 +1458,22 @@
     <message>
         <source>Screen of the simulated monitor</source>
         <translation>模擬顯示器的螢幕</translation>
+    </message>
+    <message>
+        <source>Scroll Left</source>
+        <translation>向左捲動</translation>
+    </message>
+    <message>
+        <source>Scroll Right</source>
+        <translation>向右捲動</translation>
+    </message>
+    <message>
+        <source>Second tone</source>
+        <translation>第二音</translation>
+    </message>
+    <message>
+        <source>Select File</source>
+        <translation>選擇檔案</translation>
     </message>
     <message>
         <source>Service Settings</source>
@@ -1268,6 +1512,10 @@
         <translation>顯示內容</translation>
     </message>
     <message>
+        <source>Silence</source>
+        <translation>靜音</translation>
+    </message>
+    <message>
         <source>Simulated monitor</source>
         <translation>模擬顯示器</translation>
     </message>
@@ -1292,6 +1540,14 @@
         <translation>Softproof(D58)</translation>
     </message>
     <message>
+        <source>Sound</source>
+        <translation>聲音</translation>
+    </message>
+    <message>
+        <source>Sound output</source>
+        <translation>音訊輸出</translation>
+    </message>
+    <message>
         <source>Standard</source>
         <translation>標準</translation>
     </message>
@@ -1300,8 +1556,16 @@
         <translation>標準模式</translation>
     </message>
     <message>
+        <source>Standing</source>
+        <translation>靜止</translation>
+    </message>
+    <message>
         <source>Starts the program that brings the monitor&apos;s firmware up to date. Leave the monitor switched on until it has finished.</source>
         <translation>啟動顯示器韌體升級程式。升級完成前請勿關閉顯示器。</translation>
+    </message>
+    <message>
+        <source>Stop service</source>
+        <translation>停止服務</translation>
     </message>
     <message>
         <source>Stopwatch</source>
@@ -1336,6 +1600,14 @@
         <translation>錐形</translation>
     </message>
     <message>
+        <source>Template</source>
+        <translation>範本</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文字</translation>
+    </message>
+    <message>
         <source>Text Mode</source>
         <translation>文字模式</translation>
     </message>
@@ -1350,6 +1622,10 @@
     <message>
         <source>The accessory is the model with 25 rows of 42 cells</source>
         <translation>配件為 25 列、每列 42 格的型號</translation>
+    </message>
+    <message>
+        <source>The accessory shows what this computer plays as soon as the music mode is open.</source>
+        <translation>開啟音樂模式後，配件會顯示本機正在播放的聲音。</translation>
     </message>
     <message>
         <source>The accessory takes no report until the button is released</source>
@@ -1370,6 +1646,18 @@
     <message>
         <source>The colours of the cinema.</source>
         <translation>電影院的色彩。</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1</source>
+        <translation>檔案無法讀取：%1</translation>
+    </message>
+    <message>
+        <source>The file cannot be written: %1</source>
+        <translation>檔案無法寫入：%1</translation>
+    </message>
+    <message>
+        <source>The file holds no whole frame.</source>
+        <translation>檔案中沒有完整的畫格。</translation>
     </message>
     <message>
         <source>The grey scale of medical pictures.</source>
@@ -1404,6 +1692,14 @@
         <translation>顯示器不接受任何值，直到放開按鈕</translation>
     </message>
     <message>
+        <source>The next client is not initialised</source>
+        <translation>下一個用戶端不會被初始化</translation>
+    </message>
+    <message>
+        <source>The next packet cannot be fetched</source>
+        <translation>下一個封包無法讀取</translation>
+    </message>
+    <message>
         <source>The page %1 could not be opened.</source>
         <translation>無法開啟網頁 %1。</translation>
     </message>
@@ -1414,6 +1710,10 @@
     <message>
         <source>The program has not registered this combination.</source>
         <translation>程式未註冊該組合鍵。</translation>
+    </message>
+    <message>
+        <source>The program has this combination already.</source>
+        <translation>QUORVEL 已註冊該組合鍵。</translation>
     </message>
     <message>
         <source>The program heard it.</source>
@@ -1440,6 +1740,10 @@
         <translation>系統不允許變更「%1」。</translation>
     </message>
     <message>
+        <source>The system&apos;s audio service is down until the button is released</source>
+        <translation>放開按鈕前，系統音訊服務停止</translation>
+    </message>
+    <message>
         <source>The upgrade program %1 could not be started.</source>
         <translation>無法啟動升級程式 %1。</translation>
     </message>
@@ -1450,6 +1754,18 @@
     <message>
         <source>The white of printed paper.</source>
         <translation>印刷紙張的白色。</translation>
+    </message>
+    <message>
+        <source>There is no sound output until the button is released</source>
+        <translation>放開按鈕前，沒有音訊輸出</translation>
+    </message>
+    <message>
+        <source>There is no text yet.</source>
+        <translation>還沒有文字。</translation>
+    </message>
+    <message>
+        <source>This computer has no sound output to listen to. It is looked for again every few seconds.</source>
+        <translation>此電腦沒有可聆聽的音訊輸出，每隔幾秒會重新尋找。</translation>
     </message>
     <message>
         <source>This function has its row already.</source>
@@ -1500,6 +1816,10 @@
         <translation>色彩真實，適合設計工作。</translation>
     </message>
     <message>
+        <source>Two tones</source>
+        <translation>雙音</translation>
+    </message>
+    <message>
         <source>Type the combination here, then press it on the whole desktop</source>
         <translation>在此輸入組合鍵，然後在整個桌面上按下</translation>
     </message>
@@ -1530,6 +1850,10 @@
     <message>
         <source>Ull-Level3</source>
         <translation>Ull-等級 3</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>復原</translation>
     </message>
     <message>
         <source>Unplug</source>
@@ -1596,6 +1920,10 @@
         <translation>色彩鮮豔，適合動畫。</translation>
     </message>
     <message>
+        <source>Volume</source>
+        <translation>音量</translation>
+    </message>
+    <message>
         <source>Warning</source>
         <translation>警告</translation>
     </message>
@@ -1604,8 +1932,16 @@
         <translation>網頁(sRGB)</translation>
     </message>
     <message>
+        <source>What goes wrong</source>
+        <translation>故障模擬</translation>
+    </message>
+    <message>
         <source>What most visitors of a page see.</source>
         <translation>多數網頁訪客看到的色彩。</translation>
+    </message>
+    <message>
+        <source>What plays</source>
+        <translation>播放內容</translation>
     </message>
     <message>
         <source>Width</source>
@@ -1618,6 +1954,18 @@
     <message>
         <source>With your own parameters</source>
         <translation>自訂參數</translation>
+    </message>
+    <message>
+        <source>Write Animate</source>
+        <translation>寫入動畫</translation>
+    </message>
+    <message>
+        <source>Write Data</source>
+        <translation>寫入資料</translation>
+    </message>
+    <message>
+        <source>Write here what the matrix shall show.</source>
+        <translation>在此輸入要在矩陣上顯示的文字。</translation>
     </message>
     <message>
         <source>Y</source>
@@ -1684,12 +2032,24 @@
         <translation>無顯示器</translation>
     </message>
     <message>
+        <source>not a WAV file of 16-bit or floating-point samples</source>
+        <translation>不是 16 位元或浮點取樣的 WAV 檔案</translation>
+    </message>
+    <message>
         <source>nothing</source>
         <translation>無</translation>
     </message>
     <message>
+        <source>off</source>
+        <translation>滅</translation>
+    </message>
+    <message>
         <source>ok</source>
         <translation>成功</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>亮</translation>
     </message>
     <message>
         <source>open</source>

@@ -103,6 +103,14 @@ void ZelmarKeySequenceEdit::capture(QKeyEvent *event)
         // The base class waits for further combinations; one is enough here, so its half-way state is not shown.
         const QSignalBlocker blocker(this);
         QKeySequenceEdit::keyPressEvent(event);
+    }
+    take(sequence);
+}
+
+void ZelmarKeySequenceEdit::take(const QKeySequence &sequence)
+{
+    {
+        const QSignalBlocker blocker(this);
         setKeySequence(sequence);
     }
     Q_EMIT keySequenceChanged(sequence);

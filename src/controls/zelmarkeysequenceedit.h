@@ -15,6 +15,9 @@ public:
     /// The combination in native text, empty for none.
     QString text() const;
 
+    /// Takes a combination as if it had been pressed here.
+    void take(const QKeySequence &sequence);
+
 Q_SIGNALS:
     /// A combination was pressed that the field does not take, and why not.
     void refused(const QString &why);

@@ -2,6 +2,7 @@
 
 #include <QDebug>
 #include <QFile>
+#include <QFileInfo>
 #include <QSettings>
 
 namespace {
@@ -60,15 +61,26 @@ public:
     bool replace(const QList<QPair<QString, QString>> &settings)
     {
         keepForeignContent();
-        m_settings.clear();
-        for (const auto &[key, value] : settings)
-            m_settings.setValue(key, value);
-        return finish();
+        QList<QPair<QString, QString>> before;
+        for (const QString &key : keys())
+            before.append({key, text(key)});
+        fill(settings);
+        if (finish())
+            return true;
+        fill(before); // the toolkit would go on telling this process what the file did not take
+        return false;
     }
 
     QStringList keys() const { return m_settings.allKeys(); }
 
 private:
+    void fill(const QList<QPair<QString, QString>> &settings)
+    {
+        m_settings.clear();
+        for (const auto &[key, value] : settings)
+            m_settings.setValue(key, value);
+    }
+
     /// The toolkit drops what it does not understand when it writes; somebody may want it back.
     void keepForeignContent()
     {
@@ -79,6 +91,11 @@ private:
 
     bool finish()
     {
+        // A process that was killed may have left a lock without an owner's name, for which the toolkit would wait
+        // long.
+        const QString lock = m_settings.fileName() + QLatin1String(".lock");
+        if (QFileInfo(lock).size() == 0)
+            QFile::remove(lock);
         m_settings.sync();
         const bool written = m_settings.status() != QSettings::AccessError;
         if (!written)

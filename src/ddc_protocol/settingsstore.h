@@ -12,7 +12,7 @@ inline constexpr char kConfigFile[] = "config.ini";
 inline constexpr char kDeviceIndexKey[] = "PCSeting/DeviceIndex"; // spelled so in every user's file
 inline constexpr char kRestartKey[] = "SystemMode/Restart";
 
-/// Removes every key of the file. Callers that save a whole list call it first.
+/// Removes every key of the file.
 void clearSettingsFile(const QString &fileName);
 
 /// Write: stores value under the key and returns an empty text. Read: the stored text, empty when absent.

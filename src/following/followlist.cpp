@@ -5,6 +5,7 @@
 #include <QFileInfo>
 
 #include "ddc_protocol/settingsstore.h"
+#include "following/followscenes.h"
 
 namespace {
 
@@ -24,12 +25,14 @@ std::vector<FollowEntry> loadFollowList()
     std::map<QString, FollowEntry> groups;
     for (const auto &[key, value] : readAllSettings(kFile)) {
         const qsizetype slash = key.lastIndexOf(QLatin1Char('/'));
+        if (slash < 0)
+            continue;
         FollowEntry &entry = groups[key.left(slash)];
         const QString name = key.mid(slash + 1);
         if (name == kPath)
             entry.path = value;
         else if (name == kScene)
-            entry.scene = value.toInt();
+            entry.scene = followSceneAt(value.toInt()) ? value.toInt() : 0;
     }
     std::vector<FollowEntry> entries;
     for (const auto &[group, entry] : groups) {

@@ -8,14 +8,15 @@
 struct FollowEntry
 {
     QString path;  ///< as it was chosen
-    int scene = 0; ///< place in followScenes(); a file may hold any number
+    int scene = 0; ///< place in followScenes()
     bool operator==(const FollowEntry &) const = default;
 };
 
 /// The last component of a path; it is what programs are told apart by.
 QString programName(const QString &path);
 
-/// The pairs of "scenceSetting.ini", by file name. Groups without a path are left out.
+/// The pairs of "scenceSetting.ini", by file name. Groups without a path are left out; a scene that does not exist is
+/// the first.
 std::vector<FollowEntry> loadFollowList();
 
 /// Writes the whole list in one step, a group a file name. False when the file could not be written; then it holds the

@@ -1,29 +1,32 @@
 #include "following/followscenes.h"
 
+#include <vector>
+
 #include <QObject>
 
-#define LABEL(text) QT_TRANSLATE_NOOP("QObject", text)
-
-static constexpr FollowScene kScenes[] = {
-    {LABEL("Standard Mode"), 1},   {LABEL("CAD/CAM Mode"), 3},   {LABEL("Animate Mode"), 5},
-    {LABEL("Art Design Mode"), 7}, {LABEL("Movie Mode"), 9},     {LABEL("Reading Mode"), 11},
-    {LABEL("Night Mode"), 13},     {LABEL("Eye Care Mode"), 15}, {LABEL("Light Programme"), 17},
-    {LABEL("Dark Programme"), 19}, {LABEL("E-Book Mode"), 21},   {LABEL("Display P3 Mode"), 29},
-};
+#include "ddc_protocol/scenemodes.h"
 
 std::span<const FollowScene> followScenes()
 {
-    return kScenes;
+    static const std::vector<FollowScene> scenes = [] {
+        std::vector<FollowScene> list;
+        for (const int value : {1, 3, 5, 7, 9, 11, 13, 15, 17, 19, 21, 29})
+            list.push_back({sceneModeOf(value)->label, value});
+        return list;
+    }();
+    return scenes;
 }
 
 const FollowScene *followSceneAt(int index)
 {
-    return index >= 0 && static_cast<std::size_t>(index) < std::size(kScenes) ? &kScenes[index] : nullptr;
+    const auto scenes = followScenes();
+    return index >= 0 && static_cast<std::size_t>(index) < scenes.size() ? &scenes[static_cast<std::size_t>(index)]
+                                                                         : nullptr;
 }
 
 std::optional<int> followSceneValue(const QString &displayedName)
 {
-    for (const FollowScene &scene : kScenes) {
+    for (const FollowScene &scene : followScenes()) {
         if (QObject::tr(scene.name) == displayedName)
             return scene.value;
     }

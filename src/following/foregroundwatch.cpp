@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include <QDebug>
 #include <QString>
 
 #include "platform/desk.h"
@@ -10,6 +11,24 @@ namespace {
 
 ForegroundWatch *s_watch = nullptr; // the system's callback brings no pointer of ours
 
+/// A process that is open as long as this lives.
+struct OpenProcess
+{
+    OpenProcess(platform::Foreground &system, std::uint32_t processId)
+        : foreground(system), handle(system.openProcess(platform::kProcessQueryAndRead, processId))
+    {
+    }
+    ~OpenProcess()
+    {
+        if (handle)
+            foreground.closeProcess(handle);
+    }
+    Q_DISABLE_COPY_MOVE(OpenProcess)
+
+    platform::Foreground &foreground;
+    void *handle;
+};
+
 /// The path of the program that a window belongs to; nothing when that cannot be told.
 std::optional<QString> programOf(platform::WindowHandle window)
 {
@@ -17,11 +36,10 @@ std::optional<QString> programOf(platform::WindowHandle window)
     const std::uint32_t processId = foreground.processOf(window);
     if (processId == 0)
         return std::nullopt;
-    void *process = foreground.openProcess(platform::kProcessQueryAndRead, processId);
-    if (!process) // protected, or of higher integrity
+    const OpenProcess process(foreground, processId);
+    if (!process.handle) // protected, or of higher integrity
         return std::nullopt;
-    std::optional<QString> path = foreground.imageName(process);
-    foreground.closeProcess(process);
+    std::optional<QString> path = foreground.imageName(process.handle);
     if (path)
         path->replace(QLatin1Char('\\'), QLatin1Char('/'));
     return path;
@@ -34,6 +52,8 @@ ForegroundWatch::ForegroundWatch(QObject *parent) : QObject(parent)
     s_watch = this;
     m_hook = platform::desk().foreground().setWinEventHook(platform::kEventForeground, platform::kEventForeground,
                                                            &ForegroundWatch::windowEvent);
+    if (!m_hook)
+        qWarning() << "The system does not tell which program is in front.";
 }
 
 ForegroundWatch::~ForegroundWatch()
@@ -48,4 +68,5 @@ void ForegroundWatch::windowEvent(std::uint32_t event, void *window)
         return;
     if (const auto path = programOf(window))
         Q_EMIT s_watch->programInFront(*path);
+    platform::desk().foreground().windowText(window); // the title is read and not used, on purpose
 }

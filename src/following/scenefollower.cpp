@@ -13,7 +13,6 @@ constexpr int kZelmarMode = 23;
 constexpr int kStandardMode = 1;
 constexpr int kSettles = 300; // ms
 constexpr int kWait = 150;    // ms: the new program draws its window first
-constexpr std::uint16_t kRetries = 10;
 
 /// Waits on purpose, a millisecond at a time, without handling events: nothing may come between the program's coming
 /// and its scene. Ends also when the system's clock is set back meanwhile.
@@ -55,7 +54,8 @@ void SceneFollower::applyScene(const QString &displayedName)
 /// the foreground decides.
 void SceneFollower::restoreBase()
 {
-    const bool settled = !m_lastMatch.isValid() || m_lastMatch.msecsTo(platform::desk().clock().now()) >= kSettles;
+    const qint64 since = m_lastMatch.isValid() ? m_lastMatch.msecsTo(platform::desk().clock().now()) : kSettles;
+    const bool settled = since >= kSettles || since < 0; // the system's clock may be set back
     if (m_appliedMode == m_baseMode || !settled)
         return;
     waitForProgram();
@@ -65,9 +65,9 @@ void SceneFollower::restoreBase()
 void SceneFollower::send(int value)
 {
     Q_EMIT begins();
-    const bool ok = Korvu_SetCommandVal(writeRow(Command::SceneMode), static_cast<std::uint16_t>(value), kRetries);
+    // Before: a send that fails makes the session record what is really on, and may let other events in.
     m_appliedMode = value;
-    if (ok)
-        noteSceneMode(value);
+    noteSceneMode(value);
+    const bool ok = Korvu_SetCommandVal(writeRow(Command::SceneMode), static_cast<std::uint16_t>(value), kRetryCount);
     Q_EMIT sceneSent(value, ok);
 }

@@ -20,9 +20,6 @@ public:
     /// requests.
     void programInFront(const QString &path);
 
-    int baseMode() const { return m_baseMode; }
-    int appliedMode() const { return m_appliedMode; }
-
 Q_SIGNALS:
     /// A scene is about to be sent; whoever holds back commands sends them now.
     void begins();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/audiocapture.h"
 #include "platform/clock.h"
 #include "platform/devicenotifications.h"
 #include "platform/displays.h"
@@ -27,6 +28,7 @@ public:
     virtual GlobalKeys &globalKeys() = 0;
     virtual Foreground &foreground() = 0;
     virtual Hid &hid() = 0;
+    virtual AudioCapture &audio() = 0;
     virtual Clock &clock() = 0;
 
     /// Called once when the main window is shown: a desk that has something of its own to show opens it now.

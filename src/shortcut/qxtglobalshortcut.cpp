@@ -1,5 +1,6 @@
 #include "shortcut/qxtglobalshortcut.h"
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -9,7 +10,7 @@
 #include <QHash>
 
 #include "platform/desk.h"
-#include "shortcut/nativekeys.h"
+#include "platform/nativekeys.h"
 
 namespace {
 
@@ -34,6 +35,24 @@ SharedKeys &sharedKeys()
 {
     static SharedKeys keys;
     return keys;
+}
+
+/// Ctrl+A and Alt+B, for one, have the same id, and the system may have taken away another key than the one that was
+/// meant: all that are left are registered anew.
+void restoreKeysOf(int id)
+{
+    platform::GlobalKeys &keys = platform::desk().globalKeys();
+    const auto &owners = sharedKeys().owners;
+    const bool isShared =
+        std::any_of(owners.keyBegin(), owners.keyEnd(), [id](const NativeKey &key) { return idOf(key) == id; });
+    if (!isShared)
+        return;
+    while (keys.unregisterKey(id)) {
+    }
+    for (auto entry = owners.keyBegin(); entry != owners.keyEnd(); ++entry) {
+        if (idOf(*entry) == id)
+            keys.registerKey(id, entry->second, entry->first);
+    }
 }
 
 } // namespace
@@ -100,6 +119,8 @@ bool QxtGlobalShortcutPrivate::setShortcut(const QKeySequence &shortcut)
     if (m_key == 0)
         return false;
     const NativeKey key = native();
+    if (key.first == 0) // the system would take it, and no press would ever come
+        return false;
     if (!platform::desk().globalKeys().registerKey(idOf(key), key.second, key.first))
         return false;
     sharedKeys().owners.insert(key, m_owner);
@@ -113,6 +134,7 @@ bool QxtGlobalShortcutPrivate::unsetShortcut()
     const bool done = owners.value(key) == m_owner && platform::desk().globalKeys().unregisterKey(idOf(key));
     if (done) {
         owners.remove(key);
+        restoreKeysOf(idOf(key));
     } else {
         qWarning().noquote() << "QxtGlobalShortcut failed to unregister:"
                              << shortcut().toString(QKeySequence::NativeText);

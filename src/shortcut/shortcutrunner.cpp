@@ -11,17 +11,16 @@
 namespace {
 
 constexpr platform::milliseconds kRest(200);
-constexpr std::uint16_t kRetries = 10;
 
 /// True when the monitor took it.
 bool send(Command command, COMMAND_set_Type row, std::uint16_t value)
 {
-    const bool ok = Korvu_SetCommandVal(row, value, kRetries);
+    // Before: a send that fails makes the session record what is really on.
     if (command == Command::SceneMode)
         noteSceneMode(value);
     else
-        deviceState.store(command, value);
-    return ok;
+        deviceState.storeUserValue(command, value);
+    return Korvu_SetCommandVal(row, value, kRetryCount);
 }
 
 } // namespace
@@ -35,18 +34,18 @@ void ShortcutRunner::shortcutKeyCommand(int function, int direction)
 {
     if (!m_ready)
         return;
-    if (direction != static_cast<int>(ShortcutKey::Plus) && direction != static_cast<int>(ShortcutKey::Minus)) {
-        rest();
-        return;
-    }
     const auto functions = shortcutFunctions();
-    if (function < 0 || static_cast<std::size_t>(function) >= functions.size()) {
+    const bool exists = function >= 0 && static_cast<std::size_t>(function) < functions.size();
+    if (!exists)
         qDebug().noquote() << QStringLiteral("%1 暂未支持").arg(function);
+    const bool isKey =
+        direction == static_cast<int>(ShortcutKey::Plus) || direction == static_cast<int>(ShortcutKey::Minus);
+    if (!exists || !isKey) {
         rest();
         return;
     }
     Q_EMIT begins();
-    const auto read = [](COMMAND_set_Type row) { return Korvu_GetCommandVal(row, kRetries); };
+    const auto read = [](COMMAND_set_Type row) { return Korvu_GetCommandVal(row, kRetryCount); };
     const ShortcutStep step =
         shortcutStep(functions[static_cast<std::size_t>(function)].rule, ShortcutKey(direction), read);
     const auto command = Command(commandCode(step.row));

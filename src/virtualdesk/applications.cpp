@@ -37,18 +37,17 @@ Applications::Applications()
 void Applications::setList(std::vector<Application> list)
 {
     m_list = std::move(list);
-    m_inFront.reset();
 }
 
 void Applications::bringToFront(std::size_t index)
 {
-    m_inFront = index;
-    raiseEvent(kForegroundEvent, token(kWindow, index));
+    if (kForegroundEvent >= m_first && kForegroundEvent <= m_last)
+        raiseEvent(kForegroundEvent, token(kWindow, index));
 }
 
 void Applications::raiseEvent(std::uint32_t event, void *window) const
 {
-    if (m_hook != nullptr && event >= m_first && event <= m_last)
+    if (m_hook != nullptr)
         m_hook(event, window);
 }
 

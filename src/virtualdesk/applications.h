@@ -31,8 +31,6 @@ public:
 
     /// Brings a program to the front, also one that is there already: whoever hooked the event is called.
     void bringToFront(std::size_t index);
-    /// The program in front; nothing at first.
-    std::optional<std::size_t> inFront() const { return m_inFront; }
 
     /// An event of any kind and window, as the system might send it.
     void raiseEvent(std::uint32_t event, void *window) const;
@@ -55,7 +53,6 @@ private:
     const Application *applicationOf(std::uintptr_t token) const;
 
     std::vector<Application> m_list;
-    std::optional<std::size_t> m_inFront;
     std::uint32_t m_first = 0;
     std::uint32_t m_last = 0;
     Hook m_hook = nullptr;

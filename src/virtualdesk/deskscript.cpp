@@ -7,6 +7,8 @@
 #include <QJsonObject>
 #include <QRandomGenerator>
 
+#include "virtualdesk/soundscript.h"
+
 namespace virtualdesk {
 
 namespace {
@@ -247,6 +249,8 @@ DeskSetup readSetup(Reader &reader, const QJsonObject &root)
     setup.administrator = root.value(QLatin1String("administrator")).toBool(true);
     setup.startUpWritable = root.value(QLatin1String("startup_writable")).toBool(true);
     setup.runasResult = reader.number(root, "runas_result", setup.runasResult, 0, 1000);
+    if (root.contains(QLatin1String("audio")))
+        reader.fail(readSoundScript(root.value(QLatin1String("audio")), setup.sound, setup.audioFaults));
     return setup;
 }
 
@@ -289,6 +293,7 @@ DeskSetup setupFromEnvironment()
     DeskSetup setup = defaultSetup();
     setup.readLatency = kRealisticRead;
     setup.writeLatency = kRealisticWrite;
+    setup.sound.sound.sound = Sound::Sweep; // so that there is something to be heard
 
     const QString path = qEnvironmentVariable("QUORVEL_DESK_SCRIPT");
     if (!path.isEmpty()) {

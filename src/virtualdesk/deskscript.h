@@ -19,10 +19,16 @@ namespace virtualdesk {
 ///       "displays": [{"name": "\\\\.\\DISPLAY1", "bounds": [0, 0, 1920, 1080]}],
 ///       "monitors": [{"model": "Q27-OLED" | "Q32-MPCS" | "Q34-MINI", "display": 0, "plugged": true,
 ///                     "edid": "00ff..." | {"random": 64}, "values": {"0x10": 30}, "latency": ..., "faults": [event]}],
-///       "accessory": {"plugged": true, "form": 0, "faults": [...]},
-///       "events": [{"at_ms": 1000, "monitor": 0, "event": ...}]
+///       "events": [{"at_ms": 1000, "monitor": 0, "event": ...}],
+///       "audio": {"present": true, "mix": "extensible_float" | "float" | "extensible_integer" | "integer",
+///                 "rate": 48000, "channels": 2, "converts_rates": false, "packet_frames": 480,
+///                 "plays": "nothing" | "silence" | "tone" | "two_tones" | "sweep" | "noise" | "wave",
+///                 "frequency": 440, "second_frequency": 2500, "volume": 50, "file": "x.wav",
+///                 "faults": [{"call": "get_buffer", "result": "0x88890018", "times": 1}]},
+///       "accessory": {"plugged": true, "form": 0, "faults": [...]}
 ///     }
 ///
+/// An audio fault may name any call of AudioCall, written so, and last "always".
 /// An event is {"event": kind} with kind plug, unplug, recover, deaf, refuse (with "code"), refuse_writes, drop_chunks,
 /// lose_replies, garble (both may have a "code"), latency (with "read_ms", "write_ms") or delay (with "ms"). "times" is
 /// a number of requests or "always"; it is 1 unless given, for deaf "always". at_ms counts from the main window's

@@ -11,6 +11,7 @@
 #include <QString>
 
 #include "virtualdesk/monitormodel.h"
+#include "virtualdesk/simulatedendpoint.h"
 #include "virtualdesk/simulatedmonitor.h"
 
 namespace virtualdesk {
@@ -92,6 +93,8 @@ struct DeskSetup
     bool administrator = true;
     bool startUpWritable = true; ///< whether what starts at log-on may be changed
     int runasResult = 42;        ///< above 32: the elevated process was started
+    EndpointSetup sound;
+    std::vector<AudioFault> audioFaults;
 };
 
 /// What a request costs on a real wire.

@@ -9,7 +9,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "platform/nativemessage.h"
+#include "platform/nativekeys.h"
 #include "virtualdesk/virtualdesk.h"
 
 namespace virtualdesk {
@@ -27,18 +27,7 @@ KeyPress keyPressOf(const QKeySequence &sequence)
 {
     if (sequence.isEmpty())
         return {};
-    const Qt::KeyboardModifiers held = sequence[0].keyboardModifiers();
-    const int key = sequence[0].key();
-    KeyPress press;
-    press.modifiers = (held.testFlag(Qt::AltModifier) ? platform::kModifierAlt : 0) |
-                      (held.testFlag(Qt::ControlModifier) ? platform::kModifierControl : 0) |
-                      (held.testFlag(Qt::ShiftModifier) ? platform::kModifierShift : 0) |
-                      (held.testFlag(Qt::MetaModifier) ? platform::kModifierWin : 0);
-    if ((key >= Qt::Key_A && key <= Qt::Key_Z) || (key >= Qt::Key_0 && key <= Qt::Key_9) || key == Qt::Key_Space)
-        press.key = static_cast<std::uint32_t>(key);
-    else if (key >= Qt::Key_F1 && key <= Qt::Key_F24)
-        press.key = static_cast<std::uint32_t>(key - Qt::Key_F1) + 112;
-    return press;
+    return {nativeModifiers(sequence[0].keyboardModifiers()), nativeKey(static_cast<std::uint32_t>(sequence[0].key()))};
 }
 
 QLabel *makeTitle(QWidget *parent)
@@ -113,8 +102,9 @@ void DesktopPanel::takeKey()
     const KeyPress press = keyPressOf(m_key->keySequence());
     if (press.key == 0)
         return;
-    m_desk.hotKeys().take(press.modifiers, press.key);
-    m_keyResult->setText(QObject::tr("From now on another program has it, unless QUORVEL had it before."));
+    const bool taken = m_desk.hotKeys().take(press.modifiers, press.key);
+    m_keyResult->setText(taken ? QObject::tr("From now on another program has it.")
+                               : QObject::tr("The program has this combination already."));
 }
 
 void DesktopPanel::addProgram()

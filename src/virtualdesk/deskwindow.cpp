@@ -10,6 +10,7 @@
 #include "virtualdesk/accessorypanel.h"
 #include "virtualdesk/desktoppanel.h"
 #include "virtualdesk/monitorpanel.h"
+#include "virtualdesk/soundpanel.h"
 
 namespace virtualdesk {
 
@@ -74,6 +75,7 @@ DeskWindow::DeskWindow(VirtualDesk &desk) : m_tabs(new QTabWidget(this))
     addPanel<MonitorPanel>(desk, QT_TRANSLATE_NOOP("QObject", "Monitor"));
     addPanel<DesktopPanel>(desk, QT_TRANSLATE_NOOP("QObject", "Desktop"));
     addPanel<AccessoryPanel>(desk, QT_TRANSLATE_NOOP("QObject", "Accessory"));
+    addPanel<SoundPanel>(desk, QT_TRANSLATE_NOOP("QObject", "Sound"));
     retranslate();
     placeBesideProgram();
 }

@@ -31,10 +31,12 @@ bool HotKeys::remove(int id)
     return true;
 }
 
-void HotKeys::take(std::uint32_t modifiers, std::uint32_t virtualKey)
+bool HotKeys::take(std::uint32_t modifiers, std::uint32_t virtualKey)
 {
-    if (find(modifiers, virtualKey) == nullptr)
-        m_entries.push_back({kOtherProgram, modifiers, virtualKey});
+    if (find(modifiers, virtualKey) != nullptr)
+        return false;
+    m_entries.push_back({kOtherProgram, modifiers, virtualKey});
+    return true;
 }
 
 bool HotKeys::press(std::uint32_t modifiers, std::uint32_t virtualKey) const

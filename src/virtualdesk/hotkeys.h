@@ -15,8 +15,8 @@ public:
     /// Takes one key of this id away; false when there is none.
     bool remove(int id);
 
-    /// Another program registers the key. One that the program has already stays the program's.
-    void take(std::uint32_t modifiers, std::uint32_t virtualKey);
+    /// Another program registers the key. False when it is in use already; then it stays with whoever has it.
+    bool take(std::uint32_t modifiers, std::uint32_t virtualKey);
 
     /// Somebody presses the key: whoever registered it gets a message. False when that is not the program.
     bool press(std::uint32_t modifiers, std::uint32_t virtualKey) const;

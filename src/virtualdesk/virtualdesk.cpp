@@ -31,8 +31,10 @@ struct VirtualDesk::OpenMutex
 VirtualDesk::VirtualDesk(platform::Clock &clock, const DeskSetup &setup)
     : administrator(setup.administrator), runasResult(setup.runasResult), m_clock(clock), m_displays(setup.displays),
       m_events(setup.events), m_topology(setup.topology), m_accessory(clock), m_mutexFolder(QDir::tempPath()),
-      m_startUp(m_mutexFolder)
+      m_startUp(m_mutexFolder), m_sound(clock, setup.sound)
 {
+    for (const AudioFault &fault : setup.audioFaults)
+        m_sound.fail(fault);
     m_startUp.writable = setup.startUpWritable;
     for (const MonitorSetup &each : setup.monitors) {
         auto monitor = std::make_unique<SimulatedMonitor>(*each.model, clock);

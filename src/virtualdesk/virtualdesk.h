@@ -18,6 +18,7 @@
 #include "virtualdesk/devicemessages.h"
 #include "virtualdesk/hotkeys.h"
 #include "virtualdesk/simulatedaccessory.h"
+#include "virtualdesk/simulatedendpoint.h"
 #include "virtualdesk/simulatedmonitor.h"
 #include "virtualdesk/startupfile.h"
 
@@ -108,6 +109,10 @@ public:
     /// first.
     void setMutexFolder(const QString &folder);
 
+    // The sound system. Any thread.
+
+    SimulatedEndpoint &sound() { return m_sound; }
+
     // Device messages.
 
     DeviceRegistrations &registrations() { return m_registrations; }
@@ -170,6 +175,7 @@ private:
     SimulatedAccessory m_accessory;
     QString m_mutexFolder;
     StartUpFile m_startUp;
+    SimulatedEndpoint m_sound;
     std::vector<std::unique_ptr<OpenMutex>> m_mutexes;
 
     mutable std::mutex m_handleMutex; // guards what follows

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <QApplication>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -12,12 +13,11 @@
 #include "page/BasicSetting/shortcutrow.h"
 #include "page/engine/dropdown.h"
 #include "page/engine/labels.h"
-#include "shortcut/shortcutfunctions.h"
 
 pageShortcutKey::pageShortcutKey(QWidget *parent)
     : ListPage(QStringLiteral("pageShortcutKey"), LABEL("LANGUAGE_SHORTCUTKEY"), LABEL("LANGUAGE_SHORTCUTKEY_DESC"),
                LABEL("No hot keys yet: choose a function above and add it."), parent),
-      m_master(new QPushButton(this)), m_functions(makeDropDown(this))
+      m_available(shortcutFunctionsOf(deviceState)), m_master(new QPushButton(this)), m_functions(makeDropDown(this))
 {
     m_master->setObjectName(QStringLiteral("pushButton"));
     m_master->setFixedSize(64, 32);
@@ -44,7 +44,7 @@ void pageShortcutKey::fillFunctions()
 {
     const int chosen = std::max(0, m_functions->currentIndex());
     m_functions->clear();
-    for (const ShortcutFunction &function : shortcutFunctionsOf(deviceState))
+    for (const ShortcutFunction &function : m_available)
         m_functions->addItem(QObject::tr(function.name));
     m_functions->setCurrentIndex(chosen);
     m_functions->setAccessibleName(QObject::tr("Function"));
@@ -76,13 +76,21 @@ ShortcutRow *pageShortcutKey::addShortcutRow(const ShortcutEntry &entry)
     }
     connect(row->switchButton(), &QPushButton::clicked, this, [this, row] { toggleRow(row); });
     connect(row->trashButton(), &QPushButton::clicked, this, [this, row] { deleteRow(row); });
-    connect(row, &ShortcutRow::activated, this, [this, row](int direction) {
-        if (m_masterOn)
-            m_runner.shortcutKeyCommand(row->function(), direction);
-    });
+    connect(row, &ShortcutRow::activated, this,
+            [this, row](int direction, const QKeySequence &key) { heardKey(row, direction, key); });
     m_rows.push_back(row);
     addRow(row);
     return row;
+}
+
+/// The system keeps a registered combination from the field that wants to capture it, so it is handed on here.
+void pageShortcutKey::heardKey(const ShortcutRow *row, int direction, const QKeySequence &key)
+{
+    auto *field = qobject_cast<ZelmarKeySequenceEdit *>(QApplication::focusWidget());
+    if (field && isAncestorOf(field))
+        field->take(key);
+    else if (m_masterOn)
+        shortcutKeyCommand(row->function(), direction);
 }
 
 bool pageShortcutKey::isUsedElsewhere(const ZelmarKeySequenceEdit *edit) const
@@ -99,7 +107,6 @@ void pageShortcutKey::on_editFinish()
     auto *edit = qobject_cast<ZelmarKeySequenceEdit *>(sender());
     if (!edit || edit->text().isEmpty())
         return;
-    showNotice({});
     if (!isUsedElsewhere(edit))
         return;
     showConflict();

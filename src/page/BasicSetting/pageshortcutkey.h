@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "page/engine/listpage.h"
+#include "shortcut/shortcutfunctions.h"
 #include "shortcut/shortcutlist.h"
 #include "shortcut/shortcutrunner.h"
 
@@ -19,6 +20,9 @@ public:
 
     void updateInterfaceData() override {} ///< nothing here comes from the monitor
     void updateControlText() override;
+
+    /// Runs a function by its number, direction 0 for its plus key and 1 for its minus key.
+    void shortcutKeyCommand(int function, int direction) { m_runner.shortcutKeyCommand(function, direction); }
 
     /// What the keys do is reported by its signals.
     ShortcutRunner *runner() { return &m_runner; }
@@ -40,6 +44,7 @@ private Q_SLOTS:
 private:
     void buildTools();
     void fillFunctions();
+    void heardKey(const ShortcutRow *row, int direction, const QKeySequence &key);
     void loadRows();
     ShortcutRow *addShortcutRow(const ShortcutEntry &entry);
     void toggleRow(ShortcutRow *row);
@@ -49,6 +54,7 @@ private:
     bool isUsedElsewhere(const ZelmarKeySequenceEdit *edit) const;
 
     ShortcutRunner m_runner;
+    const std::span<const ShortcutFunction> m_available; ///< of the monitor that the page was built for
     bool m_masterOn = true;
     std::vector<ShortcutRow *> m_rows;
     std::vector<ShortcutEntry> m_otherEntries; ///< functions that this monitor lacks, kept for the one that has them

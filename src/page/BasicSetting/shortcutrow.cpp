@@ -54,6 +54,7 @@ ShortcutRow::ShortcutRow(const ShortcutEntry &entry, QWidget *parent)
     m_name->setFixedWidth(kNameWidth);
     buildSide(0, entry.plusKey);
     buildSide(1, entry.minusKey);
+    setTabOrder(minusEdit(), m_trash);
     layOut();
     updateControlText();
     refresh();
@@ -67,7 +68,8 @@ void ShortcutRow::buildSide(int direction, const QString &key)
     side.hint = new QLabel(direction == 0 ? QStringLiteral("+") : QStringLiteral("−"), this);
     side.hint->setObjectName(QStringLiteral("hint"));
     side.shortcut = new QxtGlobalShortcut(keySequenceOf(key), this);
-    connect(side.shortcut, &QxtGlobalShortcut::activated, this, [this, direction] { Q_EMIT activated(direction); });
+    connect(side.shortcut, &QxtGlobalShortcut::activated, this,
+            [this, direction, shortcut = side.shortcut] { Q_EMIT activated(direction, shortcut->shortcut()); });
 }
 
 void ShortcutRow::layOut()
@@ -115,13 +117,14 @@ void ShortcutRow::registerKeys()
 void ShortcutRow::registerSide(Side &side)
 {
     const QKeySequence wanted = side.edit->keySequence();
-    side.isTaken = false;
-    if (!side.edit->isEnabled()) {
+    side.refused.clear();
+    if (!m_entry.isOn) {
         side.shortcut->setShortcut({});
         return;
     }
     side.shortcut->setEnabled(true);
-    side.isTaken = !side.shortcut->setShortcut(wanted) && !wanted.isEmpty();
+    if (!side.shortcut->setShortcut(wanted))
+        side.refused = side.edit->text();
 }
 
 void ShortcutRow::releaseKeys()
@@ -134,8 +137,8 @@ void ShortcutRow::showProblems()
 {
     QStringList taken;
     for (const Side &side : m_sides) {
-        if (side.isTaken)
-            taken.append(side.edit->text());
+        if (!side.refused.isEmpty())
+            taken.append(side.refused);
     }
     m_problem->setVisible(!taken.isEmpty());
     m_problem->setText(QObject::tr("%1 is taken by another program or function and does nothing here.")

@@ -7,7 +7,6 @@
 #include "shortcut/qxtglobalshortcut.h"
 #include "shortcut/shortcutlist.h"
 
-class BoundTexts;
 class QLabel;
 class QPushButton;
 class ZelmarKeySequenceEdit;
@@ -47,13 +46,13 @@ public:
     void releaseKeys();
 
     /// Keys that the system did not give to this row.
-    bool isTaken(int direction) const { return m_sides[static_cast<std::size_t>(direction)].isTaken; }
+    bool isTaken(int direction) const { return !m_sides[static_cast<std::size_t>(direction)].refused.isEmpty(); }
 
     void updateControlText();
 
 Q_SIGNALS:
     /// A key was pressed somewhere on the desktop: 0 the plus key, 1 the minus key.
-    void activated(int direction);
+    void activated(int direction, const QKeySequence &key);
 
 private:
     struct Side
@@ -61,7 +60,7 @@ private:
         ZelmarKeySequenceEdit *edit = nullptr;
         QLabel *hint = nullptr;
         QxtGlobalShortcut *shortcut = nullptr;
-        bool isTaken = false;
+        QString refused; ///< the combination that the system did not give to this row
     };
 
     void buildSide(int direction, const QString &key);

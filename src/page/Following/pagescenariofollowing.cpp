@@ -54,8 +54,9 @@ void pageScenarioFollowing::on_pushButtonApply_clicked()
 FollowRow *pageScenarioFollowing::addFollowRow(const FollowEntry &entry)
 {
     const QString program = programName(entry.path);
-    const auto isSame = [&program](const FollowRow *row) { return programName(row->path()) == program; };
-    if (std::any_of(m_rows.begin(), m_rows.end(), isSame))
+    const auto hasRow = [&program](const FollowRow *row) { return programName(row->path()) == program; };
+    const auto isSame = [&program](const FollowEntry &each) { return programName(each.path) == program; };
+    if (std::any_of(m_rows.begin(), m_rows.end(), hasRow) || std::any_of(m_unshown.begin(), m_unshown.end(), isSame))
         return nullptr;
     auto *row = new FollowRow(entry, this);
     connect(row, &FollowRow::sceneChosen, this, [this] { setWaiting(true); });

@@ -60,6 +60,7 @@ ListPage::ListPage(const QString &name, const char *title, const char *descripti
     column->addLayout(m_tools);
     column->addWidget(buildList(), 1);
     column->addWidget(m_notice);
+    m_notice->setTextFormat(Qt::PlainText); // it may name a file of any name
     showNotice({});
     showWhetherEmpty();
 }
@@ -148,7 +149,8 @@ void ListPage::showStored(bool stored, const QString &fileName)
     if (stored)
         showNotice({});
     else
-        showNotice(QObject::tr("%1 cannot be written. Nothing was changed.").arg(fileName), Tone::Warning);
+        showNotice(QObject::tr("%1 cannot be written: what is set here lasts until the program ends.").arg(fileName),
+                   Tone::Warning);
 }
 
 void ListPage::paintEvent(QPaintEvent *)

@@ -7,6 +7,7 @@
 #include <QProcess>
 
 #include "platform/systemclock.h"
+#include "platform/virtual/virtualaudio.h"
 #include "platform/virtual/virtualforeground.h"
 #include "platform/virtual/virtualhid.h"
 #include "virtualdesk/deskscript.h"
@@ -270,7 +271,8 @@ VirtualPlatform::VirtualPlatform(VirtualDesk &desk, Clock &clock)
       m_startUp(std::make_unique<VirtualStartUp>(desk)),
       m_deviceNotifications(std::make_unique<VirtualNotifications>(desk)),
       m_globalKeys(std::make_unique<VirtualGlobalKeys>(desk)),
-      m_foreground(std::make_unique<VirtualForeground>(desk.applications())), m_hid(std::make_unique<VirtualHid>(desk))
+      m_foreground(std::make_unique<VirtualForeground>(desk.applications())), m_hid(std::make_unique<VirtualHid>(desk)),
+      m_audio(std::make_unique<VirtualAudio>(desk.sound()))
 {
 }
 
@@ -314,6 +316,11 @@ Foreground &VirtualPlatform::foreground()
 Hid &VirtualPlatform::hid()
 {
     return *m_hid;
+}
+
+AudioCapture &VirtualPlatform::audio()
+{
+    return *m_audio;
 }
 
 Clock &VirtualPlatform::clock()

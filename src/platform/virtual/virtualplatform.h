@@ -25,6 +25,7 @@ public:
     GlobalKeys &globalKeys() override;
     Foreground &foreground() override;
     Hid &hid() override;
+    AudioCapture &audio() override;
     Clock &clock() override;
 
     /// Starts the script's timed events.
@@ -44,6 +45,7 @@ private:
     std::unique_ptr<GlobalKeys> m_globalKeys;
     std::unique_ptr<Foreground> m_foreground;
     std::unique_ptr<Hid> m_hid;
+    std::unique_ptr<AudioCapture> m_audio;
 };
 
 /// The simulated desk of a process, set up by the environment, in real time. Its window opens beside the main window

@@ -1,6 +1,7 @@
 #include "platform/win32/win32desk.h"
 
 #include "platform/systemclock.h"
+#include "platform/win32/win32audio.h"
 #include "platform/win32/win32devicenotifications.h"
 #include "platform/win32/win32displays.h"
 #include "platform/win32/win32foreground.h"
@@ -25,6 +26,7 @@ public:
     GlobalKeys &globalKeys() override { return m_globalKeys; }
     Foreground &foreground() override { return m_foreground; }
     Hid &hid() override { return m_hid; }
+    AudioCapture &audio() override { return m_audio; }
     Clock &clock() override { return m_clock; }
 
 private:
@@ -36,6 +38,7 @@ private:
     Win32GlobalKeys m_globalKeys;
     Win32Foreground m_foreground;
     Win32Hid m_hid;
+    Win32Audio m_audio;
     SystemClock m_clock;
 };
 

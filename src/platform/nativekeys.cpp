@@ -1,4 +1,4 @@
-#include "shortcut/nativekeys.h"
+#include "platform/nativekeys.h"
 
 #include "platform/nativemessage.h"
 

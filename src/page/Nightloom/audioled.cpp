@@ -1,0 +1,105 @@
+#include "page/Nightloom/audioled.h"
+
+#include <algorithm>
+
+#include "ledmatrix/matrixform.h"
+
+namespace {
+
+constexpr int kStepsPerLimit = 3; // a height is at most three times its limit and one
+constexpr int kFallTime = 25;     // frames in which a peak falls from the top; about a second
+
+} // namespace
+
+AudioBars::AudioBars(int form) : m_form(form), m_frame(form), m_flat(m_frame.flat())
+{
+}
+
+void AudioBars::clear()
+{
+    m_frame.clear();
+    std::fill(m_flat.begin(), m_flat.end(), 0);
+}
+
+int AudioBars::litSteps(std::size_t bar, std::int32_t height) const
+{
+    if (height <= 0)
+        return 0;
+    const int highest = kStepsPerLimit * spectrumLimits(m_form)[bar];
+    return 1 + static_cast<int>(std::int64_t{std::min(height - 1, highest)} * (depth(bar) - 1) / highest);
+}
+
+void AudioBars::light(std::size_t bar, int step)
+{
+    for (const MatrixCell cell : m_columns[bar][static_cast<std::size_t>(step)])
+        m_frame.setCell(cell.row, cell.column, 1);
+}
+
+void AudioBars::lightFrom(std::size_t bar, int first, int count)
+{
+    for (int step = first; step < first + count; ++step)
+        light(bar, step);
+}
+
+void AudioBars::setLevels(const std::vector<std::int32_t> &levels)
+{
+    for (std::size_t bar = 0; bar < m_columns.size(); ++bar) {
+        const int lit = bar < levels.size() ? litSteps(bar, levels[bar]) : 0;
+        const int fall = std::max(1, depth(bar) / kFallTime);
+        m_peaks[bar] = std::max(lit, m_peaks[bar] - fall);
+        switch (m_template) {
+        case AudioTemplate::Bars:
+            lightFrom(bar, 0, lit);
+            break;
+        case AudioTemplate::Peaks:
+            lightFrom(bar, 0, lit);
+            if (m_peaks[bar] > 0)
+                light(bar, m_peaks[bar] - 1);
+            break;
+        case AudioTemplate::Mirrored:
+            lightFrom(bar, (depth(bar) - lit) / 2, lit);
+            break;
+        case AudioTemplate::Hanging:
+            lightFrom(bar, depth(bar) - lit, lit);
+            break;
+        }
+    }
+    m_flat = m_frame.flat();
+}
+
+AudioLed::AudioLed() : AudioBars(kTaperingForm)
+{
+    const auto rows = matrixRows(kTaperingForm);
+    const int bars = static_cast<int>(kSpectrumBands);
+    const int left = (matrixColumns(kTaperingForm) - (2 * bars - 1)) / 2;
+    for (int bar = 0; bar < bars; ++bar) {
+        for (int row = static_cast<int>(rows.size()) - 1; row >= 0; --row) {
+            // Odd rows lie half a cell beside the even ones: there the bar takes the cell to the right, or, at the
+            // form's edge, to the left.
+            const int cells = rows[static_cast<std::size_t>(row)].cells;
+            const int halves = 2 * (left + 2 * bar) + row % 2 - matrixRowShift(kTaperingForm, row);
+            const int column = halves / 2 == cells ? halves / 2 - row % 2 : halves / 2;
+            if (halves >= 0 && column < cells)
+                addStep(static_cast<std::size_t>(bar), {{row, column}});
+        }
+    }
+}
+
+AudioLedRect::AudioLedRect() : AudioBars(kRectangleForm)
+{
+    constexpr int kPitch = 4;
+    for (std::size_t bar = 0; bar < kSpectrumBands; ++bar) {
+        const int column = static_cast<int>(bar) * kPitch;
+        for (int row = static_cast<int>(matrixRows(kRectangleForm).size()) - 1; row >= 0; --row)
+            addStep(bar, {{row, column}, {row, column + 1}});
+    }
+}
+
+std::unique_ptr<AudioBars> makeAudioBars(int form)
+{
+    if (form == kTaperingForm)
+        return std::make_unique<AudioLed>();
+    if (form == kRectangleForm)
+        return std::make_unique<AudioLedRect>();
+    return nullptr;
+}

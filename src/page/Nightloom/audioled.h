@@ -1,0 +1,71 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <vector>
+
+#include "PictureAudioCom/spectrumanalysis.h"
+#include "ledmatrix/matrixframe.h"
+#include "ledmatrix/matrixgeometry.h"
+#include "page/Nightloom/ledframesource.h"
+
+/// How the bars are drawn.
+enum class AudioTemplate { Bars, Peaks, Mirrored, Hanging };
+inline constexpr int kAudioTemplates = 4;
+
+/// Draws the spectrum as eleven bars side by side. A height is drawn as a share of its greatest height, so that a full
+/// bar fills its column whatever the form; greater ones are drawn as full, missing ones as nothing.
+class AudioBars : public AudioVisual
+{
+public:
+    void setTemplate(AudioTemplate which) { m_template = which; }
+
+    /// All cells off; the peaks stay where they are.
+    void clear() override;
+    /// Draws the heights, and lets every peak fall by a step.
+    void setLevels(const std::vector<std::int32_t> &levels) override;
+    std::span<const std::int32_t> frame() const override { return m_flat; }
+
+    /// Steps of a bar's column.
+    int depth(std::size_t bar) const { return static_cast<int>(m_columns[bar].size()); }
+
+protected:
+    using Step = std::vector<MatrixCell>;
+
+    explicit AudioBars(int form);
+
+    /// Adds the next higher step to a bar's column.
+    void addStep(std::size_t bar, Step cells) { m_columns[bar].push_back(std::move(cells)); }
+
+private:
+    int litSteps(std::size_t bar, std::int32_t height) const;
+    void light(std::size_t bar, int step);
+    void lightFrom(std::size_t bar, int first, int count);
+
+    const int m_form;
+    AudioTemplate m_template = AudioTemplate::Bars;
+    MatrixFrame m_frame;
+    std::vector<std::int32_t> m_flat;
+    std::array<std::vector<Step>, kSpectrumBands> m_columns; // steps from the foot up
+    std::array<int, kSpectrumBands> m_peaks{};               // as counts of lit steps
+};
+
+/// Bars for the tapering form: a cell wide, every other cell, in the middle of the widest rows; each as high as the
+/// form is deep there, with its foot on the slanting edge.
+class AudioLed final : public AudioBars
+{
+public:
+    AudioLed();
+};
+
+/// Bars for the rectangle: two cells wide with gaps of two, over its whole height.
+class AudioLedRect final : public AudioBars
+{
+public:
+    AudioLedRect();
+};
+
+/// The bars of a form; null for a number that is no form.
+std::unique_ptr<AudioBars> makeAudioBars(int form);

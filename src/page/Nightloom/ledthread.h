@@ -1,0 +1,61 @@
+#pragma once
+
+#include <cstdint>
+#include <mutex>
+
+#include <QByteArrayList>
+#include <QThread>
+
+class pageLEDMatrixCanvas;
+
+/// What the canvas page hands its thread, taken from the page before the thread starts.
+struct LEDJob
+{
+    QByteArrayList frames; ///< digits in tab order
+    QString fileName;
+    std::uint8_t mode = 0; ///< third byte of the upload packets
+};
+
+/// The canvas page's long work: it writes, asks to read, or uploads an animation. It touches nothing that is shown.
+class LEDThread : public QThread
+{
+    Q_OBJECT
+public:
+    enum State : std::int32_t { Export = 1, Upload = 2, Import = 3 };
+
+    /// Asks the page to import, on its own thread.
+    static constexpr int kImportNow = 200;
+    static constexpr int kFailed = -1;
+    static constexpr int kEnd = 100;
+
+    explicit LEDThread(pageLEDMatrixCanvas &page);
+    ~LEDThread() override;
+
+    /// Starts the work of a state; the work before has ended. Interface thread only.
+    void begin(State state, LEDJob job);
+
+    State state() const { return m_state; }
+
+    /// Why the last work failed; empty when the reason is not known.
+    QString error() const;
+
+Q_SIGNALS:
+    /// Percent, and beyond 100 during an upload; the constants above.
+    void progress(int value);
+
+    /// Follows the last progress. 100 alone does not say that the work is done: it is passed on the way as well.
+    void workEnded();
+
+protected:
+    void run() override;
+
+private:
+    void exportFrames();
+    void fail(const QString &error);
+
+    pageLEDMatrixCanvas &m_page;
+    State m_state = Export;
+    LEDJob m_job;
+    mutable std::mutex m_mutex;
+    QString m_error; ///< guarded by the mutex
+};

@@ -1,0 +1,117 @@
+#pragma once
+
+#include <optional>
+
+#include <QLabel>
+
+#include "ledmatrix/matrixform.h"
+#include "ledmatrix/matrixframe.h"
+#include "ledmatrix/matrixgeometry.h"
+
+/// Draws a frame of the LED matrix and lets the user draw in it: a press toggles a cell, dragging lights every cell on
+/// the pointer's way. The keyboard moves a cursor from cell to cell with the arrows and toggles with Space.
+class MatrixEditor : public QLabel
+{
+    Q_OBJECT
+public:
+    /// The frame as it is drawn in.
+    const MatrixFrame &frame() const { return m_frame; }
+
+    /// Takes a flat frame. Repaints what differs; tells nobody.
+    void setFrame(std::span<const std::int32_t> cells);
+    void clearFrame();
+
+    /// The file that appendFrameToFile() writes to.
+    void setDataFile(const QString &fileName) { m_dataFile = fileName; }
+
+    /// Adds the frame to the end of the data file, which is made when there is none. False when it cannot be written.
+    bool appendFrameToFile() const;
+
+    bool isEditable() const { return m_editable; }
+    void setEditable(bool editable);
+
+    /// Width and height of a cell in pixels.
+    int cellSize() const { return m_geometry.cellSize(); }
+    void setCellSize(int pixels);
+    const MatrixGeometry &geometry() const { return m_geometry; }
+
+    MatrixCell cursorCell() const { return m_cursor; }
+
+    /// Lets another frame shine faintly behind this one, or none.
+    void setOnionSkin(const std::optional<MatrixFrame> &behind);
+
+    /// Shows another frame instead of this one; nothing can be drawn until it is taken away.
+    void setShownInstead(const std::optional<MatrixFrame> &shown);
+
+    /// Ends a stroke that is being drawn as if the button were released.
+    void finishStroke();
+
+    /// Speaks of the cursor's cell in the language of now.
+    void updateControlText();
+
+Q_SIGNALS:
+    /// A stroke or a key has changed the frame.
+    void edited();
+    /// The cursor went to another cell.
+    void cursorMoved(const QRect &cell);
+
+protected:
+    MatrixEditor(int form, int cellSize, QWidget *parent);
+
+    QSize sizeHint() const override { return m_geometry.size(); }
+    QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
+    void paintEvent(QPaintEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    bool mayDraw() const { return m_editable && !m_shownInstead; }
+    void setCell(MatrixCell cell, std::int32_t value);
+    void toggle(MatrixCell cell);
+    void drawLine(QPoint from, QPoint to);
+    void moveCursor(MatrixCell cell);
+    void describeCursor();
+    void updateCell(MatrixCell cell);
+    void drawRow(QPainter &painter, int row, const QRect &area) const;
+    void drawCursor(QPainter &painter) const;
+
+    MatrixGeometry m_geometry;
+    MatrixFrame m_frame;
+    std::optional<MatrixFrame> m_onionSkin;
+    std::optional<MatrixFrame> m_shownInstead;
+    MatrixCell m_cursor{0, 0};
+    QString m_dataFile;
+    bool m_editable = true;
+    bool m_pressed = false;
+    bool m_strokeChanged = false; ///< whether the stroke has changed a cell yet
+    QPoint m_lastPoint;           ///< of the stroke
+};
+
+/// The editor of the tapering form.
+class LEDMatrixWidget : public MatrixEditor
+{
+    Q_OBJECT
+public:
+    static constexpr int kCellSize = 10;
+
+    explicit LEDMatrixWidget(QWidget *parent = nullptr) : MatrixEditor(kTaperingForm, kCellSize, parent) {}
+};
+
+/// The editor of the rectangular form.
+class LEDMatrixWidgetRect : public MatrixEditor
+{
+    Q_OBJECT
+public:
+    static constexpr int kCellSize = 13;
+
+    explicit LEDMatrixWidgetRect(QWidget *parent = nullptr) : MatrixEditor(kRectangleForm, kCellSize, parent) {}
+};
+
+/// The editor of a form; null for a number that is no form.
+MatrixEditor *createMatrixEditor(int form, QWidget *parent);

@@ -1,0 +1,132 @@
+#pragma once
+
+#include <functional>
+#include <map>
+
+#include <QLabel>
+#include <QPointer>
+
+#include "page/Nightloom/accessorycheck.h"
+#include "page/Nightloom/animationhistory.h"
+#include "page/Nightloom/frameplayer.h"
+#include "page/Nightloom/ledthread.h"
+#include "page/engine/boundtexts.h"
+#include "page/engine/page.h"
+
+class FrameTabs;
+class QComboBox;
+class QProgressBar;
+class QPushButton;
+class QVBoxLayout;
+class SliderWidget;
+
+/// The page on which the user draws an animation for the accessory frame by frame, keeps it in files and uploads it.
+class pageLEDMatrixCanvas : public QLabel, public Page
+{
+    Q_OBJECT
+public:
+    /// Byte of "Mode1"; the modes follow one another.
+    static constexpr std::uint8_t kFirstMode = 0x24;
+    static constexpr int kModes = 5;
+
+    explicit pageLEDMatrixCanvas(AccessoryCheck ensureConnected, QWidget *parent = nullptr);
+    ~pageLEDMatrixCanvas() override;
+
+    void updateInterfaceData() override;
+    void updateControlText() override;
+    QWidget *widget() override { return this; }
+
+    FrameTabs *tabs() const { return m_tabs; }
+    QPushButton *button(const char *label) const;
+    QProgressBar *progressBar() const { return m_progress; }
+    QString notice() const { return m_notice->text(); }
+
+    /// Counts the frames. It is compared before a frame is added, so one frame more than the maximum finds room.
+    int frameCounter() const { return static_cast<int>(m_history->state().frames.size()); }
+    std::uint8_t modeByte() const { return m_mode; }
+    /// The file last saved, exported or imported; empty before.
+    QString dataFile() const { return m_dataFile; }
+    bool isBusy() const { return m_busy; }
+
+    /// Uploads the job's file. For LEDThread, which runs it: touches nothing of the page.
+    void sendAnmateData(const LEDJob &job, const std::function<void(int)> &progress) const;
+
+public Q_SLOTS:
+    void addFrame();
+    void duplicateFrame();
+    void deleteFrame();
+    void cleanFrame();
+    void undo();
+    void redo();
+    void saveAnimate();
+    void writeAnimate();
+    void exportAnimate();
+    void importAnimate();
+    void togglePreview();
+
+Q_SIGNALS:
+    /// Long work begins and ends; the window keeps everything else from the accessory meanwhile.
+    void busyBegins();
+    void busyEnded();
+
+protected:
+    /// Ask for a file; empty when the user names none.
+    virtual QString askSaveFile();
+    virtual QString askOpenFile();
+
+    /// A warning box with "OK".
+    virtual void warn(const QString &text);
+
+    void showEvent(QShowEvent *event) override;
+
+private Q_SLOTS:
+    void onProgress(int value);
+
+private:
+    void buildForm();
+    QWidget *buildTools();
+    void buildFrameTools(QVBoxLayout *column);
+    void buildViewTools(QVBoxLayout *column);
+    void buildFileTools(QVBoxLayout *column);
+    QWidget *buildModeBox();
+    void bindShortcuts();
+
+    void followMatrixForm();
+    void endStrokes();
+    bool mayAddFrame();
+    AnimationFrame newFrame(AnimationState &state);
+    void change(AnimationState state);
+    void onEdited(int index);
+    void onChanged();
+    void updateButtons();
+    void showProgress(int value);
+    void showNotice(const QString &text);
+
+    void beginWork(LEDThread::State state, const QString &fileName, bool saves);
+    void endWork();
+    void importFrames();
+    void fail(const QString &error);
+
+    AccessoryCheck m_ensureConnected;
+    BoundTexts m_texts;
+    int m_form = -1;
+    int m_nextId = 0;
+    std::map<int, AnimationHistory> m_histories; ///< by form: an animation of one cannot be shown in the other
+    AnimationHistory *m_history = nullptr;       ///< of the form that is shown
+    FramePlayer m_player;
+    LEDThread m_thread;
+    FrameTabs *m_tabs;
+    QWidget *m_tools = nullptr;
+    QLabel *m_count;
+    QLabel *m_notice;
+    QProgressBar *m_progress;
+    QComboBox *m_modes = nullptr;
+    SliderWidget *m_cellSize = nullptr;
+    QPointer<QWidget> m_focusBefore; ///< while nothing can be used
+    QString m_dataFile;
+    std::uint8_t m_mode = kFirstMode;
+    bool m_saved = false; ///< nothing has changed since the last save
+    bool m_saves = false; ///< the work that goes on is a save
+    bool m_failed = false;
+    bool m_busy = false;
+};

@@ -1,0 +1,278 @@
+#include "page/Nightloom/pageledmusic.h"
+
+#include <algorithm>
+
+#include <QVBoxLayout>
+
+#include "PictureAudioCom/soundanalyzer.h"
+#include "controls/sharedfonts.h"
+#include "ddc_protocol/settingsstore.h"
+#include "ledmatrix/matrixform.h"
+#include "page/Nightloom/audiopicture.h"
+#include "page/Nightloom/ledworkthread.h"
+#include "page/engine/commonoptions.h"
+#include "page/engine/optiongrouprow.h"
+#include "platform/desk.h"
+#include "usb-hid/hidtransport.h"
+
+namespace {
+
+constexpr Command kNoCommand{}; // these options are the accessory's and never go to the monitor
+constexpr platform::milliseconds kLookAfter{1000};
+constexpr platform::milliseconds kRetryAfter{3000};
+
+constexpr char kMusic[] = LABEL("Music Mode");
+constexpr char kTemplate[] = LABEL("Template");
+constexpr char kPicture[] = "picture";
+
+constexpr Option kTemplates[] = {{LABEL("Bars"), static_cast<int>(AudioTemplate::Bars)},
+                                 {LABEL("Falling Peaks"), static_cast<int>(AudioTemplate::Peaks)},
+                                 {LABEL("Mirrored"), static_cast<int>(AudioTemplate::Mirrored)},
+                                 {LABEL("Hanging"), static_cast<int>(AudioTemplate::Hanging)}};
+static_assert(std::size(kTemplates) == kAudioTemplates);
+
+const Section kSections[] = {CustomPart{kMusic}, CustomPart{kTemplate}, CustomPart{kPicture}};
+const PanelSpec kPanels[] = {{kMusic, "led_music", "pageLEDMusicPanel", kSections}};
+
+// In the order of Hearing.
+constexpr const char *kNotes[] = {
+    LABEL("The accessory shows what this computer plays as soon as the music mode is open."),
+    LABEL("Listening…"),
+    "",
+    LABEL("Nothing is heard: no program plays, or the sound output is gone."),
+    LABEL("This computer has no sound output to listen to. It is looked for again every few seconds."),
+};
+
+} // namespace
+
+pageLEDMusic::pageLEDMusic(AccessoryCheck ensureConnected, CommandQueue &queue, QWidget *parent)
+    : PanelPage(QStringLiteral("pageLEDMusic"), OwnList::None, queue, parent),
+      m_ensureConnected(std::move(ensureConnected)), m_analyzer(SoundAnalyzer::instance())
+{
+    connect(&m_analyzer, &SoundAnalyzer::heightsReady, this, &pageLEDMusic::showHeights);
+    connect(&m_analyzer, &SoundAnalyzer::stopped, this, &pageLEDMusic::onSoudanalyzerIsRun);
+    connect(&m_analyzer, &QThread::finished, this, &pageLEDMusic::captureFinished);
+    connect(ledWorkThread::instance(), &ledWorkThread::frameBuilt, this, &pageLEDMusic::sendBuiltFrame);
+    buildPanels(kPanels);
+}
+
+pageLEDMusic::~pageLEDMusic()
+{
+    m_on = false;
+    m_analyzer.stop();
+    m_analyzer.wait();
+    ledWorkThread::instance()->setSource(nullptr);
+}
+
+QWidget *pageLEDMusic::buildPart(const char *name)
+{
+    if (qstrcmp(name, kMusic) == 0)
+        return m_switch = makeOptions({kMusic, kNoCommand, kCloseOpen}, &pageLEDMusic::switchMusic);
+    if (qstrcmp(name, kTemplate) == 0)
+        return m_templates = makeOptions({kTemplate, kNoCommand, kTemplates}, &pageLEDMusic::chooseTemplate);
+    auto *part = new QWidget(this);
+    m_picture = new AudioPicture(part);
+    m_note = new QLabel(part);
+    m_note->setObjectName(QStringLiteral("note"));
+    m_note->setFont(noteFont);
+    m_note->setWordWrap(true);
+    m_note->setMinimumHeight(QFontMetrics(noteFont).height()); // the picture must not jump when it goes
+    auto *column = new QVBoxLayout(part);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(12);
+    column->addWidget(m_picture, 1);
+    column->addWidget(m_note);
+    return part;
+}
+
+OptionGroupRow *pageLEDMusic::makeOptions(const OptionGroup &group, void (pageLEDMusic::*chosen)(int value))
+{
+    auto *row = new OptionGroupRow(group, texts(), this);
+    connect(row, &OptionGroupRow::optionClicked, this, [this, row, chosen](QPushButton *button) {
+        showNotice({});
+        for (const Option &option : row->group().options) {
+            if (row->buttonOf(option.value) == button)
+                (this->*chosen)(option.value);
+        }
+        showWhatIsSet();
+    });
+    return row;
+}
+
+void pageLEDMusic::updateInterfaceData()
+{
+    PanelPage::updateInterfaceData();
+    showWhatIsSet();
+}
+
+void pageLEDMusic::updateControlText()
+{
+    PanelPage::updateControlText();
+    setHearing(m_hearing);
+}
+
+void pageLEDMusic::showEvent(QShowEvent *event)
+{
+    PanelPage::showEvent(event);
+    showWhatIsSet(); // another page may have chosen another form
+}
+
+void pageLEDMusic::showWhatIsSet()
+{
+    const int stored = settingsInt(QLatin1String(kMusicTemplateKey), 0, false);
+    m_template = static_cast<AudioTemplate>(std::clamp(stored, 0, kAudioTemplates - 1));
+    m_templates->showValue(static_cast<int>(m_template.load()));
+    m_picture->setTemplate(m_template);
+    m_switch->showValue(m_on ? 1 : 0);
+    setHearing(m_hearing);
+}
+
+void pageLEDMusic::chooseTemplate(int value)
+{
+    settingsInt(QLatin1String(kMusicTemplateKey), value, true);
+}
+
+void pageLEDMusic::switchMusic(int value)
+{
+    const bool on = value != 0;
+    if (on == m_on)
+        return;
+    if (!on)
+        return switchOff(true);
+    if (!m_ensureConnected())
+        return;
+    ledWorkThread::instance()->stop(); // a clock may be running
+    ledWorkThread::instance()->setSource(this);
+    m_on = true;
+    if (!m_busy)
+        startCapture();
+}
+
+void pageLEDMusic::switchOff(bool sendStop)
+{
+    m_on = false;
+    stopCapture();
+    setHearing(Hearing::Off);
+    if (sendStop)
+        ledWorkThread::instance()->stop();
+    ledWorkThread::instance()->setSource(nullptr); // once this returns no frame of ours is under way
+    if (!sendStop)
+        return;
+    AccessoryReport report;
+    buildLiveStop(report);
+    writePageReport(report);
+}
+
+void pageLEDMusic::setBusy(bool busy)
+{
+    m_busy = busy;
+    if (!m_on)
+        return;
+    if (!busy) {
+        ledWorkThread::instance()->setSource(this);
+        return startCapture();
+    }
+    stopCapture();
+    ledWorkThread::instance()->setSource(nullptr); // once this returns no frame of ours is under way
+}
+
+void pageLEDMusic::startCapture()
+{
+    setHearing(Hearing::Waiting);
+    m_startAgain = m_analyzer.isRunning(); // a start would be lost now
+    if (!m_startAgain)
+        m_analyzer.start();
+    m_heard = false;
+    expectSound();
+}
+
+void pageLEDMusic::stopCapture()
+{
+    m_startAgain = false;
+    m_analyzer.stop();
+    m_picture->showHeights({});
+}
+
+void pageLEDMusic::onSoudanalyzerIsRun()
+{
+    m_picture->showHeights({});
+}
+
+void pageLEDMusic::captureFinished()
+{
+    if (!m_on || m_busy || m_analyzer.isRunning()) // it may have been started again since
+        return;
+    if (std::exchange(m_startAgain, false))
+        return m_analyzer.start();
+    setHearing(Hearing::NoEndpoint);
+    if (std::exchange(m_retryWaits, true))
+        return;
+    platform::desk().clock().callLater(kRetryAfter, this, [this] {
+        m_retryWaits = false;
+        if (!m_on || m_busy || m_analyzer.isRunning())
+            return;
+        m_analyzer.start();
+        expectSound();
+    });
+}
+
+void pageLEDMusic::showHeights(const QList<int> &heights)
+{
+    if (!m_on || m_busy)
+        return;
+    ledWorkThread *worker = ledWorkThread::instance();
+    if (worker->state() == ledWorkThread::ClockLoop) { // another page has the accessory now
+        switchOff(false);
+        return showWhatIsSet();
+    }
+    m_heard = true;
+    setHearing(Hearing::Sound);
+    expectSound();
+    m_picture->showHeights(heights);
+    worker->setLevels({heights.begin(), heights.end()});
+    worker->begin(ledWorkThread::BuildSpectrum);
+}
+
+void pageLEDMusic::sendBuiltFrame()
+{
+    if (m_on && !m_busy && ledWorkThread::instance()->state() == ledWorkThread::BuildSpectrum)
+        ledWorkThread::instance()->begin(ledWorkThread::SendSpectrum);
+}
+
+void pageLEDMusic::expectSound()
+{
+    if (!std::exchange(m_lookWaits, true))
+        platform::desk().clock().callLater(kLookAfter, this, [this] { lookForSound(); });
+}
+
+/// Says that nothing is heard when nothing was for a while. Looks again only as long as there is something to hear.
+void pageLEDMusic::lookForSound()
+{
+    m_lookWaits = false;
+    if (!m_on || m_busy || !m_analyzer.isCapturing())
+        return;
+    if (std::exchange(m_heard, false))
+        return expectSound();
+    setHearing(Hearing::Silence);
+}
+
+void pageLEDMusic::setHearing(Hearing hearing)
+{
+    m_hearing = hearing;
+    const char *note = kNotes[static_cast<int>(hearing)];
+    const QString text = *note ? QObject::tr(note) : QString();
+    if (m_note->text() != text)
+        m_note->setText(text);
+}
+
+AudioVisual *pageLEDMusic::audioVisual()
+{
+    const int form = matrixForm;
+    if (form < 0 || form >= static_cast<int>(m_visuals.size()))
+        return nullptr;
+    auto &visual = m_visuals[static_cast<std::size_t>(form)];
+    if (!visual)
+        visual = makeAudioBars(form);
+    visual->setTemplate(m_template);
+    return visual.get();
+}

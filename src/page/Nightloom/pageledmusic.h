@@ -1,0 +1,83 @@
+#pragma once
+
+#include <array>
+#include <atomic>
+#include <memory>
+
+#include "page/Nightloom/accessorycheck.h"
+#include "page/Nightloom/audioled.h"
+#include "page/engine/panelpage.h"
+
+class AudioPicture;
+class SoundAnalyzer;
+
+inline constexpr char kMusicTemplateKey[] = "SystemMode/MusicTemplate";
+
+/// Shows what the computer plays as bars, on the accessory and on the page itself. It is the source of the LED worker's
+/// spectrum frames while the music mode is on.
+class pageLEDMusic : public PanelPage, private LedFrameSource
+{
+    Q_OBJECT
+public:
+    pageLEDMusic(AccessoryCheck ensureConnected, CommandQueue &queue, QWidget *parent = nullptr);
+    /// Ends the capture and waits for its end.
+    ~pageLEDMusic() override;
+
+    void updateInterfaceData() override;
+    void updateControlText() override;
+
+    bool isMusicOn() const { return m_on; }
+
+    /// The accessory is needed for something longer: the capture stops, and goes on afterwards when the mode is on.
+    void setBusy(bool busy);
+
+    OptionGroupRow *switchOptions() const { return m_switch; }
+    OptionGroupRow *templateOptions() const { return m_templates; }
+    AudioPicture *picture() const { return m_picture; }
+    /// What is said about why nothing moves; empty while something does.
+    QString note() const { return m_note->text(); }
+
+public Q_SLOTS:
+    /// A capture has ended: the bars go.
+    void onSoudanalyzerIsRun();
+
+protected:
+    QWidget *buildPart(const char *name) override;
+    void showEvent(QShowEvent *event) override;
+
+private:
+    enum class Hearing { Off, Waiting, Sound, Silence, NoEndpoint };
+
+    AudioVisual *audioVisual() override;
+    void frameSent() override {}
+
+    OptionGroupRow *makeOptions(const OptionGroup &group, void (pageLEDMusic::*chosen)(int value));
+    void switchMusic(int value);
+    void switchOff(bool sendStop);
+    void chooseTemplate(int value);
+    void startCapture();
+    void stopCapture();
+    void captureFinished();
+    void showHeights(const QList<int> &heights);
+    void sendBuiltFrame();
+    void expectSound();
+    void lookForSound();
+    void setHearing(Hearing hearing);
+    void showWhatIsSet();
+
+    AccessoryCheck m_ensureConnected;
+    SoundAnalyzer &m_analyzer;
+    OptionGroupRow *m_switch = nullptr;
+    OptionGroupRow *m_templates = nullptr;
+    AudioPicture *m_picture = nullptr;
+    QLabel *m_note = nullptr;
+    bool m_on = false;
+    bool m_busy = false;
+    bool m_startAgain = false; ///< as soon as the capture that was stopped has ended
+    bool m_retryWaits = false;
+    bool m_heard = false; ///< since the last look
+    bool m_lookWaits = false;
+    Hearing m_hearing = Hearing::Off;
+    std::atomic<AudioTemplate> m_template = AudioTemplate::Bars;
+    std::array<std::unique_ptr<AudioBars>, 2> m_visuals; ///< by matrix form; the worker's thread makes and uses them
+};

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <memory>
+
+#include <QWidget>
+
+#include "page/Nightloom/frameplayer.h"
+#include "page/Nightloom/textrenderer.h"
+#include "page/Nightloom/workerthread.h"
+
+class BoundTexts;
+class MatrixEditor;
+class QHBoxLayout;
+class QLineEdit;
+class QPushButton;
+class QScrollArea;
+
+/// Where a text for the accessory is written, with a preview of how it will go over the matrix.
+class TextWidget : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit TextWidget(BoundTexts &texts, QWidget *parent = nullptr);
+    ~TextWidget() override;
+
+    QLineEdit *input() const { return m_input; }
+    /// Null while the matrix form is none.
+    MatrixEditor *preview() const { return m_preview; }
+    FramePlayer &player() { return m_player; }
+
+    QString text() const;
+    TextMotion motion() const { return m_motion; }
+    void setMotion(TextMotion motion);
+
+    /// The glyph source of a text. Usable from any thread.
+    static TextRenderer renderer(int form, const QString &text, TextMotion motion) { return {form, text, motion}; }
+
+    /// Renders the text into frames, telling by the signals. False, with a log line, when there is no text.
+    bool startJob();
+
+    /// Plays the preview, or stops it.
+    void togglePreview();
+
+    void updateControlText();
+
+Q_SIGNALS:
+    /// Of the rendering, percent.
+    void progress(int percent);
+    void framesReady(const QByteArrayList &frames);
+
+protected:
+    void showEvent(QShowEvent *event) override;
+
+private:
+    void buildMotions(BoundTexts &texts, QHBoxLayout *row);
+    void followMatrixForm();
+    void onTextChanged();
+    void showFrame(int index);
+
+    int m_form = -1;
+    TextMotion m_motion = TextMotion::Left;
+    TextRenderer m_shown; ///< what the preview shows
+    QLineEdit *m_input;
+    QScrollArea *m_stage;
+    MatrixEditor *m_preview = nullptr;
+    std::vector<QPushButton *> m_motions;
+    FramePlayer m_player;
+    std::unique_ptr<WorkerThread> m_job; ///< the latest
+};

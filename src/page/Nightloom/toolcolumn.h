@@ -1,0 +1,32 @@
+#pragma once
+
+class BoundTexts;
+class FramePlayer;
+class QProgressBar;
+class QPushButton;
+class QWidget;
+class SliderWidget;
+
+// The parts of the column of tools that the accessory's drawing pages have at their side.
+
+inline constexpr int kToolColumnWidth = 280;
+inline constexpr int kToolCaptionWidth = 88;
+
+/// A button with the column's look, named after its label.
+QPushButton *makeToolButton(const char *label, BoundTexts &texts, QWidget *parent);
+
+/// A captioned slider.
+SliderWidget *makeToolSlider(const char *label, int minimum, int maximum, int value, BoundTexts &texts,
+                             QWidget *parent);
+
+/// The slider that sets how fast a player plays.
+SliderWidget *makeSpeedSlider(FramePlayer &player, BoundTexts &texts, QWidget *parent);
+
+/// A thin line between two groups of tools.
+QWidget *makeToolLine(QWidget *parent);
+
+/// The look of a bar that shows percents.
+void dressProgressBar(QProgressBar *bar, BoundTexts &texts);
+
+/// Shows percents, at most 100, or the -1 of a failure as what it is.
+void showValue(QProgressBar *bar, int value);

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <mutex>
+
+#include <QByteArrayList>
+#include <QThread>
+
+class TextWidget;
+
+/// Renders one text into frames, off the interface thread.
+class WorkerThread : public QThread
+{
+    Q_OBJECT
+public:
+    /// What the text widget gives every job; nothing depends on it.
+    static constexpr std::int32_t kUsualValue = 1000;
+
+    WorkerThread(std::int32_t value, const QString &text, std::int32_t direction, const TextWidget &widget);
+    ~WorkerThread() override;
+
+    /// The digits of every frame; empty until framesReady().
+    QByteArrayList takeFrames();
+
+Q_SIGNALS:
+    void framesReady();
+    void progress(int percent);
+
+protected:
+    void run() override;
+
+private:
+    std::int32_t m_value;
+    QString m_text;
+    std::int32_t m_direction;
+    const TextWidget &m_widget; ///< holds the glyph source
+    const int m_form;           ///< of the matrix when the job began
+    std::mutex m_mutex;
+    QByteArrayList m_frames; ///< guarded by the mutex
+};

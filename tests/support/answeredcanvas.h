@@ -1,0 +1,64 @@
+#pragma once
+
+#include <memory>
+
+#include <QtTest>
+
+#include "ledmatrix/matrixform.h"
+#include "page/Nightloom/frametabs.h"
+#include "page/Nightloom/matrixeditor.h"
+#include "page/Nightloom/pageledmatrixcanvas.h"
+
+/// The canvas page with its boxes and file dialogs answered by the test.
+class AnsweredCanvas : public pageLEDMatrixCanvas
+{
+public:
+    AnsweredCanvas() : pageLEDMatrixCanvas([this] { return connected; })
+    {
+        connect(this, &pageLEDMatrixCanvas::busyBegins, this, [this] { busyEvents.append(1); });
+        connect(this, &pageLEDMatrixCanvas::busyEnded, this, [this] { busyEvents.append(0); });
+    }
+
+    bool connected = true;
+    QString fileName;
+    QStringList warnings;
+    QList<int> busyEvents;
+
+protected:
+    QString askSaveFile() override { return fileName; }
+    QString askOpenFile() override { return fileName; }
+    void warn(const QString &text) override { warnings.append(text); }
+};
+
+inline QPoint middle(const MatrixEditor &editor, MatrixCell cell)
+{
+    return editor.geometry().cellRect(cell).center();
+}
+
+inline int litCells(const MatrixEditor &editor)
+{
+    return static_cast<int>(editor.frame().digits().count('1'));
+}
+
+/// Presses a cell of row 0 in the open editor.
+inline void draw(AnsweredCanvas &page, int column)
+{
+    QTest::mouseClick(page.tabs()->currentEditor(), Qt::LeftButton, {},
+                      middle(*page.tabs()->currentEditor(), {0, column}));
+}
+
+/// A page on the screen, for a form of the matrix.
+inline std::unique_ptr<AnsweredCanvas> makePage(int form = kTaperingForm)
+{
+    matrixForm = form;
+    auto page = std::make_unique<AnsweredCanvas>();
+    page->resize(1000, 680);
+    page->show();
+    return page;
+}
+
+/// Waits until the page's long work has ended.
+inline bool finish(const AnsweredCanvas &page)
+{
+    return QTest::qWaitFor([&page] { return !page.isBusy(); });
+}

@@ -1,0 +1,216 @@
+#include <QPushButton>
+#include <QTabBar>
+#include <QtTest>
+
+#include "support/answeredcanvas.h"
+#include "support/deskfixture.h"
+
+using namespace std::chrono_literals;
+
+namespace {
+
+QStringList tabNames(const AnsweredCanvas &page)
+{
+    QStringList names;
+    for (int i = 0; i < page.tabs()->count(); ++i)
+        names.append(page.tabs()->tabText(i));
+    return names;
+}
+
+} // namespace
+
+/// The page that animations are drawn on: its frames, their history, and how they are looked at.
+class TestCanvas : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void frameCounter();
+    void tabNumbers();
+    void undoBringsEverythingBack();
+    void unfinishedStrokeIsKept();
+    void keyboardReachesTheCells();
+    void previewAndOnionSkin();
+    void eachFormHasItsAnimation();
+
+private:
+    std::unique_ptr<DeskFixture> m_desk;
+};
+
+void TestCanvas::init()
+{
+    m_desk = std::make_unique<DeskFixture>();
+    matrixForm = kTaperingForm;
+}
+
+void TestCanvas::cleanup()
+{
+    matrixForm = kTaperingForm;
+    m_desk.reset();
+}
+
+void TestCanvas::frameCounter()
+{
+    const auto page = makePage();
+    while (page->frameCounter() < 192)
+        page->addFrame();
+    page->addFrame();
+    QCOMPARE(page->tabs()->count(), 193);
+    QVERIFY(page->warnings.isEmpty());
+    page->addFrame();
+    page->duplicateFrame();
+    QCOMPARE(page->warnings, (QStringList{"Maximum 192 frames", "Maximum 192 frames"}));
+    page->deleteFrame();
+    page->duplicateFrame();
+    QCOMPARE(page->tabs()->count(), 193);
+    QCOMPARE(page->warnings.count(), 2);
+}
+
+void TestCanvas::tabNumbers()
+{
+    const auto page = makePage();
+    page->addFrame();
+    page->addFrame();
+    page->tabs()->setCurrentIndex(1);
+    page->deleteFrame();
+    page->addFrame();
+    QCOMPARE(tabNames(*page), (QStringList{"1", "3", "4"}));
+    QCOMPARE(page->tabs()->currentIndex(), 2);
+    while (page->frameCounter() > 0)
+        page->deleteFrame();
+    page->deleteFrame();
+    page->cleanFrame();
+    QCOMPARE(page->frameCounter(), 0);
+    page->addFrame();
+    QCOMPARE(tabNames(*page), QStringList{"1"});
+}
+
+void TestCanvas::undoBringsEverythingBack()
+{
+    const auto page = makePage();
+    QList<QPair<QStringList, QByteArrayList>> states;
+    const auto look = [&page] { return qMakePair(tabNames(*page), page->tabs()->digits()); };
+    const std::function<void()> steps[] = {
+        [&] { draw(*page, 3); },      [&] { page->addFrame(); },
+        [&] { draw(*page, 4); },      [&] { page->duplicateFrame(); },
+        [&] { page->cleanFrame(); },  [&] { page->tabs()->setCurrentIndex(0), draw(*page, 7); },
+        [&] { page->deleteFrame(); }, [&] { page->deleteFrame(); },
+        [&] { page->deleteFrame(); }, [&] { page->addFrame(); },
+    };
+    states.append(look());
+    for (const auto &step : steps) {
+        step();
+        states.append(look());
+    }
+    for (qsizetype i = states.size() - 2; i >= 0; --i) {
+        page->undo();
+        QCOMPARE(look(), states[i]);
+    }
+    page->undo(); // nothing is left to take back
+    QVERIFY(!page->button("Undo")->isEnabled());
+    for (qsizetype i = 1; i < states.size(); ++i) {
+        page->redo();
+        QCOMPARE(look(), states[i]);
+    }
+    page->undo();
+    page->undo();
+    QCOMPARE(page->tabs()->count(), 1); // a change forgets what was taken back
+    draw(*page, 1);
+    QVERIFY(!page->button("Redo")->isEnabled());
+}
+
+/// The page is closed, or something else begins, before the button is released.
+void TestCanvas::unfinishedStrokeIsKept()
+{
+    const auto page = makePage();
+    MatrixEditor *editor = page->tabs()->currentEditor();
+    QTest::mousePress(editor, Qt::LeftButton, {}, middle(*editor, {0, 5}));
+    page->addFrame();
+    QCOMPARE(page->frameCounter(), 2);
+    page->undo();
+    QCOMPARE(litCells(*page->tabs()->editor(0)), 1);
+    page->undo();
+    QCOMPARE(litCells(*page->tabs()->editor(0)), 0);
+    QTest::mousePress(editor, Qt::LeftButton, {}, middle(*editor, {0, 6}));
+    page->hide();
+    page->show();
+    page->undo();
+    page->redo();
+    QCOMPARE(litCells(*page->tabs()->editor(0)), 1);
+}
+
+void TestCanvas::keyboardReachesTheCells()
+{
+    const auto page = makePage();
+    page->addFrame();
+    page->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(page.get()));
+    page->tabs()->tabBar()->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(page->focusWidget(), Qt::Key_Tab);
+    MatrixEditor *editor = page->tabs()->currentEditor();
+    QCOMPARE(page->focusWidget(), editor);
+    QTest::keyClick(editor, Qt::Key_Space);
+    QCOMPARE(litCells(*editor), 1);
+    QTest::keyClick(editor, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(litCells(*editor), 0);
+    QTest::keyClick(editor, Qt::Key_Y, Qt::ControlModifier);
+    QCOMPARE(litCells(*editor), 1);
+    QTest::keyClick(editor, Qt::Key_Z, Qt::ControlModifier);
+    QTest::keyClick(editor, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(litCells(*editor), 1);
+}
+
+void TestCanvas::previewAndOnionSkin()
+{
+    const auto page = makePage();
+    draw(*page, 0);
+    page->addFrame();
+    draw(*page, 1);
+    MatrixEditor *editor = page->tabs()->currentEditor();
+    const auto colorOf = [editor](int column) {
+        return editor->grab().toImage().pixelColor(editor->geometry().cellRect({0, column}).center());
+    };
+    const QColor dark = colorOf(9);
+    const QColor lit = colorOf(1);
+    QCOMPARE(colorOf(0), dark);
+    QTest::mouseClick(page->button("Onion Skin"), Qt::LeftButton);
+    QVERIFY(colorOf(0) != dark && colorOf(0) != lit);
+
+    page->togglePreview(); // the open frame, then from the first on, in the open editor
+    m_desk->clock.advance(100ms);
+    QCOMPARE(colorOf(0), lit);
+    QCOMPARE(colorOf(1), dark);
+    draw(*page, 9); // nothing is drawn into a frame that only passes by
+    m_desk->clock.advance(100ms);
+    QCOMPARE(colorOf(0).name(), dark.name()); // the onion skin waits as well
+    QCOMPARE(colorOf(1), lit);
+    page->addFrame();
+    m_desk->clock.advance(1s);
+    QCOMPARE(m_desk->clock.tasksWaiting(), std::size_t(0));
+    QCOMPARE(page->tabs()->editor(1)->frame().digits(), "01" + QByteArray(947, '0'));
+}
+
+void TestCanvas::eachFormHasItsAnimation()
+{
+    const auto page = makePage();
+    draw(*page, 3);
+    page->addFrame();
+    const QByteArrayList before = page->tabs()->digits();
+    matrixForm = kRectangleForm;
+    page->updateInterfaceData();
+    QCOMPARE(page->tabs()->digits(), QByteArrayList{QByteArray(1050, '0')});
+    QVERIFY(qobject_cast<LEDMatrixWidgetRect *>(page->tabs()->editor(0)));
+    matrixForm = kTaperingForm;
+    page->updateInterfaceData();
+    QCOMPARE(page->tabs()->digits(), before);
+    matrixForm = 7; // none
+    page->updateInterfaceData();
+    page->addFrame();
+    page->duplicateFrame();
+    page->cleanFrame();
+    QCOMPARE(page->tabs()->count(), 0);
+}
+
+QTEST_MAIN(TestCanvas)
+#include "tst_canvas.moc"
