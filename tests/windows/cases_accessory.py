@@ -4,6 +4,11 @@ from casekit import NIGHT_LOOM_TAB_X, open_page, started
 from rig import put, wait_for
 
 SYSTEM_SETTINGS = 3
+CUSTOM_MODE = 4
+FIRST_MODE = 0x24
+DRAWN_CELLS = [(576, 304), (616, 304), (601, 754)]  # the last one lies in the last row
+SAVE_ANIMATE = (1019, 497)
+WRITE_ANIMATE = (1162, 497)
 LAMP = {"Close": (477, 269), "Open": (562, 269)}
 LIVE_STOP = bytes((0xE0, 0x01))
 LAMP_OPEN = bytes((0xD0, 0x04, 0x01))
@@ -113,3 +118,35 @@ def case_accessory_replugged(rig):
         seen = happened(run)
         run.click(window, *LAMP["Close"])
         expect(run, len(seen), [*REOPENED, report(LIVE_STOP), report(LAMP_CLOSE)])
+
+
+def upload_reports(mode, digits):
+    """The announcement of an upload, and the file in chunks of 56 cells."""
+    chunks = [digits[place:place + 56] for place in range(0, len(digits), 56)]
+    reports = [report(bytes((0xC0, mode)))]
+    for number, chunk in enumerate(chunks, 1):
+        cells = bytes(0xFE if digit == ord("1") else 0 for digit in chunk)
+        reports.append(report(bytes((0xC0, mode)) + len(chunks).to_bytes(2, "big") + number.to_bytes(2, "big") + cells))
+    return reports
+
+
+def case_upload(rig):
+    """A drawn animation goes out cell by cell; pulling out the accessory ends an upload, which is logged."""
+    with with_accessory(rig, "upload") as run:
+        window = run.start_and_show()
+        open_page(run, window, NIGHT_LOOM_TAB_X, CUSTOM_MODE)
+        for place in DRAWN_CELLS:
+            run.click(window, *place)
+        run.click(window, *SAVE_ANIMATE)
+        saved = run.folder / "LEDMatrixData.txt"
+        wait_for(saved.exists, "the saved animation")
+        digits = saved.read_bytes()
+        assert len(digits) == 949 and digits.count(b"1") == len(DRAWN_CELLS), digits
+        whole = upload_reports(FIRST_MODE, digits)
+        run.click(window, *WRITE_ANIMATE)
+        seen = [*REOPENED[1:], *REOPENED, *whole]
+        expect(run, 0, seen)
+        set_state(run, "vanish 5")
+        run.click(window, *WRITE_ANIMATE)
+        wait_for(lambda: run.logged("HID write error."), "the log of the failure")
+        expect(run, len(seen), [*REOPENED, *whole[:4], whole[4] + " failed"])
