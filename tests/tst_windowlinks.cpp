@@ -12,6 +12,7 @@
 #include "page/Nightloom/pageledmusic.h"
 #include "page/Scene/pagescenesetting.h"
 #include "page/engine/optiongrouprow.h"
+#include "page/engine/page.h"
 #include "platform/nativemessage.h"
 #include "shortcut/shortcutlist.h"
 #include "support/windowfixture.h"

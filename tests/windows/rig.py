@@ -26,6 +26,13 @@ def wait_for(condition, what, seconds=15.0):
     raise AssertionError(f"waited {seconds:g} s in vain for {what}")
 
 
+def put(file, text):
+    """Writes a file that a reader never meets half of."""
+    new = file.with_suffix(".new")
+    new.write_text(text)
+    new.replace(file)
+
+
 def edid(name):
     """A 128-byte EDID whose second descriptor holds the model name."""
     block = bytearray(128)
@@ -45,7 +52,8 @@ class Rig:
         self.program = self.work / "program"
         shutil.rmtree(self.program, ignore_errors=True)
         shutil.copytree(program, self.program)
-        shutil.copy(self.standins / "dxva2.dll", self.program)
+        for library in ("dxva2.dll", "libhidapi.dll"):
+            shutil.copy(self.standins / library, self.program)
         self.environment = {name: value for name, value in os.environ.items() if not name.startswith(("QT_", "QUORVEL_"))}
         self.environment.update(
             WINEPREFIX=str(self.work / "prefix"), WINEARCH="win64", WINEDEBUG="-all",
@@ -122,6 +130,7 @@ class Run:
         (self.monitor / "registers.txt").write_text(
             "".join(f"{code:02x} {value}\n" for code, value in (registers or {}).items()))
         (self.monitor / "block.txt").write_text(" ".join(map(str, block or [])))
+        self.accessory = None
         self.processes = []
 
     def __enter__(self):
@@ -133,12 +142,22 @@ class Run:
             process.kill()
             process.wait(10)
 
-    def start(self, *arguments):
+    def start(self):
         """Starts the program here and returns the process."""
-        process = self.rig.start(["wine", str(self.rig.program / "quorvel.exe"), *arguments], cwd=self.folder,
-                                 extra={"QUORVEL_TEST_MONITOR": "Z:" + str(self.monitor)})
+        return self.start_other(self.rig.program / "quorvel.exe")
+
+    def start_other(self, program, *arguments):
+        """Starts any Windows program here, to end with the case at the latest, and returns the process."""
+        places = {"QUORVEL_TEST_MONITOR": self.monitor, "QUORVEL_TEST_ACCESSORY": self.accessory}
+        process = self.rig.start(["wine", str(program), *arguments], cwd=self.folder,
+                                 extra={name: f"Z:{place}" for name, place in places.items() if place})
         self.processes.append(process)
         return process
+
+    def announce(self, device_class):
+        """Tells the program's windows that a device has arrived: a "monitor" or a "hid"."""
+        sent = self.rig.run(["wine", str(self.rig.standins / "windowprobe.exe"), TITLE, device_class], check=True)
+        assert int(sent) >= 1, sent
 
     def start_and_show(self):
         """Starts the program, waits for its window and returns the window's position on the screen."""
@@ -174,11 +193,13 @@ class Run:
         file = self.monitor / "requests.txt"
         return file.read_text().splitlines() if file.exists() else []
 
+    def times(self):
+        """When each of them came, in milliseconds of the clock of the day."""
+        return [int(line) for line in (self.monitor / "times.txt").read_text().splitlines()]
+
     def refuse(self, *requests):
         """From now on the monitor does not take these requests, such as "W 99"."""
-        new = self.monitor / "refuse.new"
-        new.write_text("".join(request + "\n" for request in requests))
-        new.replace(self.monitor / "refuse.txt")
+        put(self.monitor / "refuse.txt", "".join(request + "\n" for request in requests))
 
     def log(self):
         """The lines of the day's log so far."""

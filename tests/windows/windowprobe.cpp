@@ -1,5 +1,5 @@
-// Sends the arrival of a monitor to the windows of the program: "windowprobe <title>". Every top-level window of the
-// process that owns the window of that title gets it, as the system's broadcast would reach them.
+// Sends the arrival of a device to the windows of the program: "windowprobe <title> monitor", or "hid". Every top-level
+// window of the process that owns the window of that title gets it, as the system's broadcast would reach them.
 
 #include <cstdio>
 #include <cwchar>
@@ -10,12 +10,22 @@
 
 namespace {
 
-constexpr GUID kMonitorInterface = {0xE6F07B5F, 0xEE97, 0x4A90, {0xB0, 0x76, 0x33, 0xF5, 0x7B, 0xF4, 0xEA, 0xA7}};
+struct DeviceClass
+{
+    const wchar_t *name;
+    GUID guid;
+};
+
+constexpr DeviceClass kClasses[] = {
+    {L"monitor", {0xE6F07B5F, 0xEE97, 0x4A90, {0xB0, 0x76, 0x33, 0xF5, 0x7B, 0xF4, 0xEA, 0xA7}}},
+    {L"hid", {0x4D1E55B2, 0xF16F, 0x11CF, {0x88, 0xCB, 0x00, 0x11, 0x11, 0x00, 0x00, 0x30}}},
+};
 constexpr UINT kPatienceMs = 5000;
 
 struct Search
 {
     const wchar_t *title = nullptr;
+    const DeviceClass *arrived = nullptr;
     DWORD process = 0;
     int sent = 0;
 };
@@ -41,7 +51,7 @@ BOOL CALLBACK sendArrival(HWND window, LPARAM parameter)
     DEV_BROADCAST_DEVICEINTERFACE_W arrival = {};
     arrival.dbcc_size = sizeof(arrival);
     arrival.dbcc_devicetype = DBT_DEVTYP_DEVICEINTERFACE;
-    arrival.dbcc_classguid = kMonitorInterface;
+    arrival.dbcc_classguid = search->arrived->guid;
     DWORD_PTR result = 0;
     if (SendMessageTimeoutW(window, WM_DEVICECHANGE, DBT_DEVICEARRIVAL, reinterpret_cast<LPARAM>(&arrival),
                             SMTO_ABORTIFHUNG, kPatienceMs, &result))
@@ -53,11 +63,15 @@ BOOL CALLBACK sendArrival(HWND window, LPARAM parameter)
 
 int wmain(int count, wchar_t **arguments)
 {
-    if (count != 2) {
-        std::fputs("usage: windowprobe <window title>\n", stderr);
+    Search search;
+    for (const DeviceClass &deviceClass : kClasses) {
+        if (count == 3 && std::wcscmp(arguments[2], deviceClass.name) == 0)
+            search.arrived = &deviceClass;
+    }
+    if (!search.arrived) {
+        std::fputs("usage: windowprobe <window title> monitor|hid\n", stderr);
         return 2;
     }
-    Search search;
     search.title = arguments[1];
     EnumWindows(findOwner, reinterpret_cast<LPARAM>(&search));
     if (search.process)

@@ -1,5 +1,6 @@
 #include "monitor.h"
 
+#include <chrono>
 #include <cstdio>
 #include <fstream>
 #include <utility>
@@ -111,4 +112,7 @@ bool Monitor::refuses(const std::string &request) const
 void Monitor::record(const std::string &line) const
 {
     std::ofstream(m_folder / "requests.txt", std::ios::app | std::ios::binary) << line + '\n';
+    const auto now = std::chrono::system_clock::now().time_since_epoch();
+    std::ofstream(m_folder / "times.txt", std::ios::app | std::ios::binary)
+        << std::chrono::duration_cast<std::chrono::milliseconds>(now).count() << '\n';
 }

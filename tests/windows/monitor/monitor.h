@@ -13,6 +13,7 @@
 ///   block.txt      40 numbers, read once: the scene-mode block
 ///   refuse.txt     "R <code>" or "W <code>" lines, read at every request: what is not answered now
 ///   requests.txt   written: "W 99 9", "R 22 -> 10", "R 22 refused"
+///   times.txt      written: when each of them came, in milliseconds
 /// Codes are hexadecimal, values decimal.
 class Monitor
 {

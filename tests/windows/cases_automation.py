@@ -1,0 +1,174 @@
+"""Hot keys and scenario following: real key presses, other programs with keys of their own, programs in front."""
+
+import contextlib
+import shutil
+import time
+
+from casekit import BASIC_TAB_X, REGISTERS, open_page, started
+from rig import START_SECONDS, wait_for
+
+SHORTCUT_KEY = 1
+APPLY_BUTTON = (1191, 214)
+PROBLEM_COLOUR = "#da676d"
+BRIGHTNESS = 0x10
+KEYS = "[basicMode]\nswitchStatus=on\n\n[12]\nswitchStatus=on\nplusKey=Ctrl+B\nsubKey=Ctrl+Alt+D\n"
+MOD_CONTROL = "2"
+
+STANDARD_MODE = 1
+MOVIE_MODE = 9
+MOVIE_INDEX = 4
+FOLLOWED = "".join(f"[{name}]\nappPath=C:/Programs/{name}\nappScence={MOVIE_INDEX}\n"
+                   for name in ("Painter.exe", "Writer.exe"))
+
+
+def with_keys(rig, name):
+    run = started(rig, name, registers=REGISTERS | {BRIGHTNESS: 50})
+    (run.folder / "basicMode.ini").write_text(KEYS)
+    return run
+
+
+def step(before, after):
+    """What one press of a key for the brightness makes of it, on the wire."""
+    return ["R 99 -> 0", f"R 10 -> {before}", f"W 99 {after}", f"W 10 {after}"]
+
+
+def problem_dots(run, window):
+    """How many dots of the window's part of the screen have the colour of a row's problem."""
+    x, y, width, height = window
+    picture = run.folder / "shown.png"
+    run.rig.screenshot(picture)
+    share = run.rig.run(["convert", str(picture), "-crop", f"{width}x{height}+{x}+{y}", "-fuzz", "3%",
+                         "-fill", "black", "+opaque", PROBLEM_COLOUR, "-fill", "white", "-opaque", PROBLEM_COLOUR,
+                         "-format", "%[fx:mean*w*h]", "info:"])
+    return float(share)
+
+
+def in_front(run, name):
+    """Starts a program of that name that comes to the front when it is told to."""
+    program = run.folder / f"{name}.exe"
+    shutil.copy(run.rig.standins / "frontprobe.exe", program)
+    run.start_other(program)
+    wait_for(lambda: (run.folder / f"{name}.came").exists(), f"the program {name}")
+    wait_for(lambda: run.window(rf"{name}\.exe"), f"the window of {name}")
+
+
+def come(run, name):
+    """Has the program come to the front; returns when it did, in milliseconds of the clock of the day."""
+    came = run.folder / f"{name}.came"
+    times = len(came.read_text().splitlines())
+    (run.folder / f"{name}.come").touch()
+    return int(wait_for(lambda: came.read_text().splitlines()[times:], f"{name} in front")[0])
+
+
+def case_hot_key(rig):
+    """A key pressed while another program has the keyboard steps the brightness; twice within 200 ms counts once."""
+    with with_keys(rig, "hot_key") as run:
+        run.start_and_show()
+        in_front(run, "Painter")
+        wait_for(lambda: run.active_title() == "Painter.exe", "the keyboard of the other program")
+        seen = len(run.requests())
+        rig.run(["xdotool", "key", "ctrl+b", "sleep", "0.05", "key", "ctrl+b"])
+        once = step(50, 60)
+        wait_for(lambda: run.requests()[seen:][-1:] == once[-1:], "the brighter value")
+        time.sleep(0.3)  # the rest after a key, and what the second press would do if it counted
+        assert run.requests()[seen:] == once, run.requests()[seen:]
+        run.press("ctrl+alt+d")
+        wait_for(lambda: run.requests()[seen + len(once):][3:], "the darker value")
+        assert run.requests()[seen:] == once + step(60, 50), run.requests()[seen:]
+
+
+def case_taken_key(rig):
+    """A key that another program holds is shown at its row and does nothing; once it is free, "Apply" takes it."""
+    with with_keys(rig, "taken_key") as run:
+        holder = run.start_other(rig.standins / "keyholder.exe", MOD_CONTROL, str(ord("B")))
+        held = run.folder / "held.txt"
+        wait_for(held.exists, "the other program's key")
+        window = run.start_and_show()
+        open_page(run, window, BASIC_TAB_X, SHORTCUT_KEY)
+        wait_for(lambda: problem_dots(run, window) > 50, "the problem at the row")
+        seen = len(run.requests())
+        run.press("ctrl+b")
+        wait_for(lambda: held.read_text() == "pressed\n", "the key in the other program")
+        holder.kill()
+        holder.wait(10)
+        run.click(window, *APPLY_BUTTON)
+        wait_for(lambda: problem_dots(run, window) == 0, "the problem to go")
+        assert run.requests()[seen:] == [], run.requests()[seen:]
+        run.press("ctrl+b")
+        wait_for(lambda: run.requests()[seen:][3:], "the brighter value")
+        assert run.requests()[seen:] == step(50, 60), run.requests()[seen:]
+
+
+def case_following(rig):
+    """A listed program in front gets its scene after 150 ms, one that is not listed the base scene, unless it comes
+    within 300 ms. File names count to the letter."""
+    with started(rig, "following") as run:
+        (run.folder / "scenceSetting.ini").write_text(FOLLOWED)
+        run.start_and_show()
+        for name in ("Painter", "writer", "Reader"):
+            in_front(run, name)
+
+        def switched(name, value, followed_by=None):
+            seen = len(run.requests())
+            came = come(run, name)
+            if followed_by:
+                come(run, followed_by)
+            wait_for(lambda: run.requests()[seen:][1:], f"the scene of {name}")
+            delay = run.times()[seen] - came
+            assert 149 <= delay < 400, f"{name}: after {delay} ms"  # 1 ms: two clocks, cut off
+            assert run.requests()[seen:] == [f"W 99 {value}", f"W 22 {value}"], run.requests()[seen:]
+
+        switched("Painter", MOVIE_MODE, followed_by="Reader")  # within 300 ms: a flip of the focus
+        seen = len(run.requests())
+        time.sleep(0.5)  # longer than that, and than what it would bring
+        come(run, "Painter")  # has its scene
+        time.sleep(0.5)
+        assert run.requests()[seen:] == [], run.requests()[seen:]
+        switched("writer", STANDARD_MODE)
+        switched("Painter", MOVIE_MODE)
+        time.sleep(0.4)  # no flip
+        switched("Reader", STANDARD_MODE)
+
+
+def case_killed_while_saving(rig):
+    """The program killed in the middle of storing its keys leaves the old file or the new one, and starts again."""
+    with with_keys(rig, "killed_while_saving") as run:
+        file = run.folder / "basicMode.ini"
+        old = KEYS.replace("\n\n", "\n").encode()  # as no program writes it
+        file.write_bytes(old)
+        run.start_and_show()
+        new = file.read_bytes()
+        assert b"plusKey=Ctrl+B" in new and new != old
+        run.processes[0].kill()
+
+        def others():  # beside the file while it is written; an empty one is only just being made
+            return [other for other in run.folder.glob(file.name + ".*") if other.stat().st_size]
+
+        def begun():
+            with contextlib.suppress(FileNotFoundError):  # gone while it was looked at
+                return others()
+
+        def changed():
+            return file.read_bytes() != old
+
+        left = []
+        for moment in (changed, begun) * 3:  # what the last one leaves meets the next start
+            for other in run.folder.glob(file.name + ".*"):
+                other.unlink()
+            file.write_bytes(old)
+            kill_at(run, moment)
+            left.append(file.read_bytes())
+        assert all(content in (old, new) for content in left), left
+        assert old in left and new in left, left
+        run.start_and_show()
+        assert file.read_bytes() == new
+
+
+def kill_at(run, moment):
+    """Starts the program and kills it the very moment that comes true."""
+    process = run.start()
+    end = time.monotonic() + START_SECONDS
+    while not moment():
+        assert time.monotonic() < end, "the program stored nothing"
+    process.kill()
+    process.wait(10)

@@ -1,0 +1,114 @@
+"""What reaches the monitor, and what the program makes of one that is silent, nameless or new."""
+
+from casekit import LEFT_BAR_X, codes_of, end_at_exit_box, entry_y, started, writes_of
+from rig import edid, time_of, wait_for
+
+STANDARD = (1, 2)
+CAD_CAM = (3, 4)
+
+
+def colours_of(run, window):
+    """How many colours the window's part of the screen has: a bare one has few."""
+    x, y, width, height = window
+    picture = run.folder / "shown.png"
+    run.rig.screenshot(picture)
+    return int(run.rig.run(["convert", str(picture), "-crop", f"{width}x{height}+{x}+{y}", "-format", "%k", "info:"]))
+
+
+def case_first_read(rig):
+    """The first read goes out in its order, the vendor code before each; showing it writes nothing back."""
+    with started(rig, "first_read") as run:
+        window = run.start_and_show()
+        block = ["99", "22", "0A"] + ["FE"] * 10  # 40 bytes by four, and one more request that closes the stream
+        expected = ["99", "22", "99", "F6", "99", "F7", "99", "EA", *block]
+        for code in ("EC", "ED", "EE", "EF", "F1", "F2", "3B", "F8", "F9"):
+            expected += ["99", code]
+        requests = run.requests()
+        assert codes_of(requests)[:len(expected)] == expected, requests
+        assert not [request for request in requests if "refused" in request], requests
+        assert window[2:] == (1280, 800), f"the window is {window[2]} x {window[3]}"
+        wait_for(lambda: colours_of(run, window) > 500, "the painted window")
+        assert not writes_of(run.requests()), run.requests()
+
+
+def case_scene_by_mouse(rig):
+    """A scene chosen with the mouse reaches the monitor as the vendor code and then the scene code, same value."""
+    with started(rig, "scene_by_mouse") as run:
+        window = run.start_and_show()
+        for index, values in enumerate((STANDARD, CAD_CAM)):
+            seen = len(run.requests())
+            run.click(window, LEFT_BAR_X, entry_y(index))
+            wait_for(lambda: "22" in codes_of(writes_of(run.requests()[seen:])), "the write of the scene")
+            writes = writes_of(run.requests()[seen:])
+            value = int(writes[0].split()[2])
+            assert value in values, writes
+            assert writes == [f"W 99 {value}", f"W 22 {value}"], writes
+
+
+def case_refused_write(rig):
+    """A write refused twice leads to a new search, after which the next write arrives."""
+    with started(rig, "refused_write") as run:
+        window = run.start_and_show()
+        searches = len(run.logged("monitor counts:"))
+        seen = len(run.requests())
+        run.refuse("W 99")
+        run.click(window, LEFT_BAR_X, entry_y(0))
+        started_again = wait_for(lambda: run.logged("delayedSearchDevices: Reloader EDID Type:"), "the new search")
+        assert started_again[0].rstrip().endswith(" 0"), started_again
+        wait_for(lambda: run.logged("Reconnet device..."), "the reconnection")
+        writes = writes_of(run.requests()[seen:])
+        assert len(writes) == 2 and writes[0] == writes[1] and writes[0].endswith("refused"), writes
+        assert len(run.logged("Write faile, errorCode: 03 99")) == 1
+        assert len(run.logged("monitor counts:")) == searches + 1
+        run.refuse()
+        seen = len(run.requests())
+        run.click(window, LEFT_BAR_X, entry_y(1))
+        wait_for(lambda: "22" in codes_of(writes_of(run.requests()[seen:])), "the write after the search")
+
+
+def case_edid_names(rig):
+    """The label's model comes from the registry: the name descriptor, else the maker's letters and the product code."""
+    unnamed = bytearray(edid("x"))
+    unnamed[72:90] = bytes(18)
+    unnamed[8:12] = bytes((0x43, 0x04, 0xF3, 0x01))
+    for name, block, model in (("edid_named", edid("WIRE TEST 27"), "WIRE TEST 27"),
+                               ("edid_unnamed", bytes(unnamed), "ABC-01F3")):
+        rig.put_edid(block)
+        with started(rig, name) as run:
+            run.start_and_show()
+            lines = run.logged("hMonitor")
+            assert lines and model in lines[0] and "DISPLAY1" in lines[0], lines
+
+
+def case_no_edid(rig):
+    """A display without a readable EDID is no monitor: the program says so and ends with 0."""
+    rig.put_edid(None)
+    with started(rig, "no_edid") as run:
+        process = run.start()
+        end_at_exit_box(run, process)
+        assert run.logged("EDID read error."), run.log()
+        assert run.requests() == [], run.requests()
+
+
+def case_silent_monitor(rig):
+    """A monitor that never tells its scene is asked in five passes of two tries; then the program ends with 0."""
+    with started(rig, "silent_monitor") as run:
+        run.refuse("R 22")
+        process = run.start()
+        end_at_exit_box(run, process)
+        assert len(run.logged("Connet device Count=")) == 5
+        assert run.requests().count("R 22 refused") == 5 * 2 * 5, len(run.requests())
+        assert "DeviceIndex=0" in (run.folder / "config.ini").read_text()
+
+
+def case_monitor_arrival(rig):
+    """A monitor that arrives is searched for one second later, once, without another full read."""
+    with started(rig, "monitor_arrival") as run:
+        run.start_and_show()
+        reads = len(run.logged("ReadData from device begin"))
+        run.announce("monitor")
+        search = wait_for(lambda: run.logged("delayedSearchDevices: Reloader EDID Type:"), "the search")[0]
+        delay = time_of(search) - time_of(run.logged("Device Arrival")[0])
+        assert 0.99 <= delay < 3, f"searched after {delay:.3f} s"
+        wait_for(lambda: run.logged("Reconnet device..."), "the reconnection")
+        assert len(run.logged("ReadData from device begin")) == reads

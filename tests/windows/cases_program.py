@@ -1,0 +1,112 @@
+"""The program among other programs: its copies, its start with Windows, its window, the upgrade program."""
+
+import shutil
+
+from casekit import PAGE_LIST_X, PAGE_LIST_Y, REGISTERS, TOP_BAR_Y, open_basic_page, started
+from rig import START_SECONDS, wait_for
+
+EXIT_REFUSED = 255  # -1, as the shell sees it
+CLOSE_BUTTON_X = 1243
+SERVICE_SETTINGS = 3
+TOOL_SETTINGS = 4
+RUN_ON_STARTUP = {"Yes": (710, 189), "No": (796, 189)}
+LANGUAGES = {"en": (796, 243), "ja_JP": (968, 243)}
+UPGRADE_BUTTON = (620, 245)  # whether the note above it takes one line or two
+
+
+def case_second_instance(rig):
+    """A second instance says that one is running and ends with -1; the first one goes on undisturbed."""
+    with started(rig, "second_instance") as run:
+        run.start_and_show()
+        seen = run.requests()
+        second = run.start()
+        wait_for(lambda: run.window("Information"), "the box of the second instance")
+        rig.screenshot(run.folder / "box.png")
+        run.press("Return")
+        assert second.wait(15) == EXIT_REFUSED, second.returncode
+        assert run.processes[0].poll() is None
+        assert run.requests() == seen, run.requests()[len(seen):]
+
+
+def case_closed_window(rig):
+    """Closing the window only hides it: the program lives on and still searches for a monitor that arrives."""
+    with started(rig, "closed_window") as run:
+        window = run.start_and_show()
+        run.click(window, CLOSE_BUTTON_X, TOP_BAR_Y)
+        wait_for(lambda: not run.window(at_least=800), "the window to hide")
+        run.announce("monitor")
+        wait_for(lambda: run.logged("delayedSearchDevices: Reloader EDID Type:"), "the search")
+        assert run.processes[0].poll() is None
+
+
+def case_run_key(rig):
+    """"Run on startup" writes the program's own place into the list of what Windows starts, and takes it out again."""
+    rig.forget_start()
+    try:
+        with started(rig, "run_key") as run:
+            window = run.start_and_show()
+            open_basic_page(run, window, TOOL_SETTINGS)
+            assert rig.started_with_windows() is None
+            run.click(window, *RUN_ON_STARTUP["Yes"])
+            command = wait_for(rig.started_with_windows, "the value QUORVEL")
+            assert command == "Z:" + str(rig.program / "quorvel.exe").replace("/", "\\"), command
+            run.click(window, *RUN_ON_STARTUP["No"])
+            wait_for(lambda: rig.started_with_windows() is None, "the value to go")
+    finally:
+        rig.forget_start()  # or the next session of this prefix would begin with the program
+
+
+def choose_language(run, window, code, question):
+    """Presses the language's button in the tool settings and answers the question, whose title is given, with yes."""
+    open_basic_page(run, window, TOOL_SETTINGS)
+    run.click(window, *LANGUAGES[code])
+    wait_for(lambda: run.active_title() == question, "the question")
+    run.press("Return")
+
+
+def case_restart(rig):
+    """Another language ends the program with 0, and a new copy runs in its place, alone and in that language."""
+    try:
+        with started(rig, "restart") as run:
+            window = run.start_and_show()
+            first = rig.copies()
+            choose_language(run, window, "ja_JP", "Language")
+            assert run.processes[0].wait(15) == 0, run.processes[0].returncode
+            window = wait_for(lambda: run.window(at_least=800), "the window of the new copy", START_SECONDS)
+            second = rig.copies()
+            assert len(first) == len(second) == 1 and first != second, (first, second)
+            assert "Language=ja_JP" in (run.folder / "config.ini").read_text().split()
+            assert len(run.logged("ReadData from device begin")) == 2, run.log()
+            # A copy that finds no monitor ends of itself: so the last one does.
+            rig.put_edid(None)
+            choose_language(run, window, "en", "言語")
+            wait_for(lambda: run.window("Exit"), "the exit box of the last copy", START_SECONDS)
+            last = rig.copies()
+            assert len(last) == 1 and last != second, (second, last)
+            run.press("Return")
+            wait_for(lambda: not rig.copies(), "the last copy to end")
+    finally:
+        rig.run(["wine", "taskkill", "/f", "/im", "quorvel.exe"])  # a copy that a failed case left behind
+
+
+def case_upgrader(rig):
+    """The upgrade program, beside the program or in the working folder, is told the product line and the language."""
+    for name, line, stored, entry, beside, expected in (
+            ("upgrader_line_1", 1, None, 3, True, ["XB", "en_US"]),
+            ("upgrader_line_2", 2, "ja_JP", 2, False, ["PW", "ja_JP"]),
+            ("upgrader_line_3", 3, "zh_CN", 2, False, ["EXP", "zh"])):
+        with started(rig, name, registers=REGISTERS | {0xED: line << 4}) as run:
+            if stored:
+                (run.folder / "config.ini").write_text(f"[General]\nLanguage={stored}\n")
+            upgrader = (rig.program if beside else run.folder) / "Flasqon.exe"
+            shutil.copy(rig.standins / "Flasqon.exe", upgrader)
+            try:
+                window = run.start_and_show()
+                open_basic_page(run, window, SERVICE_SETTINGS)
+                run.click(window, PAGE_LIST_X, PAGE_LIST_Y + 48 * entry)
+                run.click(window, *UPGRADE_BUTTON)
+                told = run.folder / "flasqon.txt"
+                wait_for(told.exists, "the upgrade program")
+                assert told.read_text().split("\n") == [*expected, ""], told.read_text()
+            finally:
+                upgrader.unlink()
