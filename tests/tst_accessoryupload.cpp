@@ -232,8 +232,12 @@ void TestAccessoryUpload::reopenedUnderAnUpload()
 {
     QVERIFY(writeText(kDataFile, drawn(kAnimationCap)));
     connectDevice();
-    std::thread uploader([this] { upload(); });
-    for (int i = 0; i < 200; ++i) { // as if HID devices arrived all the time
+    std::atomic<bool> ended = false;
+    std::thread uploader([this, &ended] {
+        upload();
+        ended = true;
+    });
+    while (!ended) { // as if HID devices arrived all the time
         clearHidFlags();
         reopenHid();
     }
