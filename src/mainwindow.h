@@ -46,7 +46,7 @@ public:
     const QPixmap &labelPixmap() const { return m_labelPixmap; }
 
     /// What pages switch around long work: 0 nothing can be chosen, 1 everything can, 3 as 1 and the model's say on the
-    /// current bar, 4 the busy mode of the accessory, 5 its end.
+    /// current bar, 4 the busy mode of the accessory, 5 its end. The busy mode outlasts 0, 1 and 3.
     void setInterfaceMode(int code);
 
     void updateControlText();
@@ -114,7 +114,10 @@ private:
     void openFamilyOfScene();
     void decideEntriesByModel();
     void stopAccessoryWork();
+    void followAccessoryWork(bool begins);
     void setAccessoryBusy(bool busy);
+    void enableAccessoryEntries();
+    void enableEverything(bool enabled);
     void endAccessoryWork();
     void checkMonitor();
     void fillPages();
@@ -140,6 +143,8 @@ private:
     int m_family = 0;
     bool m_monitorAnswers = true;
     bool m_checkWaiting = false;
+    bool m_locked = false; ///< nothing can be chosen
+    bool m_accessoryBusy = false;
     bool m_blockGivenUp = false;       ///< the block of the mode that is on could not be read
     QPointer<QWidget> m_focusBefore;   ///< while nothing can be used
     std::optional<QPoint> m_dragStart; ///< where the window was taken hold of

@@ -21,8 +21,8 @@ void MainWindow::createAccessoryPages()
     auto *canvas = new pageLEDMatrixCanvas(check, m_pages);
     const auto followWork = [this](auto *page) {
         using AnyPage = std::remove_pointer_t<decltype(page)>;
-        connect(page, &AnyPage::busyBegins, this, [this] { setInterfaceMode(kBusy); });
-        connect(page, &AnyPage::busyEnded, this, [this] { setInterfaceMode(kBusyEnded); });
+        connect(page, &AnyPage::busyBegins, this, [this] { followAccessoryWork(true); });
+        connect(page, &AnyPage::busyEnded, this, [this] { followAccessoryWork(false); });
     };
     followWork(text);
     followWork(canvas);
@@ -61,14 +61,29 @@ void MainWindow::stopAccessoryWork()
     ledWorkThread::instance()->stop();
 }
 
+/// An upload may end while a scene changes: then nothing can be chosen still.
+void MainWindow::followAccessoryWork(bool begins)
+{
+    if (m_locked)
+        setAccessoryBusy(begins);
+    else
+        setInterfaceMode(begins ? kBusy : kBusyEnded);
+}
+
 void MainWindow::setAccessoryBusy(bool busy)
 {
+    m_accessoryBusy = busy;
     m_musicPage->setBusy(busy); // stops listening before the worker is stopped
     if (busy)
         stopAccessoryWork();
+}
+
+/// While the accessory is busy only the page that keeps it so can be chosen.
+void MainWindow::enableAccessoryEntries()
+{
     const LeftBar *bar = leftBar(kAccessoryFamily);
     for (std::size_t i = 0; i < bar->buttons().size(); ++i)
-        bar->buttons()[i]->setEnabled(!busy || static_cast<int>(i) == bar->current());
+        bar->buttons()[i]->setEnabled(!m_locked && (!m_accessoryBusy || static_cast<int>(i) == bar->current()));
 }
 
 /// At the end of the program, while the pages that the work belongs to are still there.

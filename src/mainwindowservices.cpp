@@ -114,8 +114,18 @@ void MainWindow::openFamilyOfScene()
 
 void MainWindow::setInterfaceMode(int code)
 {
-    const bool enabled = code != kLocked;
-    if (!enabled)
+    m_locked = code == kLocked;
+    enableEverything(!m_locked);
+    if (code == kByModel)
+        decideEntriesByModel();
+    else if (code == kBusy || code == kBusyEnded)
+        setAccessoryBusy(code == kBusy);
+    enableAccessoryEntries(); // a scene may change while the accessory's work goes on
+}
+
+void MainWindow::enableEverything(bool enabled)
+{
+    if (!enabled && !m_focusBefore)
         m_focusBefore = focusWidget();
     m_tabs->setTabsEnabled(enabled);
     for (LeftBar *bar : m_bars) {
@@ -123,18 +133,12 @@ void MainWindow::setInterfaceMode(int code)
             button->setEnabled(enabled);
     }
     m_pages->setEnabled(enabled);
-    if (enabled)
-        unsetCursor();
-    else
-        setCursor(Qt::BusyCursor);
-    if (enabled && m_focusBefore) // disabling takes the keyboard's place away
+    if (!enabled)
+        return setCursor(Qt::BusyCursor);
+    unsetCursor();
+    if (m_focusBefore) // disabling takes the keyboard's place away
         m_focusBefore->setFocus();
-    if (enabled)
-        m_focusBefore.clear();
-    if (code == kByModel)
-        decideEntriesByModel();
-    else if (code == kBusy || code == kBusyEnded)
-        setAccessoryBusy(code == kBusy);
+    m_focusBefore.clear();
 }
 
 /// Entries that need a function of the monitor can be chosen only where it has it.

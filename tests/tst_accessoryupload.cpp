@@ -67,16 +67,15 @@ private Q_SLOTS:
 
 private:
     QList<int> upload(bool text = false);
+
+    bool m_complete = false; ///< what the last upload said
 };
 
 QList<int> TestAccessoryUpload::upload(bool text)
 {
     QList<int> reported;
     const auto progress = [&reported](int percent) { reported.append(percent); };
-    if (text)
-        uploadText(kDataFile, progress);
-    else
-        uploadAnimation(kDataFile, 0x24, progress);
+    m_complete = text ? uploadText(kDataFile, progress) : uploadAnimation(kDataFile, 0x24, progress);
     return reported;
 }
 
@@ -114,6 +113,7 @@ void TestAccessoryUpload::uploads()
                                   QStringLiteral("Total chunks: %1").arg(chunks)};
     QCOMPARE(m_desk->takeLog(), expected);
     QCOMPARE(reported.last(), 100);
+    QVERIFY(m_complete);
     QCOMPARE(accessory().protocolFaults(), 0);
     const auto got = accessory().state().upload;
     QCOMPARE(got.mode, text ? 0x2F : 0x24);
@@ -165,31 +165,35 @@ void TestAccessoryUpload::missingFile()
 void TestAccessoryUpload::fileThatShrinks()
 {
     const qint64 size = 56 * 2000;
-    QVERIFY(writeText(kDataFile, QByteArray(size, '1')));
     connectDevice();
-    const int listener = accessory().addListener([this] {
-        if (accessory().state().upload.received == 500)
-            QFile::resize(kDataFile, 0);
-    });
-    QCOMPARE(upload().last(), 100);
-    accessory().removeListener(listener);
-    QCOMPARE(accessory().protocolFaults(), 0);
-    const QByteArray cells = accessory().state().upload.cells;
-    QCOMPARE(cells.size(), size); // as announced
-    QVERIFY(cells.startsWith(QByteArray(500 * 56, '\1')));
-    QVERIFY(cells.endsWith(QByteArray(500 * 56, '\0')));
+    for (const bool removed : {false, true}) {
+        QVERIFY(writeText(kDataFile, QByteArray(size, '1')));
+        const int listener = accessory().addListener([this, removed] {
+            if (accessory().state().upload.received == 500)
+                removed ? QFile::remove(kDataFile) : QFile::resize(kDataFile, 0);
+        });
+        QCOMPARE(upload().last(), 100);
+        accessory().removeListener(listener);
+        QCOMPARE(accessory().protocolFaults(), 0);
+        const QByteArray cells = accessory().state().upload.cells;
+        QCOMPARE(cells.size(), size); // as announced
+        QVERIFY(cells.startsWith(QByteArray(500 * 56, '\1')));
+        QVERIFY(cells.endsWith(QByteArray(500 * 56, removed ? '\1' : '\0'))); // what is open can be read to its end
+    }
 }
 
 void TestAccessoryUpload::pulledOutAtEveryChunk()
 {
     constexpr int kChunks = 17;
     QVERIFY(writeText(kDataFile, drawn(949)));
-    for (int at = 1; at <= kChunks + 1; ++at) {
+    for (int i = 0; i < 2 * (kChunks + 1); ++i) {
+        const int at = 1 + i / 2;
         accessory().setPlugged(true);
         connectDevice();
         accessory().clearHistory();
         accessory().unplugAtWrite(at);
-        QCOMPARE(upload().last(), 100);
+        QCOMPARE(upload(i % 2 == 1).last(), 100);
+        QVERIFY(!m_complete);
         // A start that failed does not keep the chunks from being tried once.
         QCOMPARE(int(accessory().history().size()), at == 1 ? 2 : at);
         const int errors = int(m_desk->takeLog().count("HID write error."));
@@ -228,12 +232,15 @@ void TestAccessoryUpload::reopenedUnderAnUpload()
 {
     QVERIFY(writeText(kDataFile, drawn(kAnimationCap)));
     connectDevice();
-    std::thread uploader([] { uploadAnimation(kDataFile, 0x24, [](int) {}); });
+    std::thread uploader([this] { upload(); });
     for (int i = 0; i < 200; ++i) { // as if HID devices arrived all the time
         clearHidFlags();
         reopenHid();
     }
     uploader.join();
+    QVERIFY(m_complete); // none found the handle closed
+    QCOMPARE(accessory().state().upload.received, 3254);
+    QCOMPARE(accessory().protocolFaults(), 0);
     QCOMPARE(accessory().handlesOpen(), 1); // and no closed handle was ever written to: see cleanup
 }
 
@@ -255,6 +262,11 @@ void TestAccessoryUpload::stoppedUploadEndsAtOnce()
         stopUploads();
     });
     QCOMPARE(reported, QList<int>{4});
+    const std::stop_token asked = uploadStop(); // its thread comes to it too late
+    stopUploads();
+    QVERIFY(!uploadText(
+        kDataFile, [&reported](int percent) { reported.append(percent); }, asked));
+    QCOMPARE(reported.size(), 1);
     QCOMPARE(upload().last(), 100); // the next one runs again
 }
 
@@ -287,6 +299,11 @@ void TestAccessoryUpload::liveFrames()
     }
     sendLiveFrame(patternOf(1 - form)); // built just before the form was changed
     QCOMPARE(int(accessory().history().size()), chunks);
+    AccessoryReport start;
+    buildUploadStart(start, 0x24);
+    QCOMPARE(accessory().state().showsLive, chunks > 0);
+    QCOMPARE(writeHid(start), HidWrite::Done);
+    QVERIFY(!accessory().state().showsLive); // the upload is what it shows from now on
     QCOMPARE(accessory().protocolFaults(), 0);
 }
 

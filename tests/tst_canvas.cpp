@@ -29,6 +29,7 @@ private Q_SLOTS:
     void frameCounter();
     void tabNumbers();
     void undoBringsEverythingBack();
+    void longestHistory();
     void unfinishedStrokeIsKept();
     void keyboardReachesTheCells();
     void previewAndOnionSkin();
@@ -108,6 +109,23 @@ void TestCanvas::undoBringsEverythingBack()
     QVERIFY(!page->button("Redo")->isEnabled());
 }
 
+/// Strokes do not push what was there before them out, until there are thousands of them in the longest animation.
+void TestCanvas::longestHistory()
+{
+    AnimationState state;
+    state.frames.assign(193, {1, 1, QBitArray(949)});
+    AnimationHistory history(state);
+    constexpr int kStrokes = 12000;
+    for (int i = 0; i < kStrokes; ++i) {
+        state.frames[static_cast<std::size_t>(i % 193)].cells.toggleBit(i % 949);
+        history.push(state);
+    }
+    int undone = 0;
+    for (; history.canUndo(); ++undone)
+        history.undo();
+    QVERIFY2(undone > 5000 && undone < kStrokes, qPrintable(QString::number(undone)));
+}
+
 /// The page is closed, or something else begins, before the button is released.
 void TestCanvas::unfinishedStrokeIsKept()
 {
@@ -174,6 +192,8 @@ void TestCanvas::previewAndOnionSkin()
     QCOMPARE(colorOf(0).name(), dark.name()); // the onion skin waits as well
     QCOMPARE(colorOf(1), lit);
     page->addFrame();
+    page->togglePreview();
+    page->hide(); // nobody sees it
     m_desk->clock.advance(1s);
     QCOMPARE(m_desk->clock.tasksWaiting(), std::size_t(0));
     QCOMPARE(page->tabs()->editor(1)->frame().digits(), "01" + QByteArray(947, '0'));

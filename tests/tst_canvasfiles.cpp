@@ -1,9 +1,12 @@
 #include <sys/resource.h>
+#include <unistd.h>
 
 #include <csignal>
 
 #include <QComboBox>
 #include <QFile>
+#include <QFileDialog>
+#include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QtTest>
@@ -46,6 +49,9 @@ private Q_SLOTS:
     void cleanup() { m_desk.reset(); }
     void importRules_data();
     void importRules();
+    void importProgress();
+    void realDialogs();
+    void focusComesBack();
     void exportInTabOrder();
     void exportProgress_data();
     void exportProgress();
@@ -101,6 +107,76 @@ void TestCanvasFiles::importRules()
     QCOMPARE(page->tabs()->count(), 2);
 }
 
+/// Every second of 24 tabs that go, of a sum of 25.
+void TestCanvasFiles::importProgress()
+{
+    const auto page = makePage(kRectangleForm);
+    while (page->frameCounter() < 24)
+        page->addFrame();
+    QList<int> values;
+    connect(page->progressBar(), &QProgressBar::valueChanged, this, [&values](int value) { values.append(value); });
+    page->fileName = QStringLiteral("in.csv");
+    QVERIFY(writeText(page->fileName, QByteArray(1050, '1')));
+    page->importAnimate();
+    QVERIFY(finish(*page));
+    QCOMPARE(values, (QList<int>{0, 8, 16, 24, 32, 40, 48, 56, 64, 72, 80, 88, 96, 100}));
+}
+
+/// The real dialogs and boxes, which the other tests answer themselves.
+void TestCanvasFiles::realDialogs()
+{
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    pageLEDMatrixCanvas page([] { return true; });
+    page.show();
+    QStringList seen;
+    const auto answer = [&seen](const QString &fileName) { // the dialog; without a name the box that follows as well
+        QTimer::singleShot(0, [&seen, fileName] {
+            auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            seen += {dialog->windowTitle(), dialog->nameFilters().join(QLatin1Char('|'))};
+            QTimer::singleShot(0, [&seen] {
+                if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+                    seen += {box->windowTitle(), box->text(), box->buttons().first()->text()};
+                    box->buttons().first()->click();
+                }
+            });
+            if (fileName.isEmpty())
+                return dialog->reject();
+            dialog->selectFile(fileName);
+            static_cast<QDialog *>(dialog)->accept();
+        });
+    };
+    answer({});
+    page.exportAnimate();
+    const QStringList cancelled = {"CSV file (*.csv);", "Warning", "No file path selected.", "OK"};
+    QCOMPARE(seen, QStringList{"Save File"} + cancelled);
+    seen.clear();
+    answer({});
+    page.importAnimate();
+    QCOMPARE(seen, QStringList{"Select File"} + cancelled);
+    answer(QStringLiteral("night"));
+    page.exportAnimate();
+    QVERIFY(QTest::qWaitFor([&page] { return !page.isBusy(); }));
+    QCOMPARE(QDir().entryList(QDir::Files), QStringList{"night.csv"});
+}
+
+void TestCanvasFiles::focusComesBack()
+{
+    const auto page = makePage();
+    QPushButton other(page.get());
+    other.show();
+    page->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(page.get()));
+    for (const bool goesElsewhere : {false, true}) {
+        page->button("Save Animate")->setFocus();
+        page->saveAnimate();
+        if (goesElsewhere)
+            other.setFocus();
+        QVERIFY(finish(*page));
+        QCOMPARE(page->focusWidget(), goesElsewhere ? &other : page->button("Save Animate"));
+    }
+}
+
 void TestCanvasFiles::exportInTabOrder()
 {
     const auto page = makePage(kRectangleForm);
@@ -111,7 +187,13 @@ void TestCanvasFiles::exportInTabOrder()
     QVERIFY(writeText(page->fileName, "what was there before"));
     page->exportAnimate();
     QVERIFY(!page->button("Add Frame")->isEnabled());
+    for (const auto press : {&AnsweredCanvas::addFrame, &AnsweredCanvas::duplicateFrame, &AnsweredCanvas::deleteFrame,
+                             &AnsweredCanvas::cleanFrame, &AnsweredCanvas::undo, &AnsweredCanvas::exportAnimate,
+                             &AnsweredCanvas::importAnimate, &AnsweredCanvas::writeAnimate})
+        (page.get()->*press)(); // nothing is done before the work has ended
     QVERIFY(finish(*page));
+    QCOMPARE(page->tabs()->count(), 2);
+    QVERIFY(page->warnings.isEmpty());
     QCOMPARE(readText(page->fileName), "10" + QByteArray(1048, '0') + "11" + QByteArray(1048, '0'));
     QCOMPARE(page->dataFile(), page->fileName);
     QCOMPARE(page->progressBar()->value(), 100);
@@ -172,6 +254,7 @@ void TestCanvasFiles::faultsLeaveThePageUsable_data()
     QTest::addColumn<bool>("imports");
     QTest::newRow("export into a folder that is not there") << "missing/out.csv" << false;
     QTest::newRow("export onto a folder") << "folder" << false;
+    QTest::newRow("export onto a file that may not be written") << "readonly.csv" << false;
     QTest::newRow("import of a file that is not there") << "missing.csv" << true;
     QTest::newRow("import of a folder") << "folder" << true;
 }
@@ -181,6 +264,11 @@ void TestCanvasFiles::faultsLeaveThePageUsable()
     QFETCH(bool, imports);
     QFETCH(QString, fileName);
     QDir().mkdir(QStringLiteral("folder"));
+    if (fileName == QStringLiteral("readonly.csv")) {
+        if (geteuid() == 0)
+            QSKIP("everything may be written by this user");
+        QVERIFY(writeText(fileName, "kept") && QFile::setPermissions(fileName, QFile::ReadOwner));
+    }
     const auto page = makePage();
     draw(*page, 4);
     page->saveAnimate();
@@ -235,16 +323,24 @@ void TestCanvasFiles::upload_data()
 {
     QTest::addColumn<bool>("connected");
     QTest::addColumn<bool>("fileGoes");
+    QTest::addColumn<int>("pulledAt"); // write
     QTest::addColumn<int>("shown");
-    QTest::newRow("whole") << true << false << 100;
-    QTest::newRow("without accessory") << false << false << 100;
-    QTest::newRow("the file is gone") << true << true << -1;
+    QTest::addColumn<QString>("notice");
+    const QString cut = QStringLiteral("The accessory did not take everything.");
+    QTest::newRow("whole") << true << false << 0 << 100 << QString();
+    QTest::newRow("without accessory") << false << false << 0 << 100 << QString();
+    QTest::newRow("the file is gone") << true << true << 0 << -1 << QStringLiteral("The file cannot be read");
+    QTest::newRow("pulled out at the start") << true << false << 1 << 100 << cut;
+    QTest::newRow("pulled out in the middle") << true << false << 213 << 100 << cut;
+    QTest::newRow("pulled out at the last chunk") << true << false << 425 << 100 << cut;
 }
 
 void TestCanvasFiles::upload()
 {
     QFETCH(bool, connected);
     QFETCH(bool, fileGoes);
+    QFETCH(int, pulledAt);
+    QFETCH(QString, notice);
     reopenHid();
     const auto page = makePage();
     page->findChild<QComboBox *>()->setCurrentIndex(4);
@@ -256,14 +352,17 @@ void TestCanvasFiles::upload()
     if (fileGoes)
         QFile::remove(QLatin1String(kDataFile));
     page->connected = connected;
+    m_desk->desk.accessory().unplugAtWrite(pulledAt);
+    const QByteArrayList before = page->tabs()->digits();
     page->writeAnimate();
     QVERIFY(finish(*page));
+    QCOMPARE(page->tabs()->digits(), before);
     QTEST(page->progressBar()->value(), "shown");
-    QCOMPARE(page->notice().isEmpty(), !fileGoes);
+    QVERIFY(notice.isEmpty() ? page->notice().isEmpty() : page->notice().startsWith(notice));
     QCOMPARE(m_desk->clock.takeWaits().count(), connected ? 6 : 0);
     const virtualdesk::AccessoryUpload upload = m_desk->desk.accessory().state().upload;
-    QCOMPARE(upload.isComplete(), connected && !fileGoes);
-    QCOMPARE(int(upload.mode), connected ? 0x28 : 0);
+    QCOMPARE(upload.isComplete(), connected && !fileGoes && pulledAt == 0);
+    QCOMPARE(int(upload.mode), connected && pulledAt != 1 ? 0x28 : 0);
     QVERIFY(page->button("Write Animate")->isEnabled());
     QCOMPARE(page->busyEvents.count(), connected ? 4 : 2);
 }

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void initTestCase() { QDir::setCurrent(m_folder.path()); }
     void frameOrder_data();
     void frameOrder();
+    void taperingRows();
     void everyCellIsHit_data();
     void everyCellIsHit();
     void pressAndDrag();
@@ -75,6 +76,18 @@ void TestEditors::frameOrder()
     QCOMPARE(litCells(*other), 0);
 }
 
+void TestEditors::taperingRows()
+{
+    const QList<int> expected = {25, 24, 25, 24, 24, 23, 23, 22, 23, 22, 22, 21, 21, 20, 21, 20, 20, 19, 19,
+                                 18, 19, 18, 18, 17, 17, 16, 17, 16, 16, 15, 15, 14, 15, 14, 14, 13, 13, 12,
+                                 13, 12, 12, 11, 11, 10, 11, 10, 10, 9,  9,  8,  9,  8,  8,  7,  7,  6,  7,
+                                 6,  6,  5,  5,  4,  5,  4,  4,  3,  3,  2,  3,  2,  2,  1,  1};
+    QList<int> rows;
+    for (const MatrixRow &row : matrixRows(kTaperingForm))
+        rows.append(row.cells);
+    QCOMPARE(rows, expected);
+}
+
 void TestEditors::everyCellIsHit_data()
 {
     QTest::addColumn<int>("form");
@@ -120,6 +133,13 @@ void TestEditors::pressAndDrag()
     QTest::mouseMove(&editor, middle(editor, {9, 9})); // no button is held
     QCOMPARE(editor.frame().cell(9, 9), 0);
     QCOMPARE(edited.count(), 3);
+    QTest::mousePress(&editor, Qt::LeftButton, {}, middle(editor, {20, 1}));
+    const QPoint far = middle(editor, {20, 9}); // released where nobody told
+    QMouseEvent move(QEvent::MouseMove, far, editor.mapToGlobal(far), Qt::NoButton, Qt::RightButton, {});
+    QApplication::sendEvent(&editor, &move);
+    QCOMPARE(editor.frame().cell(20, 9), 0);
+    QCOMPARE(edited.count(), 4);
+    QTest::mouseRelease(&editor, Qt::LeftButton, {}, far);
 }
 
 void TestEditors::fastMouseSkipsNoCell()

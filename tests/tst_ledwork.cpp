@@ -79,6 +79,7 @@ private Q_SLOTS:
     void clockStopsWithinOnePass();
     void clockStoppedBeforeItBegan();
     void clockOfNoFormSendsNothing();
+    void clockOutlivesRefusedWrites();
     void spectrum();
     void spectrumWithoutSource();
     void noRequestIsLost();
@@ -92,6 +93,7 @@ private Q_SLOTS:
     void formIsChosenAndLoaded();
 
 private:
+    QList<int> runClock(int passes);
     void makePage();
     void release(SliderWidget *slider, int value);
     QList<QByteArray> takeWrites();
@@ -181,18 +183,36 @@ void TestLedWork::clockStoppedBeforeItBegan()
         m_worker->stop();
         QVERIFY(m_worker->wait(10000));
     }
+    QCOMPARE(accessory().state().liveFrames, int(m_desk->clock.takeWaits().size())); // passes are whole or not at all
+}
+
+/// What the clock loop waits in at least so many passes, until it is stopped.
+QList<int> TestLedWork::runClock(int passes)
+{
+    QList<int> waits;
+    const QDeadlineTimer patience(10000);
+    m_worker->begin(ledWorkThread::ClockLoop);
+    while (waits.size() < passes && !patience.hasExpired())
+        waits += m_desk->clock.takeWaits();
+    m_worker->stop();
+    m_worker->wait(10000);
+    return waits;
 }
 
 void TestLedWork::clockOfNoFormSendsNothing()
 {
     matrixForm = 7;
-    m_worker->begin(ledWorkThread::ClockLoop);
-    qsizetype waits = 0; // it goes on, should the form be set right
-    while (waits < 3)
-        waits += m_desk->clock.takeWaits().size();
-    m_worker->stop();
-    QVERIFY(m_worker->wait(10000));
+    QVERIFY(runClock(3).size() >= 3); // it goes on, should the form be set right
     QCOMPARE(accessory().history().size(), 0u);
+}
+
+void TestLedWork::clockOutlivesRefusedWrites()
+{
+    accessory().refuseWrites(kForEver);
+    const QList<int> waits = runClock(240); // two minutes
+    QVERIFY(waits.size() >= 240);
+    QCOMPARE(waits.count(500), waits.size());
+    QCOMPARE(m_desk->takeLog(), QStringList{"HID write error."});
 }
 
 void TestLedWork::spectrum()
@@ -253,6 +273,7 @@ void TestLedWork::textUploadEndsTheClock()
     m_worker->begin(ledWorkThread::ClockLoop);
     QTRY_VERIFY(accessory().state().liveFrames > 0);
     m_worker->begin(ledWorkThread::UploadText);
+    m_worker->stop(); // frames only: a page waits for the upload's end
     QVERIFY(m_worker->wait(10000));
     QCoreApplication::processEvents();
     QVERIFY(accessory().state().upload.isComplete());
@@ -373,7 +394,13 @@ void TestLedWork::clockSwitch()
 void TestLedWork::formIsChosenAndLoaded()
 {
     makePage();
+    accessory().setForm(1);
+    matrixForm = 7; // or a last frame of the old form might come
+    m_page->clockOptions()->buttonOf(1)->click();
+    takeWrites();
     m_page->formOptions()->buttonOf(1)->click();
+    QVERIFY(m_worker->wait(10000));
+    QVERIFY(takeWrites().contains("01e001b089")); // the last time does not stay
     QCOMPARE(matrixForm.load(), 1);
     for (const auto &[stored, loaded] : {std::pair{0, 0}, {1, 1}, {2, 0}, {-1, 0}}) {
         settingsInt(QLatin1String(kMatrixFormKey), stored, true);

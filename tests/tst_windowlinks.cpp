@@ -1,3 +1,6 @@
+#include <thread>
+
+#include <QDeadlineTimer>
 #include <QMessageBox>
 #include <QTimer>
 #include <QtTest>
@@ -7,8 +10,10 @@
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
 #include "following/followlist.h"
+#include "leftbar.h"
 #include "page/BasicSetting/hotkeyoverlay.h"
 #include "page/Nightloom/ledworkthread.h"
+#include "page/Nightloom/pageledmatrixcanvas.h"
 #include "page/Nightloom/pageledmusic.h"
 #include "page/Scene/pagescenesetting.h"
 #include "page/engine/optiongrouprow.h"
@@ -16,6 +21,9 @@
 #include "platform/nativemessage.h"
 #include "shortcut/shortcutlist.h"
 #include "support/windowfixture.h"
+#include "toptab.h"
+#include "toptabframe.h"
+#include "usb-hid/accessoryupload.h"
 #include "usb-hid/hidtransport.h"
 
 using namespace std::chrono_literals;
@@ -33,6 +41,7 @@ private Q_SLOTS:
     void missingAccessoryIsTold();
     void busyModeStopsTheWorker();
     void busyModeInterruptsMusic();
+    void uploadKeepsTheOthersAway();
 };
 
 void TestWindowLinks::hotKeysShow()
@@ -124,7 +133,10 @@ void TestWindowLinks::missingAccessoryIsTold()
             const auto *shown = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
             QVERIFY(shown);
             QCOMPARE(shown->icon(), QMessageBox::Warning);
-            QVERIFY(shown->styleSheet().startsWith("QMessageBox {background-color: #101611;}QLabel{ color: white;}"));
+            QCOMPARE(shown->styleSheet(),
+                     "QMessageBox {background-color: #101611;}QLabel{ color: white;}QDialogButtonBox "
+                     "{qproperty-centerButtons: false;alignment: bottom right;}QMessageBox QPushButton { border: 1px "
+                     "solid #8f8f91; border-radius: 4px; padding: 4px 12px; color: white;}");
             box = {shown->windowTitle(), shown->text()};
             for (QAbstractButton *button : shown->buttons())
                 box.append(button->text());
@@ -164,6 +176,44 @@ void TestWindowLinks::busyModeInterruptsMusic()
     QTRY_VERIFY(analyzer.isCapturing());
     m_window.reset(); // the program's end
     QVERIFY(analyzer.isFinished());
+}
+
+void TestWindowLinks::uploadKeepsTheOthersAway()
+{
+    start(10);
+    auto *page = qobject_cast<pageLEDMatrixCanvas *>(m_window->page(PageId::LedCanvas)->widget());
+    virtualdesk::SimulatedAccessory &accessory = m_desk->desk.accessory();
+    const auto free = [this] {
+        const auto &buttons = m_window->leftBar(kAccessoryFamily)->buttons();
+        return std::count_if(buttons.begin(), buttons.end(), [](const auto *button) { return button->isEnabled(); });
+    };
+    const auto all = free();
+    const auto finished = [page] { return !page->isBusy(); };
+    page->saveAnimate();
+    QVERIFY(QTest::qWaitFor(finished));
+    page->writeAnimate();
+    QCOMPARE(free(), 1);
+    m_window->setInterfaceMode(kLocked); // the scene changes meanwhile
+    QCOMPARE(free(), 0);
+    m_window->setInterfaceMode(kByModel);
+    QCOMPARE(free(), 1);
+    m_window->setInterfaceMode(kLocked);
+    QVERIFY(QTest::qWaitFor(finished));
+    QVERIFY(accessory.state().upload.isComplete());
+    QVERIFY(free() == 0 && !m_window->tabs()->tabs().front()->isEnabled()); // it still does
+    m_window->setInterfaceMode(kByModel);
+    QCOMPARE(free(), all);
+
+    const std::stop_token ended = uploadStop();
+    const int listener = accessory.addListener([&accessory, &ended] {
+        const QDeadlineTimer patience(10000);
+        while (accessory.state().uploads == 2 && !ended.stop_requested() && !patience.hasExpired())
+            std::this_thread::yield();
+    });
+    page->writeAnimate();
+    m_window.reset(); // the program's end
+    accessory.removeListener(listener);
+    QCOMPARE(accessory.state().upload.received, 0);
 }
 
 QTEST_MAIN(TestWindowLinks)

@@ -13,8 +13,6 @@
 namespace {
 
 constexpr platform::milliseconds kWait{1000};
-constexpr int kDone = 100;
-constexpr int kNoFile = -1;
 
 /// What the two kinds of uploads do not share.
 struct UploadKind
@@ -43,40 +41,37 @@ constexpr UploadKind kAnimation{6, 5, false, 182208, 0.7, true, animationProgres
 constexpr UploadKind kText{24, 4, true, 780078, 1.0, false, textProgress};
 
 std::mutex s_stopMutex;
-std::stop_source s_stop; // of the uploads that began since the last stop
-
-std::stop_token currentStop()
-{
-    const std::lock_guard lock(s_stopMutex);
-    return s_stop.get_token();
-}
+std::stop_source s_stop; // of the uploads that were asked for since the last stop
 
 class Upload
 {
 public:
-    Upload(const UploadKind &kind, std::uint8_t mode, const std::function<void(int)> &progress)
-        : m_kind(kind), m_mode(mode), m_report(progress), m_stop(currentStop())
+    Upload(const UploadKind &kind, std::uint8_t mode, const std::function<void(int)> &progress,
+           const std::stop_token &stop)
+        : m_kind(kind), m_mode(mode), m_report(progress), m_stop(stop)
     {
     }
 
-    void run(const QString &fileName)
+    bool run(const QString &fileName)
     {
         AccessoryReport start;
         buildUploadStart(start, m_mode);
-        writePageReport(start);
+        m_complete = writePageReport(start);
         waitForDevice();
         if (m_stop.stop_requested())
-            return;
+            return false;
         QFile file(fileName);
         if (!file.open(QIODevice::ReadOnly)) {
             qDebug() << "Failed to open file:" << file.errorString();
-            m_report(kNoFile);
-            return;
+            m_report(kProgressFailed);
+            return false;
         }
         sendChunks(file);
         file.close();
-        if (!m_stop.stop_requested())
-            m_report(kDone);
+        if (m_stop.stop_requested())
+            return false;
+        m_report(kProgressEnd);
+        return m_complete;
     }
 
 private:
@@ -89,7 +84,7 @@ private:
             m_report(wait * m_kind.waitStep);
         }
         if (m_kind.doneAfterWaits)
-            m_report(kDone);
+            m_report(kProgressEnd);
     }
 
     void sendChunks(QFile &file)
@@ -104,6 +99,7 @@ private:
             const auto length = std::min(left, static_cast<qint64>(kChunkCells));
             left -= length;
             const HidWrite result = sendChunk(file, total, index, length);
+            m_complete = m_complete && result == HidWrite::Done;
             if (result == HidWrite::NoHandle && m_kind.skipsChunks)
                 continue;
             if (result != HidWrite::Done)
@@ -131,19 +127,27 @@ private:
     const UploadKind &m_kind;
     const std::uint8_t m_mode;
     const std::function<void(int)> &m_report;
-    const std::stop_token m_stop;
+    const std::stop_token &m_stop;
+    bool m_complete = false; ///< every report so far went out
 };
 
 } // namespace
 
-void uploadAnimation(const QString &fileName, std::uint8_t mode, const std::function<void(int)> &progress)
+std::stop_token uploadStop()
 {
-    Upload(kAnimation, mode, progress).run(fileName);
+    const std::lock_guard lock(s_stopMutex);
+    return s_stop.get_token();
 }
 
-void uploadText(const QString &fileName, const std::function<void(int)> &progress)
+bool uploadAnimation(const QString &fileName, std::uint8_t mode, const std::function<void(int)> &progress,
+                     const std::stop_token &stop)
 {
-    Upload(kText, kTextMode, progress).run(fileName);
+    return Upload(kAnimation, mode, progress, stop).run(fileName);
+}
+
+bool uploadText(const QString &fileName, const std::function<void(int)> &progress, const std::stop_token &stop)
+{
+    return Upload(kText, kTextMode, progress, stop).run(fileName);
 }
 
 void stopUploads()

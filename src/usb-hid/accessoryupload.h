@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <stop_token>
 
 #include <QString>
 
@@ -10,16 +11,24 @@
 // the device's memory is not sent.
 //
 // progress is called with percents on the calling thread. Whatever the device does, the last one is 100; without a
-// file it is -1.
+// file it is -1. True is returned when every report went out. A stop ends an upload within a chunk or a wait of it;
+// then it reports nothing more.
+
+inline constexpr int kProgressEnd = 100;
+inline constexpr int kProgressFailed = -1;
+
+/// Asked to stop by the next stopUploads(). Taken where an upload is asked for, before its thread comes to it.
+std::stop_token uploadStop();
 
 /// Uploads a hand-drawn animation, at most 192 frames of 949 cells. mode is the canvas's mode byte, 0x24 to 0x28.
 /// After the waits progress runs from 30 to 130. While the device is away, its chunks are left out.
-void uploadAnimation(const QString &fileName, std::uint8_t mode, const std::function<void(int)> &progress);
+bool uploadAnimation(const QString &fileName, std::uint8_t mode, const std::function<void(int)> &progress,
+                     const std::stop_token &stop = uploadStop());
 
 /// Uploads a rendered text, at most 822 frames of 949 cells. progress runs to 100 twice: through the waits, then
 /// through the chunks. Ends when the device is away.
-void uploadText(const QString &fileName, const std::function<void(int)> &progress);
+bool uploadText(const QString &fileName, const std::function<void(int)> &progress,
+                const std::stop_token &stop = uploadStop());
 
-/// Ends the uploads that are under way, in whatever thread, within a chunk or a wait of theirs; they report nothing
-/// more. For the program's end.
+/// Ends the uploads that are under way or asked for, in whatever thread. For the program's end.
 void stopUploads();

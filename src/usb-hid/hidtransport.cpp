@@ -5,11 +5,15 @@
 #include "platform/desk.h"
 
 // Writers in other threads hold it while they write: a device that is opened anew closes the handle under them.
-static std::recursive_mutex s_handleMutex;
+static std::mutex s_handleMutex;
 
-std::unique_lock<std::recursive_mutex> lockHid()
+// All wait for the handle one behind the other: an upload, which takes it again at once, would keep the others out.
+static std::mutex s_queueMutex;
+
+HidLock lockHid()
 {
-    return std::unique_lock(s_handleMutex);
+    const std::lock_guard queue(s_queueMutex);
+    return HidLock(s_handleMutex);
 }
 
 bool Fun_hid_find(std::uint16_t vendor, std::uint16_t product)
@@ -53,16 +57,21 @@ void clearHidFlags()
     hidOpened = false;
 }
 
-void closeHid()
+static void closeHandle(const HidLock &)
 {
-    const auto lock = lockHid();
     if (platform::HidDevice *device = hidHandle.exchange(nullptr))
         platform::desk().hid().close(device);
 }
 
+void closeHid()
+{
+    closeHandle(lockHid());
+}
+
 void reopenHid()
 {
-    closeHid();
+    const HidLock lock = lockHid(); // an upload that goes on meanwhile must not find it closed
+    closeHandle(lock);
     if (!Fun_hid_find(kAccessoryVendor, kAccessoryProduct) || hidOpened)
         return;
     if (platform::HidDevice *device = Fun_hid_open(kAccessoryVendor, kAccessoryProduct)) {
@@ -73,15 +82,21 @@ void reopenHid()
 
 HidWrite writeHid(const AccessoryReport &report)
 {
-    const auto lock = lockHid();
+    return writeHid(report, lockHid());
+}
+
+HidWrite writeHid(const AccessoryReport &report, const HidLock &)
+{
     platform::HidDevice *device = hidHandle;
     if (!device)
         return HidWrite::NoHandle;
     return platform::desk().hid().write(device, report.written()) < 0 ? HidWrite::Failed : HidWrite::Done;
 }
 
-void writePageReport(const AccessoryReport &report)
+bool writePageReport(const AccessoryReport &report)
 {
-    if (writeHid(report) == HidWrite::Failed)
+    const HidWrite result = writeHid(report);
+    if (result == HidWrite::Failed)
         qDebug() << kHidWriteError;
+    return result == HidWrite::Done;
 }

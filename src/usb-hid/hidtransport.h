@@ -33,17 +33,20 @@ void reopenHid();
 /// Closes the shared handle if there is one.
 void closeHid();
 
-/// Keeps other threads from writing to, closing and opening the accessory until the lock goes: for reports that belong
-/// together.
-std::unique_lock<std::recursive_mutex> lockHid();
+using HidLock = std::unique_lock<std::mutex>;
+
+/// Keeps everybody else from writing to, closing and opening the accessory until the lock goes: for reports that belong
+/// together. Who holds it writes with it.
+[[nodiscard]] HidLock lockHid();
 
 enum class HidWrite { Done, NoHandle, Failed };
 
 /// Writes a report's bytes, exactly as many as it has, through the shared handle. Logs nothing. Safe from any thread:
 /// the handle is not closed meanwhile.
 HidWrite writeHid(const AccessoryReport &report);
+HidWrite writeHid(const AccessoryReport &report, const HidLock &held);
 
-/// Writes a report of a page: without a handle it is left out, a failure is logged.
-void writePageReport(const AccessoryReport &report);
+/// Writes a report of a page: without a handle it is left out, a failure is logged. Whether it went out.
+bool writePageReport(const AccessoryReport &report);
 
 inline constexpr char kHidWriteError[] = "HID write error.";

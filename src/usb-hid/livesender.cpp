@@ -11,9 +11,9 @@
 static std::atomic<bool> s_failed = false; // the last write; one for all live sends, or the log would flood
 
 /// Whether the frame may go on.
-static bool writeLiveChunk(const AccessoryReport &chunk)
+static bool writeLiveChunk(const AccessoryReport &chunk, const HidLock &lock)
 {
-    const HidWrite result = writeHid(chunk);
+    const HidWrite result = writeHid(chunk, lock);
     if (result == HidWrite::NoHandle)
         return false;
     const bool failed = result == HidWrite::Failed;
@@ -27,12 +27,12 @@ void sendLiveFrame(std::span<const std::int32_t> cells)
     if (cells.empty() || std::ssize(cells) != matrixCells(matrixForm))
         return;
     const int total = chunkCount(std::ssize(cells));
-    const auto lock = lockHid(); // a page's report may not fall between the chunks
+    const HidLock lock = lockHid(); // a page's report may not fall between the chunks
     AccessoryReport chunk;
     for (int index = 1; index <= total; ++index) {
         const auto part = cells.subspan(static_cast<std::size_t>(index - 1) * kChunkCells);
         buildLiveChunk(chunk, total, index, part.first(std::min(part.size(), kChunkCells)));
-        if (!writeLiveChunk(chunk))
+        if (!writeLiveChunk(chunk, lock))
             return;
     }
 }

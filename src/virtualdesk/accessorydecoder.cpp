@@ -108,6 +108,7 @@ const char *AccessoryDecoder::takeUpload(std::span<const std::uint8_t> report)
         upload = {};
         upload.mode = report[2];
         ++m_state.uploads;
+        m_state.showsLive = false;
         m_uploading = true;
         return nullptr;
     }

@@ -21,20 +21,27 @@ bool takeOne(int &count)
 
 void *SimulatedAccessory::open()
 {
-    const std::lock_guard lock(m_mutex);
-    if (!m_plugged || takeOne(m_openFailures))
-        return nullptr;
-    m_nextToken += 4;
-    m_handles.insert({m_nextToken, m_plugging});
-    return reinterpret_cast<void *>(m_nextToken);
+    std::uintptr_t token = 0;
+    {
+        const std::lock_guard lock(m_mutex);
+        if (m_plugged && !takeOne(m_openFailures)) {
+            token = m_nextToken += 4;
+            m_handles.insert({token, m_plugging});
+        }
+    }
+    tell();
+    return reinterpret_cast<void *>(token);
 }
 
 void SimulatedAccessory::close(void *handle)
 {
-    const std::lock_guard lock(m_mutex);
-    const auto token = reinterpret_cast<std::uintptr_t>(handle);
-    if (std::erase_if(m_handles, [token](const Handle &each) { return each.token == token; }) == 0)
-        ++m_handleFaults;
+    {
+        const std::lock_guard lock(m_mutex);
+        const auto token = reinterpret_cast<std::uintptr_t>(handle);
+        if (std::erase_if(m_handles, [token](const Handle &each) { return each.token == token; }) == 0)
+            ++m_handleFaults;
+    }
+    tell();
 }
 
 int SimulatedAccessory::write(void *handle, std::span<const std::uint8_t> report)
@@ -143,8 +150,11 @@ bool SimulatedAccessory::refusesWrites() const
 
 void SimulatedAccessory::failOpens(int times)
 {
-    const std::lock_guard lock(m_mutex);
-    m_openFailures = times;
+    {
+        const std::lock_guard lock(m_mutex);
+        m_openFailures = times;
+    }
+    tell();
 }
 
 void SimulatedAccessory::unplugAtWrite(int n)

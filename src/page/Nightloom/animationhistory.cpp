@@ -2,13 +2,35 @@
 
 #include "ledmatrix/matrixframe.h"
 
+/// The memory that a state takes beyond the one before it. Frames that have moved count as new, which is enough.
+static std::size_t bytesOf(const AnimationState &state, const AnimationState *before)
+{
+    constexpr std::size_t kOverhead = 32; // of an array in the heap
+    std::size_t bytes = sizeof(AnimationState) + state.frames.size() * sizeof(AnimationFrame);
+    for (std::size_t i = 0; i < state.frames.size(); ++i) {
+        const QBitArray &cells = state.frames[i].cells;
+        const bool shared = before && i < before->frames.size() && cells.bits() == before->frames[i].cells.bits();
+        if (!shared)
+            bytes += static_cast<std::size_t>(cells.size()) / 8 + kOverhead;
+    }
+    return bytes;
+}
+
+void AnimationHistory::append(AnimationState state)
+{
+    const std::size_t bytes = bytesOf(state, m_steps.empty() ? nullptr : &m_steps.back().state);
+    m_steps.push_back({std::move(state), bytes});
+    m_bytes += bytes;
+}
+
 void AnimationHistory::push(AnimationState state)
 {
-    m_states.resize(m_now + 1);
-    m_states.push_back(std::move(state));
-    if (m_states.size() > kDepth)
-        m_states.erase(m_states.begin());
-    m_now = m_states.size() - 1;
+    for (; canRedo(); m_steps.pop_back())
+        m_bytes -= m_steps.back().bytes;
+    append(std::move(state));
+    for (; m_bytes > kMaximumBytes && m_steps.size() > 1; m_steps.pop_front())
+        m_bytes -= m_steps.front().bytes;
+    m_now = m_steps.size() - 1;
 }
 
 int AnimationHistory::undo()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <deque>
 #include <vector>
 
 #include <QBitArray>
@@ -26,25 +28,35 @@ struct AnimationState
 class AnimationHistory
 {
 public:
-    /// States that are kept; older ones are forgotten.
-    static constexpr std::size_t kDepth = 500;
+    /// What the states may take together; the oldest ones beyond that are forgotten. A change of one cell takes about
+    /// 6 KB in the longest animation, less than 1 KB in a short one.
+    static constexpr std::size_t kMaximumBytes = 64 * 1024 * 1024;
 
-    explicit AnimationHistory(AnimationState first) : m_states{std::move(first)} {}
+    explicit AnimationHistory(AnimationState first) { append(std::move(first)); }
 
-    const AnimationState &state() const { return m_states[m_now]; }
+    const AnimationState &state() const { return m_steps[m_now].state; }
 
     /// A change: what had been taken back before is gone.
     void push(AnimationState state);
 
     bool canUndo() const { return m_now > 0; }
-    bool canRedo() const { return m_now + 1 < m_states.size(); }
+    bool canRedo() const { return m_now + 1 < m_steps.size(); }
 
     /// Go one state back or on; where there is none nothing happens. The place to show: where the difference lies.
     int undo();
     int redo();
 
 private:
-    std::vector<AnimationState> m_states;
+    struct Step
+    {
+        AnimationState state;
+        std::size_t bytes; ///< that it does not share with the state before
+    };
+
+    void append(AnimationState state);
+
+    std::deque<Step> m_steps;
+    std::size_t m_bytes = 0; ///< of all steps
     std::size_t m_now = 0;
 };
 

@@ -34,7 +34,6 @@ public:
     QByteArrayList digits() const;
 
     /// Pixels a cell, in every editor.
-    int cellSize() const { return m_cellSize; }
     void setCellSize(int pixels);
 
     /// Whether the frame before shines through the one that is shown.

@@ -2,8 +2,9 @@
 
 #include <algorithm>
 
-#include "page/Nightloom/animationfile.h"
+#include "ledmatrix/animationfile.h"
 #include "page/Nightloom/pageledmatrixcanvas.h"
+#include "usb-hid/accessoryupload.h"
 
 LEDThread::LEDThread(pageLEDMatrixCanvas &page) : m_page(page)
 {
@@ -37,19 +38,20 @@ void LEDThread::fail(const QString &error)
 
 void LEDThread::run()
 {
+    bool complete = true;
     switch (m_state) {
     case Export:
         exportFrames();
         break;
     case Upload:
-        m_page.sendAnmateData(m_job, [this](int value) { Q_EMIT progress(value); });
+        complete = m_page.sendAnmateData(m_job, [this](int value) { Q_EMIT progress(value); });
         break;
     case Import:
         Q_EMIT progress(kImportNow);
         break;
     }
-    Q_EMIT progress(kEnd);
-    Q_EMIT workEnded();
+    Q_EMIT progress(kProgressEnd);
+    Q_EMIT workEnded(complete);
 }
 
 void LEDThread::exportFrames()
@@ -63,5 +65,5 @@ void LEDThread::exportFrames()
     if (error.isEmpty())
         return;
     fail(error);
-    Q_EMIT progress(kFailed);
+    Q_EMIT progress(kProgressFailed);
 }

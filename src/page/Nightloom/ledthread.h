@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <mutex>
+#include <stop_token>
 
 #include <QByteArrayList>
 #include <QThread>
@@ -13,7 +14,8 @@ struct LEDJob
 {
     QByteArrayList frames; ///< digits in tab order
     QString fileName;
-    std::uint8_t mode = 0; ///< third byte of the upload packets
+    std::uint8_t mode = 0;  ///< third byte of the upload packets
+    std::stop_token stop{}; ///< ends an upload
 };
 
 /// The canvas page's long work: it writes, asks to read, or uploads an animation. It touches nothing that is shown.
@@ -25,8 +27,6 @@ public:
 
     /// Asks the page to import, on its own thread.
     static constexpr int kImportNow = 200;
-    static constexpr int kFailed = -1;
-    static constexpr int kEnd = 100;
 
     explicit LEDThread(pageLEDMatrixCanvas &page);
     ~LEDThread() override;
@@ -40,11 +40,12 @@ public:
     QString error() const;
 
 Q_SIGNALS:
-    /// Percent, and beyond 100 during an upload; the constants above.
+    /// Percent, and beyond 100 during an upload; -1 when it fails; kImportNow.
     void progress(int value);
 
-    /// Follows the last progress. 100 alone does not say that the work is done: it is passed on the way as well.
-    void workEnded();
+    /// Follows the last progress. 100 alone does not say that the work is done: it is passed on the way as well, and
+    /// comes at the end even of an upload that the accessory did not take whole.
+    void workEnded(bool complete);
 
 protected:
     void run() override;

@@ -1,6 +1,7 @@
 #include "page/Nightloom/ledworkthread.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "ledmatrix/matrixform.h"
 #include "page/Nightloom/dateled.h"
@@ -12,7 +13,6 @@
 namespace {
 
 constexpr platform::milliseconds kClockPass{500};
-constexpr unsigned long kUploadLook = 50; // ms
 
 std::atomic<bool> s_exists = false;
 
@@ -39,12 +39,12 @@ void ledWorkThread::shutDown()
     thread->stop();
     {
         const std::lock_guard lock(thread->m_mutex);
+        thread->m_waiting.clear();
         thread->m_shutDown.request_stop();
         thread->m_shutDown = std::stop_source();
     }
-    do
-        stopUploads(); // again and again: one may have been about to begin
-    while (!thread->wait(kUploadLook));
+    stopUploads();
+    thread->wait();
 }
 
 void ledWorkThread::setSource(LedFrameSource *source)
@@ -66,6 +66,8 @@ void ledWorkThread::begin(State state)
     m_running = 0; // a clock loop would never end for what waits
     if (std::find(m_waiting.begin(), m_waiting.end(), state) == m_waiting.end())
         m_waiting.push_back(state);
+    if (state == UploadText)
+        m_uploadStop = uploadStop();
     if (std::exchange(m_works, true))
         return;
     wait(); // it may be on its last steps out of run, where a start would be lost
@@ -77,7 +79,7 @@ void ledWorkThread::stop()
     const std::lock_guard lock(m_mutex);
     m_running = 0;
     m_state = Stopped;
-    m_waiting.clear();
+    std::erase_if(m_waiting, [](State state) { return state != UploadText; });
     exit(0);
 }
 
@@ -109,7 +111,7 @@ void ledWorkThread::work(State state)
     case ClockLoop:
         return runClock();
     case UploadText:
-        return uploadText(QLatin1String(kTextFile), [this](int percent) { Q_EMIT progress(percent); });
+        return upload();
     case Stopped:
         break;
     }
@@ -155,6 +157,18 @@ void ledWorkThread::runClock()
         }
         platform::desk().clock().sleepUnlessStopped(kClockPass, ended);
     } while (m_running == 1);
+}
+
+void ledWorkThread::upload()
+{
+    std::stop_token stop;
+    {
+        const std::lock_guard lock(m_mutex);
+        stop = m_uploadStop;
+    }
+    const bool complete = uploadText(
+        QLatin1String(kTextFile), [this](int percent) { Q_EMIT progress(percent); }, stop);
+    Q_EMIT uploadEnded(complete);
 }
 
 void ledWorkThread::sendData(std::span<const std::int32_t> cells)

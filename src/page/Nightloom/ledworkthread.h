@@ -46,11 +46,11 @@ public:
     /// clock loop ends for it. Safe from any thread.
     void begin(State state);
 
-    /// Ends the clock loop within one pass of it and forgets what waits. An upload goes on. Does not wait itself.
+    /// Ends the clock loop within one pass of it and forgets the frames that wait. An upload is made all the same: its
+    /// page waits for its end. Does not wait itself.
     void stop();
 
     State state() const { return m_state; }
-    bool isClockRunning() const { return m_running != 0; }
 
     /// The minute of the time shown last.
     int minute() const { return m_minute; }
@@ -61,6 +61,9 @@ public:
 Q_SIGNALS:
     /// Percent of a text upload: to 100 while the device prepares, then again for the text itself; -1 without a file.
     void progress(int value);
+
+    /// Follows the last progress. Not complete when the accessory did not take every report.
+    void uploadEnded(bool complete);
 
     /// A spectrum frame was built; always 0.
     void frameBuilt(int value);
@@ -77,6 +80,7 @@ private:
     void buildSpectrum();
     void sendSpectrum();
     void runClock();
+    void upload();
 
     std::mutex m_sourceMutex; // held while the source is used
     LedFrameSource *m_source = nullptr;
@@ -86,6 +90,7 @@ private:
     std::deque<State> m_waiting;
     bool m_works = false; ///< the thread will look for waiting work once more
     std::stop_source m_shutDown;
+    std::stop_token m_uploadStop; ///< of the upload that was begun last
 
     std::atomic<State> m_state{}; // 0 before the first work
     std::atomic<std::int32_t> m_running = 0;

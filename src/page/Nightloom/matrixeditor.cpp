@@ -5,7 +5,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-#include "page/Nightloom/animationfile.h"
+#include "ledmatrix/animationfile.h"
 
 namespace {
 
@@ -125,6 +125,8 @@ void MatrixEditor::mouseMoveEvent(QMouseEvent *event)
 {
     if (!mayDraw() || !m_pressed)
         return;
+    if (!(event->buttons() & Qt::LeftButton))
+        return finishStroke(); // it was released where nobody told
     const QPoint point = event->position().toPoint();
     drawLine(m_lastPoint, point);
     m_lastPoint = point;

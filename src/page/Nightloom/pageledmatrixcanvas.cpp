@@ -6,8 +6,8 @@
 #include <QPushButton>
 
 #include "controls/sliderwidget.h"
+#include "ledmatrix/animationfile.h"
 #include "ledmatrix/matrixform.h"
-#include "page/Nightloom/animationfile.h"
 #include "page/Nightloom/frametabs.h"
 #include "page/Nightloom/matrixeditor.h"
 #include "usb-hid/accessoryupload.h"
@@ -75,6 +75,12 @@ void pageLEDMatrixCanvas::showEvent(QShowEvent *event)
     followMatrixForm();
 }
 
+void pageLEDMatrixCanvas::hideEvent(QHideEvent *event)
+{
+    QLabel::hideEvent(event);
+    m_player.stop(); // nobody sees it
+}
+
 void pageLEDMatrixCanvas::updateControlText()
 {
     m_texts.retranslate();
@@ -105,7 +111,7 @@ AnimationFrame pageLEDMatrixCanvas::newFrame(AnimationState &state)
 void pageLEDMatrixCanvas::addFrame()
 {
     endStrokes();
-    if (!mayAddFrame())
+    if (m_busy || !mayAddFrame())
         return;
     AnimationState state = m_history->state();
     state.place = static_cast<int>(state.frames.size());
@@ -116,7 +122,7 @@ void pageLEDMatrixCanvas::addFrame()
 void pageLEDMatrixCanvas::duplicateFrame()
 {
     endStrokes();
-    if (m_tabs->count() == 0 || !mayAddFrame())
+    if (m_busy || m_tabs->count() == 0 || !mayAddFrame())
         return;
     AnimationState state = m_history->state();
     const int original = m_tabs->currentIndex();
@@ -130,7 +136,7 @@ void pageLEDMatrixCanvas::duplicateFrame()
 void pageLEDMatrixCanvas::deleteFrame()
 {
     endStrokes();
-    if (m_tabs->count() == 0)
+    if (m_busy || m_tabs->count() == 0)
         return;
     AnimationState state = m_history->state();
     state.place = m_tabs->currentIndex();
@@ -143,7 +149,7 @@ void pageLEDMatrixCanvas::deleteFrame()
 void pageLEDMatrixCanvas::cleanFrame()
 {
     endStrokes();
-    if (m_tabs->count() == 0)
+    if (m_busy || m_tabs->count() == 0)
         return;
     AnimationState state = m_history->state();
     state.place = m_tabs->currentIndex();

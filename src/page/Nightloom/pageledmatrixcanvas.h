@@ -48,8 +48,9 @@ public:
     QString dataFile() const { return m_dataFile; }
     bool isBusy() const { return m_busy; }
 
-    /// Uploads the job's file. For LEDThread, which runs it: touches nothing of the page.
-    void sendAnmateData(const LEDJob &job, const std::function<void(int)> &progress) const;
+    /// Uploads the job's file; whether the accessory took it whole. For LEDThread, which runs it: touches nothing of
+    /// the page.
+    bool sendAnmateData(const LEDJob &job, const std::function<void(int)> &progress) const;
 
 public Q_SLOTS:
     void addFrame();
@@ -78,9 +79,7 @@ protected:
     virtual void warn(const QString &text);
 
     void showEvent(QShowEvent *event) override;
-
-private Q_SLOTS:
-    void onProgress(int value);
+    void hideEvent(QHideEvent *event) override;
 
 private:
     void buildForm();
@@ -103,7 +102,8 @@ private:
     void showNotice(const QString &text);
 
     void beginWork(LEDThread::State state, const QString &fileName, bool saves);
-    void endWork();
+    void onProgress(int value);
+    void endWork(bool complete);
     void importFrames();
     void fail(const QString &error);
 

@@ -7,8 +7,8 @@
 #include <QProgressBar>
 
 #include "controls/messagebox.h"
+#include "ledmatrix/animationfile.h"
 #include "ledmatrix/matrixframe.h"
-#include "page/Nightloom/animationfile.h"
 #include "page/Nightloom/frametabs.h"
 #include "page/Nightloom/pageledmatrixcanvas.h"
 #include "page/Nightloom/toolcolumn.h"
@@ -27,7 +27,10 @@ QString fileFilter()
 
 QString pageLEDMatrixCanvas::askSaveFile()
 {
-    return QFileDialog::getSaveFileName(window(), QObject::tr("Save File"), QString(), fileFilter());
+    QFileDialog dialog(window(), QObject::tr("Save File"), QString(), fileFilter());
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("csv")); // before it asks whether a file may be replaced
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
 QString pageLEDMatrixCanvas::askOpenFile()
@@ -48,6 +51,8 @@ void pageLEDMatrixCanvas::saveAnimate()
 
 void pageLEDMatrixCanvas::exportAnimate()
 {
+    if (m_busy)
+        return;
     const QString fileName = askSaveFile();
     if (fileName.isEmpty())
         return warn(QObject::tr("No file path selected."));
@@ -56,6 +61,8 @@ void pageLEDMatrixCanvas::exportAnimate()
 
 void pageLEDMatrixCanvas::importAnimate()
 {
+    if (m_busy)
+        return;
     const QString fileName = askOpenFile();
     if (fileName.isEmpty())
         return warn(QObject::tr("No file path selected."));
@@ -67,14 +74,14 @@ void pageLEDMatrixCanvas::importAnimate()
 
 void pageLEDMatrixCanvas::writeAnimate()
 {
-    if (!m_saved || !m_ensureConnected())
+    if (m_busy || !m_saved || !m_ensureConnected())
         return;
     beginWork(LEDThread::Upload, m_dataFile, false);
 }
 
-void pageLEDMatrixCanvas::sendAnmateData(const LEDJob &job, const std::function<void(int)> &progress) const
+bool pageLEDMatrixCanvas::sendAnmateData(const LEDJob &job, const std::function<void(int)> &progress) const
 {
-    uploadAnimation(job.fileName, job.mode, progress);
+    return uploadAnimation(job.fileName, job.mode, progress, job.stop);
 }
 
 void pageLEDMatrixCanvas::beginWork(LEDThread::State state, const QString &fileName, bool saves)
@@ -92,29 +99,30 @@ void pageLEDMatrixCanvas::beginWork(LEDThread::State state, const QString &fileN
     m_tools->setEnabled(false);
     m_tabs->setEnabled(false);
     Q_EMIT busyBegins();
-    m_thread.begin(state, {m_tabs->digits(), fileName, m_mode});
+    m_thread.begin(state, {m_tabs->digits(), fileName, m_mode, uploadStop()});
 }
 
 void pageLEDMatrixCanvas::onProgress(int value)
 {
     if (value == LEDThread::kImportNow)
         return importFrames();
-    if (value == LEDThread::kFailed)
+    if (value == kProgressFailed)
         return fail(m_thread.error());
     if (!m_failed) // a failure stays in sight
         showProgress(value);
 }
 
-void pageLEDMatrixCanvas::endWork()
+void pageLEDMatrixCanvas::endWork(bool complete)
 {
+    if (!complete && !m_failed)
+        showNotice(QObject::tr("The accessory did not take everything."));
     m_busy = false;
     if (m_saves && !m_failed)
         m_saved = m_tabs->count() > 0;
     m_tools->setEnabled(true);
     m_tabs->setEnabled(true);
     updateButtons();
-    if (m_focusBefore)
-        m_focusBefore->setFocus();
+    giveFocusBack(m_focusBefore);
     Q_EMIT busyEnded();
 }
 
@@ -135,8 +143,10 @@ void pageLEDMatrixCanvas::importFrames()
     const int step = std::max(static_cast<int>(0.1 * sum), 1);
     m_history->push(std::move(state));
     m_tabs->apply(m_history->state(), 0, [&](int removed) {
-        if (removed % step == 0)
-            showProgress(static_cast<int>(removed / sum * 100.0));
+        if (removed % step != 0)
+            return;
+        showProgress(static_cast<int>(removed / sum * 100.0));
+        m_progress->repaint(); // nothing else comes to be painted before the import has ended
     });
     onChanged();
     if (m_tabs->count() == 0)
@@ -148,7 +158,7 @@ void pageLEDMatrixCanvas::fail(const QString &error)
     const LEDThread::State state = m_thread.state();
     m_failed = true;
     m_saved = m_saved && state == LEDThread::Upload; // else the data file is not what is drawn
-    showProgress(LEDThread::kFailed);
+    showProgress(kProgressFailed);
     const QString text = state == LEDThread::Export ? QObject::tr("The file cannot be written: %1")
                                                     : QObject::tr("The file cannot be read: %1");
     showNotice(text.arg(error.isEmpty() ? m_dataFile : error));

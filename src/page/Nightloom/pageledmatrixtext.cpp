@@ -7,17 +7,15 @@
 
 #include "controls/sharedfonts.h"
 #include "controls/sliderwidget.h"
-#include "page/Nightloom/animationfile.h"
+#include "ledmatrix/animationfile.h"
 #include "page/Nightloom/ledworkthread.h"
 #include "page/Nightloom/textwidget.h"
 #include "page/Nightloom/toolcolumn.h"
 #include "page/engine/labels.h"
 #include "page/engine/pagestyle.h"
+#include "usb-hid/accessoryupload.h"
 
 namespace {
-
-constexpr int kDone = 100;
-constexpr int kFailed = -1;
 
 /// What each phase is called beside the progress bar.
 constexpr const char *kPhaseLabels[] = {"", LABEL("Rendering"), LABEL("Erase"), LABEL("Write Data")};
@@ -105,6 +103,10 @@ void pageLEDMatrixText::connectWork()
     });
     connect(m_text, &TextWidget::framesReady, this, &pageLEDMatrixText::onFrames);
     connect(ledWorkThread::instance(), &ledWorkThread::progress, this, &pageLEDMatrixText::onUploadProgress);
+    connect(ledWorkThread::instance(), &ledWorkThread::uploadEnded, this, [this](bool complete) {
+        if (!complete && m_notice->text().isEmpty()) // the progress ends at 100 even so
+            showNotice(QObject::tr("The accessory did not take everything."));
+    });
     connect(m_text->input(), &QLineEdit::textChanged, this, [this] { showNotice({}); });
 }
 
@@ -147,12 +149,12 @@ void pageLEDMatrixText::onUploadProgress(int value)
 {
     if (m_phase != Phase::Erasing && m_phase != Phase::Writing)
         return;
-    if (value == kFailed) {
+    if (value == kProgressFailed) {
         const QString text = QObject::tr("The file cannot be read: %1");
         return fail(text.arg(QLatin1String(ledWorkThread::kTextFile)));
     }
     showProgress(value);
-    if (value != kDone)
+    if (value != kProgressEnd)
         return;
     if (m_phase == Phase::Erasing)
         enter(Phase::Writing);
@@ -173,14 +175,13 @@ void pageLEDMatrixText::endWork()
     enter(Phase::Idle);
     m_tools->setEnabled(true);
     m_text->setEnabled(true);
-    if (m_focusBefore)
-        m_focusBefore->setFocus();
+    giveFocusBack(m_focusBefore);
     Q_EMIT busyEnded();
 }
 
 void pageLEDMatrixText::fail(const QString &text)
 {
-    showProgress(kFailed);
+    showProgress(kProgressFailed);
     showNotice(text);
     endWork();
 }

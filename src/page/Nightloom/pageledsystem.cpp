@@ -118,7 +118,7 @@ void pageLEDSystem::showWhatIsSet()
     m_brightness->setValue(stored(kLedBrightnessKey, kUsualBrightness));
     m_lamp->showValue(m_lampSet);
     m_form->showValue(matrixForm.load());
-    m_clock->showValue(ledWorkThread::instance()->state() == ledWorkThread::ClockLoop ? 1 : 0);
+    m_clock->showValue(clockRuns() ? 1 : 0);
 }
 
 /// Whether a packet may be written: the accessory is there and nothing else writes to it.
@@ -134,6 +134,18 @@ void pageLEDSystem::stopWorker()
 {
     ledWorkThread::instance()->stop();
     platform::desk().clock().sleep(kWorkerEnds);
+}
+
+bool pageLEDSystem::clockRuns() const
+{
+    return ledWorkThread::instance()->state() == ledWorkThread::ClockLoop;
+}
+
+void pageLEDSystem::endLiveDisplay()
+{
+    AccessoryReport report;
+    buildLiveStop(report);
+    writePageReport(report);
 }
 
 void pageLEDSystem::onSliderReleased()
@@ -155,9 +167,8 @@ void pageLEDSystem::switchLamp(int value)
 {
     if (!takeOver())
         return;
+    endLiveDisplay();
     AccessoryReport report;
-    buildLiveStop(report);
-    writePageReport(report);
     buildMatrixLamp(report, value != 0);
     writePageReport(report);
     m_lampSet = value;
@@ -165,7 +176,10 @@ void pageLEDSystem::switchLamp(int value)
 
 void pageLEDSystem::chooseForm(int value)
 {
+    const bool clockRan = clockRuns();
     stopWorker();
+    if (clockRan)
+        endLiveDisplay();
     chooseMatrixForm(value);
 }
 
@@ -177,7 +191,5 @@ void pageLEDSystem::switchClock(int value)
         ledWorkThread::instance()->begin(ledWorkThread::ClockLoop);
         return;
     }
-    AccessoryReport report;
-    buildLiveStop(report); // or the last time would stay
-    writePageReport(report);
+    endLiveDisplay(); // or the last time would stay
 }

@@ -3,8 +3,6 @@
 #include "page/Nightloom/accessorycheck.h"
 #include "page/engine/panelpage.h"
 
-class ledWorkThread;
-
 inline constexpr char kPlaybackLevelKey[] = "SystemMode/PlaybackLevel";
 inline constexpr char kLedBrightnessKey[] = "SystemMode/Brightness";
 
@@ -38,6 +36,8 @@ private:
     void showWhatIsSet();
     bool takeOver();
     void stopWorker();
+    bool clockRuns() const;
+    void endLiveDisplay();
     void onSliderReleased();
     void switchLamp(int value);
     void chooseForm(int value);

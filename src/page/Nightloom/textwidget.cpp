@@ -91,6 +91,12 @@ void TextWidget::showEvent(QShowEvent *event)
     followMatrixForm();
 }
 
+void TextWidget::hideEvent(QHideEvent *event)
+{
+    QWidget::hideEvent(event);
+    m_player.stop(); // nobody sees it
+}
+
 QString TextWidget::text() const
 {
     return m_input->text();
@@ -136,7 +142,7 @@ bool TextWidget::startJob()
     m_job =
         std::make_unique<WorkerThread>(WorkerThread::kUsualValue, text(), static_cast<std::int32_t>(m_motion), *this);
     connect(m_job.get(), &WorkerThread::progress, this, &TextWidget::progress);
-    connect(m_job.get(), &WorkerThread::framesReady, this, [this] { Q_EMIT framesReady(m_job->takeFrames()); });
+    connect(m_job.get(), &WorkerThread::framesReady, this, &TextWidget::framesReady);
     m_job->start(QThread::TimeCriticalPriority);
     return true;
 }

@@ -50,6 +50,7 @@ Q_SIGNALS:
 
 protected:
     void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
 
 private:
     void buildMotions(BoundTexts &texts, QHBoxLayout *row);

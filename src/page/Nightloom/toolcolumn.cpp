@@ -80,3 +80,9 @@ void showValue(QProgressBar *bar, int value)
     bar->setFormat(value < 0 ? QStringLiteral("%v") : QStringLiteral("%p%"));
     bar->setValue(std::min(value, bar->maximum()));
 }
+
+void giveFocusBack(QWidget *before)
+{
+    if (before && before->isVisible() && !before->window()->focusWidget())
+        before->setFocus();
+}

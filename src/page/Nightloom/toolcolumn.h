@@ -30,3 +30,6 @@ void dressProgressBar(QProgressBar *bar, BoundTexts &texts);
 
 /// Shows percents, at most 100, or the -1 of a failure as what it is.
 void showValue(QProgressBar *bar, int value);
+
+/// Brings the keyboard back to where it was before long work, unless the user has gone elsewhere meanwhile.
+void giveFocusBack(QWidget *before);

@@ -14,12 +14,6 @@ WorkerThread::~WorkerThread()
     wait();
 }
 
-QByteArrayList WorkerThread::takeFrames()
-{
-    const std::lock_guard lock(m_mutex);
-    return std::exchange(m_frames, {});
-}
-
 void WorkerThread::run()
 {
     if (m_text.isEmpty())
@@ -33,9 +27,5 @@ void WorkerThread::run()
         frames.append(renderer.frame(i - 1).digits());
         Q_EMIT progress(i * 100 / total);
     }
-    {
-        const std::lock_guard lock(m_mutex);
-        m_frames = std::move(frames);
-    }
-    Q_EMIT framesReady();
+    Q_EMIT framesReady(frames);
 }

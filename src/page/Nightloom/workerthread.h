@@ -1,7 +1,5 @@
 #pragma once
 
-#include <mutex>
-
 #include <QByteArrayList>
 #include <QThread>
 
@@ -18,11 +16,9 @@ public:
     WorkerThread(std::int32_t value, const QString &text, std::int32_t direction, const TextWidget &widget);
     ~WorkerThread() override;
 
-    /// The digits of every frame; empty until framesReady().
-    QByteArrayList takeFrames();
-
 Q_SIGNALS:
-    void framesReady();
+    /// The digits of every frame, in order.
+    void framesReady(const QByteArrayList &frames);
     void progress(int percent);
 
 protected:
@@ -34,6 +30,4 @@ private:
     std::int32_t m_direction;
     const TextWidget &m_widget; ///< holds the glyph source
     const int m_form;           ///< of the matrix when the job began
-    std::mutex m_mutex;
-    QByteArrayList m_frames; ///< guarded by the mutex
 };

@@ -1,4 +1,4 @@
-#include "page/Nightloom/animationfile.h"
+#include "ledmatrix/animationfile.h"
 
 #include <algorithm>
 
