@@ -24,8 +24,8 @@ class TestCanvas : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init() { m_desk = std::make_unique<DeskFixture>(); }
+    void cleanup() { m_desk.reset(); }
     void frameCounter();
     void tabNumbers();
     void undoBringsEverythingBack();
@@ -37,18 +37,6 @@ private Q_SLOTS:
 private:
     std::unique_ptr<DeskFixture> m_desk;
 };
-
-void TestCanvas::init()
-{
-    m_desk = std::make_unique<DeskFixture>();
-    matrixForm = kTaperingForm;
-}
-
-void TestCanvas::cleanup()
-{
-    matrixForm = kTaperingForm;
-    m_desk.reset();
-}
 
 void TestCanvas::frameCounter()
 {

@@ -10,6 +10,7 @@
 
 #include "support/answeredcanvas.h"
 #include "support/deskfixture.h"
+#include "support/textfile.h"
 #include "usb-hid/hidtransport.h"
 
 namespace {
@@ -34,19 +35,6 @@ private:
     rlimit m_before{};
 };
 
-QByteArray contentOf(const QString &fileName)
-{
-    QFile file(fileName);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(cannot be opened)");
-}
-
-void writeFile(const QString &fileName, const QByteArray &content)
-{
-    QFile file(fileName);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
-}
-
 } // namespace
 
 /// What the canvas page saves, exports, imports and uploads, and what becomes of it when that fails.
@@ -54,8 +42,8 @@ class TestCanvasFiles : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init() { m_desk = std::make_unique<DeskFixture>(); }
+    void cleanup() { m_desk.reset(); }
     void importRules_data();
     void importRules();
     void exportInTabOrder();
@@ -72,19 +60,6 @@ private Q_SLOTS:
 private:
     std::unique_ptr<DeskFixture> m_desk;
 };
-
-void TestCanvasFiles::init()
-{
-    m_desk = std::make_unique<DeskFixture>();
-    matrixForm = kTaperingForm;
-}
-
-void TestCanvasFiles::cleanup()
-{
-    closeHid();
-    matrixForm = kTaperingForm;
-    m_desk.reset();
-}
 
 void TestCanvasFiles::importRules_data()
 {
@@ -109,7 +84,7 @@ void TestCanvasFiles::importRules()
     QFETCH(int, frames);
     const auto page = makePage(form);
     page->addFrame();
-    writeFile(QStringLiteral("in.csv"), content);
+    QVERIFY(writeText(QStringLiteral("in.csv"), content));
     page->fileName = QStringLiteral("in.csv");
     page->importAnimate();
     QVERIFY(finish(*page));
@@ -133,11 +108,11 @@ void TestCanvasFiles::exportInTabOrder()
     page->duplicateFrame();
     draw(*page, 1);
     page->fileName = QStringLiteral("out.csv");
-    writeFile(page->fileName, "what was there before");
+    QVERIFY(writeText(page->fileName, "what was there before"));
     page->exportAnimate();
     QVERIFY(!page->button("Add Frame")->isEnabled());
     QVERIFY(finish(*page));
-    QCOMPARE(contentOf(page->fileName), "10" + QByteArray(1048, '0') + "11" + QByteArray(1048, '0'));
+    QCOMPARE(readText(page->fileName), "10" + QByteArray(1048, '0') + "11" + QByteArray(1048, '0'));
     QCOMPARE(page->dataFile(), page->fileName);
     QCOMPARE(page->progressBar()->value(), 100);
     QCOMPARE(QDir().entryList(QDir::Files), QStringList{"out.csv"});
@@ -172,21 +147,21 @@ void TestCanvasFiles::fullDiskKeepsTheOldFile()
     page->addFrame();
     page->saveAnimate();
     QVERIFY(finish(*page));
-    const QByteArray before = contentOf(QLatin1String(kDataFile));
+    const QByteArray before = readText(QLatin1String(kDataFile));
     draw(*page, 2);
     {
         const FullDisk full(1000); // the second frame finds no room
         page->saveAnimate();
         QVERIFY(finish(*page));
     }
-    QCOMPARE(contentOf(QLatin1String(kDataFile)), before);
+    QCOMPARE(readText(QLatin1String(kDataFile)), before);
     QCOMPARE(QDir().entryList(QDir::Files).count(), 1);
     QCOMPARE(page->progressBar()->value(), -1);
     QVERIFY(page->notice().startsWith(QStringLiteral("The file cannot be written")));
     QVERIFY(!page->button("Write Animate")->isEnabled());
     page->saveAnimate();
     QVERIFY(finish(*page));
-    QVERIFY(contentOf(QLatin1String(kDataFile)) != before);
+    QVERIFY(readText(QLatin1String(kDataFile)) != before);
     QVERIFY(page->button("Write Animate")->isEnabled());
     QVERIFY(page->notice().isEmpty());
 }
@@ -231,7 +206,7 @@ void TestCanvasFiles::dialogFailures()
     page->exportAnimate();
     page->importAnimate();
     page->fileName = QStringLiteral("empty.csv");
-    writeFile(page->fileName, {});
+    QVERIFY(writeText(page->fileName, {}));
     page->importAnimate();
     QCOMPARE(page->warnings, (QStringList{"No file path selected.", "No file path selected.", "File is null."}));
     QVERIFY(page->dataFile().isEmpty() && page->busyEvents.isEmpty());

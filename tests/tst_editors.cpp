@@ -1,22 +1,11 @@
-#include <QFile>
 #include <QTemporaryDir>
 #include <QtTest>
 
 #include "ledmatrix/matrixform.h"
-#include "page/Nightloom/matrixeditor.h"
+#include "support/matrixcells.h"
+#include "support/textfile.h"
 
 namespace {
-
-QByteArray contentOf(const QString &fileName)
-{
-    QFile file(fileName);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(cannot be opened)");
-}
-
-QPoint middle(const MatrixEditor &editor, MatrixCell cell)
-{
-    return editor.geometry().cellRect(cell).center();
-}
 
 void drag(MatrixEditor &editor, QPoint from, QPoint to)
 {
@@ -24,11 +13,6 @@ void drag(MatrixEditor &editor, QPoint from, QPoint to)
     QMouseEvent move(QEvent::MouseMove, to, editor.mapToGlobal(to), Qt::NoButton, Qt::LeftButton, {});
     QApplication::sendEvent(&editor, &move);
     QTest::mouseRelease(&editor, Qt::LeftButton, {}, to);
-}
-
-int litCells(const MatrixEditor &editor)
-{
-    return static_cast<int>(editor.frame().digits().count('1'));
 }
 
 } // namespace
@@ -215,7 +199,7 @@ void TestEditors::editorAppendsToItsFile()
     QVERIFY(editor.appendFrameToFile());
     QTest::mouseClick(&editor, Qt::LeftButton, {}, middle(editor, {0, 1}));
     QVERIFY(editor.appendFrameToFile());
-    QCOMPARE(contentOf(QStringLiteral("frames.csv")),
+    QCOMPARE(readText(QStringLiteral("frames.csv")),
              QByteArray(949, '0') + QByteArray("01") + QByteArray(947, '0')); // no line end, no separator
     editor.setDataFile(QStringLiteral("missing/frames.csv"));
     QVERIFY(!editor.appendFrameToFile());

@@ -9,6 +9,7 @@
 #include "page/Nightloom/matrixeditor.h"
 #include "page/Nightloom/pageledmatrixtext.h"
 #include "page/Nightloom/textwidget.h"
+#include "support/datarow.h"
 #include "support/deskfixture.h"
 #include "usb-hid/hidtransport.h"
 
@@ -49,15 +50,12 @@ private:
 void TestLedText::init()
 {
     m_desk = std::make_unique<DeskFixture>();
-    matrixForm = kTaperingForm;
     reopenHid();
 }
 
 void TestLedText::cleanup()
 {
     ledWorkThread::shutDown();
-    closeHid();
-    matrixForm = kTaperingForm;
     m_desk.reset();
 }
 
@@ -201,12 +199,9 @@ void TestLedText::textThatFails_data()
 {
     QTest::addColumn<QString>("fault");
     QTest::addColumn<QString>("notice");
-    QTest::newRow("no text") << "no text"
-                             << "There is no text yet.";
-    QTest::newRow("the file cannot be written") << "folder"
-                                                << "The file cannot be written";
-    QTest::newRow("pulled out") << "pulled out"
-                                << "";
+    row("no text", "no text", "There is no text yet.");
+    row("the file cannot be written", "folder", "The file cannot be written");
+    row("pulled out", "pulled out", "");
 }
 
 void TestLedText::textThatFails()

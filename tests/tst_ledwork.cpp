@@ -17,12 +17,10 @@
 #include "page/Nightloom/matrixformsetting.h"
 #include "page/Nightloom/pageledsystem.h"
 #include "page/engine/optiongrouprow.h"
-#include "support/deskfixture.h"
+#include "support/accessoryfixture.h"
+#include "support/textfile.h"
 #include "usb-hid/hidtransport.h"
-#include "virtualdesk/accessorypanel.h"
-#include "virtualdesk/matrixview.h"
 
-using virtualdesk::AccessoryPanel;
 using virtualdesk::kForEver;
 
 namespace {
@@ -69,7 +67,7 @@ QStringList dots(const ClockRenderer &renderer, int form)
 
 } // namespace
 
-class TestLedWork : public QObject
+class TestLedWork : public AccessoryFixture
 {
     Q_OBJECT
 private Q_SLOTS:
@@ -92,15 +90,12 @@ private Q_SLOTS:
     void writeErrorsAreLogged();
     void clockSwitch();
     void formIsChosenAndLoaded();
-    void panelShowsTheAccessory();
 
 private:
-    virtualdesk::SimulatedAccessory &accessory() { return m_desk->desk.accessory(); }
     void makePage();
     void release(SliderWidget *slider, int value);
     QList<QByteArray> takeWrites();
 
-    std::unique_ptr<DeskFixture> m_desk;
     std::unique_ptr<CommandQueue> m_queue;
     std::unique_ptr<pageLEDSystem> m_page;
     ledWorkThread *m_worker = nullptr;
@@ -109,11 +104,10 @@ private:
 
 void TestLedWork::init()
 {
-    m_desk = std::make_unique<DeskFixture>();
+    AccessoryFixture::init();
     m_worker = ledWorkThread::instance();
     m_connected = true;
-    reopenHid();
-    m_desk->takeLog();
+    connectDevice();
 }
 
 void TestLedWork::cleanup()
@@ -122,8 +116,8 @@ void TestLedWork::cleanup()
     m_worker->setSource(nullptr);
     m_page.reset();
     m_queue.reset();
-    const int faults = accessory().protocolFaults() + accessory().handleFaults();
-    m_desk.reset();
+    const int faults = accessory().protocolFaults();
+    AccessoryFixture::cleanup();
     QCOMPARE(faults, 0);
 }
 
@@ -254,10 +248,7 @@ void TestLedWork::noRequestIsLost()
 
 void TestLedWork::textUploadEndsTheClock()
 {
-    QFile file{QLatin1String(ledWorkThread::kTextFile)};
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(QByteArray(949, '1'));
-    file.close();
+    QVERIFY(writeText(QLatin1String(ledWorkThread::kTextFile), QByteArray(949, '1')));
     QSignalSpy progress(m_worker, &ledWorkThread::progress);
     m_worker->begin(ledWorkThread::ClockLoop);
     QTRY_VERIFY(accessory().state().liveFrames > 0);
@@ -272,10 +263,7 @@ void TestLedWork::textUploadEndsTheClock()
 
 void TestLedWork::shutDownEndsAnUpload()
 {
-    QFile file{QLatin1String(ledWorkThread::kTextFile)};
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(QByteArray(56 * 13930, '1'));
-    file.close();
+    QVERIFY(writeText(QLatin1String(ledWorkThread::kTextFile), QByteArray(56 * 13930, '1')));
     QSemaphore begun;
     const int listener = accessory().addListener([this, &begun] {
         if (accessory().state().upload.received == 5)
@@ -392,38 +380,6 @@ void TestLedWork::formIsChosenAndLoaded()
         loadMatrixForm();
         QCOMPARE(matrixForm.load(), loaded);
     }
-}
-
-void TestLedWork::panelShowsTheAccessory()
-{
-    AccessoryPanel panel(m_desk->desk);
-    panel.show();
-    QCOMPARE(panel.matrix()->litCells(), 0);
-    const auto button = [&panel](const char *name) { return panel.findChild<QPushButton *>(QLatin1String(name)); };
-    accessory().setForm(1);
-    matrixForm = 1;
-    m_worker->sendData(std::vector<std::int32_t>(1050, 1));
-    QTRY_COMPARE(panel.matrix()->litCells(), 1050);
-    QVERIFY(button("form")->isChecked());
-    button("unplug")->click();
-    QVERIFY(!accessory().isPlugged());
-    QTRY_COMPARE(panel.matrix()->litCells(), 0);
-    button("unplug")->click();
-    clearHidFlags();
-    reopenHid();
-    button("refuse")->click();
-    AccessoryReport report;
-    buildLiveStop(report);
-    QCOMPARE(writeHid(report), HidWrite::Failed);
-    button("refuse")->click();
-    clearHidFlags();
-    reopenHid();
-    button("pull")->click();
-    for (int i = 1; i <= 8; ++i)
-        QCOMPARE(writeHid(report), i < 8 ? HidWrite::Done : HidWrite::Failed);
-    QTRY_VERIFY(button("unplug")->isChecked());
-    QVERIFY(!button("pull")->isChecked());
-    QCOMPARE(panel.values().size(), 8);
 }
 
 QTEST_MAIN(TestLedWork)

@@ -1,38 +1,23 @@
 #include <QCloseEvent>
-#include <QMessageBox>
 #include <QtTest>
 
-#include "PictureAudioCom/soundanalyzer.h"
 #include "controls/lefttabbutton.h"
 #include "controls/sliderwidget.h"
-#include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/displayenumeration.h"
 #include "ddc_protocol/transport.h"
-#include "following/followlist.h"
 #include "leftbar.h"
-#include "mainwindow.h"
-#include "page/BasicSetting/hotkeyoverlay.h"
-#include "page/Nightloom/ledworkthread.h"
-#include "page/Nightloom/pageledmusic.h"
 #include "page/Scene/pagescenesetting.h"
 #include "page/emptypage.h"
 #include "page/engine/optiongrouprow.h"
 #include "page/engine/page.h"
-#include "platform/nativemessage.h"
-#include "searchdevicedlg.h"
-#include "shortcut/shortcutlist.h"
-#include "support/deskfixture.h"
+#include "support/windowfixture.h"
 #include "toptab.h"
 #include "toptabframe.h"
-#include "usb-hid/hidtransport.h"
 
-using namespace std::chrono_literals;
-
-class TestMainWindow : public QObject
+class TestMainWindow : public WindowFixture
 {
     Q_OBJECT
 private Q_SLOTS:
-    void cleanup();
     void constructionSendsNothing();
     void openingFamily_data();
     void openingFamily();
@@ -50,56 +35,11 @@ private Q_SLOTS:
     void reconnectShowsTheMonitorsState();
     void unpluggingAndPlugging();
     void keyboardWalksTheTabs();
-    void hotKeysShow();
-    void followedScenesShow();
-    void refusedHotKeyIsNotKept();
-    void accessoryIsOpenedAndFollowed();
-    void missingAccessoryIsTold();
-    void busyModeStopsTheWorker();
-    void busyModeInterruptsMusic();
 
 private:
-    void start(
-        int scene, std::size_t monitor = 0, const std::function<void()> &prepare = [] {});
-    LeftTabButton *entry(int family, const char *label) const;
     QStringList shownTexts(const QWidget *page) const;
     QString status() const;
-
-    std::unique_ptr<DeskFixture> m_desk;
-    std::unique_ptr<SearchDeviceDlg> m_session;
-    std::unique_ptr<MainWindow> m_window;
 };
-
-void TestMainWindow::start(int scene, std::size_t monitor, const std::function<void()> &prepare)
-{
-    m_desk = std::make_unique<DeskFixture>();
-    m_desk->monitor(monitor).setValue(0x22, static_cast<std::uint16_t>(scene));
-    if (monitor != 0)
-        m_desk->desk.unplug(0);
-    m_session = std::make_unique<SearchDeviceDlg>();
-    m_session->searchDevices();
-    m_desk->takeCommands(monitor);
-    prepare();
-    m_window = std::make_unique<MainWindow>(*m_session);
-    m_window->show();
-}
-
-void TestMainWindow::cleanup()
-{
-    m_window.reset();
-    QVERIFY(!MainWindow::instance());
-    m_session.reset();
-    m_desk.reset();
-}
-
-LeftTabButton *TestMainWindow::entry(int family, const char *label) const
-{
-    for (LeftTabButton *button : m_window->leftBar(family)->buttons()) {
-        if (button->caption() == QLatin1String(label))
-            return button;
-    }
-    return nullptr;
-}
 
 QStringList TestMainWindow::shownTexts(const QWidget *page) const
 {
@@ -254,7 +194,7 @@ void TestMainWindow::unreadableBlockIsTriedOnce()
     start(9);
     m_desk->monitor().setValue(0x22, 10); // by the monitor's own buttons
     m_desk->monitor().dropChunks(virtualdesk::kForEver);
-    m_session->delayedSearchDevices();
+    m_desk->session().delayedSearchDevices();
     QVERIFY(m_desk->takeCommands().contains("R 0a"));
     for (int round = 0; round < 5; ++round)
         m_desk->clock.advance(platform::milliseconds(200)); // the reconnections that follow a failed block
@@ -307,7 +247,7 @@ void TestMainWindow::reconnectShowsTheMonitorsState()
     QCOMPARE(status(), QStringLiteral("1. Q27-OLED no answer"));
     QCOMPARE(m_desk->clock.takeWaits(), (QList<int>{100, 100})); // the write's own; the window does not wait on top
     m_desk->monitor().recover();
-    m_session->delayedSearchDevices();
+    m_desk->session().delayedSearchDevices();
     QCOMPARE(status(), QStringLiteral("1. Q27-OLED connected"));
     QVERIFY(entry(0, "Movie Mode")->isChecked()); // what the monitor says is on
     QVERIFY(!m_window->scenePage()->isDefaultView());
@@ -336,121 +276,6 @@ void TestMainWindow::keyboardWalksTheTabs()
     QTest::keyClick(tabs[2], Qt::Key_Space);
     QCOMPARE(m_window->tabs()->current(), 2);
     QVERIFY(tabs[2]->accessibleName() == "Color Space");
-}
-
-void TestMainWindow::hotKeysShow()
-{
-    start(10, 0, [] {
-        saveShortcuts({true, {{12, true, QStringLiteral("Ctrl+B"), {}}, {16, true, QStringLiteral("Ctrl+G"), {}}}});
-    });
-    m_desk->clock.advance(200ms);
-    CommandQueue *queue = m_window->findChild<CommandQueue *>();
-    queue->post(Command::Brightness, 40); // a drag's last value goes out before the key asks
-    m_desk->takeCommands();
-    m_desk->desk.pressKey(platform::kModifierControl, 'B');
-    QCOMPARE(m_desk->monitor().value(0x10), std::uint16_t(50));
-    QCOMPARE(m_window->scenePage()->slider("Brightness")->slider()->value(), 50);
-    QVERIFY(m_window->overlay()->isShown());
-    QCOMPARE(m_window->overlay()->text(), QStringLiteral("Brightness: 50"));
-
-    m_desk->monitor().setValue(0x26, 0);
-    m_desk->clock.advance(200ms);
-    m_desk->desk.pressKey(platform::kModifierControl, 'G');
-    const QString option = m_window->scenePage()->optionGroup(Command::Gamma)->buttonOf(1)->text().trimmed();
-    QCOMPARE(m_window->overlay()->text(), QStringLiteral("Gamma: ") + option); // as the page calls it
-    QVERIFY(m_window->scenePage()->optionGroup(Command::Gamma)->buttonOf(1)->isChecked());
-}
-
-void TestMainWindow::followedScenesShow()
-{
-    start(10, 0, [] { saveFollowList({{QStringLiteral("D:/Games/Night Race/NightRace.exe"), 6}}); });
-    m_desk->desk.applications().bringToFront(1);
-    QCOMPARE(m_desk->monitor().value(0x22), std::uint16_t(13));
-    QVERIFY(entry(0, "Night Mode")->isChecked());
-}
-
-void TestMainWindow::accessoryIsOpenedAndFollowed()
-{
-    start(10);
-    virtualdesk::SimulatedAccessory &accessory = m_desk->desk.accessory();
-    QVERIFY(hidHandle);
-    QCOMPARE(accessory.handlesOpen(), 1);
-    accessory.setPlugged(false);
-    QVERIFY(hidHandle); // nobody noticed yet
-    accessory.setPlugged(true);
-    AccessoryReport report;
-    buildLiveStop(report);
-    QCOMPARE(writeHid(report), HidWrite::Done); // the arrival opened it anew
-    QCOMPARE(accessory.handlesOpen(), 1);
-    m_window.reset();
-    QVERIFY(!hidHandle);
-    QCOMPARE(accessory.handlesOpen() + accessory.handleFaults(), 0);
-}
-
-void TestMainWindow::missingAccessoryIsTold()
-{
-    start(10);
-    QVERIFY(m_window->ensureHidConnected());
-    m_desk->desk.accessory().setPlugged(false);
-    for (int i = 0; i < 2; ++i) { // every time
-        QStringList box;
-        QTimer::singleShot(0, this, [&box] {
-            const auto *shown = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-            QVERIFY(shown);
-            QCOMPARE(shown->icon(), QMessageBox::Warning);
-            QVERIFY(shown->styleSheet().startsWith("QMessageBox {background-color: #101611;}QLabel{ color: white;}"));
-            box = {shown->windowTitle(), shown->text()};
-            for (QAbstractButton *button : shown->buttons())
-                box.append(button->text());
-            shown->buttons().first()->click();
-        });
-        QVERIFY(!m_window->ensureHidConnected());
-        QCOMPARE(box, (QStringList{"Warning", "No Type-C data cable or HDMI/DP + USB data cable connected.", "OK"}));
-    }
-    m_desk->desk.accessory().setPlugged(true);
-    QVERIFY(m_window->ensureHidConnected());
-}
-
-void TestMainWindow::busyModeStopsTheWorker()
-{
-    start(10);
-    ledWorkThread *worker = ledWorkThread::instance();
-    worker->begin(ledWorkThread::ClockLoop);
-    QTRY_VERIFY(m_desk->desk.accessory().state().liveFrames > 0);
-    m_window->setInterfaceMode(kBusy);
-    QCOMPARE(worker->state(), ledWorkThread::Stopped);
-    QVERIFY(worker->wait(10000));
-    worker->begin(ledWorkThread::ClockLoop);
-    m_window.reset(); // the program's end
-    QVERIFY(worker->isFinished());
-}
-
-void TestMainWindow::refusedHotKeyIsNotKept()
-{
-    start(10, 0, [] { saveShortcuts({true, {{1, true, QStringLiteral("Ctrl+1"), {}}}}); });
-    m_desk->clock.advance(200ms);
-    m_desk->monitor().refuseWrites(4); // the command with its retry
-    m_desk->desk.pressKey(platform::kModifierControl, '1');
-    m_desk->clock.advance(10s);
-    QCOMPARE(m_desk->monitor().value(0x22), std::uint16_t(10));
-    QCOMPARE(deviceState.value(Command::SceneMode), 10); // what is on
-    QVERIFY(entry(0, "Movie Mode")->isChecked());
-    QVERIFY(!m_window->overlay()->text().contains(QStringLiteral("parameters")));
-}
-
-void TestMainWindow::busyModeInterruptsMusic()
-{
-    start(10);
-    SoundAnalyzer &analyzer = SoundAnalyzer::instance();
-    auto *music = qobject_cast<pageLEDMusic *>(m_window->page(PageId::LedMusic)->widget());
-    music->switchOptions()->buttonOf(1)->click();
-    QTRY_VERIFY(analyzer.isCapturing());
-    m_window->setInterfaceMode(kBusy);
-    QTRY_VERIFY(!analyzer.isRunning());
-    m_window->setInterfaceMode(kBusyEnded);
-    QTRY_VERIFY(analyzer.isCapturing());
-    m_window.reset(); // the program's end
-    QVERIFY(analyzer.isFinished());
 }
 
 QTEST_MAIN(TestMainWindow)

@@ -16,8 +16,7 @@
 #include "page/IO/pageiosetting.h"
 #include "page/Office/pageoffice.h"
 #include "page/engine/optiongrouprow.h"
-#include "searchdevicedlg.h"
-#include "support/deskfixture.h"
+#include "support/sessiondesk.h"
 
 using virtualdesk::kForEver;
 
@@ -54,17 +53,14 @@ private:
     QPushButton *button(int which, const QString &name) { return page(which)->findChild<QPushButton *>(name); }
     void settle();
 
-    std::unique_ptr<DeskFixture> m_desk;
-    std::unique_ptr<SearchDeviceDlg> m_session;
+    std::unique_ptr<SessionDesk> m_desk;
     std::unique_ptr<CommandQueue> m_queue;
     std::map<int, std::unique_ptr<PanelPage>> m_pages;
 };
 
 void TestPages::init()
 {
-    m_desk = std::make_unique<DeskFixture>();
-    m_session = std::make_unique<SearchDeviceDlg>();
-    m_session->searchDevices();
+    m_desk = std::make_unique<SessionDesk>();
     m_queue = std::make_unique<CommandQueue>();
     m_desk->takeCommands();
 }
@@ -73,7 +69,6 @@ void TestPages::cleanup()
 {
     m_pages.clear();
     m_queue.reset();
-    m_session.reset();
     m_desk.reset();
 }
 
@@ -87,7 +82,7 @@ PanelPage *TestPages::page(int which)
     else if (!page && which == Io)
         page = std::make_unique<pageIOSetting>(*m_queue);
     else if (!page)
-        page = std::make_unique<pageSystemSetting>(*m_session, *m_queue);
+        page = std::make_unique<pageSystemSetting>(m_desk->session(), *m_queue);
     return page.get();
 }
 

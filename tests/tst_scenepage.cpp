@@ -9,8 +9,8 @@
 #include "page/Scene/pagescenesetting.h"
 #include "page/Scene/scenetable.h"
 #include "page/engine/optiongrouprow.h"
-#include "searchdevicedlg.h"
-#include "support/deskfixture.h"
+#include "support/datarow.h"
+#include "support/sessiondesk.h"
 
 class TestScenePage : public QObject
 {
@@ -41,37 +41,30 @@ private Q_SLOTS:
     void unknownGroupIsIgnored();
 
 private:
-    void start(int scene, std::size_t monitor = 0);
+    void start(int scene);
     QPushButton *option(Command command, int value) const { return m_page->optionGroup(command)->buttonOf(value); }
     QPushButton *half(const char *label) const;
     void press(const char *slider, int value);
 
-    std::unique_ptr<DeskFixture> m_desk;
-    std::unique_ptr<SearchDeviceDlg> m_session;
+    std::unique_ptr<SessionDesk> m_desk;
     std::unique_ptr<CommandQueue> m_queue;
     std::unique_ptr<pageSceneSetting> m_page;
 };
 
-void TestScenePage::start(int scene, std::size_t monitor)
+void TestScenePage::start(int scene)
 {
-    m_desk = std::make_unique<DeskFixture>();
-    m_desk->monitor(monitor).setValue(0x22, static_cast<std::uint16_t>(scene));
-    if (monitor != 0)
-        m_desk->desk.unplug(0);
-    m_session = std::make_unique<SearchDeviceDlg>();
-    m_session->searchDevices();
+    m_desk = std::make_unique<SessionDesk>(scene);
     m_queue = std::make_unique<CommandQueue>();
-    m_page = std::make_unique<pageSceneSetting>(*m_session, *m_queue);
+    m_page = std::make_unique<pageSceneSetting>(m_desk->session(), *m_queue);
     m_page->resize(1000, 680);
     m_page->show();
-    m_desk->takeCommands(monitor);
+    m_desk->takeCommands();
 }
 
 void TestScenePage::cleanup()
 {
     m_page.reset();
     m_queue.reset();
-    m_session.reset();
     QCOMPARE(m_desk->monitor().protocolFaults().total(), 0);
     m_desk.reset();
 }
@@ -126,18 +119,12 @@ void TestScenePage::optionsSend_data()
     QTest::addColumn<int>("command");
     QTest::addColumn<QString>("label");
     QTest::addColumn<QString>("sent");
-    QTest::newRow("dimming is numbered from 2") << 0x47 << "Close"
-                                                << "W 47=2";
-    QTest::newRow("grey response from 0") << 0x49 << "Close"
-                                          << "W 49=0";
-    QTest::newRow("motion, a label within another") << 0x48 << "Ull-Level1"
-                                                    << "W 48=6";
-    QTest::newRow("gamma leaves 6 out") << 0x26 << "CAD/CAM"
-                                        << "W 26=7";
-    QTest::newRow("last temperature") << 0x14 << "User3"
-                                      << "W 14=10";
-    QTest::newRow("switch") << 0xDA << "Open"
-                            << "W da=1";
+    row("dimming is numbered from 2", 0x47, "Close", "W 47=2");
+    row("grey response from 0", 0x49, "Close", "W 49=0");
+    row("motion, a label within another", 0x48, "Ull-Level1", "W 48=6");
+    row("gamma leaves 6 out", 0x26, "CAD/CAM", "W 26=7");
+    row("last temperature", 0x14, "User3", "W 14=10");
+    row("switch", 0xDA, "Open", "W da=1");
 }
 
 void TestScenePage::optionsSend()
@@ -168,11 +155,11 @@ void TestScenePage::slidersSend_data()
     QTest::addColumn<int>("value");
     QTest::addColumn<QString>("sent");
     QTest::addColumn<bool>("onlyOnRelease");
-    QTest::newRow("Brightness") << "Brightness" << 73 << "W 10=73" << false;
-    QTest::newRow("CR Enhance") << "CR Enhance" << 5 << "W 41=5" << true;
-    QTest::newRow("Color Enchance") << "Color Enchance" << 4 << "W 40=4" << true;
-    QTest::newRow("Saturation") << "Saturation_M" << 9 << "W 5e=9" << false;
-    QTest::newRow("Hue") << "Hue_Y" << 9 << "W 9c=9" << false;
+    row("Brightness", "Brightness", 73, "W 10=73", false);
+    row("CR Enhance", "CR Enhance", 5, "W 41=5", true);
+    row("Color Enchance", "Color Enchance", 4, "W 40=4", true);
+    row("Saturation", "Saturation_M", 9, "W 5e=9", false);
+    row("Hue", "Hue_Y", 9, "W 9c=9", false);
 }
 
 void TestScenePage::slidersSend()

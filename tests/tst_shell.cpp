@@ -7,22 +7,11 @@
 #include "ddc_protocol/scenemodes.h"
 #include "ddc_protocol/settingsstore.h"
 #include "globalapplication.h"
+#include "support/datarow.h"
 #include "support/deskfixture.h"
+#include "support/textfile.h"
 
 namespace {
-
-void write(const QString &name, const QByteArray &content)
-{
-    QFile file(name);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
-}
-
-QByteArray content(const QString &name)
-{
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 void log(QtMsgType type, const char *text)
 {
@@ -76,7 +65,7 @@ void TestShell::logLines()
     QFETCH(QByteArray, start);
     m_desk->clock.setNow(QDateTime(QDate(2024, 3, 9), QTime(23, 5, 7, 45)));
     log(QtMsgType(type), "100 %1 of %4 \xC3\xA9");
-    QCOMPARE(content("QUORVEL_2024-03-09.log"),
+    QCOMPARE(readText("QUORVEL_2024-03-09.log"),
              start + "src/file.cpp) L:(42) \t2024-03-09 23:05:07.045 \t100 %1 of %4 \xC3\xA9\r\n");
 }
 
@@ -86,8 +75,8 @@ void TestShell::logChangesFileAtMidnight()
     log(QtDebugMsg, "late");
     m_desk->clock.sleep(platform::milliseconds(2));
     log(QtDebugMsg, "early");
-    QVERIFY(content("QUORVEL_2024-03-09.log").endsWith("late\r\n"));
-    QVERIFY(content("QUORVEL_2024-03-10.log").contains("2024-03-10 00:00:00.001 \tearly"));
+    QVERIFY(readText("QUORVEL_2024-03-09.log").endsWith("late\r\n"));
+    QVERIFY(readText("QUORVEL_2024-03-10.log").contains("2024-03-10 00:00:00.001 \tearly"));
 }
 
 void TestShell::logFromManyThreads()
@@ -101,7 +90,7 @@ void TestShell::logFromManyThreads()
     }
     for (std::thread &thread : threads)
         thread.join();
-    const QByteArrayList lines = content("QUORVEL_2024-03-09.log").split('\n');
+    const QByteArrayList lines = readText("QUORVEL_2024-03-09.log").split('\n');
     QCOMPARE(lines.size(), 8 * 50 + 1);
     for (const QByteArray &line : lines.first(8 * 50))
         QVERIFY(line.startsWith("Debug:  (") && line.endsWith("\ta line that must stay whole\r"));
@@ -121,27 +110,17 @@ void TestShell::languagePrefixes_data()
 {
     QTest::addColumn<QString>("code");
     QTest::addColumn<QString>("file");
-    QTest::newRow("zh_TW") << "zh_TW"
-                           << "zh_TW";
-    QTest::newRow("zh_TW.Big5") << "zh_TW.Big5"
-                                << "zh_TW";
-    QTest::newRow("zh_HK") << "zh_HK"
-                           << "zh_CN";
-    QTest::newRow("zh") << "zh"
-                        << "zh_CN";
-    QTest::newRow("en_GB") << "en_GB"
-                           << "en_us";
-    QTest::newRow("ja_JP") << "ja_JP"
-                           << "ja_JP";
-    QTest::newRow("ja alone") << "ja"
-                              << "en_us";
-    QTest::newRow("case matters") << "ZH_tw"
-                                  << "en_us";
-    QTest::newRow("unknown") << "xx"
-                             << "en_us";
-    QTest::newRow("empty") << ""
-                           << "en_us";
-    QTest::newRow("a megabyte") << "zh_TW" + QString(1 << 20, 'x') << "zh_TW";
+    row("zh_TW", "zh_TW", "zh_TW");
+    row("zh_TW.Big5", "zh_TW.Big5", "zh_TW");
+    row("zh_HK", "zh_HK", "zh_CN");
+    row("zh", "zh", "zh_CN");
+    row("en_GB", "en_GB", "en_us");
+    row("ja_JP", "ja_JP", "ja_JP");
+    row("ja alone", "ja", "en_us");
+    row("case matters", "ZH_tw", "en_us");
+    row("unknown", "xx", "en_us");
+    row("empty", "", "en_us");
+    row("a megabyte", "zh_TW" + QString(1 << 20, 'x'), "zh_TW");
 }
 
 void TestShell::languagePrefixes()
@@ -200,7 +179,7 @@ void TestShell::damagedSettings_data()
 void TestShell::damagedSettings()
 {
     QFETCH(QByteArray, file);
-    write("config.ini", file);
+    QVERIFY(writeText("config.ini", file));
     QTEST(settingsInt(kDeviceIndexKey, 0, false), "index");
     QTEST(languageSetting(false), "language");
 }
@@ -208,10 +187,10 @@ void TestShell::damagedSettings()
 void TestShell::damagedSettingsAreKept()
 {
     const QByteArray foreign = "a file of somebody else\n[PCSeting]\nDeviceIndex=1\n";
-    write("config.ini", foreign);
+    QVERIFY(writeText("config.ini", foreign));
     settingsInt(kDeviceIndexKey, 3, true);
     QCOMPARE(settingsInt(kDeviceIndexKey, 0, false), 3);
-    QCOMPARE(content("config.ini.bad"), foreign);
+    QCOMPARE(readText("config.ini.bad"), foreign);
 }
 
 void TestShell::unwritableSettingsAreReported()

@@ -40,6 +40,51 @@ bool deliverHotKey(std::uint32_t modifiers, std::uint32_t key)
     return virtualdesk::deliverNativeMessage(message);
 }
 
+// clang-format off
+/// A key pressed while the monitor has these values, as "code=value", and the commands that follow.
+struct Step { int function; int direction; const char *values; const char *commands; bool rests = true; };
+constexpr Step kSteps[] = {
+    {0, kPlus, "", "W 22=1"}, {10, kMinus, "", "W 22=22"},
+    {11, kPlus, "", "W 22=29"}, {11, kMinus, "", "W 22=30"},
+    {12, kPlus, "10=40", "R 10,W 10=50"}, {12, kPlus, "10=95", "R 10,W 10=100"}, {12, kMinus, "10=5", "R 10,W 10=0"},
+    {13, kPlus, "12=100", "R 12,W 12=100"}, {13, kMinus, "12=100", "R 12,W 12=90"},
+    {14, kPlus, "14=10", "R 14,W 14=0"}, {14, kMinus, "14=0", "R 14,W 14=10"},
+    {15, kPlus, "d8=4", "R d8,W d8=4"}, {15, kMinus, "d8=0", "R d8,W d8=0"},
+    {16, kPlus, "26=4", "R 26,W 26=5"}, {16, kPlus, "26=5", "R 26,W 26=7"},
+    {16, kPlus, "26=6", "R 26,W 26=7"}, {16, kPlus, "26=7", "R 26,W 26=0"},
+    {16, kMinus, "26=7", "R 26,W 26=5"}, {16, kMinus, "26=6", "R 26,W 26=5"}, {16, kMinus, "26=0", "R 26,W 26=7"},
+    {17, kPlus, "41=5", "R 41,W 41=6"}, // beyond the page's slider, up to 10
+    {17, kPlus, "41=10", "R 41,W 41=0"}, {17, kMinus, "41=0", "R 41,W 41=10"},
+    {18, kPlus, "42=91", "R 42,W 42=100"}, {18, kMinus, "42=10", "R 42,W 42=0"},
+    {19, kPlus, "ec=3", "R ec,W ec=0"}, {19, kMinus, "ec=0", "R ec,W ec=3"},
+    {19, kPlus, "ec=4", "R ec,W ec=0"}, // the custom size, which keys do not choose
+    {20, kPlus, "f1=3", "R f1,W f1=0"}, {20, kMinus, "f1=0", "R f1,W f1=3"},
+    {21, kPlus, "f2=2", "R f2,W f2=0"}, {21, kMinus, "f2=0", "R f2,W f2=2"},
+    {22, kPlus, "f8=5", "R f8,W f8=0"}, {22, kMinus, "f8=0", "R f8,W f8=5"},
+    {23, kPlus, "", "W f7=1"}, {23, kMinus, "", "W f7=0"},
+    {24, kPlus, "30=0 31=2", "R 30,R 31,W 31=3"}, {24, kMinus, "30=1 31=1", "R 30,R 31,W 31=0"},
+    {24, kPlus, "30=0 31=3", "R 30,R 31,W 31=0", false}, {24, kMinus, "30=0 31=0", "R 30,R 31,W 31=3", false},
+    {24, kPlus, "30=1 31=3", "R 30,R 31,W 30=0", false}, {24, kMinus, "30=1 31=0", "R 30,R 31,W 30=0", false},
+    {25, kPlus, "3d=0 34=1", "R 3d,R 34,W 34=1", false}, {25, kPlus, "3d=1 34=1", "R 3d,R 34,W 34=2"},
+    {25, kPlus, "3d=0 34=0", "R 3d,R 34,W 34=1"}, {25, kPlus, "3d=0 34=5", "R 3d,R 34,W 34=6"},
+    {25, kPlus, "3d=1 34=6", "R 3d,R 34,W 3d=0", false}, {25, kPlus, "3d=0 34=6", "R 3d,R 34,W 34=1", false},
+    {25, kMinus, "32=6", "R 32,W 32=7"}, {25, kMinus, "32=7", "R 32,W 32=0", false},
+    {26, kPlus, "3e=0 33=1", "R 3e,R 33,W 33=1", false}, {26, kPlus, "3e=1 33=3", "R 3e,R 33,W 33=4"},
+    {26, kPlus, "3e=1 33=4", "R 3e,R 33,W 3e=0", false}, {26, kPlus, "3e=0 33=4", "R 3e,R 33,W 33=1", false},
+    {26, kMinus, "35=2", "R 35,W 35=3"}, {26, kMinus, "35=3", "R 35,W 35=0", false},
+    {27, kPlus, "3f=0 36=1", "R 3f,R 36,W 36=2"}, // unlike the two before it
+    {27, kPlus, "3f=0 36=4", "R 3f,R 36,W 36=1", false}, {27, kPlus, "3f=1 36=4", "R 3f,R 36,W 3f=0", false},
+    {27, kMinus, "3f=1 37=3", "R 3f,R 37,W 37=0", false}, {27, kMinus, "3f=0 37=3", "R 3f,R 37,W 37=4"},
+    {28, kPlus, "", "W 63=1"}, {28, kMinus, "", "W 63=0"},
+    {29, kPlus, "45=4", "R 45,W 45=0"}, {29, kMinus, "45=0", "R 45,W 45=4"},
+    // No answer is -1, and the step goes on from there.
+    {12, kPlus, "10=?", "W 10=9"}, {12, kMinus, "10=?", "W 10=0"},
+    {14, kPlus, "14=?", "W 14=0"}, {14, kMinus, "14=?", "W 14=10"}, {16, kMinus, "26=?", "W 26=7"},
+    {27, kPlus, "3f=? 36=4", "R 36,W 3f=0", false}, // a switch that does not answer counts as on
+    {24, kMinus, "30=1 31=?", "R 30,W 31=65534"}, // the low 16 bits of -2
+};
+// clang-format on
+
 } // namespace
 
 class TestShortcut : public QObject
@@ -85,53 +130,10 @@ void TestShortcut::steps_data()
 {
     QTest::addColumn<int>("function");
     QTest::addColumn<int>("direction");
-    QTest::addColumn<QString>("values"); // what the monitor has, as "code=value"
+    QTest::addColumn<QString>("values");
     QTest::addColumn<QString>("commands");
     QTest::addColumn<bool>("rests");
-    // clang-format off
-    struct Case { int function; int direction; const char *values; const char *commands; bool rests = true; };
-    static constexpr Case kCases[] = {
-        {0, kPlus, "", "W 22=1"}, {10, kMinus, "", "W 22=22"},
-        {11, kPlus, "", "W 22=29"}, {11, kMinus, "", "W 22=30"},
-        {12, kPlus, "10=40", "R 10,W 10=50"}, {12, kPlus, "10=95", "R 10,W 10=100"}, {12, kMinus, "10=5", "R 10,W 10=0"},
-        {13, kPlus, "12=100", "R 12,W 12=100"}, {13, kMinus, "12=100", "R 12,W 12=90"},
-        {14, kPlus, "14=10", "R 14,W 14=0"}, {14, kMinus, "14=0", "R 14,W 14=10"},
-        {15, kPlus, "d8=4", "R d8,W d8=4"}, {15, kMinus, "d8=0", "R d8,W d8=0"},
-        {16, kPlus, "26=4", "R 26,W 26=5"}, {16, kPlus, "26=5", "R 26,W 26=7"},
-        {16, kPlus, "26=6", "R 26,W 26=7"}, {16, kPlus, "26=7", "R 26,W 26=0"},
-        {16, kMinus, "26=7", "R 26,W 26=5"}, {16, kMinus, "26=6", "R 26,W 26=5"}, {16, kMinus, "26=0", "R 26,W 26=7"},
-        {17, kPlus, "41=5", "R 41,W 41=6"}, // beyond the page's slider, up to 10
-        {17, kPlus, "41=10", "R 41,W 41=0"}, {17, kMinus, "41=0", "R 41,W 41=10"},
-        {18, kPlus, "42=91", "R 42,W 42=100"}, {18, kMinus, "42=10", "R 42,W 42=0"},
-        {19, kPlus, "ec=3", "R ec,W ec=0"}, {19, kMinus, "ec=0", "R ec,W ec=3"},
-        {19, kPlus, "ec=4", "R ec,W ec=0"}, // the custom size, which keys do not choose
-        {20, kPlus, "f1=3", "R f1,W f1=0"}, {20, kMinus, "f1=0", "R f1,W f1=3"},
-        {21, kPlus, "f2=2", "R f2,W f2=0"}, {21, kMinus, "f2=0", "R f2,W f2=2"},
-        {22, kPlus, "f8=5", "R f8,W f8=0"}, {22, kMinus, "f8=0", "R f8,W f8=5"},
-        {23, kPlus, "", "W f7=1"}, {23, kMinus, "", "W f7=0"},
-        {24, kPlus, "30=0 31=2", "R 30,R 31,W 31=3"}, {24, kMinus, "30=1 31=1", "R 30,R 31,W 31=0"},
-        {24, kPlus, "30=0 31=3", "R 30,R 31,W 31=0", false}, {24, kMinus, "30=0 31=0", "R 30,R 31,W 31=3", false},
-        {24, kPlus, "30=1 31=3", "R 30,R 31,W 30=0", false}, {24, kMinus, "30=1 31=0", "R 30,R 31,W 30=0", false},
-        {25, kPlus, "3d=0 34=1", "R 3d,R 34,W 34=1", false}, {25, kPlus, "3d=1 34=1", "R 3d,R 34,W 34=2"},
-        {25, kPlus, "3d=0 34=0", "R 3d,R 34,W 34=1"}, {25, kPlus, "3d=0 34=5", "R 3d,R 34,W 34=6"},
-        {25, kPlus, "3d=1 34=6", "R 3d,R 34,W 3d=0", false}, {25, kPlus, "3d=0 34=6", "R 3d,R 34,W 34=1", false},
-        {25, kMinus, "32=6", "R 32,W 32=7"}, {25, kMinus, "32=7", "R 32,W 32=0", false},
-        {26, kPlus, "3e=0 33=1", "R 3e,R 33,W 33=1", false}, {26, kPlus, "3e=1 33=3", "R 3e,R 33,W 33=4"},
-        {26, kPlus, "3e=1 33=4", "R 3e,R 33,W 3e=0", false}, {26, kPlus, "3e=0 33=4", "R 3e,R 33,W 33=1", false},
-        {26, kMinus, "35=2", "R 35,W 35=3"}, {26, kMinus, "35=3", "R 35,W 35=0", false},
-        {27, kPlus, "3f=0 36=1", "R 3f,R 36,W 36=2"}, // unlike the two before it
-        {27, kPlus, "3f=0 36=4", "R 3f,R 36,W 36=1", false}, {27, kPlus, "3f=1 36=4", "R 3f,R 36,W 3f=0", false},
-        {27, kMinus, "3f=1 37=3", "R 3f,R 37,W 37=0", false}, {27, kMinus, "3f=0 37=3", "R 3f,R 37,W 37=4"},
-        {28, kPlus, "", "W 63=1"}, {28, kMinus, "", "W 63=0"},
-        {29, kPlus, "45=4", "R 45,W 45=0"}, {29, kMinus, "45=0", "R 45,W 45=4"},
-        // No answer is -1, and the step goes on from there.
-        {12, kPlus, "10=?", "W 10=9"}, {12, kMinus, "10=?", "W 10=0"},
-        {14, kPlus, "14=?", "W 14=0"}, {14, kMinus, "14=?", "W 14=10"}, {16, kMinus, "26=?", "W 26=7"},
-        {27, kPlus, "3f=? 36=4", "R 36,W 3f=0", false}, // a switch that does not answer counts as on
-        {24, kMinus, "30=1 31=?", "R 30,W 31=65534"}, // the low 16 bits of -2
-    };
-    // clang-format on
-    for (const Case &each : kCases) {
+    for (const Step &each : kSteps) {
         QTest::addRow("%d%c %s", each.function, each.direction == kPlus ? '+' : '-', each.values)
             << each.function << each.direction << QString::fromLatin1(each.values) << QString::fromLatin1(each.commands)
             << each.rests;

@@ -7,7 +7,6 @@
 #include "controls/zelmarkeysequenceedit.h"
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/displayenumeration.h"
-#include "page/BasicSetting/hotkeyoverlay.h"
 #include "page/BasicSetting/pageshortcutkey.h"
 #include "page/BasicSetting/shortcutrow.h"
 #include "platform/nativemessage.h"
@@ -81,10 +80,10 @@ private Q_SLOTS:
     void factoryModeKeepsItsBlock();
     void unwritableFile();
     void killedWhileSaving();
-    void overlay();
 
 private:
     void start();
+    void start(const std::vector<ShortcutEntry> &entries);
     ShortcutRow *row(std::size_t index) const { return m_page->shortcutRows()[index]; }
     QPushButton *button(const char *name) const { return m_page->findChild<QPushButton *>(QLatin1String(name)); }
     QStringList press(std::uint32_t modifiers, char key);
@@ -111,6 +110,13 @@ void TestShortcutPage::start()
 {
     m_page = std::make_unique<TestedPage>();
     m_desk->clock.advance(200ms);
+}
+
+/// With these rows stored and all keys switched on.
+void TestShortcutPage::start(const std::vector<ShortcutEntry> &entries)
+{
+    QVERIFY(saveShortcuts({true, entries}));
+    start();
 }
 
 QStringList TestShortcutPage::press(std::uint32_t modifiers, char key)
@@ -146,27 +152,21 @@ void TestShortcutPage::loading_data()
             lines += "[" + QByteArray::number(i) + "]\nswitchStatus=on\n";
         return lines;
     };
-    QTest::newRow("no file") << QByteArray() << QList<int>() << 0;
-    QTest::newRow("unknown numbers") << QByteArray(
-                                            "[30]\nswitchStatus=on\n[-1]\nswitchStatus=on\n[x]\nswitchStatus=on\n"
-                                            "[07]\nswitchStatus=on\n")
-                                     << QList<int>() << 0;
-    QTest::newRow("missing keys") << QByteArray("[1]\nswitchStatus=on\n[2]\nplusKey=Ctrl+2\n") << QList<int>{1} << 0;
-    QTest::newRow("switch in other case") << QByteArray("[1]\nplusKey=Ctrl+1\nswitchStatus=ON\n") << QList<int>{1} << 0;
-    QTest::newRow("no keys at all") << QByteArray("[1]\nplusKey=Ctrl+Bogus\nsubKey=,,,\nswitchStatus=on\n")
-                                    << QList<int>{1} << 0;
-    QTest::newRow("several combinations")
-        << QByteArray("[1]\nplusKey=\"Ctrl+A, Ctrl+B\"\nswitchStatus=on\n") << QList<int>{1} << 1;
-    QTest::newRow("same key twice")
-        << QByteArray("[1]\nplusKey=Ctrl+1\nswitchStatus=on\n[2]\nplusKey=Ctrl+1\nsubKey=Ctrl+2\nswitchStatus=on\n")
-        << QList<int>{1, 2} << 2;
-    QTest::newRow("in list order") << QByteArray("[9]\nswitchStatus=on\n[10]\nswitchStatus=on\n[2]\nswitchStatus=off\n")
-                                   << QList<int>{2, 9, 10} << 0;
-    QTest::newRow("another program's file") << QByteArray("\x7f"
-                                                          "ELF\0\0\1\2\3\n<html>\n{ }\n",
-                                                          24)
-                                            << QList<int>() << 0;
-    QTest::newRow("very long") << many() << QList<int>{3} << 1;
+    const auto row = [](const char *name, const QByteArray &text, const QList<int> &functions, int keys) {
+        QTest::newRow(name) << text << functions << keys;
+    };
+    row("no file", "", {}, 0);
+    row("unknown numbers",
+        "[30]\nswitchStatus=on\n[-1]\nswitchStatus=on\n[x]\nswitchStatus=on\n[07]\nswitchStatus=on\n", {}, 0);
+    row("missing keys", "[1]\nswitchStatus=on\n[2]\nplusKey=Ctrl+2\n", {1}, 0);
+    row("switch in other case", "[1]\nplusKey=Ctrl+1\nswitchStatus=ON\n", {1}, 0);
+    row("no keys at all", "[1]\nplusKey=Ctrl+Bogus\nsubKey=,,,\nswitchStatus=on\n", {1}, 0);
+    row("several combinations", "[1]\nplusKey=\"Ctrl+A, Ctrl+B\"\nswitchStatus=on\n", {1}, 1);
+    row("same key twice", "[1]\nplusKey=Ctrl+1\nswitchStatus=on\n[2]\nplusKey=Ctrl+1\nsubKey=Ctrl+2\nswitchStatus=on\n",
+        {1, 2}, 2);
+    row("in list order", "[9]\nswitchStatus=on\n[10]\nswitchStatus=on\n[2]\nswitchStatus=off\n", {2, 9, 10}, 0);
+    row("another program's file", QByteArray::fromHex("7f454c460000010203") + "\n<html>\n{ }\n", {}, 0);
+    row("very long", many(), {3}, 1);
 }
 
 void TestShortcutPage::loading()
@@ -187,8 +187,7 @@ void TestShortcutPage::loading()
 void TestShortcutPage::keysReachTheMonitor()
 {
     m_desk->monitor().setValue(0x10, 95);
-    saveShortcuts({true, {{12, true, QStringLiteral("Ctrl+B"), QStringLiteral("Alt+B")}}});
-    start();
+    start({{12, true, QStringLiteral("Ctrl+B"), QStringLiteral("Alt+B")}});
     QCOMPARE(press(kControl, 'B'), (QStringList{"R 10", "W 10=100"}));
     QCOMPARE(press(kAlt, 'B'), (QStringList{"R 10", "W 10=90"}));
     m_desk->desk.pressKey(kAlt, 'B');
@@ -199,8 +198,7 @@ void TestShortcutPage::keysReachTheMonitor()
 
 void TestShortcutPage::rowSwitchGivesKeysBack()
 {
-    saveShortcuts({true, {{1, true, QStringLiteral("Ctrl+1"), QStringLiteral("Ctrl+2")}}});
-    start();
+    start({{1, true, QStringLiteral("Ctrl+1"), QStringLiteral("Ctrl+2")}});
     QCOMPARE(m_desk->desk.hotKeys().count(), std::size_t(2));
     row(0)->switchButton()->click();
     QCOMPARE(m_desk->desk.hotKeys().count(), std::size_t(0));
@@ -213,8 +211,7 @@ void TestShortcutPage::rowSwitchGivesKeysBack()
 
 void TestShortcutPage::masterSwitchRestsAllKeys()
 {
-    saveShortcuts({true, {{1, true, QStringLiteral("Ctrl+1"), {}}}});
-    start();
+    start({{1, true, QStringLiteral("Ctrl+1"), {}}});
     button("pushButton")->click();
     QVERIFY(readText(kFile).contains("[basicMode]\nswitchStatus=off"));
     QCOMPARE(press(kControl, '1'), QStringList());
@@ -225,8 +222,7 @@ void TestShortcutPage::masterSwitchRestsAllKeys()
 
 void TestShortcutPage::conflictEmptiesTheField()
 {
-    saveShortcuts({true, {{1, true, QStringLiteral("Ctrl+1"), {}}, {2, true, {}, {}}}});
-    start();
+    start({{1, true, QStringLiteral("Ctrl+1"), {}}, {2, true, {}, {}}});
     QTest::keyClick(row(1)->minusEdit(), Qt::Key_1, Qt::ControlModifier);
     QCOMPARE(m_page->conflicts, 1);
     QCOMPARE(row(1)->minusEdit()->text(), QString());
@@ -240,8 +236,7 @@ void TestShortcutPage::conflictEmptiesTheField()
 void TestShortcutPage::refusedKeysAreShown()
 {
     m_desk->desk.hotKeys().take(kControl, 'K');
-    saveShortcuts({true, {{1, true, QStringLiteral("Ctrl+K"), QStringLiteral("Ctrl+L")}}});
-    start();
+    start({{1, true, QStringLiteral("Ctrl+K"), QStringLiteral("Ctrl+L")}});
     QVERIFY(row(0)->isTaken(0));
     QVERIFY(!row(0)->isTaken(1));
     const auto *problem = row(0)->findChild<QLabel *>(QStringLiteral("problem"));
@@ -255,8 +250,7 @@ void TestShortcutPage::refusedKeysAreShown()
 
 void TestShortcutPage::twoRowsChangeKeys()
 {
-    saveShortcuts({true, {{1, true, QStringLiteral("Ctrl+1"), {}}, {2, true, QStringLiteral("Ctrl+2"), {}}}});
-    start();
+    start({{1, true, QStringLiteral("Ctrl+1"), {}}, {2, true, QStringLiteral("Ctrl+2"), {}}});
     QTest::keyClick(row(0)->plusEdit(), Qt::Key_Backspace);
     QTest::keyClick(row(1)->plusEdit(), Qt::Key_1, Qt::ControlModifier);
     QTest::keyClick(row(0)->plusEdit(), Qt::Key_2, Qt::ControlModifier);
@@ -298,8 +292,7 @@ void TestShortcutPage::otherMonitorsRowsAreKept()
 
 void TestShortcutPage::fieldSaysWhyNot()
 {
-    saveShortcuts({true, {{1, true, {}, {}}}});
-    start();
+    start({{1, true, {}, {}}});
     QTest::keyClick(row(0)->plusEdit(), Qt::Key_Control, Qt::ControlModifier); // only the beginning of one
     QVERIFY(m_page->notice().isEmpty());
     QTest::keyClick(row(0)->plusEdit(), Qt::Key_A, Qt::ShiftModifier);
@@ -315,8 +308,7 @@ void TestShortcutPage::fieldSaysWhyNot()
 /// The system keeps a registered combination from every field, so it comes back as a hot key.
 void TestShortcutPage::registeredKeysCanBeTyped()
 {
-    saveShortcuts({true, {{1, true, QStringLiteral("Ctrl+1"), {}}, {2, true, {}, {}}}});
-    start();
+    start({{1, true, QStringLiteral("Ctrl+1"), {}}, {2, true, {}, {}}});
     m_page->show();
     m_page->activateWindow();
     row(1)->plusEdit()->setFocus();
@@ -334,8 +326,7 @@ void TestShortcutPage::registeredKeysCanBeTyped()
 /// Ctrl+A and Alt+B have one id; the system may take either away.
 void TestShortcutPage::keysOfOneId()
 {
-    saveShortcuts({true, {{1, true, QStringLiteral("Ctrl+A"), {}}, {2, true, QStringLiteral("Alt+B"), {}}}});
-    start();
+    start({{1, true, QStringLiteral("Ctrl+A"), {}}, {2, true, QStringLiteral("Alt+B"), {}}});
     row(1)->trashButton()->click();
     QCOMPARE(press(kControl, 'A'), QStringList{"W 22=3"});
     QCOMPARE(m_desk->desk.hotKeys().count(), std::size_t(1));
@@ -343,8 +334,7 @@ void TestShortcutPage::keysOfOneId()
 
 void TestShortcutPage::factoryModeKeepsItsBlock()
 {
-    saveShortcuts({true, {{12, true, QStringLiteral("Ctrl+B"), {}}}});
-    start();
+    start({{12, true, QStringLiteral("Ctrl+B"), {}}});
     deviceState.store(Command::SceneMode, 9);
     deviceState.store(Command::Sharpness, 4);
     QVERIFY(deviceState.sceneBlockValid());
@@ -378,21 +368,6 @@ void TestShortcutPage::killedWhileSaving()
         const ShortcutList list = loadShortcuts();
         QVERIFY(list == listOf(24) || list == listOf(3));
     }
-}
-
-void TestShortcutPage::overlay()
-{
-    HotkeyOverlay overlay;
-    overlay.showNote(QStringLiteral("Brightness"), QStringLiteral("50"));
-    m_desk->clock.advance(1000ms);
-    overlay.showNote(QStringLiteral("Brightness"), QStringLiteral("60"));
-    m_desk->clock.advance(1000ms);
-    QVERIFY(overlay.isShown()); // the second note has its own time
-    m_desk->clock.advance(500ms);
-    QVERIFY(!overlay.isShown());
-    QVERIFY(setHotkeyOverlayOn(false));
-    overlay.showNote(QStringLiteral("Brightness"), QStringLiteral("70"));
-    QVERIFY(!overlay.isShown());
 }
 
 int main(int argc, char *argv[])

@@ -15,8 +15,9 @@
 #include "ddc_protocol/settingsstore.h"
 #include "page/BasicSetting/pagepcsetting.h"
 #include "page/BasicSetting/pageservicessetting.h"
-#include "searchdevicedlg.h"
-#include "support/deskfixture.h"
+#include "support/datarow.h"
+#include "support/sessiondesk.h"
+#include "support/textfile.h"
 
 using namespace std::chrono_literals;
 
@@ -46,18 +47,6 @@ public:
     using pagePCSetting::pagePCSetting;
 };
 
-/// A row of a data table whose columns are numbers and texts.
-void row(const char *name, const auto &...values)
-{
-    const auto column = [](const auto &value) {
-        if constexpr (std::is_convertible_v<decltype(value), const char *>)
-            return QString::fromUtf8(value);
-        else
-            return value;
-    };
-    (QTest::newRow(name) << ... << column(values));
-}
-
 } // namespace
 
 /// The pages about the tool itself: start at log-on, language, machine; and the services around the monitor.
@@ -70,11 +59,9 @@ private Q_SLOTS:
     void startUpIsWritten();
     void refusedStartUpFallsBack();
     void startUpIsReadAnewWhenShown();
-    void languageRestarts_data();
-    void languageRestarts();
+    void languages_data();
+    void languages();
     void declinedLanguage();
-    void shownLanguage_data();
-    void shownLanguage();
     void unwritableConfig();
     void machineRestarts();
     void noMachineChange();
@@ -97,12 +84,11 @@ private:
     void press(const QString &name);
     bool isChecked(const QString &name) { return toolPage().findChild<QPushButton *>(name)->isChecked(); }
     QComboBox *machines() { return toolPage().findChild<QComboBox *>(); }
-    QString config() const;
     QString startUpValue() const;
+    void verifyRestart();
     void installUpgrader(const char *script);
 
-    std::unique_ptr<DeskFixture> m_desk;
-    std::unique_ptr<SearchDeviceDlg> m_session;
+    std::unique_ptr<SessionDesk> m_desk;
     std::unique_ptr<CommandQueue> m_queue;
     std::unique_ptr<AnsweredPage> m_tool;
     std::unique_ptr<pageServicesSetting> m_services;
@@ -113,9 +99,7 @@ private:
 void TestToolPages::init()
 {
     m_path = qgetenv("PATH");
-    m_desk = std::make_unique<DeskFixture>();
-    m_session = std::make_unique<SearchDeviceDlg>();
-    m_session->searchDevices();
+    m_desk = std::make_unique<SessionDesk>();
     m_queue = std::make_unique<CommandQueue>();
     languageSetting(true, QStringLiteral("en"));
 }
@@ -125,7 +109,6 @@ void TestToolPages::cleanup()
     m_tool.reset();
     m_services.reset();
     m_queue.reset();
-    m_session.reset();
     m_desk.reset();
     qputenv("PATH", m_path);
 }
@@ -133,7 +116,7 @@ void TestToolPages::cleanup()
 AnsweredPage &TestToolPages::toolPage()
 {
     if (!m_tool) {
-        m_tool = std::make_unique<AnsweredPage>(*m_session, *m_queue);
+        m_tool = std::make_unique<AnsweredPage>(m_desk->session(), *m_queue);
         m_tool->show();
     }
     return *m_tool;
@@ -153,25 +136,26 @@ void TestToolPages::press(const QString &name)
     QTest::mouseClick(toolPage().findChild<QPushButton *>(name), Qt::LeftButton);
 }
 
-QString TestToolPages::config() const
-{
-    QFile file(QStringLiteral("config.ini"));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
 QString TestToolPages::startUpValue() const
 {
     return m_desk->desk.startUp().value(QCoreApplication::applicationName()).value_or(QStringLiteral("none"));
+}
+
+void TestToolPages::verifyRestart()
+{
+    QCOMPARE(m_desk->desk.started.size(), std::size_t(1));
+    QCOMPARE(m_desk->desk.started[0].program, QCoreApplication::applicationFilePath());
+    QCOMPARE(m_desk->desk.started[0].arguments, QCoreApplication::arguments().mid(1));
+    QCOMPARE(m_desk->desk.started[0].folder, QString());
 }
 
 /// Puts a program of the upgrade program's name where the system looks first.
 void TestToolPages::installUpgrader(const char *script)
 {
     qputenv("PATH", m_desk->folder().toLocal8Bit() + ':' + m_path);
-    QFile file(m_desk->folder() + QStringLiteral("/Flasqon.exe"));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(script);
-    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    const QString program = m_desk->folder() + QStringLiteral("/Flasqon.exe");
+    QVERIFY(writeText(program, script));
+    QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
 void TestToolPages::startUpIsWritten()
@@ -212,27 +196,35 @@ void TestToolPages::startUpIsReadAnewWhenShown()
     QVERIFY(isChecked("Run on startup_No")); // another copy of the program
 }
 
-void TestToolPages::languageRestarts_data()
+void TestToolPages::languages_data()
 {
-    QTest::addColumn<QString>("button");
     QTest::addColumn<QString>("code");
-    row("zh_TW", "繁體中文", "zh_TW");
-    row("en, which is in use", "English", "en");
-    row("zh", "简体中文", "zh");
-    row("ja_JP", "日本語", "ja_JP");
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<bool>("chosen"); // by its button; the others were stored before
+    row("zh_TW, not its prefix", "zh_TW", "繁體中文", true);
+    row("en, which is in use", "en", "English", true);
+    row("zh", "zh", "简体中文", true);
+    row("ja_JP", "ja_JP", "日本語", true);
+    row("any other Chinese", "zh_HK", "简体中文", false);
+    row("ja alone is not known", "ja", "English", false);
+    row("territory", "en_GB", "English", false);
 }
 
-void TestToolPages::languageRestarts()
+void TestToolPages::languages()
 {
-    QFETCH(QString, button);
     QFETCH(QString, code);
-    press("Tool language settings_" + button);
-    QCOMPARE(toolPage().questions, QStringList{"Language"});
-    QCOMPARE(languageSetting(false), code);
-    QCOMPARE(m_desk->desk.started.size(), std::size_t(1));
-    QCOMPARE(m_desk->desk.started[0].program, QCoreApplication::applicationFilePath());
-    QCOMPARE(m_desk->desk.started[0].arguments, QCoreApplication::arguments().mid(1));
-    QCOMPARE(m_desk->desk.started[0].folder, QString());
+    QFETCH(QString, button);
+    QFETCH(bool, chosen);
+    if (chosen) {
+        press("Tool language settings_" + button);
+        QCOMPARE(toolPage().questions, QStringList{"Language"});
+        QCOMPARE(languageSetting(false), code);
+        verifyRestart();
+        m_tool.reset();
+    } else {
+        languageSetting(true, code);
+    }
+    QVERIFY(isChecked("Tool language settings_" + button));
 }
 
 void TestToolPages::declinedLanguage()
@@ -243,24 +235,6 @@ void TestToolPages::declinedLanguage()
     QCOMPARE(languageSetting(false), QStringLiteral("en"));
     QVERIFY(m_desk->desk.started.empty());
     QVERIFY(isChecked("Tool language settings_English"));
-}
-
-void TestToolPages::shownLanguage_data()
-{
-    QTest::addColumn<QString>("code");
-    QTest::addColumn<QString>("button");
-    row("traditional, not its prefix", "zh_TW", "繁體中文");
-    row("any other Chinese", "zh_HK", "简体中文");
-    row("ja alone is not known", "ja", "English");
-    row("territory", "en_GB", "English");
-}
-
-void TestToolPages::shownLanguage()
-{
-    QFETCH(QString, code);
-    QFETCH(QString, button);
-    languageSetting(true, code);
-    QVERIFY(isChecked("Tool language settings_" + button));
 }
 
 void TestToolPages::unwritableConfig()
@@ -286,9 +260,8 @@ void TestToolPages::machineRestarts()
     machines()->setCurrentIndex(1);
     QCOMPARE(toolPage().questions, QStringList{"Machine Select"});
     QCOMPARE(int(currentMonitorIndex), 1);
-    QVERIFY(config().contains("[PCSeting]\nDeviceIndex=1"));
-    QCOMPARE(m_desk->desk.started.size(), std::size_t(1));
-    QCOMPARE(m_desk->desk.started[0].arguments, QCoreApplication::arguments().mid(1));
+    QVERIFY(readText(QStringLiteral("config.ini")).contains("[PCSeting]\nDeviceIndex=1"));
+    verifyRestart();
 }
 
 void TestToolPages::noMachineChange()
@@ -315,7 +288,7 @@ void TestToolPages::noMachineChange()
 
 void TestToolPages::questionBox()
 {
-    AskingPage page(*m_session, *m_queue);
+    AskingPage page(m_desk->session(), *m_queue);
     for (const auto key : {Qt::Key_Enter, Qt::Key_Escape}) {
         QTimer::singleShot(0, this, [key] { QTest::keyClick(QApplication::activeModalWidget(), key); });
         QCOMPARE(page.ask(QStringLiteral("Title"), QStringLiteral("Text?")), key == Qt::Key_Enter);

@@ -5,7 +5,9 @@
 #include <QtTest>
 
 #include "platform/virtual/virtualplatform.h"
+#include "support/datarow.h"
 #include "support/manualclock.h"
+#include "support/textfile.h"
 #include "support/vendorpairs.h"
 #include "virtualdesk/deskscript.h"
 #include "virtualdesk/requestlog.h"
@@ -211,20 +213,18 @@ void TestVirtualDesk::namesScriptFaults_data()
 {
     QTest::addColumn<QByteArray>("script");
     QTest::addColumn<QString>("complaint");
-    QTest::newRow("not JSON") << QByteArray("{\n\"monitors\": [,]\n}") << "line 2";
-    QTest::newRow("not an object") << QByteArray("[1]") << "object";
-    QTest::newRow("unknown model") << QByteArray(R"({"monitors": [{"model": "Q1"}]})") << "\"Q1\"";
-    QTest::newRow("no such display") << QByteArray(R"({"monitors": [{"model": "Q27-OLED", "display": 2}]})")
-                                     << "\"display\"";
-    QTest::newRow("display taken away") << QByteArray(R"({"displays": [{}]})") << "fewer displays";
-    QTest::newRow("unknown event") << QByteArray(R"({"events": [{"at_ms": 1, "event": "dance"}]})") << "\"dance\"";
-    QTest::newRow("no such monitor") << QByteArray(R"({"events": [{"event": "plug", "monitor": 9}]})") << "\"monitor\"";
-    QTest::newRow("odd hexadecimal") << QByteArray(R"({"monitors": [{"model": "Q27-OLED", "edid": "00f"}]})")
-                                     << "\"edid\"";
-    QTest::newRow("negative wait") << QByteArray(R"({"latency": {"read_ms": -1}})") << "\"read_ms\"";
-    QTest::newRow("no such form") << QByteArray(R"({"accessory": {"form": 2}})") << "\"form\"";
-    QTest::newRow("fault of nothing") << QByteArray(R"({"accessory": {"faults": [{"event": "sing"}]}})") << "\"sing\"";
-    QTest::newRow("refuse what") << QByteArray(R"({"events": [{"event": "refuse"}]})") << "\"code\"";
+    row("not JSON", QByteArray("{\n\"monitors\": [,]\n}"), "line 2");
+    row("not an object", QByteArray("[1]"), "object");
+    row("unknown model", QByteArray(R"({"monitors": [{"model": "Q1"}]})"), "\"Q1\"");
+    row("no such display", QByteArray(R"({"monitors": [{"model": "Q27-OLED", "display": 2}]})"), "\"display\"");
+    row("display taken away", QByteArray(R"({"displays": [{}]})"), "fewer displays");
+    row("unknown event", QByteArray(R"({"events": [{"at_ms": 1, "event": "dance"}]})"), "\"dance\"");
+    row("no such monitor", QByteArray(R"({"events": [{"event": "plug", "monitor": 9}]})"), "\"monitor\"");
+    row("odd hexadecimal", QByteArray(R"({"monitors": [{"model": "Q27-OLED", "edid": "00f"}]})"), "\"edid\"");
+    row("negative wait", QByteArray(R"({"latency": {"read_ms": -1}})"), "\"read_ms\"");
+    row("no such form", QByteArray(R"({"accessory": {"form": 2}})"), "\"form\"");
+    row("fault of nothing", QByteArray(R"({"accessory": {"faults": [{"event": "sing"}]}})"), "\"sing\"");
+    row("refuse what", QByteArray(R"({"events": [{"event": "refuse"}]})"), "\"code\"");
 }
 
 void TestVirtualDesk::namesScriptFaults()
@@ -236,11 +236,10 @@ void TestVirtualDesk::namesScriptFaults()
     QVERIFY2(error.contains(complaint), qPrintable(error));
 
     QTemporaryDir folder;
-    QFile file(folder.filePath("desk.json"));
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(script) == script.size());
-    file.close();
-    qputenv("QUORVEL_DESK_SCRIPT", file.fileName().toLocal8Bit());
-    const QString pattern = "Desk script " + QRegularExpression::escape(file.fileName() + " cannot be used: " + error);
+    const QString fileName = folder.filePath("desk.json");
+    QVERIFY(writeText(fileName, script));
+    qputenv("QUORVEL_DESK_SCRIPT", fileName.toLocal8Bit());
+    const QString pattern = "Desk script " + QRegularExpression::escape(fileName + " cannot be used: " + error);
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(pattern));
     const DeskSetup setup = setupFromEnvironment();
     qunsetenv("QUORVEL_DESK_SCRIPT");
@@ -273,10 +272,7 @@ void TestVirtualDesk::logsRequests()
 {
     QTemporaryDir folder;
     const QString fileName = folder.filePath("requests.log");
-    const auto lines = [&fileName] {
-        QFile file(fileName);
-        return file.open(QIODevice::ReadOnly) ? file.readAll().split('\n') : QList<QByteArray>();
-    };
+    const auto lines = [&fileName] { return readText(fileName).split('\n'); };
     VirtualDesk desk(m_clock);
     m_clock.setNow(QDateTime(QDate(2024, 3, 9), QTime(7, 8, 9, 10)));
     {

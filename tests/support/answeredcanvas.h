@@ -6,8 +6,8 @@
 
 #include "ledmatrix/matrixform.h"
 #include "page/Nightloom/frametabs.h"
-#include "page/Nightloom/matrixeditor.h"
 #include "page/Nightloom/pageledmatrixcanvas.h"
+#include "support/matrixcells.h"
 
 /// The canvas page with its boxes and file dialogs answered by the test.
 class AnsweredCanvas : public pageLEDMatrixCanvas
@@ -29,16 +29,6 @@ protected:
     QString askOpenFile() override { return fileName; }
     void warn(const QString &text) override { warnings.append(text); }
 };
-
-inline QPoint middle(const MatrixEditor &editor, MatrixCell cell)
-{
-    return editor.geometry().cellRect(cell).center();
-}
-
-inline int litCells(const MatrixEditor &editor)
-{
-    return static_cast<int>(editor.frame().digits().count('1'));
-}
 
 /// Presses a cell of row 0 in the open editor.
 inline void draw(AnsweredCanvas &page, int column)

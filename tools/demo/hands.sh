@@ -11,7 +11,9 @@ declare -A PLACE=(
     [slider-left]='449 216' [slider-right]='667 216' # of the first slider, Brightness: its groove's ends
     [page]='460 600'
     [nothing]='640 770' # the window's lower edge: nothing lights up there
+    [music-open]='564 190'
     [unplug]='342 393'  # in the desk's window
+    [accessory-tab]='214 28'
 )
 
 # Prints a place, some steps on: place NAME [STEPS]

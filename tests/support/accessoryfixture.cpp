@@ -1,0 +1,26 @@
+#include "support/accessoryfixture.h"
+
+#include <QtTest>
+
+#include "usb-hid/hidtransport.h"
+
+void AccessoryFixture::connectDevice()
+{
+    clearHidFlags();
+    reopenHid();
+    QVERIFY(hidHandle);
+    m_desk->takeLog();
+}
+
+void AccessoryFixture::init()
+{
+    m_desk = std::make_unique<DeskFixture>();
+}
+
+void AccessoryFixture::cleanup()
+{
+    closeHid();
+    const int left = accessory().handlesOpen() + accessory().handleFaults();
+    m_desk.reset();
+    QCOMPARE(left, 0);
+}

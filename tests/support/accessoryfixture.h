@@ -1,0 +1,22 @@
+#pragma once
+
+#include "support/deskfixture.h"
+
+/// A desk with the accessory plugged and not opened yet; the suites about it derive from this.
+class AccessoryFixture : public QObject
+{
+    Q_OBJECT
+protected:
+    virtualdesk::SimulatedAccessory &accessory() { return m_desk->desk.accessory(); }
+
+    /// Opens the accessory as if it had just arrived.
+    void connectDevice();
+
+    std::unique_ptr<DeskFixture> m_desk;
+
+protected Q_SLOTS:
+    void init();
+
+    /// Fails when a handle was left open or used after it was closed.
+    void cleanup();
+};

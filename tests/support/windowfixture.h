@@ -1,0 +1,25 @@
+#pragma once
+
+#include "mainwindow.h"
+#include "support/sessiondesk.h"
+
+class LeftTabButton;
+
+/// The main window on a simulated desk; the suites about it derive from this and start it in every test.
+class WindowFixture : public QObject
+{
+    Q_OBJECT
+protected:
+    /// Shows the window for one monitor in a scene; what is to be there before it is made, prepare() does.
+    void start(
+        int scene, std::size_t monitor = 0, const std::function<void()> &prepare = [] {});
+
+    /// The entry of a family with this caption; null when there is none.
+    LeftTabButton *entry(int family, const char *label) const;
+
+    std::unique_ptr<SessionDesk> m_desk;
+    std::unique_ptr<MainWindow> m_window;
+
+protected Q_SLOTS:
+    void cleanup();
+};

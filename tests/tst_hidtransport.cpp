@@ -1,0 +1,116 @@
+#include <QPushButton>
+#include <QtTest>
+
+#include "ledmatrix/matrixform.h"
+#include "support/accessoryfixture.h"
+#include "usb-hid/hidtransport.h"
+#include "usb-hid/livesender.h"
+#include "virtualdesk/accessorypanel.h"
+#include "virtualdesk/matrixview.h"
+
+using virtualdesk::kForEver;
+
+/// Finding, opening and closing the accessory, by the program and by hand on the desk's panel.
+class TestHidTransport : public AccessoryFixture
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void findAndOpen_data();
+    void findAndOpen();
+    void foundFlagIsSticky();
+    void reopenClosesAndForgets();
+    void panelShowsTheAccessory();
+};
+
+void TestHidTransport::findAndOpen_data()
+{
+    QTest::addColumn<bool>("others");
+    QTest::addColumn<bool>("plugged");
+    QTest::addColumn<bool>("opens");
+    QTest::addColumn<QStringList>("log");
+    QTest::addColumn<int>("held"); // entries that were not released
+    const QStringList away = {"HID device  not find"};
+    QTest::newRow("there") << true << true << true << QStringList{"HID device find", "HID open OK"} << 1;
+    QTest::newRow("alone") << false << true << true << QStringList{"HID device find", "HID open OK"} << 0;
+    QTest::newRow("does not open") << true << true << false << QStringList{"HID device find", "HID open Fail "} << 1;
+    QTest::newRow("away") << true << false << true << away << 2;
+    QTest::newRow("no device at all") << false << false << true << QStringList() << 0;
+}
+
+void TestHidTransport::findAndOpen()
+{
+    QFETCH(bool, others);
+    QFETCH(bool, plugged);
+    QFETCH(bool, opens);
+    QFETCH(QStringList, log);
+    m_desk->desk.hasHidDevices = others;
+    accessory().setPlugged(plugged);
+    accessory().failOpens(opens ? 0 : kForEver);
+    reopenHid();
+    QStringList said = m_desk->takeLog();
+    if (!said.isEmpty() && said.last().startsWith("HID open OK")) {
+        QVERIFY(said.last().size() > qsizetype(strlen("HID open OK ")));
+        said.last().truncate(qsizetype(strlen("HID open OK")));
+    }
+    QCOMPARE(said, log);
+    QTEST(m_desk->desk.hidEntriesHeld, "held");
+    QCOMPARE(hidFound, plugged);
+    QCOMPARE(hidOpened, plugged && opens);
+    QCOMPARE(hidHandle != nullptr, plugged && opens);
+}
+
+void TestHidTransport::foundFlagIsSticky()
+{
+    QVERIFY(!Fun_hid_open(kAccessoryVendor, kAccessoryProduct)); // not found yet: not even tried
+    QVERIFY(m_desk->takeLog().isEmpty());
+    connectDevice();
+    accessory().setPlugged(false);
+    QVERIFY(Fun_hid_find(kAccessoryVendor, kAccessoryProduct));
+    QVERIFY(m_desk->takeLog().isEmpty());
+    QVERIFY(!Fun_hid_open(kAccessoryVendor, kAccessoryProduct)); // open already
+    QCOMPARE(accessory().handlesOpen(), 1);
+}
+
+void TestHidTransport::reopenClosesAndForgets()
+{
+    connectDevice();
+    reopenHid(); // the opened flag is still set: closed and nothing else
+    QVERIFY(!hidHandle);
+    QCOMPARE(accessory().handlesOpen(), 0);
+    connectDevice();
+    QCOMPARE(accessory().handlesOpen(), 1);
+}
+
+void TestHidTransport::panelShowsTheAccessory()
+{
+    connectDevice();
+    virtualdesk::AccessoryPanel panel(m_desk->desk);
+    panel.show();
+    QCOMPARE(panel.matrix()->litCells(), 0);
+    const auto button = [&panel](const char *name) { return panel.findChild<QPushButton *>(QLatin1String(name)); };
+    accessory().setForm(1);
+    matrixForm = 1;
+    sendLiveFrame(std::vector<std::int32_t>(1050, 1));
+    QTRY_COMPARE(panel.matrix()->litCells(), 1050);
+    QVERIFY(button("form")->isChecked());
+    button("unplug")->click();
+    QVERIFY(!accessory().isPlugged());
+    QTRY_COMPARE(panel.matrix()->litCells(), 0);
+    button("unplug")->click();
+    connectDevice();
+    button("refuse")->click();
+    AccessoryReport report;
+    buildLiveStop(report);
+    QCOMPARE(writeHid(report), HidWrite::Failed);
+    button("refuse")->click();
+    connectDevice();
+    button("pull")->click();
+    for (int i = 1; i <= 8; ++i)
+        QCOMPARE(writeHid(report), i < 8 ? HidWrite::Done : HidWrite::Failed);
+    QTRY_VERIFY(button("unplug")->isChecked());
+    QVERIFY(!button("pull")->isChecked());
+    QCOMPARE(panel.values().size(), 8);
+}
+
+QTEST_MAIN(TestHidTransport)
+#include "tst_hidtransport.moc"

@@ -1,0 +1,170 @@
+#include <QMessageBox>
+#include <QTimer>
+#include <QtTest>
+
+#include "PictureAudioCom/soundanalyzer.h"
+#include "controls/lefttabbutton.h"
+#include "controls/sliderwidget.h"
+#include "ddc_protocol/commandqueue.h"
+#include "following/followlist.h"
+#include "page/BasicSetting/hotkeyoverlay.h"
+#include "page/Nightloom/ledworkthread.h"
+#include "page/Nightloom/pageledmusic.h"
+#include "page/Scene/pagescenesetting.h"
+#include "page/engine/optiongrouprow.h"
+#include "page/engine/page.h"
+#include "platform/nativemessage.h"
+#include "shortcut/shortcutlist.h"
+#include "support/windowfixture.h"
+#include "usb-hid/hidtransport.h"
+
+using namespace std::chrono_literals;
+
+/// What reaches the window from beside the monitor: hot keys, programs in front, the accessory.
+class TestWindowLinks : public WindowFixture
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void hotKeysShow();
+    void overlayGoesByItself();
+    void refusedHotKeyIsNotKept();
+    void followedScenesShow();
+    void accessoryIsOpenedAndFollowed();
+    void missingAccessoryIsTold();
+    void busyModeStopsTheWorker();
+    void busyModeInterruptsMusic();
+};
+
+void TestWindowLinks::hotKeysShow()
+{
+    start(10, 0, [] {
+        saveShortcuts({true, {{12, true, QStringLiteral("Ctrl+B"), {}}, {16, true, QStringLiteral("Ctrl+G"), {}}}});
+    });
+    m_desk->clock.advance(200ms);
+    CommandQueue *queue = m_window->findChild<CommandQueue *>();
+    queue->post(Command::Brightness, 40); // a drag's last value goes out before the key asks
+    m_desk->takeCommands();
+    m_desk->desk.pressKey(platform::kModifierControl, 'B');
+    QCOMPARE(m_desk->monitor().value(0x10), std::uint16_t(50));
+    QCOMPARE(m_window->scenePage()->slider("Brightness")->slider()->value(), 50);
+    QVERIFY(m_window->overlay()->isShown());
+    QCOMPARE(m_window->overlay()->text(), QStringLiteral("Brightness: 50"));
+
+    m_desk->monitor().setValue(0x26, 0);
+    m_desk->clock.advance(200ms);
+    m_desk->desk.pressKey(platform::kModifierControl, 'G');
+    const QString option = m_window->scenePage()->optionGroup(Command::Gamma)->buttonOf(1)->text().trimmed();
+    QCOMPARE(m_window->overlay()->text(), QStringLiteral("Gamma: ") + option); // as the page calls it
+    QVERIFY(m_window->scenePage()->optionGroup(Command::Gamma)->buttonOf(1)->isChecked());
+}
+
+void TestWindowLinks::overlayGoesByItself()
+{
+    start(10);
+    HotkeyOverlay overlay;
+    overlay.showNote(QStringLiteral("Brightness"), QStringLiteral("50"));
+    m_desk->clock.advance(1000ms);
+    overlay.showNote(QStringLiteral("Brightness"), QStringLiteral("60"));
+    m_desk->clock.advance(1000ms);
+    QVERIFY(overlay.isShown()); // the second note has its own time
+    m_desk->clock.advance(500ms);
+    QVERIFY(!overlay.isShown());
+    QVERIFY(setHotkeyOverlayOn(false));
+    overlay.showNote(QStringLiteral("Brightness"), QStringLiteral("70"));
+    QVERIFY(!overlay.isShown());
+}
+
+void TestWindowLinks::refusedHotKeyIsNotKept()
+{
+    start(10, 0, [] { saveShortcuts({true, {{1, true, QStringLiteral("Ctrl+1"), {}}}}); });
+    m_desk->clock.advance(200ms);
+    m_desk->monitor().refuseWrites(4); // the command with its retry
+    m_desk->desk.pressKey(platform::kModifierControl, '1');
+    m_desk->clock.advance(10s);
+    QCOMPARE(m_desk->monitor().value(0x22), std::uint16_t(10));
+    QCOMPARE(deviceState.value(Command::SceneMode), 10); // what is on
+    QVERIFY(entry(0, "Movie Mode")->isChecked());
+    QVERIFY(!m_window->overlay()->text().contains(QStringLiteral("parameters")));
+}
+
+void TestWindowLinks::followedScenesShow()
+{
+    start(10, 0, [] { saveFollowList({{QStringLiteral("D:/Games/Night Race/NightRace.exe"), 6}}); });
+    m_desk->desk.applications().bringToFront(1);
+    QCOMPARE(m_desk->monitor().value(0x22), std::uint16_t(13));
+    QVERIFY(entry(0, "Night Mode")->isChecked());
+}
+
+void TestWindowLinks::accessoryIsOpenedAndFollowed()
+{
+    start(10);
+    virtualdesk::SimulatedAccessory &accessory = m_desk->desk.accessory();
+    QVERIFY(hidHandle);
+    QCOMPARE(accessory.handlesOpen(), 1);
+    accessory.setPlugged(false);
+    QVERIFY(hidHandle); // nobody noticed yet
+    accessory.setPlugged(true);
+    AccessoryReport report;
+    buildLiveStop(report);
+    QCOMPARE(writeHid(report), HidWrite::Done); // the arrival opened it anew
+    QCOMPARE(accessory.handlesOpen(), 1);
+    m_window.reset();
+    QVERIFY(!hidHandle);
+    QCOMPARE(accessory.handlesOpen() + accessory.handleFaults(), 0);
+}
+
+void TestWindowLinks::missingAccessoryIsTold()
+{
+    start(10);
+    QVERIFY(m_window->ensureHidConnected());
+    m_desk->desk.accessory().setPlugged(false);
+    for (int i = 0; i < 2; ++i) { // every time
+        QStringList box;
+        QTimer::singleShot(0, this, [&box] {
+            const auto *shown = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            QVERIFY(shown);
+            QCOMPARE(shown->icon(), QMessageBox::Warning);
+            QVERIFY(shown->styleSheet().startsWith("QMessageBox {background-color: #101611;}QLabel{ color: white;}"));
+            box = {shown->windowTitle(), shown->text()};
+            for (QAbstractButton *button : shown->buttons())
+                box.append(button->text());
+            shown->buttons().first()->click();
+        });
+        QVERIFY(!m_window->ensureHidConnected());
+        QCOMPARE(box, (QStringList{"Warning", "No Type-C data cable or HDMI/DP + USB data cable connected.", "OK"}));
+    }
+    m_desk->desk.accessory().setPlugged(true);
+    QVERIFY(m_window->ensureHidConnected());
+}
+
+void TestWindowLinks::busyModeStopsTheWorker()
+{
+    start(10);
+    ledWorkThread *worker = ledWorkThread::instance();
+    worker->begin(ledWorkThread::ClockLoop);
+    QTRY_VERIFY(m_desk->desk.accessory().state().liveFrames > 0);
+    m_window->setInterfaceMode(kBusy);
+    QCOMPARE(worker->state(), ledWorkThread::Stopped);
+    QVERIFY(worker->wait(10000));
+    worker->begin(ledWorkThread::ClockLoop);
+    m_window.reset(); // the program's end
+    QVERIFY(worker->isFinished());
+}
+
+void TestWindowLinks::busyModeInterruptsMusic()
+{
+    start(10);
+    SoundAnalyzer &analyzer = SoundAnalyzer::instance();
+    auto *music = qobject_cast<pageLEDMusic *>(m_window->page(PageId::LedMusic)->widget());
+    music->switchOptions()->buttonOf(1)->click();
+    QTRY_VERIFY(analyzer.isCapturing());
+    m_window->setInterfaceMode(kBusy);
+    QTRY_VERIFY(!analyzer.isRunning());
+    m_window->setInterfaceMode(kBusyEnded);
+    QTRY_VERIFY(analyzer.isCapturing());
+    m_window.reset(); // the program's end
+    QVERIFY(analyzer.isFinished());
+}
+
+QTEST_MAIN(TestWindowLinks)
+#include "tst_windowlinks.moc"
