@@ -20,8 +20,8 @@ EDGES = (100, 150, 205, 300, 400, 500, 800, 1000, 1600, 2049, 3000, 6400)
 
 
 def tone_heights(tone, rate, channels, packet, length):
-    """The heights that a tone gives when its packets, whole periods each, are all alike. The transform hears a zero behind
-    each sample, the channels one after the other: where a bar stands does not follow from the tone's frequency alone."""
+    """The heights that a tone gives when its packets, whole periods each, are all alike. The transform hears a zero
+    behind each sample, the channels one after the other: a bar's place does not follow from the frequency alone."""
     samples = [round(AMPLITUDE * math.sin(2 * math.pi * (tone * frame % rate) / rate))
                for frame in range(packet) for _ in range(channels)]
     turn = [cmath.exp(-2j * math.pi * step / length) for step in range(length)]
@@ -173,8 +173,8 @@ def case_music_failures(rig):
 
 
 def case_music_no_endpoint(rig):
-    """Without a device, or with one whose samples are not understood, nothing is logged or shown. It is looked for again
-    until there is one."""
+    """Without a device, or with one whose samples are not understood, nothing is logged or shown. It is looked for
+    again until there is one."""
     with with_sound(rig, "music_no_endpoint") as run:
         window = switch_on(run)
         none = ["endpoint", "gone"]
