@@ -1620,6 +1620,10 @@
         <translation>切换语言时，程序将自动重新启动。</translation>
     </message>
     <message>
+        <source>The accessory did not take everything.</source>
+        <translation>配件没有接收全部数据。</translation>
+    </message>
+    <message>
         <source>The accessory is the model with 25 rows of 42 cells</source>
         <translation>配件为 25 行、每行 42 格的型号</translation>
     </message>

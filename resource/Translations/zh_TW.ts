@@ -1620,6 +1620,10 @@
         <translation>切換語言時，程式將自動重新啟動。</translation>
     </message>
     <message>
+        <source>The accessory did not take everything.</source>
+        <translation>配件沒有接收全部資料。</translation>
+    </message>
+    <message>
         <source>The accessory is the model with 25 rows of 42 cells</source>
         <translation>配件為 25 列、每列 42 格的型號</translation>
     </message>
