@@ -1620,6 +1620,10 @@
         <translation>The APP will restart automatically when switching languages.</translation>
     </message>
     <message>
+        <source>The accessory did not take everything.</source>
+        <translation>The accessory did not take everything.</translation>
+    </message>
+    <message>
         <source>The accessory is the model with 25 rows of 42 cells</source>
         <translation>The accessory is the model with 25 rows of 42 cells</translation>
     </message>

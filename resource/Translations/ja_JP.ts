@@ -1620,6 +1620,10 @@
         <translation>言語を切り替えると、アプリは自動的に再起動します。</translation>
     </message>
     <message>
+        <source>The accessory did not take everything.</source>
+        <translation>アクセサリがすべてのデータを受け取れませんでした。</translation>
+    </message>
+    <message>
         <source>The accessory is the model with 25 rows of 42 cells</source>
         <translation>アクセサリは 25 行 × 42 セルのモデルです</translation>
     </message>

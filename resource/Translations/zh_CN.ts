@@ -205,7 +205,7 @@
     </message>
     <message>
         <source>Add Scence</source>
-        <translation>添加场景</translation>
+        <translation>添加情景</translation>
     </message>
     <message>
         <source>Adobe</source>
@@ -657,11 +657,11 @@
     </message>
     <message>
         <source>Follow Desc</source>
-        <translation>为应用程序指定场景模式：该程序位于前台时显示器自动切换，离开后恢复基础场景。</translation>
+        <translation>为应用程序指定情景模式：该程序位于前台时显示器自动切换，离开后恢复基础情景。</translation>
     </message>
     <message>
         <source>Follow Setting</source>
-        <translation>场景跟随设置</translation>
+        <translation>情景跟随设置</translation>
     </message>
     <message>
         <source>For code on a dark ground.</source>
@@ -1129,7 +1129,7 @@
     </message>
     <message>
         <source>No programs yet: add one and choose its scene.</source>
-        <translation>还没有程序：请添加程序并选择其场景。</translation>
+        <translation>还没有程序：请添加程序并选择其情景。</translation>
     </message>
     <message>
         <source>Noise</source>
@@ -1618,6 +1618,10 @@
     <message>
         <source>The APP will restart automatically when switching languages.</source>
         <translation>切换语言时，程序将自动重新启动。</translation>
+    </message>
+    <message>
+        <source>The accessory did not take everything.</source>
+        <translation>配件没有接收全部数据。</translation>
     </message>
     <message>
         <source>The accessory is the model with 25 rows of 42 cells</source>

@@ -205,7 +205,7 @@
     </message>
     <message>
         <source>Add Scence</source>
-        <translation>新增場景</translation>
+        <translation>新增情境</translation>
     </message>
     <message>
         <source>Adobe</source>
@@ -657,11 +657,11 @@
     </message>
     <message>
         <source>Follow Desc</source>
-        <translation>為應用程式指定場景模式：該程式位於前景時顯示器自動切換，離開後恢復基礎場景。</translation>
+        <translation>為應用程式指定情境模式：該程式位於前景時顯示器自動切換，離開後恢復基礎情境。</translation>
     </message>
     <message>
         <source>Follow Setting</source>
-        <translation>場景跟隨設定</translation>
+        <translation>情境跟隨設定</translation>
     </message>
     <message>
         <source>For code on a dark ground.</source>
@@ -1129,7 +1129,7 @@
     </message>
     <message>
         <source>No programs yet: add one and choose its scene.</source>
-        <translation>尚無程式：請新增程式並選擇其場景。</translation>
+        <translation>尚無程式：請新增程式並選擇其情境。</translation>
     </message>
     <message>
         <source>Noise</source>
@@ -1618,6 +1618,10 @@
     <message>
         <source>The APP will restart automatically when switching languages.</source>
         <translation>切換語言時，程式將自動重新啟動。</translation>
+    </message>
+    <message>
+        <source>The accessory did not take everything.</source>
+        <translation>配件沒有接收全部資料。</translation>
     </message>
     <message>
         <source>The accessory is the model with 25 rows of 42 cells</source>

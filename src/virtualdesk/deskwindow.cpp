@@ -24,7 +24,7 @@ virtualdesk--DeskWindow { background-color: #0d1210; }
 QTabWidget::pane { border: none; }
 QTabWidget > QWidget { background-color: transparent; }
 QTabBar::tab { color: #adadad; background: transparent; border: none; border-bottom: 2px solid transparent;
-    padding: 6px 14px; font-size: 13px; }
+    padding: 6px; min-width: 80px; font-size: 13px; }
 QTabBar::tab:hover { color: #ffffff; }
 QTabBar::tab:selected { color: #7bfadb; border-bottom-color: #7bfadb; }
 QLineEdit { color: #9cffc8; background-color: #161d1a; border: 1px solid rgb(27,80,67); border-radius: 6px;

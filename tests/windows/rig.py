@@ -11,6 +11,7 @@ import time
 TITLE = "QUORVEL"
 EDID_KEY = (r"HKLM\SYSTEM\CurrentControlSet\Enum\DISPLAY\Default_Monitor\0000&0000\Device Parameters")
 COMMAND_SECONDS = 60
+SOUND_KEY = r"HKLM\Software\Classes\CLSID\{BCDE0395-E52F-467C-8E3D-C4579291692E}\InprocServer32"
 START_SECONDS = 40
 RUN_KEY = r"HKCU\Software\Microsoft\Windows\CurrentVersion\Run"
 
@@ -64,6 +65,7 @@ class Rig:
         try:
             self._start_display()
             self.run(["wineboot", "-i"], seconds=180)
+            self._put_sound_endpoint()
         except BaseException:
             self.__exit__()
             raise
@@ -107,6 +109,11 @@ class Rig:
     def screenshot(self, path):
         self.run(["import", "-window", "root", str(path)])
 
+    def _put_sound_endpoint(self):
+        """Puts the stand-in into the place of the system's class of sound devices."""
+        library = "Z:" + str(self.standins / "soundendpoint.dll").replace("/", "\\")
+        self.run(["wine", "reg", "add", SOUND_KEY, "/ve", "/d", library, "/f"], check=True)
+
     def _start_display(self):
         read_end, write_end = os.pipe()
         self._servers.append(self.start(
@@ -131,6 +138,7 @@ class Run:
             "".join(f"{code:02x} {value}\n" for code, value in (registers or {}).items()))
         (self.monitor / "block.txt").write_text(" ".join(map(str, block or [])))
         self.accessory = None
+        self.sound = None
         self.processes = []
 
     def __enter__(self):
@@ -148,7 +156,8 @@ class Run:
 
     def start_other(self, program, *arguments):
         """Starts any Windows program here, to end with the case at the latest, and returns the process."""
-        places = {"QUORVEL_TEST_MONITOR": self.monitor, "QUORVEL_TEST_ACCESSORY": self.accessory}
+        places = {"QUORVEL_TEST_MONITOR": self.monitor, "QUORVEL_TEST_ACCESSORY": self.accessory,
+                  "QUORVEL_TEST_SOUND": self.sound}
         process = self.rig.start(["wine", str(program), *arguments], cwd=self.folder,
                                  extra={name: f"Z:{place}" for name, place in places.items() if place})
         self.processes.append(process)

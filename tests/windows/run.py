@@ -9,12 +9,13 @@ import time
 import traceback
 
 import cases_accessory
+import cases_audio
 import cases_automation
 import cases_monitor
 import cases_program
 from rig import Rig, edid
 
-AREAS = (cases_monitor, cases_program, cases_automation, cases_accessory)
+AREAS = (cases_monitor, cases_program, cases_automation, cases_accessory, cases_audio)
 CASES = [value for area in AREAS for name, value in vars(area).items() if name.startswith("case_")]
 
 

@@ -13,7 +13,7 @@ declare -A PLACE=(
     [nothing]='640 770' # the window's lower edge: nothing lights up there
     [music-open]='564 190'
     [unplug]='342 393'  # in the desk's window
-    [accessory-tab]='214 28'
+    [accessory-tab]='246 28'
 )
 
 # Prints a place, some steps on: place NAME [STEPS]
