@@ -59,6 +59,22 @@ public:
         QVERIFY(analyzer.wait(20000));
     }
 
+    /// What the first packet of a client with this format makes, by the analysis alone.
+    QList<int> firstHeights(int rate, int channels, int frames) const
+    {
+        std::vector<std::int16_t> samples;
+        for (int frame = 0; frame < frames; ++frame) {
+            for (int channel = 0; channel < channels; ++channel) {
+                const double value = endpoint.setup().sound.sample(frame, channel, rate);
+                samples.push_back(static_cast<std::int16_t>(std::lround(32767 * value)));
+            }
+        }
+        SpectrumAnalysis analysis;
+        analysis.prepare(static_cast<std::uint32_t>(rate));
+        const BarHeights expected = *barHeights(*analysis.analyse(samples), kTaperingForm);
+        return {expected.begin(), expected.end()};
+    }
+
     int count(AudioCall call) const { return endpoint.count(call); }
 
     /// Log lines that are no heights.
@@ -90,7 +106,8 @@ private Q_SLOTS:
     void failedInitialisationEndsIt();
     void choosesFormat_data();
     void choosesFormat();
-    void goesOnAfterRefusedFormat();
+    void refusedFormat();
+    void oldClientKeepsItsFormat();
     void silentPacketEndsTurn();
     void packetSizeFails_data();
     void packetSizeFails();
@@ -217,31 +234,43 @@ void TestSoundAnalyzer::choosesFormat()
     QCOMPARE(!rig.heights.isEmpty(), heard);
     if (!heard)
         return;
-    // The same packet, analysed at the rate that the client must have been given.
     const int given = converts ? 48000 : rate;
-    const int frames = packet > 0 ? packet : given / 100;
-    std::vector<std::int16_t> samples;
-    for (int frame = 0; frame < frames; ++frame) {
-        for (int channel = 0; channel < channels; ++channel) {
-            const double value = rig.endpoint.setup().sound.sample(frame, channel, given);
-            samples.push_back(static_cast<std::int16_t>(std::lround(32767 * value)));
-        }
-    }
-    SpectrumAnalysis analysis;
-    analysis.prepare(static_cast<std::uint32_t>(given));
-    const BarHeights expected = *barHeights(*analysis.analyse(samples), kTaperingForm);
-    QCOMPARE(rig.heights[0], QList<int>(expected.begin(), expected.end()));
+    QCOMPARE(rig.heights[0], rig.firstHeights(given, channels, packet > 0 ? packet : given / 100));
 }
 
-void TestSoundAnalyzer::goesOnAfterRefusedFormat()
+void TestSoundAnalyzer::refusedFormat()
 {
     Rig rig;
     rig.endpoint.fail({AudioCall::Initialize, platform::kAudioUnsupportedFormat, 1});
     rig.run(4);
-    // The client was never initialised, which the first question brings to light.
-    QCOMPARE(rig.lines(), (Strings{"initialization failed. 0x88890008", "FAILED(hr)1 0x88890001"}));
-    QCOMPARE(rig.count(AudioCall::Initialize), 2);
+    // It goes on and asks for the capture client, which a stream that was never initialised does not have.
+    QCOMPARE(rig.lines(), Strings{"initialization failed. 0x88890008"});
+    QCOMPARE(rig.count(AudioCall::CaptureClient), 1);
+    QCOMPARE(rig.count(AudioCall::RegisterTask) + rig.stops, 0);
+    rig.run(9, [&rig](int ask) {
+        if (ask == 2) {
+            rig.endpoint.fail({AudioCall::Initialize, platform::kAudioUnsupportedFormat, 3});
+            rig.endpoint.change([](EndpointSetup &) {}); // another device, while it runs
+        }
+    });
+    QCOMPARE(rig.lines().count("initialization failed. 0x88890008"), 3);
     QCOMPARE(rig.heights.size(), 1);
+    // At once, and then with a rest before each attempt.
+    QCOMPARE(rig.fixture.clock.takeWaits(), (QList<int>{5, 29, 29, 29, 5, 5, 29, 5}));
+}
+
+void TestSoundAnalyzer::oldClientKeepsItsFormat()
+{
+    Rig rig;
+    rig.run(4, [&rig](int ask) {
+        if (ask != 3)
+            return;
+        rig.endpoint.moveDefault([](EndpointSetup &setup) { setup.channels = 8; });
+        rig.endpoint.fail({AudioCall::NextPacketSize, platform::kAudioFailed, 1});
+        rig.endpoint.fail({AudioCall::CaptureClient, platform::kAudioFailed, 1});
+    });
+    QCOMPARE(rig.count(AudioCall::CaptureClient), 2);
+    QCOMPARE(rig.heights, QList<QList<int>>{rig.firstHeights(48000, 2, 480)});
 }
 
 void TestSoundAnalyzer::silentPacketEndsTurn()

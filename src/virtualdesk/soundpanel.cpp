@@ -50,7 +50,7 @@ constexpr FaultSpec kFaults[] = {
      },
      [](const SimulatedEndpoint &endpoint) { return endpoint.setup().packetFrames != 0; }},
     {NAME("New device"), NAME("Another device becomes the default one"),
-     [](SimulatedEndpoint &endpoint, bool) { endpoint.change([](EndpointSetup &) {}); }, nullptr},
+     [](SimulatedEndpoint &endpoint, bool) { endpoint.moveDefault(); }, nullptr},
     {NAME("Buffer error"), NAME("The next packet cannot be fetched"),
      [](SimulatedEndpoint &endpoint, bool) {
          endpoint.fail({AudioCall::GetBuffer, platform::kAudioBufferError, 1});

@@ -30,7 +30,6 @@ protected:
 
 private:
     void followForm();
-    void drawMatrix();
     void paintBars(QPainter &painter, const QRect &area) const;
     void paintMatrix(QPainter &painter, const QRect &area) const;
 

@@ -62,6 +62,9 @@ Q_SIGNALS:
     /// Percent of a text upload: to 100 while the device prepares, then again for the text itself; -1 without a file.
     void progress(int value);
 
+    /// Somebody needs the accessory for something that lasts, and has stopped this thread: the music mode ends.
+    void takenOver();
+
     /// A spectrum frame was built; always 0.
     void frameBuilt(int value);
 

@@ -155,6 +155,7 @@ void pageLEDSystem::switchLamp(int value)
 {
     if (!takeOver())
         return;
+    Q_EMIT ledWorkThread::instance()->takenOver(); // or the music would go on over the lamp
     AccessoryReport report;
     buildLiveStop(report);
     writePageReport(report);
@@ -173,6 +174,7 @@ void pageLEDSystem::switchClock(int value)
 {
     if (!takeOver())
         return;
+    Q_EMIT ledWorkThread::instance()->takenOver();
     if (value != 0) {
         ledWorkThread::instance()->begin(ledWorkThread::ClockLoop);
         return;
