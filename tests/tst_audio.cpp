@@ -1,9 +1,9 @@
 // From what plays to what the matrix shows: the drawings, the simulated sound, and the music page with all behind it.
 
 #include <set>
-#include <thread>
 
 #include <QPushButton>
+#include <QSemaphore>
 #include <QSlider>
 #include <QtTest>
 
@@ -15,6 +15,7 @@
 #include "page/Nightloom/audiopicture.h"
 #include "page/Nightloom/ledworkthread.h"
 #include "page/Nightloom/pageledmusic.h"
+#include "page/Nightloom/pageledsystem.h"
 #include "page/engine/optiongrouprow.h"
 #include "support/deskfixture.h"
 #include "usb-hid/hidtransport.h"
@@ -71,10 +72,17 @@ public:
         SoundAnalyzer &analyzer = SoundAnalyzer::instance();
         QObject::connect(
             &analyzer, &SoundAnalyzer::heightsReady, page.get(), [this] { ++told; }, Qt::DirectConnection);
-        QObject::connect(&analyzer, &SoundAnalyzer::heightsReady, page.get(), [this] { ++taken; });
-        fixture.desk.sound().setProbe([this, &analyzer](AudioCall, int) {
-            while (told > taken + 1 && !analyzer.isInterruptionRequested())
-                std::this_thread::yield();
+        QObject::connect(&analyzer, &SoundAnalyzer::heightsReady, page.get(), [this](const QList<int> &heights) {
+            heard.append(heights);
+            ++taken;
+            turns.release();
+        });
+        fixture.desk.sound().setProbe([this, &analyzer](AudioCall call, int) {
+            if (call != AudioCall::NextPacketSize)
+                return;
+            do
+                turns.tryAcquire(1, 1);
+            while (told > taken + 1 && !analyzer.isInterruptionRequested());
         });
     }
     ~MusicRig()
@@ -91,11 +99,25 @@ public:
     /// What the accessory shows while it is live.
     std::vector<std::int32_t> shown() { return fixture.desk.accessory().state().liveCells; }
     bool capturing() const { return SoundAnalyzer::instance().isCapturing(); }
+    /// Switches the music mode on, until it is seen.
+    bool play()
+    {
+        press(page->switchOptions(), 1);
+        return QTest::qWaitFor([this] { return litCells(shown()) > 0; });
+    }
+    std::ptrdiff_t stopReports()
+    {
+        const auto history = fixture.desk.accessory().history();
+        return std::count_if(history.begin(), history.end(),
+                             [](const auto &report) { return report.bytes.startsWith(QByteArray("\x01\xE0\x01", 3)); });
+    }
 
     DeskFixture fixture;
     CommandQueue queue;
     std::atomic<int> told = 0;
     std::atomic<int> taken = 0;
+    QList<QList<int>> heard;
+    QSemaphore turns; // given with what is taken; without any a turn takes a millisecond
     bool connected = true;
     std::unique_ptr<pageLEDMusic> page;
 };
@@ -117,10 +139,12 @@ private Q_SLOTS:
     void readsAudioScripts();
     void musicReachesMatrix_data();
     void musicReachesMatrix();
-    void switchesOffWithStopReport();
+    void refusedWithoutAccessory();
+    void endsWithStopReport_data();
+    void endsWithStopReport();
     void busyModeInterrupts();
     void saysWhyNothingMoves();
-    void clockTakesOver();
+    void listensToNewDefaultDevice();
     void panelPlays();
 };
 
@@ -145,7 +169,8 @@ void TestAudio::fillsEveryColumn()
     // Far too high, negative, too few and too many.
     QCOMPARE(litCells(drawn(*bars, AudioTemplate::Mirrored, Levels(20, INT32_MAX))), cells * width);
     QCOMPARE(litCells(drawn(*bars, AudioTemplate::Hanging, Levels(3, INT32_MIN))), 0);
-    QCOMPARE(litCells(drawn(*bars, AudioTemplate::Peaks, Levels())), 0 + 11 * width); // the peaks of before
+    bars->reset();
+    QCOMPARE(litCells(drawn(*bars, AudioTemplate::Peaks, Levels())), 0);
 
     // The bars stand side by side: the middle one reaches as far down as the form, and none shares a cell.
     const std::size_t rows = matrixRows(form).size();
@@ -183,6 +208,8 @@ void TestAudio::peaksFall()
     QCOMPARE(full, 11 * 50);
     const std::vector<std::int32_t> first = drawn(*bars, AudioTemplate::Peaks, Levels(11, 1));
     QCOMPARE(litCells(first), 11 * 4); // the bar's dot, and the peak one step below the top
+    bars->redraw();                    // nothing new was heard
+    QVERIFY(std::equal(first.begin(), first.end(), bars->frame().begin()));
     MatrixFrame frame(kRectangleForm);
     frame.setFlat(first);
     QCOMPARE(litCells(frame.rows()[1]), 22);
@@ -204,6 +231,8 @@ void TestAudio::readsWaveFiles_data()
     QTest::newRow("16 bits, two channels") << head + format(1, 2, 16) + data << 2;
     QTest::newRow("floats, one channel, behind a list")
         << head + QByteArray("LIST\x01\0\0\0x\0", 10) + format(3, 1, 32) + data << 2;
+    QTest::newRow("floats beyond the scale")
+        << head + format(3, 1, 32) + QByteArray("data\x08\0\0\0\0\0\xC0\x7F\0\0\0\xC1", 16) << 2; // no number, and -8
     QTest::newRow("cut off") << (head + format(1, 1, 16) + data).chopped(3) << 2;
     QTest::newRow("24 bits") << head + format(1, 2, 24) + data << -1;
     QTest::newRow("no channel") << head + format(1, 0, 16) + data << -1;
@@ -226,8 +255,13 @@ void TestAudio::readsWaveFiles()
     const auto wave = readWave(file.fileName(), error);
     QCOMPARE(wave.has_value(), frames >= 0);
     QCOMPARE(error.isEmpty(), frames >= 0);
-    if (wave)
-        QCOMPARE(wave->frames(), static_cast<std::size_t>(frames));
+    if (!wave)
+        return;
+    QCOMPARE(wave->frames(), static_cast<std::size_t>(frames));
+    SoundSetup sound = playing(Sound::Wave);
+    sound.wave = *wave;
+    for (const int place : {-3, 0, 1}) // the first one with a clock that was set back
+        QVERIFY(std::abs(sound.sample(place, 0, wave->sampleRate)) <= 0.5);
 }
 
 void TestAudio::readsAudioScripts()
@@ -267,7 +301,6 @@ void TestAudio::musicReachesMatrix()
     matrixForm = form;
     settingsInt(kMusicTemplateKey, static_cast<int>(AudioTemplate::Mirrored), true);
     rig.page->updateInterfaceData();
-    QSignalSpy heights(&SoundAnalyzer::instance(), &SoundAnalyzer::heightsReady);
     rig.press(rig.page->switchOptions(), 1);
     QVERIFY(rig.page->isMusicOn());
     QTRY_VERIFY(litCells(rig.shown()) > 0);
@@ -277,8 +310,7 @@ void TestAudio::musicReachesMatrix()
     QTRY_VERIFY([&] {
         const auto bars = makeAudioBars(form);
         const auto shown = rig.shown();
-        return std::any_of(heights.begin(), heights.end(), [&](const QList<QVariant> &told) {
-            const auto list = told[0].value<QList<int>>();
+        return std::any_of(rig.heard.begin(), rig.heard.end(), [&](const QList<int> &list) {
             return drawn(*bars, AudioTemplate::Mirrored, {list.begin(), list.end()}) == shown;
         });
     }());
@@ -296,25 +328,54 @@ void TestAudio::musicReachesMatrix()
     QCOMPARE(rig.fixture.desk.accessory().protocolFaults(), 0);
 }
 
-void TestAudio::switchesOffWithStopReport()
+void TestAudio::refusedWithoutAccessory()
 {
     MusicRig rig;
     rig.connected = false;
     rig.press(rig.page->switchOptions(), 1);
     QVERIFY(!rig.page->isMusicOn()); // nothing to show it on
     QVERIFY(rig.page->switchOptions()->buttonOf(0)->isChecked());
-    rig.connected = true;
-    rig.press(rig.page->switchOptions(), 1);
-    QTRY_VERIFY(litCells(rig.shown()) > 0);
+}
 
-    rig.press(rig.page->switchOptions(), 0);
-    const auto history = rig.fixture.desk.accessory().history();
-    QVERIFY(history.back().bytes.startsWith(QByteArray("\x01\xE0\x01", 3)));
-    QTRY_VERIFY(!rig.capturing());
-    QCoreApplication::processEvents(); // heights that were under way
-    QCOMPARE(rig.fixture.desk.accessory().history().size(), history.size());
-    QVERIFY(rig.page->picture()->heights().isEmpty());
-    QVERIFY(!rig.page->note().isEmpty());
+void TestAudio::endsWithStopReport_data()
+{
+    QTest::addColumn<std::function<void(MusicRig &)>>("end");
+    QTest::addColumn<bool>("staysOn");
+    const auto row = [](const char *name, bool staysOn, std::function<void(MusicRig &)> end) {
+        QTest::newRow(name) << std::move(end) << staysOn;
+    };
+    const auto system = [](MusicRig &rig, OptionGroupRow *(pageLEDSystem::*options)() const, int value) {
+        pageLEDSystem page([] { return true; }, rig.queue);
+        rig.press((page.*options)(), value);
+    };
+    row("switch", false, [](MusicRig &rig) { rig.press(rig.page->switchOptions(), 0); });
+    row("busy mode", true, [](MusicRig &rig) { rig.page->setBusy(true); });
+    row("by itself", true, [](MusicRig &) { SoundAnalyzer::instance().stop(); });
+    row("the page's end", false, [](MusicRig &rig) { rig.page.reset(); });
+    row("lamp", false, [system](MusicRig &rig) { system(rig, &pageLEDSystem::lampOptions, 1); });
+    row("clock off", false, [system](MusicRig &rig) { system(rig, &pageLEDSystem::clockOptions, 0); });
+}
+
+void TestAudio::endsWithStopReport()
+{
+    QFETCH(std::function<void(MusicRig &)>, end);
+    QFETCH(bool, staysOn);
+    MusicRig rig;
+    QVERIFY(rig.play());
+    end(rig);
+    QTRY_VERIFY(!SoundAnalyzer::instance().isRunning());
+    QTRY_COMPARE(rig.stopReports(), 1);
+    const std::size_t written = rig.fixture.desk.accessory().history().size();
+    QTest::qWait(5); // for heights and frames that were under way
+    QCOMPARE(rig.fixture.desk.accessory().history().size(), written);
+    if (rig.page) {
+        QCOMPARE(rig.page->isMusicOn(), staysOn);
+        QVERIFY(rig.page->switchOptions()->buttonOf(staysOn ? 1 : 0)->isChecked());
+        QVERIFY(rig.page->picture()->heights().isEmpty());
+        QVERIFY(staysOn || !rig.page->note().isEmpty());
+    }
+    rig.page.reset();
+    QCOMPARE(rig.stopReports(), 1); // it would fall into whatever has the accessory now
 }
 
 void TestAudio::busyModeInterrupts()
@@ -323,8 +384,7 @@ void TestAudio::busyModeInterrupts()
     rig.page->setBusy(true);
     rig.page->setBusy(false); // with the mode off nothing begins
     QVERIFY(!SoundAnalyzer::instance().isRunning());
-    rig.press(rig.page->switchOptions(), 1);
-    QTRY_VERIFY(litCells(rig.shown()) > 0);
+    QVERIFY(rig.play());
 
     rig.page->setBusy(true);
     const std::size_t written = rig.fixture.desk.accessory().history().size();
@@ -363,19 +423,18 @@ void TestAudio::saysWhyNothingMoves()
     QCOMPARE(rig.page->note(), off);
 }
 
-void TestAudio::clockTakesOver()
+void TestAudio::listensToNewDefaultDevice()
 {
     MusicRig rig;
-    rig.press(rig.page->switchOptions(), 1);
-    QTRY_VERIFY(litCells(rig.shown()) > 0);
-    // The window's busy mode is not needed for this: another page simply begins its own work.
-    QTRY_VERIFY([&] {
-        ledWorkThread::instance()->begin(ledWorkThread::ClockLoop);
-        return !rig.page->isMusicOn();
-    }());
-    QVERIFY(rig.page->switchOptions()->buttonOf(0)->isChecked());
-    QTRY_VERIFY(!rig.capturing());
-    ledWorkThread::instance()->stop();
+    QVERIFY(rig.play());
+    rig.fixture.desk.sound().moveDefault([](EndpointSetup &setup) { setup.sampleRate = 96000; });
+    const auto passes = [&rig] {
+        rig.fixture.clock.advance(1s);
+        return rig.page->note();
+    };
+    QVERIFY(QTest::qWaitFor([&] { return !passes().isEmpty(); })); // and yet nothing fails
+    QVERIFY(QTest::qWaitFor([&] { return passes().isEmpty(); }));
+    QCOMPARE(rig.stopReports(), 0);
 }
 
 void TestAudio::panelPlays()
