@@ -2,6 +2,7 @@
 
 #include <set>
 
+#include <QComboBox>
 #include <QPushButton>
 #include <QSemaphore>
 #include <QSlider>
@@ -259,7 +260,7 @@ void TestAudio::readsWaveFiles()
         return;
     QCOMPARE(wave->frames(), static_cast<std::size_t>(frames));
     SoundSetup sound = playing(Sound::Wave);
-    sound.wave = *wave;
+    sound.wave = std::make_shared<const WaveData>(*wave);
     for (const int place : {-3, 0, 1}) // the first one with a clock that was set back
         QVERIFY(std::abs(sound.sample(place, 0, wave->sampleRate)) <= 0.5);
 }
@@ -282,7 +283,11 @@ void TestAudio::readsAudioScripts()
     for (const char *script :
          {R"({"audio": []})", R"({"audio": {"rate": 3}})", R"({"audio": {"plays": "jazz"}})",
           R"({"audio": {"plays": "wave", "file": "none.wav"}})", R"({"audio": {"faults": [{"call": "sing"}]}})",
-          R"({"audio": {"faults": [{"call": "stop", "result": "bad"}]}})"}) {
+          R"({"audio": {"faults": [{"call": "stop", "result": "bad"}]}})", R"({"audio": {"present": 1}})",
+          R"({"audio": {"rat": 48000}})", R"({"audio": {"faults": {}}})", R"({"audio": {"faults": [{}]}})",
+          R"({"audio": {"faults": [{"call": "stop", "result": 5}]}})",
+          R"({"audio": {"faults": [{"call": "stop", "time": 5}]}})"}) {
+        error.clear();
         QVERIFY(!parseDeskScript(script, error));
         QVERIFY(!error.isEmpty());
     }
@@ -443,8 +448,15 @@ void TestAudio::panelPlays()
     SimulatedEndpoint &endpoint = rig.fixture.desk.sound();
     SoundPanel panel(rig.fixture.desk);
     const auto sliders = panel.findChildren<QSlider *>();
+    endpoint.change([](EndpointSetup &setup) {
+        setup.sampleRate = 22050; // which no box offers, as the tone below
+        setup.sound.secondFrequency = 701;
+    });
+    QCoreApplication::processEvents();
     sliders[0]->setValue(40);
     QCOMPARE(endpoint.setup().sound.frequency, 880.0);
+    QCOMPARE(endpoint.setup().sound.secondFrequency, 701.0);
+    QCOMPARE(panel.findChildren<QComboBox *>()[1]->currentData().toInt(), 22050);
     endpoint.play(playing(Sound::Noise)); // by whomever
     QTRY_VERIFY(!sliders[0]->isEnabled());
     const auto buttons = panel.findChildren<QPushButton *>();

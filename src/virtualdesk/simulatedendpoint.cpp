@@ -34,7 +34,7 @@ bool isConsistent(const AudioFormat &format)
 } // namespace
 
 SimulatedEndpoint::SimulatedEndpoint(platform::Clock &clock, const EndpointSetup &setup)
-    : m_clock(clock), m_begin(clock.now()), m_setup(setup), m_playsSince(m_begin)
+    : m_clock(clock), m_begin(clock.now()), m_setup(setup)
 {
 }
 
@@ -49,7 +49,6 @@ void SimulatedEndpoint::play(const SoundSetup &sound)
     {
         const std::lock_guard lock(m_mutex);
         m_setup.sound = sound;
-        m_playsSince = m_clock.now();
     }
     announce();
 }
@@ -103,12 +102,6 @@ void SimulatedEndpoint::fail(const AudioFault &fault)
     m_faults.push_back(fault);
 }
 
-void SimulatedEndpoint::clearFaults()
-{
-    const std::lock_guard lock(m_mutex);
-    m_faults.clear();
-}
-
 int SimulatedEndpoint::count(AudioCall call) const
 {
     const std::lock_guard lock(m_mutex);
@@ -125,12 +118,6 @@ int SimulatedEndpoint::objects() const
 {
     const std::lock_guard lock(m_mutex);
     return static_cast<int>(m_tokens.use_count()) - 1;
-}
-
-QDateTime SimulatedEndpoint::playsSince() const
-{
-    const std::lock_guard lock(m_mutex);
-    return m_playsSince;
 }
 
 void SimulatedEndpoint::setListener(std::function<void()> changed)

@@ -80,15 +80,12 @@ public:
     bool serviceRunning() const;
 
     void fail(const AudioFault &fault);
-    void clearFaults();
 
     /// Calls since the last resetCounts, failed ones too.
     int count(AudioCall call) const;
     void resetCounts();
     /// Clients, events, tasks and threads with COM that exist now.
     int objects() const;
-    /// When the sound that plays now was chosen, by the clock.
-    QDateTime playsSince() const;
 
     /// Called on the thread that changed something, after it. Once this returns the listener of before is not called
     /// any more.
@@ -144,7 +141,6 @@ private:
     std::uint64_t m_generation = 1;
     std::uint64_t m_device = 1; // the default one
     QDateTime m_movedAt;        // from the one before to it
-    QDateTime m_playsSince;
     std::array<int, kAudioCalls> m_counts{};
     std::vector<AudioFault> m_faults;
     std::function<void(AudioCall, int)> m_probe; // not guarded: set before

@@ -139,15 +139,15 @@ double SoundSetup::sample(std::int64_t frame, int channel, int sampleRate) const
     case Sound::Wave:
         break;
     }
-    if (wave.frames() == 0)
+    if (!wave || wave->frames() == 0)
         return 0;
-    const auto frames = static_cast<std::int64_t>(wave.frames());
+    const auto frames = static_cast<std::int64_t>(wave->frames());
     // A clock that was set back comes before the beginning.
-    const std::int64_t turn = static_cast<std::int64_t>(std::floor(seconds * wave.sampleRate)) % frames;
+    const std::int64_t turn = static_cast<std::int64_t>(std::floor(seconds * wave->sampleRate)) % frames;
     const auto place = static_cast<std::size_t>(turn < 0 ? turn + frames : turn);
-    const auto channels = static_cast<std::size_t>(wave.channels);
+    const auto channels = static_cast<std::size_t>(wave->channels);
     return loudness *
-           static_cast<double>(wave.samples[place * channels + static_cast<std::size_t>(channel) % channels]);
+           static_cast<double>(wave->samples[place * channels + static_cast<std::size_t>(channel) % channels]);
 }
 
 } // namespace virtualdesk

@@ -8,7 +8,7 @@
 
 #include "page/Nightloom/audioled.h"
 
-/// What is heard: eleven bars with their frequencies, and beside them the matrix as it shows them.
+/// What is heard: eleven bars, and beside them the matrix as it shows them.
 class AudioPicture : public QWidget
 {
     Q_OBJECT
