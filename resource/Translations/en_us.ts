@@ -1196,6 +1196,10 @@
         <translation>Open the page</translation>
     </message>
     <message>
+        <source>Out of order</source>
+        <translation>Out of order</translation>
+    </message>
+    <message>
         <source>Output Range</source>
         <translation>Output Range</translation>
     </message>
@@ -1704,6 +1708,10 @@
         <translation>The next packet cannot be fetched</translation>
     </message>
     <message>
+        <source>The next packet is refused, as if the one before were still held</source>
+        <translation>The next packet is refused, as if the one before were still held</translation>
+    </message>
+    <message>
         <source>The page %1 could not be opened.</source>
         <translation>The page %1 could not be opened.</translation>
     </message>
@@ -1736,6 +1744,10 @@
         <translation>The simulated monitor that is shown here</translation>
     </message>
     <message>
+        <source>The sound output cannot be listened to. It is tried again every few seconds.</source>
+        <translation>The sound output cannot be listened to. It is tried again every few seconds.</translation>
+    </message>
+    <message>
         <source>The standard of the web.</source>
         <translation>The standard of the web.</translation>
     </message>
@@ -1766,10 +1778,6 @@
     <message>
         <source>There is no text yet.</source>
         <translation>There is no text yet.</translation>
-    </message>
-    <message>
-        <source>This computer has no sound output to listen to. It is looked for again every few seconds.</source>
-        <translation>This computer has no sound output to listen to. It is looked for again every few seconds.</translation>
     </message>
     <message>
         <source>This function has its row already.</source>

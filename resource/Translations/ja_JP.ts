@@ -1196,6 +1196,10 @@
         <translation>ページを開く</translation>
     </message>
     <message>
+        <source>Out of order</source>
+        <translation>順序違反</translation>
+    </message>
+    <message>
         <source>Output Range</source>
         <translation>出力レンジ</translation>
     </message>
@@ -1704,6 +1708,10 @@
         <translation>次のパケットを取得できません</translation>
     </message>
     <message>
+        <source>The next packet is refused, as if the one before were still held</source>
+        <translation>前のパケットが保持されたままのように、次のパケットを拒否します</translation>
+    </message>
+    <message>
         <source>The page %1 could not be opened.</source>
         <translation>ページ %1 を開けませんでした。</translation>
     </message>
@@ -1736,6 +1744,10 @@
         <translation>ここに表示するモニター</translation>
     </message>
     <message>
+        <source>The sound output cannot be listened to. It is tried again every few seconds.</source>
+        <translation>音声出力を聞き取れません。数秒ごとに再試行します。</translation>
+    </message>
+    <message>
         <source>The standard of the web.</source>
         <translation>ウェブの標準色です。</translation>
     </message>
@@ -1766,10 +1778,6 @@
     <message>
         <source>There is no text yet.</source>
         <translation>テキストがまだありません。</translation>
-    </message>
-    <message>
-        <source>This computer has no sound output to listen to. It is looked for again every few seconds.</source>
-        <translation>このコンピューターには聞き取れる音声出力がありません。数秒ごとに再検索します。</translation>
     </message>
     <message>
         <source>This function has its row already.</source>

@@ -1196,6 +1196,10 @@
         <translation>打开网页</translation>
     </message>
     <message>
+        <source>Out of order</source>
+        <translation>顺序错误</translation>
+    </message>
+    <message>
         <source>Output Range</source>
         <translation>输出范围</translation>
     </message>
@@ -1704,6 +1708,10 @@
         <translation>下一个数据包无法读取</translation>
     </message>
     <message>
+        <source>The next packet is refused, as if the one before were still held</source>
+        <translation>拒绝下一个数据包，如同上一个仍被占用</translation>
+    </message>
+    <message>
         <source>The page %1 could not be opened.</source>
         <translation>无法打开网页 %1。</translation>
     </message>
@@ -1736,6 +1744,10 @@
         <translation>此处显示的模拟显示器</translation>
     </message>
     <message>
+        <source>The sound output cannot be listened to. It is tried again every few seconds.</source>
+        <translation>无法监听声音输出，每隔几秒会重试。</translation>
+    </message>
+    <message>
         <source>The standard of the web.</source>
         <translation>网络内容的标准色彩。</translation>
     </message>
@@ -1766,10 +1778,6 @@
     <message>
         <source>There is no text yet.</source>
         <translation>还没有文字。</translation>
-    </message>
-    <message>
-        <source>This computer has no sound output to listen to. It is looked for again every few seconds.</source>
-        <translation>此电脑没有可聆听的声音输出，每隔几秒会重新查找。</translation>
     </message>
     <message>
         <source>This function has its row already.</source>

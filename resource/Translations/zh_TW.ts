@@ -1196,6 +1196,10 @@
         <translation>開啟網頁</translation>
     </message>
     <message>
+        <source>Out of order</source>
+        <translation>順序錯誤</translation>
+    </message>
+    <message>
         <source>Output Range</source>
         <translation>輸出範圍</translation>
     </message>
@@ -1704,6 +1708,10 @@
         <translation>下一個封包無法讀取</translation>
     </message>
     <message>
+        <source>The next packet is refused, as if the one before were still held</source>
+        <translation>拒絕下一個封包，如同上一個仍被佔用</translation>
+    </message>
+    <message>
         <source>The page %1 could not be opened.</source>
         <translation>無法開啟網頁 %1。</translation>
     </message>
@@ -1736,6 +1744,10 @@
         <translation>此處顯示的模擬顯示器</translation>
     </message>
     <message>
+        <source>The sound output cannot be listened to. It is tried again every few seconds.</source>
+        <translation>無法監聽聲音輸出，每隔幾秒會重試。</translation>
+    </message>
+    <message>
         <source>The standard of the web.</source>
         <translation>網路內容的標準色彩。</translation>
     </message>
@@ -1766,10 +1778,6 @@
     <message>
         <source>There is no text yet.</source>
         <translation>還沒有文字。</translation>
-    </message>
-    <message>
-        <source>This computer has no sound output to listen to. It is looked for again every few seconds.</source>
-        <translation>此電腦沒有可聆聽的音訊輸出，每隔幾秒會重新尋找。</translation>
     </message>
     <message>
         <source>This function has its row already.</source>

@@ -74,13 +74,15 @@ bool SoundAnalyzer::init()
     }
     auto event = audio.createEvent();
     std::unique_ptr<platform::AudioClient> client;
-    if (!event || platform::audioFailed(endpoint->activate(client)) || !openClient(*client))
+    platform::AudioFormat format;
+    if (!event || platform::audioFailed(endpoint->activate(client)) || !openClient(*client, format))
         return false;
     std::unique_ptr<platform::AudioCaptureClient> capture;
     if (platform::audioFailed(client->captureClient(capture)))
         return false;
 
-    // Only now: until there is something better the old client goes on saying why it fails.
+    // Only now, and all together: until there is something better the old client goes on, in its own format.
+    m_format = format;
     m_capture = std::move(capture);
     m_client = std::move(client);
     m_event = std::move(event);
@@ -89,11 +91,10 @@ bool SoundAnalyzer::init()
     return m_task != nullptr;
 }
 
-/// Sets the stream up and the transform for its format.
-bool SoundAnalyzer::openClient(platform::AudioClient &client)
+/// Sets the stream up and the transform for its format, which it tells.
+bool SoundAnalyzer::openClient(platform::AudioClient &client, platform::AudioFormat &format)
 {
     std::int64_t period = 0;
-    platform::AudioFormat format;
     if (platform::audioFailed(client.devicePeriod(period)) || platform::audioFailed(client.mixFormat(format)) ||
         !makeInteger(format))
         return false;
@@ -105,19 +106,18 @@ bool SoundAnalyzer::openClient(platform::AudioClient &client)
         format = wished;
 
     const AudioResult result = client.initialize(platform::kStreamLoopback, kPeriodsBuffered * period, format);
-    if (platform::audioFailed(result)) // and yet it goes on: the loop tells what became of it
+    if (platform::audioFailed(result)) // and yet it goes on: the system refuses the capture client then
         qDebug().noquote() << "initialization failed." << hex(result);
-    if (!m_analysis.prepare(format.sampleRate))
-        return false;
-    m_format = format;
-    return true;
+    return m_analysis.prepare(format.sampleRate);
 }
 
 void SoundAnalyzer::run()
 {
     // The interface thread's COM does not reach here.
     const auto thread = platform::desk().audio().initialiseThread();
+    m_begun = false;
     if (init()) {
+        m_begun = true;
         m_running = 1;
         m_failedBefore = false;
         m_analysis.clear();
@@ -170,14 +170,15 @@ bool SoundAnalyzer::waitForPacket()
         qDebug().noquote() << "FAILED(hr)1" << hex(result);
         return false;
     }
+    if (frames != 0)
+        return true;
     m_failedBefore = false;
-    if (frames == 0)
-        platform::desk().clock().sleep(kNoPacketWait);
-    return frames != 0;
+    platform::desk().clock().sleep(kNoPacketWait);
+    return false;
 }
 
-/// Initialises anew. The first attempt is made at once; those that follow in vain rest, or they would take all of a
-/// processor until the device is back.
+/// Initialises anew. The first attempt is made at once; those that follow before a turn went well rest, or they would
+/// take all of a processor until the device is back.
 void SoundAnalyzer::recover()
 {
     if (m_failedBefore)
@@ -191,15 +192,16 @@ platform::AudioPacket SoundAnalyzer::takePacket(bool &goOn)
 {
     platform::AudioPacket packet;
     const AudioResult result = m_capture->getBuffer(packet);
-    if (!platform::audioFailed(result))
+    if (!platform::audioFailed(result)) {
+        m_failedBefore = false;
         return packet;
+    }
     if (result == platform::kAudioBufferError) {
         m_client->stop();
         m_client->reset();
         m_client->start();
     } else if (result == platform::kAudioOutOfOrder) {
-        if (!init())
-            platform::desk().clock().sleep(kRest);
+        recover();
         goOn = true;
     } else {
         qDebug().noquote() << "FAILED(hr)2" << hex(result);

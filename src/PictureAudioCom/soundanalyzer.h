@@ -29,6 +29,9 @@ public:
     /// Whether sound is being captured: not yet while the initialisation runs, and never when it fails. Any thread.
     bool isCapturing() const { return m_running != 0; }
 
+    /// Whether the initialisation of the run that is under way, or of the last one, succeeded. Any thread.
+    bool hasBegun() const { return m_begun; }
+
 Q_SIGNALS:
     /// Eleven heights, once per packet that held sound.
     void heightsReady(const QList<int> &heights);
@@ -40,7 +43,7 @@ protected:
 
 private:
     bool init();
-    bool openClient(platform::AudioClient &client);
+    bool openClient(platform::AudioClient &client, platform::AudioFormat &format);
     void captureTurns();
     bool waitForPacket();
     platform::AudioPacket takePacket(bool &goOn);
@@ -52,9 +55,10 @@ private:
     std::unique_ptr<platform::AudioScope> m_event; // made with the client; nothing waits for it
     std::unique_ptr<platform::AudioClient> m_client;
     std::unique_ptr<platform::AudioCaptureClient> m_capture; // goes before its client
-    platform::AudioFormat m_format;
+    platform::AudioFormat m_format;                          // of the client
     std::unique_ptr<platform::AudioScope> m_task;
     SpectrumAnalysis m_analysis;
     bool m_failedBefore = false; // the turn before ended in a new initialisation
+    std::atomic<bool> m_begun = false;
     std::atomic<std::uint8_t> m_running = 0;
 };

@@ -34,7 +34,7 @@ bool isConsistent(const AudioFormat &format)
 } // namespace
 
 SimulatedEndpoint::SimulatedEndpoint(platform::Clock &clock, const EndpointSetup &setup)
-    : m_clock(clock), m_begin(clock.now()), m_setup(setup), m_playsSince(m_begin)
+    : m_clock(clock), m_begin(clock.now()), m_setup(setup)
 {
 }
 
@@ -49,7 +49,6 @@ void SimulatedEndpoint::play(const SoundSetup &sound)
     {
         const std::lock_guard lock(m_mutex);
         m_setup.sound = sound;
-        m_playsSince = m_clock.now();
     }
     announce();
 }
@@ -60,6 +59,18 @@ void SimulatedEndpoint::change(const std::function<void(EndpointSetup &)> &edit)
         const std::lock_guard lock(m_mutex);
         edit(m_setup);
         ++m_generation;
+    }
+    announce();
+}
+
+void SimulatedEndpoint::moveDefault(const std::function<void(EndpointSetup &)> &edit)
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        if (edit)
+            edit(m_setup);
+        ++m_device;
+        m_movedAt = m_clock.now();
     }
     announce();
 }
@@ -91,12 +102,6 @@ void SimulatedEndpoint::fail(const AudioFault &fault)
     m_faults.push_back(fault);
 }
 
-void SimulatedEndpoint::clearFaults()
-{
-    const std::lock_guard lock(m_mutex);
-    m_faults.clear();
-}
-
 int SimulatedEndpoint::count(AudioCall call) const
 {
     const std::lock_guard lock(m_mutex);
@@ -115,27 +120,17 @@ int SimulatedEndpoint::objects() const
     return static_cast<int>(m_tokens.use_count()) - 1;
 }
 
-QDateTime SimulatedEndpoint::playsSince() const
-{
-    const std::lock_guard lock(m_mutex);
-    return m_playsSince;
-}
-
 void SimulatedEndpoint::setListener(std::function<void()> changed)
 {
-    const std::lock_guard lock(m_mutex);
+    const std::lock_guard lock(m_listenerMutex);
     m_listener = std::move(changed);
 }
 
 void SimulatedEndpoint::announce()
 {
-    std::function<void()> listener;
-    {
-        const std::lock_guard lock(m_mutex);
-        listener = m_listener;
-    }
-    if (listener)
-        listener();
+    const std::lock_guard lock(m_listenerMutex);
+    if (m_listener)
+        m_listener();
 }
 
 std::shared_ptr<void> SimulatedEndpoint::token()
@@ -171,6 +166,7 @@ Result SimulatedEndpoint::open(Stream &stream)
     if (!m_setup.present)
         return platform::kAudioDeviceInvalidated;
     stream.generation = m_generation;
+    stream.device = m_device;
     return platform::kAudioOk;
 }
 
@@ -233,6 +229,15 @@ std::int64_t SimulatedEndpoint::nowFrame(const Stream &stream) const
     return m_begin.msecsTo(m_clock.now()) * stream.format.sampleRate / 1000;
 }
 
+/// Where what the stream's device plays has come to.
+std::int64_t SimulatedEndpoint::heardFrame(const Stream &stream) const
+{
+    const std::int64_t now = nowFrame(stream);
+    if (stream.device == m_device)
+        return now;
+    return std::min<std::int64_t>(now, m_begin.msecsTo(m_movedAt) * stream.format.sampleRate / 1000);
+}
+
 int SimulatedEndpoint::packetFrames(const Stream &stream) const
 {
     return m_setup.packetFrames > 0 ? m_setup.packetFrames
@@ -244,7 +249,7 @@ void SimulatedEndpoint::capture(Stream &stream)
 {
     if (!stream.running)
         return;
-    const std::int64_t now = nowFrame(stream);
+    const std::int64_t now = heardFrame(stream);
     const std::int64_t fresh = now - stream.next - stream.captured;
     if (m_setup.sound.sound == Sound::Nothing) {
         stream.next = now - stream.captured;

@@ -71,23 +71,24 @@ public:
     void play(const SoundSetup &sound);
     /// Another rate, channel count, mix or packet size: the clients of before are dead.
     void change(const std::function<void(EndpointSetup &)> &edit);
+    /// Another device becomes the default one and what plays goes there: the clients of the one before stay alive, and
+    /// hear nothing more.
+    void moveDefault(const std::function<void(EndpointSetup &)> &edit = {});
     /// Plugs the device in or pulls it out.
     void setPresent(bool present);
     void setServiceRunning(bool running);
     bool serviceRunning() const;
 
     void fail(const AudioFault &fault);
-    void clearFaults();
 
     /// Calls since the last resetCounts, failed ones too.
     int count(AudioCall call) const;
     void resetCounts();
     /// Clients, events, tasks and threads with COM that exist now.
     int objects() const;
-    /// When the sound that plays now was chosen, by the clock.
-    QDateTime playsSince() const;
 
-    /// Called on the thread that changed something, after it.
+    /// Called on the thread that changed something, after it. Once this returns the listener of before is not called
+    /// any more.
     void setListener(std::function<void()> changed);
     /// Called on the calling thread before a call is done, with its number since the last resetCounts. Set while nobody
     /// calls.
@@ -99,6 +100,7 @@ public:
     {
         platform::AudioFormat format;
         std::uint64_t generation = 0;
+        std::uint64_t device = 0;
         bool initialised = false;
         bool running = false;
         bool held = false; // a buffer was handed out
@@ -126,6 +128,7 @@ public:
 private:
     Result alive(const Stream &stream) const;
     std::int64_t nowFrame(const Stream &stream) const;
+    std::int64_t heardFrame(const Stream &stream) const;
     int packetFrames(const Stream &stream) const;
     void capture(Stream &stream);
     void announce();
@@ -136,12 +139,14 @@ private:
     EndpointSetup m_setup;
     bool m_serviceRunning = true;
     std::uint64_t m_generation = 1;
-    QDateTime m_playsSince;
+    std::uint64_t m_device = 1; // the default one
+    QDateTime m_movedAt;        // from the one before to it
     std::array<int, kAudioCalls> m_counts{};
     std::vector<AudioFault> m_faults;
-    std::function<void()> m_listener;
     std::function<void(AudioCall, int)> m_probe; // not guarded: set before
     std::shared_ptr<int> m_tokens = std::make_shared<int>();
+    std::mutex m_listenerMutex; // held while the listener is called
+    std::function<void()> m_listener;
 };
 
 } // namespace virtualdesk

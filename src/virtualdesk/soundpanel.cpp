@@ -50,10 +50,15 @@ constexpr FaultSpec kFaults[] = {
      },
      [](const SimulatedEndpoint &endpoint) { return endpoint.setup().packetFrames != 0; }},
     {NAME("New device"), NAME("Another device becomes the default one"),
-     [](SimulatedEndpoint &endpoint, bool) { endpoint.change([](EndpointSetup &) {}); }, nullptr},
+     [](SimulatedEndpoint &endpoint, bool) { endpoint.moveDefault(); }, nullptr},
     {NAME("Buffer error"), NAME("The next packet cannot be fetched"),
      [](SimulatedEndpoint &endpoint, bool) {
          endpoint.fail({AudioCall::GetBuffer, platform::kAudioBufferError, 1});
+     },
+     nullptr},
+    {NAME("Out of order"), NAME("The next packet is refused, as if the one before were still held"),
+     [](SimulatedEndpoint &endpoint, bool) {
+         endpoint.fail({AudioCall::GetBuffer, platform::kAudioOutOfOrder, 1});
      },
      nullptr},
     {NAME("Refuse format"), NAME("The next client is not initialised"),
@@ -79,6 +84,16 @@ double frequencyOf(int step)
 int stepOf(double frequency)
 {
     return static_cast<int>(std::lround(std::log2(frequency / kLowestTone) * kStepsPerOctave));
+}
+
+constexpr char kHertz[] = "%1 Hz";
+
+/// Chooses a value in a box, which gets an entry for one that it did not offer.
+void choose(QComboBox *box, int value, const char *text)
+{
+    if (box->findData(value) < 0)
+        box->addItem(QString::fromLatin1(text).arg(value), value);
+    box->setCurrentIndex(box->findData(value));
 }
 
 QLabel *makeTitle(QWidget *parent)
@@ -136,10 +151,18 @@ void SoundPanel::buildSound()
     connect(m_sound, &QComboBox::activated, this, [this](int index) {
         if (index == static_cast<int>(Sound::Wave) && !chooseFile())
             return showWhatIs();
-        play();
+        change([this, index](SoundSetup &sound) {
+            sound.sound = static_cast<Sound>(index);
+            if (sound.sound == Sound::Wave)
+                sound.wave = m_wave;
+        });
     });
-    for (QSlider *slider : {m_frequency, m_second, m_volume})
-        connect(slider, &QSlider::valueChanged, this, &SoundPanel::play);
+    connect(m_frequency, &QSlider::valueChanged, this,
+            [this](int step) { change([step](SoundSetup &sound) { sound.frequency = frequencyOf(step); }); });
+    connect(m_second, &QSlider::valueChanged, this,
+            [this](int step) { change([step](SoundSetup &sound) { sound.secondFrequency = frequencyOf(step); }); });
+    connect(m_volume, &QSlider::valueChanged, this,
+            [this](int percent) { change([percent](SoundSetup &sound) { sound.volume = percent; }); });
 }
 
 void SoundPanel::buildDevice()
@@ -148,15 +171,22 @@ void SoundPanel::buildDevice()
     static_cast<QVBoxLayout *>(layout())->addWidget(m_deviceTitle);
     m_rate = addBox(m_rateRow);
     for (const int rate : kRates)
-        m_rate->addItem(QStringLiteral("%1 Hz").arg(rate), rate);
+        m_rate->addItem(QString::fromLatin1(kHertz).arg(rate), rate);
     m_channels = addBox(m_channelRow);
     for (const int channels : kChannels)
         m_channels->addItem(QString::number(channels), channels);
     m_mix = addBox(m_mixRow);
     for (std::size_t i = 0; i < std::size(kMixes); ++i)
         m_mix->addItem(QString());
-    for (QComboBox *box : {m_rate, m_channels, m_mix})
-        connect(box, &QComboBox::activated, this, &SoundPanel::changeDevice);
+    connect(m_rate, &QComboBox::activated, this, [this] {
+        m_endpoint.change([this](EndpointSetup &setup) { setup.sampleRate = m_rate->currentData().toInt(); });
+    });
+    connect(m_channels, &QComboBox::activated, this, [this] {
+        m_endpoint.change([this](EndpointSetup &setup) { setup.channels = m_channels->currentData().toInt(); });
+    });
+    connect(m_mix, &QComboBox::activated, this, [this](int index) {
+        m_endpoint.change([index](EndpointSetup &setup) { setup.mix = static_cast<MixKind>(index); });
+    });
 }
 
 void SoundPanel::buildFaults()
@@ -218,29 +248,17 @@ bool SoundPanel::chooseFile()
         m_state->setText(error);
         return false;
     }
-    m_wave = std::move(*wave);
+    m_wave = std::make_shared<const WaveData>(std::move(*wave));
     m_waveName = QFileInfo(fileName).fileName();
     return true;
 }
 
-void SoundPanel::play()
+/// Changes one thing about what plays; the others stay as they are, also where a control cannot show them exactly.
+void SoundPanel::change(const std::function<void(SoundSetup &)> &edit)
 {
-    SoundSetup sound;
-    sound.sound = static_cast<Sound>(m_sound->currentIndex());
-    sound.frequency = frequencyOf(m_frequency->value());
-    sound.secondFrequency = frequencyOf(m_second->value());
-    sound.volume = m_volume->value();
-    sound.wave = sound.sound == Sound::Wave ? m_wave : WaveData();
+    SoundSetup sound = m_endpoint.setup().sound;
+    edit(sound);
     m_endpoint.play(sound);
-}
-
-void SoundPanel::changeDevice()
-{
-    m_endpoint.change([this](EndpointSetup &setup) {
-        setup.sampleRate = m_rate->currentData().toInt();
-        setup.channels = m_channels->currentData().toInt();
-        setup.mix = static_cast<MixKind>(m_mix->currentIndex());
-    });
 }
 
 void SoundPanel::showWhatIs()
@@ -258,8 +276,8 @@ void SoundPanel::showWhatIs()
     m_frequencyRow.value->setText(QStringLiteral("%1 Hz").arg(setup.sound.frequency));
     m_secondRow.value->setText(QStringLiteral("%1 Hz").arg(setup.sound.secondFrequency));
     m_volumeRow.value->setText(QStringLiteral("%1 %").arg(setup.sound.volume));
-    m_rate->setCurrentIndex(m_rate->findData(setup.sampleRate));
-    m_channels->setCurrentIndex(m_channels->findData(setup.channels));
+    choose(m_rate, setup.sampleRate, kHertz);
+    choose(m_channels, setup.channels, "%1");
     m_mix->setCurrentIndex(static_cast<int>(setup.mix));
     for (std::size_t i = 0; i < m_faultButtons.size(); ++i) {
         if (kFaults[i].isSet)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+#include <memory>
 #include <vector>
 
 #include <QWidget>
@@ -40,13 +42,12 @@ private:
     void buildFaults();
     QSlider *addSlider(int maximum, Row &row);
     QComboBox *addBox(Row &row);
-    void play();
+    void change(const std::function<void(SoundSetup &)> &edit);
     bool chooseFile();
-    void changeDevice();
     void showWhatIs();
 
     SimulatedEndpoint &m_endpoint;
-    WaveData m_wave;
+    std::shared_ptr<const WaveData> m_wave;
     QString m_waveName;
     QLabel *m_soundTitle;
     QLabel *m_deviceTitle;

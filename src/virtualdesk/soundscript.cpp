@@ -37,7 +37,7 @@ public:
 
     template <typename Number> void number(const char *key, Number &target, double low, double high)
     {
-        const QJsonValue value = m_object.value(QLatin1String(key));
+        const QJsonValue value = take(key);
         if (value.isUndefined())
             return;
         const double given = value.toDouble(low - 1);
@@ -47,12 +47,18 @@ public:
             target = static_cast<Number>(given);
     }
 
-    void flag(const char *key, bool &target) const { target = m_object.value(QLatin1String(key)).toBool(target); }
+    void flag(const char *key, bool &target)
+    {
+        const QJsonValue value = take(key);
+        if (!value.isUndefined() && !value.isBool())
+            fail(QStringLiteral("\"%1\" must be true or false").arg(QLatin1String(key)));
+        target = value.toBool(target);
+    }
 
     template <typename Choice, std::size_t Count>
     void choice(const char *key, Choice &target, const char *const (&names)[Count])
     {
-        const QJsonValue value = m_object.value(QLatin1String(key));
+        const QJsonValue value = take(key);
         if (value.isUndefined())
             return;
         for (std::size_t i = 0; i < Count; ++i) {
@@ -62,6 +68,16 @@ public:
             }
         }
         fail(QStringLiteral("unknown \"%1\": \"%2\"").arg(QLatin1String(key), value.toString()));
+    }
+
+    /// The value, which counts as read.
+    QJsonValue take(const char *key) { return m_object.take(QLatin1String(key)); }
+
+    /// To be called when everything was read: what is left is a mistake.
+    void finish()
+    {
+        if (!m_object.isEmpty())
+            fail(QStringLiteral("unknown \"%1\"").arg(m_object.begin().key()));
     }
 
     void fail(const QString &text)
@@ -76,21 +92,27 @@ private:
     QJsonObject m_object;
 };
 
-AudioFault readFault(const QJsonObject &object, QString &error)
+AudioFault readFault(const QJsonValue &value, QString &error)
 {
+    QJsonObject object = value.toObject();
+    const bool always = object.value(QLatin1String("times")) == QLatin1String("always");
+    if (always)
+        object.remove(QLatin1String("times"));
     SoundReader reader(object);
     AudioFault fault;
     reader.choice("call", fault.call, kCalls);
-    if (object.value(QLatin1String("times")) == QLatin1String("always"))
+    reader.number("times", fault.times, 1, 1000000);
+    if (always)
         fault.times = kForEver;
-    else
-        reader.number("times", fault.times, 1, 1000000);
     bool ok = true;
-    const QString result = object.value(QLatin1String("result")).toString();
-    if (!result.isEmpty())
-        fault.result = result.toUInt(&ok, 0);
+    const QJsonValue result = reader.take("result");
+    if (!result.isUndefined())
+        fault.result = result.toString().toUInt(&ok, 0);
     if (!ok)
         reader.fail(QStringLiteral("\"result\" must be a code such as \"0x88890004\""));
+    if (!value.isObject() || !object.contains(QLatin1String("call")))
+        reader.fail(QStringLiteral("a fault must be an object with a \"call\""));
+    reader.finish();
     if (error.isEmpty())
         error = reader.error;
     return fault;
@@ -102,8 +124,7 @@ QString readSoundScript(const QJsonValue &value, EndpointSetup &setup, std::vect
 {
     if (!value.isObject())
         return QStringLiteral("\"audio\" must be an object");
-    const QJsonObject object = value.toObject();
-    SoundReader reader(object);
+    SoundReader reader(value.toObject());
     reader.flag("present", setup.present);
     reader.flag("converts_rates", setup.convertsRates);
     reader.choice("mix", setup.mix, kMixes);
@@ -114,17 +135,21 @@ QString readSoundScript(const QJsonValue &value, EndpointSetup &setup, std::vect
     reader.number("frequency", setup.sound.frequency, 1, 100000);
     reader.number("second_frequency", setup.sound.secondFrequency, 1, 100000);
     reader.number("volume", setup.sound.volume, 0, 100);
+    const QString fileName = reader.take("file").toString();
     if (setup.sound.sound == Sound::Wave) {
         QString fault;
-        const QString fileName = object.value(QLatin1String("file")).toString();
         if (auto wave = readWave(fileName, fault))
-            setup.sound.wave = std::move(*wave);
+            setup.sound.wave = std::make_shared<const WaveData>(std::move(*wave));
         else
             reader.fail(QStringLiteral("\"file\" %1: %2").arg(fileName, fault));
     }
-    const QJsonArray list = object.value(QLatin1String("faults")).toArray();
-    for (const QJsonValue &fault : list)
-        faults.push_back(readFault(fault.toObject(), reader.error));
+    const QJsonValue list = reader.take("faults");
+    if (!list.isUndefined() && !list.isArray())
+        reader.fail(QStringLiteral("\"faults\" must be a list"));
+    const QJsonArray array = list.toArray();
+    for (const QJsonValue &fault : array)
+        faults.push_back(readFault(fault, reader.error));
+    reader.finish();
     return reader.error;
 }
 

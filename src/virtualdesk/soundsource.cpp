@@ -1,5 +1,6 @@
 #include "virtualdesk/soundsource.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <numbers>
@@ -65,6 +66,12 @@ WaveFormat parseFormat(QByteArrayView chunk)
     return format;
 }
 
+/// Floating-point samples may be anything; what is no number is silent.
+float withinScale(float sample)
+{
+    return std::isnan(sample) ? 0.0F : std::clamp(sample, -1.0F, 1.0F);
+}
+
 std::vector<float> parseSamples(QByteArrayView data, const WaveFormat &format)
 {
     const qsizetype width = format.bits / 8;
@@ -72,7 +79,7 @@ std::vector<float> parseSamples(QByteArrayView data, const WaveFormat &format)
     samples.reserve(static_cast<std::size_t>(data.size() / width));
     for (qsizetype at = 0; at + width <= data.size(); at += width) {
         if (format.tag == kFloat)
-            samples.push_back(qFromLittleEndian<float>(data.data() + at));
+            samples.push_back(withinScale(qFromLittleEndian<float>(data.data() + at)));
         else
             samples.push_back(static_cast<float>(qFromLittleEndian<qint16>(data.data() + at)) / 32768.0F);
     }
@@ -132,12 +139,15 @@ double SoundSetup::sample(std::int64_t frame, int channel, int sampleRate) const
     case Sound::Wave:
         break;
     }
-    if (wave.frames() == 0)
+    if (!wave || wave->frames() == 0)
         return 0;
-    const auto place = static_cast<std::size_t>(seconds * wave.sampleRate) % wave.frames();
-    const auto channels = static_cast<std::size_t>(wave.channels);
+    const auto frames = static_cast<std::int64_t>(wave->frames());
+    // A clock that was set back comes before the beginning.
+    const std::int64_t turn = static_cast<std::int64_t>(std::floor(seconds * wave->sampleRate)) % frames;
+    const auto place = static_cast<std::size_t>(turn < 0 ? turn + frames : turn);
+    const auto channels = static_cast<std::size_t>(wave->channels);
     return loudness *
-           static_cast<double>(wave.samples[place * channels + static_cast<std::size_t>(channel) % channels]);
+           static_cast<double>(wave->samples[place * channels + static_cast<std::size_t>(channel) % channels]);
 }
 
 } // namespace virtualdesk

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -28,10 +29,10 @@ std::optional<WaveData> readWave(const QString &fileName, QString &error);
 struct SoundSetup
 {
     Sound sound = Sound::Nothing;
-    double frequency = 440;        ///< Hz, of the tone and of the first of two
-    double secondFrequency = 2500; ///< Hz
-    int volume = 50;               ///< percent of full scale
-    WaveData wave;                 ///< for Sound::Wave; repeated
+    double frequency = 440;               ///< Hz, of the tone and of the first of two
+    double secondFrequency = 2500;        ///< Hz
+    int volume = 50;                      ///< percent of full scale
+    std::shared_ptr<const WaveData> wave; ///< for Sound::Wave; repeated
 
     /// The sample of a channel at a place counted in frames of sampleRate, from -1 to 1.
     double sample(std::int64_t frame, int channel, int sampleRate) const;

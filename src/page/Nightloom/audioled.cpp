@@ -44,9 +44,30 @@ void AudioBars::lightFrom(std::size_t bar, int first, int count)
 void AudioBars::setLevels(const std::vector<std::int32_t> &levels)
 {
     for (std::size_t bar = 0; bar < m_columns.size(); ++bar) {
-        const int lit = bar < levels.size() ? litSteps(bar, levels[bar]) : 0;
+        m_lit[bar] = bar < levels.size() ? litSteps(bar, levels[bar]) : 0;
         const int fall = std::max(1, depth(bar) / kFallTime);
-        m_peaks[bar] = std::max(lit, m_peaks[bar] - fall);
+        m_peaks[bar] = std::max(m_lit[bar], m_peaks[bar] - fall);
+    }
+    draw();
+}
+
+void AudioBars::redraw()
+{
+    clear();
+    draw();
+}
+
+void AudioBars::reset()
+{
+    m_lit = {};
+    m_peaks = {};
+    clear();
+}
+
+void AudioBars::draw()
+{
+    for (std::size_t bar = 0; bar < m_columns.size(); ++bar) {
+        const int lit = m_lit[bar];
         switch (m_template) {
         case AudioTemplate::Bars:
             lightFrom(bar, 0, lit);

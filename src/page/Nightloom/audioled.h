@@ -24,8 +24,12 @@ public:
 
     /// All cells off; the peaks stay where they are.
     void clear() override;
-    /// Draws the heights, and lets every peak fall by a step.
+    /// Lets every peak fall by a step, and draws the heights.
     void setLevels(const std::vector<std::int32_t> &levels) override;
+    /// Draws what is shown once more, after the template was changed; no peak falls.
+    void redraw();
+    /// Nothing is heard any more: all cells off, and no peaks.
+    void reset();
     std::span<const std::int32_t> frame() const override { return m_flat; }
 
     /// Steps of a bar's column.
@@ -43,12 +47,14 @@ private:
     int litSteps(std::size_t bar, std::int32_t height) const;
     void light(std::size_t bar, int step);
     void lightFrom(std::size_t bar, int first, int count);
+    void draw();
 
     const int m_form;
     AudioTemplate m_template = AudioTemplate::Bars;
     MatrixFrame m_frame;
     std::vector<std::int32_t> m_flat;
     std::array<std::vector<Step>, kSpectrumBands> m_columns; // steps from the foot up
+    std::array<int, kSpectrumBands> m_lit{};                 // steps
     std::array<int, kSpectrumBands> m_peaks{};               // as counts of lit steps
 };
 

@@ -57,27 +57,30 @@ void AudioPicture::followForm()
         return;
     m_form = matrixForm;
     m_bars = makeAudioBars(m_form);
+    if (m_bars)
+        m_bars->setTemplate(m_template);
 }
 
 void AudioPicture::showHeights(const QList<int> &heights)
 {
     m_heights = heights;
-    drawMatrix();
+    followForm();
+    if (m_bars && heights.isEmpty())
+        m_bars->reset();
+    else if (m_bars) {
+        m_bars->clear();
+        m_bars->setLevels({m_heights.begin(), m_heights.end()});
+    }
+    update();
 }
 
 void AudioPicture::setTemplate(AudioTemplate which)
 {
     m_template = which;
-    drawMatrix();
-}
-
-void AudioPicture::drawMatrix()
-{
     followForm();
     if (m_bars) {
         m_bars->setTemplate(m_template);
-        m_bars->clear();
-        m_bars->setLevels({m_heights.begin(), m_heights.end()});
+        m_bars->redraw();
     }
     update();
 }

@@ -8,7 +8,7 @@
 
 #include "page/Nightloom/audioled.h"
 
-/// What is heard: eleven bars with their frequencies, and beside them the matrix as it shows them.
+/// What is heard: eleven bars, and beside them the matrix as it shows them.
 class AudioPicture : public QWidget
 {
     Q_OBJECT
@@ -30,7 +30,6 @@ protected:
 
 private:
     void followForm();
-    void drawMatrix();
     void paintBars(QPainter &painter, const QRect &area) const;
     void paintMatrix(QPainter &painter, const QRect &area) const;
 

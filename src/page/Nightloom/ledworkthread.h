@@ -65,6 +65,9 @@ Q_SIGNALS:
     /// Follows the last progress. Not complete when the accessory did not take every report.
     void uploadEnded(bool complete);
 
+    /// Somebody needs the accessory for something that lasts, and has stopped this thread: the music mode ends.
+    void takenOver();
+
     /// A spectrum frame was built; always 0.
     void frameBuilt(int value);
 

@@ -19,6 +19,7 @@ namespace {
 
 constexpr Command kNoCommand{}; // these options are the accessory's and never go to the monitor
 constexpr platform::milliseconds kLookAfter{1000};
+constexpr int kQuietLooks = 5; // then it is listened anew: another device may have become the default one
 constexpr platform::milliseconds kRetryAfter{3000};
 
 constexpr char kMusic[] = LABEL("Music Mode");
@@ -40,7 +41,7 @@ constexpr const char *kNotes[] = {
     LABEL("Listening…"),
     "",
     LABEL("Nothing is heard: no program plays, or the sound output is gone."),
-    LABEL("This computer has no sound output to listen to. It is looked for again every few seconds."),
+    LABEL("The sound output cannot be listened to. It is tried again every few seconds."),
 };
 
 } // namespace
@@ -53,6 +54,7 @@ pageLEDMusic::pageLEDMusic(AccessoryCheck ensureConnected, CommandQueue &queue, 
     connect(&m_analyzer, &SoundAnalyzer::stopped, this, &pageLEDMusic::onSoudanalyzerIsRun);
     connect(&m_analyzer, &QThread::finished, this, &pageLEDMusic::captureFinished);
     connect(ledWorkThread::instance(), &ledWorkThread::frameBuilt, this, &pageLEDMusic::sendBuiltFrame);
+    connect(ledWorkThread::instance(), &ledWorkThread::takenOver, this, &pageLEDMusic::yieldAccessory);
     buildPanels(kPanels);
 }
 
@@ -61,7 +63,7 @@ pageLEDMusic::~pageLEDMusic()
     m_on = false;
     m_analyzer.stop();
     m_analyzer.wait();
-    ledWorkThread::instance()->setSource(nullptr);
+    freeAccessory(true);
 }
 
 QWidget *pageLEDMusic::buildPart(const char *name)
@@ -142,7 +144,6 @@ void pageLEDMusic::switchMusic(int value)
     if (!m_ensureConnected())
         return;
     ledWorkThread::instance()->stop(); // a clock may be running
-    ledWorkThread::instance()->setSource(this);
     m_on = true;
     if (!m_busy)
         startCapture();
@@ -151,16 +152,19 @@ void pageLEDMusic::switchMusic(int value)
 void pageLEDMusic::switchOff(bool sendStop)
 {
     m_on = false;
-    stopCapture();
-    setHearing(Hearing::Off);
-    if (sendStop)
+    if (sendStop && !m_busy)
         ledWorkThread::instance()->stop();
-    ledWorkThread::instance()->setSource(nullptr); // once this returns no frame of ours is under way
-    if (!sendStop)
+    stopCapture(sendStop);
+    setHearing(Hearing::Off);
+}
+
+/// Another page has the accessory now, and says itself what is to be shown.
+void pageLEDMusic::yieldAccessory()
+{
+    if (!m_on)
         return;
-    AccessoryReport report;
-    buildLiveStop(report);
-    writePageReport(report);
+    switchOff(false);
+    showWhatIsSet();
 }
 
 void pageLEDMusic::setBusy(bool busy)
@@ -168,34 +172,55 @@ void pageLEDMusic::setBusy(bool busy)
     m_busy = busy;
     if (!m_on)
         return;
-    if (!busy) {
-        ledWorkThread::instance()->setSource(this);
-        return startCapture();
-    }
-    stopCapture();
-    ledWorkThread::instance()->setSource(nullptr); // once this returns no frame of ours is under way
+    if (busy)
+        stopCapture(true); // before what it is needed for begins
+    else
+        startCapture();
 }
 
 void pageLEDMusic::startCapture()
 {
     setHearing(Hearing::Waiting);
+    ledWorkThread::instance()->setSource(this);
+    m_streams = true;
     m_startAgain = m_analyzer.isRunning(); // a start would be lost now
     if (!m_startAgain)
         m_analyzer.start();
     m_heard = false;
-    expectSound();
+    m_quietLooks = 0;
+    ++m_lookRun;
+    lookLater();
 }
 
-void pageLEDMusic::stopCapture()
+void pageLEDMusic::stopCapture(bool sendStop)
 {
     m_startAgain = false;
+    ++m_lookRun;
     m_analyzer.stop();
     m_picture->showHeights({});
+    freeAccessory(sendStop);
+}
+
+/// Sees to it that no frame of ours goes out any more, and takes the last one off the matrix. Nothing is written when
+/// that was done before: something else may have the accessory since.
+void pageLEDMusic::freeAccessory(bool sendStop)
+{
+    ledWorkThread::instance()->setSource(nullptr); // once this returns no frame of ours is under way
+    for (const auto &visual : m_visuals) {
+        if (visual)
+            visual->reset();
+    }
+    if (!std::exchange(m_streams, false) || !sendStop)
+        return;
+    AccessoryReport report;
+    buildLiveStop(report);
+    writePageReport(report);
 }
 
 void pageLEDMusic::onSoudanalyzerIsRun()
 {
-    m_picture->showHeights({});
+    if (!m_startAgain) // else it only listens anew, and the matrix keeps its frame as well
+        m_picture->showHeights({});
 }
 
 void pageLEDMusic::captureFinished()
@@ -204,15 +229,16 @@ void pageLEDMusic::captureFinished()
         return;
     if (std::exchange(m_startAgain, false))
         return m_analyzer.start();
-    setHearing(Hearing::NoEndpoint);
+    setHearing(Hearing::Failed);
+    ++m_lookRun;
+    if (m_analyzer.hasBegun()) // and it has ended by itself
+        freeAccessory(true);
     if (std::exchange(m_retryWaits, true))
         return;
     platform::desk().clock().callLater(kRetryAfter, this, [this] {
         m_retryWaits = false;
-        if (!m_on || m_busy || m_analyzer.isRunning())
-            return;
-        m_analyzer.start();
-        expectSound();
+        if (m_on && !m_busy && !m_analyzer.isRunning())
+            startCapture();
     });
 }
 
@@ -220,15 +246,10 @@ void pageLEDMusic::showHeights(const QList<int> &heights)
 {
     if (!m_on || m_busy)
         return;
-    ledWorkThread *worker = ledWorkThread::instance();
-    if (worker->state() == ledWorkThread::ClockLoop) { // another page has the accessory now
-        switchOff(false);
-        return showWhatIsSet();
-    }
     m_heard = true;
     setHearing(Hearing::Sound);
-    expectSound();
     m_picture->showHeights(heights);
+    ledWorkThread *worker = ledWorkThread::instance();
     worker->setLevels({heights.begin(), heights.end()});
     worker->begin(ledWorkThread::BuildSpectrum);
 }
@@ -239,21 +260,30 @@ void pageLEDMusic::sendBuiltFrame()
         ledWorkThread::instance()->begin(ledWorkThread::SendSpectrum);
 }
 
-void pageLEDMusic::expectSound()
+void pageLEDMusic::lookLater()
 {
-    if (!std::exchange(m_lookWaits, true))
-        platform::desk().clock().callLater(kLookAfter, this, [this] { lookForSound(); });
+    platform::desk().clock().callLater(kLookAfter, this, [this, run = m_lookRun] {
+        if (run == m_lookRun)
+            lookForSound();
+    });
 }
 
-/// Says that nothing is heard when nothing was for a while. Looks again only as long as there is something to hear.
+/// Says that nothing is heard when nothing was for a while, and then listens anew every few seconds: the client of a
+/// device that is no longer the default one stays alive and hears nothing.
 void pageLEDMusic::lookForSound()
 {
-    m_lookWaits = false;
-    if (!m_on || m_busy || !m_analyzer.isCapturing())
+    lookLater();
+    if (std::exchange(m_heard, false)) {
+        m_quietLooks = 0;
         return;
-    if (std::exchange(m_heard, false))
-        return expectSound();
+    }
+    if (!m_analyzer.isCapturing())
+        return;
     setHearing(Hearing::Silence);
+    if (++m_quietLooks % kQuietLooks != 0)
+        return;
+    m_startAgain = true;
+    m_analyzer.stop();
 }
 
 void pageLEDMusic::setHearing(Hearing hearing)

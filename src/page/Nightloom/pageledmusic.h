@@ -46,7 +46,7 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    enum class Hearing { Off, Waiting, Sound, Silence, NoEndpoint };
+    enum class Hearing { Off, Waiting, Sound, Silence, Failed };
 
     AudioVisual *audioVisual() override;
     void frameSent() override {}
@@ -54,13 +54,15 @@ private:
     OptionGroupRow *makeOptions(const OptionGroup &group, void (pageLEDMusic::*chosen)(int value));
     void switchMusic(int value);
     void switchOff(bool sendStop);
+    void yieldAccessory();
     void chooseTemplate(int value);
     void startCapture();
-    void stopCapture();
+    void stopCapture(bool sendStop);
+    void freeAccessory(bool sendStop);
     void captureFinished();
     void showHeights(const QList<int> &heights);
     void sendBuiltFrame();
-    void expectSound();
+    void lookLater();
     void lookForSound();
     void setHearing(Hearing hearing);
     void showWhatIsSet();
@@ -75,8 +77,10 @@ private:
     bool m_busy = false;
     bool m_startAgain = false; ///< as soon as the capture that was stopped has ended
     bool m_retryWaits = false;
-    bool m_heard = false; ///< since the last look
-    bool m_lookWaits = false;
+    bool m_streams = false; ///< a capture was started, whose frames may be on the matrix
+    bool m_heard = false;   ///< since the last look
+    int m_quietLooks = 0;   ///< since something was heard
+    int m_lookRun = 0;      ///< looks of earlier runs mean nothing any more
     Hearing m_hearing = Hearing::Off;
     std::atomic<AudioTemplate> m_template = AudioTemplate::Bars;
     std::array<std::unique_ptr<AudioBars>, 2> m_visuals; ///< by matrix form; the worker's thread makes and uses them

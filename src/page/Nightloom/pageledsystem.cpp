@@ -168,6 +168,7 @@ void pageLEDSystem::switchLamp(int value)
     if (!takeOver())
         return;
     endLiveDisplay();
+    Q_EMIT ledWorkThread::instance()->takenOver(); // or the music would go on over the lamp
     AccessoryReport report;
     buildMatrixLamp(report, value != 0);
     writePageReport(report);
@@ -187,6 +188,7 @@ void pageLEDSystem::switchClock(int value)
 {
     if (!takeOver())
         return;
+    Q_EMIT ledWorkThread::instance()->takenOver();
     if (value != 0) {
         ledWorkThread::instance()->begin(ledWorkThread::ClockLoop);
         return;

@@ -103,7 +103,9 @@ public:
 
     AudioResult captureClient(std::unique_ptr<AudioCaptureClient> &client) override
     {
-        return (*m_shared)(AudioCall::CaptureClient, [this, &client](auto &, auto &) {
+        return (*m_shared)(AudioCall::CaptureClient, [this, &client](auto &, const auto &stream) {
+            if (!stream.initialised)
+                return kAudioNotInitialised;
             client = std::make_unique<VirtualCaptureClient>(m_shared);
             return kAudioOk;
         });

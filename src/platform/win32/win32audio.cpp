@@ -11,6 +11,8 @@
 
 #include <audioclient.h>
 #include <avrt.h>
+#include <ks.h>
+#include <ksmedia.h>
 #include <mmdeviceapi.h>
 
 #include <QtGlobal>
@@ -19,10 +21,14 @@ namespace platform {
 
 namespace {
 
+static_assert(kAudioBufferError == static_cast<AudioResult>(AUDCLNT_E_BUFFER_ERROR));
 static_assert(kAudioBufferEmpty == static_cast<AudioResult>(AUDCLNT_S_BUFFER_EMPTY));
 static_assert(kAudioDeviceInvalidated == static_cast<AudioResult>(AUDCLNT_E_DEVICE_INVALIDATED));
 static_assert(kAudioOutOfOrder == static_cast<AudioResult>(AUDCLNT_E_OUT_OF_ORDER));
 static_assert(kAudioServiceNotRunning == static_cast<AudioResult>(AUDCLNT_E_SERVICE_NOT_RUNNING));
+static_assert(kFormatFloat == WAVE_FORMAT_IEEE_FLOAT && kFormatExtensible == WAVE_FORMAT_EXTENSIBLE);
+static_assert(kSubFormatPcm == Guid{STATIC_KSDATAFORMAT_SUBTYPE_PCM});
+static_assert(kSubFormatFloat == Guid{STATIC_KSDATAFORMAT_SUBTYPE_IEEE_FLOAT});
 static_assert(kStreamLoopback == AUDCLNT_STREAMFLAGS_LOOPBACK);
 static_assert(sizeof(AudioFormat) == sizeof(WAVEFORMATEXTENSIBLE));
 static_assert(offsetof(AudioFormat, extraSize) == offsetof(WAVEFORMATEX, cbSize));
@@ -113,6 +119,8 @@ public:
         if (SUCCEEDED(result) && mix)
             std::memcpy(static_cast<void *>(&format), mix,
                         std::min(sizeof(WAVEFORMATEX) + mix->cbSize, sizeof(format)));
+        // A driver may tell of more than was taken; whoever is given the format would read on behind it.
+        format.extraSize = std::min<std::uint16_t>(format.extraSize, sizeof(format) - sizeof(WAVEFORMATEX));
         CoTaskMemFree(mix);
         return code(result);
     }
