@@ -190,7 +190,6 @@ void TestSession::noMonitorEndsTheProgram()
 void TestSession::storedIndexOnLaterSearches_data()
 {
     columns<int, bool, int>("stored", "clone", "used");
-    QTest::newRow("within") << 1 << false << 1;
     QTest::newRow("beyond") << 2 << false << 0;
     QTest::newRow("only the low byte counts") << 257 << false << 1;
     QTest::newRow("clone mode") << 1 << true << 0;

@@ -80,6 +80,7 @@ void TestTransport::tableRows()
                                    {170, 0x6A}, {172, 0x70}, {232, 0x9B}, {244, 0xC0}, {262, 0xCC}, {264, 0xD0},
                                    {286, 0xE0}, {290, 0xE3}, {322, 0xF6}, {334, 0xFD}};
     for (const auto &[row, code] : kAnchors) {
+        QCOMPARE(int(commandTable[static_cast<std::size_t>(row)][5]), code);
         QCOMPARE(static_cast<int>(writeRow(Command(code))), row);
         QCOMPARE(static_cast<int>(readRow(Command(code))), row + 1);
     }
