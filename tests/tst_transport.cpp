@@ -7,6 +7,7 @@
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/displayenumeration.h"
 #include "ddc_protocol/transport.h"
+#include "support/datarow.h"
 #include "support/deskfixture.h"
 
 using virtualdesk::kForEver;
@@ -34,8 +35,7 @@ class TestTransport : public QObject
 private Q_SLOTS:
     void init();
     void cleanup();
-    void tableAnchors_data();
-    void tableAnchors();
+    void tableRows();
     void packet();
     void writeRetries_data();
     void writeRetries();
@@ -43,10 +43,8 @@ private Q_SLOTS:
     void suspensionSendsNothing();
     void readRetries_data();
     void readRetries();
-    void quietReadLogsNothing();
     void readsWithoutMonitor();
     void currentAndMaximum();
-    void irregularRowReadsItsCode();
     void indexBeyondTheListFails();
     void tableRead_data();
     void tableRead();
@@ -76,29 +74,23 @@ void TestTransport::cleanup()
     m_desk.reset();
 }
 
-void TestTransport::tableAnchors_data()
+void TestTransport::tableRows()
 {
-    QTest::addColumn<int>("row");
-    QTest::addColumn<int>("code");
     constexpr int kAnchors[][2] = {{0, 0x01},   {28, 0x10},  {54, 0x22},  {60, 0x30},  {120, 0x50}, {136, 0x59},
                                    {170, 0x6A}, {172, 0x70}, {232, 0x9B}, {244, 0xC0}, {262, 0xCC}, {264, 0xD0},
                                    {286, 0xE0}, {290, 0xE3}, {322, 0xF6}, {334, 0xFD}};
-    for (const auto &[row, code] : kAnchors)
-        QTest::newRow(qPrintable(QString::number(row))) << row << code;
-}
-
-void TestTransport::tableAnchors()
-{
-    QFETCH(int, row);
-    QFETCH(int, code);
-    const CommandRow &write = commandTable[static_cast<std::size_t>(row)];
-    const CommandRow &read = commandTable[static_cast<std::size_t>(row) + 1];
-    QCOMPARE(int(write[5]), code);
-    QCOMPARE(int(read[5]), code);
-    QCOMPARE(int(write[4]), 3);
-    QCOMPARE(int(read[4]), row == 170 ? 3 : 1); // the one irregular row
-    QCOMPARE(static_cast<int>(writeRow(Command(code))), row);
-    QCOMPARE(static_cast<int>(readRow(Command(code))), row + 1);
+    for (const auto &[row, code] : kAnchors) {
+        QCOMPARE(int(commandTable[static_cast<std::size_t>(row)][5]), code);
+        QCOMPARE(static_cast<int>(writeRow(Command(code))), row);
+        QCOMPARE(static_cast<int>(readRow(Command(code))), row + 1);
+    }
+    for (std::size_t row = 0; row + 1 < commandTable.size(); row += 2) {
+        QCOMPARE(commandTable[row][5], commandTable[row + 1][5]);
+        QCOMPARE(int(commandTable[row][4]), 3);
+        QCOMPARE(int(commandTable[row + 1][4]), row == 170 ? 3 : 1); // the one irregular row
+    }
+    Korvu_GetCommandVal(kIrregularRead, 10); // reads its code all the same
+    QCOMPARE(m_desk->takeRequests(), (QStringList{"R 99", "R 6a"}));
 }
 
 void TestTransport::packet()
@@ -111,11 +103,7 @@ void TestTransport::packet()
 
 void TestTransport::writeRetries_data()
 {
-    QTest::addColumn<int>("code");
-    QTest::addColumn<int>("times");
-    QTest::addColumn<bool>("ok");
-    QTest::addColumn<QStringList>("requests");
-    QTest::addColumn<QStringList>("log");
+    columns<int, int, bool, QStringList, QStringList>("code", "times", "ok", "requests", "log");
     const QString code = QStringLiteral("Fail to retry errorCode: 03 10");
     const QString vendor = QStringLiteral("Fail to retry errorCode: 03 99");
     const QString gaveUp = QStringLiteral("Write faile, errorCode: 03 9910\r");
@@ -170,35 +158,28 @@ void TestTransport::suspensionSendsNothing()
 
 void TestTransport::readRetries_data()
 {
-    QTest::addColumn<int>("failures");
-    QTest::addColumn<int>("value");
-    QTest::newRow("at once") << 0 << 62;
-    QTest::newRow("after four") << 4 << 62;
-    QTest::newRow("never") << 5 << -1;
+    columns<int, int, bool>("failures", "value", "quiet");
+    row("at once", 0, 62, false);
+    row("after four", 4, 62, false);
+    row("never", 5, -1, false);
+    row("never, quietly", 5, -1, true);
 }
 
 void TestTransport::readRetries()
 {
     QFETCH(int, failures);
     QFETCH(int, value);
+    QFETCH(bool, quiet);
     m_desk->monitor().setValue(0x10, 62);
     if (failures > 0)
         m_desk->monitor().refuse(0x10, failures);
-    QCOMPARE(Korvu_GetCommandVal(kBrightnessRead, 10), value);
+    QCOMPARE((quiet ? Korvu_GetCommandValQuiet : Korvu_GetCommandVal)(kBrightnessRead, 10), value);
     QStringList requests = repeated({"R 99", "R 10!"}, failures);
     if (value != -1)
         requests += {"R 99", "R 10"};
     QCOMPARE(m_desk->takeRequests(), requests);
-    QCOMPARE(m_desk->takeLog(), repeated({"Faile to retry errorCode: 01 99 10"}, failures));
+    QCOMPARE(m_desk->takeLog(), repeated({"Faile to retry errorCode: 01 99 10"}, quiet ? 0 : failures));
     QCOMPARE(m_desk->clock.takeWaits(), QList<int>(failures, 250));
-}
-
-void TestTransport::quietReadLogsNothing()
-{
-    m_desk->monitor().goDeaf();
-    QCOMPARE(Korvu_GetCommandValQuiet(kBrightnessRead, 10), -1);
-    QCOMPARE(m_desk->takeLog(), QStringList());
-    QCOMPARE(m_desk->clock.takeWaits(), QList<int>(5, 250));
 }
 
 void TestTransport::readsWithoutMonitor()
@@ -231,12 +212,6 @@ void TestTransport::currentAndMaximum()
     QCOMPARE(m_desk->takeRequests(), (QStringList{"R 99", "R 10", "R 99", "R 10!"}));
 }
 
-void TestTransport::irregularRowReadsItsCode()
-{
-    Korvu_GetCommandVal(kIrregularRead, 10);
-    QCOMPARE(m_desk->takeRequests(), (QStringList{"R 99", "R 6a"}));
-}
-
 void TestTransport::indexBeyondTheListFails()
 {
     currentMonitorIndex = 200;
@@ -250,12 +225,9 @@ void TestTransport::indexBeyondTheListFails()
 
 void TestTransport::tableRead_data()
 {
-    QTest::addColumn<int>("code");
-    QTest::addColumn<int>("times");
+    columns<int, int>("code", "times");
     QTest::addColumn<int>("result"); // as tableReadLength shows it
-    QTest::addColumn<QStringList>("opening");
-    QTest::addColumn<QString>("lastLine");
-    QTest::addColumn<int>("waits");
+    columns<QStringList, QString, int>("opening", "lastLine", "waits");
     QTest::newRow("clean") << 0 << 0 << 40 << QStringList{"R 99", "R 22", "R 0c"} << QString() << 0;
     QTest::newRow("second step once") << 0x22 << 1 << 40 << QStringList{"R 99", "R 22!", "R 99", "R 22", "R 0c"}
                                       << QStringLiteral("Fail to retry, errorCode=22 ") << 1;
@@ -291,31 +263,33 @@ void TestTransport::tableRead()
 
 void TestTransport::tableReadLengths_data()
 {
-    QTest::addColumn<int>("length");
-    QTest::addColumn<int>("drops");
-    QTest::addColumn<int>("result");
-    QTest::addColumn<QStringList>("stream");
-    QTest::newRow("0 gives one chunk") << 0 << 0 << 4 << QStringList{"R fe"};
-    QTest::newRow("4") << 4 << 0 << 4 << QStringList{"R fe"};
-    QTest::newRow("5 is rounded up") << 5 << 0 << 8 << QStringList{"R fe", "R fe"};
-    QTest::newRow("a dropped chunk is repeated") << 12 << 1 << 12 << QStringList{"R fe!", "R ff", "R fe", "R fe"};
-    QTest::newRow("five drops") << 8 << 5 << 8
+    columns<int, int, int, int, QStringList>("mode", "length", "drops", "result", "stream");
+    QTest::newRow("0 gives one chunk") << 12 << 0 << 0 << 4 << QStringList{"R fe"};
+    QTest::newRow("5 is rounded up") << 12 << 5 << 0 << 8 << QStringList{"R fe", "R fe"};
+    QTest::newRow("mode of brightness's code") << 16 << 40 << 0 << 40 << QStringList(10, "R fe");
+    QTest::newRow("mode of the scene's code") << 34 << 40 << 0 << 40 << QStringList(10, "R fe");
+    QTest::newRow("a dropped chunk is repeated") << 12 << 12 << 1 << 12 << QStringList{"R fe!", "R ff", "R fe", "R fe"};
+    QTest::newRow("five drops") << 12 << 8 << 5 << 8
                                 << QStringList{"R fe!", "R ff!", "R ff!", "R ff!", "R ff!", "R ff", "R fe"};
-    QTest::newRow("lost for good") << 8 << 6 << 0 << QStringList{"R fe!", "R ff!", "R ff!", "R ff!", "R ff!", "R ff!"};
+    QTest::newRow("lost for good") << 12 << 8 << 6 << 0
+                                   << QStringList{"R fe!", "R ff!", "R ff!", "R ff!", "R ff!", "R ff!"};
 }
 
 void TestTransport::tableReadLengths()
 {
+    QFETCH(int, mode);
     QFETCH(int, length);
     QFETCH(int, drops);
     QFETCH(int, result);
     QFETCH(QStringList, stream);
     m_desk->monitor().dropChunks(drops);
-    const QByteArray block = m_desk->monitor().block(12);
-    const std::uint8_t *data = Korvu_ReadCommandTable(kSceneRead, 12, static_cast<std::uint16_t>(length));
+    const QByteArray block = m_desk->monitor().block(mode);
+    const std::uint8_t *data =
+        Korvu_ReadCommandTable(kSceneRead, static_cast<std::uint8_t>(mode), static_cast<std::uint16_t>(length));
     QCOMPARE(int(tableReadLength), result);
     QCOMPARE(m_desk->takeRequests().mid(3), stream);
     QCOMPARE(QByteArray(reinterpret_cast<const char *>(data), result), block.first(result));
+    QCOMPARE(m_desk->monitor().protocolFaults().total(), 0);
     if (result == 0)
         QCOMPARE(m_desk->takeLog().last(), QStringLiteral("---loop get data error.\r"));
 }
