@@ -3,6 +3,7 @@
 
 #include "ledmatrix/matrixform.h"
 #include "support/accessoryfixture.h"
+#include "support/datarow.h"
 #include "usb-hid/hidtransport.h"
 #include "usb-hid/livesender.h"
 #include "virtualdesk/accessorypanel.h"
@@ -24,11 +25,7 @@ private Q_SLOTS:
 
 void TestHidTransport::findAndOpen_data()
 {
-    QTest::addColumn<bool>("others");
-    QTest::addColumn<bool>("plugged");
-    QTest::addColumn<bool>("opens");
-    QTest::addColumn<QStringList>("log");
-    QTest::addColumn<int>("held"); // entries that were not released
+    columns<bool, bool, bool, QStringList, int>("others", "plugged", "opens", "log", "held"); // held: not released
     const QStringList away = {"HID device  not find"};
     QTest::newRow("there") << true << true << true << QStringList{"HID device find", "HID open OK"} << 1;
     QTest::newRow("alone") << false << true << true << QStringList{"HID device find", "HID open OK"} << 0;

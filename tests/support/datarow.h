@@ -2,6 +2,12 @@
 
 #include <QtTest>
 
+/// The columns of a data table, their types and their names in one order: columns<int, QString>("form", "text").
+template <typename... Types, typename... Names> void columns(Names... names)
+{
+    (QTest::addColumn<Types>(names), ...);
+}
+
 /// A row of a data table; texts become what their columns hold, QString.
 inline void row(const char *name, const auto &...values)
 {
