@@ -8,8 +8,8 @@
 #include "platform/desk.h"
 #include "platform/nativekeys.h"
 #include "shortcut/qxtglobalshortcut.h"
-#include "shortcut/shortcutfunctions.h"
 #include "shortcut/shortcutrunner.h"
+#include "support/datarow.h"
 #include "support/deskfixture.h"
 
 using namespace platform;
@@ -96,15 +96,12 @@ private Q_SLOTS:
     void steps_data();
     void steps();
     void restsAfterAKey();
-    void commandsWithoutARule();
     void sceneKeyKeepsTheSnapshotTrue();
-    void functionsOfTheMonitor();
     void nativeKeys();
     void keyActivatesItsShortcut_data();
     void keyActivatesItsShortcut();
-    void anotherProgramsKey();
+    void keyOfAnother();
     void newSequenceReplacesTheOld();
-    void twoObjectsOneKey();
     void destructorGivesTheKeyBack();
     void filterLivesAsLongAsAnyShortcut();
     void slotMayDeleteItsShortcut();
@@ -128,11 +125,7 @@ void TestShortcut::cleanup()
 
 void TestShortcut::steps_data()
 {
-    QTest::addColumn<int>("function");
-    QTest::addColumn<int>("direction");
-    QTest::addColumn<QString>("values");
-    QTest::addColumn<QString>("commands");
-    QTest::addColumn<bool>("rests");
+    columns<int, int, QString, QString, bool>("function", "direction", "values", "commands", "rests");
     for (const Step &each : kSteps) {
         QTest::addRow("%d%c %s", each.function, each.direction == kPlus ? '+' : '-', each.values)
             << each.function << each.direction << QString::fromLatin1(each.values) << QString::fromLatin1(each.commands)
@@ -183,13 +176,9 @@ void TestShortcut::restsAfterAKey()
     m_desk->clock.advance(milliseconds(1)); // a dropped key does not begin the rest anew
     runner.shortcutKeyCommand(kAudioMute, kMinus);
     QCOMPARE(m_desk->takeCommands(), QStringList("W f7=0"));
-}
-
-void TestShortcut::commandsWithoutARule()
-{
-    ShortcutRunner runner;
-    for (const auto &[function, direction] : {std::pair(30, kPlus), std::pair(12, 2)}) {
+    for (const auto &[function, direction] : {std::pair(30, kPlus), std::pair(12, 2)}) { // without a rule
         m_desk->clock.advance(milliseconds(200));
+        m_desk->takeRequests();
         runner.shortcutKeyCommand(function, direction);
         QCOMPARE(m_desk->takeLog(), function == 30 ? QStringList("30 暂未支持") : QStringList());
         runner.shortcutKeyCommand(kAudioMute, kPlus); // the keys rest all the same
@@ -211,14 +200,6 @@ void TestShortcut::sceneKeyKeepsTheSnapshotTrue()
     QVERIFY(!deviceState.sceneBlockValid()); // what was read belongs to the mode before
 }
 
-void TestShortcut::functionsOfTheMonitor()
-{
-    deviceState.store(Command::Capability, 0x3FF);
-    QCOMPARE(shortcutFunctionsOf(deviceState).size(), std::size_t(24));
-    deviceState.store(Command::Capability, 0x400);
-    QCOMPARE(shortcutFunctionsOf(deviceState).size(), std::size_t(30));
-}
-
 /// Ends of ranges, gaps, and orders that differ on the two sides.
 void TestShortcut::nativeKeys()
 {
@@ -234,9 +215,7 @@ void TestShortcut::nativeKeys()
 
 void TestShortcut::keyActivatesItsShortcut_data()
 {
-    QTest::addColumn<QString>("sequence");
-    QTest::addColumn<std::uint32_t>("modifiers");
-    QTest::addColumn<std::uint32_t>("key");
+    columns<QString, std::uint32_t, std::uint32_t>("sequence", "modifiers", "key");
     QTest::newRow("letter") << "Ctrl+A" << kModifierControl << std::uint32_t('A');
     QTest::newRow("digit") << "Alt+9" << kModifierAlt << std::uint32_t('9');
     QTest::newRow("all modifiers") << "Ctrl+Alt+Shift+Meta+F12"
@@ -268,17 +247,24 @@ void TestShortcut::keyActivatesItsShortcut()
     QCOMPARE(activated.count(), 2);
 }
 
-void TestShortcut::anotherProgramsKey()
+void TestShortcut::keyOfAnother()
 {
-    m_desk->desk.hotKeys().take(kModifierControl, 'A');
-    QxtGlobalShortcut shortcut;
-    QSignalSpy activated(&shortcut, &QxtGlobalShortcut::activated);
-    QVERIFY(!shortcut.setShortcut(QKeySequence("Ctrl+A")));
-    QCOMPARE(shortcut.shortcut(), QKeySequence("Ctrl+A"));
+    m_desk->desk.hotKeys().take(kModifierControl, 'A'); // another program's
+    QxtGlobalShortcut first(QKeySequence("Ctrl+B"));
+    auto second = std::make_unique<QxtGlobalShortcut>();
+    QSignalSpy activated(second.get(), &QxtGlobalShortcut::activated);
+    QVERIFY(!second->setShortcut(QKeySequence("Ctrl+A")));
+    QCOMPARE(second->shortcut(), QKeySequence("Ctrl+A"));
     deliverHotKey(kModifierControl, 'A');
-    QCOMPARE(activated.count(), 0);
-    QVERIFY(shortcut.setShortcut(QKeySequence("Ctrl+B")));
+    QVERIFY(!second->setShortcut(QKeySequence("Ctrl+B")));
     QCOMPARE(m_desk->takeLog(), QStringList("QxtGlobalShortcut failed to unregister: Ctrl+A"));
+    QSignalSpy firstActivated(&first, &QxtGlobalShortcut::activated);
+    QVERIFY(m_desk->desk.pressKey(kModifierControl, 'B')); // still the first one's
+    second.reset();
+    QCOMPARE(m_desk->takeLog(), QStringList("QxtGlobalShortcut failed to unregister: Ctrl+B"));
+    QVERIFY(m_desk->desk.pressKey(kModifierControl, 'B'));
+    QCOMPARE(firstActivated.count(), 2);
+    QCOMPARE(activated.count(), 0);
 }
 
 void TestShortcut::newSequenceReplacesTheOld()
@@ -294,19 +280,6 @@ void TestShortcut::newSequenceReplacesTheOld()
     QCOMPARE(m_desk->desk.hotKeys().count(), std::size_t(0));
     QVERIFY(shortcut.shortcut().isEmpty());
     QCOMPARE(m_desk->takeLog(), QStringList());
-}
-
-void TestShortcut::twoObjectsOneKey()
-{
-    QxtGlobalShortcut first(QKeySequence("Ctrl+A"));
-    QSignalSpy activated(&first, &QxtGlobalShortcut::activated);
-    {
-        QxtGlobalShortcut second;
-        QVERIFY(!second.setShortcut(QKeySequence("Ctrl+A")));
-    }
-    QCOMPARE(m_desk->takeLog(), QStringList("QxtGlobalShortcut failed to unregister: Ctrl+A"));
-    QVERIFY(m_desk->desk.pressKey(kModifierControl, 'A')); // still the first one's
-    QCOMPARE(activated.count(), 1);
 }
 
 void TestShortcut::destructorGivesTheKeyBack()
