@@ -11,6 +11,7 @@
 #include "page/BasicSetting/shortcutrow.h"
 #include "platform/nativemessage.h"
 #include "shortcut/shortcutlist.h"
+#include "support/datarow.h"
 #include "support/deskfixture.h"
 #include "support/textfile.h"
 
@@ -67,17 +68,14 @@ private Q_SLOTS:
     void loading_data();
     void loading();
     void keysReachTheMonitor();
-    void rowSwitchGivesKeysBack();
-    void masterSwitchRestsAllKeys();
-    void conflictEmptiesTheField();
+    void switches();
     void refusedKeysAreShown();
     void twoRowsChangeKeys();
     void addAndDelete();
     void otherMonitorsRowsAreKept();
     void fieldSaysWhyNot();
-    void registeredKeysCanBeTyped();
+    void keysInUse();
     void keysOfOneId();
-    void factoryModeKeepsItsBlock();
     void unwritableFile();
     void killedWhileSaving();
 
@@ -143,9 +141,7 @@ void TestShortcutPage::roundTripIsExact()
 
 void TestShortcutPage::loading_data()
 {
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<QList<int>>("functions");
-    QTest::addColumn<int>("keys"); // registered afterwards
+    columns<QByteArray, QList<int>, int>("text", "functions", "keys"); // keys: registered afterwards
     const auto many = [] {
         QByteArray lines = "[3]\nplusKey=Ctrl+3\nswitchStatus=on\n";
         for (int i = 100; i < 50100; ++i)
@@ -188,15 +184,15 @@ void TestShortcutPage::keysReachTheMonitor()
 {
     m_desk->monitor().setValue(0x10, 95);
     start({{12, true, QStringLiteral("Ctrl+B"), QStringLiteral("Alt+B")}});
+    deviceState.store(Command::SceneMode, 9);
+    deviceState.store(Command::Sharpness, 4);
+    QVERIFY(deviceState.sceneBlockValid());
     QCOMPARE(press(kControl, 'B'), (QStringList{"R 10", "W 10=100"}));
+    QVERIFY(!deviceState.sceneBlockValid()); // the value that was set is not the custom half's
     QCOMPARE(press(kAlt, 'B'), (QStringList{"R 10", "W 10=90"}));
-    m_desk->desk.pressKey(kAlt, 'B');
-    m_desk->desk.pressKey(kAlt, 'B'); // within 200 ms
-    QCOMPARE(m_desk->takeCommands(), (QStringList{"R 10", "W 10=80"}));
-    QCOMPARE(deviceState.value(Command::Brightness), 80);
 }
 
-void TestShortcutPage::rowSwitchGivesKeysBack()
+void TestShortcutPage::switches()
 {
     start({{1, true, QStringLiteral("Ctrl+1"), QStringLiteral("Ctrl+2")}});
     QCOMPARE(m_desk->desk.hotKeys().count(), std::size_t(2));
@@ -207,30 +203,12 @@ void TestShortcutPage::rowSwitchGivesKeysBack()
     QVERIFY(readText(kFile).contains("switchStatus=off"));
     row(0)->switchButton()->click();
     QCOMPARE(press(kControl, '2'), QStringList{"W 22=4"});
-}
-
-void TestShortcutPage::masterSwitchRestsAllKeys()
-{
-    start({{1, true, QStringLiteral("Ctrl+1"), {}}});
-    button("pushButton")->click();
+    button("pushButton")->click(); // all of them
     QVERIFY(readText(kFile).contains("[basicMode]\nswitchStatus=off"));
     QCOMPARE(press(kControl, '1'), QStringList());
     QVERIFY(!m_page->notice().isEmpty());
     button("pushButton")->click();
     QCOMPARE(press(kControl, '1'), QStringList{"W 22=3"});
-}
-
-void TestShortcutPage::conflictEmptiesTheField()
-{
-    start({{1, true, QStringLiteral("Ctrl+1"), {}}, {2, true, {}, {}}});
-    QTest::keyClick(row(1)->minusEdit(), Qt::Key_1, Qt::ControlModifier);
-    QCOMPARE(m_page->conflicts, 1);
-    QCOMPARE(row(1)->minusEdit()->text(), QString());
-    QCOMPARE(row(0)->plusEdit()->text(), QStringLiteral("Ctrl+1"));
-    QTest::keyClick(row(1)->minusEdit(), Qt::Key_1, Qt::ControlModifier | Qt::ShiftModifier); // another combination
-    QTest::keyClick(row(0)->plusEdit(), Qt::Key_1, Qt::ControlModifier);                      // its own is no conflict
-    QTest::keyClick(row(0)->minusEdit(), Qt::Key_Backspace);                                  // nor are empty fields
-    QCOMPARE(m_page->conflicts, 1);
 }
 
 void TestShortcutPage::refusedKeysAreShown()
@@ -306,7 +284,7 @@ void TestShortcutPage::fieldSaysWhyNot()
 }
 
 /// The system keeps a registered combination from every field, so it comes back as a hot key.
-void TestShortcutPage::registeredKeysCanBeTyped()
+void TestShortcutPage::keysInUse()
 {
     start({{1, true, QStringLiteral("Ctrl+1"), {}}, {2, true, {}, {}}});
     m_page->show();
@@ -321,6 +299,14 @@ void TestShortcutPage::registeredKeysCanBeTyped()
     QCOMPARE(m_page->conflicts, 1);
     button("pushButtonAppli")->setFocus();
     QCOMPARE(press(kControl, '1'), QStringList{"W 22=3"});
+    QTest::keyClick(row(1)->minusEdit(), Qt::Key_1, Qt::ControlModifier); // where the system let it through
+    QCOMPARE(m_page->conflicts, 2);
+    QCOMPARE(row(1)->minusEdit()->text(), QString());
+    QCOMPARE(row(0)->plusEdit()->text(), QStringLiteral("Ctrl+1"));
+    QTest::keyClick(row(1)->minusEdit(), Qt::Key_1, Qt::ControlModifier | Qt::ShiftModifier); // another combination
+    QTest::keyClick(row(0)->plusEdit(), Qt::Key_1, Qt::ControlModifier);                      // its own is no conflict
+    QTest::keyClick(row(0)->minusEdit(), Qt::Key_Backspace);                                  // nor are empty fields
+    QCOMPARE(m_page->conflicts, 2);
 }
 
 /// Ctrl+A and Alt+B have one id; the system may take either away.
@@ -330,16 +316,6 @@ void TestShortcutPage::keysOfOneId()
     row(1)->trashButton()->click();
     QCOMPARE(press(kControl, 'A'), QStringList{"W 22=3"});
     QCOMPARE(m_desk->desk.hotKeys().count(), std::size_t(1));
-}
-
-void TestShortcutPage::factoryModeKeepsItsBlock()
-{
-    start({{12, true, QStringLiteral("Ctrl+B"), {}}});
-    deviceState.store(Command::SceneMode, 9);
-    deviceState.store(Command::Sharpness, 4);
-    QVERIFY(deviceState.sceneBlockValid());
-    press(kControl, 'B');
-    QVERIFY(!deviceState.sceneBlockValid()); // the value that was set is not the custom half's
 }
 
 void TestShortcutPage::unwritableFile()
