@@ -1,7 +1,4 @@
-#include <sys/resource.h>
 #include <unistd.h>
-
-#include <csignal>
 
 #include <QComboBox>
 #include <QFile>
@@ -14,29 +11,12 @@
 #include "support/accessoryfixture.h"
 #include "support/answeredcanvas.h"
 #include "support/datarow.h"
+#include "support/fulldisk.h"
 #include "support/textfile.h"
 
 namespace {
 
 constexpr char kDataFile[] = "./LEDMatrixData.txt";
-
-/// The first byte beyond which files cannot grow, as on a full disk, for as long as it lives.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes)
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{bytes, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &m_before); }
-    Q_DISABLE_COPY_MOVE(FullDisk)
-
-private:
-    rlimit m_before{};
-};
 
 } // namespace
 
@@ -47,11 +27,10 @@ class TestCanvasFiles : public AccessoryFixture
 private Q_SLOTS:
     void importRules_data();
     void importRules();
-    void importProgress();
     void realDialogs();
     void focusComesBack();
     void exportInTabOrder();
-    void exportProgress();
+    void progress();
     void fullDiskKeepsTheOldFile();
     void faultsLeaveThePageUsable_data();
     void faultsLeaveThePageUsable();
@@ -94,20 +73,6 @@ void TestCanvasFiles::importRules()
     QCOMPARE(page->busyEvents, (QList<int>{1, 0}));
     page->undo();
     QCOMPARE(page->tabs()->count(), 2);
-}
-
-/// Every second of 24 tabs that go, of a sum of 25.
-void TestCanvasFiles::importProgress()
-{
-    const auto page = makePage(kRectangleForm);
-    while (page->frameCounter() < 24)
-        page->addFrame();
-    QList<int> values;
-    connect(page->progressBar(), &QProgressBar::valueChanged, this, [&values](int value) { values.append(value); });
-    page->fileName = QStringLiteral("in.csv");
-    QVERIFY(writeText(page->fileName, QByteArray(1050, '1')));
-    QVERIFY(finish(*page, &AnsweredCanvas::importAnimate));
-    QCOMPARE(values, (QList<int>{0, 8, 16, 24, 32, 40, 48, 56, 64, 72, 80, 88, 96, 100}));
 }
 
 /// The real dialogs and boxes, which the other tests answer themselves.
@@ -190,7 +155,7 @@ void TestCanvasFiles::exportInTabOrder()
     QVERIFY(!page->button("Write Animate")->isEnabled()); // exported is not saved
 }
 
-void TestCanvasFiles::exportProgress()
+void TestCanvasFiles::progress()
 {
     const auto page = makePage();
     LEDThread thread(*page);
@@ -202,6 +167,14 @@ void TestCanvasFiles::exportProgress()
         QCoreApplication::processEvents();
     }
     QCOMPARE(values, (QList<int>{100, 33, 66, 100, 100, 8, 16, 24, 32, 40, 48, 56, 64, 72, 80, 88, 96, 100}));
+    values.clear();
+    connect(page->progressBar(), &QProgressBar::valueChanged, this, [&values](int value) { values.append(value); });
+    while (page->frameCounter() < 24)
+        page->addFrame();
+    page->fileName = QStringLiteral("out.csv");
+    QVERIFY(writeText(page->fileName, QByteArray(1050, '1'))); // every second of 24 tabs that go, of a sum of 25
+    QVERIFY(finish(*page, &AnsweredCanvas::importAnimate));
+    QCOMPARE(values, (QList<int>{0, 8, 16, 24, 32, 40, 48, 56, 64, 72, 80, 88, 96, 100}));
 }
 
 void TestCanvasFiles::fullDiskKeepsTheOldFile()

@@ -1,6 +1,5 @@
 #include <QComboBox>
 #include <QLabel>
-#include <QProcess>
 #include <QPushButton>
 #include <QtTest>
 
@@ -13,6 +12,7 @@
 #include "shortcut/shortcutlist.h"
 #include "support/datarow.h"
 #include "support/deskfixture.h"
+#include "support/fulldisk.h"
 #include "support/textfile.h"
 
 using namespace std::chrono_literals;
@@ -22,7 +22,6 @@ namespace {
 constexpr std::uint32_t kControl = platform::kModifierControl;
 constexpr std::uint32_t kAlt = platform::kModifierAlt;
 const QString kFile = QStringLiteral("basicMode.ini");
-const char *const kSaverArgument = "--save-again-and-again";
 
 /// Answers the dialog at once and counts how often it was shown.
 class TestedPage : public pageShortcutKey
@@ -34,29 +33,7 @@ protected:
     void showConflict() override { ++conflicts; }
 };
 
-/// Two lists of different lengths, so that a half-written one is neither.
-ShortcutList listOf(int length)
-{
-    ShortcutList list;
-    for (int function = 0; function < length; ++function)
-        list.entries.push_back({function, true, QStringLiteral("Ctrl+%1").arg(function % 10), QStringLiteral("Alt+Q")});
-    return list;
-}
-
 } // namespace
-
-/// Saves for ever; what the test kills.
-int saveAgainAndAgain()
-{
-    for (int i = 0; i < 1000000; ++i) {
-        if (!saveShortcuts(listOf(i % 2 == 0 ? 24 : 3)))
-            return 1;
-        if (i == 0)
-            puts("saving");
-        fflush(stdout);
-    }
-    return 0;
-}
 
 class TestShortcutPage : public QObject
 {
@@ -77,7 +54,6 @@ private Q_SLOTS:
     void keysInUse();
     void keysOfOneId();
     void unwritableFile();
-    void killedWhileSaving();
 
 private:
     void start();
@@ -100,7 +76,6 @@ void TestShortcutPage::init()
 void TestShortcutPage::cleanup()
 {
     m_page.reset();
-    deviceState.clear();
     m_desk.reset();
 }
 
@@ -320,7 +295,13 @@ void TestShortcutPage::keysOfOneId()
 
 void TestShortcutPage::unwritableFile()
 {
-    start();
+    const ShortcutList before{true, {{12, true, QStringLiteral("Ctrl+B"), {}}}};
+    start(before.entries);
+    {
+        const FullDisk full(5); // empty it could be made, and a little can be begun
+        QVERIFY(!saveShortcuts({true, {{3, true, QStringLiteral("Ctrl+3"), {}}}}));
+    }
+    QVERIFY(loadShortcuts() == before);
     QVERIFY(QDir().mkdir(kFile + QStringLiteral(".d"))); // a folder under the file's name takes no settings
     QFile::remove(kFile);
     QVERIFY(QDir().rename(kFile + QStringLiteral(".d"), kFile));
@@ -332,27 +313,5 @@ void TestShortcutPage::unwritableFile()
     QVERIFY(loadShortcuts().entries.empty()); // nobody is told what the file did not take
 }
 
-void TestShortcutPage::killedWhileSaving()
-{
-    for (int round = 0; round < 12; ++round) {
-        QProcess saver;
-        saver.start(QCoreApplication::applicationFilePath(), {QLatin1String(kSaverArgument)});
-        QVERIFY(saver.waitForReadyRead(60000));
-        saver.waitForFinished(round); // let it save on for some milliseconds
-        saver.kill();
-        QVERIFY(saver.waitForFinished());
-        const ShortcutList list = loadShortcuts();
-        QVERIFY(list == listOf(24) || list == listOf(3));
-    }
-}
-
-int main(int argc, char *argv[])
-{
-    if (argc > 1 && qstrcmp(argv[1], kSaverArgument) == 0)
-        return saveAgainAndAgain();
-    QApplication application(argc, argv);
-    TestShortcutPage test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+QTEST_MAIN(TestShortcutPage)
 #include "tst_shortcutpage.moc"
