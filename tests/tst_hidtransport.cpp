@@ -18,8 +18,7 @@ class TestHidTransport : public AccessoryFixture
 private Q_SLOTS:
     void findAndOpen_data();
     void findAndOpen();
-    void foundFlagIsSticky();
-    void reopenClosesAndForgets();
+    void flagsAreSticky();
     void panelShowsTheAccessory();
 };
 
@@ -56,7 +55,7 @@ void TestHidTransport::findAndOpen()
     QCOMPARE(hidHandle != nullptr, plugged && opens);
 }
 
-void TestHidTransport::foundFlagIsSticky()
+void TestHidTransport::flagsAreSticky()
 {
     QVERIFY(!Fun_hid_open(kAccessoryVendor, kAccessoryProduct)); // not found yet: not even tried
     QVERIFY(m_desk->takeLog().isEmpty());
@@ -66,11 +65,7 @@ void TestHidTransport::foundFlagIsSticky()
     QVERIFY(m_desk->takeLog().isEmpty());
     QVERIFY(!Fun_hid_open(kAccessoryVendor, kAccessoryProduct)); // open already
     QCOMPARE(accessory().handlesOpen(), 1);
-}
-
-void TestHidTransport::reopenClosesAndForgets()
-{
-    connectDevice();
+    accessory().setPlugged(true);
     QList<int> told; // a panel follows it
     const int listener = accessory().addListener([&] { told.append(accessory().handlesOpen()); });
     reopenHid(); // the opened flag is still set: closed and nothing else
@@ -108,7 +103,6 @@ void TestHidTransport::panelShowsTheAccessory()
         QCOMPARE(writeHid(report), i < 8 ? HidWrite::Done : HidWrite::Failed);
     QTRY_VERIFY(button("unplug")->isChecked());
     QVERIFY(!button("pull")->isChecked());
-    QCOMPARE(panel.values().size(), 8);
 }
 
 QTEST_MAIN(TestHidTransport)
