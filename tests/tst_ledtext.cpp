@@ -1,6 +1,5 @@
 #include <QDir>
 #include <QLineEdit>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QtTest>
 
