@@ -2,8 +2,8 @@
 #include <QTabBar>
 #include <QtTest>
 
+#include "support/accessoryfixture.h"
 #include "support/answeredcanvas.h"
-#include "support/deskfixture.h"
 
 using namespace std::chrono_literals;
 
@@ -20,12 +20,10 @@ QStringList tabNames(const AnsweredCanvas &page)
 } // namespace
 
 /// The page that animations are drawn on: its frames, their history, and how they are looked at.
-class TestCanvas : public QObject
+class TestCanvas : public AccessoryFixture
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init() { m_desk = std::make_unique<DeskFixture>(); }
-    void cleanup() { m_desk.reset(); }
     void frameCounter();
     void tabNumbers();
     void undoBringsEverythingBack();
@@ -34,9 +32,6 @@ private Q_SLOTS:
     void keyboardReachesTheCells();
     void previewAndOnionSkin();
     void eachFormHasItsAnimation();
-
-private:
-    std::unique_ptr<DeskFixture> m_desk;
 };
 
 void TestCanvas::frameCounter()
@@ -158,13 +153,12 @@ void TestCanvas::keyboardReachesTheCells()
     QCOMPARE(page->focusWidget(), editor);
     QTest::keyClick(editor, Qt::Key_Space);
     QCOMPARE(litCells(*editor), 1);
-    QTest::keyClick(editor, Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(litCells(*editor), 0);
-    QTest::keyClick(editor, Qt::Key_Y, Qt::ControlModifier);
-    QCOMPARE(litCells(*editor), 1);
-    QTest::keyClick(editor, Qt::Key_Z, Qt::ControlModifier);
-    QTest::keyClick(editor, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
-    QCOMPARE(litCells(*editor), 1);
+    for (const auto &[redo, shift] : {std::pair{Qt::Key_Y, Qt::NoModifier}, {Qt::Key_Z, Qt::ShiftModifier}}) {
+        QTest::keyClick(editor, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(litCells(*editor), 0);
+        QTest::keyClick(editor, redo, Qt::ControlModifier | shift);
+        QCOMPARE(litCells(*editor), 1);
+    }
 }
 
 void TestCanvas::previewAndOnionSkin()

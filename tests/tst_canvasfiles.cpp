@@ -1,7 +1,4 @@
-#include <sys/resource.h>
 #include <unistd.h>
-
-#include <csignal>
 
 #include <QComboBox>
 #include <QFile>
@@ -11,68 +8,40 @@
 #include <QPushButton>
 #include <QtTest>
 
+#include "support/accessoryfixture.h"
 #include "support/answeredcanvas.h"
-#include "support/deskfixture.h"
+#include "support/datarow.h"
+#include "support/fulldisk.h"
 #include "support/textfile.h"
-#include "usb-hid/hidtransport.h"
 
 namespace {
 
 constexpr char kDataFile[] = "./LEDMatrixData.txt";
 
-/// The first byte beyond which files cannot grow, as on a full disk, for as long as it lives.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes)
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{bytes, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &m_before); }
-    Q_DISABLE_COPY_MOVE(FullDisk)
-
-private:
-    rlimit m_before{};
-};
-
 } // namespace
 
 /// What the canvas page saves, exports, imports and uploads, and what becomes of it when that fails.
-class TestCanvasFiles : public QObject
+class TestCanvasFiles : public AccessoryFixture
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init() { m_desk = std::make_unique<DeskFixture>(); }
-    void cleanup() { m_desk.reset(); }
     void importRules_data();
     void importRules();
-    void importProgress();
     void realDialogs();
     void focusComesBack();
     void exportInTabOrder();
-    void exportProgress_data();
-    void exportProgress();
+    void progress();
     void fullDiskKeepsTheOldFile();
     void faultsLeaveThePageUsable_data();
     void faultsLeaveThePageUsable();
-    void dialogFailures();
     void savedFlag();
     void upload_data();
     void upload();
-
-private:
-    std::unique_ptr<DeskFixture> m_desk;
 };
 
 void TestCanvasFiles::importRules_data()
 {
-    QTest::addColumn<int>("form");
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<int>("frames");
-    QTest::addColumn<int>("litInFirst");
+    columns<int, QByteArray, int, int>("form", "content", "frames", "litInFirst");
     const QByteArray frame = QByteArray("1") + QByteArray(1048, '0') + QByteArray("1");
     QTest::newRow("too short for a frame") << 1 << frame.first(1049) << 0 << 0;
     QTest::newRow("one frame") << 1 << frame << 1 << 2;
@@ -92,8 +61,7 @@ void TestCanvasFiles::importRules()
     page->addFrame();
     QVERIFY(writeText(QStringLiteral("in.csv"), content));
     page->fileName = QStringLiteral("in.csv");
-    page->importAnimate();
-    QVERIFY(finish(*page));
+    QVERIFY(finish(*page, &AnsweredCanvas::importAnimate));
     QCOMPARE(page->tabs()->count(), frames); // those that were there are gone in any case
     QCOMPARE(page->frameCounter(), frames);
     if (frames > 0) {
@@ -105,21 +73,6 @@ void TestCanvasFiles::importRules()
     QCOMPARE(page->busyEvents, (QList<int>{1, 0}));
     page->undo();
     QCOMPARE(page->tabs()->count(), 2);
-}
-
-/// Every second of 24 tabs that go, of a sum of 25.
-void TestCanvasFiles::importProgress()
-{
-    const auto page = makePage(kRectangleForm);
-    while (page->frameCounter() < 24)
-        page->addFrame();
-    QList<int> values;
-    connect(page->progressBar(), &QProgressBar::valueChanged, this, [&values](int value) { values.append(value); });
-    page->fileName = QStringLiteral("in.csv");
-    QVERIFY(writeText(page->fileName, QByteArray(1050, '1')));
-    page->importAnimate();
-    QVERIFY(finish(*page));
-    QCOMPARE(values, (QList<int>{0, 8, 16, 24, 32, 40, 48, 56, 64, 72, 80, 88, 96, 100}));
 }
 
 /// The real dialogs and boxes, which the other tests answer themselves.
@@ -148,6 +101,7 @@ void TestCanvasFiles::realDialogs()
     };
     answer({});
     page.exportAnimate();
+    QVERIFY(page.dataFile().isEmpty() && !page.isBusy());
     const QStringList cancelled = {"CSV file (*.csv);", "Warning", "No file path selected.", "OK"};
     QCOMPARE(seen, QStringList{"Save File"} + cancelled);
     seen.clear();
@@ -156,7 +110,7 @@ void TestCanvasFiles::realDialogs()
     QCOMPARE(seen, QStringList{"Select File"} + cancelled);
     answer(QStringLiteral("night"));
     page.exportAnimate();
-    QVERIFY(QTest::qWaitFor([&page] { return !page.isBusy(); }));
+    QTRY_VERIFY(!page.isBusy());
     QCOMPARE(QDir().entryList(QDir::Files), QStringList{"night.csv"});
 }
 
@@ -172,7 +126,7 @@ void TestCanvasFiles::focusComesBack()
         page->saveAnimate();
         if (goesElsewhere)
             other.setFocus();
-        QVERIFY(finish(*page));
+        QTRY_VERIFY(!page->isBusy());
         QCOMPARE(page->focusWidget(), goesElsewhere ? &other : page->button("Save Animate"));
     }
 }
@@ -191,7 +145,7 @@ void TestCanvasFiles::exportInTabOrder()
                              &AnsweredCanvas::cleanFrame, &AnsweredCanvas::undo, &AnsweredCanvas::exportAnimate,
                              &AnsweredCanvas::importAnimate, &AnsweredCanvas::writeAnimate})
         (page.get()->*press)(); // nothing is done before the work has ended
-    QVERIFY(finish(*page));
+    QTRY_VERIFY(!page->isBusy());
     QCOMPARE(page->tabs()->count(), 2);
     QVERIFY(page->warnings.isEmpty());
     QCOMPARE(readText(page->fileName), "10" + QByteArray(1048, '0') + "11" + QByteArray(1048, '0'));
@@ -201,48 +155,45 @@ void TestCanvasFiles::exportInTabOrder()
     QVERIFY(!page->button("Write Animate")->isEnabled()); // exported is not saved
 }
 
-void TestCanvasFiles::exportProgress_data()
+void TestCanvasFiles::progress()
 {
-    QTest::addColumn<int>("frames");
-    QTest::addColumn<QList<int>>("values");
-    QTest::newRow("none") << 0 << QList<int>{100};
-    QTest::newRow("each of a few") << 3 << QList<int>{33, 66, 100, 100};
-    QTest::newRow("every second") << 25 << QList<int>{8, 16, 24, 32, 40, 48, 56, 64, 72, 80, 88, 96, 100};
-}
-
-void TestCanvasFiles::exportProgress()
-{
-    QFETCH(int, frames);
     const auto page = makePage();
     LEDThread thread(*page);
     QList<int> values;
     connect(&thread, &LEDThread::progress, this, [&values](int value) { values.append(value); });
-    thread.begin(LEDThread::Export, {QByteArrayList(frames, QByteArray(949, '0')), QStringLiteral("out.csv")});
-    thread.wait();
-    QCoreApplication::processEvents();
-    QTEST(values, "values");
+    for (const int frames : {0, 3, 25}) { // none, each of a few, every second
+        thread.begin(LEDThread::Export, {QByteArrayList(frames, QByteArray(949, '0')), QStringLiteral("out.csv")});
+        thread.wait();
+        QCoreApplication::processEvents();
+    }
+    QCOMPARE(values, (QList<int>{100, 33, 66, 100, 100, 8, 16, 24, 32, 40, 48, 56, 64, 72, 80, 88, 96, 100}));
+    values.clear();
+    connect(page->progressBar(), &QProgressBar::valueChanged, this, [&values](int value) { values.append(value); });
+    while (page->frameCounter() < 24)
+        page->addFrame();
+    page->fileName = QStringLiteral("out.csv");
+    QVERIFY(writeText(page->fileName, QByteArray(1050, '1'))); // every second of 24 tabs that go, of a sum of 25
+    QVERIFY(finish(*page, &AnsweredCanvas::importAnimate));
+    QCOMPARE(values, (QList<int>{0, 8, 16, 24, 32, 40, 48, 56, 64, 72, 80, 88, 96, 100}));
 }
 
 void TestCanvasFiles::fullDiskKeepsTheOldFile()
 {
     const auto page = makePage();
     page->addFrame();
-    page->saveAnimate();
-    QVERIFY(finish(*page));
+    QVERIFY(finish(*page, &AnsweredCanvas::saveAnimate));
     const QByteArray before = readText(QLatin1String(kDataFile));
     draw(*page, 2);
     {
         const FullDisk full(1000); // the second frame finds no room
-        page->saveAnimate();
-        QVERIFY(finish(*page));
+        QVERIFY(finish(*page, &AnsweredCanvas::saveAnimate));
     }
     QCOMPARE(readText(QLatin1String(kDataFile)), before);
     QCOMPARE(QDir().entryList(QDir::Files).count(), 1);
     QCOMPARE(page->progressBar()->value(), -1);
     QVERIFY(page->notice().startsWith(QStringLiteral("The file cannot be written")));
     QVERIFY(!page->button("Write Animate")->isEnabled());
-    page->saveAnimate();
-    QVERIFY(finish(*page));
+    QVERIFY(finish(*page, &AnsweredCanvas::saveAnimate));
     QVERIFY(readText(QLatin1String(kDataFile)) != before);
     QVERIFY(page->button("Write Animate")->isEnabled());
     QVERIFY(page->notice().isEmpty());
@@ -250,8 +201,7 @@ void TestCanvasFiles::fullDiskKeepsTheOldFile()
 
 void TestCanvasFiles::faultsLeaveThePageUsable_data()
 {
-    QTest::addColumn<QString>("fileName");
-    QTest::addColumn<bool>("imports");
+    columns<QString, bool>("fileName", "imports");
     QTest::newRow("export into a folder that is not there") << "missing/out.csv" << false;
     QTest::newRow("export onto a folder") << "folder" << false;
     QTest::newRow("export onto a file that may not be written") << "readonly.csv" << false;
@@ -271,14 +221,9 @@ void TestCanvasFiles::faultsLeaveThePageUsable()
     }
     const auto page = makePage();
     draw(*page, 4);
-    page->saveAnimate();
-    QVERIFY(finish(*page));
+    QVERIFY(finish(*page, &AnsweredCanvas::saveAnimate));
     page->fileName = fileName;
-    if (imports)
-        page->importAnimate();
-    else
-        page->exportAnimate();
-    QVERIFY(finish(*page));
+    QVERIFY(finish(*page, imports ? &AnsweredCanvas::importAnimate : &AnsweredCanvas::exportAnimate));
     QCOMPARE(page->progressBar()->value(), -1);
     QVERIFY(!page->notice().isEmpty());
     QVERIFY(m_desk->takeLog().join(QLatin1Char(' ')).contains(QStringLiteral("Failed to open file:")));
@@ -288,25 +233,11 @@ void TestCanvasFiles::faultsLeaveThePageUsable()
     QCOMPARE(page->busyEvents, (QList<int>{1, 0, 1, 0}));
 }
 
-void TestCanvasFiles::dialogFailures()
-{
-    const auto page = makePage();
-    page->exportAnimate();
-    page->importAnimate();
-    page->fileName = QStringLiteral("empty.csv");
-    QVERIFY(writeText(page->fileName, {}));
-    page->importAnimate();
-    QCOMPARE(page->warnings, (QStringList{"No file path selected.", "No file path selected.", "File is null."}));
-    QVERIFY(page->dataFile().isEmpty() && page->busyEvents.isEmpty());
-    QCOMPARE(page->tabs()->count(), 1);
-}
-
 void TestCanvasFiles::savedFlag()
 {
     const auto page = makePage();
     const auto save = [&] {
-        page->saveAnimate();
-        return finish(*page) && page->button("Write Animate")->isEnabled();
+        return finish(*page, &AnsweredCanvas::saveAnimate) && page->button("Write Animate")->isEnabled();
     };
     QVERIFY(!page->button("Write Animate")->isEnabled());
     QVERIFY(save());
@@ -317,21 +248,23 @@ void TestCanvasFiles::savedFlag()
     QVERIFY(!page->button("Write Animate")->isEnabled());
     page->deleteFrame();
     QVERIFY(!save()); // there is nothing to send
+    page->fileName = QStringLiteral("empty.csv");
+    QVERIFY(writeText(page->fileName, {}));
+    page->addFrame();
+    page->importAnimate(); // and here nothing to take
+    QCOMPARE(page->warnings, QStringList{"File is null."});
+    QVERIFY(!page->isBusy());
+    QCOMPARE(page->tabs()->count(), 1);
 }
 
 void TestCanvasFiles::upload_data()
 {
-    QTest::addColumn<bool>("connected");
-    QTest::addColumn<bool>("fileGoes");
-    QTest::addColumn<int>("pulledAt"); // write
-    QTest::addColumn<int>("shown");
-    QTest::addColumn<QString>("notice");
+    columns<bool, bool, int, int, QString>("connected", "fileGoes", "pulledAt", "shown", "notice"); // at a write
     const QString cut = QStringLiteral("The accessory did not take everything.");
     QTest::newRow("whole") << true << false << 0 << 100 << QString();
     QTest::newRow("without accessory") << false << false << 0 << 100 << QString();
     QTest::newRow("the file is gone") << true << true << 0 << -1 << QStringLiteral("The file cannot be read");
     QTest::newRow("pulled out at the start") << true << false << 1 << 100 << cut;
-    QTest::newRow("pulled out in the middle") << true << false << 213 << 100 << cut;
     QTest::newRow("pulled out at the last chunk") << true << false << 425 << 100 << cut;
 }
 
@@ -341,26 +274,24 @@ void TestCanvasFiles::upload()
     QFETCH(bool, fileGoes);
     QFETCH(int, pulledAt);
     QFETCH(QString, notice);
-    reopenHid();
+    connectDevice();
     const auto page = makePage();
     page->findChild<QComboBox *>()->setCurrentIndex(4);
     for (int i = 0; i < 24; ++i) // 425 chunks: its progress passes 100 on its way
         page->addFrame();
-    page->saveAnimate();
-    QVERIFY(finish(*page));
+    QVERIFY(finish(*page, &AnsweredCanvas::saveAnimate));
     m_desk->clock.takeWaits();
     if (fileGoes)
         QFile::remove(QLatin1String(kDataFile));
     page->connected = connected;
-    m_desk->desk.accessory().unplugAtWrite(pulledAt);
+    accessory().unplugAtWrite(pulledAt);
     const QByteArrayList before = page->tabs()->digits();
-    page->writeAnimate();
-    QVERIFY(finish(*page));
+    QVERIFY(finish(*page, &AnsweredCanvas::writeAnimate));
     QCOMPARE(page->tabs()->digits(), before);
     QTEST(page->progressBar()->value(), "shown");
     QVERIFY(notice.isEmpty() ? page->notice().isEmpty() : page->notice().startsWith(notice));
     QCOMPARE(m_desk->clock.takeWaits().count(), connected ? 6 : 0);
-    const virtualdesk::AccessoryUpload upload = m_desk->desk.accessory().state().upload;
+    const virtualdesk::AccessoryUpload upload = accessory().state().upload;
     QCOMPARE(upload.isComplete(), connected && !fileGoes && pulledAt == 0);
     QCOMPARE(int(upload.mode), connected && pulledAt != 1 ? 0x28 : 0);
     QVERIFY(page->button("Write Animate")->isEnabled());

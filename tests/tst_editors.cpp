@@ -2,6 +2,7 @@
 #include <QtTest>
 
 #include "ledmatrix/matrixform.h"
+#include "support/datarow.h"
 #include "support/matrixcells.h"
 #include "support/textfile.h"
 
@@ -26,11 +27,9 @@ private Q_SLOTS:
     void frameOrder_data();
     void frameOrder();
     void taperingRows();
-    void everyCellIsHit_data();
     void everyCellIsHit();
     void pressAndDrag();
     void fastMouseSkipsNoCell();
-    void notEditable();
     void keyboardCursor();
     void repaintsOnlyTheCell();
     void editorAppendsToItsFile();
@@ -41,10 +40,7 @@ private:
 
 void TestEditors::frameOrder_data()
 {
-    QTest::addColumn<int>("form");
-    QTest::addColumn<int>("row");
-    QTest::addColumn<int>("column");
-    QTest::addColumn<int>("place");
+    columns<int, int, int, int>("form", "row", "column", "place");
     QTest::newRow("tapering, first cell") << 0 << 0 << 0 << 0;
     QTest::newRow("tapering, row 2 follows row 0") << 0 << 2 << 0 << 25;
     QTest::newRow("tapering, last even cell") << 0 << 72 << 0 << 492;
@@ -88,33 +84,21 @@ void TestEditors::taperingRows()
     QCOMPARE(rows, expected);
 }
 
-void TestEditors::everyCellIsHit_data()
-{
-    QTest::addColumn<int>("form");
-    QTest::addColumn<int>("cellSize");
-    QTest::newRow("tapering") << 0 << 10;
-    QTest::newRow("tapering, odd pixels") << 0 << 7;
-    QTest::newRow("rectangle") << 1 << 13;
-}
-
 /// Each cell is hit where it is drawn, at its corners too; together they take all the points that hit anything.
 void TestEditors::everyCellIsHit()
 {
-    QFETCH(int, form);
-    QFETCH(int, cellSize);
-    const MatrixGeometry geometry(form, cellSize);
-    int points = 0;
-    for (int y = -1; y <= geometry.size().height(); ++y) {
-        for (int x = -1; x <= geometry.size().width(); ++x) {
-            const auto cell = geometry.cellAt({x, y});
-            QVERIFY(!cell || geometry.cellRect(*cell).contains(x, y));
-            points += cell.has_value();
+    for (const auto &[form, cellSize] : {std::pair{0, 10}, {0, 7}, {1, 13}}) {
+        const MatrixGeometry geometry(form, cellSize);
+        int points = 0;
+        for (int y = -1; y <= geometry.size().height(); ++y) {
+            for (int x = -1; x <= geometry.size().width(); ++x) {
+                const auto cell = geometry.cellAt({x, y});
+                QVERIFY(!cell || geometry.cellRect(*cell).contains(x, y));
+                points += cell.has_value();
+            }
         }
+        QCOMPARE(points, matrixCells(form) * cellSize * cellSize); // none lies beyond the edge
     }
-    QCOMPARE(points, matrixCells(form) * cellSize * cellSize);
-    const QRect all(QPoint(), geometry.size());
-    for (int row = 0; row < static_cast<int>(matrixRows(form).size()); ++row)
-        QVERIFY(all.contains(geometry.cellRect({row, matrixRows(form)[static_cast<std::size_t>(row)].cells - 1})));
 }
 
 void TestEditors::pressAndDrag()
@@ -140,6 +124,10 @@ void TestEditors::pressAndDrag()
     QCOMPARE(editor.frame().cell(20, 9), 0);
     QCOMPARE(edited.count(), 4);
     QTest::mouseRelease(&editor, Qt::LeftButton, {}, far);
+    editor.setEditable(false);
+    drag(editor, middle(editor, {0, 0}), middle(editor, {0, 5}));
+    QTest::keyClick(&editor, Qt::Key_Space);
+    QCOMPARE(edited.count(), 4);
 }
 
 void TestEditors::fastMouseSkipsNoCell()
@@ -153,15 +141,6 @@ void TestEditors::fastMouseSkipsNoCell()
     editor.clearFrame();
     drag(editor, middle(editor, {0, 0}), QPoint(4000, 5)); // far beyond the edge
     QCOMPARE(litCells(editor), 25);
-}
-
-void TestEditors::notEditable()
-{
-    LEDMatrixWidget editor;
-    editor.setEditable(false);
-    drag(editor, middle(editor, {0, 0}), middle(editor, {0, 5}));
-    QTest::keyClick(&editor, Qt::Key_Space);
-    QCOMPARE(litCells(editor), 0);
 }
 
 void TestEditors::keyboardCursor()

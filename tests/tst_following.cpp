@@ -7,6 +7,7 @@
 #include "following/followlist.h"
 #include "page/Following/followrow.h"
 #include "page/Following/pagescenariofollowing.h"
+#include "support/datarow.h"
 #include "support/deskfixture.h"
 #include "support/textfile.h"
 
@@ -38,17 +39,13 @@ private Q_SLOTS:
     void cleanup();
     void followsAndReturns();
     void shortVisitsLeaveTheScene();
-    void baseMode_data();
     void baseMode();
-    void programsThatCannotBeTold();
-    void otherEventsAreIgnored();
+    void nothingToFollow();
     void changesCountWhenApplied();
-    void fileIsExact();
     void fileNames();
     void loading_data();
     void loading();
     void veryLongFile();
-    void hookLivesWithThePage();
 
 private:
     void start(const std::vector<FollowEntry> &entries);
@@ -78,12 +75,12 @@ void TestFollowing::cleanup()
 {
     m_page.reset();
     QCOMPARE(m_desk->desk.applications().processesOpen(), 0);
-    deviceState.clear();
     m_desk.reset();
 }
 
 void TestFollowing::start(const std::vector<FollowEntry> &entries)
 {
+    m_page.reset();
     QVERIFY(saveFollowList(entries));
     m_page = std::make_unique<TestedPage>();
     m_desk->takeCommands();
@@ -128,38 +125,29 @@ void TestFollowing::shortVisitsLeaveTheScene()
     QCOMPARE(front(Other, 0ms), QStringList{"W 22=1"}); // a clock that was set back holds up nothing
 }
 
-void TestFollowing::baseMode_data()
-{
-    QTest::addColumn<int>("capabilities");
-    QTest::addColumn<QString>("base");
-    QTest::newRow("plain") << 0 << "W 22=1";
-    QTest::newRow("with the extra scene") << static_cast<int>(Capability::ExtraScene) << "W 22=23";
-}
-
 void TestFollowing::baseMode()
 {
-    QFETCH(int, capabilities);
-    QFETCH(QString, base);
-    deviceState.store(Command::Capability, capabilities);
-    start({});
-    QCOMPARE(front(Other), QStringList{base}); // once, without any program in the list
-    QCOMPARE(front(Game), QStringList());
+    for (const auto &[capabilities, base] :
+         {std::pair{0, "W 22=1"}, {static_cast<int>(Capability::ExtraScene), "W 22=23"}}) {
+        deviceState.store(Command::Capability, capabilities);
+        start({});
+        QCOMPARE(front(Other), QStringList{base}); // once, without any program in the list
+        QCOMPARE(front(Game), QStringList());
+    }
 }
 
-void TestFollowing::programsThatCannotBeTold()
+void TestFollowing::nothingToFollow()
 {
     start({{QStringLiteral("C:/Windows/task.exe"), 2}});
     for (const Program program : {Protected, Gone, Deep})
         QCOMPARE(front(program), QStringList());
-}
-
-void TestFollowing::otherEventsAreIgnored()
-{
-    start({});
     virtualdesk::Applications &applications = m_desk->desk.applications();
     applications.raiseEvent(3, nullptr);
     applications.raiseEvent(4, reinterpret_cast<void *>(0x20001));
     QCOMPARE(m_desk->takeCommands(), QStringList());
+    m_page.reset(); // the hook goes with it
+    QVERIFY(!applications.isHooked());
+    QCOMPARE(front(Other), QStringList());
 }
 
 void TestFollowing::changesCountWhenApplied()
@@ -180,18 +168,13 @@ void TestFollowing::changesCountWhenApplied()
     QCOMPARE(loadFollowList(), (std::vector<FollowEntry>{{QStringLiteral("D:/Games/Race.exe"), 0}}));
 }
 
-void TestFollowing::fileIsExact()
+void TestFollowing::fileNames()
 {
     const QByteArray text = "[My%20Film.exe]\nappPath=C:/Film/My Film.exe\nappScence=11\n\n"
                             "[Race.exe]\nappPath=D:/Games/Race.exe\nappScence=0\n";
     writeText(kFile, text);
-    m_page = std::make_unique<TestedPage>();
-    QCOMPARE(m_page->followRows().size(), std::size_t(2));
+    m_page = std::make_unique<TestedPage>(); // it stores what it read
     QCOMPARE(readText(kFile), text);
-}
-
-void TestFollowing::fileNames()
-{
     const std::vector<FollowEntry> entries = {{QStringLiteral("C:/a b/.hidden.tar.gz"), 1},
                                               {QStringLiteral("/opt/100%, [x]=y;z.exe"), 2},
                                               {QStringLiteral("C:/Race.exe"), 3},
@@ -211,8 +194,7 @@ void TestFollowing::fileNames()
 
 void TestFollowing::loading_data()
 {
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<QStringList>("rows"); // path and scene that is shown
+    columns<QByteArray, QStringList>("text", "rows"); // path and scene that is shown
     QTest::newRow("nothing") << QByteArray() << QStringList();
     QTest::newRow("missing keys") << QByteArray("[a.exe]\nappScence=3\n[b.exe]\nappPath=C:/b.exe\n")
                                   << QStringList{"C:/b.exe 0"};
@@ -255,15 +237,6 @@ void TestFollowing::veryLongFile()
     QVERIFY(!m_page->notice().isEmpty());
     QCOMPARE(loadFollowList().size(), std::size_t(34001)); // none is lost
     QCOMPARE(front(Game), QStringList{"W 22=13"});         // and each is followed
-}
-
-void TestFollowing::hookLivesWithThePage()
-{
-    start({});
-    QVERIFY(m_desk->desk.applications().isHooked());
-    m_page.reset();
-    QVERIFY(!m_desk->desk.applications().isHooked());
-    QCOMPARE(front(Other), QStringList());
 }
 
 QTEST_MAIN(TestFollowing)

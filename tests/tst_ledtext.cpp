@@ -1,6 +1,5 @@
-#include <QFile>
+#include <QDir>
 #include <QLineEdit>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QtTest>
 
@@ -9,9 +8,9 @@
 #include "page/Nightloom/matrixeditor.h"
 #include "page/Nightloom/pageledmatrixtext.h"
 #include "page/Nightloom/textwidget.h"
+#include "support/accessoryfixture.h"
 #include "support/datarow.h"
-#include "support/deskfixture.h"
-#include "usb-hid/hidtransport.h"
+#include "support/textfile.h"
 
 using namespace std::chrono_literals;
 
@@ -25,64 +24,50 @@ int lit(const MatrixFrame &frame)
 } // namespace
 
 /// Texts for the accessory: how they become frames, and how these come to the device.
-class TestLedText : public QObject
+class TestLedText : public AccessoryFixture
 {
     Q_OBJECT
 private Q_SLOTS:
     void init();
     void cleanup();
-    void scrolling_data();
     void scrolling();
     void standing();
-    void longTexts_data();
     void longTexts();
     void nothingToRender();
-    void jobProgress();
     void saveData();
     void textThatFails_data();
     void textThatFails();
     void preview();
-
-private:
-    std::unique_ptr<DeskFixture> m_desk;
 };
 
 void TestLedText::init()
 {
-    m_desk = std::make_unique<DeskFixture>();
-    reopenHid();
+    AccessoryFixture::init();
+    connectDevice();
 }
 
 void TestLedText::cleanup()
 {
     ledWorkThread::shutDown();
-    m_desk.reset();
-}
-
-void TestLedText::scrolling_data()
-{
-    QTest::addColumn<int>("form");
-    QTest::newRow("tapering") << 0;
-    QTest::newRow("rectangle") << 1;
+    AccessoryFixture::cleanup();
 }
 
 /// A text comes in at one edge cell by cell and goes out at the other; to the right it does so backwards.
 void TestLedText::scrolling()
 {
-    QFETCH(int, form);
-    const TextRenderer left(form, QStringLiteral("H"), TextMotion::Left);
-    const TextRenderer right(form, QStringLiteral("H"), TextMotion::Right);
-    QCOMPARE(left.frameCount(), right.frameCount());
-    QVERIFY(left.frameCount() > matrixColumns(form));
-    QCOMPARE(lit(left.frame(left.frameCount() - 1)), 0); // gone
-    QVERIFY(lit(left.frame(left.fullestFrame())) > 20);
-    QCOMPARE(left.frame(5), right.frame(right.frameCount() - 2 - 5));
-    // One frame on, every cell has taken over from the one at its right.
-    const MatrixFrame now = left.frame(left.fullestFrame());
-    const MatrixFrame next = left.frame(left.fullestFrame() + 1);
-    for (std::size_t row = 0; row < now.rows().size(); ++row) {
-        for (std::size_t column = 1; column < now.rows()[row].size(); ++column)
-            QCOMPARE(next.rows()[row][column - 1], now.rows()[row][column]);
+    for (const int form : {kTaperingForm, kRectangleForm}) {
+        const TextRenderer left(form, QStringLiteral("H"), TextMotion::Left);
+        const TextRenderer right(form, QStringLiteral("H"), TextMotion::Right);
+        QCOMPARE(left.frameCount(), right.frameCount());
+        QVERIFY(left.frameCount() > matrixColumns(form));
+        QCOMPARE(lit(left.frame(left.frameCount() - 1)), 0); // gone
+        QVERIFY(lit(left.frame(left.fullestFrame())) > 20);
+        QCOMPARE(left.frame(5), right.frame(right.frameCount() - 2 - 5));
+        // One frame on, every cell has taken over from the one at its right.
+        const MatrixFrame now = left.frame(left.fullestFrame());
+        const MatrixFrame next = left.frame(left.fullestFrame() + 1);
+        for (std::size_t row = 0; row < now.rows().size(); ++row)
+            QVERIFY(std::equal(now.rows()[row].begin() + 1, now.rows()[row].end(), next.rows()[row].begin()));
     }
 }
 
@@ -94,12 +79,10 @@ void TestLedText::standing()
     int first = 42;
     int last = -1;
     for (const auto &row : frame.rows()) {
-        for (int column = 0; column < 42; ++column) {
-            if (row[static_cast<std::size_t>(column)] == 1) {
-                first = std::min(first, column);
-                last = std::max(last, column);
-            }
-        }
+        const auto begin = std::find(row.begin(), row.end(), 1);
+        const auto end = std::find(row.rbegin(), row.rend(), 1).base();
+        first = std::min(first, static_cast<int>(begin - row.begin()));
+        last = std::max(last, static_cast<int>(end - row.begin()) - 1);
     }
     QVERIFY(last > first + 10);
     QVERIFY(std::abs(first - (41 - last)) <= 3); // in the middle
@@ -108,24 +91,17 @@ void TestLedText::standing()
     QVERIFY(longText.frame(0) != longText.frame(longText.frameCount() - 1));
 }
 
-void TestLedText::longTexts_data()
-{
-    QTest::addColumn<int>("motion");
-    QTest::addColumn<int>("length");
-    QTest::newRow("left") << 0 << 500;
-    QTest::newRow("right") << 1 << 500;
-    QTest::newRow("standing") << 2 << 500;
-    QTest::newRow("endless") << 0 << 100000;
-}
-
 void TestLedText::longTexts()
 {
-    QFETCH(int, motion);
-    QFETCH(int, length);
-    const TextRenderer renderer(0, QString(length, QLatin1Char('W')), static_cast<TextMotion>(motion));
-    QVERIFY(renderer.frameCount() > 400 && renderer.frameCount() <= 822);
-    QVERIFY(lit(renderer.frame(renderer.frameCount() / 2)) > 0); // nothing of it is missing
-    renderer.frame(renderer.frameCount() - 1);
+    for (const auto &[motion, length] : {std::pair{TextMotion::Left, 500},
+                                         {TextMotion::Right, 500},
+                                         {TextMotion::Standing, 500},
+                                         {TextMotion::Left, 100000}}) {
+        const TextRenderer renderer(0, QString(length, QLatin1Char('W')), motion);
+        QVERIFY(renderer.frameCount() > 400 && renderer.frameCount() <= 822);
+        QVERIFY(lit(renderer.frame(renderer.frameCount() / 2)) > 0); // nothing of it is missing
+        renderer.frame(renderer.frameCount() - 1);
+    }
 }
 
 void TestLedText::nothingToRender()
@@ -146,25 +122,6 @@ void TestLedText::nothingToRender()
     QVERIFY(ready.isEmpty() && progress.isEmpty());
 }
 
-void TestLedText::jobProgress()
-{
-    BoundTexts texts;
-    TextWidget widget(texts);
-    widget.input()->setText(QStringLiteral("Night"));
-    QList<int> values;
-    QByteArrayList frames;
-    connect(&widget, &TextWidget::progress, this, [&](int value) { values.append(value); });
-    connect(&widget, &TextWidget::framesReady, this, [&](const QByteArrayList &ready) { frames = ready; });
-    QVERIFY(widget.startJob());
-    QVERIFY(QTest::qWaitFor([&] { return !frames.isEmpty(); }));
-    const TextRenderer renderer(0, QStringLiteral("Night"), TextMotion::Left);
-    QCOMPARE(frames.size(), renderer.frameCount());
-    QCOMPARE(frames[renderer.fullestFrame()], renderer.frame(renderer.fullestFrame()).digits());
-    for (qsizetype i = 0; i < values.size(); ++i)
-        QCOMPARE(values[i], static_cast<int>((i + 1) * 100 / frames.size()));
-    QCOMPARE(values.size(), frames.size());
-}
-
 void TestLedText::saveData()
 {
     bool connected = false;
@@ -177,6 +134,7 @@ void TestLedText::saveData()
     QVERIFY(!page.isBusy() && busy.isEmpty()); // the accessory is not there
 
     connected = true;
+    QSignalSpy made(page.text(), &TextWidget::progress);
     QStringList phases;
     connect(ledWorkThread::instance(), &ledWorkThread::progress, &page, [&] {
         if (!phases.contains(page.phase()))
@@ -190,15 +148,19 @@ void TestLedText::saveData()
     QCOMPARE(busy, (QList<int>{1, 0}));
     QVERIFY(page.saveButton()->isEnabled());
     const TextRenderer renderer(0, QStringLiteral("Loom"), TextMotion::Left);
-    QCOMPARE(QFile(QStringLiteral("out_frame.txt")).size(), renderer.frameCount() * 949);
-    QVERIFY(m_desk->desk.accessory().state().upload.isComplete());
+    const QByteArray written = readText(QStringLiteral("out_frame.txt"));
+    QCOMPARE(written.size(), renderer.frameCount() * 949);
+    QCOMPARE(written.sliced(renderer.fullestFrame() * 949, 949), renderer.frame(renderer.fullestFrame()).digits());
+    QCOMPARE(made.count(), renderer.frameCount());
+    QCOMPARE(made.at(0).first().toInt(), 100 / renderer.frameCount());
+    QCOMPARE(made.last().first().toInt(), 100);
+    QVERIFY(accessory().state().upload.isComplete());
     QCOMPARE(m_desk->clock.takeWaits().count(), 24);
 }
 
 void TestLedText::textThatFails_data()
 {
-    QTest::addColumn<QString>("fault");
-    QTest::addColumn<QString>("notice");
+    columns<QString, QString>("fault", "notice");
     row("no text", "no text", "There is no text yet.");
     row("the file cannot be written", "folder", "The file cannot be written");
     row("pulled out", "pulled out", "The accessory did not take everything.");
@@ -211,7 +173,7 @@ void TestLedText::textThatFails()
     if (fault == QStringLiteral("folder"))
         QDir().mkdir(QStringLiteral("out_frame.txt"));
     if (fault == QStringLiteral("pulled out"))
-        m_desk->desk.accessory().unplugAtWrite(3);
+        accessory().unplugAtWrite(3);
     pageLEDMatrixText page([] { return true; });
     page.text()->input()->setText(fault == QStringLiteral("no text") ? QString() : QStringLiteral("A"));
     page.saveButton()->click();

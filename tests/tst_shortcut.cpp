@@ -8,8 +8,8 @@
 #include "platform/desk.h"
 #include "platform/nativekeys.h"
 #include "shortcut/qxtglobalshortcut.h"
-#include "shortcut/shortcutfunctions.h"
 #include "shortcut/shortcutrunner.h"
+#include "support/datarow.h"
 #include "support/deskfixture.h"
 
 using namespace platform;
@@ -96,18 +96,14 @@ private Q_SLOTS:
     void steps_data();
     void steps();
     void restsAfterAKey();
-    void commandsWithoutARule();
     void sceneKeyKeepsTheSnapshotTrue();
-    void functionsOfTheMonitor();
     void nativeKeys();
     void keyActivatesItsShortcut_data();
     void keyActivatesItsShortcut();
-    void anotherProgramsKey();
+    void keyOfAnother();
     void newSequenceReplacesTheOld();
-    void twoObjectsOneKey();
     void destructorGivesTheKeyBack();
     void filterLivesAsLongAsAnyShortcut();
-    void slotMayDeleteItsShortcut();
 
 private:
     std::unique_ptr<DeskFixture> m_desk;
@@ -128,27 +124,17 @@ void TestShortcut::cleanup()
 
 void TestShortcut::steps_data()
 {
-    QTest::addColumn<int>("function");
-    QTest::addColumn<int>("direction");
-    QTest::addColumn<QString>("values");
-    QTest::addColumn<QString>("commands");
-    QTest::addColumn<bool>("rests");
-    for (const Step &each : kSteps) {
-        QTest::addRow("%d%c %s", each.function, each.direction == kPlus ? '+' : '-', each.values)
-            << each.function << each.direction << QString::fromLatin1(each.values) << QString::fromLatin1(each.commands)
-            << each.rests;
-    }
+    QTest::addColumn<Step>("step");
+    for (const Step &each : kSteps)
+        QTest::addRow("%d%c %s", each.function, each.direction == kPlus ? '+' : '-', each.values) << each;
 }
 
 void TestShortcut::steps()
 {
-    QFETCH(int, function);
-    QFETCH(int, direction);
-    QFETCH(QString, values);
-    QFETCH(QString, commands);
-    QFETCH(bool, rests);
+    QFETCH(Step, step);
+    const QString commands = QString::fromLatin1(step.commands);
     virtualdesk::SimulatedMonitor &monitor = m_desk->monitor();
-    for (const QString &value : values.split(' ', Qt::SkipEmptyParts)) {
+    for (const QString &value : QString::fromLatin1(step.values).split(' ', Qt::SkipEmptyParts)) {
         const int code = value.first(2).toInt(nullptr, 16);
         if (value.endsWith('?'))
             monitor.loseReplies(virtualdesk::kForEver, code);
@@ -157,7 +143,7 @@ void TestShortcut::steps()
     }
     ShortcutRunner runner;
     m_desk->clock.advance(milliseconds(200));
-    runner.shortcutKeyCommand(function, direction);
+    runner.shortcutKeyCommand(step.function, step.direction);
     QStringList sent = m_desk->takeCommands();
     sent.removeIf([](const QString &command) { return command.startsWith('R') && command.endsWith('!'); });
     QCOMPARE(sent.join(','), commands);
@@ -165,7 +151,7 @@ void TestShortcut::steps()
     QCOMPARE(deviceState.value(Command(write.first(2).toInt(nullptr, 16))), write.mid(3).toInt());
 
     runner.shortcutKeyCommand(kAudioMute, kPlus);
-    QCOMPARE(m_desk->takeCommands().size(), rests ? 0 : 1);
+    QCOMPARE(m_desk->takeCommands().size(), step.rests ? 0 : 1);
     QCOMPARE(m_desk->clock.tasksWaiting(), std::size_t(1)); // the rest of one key, whichever it was
 }
 
@@ -183,13 +169,9 @@ void TestShortcut::restsAfterAKey()
     m_desk->clock.advance(milliseconds(1)); // a dropped key does not begin the rest anew
     runner.shortcutKeyCommand(kAudioMute, kMinus);
     QCOMPARE(m_desk->takeCommands(), QStringList("W f7=0"));
-}
-
-void TestShortcut::commandsWithoutARule()
-{
-    ShortcutRunner runner;
-    for (const auto &[function, direction] : {std::pair(30, kPlus), std::pair(12, 2)}) {
+    for (const auto &[function, direction] : {std::pair(30, kPlus), std::pair(12, 2)}) { // without a rule
         m_desk->clock.advance(milliseconds(200));
+        m_desk->takeRequests();
         runner.shortcutKeyCommand(function, direction);
         QCOMPARE(m_desk->takeLog(), function == 30 ? QStringList("30 暂未支持") : QStringList());
         runner.shortcutKeyCommand(kAudioMute, kPlus); // the keys rest all the same
@@ -211,14 +193,6 @@ void TestShortcut::sceneKeyKeepsTheSnapshotTrue()
     QVERIFY(!deviceState.sceneBlockValid()); // what was read belongs to the mode before
 }
 
-void TestShortcut::functionsOfTheMonitor()
-{
-    deviceState.store(Command::Capability, 0x3FF);
-    QCOMPARE(shortcutFunctionsOf(deviceState).size(), std::size_t(24));
-    deviceState.store(Command::Capability, 0x400);
-    QCOMPARE(shortcutFunctionsOf(deviceState).size(), std::size_t(30));
-}
-
 /// Ends of ranges, gaps, and orders that differ on the two sides.
 void TestShortcut::nativeKeys()
 {
@@ -234,9 +208,7 @@ void TestShortcut::nativeKeys()
 
 void TestShortcut::keyActivatesItsShortcut_data()
 {
-    QTest::addColumn<QString>("sequence");
-    QTest::addColumn<std::uint32_t>("modifiers");
-    QTest::addColumn<std::uint32_t>("key");
+    columns<QString, std::uint32_t, std::uint32_t>("sequence", "modifiers", "key");
     QTest::newRow("letter") << "Ctrl+A" << kModifierControl << std::uint32_t('A');
     QTest::newRow("digit") << "Alt+9" << kModifierAlt << std::uint32_t('9');
     QTest::newRow("all modifiers") << "Ctrl+Alt+Shift+Meta+F12"
@@ -268,17 +240,24 @@ void TestShortcut::keyActivatesItsShortcut()
     QCOMPARE(activated.count(), 2);
 }
 
-void TestShortcut::anotherProgramsKey()
+void TestShortcut::keyOfAnother()
 {
-    m_desk->desk.hotKeys().take(kModifierControl, 'A');
-    QxtGlobalShortcut shortcut;
-    QSignalSpy activated(&shortcut, &QxtGlobalShortcut::activated);
-    QVERIFY(!shortcut.setShortcut(QKeySequence("Ctrl+A")));
-    QCOMPARE(shortcut.shortcut(), QKeySequence("Ctrl+A"));
+    m_desk->desk.hotKeys().take(kModifierControl, 'A'); // another program's
+    QxtGlobalShortcut first(QKeySequence("Ctrl+B"));
+    auto second = std::make_unique<QxtGlobalShortcut>();
+    QSignalSpy activated(second.get(), &QxtGlobalShortcut::activated);
+    QVERIFY(!second->setShortcut(QKeySequence("Ctrl+A")));
+    QCOMPARE(second->shortcut(), QKeySequence("Ctrl+A"));
     deliverHotKey(kModifierControl, 'A');
-    QCOMPARE(activated.count(), 0);
-    QVERIFY(shortcut.setShortcut(QKeySequence("Ctrl+B")));
+    QVERIFY(!second->setShortcut(QKeySequence("Ctrl+B")));
     QCOMPARE(m_desk->takeLog(), QStringList("QxtGlobalShortcut failed to unregister: Ctrl+A"));
+    QSignalSpy firstActivated(&first, &QxtGlobalShortcut::activated);
+    QVERIFY(m_desk->desk.pressKey(kModifierControl, 'B')); // still the first one's
+    second.reset();
+    QCOMPARE(m_desk->takeLog(), QStringList("QxtGlobalShortcut failed to unregister: Ctrl+B"));
+    QVERIFY(m_desk->desk.pressKey(kModifierControl, 'B'));
+    QCOMPARE(firstActivated.count(), 2);
+    QCOMPARE(activated.count(), 0);
 }
 
 void TestShortcut::newSequenceReplacesTheOld()
@@ -296,19 +275,6 @@ void TestShortcut::newSequenceReplacesTheOld()
     QCOMPARE(m_desk->takeLog(), QStringList());
 }
 
-void TestShortcut::twoObjectsOneKey()
-{
-    QxtGlobalShortcut first(QKeySequence("Ctrl+A"));
-    QSignalSpy activated(&first, &QxtGlobalShortcut::activated);
-    {
-        QxtGlobalShortcut second;
-        QVERIFY(!second.setShortcut(QKeySequence("Ctrl+A")));
-    }
-    QCOMPARE(m_desk->takeLog(), QStringList("QxtGlobalShortcut failed to unregister: Ctrl+A"));
-    QVERIFY(m_desk->desk.pressKey(kModifierControl, 'A')); // still the first one's
-    QCOMPARE(activated.count(), 1);
-}
-
 void TestShortcut::destructorGivesTheKeyBack()
 {
     auto shortcut = std::make_unique<QxtGlobalShortcut>(QKeySequence("Ctrl+A"));
@@ -321,6 +287,10 @@ void TestShortcut::destructorGivesTheKeyBack()
     QCOMPARE(m_desk->takeLog(), QStringList("QxtGlobalShortcut failed to unregister: Ctrl+A"));
     const QxtGlobalShortcut other;
     deliverHotKey(kModifierControl, 'A'); // must not reach the object that is gone
+    auto *own = new QxtGlobalShortcut(QKeySequence("Ctrl+A"));
+    connect(own, &QxtGlobalShortcut::activated, this, [own] { delete own; }); // its slot may delete it
+    m_desk->desk.pressKey(kModifierControl, 'A');
+    QCOMPARE(m_desk->desk.hotKeys().count(), std::size_t(0));
 }
 
 void TestShortcut::filterLivesAsLongAsAnyShortcut()
@@ -335,15 +305,6 @@ void TestShortcut::filterLivesAsLongAsAnyShortcut()
         m_desk->desk.pressKey(kModifierControl, 'A');
         QCOMPARE(activated.count(), 2);
     }
-}
-
-void TestShortcut::slotMayDeleteItsShortcut()
-{
-    auto *shortcut = new QxtGlobalShortcut(QKeySequence("Ctrl+A"));
-    LastFilter others;
-    connect(shortcut, &QxtGlobalShortcut::activated, this, [shortcut] { delete shortcut; });
-    m_desk->desk.pressKey(kModifierControl, 'A');
-    QCOMPARE(m_desk->desk.hotKeys().count(), std::size_t(0));
 }
 
 QTEST_MAIN(TestShortcut)

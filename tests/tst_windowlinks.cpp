@@ -33,20 +33,19 @@ class TestWindowLinks : public WindowFixture
 {
     Q_OBJECT
 private Q_SLOTS:
-    void hotKeysShow();
+    void hotKeysAndFollowingShow();
     void overlayGoesByItself();
     void refusedHotKeyIsNotKept();
-    void followedScenesShow();
     void accessoryIsOpenedAndFollowed();
     void missingAccessoryIsTold();
-    void busyModeStopsTheWorker();
-    void busyModeInterruptsMusic();
+    void busyModeStopsTheLiveDisplay();
     void uploadKeepsTheOthersAway();
 };
 
-void TestWindowLinks::hotKeysShow()
+void TestWindowLinks::hotKeysAndFollowingShow()
 {
     start(10, 0, [] {
+        saveFollowList({{QStringLiteral("D:/Games/Night Race/NightRace.exe"), 6}});
         saveShortcuts({true, {{12, true, QStringLiteral("Ctrl+B"), {}}, {16, true, QStringLiteral("Ctrl+G"), {}}}});
     });
     m_desk->clock.advance(200ms);
@@ -65,6 +64,10 @@ void TestWindowLinks::hotKeysShow()
     const QString option = m_window->scenePage()->optionGroup(Command::Gamma)->buttonOf(1)->text().trimmed();
     QCOMPARE(m_window->overlay()->text(), QStringLiteral("Gamma: ") + option); // as the page calls it
     QVERIFY(m_window->scenePage()->optionGroup(Command::Gamma)->buttonOf(1)->isChecked());
+
+    m_desk->desk.applications().bringToFront(1);
+    QCOMPARE(m_desk->monitor().value(0x22), std::uint16_t(13));
+    QVERIFY(entry(0, "Night Mode")->isChecked());
 }
 
 void TestWindowLinks::overlayGoesByItself()
@@ -94,14 +97,6 @@ void TestWindowLinks::refusedHotKeyIsNotKept()
     QCOMPARE(deviceState.value(Command::SceneMode), 10); // what is on
     QVERIFY(entry(0, "Movie Mode")->isChecked());
     QVERIFY(!m_window->overlay()->text().contains(QStringLiteral("parameters")));
-}
-
-void TestWindowLinks::followedScenesShow()
-{
-    start(10, 0, [] { saveFollowList({{QStringLiteral("D:/Games/Night Race/NightRace.exe"), 6}}); });
-    m_desk->desk.applications().bringToFront(1);
-    QCOMPARE(m_desk->monitor().value(0x22), std::uint16_t(13));
-    QVERIFY(entry(0, "Night Mode")->isChecked());
 }
 
 void TestWindowLinks::accessoryIsOpenedAndFollowed()
@@ -149,7 +144,7 @@ void TestWindowLinks::missingAccessoryIsTold()
     QVERIFY(m_window->ensureHidConnected());
 }
 
-void TestWindowLinks::busyModeStopsTheWorker()
+void TestWindowLinks::busyModeStopsTheLiveDisplay()
 {
     start(10);
     ledWorkThread *worker = ledWorkThread::instance();
@@ -158,14 +153,8 @@ void TestWindowLinks::busyModeStopsTheWorker()
     m_window->setInterfaceMode(kBusy);
     QCOMPARE(worker->state(), ledWorkThread::Stopped);
     QVERIFY(worker->wait(10000));
-    worker->begin(ledWorkThread::ClockLoop);
-    m_window.reset(); // the program's end
-    QVERIFY(worker->isFinished());
-}
+    m_window->setInterfaceMode(kBusyEnded);
 
-void TestWindowLinks::busyModeInterruptsMusic()
-{
-    start(10);
     SoundAnalyzer &analyzer = SoundAnalyzer::instance();
     auto *music = qobject_cast<pageLEDMusic *>(m_window->page(PageId::LedMusic)->widget());
     music->switchOptions()->buttonOf(1)->click();
@@ -174,7 +163,9 @@ void TestWindowLinks::busyModeInterruptsMusic()
     QTRY_VERIFY(!analyzer.isRunning());
     m_window->setInterfaceMode(kBusyEnded);
     QTRY_VERIFY(analyzer.isCapturing());
+    worker->begin(ledWorkThread::ClockLoop);
     m_window.reset(); // the program's end
+    QVERIFY(worker->isFinished());
     QVERIFY(analyzer.isFinished());
 }
 

@@ -15,12 +15,15 @@ void AccessoryFixture::connectDevice()
 void AccessoryFixture::init()
 {
     m_desk = std::make_unique<DeskFixture>();
+    m_faultsExpected = 0;
 }
 
 void AccessoryFixture::cleanup()
 {
     closeHid();
     const int left = accessory().handlesOpen() + accessory().handleFaults();
+    const int faults = accessory().protocolFaults();
     m_desk.reset();
     QCOMPARE(left, 0);
+    QCOMPARE(faults, m_faultsExpected);
 }

@@ -13,10 +13,11 @@ protected:
     void connectDevice();
 
     std::unique_ptr<DeskFixture> m_desk;
+    int m_faultsExpected = 0; ///< writes that the accessory could not understand
 
 protected Q_SLOTS:
     void init();
 
-    /// Fails when a handle was left open or used after it was closed.
+    /// Fails when a handle was left open or used after it was closed, or a write was not understood.
     void cleanup();
 };

@@ -47,8 +47,9 @@ inline std::unique_ptr<AnsweredCanvas> makePage(int form = kTaperingForm)
     return page;
 }
 
-/// Waits until the page's long work has ended.
-inline bool finish(const AnsweredCanvas &page)
+/// Begins a long work of the page's and waits until it has ended.
+inline bool finish(AnsweredCanvas &page, void (AnsweredCanvas::*work)())
 {
+    (page.*work)();
     return QTest::qWaitFor([&page] { return !page.isBusy(); });
 }

@@ -2,8 +2,8 @@
 
 #include <QtTest>
 
-/// The columns of a data table: their types, and a name for each.
-template <typename... Types> void columns(const auto *...names)
+/// The columns of a data table, their types and their names in one order: columns<int, QString>("form", "text").
+template <typename... Types, typename... Names> void columns(Names... names)
 {
     (QTest::addColumn<Types>(names), ...);
 }
