@@ -5,14 +5,14 @@
 #include <memory>
 
 #include <QList>
-#include <QThread>
 
 #include "PictureAudioCom/spectrumanalysis.h"
 #include "platform/audiocapture.h"
+#include "platform/joinedthread.h"
 
 /// Listens to what the computer plays and tells how high the bars of its spectrum are. start() begins; a start while it
 /// ends is lost, as with every thread. Its signals come from its own thread.
-class SoundAnalyzer : public QThread
+class SoundAnalyzer : public JoinedThread
 {
     Q_OBJECT
 public:

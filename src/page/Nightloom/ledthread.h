@@ -5,7 +5,8 @@
 #include <stop_token>
 
 #include <QByteArrayList>
-#include <QThread>
+
+#include "platform/joinedthread.h"
 
 class pageLEDMatrixCanvas;
 
@@ -19,7 +20,7 @@ struct LEDJob
 };
 
 /// The canvas page's long work: it writes, asks to read, or uploads an animation. It touches nothing that is shown.
-class LEDThread : public QThread
+class LEDThread : public JoinedThread
 {
     Q_OBJECT
 public:

@@ -9,13 +9,13 @@
 #include <stop_token>
 #include <vector>
 
-#include <QThread>
+#include "platform/joinedthread.h"
 
 class LedFrameSource;
 
 /// Streams live frames to the accessory (spectrum, clock) and uploads rendered texts, one work after the other. There
 /// is one instance, which lives until the program ends.
-class ledWorkThread : public QThread
+class ledWorkThread : public JoinedThread
 {
     Q_OBJECT
 public:

@@ -1,12 +1,13 @@
 #pragma once
 
 #include <QByteArrayList>
-#include <QThread>
+
+#include "platform/joinedthread.h"
 
 class TextWidget;
 
 /// Renders one text into frames, off the interface thread.
-class WorkerThread : public QThread
+class WorkerThread : public JoinedThread
 {
     Q_OBJECT
 public:

@@ -3,7 +3,7 @@
 #include "ddc_protocol/transport.h"
 #include "searchdevicedlg.h"
 
-WorkThread::WorkThread(SearchDeviceDlg &session, QObject *parent) : QThread(parent), m_session(session)
+WorkThread::WorkThread(SearchDeviceDlg &session, QObject *parent) : JoinedThread(parent), m_session(session)
 {
 }
 

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QThread>
+#include "platform/joinedthread.h"
 
 class SearchDeviceDlg;
 
 /// Reads the block of a scene mode and then sends the mode, off the interface thread: the table read is slow. It
 /// touches nothing of the page but the snapshot.
-class WorkThread : public QThread
+class WorkThread : public JoinedThread
 {
     Q_OBJECT
 public:
