@@ -9,34 +9,15 @@
 
 #include "PictureAudioCom/spectrumanalysis.h"
 #include "ledmatrix/matrixform.h"
-#include "virtualdesk/soundsource.h"
+#include "support/datarow.h"
+#include "support/sounds.h"
 
 using virtualdesk::Sound;
-using virtualdesk::SoundSetup;
 using Samples = std::vector<std::int16_t>;
 
 namespace {
 
 constexpr int kEdges[] = {100, 150, 205, 300, 400, 500, 800, 1000, 1600, 2049, 3000, 6400};
-
-Samples record(const SoundSetup &sound, int rate, int channels, int frames)
-{
-    Samples samples;
-    for (int frame = 0; frame < frames; ++frame) {
-        for (int channel = 0; channel < channels; ++channel)
-            samples.push_back(static_cast<std::int16_t>(std::lround(32767 * sound.sample(frame, channel, rate))));
-    }
-    return samples;
-}
-
-SoundSetup sound(Sound kind, double frequency = 440, int volume = 50)
-{
-    SoundSetup setup;
-    setup.sound = kind;
-    setup.frequency = frequency;
-    setup.volume = volume;
-    return setup;
-}
 
 /// Packets one after the other, by the definition of the transform: N real numbers are read, a zero stands behind each
 /// sample, and only the first count / 2 + 1 bins of a packet are new.
@@ -82,11 +63,8 @@ private:
 
 bool close(const BandSums &a, const BandSums &b)
 {
-    for (std::size_t band = 0; band < a.size(); ++band) {
-        if (std::abs(a[band] - b[band]) > 1e-6 * (1 + std::abs(b[band])))
-            return false;
-    }
-    return true;
+    return std::equal(a.begin(), a.end(), b.begin(),
+                      [](double x, double y) { return std::abs(x - y) <= 1e-6 * (1 + std::abs(y)); });
 }
 
 } // namespace
@@ -98,32 +76,20 @@ class TestSpectrum : public QObject
 private Q_SLOTS:
     void agreesWithPlainTransform_data();
     void agreesWithPlainTransform();
-    void tonesFillTheirBand_data();
     void tonesFillTheirBand();
     void impulseGivesKnownHeights();
     void silenceGivesNothing();
     void heightsStayWithinLimits();
-    void shortPacketsLeaveTheRest();
     void lengthOnlyGrows();
 };
 
 void TestSpectrum::agreesWithPlainTransform_data()
 {
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<int>("rate");
-    QTest::addColumn<int>("channels");
-    QTest::addColumn<int>("frames");
-    const auto row = [](const char *name, Sound kind, int rate, int channels, int frames) {
-        QTest::newRow(name) << static_cast<int>(kind) << rate << channels << frames;
-    };
+    columns<Sound, int, int, int>("kind", "rate", "channels", "frames");
     row("tone, one channel", Sound::Tone, 48000, 1, 4800);
-    row("tone, two channels, 10 ms", Sound::Tone, 48000, 2, 480);
-    row("tone, eight channels", Sound::Tone, 48000, 8, 480);
-    row("two tones, two channels", Sound::TwoTones, 48000, 2, 2400);
+    row("two tones, two channels, 10 ms", Sound::TwoTones, 48000, 2, 480);
     row("two tones, eight channels, odd", Sound::TwoTones, 44100, 8, 441);
     row("sweep, one channel, odd", Sound::Sweep, 48000, 1, 4799);
-    row("sweep, two channels, 44100", Sound::Sweep, 44100, 2, 1323);
-    row("noise, one channel", Sound::Noise, 48000, 1, 3333);
     row("noise, two channels, 96000", Sound::Noise, 96000, 2, 961);
     row("noise, eight channels, 192000", Sound::Noise, 192000, 8, 1920);
     row("exactly N", Sound::Noise, 48000, 2, 2400);
@@ -133,11 +99,11 @@ void TestSpectrum::agreesWithPlainTransform_data()
 
 void TestSpectrum::agreesWithPlainTransform()
 {
-    QFETCH(int, kind);
+    QFETCH(Sound, kind);
     QFETCH(int, rate);
     QFETCH(int, channels);
     QFETCH(int, frames);
-    const Samples samples = record(sound(static_cast<Sound>(kind)), rate, channels, frames);
+    const Samples samples = record(playing(kind), rate, channels, frames);
     SpectrumAnalysis analysis;
     QVERIFY(analysis.prepare(static_cast<std::uint32_t>(rate)));
     QCOMPARE(analysis.length(), rate / 10);
@@ -153,28 +119,18 @@ void TestSpectrum::agreesWithPlainTransform()
     }
 }
 
-void TestSpectrum::tonesFillTheirBand_data()
-{
-    QTest::addColumn<int>("band");
-    for (int band = 0; band < static_cast<int>(kSpectrumBands); ++band)
-        QTest::addRow("band %d", band) << band;
-}
-
 void TestSpectrum::tonesFillTheirBand()
 {
-    QFETCH(int, band);
-    // The middle bin of the band; one bin of the transform is twice as wide as usual, because of the zeros.
-    const int bin = (kEdges[band] * 2401 / 22050 + kEdges[band + 1] * 2401 / 22050) / 2;
-    SpectrumAnalysis analysis;
-    QVERIFY(analysis.prepare(48000));
-    const auto sums = analysis.analyse(record(sound(Sound::Tone, bin * 20.0), 48000, 1, 4800));
-    QVERIFY(sums);
-    for (const int form : {kTaperingForm, kRectangleForm}) {
-        const BarHeights heights = *barHeights(*sums, form);
-        const auto place = static_cast<std::size_t>(band);
-        QCOMPARE(heights[place], 3 * spectrumLimits(form)[place] + 1);
-        QVERIFY(std::all_of(heights.begin(), heights.end(), [](int height) { return height >= 1; }));
-        QCOMPARE(std::max_element(sums->begin(), sums->end()) - sums->begin(), std::ptrdiff_t{band});
+    for (std::size_t band = 0; band < kSpectrumBands; ++band) {
+        // The middle bin of the band; one bin of the transform is twice as wide as usual, because of the zeros.
+        const int bin = (kEdges[band] * 2401 / 22050 + kEdges[band + 1] * 2401 / 22050) / 2;
+        SpectrumAnalysis analysis;
+        QVERIFY(analysis.prepare(48000));
+        const auto sums = analysis.analyse(record(playing(Sound::Tone, bin * 20.0), 48000, 1, 4800));
+        QVERIFY(sums);
+        QCOMPARE(std::max_element(sums->begin(), sums->end()) - sums->begin(), static_cast<std::ptrdiff_t>(band));
+        for (const int form : {kTaperingForm, kRectangleForm})
+            QCOMPARE(barHeights(*sums, form)->at(band), 3 * spectrumLimits(form)[band] + 1);
     }
 }
 
@@ -205,6 +161,9 @@ void TestSpectrum::silenceGivesNothing()
     QVERIFY(!analysis.analyse({}));
     QVERIFY(!analysis.analyse(Samples(960)));
     QVERIFY(analysis.analyse(impulse));
+    QVERIFY(analysis.analyse(Samples(100))); // silent itself
+    analysis.clear();
+    QVERIFY(!analysis.analyse(Samples(100)));
     impulse[0] = 11;
     QVERIFY(!analysis.analyse(impulse));
 }
@@ -222,31 +181,19 @@ void TestSpectrum::heightsStayWithinLimits()
     BandSums oneOnly{};
     oneOnly[5] = 99;
     for (const int form : {kTaperingForm, kRectangleForm}) {
-        BarHeights ones;
-        ones.fill(1);
-        QCOMPARE(*barHeights(alike, form), ones);
-        QCOMPARE(*barHeights(oneOnly, form), ones);
         const auto limits = spectrumLimits(form);
+        BarHeights expected;
+        expected.fill(1);
+        QCOMPARE(*barHeights(alike, form), expected);
+        QCOMPARE(*barHeights(oneOnly, form), expected);
+        expected[6] = 3 * limits[6] + 1;
+        QCOMPARE(*barHeights(empty, form), expected);
         const BarHeights high = *barHeights(extreme, form);
         QCOMPARE(high[3], 1);
         QCOMPARE(high[4], 3 * limits[4] + 1);
         for (std::size_t band = 0; band < high.size(); ++band)
             QVERIFY(high[band] >= 1 && high[band] <= 3 * limits[band] + 1);
-        BarHeights expected = ones;
-        expected[6] = 3 * limits[6] + 1;
-        QCOMPARE(*barHeights(empty, form), expected);
     }
-}
-
-void TestSpectrum::shortPacketsLeaveTheRest()
-{
-    const Samples tone = record(sound(Sound::Tone), 48000, 1, 4800);
-    SpectrumAnalysis analysis;
-    QVERIFY(analysis.prepare(48000));
-    QVERIFY(analysis.analyse(tone));
-    QVERIFY(analysis.analyse(Samples(100))); // silent itself
-    analysis.clear();
-    QVERIFY(!analysis.analyse(Samples(100)));
 }
 
 void TestSpectrum::lengthOnlyGrows()
@@ -262,7 +209,7 @@ void TestSpectrum::lengthOnlyGrows()
     QCOMPARE(analysis.length(), 19200);
     QVERIFY(!analysis.prepare(0));
 
-    const Samples packet = record(sound(Sound::Noise), 44100, 2, 9000);
+    const Samples packet = record(playing(Sound::Noise), 44100, 2, 9000);
     QVERIFY(close(*analysis.analyse(packet), PlainSpectrum(19200).analyse(packet)));
 }
 
