@@ -1,13 +1,14 @@
 // What the drawings make of heights, and what the simulated sound reads.
 
 #include <algorithm>
-#include <cmath>
 #include <set>
 
 #include <QtTest>
 
 #include "ledmatrix/matrixform.h"
 #include "page/Nightloom/audioled.h"
+#include "support/datarow.h"
+#include "support/sounds.h"
 #include "virtualdesk/deskscript.h"
 
 using namespace virtualdesk;
@@ -24,24 +25,12 @@ Levels highest(int form)
     return levels;
 }
 
-std::vector<std::int32_t> drawn(AudioBars &bars, AudioTemplate which, const Levels &levels)
+Levels drawn(AudioBars &bars, AudioTemplate which, const Levels &levels)
 {
     bars.setTemplate(which);
     bars.clear();
     bars.setLevels(levels);
     return {bars.frame().begin(), bars.frame().end()};
-}
-
-int litCells(std::span<const std::int32_t> frame)
-{
-    return static_cast<int>(std::count(frame.begin(), frame.end(), 1));
-}
-
-SoundSetup playing(Sound kind)
-{
-    SoundSetup sound;
-    sound.sound = kind;
-    return sound;
 }
 
 } // namespace
@@ -53,7 +42,6 @@ class TestAudio : public QObject
 private Q_SLOTS:
     void fillsEveryColumn_data();
     void fillsEveryColumn();
-    void templatesDiffer();
     void peaksFall();
     void readsWaveFiles_data();
     void readsWaveFiles();
@@ -62,9 +50,9 @@ private Q_SLOTS:
 
 void TestAudio::fillsEveryColumn_data()
 {
-    QTest::addColumn<int>("form");
-    QTest::newRow("tapering") << kTaperingForm;
-    QTest::newRow("rectangle") << kRectangleForm;
+    columns<int>("form");
+    row("tapering", kTaperingForm);
+    row("rectangle", kRectangleForm);
 }
 
 void TestAudio::fillsEveryColumn()
@@ -92,24 +80,17 @@ void TestAudio::fillsEveryColumn()
     MatrixFrame frame(form);
     frame.setFlat(drawn(*bars, AudioTemplate::Bars, {0, 0, 0, 0, 0, INT32_MAX}));
     for (const MatrixFrame::Row &row : frame.rows())
-        QCOMPARE(std::count(row.begin(), row.end(), 1), std::ptrdiff_t{width});
-}
+        QCOMPARE(litCells(row), width);
 
-void TestAudio::templatesDiffer()
-{
-    for (const int form : {kTaperingForm, kRectangleForm}) {
-        const auto bars = makeAudioBars(form);
-        const Levels half(11, 3 * spectrumLimits(form)[0] / 2);
-        std::set<std::vector<std::int32_t>> pictures;
-        for (const auto which : {AudioTemplate::Bars, AudioTemplate::Mirrored, AudioTemplate::Hanging})
-            pictures.insert(drawn(*bars, which, half));
-        QCOMPARE(pictures.size(), 3u);
-        MatrixFrame frame(form);
-        frame.setFlat(drawn(*bars, AudioTemplate::Hanging, half));
-        QVERIFY(litCells(frame.rows().front()) > 0);
-        frame.setFlat(drawn(*bars, AudioTemplate::Bars, half));
-        QCOMPARE(litCells(frame.rows().back()), form == kRectangleForm ? 22 : 1);
-    }
+    const Levels half(11, 3 * spectrumLimits(form)[0] / 2);
+    std::set<Levels> pictures;
+    for (const auto which : {AudioTemplate::Mirrored, AudioTemplate::Bars, AudioTemplate::Hanging})
+        pictures.insert(drawn(*bars, which, half));
+    QCOMPARE(pictures.size(), 3u);
+    frame.setFlat(bars->frame());
+    QVERIFY(litCells(frame.rows().front()) > 0);
+    frame.setFlat(drawn(*bars, AudioTemplate::Bars, half));
+    QCOMPARE(litCells(frame.rows().back()), form == kRectangleForm ? 22 : 1);
     QVERIFY(!makeAudioBars(2));
 }
 
@@ -118,7 +99,7 @@ void TestAudio::peaksFall()
     const auto bars = makeAudioBars(kRectangleForm);
     const int full = litCells(drawn(*bars, AudioTemplate::Peaks, highest(kRectangleForm)));
     QCOMPARE(full, 11 * 50);
-    const std::vector<std::int32_t> first = drawn(*bars, AudioTemplate::Peaks, Levels(11, 1));
+    const Levels first = drawn(*bars, AudioTemplate::Peaks, Levels(11, 1));
     QCOMPARE(litCells(first), 11 * 4); // the bar's dot, and the peak one step below the top
     bars->redraw();                    // nothing new was heard
     QVERIFY(std::equal(first.begin(), first.end(), bars->frame().begin()));
@@ -132,27 +113,24 @@ void TestAudio::peaksFall()
 
 void TestAudio::readsWaveFiles_data()
 {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<int>("frames");
+    columns<QByteArray, int>("bytes", "frames");
     const auto format = [](char tag, char channels, char bits) {
         return QByteArray("fmt \x10\0\0\0", 8) + tag + '\0' + channels + QByteArray("\0\x80\xBB\0\0\0\0\0\0\0\0", 11) +
                bits + '\0';
     };
     const QByteArray head("RIFF\0\0\0\0WAVE", 12);
     const QByteArray data("data\x08\0\0\0\0\x40\0\xC0\0\x40\0\xC0", 16);
-    QTest::newRow("16 bits, two channels") << head + format(1, 2, 16) + data << 2;
-    QTest::newRow("floats, one channel, behind a list")
-        << head + QByteArray("LIST\x01\0\0\0x\0", 10) + format(3, 1, 32) + data << 2;
-    QTest::newRow("floats beyond the scale")
-        << head + format(3, 1, 32) + QByteArray("data\x08\0\0\0\0\0\xC0\x7F\0\0\0\xC1", 16) << 2; // no number, and -8
-    QTest::newRow("cut off") << (head + format(1, 1, 16) + data).chopped(3) << 2;
-    QTest::newRow("24 bits") << head + format(1, 2, 24) + data << -1;
-    QTest::newRow("no channel") << head + format(1, 0, 16) + data << -1;
-    QTest::newRow("no data") << head + format(1, 1, 16) << -1;
-    QTest::newRow("no format") << head + data << -1;
-    QTest::newRow("length beyond the end") << head + format(1, 1, 16) + QByteArray("data\xFF\xFF\xFF\xFFxx", 10) << 1;
-    QTest::newRow("something else") << QByteArray("hello") << -1;
-    QTest::newRow("empty") << QByteArray() << -1;
+    row("16 bits, two channels", head + format(1, 2, 16) + data, 2);
+    row("floats, behind a list", head + QByteArray("LIST\x01\0\0\0x\0", 10) + format(3, 1, 32) + data, 2);
+    row("floats beyond the scale", // no number, and -8
+        head + format(3, 1, 32) + QByteArray("data\x08\0\0\0\0\0\xC0\x7F\0\0\0\xC1", 16), 2);
+    row("cut off", (head + format(1, 1, 16) + data).chopped(3), 2);
+    row("length beyond the end", head + format(1, 1, 16) + QByteArray("data\xFF\xFF\xFF\xFFxx", 10), 1);
+    row("24 bits", head + format(1, 2, 24) + data, -1);
+    row("no channel", head + format(1, 0, 16) + data, -1);
+    row("no data", head + format(1, 1, 16), -1);
+    row("no format", head + data, -1);
+    row("empty", QByteArray(), -1);
 }
 
 void TestAudio::readsWaveFiles()
@@ -192,14 +170,12 @@ void TestAudio::readsAudioScripts()
     QCOMPARE(setup->audioFaults[0].result, platform::kAudioDeviceInvalidated);
 
     for (const char *script :
-         {R"({"audio": []})", R"({"audio": {"rate": 3}})", R"({"audio": {"plays": "jazz"}})",
-          R"({"audio": {"plays": "wave", "file": "none.wav"}})", R"({"audio": {"faults": [{"call": "sing"}]}})",
-          R"({"audio": {"faults": [{"call": "stop", "result": "bad"}]}})", R"({"audio": {"present": 1}})",
-          R"({"audio": {"rat": 48000}})", R"({"audio": {"faults": {}}})", R"({"audio": {"faults": [{}]}})",
-          R"({"audio": {"faults": [{"call": "stop", "result": 5}]}})",
-          R"({"audio": {"faults": [{"call": "stop", "time": 5}]}})"}) {
+         {R"([])", R"({"rate": 3})", R"({"plays": "jazz"})", R"({"plays": "wave", "file": "none.wav"})",
+          R"({"present": 1})", R"({"rat": 48000})", R"({"faults": {}})", R"({"faults": [{}]})",
+          R"({"faults": [{"call": "sing"}]})", R"({"faults": [{"call": "stop", "result": "bad"}]})",
+          R"({"faults": [{"call": "stop", "result": 5}]})", R"({"faults": [{"call": "stop", "time": 5}]})"}) {
         error.clear();
-        QVERIFY(!parseDeskScript(script, error));
+        QVERIFY(!parseDeskScript(QByteArray("{\"audio\": ") + script + "}", error));
         QVERIFY(!error.isEmpty());
     }
 }

@@ -1,7 +1,5 @@
 // From what plays to what the matrix shows: the music page with all behind it.
 
-#include <algorithm>
-
 #include <QComboBox>
 #include <QPushButton>
 #include <QSemaphore>
@@ -18,7 +16,9 @@
 #include "page/Nightloom/pageledmusic.h"
 #include "page/Nightloom/pageledsystem.h"
 #include "page/engine/optiongrouprow.h"
+#include "support/datarow.h"
 #include "support/deskfixture.h"
+#include "support/sounds.h"
 #include "usb-hid/hidtransport.h"
 #include "virtualdesk/soundpanel.h"
 
@@ -26,18 +26,6 @@ using namespace std::chrono_literals;
 using namespace virtualdesk;
 
 namespace {
-
-int litCells(std::span<const std::int32_t> frame)
-{
-    return static_cast<int>(std::count(frame.begin(), frame.end(), 1));
-}
-
-SoundSetup playing(Sound kind)
-{
-    SoundSetup sound;
-    sound.sound = kind;
-    return sound;
-}
 
 /// The music page on a desk whose clock does not wait, with the accessory connected.
 class MusicRig
@@ -114,7 +102,6 @@ private Q_SLOTS:
     void initTestCase() { setUpSharedFonts(); }
     void reachesMatrix_data();
     void reachesMatrix();
-    void refusedWithoutAccessory();
     void endsWithStopReport_data();
     void endsWithStopReport();
     void busyModeInterrupts();
@@ -125,9 +112,9 @@ private Q_SLOTS:
 
 void TestMusic::reachesMatrix_data()
 {
-    QTest::addColumn<int>("form");
-    QTest::newRow("tapering") << kTaperingForm;
-    QTest::newRow("rectangle") << kRectangleForm;
+    columns<int>("form");
+    row("tapering", kTaperingForm);
+    row("rectangle", kRectangleForm);
 }
 
 void TestMusic::reachesMatrix()
@@ -168,32 +155,20 @@ void TestMusic::reachesMatrix()
     QCOMPARE(rig.fixture.desk.accessory().protocolFaults(), 0);
 }
 
-void TestMusic::refusedWithoutAccessory()
-{
-    MusicRig rig;
-    rig.connected = false;
-    rig.press(rig.page->switchOptions(), 1);
-    QVERIFY(!rig.page->isMusicOn()); // nothing to show it on
-    QVERIFY(rig.page->switchOptions()->buttonOf(0)->isChecked());
-}
-
 void TestMusic::endsWithStopReport_data()
 {
-    QTest::addColumn<std::function<void(MusicRig &)>>("end");
-    QTest::addColumn<bool>("staysOn");
-    const auto row = [](const char *name, bool staysOn, std::function<void(MusicRig &)> end) {
-        QTest::newRow(name) << std::move(end) << staysOn;
-    };
+    using End = std::function<void(MusicRig &)>;
+    columns<bool, End>("staysOn", "end");
     const auto system = [](MusicRig &rig, OptionGroupRow *(pageLEDSystem::*options)() const, int value) {
         pageLEDSystem page([] { return true; }, rig.queue);
         rig.press((page.*options)(), value);
     };
-    row("switch", false, [](MusicRig &rig) { rig.press(rig.page->switchOptions(), 0); });
-    row("busy mode", true, [](MusicRig &rig) { rig.page->setBusy(true); });
-    row("by itself", true, [](MusicRig &) { SoundAnalyzer::instance().stop(); });
-    row("the page's end", false, [](MusicRig &rig) { rig.page.reset(); });
-    row("lamp", false, [system](MusicRig &rig) { system(rig, &pageLEDSystem::lampOptions, 1); });
-    row("clock off", false, [system](MusicRig &rig) { system(rig, &pageLEDSystem::clockOptions, 0); });
+    row("switch", false, End([](MusicRig &rig) { rig.press(rig.page->switchOptions(), 0); }));
+    row("busy mode", true, End([](MusicRig &rig) { rig.page->setBusy(true); }));
+    row("by itself", true, End([](MusicRig &) { SoundAnalyzer::instance().stop(); }));
+    row("the page's end", false, End([](MusicRig &rig) { rig.page.reset(); }));
+    row("lamp", false, End([system](MusicRig &rig) { system(rig, &pageLEDSystem::lampOptions, 1); }));
+    row("clock off", false, End([system](MusicRig &rig) { system(rig, &pageLEDSystem::clockOptions, 0); }));
 }
 
 void TestMusic::endsWithStopReport()
@@ -221,6 +196,11 @@ void TestMusic::endsWithStopReport()
 void TestMusic::busyModeInterrupts()
 {
     MusicRig rig;
+    rig.connected = false;
+    rig.press(rig.page->switchOptions(), 1);
+    QVERIFY(!rig.page->isMusicOn()); // nothing to show it on
+    QVERIFY(rig.page->switchOptions()->buttonOf(0)->isChecked());
+    rig.connected = true;
     rig.page->setBusy(true);
     rig.page->setBusy(false); // with the mode off nothing begins
     QVERIFY(!SoundAnalyzer::instance().isRunning());

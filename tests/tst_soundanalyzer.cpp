@@ -4,26 +4,19 @@
 
 #include "PictureAudioCom/soundanalyzer.h"
 #include "ledmatrix/matrixform.h"
+#include "support/datarow.h"
 #include "support/deskfixture.h"
+#include "support/sounds.h"
 
 using virtualdesk::AudioCall;
-using virtualdesk::AudioFault;
 using virtualdesk::EndpointSetup;
 using virtualdesk::MixKind;
 using virtualdesk::SimulatedEndpoint;
 using virtualdesk::Sound;
-using virtualdesk::SoundSetup;
 
 namespace {
 
 using Strings = QStringList;
-
-SoundSetup playing(Sound kind)
-{
-    SoundSetup sound;
-    sound.sound = kind;
-    return sound;
-}
 
 /// A desk, and an analyser that is stopped from within when the loop has asked for its n-th packet.
 class Rig
@@ -67,26 +60,25 @@ public:
     /// What the first packet of a client with this format makes, by the analysis alone.
     QList<int> firstHeights(int rate, int channels, int frames) const
     {
-        std::vector<std::int16_t> samples;
-        for (int frame = 0; frame < frames; ++frame) {
-            for (int channel = 0; channel < channels; ++channel) {
-                const double value = endpoint.setup().sound.sample(frame, channel, rate);
-                samples.push_back(static_cast<std::int16_t>(std::lround(32767 * value)));
-            }
-        }
         SpectrumAnalysis analysis;
         analysis.prepare(static_cast<std::uint32_t>(rate));
-        const BarHeights expected = *barHeights(*analysis.analyse(samples), kTaperingForm);
+        const BarHeights expected =
+            *barHeights(*analysis.analyse(record(endpoint.setup().sound, rate, channels, frames)), kTaperingForm);
         return {expected.begin(), expected.end()};
     }
 
     int count(AudioCall call) const { return endpoint.count(call); }
+    /// Initialisations, starts, stops, resets, buffers asked for, buffers released.
+    QList<int> counts() const
+    {
+        return {count(AudioCall::Initialize), count(AudioCall::Start),     count(AudioCall::Stop),
+                count(AudioCall::Reset),      count(AudioCall::GetBuffer), count(AudioCall::ReleaseBuffer)};
+    }
     /// Log lines that are no heights.
     Strings lines()
     {
         Strings log = fixture.takeLog();
-        log.erase(std::remove_if(log.begin(), log.end(), [](const QString &line) { return line.startsWith("QList"); }),
-                  log.end());
+        log.removeIf([](const QString &line) { return line.startsWith("QList"); });
         return log;
     }
 
@@ -114,12 +106,9 @@ private Q_SLOTS:
     void refusedFormat();
     void oldClientKeepsItsFormat();
     void silentPacketEndsTurn();
-    void packetSizeFails_data();
-    void packetSizeFails();
-    void bufferFails_data();
-    void bufferFails();
+    void callFails_data();
+    void callFails();
     void deviceComesBack();
-    void unknownFormMakesNoHeights();
     void stopsAtOnce();
 };
 
@@ -131,12 +120,7 @@ void TestSoundAnalyzer::turnsAsMeant()
     QCOMPARE(rig.fixture.clock.takeWaits(), (QList<int>{5, 5, 29, 5, 5}));
     QCOMPARE(rig.heights.size(), 1);
     QCOMPARE(rig.heights[0].size(), 11);
-    QCOMPARE(rig.count(AudioCall::Start), 5);
-    QCOMPARE(rig.count(AudioCall::Stop), 1);
-    QCOMPARE(rig.count(AudioCall::Reset), 0);
-    QCOMPARE(rig.count(AudioCall::GetBuffer), 1);
-    QCOMPARE(rig.count(AudioCall::ReleaseBuffer), 1);
-    QCOMPARE(rig.count(AudioCall::Initialize), 1);
+    QCOMPARE(rig.counts(), (QList<int>{1, 5, 1, 0, 1, 1}));
     QCOMPARE(rig.stops, 1);
     QVERIFY(!rig.analyzer.isCapturing());
     QCOMPARE(rig.fixture.takeLog(), Strings{QDebug::toString(rig.heights[0])});
@@ -146,6 +130,13 @@ void TestSoundAnalyzer::turnsAsMeant()
     QCOMPARE(rig.heights.size(), 2);
     QCOMPARE(rig.count(AudioCall::Initialize), 1);
     QCOMPARE(rig.stops, 2);
+    rig.fixture.takeLog();
+
+    matrixForm = 7; // unknown: no heights, and yet it goes on as with them
+    rig.run(8);
+    QCOMPARE(rig.heights.size(), 2);
+    QCOMPARE(rig.count(AudioCall::ReleaseBuffer), 2);
+    QVERIFY(rig.fixture.takeLog().isEmpty());
 }
 
 void TestSoundAnalyzer::onlySleepsWhenIdle()
@@ -155,8 +146,7 @@ void TestSoundAnalyzer::onlySleepsWhenIdle()
     rig.run(40, [&rig, &capturing](int) { capturing = rig.analyzer.isCapturing(); });
     QVERIFY(capturing);
     QCOMPARE(rig.fixture.clock.takeWaits(), QList<int>(40, 5));
-    QCOMPARE(rig.count(AudioCall::Initialize), 1);
-    QCOMPARE(rig.count(AudioCall::Stop) + rig.count(AudioCall::GetBuffer), 0);
+    QCOMPARE(rig.counts(), (QList<int>{1, 40, 0, 0, 0, 0}));
     QVERIFY(rig.lines().isEmpty());
 }
 
@@ -189,25 +179,18 @@ void TestSoundAnalyzer::failedInitialisationEndsIt()
 
 void TestSoundAnalyzer::choosesFormat_data()
 {
-    QTest::addColumn<EndpointSetup>("format");
-    QTest::addColumn<bool>("heard");
-    const auto row = [](const char *name, MixKind mix, int rate, int channels, bool converts, int packet, bool heard) {
-        QTest::newRow(name) << EndpointSetup{true, mix, rate, channels, converts, packet, playing(Sound::Tone)}
-                            << heard;
+    columns<EndpointSetup, bool>("format", "heard");
+    const auto device = [](MixKind mix, int rate, int channels, bool converts, int packet) {
+        return EndpointSetup{true, mix, rate, channels, converts, packet, playing(Sound::Tone)};
     };
-    row("extensible", MixKind::ExtensibleFloat, 48000, 2, false, 0, true);
-    row("plain", MixKind::Float, 48000, 2, false, 0, true);
-    row("integer", MixKind::Integer, 48000, 2, false, 0, false);
-    row("extensible integer", MixKind::ExtensibleInteger, 48000, 2, false, 0, false);
-    row("44100", MixKind::ExtensibleFloat, 44100, 2, false, 0, true);
-    row("44100 converted", MixKind::ExtensibleFloat, 44100, 2, true, 0, true);
-    row("96000", MixKind::Float, 96000, 2, false, 0, true);
-    row("192000", MixKind::ExtensibleFloat, 192000, 2, false, 0, true);
-    row("192000 converted", MixKind::ExtensibleFloat, 192000, 2, true, 0, true);
-    row("one channel", MixKind::ExtensibleFloat, 48000, 1, false, 0, true);
-    row("eight channels", MixKind::ExtensibleFloat, 48000, 8, false, 0, true);
-    row("odd packet", MixKind::ExtensibleFloat, 48000, 2, false, 479, true);
-    row("larger than N", MixKind::ExtensibleFloat, 48000, 2, false, 7001, true);
+    row("extensible", device(MixKind::ExtensibleFloat, 48000, 2, false, 0), true);
+    row("plain", device(MixKind::Float, 48000, 2, false, 0), true);
+    row("integer", device(MixKind::Integer, 48000, 2, false, 0), false);
+    row("extensible integer", device(MixKind::ExtensibleInteger, 48000, 2, false, 0), false);
+    row("44100", device(MixKind::ExtensibleFloat, 44100, 2, false, 0), true);
+    row("192000 converted", device(MixKind::ExtensibleFloat, 192000, 2, true, 0), true);
+    row("eight channels, odd packet", device(MixKind::ExtensibleFloat, 48000, 8, false, 479), true);
+    row("larger than N", device(MixKind::ExtensibleFloat, 48000, 2, false, 7001), true);
 }
 
 void TestSoundAnalyzer::choosesFormat()
@@ -268,74 +251,40 @@ void TestSoundAnalyzer::silentPacketEndsTurn()
     rig.run(5);
     // The buffer was kept, so the next request fails, and a new client is made, for which there is no packet yet.
     QCOMPARE(rig.fixture.clock.takeWaits(), (QList<int>{5, 5, 5}));
-    QCOMPARE(rig.count(AudioCall::GetBuffer), 2);
-    QCOMPARE(rig.count(AudioCall::ReleaseBuffer), 0);
-    QCOMPARE(rig.count(AudioCall::Stop), 0);
-    QCOMPARE(rig.count(AudioCall::Initialize), 2);
+    QCOMPARE(rig.counts(), (QList<int>{2, 5, 0, 0, 2, 0}));
     QCOMPARE(rig.endpoint.objects(), 1);
     QVERIFY(rig.heights.isEmpty());
     QVERIFY(rig.fixture.takeLog().isEmpty());
 }
 
-void TestSoundAnalyzer::packetSizeFails_data()
+void TestSoundAnalyzer::callFails_data()
 {
-    QTest::addColumn<quint32>("result");
-    QTest::addColumn<Strings>("lines");
-    QTest::newRow("invalidated") << quint32{0x88890004} << Strings{"DEVICE_INVALIDATED", "FAILED(hr)1 0x88890004"};
-    QTest::newRow("service") << quint32{0x88890010}
-                             << Strings{"The Windows audio service is not running.", "FAILED(hr)1 0x88890010"};
-    QTest::newRow("other") << quint32{0x80004005} << Strings{"FAILED(hr)1 0x80004005"};
-}
-
-void TestSoundAnalyzer::packetSizeFails()
-{
-    QFETCH(quint32, result);
-    QFETCH(Strings, lines);
-    Rig rig;
-    rig.endpoint.fail({AudioCall::NextPacketSize, result, 1});
-    rig.run(5);
-    QCOMPARE(rig.lines(), lines);
-    QCOMPARE(rig.count(AudioCall::Initialize), 2);
-    QCOMPARE(rig.count(AudioCall::Stop), 1);
-    QCOMPARE(rig.count(AudioCall::Reset), 0);
-    QCOMPARE(rig.heights.size(), 1);
-    QCOMPARE(rig.fixture.clock.takeWaits(), (QList<int>{5, 5, 29, 5}));
-    QCOMPARE(rig.endpoint.objects(), 1);
-}
-
-void TestSoundAnalyzer::bufferFails_data()
-{
-    QTest::addColumn<quint32>("result");
-    QTest::addColumn<int>("initialisations");
-    QTest::addColumn<int>("starts");
-    QTest::addColumn<int>("stops");
-    QTest::addColumn<int>("resets");
-    QTest::addColumn<int>("releases");
-    QTest::addColumn<QList<int>>("waits");
-    QTest::addColumn<Strings>("lines");
+    columns<AudioCall, quint32, QList<int>, QList<int>, Strings>("call", "result", "counts", "waits", "lines");
+    const auto size = AudioCall::NextPacketSize;
+    row("size, invalidated", size, 0x88890004u, QList<int>{2, 4, 1, 0, 1, 1}, QList<int>{5, 5, 29},
+        Strings{"DEVICE_INVALIDATED", "FAILED(hr)1 0x88890004"});
+    row("size, service", size, 0x88890010u, QList<int>{2, 4, 1, 0, 1, 1}, QList<int>{5, 5, 29},
+        Strings{"The Windows audio service is not running.", "FAILED(hr)1 0x88890010"});
+    row("size, other", size, 0x80004005u, QList<int>{2, 4, 1, 0, 1, 1}, QList<int>{5, 5, 29},
+        Strings{"FAILED(hr)1 0x80004005"});
     // Up to the failing request there are three questions, each with a start; a fourth ends it.
-    QTest::newRow("buffer error") << quint32{0x88890018} << 1 << 5 << 2 << 1 << 1 << QList<int>{5, 5, 29, 5}
-                                  << Strings();
-    QTest::newRow("out of order") << quint32{0x88890007} << 2 << 4 << 0 << 0 << 0 << QList<int>{5, 5, 5} << Strings();
-    QTest::newRow("invalidated") << quint32{0x88890004} << 1 << 4 << 2 << 0 << 2 << QList<int>{5, 5, 29, 29}
-                                 << Strings{"FAILED(hr)2 0x88890004"};
-    QTest::newRow("other") << quint32{0x80004005} << 1 << 4 << 2 << 0 << 2 << QList<int>{5, 5, 29, 29}
-                           << Strings{"FAILED(hr)2 0x80004005"};
+    const auto buffer = AudioCall::GetBuffer;
+    row("buffer error", buffer, 0x88890018u, QList<int>{1, 5, 2, 1, 1, 1}, QList<int>{5, 5, 29, 5}, Strings());
+    row("out of order", buffer, 0x88890007u, QList<int>{2, 4, 0, 0, 1, 0}, QList<int>{5, 5, 5}, Strings());
+    row("buffer, other", buffer, 0x88890004u, QList<int>{1, 4, 2, 0, 2, 2}, QList<int>{5, 5, 29, 29},
+        Strings{"FAILED(hr)2 0x88890004"});
     // No failure: a packet without frames is released, and the turn goes on to its end.
-    QTest::newRow("empty") << quint32{0x08890001} << 1 << 4 << 2 << 0 << 2 << QList<int>{5, 5, 29, 29} << Strings();
+    row("empty", buffer, 0x08890001u, QList<int>{1, 4, 2, 0, 2, 2}, QList<int>{5, 5, 29, 29}, Strings());
 }
 
-void TestSoundAnalyzer::bufferFails()
+void TestSoundAnalyzer::callFails()
 {
+    QFETCH(AudioCall, call);
     QFETCH(quint32, result);
     Rig rig;
-    rig.endpoint.fail({AudioCall::GetBuffer, result, 1});
+    rig.endpoint.fail({call, result, 1});
     rig.run(4);
-    QTEST(rig.count(AudioCall::Initialize), "initialisations");
-    QTEST(rig.count(AudioCall::Start), "starts");
-    QTEST(rig.count(AudioCall::Stop), "stops");
-    QTEST(rig.count(AudioCall::Reset), "resets");
-    QTEST(rig.count(AudioCall::ReleaseBuffer), "releases");
+    QTEST(rig.counts(), "counts");
     QTEST(rig.fixture.clock.takeWaits(), "waits");
     QTEST(rig.lines(), "lines");
     QCOMPARE(rig.endpoint.objects(), 1);
@@ -345,14 +294,10 @@ void TestSoundAnalyzer::deviceComesBack()
 {
     Rig rig;
     rig.run(30, [&rig](int ask) {
-        if (ask == 4)
-            rig.endpoint.setPresent(false);
-        if (ask == 8)
-            rig.endpoint.setPresent(true);
-        if (ask == 15)
-            rig.endpoint.setServiceRunning(false);
-        if (ask == 19)
-            rig.endpoint.setServiceRunning(true);
+        if (ask == 4 || ask == 8)
+            rig.endpoint.setPresent(ask == 8);
+        if (ask == 15 || ask == 19)
+            rig.endpoint.setServiceRunning(ask == 19);
         if (ask == 25)
             rig.endpoint.change([](EndpointSetup &setup) { setup.sampleRate = 96000; }); // another default device
     });
@@ -363,17 +308,6 @@ void TestSoundAnalyzer::deviceComesBack()
     QVERIFY(rig.heights.size() >= 4);
     QCOMPARE(rig.endpoint.objects(), 1);
     QVERIFY(rig.fixture.clock.takeWaits().count(29) >= 4 + 3); // it rests between its attempts
-}
-
-void TestSoundAnalyzer::unknownFormMakesNoHeights()
-{
-    Rig rig;
-    matrixForm = 7;
-    rig.run(8);
-    QVERIFY(rig.heights.isEmpty());
-    QCOMPARE(rig.count(AudioCall::ReleaseBuffer), 2); // and yet it goes on as with heights
-    QVERIFY(rig.fixture.takeLog().isEmpty());
-    matrixForm = kTaperingForm;
 }
 
 void TestSoundAnalyzer::stopsAtOnce()
