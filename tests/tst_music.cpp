@@ -181,7 +181,8 @@ void TestMusic::endsWithStopReport()
     QTRY_VERIFY(!SoundAnalyzer::instance().isRunning());
     QTRY_COMPARE(rig.stopReports(), 1);
     const std::size_t written = rig.fixture.desk.accessory().history().size();
-    QTest::qWait(5); // for heights and frames that were under way
+    QVERIFY(ledWorkThread::instance()->wait(10000)); // heights and frames may be under way
+    QCoreApplication::processEvents();
     QCOMPARE(rig.fixture.desk.accessory().history().size(), written);
     if (rig.page) {
         QCOMPARE(rig.page->isMusicOn(), staysOn);
