@@ -77,21 +77,14 @@ void pageLEDMatrixCanvas::buildForm()
     canvas->setSpacing(12);
     canvas->addLayout(head);
     canvas->addWidget(m_tabs, 1);
-    auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(24, 16, 24, 16);
-    row->setSpacing(24);
-    row->addLayout(canvas, 1);
-    row->addWidget(buildTools());
+    layOutWithTools(this, canvas, buildTools());
 }
 
 QWidget *pageLEDMatrixCanvas::buildTools()
 {
     auto *side = new QWidget(this);
-    side->setFixedWidth(kToolColumnWidth);
     m_tools = new QWidget(side);
-    auto *column = new QVBoxLayout(m_tools);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(16);
+    QVBoxLayout *column = makeToolColumn(m_tools);
     buildFrameTools(column);
     column->addWidget(makeToolLine(m_tools));
     buildViewTools(column);

@@ -44,21 +44,14 @@ void pageLEDMatrixText::buildForm()
     column->setSpacing(16);
     column->addWidget(title);
     column->addWidget(m_text, 1);
-    auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(24, 16, 24, 16);
-    row->setSpacing(24);
-    row->addLayout(column, 1);
-    row->addWidget(buildTools());
+    layOutWithTools(this, column, buildTools());
 }
 
 QWidget *pageLEDMatrixText::buildTools()
 {
     auto *side = new QWidget(this);
-    side->setFixedWidth(kToolColumnWidth);
     m_tools = new QWidget(side);
-    auto *column = new QVBoxLayout(m_tools);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(16);
+    QVBoxLayout *column = makeToolColumn(m_tools);
     buildPreviewTools(column);
     column->addWidget(makeToolLine(m_tools));
     m_save = makeToolButton(LABEL("Save Data"), m_texts, m_tools);

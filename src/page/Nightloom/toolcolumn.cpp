@@ -3,8 +3,10 @@
 #include <algorithm>
 
 #include <QFrame>
+#include <QHBoxLayout>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 #include "controls/captions.h"
 #include "controls/sliderwidget.h"
@@ -20,6 +22,26 @@ constexpr int kButtonPixels = 14;
 constexpr int kTextMargin = 8;
 
 } // namespace
+
+static constexpr int kToolColumnWidth = 280;
+
+void layOutWithTools(QWidget *page, QLayout *work, QWidget *side)
+{
+    side->setFixedWidth(kToolColumnWidth);
+    auto *row = new QHBoxLayout(page);
+    row->setContentsMargins(24, 16, 24, 16);
+    row->setSpacing(24);
+    row->addLayout(work, 1);
+    row->addWidget(side);
+}
+
+QVBoxLayout *makeToolColumn(QWidget *tools)
+{
+    auto *column = new QVBoxLayout(tools);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(16);
+    return column;
+}
 
 QPushButton *makeToolButton(const char *label, BoundTexts &texts, QWidget *parent)
 {

@@ -2,15 +2,22 @@
 
 class BoundTexts;
 class FramePlayer;
+class QLayout;
 class QProgressBar;
 class QPushButton;
+class QVBoxLayout;
 class QWidget;
 class SliderWidget;
 
 // The parts of the column of tools that the accessory's drawing pages have at their side.
 
-inline constexpr int kToolColumnWidth = 280;
 inline constexpr int kToolCaptionWidth = 88;
+
+/// Lays a page out: what it works on, and its tools at the right.
+void layOutWithTools(QWidget *page, QLayout *work, QWidget *side);
+
+/// The column that a widget of tools is filled from above.
+QVBoxLayout *makeToolColumn(QWidget *tools);
 
 /// A button with the column's look, named after its label.
 QPushButton *makeToolButton(const char *label, BoundTexts &texts, QWidget *parent);
