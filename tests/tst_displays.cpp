@@ -2,6 +2,7 @@
 
 #include "ddc_protocol/displayenumeration.h"
 #include "ddc_protocol/edid.h"
+#include "ddc_protocol/transport.h"
 #include "support/datarow.h"
 #include "support/deskfixture.h"
 
@@ -40,6 +41,7 @@ private Q_SLOTS:
     void unreadableEdidDropsTheDisplay();
     void secondMonitorMakesInternalExternal();
     void handlesAreReleased();
+    void handleZeroIsNoMissingHandle();
 
 private:
     std::unique_ptr<DeskFixture> m_desk;
@@ -166,6 +168,26 @@ void TestDisplays::handlesAreReleased()
     for (int i = 0; i < 5; ++i)
         findDevices();
     QCOMPARE(m_desk->desk.handlesOpen(), 2);
+    QCOMPARE(m_desk->desk.handleFaults(), 0);
+}
+
+/// Handle 0 is one like any other; a monitor without a handle keeps its place in the list and takes no command.
+void TestDisplays::handleZeroIsNoMissingHandle()
+{
+    for (const bool second : {true, false}) {
+        QCOMPARE(findDevices(), (QByteArrayList{"1. Q27-OLED", "2. Q32-MPCS"}));
+        for (const std::uint8_t index : {0, 1}) {
+            currentMonitorIndex = index;
+            const bool there = index == 0 || second;
+            QCOMPARE(SetVcpValue(0x99, 5), there);
+            QCOMPARE(GetVcpValue(0x99) == 0xFFFFFFFF, !there);
+            QCOMPARE(m_desk->takeRequests(index), there ? (QStringList{"W 99=5", "R 99"}) : QStringList());
+        }
+        QCOMPARE(monitorList[0].handle == nullptr, second); // the first handle that the desk gives
+        QCOMPARE(m_desk->takeRequests(0), QStringList());
+        m_desk->desk.unfetchableDisplay = 1;
+    }
+    QCOMPARE(m_desk->desk.handlesOpen(), 1);
     QCOMPARE(m_desk->desk.handleFaults(), 0);
 }
 

@@ -230,7 +230,8 @@ void TestTransport::tableRead_data()
     columns<QStringList, QString, int>("opening", "lastLine", "waits");
     QTest::newRow("clean") << 0 << 0 << 40 << QStringList{"R 99", "R 22", "R 0c"} << QString() << 0;
     QTest::newRow("second step once") << 0x22 << 1 << 40 << QStringList{"R 99", "R 22!", "R 99", "R 22", "R 0c"}
-                                      << QStringLiteral("Fail to retry, errorCode=22 ") << 1;
+                                      << QStringLiteral("Fail to retry, errorCode=22 3223725444")
+                                      << 1; // what the system calls it
     QTest::newRow("second step for ever") << 0x22 << kForEver << 0 << repeated({"R 99", "R 22!"}, 6)
                                           << QStringLiteral("Fail to retry, errorCode=9922\r") << 5;
     QTest::newRow("third step for ever") << 0x0C << kForEver << 255 << repeated({"R 99", "R 22", "R 0c!"}, 6)

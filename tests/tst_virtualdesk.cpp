@@ -82,8 +82,7 @@ void TestVirtualDesk::tracksHandles()
     monitors.destroy(records);
     QCOMPARE(desk.handlesOpen(), 0);
     QCOMPARE(desk.handleFaults(), 0);
-    QVERIFY(!monitors.setFeature(records[0].handle, 0x99, 40));
-    QCOMPARE(monitors.lastError(), kErrorInvalidHandle);
+    QCOMPARE(monitors.getFeature(records[0].handle, 0x99).error, kErrorInvalidHandle);
     monitors.destroy(records);
     QCOMPARE(desk.handleFaults(), 2);
 }

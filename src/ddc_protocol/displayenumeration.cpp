@@ -59,11 +59,11 @@ MonitorInfo firstPhysicalMonitor(platform::DisplayHandle display)
 {
     platform::MonitorConfiguration &monitors = platform::desk().monitors();
     const std::uint32_t count = monitors.count(display).value_or(0);
-    std::vector<MonitorInfo> records(count);
+    std::vector<platform::PhysicalMonitor> records(count);
     if (count == 0 || !monitors.fetch(display, records))
         return {};
     monitors.destroy(std::span(records).subspan(1));
-    return records.front();
+    return {records.front(), true};
 }
 
 void appendMonitor(const EnumerationEntry &entry, int number, const QString &screenName, QByteArrayList &labels)
@@ -99,7 +99,10 @@ QByteArrayList findDevices()
 {
     const auto lock = lockTransport();
     platform::Displays &displays = platform::desk().displays();
-    platform::desk().monitors().destroy(monitorList);
+    for (MonitorInfo &monitor : monitorList) {
+        if (monitor.fetched)
+            platform::desk().monitors().destroy(std::span(static_cast<platform::PhysicalMonitor *>(&monitor), 1));
+    }
     monitorList.clear();
 
     std::vector<EnumerationEntry> entries;

@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include <QByteArrayList>
@@ -9,8 +10,18 @@
 
 #include "platform/monitorconfiguration.h"
 
-/// One monitor that commands can go to; only the handle is used, null when the monitor could not be fetched.
-using MonitorInfo = platform::PhysicalMonitor;
+/// One monitor that commands can go to: the platform's record of it, and beside it whether there is one. The handle
+/// does not tell, for null may be one.
+struct MonitorInfo : platform::PhysicalMonitor
+{
+    bool fetched = false; ///< off: the platform gave none, the record is empty, and every command to it fails
+
+    /// What requests go to; nothing when it was not fetched.
+    std::optional<platform::PhysicalMonitorHandle> target() const
+    {
+        return fetched ? std::optional(handle) : std::nullopt;
+    }
+};
 
 /// The monitors found, in step with the labels. Replaced only by findDevices, on the interface thread and under the
 /// transport's lock; read by the transport under that lock.

@@ -18,7 +18,10 @@ constexpr platform::milliseconds kPause{250};
 class TableRead
 {
 public:
-    TableRead(platform::PhysicalMonitorHandle monitor, std::uint8_t *buffer) : m_monitor(monitor), m_buffer(buffer) {}
+    TableRead(std::optional<platform::PhysicalMonitorHandle> monitor, std::uint8_t *buffer)
+        : m_monitor(monitor), m_buffer(buffer)
+    {
+    }
 
     int run(std::uint8_t a, std::uint8_t b, std::uint8_t c, int length);
 
@@ -29,20 +32,14 @@ private:
     std::optional<int> open(std::uint8_t a, std::uint8_t b, std::uint8_t c);
     bool stream(int remaining);
 
-    platform::PhysicalMonitorHandle m_monitor;
+    std::optional<platform::PhysicalMonitorHandle> m_monitor;
     std::uint8_t *m_buffer;
-    std::uint32_t m_current = 0;
-    std::uint32_t m_maximum = 0;
+    platform::VcpReply m_reply; ///< of the last request
     int m_count = 0;
     int m_secondRetries = kStepRetries;
     int m_thirdRetries = kStepRetries;
     int m_streamRetries = kStepRetries;
 };
-
-std::uint32_t lastError()
-{
-    return platform::desk().monitors().lastError();
-}
 
 QString hex(std::uint8_t code)
 {
@@ -51,9 +48,8 @@ QString hex(std::uint8_t code)
 
 bool TableRead::request(std::uint8_t code)
 {
-    m_current = 0;
-    m_maximum = 0;
-    return m_monitor && platform::desk().monitors().getFeature(m_monitor, code, m_current, m_maximum);
+    m_reply = requestFeature(m_monitor, code);
+    return m_reply.answered;
 }
 
 bool TableRead::mayRetry(int &retries)
@@ -67,10 +63,10 @@ bool TableRead::mayRetry(int &retries)
 void TableRead::storeChunk()
 {
     std::uint8_t *chunk = m_buffer + 2 + m_count;
-    chunk[0] = static_cast<std::uint8_t>(m_maximum >> 8);
-    chunk[1] = static_cast<std::uint8_t>(m_maximum);
-    chunk[2] = static_cast<std::uint8_t>(m_current >> 8);
-    chunk[3] = static_cast<std::uint8_t>(m_current);
+    chunk[0] = static_cast<std::uint8_t>(m_reply.maximum >> 8);
+    chunk[1] = static_cast<std::uint8_t>(m_reply.maximum);
+    chunk[2] = static_cast<std::uint8_t>(m_reply.current >> 8);
+    chunk[3] = static_cast<std::uint8_t>(m_reply.current);
     m_count += kChunkSize;
 }
 
@@ -79,13 +75,13 @@ std::optional<int> TableRead::open(std::uint8_t a, std::uint8_t b, std::uint8_t 
 {
     for (;;) {
         if (!request(a))
-            qDebug().noquote().nospace() << "ErrorCode 99 " << lastError();
+            qDebug().noquote().nospace() << "ErrorCode 99 " << m_reply.error;
         if (!request(b)) {
             if (!mayRetry(m_secondRetries)) {
                 qDebug() << "Fail to retry, errorCode=9922\r";
                 return 0;
             }
-            qDebug().noquote().nospace() << "Fail to retry, errorCode=22 " << lastError();
+            qDebug().noquote().nospace() << "Fail to retry, errorCode=22 " << m_reply.error;
         } else if (request(c)) {
             return {};
         } else {
@@ -93,7 +89,7 @@ std::optional<int> TableRead::open(std::uint8_t a, std::uint8_t b, std::uint8_t 
                 qDebug().noquote().nospace() << "Faile to retry errorCode= 99 22 " << hex(c) << "\r";
                 return -1;
             }
-            qDebug().noquote().nospace() << "Fail to retry errorCode= " << hex(c) << " " << lastError();
+            qDebug().noquote().nospace() << "Fail to retry errorCode= " << hex(c) << " " << m_reply.error;
         }
         platform::desk().clock().sleep(kPause);
     }
@@ -133,8 +129,8 @@ int TableRead::run(std::uint8_t a, std::uint8_t b, std::uint8_t c, int length)
 
 } // namespace
 
-int DDCCIReadTable(platform::PhysicalMonitorHandle monitor, std::uint8_t a, std::uint8_t b, std::uint8_t c,
-                   std::uint8_t *buffer, int length)
+int DDCCIReadTable(std::optional<platform::PhysicalMonitorHandle> monitor, std::uint8_t a, std::uint8_t b,
+                   std::uint8_t c, std::uint8_t *buffer, int length)
 {
     const auto lock = lockTransport();
     return TableRead(monitor, buffer).run(a, b, c, length);

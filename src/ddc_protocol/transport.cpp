@@ -38,22 +38,15 @@ void pause(milliseconds duration)
     platform::desk().clock().sleep(duration);
 }
 
-bool request(platform::PhysicalMonitorHandle monitor, std::uint8_t code, std::uint32_t &current, std::uint32_t &maximum)
-{
-    current = 0;
-    maximum = 0;
-    return monitor && platform::desk().monitors().getFeature(monitor, code, current, maximum);
-}
-
-/// The monitor that commands go to. The first search takes any stored index, so it may lie beyond the list; such a
-/// request must fail like a monitor that does not answer.
-platform::PhysicalMonitorHandle selectedMonitor()
+/// The monitor that commands go to; nothing when it could not be fetched. The first search takes any stored index, so
+/// it may lie beyond the list; such a request must fail like a monitor that does not answer.
+std::optional<platform::PhysicalMonitorHandle> selectedMonitor()
 {
     const std::size_t index = currentMonitorIndex;
     if (index < monitorList.size())
-        return monitorList[index].handle;
+        return monitorList[index].target();
     qDebug().nospace() << "Monitor index " << index << " is beyond the " << monitorList.size() << " found";
-    return nullptr;
+    return std::nullopt;
 }
 
 bool writeOnce(std::uint16_t value)
@@ -115,14 +108,18 @@ int BuildCommandPacket(COMMAND_set_Type command, std::uint16_t value)
     return static_cast<int>(length);
 }
 
+platform::VcpReply requestFeature(std::optional<platform::PhysicalMonitorHandle> monitor, std::uint8_t code)
+{
+    return monitor ? platform::desk().monitors().getFeature(*monitor, code) : platform::VcpReply();
+}
+
 std::uint32_t GetVcpValue(std::uint8_t code)
 {
     const auto lock = lockTransport();
     if (monitorList.empty())
         return 0;
-    std::uint32_t current = 0;
-    std::uint32_t maximum = 0;
-    return request(selectedMonitor(), code, current, maximum) ? current : kNoAnswer;
+    const platform::VcpReply reply = requestFeature(selectedMonitor(), code);
+    return reply.answered ? reply.current : kNoAnswer;
 }
 
 bool SetVcpValue(std::uint8_t code, std::uint32_t value)
@@ -130,8 +127,8 @@ bool SetVcpValue(std::uint8_t code, std::uint32_t value)
     const auto lock = lockTransport();
     if (monitorList.empty())
         return false;
-    const platform::PhysicalMonitorHandle monitor = selectedMonitor();
-    return monitor && platform::desk().monitors().setFeature(monitor, code, value);
+    const auto monitor = selectedMonitor();
+    return monitor && platform::desk().monitors().setFeature(*monitor, code, value);
 }
 
 bool Korvu_SetCommandVal(COMMAND_set_Type command, std::uint16_t value, std::uint16_t)
@@ -184,7 +181,9 @@ bool Korvu_GetCommandValMax(COMMAND_set_Type command, std::uint32_t &current, st
         return false;
     BuildCommandPacket(command, 0);
     GetVcpValue(commandPacket[kPacketVendorByte]);
-    request(selectedMonitor(), commandPacket[kPacketCodeByte], current, maximum);
+    const platform::VcpReply reply = requestFeature(selectedMonitor(), commandPacket[kPacketCodeByte]);
+    current = reply.current;
+    maximum = reply.maximum;
     return true;
 }
 

@@ -47,6 +47,9 @@ inline constexpr std::uint16_t kRetryCount = 10;
 /// Fills commandPacket for a command and its value; returns the packet's length, 9.
 int BuildCommandPacket(COMMAND_set_Type command, std::uint16_t value);
 
+/// One read request to a monitor; no answer without one.
+platform::VcpReply requestFeature(std::optional<platform::PhysicalMonitorHandle> monitor, std::uint8_t code);
+
 /// One read request. The current value; 0xFFFFFFFF when the monitor did not answer, 0 when there is no monitor at all.
 std::uint32_t GetVcpValue(std::uint8_t code);
 
@@ -79,9 +82,9 @@ const std::uint8_t *Korvu_ReadCommandTable(COMMAND_set_Type command, std::uint16
 
 /// The table stream itself: requests a, b and c, then the continuation code until length bytes are there. buffer takes
 /// 2 bytes of room and then the data, length rounded up to a multiple of 4 and at least 4. Returns the number of data
-/// bytes; 0 when the stream or b got lost, -1 when c was not answered.
-int DDCCIReadTable(platform::PhysicalMonitorHandle monitor, std::uint8_t a, std::uint8_t b, std::uint8_t c,
-                   std::uint8_t *buffer, int length);
+/// bytes; 0 when the stream or b got lost, -1 when c was not answered. Without a monitor no request is answered.
+int DDCCIReadTable(std::optional<platform::PhysicalMonitorHandle> monitor, std::uint8_t a, std::uint8_t b,
+                   std::uint8_t c, std::uint8_t *buffer, int length);
 
 /// Keeps other threads' commands out while held; the holder itself may go on sending.
 [[nodiscard]] std::unique_lock<std::recursive_mutex> lockTransport();

@@ -306,8 +306,7 @@ std::optional<std::vector<std::size_t>> VirtualDesk::monitorsOf(platform::Displa
 void *VirtualDesk::openHandle(std::size_t index)
 {
     const std::lock_guard lock(m_handleMutex);
-    m_nextHandle += 4;
-    auto *handle = reinterpret_cast<void *>(m_nextHandle);
+    auto *handle = reinterpret_cast<void *>(m_nextHandle++);
     m_handles.emplace(handle, index);
     return handle;
 }

@@ -81,6 +81,10 @@ public:
 
     /// The monitors on a display; nothing for a display that is not enumerated (any more).
     std::optional<std::vector<std::size_t>> monitorsOf(platform::DisplayHandle display);
+    /// A display whose monitors can be counted, but not fetched.
+    std::optional<std::size_t> unfetchableDisplay;
+    bool isFetchable(platform::DisplayHandle display) { return displayOf(display) != unfetchableDisplay; }
+    /// The first handle is 0, which is one like any other.
     void *openHandle(std::size_t index);
     void closeHandle(void *handle);
     /// Null for a handle that is not open, which is counted. Safe from any thread.
@@ -180,7 +184,7 @@ private:
 
     mutable std::mutex m_handleMutex; // guards what follows
     std::map<void *, std::size_t> m_handles;
-    std::uintptr_t m_nextHandle = 0x51000;
+    std::uintptr_t m_nextHandle = 0;
     int m_handleFaults = 0;
 };
 

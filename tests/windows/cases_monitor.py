@@ -1,7 +1,7 @@
 """What reaches the monitor, and what the program makes of one that is silent, nameless or new."""
 
 from casekit import LEFT_BAR_X, codes_of, end_at_exit_box, entry_y, started, writes_of
-from rig import edid, time_of, wait_for
+from rig import START_SECONDS, edid, time_of, wait_for
 
 STANDARD = (1, 2)
 CAD_CAM = (3, 4)
@@ -46,7 +46,8 @@ def case_scene_by_mouse(rig):
 
 
 def case_refused_write(rig):
-    """A write refused twice leads to a new search, after which the next write arrives."""
+    """A write refused twice leads to a new search, after which the next write arrives. The old handle was 0: also that
+    one is used and given back."""
     with started(rig, "refused_write") as run:
         window = run.start_and_show()
         searches = len(run.logged("monitor counts:"))
@@ -64,6 +65,16 @@ def case_refused_write(rig):
         seen = len(run.requests())
         run.click(window, LEFT_BAR_X, entry_y(1))
         wait_for(lambda: "22" in codes_of(writes_of(run.requests()[seen:])), "the write after the search")
+        assert run.handles() == ["opened 0", "closed 0", "opened 1"], run.handles()
+
+
+def case_error_number(rig):
+    """A block that is not answered leaves the system's error number in the log."""
+    with started(rig, "error_number") as run:
+        run.refuse("R 0A")
+        run.start()
+        lines = wait_for(lambda: run.logged("Fail to retry errorCode= "), "the failed request", START_SECONDS)
+        assert lines[0].rstrip().endswith(f"Fail to retry errorCode= a {0xC0262583}"), lines
 
 
 def case_edid_names(rig):

@@ -199,7 +199,14 @@ class Run:
 
     def requests(self):
         """What reached the monitor so far, a request each."""
-        file = self.monitor / "requests.txt"
+        return self._written("requests.txt")
+
+    def handles(self):
+        """Which handles of the monitor were opened and closed so far."""
+        return self._written("handles.txt")
+
+    def _written(self, name):
+        file = self.monitor / name
         return file.read_text().splitlines() if file.exists() else []
 
     def times(self):

@@ -77,7 +77,7 @@ public:
     bool fetch(DisplayHandle display, std::span<PhysicalMonitor> monitors) override
     {
         const auto found = m_desk.monitorsOf(display);
-        if (!found || monitors.empty() || monitors.size() > found->size())
+        if (!found || monitors.empty() || monitors.size() > found->size() || !m_desk.isFetchable(display))
             return false;
         for (std::size_t i = 0; i < monitors.size(); ++i) {
             monitors[i] = {};
@@ -89,48 +89,30 @@ public:
 
     void destroy(std::span<PhysicalMonitor> monitors) override
     {
-        for (const PhysicalMonitor &monitor : monitors) {
-            if (monitor.handle != nullptr)
-                m_desk.closeHandle(monitor.handle);
-        }
+        for (const PhysicalMonitor &monitor : monitors)
+            m_desk.closeHandle(monitor.handle);
     }
 
-    bool getFeature(PhysicalMonitorHandle monitor, std::uint8_t code, std::uint32_t &current,
-                    std::uint32_t &maximum) override
+    VcpReply getFeature(PhysicalMonitorHandle monitor, std::uint8_t code) override
     {
         virtualdesk::SimulatedMonitor *target = m_desk.monitorOfHandle(monitor);
         if (target == nullptr)
-            return finish(virtualdesk::kErrorInvalidHandle);
+            return {false, 0, 0, virtualdesk::kErrorInvalidHandle};
         const virtualdesk::Reply reply = target->read(code);
-        if (reply.ok()) {
-            current = reply.current;
-            maximum = reply.maximum;
-        }
-        return finish(reply.error);
+        if (!reply.ok())
+            return {false, 0, 0, reply.error};
+        return {true, reply.current, reply.maximum, 0};
     }
 
     bool setFeature(PhysicalMonitorHandle monitor, std::uint8_t code, std::uint32_t value) override
     {
         virtualdesk::SimulatedMonitor *target = m_desk.monitorOfHandle(monitor);
-        return finish(target == nullptr ? virtualdesk::kErrorInvalidHandle : target->write(code, value).error);
+        return target != nullptr && target->write(code, value).ok();
     }
-
-    std::uint32_t lastError() override { return s_lastError; }
 
 private:
-    /// Success leaves the number of the last failure, as the system does.
-    static bool finish(std::uint32_t error)
-    {
-        if (error != 0)
-            s_lastError = error;
-        return error == 0;
-    }
-
-    static thread_local std::uint32_t s_lastError; // each thread has its own, as on the system
     VirtualDesk &m_desk;
 };
-
-thread_local std::uint32_t VirtualMonitors::s_lastError = 0;
 
 class VirtualProcess final : public Process
 {

@@ -49,32 +49,24 @@ bool Win32MonitorConfiguration::fetch(DisplayHandle display, std::span<PhysicalM
 
 void Win32MonitorConfiguration::destroy(std::span<PhysicalMonitor> monitors)
 {
-    // One at a time: a null handle must not keep the others from being released.
-    for (PhysicalMonitor &monitor : monitors) {
-        if (monitor.handle)
-            DestroyPhysicalMonitors(1, records(std::span(&monitor, 1)));
-    }
+    // One at a time: a handle that is refused must not keep the others from being released.
+    for (PhysicalMonitor &monitor : monitors)
+        DestroyPhysicalMonitors(1, records(std::span(&monitor, 1)));
 }
 
-bool Win32MonitorConfiguration::getFeature(PhysicalMonitorHandle monitor, std::uint8_t code, std::uint32_t &current,
-                                           std::uint32_t &maximum)
+VcpReply Win32MonitorConfiguration::getFeature(PhysicalMonitorHandle monitor, std::uint8_t code)
 {
-    DWORD currentValue = current;
-    DWORD maximumValue = maximum;
-    const bool answered = GetVCPFeatureAndVCPFeatureReply(monitor, code, nullptr, &currentValue, &maximumValue);
-    current = currentValue;
-    maximum = maximumValue;
-    return answered;
+    DWORD current = 0;
+    DWORD maximum = 0;
+    const bool answered = GetVCPFeatureAndVCPFeatureReply(monitor, code, nullptr, &current, &maximum);
+    // At once: whatever comes between may clear it, such as the making of a text.
+    const DWORD error = answered ? ERROR_SUCCESS : GetLastError();
+    return {answered, current, maximum, error};
 }
 
 bool Win32MonitorConfiguration::setFeature(PhysicalMonitorHandle monitor, std::uint8_t code, std::uint32_t value)
 {
     return SetVCPFeature(monitor, code, value);
-}
-
-std::uint32_t Win32MonitorConfiguration::lastError()
-{
-    return GetLastError();
 }
 
 } // namespace platform

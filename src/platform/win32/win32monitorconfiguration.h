@@ -11,10 +11,8 @@ public:
     std::optional<std::uint32_t> count(DisplayHandle display) override;
     bool fetch(DisplayHandle display, std::span<PhysicalMonitor> monitors) override;
     void destroy(std::span<PhysicalMonitor> monitors) override;
-    bool getFeature(PhysicalMonitorHandle monitor, std::uint8_t code, std::uint32_t &current,
-                    std::uint32_t &maximum) override;
+    VcpReply getFeature(PhysicalMonitorHandle monitor, std::uint8_t code) override;
     bool setFeature(PhysicalMonitorHandle monitor, std::uint8_t code, std::uint32_t value) override;
-    std::uint32_t lastError() override;
 };
 
 } // namespace platform

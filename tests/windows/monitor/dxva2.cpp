@@ -1,7 +1,10 @@
 // The five monitor-configuration calls that the program imports, answered by a simulated monitor. The folder of its
-// files is named by the environment variable QUORVEL_TEST_MONITOR.
+// files is named by the environment variable QUORVEL_TEST_MONITOR. The program makes one call at a time.
 
+#include <cstdint>
 #include <cwchar>
+#include <set>
+#include <string>
 
 #include <windows.h>
 
@@ -29,14 +32,20 @@ Monitor &monitor()
     return theMonitor;
 }
 
-HANDLE monitorHandle()
+std::set<HANDLE> s_open;
+std::uintptr_t s_next = 0; // the first one is 0, as it may be on the system
+
+HANDLE openHandle()
 {
-    return &monitor();
+    const auto handle = reinterpret_cast<HANDLE>(s_next++);
+    s_open.insert(handle);
+    monitor().recordHandle("opened " + std::to_string(s_next - 1));
+    return handle;
 }
 
-bool isOurs(HANDLE handle)
+bool isOpen(HANDLE handle)
 {
-    if (handle == monitorHandle())
+    if (s_open.contains(handle))
         return true;
     SetLastError(ERROR_INVALID_HANDLE);
     return false;
@@ -65,7 +74,7 @@ __declspec(dllexport) BOOL WINAPI
 {
     if (!display || count != 1)
         return FALSE;
-    monitors[0].handle = monitorHandle();
+    monitors[0].handle = openHandle();
     std::wmemcpy(monitors[0].description, kDescription, std::size(kDescription));
     return TRUE;
 }
@@ -73,8 +82,10 @@ __declspec(dllexport) BOOL WINAPI
 __declspec(dllexport) BOOL WINAPI DestroyPhysicalMonitors(DWORD count, PhysicalMonitor *monitors)
 {
     for (DWORD i = 0; i < count; ++i) {
-        if (monitors[i].handle && !isOurs(monitors[i].handle))
+        if (!isOpen(monitors[i].handle))
             return FALSE;
+        s_open.erase(monitors[i].handle);
+        monitor().recordHandle("closed " + std::to_string(reinterpret_cast<std::uintptr_t>(monitors[i].handle)));
     }
     return TRUE;
 }
@@ -82,7 +93,7 @@ __declspec(dllexport) BOOL WINAPI DestroyPhysicalMonitors(DWORD count, PhysicalM
 __declspec(dllexport) BOOL WINAPI
     GetVCPFeatureAndVCPFeatureReply(HANDLE handle, BYTE code, int *type, DWORD *current, DWORD *maximum)
 {
-    if (!isOurs(handle))
+    if (!isOpen(handle))
         return FALSE;
     const auto reply = monitor().read(code);
     if (!reply)
@@ -97,7 +108,7 @@ __declspec(dllexport) BOOL WINAPI
 
 __declspec(dllexport) BOOL WINAPI SetVCPFeature(HANDLE handle, BYTE code, DWORD value)
 {
-    if (!isOurs(handle))
+    if (!isOpen(handle))
         return FALSE;
     return monitor().write(code, static_cast<std::uint16_t>(value)) ? TRUE : notAnswered();
 }

@@ -111,8 +111,12 @@ bool Monitor::refuses(const std::string &request) const
 
 void Monitor::record(const std::string &line) const
 {
-    std::ofstream(m_folder / "requests.txt", std::ios::app | std::ios::binary) << line + '\n';
+    append("requests.txt", line);
     const auto now = std::chrono::system_clock::now().time_since_epoch();
-    std::ofstream(m_folder / "times.txt", std::ios::app | std::ios::binary)
-        << std::chrono::duration_cast<std::chrono::milliseconds>(now).count() << '\n';
+    append("times.txt", std::to_string(std::chrono::duration_cast<std::chrono::milliseconds>(now).count()));
+}
+
+void Monitor::append(const char *file, const std::string &line) const
+{
+    std::ofstream(m_folder / file, std::ios::app | std::ios::binary) << line + '\n';
 }

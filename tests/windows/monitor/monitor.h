@@ -13,6 +13,7 @@
 ///   block.txt      40 numbers, read once: the scene-mode block
 ///   refuse.txt     "R <code>" or "W <code>" lines, read at every request: what is not answered now
 ///   requests.txt   written: "W 99 9", "R 22 -> 10", "R 22 refused"
+///   handles.txt    written: "opened 0", "closed 0"
 ///   times.txt      written: when each of them came, in milliseconds
 /// Codes are hexadecimal, values decimal.
 class Monitor
@@ -32,6 +33,9 @@ public:
     /// Whether a write was taken.
     bool write(std::uint8_t code, std::uint16_t value);
 
+    /// What became of a handle.
+    void recordHandle(const std::string &line) const { append("handles.txt", line); }
+
 private:
     /// How far the host is in a command: each begins with the vendor code, a block read goes on after the scene code.
     enum class Step { Idle, AnnouncedRead, AnnouncedWrite, SceneAnswered, InBlock };
@@ -40,6 +44,7 @@ private:
     Reply chunk() const;
     bool refuses(const std::string &request) const;
     void record(const std::string &line) const;
+    void append(const char *file, const std::string &line) const;
 
     std::filesystem::path m_folder;
     std::mutex m_mutex;
