@@ -77,6 +77,8 @@ constexpr Step kSteps[] = {
     {27, kMinus, "3f=1 37=3", "R 3f,R 37,W 37=0", false}, {27, kMinus, "3f=0 37=3", "R 3f,R 37,W 37=4"},
     {28, kPlus, "", "W 63=1"}, {28, kMinus, "", "W 63=0"},
     {29, kPlus, "45=4", "R 45,W 45=0"}, {29, kMinus, "45=0", "R 45,W 45=4"},
+    {12, kMinus, "10=120", "R 10,W 10=110"}, {15, kMinus, "d8=12", "R d8,W d8=11"}, // beyond the range
+    {14, kMinus, "14=12", "R 14,W 14=11"}, {14, kPlus, "14=12", "R 14,W 14=0"}, {12, kPlus, "10=120", "R 10,W 10=100"},
     // No answer is -1, and the step goes on from there.
     {12, kPlus, "10=?", "W 10=9"}, {12, kMinus, "10=?", "W 10=0"},
     {14, kPlus, "14=?", "W 14=0"}, {14, kMinus, "14=?", "W 14=10"}, {16, kMinus, "26=?", "W 26=7"},

@@ -1,7 +1,5 @@
 #include "shortcut/shortcutsteps.h"
 
-#include <algorithm>
-
 namespace {
 
 ShortcutStep evaluate(const FixedValues &rule, ShortcutKey key, const ReadRow &)
@@ -15,10 +13,12 @@ ShortcutStep evaluate(const SteppedValue &rule, ShortcutKey key, const ReadRow &
     int value = read(readRow(rule.command)) + step;
     if (value == rule.leftOut)
         value += step;
-    if (rule.atEnd == AtEnd::Stop)
-        value = std::clamp(value, 0, rule.highest);
-    else if (value < 0 || value > rule.highest)
-        value = key == ShortcutKey::Plus ? 0 : rule.highest;
+    const bool stops = rule.atEnd == AtEnd::Stop;
+    // Each key looks at its own end only: a step down from beyond the range comes nearer to it.
+    if (key == ShortcutKey::Plus && value > rule.highest)
+        value = stops ? rule.highest : 0;
+    else if (key == ShortcutKey::Minus && value < 0)
+        value = stops ? 0 : rule.highest;
     return {writeRow(rule.command), value};
 }
 
