@@ -139,11 +139,14 @@ void TestFollowing::baseMode()
 void TestFollowing::nothingToFollow()
 {
     start({{QStringLiteral("C:/Windows/task.exe"), 2}});
-    for (const Program program : {Protected, Gone, Deep})
-        QCOMPARE(front(program), QStringList());
     virtualdesk::Applications &applications = m_desk->desk.applications();
     applications.raiseEvent(3, nullptr);
     applications.raiseEvent(4, reinterpret_cast<void *>(0x20001));
+    for (const Program program : {Protected, Gone})
+        QCOMPARE(front(program), QStringList());
+    QCOMPARE(applications.titlesRead(), 0);
+    QCOMPARE(front(Deep), QStringList{"W 22=1"}); // not listed, for its path cannot be told
+    QCOMPARE(applications.titlesRead(), 1);
     QCOMPARE(m_desk->takeCommands(), QStringList());
     m_page.reset(); // the hook goes with it
     QVERIFY(!applications.isHooked());

@@ -29,7 +29,8 @@ struct OpenProcess
     void *handle;
 };
 
-/// The path of the program that a window belongs to; nothing when that cannot be told.
+/// The path of the program that a window belongs to, empty when it is too long for the system to tell; nothing when
+/// the process cannot be told or opened.
 std::optional<QString> programOf(platform::WindowHandle window)
 {
     platform::Foreground &foreground = platform::desk().foreground();
@@ -39,10 +40,8 @@ std::optional<QString> programOf(platform::WindowHandle window)
     const OpenProcess process(foreground, processId);
     if (!process.handle) // protected, or of higher integrity
         return std::nullopt;
-    std::optional<QString> path = foreground.imageName(process.handle);
-    if (path)
-        path->replace(QLatin1Char('\\'), QLatin1Char('/'));
-    return path;
+    QString path = foreground.imageName(process.handle).value_or(QString());
+    return path.replace(QLatin1Char('\\'), QLatin1Char('/'));
 }
 
 } // namespace
@@ -66,7 +65,9 @@ void ForegroundWatch::windowEvent(std::uint32_t event, void *window)
 {
     if (!s_watch || event != platform::kEventForeground || !window)
         return;
-    if (const auto path = programOf(window))
-        Q_EMIT s_watch->programInFront(*path);
+    const auto path = programOf(window);
+    if (!path)
+        return;
+    Q_EMIT s_watch->programInFront(*path);
     platform::desk().foreground().windowText(window); // the title is read and not used, on purpose
 }

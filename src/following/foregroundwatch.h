@@ -12,8 +12,8 @@ public:
     ~ForegroundWatch() override;
 
 Q_SIGNALS:
-    /// A window of this program came to the front; its path with forward slashes. Programs that may not be looked at
-    /// are not told.
+    /// A window of this program came to the front; its path with forward slashes, empty when it has 260 characters or
+    /// more. Programs that may not be looked at are not told.
     void programInFront(const QString &path);
 
 private:

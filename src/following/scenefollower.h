@@ -16,8 +16,8 @@ public:
     /// File names with the displayed names of their scenes, from now on.
     void setFollowTable(const QHash<QString, QString> &sceneOfProgram) { m_sceneOfProgram = sceneOfProgram; }
 
-    /// A program came to the front. Blocks for 150 ms when the scene may have to change, and for the monitor's
-    /// requests.
+    /// A program came to the front; an empty path is a program that is not listed. Blocks for 150 ms when the scene may
+    /// have to change, and for the monitor's requests.
     void programInFront(const QString &path);
 
 Q_SIGNALS:

@@ -101,8 +101,9 @@ std::optional<QString> Applications::imageName(void *process) const
     return application->path;
 }
 
-QString Applications::windowText(void *window) const
+QString Applications::windowText(void *window)
 {
+    ++m_titlesRead;
     const Application *application = applicationOf(placeOf(kWindow, window));
     return application != nullptr ? application->path.section(QLatin1Char('\\'), -1) : QString();
 }

@@ -45,9 +45,11 @@ public:
     void closeProcess(void *process);
     /// Nothing for a path that does not fit into 260 characters.
     std::optional<QString> imageName(void *process) const;
-    QString windowText(void *window) const;
+    QString windowText(void *window);
     /// Processes that were opened and not closed.
     int processesOpen() const { return m_processesOpen; }
+    /// How often a window's title was asked for.
+    int titlesRead() const { return m_titlesRead; }
 
 private:
     const Application *applicationOf(std::uintptr_t token) const;
@@ -57,6 +59,7 @@ private:
     std::uint32_t m_last = 0;
     Hook m_hook = nullptr;
     int m_processesOpen = 0;
+    int m_titlesRead = 0;
 };
 
 } // namespace virtualdesk
