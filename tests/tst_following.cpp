@@ -1,5 +1,7 @@
 #include <QComboBox>
+#include <QLineEdit>
 #include <QPushButton>
+#include <QTextDocument>
 #include <QtTest>
 
 #include "ddc_protocol/devicestate.h"
@@ -140,13 +142,13 @@ void TestFollowing::nothingToFollow()
 {
     start({{QStringLiteral("C:/Windows/task.exe"), 2}});
     virtualdesk::Applications &applications = m_desk->desk.applications();
-    applications.raiseEvent(3, nullptr);
-    applications.raiseEvent(4, reinterpret_cast<void *>(0x20001));
     for (const Program program : {Protected, Gone})
         QCOMPARE(front(program), QStringList());
     QCOMPARE(applications.titlesRead(), 0);
     QCOMPARE(front(Deep), QStringList{"W 22=1"}); // not listed, for its path cannot be told
     QCOMPARE(applications.titlesRead(), 1);
+    applications.raiseEvent(3, nullptr);
+    applications.raiseEvent(4, reinterpret_cast<void *>(0x20001));
     QCOMPARE(m_desk->takeCommands(), QStringList());
     m_page.reset(); // the hook goes with it
     QVERIFY(!applications.isHooked());
@@ -189,9 +191,14 @@ void TestFollowing::fileNames()
     QCOMPARE(m_page->followRows().size(), entries.size());
     for (const FollowEntry &entry : loadFollowList())
         QVERIFY2(std::find(entries.begin(), entries.end(), entry) != entries.end(), qPrintable(entry.path));
+    m_page->answer = QStringLiteral("C:/<i>a.exe"); // shown as it stands also where the toolkit knows rich text
+    button("pushButtonAdd")->click();
+    QTextDocument tip;
+    tip.setHtml(row(entries.size())->findChild<QLineEdit *>("path")->toolTip());
+    QCOMPARE(tip.toPlainText(), QDir::toNativeSeparators(m_page->answer));
     m_page->answer = QStringLiteral("D:/other/Race.exe");
     button("pushButtonAdd")->click();
-    QCOMPARE(m_page->followRows().size(), entries.size());
+    QCOMPARE(m_page->followRows().size(), entries.size() + 1);
     QVERIFY(m_page->notice().contains(QStringLiteral("Race.exe")));
 }
 

@@ -7,6 +7,7 @@
 #include <QToolTip>
 
 #include "controls/captions.h"
+#include "controls/plaintext.h"
 
 namespace {
 QFont sized(QFont font, int pixelSize)
@@ -38,7 +39,7 @@ QSize CaptionLabel::minimumSizeHint() const
 bool CaptionLabel::event(QEvent *event)
 {
     if (event->type() == QEvent::ToolTip && m_elided) {
-        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), text(), this);
+        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), asItStands(text()), this);
         return true;
     }
     return QLabel::event(event);

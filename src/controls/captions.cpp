@@ -5,6 +5,8 @@
 #include <QToolTip>
 #include <QWidget>
 
+#include "controls/plaintext.h"
+
 FittedCaption fitCaption(const QString &text, const QFont &font, int pixelSize, int width)
 {
     FittedCaption fitted{font, text, false};
@@ -38,6 +40,6 @@ bool Caption::showToolTip(const QHelpEvent *event, QWidget *owner) const
 {
     if (!m_elided)
         return false;
-    QToolTip::showText(event->globalPos(), m_text, owner);
+    QToolTip::showText(event->globalPos(), asItStands(m_text), owner);
     return true;
 }

@@ -20,6 +20,7 @@ void showMessage(QMessageBox::Icon icon, const QString &title, const QString &te
 {
     QMessageBox box(icon, title, text, QMessageBox::NoButton, parent);
     box.setStyleSheet(QLatin1String(kStyle));
+    box.setTextFormat(Qt::PlainText); // it may name a file of any name
     box.setDefaultButton(addButton(box, button, role));
     box.exec();
 }
@@ -28,6 +29,7 @@ bool askYesNo(const QString &title, const QString &text, QWidget *parent)
 {
     QMessageBox box(QMessageBox::Question, title, text, QMessageBox::NoButton, parent);
     box.setStyleSheet(QLatin1String(kStyle));
+    box.setTextFormat(Qt::PlainText); // it may name a file of any name
     box.setDefaultButton(addButton(box, QObject::tr("Yes"), QMessageBox::YesRole));
     QPushButton *no = addButton(box, QObject::tr("No"), QMessageBox::NoRole);
     box.setEscapeButton(no);

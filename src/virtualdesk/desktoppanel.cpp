@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+#include <QTextDocument>
 #include <QVBoxLayout>
 
 #include "platform/nativekeys.h"
@@ -130,7 +131,7 @@ void DesktopPanel::fillPrograms()
     m_programs->clear();
     for (const Application &application : m_desk.applications().list()) {
         auto *item = new QListWidgetItem(application.path.section(QLatin1Char('\\'), -1), m_programs);
-        item->setToolTip(application.path);
+        item->setToolTip(Qt::convertFromPlainText(application.path)); // which may look like rich text
     }
     m_programs->setCurrentRow(0);
 }

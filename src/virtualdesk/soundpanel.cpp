@@ -126,6 +126,7 @@ SoundPanel::SoundPanel(VirtualDesk &desk, QWidget *parent)
     buildFaults();
     m_state->setObjectName(QStringLiteral("state"));
     m_state->setWordWrap(true);
+    m_state->setTextFormat(Qt::PlainText); // it may name a file of any name
     column->addWidget(m_state);
     column->addStretch(1);
     retranslate();

@@ -50,6 +50,7 @@ ShortcutRow::ShortcutRow(const ShortcutEntry &entry, QWidget *parent)
     setObjectName(QStringLiteral("listRow"));
     m_problem->setObjectName(QStringLiteral("problem"));
     m_problem->setWordWrap(true);
+    m_problem->setTextFormat(Qt::PlainText);
     m_switch->setFixedSize(64, 32);
     m_name->setFixedWidth(kNameWidth);
     buildSide(0, entry.plusKey);

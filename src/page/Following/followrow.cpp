@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 
+#include "controls/plaintext.h"
 #include "following/followscenes.h"
 #include "page/engine/dropdown.h"
 #include "page/engine/listpage.h"
@@ -20,11 +21,11 @@ FollowRow::FollowRow(const FollowEntry &entry, QWidget *parent)
     auto *name = new QLabel(programName(entry.path), this);
     name->setTextFormat(Qt::PlainText);
     name->setFixedWidth(220);
-    name->setToolTip(name->text());
+    name->setToolTip(asItStands(name->text()));
     m_pathField->setObjectName(QStringLiteral("path"));
     m_pathField->setText(QDir::toNativeSeparators(entry.path));
     m_pathField->setCursorPosition(0);
-    m_pathField->setToolTip(m_pathField->text());
+    m_pathField->setToolTip(asItStands(m_pathField->text()));
     m_pathField->setEnabled(false);
     m_scenes->setFixedSize(220, 36);
     fillScenes(entry.scene);

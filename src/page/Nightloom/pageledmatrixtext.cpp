@@ -64,6 +64,7 @@ QWidget *pageLEDMatrixText::buildTools()
     m_notice->setObjectName(QStringLiteral("notice"));
     m_notice->setFont(noteFont);
     m_notice->setWordWrap(true);
+    m_notice->setTextFormat(Qt::PlainText);
     auto *all = new QVBoxLayout(side);
     all->setContentsMargins(0, 4, 0, 0);
     all->setSpacing(16);

@@ -40,6 +40,7 @@ PanelPage::PanelPage(const QString &name, OwnList list, CommandQueue &queue, QWi
     m_notice->setObjectName(QStringLiteral("notice"));
     m_notice->setFont(noteFont);
     m_notice->setWordWrap(true);
+    m_notice->setTextFormat(Qt::PlainText);
     askWhenShown();
 }
 
