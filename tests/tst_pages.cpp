@@ -288,12 +288,17 @@ void TestPages::customPaper()
     QVERIFY(width->parentWidget()->isHidden());
     QTest::mouseClick(button(Office, "Paper_Custom Size"), Qt::LeftButton);
     QVERIFY(!width->parentWidget()->isHidden());
-    width->setValue(100000);
-    height->setValue(qRound(0.36 * height->maximum()));
-    QCOMPARE(width->value(), int(deviceState.officeMaximumHorizontal));
     m_desk->takeCommands();
+    QTest::mouseClick(button(Office, "paperApply"), Qt::LeftButton); // begins with A4
+    QCOMPARE(m_desk->takeCommands(), (QStringList{"W ec=4", "W ef=210", "W ef=33065"}));
+    height->setValue(148);
+    width->setValue(100000);
+    QCOMPARE(width->value(), int(deviceState.officeMaximumHorizontal));
     QTest::mouseClick(button(Office, "paperApply"), Qt::LeftButton);
-    QCOMPARE(m_desk->takeCommands(), (QStringList{"W ec=4", "W ef=100", "W ef=164"}));
+    QCOMPARE(m_desk->monitor().protocolFaults().badValues, 0);
+    PageOffice next(*m_queue);
+    QCOMPARE(next.findChild<QSpinBox *>("paperWidth")->value(), width->value());
+    QCOMPARE(next.findChild<QSpinBox *>("paperHeight")->value(), 148);
 }
 
 void TestPages::restReminder()

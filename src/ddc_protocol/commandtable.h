@@ -99,7 +99,7 @@ enum class Command : std::uint8_t {
     Capability = 0xED,    ///< the capability word, read only (see devicestate.h)
     Firmware = 0xEE,      ///< major in the high byte, minor in the low byte, read only
     OfficeArea = 0xEF,    ///< maximum and current value are the office area's sizes;
-                          ///< written: a size within it in hundredths, the height with 0x80
+                          ///< written: a paper's width in millimetres, or its height with bit 15
     Alignment = 0xF1,     ///< option 0 to 3
     Ruler = 0xF2,         ///< option 0 to 2
     AudioVolume = 0xF6,   ///< 0 to 100

@@ -42,6 +42,13 @@ bool isCustom(int mode)
     return mode % 2 == 0 && mode > 0 && mode <= kLastMode;
 }
 
+/// Whether a paper's width, or its height, which has bit 15, lies within the office area.
+bool isPaperSize(const MonitorModel &model, std::uint32_t value)
+{
+    constexpr std::uint32_t kHeight = 0x8000;
+    return value <= ((value & kHeight) != 0 ? kHeight | model.officeHeight : model.officeWidth);
+}
+
 } // namespace
 
 SimulatedMonitor::SimulatedMonitor(const MonitorModel &model, platform::Clock &clock) : m_model(model), m_clock(clock)
@@ -227,8 +234,8 @@ Reply SimulatedMonitor::answerChunk() const
 /// Takes a written value as far as it makes sense: a number is limited, anything else out of range is ignored.
 void SimulatedMonitor::take(Request &request)
 {
-    if (request.code == kOfficeSizeCode && request.value <= 0xFF)
-        return; // the size of a paper, which changes nothing that can be read back
+    if (request.code == kOfficeSizeCode && isPaperSize(m_model, request.value))
+        return; // which changes nothing that can be read back
     const OsdFunction function = osdFunction(request.code);
     const auto isOption = [&](const OsdOption &option) { return option.value == request.value; };
     const bool known =

@@ -5,6 +5,7 @@
 
 #include "controls/desktoptoast.h"
 #include "controls/wheeleventfilter.h"
+#include "ddc_protocol/settingsstore.h"
 #include "page/Office/officetable.h"
 #include "page/engine/labels.h"
 #include "page/engine/optiongrouprow.h"
@@ -13,12 +14,18 @@
 namespace {
 
 constexpr int kSmallestPaper = 10; // mm
-constexpr int kHeightFlag = 0x80;  // tells the height from the width, which share a command
+constexpr int kLargestPaper = 0x7FFF;
+constexpr int kHeightFlag = 0x8000; // tells the height from the width, which share a command
+const QString kWidthKey = QStringLiteral("Office/PaperWidth");
+const QString kHeightKey = QStringLiteral("Office/PaperHeight");
+constexpr QSize kA4(210, 297);
 constexpr platform::milliseconds kReminderShown{10000};
 
-int hundredths(int size, std::uint32_t maximum)
+/// The last size that was sent, in millimetres; A4 before the first.
+QSize storedPaper()
 {
-    return maximum == 0 ? 0 : qRound(100.0 * size / maximum);
+    const QSize stored(settingsInt(kWidthKey, 0, false), settingsInt(kHeightKey, 0, false));
+    return stored.isEmpty() ? kA4 : stored;
 }
 
 } // namespace
@@ -60,6 +67,9 @@ QWidget *PageOffice::buildPart(const char *)
     connect(apply, &QPushButton::clicked, this, &PageOffice::sendPaperSize);
     row->addWidget(apply);
     row->addStretch(1);
+    const QSize paper = storedPaper();
+    m_width->setValue(paper.width());
+    m_height->setValue(paper.height());
     return m_paperSize;
 }
 
@@ -69,19 +79,24 @@ QSpinBox *PageOffice::makeSizeField(const QString &name)
     field->setObjectName(name);
     field->setSuffix(QStringLiteral(" mm"));
     field->setFixedSize(110, 34);
+    field->setRange(kSmallestPaper, kLargestPaper);
     field->setButtonSymbols(QAbstractSpinBox::NoButtons); // typed, or stepped by the arrow keys
     field->installEventFilter(new WheelEventFilter(field));
     return field;
 }
 
 /// The monitor takes a size by two writes of its office area's command: the width and, with the top bit, the height, in
-/// hundredths of the area, so that each fits the one byte of every command's value.
+/// millimetres.
 void PageOffice::sendPaperSize()
 {
-    const int width = hundredths(m_width->value(), deviceState.officeMaximumHorizontal);
-    const int height = hundredths(m_height->value(), deviceState.officeMaximumVertical);
+    const int width = m_width->value();
+    const int height = m_height->value();
     const bool ok = send(Command::Paper, kCustomPaper) && send(Command::OfficeArea, width) &&
                     send(Command::OfficeArea, height | kHeightFlag);
+    if (ok) {
+        settingsInt(kWidthKey, width, true);
+        settingsInt(kHeightKey, height, true);
+    }
     showNotice(ok ? QString() : QObject::tr("The monitor did not take the size."));
 }
 
@@ -89,7 +104,10 @@ void PageOffice::showPaperSize()
 {
     const int width = static_cast<int>(deviceState.officeMaximumHorizontal);
     const int height = static_cast<int>(deviceState.officeMaximumVertical);
-    m_paperSize->setVisible(deviceState.value(Command::Paper) == kCustomPaper && width > 0 && height > 0);
+    const bool known = width > 0 && height > 0;
+    m_paperSize->setVisible(deviceState.value(Command::Paper) == kCustomPaper && known);
+    if (!known)
+        return; // the fields keep what they hold
     m_width->setRange(kSmallestPaper, std::max(width, kSmallestPaper));
     m_height->setRange(kSmallestPaper, std::max(height, kSmallestPaper));
 }
