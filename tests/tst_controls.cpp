@@ -55,6 +55,7 @@ private Q_SLOTS:
     void leftTabMovesFocusAlongTheColumn();
     void hoverEndsWithTheWindow();
     void swatchesAnswerMouseAndKeys();
+    void frameFollowsTheState();
     void pickerTakesOnlyAnAnswer();
     void focusOutlineIsForTheKeyboard_data();
     void focusOutlineIsForTheKeyboard();
@@ -252,6 +253,16 @@ void TestControls::swatchesAnswerMouseAndKeys()
     row.grab();
     QVERIFY(!row.swatchRect(0).intersects(row.swatchRect(1)));
     QVERIFY(row.rect().contains(row.swatchRect(2)));
+}
+
+void TestControls::frameFollowsTheState()
+{
+    IconTextButton2 button(kIcon, kIcon, QStringLiteral("Ruler"));
+    button.resize(button.sizeHint());
+    const auto frame = [&button] { return button.grab().toImage().pixelColor(button.width() / 2, 0); };
+    QCOMPARE(frame(), QColor(31, 43, 43));
+    button.setChecked(true);
+    QCOMPARE(frame(), QColor(41, 47, 47));
 }
 
 void TestControls::pickerTakesOnlyAnAnswer()

@@ -70,7 +70,7 @@ bool SpectrumAnalysis::grow(int length)
     }
     if (!m_plan)
         return false;
-    m_magnitudes.assign(bins, 0.0);
+    m_magnitudes.resize(bins);
     m_length = length;
     clear();
     return true;

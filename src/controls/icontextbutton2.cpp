@@ -67,8 +67,8 @@ void IconTextButton2::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const bool lit = isEnabled() && (m_checked || isHovered());
-    painter.setPen(isEnabled() && m_checked ? kCheckedText : kLitFrame);
-    painter.setBrush(lit ? kLitFrame : kFrame);
+    painter.setPen(lit ? kLitFrame : kFrame);
+    painter.setBrush(painter.pen().color());
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 8, 8);
 
     drawPicture(painter, rect().adjusted(0, kPadding, 0, -kCaptionHeight - kPadding));
