@@ -63,11 +63,12 @@ MainWindow::MainWindow(SearchDeviceDlg &session) : m_session(session)
     updateControlText();
 
     m_barStack->setCurrentIndex(0);
-    for (int family = kSceneFamilies; family < kFamilies; ++family)
-        leftBar(family)->setCurrent(0);
+    for (int family = 0; family < kFamilies; ++family) {
+        if (navigationFamilies()[static_cast<std::size_t>(family)].startsSelected)
+            leftBar(family)->setCurrent(0);
+    }
     showFamily(0);
     openFamilyOfScene();
-    updateInterface();
 }
 
 MainWindow::~MainWindow()
@@ -198,6 +199,10 @@ void MainWindow::showEntryPage(int family)
         return;
     }
     const LeftBar *bar = leftBar(family);
+    if (bar->current() < 0) {
+        m_emptyPage->showUnchosen(navigationFamilies()[static_cast<std::size_t>(family)].label);
+        return m_pages->setCurrentWidget(m_emptyPage);
+    }
     const NavigationEntry &entry = bar->entries()[static_cast<std::size_t>(bar->current())];
     Page *const chosen = page(entry.page);
     if (entry.page == PageId::Office)

@@ -6,9 +6,15 @@
 namespace {
 
 constexpr NavigationFamily kFamilyTable[kFamilies] = {
-    {LABEL("Scene"), "scene"},           {LABEL("Mac View"), "mac_view"},     {LABEL("Color Space"), "color_space"},
-    {LABEL("Print Mode"), "print_mode"}, {LABEL("Office Aid"), "office_aid"}, {LABEL("Game Aid"), "game_aid"},
-    {LABEL("Oled Care"), "oled_care"},   {LABEL("Night Loom"), "night_loom"}, {LABEL("Basic"), "basic"},
+    {LABEL("Scene"), "scene"},
+    {LABEL("Mac View"), "mac_view"},
+    {LABEL("Color Space"), "color_space"},
+    {LABEL("Print Mode"), "print_mode"},
+    {LABEL("Office Aid"), "office_aid", true},
+    {LABEL("Game Aid"), "game_aid"},
+    {LABEL("Oled Care"), "oled_care"},
+    {LABEL("Night Loom"), "night_loom", true},
+    {LABEL("Basic"), "basic", true},
 };
 
 constexpr std::uint16_t bit(Capability capability)

@@ -38,7 +38,8 @@ struct NavigationEntry
 struct NavigationFamily
 {
     const char *label;
-    const char *icon; ///< picture name under img/tab/
+    const char *icon;            ///< picture name under img/tab/
+    bool startsSelected = false; ///< the first entry is selected from the start
 };
 
 inline constexpr int kFamilies = 9;

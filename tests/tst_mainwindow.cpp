@@ -124,9 +124,16 @@ void TestMainWindow::entrySwitchesTheScene()
 void TestMainWindow::otherEntriesNameThemselves()
 {
     start(10);
+    QList<int> unchosen;
     for (int family = kSceneFamilies; family < kFamilies; ++family) {
-        QTest::mouseClick(m_window->tabs()->tabs()[static_cast<std::size_t>(family)], Qt::LeftButton);
+        TopTab *tab = m_window->tabs()->tabs()[static_cast<std::size_t>(family)];
+        QTest::mouseClick(tab, Qt::LeftButton);
         const LeftBar *bar = m_window->leftBar(family);
+        if (bar->current() != 0) {
+            unchosen.append(family);
+            QCOMPARE(shownTexts(m_window->findChild<EmptyPage *>()).first(2),
+                     (QStringList{tab->accessibleName(), "Choose an entry on the left."}));
+        }
         for (std::size_t i = 0; i < bar->buttons().size(); ++i) {
             QTest::mouseClick(bar->buttons()[i], Qt::LeftButton);
             Page *known = m_window->page(bar->entries()[i].page);
@@ -136,6 +143,7 @@ void TestMainWindow::otherEntriesNameThemselves()
                 QVERIFY2(shownTexts(page).contains(bar->buttons()[i]->caption()), bar->entries()[i].label);
         }
     }
+    QCOMPARE(unchosen, (QList<int>{5, 6}));                 // three others begin with their first entry
     QVERIFY(m_desk->takeRequests().filter("W ").isEmpty()); // opening pages asks, but sends nothing
 }
 

@@ -416,6 +416,10 @@
         <translation>Choose a mode on the left. On now: %1</translation>
     </message>
     <message>
+        <source>Choose an entry on the left.</source>
+        <translation>Choose an entry on the left.</translation>
+    </message>
+    <message>
         <source>Cinema colours at a D65 white.</source>
         <translation>Cinema colours at a D65 white.</translation>
     </message>
@@ -1780,12 +1784,12 @@
         <translation>There is no text yet.</translation>
     </message>
     <message>
-        <source>This function has its row already.</source>
-        <translation>This function has its row already.</translation>
+        <source>There is nothing to set here yet.</source>
+        <translation>There is nothing to set here yet.</translation>
     </message>
     <message>
-        <source>This monitor has nothing to set here.</source>
-        <translation>This monitor has nothing to set here.</translation>
+        <source>This function has its row already.</source>
+        <translation>This function has its row already.</translation>
     </message>
     <message>
         <source>Time to rest your eyes for a while.</source>
@@ -2016,8 +2020,8 @@
         <translation>garbled</translation>
     </message>
     <message>
-        <source>https://www.quorvel.example/knowledge</source>
-        <translation>https://www.quorvel.example/knowledge</translation>
+        <source>https://</source>
+        <translation>https://</translation>
     </message>
     <message>
         <source>lamp off</source>

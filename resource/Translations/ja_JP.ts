@@ -416,6 +416,10 @@
         <translation>左側でモードを選んでください。現在: %1</translation>
     </message>
     <message>
+        <source>Choose an entry on the left.</source>
+        <translation>左側で項目を選んでください。</translation>
+    </message>
+    <message>
         <source>Cinema colours at a D65 white.</source>
         <translation>D65 白色点での映画の色です。</translation>
     </message>
@@ -1780,12 +1784,12 @@
         <translation>テキストがまだありません。</translation>
     </message>
     <message>
-        <source>This function has its row already.</source>
-        <translation>この機能は既にリストにあります。</translation>
+        <source>There is nothing to set here yet.</source>
+        <translation>ここにはまだ設定できる項目がありません。</translation>
     </message>
     <message>
-        <source>This monitor has nothing to set here.</source>
-        <translation>このモニターにはここで設定できる項目がありません。</translation>
+        <source>This function has its row already.</source>
+        <translation>この機能は既にリストにあります。</translation>
     </message>
     <message>
         <source>Time to rest your eyes for a while.</source>
@@ -2016,8 +2020,8 @@
         <translation>データ破損</translation>
     </message>
     <message>
-        <source>https://www.quorvel.example/knowledge</source>
-        <translation>https://www.quorvel.example/knowledge</translation>
+        <source>https://</source>
+        <translation>https://</translation>
     </message>
     <message>
         <source>lamp off</source>

@@ -416,6 +416,10 @@
         <translation>请在左侧选择模式。当前：%1</translation>
     </message>
     <message>
+        <source>Choose an entry on the left.</source>
+        <translation>请在左侧选择一项。</translation>
+    </message>
+    <message>
         <source>Cinema colours at a D65 white.</source>
         <translation>D65 白点下的影院色彩。</translation>
     </message>
@@ -1780,12 +1784,12 @@
         <translation>还没有文字。</translation>
     </message>
     <message>
-        <source>This function has its row already.</source>
-        <translation>该功能已在列表中。</translation>
+        <source>There is nothing to set here yet.</source>
+        <translation>这里暂时没有可设置的内容。</translation>
     </message>
     <message>
-        <source>This monitor has nothing to set here.</source>
-        <translation>此显示器在这里没有可设置的项目。</translation>
+        <source>This function has its row already.</source>
+        <translation>该功能已在列表中。</translation>
     </message>
     <message>
         <source>Time to rest your eyes for a while.</source>
@@ -2016,8 +2020,8 @@
         <translation>数据错乱</translation>
     </message>
     <message>
-        <source>https://www.quorvel.example/knowledge</source>
-        <translation>https://www.quorvel.example/knowledge</translation>
+        <source>https://</source>
+        <translation>https://</translation>
     </message>
     <message>
         <source>lamp off</source>

@@ -416,6 +416,10 @@
         <translation>請在左側選擇模式。目前：%1</translation>
     </message>
     <message>
+        <source>Choose an entry on the left.</source>
+        <translation>請在左側選擇一項。</translation>
+    </message>
+    <message>
         <source>Cinema colours at a D65 white.</source>
         <translation>D65 白點下的電影院色彩。</translation>
     </message>
@@ -1780,12 +1784,12 @@
         <translation>還沒有文字。</translation>
     </message>
     <message>
-        <source>This function has its row already.</source>
-        <translation>該功能已在清單中。</translation>
+        <source>There is nothing to set here yet.</source>
+        <translation>這裡暫時沒有可設定的內容。</translation>
     </message>
     <message>
-        <source>This monitor has nothing to set here.</source>
-        <translation>此顯示器在這裡沒有可設定的項目。</translation>
+        <source>This function has its row already.</source>
+        <translation>該功能已在清單中。</translation>
     </message>
     <message>
         <source>Time to rest your eyes for a while.</source>
@@ -2016,8 +2020,8 @@
         <translation>資料錯亂</translation>
     </message>
     <message>
-        <source>https://www.quorvel.example/knowledge</source>
-        <translation>https://www.quorvel.example/knowledge</translation>
+        <source>https://</source>
+        <translation>https://</translation>
     </message>
     <message>
         <source>lamp off</source>

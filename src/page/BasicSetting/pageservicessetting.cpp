@@ -55,6 +55,21 @@ QString upgradeLanguage(const QString &code)
     return code == QLatin1String("zh_CN") ? QStringLiteral("zh") : code;
 }
 
+/// Translated like a text, so that a language may have a page of its own. Without a host behind it there is no page
+/// yet.
+QUrl knowledgeAddress()
+{
+    return QUrl(QObject::tr("https://"));
+}
+
+/// Whether there is anything behind a panel now.
+bool isOffered(const QString &label)
+{
+    if (label == QLatin1String(kQrCode))
+        return deviceState.productLine() == kLineWithQrCode;
+    return label != QLatin1String(kKnowledge) || !knowledgeAddress().host().isEmpty();
+}
+
 } // namespace
 
 pageServicesSetting::pageServicesSetting(CommandQueue &queue, QWidget *parent)
@@ -149,19 +164,17 @@ QLabel *pageServicesSetting::makeNote(const char *text, QWidget *parent)
 
 bool pageServicesSetting::mayShow(const PanelSpec &panel)
 {
-    return panel.label != kQrCode || deviceState.productLine() == kLineWithQrCode;
+    return isOffered(QLatin1String(panel.label));
 }
 
 void pageServicesSetting::updateInterfaceData()
 {
     PanelPage::updateInterfaceData();
     showVersion();
-    const bool hasQrCode = deviceState.productLine() == kLineWithQrCode;
     for (std::size_t i = 0; i < entries().size(); ++i) {
-        if (entries()[i]->objectName() != QLatin1String(kQrCode))
-            continue;
-        entries()[i]->setVisible(hasQrCode);
-        if (!hasQrCode && currentPanel() == static_cast<int>(i))
+        const bool offered = isOffered(entries()[i]->objectName());
+        entries()[i]->setVisible(offered);
+        if (!offered && currentPanel() == static_cast<int>(i))
             showPanel(0);
     }
 }
@@ -179,10 +192,9 @@ void pageServicesSetting::showVersion()
 
 void pageServicesSetting::onKnowledgeButtonClicked()
 {
-    // Translated like a text, so that a language may have a page of its own.
-    const QString address = QObject::tr("https://www.quorvel.example/knowledge");
-    const bool opened = QDesktopServices::openUrl(QUrl(address));
-    showNotice(opened ? QString() : QObject::tr("The page %1 could not be opened.").arg(address));
+    const QUrl address = knowledgeAddress();
+    const bool opened = QDesktopServices::openUrl(address);
+    showNotice(opened ? QString() : QObject::tr("The page %1 could not be opened.").arg(address.toString()));
 }
 
 void pageServicesSetting::onUpgradeButtonClicked()
