@@ -217,6 +217,12 @@ void TestFields::keyFieldEndsAfterOneCombination()
     QTest::keyPress(&field, Qt::Key_B, Qt::ControlModifier);
     QCOMPARE(field.keySequence(), QKeySequence(Qt::CTRL | Qt::Key_B));
     QCOMPARE(finished.count(), 2);
+    // Nothing is captured when the focus goes, whatever takes it; the base class would tell of an end once more.
+    for (const Qt::FocusReason reason : {Qt::TabFocusReason, Qt::ActiveWindowFocusReason, Qt::PopupFocusReason}) {
+        sendFocus(&field, QEvent::FocusIn, reason);
+        sendFocus(&field, QEvent::FocusOut, reason);
+    }
+    QCOMPARE(changed.count() + finished.count(), 4);
 }
 
 void TestFields::emptyKeyFieldSaysSo()
@@ -233,10 +239,18 @@ void TestFields::emptyKeyFieldSaysSo()
     QTest::keyPress(&field, Qt::Key_A, Qt::ControlModifier);
     QTest::keyPress(&field, Qt::Key_Backspace);
     QCOMPARE(line->placeholderText(), QStringLiteral("NA"));
-    // Emptied by the page, the base class puts a hint of its own there until the field is painted.
+    // Emptied by the page, the base class puts a hint of its own there until the field is painted; the focus hides
+    // none.
+    field.move(50, 50); // from under the mouse
+    field.show();
+    const QRect inside = field.rect().adjusted(3, 3, -3, -3);
+    const QImage empty = field.grab(inside).toImage();
+    field.activateWindow();
+    QTRY_VERIFY(field.hasFocus());
     field.setKeySequence(QKeySequence(Qt::CTRL | Qt::Key_C));
+    QVERIFY(field.grab(inside).toImage() != empty);
     field.clear();
-    field.grab();
+    QVERIFY(field.grab(inside).toImage() == empty);
     QCOMPARE(line->placeholderText(), QStringLiteral("NA"));
 }
 

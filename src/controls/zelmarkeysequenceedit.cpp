@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPainter>
 #include <QSignalBlocker>
 
 namespace {
@@ -18,6 +19,19 @@ QString nothingSet()
     return QObject::tr("NA");
 }
 
+/// Paints an empty line edit. The base class may have put a hint of its own there, and a line edit whose text is
+/// centred leaves its hint out while it has the focus.
+void paintEmpty(QLineEdit *lineEdit, QEvent *event)
+{
+    lineEdit->setPlaceholderText(nothingSet());
+    lineEdit->event(event);
+    if (!lineEdit->hasFocus())
+        return;
+    QPainter painter(lineEdit);
+    painter.setPen(lineEdit->palette().color(QPalette::PlaceholderText));
+    painter.drawText(lineEdit->rect(), Qt::AlignCenter, lineEdit->placeholderText());
+}
+
 /// Keeps the line edit from reacting to focus by itself and its hint in step with what it holds.
 class KeyFieldFilter : public QObject
 {
@@ -27,6 +41,10 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override
     {
         auto *lineEdit = qobject_cast<QLineEdit *>(watched);
+        if (lineEdit && event->type() == QEvent::Paint && lineEdit->text().isEmpty()) {
+            paintEmpty(lineEdit, event);
+            return true;
+        }
         if (lineEdit && event->type() == QEvent::FocusIn) {
             if (lineEdit->text() == nothingSet())
                 lineEdit->setPlaceholderText(QString());
@@ -125,7 +143,8 @@ void ZelmarKeySequenceEdit::focusInEvent(QFocusEvent *event)
 
 void ZelmarKeySequenceEdit::focusOutEvent(QFocusEvent *event)
 {
-    QKeySequenceEdit::focusOutEvent(event);
+    // The base class ends a capture here and tells so. Each of ours ended with its combination, so there is none.
+    QWidget::focusOutEvent(event);
     m_lineEdit->update();
 }
 
@@ -134,11 +153,4 @@ void ZelmarKeySequenceEdit::changeEvent(QEvent *event)
     if (event->type() == QEvent::LanguageChange)
         m_lineEdit->setPlaceholderText(nothingSet());
     QKeySequenceEdit::changeEvent(event);
-}
-
-void ZelmarKeySequenceEdit::paintEvent(QPaintEvent *event)
-{
-    if (m_lineEdit->text().isEmpty())
-        m_lineEdit->setPlaceholderText(nothingSet());
-    QKeySequenceEdit::paintEvent(event);
 }

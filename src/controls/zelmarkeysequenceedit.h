@@ -27,7 +27,6 @@ protected:
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     void changeEvent(QEvent *event) override;
-    void paintEvent(QPaintEvent *event) override;
 
 private:
     void capture(QKeyEvent *event);
