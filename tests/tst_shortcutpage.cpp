@@ -30,9 +30,15 @@ class TestedPage : public pageShortcutKey
 {
 public:
     int conflicts = 0;
+    std::function<void()> whileShown;
 
 protected:
-    void showConflict() override { ++conflicts; }
+    void showConflict() override
+    {
+        ++conflicts;
+        if (const auto once = std::exchange(whileShown, {}))
+            once();
+    }
 };
 
 /// Two lists of different lengths, so that a half-written one is neither.
@@ -74,6 +80,7 @@ private Q_SLOTS:
     void otherMonitorsRowsAreKept();
     void fieldSaysWhyNot();
     void keysInUse();
+    void applyWaitsForChanges();
     void keysOfOneId();
     void unwritableFile();
     void killedWhileSaving();
@@ -203,10 +210,19 @@ void TestShortcutPage::switches()
     QCOMPARE(press(kControl, '2'), QStringList{"W 22=4"});
     button("pushButton")->click(); // all of them
     QVERIFY(readText(kFile).contains("[basicMode]\nswitchStatus=off"));
-    QCOMPARE(press(kControl, '1'), QStringList());
     QVERIFY(!m_page->notice().isEmpty());
+    row(0)->switchButton()->click(); // the rows' switches work on, but register nothing now
+    row(0)->switchButton()->click();
+    QTest::keyClick(row(0)->minusEdit(), Qt::Key_3, Qt::ControlModifier);
+    button("pushButtonAppli")->click();
+    QCOMPARE(m_desk->desk.hotKeys().count(), std::size_t(0));
+    QVERIFY(m_desk->desk.hotKeys().take(kControl, '1')); // by another program
+    start();
+    QCOMPARE(m_desk->desk.hotKeys().count(), std::size_t(0)); // nor does the next start
+    QVERIFY(!row(0)->isTaken(0));
     button("pushButton")->click();
-    QCOMPARE(press(kControl, '1'), QStringList{"W 22=3"});
+    QVERIFY(row(0)->isTaken(0));
+    QCOMPARE(press(kControl, '3'), QStringList{"W 22=4"});
 }
 
 void TestShortcutPage::refusedKeysAreShown()
@@ -289,7 +305,10 @@ void TestShortcutPage::keysInUse()
     m_page->activateWindow();
     row(1)->plusEdit()->setFocus();
     QTRY_COMPARE(QApplication::focusWidget(), row(1)->plusEdit());
+    QStringList asked; // of the monitor, by the key that is held down still
+    m_page->whileShown = [this, &asked] { asked = press(kControl, '1'); };
     QCOMPARE(press(kControl, '1'), QStringList());
+    QCOMPARE(asked, QStringList());
     QCOMPARE(m_page->conflicts, 1);
     row(0)->plusEdit()->setFocus();
     QCOMPARE(press(kControl, '1'), QStringList());
@@ -307,10 +326,45 @@ void TestShortcutPage::keysInUse()
     QCOMPARE(m_page->conflicts, 2);
 }
 
+/// Lit is what differs from what is stored and registered; visits are no changes.
+void TestShortcutPage::applyWaitsForChanges()
+{
+    start({{1, true, QStringLiteral("Ctrl+1"), {}}, {2, true, QStringLiteral("Ctrl+1"), {}}});
+    const auto isLit = [this] { return button("pushButtonAppli")->property("waiting").toBool(); };
+    m_page->show();
+    m_page->activateWindow();
+    for (ZelmarKeySequenceEdit *field : {row(0)->plusEdit(), row(1)->plusEdit(), row(1)->minusEdit()}) {
+        field->setFocus();
+        QTRY_VERIFY(field->hasFocus());
+    }
+    QTest::keyClick(row(0)->minusEdit(), Qt::Key_Backspace);
+    m_page->updateControlText();
+    m_page->hide();
+    QCOMPARE(m_page->conflicts, 0);
+    QVERIFY(!isLit() && m_page->notice().isEmpty());
+    for (const bool lit : {true, false}) { // a change, and the way back
+        QTest::keyClick(row(0)->minusEdit(), lit ? Qt::Key_5 : Qt::Key_Backspace, Qt::ControlModifier);
+        QCOMPARE(isLit(), lit);
+    }
+    button("pushButton_2")->click(); // the first function, and away again
+    QVERIFY(isLit());
+    row(2)->trashButton()->click();
+    QVERIFY(!isLit() && m_page->notice().isEmpty());
+    row(1)->trashButton()->click(); // gives its keys back, so the same row is news
+    m_page->functionBox()->setCurrentIndex(2);
+    button("pushButton_2")->click();
+    row(1)->plusEdit()->setKeySequence(QKeySequence(Qt::CTRL | Qt::Key_1));
+    QVERIFY(isLit());
+}
+
 /// Ctrl+A and Alt+B have one id; the system may take either away.
 void TestShortcutPage::keysOfOneId()
 {
     start({{1, true, QStringLiteral("Ctrl+A"), {}}, {2, true, QStringLiteral("Alt+B"), {}}});
+    for (const std::size_t count : {0, 2}) {
+        button("pushButton")->click();
+        QCOMPARE(m_desk->desk.hotKeys().count(), count);
+    }
     row(1)->trashButton()->click();
     QCOMPARE(press(kControl, 'A'), QStringList{"W 22=3"});
     QCOMPARE(m_desk->desk.hotKeys().count(), std::size_t(1));

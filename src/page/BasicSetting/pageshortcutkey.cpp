@@ -69,7 +69,7 @@ ShortcutRow *pageShortcutKey::addShortcutRow(const ShortcutEntry &entry)
         connect(edit, &QKeySequenceEdit::editingFinished, this, &pageShortcutKey::on_editFinish);
         connect(edit, &QKeySequenceEdit::keySequenceChanged, this, [this, row] {
             row->takeFields();
-            setWaiting(true);
+            showState();
         });
         connect(edit, &ZelmarKeySequenceEdit::refused, this,
                 [this](const QString &why) { showNotice(why, Tone::Warning); });
@@ -83,13 +83,16 @@ ShortcutRow *pageShortcutKey::addShortcutRow(const ShortcutEntry &entry)
     return row;
 }
 
-/// The system keeps a registered combination from the field that wants to capture it, so it is handed on here.
+/// The system keeps a registered combination from the field that wants to capture it, so it is handed on here. While a
+/// conflict is asked about, its key may be held down still, and comes again and again.
 void pageShortcutKey::heardKey(const ShortcutRow *row, int direction, const QKeySequence &key)
 {
+    if (m_isAsking)
+        return;
     auto *field = qobject_cast<ZelmarKeySequenceEdit *>(QApplication::focusWidget());
     if (field && isAncestorOf(field))
         field->take(key);
-    else if (m_masterOn)
+    else
         shortcutKeyCommand(row->function(), direction);
 }
 
@@ -109,7 +112,9 @@ void pageShortcutKey::on_editFinish()
         return;
     if (!isUsedElsewhere(edit))
         return;
+    m_isAsking = true;
     showConflict();
+    m_isAsking = false;
     edit->clear();
 }
 
@@ -129,12 +134,13 @@ void pageShortcutKey::on_pushButton_2_clicked()
     const int function = m_functions->currentIndex();
     const auto sameFunction = [function](const ShortcutRow *row) { return row->function() == function; };
     const auto found = std::find_if(m_rows.begin(), m_rows.end(), sameFunction);
-    if (found != m_rows.end())
-        showNotice(QObject::tr("This function has its row already."));
-    else
-        setWaiting(true);
-    ShortcutRow *row = found != m_rows.end() ? *found : addShortcutRow({function, true, {}, {}});
+    const bool isNew = found == m_rows.end();
+    ShortcutRow *row = isNew ? addShortcutRow({function, true, {}, {}}) : *found;
     row->plusEdit()->setFocus();
+    if (isNew)
+        showState();
+    else
+        showNotice(QObject::tr("This function has its row already."));
 }
 
 void pageShortcutKey::on_pushButtonAppli_clicked()
@@ -148,12 +154,17 @@ void pageShortcutKey::toggleRow(ShortcutRow *row)
     refreshState();
 }
 
+/// A row that counted gives its keys back at once, so the list is not in force again before it is applied, whatever is
+/// added meanwhile.
 void pageShortcutKey::deleteRow(ShortcutRow *row)
 {
     row->releaseKeys();
+    const auto sameFunction = [row](const ShortcutEntry &entry) { return entry.function == row->function(); };
+    if (m_applied && std::any_of(m_applied->entries.begin(), m_applied->entries.end(), sameFunction))
+        m_applied.reset();
     std::erase(m_rows, row);
     removeRow(row);
-    setWaiting(true);
+    showState();
 }
 
 void pageShortcutKey::refreshState()
@@ -167,14 +178,33 @@ void pageShortcutKey::refreshState()
 /// All keys are given back before any is registered, so that two rows can change keys with each other.
 void pageShortcutKey::save()
 {
-    ShortcutList list{m_masterOn, m_otherEntries};
-    for (ShortcutRow *row : m_rows) {
-        row->releaseKeys();
-        list.entries.push_back(row->entry());
-    }
     for (ShortcutRow *row : m_rows)
-        row->registerKeys();
-    showStored(saveShortcuts(list), QStringLiteral("basicMode.ini"));
+        row->releaseKeys();
+    for (ShortcutRow *row : m_rows)
+        row->registerKeys(m_masterOn);
+    const ShortcutList list = currentList();
+    const bool isStored = saveShortcuts(list);
+    m_applied = isStored ? std::optional(list) : std::nullopt;
+    showStored(isStored, QStringLiteral("basicMode.ini"));
+    showResting();
+}
+
+ShortcutList pageShortcutKey::currentList() const
+{
+    ShortcutList list{m_masterOn, m_otherEntries};
+    for (const ShortcutRow *row : m_rows)
+        list.entries.push_back(row->entry());
+    return list;
+}
+
+void pageShortcutKey::showState()
+{
+    setWaiting(m_applied != currentList());
+    showResting();
+}
+
+void pageShortcutKey::showResting()
+{
     if (!m_masterOn && notice().isEmpty())
         showNotice(QObject::tr("All hot keys rest while the switch above is off."));
 }

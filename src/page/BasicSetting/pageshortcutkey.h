@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "page/engine/listpage.h"
@@ -32,7 +33,7 @@ public:
     QComboBox *functionBox() const { return m_functions; }
 
 protected:
-    /// Tells that a key is used twice on this page.
+    /// Tells that a key is used twice on this page; returns when the user has read it.
     virtual void showConflict();
 
 private Q_SLOTS:
@@ -52,12 +53,17 @@ private:
     void refreshState();
     void save();
     bool isUsedElsewhere(const ZelmarKeySequenceEdit *edit) const;
+    ShortcutList currentList() const;
+    void showState(); ///< what waits to be applied
+    void showResting();
 
     ShortcutRunner m_runner;
     const std::span<const ShortcutFunction> m_available; ///< of the monitor that the page was built for
     bool m_masterOn = true;
     std::vector<ShortcutRow *> m_rows;
     std::vector<ShortcutEntry> m_otherEntries; ///< functions that this monitor lacks, kept for the one that has them
+    std::optional<ShortcutList> m_applied;     ///< stored and registered; nothing when it is in part only
+    bool m_isAsking = false;                   ///< about a conflict
     QPushButton *m_master;
     QComboBox *m_functions;
 };

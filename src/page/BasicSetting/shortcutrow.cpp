@@ -53,22 +53,22 @@ ShortcutRow::ShortcutRow(const ShortcutEntry &entry, QWidget *parent)
     m_problem->setTextFormat(Qt::PlainText);
     m_switch->setFixedSize(64, 32);
     m_name->setFixedWidth(kNameWidth);
-    buildSide(0, entry.plusKey);
-    buildSide(1, entry.minusKey);
+    buildSide(0);
+    buildSide(1);
     setTabOrder(minusEdit(), m_trash);
     layOut();
     updateControlText();
     refresh();
 }
 
-void ShortcutRow::buildSide(int direction, const QString &key)
+void ShortcutRow::buildSide(int direction)
 {
     Side &side = m_sides[static_cast<std::size_t>(direction)];
     side.edit = new ZelmarKeySequenceEdit(this);
     side.edit->setFixedWidth(kKeyWidth);
     side.hint = new QLabel(direction == 0 ? QStringLiteral("+") : QStringLiteral("−"), this);
     side.hint->setObjectName(QStringLiteral("hint"));
-    side.shortcut = new QxtGlobalShortcut(keySequenceOf(key), this);
+    side.shortcut = new QxtGlobalShortcut(this);
     connect(side.shortcut, &QxtGlobalShortcut::activated, this,
             [this, direction, shortcut = side.shortcut] { Q_EMIT activated(direction, shortcut->shortcut()); });
 }
@@ -108,23 +108,19 @@ void ShortcutRow::refresh()
     takeFields(); // a stored text that is no key is none
 }
 
-void ShortcutRow::registerKeys()
+void ShortcutRow::registerKeys(bool masterOn)
 {
     for (Side &side : m_sides)
-        registerSide(side);
+        registerSide(side, masterOn && m_entry.isOn);
     showProblems();
 }
 
-void ShortcutRow::registerSide(Side &side)
+/// A key that the system would not give back does nothing either.
+void ShortcutRow::registerSide(Side &side, bool wanted)
 {
-    const QKeySequence wanted = side.edit->keySequence();
     side.refused.clear();
-    if (!m_entry.isOn) {
-        side.shortcut->setShortcut({});
-        return;
-    }
-    side.shortcut->setEnabled(true);
-    if (!side.shortcut->setShortcut(wanted))
+    side.shortcut->setEnabled(wanted);
+    if (!side.shortcut->setShortcut(wanted ? side.edit->keySequence() : QKeySequence()) && wanted)
         side.refused = side.edit->text();
 }
 

@@ -19,7 +19,6 @@ class ShortcutRow : public QFrame
 {
     Q_OBJECT
 public:
-    /// Registers the keys that the entry names.
     explicit ShortcutRow(const ShortcutEntry &entry, QWidget *parent = nullptr);
 
     int function() const { return m_entry.function; }
@@ -39,8 +38,9 @@ public:
     /// Shows the entry: its switch, and its keys, which can be changed only while it is on.
     void refresh();
 
-    /// Registers the keys of the fields, or gives them up when the row is off. What the system refuses is shown.
-    void registerKeys();
+    /// Registers the keys of the fields, or gives them up when the row is off or all keys rest. What the system refuses
+    /// is shown.
+    void registerKeys(bool masterOn);
 
     /// Gives both keys back to the system.
     void releaseKeys();
@@ -63,9 +63,9 @@ private:
         QString refused; ///< the combination that the system did not give to this row
     };
 
-    void buildSide(int direction, const QString &key);
+    void buildSide(int direction);
     void layOut();
-    void registerSide(Side &side);
+    void registerSide(Side &side, bool wanted);
     void showProblems();
 
     ShortcutEntry m_entry;

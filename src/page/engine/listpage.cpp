@@ -139,16 +139,13 @@ void ListPage::setWaiting(bool waiting)
 {
     m_apply->setProperty("waiting", waiting);
     m_apply->style()->polish(m_apply);
-    if (waiting)
-        showNotice(QObject::tr("Changes count once you press \"%1\".").arg(m_apply->text()));
+    showNotice(waiting ? QObject::tr("Changes count once you press \"%1\".").arg(m_apply->text()) : QString());
 }
 
 void ListPage::showStored(bool stored, const QString &fileName)
 {
     setWaiting(!stored);
-    if (stored)
-        showNotice({});
-    else
+    if (!stored)
         showNotice(QObject::tr("%1 cannot be written: what is set here lasts until the program ends.").arg(fileName),
                    Tone::Warning);
 }

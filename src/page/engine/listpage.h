@@ -46,8 +46,10 @@ protected:
     /// A button with a text; its object name is what connects and styles it.
     QPushButton *makeButton(const char *label, const QString &name);
 
-    /// The button that stores the list, at the right of the tools. It is lit while something waits for it.
+    /// The button that stores the list, at the right of the tools.
     QPushButton *addApplyButton(const QString &name);
+
+    /// Lights that button, and says so, while the list differs from what counts.
     void setWaiting(bool waiting);
 
     /// To be called when the list was written to its file, or was not.
