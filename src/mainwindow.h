@@ -22,7 +22,7 @@ class Page;
 class PageOffice;
 class PanelPage;
 class SettingsPage;
-class pageLEDMusic;
+class LiveDisplay;
 class pageScenarioFollowing;
 class pageSceneSetting;
 class pageShortcutKey;
@@ -113,7 +113,6 @@ private:
     void followSceneMode();
     void openFamilyOfScene();
     void decideEntriesByModel();
-    void stopAccessoryWork();
     void followAccessoryWork(bool begins);
     void setAccessoryBusy(bool busy);
     void enableAccessoryEntries();
@@ -135,7 +134,7 @@ private:
     pageSceneSetting *m_scenePage = nullptr;
     std::map<PageId, Page *> m_pageOf;
     PageOffice *m_officePage = nullptr;
-    pageLEDMusic *m_musicPage = nullptr;
+    LiveDisplay *m_liveDisplay = nullptr;
     HotkeyOverlay *m_overlay = nullptr;
     EmptyPage *m_emptyPage = nullptr;
     QLabel *m_status = nullptr;

@@ -7,6 +7,7 @@
 #include "leftbar.h"
 #include "mainwindow.h"
 #include "page/Nightloom/ledworkthread.h"
+#include "page/Nightloom/livedisplay.h"
 #include "page/Nightloom/pageledmatrixcanvas.h"
 #include "page/Nightloom/pageledmatrixtext.h"
 #include "page/Nightloom/pageledmusic.h"
@@ -28,9 +29,9 @@ void MainWindow::createAccessoryPages()
     followWork(canvas);
     addPage(PageId::LedText, text);
     addPage(PageId::LedCanvas, canvas);
-    m_musicPage = new pageLEDMusic(check, *m_queue, m_pages);
-    addPage(PageId::LedMusic, m_musicPage);
-    addPage(PageId::LedSystem, new pageLEDSystem(check, *m_queue, m_pages));
+    m_liveDisplay = new LiveDisplay(this);
+    addPage(PageId::LedMusic, new pageLEDMusic(check, *m_liveDisplay, *m_queue, m_pages));
+    addPage(PageId::LedSystem, new pageLEDSystem(check, *m_liveDisplay, *m_queue, m_pages));
 }
 
 void MainWindow::reopenHidDevice()
@@ -55,12 +56,6 @@ void MainWindow::warnNotConnected()
                 QMessageBox::YesRole, this);
 }
 
-/// The one place where all that streams to the accessory, or feeds what does, is stopped.
-void MainWindow::stopAccessoryWork()
-{
-    ledWorkThread::instance()->stop();
-}
-
 /// An upload may end while a scene changes: then nothing can be chosen still.
 void MainWindow::followAccessoryWork(bool begins)
 {
@@ -73,9 +68,7 @@ void MainWindow::followAccessoryWork(bool begins)
 void MainWindow::setAccessoryBusy(bool busy)
 {
     m_accessoryBusy = busy;
-    m_musicPage->setBusy(busy); // stops listening before the worker is stopped
-    if (busy)
-        stopAccessoryWork();
+    m_liveDisplay->setInterrupted(busy);
 }
 
 /// While the accessory is busy only the page that keeps it so can be chosen.
@@ -89,6 +82,7 @@ void MainWindow::enableAccessoryEntries()
 /// At the end of the program, while the pages that the work belongs to are still there.
 void MainWindow::endAccessoryWork()
 {
+    m_liveDisplay->setInterrupted(true);
     stopUploads();
     ledWorkThread::shutDown();
 }

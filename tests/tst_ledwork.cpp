@@ -11,12 +11,15 @@
 #include "ddc_protocol/settingsstore.h"
 #include "ledmatrix/matrixform.h"
 #include "ledmatrix/matrixgeometry.h"
+#include "page/Nightloom/accessorysettings.h"
 #include "page/Nightloom/dateled.h"
 #include "page/Nightloom/ledframesource.h"
 #include "page/Nightloom/ledworkthread.h"
+#include "page/Nightloom/livedisplay.h"
 #include "page/Nightloom/matrixformsetting.h"
 #include "page/Nightloom/pageledsystem.h"
 #include "page/engine/optiongrouprow.h"
+#include "searchdevicedlg.h"
 #include "support/accessoryfixture.h"
 #include "support/textfile.h"
 #include "usb-hid/hidtransport.h"
@@ -81,6 +84,7 @@ private Q_SLOTS:
     void textUploadEndsTheClock();
     void shutDownEndsAnUpload();
     void settingsAreSentAndStored();
+    void clockGoesOnAfterwards();
     void choicesInVain();
     void lampStopsTheLiveDisplay();
     void formIsChosenAndLoaded();
@@ -92,6 +96,7 @@ private:
     QList<QByteArray> takeWrites();
 
     std::unique_ptr<CommandQueue> m_queue;
+    std::unique_ptr<LiveDisplay> m_display;
     std::unique_ptr<pageLEDSystem> m_page;
     ledWorkThread *m_worker = nullptr;
     bool m_connected = true;
@@ -101,6 +106,7 @@ void TestLedWork::init()
 {
     AccessoryFixture::init();
     m_worker = ledWorkThread::instance();
+    m_display = std::make_unique<LiveDisplay>();
     m_connected = true;
     connectDevice();
 }
@@ -110,6 +116,7 @@ void TestLedWork::cleanup()
     ledWorkThread::shutDown();
     m_worker->setSource(nullptr);
     m_page.reset();
+    m_display.reset();
     m_queue.reset();
     AccessoryFixture::cleanup();
 }
@@ -275,7 +282,7 @@ void TestLedWork::shutDownEndsAnUpload()
 void TestLedWork::makePage()
 {
     m_queue = std::make_unique<CommandQueue>();
-    m_page = std::make_unique<pageLEDSystem>([this] { return m_connected; }, *m_queue);
+    m_page = std::make_unique<pageLEDSystem>([this] { return m_connected; }, *m_display, *m_queue);
     m_desk->clock.takeWaits();
 }
 
@@ -294,23 +301,68 @@ QList<QByteArray> TestLedWork::takeWrites()
     return writes;
 }
 
+/// The monitor is told as well, even what the accessory did not take.
 void TestLedWork::settingsAreSentAndStored()
 {
+    SearchDeviceDlg().searchDevices();
     makePage();
+    QCOMPARE(m_page->brightnessSlider()->value(), 10); // as the factory reset leaves it
+    m_desk->takeCommands();
     m_page->levelSlider()->setValue(7);
     QCOMPARE(takeWrites(), QList<QByteArray>()); // it is still being dragged
     release(m_page->levelSlider(), 8);
-    release(m_page->brightnessSlider(), 90);
-    QCOMPARE(m_desk->clock.takeWaits(), (QList<int>{150, 150}));
+    release(m_page->brightnessSlider(), 3);
+    QCOMPARE(m_desk->clock.takeWaits().count(150), 2);
     QCOMPARE(accessory().state().level, 8);
-    QCOMPARE(accessory().state().brightness, 90);
+    QCOMPARE(accessory().state().brightness, 3);
     QCOMPARE(takeWrites().size(), 2);
+    accessory().refuseWrites(1);
+    release(m_page->brightnessSlider(), 4);
+    m_connected = false;
+    release(m_page->brightnessSlider(), 5);
+    m_queue->drain();
+    QCOMPARE(m_desk->takeCommands(), (QStringList{"W 73=8", "W 72=3", "W 72=4"}));
     QCOMPARE(settingsInt(QLatin1String(kPlaybackLevelKey), 0, false), 8);
-    QCOMPARE(settingsInt(QLatin1String(kLedBrightnessKey), 0, false), 90);
+    QCOMPARE(settingsInt(QLatin1String(kLedBrightnessKey), 0, false), 4);
+    takeWrites();
     makePage();
     QCOMPARE(m_page->levelSlider()->value(), 8);
     m_page->updateInterfaceData();
     QCOMPARE(takeWrites(), QList<QByteArray>()); // filling sends nothing
+}
+
+/// Whatever comes in between, the clock goes on, and meanwhile no time stays that is no longer true.
+void TestLedWork::clockGoesOnAfterwards()
+{
+    makePage();
+    const auto goesOn = [this] {
+        const int frames = accessory().state().liveFrames;
+        return QTest::qWaitFor([&] { return accessory().state().liveFrames > frames; });
+    };
+    m_page->clockOptions()->buttonOf(1)->click();
+    QVERIFY(goesOn());
+    release(m_page->levelSlider(), 9);
+    QVERIFY(goesOn());
+    for (int i = 0; i < 20; ++i) { // wherever the clock is in its pass
+        m_display->setInterrupted(true);
+        QVERIFY(!accessory().state().showsLive);
+        QVERIFY(m_worker->wait(10000));
+        QVERIFY(!accessory().state().showsLive);
+        QVERIFY(m_page->clockOptions()->buttonOf(1)->isChecked());
+        m_display->setInterrupted(false);
+        QVERIFY(goesOn());
+    }
+    m_display->setInterrupted(true);
+    accessory().setForm(kRectangleForm); // only now, or frames of the old form would still come to it
+    m_page->formOptions()->buttonOf(kRectangleForm)->click();
+    m_display->setInterrupted(false);
+    QTRY_COMPARE(int(accessory().state().liveCells.size()), 1050);
+    m_display->setInterrupted(true);
+    m_page->clockOptions()->buttonOf(0)->click();
+    takeWrites();
+    m_display->setInterrupted(false);
+    QVERIFY(m_worker->wait(10000));
+    QCOMPARE(takeWrites(), QList<QByteArray>());
 }
 
 void TestLedWork::choicesInVain()
@@ -355,13 +407,7 @@ void TestLedWork::lampStopsTheLiveDisplay()
 void TestLedWork::formIsChosenAndLoaded()
 {
     makePage();
-    accessory().setForm(1);
-    matrixForm = 7; // or a last frame of the old form might come
-    m_page->clockOptions()->buttonOf(1)->click();
-    takeWrites();
     m_page->formOptions()->buttonOf(1)->click();
-    QVERIFY(m_worker->wait(10000));
-    QVERIFY(takeWrites().contains("01e001b089")); // the last time does not stay
     QCOMPARE(matrixForm.load(), 1);
     for (const auto &[stored, loaded] : {std::pair{0, 0}, {1, 1}, {2, 0}, {-1, 0}}) {
         settingsInt(QLatin1String(kMatrixFormKey), stored, true);

@@ -15,6 +15,7 @@
 #include "page/Nightloom/ledworkthread.h"
 #include "page/Nightloom/pageledmatrixcanvas.h"
 #include "page/Nightloom/pageledmusic.h"
+#include "page/Nightloom/pageledsystem.h"
 #include "page/Scene/pagescenesetting.h"
 #include "page/engine/optiongrouprow.h"
 #include "page/engine/page.h"
@@ -148,12 +149,16 @@ void TestWindowLinks::busyModeStopsTheLiveDisplay()
 {
     start(10);
     ledWorkThread *worker = ledWorkThread::instance();
-    worker->begin(ledWorkThread::ClockLoop);
-    QTRY_VERIFY(m_desk->desk.accessory().state().liveFrames > 0);
+    virtualdesk::SimulatedAccessory &accessory = m_desk->desk.accessory();
+    auto *system = qobject_cast<pageLEDSystem *>(m_window->page(PageId::LedSystem)->widget());
+    system->clockOptions()->buttonOf(1)->click();
+    QTRY_VERIFY(accessory.state().showsLive);
     m_window->setInterfaceMode(kBusy);
     QCOMPARE(worker->state(), ledWorkThread::Stopped);
     QVERIFY(worker->wait(10000));
+    QVERIFY(!accessory.state().showsLive);
     m_window->setInterfaceMode(kBusyEnded);
+    QTRY_VERIFY(accessory.state().showsLive);
 
     SoundAnalyzer &analyzer = SoundAnalyzer::instance();
     auto *music = qobject_cast<pageLEDMusic *>(m_window->page(PageId::LedMusic)->widget());
@@ -163,9 +168,11 @@ void TestWindowLinks::busyModeStopsTheLiveDisplay()
     QTRY_VERIFY(!analyzer.isRunning());
     m_window->setInterfaceMode(kBusyEnded);
     QTRY_VERIFY(analyzer.isCapturing());
-    worker->begin(ledWorkThread::ClockLoop);
+    system->clockOptions()->buttonOf(1)->click(); // which ends the music
+    QTRY_VERIFY(accessory.state().showsLive && !analyzer.isRunning());
     m_window.reset(); // the program's end
     QVERIFY(worker->isFinished());
+    QVERIFY(!accessory.state().showsLive);
     QVERIFY(analyzer.isFinished());
 }
 

@@ -980,6 +980,10 @@
         <translation>Matches notebooks with a Display P3 screen.</translation>
     </message>
     <message>
+        <source>Matrix Brightness</source>
+        <translation>Matrix Brightness</translation>
+    </message>
+    <message>
         <source>Matrix Form</source>
         <translation>Matrix Form</translation>
     </message>

@@ -980,6 +980,10 @@
         <translation>Display P3 画面のノートパソコンと色を合わせます。</translation>
     </message>
     <message>
+        <source>Matrix Brightness</source>
+        <translation>マトリクスの輝度</translation>
+    </message>
+    <message>
         <source>Matrix Form</source>
         <translation>マトリクス形状</translation>
     </message>

@@ -980,6 +980,10 @@
         <translation>与配备 Display P3 屏幕的笔记本电脑一致。</translation>
     </message>
     <message>
+        <source>Matrix Brightness</source>
+        <translation>矩阵亮度</translation>
+    </message>
+    <message>
         <source>Matrix Form</source>
         <translation>矩阵形状</translation>
     </message>

@@ -980,6 +980,10 @@
         <translation>與配備 Display P3 螢幕的筆記型電腦一致。</translation>
     </message>
     <message>
+        <source>Matrix Brightness</source>
+        <translation>矩陣亮度</translation>
+    </message>
+    <message>
         <source>Matrix Form</source>
         <translation>矩陣形狀</translation>
     </message>

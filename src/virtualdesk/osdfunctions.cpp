@@ -96,6 +96,8 @@ constexpr OsdFunction kMenu[] = {
     {0xF1, NAME("Alignment"), 0, 3, kAlignment},
     {0xF2, NAME("Ruler"), 0, 2, kRuler},
     {0x3B, NAME("Alignment Aid"), 0, 1, kSwitch},
+    {0x72, NAME("Matrix Brightness"), 10, 10, {}},
+    {0x73, NAME("Playback Level"), 5, 10, {}},
     {0xF8, NAME("Composition"), 0, 5, kComposition},
     {0xF9, NAME("Eyeshield Remind"), 0, 8, kRest},
 };

@@ -6,6 +6,7 @@
 #include "ddc_protocol/settingsstore.h"
 #include "ddc_protocol/transport.h"
 #include "page/BasicSetting/systemtable.h"
+#include "page/Nightloom/accessorysettings.h"
 #include "page/engine/halfbutton.h"
 #include "page/engine/labels.h"
 #include "platform/desk.h"
@@ -13,8 +14,6 @@
 
 namespace {
 
-constexpr int kFactoryBrightness = 10; ///< of the LED accessory
-constexpr int kFactoryPlaybackLevel = 5;
 constexpr platform::milliseconds kResetTime{20000};
 
 } // namespace
@@ -60,8 +59,8 @@ void pageSystemSetting::resetFactory()
     qDebug() << "reset begin";
     Q_EMIT resetBegins();
     reloadEdidType = kRestartProgram;
-    settingsInt(QStringLiteral("SystemMode/Brightness"), kFactoryBrightness, true);
-    settingsInt(QStringLiteral("SystemMode/PlaybackLevel"), kFactoryPlaybackLevel, true);
+    settingsInt(QLatin1String(kLedBrightnessKey), kUsualLedBrightness, true);
+    settingsInt(QLatin1String(kPlaybackLevelKey), kUsualPlaybackLevel, true);
     platform::desk().clock().callLater(kResetTime, this, [this] {
         reloadEdidType = kRestartProgram; // whatever happened in between
         m_session.delayedSearchDevices();

@@ -8,6 +8,7 @@
 #include "page/Nightloom/ledframesource.h"
 #include "platform/desk.h"
 #include "usb-hid/accessoryupload.h"
+#include "usb-hid/hidtransport.h"
 #include "usb-hid/livesender.h"
 
 namespace {
@@ -49,7 +50,7 @@ void ledWorkThread::shutDown()
 
 void ledWorkThread::setSource(LedFrameSource *source)
 {
-    const std::lock_guard lock(m_sourceMutex);
+    const std::lock_guard lock(m_frameMutex);
     m_source = source;
 }
 
@@ -81,6 +82,15 @@ void ledWorkThread::stop()
     m_state = Stopped;
     std::erase_if(m_waiting, [](State state) { return state != UploadText; });
     exit(0);
+}
+
+void ledWorkThread::endDisplay()
+{
+    stop();
+    const std::lock_guard lock(m_frameMutex); // a frame that is under way goes first
+    AccessoryReport report;
+    buildLiveStop(report);
+    writePageReport(report);
 }
 
 std::optional<ledWorkThread::State> ledWorkThread::takeWork()
@@ -120,7 +130,7 @@ void ledWorkThread::work(State state)
 void ledWorkThread::buildSpectrum()
 {
     {
-        const std::lock_guard lock(m_sourceMutex);
+        const std::lock_guard lock(m_frameMutex);
         AudioVisual *visual = m_source ? m_source->audioVisual() : nullptr;
         if (!visual)
             return;
@@ -133,7 +143,7 @@ void ledWorkThread::buildSpectrum()
 
 void ledWorkThread::sendSpectrum()
 {
-    const std::lock_guard lock(m_sourceMutex);
+    const std::lock_guard lock(m_frameMutex);
     AudioVisual *visual = m_source ? m_source->audioVisual() : nullptr;
     if (!visual)
         return;
@@ -148,15 +158,23 @@ void ledWorkThread::runClock()
         const std::lock_guard lock(m_mutex);
         ended = m_shutDown.get_token();
     }
-    do {
-        const QDateTime now = platform::desk().clock().now();
-        m_minute = now.time().minute();
-        if (const auto renderer = makeClockRenderer(matrixForm)) {
-            renderer->render(now.time());
-            sendData(renderer->frame());
-        }
+    while (showTime())
         platform::desk().clock().sleepUnlessStopped(kClockPass, ended);
-    } while (m_running == 1);
+}
+
+/// False when the clock was stopped.
+bool ledWorkThread::showTime()
+{
+    const std::lock_guard lock(m_frameMutex);
+    if (m_running != 1)
+        return false;
+    const QDateTime now = platform::desk().clock().now();
+    m_minute = now.time().minute();
+    if (const auto renderer = makeClockRenderer(matrixForm)) {
+        renderer->render(now.time());
+        sendData(renderer->frame());
+    }
+    return true;
 }
 
 void ledWorkThread::upload()

@@ -50,6 +50,10 @@ public:
     /// page waits for its end. Does not wait itself.
     void stop();
 
+    /// Stops and takes the last frame off the matrix: once this returns no frame of before comes any more. Waits for
+    /// one that is under way. Not on the worker's own thread.
+    void endDisplay();
+
     State state() const { return m_state; }
 
     /// The minute of the time shown last.
@@ -64,9 +68,6 @@ Q_SIGNALS:
 
     /// Follows the last progress. Not complete when the accessory did not take every report.
     void uploadEnded(bool complete);
-
-    /// Somebody needs the accessory for something that lasts, and has stopped this thread: the music mode ends.
-    void takenOver();
 
     /// A spectrum frame was built; always 0.
     void frameBuilt(int value);
@@ -83,9 +84,10 @@ private:
     void buildSpectrum();
     void sendSpectrum();
     void runClock();
+    bool showTime();
     void upload();
 
-    std::mutex m_sourceMutex; // held while the source is used
+    std::mutex m_frameMutex; // held while a frame is made and sent; guards the source
     LedFrameSource *m_source = nullptr;
 
     std::mutex m_mutex; // guards what follows

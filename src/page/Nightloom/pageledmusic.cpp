@@ -10,6 +10,7 @@
 #include "ledmatrix/matrixform.h"
 #include "page/Nightloom/audiopicture.h"
 #include "page/Nightloom/ledworkthread.h"
+#include "page/Nightloom/livedisplay.h"
 #include "page/engine/commonoptions.h"
 #include "page/engine/optiongrouprow.h"
 #include "platform/desk.h"
@@ -46,21 +47,22 @@ constexpr const char *kNotes[] = {
 
 } // namespace
 
-pageLEDMusic::pageLEDMusic(AccessoryCheck ensureConnected, CommandQueue &queue, QWidget *parent)
+pageLEDMusic::pageLEDMusic(AccessoryCheck ensureConnected, LiveDisplay &display, CommandQueue &queue, QWidget *parent)
     : PanelPage(QStringLiteral("pageLEDMusic"), OwnList::None, queue, parent),
-      m_ensureConnected(std::move(ensureConnected)), m_analyzer(SoundAnalyzer::instance())
+      m_ensureConnected(std::move(ensureConnected)), m_display(display), m_analyzer(SoundAnalyzer::instance())
 {
     connect(&m_analyzer, &SoundAnalyzer::heightsReady, this, &pageLEDMusic::showHeights);
     connect(&m_analyzer, &SoundAnalyzer::stopped, this, &pageLEDMusic::onSoudanalyzerIsRun);
     connect(&m_analyzer, &QThread::finished, this, &pageLEDMusic::captureFinished);
     connect(ledWorkThread::instance(), &ledWorkThread::frameBuilt, this, &pageLEDMusic::sendBuiltFrame);
-    connect(ledWorkThread::instance(), &ledWorkThread::takenOver, this, &pageLEDMusic::yieldAccessory);
     buildPanels(kPanels);
+    connect(&m_display, &LiveDisplay::musicBegins, this, &pageLEDMusic::startCapture);
+    connect(&m_display, &LiveDisplay::musicEnds, this, &pageLEDMusic::stopCapture);
+    connect(&m_display, &LiveDisplay::changed, this, &pageLEDMusic::showSwitched);
 }
 
 pageLEDMusic::~pageLEDMusic()
 {
-    m_on = false;
     m_analyzer.stop();
     m_analyzer.wait();
     freeAccessory(true);
@@ -125,7 +127,7 @@ void pageLEDMusic::showWhatIsSet()
     m_template = static_cast<AudioTemplate>(std::clamp(stored, 0, kAudioTemplates - 1));
     m_templates->showValue(static_cast<int>(m_template.load()));
     m_picture->setTemplate(m_template);
-    m_switch->showValue(m_on ? 1 : 0);
+    m_switch->showValue(isMusicOn() ? 1 : 0);
     setHearing(m_hearing);
 }
 
@@ -137,45 +139,27 @@ void pageLEDMusic::chooseTemplate(int value)
 void pageLEDMusic::switchMusic(int value)
 {
     const bool on = value != 0;
-    if (on == m_on)
+    if (on == isMusicOn() || (on && !m_ensureConnected()))
         return;
-    if (!on)
-        return switchOff(true);
-    if (!m_ensureConnected())
-        return;
-    ledWorkThread::instance()->stop(); // a clock may be running
-    m_on = true;
-    if (!m_busy)
-        startCapture();
+    m_display.show(on ? LiveDisplay::Show::Music : LiveDisplay::Show::Nothing);
 }
 
-void pageLEDMusic::switchOff(bool sendStop)
+/// The user has switched something on or off, here or on another page.
+void pageLEDMusic::showSwitched()
 {
-    m_on = false;
-    if (sendStop && !m_busy)
-        ledWorkThread::instance()->stop();
-    stopCapture(sendStop);
-    setHearing(Hearing::Off);
-}
-
-/// Another page has the accessory now, and says itself what is to be shown.
-void pageLEDMusic::yieldAccessory()
-{
-    if (!m_on)
-        return;
-    switchOff(false);
+    if (!isMusicOn())
+        setHearing(Hearing::Off);
     showWhatIsSet();
 }
 
-void pageLEDMusic::setBusy(bool busy)
+bool pageLEDMusic::isMusicOn() const
 {
-    m_busy = busy;
-    if (!m_on)
-        return;
-    if (busy)
-        stopCapture(true); // before what it is needed for begins
-    else
-        startCapture();
+    return m_display.shown() == LiveDisplay::Show::Music;
+}
+
+bool pageLEDMusic::streams() const
+{
+    return m_display.streams(LiveDisplay::Show::Music);
 }
 
 void pageLEDMusic::startCapture()
@@ -192,13 +176,13 @@ void pageLEDMusic::startCapture()
     lookLater();
 }
 
-void pageLEDMusic::stopCapture(bool sendStop)
+void pageLEDMusic::stopCapture()
 {
     m_startAgain = false;
     ++m_lookRun;
     m_analyzer.stop();
     m_picture->showHeights({});
-    freeAccessory(sendStop);
+    freeAccessory(false);
 }
 
 /// Sees to it that no frame of ours goes out any more, and takes the last one off the matrix. Nothing is written when
@@ -225,7 +209,7 @@ void pageLEDMusic::onSoudanalyzerIsRun()
 
 void pageLEDMusic::captureFinished()
 {
-    if (!m_on || m_busy || m_analyzer.isRunning()) // it may have been started again since
+    if (!streams() || m_analyzer.isRunning()) // it may have been started again since
         return;
     if (std::exchange(m_startAgain, false))
         return m_analyzer.start();
@@ -237,14 +221,14 @@ void pageLEDMusic::captureFinished()
         return;
     platform::desk().clock().callLater(kRetryAfter, this, [this] {
         m_retryWaits = false;
-        if (m_on && !m_busy && !m_analyzer.isRunning())
+        if (streams() && !m_analyzer.isRunning())
             startCapture();
     });
 }
 
 void pageLEDMusic::showHeights(const QList<int> &heights)
 {
-    if (!m_on || m_busy)
+    if (!streams())
         return;
     m_heard = true;
     setHearing(Hearing::Sound);
@@ -256,7 +240,7 @@ void pageLEDMusic::showHeights(const QList<int> &heights)
 
 void pageLEDMusic::sendBuiltFrame()
 {
-    if (m_on && !m_busy && ledWorkThread::instance()->state() == ledWorkThread::BuildSpectrum)
+    if (streams() && ledWorkThread::instance()->state() == ledWorkThread::BuildSpectrum)
         ledWorkThread::instance()->begin(ledWorkThread::SendSpectrum);
 }
 

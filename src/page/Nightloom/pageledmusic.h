@@ -9,6 +9,7 @@
 #include "page/engine/panelpage.h"
 
 class AudioPicture;
+class LiveDisplay;
 class SoundAnalyzer;
 
 inline constexpr char kMusicTemplateKey[] = "SystemMode/MusicTemplate";
@@ -19,17 +20,16 @@ class pageLEDMusic : public PanelPage, private LedFrameSource
 {
     Q_OBJECT
 public:
-    pageLEDMusic(AccessoryCheck ensureConnected, CommandQueue &queue, QWidget *parent = nullptr);
+    /// The check and the display outlive the page.
+    pageLEDMusic(AccessoryCheck ensureConnected, LiveDisplay &display, CommandQueue &queue, QWidget *parent = nullptr);
     /// Ends the capture and waits for its end.
     ~pageLEDMusic() override;
 
     void updateInterfaceData() override;
     void updateControlText() override;
 
-    bool isMusicOn() const { return m_on; }
-
-    /// The accessory is needed for something longer: the capture stops, and goes on afterwards when the mode is on.
-    void setBusy(bool busy);
+    /// Also while something else needs the accessory; the capture goes on afterwards.
+    bool isMusicOn() const;
 
     OptionGroupRow *switchOptions() const { return m_switch; }
     OptionGroupRow *templateOptions() const { return m_templates; }
@@ -53,11 +53,11 @@ private:
 
     OptionGroupRow *makeOptions(const OptionGroup &group, void (pageLEDMusic::*chosen)(int value));
     void switchMusic(int value);
-    void switchOff(bool sendStop);
-    void yieldAccessory();
+    void showSwitched();
+    bool streams() const;
     void chooseTemplate(int value);
     void startCapture();
-    void stopCapture(bool sendStop);
+    void stopCapture();
     void freeAccessory(bool sendStop);
     void captureFinished();
     void showHeights(const QList<int> &heights);
@@ -68,13 +68,12 @@ private:
     void showWhatIsSet();
 
     AccessoryCheck m_ensureConnected;
+    LiveDisplay &m_display;
     SoundAnalyzer &m_analyzer;
     OptionGroupRow *m_switch = nullptr;
     OptionGroupRow *m_templates = nullptr;
     AudioPicture *m_picture = nullptr;
     QLabel *m_note = nullptr;
-    bool m_on = false;
-    bool m_busy = false;
     bool m_startAgain = false; ///< as soon as the capture that was stopped has ended
     bool m_retryWaits = false;
     bool m_streams = false; ///< a capture was started, whose frames may be on the matrix

@@ -3,23 +3,19 @@
 #include <QVBoxLayout>
 
 #include "controls/sliderwidget.h"
+#include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/settingsstore.h"
 #include "ledmatrix/matrixform.h"
-#include "page/Nightloom/ledworkthread.h"
+#include "page/Nightloom/accessorysettings.h"
+#include "page/Nightloom/livedisplay.h"
 #include "page/Nightloom/matrixformsetting.h"
 #include "page/engine/commonoptions.h"
 #include "page/engine/optiongrouprow.h"
-#include "platform/desk.h"
 #include "usb-hid/hidtransport.h"
 
 namespace {
 
-constexpr platform::milliseconds kWorkerEnds{150}; // a frame that is under way goes out meanwhile
-constexpr Command kNoCommand{};                    // these options are the accessory's and never go to the monitor
-constexpr int kHighestLevel = 10;
-constexpr int kHighestBrightness = 100;
-constexpr int kUsualLevel = 5; // until the user has chosen
-constexpr int kUsualBrightness = 50;
+constexpr Command kNoCommand{}; // these options are the accessory's and never go to the monitor
 constexpr int kCaptionWidth = 140;
 
 constexpr char kSliders[] = "sliders";
@@ -42,11 +38,12 @@ int stored(const char *key, int usual)
 
 } // namespace
 
-pageLEDSystem::pageLEDSystem(AccessoryCheck ensureConnected, CommandQueue &queue, QWidget *parent)
+pageLEDSystem::pageLEDSystem(AccessoryCheck ensureConnected, LiveDisplay &display, CommandQueue &queue, QWidget *parent)
     : PanelPage(QStringLiteral("pageLEDSystem"), OwnList::None, queue, parent),
-      m_ensureConnected(std::move(ensureConnected))
+      m_ensureConnected(std::move(ensureConnected)), m_display(display)
 {
     buildPanels(kPanels);
+    connect(&m_display, &LiveDisplay::changed, this, &pageLEDSystem::showWhatIsSet);
 }
 
 QWidget *pageLEDSystem::buildPart(const char *name)
@@ -63,8 +60,8 @@ QWidget *pageLEDSystem::buildPart(const char *name)
 QWidget *pageLEDSystem::buildSliders()
 {
     auto *part = new QWidget(this);
-    m_level = makeOwnSlider(kLevel, kHighestLevel, part);
-    m_brightness = makeOwnSlider(kBrightness, kHighestBrightness, part);
+    m_level = makeOwnSlider(kLevel, Command::AccessoryLevel, part);
+    m_brightness = makeOwnSlider(kBrightness, Command::AccessoryBrightness, part);
     auto *column = new QVBoxLayout(part);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(8);
@@ -73,15 +70,17 @@ QWidget *pageLEDSystem::buildSliders()
     return part;
 }
 
-SliderWidget *pageLEDSystem::makeOwnSlider(const char *name, int maximum, QWidget *parent)
+/// A slider of the accessory's, whose value the monitor is told as well.
+SliderWidget *pageLEDSystem::makeOwnSlider(const char *name, Command command, QWidget *parent)
 {
-    auto *slider = new SliderWidget(QLatin1String(name), 0, maximum, parent);
+    auto *slider = new SliderWidget(QLatin1String(name), 0, kHighestAccessoryValue, parent);
     slider->setCaptionWidth(kCaptionWidth);
     texts().bind(name, [slider](const QString &text) { slider->setCaption(text); });
-    connect(slider, &SliderWidget::sliderValueChanged, this, [this](const QString &, int, bool released) {
-        if (released && !isUpdating())
-            onSliderReleased();
-    });
+    connect(slider, &SliderWidget::sliderValueChanged, this,
+            [this, slider, command](const QString &, int, bool released) {
+                if (released && !isUpdating())
+                    onSliderReleased(slider, command);
+            });
     return slider;
 }
 
@@ -108,67 +107,45 @@ void pageLEDSystem::updateInterfaceData()
 void pageLEDSystem::showEvent(QShowEvent *event)
 {
     PanelPage::showEvent(event);
-    showWhatIsSet(); // another page may have stopped the clock since
+    showWhatIsSet(); // a factory reset may have stored other values since
 }
 
 void pageLEDSystem::showWhatIsSet()
 {
     const Updating updating(*this);
-    m_level->setValue(stored(kPlaybackLevelKey, kUsualLevel));
-    m_brightness->setValue(stored(kLedBrightnessKey, kUsualBrightness));
+    m_level->setValue(stored(kPlaybackLevelKey, kUsualPlaybackLevel));
+    m_brightness->setValue(stored(kLedBrightnessKey, kUsualLedBrightness));
     m_lamp->showValue(m_lampSet);
     m_form->showValue(matrixForm.load());
-    m_clock->showValue(clockRuns() ? 1 : 0);
+    m_clock->showValue(m_display.shown() == LiveDisplay::Show::Clock ? 1 : 0);
 }
 
-/// Whether a packet may be written: the accessory is there and nothing else writes to it.
-bool pageLEDSystem::takeOver()
-{
-    if (!m_ensureConnected())
-        return false;
-    stopWorker();
-    return true;
-}
-
-void pageLEDSystem::stopWorker()
-{
-    ledWorkThread::instance()->stop();
-    platform::desk().clock().sleep(kWorkerEnds);
-}
-
-bool pageLEDSystem::clockRuns() const
-{
-    return ledWorkThread::instance()->state() == ledWorkThread::ClockLoop;
-}
-
-void pageLEDSystem::endLiveDisplay()
-{
-    AccessoryReport report;
-    buildLiveStop(report);
-    writePageReport(report);
-}
-
-void pageLEDSystem::onSliderReleased()
+void pageLEDSystem::onSliderReleased(SliderWidget *moved, Command command)
 {
     showNotice({});
     const int level = m_level->value(); // before the check, whose box may have the page filled again
     const int brightness = m_brightness->value();
-    if (takeOver()) {
+    const int value = moved->value();
+    if (m_ensureConnected()) {
         AccessoryReport report;
         buildSystemSettings(report, static_cast<std::uint8_t>(level), static_cast<std::uint8_t>(brightness));
-        writePageReport(report);
+        {
+            const LiveDisplay::Pause pause(m_display);
+            writePageReport(report);
+        }
         settingsInt(QLatin1String(kPlaybackLevelKey), level, true);
         settingsInt(QLatin1String(kLedBrightnessKey), brightness, true);
+        queue().post(command, value);
     }
     showWhatIsSet();
 }
 
 void pageLEDSystem::switchLamp(int value)
 {
-    if (!takeOver())
+    if (!m_ensureConnected())
         return;
-    endLiveDisplay();
-    Q_EMIT ledWorkThread::instance()->takenOver(); // or the music would go on over the lamp
+    const LiveDisplay::Pause pause(m_display);
+    m_display.show(LiveDisplay::Show::Nothing); // or it would go on over the lamp
     AccessoryReport report;
     buildMatrixLamp(report, value != 0);
     writePageReport(report);
@@ -177,21 +154,14 @@ void pageLEDSystem::switchLamp(int value)
 
 void pageLEDSystem::chooseForm(int value)
 {
-    const bool clockRan = clockRuns();
-    stopWorker();
-    if (clockRan)
-        endLiveDisplay();
+    const LiveDisplay::Pause pause(m_display); // no frame may be half of one form
     chooseMatrixForm(value);
 }
 
 void pageLEDSystem::switchClock(int value)
 {
-    if (!takeOver())
-        return;
-    Q_EMIT ledWorkThread::instance()->takenOver();
-    if (value != 0) {
-        ledWorkThread::instance()->begin(ledWorkThread::ClockLoop);
-        return;
-    }
-    endLiveDisplay(); // or the last time would stay
+    if (value == 0)
+        m_display.show(LiveDisplay::Show::Nothing);
+    else if (m_ensureConnected())
+        m_display.show(LiveDisplay::Show::Clock);
 }

@@ -3,8 +3,7 @@
 #include "page/Nightloom/accessorycheck.h"
 #include "page/engine/panelpage.h"
 
-inline constexpr char kPlaybackLevelKey[] = "SystemMode/PlaybackLevel";
-inline constexpr char kLedBrightnessKey[] = "SystemMode/Brightness";
+class LiveDisplay;
 
 /// The accessory's own settings: how long an animation plays, how bright it is, the lamp, which form the accessory has,
 /// and its clock.
@@ -12,8 +11,8 @@ class pageLEDSystem : public PanelPage
 {
     Q_OBJECT
 public:
-    /// The check outlives the page.
-    pageLEDSystem(AccessoryCheck ensureConnected, CommandQueue &queue, QWidget *parent = nullptr);
+    /// The check and the display outlive the page.
+    pageLEDSystem(AccessoryCheck ensureConnected, LiveDisplay &display, CommandQueue &queue, QWidget *parent = nullptr);
 
     void updateInterfaceData() override;
 
@@ -31,19 +30,16 @@ private:
     using Chosen = void (pageLEDSystem::*)(int value);
 
     QWidget *buildSliders();
-    SliderWidget *makeOwnSlider(const char *name, int maximum, QWidget *parent);
+    SliderWidget *makeOwnSlider(const char *name, Command command, QWidget *parent);
     OptionGroupRow *makeOptions(const OptionGroup &group, Chosen chosen);
     void showWhatIsSet();
-    bool takeOver();
-    void stopWorker();
-    bool clockRuns() const;
-    void endLiveDisplay();
-    void onSliderReleased();
+    void onSliderReleased(SliderWidget *moved, Command command);
     void switchLamp(int value);
     void chooseForm(int value);
     void switchClock(int value);
 
     AccessoryCheck m_ensureConnected;
+    LiveDisplay &m_display;
     SliderWidget *m_level = nullptr;
     SliderWidget *m_brightness = nullptr;
     OptionGroupRow *m_lamp = nullptr;
