@@ -1768,6 +1768,10 @@
         <translation>The system&apos;s audio service is down until the button is released</translation>
     </message>
     <message>
+        <source>The text is too long: %1 of its %2 characters fit.</source>
+        <translation>The text is too long: %1 of its %2 characters fit.</translation>
+    </message>
+    <message>
         <source>The upgrade program %1 could not be started.</source>
         <translation>The upgrade program %1 could not be started.</translation>
     </message>

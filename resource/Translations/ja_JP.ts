@@ -1768,6 +1768,10 @@
         <translation>ボタンを戻すまで、システムの音声サービスは停止します</translation>
     </message>
     <message>
+        <source>The text is too long: %1 of its %2 characters fit.</source>
+        <translation>テキストが長すぎます。%2 文字のうち先頭の %1 文字だけが収まります。</translation>
+    </message>
+    <message>
         <source>The upgrade program %1 could not be started.</source>
         <translation>更新プログラム %1 を起動できませんでした。</translation>
     </message>

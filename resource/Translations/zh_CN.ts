@@ -1768,6 +1768,10 @@
         <translation>松开按钮前，系统音频服务停止</translation>
     </message>
     <message>
+        <source>The text is too long: %1 of its %2 characters fit.</source>
+        <translation>文字过长：共 %2 个字符，只容得下前 %1 个。</translation>
+    </message>
+    <message>
         <source>The upgrade program %1 could not be started.</source>
         <translation>无法启动升级程序 %1。</translation>
     </message>

@@ -1768,6 +1768,10 @@
         <translation>放開按鈕前，系統音訊服務停止</translation>
     </message>
     <message>
+        <source>The text is too long: %1 of its %2 characters fit.</source>
+        <translation>文字過長：共 %2 個字元，只容得下前 %1 個。</translation>
+    </message>
+    <message>
         <source>The upgrade program %1 could not be started.</source>
         <translation>無法啟動升級程式 %1。</translation>
     </message>

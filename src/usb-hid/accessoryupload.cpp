@@ -38,7 +38,7 @@ int textProgress(int index, int total)
 }
 
 constexpr UploadKind kAnimation{6, 5, false, 182208, 0.7, true, animationProgress};
-constexpr UploadKind kText{24, 4, true, 780078, 1.0, false, textProgress};
+constexpr UploadKind kText{24, 4, true, kTextMemory, 1.0, false, textProgress};
 
 std::mutex s_stopMutex;
 std::stop_source s_stop; // of the uploads that were asked for since the last stop

@@ -14,6 +14,9 @@
 // file it is -1. True is returned when every report went out. A stop ends an upload within a chunk or a wait of it;
 // then it reports nothing more.
 
+/// Cells that the device keeps of an uploaded text.
+inline constexpr int kTextMemory = 780078;
+
 inline constexpr int kProgressEnd = 100;
 inline constexpr int kProgressFailed = -1;
 
@@ -25,7 +28,7 @@ std::stop_token uploadStop();
 bool uploadAnimation(const QString &fileName, std::uint8_t mode, const std::function<void(int)> &progress,
                      const std::stop_token &stop = uploadStop());
 
-/// Uploads a rendered text, at most 822 frames of 949 cells. progress runs to 100 twice: through the waits, then
+/// Uploads a rendered text, at most kTextMemory cells. progress runs to 100 twice: through the waits, then
 /// through the chunks. Ends when the device is away.
 bool uploadText(const QString &fileName, const std::function<void(int)> &progress,
                 const std::stop_token &stop = uploadStop());

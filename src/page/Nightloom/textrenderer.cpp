@@ -1,23 +1,28 @@
 #include "page/Nightloom/textrenderer.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include <QFont>
-#include <QFontMetrics>
+#include <QFontMetricsF>
 #include <QPainter>
+#include <QTextBoundaryFinder>
+#include <QTextLayout>
 
 #include "ledmatrix/matrixform.h"
 #include "ledmatrix/matrixgeometry.h"
+#include "usb-hid/accessoryupload.h"
 
 namespace {
 
-constexpr int kFineness = 2;        // pixels of the strip a cell: rows of the tapering form lie half a cell apart
-constexpr int kLitFrom = 4 * 110;   // of the four pixels' brightness, 0 to 255 each
-constexpr int kHeldFrames = 20;     // that each piece of a standing text stays
-constexpr int kWidestText = 100000; // cells; nobody reads longer ones
+constexpr int kFineness = 2;      // pixels of the strip a cell: rows of the tapering form lie half a cell apart
+constexpr int kLitFrom = 4 * 110; // of the four pixels' brightness, 0 to 255 each
+constexpr int kLongestHold = 20;  // frames that a piece of a standing text stays
+constexpr int kSeenFrames = 3;    // that every letter is on the matrix at least, or nobody could read it
+constexpr qsizetype kLongestText = 500;
 
 /// Where the text stands and how: the tapering form is wide enough near its top only, and thin stems would fall between
-/// its cells.
+/// its cells. A standing text is smaller there, or hardly two letters stood side by side.
 struct TextBand
 {
     int top; ///< row
@@ -26,48 +31,152 @@ struct TextBand
     QFont::Weight weight;
 };
 
-constexpr TextBand bandOf(int form)
+constexpr TextBand bandOf(int form, TextMotion motion)
 {
-    return form == kTaperingForm ? TextBand{3, 20, 14, QFont::Bold} : TextBand{0, 25, 19, QFont::Medium};
+    if (form == kRectangleForm)
+        return {0, 25, 19, QFont::Medium};
+    return motion == TextMotion::Standing ? TextBand{1, 15, 12, QFont::Bold} : TextBand{3, 20, 14, QFont::Bold};
+}
+
+QFont fontOf(const TextBand &band)
+{
+    QFont font;
+    font.setPixelSize(band.pixels * kFineness);
+    font.setWeight(band.weight);
+    return font;
+}
+
+struct Span
+{
+    int left;
+    int width;
+};
+
+/// What every row of the text's band has, in pixels of the strip: a letter that reached beyond would lose a corner.
+Span wholeRows(int form, const TextBand &band)
+{
+    const auto rows = matrixRows(form);
+    int left = 0;
+    int right = matrixColumns(form) * kFineness;
+    for (int row = band.top; row < band.top + band.rows; ++row) {
+        const int shift = matrixRowShift(form, row);
+        left = std::max(left, shift);
+        right = std::min(right, shift + rows[static_cast<std::size_t>(row)].cells * kFineness);
+    }
+    return {left, right - left};
+}
+
+/// The text as one line: what would end it is a blank.
+QString onOneLine(QString text)
+{
+    for (QChar &character : text) {
+        const QChar::Category category = character.category();
+        if (category == QChar::Other_Control || category == QChar::Separator_Line ||
+            category == QChar::Separator_Paragraph)
+            character = QLatin1Char(' ');
+    }
+    return text;
+}
+
+/// The beginning of a text that is long enough to be laid out; it ends between two letters.
+QString beginning(const QString &text)
+{
+    if (text.size() <= kLongestText)
+        return text;
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
+    finder.setPosition(kLongestText);
+    const qsizetype end = finder.isAtBoundary() ? kLongestText : finder.toPreviousBoundary();
+    return text.first(end > 0 ? end : kLongestText); // one letter with marks without end
+}
+
+int countLetters(const QString &text)
+{
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
+    int letters = 0;
+    while (finder.toNextBoundary() > 0)
+        ++letters;
+    return letters;
 }
 
 } // namespace
 
-TextRenderer::TextRenderer(int form, const QString &text, TextMotion motion)
-    : m_form(form), m_motion(motion), m_columns(matrixColumns(form))
+int TextRenderer::frameLimit(int form)
 {
-    if (text.isEmpty() || m_columns == 0)
-        return;
-    drawStrip(text);
-    countFrames();
+    const int cells = matrixCells(form);
+    return cells == 0 ? 0 : kTextMemory / cells;
 }
 
-void TextRenderer::drawStrip(const QString &text)
+TextRenderer::TextRenderer(int form, const QString &text, TextMotion motion)
+    : m_form(form), m_motion(motion), m_columns(matrixColumns(form)), m_letters(countLetters(text))
 {
-    const TextBand band = bandOf(m_form);
-    QFont font;
-    font.setPixelSize(band.pixels * kFineness);
-    font.setWeight(band.weight);
-    const QString line = QString(text).replace(QLatin1Char('\n'), QLatin1Char(' '));
-    const int pixels = QFontMetrics(font).horizontalAdvance(line);
-    m_width = std::clamp((pixels + kFineness - 1) / kFineness, 1, kWidestText);
-    m_strip = QImage(m_width * kFineness, band.rows * kFineness, QImage::Format_Grayscale8);
+    if (!text.isEmpty() && m_columns != 0)
+        layOut(onOneLine(beginning(text)));
+}
+
+/// Draws the text onto the strip: its pieces one after the other, each as wide as the matrix, or all of it at once.
+void TextRenderer::layOut(const QString &text)
+{
+    const bool standing = m_motion == TextMotion::Standing;
+    const int limit = frameLimit(m_form);
+    const TextBand band = bandOf(m_form, m_motion);
+    const Span whole = wholeRows(m_form, band);
+    const int mostLines = standing ? limit / kSeenFrames : 1;
+    const int widest = standing ? whole.width : (limit * (m_columns / kSeenFrames) - m_columns) * kFineness;
+
+    QTextLayout layout(text, fontOf(band));
+    QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    while (layout.lineCount() < mostLines) {
+        QTextLine line = layout.createLine();
+        if (!line.isValid())
+            break;
+        line.setLineWidth(widest);
+    }
+    layout.endLayout();
+    const int lines = layout.lineCount();
+    const QTextLine last = layout.lineAt(lines - 1);
+    m_lettersShown = countLetters(text.first(last.textStart() + last.textLength()));
+
+    const int natural = static_cast<int>(std::ceil(std::min<qreal>(last.naturalTextWidth(), widest)));
+    m_width = std::max(1, (natural + kFineness - 1) / kFineness);
+    m_strip =
+        QImage((standing ? lines * m_columns : m_width) * kFineness, band.rows * kFineness, QImage::Format_Grayscale8);
     m_strip.fill(Qt::black);
     QPainter painter(&m_strip);
-    painter.setFont(font);
     painter.setPen(Qt::white);
-    painter.drawText(m_strip.rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, line);
+    for (int i = 0; i < lines; ++i)
+        drawLine(painter, layout.lineAt(i), standing ? i * m_columns * kFineness + whole.left : 0,
+                 standing ? whole.width : m_width * kFineness);
+    countFrames(lines);
 }
 
-void TextRenderer::countFrames()
+/// Draws a line into the middle of a room of the strip, in pixels. A single letter that is wider than all of the room
+/// is squeezed into it.
+void TextRenderer::drawLine(QPainter &painter, const QTextLine &line, int left, int width) const
 {
+    const QFontMetricsF metrics(fontOf(bandOf(m_form, m_motion)));
+    const QRectF natural = line.naturalTextRect();
+    const qreal squeeze = std::min(1.0, width / std::max(1.0, natural.width()));
+    const qreal baseline = std::round((m_strip.height() - metrics.height()) / 2 + metrics.ascent());
+    painter.save();
+    painter.translate(std::round(left + (width - natural.width() * squeeze) / 2), baseline - line.ascent());
+    painter.scale(squeeze, 1);
+    line.draw(&painter, -natural.topLeft());
+    painter.restore();
+}
+
+void TextRenderer::countFrames(int pieces)
+{
+    const int limit = frameLimit(m_form);
     if (m_motion == TextMotion::Standing) {
-        const int pieces = (m_width + m_columns - 1) / m_columns;
-        m_frames = pieces == 1 ? 1 : std::min(pieces * kHeldFrames, kMaximumFrames);
+        m_hold = std::clamp(limit / pieces, kSeenFrames, kLongestHold);
+        m_frames = pieces == 1 ? 1 : pieces * m_hold;
         return;
     }
     const int way = m_width + m_columns; // from beyond one edge to beyond the other
-    m_step = (way + kMaximumFrames - 1) / kMaximumFrames;
+    m_step = (way + limit - 1) / limit;
     m_frames = (way + m_step - 1) / m_step;
 }
 
@@ -82,7 +191,7 @@ int TextRenderer::windowOf(int index) const
     case TextMotion::Standing:
         break;
     }
-    return m_width <= m_columns ? -(m_columns - m_width) / 2 : index / kHeldFrames * m_columns;
+    return index / m_hold * m_columns;
 }
 
 int TextRenderer::fullestFrame() const
@@ -96,7 +205,7 @@ int TextRenderer::fullestFrame() const
 MatrixFrame TextRenderer::frame(int index) const
 {
     MatrixFrame frame(m_form);
-    const TextBand band = bandOf(m_form);
+    const TextBand band = bandOf(m_form, m_motion);
     const int window = windowOf(index) * kFineness;
     const auto rows = matrixRows(m_form);
     for (int row = band.top; row < band.top + band.rows; ++row) {

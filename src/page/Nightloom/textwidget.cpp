@@ -3,10 +3,12 @@
 #include <QButtonGroup>
 #include <QDebug>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
 
+#include "controls/sharedfonts.h"
 #include "ledmatrix/matrixform.h"
 #include "page/Nightloom/matrixeditor.h"
 #include "page/Nightloom/toolcolumn.h"
@@ -15,16 +17,15 @@
 
 namespace {
 
-constexpr int kLongestText = 500;
 constexpr const char *kMotionLabels[] = {LABEL("Scroll Left"), LABEL("Scroll Right"), LABEL("Standing")};
 
 } // namespace
 
 TextWidget::TextWidget(BoundTexts &texts, QWidget *parent)
-    : QWidget(parent), m_shown(m_form, {}, m_motion), m_input(new QLineEdit(this)), m_stage(new QScrollArea(this))
+    : QWidget(parent), m_shown(m_form, {}, m_motion), m_input(new QLineEdit(this)), m_stage(new QScrollArea(this)),
+      m_fit(new QLabel(this))
 {
     m_input->setObjectName(QStringLiteral("text"));
-    m_input->setMaxLength(kLongestText);
     m_input->setFixedHeight(40);
     texts.bind(LABEL("Text"), [this](const QString &text) { m_input->setAccessibleName(text); });
     texts.bind(LABEL("Write here what the matrix shall show."),
@@ -64,7 +65,11 @@ void TextWidget::buildMotions(BoundTexts &texts, QHBoxLayout *row)
         row->addWidget(button);
         m_motions.push_back(button);
     }
-    row->addStretch(1);
+    m_fit->setObjectName(QStringLiteral("notice"));
+    m_fit->setFont(noteFont);
+    m_fit->setWordWrap(true);
+    m_fit->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    row->addWidget(m_fit, 1);
     m_motions.front()->setChecked(true);
 }
 
@@ -114,9 +119,24 @@ void TextWidget::onTextChanged()
     const bool playing = m_player.isPlaying();
     m_player.stop();
     m_shown = renderer(m_form, text(), m_motion);
+    showFit();
     showFrame(m_shown.fullestFrame());
     if (playing)
         m_player.play(m_shown.frameCount());
+}
+
+/// Before a save, which takes no more either.
+void TextWidget::showFit()
+{
+    const QString text = QObject::tr("The text is too long: %1 of its %2 characters fit.");
+    const bool all = m_shown.lettersShown() == m_shown.letters();
+    m_fit->setText(all || m_shown.frameCount() == 0 ? QString()
+                                                    : text.arg(m_shown.lettersShown()).arg(m_shown.letters()));
+}
+
+QString TextWidget::fit() const
+{
+    return m_fit->text();
 }
 
 void TextWidget::showFrame(int index)
@@ -149,6 +169,7 @@ bool TextWidget::startJob()
 
 void TextWidget::updateControlText()
 {
+    showFit();
     if (m_preview)
         m_preview->updateControlText();
 }

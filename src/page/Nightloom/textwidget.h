@@ -11,6 +11,7 @@
 class BoundTexts;
 class MatrixEditor;
 class QHBoxLayout;
+class QLabel;
 class QLineEdit;
 class QPushButton;
 class QScrollArea;
@@ -24,6 +25,8 @@ public:
     ~TextWidget() override;
 
     QLineEdit *input() const { return m_input; }
+    /// What is said about how much of the text fits; empty when all of it does.
+    QString fit() const;
     /// Null while the matrix form is none.
     MatrixEditor *preview() const { return m_preview; }
     FramePlayer &player() { return m_player; }
@@ -56,6 +59,7 @@ private:
     void buildMotions(BoundTexts &texts, QHBoxLayout *row);
     void followMatrixForm();
     void onTextChanged();
+    void showFit();
     void showFrame(int index);
 
     int m_form = -1;
@@ -63,8 +67,10 @@ private:
     TextRenderer m_shown; ///< what the preview shows
     QLineEdit *m_input;
     QScrollArea *m_stage;
+    QLabel *m_fit;
     MatrixEditor *m_preview = nullptr;
     std::vector<QPushButton *> m_motions;
+
     FramePlayer m_player;
     std::unique_ptr<WorkerThread> m_job; ///< the latest
 };
