@@ -156,10 +156,11 @@ void TextRenderer::layOut(const QString &text)
 /// is squeezed into it.
 void TextRenderer::drawLine(QPainter &painter, const QTextLine &line, int left, int width) const
 {
-    const QFontMetricsF metrics(fontOf(bandOf(m_form, m_motion)));
+    // By what letters reach, from accent to tail: a font's own height would push the tails out of the band.
+    const QRectF reach = QFontMetricsF(fontOf(bandOf(m_form, m_motion))).tightBoundingRect(QStringLiteral("Ágjy"));
     const QRectF natural = line.naturalTextRect();
     const qreal squeeze = std::min(1.0, width / std::max(1.0, natural.width()));
-    const qreal baseline = std::round((m_strip.height() - metrics.height()) / 2 + metrics.ascent());
+    const qreal baseline = std::round((m_strip.height() - reach.height()) / 2 - reach.top());
     painter.save();
     painter.translate(std::round(left + (width - natural.width() * squeeze) / 2), baseline - line.ascent());
     painter.scale(squeeze, 1);
