@@ -30,6 +30,7 @@ private Q_SLOTS:
     void longestHistory();
     void unfinishedStrokeIsKept();
     void keyboardReachesTheCells();
+    void onlyKeysScroll();
     void previewAndOnionSkin();
     void eachFormHasItsAnimation();
 };
@@ -159,6 +160,24 @@ void TestCanvas::keyboardReachesTheCells()
         QTest::keyClick(editor, redo, Qt::ControlModifier | shift);
         QCOMPARE(litCells(*editor), 1);
     }
+}
+
+/// A press at the edge of what is seen draws where the pen is; a key brings the cell that it goes to into sight.
+void TestCanvas::onlyKeysScroll()
+{
+    const auto page = makePage(kRectangleForm);
+    page->tabs()->setCellSize(20);
+    QCoreApplication::processEvents();
+    MatrixEditor *editor = page->tabs()->currentEditor();
+    const QPoint pen(editor->parentWidget()->width() - 3, 205);
+    QVERIFY(editor->width() > pen.x() + 100);
+    QTest::mousePress(editor, Qt::LeftButton, {}, pen);
+    QCOMPARE(editor->x(), 0);
+    QTest::mouseRelease(editor, Qt::LeftButton, {}, pen);
+    QCOMPARE(litCells(*editor), 1);
+    QTest::keyClick(editor, Qt::Key_Right);
+    QVERIFY(editor->x() < 0);
+    QTest::mousePress(editor, Qt::LeftButton, {}, pen); // and the page goes before the button is released
 }
 
 void TestCanvas::previewAndOnionSkin()

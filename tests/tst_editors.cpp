@@ -2,6 +2,7 @@
 #include <QtTest>
 
 #include "ledmatrix/matrixform.h"
+#include "page/Nightloom/animationhistory.h"
 #include "support/datarow.h"
 #include "support/matrixcells.h"
 #include "support/textfile.h"
@@ -141,6 +142,11 @@ void TestEditors::fastMouseSkipsNoCell()
     editor.clearFrame();
     drag(editor, middle(editor, {0, 0}), QPoint(4000, 5)); // far beyond the edge
     QCOMPARE(litCells(editor), 25);
+    for (const int to : {9, 5}) { // the press puts a cell out, which only the mouse that comes back to it lights again
+        editor.setFrame(toFrame(QBitArray(949, true), kTaperingForm).flat());
+        drag(editor, middle(editor, {0, 5}), middle(editor, {0, to}) + QPoint(2, 0));
+        QCOMPARE(editor.frame().cell(0, 5), to == 5 ? 1 : 0);
+    }
 }
 
 void TestEditors::keyboardCursor()

@@ -118,7 +118,10 @@ void MatrixEditor::mousePressEvent(QMouseEvent *event)
     m_pressed = true;
     m_lastPoint = point;
     toggle(*cell);
-    moveCursor(*cell);
+    m_putOut.reset();
+    if (m_frame.cell(cell->row, cell->column) == 0)
+        m_putOut = cell;
+    placeCursor(*cell);
 }
 
 void MatrixEditor::mouseMoveEvent(QMouseEvent *event)
@@ -128,17 +131,21 @@ void MatrixEditor::mouseMoveEvent(QMouseEvent *event)
     if (!(event->buttons() & Qt::LeftButton))
         return finishStroke(); // it was released where nobody told
     const QPoint point = event->position().toPoint();
-    drawLine(m_lastPoint, point);
+    drawBetween(m_lastPoint, point);
+    if (const auto cell = m_geometry.cellAt(point))
+        setCell(*cell, 1);
     m_lastPoint = point;
 }
 
-/// A fast mouse reports only some points of its way: every cell between two of them is lit as well.
-void MatrixEditor::drawLine(QPoint from, QPoint to)
+/// A fast mouse reports only some points of its way: every cell between two of them is lit as well. The one that the
+/// press put out stays out until the mouse is reported there.
+void MatrixEditor::drawBetween(QPoint from, QPoint to)
 {
     const QPoint way = to - from;
-    const int steps = std::max({std::abs(way.x()), std::abs(way.y()), 1});
-    for (int step = 1; step <= steps; ++step) {
-        if (const auto cell = m_geometry.cellAt(from + way * step / steps))
+    const int steps = std::max(std::abs(way.x()), std::abs(way.y()));
+    for (int step = 1; step < steps; ++step) {
+        const auto cell = m_geometry.cellAt(from + way * step / steps);
+        if (cell && cell != m_putOut)
             setCell(*cell, 1);
     }
 }
@@ -155,13 +162,13 @@ void MatrixEditor::keyPressEvent(QKeyEvent *event)
         return QLabel::keyPressEvent(event);
     switch (event->key()) {
     case Qt::Key_Left:
-        return moveCursor(m_geometry.neighbour(m_cursor, -1, 0));
+        return moveCursor(-1, 0);
     case Qt::Key_Right:
-        return moveCursor(m_geometry.neighbour(m_cursor, 1, 0));
+        return moveCursor(1, 0);
     case Qt::Key_Up:
-        return moveCursor(m_geometry.neighbour(m_cursor, 0, -1));
+        return moveCursor(0, -1);
     case Qt::Key_Down:
-        return moveCursor(m_geometry.neighbour(m_cursor, 0, 1));
+        return moveCursor(0, 1);
     case Qt::Key_Space:
         if (!mayDraw() || event->isAutoRepeat() || m_pressed)
             return;
@@ -172,7 +179,7 @@ void MatrixEditor::keyPressEvent(QKeyEvent *event)
     }
 }
 
-void MatrixEditor::moveCursor(MatrixCell cell)
+void MatrixEditor::placeCursor(MatrixCell cell)
 {
     if (cell == m_cursor)
         return;
@@ -180,6 +187,11 @@ void MatrixEditor::moveCursor(MatrixCell cell)
     m_cursor = cell;
     updateCell(m_cursor);
     describeCursor();
+}
+
+void MatrixEditor::moveCursor(int columns, int rows)
+{
+    placeCursor(m_geometry.neighbour(m_cursor, columns, rows));
     Q_EMIT cursorMoved(m_geometry.cellRect(m_cursor));
 }
 

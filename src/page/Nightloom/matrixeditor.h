@@ -52,7 +52,8 @@ public:
 Q_SIGNALS:
     /// A stroke or a key has changed the frame.
     void edited();
-    /// The cursor went to another cell.
+    /// A key took the cursor to this cell, which wants to be seen. A press does not tell: what scrolls would take the
+    /// drawing away under the pen.
     void cursorMoved(const QRect &cell);
 
 protected:
@@ -74,8 +75,9 @@ private:
     bool mayDraw() const { return m_editable && !m_shownInstead; }
     void setCell(MatrixCell cell, std::int32_t value);
     void toggle(MatrixCell cell);
-    void drawLine(QPoint from, QPoint to);
-    void moveCursor(MatrixCell cell);
+    void drawBetween(QPoint from, QPoint to);
+    void placeCursor(MatrixCell cell);
+    void moveCursor(int columns, int rows);
     void describeCursor();
     void updateCell(MatrixCell cell);
     void drawRow(QPainter &painter, int row, const QRect &area) const;
@@ -89,8 +91,9 @@ private:
     QString m_dataFile;
     bool m_editable = true;
     bool m_pressed = false;
-    bool m_strokeChanged = false; ///< whether the stroke has changed a cell yet
-    QPoint m_lastPoint;           ///< of the stroke
+    bool m_strokeChanged = false;       ///< whether the stroke has changed a cell yet
+    QPoint m_lastPoint;                 ///< of the stroke
+    std::optional<MatrixCell> m_putOut; ///< by the stroke's press
 };
 
 /// The editor of the tapering form.

@@ -46,6 +46,7 @@ pageLEDMatrixCanvas::pageLEDMatrixCanvas(AccessoryCheck ensureConnected, QWidget
 
 pageLEDMatrixCanvas::~pageLEDMatrixCanvas()
 {
+    endStrokes();  // the cells, which go last, would end it in a page that is gone
     stopUploads(); // the window would wait for them
     m_thread.wait();
 }
