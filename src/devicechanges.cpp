@@ -16,9 +16,19 @@ constexpr platform::Guid kHidClass = {0x4D1E55B2, 0xF16F, 0x11CF, {0x88, 0xCB, 0
 constexpr platform::Guid kMonitorClass = {0xE6F07B5F, 0xEE97, 0x4A90, {0xB0, 0x76, 0x33, 0xF5, 0x7B, 0xF4, 0xEA, 0xA7}};
 constexpr int kMonitorArrivalDelay = 1000; // ms: the display set-up changes for a while
 
-bool isInterface(const platform::DeviceBroadcast *broadcast)
+/// 0 for a broadcast that is not there, or too short to have a type.
+std::uint32_t typeOf(const platform::DeviceBroadcast *broadcast)
 {
-    return broadcast && broadcast->deviceType == platform::kDeviceTypeInterface;
+    return broadcast && broadcast->size >= sizeof(platform::DeviceBroadcast) ? broadcast->deviceType : 0;
+}
+
+/// The class of a device-interface broadcast; null for any other, and for one that is too short to hold it.
+const platform::Guid *interfaceClassOf(const platform::DeviceBroadcast *broadcast)
+{
+    if (typeOf(broadcast) != platform::kDeviceTypeInterface ||
+        broadcast->size < sizeof(platform::DeviceInterfaceBroadcast))
+        return nullptr;
+    return &reinterpret_cast<const platform::DeviceInterfaceBroadcast *>(broadcast)->interfaceClass;
 }
 
 } // namespace
@@ -46,28 +56,29 @@ bool SearchDeviceDlg::nativeEvent(const QByteArray &eventType, void *message, qi
 
 void SearchDeviceDlg::handleRemoval(const platform::DeviceBroadcast *broadcast)
 {
-    qDebug() << "devicetype=" << (broadcast ? broadcast->deviceType : 0) << "Device Remove";
+    qDebug() << "devicetype=" << typeOf(broadcast) << "Device Remove";
     if (!m_host)
         return;
     m_host->deviceRemoved();
-    if (isInterface(broadcast))
+    if (interfaceClassOf(broadcast))
         m_host->deviceRemoved(); // the interface goes after the device itself
 }
 
 void SearchDeviceDlg::handleArrival(const platform::DeviceBroadcast *broadcast)
 {
     qDebug() << "Device Arrival\r";
-    if (!isInterface(broadcast))
+    const platform::Guid *arrived = interfaceClassOf(broadcast);
+    if (!arrived)
         return;
     if (m_host)
         m_host->deviceArrived();
-    const platform::Guid &arrived =
-        reinterpret_cast<const platform::DeviceInterfaceBroadcast *>(broadcast)->interfaceClass;
-    if (arrived == kHidClass) {
+    // The accessory comes as itself and as a HID device, whichever is told first: what was found and opened before is
+    // not what arrived now, so the lookup may not answer from memory.
+    if (*arrived == kAccessoryClass || *arrived == kHidClass) {
         clearHidFlags();
         if (m_host)
             m_host->reopenHidDevice();
     }
-    if (arrived == kMonitorClass)
+    if (*arrived == kMonitorClass)
         requestSearchAfter(kMonitorArrivalDelay);
 }
