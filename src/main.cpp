@@ -7,28 +7,18 @@
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/loghandler.h"
 #include "ddc_protocol/settingsstore.h"
+#include "elevation.h"
 #include "globalapplication.h"
+#include "loading.h"
 #include "mainwindow.h"
 #include "platform/deskfactory.h"
 #include "searchdevicedlg.h"
 #include "singleapplication.h"
+#include "workingfolder.h"
 
 namespace {
 
-constexpr char kElevatedArgument[] = "runas";
-constexpr std::intptr_t kShellSuccess = 32; // results above it
 constexpr platform::milliseconds kStartUpWait{1000};
-
-/// Whether a copy with administrator rights was started in this one's place.
-bool handedToElevatedCopy(int argc, char **argv)
-{
-    platform::Process &process = platform::desk().process();
-    if (process.isUserAnAdmin())
-        return false;
-    if (argc > 1 && qstrcmp(argv[1], kElevatedArgument) == 0)
-        return false; // this is the copy: asking again would never end
-    return process.shellExecuteRunas(process.ownFile(), QLatin1String(kElevatedArgument)) > kShellSuccess;
-}
 
 void loadInterfaceFont()
 {
@@ -74,8 +64,10 @@ int main(int argc, char *argv[])
 {
     const std::unique_ptr<platform::Desk> desk = platform::createDesk();
     platform::installDesk(desk.get());
+    hardenLoading(argc, argv);
     if (handedToElevatedCopy(argc, argv))
         return 0;
+    settleWorkingFolder(); // before anything is read from or written to it
 
     SingleApplication application(argc, argv);
     qInstallMessageHandler(logMessageHandler);
@@ -86,7 +78,7 @@ int main(int argc, char *argv[])
     desk->clock().sleep(kStartUpWait);
 
     const platform::NamedMutex mutex = desk->process().createMutex(QStringLiteral("QUORVEL"));
-    if (mutex.error == platform::kErrorAlreadyExists) {
+    if (SingleApplication::isNameTaken(mutex)) {
         desk->process().closeHandle(mutex.handle);
         showMessage(QMessageBox::Information, QObject::tr("Information"), QObject::tr("Application is already running"),
                     QObject::tr("OK"));

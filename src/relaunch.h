@@ -1,4 +1,10 @@
 #pragma once
 
-/// Starts a detached copy of the program with the same arguments, then quits the event loop.
-void relaunchAndQuit();
+class QString;
+
+/// Starts a detached copy of the program with the same arguments, then quits the event loop. False when the copy could
+/// not be started: the log says so, and the program goes on as it was.
+[[nodiscard]] bool relaunchAndQuit();
+
+/// What the user is told then, translated.
+QString notRestarted();

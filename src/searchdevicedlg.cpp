@@ -7,6 +7,7 @@
 #include <QDebug>
 #include <QHBoxLayout>
 #include <QScopeGuard>
+#include <QScopedValueRollback>
 
 #include "controls/messagebox.h"
 #include "ddc_protocol/displayenumeration.h"
@@ -164,7 +165,8 @@ void SearchDeviceDlg::delayedSearchDevices()
     qDebug() << "delayedSearchDevices: Reloader EDID Type:" << reason;
     if (reason == kRestartProgram) {
         settingsInt(QString::fromLatin1(kRestartKey), 1, true);
-        relaunchAndQuit();
+        if (!relaunchAndQuit())
+            goOnWithoutCopy();
     } else {
         searchDevices();
     }
@@ -197,5 +199,32 @@ void SearchDeviceDlg::onCurrentDeviceChanged(int index)
     if (m_fillingBox || index < 0)
         return;
     settingsInt(QString::fromLatin1(kDeviceIndexKey), index, true);
-    relaunchAndQuit(); // everything shown belongs to the monitor before, down to the entries of the left bars
+    // Everything shown belongs to the monitor before, down to the entries of the left bars.
+    if (relaunchAndQuit())
+        return;
+    settingsInt(QString::fromLatin1(kDeviceIndexKey), currentMonitorIndex, true);
+    m_fillingBox = true;
+    m_deviceBox->setCurrentIndex(currentMonitorIndex);
+    m_fillingBox = false;
+    tellNotRestarted();
+}
+
+/// No copy takes this one's place, so this one reads what the copy would have read.
+void SearchDeviceDlg::goOnWithoutCopy()
+{
+    reloadEdidType = kIdle; // a search that the reading lets in must not try it again
+    settingsInt(QString::fromLatin1(kRestartKey), 0, true);
+    {
+        const QScopedValueRollback searching(m_searching, true);
+        if (readDataFromDevice() && m_host)
+            m_host->refreshPages();
+    }
+    if (m_host)
+        m_host->showWindow(); // whoever asked for a new start may have hidden it
+    tellNotRestarted();
+}
+
+void SearchDeviceDlg::tellNotRestarted()
+{
+    showMessage(QMessageBox::Warning, QObject::tr("Warning"), notRestarted(), QObject::tr("OK"));
 }

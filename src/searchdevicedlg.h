@@ -49,6 +49,9 @@ protected:
     /// Says that the display cannot be used and ends the process with code 0.
     virtual void exitUnsupported();
 
+    /// Says that no copy of the program could be started in this one's place.
+    virtual void tellNotRestarted();
+
 private Q_SLOTS:
     void onCurrentDeviceChanged(int index);
 
@@ -62,6 +65,7 @@ private:
     bool readForReason();
     void requestSearchAfter(int delay);
     void requestReconnect();
+    void goOnWithoutCopy();
     void registerNotifications();
     void handleArrival(const platform::DeviceBroadcast *broadcast);
     void handleRemoval(const platform::DeviceBroadcast *broadcast);

@@ -6,8 +6,13 @@
 #include <QLocalSocket>
 #include <QTextStream>
 
+#include "platform/desk.h"
+
 static constexpr int kConnectTimeout = 500; // ms
 static constexpr int kWriteTimeout = 30000; // ms
+static constexpr int kMostConnections = 8;
+static constexpr qint64 kMostBytes = 64 * 1024; // more than an argument has
+static constexpr platform::milliseconds kConnectionLife{1000};
 
 SingleApplication::SingleApplication(int &argc, char **argv) : QApplication(argc, argv)
 {
@@ -49,7 +54,30 @@ void SingleApplication::becomeServer()
 void SingleApplication::newLocalConnection()
 {
     while (QLocalSocket *connection = m_localServer->nextPendingConnection()) {
+        if (m_localServer->findChildren<QLocalSocket *>().size() > kMostConnections) {
+            delete connection;
+            continue;
+        }
+        connection->setReadBufferSize(kMostBytes);
         connect(connection, &QLocalSocket::disconnected, connection, &QObject::deleteLater);
+        platform::desk().clock().callLater(kConnectionLife, connection, [connection] { connection->deleteLater(); });
         Q_EMIT anotherInstanceStarted();
     }
+}
+
+bool SingleApplication::isNameTaken(const platform::NamedMutex &name)
+{
+    return name.error == platform::kErrorAlreadyExists || (name.error == platform::kErrorAccessDenied && !name.handle);
+}
+
+void SingleApplication::stopServing()
+{
+    if (m_localServer)
+        m_localServer->close();
+}
+
+void SingleApplication::serveAgain()
+{
+    if (m_localServer)
+        m_localServer->listen(applicationName());
 }

@@ -16,14 +16,18 @@ using virtualdesk::kForEver;
 
 namespace {
 
+constexpr platform::Guid kAccessoryClass{0xE6327CAD, 0xDCEC, 0x4949, {0xAE, 0x8A, 0x99, 0x1E, 0x97, 0x6A, 0x79, 0xD2}};
+
 /// A session that says so instead of ending the process.
 class Session : public SearchDeviceDlg
 {
 public:
     int exits = 0;
+    int notRestarted = 0;
 
 protected:
     void exitUnsupported() override { ++exits; }
+    void tellNotRestarted() override { ++notRestarted; }
 };
 
 /// A main window that keeps what it was asked for.
@@ -64,13 +68,10 @@ private Q_SLOTS:
     void passes_data();
     void passes();
     void noMonitorEndsTheProgram();
-    void storedIndexOnLaterSearches_data();
     void storedIndexOnLaterSearches();
     void reasons_data();
     void reasons();
-    void secondSearchIsRefused();
     void arrivalDuringTheStartUpRead();
-    void sceneReads_data();
     void sceneReads();
     void brokenBlockSchedulesReconnect();
     void deviceMessages();
@@ -187,24 +188,17 @@ void TestSession::noMonitorEndsTheProgram()
     QCOMPARE(m_desk->takeLog().filter("Connet device Count=").size(), 1);
 }
 
-void TestSession::storedIndexOnLaterSearches_data()
-{
-    columns<int, bool, int>("stored", "clone", "used");
-    QTest::newRow("beyond") << 2 << false << 0;
-    QTest::newRow("only the low byte counts") << 257 << false << 1;
-    QTest::newRow("clone mode") << 1 << true << 0;
-}
-
 void TestSession::storedIndexOnLaterSearches()
 {
-    QFETCH(int, stored);
-    QFETCH(bool, clone);
     m_session->searchDevices();
-    settingsInt(kDeviceIndexKey, stored, true);
-    if (clone)
-        m_desk->desk.setPaths(std::vector<platform::DisplayPath>{{1, 1}, {1, 1}});
+    for (const auto &[stored, used] : {std::pair(2, 0), std::pair(257, 1)}) { // beyond the list; its low byte counts
+        settingsInt(kDeviceIndexKey, stored, true);
+        m_session->searchDevices();
+        QCOMPARE(int(currentMonitorIndex), used);
+    }
+    m_desk->desk.setPaths(std::vector<platform::DisplayPath>{{1, 1}, {1, 1}}); // clone mode
     m_session->searchDevices();
-    QTEST(int(currentMonitorIndex), "used");
+    QCOMPARE(int(currentMonitorIndex), 0);
 }
 
 void TestSession::reasons_data()
@@ -229,50 +223,31 @@ void TestSession::reasons()
     QCOMPARE(reloadEdidType.load(), int(kIdle));
 }
 
-void TestSession::secondSearchIsRefused()
-{
-    m_session->setHost(&m_host);
-    m_host.onRefresh = [this] { // somebody searches while this search is at work
-        m_host.onRefresh = {};
-        m_desk->takeLog();
-        m_desk->takeCommands();
-        m_session->searchDevices();
-        QVERIFY(m_desk->takeLog().contains("nativeEvent: Aready searching devices Data!"));
-        QCOMPARE(m_desk->takeCommands(), QStringList());
-    };
-    m_session->searchDevices();
-    QVERIFY(!m_host.onRefresh);
-}
-
 void TestSession::arrivalDuringTheStartUpRead()
 {
     bool arrived = false; // the progress dialog lets such events in
     const int listener = m_desk->monitor().addListener([&](const virtualdesk::Request &request) {
-        if (request.code == 0xEC && !std::exchange(arrived, true))
+        if (request.code == 0xEC && !std::exchange(arrived, true)) {
             m_session->delayedSearchDevices();
+            m_session->searchDevices();
+        }
     });
     m_session->searchDevices();
     m_desk->monitor().removeListener(listener);
+    QCOMPARE(m_desk->takeLog().count("nativeEvent: Aready searching devices Data!"), 2);
     QCOMPARE(m_desk->takeCommands().count("R ed"), 1); // one read, not one within the other
     QCOMPARE(m_session->exits, 0);
     QCOMPARE(reloadEdidType.load(), int(kIdle));
 }
 
-void TestSession::sceneReads_data()
-{
-    columns<int, bool, int>("mode", "result", "commands");
-    QTest::newRow("even") << 12 << true << 12;
-    QTest::newRow("positive odd") << 11 << false << 0;
-    QTest::newRow("negative odd") << -3 << true << 0;
-}
-
 void TestSession::sceneReads()
 {
-    QFETCH(int, mode);
     findDevices();
-    QTEST(m_session->readSceneModeData(mode), "result");
-    QTEST(int(m_desk->takeCommands().size()), "commands");
-    QCOMPARE(deviceState.sceneBlockValid(), mode == 12);
+    for (const auto &[mode, result, commands] : {std::tuple(11, false, 0), {-3, true, 0}, {12, true, 12}}) {
+        QCOMPARE(m_session->readSceneModeData(mode), result);
+        QCOMPARE(int(m_desk->takeCommands().size()), commands);
+        QCOMPARE(deviceState.sceneBlockValid(), mode == 12);
+    }
 }
 
 void TestSession::brokenBlockSchedulesReconnect()
@@ -296,6 +271,8 @@ void TestSession::deviceMessages()
     m_session->searchDevices();
     m_session->setHost(&m_host);
     hidFound = hidOpened = true;
+    m_desk->desk.deliverDeviceMessage(platform::kDeviceArrival, kAccessoryClass);
+    QCOMPARE(m_host.take(), (QStringList{"arrived", "reopen anew"}));
     m_desk->desk.accessory().setPlugged(false);
     QCOMPARE(m_host.take(), (QStringList{"removed", "removed"})); // an interface is told twice
     m_desk->desk.accessory().setPlugged(true);
@@ -319,6 +296,13 @@ void TestSession::deviceMessages()
     QCOMPARE(m_host.take(), QStringList());
     m_session->nativeEvent(platform::kNativeEventType, &other, &result);
     QCOMPARE(m_host.take(), QStringList{"removed"});
+
+    const std::unique_ptr<std::uint32_t[]> cut(new std::uint32_t[3]{12, platform::kDeviceTypeInterface, 0});
+    other.lParam = reinterpret_cast<std::intptr_t>(cut.get()); // an interface broadcast that ends before its class
+    m_session->nativeEvent(platform::kNativeEventType, &other, &result);
+    other.wParam = platform::kDeviceArrival;
+    m_session->nativeEvent(platform::kNativeEventType, &other, &result);
+    QCOMPARE(m_host.take(), QStringList{"removed"});
 }
 
 void TestSession::silentInTheMiddle()
@@ -338,10 +322,24 @@ void TestSession::silentInTheMiddle()
 void TestSession::chosenDeviceIsStoredAndTheProgramRestarts()
 {
     m_session->searchDevices();
+    m_session->setHost(&m_host);
     QCOMPARE(m_desk->desk.started.size(), std::size_t(0)); // filling the box is no choice
+    m_desk->desk.start = [] { return false; };
+    m_session->deviceBox()->setCurrentIndex(1);
+    QCOMPARE(settingsInt(kDeviceIndexKey, 7, false), 0); // what cannot be followed is taken back
+    QCOMPARE(m_session->deviceBox()->currentIndex(), 0);
+    m_desk->takeCommands();
+    reloadEdidType = kRestartProgram;
+    m_session->delayedSearchDevices();
+    QCOMPARE(m_host.take(), (QStringList{"refresh", "show", "update"}));
+    QVERIFY(m_desk->takeCommands().contains("R ed")); // all that the copy would have read
+    QCOMPARE(reloadEdidType.load(), int(kIdle));
+    QCOMPARE(m_session->notRestarted, 2);
+    QCOMPARE(m_desk->desk.quits, 0);
+    m_desk->desk.start = [] { return true; };
     m_session->deviceBox()->setCurrentIndex(1);
     QCOMPARE(settingsInt(kDeviceIndexKey, 0, false), 1);
-    QCOMPARE(m_desk->desk.started.size(), std::size_t(1));
+    QCOMPARE(m_desk->desk.quits, 1);
 }
 
 QTEST_MAIN(TestSession)

@@ -15,6 +15,7 @@
 #include "ddc_protocol/settingsstore.h"
 #include "page/BasicSetting/pagepcsetting.h"
 #include "page/BasicSetting/pageservicessetting.h"
+#include "page/BasicSetting/toollanguage.h"
 #include "support/datarow.h"
 #include "support/sessiondesk.h"
 #include "support/textfile.h"
@@ -73,11 +74,10 @@ private Q_SLOTS:
     void startUpIsReadAnewWhenShown();
     void languages_data();
     void languages();
-    void unwritableConfig();
+    void choicesThatFailAreTakenBack();
     void machineRestarts();
     void declinedOrNoChange();
     void questionBox();
-    void firmwareVersion_data();
     void firmwareVersion();
     void qrCodeByProductLine();
     void knowledgeOpens();
@@ -230,21 +230,30 @@ void TestToolPages::languages()
     QVERIFY(isChecked("Tool language settings_" + button));
 }
 
-void TestToolPages::unwritableConfig()
+void TestToolPages::choicesThatFailAreTakenBack()
 {
     const int shown = machines()->currentIndex();
-    QFile::remove(QStringLiteral("config.ini"));
-    QVERIFY(QDir().mkpath(QStringLiteral("config.ini/full"))); // not even an administrator writes over that
-    press("Tool language settings_日本語");
-    QVERIFY(toolPage().notice().contains("config.ini"));
-    QVERIFY(isChecked("Tool language settings_English"));
-    toolPage().showPanel("Machine Select");
-    QCOMPARE(toolPage().notice(), QString());
-    machines()->setCurrentIndex(1 - shown);
-    QVERIFY(toolPage().notice().contains("config.ini"));
-    QCOMPARE(machines()->currentIndex(), shown);
-    QCOMPARE(int(currentMonitorIndex), shown);
-    QVERIFY(m_desk->desk.started.empty());
+    m_desk->desk.start = [] { return false; };
+    for (const char *complaint : {"could not be restarted", "config.ini"}) {
+        press("Tool language settings_日本語");
+        QVERIFY(toolPage().notice().contains(complaint));
+        QVERIFY(isChecked("Tool language settings_English"));
+        toolPage().showPanel("Machine Select");
+        QCOMPARE(toolPage().notice(), QString());
+        machines()->setCurrentIndex(1 - shown);
+        QVERIFY(toolPage().notice().contains(complaint));
+        QCOMPARE(machines()->currentIndex(), shown);
+        QCOMPARE(int(currentMonitorIndex), shown);
+        QCOMPARE(m_desk->desk.started.size(), std::size_t(2)); // no more when nothing can be stored
+        toolPage().showPanel("General Settings");
+        if (QFile::exists(QStringLiteral("config.ini/full")))
+            continue;
+        QCOMPARE(languageSetting(false), QStringLiteral("en"));
+        QCOMPARE(settingsInt(kDeviceIndexKey, 7, false), shown);
+        QFile::remove(QStringLiteral("config.ini"));
+        QVERIFY(QDir().mkpath(QStringLiteral("config.ini/full"))); // not even an administrator writes over that
+    }
+    QCOMPARE(m_desk->desk.quits, 0);
 }
 
 void TestToolPages::machineRestarts()
@@ -291,20 +300,14 @@ void TestToolPages::questionBox()
     }
 }
 
-void TestToolPages::firmwareVersion_data()
-{
-    columns<int, QString>("reply", "text");
-    row("10 is a", 0x010A, "v1.a");
-    row("16 is 10", 0x0110, "v1.10");
-    row("no answer", -1, "–");
-}
-
 void TestToolPages::firmwareVersion()
 {
-    QFETCH(int, reply);
-    deviceState.clear();
-    deviceState.store(Command::Firmware, reply);
-    QTEST(servicesPage().findChild<QLabel *>("displayVersion")->text(), "text");
+    for (const auto &[reply, text] : {std::pair(0x010A, "v1.a"), {0x0110, "v1.10"}, {-1, "–"}}) {
+        deviceState.clear();
+        deviceState.store(Command::Firmware, reply);
+        servicesPage().updateInterfaceData();
+        QCOMPARE(servicesPage().findChild<QLabel *>("displayVersion")->text(), QString(text));
+    }
 }
 
 void TestToolPages::qrCodeByProductLine()
@@ -338,7 +341,9 @@ void TestToolPages::upgradeArguments_data()
     row("line 2, zh", 2, "zh", "PW zh\n");
     row("line 3, zh_CN", 3, "zh_CN", "EXP zh\n");
     row("no line, another language", 0, "ja_JP", "XB ja_JP\n");
-    row("the system's language", 1, "", "XB " + QLocale::system().name() + QLatin1Char(10));
+    row("English of a country", 1, "en_US", "XB en\n");
+    row("shown in English", 1, "de_DE", "XB en\n");
+    row("the system's language", 1, "", QStringLiteral("XB %1\n").arg(toolLanguageOf(QLocale::system().name()).code));
 }
 
 void TestToolPages::upgradeArguments()

@@ -1728,6 +1728,10 @@
         <translation>The picture as the factory set it.</translation>
     </message>
     <message>
+        <source>The program could not be restarted. It goes on as it was.</source>
+        <translation>The program could not be restarted. It goes on as it was.</translation>
+    </message>
+    <message>
         <source>The program has not registered this combination.</source>
         <translation>The program has not registered this combination.</translation>
     </message>

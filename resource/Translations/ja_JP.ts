@@ -1728,6 +1728,10 @@
         <translation>工場出荷時の画質です。</translation>
     </message>
     <message>
+        <source>The program could not be restarted. It goes on as it was.</source>
+        <translation>プログラムを再起動できませんでした。このまま動作を続けます。</translation>
+    </message>
+    <message>
         <source>The program has not registered this combination.</source>
         <translation>プログラムはこの組み合わせを登録していません。</translation>
     </message>

@@ -1728,6 +1728,10 @@
         <translation>出厂设定的画面。</translation>
     </message>
     <message>
+        <source>The program could not be restarted. It goes on as it was.</source>
+        <translation>程序无法重新启动，将按原样继续运行。</translation>
+    </message>
+    <message>
         <source>The program has not registered this combination.</source>
         <translation>程序未注册该组合键。</translation>
     </message>

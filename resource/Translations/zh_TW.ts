@@ -1728,6 +1728,10 @@
         <translation>原廠設定的畫面。</translation>
     </message>
     <message>
+        <source>The program could not be restarted. It goes on as it was.</source>
+        <translation>程式無法重新啟動，將維持原狀繼續執行。</translation>
+    </message>
+    <message>
         <source>The program has not registered this combination.</source>
         <translation>程式未註冊該組合鍵。</translation>
     </message>

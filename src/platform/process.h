@@ -17,6 +17,10 @@ struct NamedMutex
 /// CreateMutexW's error number for a name that another process already holds (ERROR_ALREADY_EXISTS).
 inline constexpr std::uint32_t kErrorAlreadyExists = 183;
 
+/// Its error number for a name that this process has not the rights to open (ERROR_ACCESS_DENIED); there is no handle
+/// then.
+inline constexpr std::uint32_t kErrorAccessDenied = 5;
+
 /// What the program asks of the system about itself. All calls are made on the interface thread.
 class Process
 {
@@ -29,8 +33,20 @@ public:
     /// The full path of this program's own file, known before there is an application object.
     virtual QString ownFile() = 0;
 
-    /// Starts a file elevated, in a normal window (ShellExecute, verb "runas"). A result above 32 means success.
-    virtual std::intptr_t shellExecuteRunas(const QString &file, const QString &parameters) = 0;
+    /// The folders of Windows itself, with slashes (GetSystemWindowsDirectoryW, GetSystemDirectoryW).
+    virtual QStringList systemFolders() = 0;
+
+    /// The folder of what this user's programs keep on this machine, with slashes (FOLDERID_LocalAppData); empty when
+    /// the system does not tell.
+    virtual QString localDataFolder() = 0;
+
+    /// Looks for libraries beside the program and in the system's folder only, from now on (SetDefaultDllDirectories).
+    /// False on a desk whose program has no rights that a library could borrow: there it may load what its user likes.
+    virtual bool restrictLibraries() = 0;
+
+    /// Starts a file elevated, in a normal window and in a folder (ShellExecute, verb "runas"). A result above 32 means
+    /// success.
+    virtual std::intptr_t shellExecuteRunas(const QString &file, const QString &parameters, const QString &folder) = 0;
 
     /// Creates or opens a machine-wide name (CreateMutexW).
     virtual NamedMutex createMutex(const QString &name) = 0;

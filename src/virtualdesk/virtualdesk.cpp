@@ -14,7 +14,6 @@ namespace virtualdesk {
 namespace {
 
 constexpr std::uint64_t kAdapterId = 0x10001;
-constexpr std::uint32_t kErrorAccessDenied = 5;
 constexpr QSize kPlainScreen(1920, 1080);
 constexpr QSize kSecondScreen(2560, 1440);
 constexpr QLatin1String kMonitorClassText("{e6f07b5f-ee97-4a90-b076-33f57bf4eaa7}");
@@ -356,7 +355,7 @@ platform::NamedMutex VirtualDesk::createMutex(const QString &name)
     std::uint32_t error = 0;
     if (!mutex->lock.tryLock(0)) {
         if (mutex->lock.error() != QLockFile::LockFailedError)
-            return {nullptr, kErrorAccessDenied};
+            return {nullptr, platform::kErrorAccessDenied};
         error = platform::kErrorAlreadyExists;
     }
     void *handle = mutex.get();

@@ -97,10 +97,13 @@ public:
 
     bool administrator = true;
     int runasResult = 42;
+    QStringList systemFolders; ///< none at first
+    /// Whether the program may be told by nobody what to load.
+    bool restrictsLibraries = false;
     /// Whether programs are really started and this one really quits; a test leaves it off.
     bool startsPrograms = false;
-    /// Whether starting a program succeeds.
-    bool startSucceeds = true;
+    /// Starting a program when none is really started: whether it succeeds.
+    std::function<bool()> start = [] { return true; };
     int quits = 0;                        ///< how often this program was asked to end
     std::vector<StartedProgram> started;  ///< detached
     std::vector<StartedProgram> elevated; ///< asked for with "runas"

@@ -205,10 +205,14 @@ void pagePCSetting::changeLanguage(const QString &objectName)
         return;
     const QString code = QLatin1String(language->code);
     if (ask(QObject::tr("Language"), QObject::tr("The APP will restart automatically when switching languages."))) {
+        const QString before = languageSetting(false);
         languageSetting(true, code);
-        if (languageSetting(false) == code)
-            return relaunchAndQuit();
-        showNotice(notWritten());
+        const bool stored = languageSetting(false) == code;
+        if (stored && relaunchAndQuit())
+            return;
+        if (stored)
+            languageSetting(true, before);
+        showNotice(stored ? notRestarted() : notWritten());
     }
     showWhatIsSet();
 }
@@ -219,11 +223,16 @@ void pagePCSetting::onComboxIndexChanged(int nIndex)
         return;
     showNotice({});
     if (ask(QObject::tr("Machine Select"), QObject::tr("The APP will reload data when switching machines."))) {
-        if (storeMachine(nIndex)) {
+        const std::uint8_t before = currentMonitorIndex;
+        const bool stored = storeMachine(nIndex);
+        if (stored) {
             currentMonitorIndex = static_cast<std::uint8_t>(nIndex);
-            return relaunchAndQuit();
+            if (relaunchAndQuit())
+                return;
+            currentMonitorIndex = before; // or commands would go to a monitor that no page shows
+            storeMachine(before);
         }
-        showNotice(notWritten());
+        showNotice(stored ? notRestarted() : notWritten());
     }
     const Updating updating(*this);
     m_machines->setCurrentIndex(currentMonitorIndex);

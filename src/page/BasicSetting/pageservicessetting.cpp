@@ -49,12 +49,6 @@ QString upgradeCode(int productLine)
     }
 }
 
-/// The upgrade program knows Simplified Chinese as "zh"; every other code it gets as the tool keeps it.
-QString upgradeLanguage(const QString &code)
-{
-    return code == QLatin1String("zh_CN") ? QStringLiteral("zh") : code;
-}
-
 /// Translated like a text, so that a language may have a page of its own. Without a host behind it there is no page
 /// yet.
 QUrl knowledgeAddress()
@@ -203,7 +197,7 @@ void pageServicesSetting::onUpgradeButtonClicked()
         showNotice(QObject::tr("The upgrade program is running already."));
         return;
     }
-    startUpgrade({upgradeCode(deviceState.productLine()), upgradeLanguage(toolLanguageCode())});
+    startUpgrade({upgradeCode(deviceState.productLine()), QLatin1String(toolLanguageOf(toolLanguageCode()).code)});
 }
 
 void pageServicesSetting::startUpgrade(const QStringList &arguments)

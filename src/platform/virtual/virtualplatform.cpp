@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QProcess>
+#include <QStandardPaths>
 
 #include "platform/systemclock.h"
 #include "platform/virtual/virtualaudio.h"
@@ -127,11 +128,15 @@ public:
         return file.isEmpty() ? QCoreApplication::applicationFilePath() : file;
     }
 
-    std::intptr_t shellExecuteRunas(const QString &file, const QString &parameters) override
+    QStringList systemFolders() override { return m_desk.systemFolders; }
+    QString localDataFolder() override { return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation); }
+    bool restrictLibraries() override { return m_desk.restrictsLibraries; }
+
+    std::intptr_t shellExecuteRunas(const QString &file, const QString &parameters, const QString &folder) override
     {
-        m_desk.elevated.push_back({file, {parameters}, {}});
+        m_desk.elevated.push_back({file, {parameters}, folder});
         if (m_desk.startsPrograms && m_desk.runasResult > kShellSuccess)
-            QProcess::startDetached(file, QProcess::splitCommand(parameters));
+            QProcess::startDetached(file, QProcess::splitCommand(parameters), folder);
         return m_desk.runasResult;
     }
 
@@ -155,7 +160,7 @@ public:
         m_desk.started.push_back({program, arguments, folder});
         if (m_desk.startsPrograms)
             return QProcess::startDetached(program, arguments, folder);
-        return m_desk.startSucceeds;
+        return m_desk.start();
     }
 
 private:

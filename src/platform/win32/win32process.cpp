@@ -1,6 +1,7 @@
 #include "platform/win32/win32process.h"
 
 #include <array>
+#include <memory>
 
 #include <windows.h>
 
@@ -8,13 +9,32 @@
 #include <shlobj.h>
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QProcess>
 
 #include "platform/win32/win32strings.h"
 
 namespace platform {
 
-static_assert(kErrorAlreadyExists == ERROR_ALREADY_EXISTS);
+static_assert(kErrorAlreadyExists == ERROR_ALREADY_EXISTS && kErrorAccessDenied == ERROR_ACCESS_DENIED);
+
+namespace {
+
+/// What one of the system's functions that name a folder says.
+QString folderBy(UINT(WINAPI *function)(wchar_t *, UINT))
+{
+    std::array<wchar_t, MAX_PATH + 1> path;
+    const UINT length = function(path.data(), static_cast<UINT>(path.size()));
+    return length < path.size() ? QDir::fromNativeSeparators(QString::fromWCharArray(path.data(), int(length)))
+                                : QString();
+}
+
+struct TaskMemory
+{
+    void operator()(wchar_t *text) const { CoTaskMemFree(text); }
+};
+
+} // namespace
 
 bool Win32Process::isUserAnAdmin()
 {
@@ -28,10 +48,30 @@ QString Win32Process::ownFile()
     return QString::fromWCharArray(path.data(), static_cast<int>(length));
 }
 
-std::intptr_t Win32Process::shellExecuteRunas(const QString &file, const QString &parameters)
+QStringList Win32Process::systemFolders()
 {
+    return {folderBy(GetSystemWindowsDirectoryW), folderBy(GetSystemDirectoryW)};
+}
+
+QString Win32Process::localDataFolder()
+{
+    wchar_t *path = nullptr;
+    const HRESULT result = SHGetKnownFolderPath(FOLDERID_LocalAppData, KF_FLAG_DEFAULT, nullptr, &path);
+    const std::unique_ptr<wchar_t, TaskMemory> owned(path); // to be freed in either case
+    return SUCCEEDED(result) ? QDir::fromNativeSeparators(QString::fromWCharArray(path)) : QString();
+}
+
+bool Win32Process::restrictLibraries()
+{
+    SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_APPLICATION_DIR | LOAD_LIBRARY_SEARCH_SYSTEM32);
+    return true;
+}
+
+std::intptr_t Win32Process::shellExecuteRunas(const QString &file, const QString &parameters, const QString &folder)
+{
+    const QString place = QDir::toNativeSeparators(folder);
     return reinterpret_cast<std::intptr_t>(
-        ShellExecuteW(nullptr, L"runas", wide(file), wide(parameters), nullptr, SW_SHOWNORMAL));
+        ShellExecuteW(nullptr, L"runas", wide(file), wide(parameters), wide(place), SW_SHOWNORMAL));
 }
 
 NamedMutex Win32Process::createMutex(const QString &name)

@@ -1,0 +1,152 @@
+#include <QDir>
+#include <QLocalSocket>
+#include <QtTest>
+
+#include "elevation.h"
+#include "loading.h"
+#include "relaunch.h"
+#include "singleapplication.h"
+#include "support/datarow.h"
+#include "support/deskfixture.h"
+#include "support/textfile.h"
+#include "workingfolder.h"
+
+/// Before there is a window: folder, rights, what is loaded, and who is let in.
+class TestStart : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init() { m_desk = std::make_unique<DeskFixture>(); }
+    void cleanup() { m_desk.reset(); }
+    void workingFolders_data();
+    void workingFolders();
+    void workingFolderIsSettled();
+    void elevatedCopyGetsTheFolder();
+    void loadingIsNotSteered();
+    void floodOfConnections();
+    void copyFindsNoServer();
+
+private:
+    std::unique_ptr<DeskFixture> m_desk;
+};
+
+void TestStart::workingFolders_data()
+{
+    // The facts: settings in the current folder (c), it can be written (w), settings beside the program (o).
+    columns<QString, QString, QString>("current", "facts", "chosen");
+    row("a folder like any other", "/home", "wo", "");
+    row("settings that cannot be written", "/disc", "co", "");
+    row("settings in the system's folder", "C:/Windows/System32", "cw", "");
+    row("not to be written", "/disc", "", "/data/QUORVEL");
+    row("not to be written, settings beside the program", "/disc", "o", "/own");
+    row("the system's own", "C:/Windows", "wo", "/own");
+    row("below it, in other letters", "c:/windows/SYSTEM32/drivers", "w", "/data/QUORVEL");
+    row("only named alike", "C:/Windows.old", "w", "");
+}
+
+void TestStart::workingFolders()
+{
+    QFETCH(QString, current);
+    QFETCH(QString, facts);
+    const auto is = [&facts](char letter) { return facts.contains(QLatin1Char(letter)); };
+    FolderFacts all{current, is('c'), is('w'), "/own", is('o'), {"C:/Windows"}, "/data"};
+    QTEST(workingFolderFor(all), "chosen");
+    all.localData.clear();
+    QVERIFY(!workingFolderFor(all).contains("QUORVEL")); // nobody tells where
+}
+
+void TestStart::workingFolderIsSettled()
+{
+    const QString data = m_desk->folder() + "/local data";
+    qputenv("XDG_DATA_HOME", data.toLocal8Bit());
+    m_desk->desk.systemFolders = QStringList{m_desk->folder()};
+    QVERIFY(writeText("config.ini", ""));
+    settleWorkingFolder();
+    QCOMPARE(QDir::currentPath(), m_desk->folder());
+    m_desk->desk.systemFolders.clear();
+    QVERIFY(QDir::setCurrent("/proc")); // not even an administrator makes a file there
+    settleWorkingFolder();
+    QCOMPARE(QDir::currentPath(), data + "/QUORVEL");
+    QVERIFY(QDir::current().isEmpty());
+}
+
+void TestStart::elevatedCopyGetsTheFolder()
+{
+    char name[] = "quorvel", argument[] = "runas";
+    char *arguments[] = {name, argument};
+    QVERIFY(!handedToElevatedCopy(1, arguments));
+    m_desk->desk.administrator = false;
+    QVERIFY(!handedToElevatedCopy(2, arguments));
+    QVERIFY(m_desk->desk.elevated.empty());
+    QVERIFY(QDir::current().mkdir("ein Ordner 名") && QDir::setCurrent("ein Ordner 名"));
+    QVERIFY(handedToElevatedCopy(1, arguments));
+    QCOMPARE(m_desk->desk.elevated.at(0).folder, m_desk->folder() + "/ein Ordner 名");
+}
+
+void TestStart::loadingIsNotSteered()
+{
+    for (const char *name : {"QT_PLUGIN_PATH", "qt_qpa_platform_plugin_path", "QT_STYLE_OVERRIDE", "QT_OPENGL"})
+        QVERIFY2(steersLoading(name), name);
+    for (const char *name : {"PATH", "QT_SCALE_FACTOR", "QT_QPA", "QT_STYLE"})
+        QVERIFY2(!steersLoading(name), name);
+
+    qputenv("QT_STYLE_OVERRIDE", "somebody's");
+    QByteArrayList line{"quorvel", "--platform", "x", "-style=y", "-testability", "runas", "-plugin"};
+    char *arguments[8] = {};
+    std::transform(line.begin(), line.end(), arguments, [](QByteArray &argument) { return argument.data(); });
+    int count = 7;
+    hardenLoading(count, arguments); // here everybody may load what he likes
+    QVERIFY(qEnvironmentVariableIsSet("QT_STYLE_OVERRIDE") && count == 7);
+    m_desk->desk.restrictsLibraries = true;
+    hardenLoading(count, arguments);
+    QVERIFY(!qEnvironmentVariableIsSet("QT_STYLE_OVERRIDE") && count == 2 && !arguments[2]);
+    QCOMPARE(arguments[1], "runas");
+    QCOMPARE(QCoreApplication::libraryPaths(), QStringList{QCoreApplication::applicationDirPath()});
+}
+
+void TestStart::floodOfConnections()
+{
+    QSignalSpy told(qApp, SIGNAL(anotherInstanceStarted()));
+    std::vector<std::unique_ptr<QLocalSocket>> clients(40);
+    for (auto &client : clients) {
+        client = std::make_unique<QLocalSocket>();
+        client->connectToServer("QUORVEL");
+        client->write(QByteArray(1 << 20, 'x'));
+    }
+    const auto open = [](const auto &client) { return client->state() == QLocalSocket::ConnectedState; };
+    QTRY_COMPARE(std::count_if(clients.begin(), clients.end(), open), 8);
+    for (const QLocalSocket *kept : qApp->findChildren<QLocalSocket *>())
+        QVERIFY(kept->bytesAvailable() <= 64 * 1024);
+    QCOMPARE(told.count(), 8);
+    m_desk->clock.advance(platform::milliseconds(1000));
+    QTRY_VERIFY(std::none_of(clients.begin(), clients.end(), open));
+}
+
+void TestStart::copyFindsNoServer()
+{
+    const auto isServed = [] {
+        QLocalSocket client;
+        client.connectToServer("QUORVEL");
+        return client.waitForConnected(0);
+    };
+    for (const bool starts : {false, true}) {
+        QVERIFY(isServed());
+        bool found = true;
+        m_desk->desk.start = [&] { return found = isServed(), starts; };
+        QCOMPARE(relaunchAndQuit(), starts);
+        QVERIFY(!found);
+        QCOMPARE(isServed(), !starts);
+        QCOMPARE(m_desk->desk.quits, int(starts));
+    }
+}
+
+int main(int argc, char **argv)
+{
+    const QTemporaryDir folder; // another program's server is not this one's
+    qputenv("TMPDIR", folder.path().toLocal8Bit());
+    SingleApplication application(argc, argv);
+    TestStart test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_start.moc"
