@@ -7,10 +7,7 @@
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/displayenumeration.h"
 #include "ddc_protocol/transport.h"
-#include "support/datarow.h"
 #include "support/deskfixture.h"
-
-using virtualdesk::kForEver;
 
 namespace {
 
@@ -37,18 +34,14 @@ private Q_SLOTS:
     void cleanup();
     void tableRows();
     void packet();
-    void writeRetries_data();
     void writeRetries();
     void writeFailureAsksForReconnect();
     void suspensionSendsNothing();
-    void readRetries_data();
     void readRetries();
     void readsWithoutMonitor();
     void currentAndMaximum();
     void indexBeyondTheListFails();
-    void tableRead_data();
     void tableRead();
-    void tableReadLengths_data();
     void tableReadLengths();
     void twoThreadsNeverInterleave();
     void queueKeepsTheNewestValue();
@@ -101,36 +94,29 @@ void TestTransport::packet()
     QCOMPARE(commandPacket, expected);
 }
 
-void TestTransport::writeRetries_data()
+void TestTransport::writeRetries()
 {
-    columns<int, int, bool, QStringList, QStringList>("code", "times", "ok", "requests", "log");
     const QString code = QStringLiteral("Fail to retry errorCode: 03 10");
     const QString vendor = QStringLiteral("Fail to retry errorCode: 03 99");
     const QString gaveUp = QStringLiteral("Write faile, errorCode: 03 9910\r");
-    QTest::newRow("at once") << 0x10 << 0 << true << QStringList{"W 99=62", "W 10=62"} << QStringList{};
-    QTest::newRow("code refused once") << 0x10 << 1 << true << QStringList{"W 99=62", "W 10=62!", "W 99=62", "W 10=62"}
-                                       << QStringList{code};
-    QTest::newRow("code refused twice") << 0x10 << 2 << false
-                                        << QStringList{"W 99=62", "W 10=62!", "W 99=62", "W 10=62!"}
-                                        << QStringList{code, code, gaveUp};
-    QTest::newRow("announcement refused twice")
-        << 0x99 << 2 << false << QStringList{"W 99=62!", "W 99=62!"} << QStringList{vendor, vendor, gaveUp};
-}
-
-void TestTransport::writeRetries()
-{
-    QFETCH(int, code);
-    QFETCH(int, times);
-    QFETCH(bool, ok);
-    QFETCH(QStringList, requests);
-    QFETCH(QStringList, log);
-    if (times > 0)
-        m_desk->monitor().refuse(static_cast<std::uint8_t>(code), times);
-    QCOMPARE(Korvu_SetCommandVal(kBrightnessWrite, 62, 10), ok);
-    QCOMPARE(m_desk->takeRequests(), requests);
-    QCOMPARE(m_desk->takeLog(), log);
-    QCOMPARE(m_desk->clock.takeWaits(), QList<int>(times, 100));
-    QCOMPARE(m_reconnects, ok ? 0 : 1);
+    struct Write
+    {
+        int code, times;
+        bool ok;
+        QStringList requests, log;
+    };
+    for (const Write &each : {Write{0x10, 0, true, {"W 99=62", "W 10=62"}, {}},
+                              Write{0x10, 1, true, {"W 99=62", "W 10=62!", "W 99=62", "W 10=62"}, {code}},
+                              Write{0x10, 2, false, repeated({"W 99=62", "W 10=62!"}, 2), {code, code, gaveUp}},
+                              Write{0x99, 2, false, {"W 99=62!", "W 99=62!"}, {vendor, vendor, gaveUp}}}) {
+        m_reconnects = 0;
+        m_desk->monitor().refuse(static_cast<std::uint8_t>(each.code), each.times);
+        QCOMPARE(Korvu_SetCommandVal(kBrightnessWrite, 62, 10), each.ok);
+        QCOMPARE(m_desk->takeRequests(), each.requests);
+        QCOMPARE(m_desk->takeLog(), each.log);
+        QCOMPARE(m_desk->clock.takeWaits(), QList<int>(each.times, 100));
+        QCOMPARE(m_reconnects, each.ok ? 0 : 1);
+    }
 }
 
 void TestTransport::writeFailureAsksForReconnect()
@@ -156,30 +142,20 @@ void TestTransport::suspensionSendsNothing()
     QCOMPARE(m_reconnects, 0);
 }
 
-void TestTransport::readRetries_data()
-{
-    columns<int, int, bool>("failures", "value", "quiet");
-    row("at once", 0, 62, false);
-    row("after four", 4, 62, false);
-    row("never", 5, -1, false);
-    row("never, quietly", 5, -1, true);
-}
-
 void TestTransport::readRetries()
 {
-    QFETCH(int, failures);
-    QFETCH(int, value);
-    QFETCH(bool, quiet);
     m_desk->monitor().setValue(0x10, 62);
-    if (failures > 0)
+    for (const auto &[failures, value, quiet] :
+         {std::tuple(0, 62, false), {4, 62, false}, {5, -1, false}, {5, -1, true}}) {
         m_desk->monitor().refuse(0x10, failures);
-    QCOMPARE((quiet ? Korvu_GetCommandValQuiet : Korvu_GetCommandVal)(kBrightnessRead, 10), value);
-    QStringList requests = repeated({"R 99", "R 10!"}, failures);
-    if (value != -1)
-        requests += {"R 99", "R 10"};
-    QCOMPARE(m_desk->takeRequests(), requests);
-    QCOMPARE(m_desk->takeLog(), repeated({"Faile to retry errorCode: 01 99 10"}, quiet ? 0 : failures));
-    QCOMPARE(m_desk->clock.takeWaits(), QList<int>(failures, 250));
+        QCOMPARE((quiet ? Korvu_GetCommandValQuiet : Korvu_GetCommandVal)(kBrightnessRead, 10), value);
+        QStringList requests = repeated({"R 99", "R 10!"}, failures);
+        if (value != -1)
+            requests += {"R 99", "R 10"};
+        QCOMPARE(m_desk->takeRequests(), requests);
+        QCOMPARE(m_desk->takeLog(), repeated({"Faile to retry errorCode: 01 99 10"}, quiet ? 0 : failures));
+        QCOMPARE(m_desk->clock.takeWaits(), QList<int>(failures, 250));
+    }
 }
 
 void TestTransport::readsWithoutMonitor()
@@ -223,76 +199,56 @@ void TestTransport::indexBeyondTheListFails()
     QCOMPARE(m_desk->desk.handleFaults(), 0);
 }
 
-void TestTransport::tableRead_data()
-{
-    columns<int, int>("code", "times");
-    QTest::addColumn<int>("result"); // as tableReadLength shows it
-    columns<QStringList, QString, int>("opening", "lastLine", "waits");
-    QTest::newRow("clean") << 0 << 0 << 40 << QStringList{"R 99", "R 22", "R 0c"} << QString() << 0;
-    QTest::newRow("second step once") << 0x22 << 1 << 40 << QStringList{"R 99", "R 22!", "R 99", "R 22", "R 0c"}
-                                      << QStringLiteral("Fail to retry, errorCode=22 3223725444")
-                                      << 1; // what the system calls it
-    QTest::newRow("second step for ever") << 0x22 << kForEver << 0 << repeated({"R 99", "R 22!"}, 6)
-                                          << QStringLiteral("Fail to retry, errorCode=9922\r") << 5;
-    QTest::newRow("third step for ever") << 0x0C << kForEver << 255 << repeated({"R 99", "R 22", "R 0c!"}, 6)
-                                         << QStringLiteral("Faile to retry errorCode= 99 22 c\r") << 5;
-}
-
 void TestTransport::tableRead()
 {
-    QFETCH(int, code);
-    QFETCH(int, times);
-    QFETCH(int, result);
-    QFETCH(QStringList, opening);
-    QFETCH(QString, lastLine);
-    QFETCH(int, waits);
-    if (times != 0)
-        m_desk->monitor().refuse(static_cast<std::uint8_t>(code), times);
-    const QByteArray block = m_desk->monitor().block(12);
-    const std::uint8_t *data = Korvu_ReadCommandTable(kSceneRead, 12, 40);
-    QCOMPARE(int(tableReadLength), result);
-    const QStringList requests = m_desk->takeRequests();
-    QCOMPARE(requests.first(opening.size()), opening);
-    if (result == 40) {
-        QCOMPARE(requests.mid(opening.size()), repeated({"R fe"}, 10)); // nine chunks more, and the closing request
-        QCOMPARE(QByteArray(reinterpret_cast<const char *>(data), 40), block);
+    struct Read
+    {
+        int code, times, result; // as tableReadLength shows it
+        QStringList opening;
+        QString lastLine;
+        int waits;
+    };
+    for (const Read &each :
+         {Read{0x22, 0, 40, {"R 99", "R 22", "R 0c"}, {}, 0},
+          Read{0x22, 1, 40, {"R 99", "R 22!", "R 99", "R 22", "R 0c"}, "Fail to retry, errorCode=22 3223725444", 1},
+          Read{0x22, 6, 0, repeated({"R 99", "R 22!"}, 6), "Fail to retry, errorCode=9922\r", 5},
+          Read{0x0C, 6, 255, repeated({"R 99", "R 22", "R 0c!"}, 6), "Faile to retry errorCode= 99 22 c\r", 5}}) {
+        m_desk->monitor().refuse(static_cast<std::uint8_t>(each.code), each.times);
+        const std::uint8_t *data = Korvu_ReadCommandTable(kSceneRead, 12, 40);
+        QCOMPARE(int(tableReadLength), each.result);
+        // A read that succeeds goes on with nine chunks more, and the closing request.
+        QCOMPARE(m_desk->takeRequests(), each.opening + repeated({"R fe"}, each.result == 40 ? 10 : 0));
+        if (each.result == 40)
+            QCOMPARE(QByteArray(reinterpret_cast<const char *>(data), 40), m_desk->monitor().block(12));
+        QCOMPARE(m_desk->takeLog().value(each.waits - (each.result == 40)), each.lastLine);
+        QCOMPARE(m_desk->clock.takeWaits(), QList<int>(each.waits, 250));
     }
-    const QStringList log = m_desk->takeLog();
-    QVERIFY2(lastLine.isEmpty() ? log.isEmpty() : log.last().startsWith(lastLine), qPrintable(log.join('|')));
-    QCOMPARE(m_desk->clock.takeWaits(), QList<int>(waits, 250));
-}
-
-void TestTransport::tableReadLengths_data()
-{
-    columns<int, int, int, int, QStringList>("mode", "length", "drops", "result", "stream");
-    QTest::newRow("0 gives one chunk") << 12 << 0 << 0 << 4 << QStringList{"R fe"};
-    QTest::newRow("5 is rounded up") << 12 << 5 << 0 << 8 << QStringList{"R fe", "R fe"};
-    QTest::newRow("mode of brightness's code") << 16 << 40 << 0 << 40 << QStringList(10, "R fe");
-    QTest::newRow("mode of the scene's code") << 34 << 40 << 0 << 40 << QStringList(10, "R fe");
-    QTest::newRow("a dropped chunk is repeated") << 12 << 12 << 1 << 12 << QStringList{"R fe!", "R ff", "R fe", "R fe"};
-    QTest::newRow("five drops") << 12 << 8 << 5 << 8
-                                << QStringList{"R fe!", "R ff!", "R ff!", "R ff!", "R ff!", "R ff", "R fe"};
-    QTest::newRow("lost for good") << 12 << 8 << 6 << 0
-                                   << QStringList{"R fe!", "R ff!", "R ff!", "R ff!", "R ff!", "R ff!"};
 }
 
 void TestTransport::tableReadLengths()
 {
-    QFETCH(int, mode);
-    QFETCH(int, length);
-    QFETCH(int, drops);
-    QFETCH(int, result);
-    QFETCH(QStringList, stream);
-    m_desk->monitor().dropChunks(drops);
-    const QByteArray block = m_desk->monitor().block(mode);
-    const std::uint8_t *data =
-        Korvu_ReadCommandTable(kSceneRead, static_cast<std::uint8_t>(mode), static_cast<std::uint16_t>(length));
-    QCOMPARE(int(tableReadLength), result);
-    QCOMPARE(m_desk->takeRequests().mid(3), stream);
-    QCOMPARE(QByteArray(reinterpret_cast<const char *>(data), result), block.first(result));
+    struct Read
+    {
+        int mode, length, drops, result;
+        QStringList stream;
+    };
+    const QStringList lost = {"R fe!", "R ff!", "R ff!", "R ff!", "R ff!"};
+    for (const Read &each :
+         {Read{12, 0, 0, 4, {"R fe"}}, Read{12, 5, 0, 8, {"R fe", "R fe"}},
+          // modes of the brightness's and the scene's code
+          Read{16, 40, 0, 40, repeated({"R fe"}, 10)}, Read{34, 40, 0, 40, repeated({"R fe"}, 10)},
+          Read{12, 12, 1, 12, {"R fe!", "R ff", "R fe", "R fe"}}, Read{12, 8, 5, 8, lost + QStringList{"R ff", "R fe"}},
+          Read{12, 8, 6, 0, lost + QStringList{"R ff!"}}}) {
+        m_desk->monitor().dropChunks(each.drops);
+        const QByteArray block = m_desk->monitor().block(each.mode);
+        const std::uint8_t *data = Korvu_ReadCommandTable(kSceneRead, static_cast<std::uint8_t>(each.mode),
+                                                          static_cast<std::uint16_t>(each.length));
+        QCOMPARE(int(tableReadLength), each.result);
+        QCOMPARE(m_desk->takeRequests().mid(3), each.stream);
+        QCOMPARE(QByteArray(reinterpret_cast<const char *>(data), each.result), block.first(each.result));
+    }
+    QCOMPARE(m_desk->takeLog(), QStringList("---loop get data error.\r")); // of the last one
     QCOMPARE(m_desk->monitor().protocolFaults().total(), 0);
-    if (result == 0)
-        QCOMPARE(m_desk->takeLog().last(), QStringLiteral("---loop get data error.\r"));
 }
 
 void TestTransport::twoThreadsNeverInterleave()
