@@ -1,6 +1,10 @@
 #include "benchdesk.h"
 
+#include <malloc.h>
+#include <unistd.h>
+
 #include <chrono>
+#include <fstream>
 
 #include <QDir>
 
@@ -38,4 +42,14 @@ BenchDesk::~BenchDesk()
     monitorList.clear();
     QDir::setCurrent(m_folderBefore);
     platform::installDesk(nullptr);
+}
+
+double residentMegabytes()
+{
+    malloc_trim(0);
+    std::ifstream statm("/proc/self/statm");
+    long size = 0;
+    long resident = 0;
+    statm >> size >> resident;
+    return static_cast<double>(resident * sysconf(_SC_PAGESIZE)) / 1e6;
 }

@@ -27,6 +27,9 @@ private:
     std::atomic<std::int64_t> m_sleptNanoseconds = 0;
 };
 
+/// The process's memory, in units of 10^6 bytes, with what is free given back first.
+double residentMegabytes();
+
 /// A simulated desk in real time, installed as the process's desk, with an empty working folder and the program's own
 /// log handler: what the program does beside its requests costs here what it costs there.
 class BenchDesk

@@ -1,11 +1,7 @@
 // What drawing an animation costs: reading 192 frames until the first is painted, a cell from press to paint, and the
 // memory that the most frames take.
 
-#include <malloc.h>
-#include <unistd.h>
-
 #include <chrono>
-#include <fstream>
 #include <thread>
 
 #include <QApplication>
@@ -138,16 +134,6 @@ void toggleCell(benchmark::State &state)
     }
     state.counters["worst_ms"] = worst;
     matrixForm = kTaperingForm;
-}
-
-double residentMegabytes()
-{
-    malloc_trim(0);
-    std::ifstream statm("/proc/self/statm");
-    long size = 0;
-    long resident = 0;
-    statm >> size >> resident;
-    return static_cast<double>(resident * sysconf(_SC_PAGESIZE)) / 1e6;
 }
 
 /// What 193 frames take beyond the one that the page opens with, each shown once and drawn in, their history included.

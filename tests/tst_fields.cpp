@@ -218,10 +218,8 @@ void TestFields::keyFieldEndsAfterOneCombination()
     QCOMPARE(field.keySequence(), QKeySequence(Qt::CTRL | Qt::Key_B));
     QCOMPARE(finished.count(), 2);
     // Nothing is captured when the focus goes, whatever takes it; the base class would tell of an end once more.
-    for (const Qt::FocusReason reason : {Qt::TabFocusReason, Qt::ActiveWindowFocusReason, Qt::PopupFocusReason}) {
-        sendFocus(&field, QEvent::FocusIn, reason);
+    for (const Qt::FocusReason reason : {Qt::TabFocusReason, Qt::ActiveWindowFocusReason, Qt::PopupFocusReason})
         sendFocus(&field, QEvent::FocusOut, reason);
-    }
     QCOMPARE(changed.count() + finished.count(), 4);
 }
 
@@ -235,9 +233,6 @@ void TestFields::emptyKeyFieldSaysSo()
     QCOMPARE(line->placeholderText(), QString());
     line->clear();
     sendFocus(line, QEvent::FocusOut, Qt::MouseFocusReason);
-    QCOMPARE(line->placeholderText(), QStringLiteral("NA"));
-    QTest::keyPress(&field, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyPress(&field, Qt::Key_Backspace);
     QCOMPARE(line->placeholderText(), QStringLiteral("NA"));
     // Emptied by the page, the base class puts a hint of its own there until the field is painted; the focus hides
     // none.

@@ -1,4 +1,5 @@
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTextDocument>
@@ -52,7 +53,7 @@ private Q_SLOTS:
 private:
     void start(const std::vector<FollowEntry> &entries);
     QStringList front(Program program, std::chrono::milliseconds later = 1s);
-    FollowRow *row(std::size_t index) const { return m_page->followRows()[index]; }
+    FollowRow *row(std::size_t index) const { return m_page->followRow(index); }
     QPushButton *button(const char *name) const { return m_page->findChild<QPushButton *>(QLatin1String(name)); }
 
     std::unique_ptr<DeskFixture> m_desk;
@@ -158,7 +159,10 @@ void TestFollowing::nothingToFollow()
 void TestFollowing::changesCountWhenApplied()
 {
     start({{QStringLiteral("D:/Games/Race.exe"), 6}});
-    row(0)->sceneBox()->setCurrentIndex(0);
+    for (const int scene : {0, 6, 0}) { // also back
+        row(0)->sceneBox()->setCurrentIndex(scene);
+        QCOMPARE(button("pushButtonApply")->property("waiting").toBool(), scene == 0);
+    }
     m_page->answer = QStringLiteral("C:/Film/film.exe");
     button("pushButtonAdd")->click();
     m_page->updateControlText(); // as after every refresh of the window
@@ -167,7 +171,7 @@ void TestFollowing::changesCountWhenApplied()
     button("pushButtonApply")->click();
     row(1)->trashButton()->click();
     QCOMPARE(front(Other), QStringList());
-    QCOMPARE(m_page->followRows().size(), std::size_t(1));
+    QCOMPARE(m_page->programs().size(), std::size_t(1));
     QCOMPARE(loadFollowList().size(), std::size_t(2)); // until it is applied
     button("pushButtonApply")->click();
     QCOMPARE(loadFollowList(), (std::vector<FollowEntry>{{QStringLiteral("D:/Games/Race.exe"), 0}}));
@@ -186,9 +190,13 @@ void TestFollowing::fileNames()
                                               {QStringLiteral("C:/race.exe"), 4},
                                               {QStringLiteral("C:/映画 é.exe"), 5},
                                               {QStringLiteral("C:/General"), 6},
-                                              {QStringLiteral("C:/@At.exe"), 7}};
+                                              {QStringLiteral("C:/@At.exe"), 7},
+                                              {QStringLiteral("C:/<b>Two\nlines.exe"), 8}};
     start(entries);
-    QCOMPARE(m_page->followRows().size(), entries.size());
+    const auto *name = row(2)->findChild<QLabel *>(); // the groups are in order
+    QCOMPARE(name->text(), QStringLiteral("<b>Two lines.exe"));
+    QVERIFY(name->toolTip().contains(QStringLiteral("&lt;b&gt;")));
+    QCOMPARE(m_page->programs().size(), entries.size());
     for (const FollowEntry &entry : loadFollowList())
         QVERIFY2(std::find(entries.begin(), entries.end(), entry) != entries.end(), qPrintable(entry.path));
     m_page->answer = QStringLiteral("C:/<i>a.exe"); // shown as it stands also where the toolkit knows rich text
@@ -198,7 +206,7 @@ void TestFollowing::fileNames()
     QCOMPARE(tip.toPlainText(), QDir::toNativeSeparators(m_page->answer));
     m_page->answer = QStringLiteral("D:/other/Race.exe");
     button("pushButtonAdd")->click();
-    QCOMPARE(m_page->followRows().size(), entries.size() + 1);
+    QCOMPARE(m_page->programs().size(), entries.size() + 1);
     QVERIFY(m_page->notice().contains(QStringLiteral("Race.exe")));
 }
 
@@ -228,8 +236,8 @@ void TestFollowing::loading()
     writeText(kFile, text);
     m_page = std::make_unique<TestedPage>();
     QStringList shown;
-    for (const FollowRow *each : m_page->followRows())
-        shown.append(QStringLiteral("%1 %2").arg(each->path()).arg(each->sceneBox()->currentIndex()));
+    for (std::size_t i = 0; i < m_page->programs().size(); ++i)
+        shown.append(QStringLiteral("%1 %2").arg(row(i)->path()).arg(row(i)->sceneBox()->currentIndex()));
     QCOMPARE(shown, rows);
 }
 
@@ -243,10 +251,30 @@ void TestFollowing::veryLongFile()
     text += "[zz.exe]\nappPath=D:/Games/Race.exe\nappScence=6\n";
     writeText(kFile, text);
     m_page = std::make_unique<TestedPage>();
-    QVERIFY(m_page->followRows().size() < 1000); // nobody scrolls through more
-    QVERIFY(!m_page->notice().isEmpty());
     QCOMPARE(loadFollowList().size(), std::size_t(34001)); // none is lost
     QCOMPARE(front(Game), QStringList{"W 22=13"});         // and each is followed
+    m_page->show();
+    row(34000)->sceneBox()->setCurrentIndex(2); // can be seen, changed and deleted
+    row(17000)->trashButton()->click();
+    QCOMPARE(row(33999)->sceneBox()->currentIndex(), 2);
+    QVERIFY(m_page->findChildren<FollowRow *>().size() < 30); // whatever was looked at
+    button("pushButtonApply")->click();
+    QCOMPARE(loadFollowList().front(), (FollowEntry{QStringLiteral("D:/Games/Race.exe"), 2}));
+    row(33970)->sceneBox()->setFocus();
+    QTRY_VERIFY(QApplication::focusWidget());
+    for (int place = 1, way = 1; place >= 0; place += way) { // two controls a row, by Tab to the end and back
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, way > 0 ? Qt::NoModifier : Qt::ShiftModifier);
+        const QWidget *now = QApplication::focusWidget();
+        QCOMPARE(now->visibleRegion().boundingRect(), now->rect());
+        const FollowRow *there = row(static_cast<std::size_t>(33970 + place / 2));
+        QCOMPARE(now, place % 2 == 0 ? static_cast<QWidget *>(there->sceneBox()) : there->trashButton());
+        way = place == 59 ? -1 : way;
+    }
+    row(0); // out of sight, the row with the focus keeps its program
+    QCOMPARE(qobject_cast<FollowRow *>(QApplication::focusWidget()->parentWidget())->index(), 33970);
+    row(33999)->trashButton()->setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space); // takes its row with it
+    QVERIFY(QApplication::focusWidget()->isVisible());
 }
 
 QTEST_MAIN(TestFollowing)

@@ -30,14 +30,13 @@ class TestedPage : public pageShortcutKey
 {
 public:
     int conflicts = 0;
-    std::function<void()> whileShown;
+    std::function<void()> whileShown = [] {};
 
 protected:
     void showConflict() override
     {
-        ++conflicts;
-        if (const auto once = std::exchange(whileShown, {}))
-            once();
+        if (++conflicts == 1)
+            whileShown();
     }
 };
 
@@ -300,12 +299,15 @@ void TestShortcutPage::fieldSaysWhyNot()
 /// The system keeps a registered combination from every field, so it comes back as a hot key.
 void TestShortcutPage::keysInUse()
 {
-    start({{1, true, QStringLiteral("Ctrl+1"), {}}, {2, true, {}, {}}});
+    start({{1, true, QStringLiteral("Ctrl+1"), {}}, {2, true, QStringLiteral("Ctrl+1"), {}}});
     m_page->show();
     m_page->activateWindow();
-    row(1)->plusEdit()->setFocus();
-    QTRY_COMPARE(QApplication::focusWidget(), row(1)->plusEdit());
-    QStringList asked; // of the monitor, by the key that is held down still
+    for (QWidget *visited : {row(0)->plusEdit(), row(1)->minusEdit(), row(1)->plusEdit()}) {
+        visited->setFocus();
+        QTRY_COMPARE(QApplication::focusWidget(), visited);
+    }
+    QVERIFY(m_page->conflicts == 0 && m_page->notice().isEmpty()); // visits neither change nor ask
+    QStringList asked;                                             // of the monitor, by the key that is held down still
     m_page->whileShown = [this, &asked] { asked = press(kControl, '1'); };
     QCOMPARE(press(kControl, '1'), QStringList());
     QCOMPARE(asked, QStringList());
@@ -326,30 +328,18 @@ void TestShortcutPage::keysInUse()
     QCOMPARE(m_page->conflicts, 2);
 }
 
-/// Lit is what differs from what is stored and registered; visits are no changes.
+/// Lit is what differs from what is stored and registered.
 void TestShortcutPage::applyWaitsForChanges()
 {
-    start({{1, true, QStringLiteral("Ctrl+1"), {}}, {2, true, QStringLiteral("Ctrl+1"), {}}});
+    start({{1, true, {}, {}}, {2, true, QStringLiteral("Ctrl+1"), {}}});
     const auto isLit = [this] { return button("pushButtonAppli")->property("waiting").toBool(); };
-    m_page->show();
-    m_page->activateWindow();
-    for (ZelmarKeySequenceEdit *field : {row(0)->plusEdit(), row(1)->plusEdit(), row(1)->minusEdit()}) {
-        field->setFocus();
-        QTRY_VERIFY(field->hasFocus());
-    }
-    QTest::keyClick(row(0)->minusEdit(), Qt::Key_Backspace);
-    m_page->updateControlText();
-    m_page->hide();
-    QCOMPARE(m_page->conflicts, 0);
-    QVERIFY(!isLit() && m_page->notice().isEmpty());
     for (const bool lit : {true, false}) { // a change, and the way back
         QTest::keyClick(row(0)->minusEdit(), lit ? Qt::Key_5 : Qt::Key_Backspace, Qt::ControlModifier);
         QCOMPARE(isLit(), lit);
     }
-    button("pushButton_2")->click(); // the first function, and away again
-    QVERIFY(isLit());
-    row(2)->trashButton()->click();
-    QVERIFY(!isLit() && m_page->notice().isEmpty());
+    button("pushButton_2")->click();
+    row(2)->trashButton()->click(); // never counted
+    QVERIFY(!isLit());
     row(1)->trashButton()->click(); // gives its keys back, so the same row is news
     m_page->functionBox()->setCurrentIndex(2);
     button("pushButton_2")->click();

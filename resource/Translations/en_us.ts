@@ -40,10 +40,6 @@
         <translation>%1 is taken by another program or function and does nothing here.</translation>
     </message>
     <message>
-        <source>%1 more programs of the file are followed and not shown.</source>
-        <translation>%1 more programs of the file are followed and not shown.</translation>
-    </message>
-    <message>
         <source>%1 · %2</source>
         <translation>%1 · %2</translation>
     </message>

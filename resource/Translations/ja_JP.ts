@@ -40,10 +40,6 @@
         <translation>%1 は他のプログラムまたは機能が使用中のため、ここでは動作しません。</translation>
     </message>
     <message>
-        <source>%1 more programs of the file are followed and not shown.</source>
-        <translation>ファイル内の他の %1 個のプログラムも追従しますが、表示していません。</translation>
-    </message>
-    <message>
         <source>%1 · %2</source>
         <translation>%1 · %2</translation>
     </message>

@@ -40,10 +40,6 @@
         <translation>%1 已被其他程序或功能占用，在此不起作用。</translation>
     </message>
     <message>
-        <source>%1 more programs of the file are followed and not shown.</source>
-        <translation>文件中另有 %1 个程序会被跟随，但未显示。</translation>
-    </message>
-    <message>
         <source>%1 · %2</source>
         <translation>%1 · %2</translation>
     </message>

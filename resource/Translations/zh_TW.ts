@@ -40,10 +40,6 @@
         <translation>%1 已被其他程式或功能佔用，在此不起作用。</translation>
     </message>
     <message>
-        <source>%1 more programs of the file are followed and not shown.</source>
-        <translation>檔案中另有 %1 個程式會被跟隨，但未顯示。</translation>
-    </message>
-    <message>
         <source>%1 · %2</source>
         <translation>%1 · %2</translation>
     </message>

@@ -1,5 +1,7 @@
 #include "page/Following/followrow.h"
 
+#include <algorithm>
+
 #include <QComboBox>
 #include <QDir>
 #include <QHBoxLayout>
@@ -13,53 +15,80 @@
 #include "page/engine/dropdown.h"
 #include "page/engine/listpage.h"
 
-FollowRow::FollowRow(const FollowEntry &entry, QWidget *parent)
-    : QFrame(parent), m_path(entry.path), m_pathField(new QLineEdit(this)), m_scenes(makeDropDown(this)),
+namespace {
+
+constexpr int kColumnWidth = 220;
+
+/// A file may name a program with line breaks and the like; a row is one line.
+QString oneLine(QString text)
+{
+    std::replace_if(
+        text.begin(), text.end(), [](QChar each) { return !each.isPrint(); }, QChar(QLatin1Char(' ')));
+    return text;
+}
+
+} // namespace
+
+FollowRow::FollowRow(QWidget *parent)
+    : QFrame(parent), m_name(new QLabel(this)), m_pathField(new QLineEdit(this)), m_scenes(makeDropDown(this)),
       m_trash(makeTrashButton(this))
 {
     setObjectName(QStringLiteral("listRow"));
-    auto *name = new QLabel(programName(entry.path), this);
-    name->setTextFormat(Qt::PlainText);
-    name->setFixedWidth(220);
-    name->setToolTip(asItStands(name->text()));
+    m_name->setTextFormat(Qt::PlainText);
+    m_name->setFixedWidth(kColumnWidth);
     m_pathField->setObjectName(QStringLiteral("path"));
-    m_pathField->setText(QDir::toNativeSeparators(entry.path));
-    m_pathField->setCursorPosition(0);
-    m_pathField->setToolTip(asItStands(m_pathField->text()));
     m_pathField->setEnabled(false);
-    m_scenes->setFixedSize(220, 36);
-    fillScenes(entry.scene);
-    connect(m_scenes, &QComboBox::activated, this, &FollowRow::sceneChosen);
+    m_scenes->setFixedSize(kColumnWidth, 36);
+    layOut();
+    updateControlText();
+    connect(m_scenes, &QComboBox::currentIndexChanged, this, [this](int scene) { Q_EMIT sceneChosen(m_index, scene); });
+    connect(m_trash, &QPushButton::clicked, this, [this] { Q_EMIT deleteWanted(m_index); });
+}
 
+void FollowRow::layOut()
+{
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(16, 8, 12, 8);
     row->setSpacing(12);
-    row->addWidget(name);
+    row->addWidget(m_name);
     row->addWidget(m_pathField, 1);
     row->addWidget(m_scenes);
     row->addWidget(m_trash);
-    updateControlText();
 }
 
-void FollowRow::fillScenes(int chosen)
+void FollowRow::showEntry(int index, const FollowEntry &entry)
 {
+    m_index = index;
     const QSignalBlocker blocker(m_scenes);
-    m_scenes->clear();
-    for (const FollowScene &scene : followScenes())
-        m_scenes->addItem(QObject::tr(scene.name));
-    m_scenes->setCurrentIndex(followSceneAt(chosen) ? chosen : 0);
+    m_scenes->setCurrentIndex(entry.scene);
+    if (m_path == entry.path)
+        return;
+    m_path = entry.path;
+    showNames();
 }
 
-FollowEntry FollowRow::entry() const
+void FollowRow::showNames()
 {
-    return {m_path, m_scenes->currentIndex()};
+    const QString program = programName(m_path);
+    const QString path = QDir::toNativeSeparators(m_path);
+    m_name->ensurePolished(); // for its font
+    m_name->setText(m_name->fontMetrics().elidedText(oneLine(program), Qt::ElideMiddle, kColumnWidth));
+    m_name->setToolTip(asItStands(program));
+    m_pathField->setText(oneLine(path));
+    m_pathField->setCursorPosition(0);
+    m_pathField->setToolTip(asItStands(path));
+    m_scenes->setAccessibleName(program);
+    m_trash->setAccessibleName(QStringLiteral("%1: %2").arg(program, m_trash->toolTip()));
 }
 
 void FollowRow::updateControlText()
 {
-    fillScenes(m_scenes->currentIndex());
-    const QString program = programName(m_path);
-    m_scenes->setAccessibleName(program);
+    const QSignalBlocker blocker(m_scenes);
+    const int chosen = std::max(0, m_scenes->currentIndex());
+    m_scenes->clear();
+    for (const FollowScene &scene : followScenes())
+        m_scenes->addItem(QObject::tr(scene.name));
+    m_scenes->setCurrentIndex(chosen);
     m_trash->setToolTip(QObject::tr("Delete"));
-    m_trash->setAccessibleName(QStringLiteral("%1: %2").arg(program, m_trash->toolTip()));
+    showNames();
 }

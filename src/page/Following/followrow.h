@@ -5,33 +5,43 @@
 #include "following/followlist.h"
 
 class QComboBox;
+class QLabel;
 class QLineEdit;
 class QPushButton;
 
-/// One program and the scene it wants.
+/// Shows one program of a list and the scene it wants, now this one and now that.
 class FollowRow : public QFrame
 {
     Q_OBJECT
 public:
-    explicit FollowRow(const FollowEntry &entry, QWidget *parent = nullptr);
+    static constexpr int kHeight = 52; ///< pixels, the controls' 36 and what is around them
 
+    explicit FollowRow(QWidget *parent = nullptr);
+
+    /// Shows the program at a place of the list.
+    void showEntry(int index, const FollowEntry &entry);
+
+    int index() const { return m_index; }
     const QString &path() const { return m_path; }
-
-    /// The row as it would be stored.
-    FollowEntry entry() const;
-
     QComboBox *sceneBox() const { return m_scenes; }
     QPushButton *trashButton() const { return m_trash; }
 
     void updateControlText();
 
 Q_SIGNALS:
-    void sceneChosen();
+    /// The scene of the program at this place of the list is to be another one.
+    void sceneChosen(int index, int scene);
+
+    /// The program at this place of the list is to go.
+    void deleteWanted(int index);
 
 private:
-    void fillScenes(int chosen);
+    void layOut();
+    void showNames();
 
+    int m_index = -1;
     QString m_path;
+    QLabel *m_name;
     QLineEdit *m_pathField;
     QComboBox *m_scenes;
     QPushButton *m_trash;

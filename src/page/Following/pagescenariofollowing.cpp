@@ -5,26 +5,34 @@
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QSet>
 #include <QStandardPaths>
 
 #include "following/followscenes.h"
-#include "page/Following/followrow.h"
+#include "page/Following/followrows.h"
 #include "page/engine/labels.h"
-
-static constexpr std::size_t kShownRows = 300;
 
 pageScenarioFollowing::pageScenarioFollowing(QWidget *parent)
     : ListPage(QStringLiteral("pageScenarioFollowing"), LABEL("Follow Setting"), LABEL("Follow Desc"),
                LABEL("No programs yet: add one and choose its scene."), parent)
 {
+    buildTools();
+    m_list = new FollowRows(m_programs, this);
+    connect(m_list, &FollowRows::sceneChosen, this, &pageScenarioFollowing::chooseScene);
+    connect(m_list, &FollowRows::deleteWanted, this, &pageScenarioFollowing::deleteProgram);
+    connect(&m_watch, &ForegroundWatch::programInFront, &m_follower, &SceneFollower::programInFront);
+    loadPrograms();
+    showPrograms();
+    save();
+}
+
+void pageScenarioFollowing::buildTools()
+{
     auto *add = makeButton(LABEL("Add Scence"), QStringLiteral("pushButtonAdd"));
     connect(add, &QPushButton::clicked, this, &pageScenarioFollowing::on_pushButtonAdd_clicked);
-    connect(&m_watch, &ForegroundWatch::programInFront, &m_follower, &SceneFollower::programInFront);
     tools()->addWidget(add);
     QPushButton *apply = addApplyButton(QStringLiteral("pushButtonApply"));
     connect(apply, &QPushButton::clicked, this, &pageScenarioFollowing::on_pushButtonApply_clicked);
-    loadRows();
-    save();
 }
 
 QString pageScenarioFollowing::askForProgram()
@@ -39,10 +47,20 @@ void pageScenarioFollowing::on_pushButtonAdd_clicked()
     const QString path = askForProgram();
     if (path.isEmpty())
         return;
-    if (addFollowRow({path, 0}))
-        setWaiting(true);
-    else
+    const auto isSame = [program = programName(path)](const FollowEntry &each) {
+        return programName(each.path) == program;
+    };
+    const auto found = std::find_if(m_programs.begin(), m_programs.end(), isSame);
+    const auto index = found - m_programs.begin();
+    const bool isNew = found == m_programs.end();
+    if (isNew) {
+        m_programs.push_back({path, 0});
+        showPrograms();
+        showWaiting();
+    } else {
         showNotice(QObject::tr("%1 is in the list already.").arg(programName(path)));
+    }
+    m_list->reveal(static_cast<int>(index));
 }
 
 void pageScenarioFollowing::on_pushButtonApply_clicked()
@@ -50,66 +68,70 @@ void pageScenarioFollowing::on_pushButtonApply_clicked()
     save();
 }
 
-/// Null when there is a row of that file name.
-FollowRow *pageScenarioFollowing::addFollowRow(const FollowEntry &entry)
+void pageScenarioFollowing::chooseScene(int index, int scene)
 {
-    const QString program = programName(entry.path);
-    const auto hasRow = [&program](const FollowRow *row) { return programName(row->path()) == program; };
-    const auto isSame = [&program](const FollowEntry &each) { return programName(each.path) == program; };
-    if (std::any_of(m_rows.begin(), m_rows.end(), hasRow) || std::any_of(m_unshown.begin(), m_unshown.end(), isSame))
-        return nullptr;
-    auto *row = new FollowRow(entry, this);
-    connect(row, &FollowRow::sceneChosen, this, [this] { setWaiting(true); });
-    connect(row->trashButton(), &QPushButton::clicked, this, [this, row] { deleteRow(row); });
-    m_rows.push_back(row);
-    addRow(row);
-    return row;
+    m_programs[static_cast<std::size_t>(index)].scene = scene;
+    showWaiting();
 }
 
-void pageScenarioFollowing::deleteRow(FollowRow *row)
+void pageScenarioFollowing::deleteProgram(int index)
 {
-    std::erase(m_rows, row);
-    removeRow(row);
-    setWaiting(true);
+    m_programs.erase(m_programs.begin() + index);
+    showPrograms();
+    showWaiting();
 }
 
-/// A file may hold more programs than anybody scrolls through; the later ones are followed and stored all the same.
-void pageScenarioFollowing::loadRows()
+FollowRow *pageScenarioFollowing::followRow(std::size_t index)
 {
+    return m_list->reveal(static_cast<int>(index));
+}
+
+/// A file name is one row, whatever the groups are called.
+void pageScenarioFollowing::loadPrograms()
+{
+    QSet<QString> names;
     for (const FollowEntry &entry : loadFollowList()) {
-        if (m_rows.size() < kShownRows)
-            addFollowRow(entry);
-        else
-            m_unshown.push_back(entry);
+        const qsizetype before = names.size();
+        names.insert(programName(entry.path));
+        if (names.size() > before)
+            m_programs.push_back(entry);
     }
+}
+
+void pageScenarioFollowing::showPrograms()
+{
+    m_list->showList();
+    showList(m_list, m_programs.empty());
+}
+
+void pageScenarioFollowing::showWaiting()
+{
+    setWaiting(!m_isStored || m_programs != m_saved);
 }
 
 void pageScenarioFollowing::save()
 {
-    m_saved = m_unshown;
-    for (const FollowRow *row : m_rows)
-        m_saved.push_back(row->entry());
+    m_saved = m_programs;
     rebuildTable();
-    showStored(saveFollowList(m_saved), QStringLiteral("scenceSetting.ini"));
-    if (!m_unshown.empty() && notice().isEmpty())
-        showNotice(QObject::tr("%1 more programs of the file are followed and not shown.").arg(m_unshown.size()));
+    m_isStored = saveFollowList(m_saved);
+    showStored(m_isStored, QStringLiteral("scenceSetting.ini"));
 }
 
 /// Scenes are told by their displayed names, so the table is made anew in every language; always from what was saved.
 void pageScenarioFollowing::rebuildTable()
 {
+    QStringList scenes;
+    for (const FollowScene &scene : followScenes())
+        scenes.append(QObject::tr(scene.name));
     QHash<QString, QString> table;
-    for (const FollowEntry &entry : m_saved) {
-        if (const FollowScene *scene = followSceneAt(entry.scene))
-            table.insert(programName(entry.path), QObject::tr(scene->name));
-    }
+    for (const FollowEntry &entry : m_saved)
+        table.insert(programName(entry.path), scenes.value(entry.scene));
     m_follower.setFollowTable(table);
 }
 
 void pageScenarioFollowing::updateControlText()
 {
     ListPage::updateControlText();
-    for (FollowRow *row : m_rows)
-        row->updateControlText();
+    m_list->updateControlText();
     rebuildTable();
 }

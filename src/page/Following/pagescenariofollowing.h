@@ -8,6 +8,7 @@
 #include "page/engine/listpage.h"
 
 class FollowRow;
+class FollowRows;
 
 /// Pairs programs with scene modes; while it lives the scene follows the program in front.
 class pageScenarioFollowing : public ListPage
@@ -22,7 +23,11 @@ public:
     /// What following does is reported by its signals.
     SceneFollower *follower() { return &m_follower; }
 
-    const std::vector<FollowRow *> &followRows() const { return m_rows; }
+    /// What the rows show, in their order.
+    const std::vector<FollowEntry> &programs() const { return m_programs; }
+
+    /// The row of a program, scrolled into sight; it shows another one once the list is scrolled or changed.
+    FollowRow *followRow(std::size_t index);
 
 protected:
     /// Asks for a program; empty when the user chose none.
@@ -33,15 +38,19 @@ private Q_SLOTS:
     void on_pushButtonApply_clicked();
 
 private:
-    FollowRow *addFollowRow(const FollowEntry &entry);
-    void deleteRow(FollowRow *row);
-    void loadRows();
+    void buildTools();
+    void loadPrograms();
+    void showPrograms();
+    void showWaiting();
+    void chooseScene(int index, int scene);
+    void deleteProgram(int index);
     void save();
     void rebuildTable();
 
-    std::vector<FollowRow *> m_rows;
-    std::vector<FollowEntry> m_unshown; ///< of a file that holds very many
-    std::vector<FollowEntry> m_saved;   ///< what is followed
+    std::vector<FollowEntry> m_programs;
+    std::vector<FollowEntry> m_saved; ///< what is followed
+    bool m_isStored = false;          ///< in the file as well
+    FollowRows *m_list;
     SceneFollower m_follower;
     ForegroundWatch m_watch;
 };

@@ -67,12 +67,12 @@ ListPage::ListPage(const QString &name, const char *title, const char *descripti
 
 QWidget *ListPage::buildList()
 {
-    auto *area = new QScrollArea(this);
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    area->setFocusPolicy(Qt::NoFocus);
-    auto *content = new QWidget(area);
+    m_area = new QScrollArea(this);
+    m_area->setWidgetResizable(true);
+    m_area->setFrameShape(QFrame::NoFrame);
+    m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_area->setFocusPolicy(Qt::NoFocus);
+    auto *content = new QWidget(m_area);
     content->setObjectName(QStringLiteral("customArea"));
     m_rows = new QVBoxLayout(content);
     m_rows->setContentsMargins(0, 0, 0, 0);
@@ -81,8 +81,17 @@ QWidget *ListPage::buildList()
     m_nothing->setParent(content);
     m_rows->addWidget(m_nothing, 1);
     m_rows->addStretch();
-    area->setWidget(content);
-    return area;
+    m_area->setWidget(content);
+    return m_area;
+}
+
+void ListPage::showList(QWidget *list, bool isEmpty)
+{
+    auto *column = static_cast<QVBoxLayout *>(layout());
+    if (column->indexOf(list) < 0)
+        column->insertWidget(column->indexOf(m_area), list, 1);
+    list->setVisible(!isEmpty);
+    m_area->setVisible(isEmpty);
 }
 
 void ListPage::addRow(QWidget *row)

@@ -8,6 +8,7 @@
 
 class QHBoxLayout;
 class QPushButton;
+class QScrollArea;
 class QVBoxLayout;
 
 /// A page that is a list of rows which the user adds to: heading, a line of tools, the rows, and a line for what there
@@ -34,6 +35,9 @@ protected:
 
     /// Puts a row below the others.
     void addRow(QWidget *row);
+
+    /// Shows a list that scrolls by itself in place of the rows, unless it is empty.
+    void showList(QWidget *list, bool isEmpty);
 
     /// Takes a row away; it is deleted when the control that asked for it has returned.
     void removeRow(QWidget *row);
@@ -62,6 +66,7 @@ private:
     BoundTexts m_texts;
     QHBoxLayout *m_heading;
     QHBoxLayout *m_tools;
+    QScrollArea *m_area = nullptr;
     QVBoxLayout *m_rows = nullptr;
     QLabel *m_nothing;
     QPushButton *m_apply = nullptr;
