@@ -94,7 +94,7 @@ void TestLedText::standing()
 void TestLedText::standingPieces_data()
 {
     columns<QStringList>("units"); // that may not be cut; one alone is repeated
-    row("words", QStringList{"it", "if", "li", "fit"});
+    row("words", QStringList{"it", "ill", "li", "tilt"});
     row("letters", QStringList{"W"});
     row("pairs of surrogates", QStringList{"😀"});
     row("joined ones", QStringList{"👨‍👩‍👧"});
@@ -111,7 +111,9 @@ void TestLedText::standingPieces()
     for (const int form : {kTaperingForm, kRectangleForm}) {
         QList<QByteArray> expected; // what stands there alone
         const auto expect = [&expected, form](const QString &piece) {
-            expected.append(TextRenderer(form, piece, TextMotion::Standing).frame(0).digits());
+            const TextRenderer renderer(form, piece, TextMotion::Standing);
+            if (renderer.frameCount() == 1)
+                expected.append(renderer.frame(0).digits());
         };
         for (qsizetype i = 0; i < units.size(); ++i) {
             for (qsizetype count = 1; i + count <= units.size(); ++count)
