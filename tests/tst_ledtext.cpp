@@ -205,6 +205,7 @@ void TestLedText::saveData()
     });
     page.saveButton()->click();
     QVERIFY(!page.saveButton()->isEnabled());
+    matrixForm = kRectangleForm; // too late for this one
     QVERIFY(QTest::qWaitFor([&] { return !page.isBusy(); }));
     QCOMPARE(phases.first(), QStringLiteral("Erase"));
     QVERIFY(phases.contains(QStringLiteral("Write Data")));

@@ -37,6 +37,10 @@ TextWidget::TextWidget(BoundTexts &texts, QWidget *parent)
     column->setSpacing(16);
     column->addWidget(m_input);
     column->addLayout(motions);
+    m_fit->setObjectName(QStringLiteral("notice"));
+    m_fit->setFont(noteFont);
+    m_fit->setWordWrap(true);
+    column->addWidget(m_fit);
     m_stage->setFrameShape(QFrame::NoFrame);
     m_stage->setAlignment(Qt::AlignCenter);
     m_stage->setFocusPolicy(Qt::NoFocus);
@@ -65,11 +69,7 @@ void TextWidget::buildMotions(BoundTexts &texts, QHBoxLayout *row)
         row->addWidget(button);
         m_motions.push_back(button);
     }
-    m_fit->setObjectName(QStringLiteral("notice"));
-    m_fit->setFont(noteFont);
-    m_fit->setWordWrap(true);
-    m_fit->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    row->addWidget(m_fit, 1);
+    row->addStretch(1);
     m_motions.front()->setChecked(true);
 }
 
@@ -132,6 +132,7 @@ void TextWidget::showFit()
     const bool all = m_shown.lettersShown() == m_shown.letters();
     m_fit->setText(all || m_shown.frameCount() == 0 ? QString()
                                                     : text.arg(m_shown.lettersShown()).arg(m_shown.letters()));
+    m_fit->setVisible(!m_fit->text().isEmpty());
 }
 
 QString TextWidget::fit() const
