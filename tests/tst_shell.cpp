@@ -36,9 +36,6 @@ private Q_SLOTS:
     void switchingLanguages();
     void damagedSettings_data();
     void damagedSettings();
-    void damagedSettingsAreKept();
-    void unwritableSettingsAreReported();
-    void storeRoundTrip();
     void sceneFamilies();
 
 private:
@@ -155,36 +152,6 @@ void TestShell::damagedSettings()
     QVERIFY(writeText("config.ini", file));
     QTEST(settingsInt(kDeviceIndexKey, 0, false), "index");
     QTEST(languageSetting(false), "language");
-}
-
-void TestShell::damagedSettingsAreKept()
-{
-    const QByteArray foreign = "a file of somebody else\n[PCSeting]\nDeviceIndex=1\n";
-    QVERIFY(writeText("config.ini", foreign));
-    settingsInt(kDeviceIndexKey, 3, true);
-    QCOMPARE(settingsInt(kDeviceIndexKey, 0, false), 3);
-    QCOMPARE(readText("config.ini.bad"), foreign);
-}
-
-void TestShell::unwritableSettingsAreReported()
-{
-    QDir::current().mkdir("config.ini"); // stands in the way, whoever runs the test
-    settingsInt(kDeviceIndexKey, 3, true);
-    QCOMPARE(settingsInt(kDeviceIndexKey, 0, false), 0);
-    QVERIFY(m_desk->takeLog().join('\n').contains("Cannot write"));
-}
-
-void TestShell::storeRoundTrip()
-{
-    languageSetting(true, "zh_TW");
-    QCOMPARE(languageSetting(false), QStringLiteral("zh_TW"));
-    settingsString("12/switchStatus", "on", true, "basicMode.ini");
-    settingsString("12/plusKey", "Ctrl+A", true, "basicMode.ini");
-    const QList<QPair<QString, QString>> expected = {{"12/plusKey", "Ctrl+A"}, {"12/switchStatus", "on"}};
-    QCOMPARE(readAllSettings("basicMode.ini"), expected);
-    clearSettingsFile("basicMode.ini");
-    QVERIFY(readAllSettings("basicMode.ini").isEmpty());
-    QCOMPARE(languageSetting(false), QStringLiteral("zh_TW"));
 }
 
 void TestShell::sceneFamilies()

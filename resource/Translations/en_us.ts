@@ -860,6 +860,18 @@
         <translation>Input Signal</translation>
     </message>
     <message>
+        <source>It is a link, which is not followed.</source>
+        <translation>It is a link, which is not followed.</translation>
+    </message>
+    <message>
+        <source>It is no file.</source>
+        <translation>It is no file.</translation>
+    </message>
+    <message>
+        <source>It may not be changed.</source>
+        <translation>It may not be changed.</translation>
+    </message>
+    <message>
         <source>Keyboard</source>
         <translation>Keyboard</translation>
     </message>
@@ -1660,6 +1672,10 @@
         <translation>The colours of the cinema.</translation>
     </message>
     <message>
+        <source>The disk did not take everything.</source>
+        <translation>The disk did not take everything.</translation>
+    </message>
+    <message>
         <source>The file cannot be read: %1</source>
         <translation>The file cannot be read: %1</translation>
     </message>
@@ -1786,6 +1802,10 @@
     <message>
         <source>There is no sound output until the button is released</source>
         <translation>There is no sound output until the button is released</translation>
+    </message>
+    <message>
+        <source>There is no such file.</source>
+        <translation>There is no such file.</translation>
     </message>
     <message>
         <source>There is no text yet.</source>

@@ -860,6 +860,18 @@
         <translation>入力信号</translation>
     </message>
     <message>
+        <source>It is a link, which is not followed.</source>
+        <translation>リンクのため、書き込みません。</translation>
+    </message>
+    <message>
+        <source>It is no file.</source>
+        <translation>ファイルではありません。</translation>
+    </message>
+    <message>
+        <source>It may not be changed.</source>
+        <translation>変更が許可されていません。</translation>
+    </message>
+    <message>
         <source>Keyboard</source>
         <translation>キーボード</translation>
     </message>
@@ -1660,6 +1672,10 @@
         <translation>映画館の色です。</translation>
     </message>
     <message>
+        <source>The disk did not take everything.</source>
+        <translation>ディスクにすべてを書き込めませんでした。</translation>
+    </message>
+    <message>
         <source>The file cannot be read: %1</source>
         <translation>ファイルを読み込めません: %1</translation>
     </message>
@@ -1786,6 +1802,10 @@
     <message>
         <source>There is no sound output until the button is released</source>
         <translation>ボタンを戻すまで、音声出力がありません</translation>
+    </message>
+    <message>
+        <source>There is no such file.</source>
+        <translation>ファイルが見つかりません。</translation>
     </message>
     <message>
         <source>There is no text yet.</source>

@@ -860,6 +860,18 @@
         <translation>输入信号</translation>
     </message>
     <message>
+        <source>It is a link, which is not followed.</source>
+        <translation>它是一个链接，程序不会跟随链接写入。</translation>
+    </message>
+    <message>
+        <source>It is no file.</source>
+        <translation>它不是文件。</translation>
+    </message>
+    <message>
+        <source>It may not be changed.</source>
+        <translation>它不允许修改。</translation>
+    </message>
+    <message>
         <source>Keyboard</source>
         <translation>键盘</translation>
     </message>
@@ -1660,6 +1672,10 @@
         <translation>影院的色彩。</translation>
     </message>
     <message>
+        <source>The disk did not take everything.</source>
+        <translation>磁盘未能写入全部内容。</translation>
+    </message>
+    <message>
         <source>The file cannot be read: %1</source>
         <translation>文件无法读取：%1</translation>
     </message>
@@ -1786,6 +1802,10 @@
     <message>
         <source>There is no sound output until the button is released</source>
         <translation>松开按钮前，没有声音输出</translation>
+    </message>
+    <message>
+        <source>There is no such file.</source>
+        <translation>文件不存在。</translation>
     </message>
     <message>
         <source>There is no text yet.</source>

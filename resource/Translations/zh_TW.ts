@@ -860,6 +860,18 @@
         <translation>輸入訊號</translation>
     </message>
     <message>
+        <source>It is a link, which is not followed.</source>
+        <translation>它是一個連結，程式不會跟隨連結寫入。</translation>
+    </message>
+    <message>
+        <source>It is no file.</source>
+        <translation>它不是檔案。</translation>
+    </message>
+    <message>
+        <source>It may not be changed.</source>
+        <translation>它不允許修改。</translation>
+    </message>
+    <message>
         <source>Keyboard</source>
         <translation>鍵盤</translation>
     </message>
@@ -1660,6 +1672,10 @@
         <translation>電影院的色彩。</translation>
     </message>
     <message>
+        <source>The disk did not take everything.</source>
+        <translation>磁碟未能寫入全部內容。</translation>
+    </message>
+    <message>
         <source>The file cannot be read: %1</source>
         <translation>檔案無法讀取：%1</translation>
     </message>
@@ -1786,6 +1802,10 @@
     <message>
         <source>There is no sound output until the button is released</source>
         <translation>放開按鈕前，沒有音訊輸出</translation>
+    </message>
+    <message>
+        <source>There is no such file.</source>
+        <translation>檔案不存在。</translation>
     </message>
     <message>
         <source>There is no text yet.</source>

@@ -4,6 +4,7 @@
 #include <QMutex>
 #include <QTextStream>
 
+#include "files/wholefile.h"
 #include "platform/desk.h"
 
 static QString levelWord(QtMsgType type)
@@ -32,9 +33,10 @@ void logMessageHandler(QtMsgType type, const QMessageLogContext &context, const 
     const QString line = levelWord(type) + QLatin1Char(' ') + source + QLatin1String(" \t") +
                          now.toString(QStringLiteral("yyyy-MM-dd hh:mm:ss.zzz")) + QLatin1String(" \t") + text;
 
-    QFile file(
-        QStringLiteral("./%1_%2.log").arg(QStringLiteral("QUORVEL"), now.toString(QStringLiteral("yyyy-MM-dd"))));
-    if (!file.open(QIODevice::ReadWrite | QIODevice::Append))
+    QFile file;
+    if (!openToAppend(
+            file,
+            QStringLiteral("./%1_%2.log").arg(QStringLiteral("QUORVEL"), now.toString(QStringLiteral("yyyy-MM-dd")))))
         return;
     QTextStream stream(&file);
     stream << line << "\r\n";

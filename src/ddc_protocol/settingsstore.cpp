@@ -1,148 +1,165 @@
 #include "ddc_protocol/settingsstore.h"
 
 #include <QDebug>
-#include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QSettings>
+
+#include "ddc_protocol/damagedsettings.h"
+#include "files/inifile.h"
+#include "files/wholefile.h"
+#include "platform/desk.h"
 
 namespace {
 
-/// Whether a file has lines that are neither a section, a comment nor a key with its value.
-bool holdsForeignLines(const QString &fileName)
+constexpr qint64 kLargestFile = 4 << 20; // bytes: some ten thousand programs to follow
+constexpr int kLockWait = 1000;          // ms
+
+using Values = QMap<QString, QVariant>;
+
+bool readFormat(QIODevice &device, QSettings::SettingsMap &values)
 {
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
+    const QByteArray bytes = device.read(kLargestFile + 1);
+    if (bytes.size() > kLargestFile)
         return false;
-    while (!file.atEnd()) {
-        const QByteArray line = file.readLine().trimmed();
-        const bool known = line.isEmpty() || line.startsWith('[') || line.startsWith(';') || line.indexOf('=') > 0;
-        if (!known || line.contains('\0'))
-            return true;
+    values = parseIni(bytes).values;
+    return true;
+}
+
+QByteArray bytesOf(const Values &values)
+{
+    return composeIni(values, platform::desk().files().lineEnd());
+}
+
+bool writeFormat(QIODevice &device, const QSettings::SettingsMap &values)
+{
+    return platform::desk().files().write(device, bytesOf(values));
+}
+
+/// The toolkit's INI format in our own hands: it builds no other types, and keeps letter case on every system.
+QSettings::Format iniFormat()
+{
+    static const QSettings::Format format =
+        QSettings::registerFormat(QStringLiteral("ini"), readFormat, writeFormat, Qt::CaseSensitive);
+    return format;
+}
+
+/// A text with commas that somebody wrote by hand, without quotes, is a list to the toolkit.
+QString textOf(const QVariant &value)
+{
+    switch (value.typeId()) {
+    case QMetaType::QStringList:
+        return value.toStringList().join(QLatin1String(", "));
+    case QMetaType::QByteArray:
+        return {}; // of another type
+    default:
+        return value.toString();
     }
+}
+
+/// A settings file opened to be read. Only regular files: the toolkit would wait for whoever writes to a pipe.
+template <typename Read> auto readFrom(const QString &fileName, const Read &read)
+{
+    if (!QFileInfo(fileName).isFile())
+        return decltype(read(std::declval<const QSettings &>()))();
+    return read(QSettings(fileName, iniFormat()));
+}
+
+bool refuse(const QString &fileName, const QString &why)
+{
+    qWarning().noquote() << "Cannot write" << fileName << "-" << why;
     return false;
 }
 
-/// An INI file opened for one operation.
-class IniFile
+/// Has the toolkit write the values under a scratch name, where its lock and its cache are nobody else's.
+bool replaceFile(const QString &fileName, const Values &values, const QByteArray &bytes)
 {
-public:
-    explicit IniFile(const QString &fileName) : m_settings(fileName, QSettings::IniFormat) {}
-
-    /// A text with commas that somebody wrote by hand, without quotes, is a list to the toolkit.
-    QString text(const QString &key) const
+    if (bytes.size() > kLargestFile)
+        return refuse(fileName, QStringLiteral("it would be too large to be read again"));
+    Replacement file(fileName);
+    if (!file.open())
+        return refuse(fileName, file.error());
     {
-        const QVariant value = m_settings.value(key);
-        return value.typeId() == QMetaType::QStringList ? value.toStringList().join(QLatin1String(", "))
-                                                        : value.toString();
+        QSettings settings(file.scratchName(), iniFormat());
+        settings.setAtomicSyncRequired(false); // it is put in place below
+        for (auto value = values.cbegin(); value != values.cend(); ++value)
+            settings.setValue(value.key(), value.value());
     }
+    return file.putInPlace(bytes) || refuse(fileName, file.error());
+}
 
-    void write(const QString &key, const QVariant &value)
-    {
-        keepForeignContent();
-        const QVariant before = m_settings.value(key);
-        m_settings.setValue(key, value);
-        if (finish())
-            return;
-        // The toolkit would go on telling this process the value that the file did not take.
-        if (before.isValid())
-            m_settings.setValue(key, before);
-        else
-            m_settings.remove(key);
-    }
-
-    void clear()
-    {
-        keepForeignContent();
-        m_settings.clear();
-        finish();
-    }
-
-    /// One write to the disk, by a file that takes the old one's place when it is complete.
-    bool replace(const QList<QPair<QString, QString>> &settings)
-    {
-        keepForeignContent();
-        QList<QPair<QString, QString>> before;
-        for (const QString &key : keys())
-            before.append({key, text(key)});
-        fill(settings);
-        if (finish())
-            return true;
-        fill(before); // the toolkit would go on telling this process what the file did not take
-        return false;
-    }
-
-    QStringList keys() const { return m_settings.allKeys(); }
-
-private:
-    void fill(const QList<QPair<QString, QString>> &settings)
-    {
-        m_settings.clear();
-        for (const auto &[key, value] : settings)
-            m_settings.setValue(key, value);
-    }
-
-    /// The toolkit drops what it does not understand when it writes; somebody may want it back.
-    void keepForeignContent()
-    {
-        const QString copy = m_settings.fileName() + QLatin1String(".bad");
-        if (holdsForeignLines(m_settings.fileName()) && QFile::copy(m_settings.fileName(), copy))
-            qWarning().noquote() << m_settings.fileName() << "is damaged; what it held is kept in" << copy;
-    }
-
-    bool finish()
-    {
-        // A process that was killed may have left a lock without an owner's name, for which the toolkit would wait
-        // long.
-        const QString lock = m_settings.fileName() + QLatin1String(".lock");
-        if (QFileInfo(lock).size() == 0)
-            QFile::remove(lock);
-        m_settings.sync();
-        const bool written = m_settings.status() != QSettings::AccessError;
-        if (!written)
-            qWarning().noquote() << "Cannot write" << m_settings.fileName();
-        return written;
-    }
-
-    QSettings m_settings;
-};
+/// Reads a file, lets the values be changed and writes it, unless nothing has changed.
+template <typename Change> bool changeFile(const QString &fileName, const Change &change)
+{
+    const QString lockName = fileName + QLatin1String(".lock");
+    const QFileInfo lockFile(lockName);
+    if (lockFile.isFile() && lockFile.size() == 0) // of a process that was killed before it wrote its name there
+        QFile::remove(lockName);
+    QLockFile lock(lockName);
+    if (!lock.tryLock(kLockWait))
+        return refuse(fileName, QStringLiteral("it cannot be locked"));
+    const WholeFile old = readWhole(fileName, kLargestFile);
+    if (!old.error.isEmpty())
+        return refuse(fileName, old.error);
+    const IniContent content = old.more ? IniContent{{}, true} : parseIni(old.bytes);
+    Values values = content.values;
+    change(values);
+    const QByteArray bytes = bytesOf(values);
+    if (bytes == bytesOf(content.values))
+        return true;
+    if (content.hasForeignLines && !keepDamaged(fileName, old))
+        return refuse(fileName, QStringLiteral("what it held cannot be kept"));
+    return replaceFile(fileName, values, bytes);
+}
 
 } // namespace
 
 void clearSettingsFile(const QString &fileName)
 {
-    IniFile(fileName).clear();
+    changeFile(fileName, [](Values &values) { values.clear(); });
 }
 
 QString settingsString(const QString &key, const QString &value, bool write, const QString &fileName)
 {
-    IniFile file(fileName);
     if (!write)
-        return file.text(key);
-    file.write(key, value);
+        return readFrom(fileName, [&key](const QSettings &file) { return textOf(file.value(key)); });
+    const bool told = storeSetting(key, value, fileName); // the log tells
+    Q_UNUSED(told)
     return {};
 }
 
 int settingsInt(const QString &key, int value, bool write)
 {
-    IniFile file(QString::fromLatin1(kConfigFile));
     if (!write)
-        return file.text(key).toInt();
-    file.write(key, value);
+        return settingsString(key, {}, false, QString::fromLatin1(kConfigFile)).toInt();
+    const bool told = storeSetting(key, value);
+    Q_UNUSED(told)
     return 0;
 }
 
 QList<QPair<QString, QString>> readAllSettings(const QString &fileName)
 {
-    const IniFile file(fileName);
-    QList<QPair<QString, QString>> settings;
-    for (const QString &key : file.keys())
-        settings.append({key, file.text(key)});
-    return settings;
+    return readFrom(fileName, [](const QSettings &file) {
+        QList<QPair<QString, QString>> settings;
+        const QStringList keys = file.allKeys();
+        for (const QString &key : keys)
+            settings.append({key, textOf(file.value(key))});
+        return settings;
+    });
+}
+
+bool storeSetting(const QString &key, const QVariant &value, const QString &fileName)
+{
+    return changeFile(fileName, [&](Values &values) { values[normalizedKey(key)] = value; });
 }
 
 bool writeAllSettings(const QString &fileName, const QList<QPair<QString, QString>> &settings)
 {
-    return IniFile(fileName).replace(settings);
+    return changeFile(fileName, [&settings](Values &values) {
+        values.clear();
+        for (const auto &[key, value] : settings)
+            values[normalizedKey(key)] = value;
+    });
 }
 
 QString languageSetting(bool write, const QString &code)
@@ -151,4 +168,9 @@ QString languageSetting(bool write, const QString &code)
     const QString stored = settingsString(QStringLiteral("General/Language"), code, write, fileName);
     // The toolkit writes that key under [%General]; somebody editing the file by hand writes [General].
     return stored.isEmpty() && !write ? settingsString(QStringLiteral("Language"), {}, false, fileName) : stored;
+}
+
+bool storeLanguage(const QString &code)
+{
+    return storeSetting(QStringLiteral("General/Language"), code);
 }

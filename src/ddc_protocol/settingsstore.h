@@ -3,10 +3,12 @@
 #include <QList>
 #include <QPair>
 #include <QString>
+#include <QVariant>
 
 // Small operations over INI files of the working directory. Every call opens the file and closes it again; nothing is
-// cached. A file that cannot be written is logged and left as it is; one that holds something else than settings is
-// copied to "<name>.bad" before it is first overwritten.
+// cached. A file that cannot be written, or that another program holds locked for a second, is logged and left as it
+// is; one that holds something else than settings is copied to "<name>.bad", "<name>.bad2" and so on before it is
+// overwritten. A value that is no text, number or on/off reads as empty and is kept as it stands in the file.
 
 inline constexpr char kConfigFile[] = "config.ini";
 inline constexpr char kDeviceIndexKey[] = "PCSeting/DeviceIndex"; // spelled so in every user's file
@@ -24,10 +26,17 @@ int settingsInt(const QString &key, int value, bool write);
 /// Every key of the file with its value, sorted by key.
 QList<QPair<QString, QString>> readAllSettings(const QString &fileName);
 
-/// Replaces everything the file holds, in one step: whatever happens meanwhile, the file holds the old settings or the
-/// new ones. False when it could not be written; then it holds the old ones.
-bool writeAllSettings(const QString &fileName, const QList<QPair<QString, QString>> &settings);
+/// Stores a text or an integer. False when it could not be written: whoever has the user's ear tells so. Whatever
+/// happens meanwhile, the file holds the old settings or the new ones; so it is with the other writers.
+[[nodiscard]] bool storeSetting(const QString &key, const QVariant &value,
+                                const QString &fileName = QString::fromLatin1(kConfigFile));
+
+/// Replaces everything the file holds. False when it could not be written; then it holds the old settings.
+[[nodiscard]] bool writeAllSettings(const QString &fileName, const QList<QPair<QString, QString>> &settings);
 
 /// The interface language in config.ini. Write: stores the code and returns an empty text. Read: the stored code, empty
 /// when absent.
 QString languageSetting(bool write, const QString &code = {});
+
+/// As the writing languageSetting. False when the code could not be written.
+[[nodiscard]] bool storeLanguage(const QString &code);

@@ -1,14 +1,14 @@
 #include "ledmatrix/animationfile.h"
 
-#include <algorithm>
-
 #include <QDebug>
 #include <QFile>
-#include <QSaveFile>
+#include <QObject>
+
+#include "files/wholefile.h"
 
 namespace {
 
-constexpr qint64 kFrameBytes = 1050;
+constexpr qsizetype kFrameBytes = 1050;
 
 void logFailure(const QString &error)
 {
@@ -19,15 +19,10 @@ void logFailure(const QString &error)
 
 QString appendFrame(const QString &fileName, const QByteArray &digits)
 {
-    QFile file(fileName);
-    const QIODevice::OpenMode mode = file.exists() ? QIODevice::Append : QIODevice::WriteOnly;
-    if (!file.open(mode | QIODevice::Text)) {
-        logFailure(file.errorString());
-        return file.errorString();
-    }
-    if (file.write(digits) != digits.size() || !file.flush())
-        return file.errorString();
-    return {};
+    QString error = appendTo(fileName, digits);
+    if (!error.isEmpty())
+        logFailure(error);
+    return error;
 }
 
 QString writeAnimation(const QString &fileName, const QByteArrayList &frames,
@@ -37,32 +32,31 @@ QString writeAnimation(const QString &fileName, const QByteArrayList &frames,
         QFile old(fileName);
         return !old.exists() || old.remove() ? QString() : old.errorString();
     }
-    QSaveFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly)) {
-        logFailure(file.errorString());
-        return file.errorString();
+    Replacement file(fileName);
+    if (!file.open()) {
+        logFailure(file.error());
+        return file.error();
     }
     for (qsizetype i = 0; i < frames.size(); ++i) {
-        // Flushed each time: what fails only when the file is closed goes unnoticed.
-        if (file.write(frames[i]) != frames[i].size() || !file.flush())
-            return file.errorString();
+        if (!file.write(frames[i]))
+            return file.error();
         written(static_cast<int>(i) + 1);
     }
-    return file.commit() ? QString() : file.errorString();
+    return file.putInPlace(frames.join()) ? QString() : file.error();
 }
 
 ReadAnimation readAnimation(const QString &fileName)
 {
     ReadAnimation animation;
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly)) {
-        animation.error = file.errorString();
+    const WholeFile file = readWhole(fileName, kFrameBytes * kMaximumFrames);
+    animation.error = file.exists ? file.error : QObject::tr("There is no such file.");
+    if (!animation.error.isEmpty()) {
         logFailure(animation.error);
         return animation;
     }
-    const qint64 frames = std::min<qint64>(file.size() / kFrameBytes, kMaximumFrames);
+    const qsizetype frames = file.bytes.size() / kFrameBytes;
     qDebug() << "Frame size:" << frames;
-    for (qint64 i = 0; i < frames; ++i)
-        animation.frames.append(file.read(kFrameBytes));
+    for (qsizetype i = 0; i < frames; ++i)
+        animation.frames.append(file.bytes.sliced(i * kFrameBytes, kFrameBytes));
     return animation;
 }

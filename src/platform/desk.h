@@ -4,6 +4,7 @@
 #include "platform/clock.h"
 #include "platform/devicenotifications.h"
 #include "platform/displays.h"
+#include "platform/files.h"
 #include "platform/foreground.h"
 #include "platform/globalkeys.h"
 #include "platform/hid.h"
@@ -30,6 +31,7 @@ public:
     virtual Hid &hid() = 0;
     virtual AudioCapture &audio() = 0;
     virtual Clock &clock() = 0;
+    virtual Files &files() = 0;
 
     /// Called once when the main window is shown: a desk that has something of its own to show opens it now.
     virtual void mainWindowShown() {}

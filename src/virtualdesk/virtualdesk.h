@@ -16,6 +16,7 @@
 #include "virtualdesk/applications.h"
 #include "virtualdesk/desksetup.h"
 #include "virtualdesk/devicemessages.h"
+#include "virtualdesk/filefaults.h"
 #include "virtualdesk/hotkeys.h"
 #include "virtualdesk/simulatedaccessory.h"
 #include "virtualdesk/simulatedendpoint.h"
@@ -115,6 +116,10 @@ public:
     /// Where the files are that stand for names and for the log-on list; the system's folder for temporary files at
     /// first.
     void setMutexFolder(const QString &folder);
+
+    // The disk. Any thread.
+
+    FileFaults fileFaults;
 
     // The sound system. Any thread.
 

@@ -9,6 +9,7 @@
 
 #include "platform/systemclock.h"
 #include "platform/virtual/virtualaudio.h"
+#include "platform/virtual/virtualfiles.h"
 #include "platform/virtual/virtualforeground.h"
 #include "platform/virtual/virtualhid.h"
 #include "virtualdesk/deskscript.h"
@@ -259,7 +260,7 @@ VirtualPlatform::VirtualPlatform(VirtualDesk &desk, Clock &clock)
       m_deviceNotifications(std::make_unique<VirtualNotifications>(desk)),
       m_globalKeys(std::make_unique<VirtualGlobalKeys>(desk)),
       m_foreground(std::make_unique<VirtualForeground>(desk.applications())), m_hid(std::make_unique<VirtualHid>(desk)),
-      m_audio(std::make_unique<VirtualAudio>(desk.sound()))
+      m_audio(std::make_unique<VirtualAudio>(desk.sound())), m_files(std::make_unique<VirtualFiles>(desk.fileFaults))
 {
 }
 
@@ -313,6 +314,11 @@ AudioCapture &VirtualPlatform::audio()
 Clock &VirtualPlatform::clock()
 {
     return m_clock;
+}
+
+Files &VirtualPlatform::files()
+{
+    return *m_files;
 }
 
 void VirtualPlatform::mainWindowShown()

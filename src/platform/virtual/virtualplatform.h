@@ -27,6 +27,7 @@ public:
     Hid &hid() override;
     AudioCapture &audio() override;
     Clock &clock() override;
+    Files &files() override;
 
     /// Starts the script's timed events.
     void mainWindowShown() override;
@@ -46,6 +47,7 @@ private:
     std::unique_ptr<Foreground> m_foreground;
     std::unique_ptr<Hid> m_hid;
     std::unique_ptr<AudioCapture> m_audio;
+    std::unique_ptr<Files> m_files;
 };
 
 /// The simulated desk of a process, set up by the environment, in real time. Its window opens beside the main window

@@ -28,6 +28,7 @@ public:
     Hid &hid() override { return m_hid; }
     AudioCapture &audio() override { return m_audio; }
     Clock &clock() override { return m_clock; }
+    Files &files() override { return *m_files; }
 
 private:
     Win32Displays m_displays;
@@ -40,6 +41,7 @@ private:
     Win32Hid m_hid;
     Win32Audio m_audio;
     SystemClock m_clock;
+    std::unique_ptr<Files> m_files = createSystemFiles();
 };
 
 } // namespace

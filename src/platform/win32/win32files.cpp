@@ -1,0 +1,147 @@
+#include <utility>
+
+#include <windows.h>
+
+#include <fcntl.h>
+#include <io.h>
+
+#include <QDir>
+#include <QFileInfo>
+
+#include "platform/files.h"
+#include "platform/win32/win32strings.h"
+
+namespace platform {
+
+namespace {
+
+thread_local std::uint32_t s_lastError = 0;
+
+bool finish(bool ok)
+{
+    if (!ok)
+        s_lastError = GetLastError();
+    return ok;
+}
+
+/// A handle of a file that closes itself.
+class FileHandle
+{
+public:
+    explicit FileHandle(HANDLE handle) : m_handle(handle) {}
+    ~FileHandle()
+    {
+        if (isOpen())
+            CloseHandle(m_handle);
+    }
+    Q_DISABLE_COPY_MOVE(FileHandle)
+
+    bool isOpen() const { return m_handle != INVALID_HANDLE_VALUE; }
+    HANDLE get() const { return m_handle; }
+    HANDLE release() { return std::exchange(m_handle, INVALID_HANDLE_VALUE); }
+
+private:
+    HANDLE m_handle;
+};
+
+/// The path in the form that may be longer than 260 letters, where it is that long.
+QString longPath(const QString &path)
+{
+    constexpr qsizetype kLongest = 240; // some calls keep room for a file's short name
+    const QString full = QDir::toNativeSeparators(QFileInfo(path).absoluteFilePath());
+    if (full.size() < kLongest || full.startsWith(QLatin1String(R"(\?\)")))
+        return full;
+    if (full.startsWith(QLatin1String(R"(\)")))
+        return QLatin1String(R"(\?\UNC)") + full.sliced(1);
+    return QLatin1String(R"(\?\)") + full;
+}
+
+constexpr DWORD kShared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+struct Opening
+{
+    DWORD access;
+    DWORD disposition;
+    DWORD attributes;
+    int descriptorFlags;
+};
+
+Opening openingOf(FileAccess access)
+{
+    switch (access) {
+    case FileAccess::Read:
+        return {GENERIC_READ, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, _O_RDONLY};
+    case FileAccess::Append:
+        return {GENERIC_READ | FILE_APPEND_DATA | SYNCHRONIZE, OPEN_ALWAYS,
+                FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT, _O_APPEND};
+    case FileAccess::CreateNew:
+        break;
+    }
+    return {GENERIC_READ | GENERIC_WRITE, CREATE_NEW, FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT, 0};
+}
+
+/// Opened as itself, a reparse point that stands for another name shows its tag; others, such as those of files that
+/// are kept in a cloud, are the file.
+bool standsForAnotherName(HANDLE handle)
+{
+    FILE_ATTRIBUTE_TAG_INFO info{};
+    return GetFileInformationByHandleEx(handle, FileAttributeTagInfo, &info, sizeof info) &&
+           (info.FileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 && IsReparseTagNameSurrogate(info.ReparseTag);
+}
+
+class Win32Files final : public Files
+{
+public:
+    int open(const QString &path, FileAccess access) override
+    {
+        const Opening how = openingOf(access);
+        FileHandle file(
+            CreateFileW(wide(longPath(path)), how.access, kShared, nullptr, how.disposition, how.attributes, nullptr));
+        if (!finish(file.isOpen()))
+            return -1;
+        if (GetFileType(file.get()) != FILE_TYPE_DISK || standsForAnotherName(file.get())) {
+            s_lastError = ERROR_CANT_ACCESS_FILE;
+            return -1;
+        }
+        const int descriptor = _open_osfhandle(reinterpret_cast<intptr_t>(file.get()), how.descriptorFlags | _O_BINARY);
+        if (finish(descriptor >= 0))
+            file.release(); // goes with the descriptor
+        return descriptor;
+    }
+
+    bool write(QIODevice &device, const QByteArray &bytes) override
+    {
+        return finish(device.write(bytes) == bytes.size());
+    }
+
+    bool flush(const QString &path) override
+    {
+        const FileHandle file(CreateFileW(wide(longPath(path)), GENERIC_WRITE, kShared, nullptr, OPEN_EXISTING,
+                                          FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
+        return finish(file.isOpen() && FlushFileBuffers(file.get()));
+    }
+
+    bool replace(const QString &path, const QString &replaced) override
+    {
+        return finish(MoveFileExW(wide(longPath(path)), wide(longPath(replaced)), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH));
+    }
+
+    bool isLink(const QString &path) override
+    {
+        const FileHandle file(CreateFileW(wide(longPath(path)), FILE_READ_ATTRIBUTES, kShared, nullptr, OPEN_EXISTING,
+                                          FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
+        return file.isOpen() && standsForAnotherName(file.get());
+    }
+
+    std::uint32_t lastError() override { return s_lastError; }
+    QByteArray lineEnd() override { return "\r\n"; }
+};
+
+} // namespace
+
+std::unique_ptr<Files> createSystemFiles()
+{
+    return std::make_unique<Win32Files>();
+}
+
+} // namespace platform
