@@ -198,14 +198,16 @@ void SearchDeviceDlg::onCurrentDeviceChanged(int index)
 {
     if (m_fillingBox || index < 0)
         return;
-    settingsInt(QString::fromLatin1(kDeviceIndexKey), index, true);
+    const QString key = QString::fromLatin1(kDeviceIndexKey);
+    const bool stored = storeSetting(key, index); // else a copy would come back with the old one
     // Everything shown belongs to the monitor before, down to the entries of the left bars.
-    if (relaunchAndQuit())
+    if (stored && relaunchAndQuit())
         return;
-    settingsInt(QString::fromLatin1(kDeviceIndexKey), currentMonitorIndex, true);
-    m_fillingBox = true;
+    const QSignalBlocker quiet(m_deviceBox);
     m_deviceBox->setCurrentIndex(currentMonitorIndex);
-    m_fillingBox = false;
+    if (!stored)
+        return;
+    storeSetting(key, currentMonitorIndex);
     tellNotRestarted();
 }
 

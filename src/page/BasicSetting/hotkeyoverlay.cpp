@@ -10,22 +10,16 @@ constexpr platform::milliseconds kShown{1500};
 const QString kKey = QStringLiteral("PCSeting/HotkeyOverlay");
 const QString kOff = QStringLiteral("off");
 
-QString stored(bool write, const QString &value = {})
-{
-    return settingsString(kKey, value, write, QLatin1String(kConfigFile));
-}
-
 } // namespace
 
 bool hotkeyOverlayOn()
 {
-    return stored(false) != kOff;
+    return settingsString(kKey, {}, false, QLatin1String(kConfigFile)) != kOff;
 }
 
 bool setHotkeyOverlayOn(bool on)
 {
-    stored(true, on ? QStringLiteral("on") : kOff);
-    return hotkeyOverlayOn() == on;
+    return storeSetting(kKey, on ? QStringLiteral("on") : kOff);
 }
 
 HotkeyOverlay::HotkeyOverlay(QObject *parent) : QObject(parent), m_toast(std::make_unique<DesktopToast>())

@@ -63,11 +63,6 @@ bool runsOnStartUp()
     return value && value->compare(programPath(), Qt::CaseInsensitive) == 0;
 }
 
-QString notWritten()
-{
-    return QObject::tr("%1 cannot be written. Nothing was changed.").arg(QLatin1String(kConfigFile));
-}
-
 } // namespace
 
 pagePCSetting::pagePCSetting(SearchDeviceDlg &session, CommandQueue &queue, QWidget *parent)
@@ -190,8 +185,7 @@ void pagePCSetting::setRunOnStartUp(bool on)
 
 void pagePCSetting::setOverlay(bool on)
 {
-    if (!setHotkeyOverlayOn(on))
-        showNotice(notWritten());
+    showStored(setHotkeyOverlayOn(on), Unstored::Undone);
     showWhatIsSet();
 }
 
@@ -203,16 +197,14 @@ void pagePCSetting::changeLanguage(const QString &objectName)
     });
     if (language == languages.end())
         return;
-    const QString code = QLatin1String(language->code);
     if (ask(QObject::tr("Language"), QObject::tr("The APP will restart automatically when switching languages."))) {
         const QString before = languageSetting(false);
-        languageSetting(true, code);
-        const bool stored = languageSetting(false) == code;
-        if (stored && relaunchAndQuit())
-            return;
-        if (stored)
-            languageSetting(true, before);
-        showNotice(stored ? notRestarted() : notWritten());
+        if (showStored(storeLanguage(QLatin1String(language->code)), Unstored::Undone)) {
+            if (relaunchAndQuit())
+                return;
+            storeLanguage(before);
+            showNotice(notRestarted());
+        }
     }
     showWhatIsSet();
 }
@@ -224,23 +216,15 @@ void pagePCSetting::onComboxIndexChanged(int nIndex)
     showNotice({});
     if (ask(QObject::tr("Machine Select"), QObject::tr("The APP will reload data when switching machines."))) {
         const std::uint8_t before = currentMonitorIndex;
-        const bool stored = storeMachine(nIndex);
-        if (stored) {
+        if (showStored(storeSetting(QLatin1String(kDeviceIndexKey), nIndex), Unstored::Undone)) {
             currentMonitorIndex = static_cast<std::uint8_t>(nIndex);
             if (relaunchAndQuit())
                 return;
             currentMonitorIndex = before; // or commands would go to a monitor that no page shows
-            storeMachine(before);
+            storeSetting(QLatin1String(kDeviceIndexKey), before);
+            showNotice(notRestarted());
         }
-        showNotice(stored ? notRestarted() : notWritten());
     }
     const Updating updating(*this);
     m_machines->setCurrentIndex(currentMonitorIndex);
-}
-
-bool pagePCSetting::storeMachine(int index)
-{
-    const QString key = QLatin1String(kDeviceIndexKey);
-    settingsInt(key, index, true);
-    return settingsInt(key, 0, false) == index;
 }

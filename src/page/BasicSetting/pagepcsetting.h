@@ -36,7 +36,6 @@ private:
     void setRunOnStartUp(bool on);
     void setOverlay(bool on);
     void changeLanguage(const QString &objectName);
-    bool storeMachine(int index);
 
     SearchDeviceDlg &m_session;
     OptionGroupRow *m_startUp = nullptr;

@@ -59,8 +59,9 @@ void pageSystemSetting::resetFactory()
     qDebug() << "reset begin";
     Q_EMIT resetBegins();
     reloadEdidType = kRestartProgram;
-    settingsInt(QLatin1String(kLedBrightnessKey), kUsualLedBrightness, true);
-    settingsInt(QLatin1String(kPlaybackLevelKey), kUsualPlaybackLevel, true);
+    const bool brightness = storeSetting(QLatin1String(kLedBrightnessKey), kUsualLedBrightness);
+    const bool level = storeSetting(QLatin1String(kPlaybackLevelKey), kUsualPlaybackLevel);
+    showStored(brightness && level, Unstored::HoldsUntilExit);
     platform::desk().clock().callLater(kResetTime, this, [this] {
         reloadEdidType = kRestartProgram; // whatever happened in between
         m_session.delayedSearchDevices();

@@ -9,8 +9,8 @@ void loadMatrixForm()
     matrixForm = matrixRows(stored).empty() ? kTaperingForm : stored;
 }
 
-void chooseMatrixForm(int form)
+bool chooseMatrixForm(int form)
 {
     matrixForm = form;
-    settingsInt(QLatin1String(kMatrixFormKey), form, true);
+    return storeSetting(QLatin1String(kMatrixFormKey), form);
 }

@@ -5,5 +5,6 @@ inline constexpr char kMatrixFormKey[] = "NightLoom/MatrixForm";
 /// Takes the matrix form that was stored last; 0 when there is none. Once, at the start.
 void loadMatrixForm();
 
-/// Makes a form the one that is used, and stores it. No sender may be at work.
-void chooseMatrixForm(int form);
+/// Makes a form the one that is used, and stores it; false when that failed, it is used all the same. No sender may be
+/// at work.
+[[nodiscard]] bool chooseMatrixForm(int form);

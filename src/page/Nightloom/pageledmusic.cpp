@@ -133,7 +133,7 @@ void pageLEDMusic::showWhatIsSet()
 
 void pageLEDMusic::chooseTemplate(int value)
 {
-    settingsInt(QLatin1String(kMusicTemplateKey), value, true);
+    showStored(storeSetting(QLatin1String(kMusicTemplateKey), value), Unstored::Undone);
 }
 
 void pageLEDMusic::switchMusic(int value)

@@ -113,8 +113,8 @@ void pageLEDSystem::showEvent(QShowEvent *event)
 void pageLEDSystem::showWhatIsSet()
 {
     const Updating updating(*this);
-    m_level->setValue(stored(kPlaybackLevelKey, kUsualPlaybackLevel));
-    m_brightness->setValue(stored(kLedBrightnessKey, kUsualLedBrightness));
+    m_level->setValue(m_unstored ? m_unstored->first : stored(kPlaybackLevelKey, kUsualPlaybackLevel));
+    m_brightness->setValue(m_unstored ? m_unstored->second : stored(kLedBrightnessKey, kUsualLedBrightness));
     m_lamp->showValue(m_lampSet);
     m_form->showValue(matrixForm.load());
     m_clock->showValue(m_display.shown() == LiveDisplay::Show::Clock ? 1 : 0);
@@ -133,8 +133,10 @@ void pageLEDSystem::onSliderReleased(SliderWidget *moved, Command command)
             const LiveDisplay::Pause pause(m_display);
             writePageReport(report);
         }
-        settingsInt(QLatin1String(kPlaybackLevelKey), level, true);
-        settingsInt(QLatin1String(kLedBrightnessKey), brightness, true);
+        const bool levelStored = storeSetting(QLatin1String(kPlaybackLevelKey), level);
+        const bool stored = storeSetting(QLatin1String(kLedBrightnessKey), brightness) && levelStored;
+        m_unstored = stored ? std::nullopt : std::optional(std::pair(level, brightness));
+        showStored(stored, Unstored::HoldsUntilExit);
         queue().post(command, value);
     }
     showWhatIsSet();
@@ -155,7 +157,7 @@ void pageLEDSystem::switchLamp(int value)
 void pageLEDSystem::chooseForm(int value)
 {
     const LiveDisplay::Pause pause(m_display); // no frame may be half of one form
-    chooseMatrixForm(value);
+    showStored(chooseMatrixForm(value), Unstored::HoldsUntilExit);
 }
 
 void pageLEDSystem::switchClock(int value)

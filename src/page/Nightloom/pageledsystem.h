@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+#include <utility>
+
 #include "page/Nightloom/accessorycheck.h"
 #include "page/engine/panelpage.h"
 
@@ -45,5 +48,6 @@ private:
     OptionGroupRow *m_lamp = nullptr;
     OptionGroupRow *m_form = nullptr;
     OptionGroupRow *m_clock = nullptr;
-    std::optional<int> m_lampSet; ///< what the lamp was switched to last; the accessory does not tell
+    std::optional<std::pair<int, int>> m_unstored; ///< level and brightness that the file did not take
+    std::optional<int> m_lampSet;                  ///< what the lamp was switched to last; the accessory does not tell
 };

@@ -11,6 +11,7 @@
 #include "controls/sharedfonts.h"
 #include "page/engine/labels.h"
 #include "page/engine/pagestyle.h"
+#include "page/engine/storenotice.h"
 
 namespace {
 
@@ -155,8 +156,7 @@ void ListPage::showStored(bool stored, const QString &fileName)
 {
     setWaiting(!stored);
     if (!stored)
-        showNotice(QObject::tr("%1 cannot be written: what is set here lasts until the program ends.").arg(fileName),
-                   Tone::Warning);
+        showNotice(storeNotice(Unstored::HoldsUntilExit, fileName), Tone::Warning);
 }
 
 void ListPage::paintEvent(QPaintEvent *)

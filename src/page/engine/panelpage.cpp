@@ -11,6 +11,7 @@
 #include "controls/lefttabbutton.h"
 #include "controls/pictures.h"
 #include "controls/sharedfonts.h"
+#include "ddc_protocol/settingsstore.h"
 #include "page/engine/optiongrouprow.h"
 #include "page/engine/pagestyle.h"
 
@@ -203,4 +204,11 @@ void PanelPage::showNotice(const QString &text)
 {
     m_notice->setText(text);
     m_notice->setVisible(!text.isEmpty());
+}
+
+bool PanelPage::showStored(bool stored, Unstored otherwise)
+{
+    if (!stored)
+        showNotice(storeNotice(otherwise, QLatin1String(kConfigFile)));
+    return stored;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "page/engine/settingspage.h"
+#include "page/engine/storenotice.h"
 
 class LeftTabButton;
 class QPushButton;
@@ -45,6 +46,9 @@ protected:
 
     /// Writes something under the panel until another one is chosen or something is sent.
     void showNotice(const QString &text);
+
+    /// Writes under the panel that a setting of the tool's own could not be stored, unless it was; returns whether.
+    bool showStored(bool stored, Unstored otherwise);
 
 private:
     QWidget *buildList();
