@@ -37,7 +37,7 @@ void ColorPicker::onPickColor()
 
 QColor ColorPicker::askColor()
 {
-    return QColorDialog::getColor(m_color, this);
+    return QColorDialog::getColor(m_color, this, QString(), QColorDialog::DontUseNativeDialog);
 }
 
 void ColorPicker::pressAt(const QPoint &position)

@@ -110,7 +110,8 @@ void DesktopPanel::takeKey()
 
 void DesktopPanel::addProgram()
 {
-    const QString path = QFileDialog::getOpenFileName(this, m_add->text());
+    const QString path =
+        QFileDialog::getOpenFileName(this, m_add->text(), {}, {}, nullptr, QFileDialog::DontUseNativeDialog);
     if (path.isEmpty())
         return;
     auto list = m_desk.applications().list();

@@ -239,8 +239,8 @@ QComboBox *SoundPanel::addBox(Row &row)
 
 bool SoundPanel::chooseFile()
 {
-    const QString fileName =
-        QFileDialog::getOpenFileName(this, QObject::tr("A WAV file"), QString(), QStringLiteral("*.wav"));
+    const QString fileName = QFileDialog::getOpenFileName(
+        this, QObject::tr("A WAV file"), QString(), QStringLiteral("*.wav"), nullptr, QFileDialog::DontUseNativeDialog);
     if (fileName.isEmpty())
         return false;
     QString error;

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
-#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QSet>
 #include <QStandardPaths>
 
+#include "controls/filequestion.h"
 #include "following/followscenes.h"
 #include "page/Following/followrows.h"
 #include "page/engine/labels.h"
@@ -37,9 +37,8 @@ void pageScenarioFollowing::buildTools()
 
 QString pageScenarioFollowing::askForProgram()
 {
-    return QFileDialog::getOpenFileName(this, QObject::tr("open"),
-                                        QStandardPaths::writableLocation(QStandardPaths::DesktopLocation),
-                                        QObject::tr("All file (*.*)"));
+    return askForFile(this, QObject::tr("open"), QStandardPaths::writableLocation(QStandardPaths::DesktopLocation),
+                      QObject::tr("All file (*.*)"));
 }
 
 void pageScenarioFollowing::on_pushButtonAdd_clicked()

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QProgressBar>
 
+#include "controls/filequestion.h"
 #include "controls/messagebox.h"
 #include "ledmatrix/animationfile.h"
 #include "ledmatrix/matrixframe.h"
@@ -27,15 +27,12 @@ QString fileFilter()
 
 QString pageLEDMatrixCanvas::askSaveFile()
 {
-    QFileDialog dialog(window(), QObject::tr("Save File"), QString(), fileFilter());
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QStringLiteral("csv")); // before it asks whether a file may be replaced
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+    return askForNewFile(window(), QObject::tr("Save File"), QString(), fileFilter(), QStringLiteral("csv"));
 }
 
 QString pageLEDMatrixCanvas::askOpenFile()
 {
-    return QFileDialog::getOpenFileName(window(), QObject::tr("Select File"), QString(), fileFilter());
+    return askForFile(window(), QObject::tr("Select File"), QString(), fileFilter());
 }
 
 void pageLEDMatrixCanvas::warn(const QString &text)
