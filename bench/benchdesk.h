@@ -41,11 +41,12 @@ public:
 
     virtualdesk::SimulatedMonitor &monitor() { return desk.monitor(0); }
 
-    MeteredClock clock;
+    MeteredClock clock; ///< the devices'
+    platform::SystemClock programClock;
     virtualdesk::VirtualDesk desk{clock};
 
 private:
     QTemporaryDir m_folder;
     QString m_folderBefore;
-    platform::VirtualPlatform m_platform{desk, clock};
+    platform::VirtualPlatform m_platform{desk, programClock};
 };

@@ -5,6 +5,7 @@
 
 #include "ddc_protocol/transport.h"
 #include "platform/desk.h"
+#include "platform/ending.h"
 #include "searchdevicedlg.h"
 #include "snapshotreads.h"
 
@@ -25,6 +26,8 @@ int read(const SnapshotRead &item)
 void readGroup(std::span<const SnapshotRead> group, QProgressDialog &progress)
 {
     for (const SnapshotRead &item : group) {
+        if (platform::programEnds()) // the dialog lets events in
+            return;
         const int value = read(item);
         // A switch that was not answered stays unknown rather than turning on.
         deviceState.store(item.command, item.isSwitch && value != -1 ? value != 0 : value);
@@ -40,7 +43,8 @@ bool readSceneMode()
         if (mode >= 1 && mode <= kHighestSceneMode)
             break;
         qDebug() << "Retry to get scene modem.";
-        platform::desk().clock().sleep(kSceneModePause);
+        if (!platform::desk().clock().sleepBeforeRetry(kSceneModePause))
+            break;
     }
     deviceState.store(Command::SceneMode, mode);
     deviceState.lastSceneModeSent = mode;
@@ -97,7 +101,7 @@ bool SearchDeviceDlg::readDataFromDevice()
     progress.setValue(progress.value() + 1);
     readGroup(officeReads(), progress);
     qDebug() << "ReadData end ...";
-    return true;
+    return !platform::programEnds();
 }
 
 bool SearchDeviceDlg::readSceneModeData(int mode)

@@ -25,8 +25,9 @@
 #include "page/Office/pageoffice.h"
 #include "page/Scene/pagescenesetting.h"
 #include "page/emptypage.h"
-#include "platform/desk.h"
+#include "platform/ending.h"
 #include "searchdevicedlg.h"
+#include "sessionend.h"
 #include "toptabframe.h"
 #include "usb-hid/hidtransport.h"
 
@@ -39,7 +40,8 @@ constexpr int kLeftWidth = 232;
 constexpr int kMargin = 24;
 constexpr int kStatusLeft = 32; // below the entries' icons
 constexpr int kStatusHeight = 40;
-constexpr int kBalloonTime = 10000; // ms
+constexpr int kBalloonTime = 10000;                 // ms
+constexpr platform::milliseconds kLastValues{1500}; // the system gives the whole program about 5 s
 
 } // namespace
 
@@ -124,6 +126,7 @@ void MainWindow::initialise()
     connect(m_scenePage, &pageSceneSetting::viewShown, this, &MainWindow::followSceneMode);
     createTrayIcon();
     m_session.setHost(this);
+    connect(new SessionEnd(this), &SessionEnd::ends, this, &MainWindow::endWithSession);
 }
 
 void MainWindow::createPages()
@@ -175,7 +178,7 @@ void MainWindow::createTrayIcon()
         QStringLiteral("QMenu { background-color: #161d1a; color: #c9c9c9; border: 1px solid #1b5043; }"
                        "QMenu::item { padding: 6px 24px; } QMenu::item:selected { background: #1b5043; }"));
     menu->addAction(QObject::tr("Show"), this, &MainWindow::showWindow);
-    menu->addAction(QObject::tr("Exit"), qApp, [] { platform::desk().process().quit(); });
+    menu->addAction(QObject::tr("Exit"), qApp, [] { platform::endProgram(); });
     m_tray->setContextMenu(menu);
     connect(m_tray, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
         if (reason != QSystemTrayIcon::Context)
@@ -246,8 +249,18 @@ void MainWindow::showWindow()
     activateWindow();
 }
 
+/// The user logs off: once this returns the process may be gone, so that it cannot wait for the ordinary end.
+void MainWindow::endWithSession()
+{
+    platform::endProgram();
+    endAccessoryWork();
+    m_queue->drainFor(kLastValues);
+}
+
 void MainWindow::closeEvent(QCloseEvent *event)
 {
+    if (platform::programEnds())
+        return;
     hide();
     event->ignore();
     if (m_tray)

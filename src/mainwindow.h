@@ -118,6 +118,7 @@ private:
     void enableAccessoryEntries();
     void enableEverything(bool enabled);
     void endAccessoryWork();
+    void endWithSession();
     void checkMonitor();
     void fillPages();
     void showShortcutResult(int function, Command command, int value, bool ok);

@@ -14,6 +14,7 @@
 #include "page/Nightloom/pageledsystem.h"
 #include "usb-hid/accessoryupload.h"
 #include "usb-hid/hidtransport.h"
+#include "usb-hid/livesender.h"
 
 void MainWindow::createAccessoryPages()
 {
@@ -79,10 +80,12 @@ void MainWindow::enableAccessoryEntries()
         bar->buttons()[i]->setEnabled(!m_locked && (!m_accessoryBusy || static_cast<int>(i) == bar->current()));
 }
 
-/// At the end of the program, while the pages that the work belongs to are still there.
+/// At the end of the program, while the pages that the work belongs to are still there. What is on the matrix is gone
+/// then: nobody would keep it up to date.
 void MainWindow::endAccessoryWork()
 {
     m_liveDisplay->setInterrupted(true);
     stopUploads();
     ledWorkThread::shutDown();
+    endLivePicture();
 }

@@ -3,17 +3,20 @@
 #include <QDebug>
 
 #include "platform/desk.h"
+#include "platform/ending.h"
 #include "singleapplication.h"
 
 bool relaunchAndQuit()
 {
+    if (platform::programEnds()) // what comes back while it ends must not bring it back
+        return true;
     auto *application = qobject_cast<SingleApplication *>(QCoreApplication::instance());
     if (application)
         application->stopServing(); // or the copy would announce itself to this instance and never serve itself
     platform::Process &process = platform::desk().process();
     if (process.startDetached(QCoreApplication::applicationFilePath(), QCoreApplication::arguments().mid(1),
                               QString())) {
-        process.quit();
+        platform::endProgram();
         return true;
     }
     qWarning() << "The program could not be restarted.";

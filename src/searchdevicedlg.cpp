@@ -14,6 +14,7 @@
 #include "ddc_protocol/settingsstore.h"
 #include "ddc_protocol/transport.h"
 #include "platform/desk.h"
+#include "platform/ending.h"
 #include "relaunch.h"
 #include "sessionhost.h"
 
@@ -134,7 +135,8 @@ void SearchDeviceDlg::searchDevices()
             return;
         if (result == PassResult::Finished)
             break;
-        platform::desk().clock().sleep(kPassPause);
+        if (!platform::desk().clock().sleepBeforeRetry(kPassPause))
+            return; // the program ends, which says nothing of the monitor
     }
     settingsInt(QString::fromLatin1(kDeviceIndexKey), currentMonitorIndex, true);
     if (reloadEdidType == kFullRead && !m_readSucceeded) {
@@ -157,6 +159,8 @@ void SearchDeviceDlg::exitUnsupported()
 void SearchDeviceDlg::delayedSearchDevices()
 {
     m_reconnectWaiting = false;
+    if (platform::programEnds())
+        return;
     if (m_searching) {
         qDebug() << "nativeEvent: Aready searching devices Data!";
         return;

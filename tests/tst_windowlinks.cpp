@@ -174,6 +174,7 @@ void TestWindowLinks::busyModeStopsTheLiveDisplay()
     QVERIFY(worker->isFinished());
     QVERIFY(!accessory.state().showsLive);
     QVERIFY(analyzer.isFinished());
+    QVERIFY(!m_desk->desk.accessory().state().showsLive);
 }
 
 void TestWindowLinks::uploadKeepsTheOthersAway()

@@ -4,6 +4,7 @@
 
 #include "ledmatrix/matrixform.h"
 #include "platform/desk.h"
+#include "platform/ending.h"
 
 namespace {
 
@@ -138,7 +139,7 @@ void SoundAnalyzer::release()
 
 void SoundAnalyzer::captureTurns()
 {
-    while (m_running != 0 && !isInterruptionRequested()) {
+    while (m_running != 0 && !isInterruptionRequested() && !platform::programEnds()) {
         if (!waitForPacket())
             continue;
         bool goOn = false;

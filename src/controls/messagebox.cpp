@@ -1,38 +1,63 @@
 #include "controls/messagebox.h"
 
+#include <QPointer>
 #include <QPushButton>
 
-static const char *const kStyle =
+namespace {
+
+const char *const kStyle =
     "QMessageBox {background-color: #101611;}QLabel{ color: white;}"
     "QDialogButtonBox {qproperty-centerButtons: false;alignment: bottom right;}"
     "QMessageBox QPushButton { border: 1px solid #8f8f91; border-radius: 4px; padding: 4px 12px; color: white;}";
 
-/// Adds a button that also looks focused: Enter is what most people press. The box's own style stays what it is.
-static QPushButton *addButton(QMessageBox &box, const QString &text, QMessageBox::ButtonRole role)
+/// A box in the program's look. It belongs to its parent, which may go while it is open.
+class Box
 {
-    QPushButton *button = box.addButton(text, role);
-    button->setStyleSheet(QStringLiteral("QPushButton:focus { border-color: #7bfadb; }"));
-    return button;
-}
+public:
+    Box(QMessageBox::Icon icon, const QString &title, const QString &text, QWidget *parent)
+        : m_box(new QMessageBox(icon, title, text, QMessageBox::NoButton, parent))
+    {
+        m_box->setStyleSheet(QLatin1String(kStyle));
+        m_box->setTextFormat(Qt::PlainText); // it may name a file of any name
+    }
+    ~Box() { delete m_box; }
+    Q_DISABLE_COPY_MOVE(Box)
+
+    /// Adds a button that also looks focused: Enter is what most people press. The box's own style stays what it is.
+    QPushButton *addButton(const QString &text, QMessageBox::ButtonRole role)
+    {
+        QPushButton *button = m_box->addButton(text, role);
+        button->setStyleSheet(QStringLiteral("QPushButton:focus { border-color: #7bfadb; }"));
+        return button;
+    }
+
+    /// Shows it until it is answered. The button; null when nobody answered: the program ended, or the window went.
+    const QAbstractButton *ask(QPushButton *usual, QAbstractButton *onEscape = nullptr)
+    {
+        m_box->setDefaultButton(usual);
+        m_box->setEscapeButton(onEscape);
+        m_box->exec();
+        return m_box ? m_box->clickedButton() : nullptr;
+    }
+
+private:
+    QPointer<QMessageBox> m_box;
+};
+
+} // namespace
 
 void showMessage(QMessageBox::Icon icon, const QString &title, const QString &text, const QString &button,
                  QMessageBox::ButtonRole role, QWidget *parent)
 {
-    QMessageBox box(icon, title, text, QMessageBox::NoButton, parent);
-    box.setStyleSheet(QLatin1String(kStyle));
-    box.setTextFormat(Qt::PlainText); // it may name a file of any name
-    box.setDefaultButton(addButton(box, button, role));
-    box.exec();
+    Box box(icon, title, text, parent);
+    box.ask(box.addButton(button, role));
 }
 
 bool askYesNo(const QString &title, const QString &text, QWidget *parent)
 {
-    QMessageBox box(QMessageBox::Question, title, text, QMessageBox::NoButton, parent);
-    box.setStyleSheet(QLatin1String(kStyle));
-    box.setTextFormat(Qt::PlainText); // it may name a file of any name
-    box.setDefaultButton(addButton(box, QObject::tr("Yes"), QMessageBox::YesRole));
-    QPushButton *no = addButton(box, QObject::tr("No"), QMessageBox::NoRole);
-    box.setEscapeButton(no);
-    box.exec();
-    return box.clickedButton() != no;
+    Box box(QMessageBox::Question, title, text, parent);
+    QPushButton *yes = box.addButton(QObject::tr("Yes"), QMessageBox::YesRole);
+    QPushButton *no = box.addButton(QObject::tr("No"), QMessageBox::NoRole);
+    const QAbstractButton *answer = box.ask(yes, no);
+    return answer && answer != no;
 }

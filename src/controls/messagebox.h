@@ -7,5 +7,6 @@
 void showMessage(QMessageBox::Icon icon, const QString &title, const QString &text, const QString &button,
                  QMessageBox::ButtonRole role = QMessageBox::YesRole, QWidget *parent = nullptr);
 
-/// A question in the same look, with "Yes" and "No". True on any answer but "No", which Escape gives as well.
+/// A question in the same look, with "Yes" and "No". True on any answer but "No", which Escape gives as
+/// well; false when nobody answered, as the program ended or the window went.
 bool askYesNo(const QString &title, const QString &text, QWidget *parent = nullptr);

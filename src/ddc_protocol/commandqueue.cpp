@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "ddc_protocol/transport.h"
+#include "platform/ending.h"
 
 CommandQueue::CommandQueue(QObject *parent) : QObject(parent)
 {
@@ -47,7 +48,13 @@ void CommandQueue::ask(Command command)
 void CommandQueue::drain()
 {
     std::unique_lock lock(m_mutex);
-    m_idle.wait(lock, [this] { return m_pending.empty() && !m_sending; });
+    m_idle.wait(lock, [this] { return isIdle() || platform::programEnds(); });
+}
+
+bool CommandQueue::drainFor(platform::milliseconds limit)
+{
+    std::unique_lock lock(m_mutex);
+    return m_idle.wait_for(lock, limit, [this] { return isIdle(); });
 }
 
 void CommandQueue::run()

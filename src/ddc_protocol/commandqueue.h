@@ -8,6 +8,7 @@
 #include <QObject>
 
 #include "ddc_protocol/commandtable.h"
+#include "platform/clock.h"
 
 /// Commands that must not hold up the window, carried by a thread of its own. The values of dragged sliders: of each
 /// command only the newest waits, and the last one given is always sent. And questions: values that a page does not
@@ -26,8 +27,11 @@ public:
     void ask(Command command);
 
     /// Blocks until everything posted has been sent. Whoever sends a command directly calls this first, or a drag's
-    /// last value would arrive behind it.
+    /// last value would arrive behind it. Not waited for when the program ends: its window is not to be held up.
     void drain();
+
+    /// Blocks until everything posted has been sent, or the time is over; false then. For those who end at once after.
+    bool drainFor(platform::milliseconds limit);
 
 Q_SIGNALS:
     /// A value went to the monitor, or failed to. Emitted on the queue's thread.
@@ -43,6 +47,7 @@ private:
         int value;
     };
 
+    bool isIdle() const { return m_pending.empty() && !m_sending; }
     void run();
     void sendNext(std::unique_lock<std::mutex> &lock);
     void askNext(std::unique_lock<std::mutex> &lock);

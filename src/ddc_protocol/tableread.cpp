@@ -91,7 +91,8 @@ std::optional<int> TableRead::open(std::uint8_t a, std::uint8_t b, std::uint8_t 
             }
             qDebug().noquote().nospace() << "Fail to retry errorCode= " << hex(c) << " " << m_reply.error;
         }
-        platform::desk().clock().sleep(kPause);
+        if (!platform::desk().clock().sleepBeforeRetry(kPause))
+            return 0;
     }
 }
 
@@ -110,7 +111,8 @@ bool TableRead::stream(int remaining)
             qDebug() << "---loop get data error.\r";
             return false;
         }
-        platform::desk().clock().sleep(kPause);
+        if (!platform::desk().clock().sleepBeforeRetry(kPause))
+            return false;
         code = kRepeatChunk;
     }
     return true;

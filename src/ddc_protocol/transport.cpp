@@ -6,6 +6,7 @@
 
 #include "ddc_protocol/displayenumeration.h"
 #include "platform/desk.h"
+#include "platform/ending.h"
 
 using platform::milliseconds;
 
@@ -33,9 +34,10 @@ QString hex(std::uint32_t number)
     return QString::number(number, 16);
 }
 
-void pause(milliseconds duration)
+/// Whether there is another attempt.
+bool pause(milliseconds duration)
 {
-    platform::desk().clock().sleep(duration);
+    return platform::desk().clock().sleepBeforeRetry(duration);
 }
 
 /// The monitor that commands go to; nothing when it could not be fetched. The first search takes any stored index, so
@@ -72,7 +74,8 @@ int readCommand(COMMAND_set_Type command, bool logged)
             break;
         if (logged)
             qDebug().noquote().nospace() << "Faile to retry errorCode: 01 99 " << hex(commandPacket[kPacketCodeByte]);
-        pause(kReadPause);
+        if (!pause(kReadPause))
+            break;
     }
     return static_cast<int>(value);
 }
@@ -110,7 +113,9 @@ int BuildCommandPacket(COMMAND_set_Type command, std::uint16_t value)
 
 platform::VcpReply requestFeature(std::optional<platform::PhysicalMonitorHandle> monitor, std::uint8_t code)
 {
-    return monitor ? platform::desk().monitors().getFeature(*monitor, code) : platform::VcpReply();
+    if (!monitor || platform::programEnds()) // nobody uses the answer any more, and whoever asks is waited for
+        return {};
+    return platform::desk().monitors().getFeature(*monitor, code);
 }
 
 std::uint32_t GetVcpValue(std::uint8_t code)
@@ -142,7 +147,8 @@ bool Korvu_SetCommandVal(COMMAND_set_Type command, std::uint16_t value, std::uin
         for (int attempt = 0; attempt < kWriteAttempts; ++attempt) {
             if (writeOnce(value))
                 return true;
-            pause(kWritePause);
+            if (!pause(kWritePause))
+                break;
         }
         qDebug().noquote().nospace() << "Write faile, errorCode: 03 99" << hex(commandPacket[kPacketCodeByte]) << "\r";
         reloadEdidType = kReconnect;

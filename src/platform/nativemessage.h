@@ -42,6 +42,9 @@ inline constexpr std::uint32_t kModifierControl = 2;    ///< MOD_CONTROL
 inline constexpr std::uint32_t kModifierShift = 4;      ///< MOD_SHIFT
 inline constexpr std::uint32_t kModifierWin = 8;        ///< MOD_WIN
 
+inline constexpr std::uint32_t kMessageQueryEndSession = 0x0011; ///< WM_QUERYENDSESSION: 0 would refuse
+inline constexpr std::uint32_t kMessageEndSession = 0x0016;      ///< WM_ENDSESSION: wParam 0 when it goes on after all
+
 /// The head of every device broadcast that lParam points to (DEV_BROADCAST_HDR).
 struct DeviceBroadcast
 {

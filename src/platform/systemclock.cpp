@@ -2,7 +2,6 @@
 
 #include <condition_variable>
 #include <mutex>
-#include <thread>
 
 #include <QTimer>
 
@@ -10,15 +9,19 @@ namespace platform {
 
 void SystemClock::sleep(milliseconds duration)
 {
-    std::this_thread::sleep_for(duration);
+    sleepUnlessStopped(duration, {});
 }
 
 void SystemClock::sleepUnlessStopped(milliseconds duration, const std::stop_token &stop)
 {
     std::mutex mutex;
+    std::condition_variable_any woken;
+    const std::stop_callback ended(endOfProgram(), [&mutex, &woken] {
+        const std::lock_guard lock(mutex); // else it might come between the sleeper's look and its sleep
+        woken.notify_all();
+    });
     std::unique_lock lock(mutex);
-    std::condition_variable_any stopped;
-    stopped.wait_for(lock, stop, duration, [] { return false; });
+    woken.wait_for(lock, stop, duration, [this] { return hasEnded(); });
 }
 
 QDateTime SystemClock::now()
@@ -28,7 +31,10 @@ QDateTime SystemClock::now()
 
 void SystemClock::callLater(milliseconds delay, QObject *context, std::function<void()> task)
 {
-    QTimer::singleShot(delay, context, std::move(task));
+    QTimer::singleShot(delay, context, [this, task = std::move(task)] {
+        if (!hasEnded())
+            task();
+    });
 }
 
 } // namespace platform

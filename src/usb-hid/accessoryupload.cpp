@@ -8,6 +8,7 @@
 #include <QFile>
 
 #include "platform/desk.h"
+#include "platform/ending.h"
 #include "usb-hid/hidtransport.h"
 
 namespace {
@@ -58,7 +59,7 @@ public:
         buildUploadStart(start, m_mode);
         m_complete = writePageReport(start);
         waitForDevice();
-        if (m_stop.stop_requested())
+        if (isStopped())
             return false;
         QFile file(fileName);
         if (!file.open(QIODevice::ReadOnly)) {
@@ -68,18 +69,20 @@ public:
         }
         sendChunks(file);
         file.close();
-        if (m_stop.stop_requested())
+        if (isStopped())
             return false;
         m_report(kProgressEnd);
         return m_complete;
     }
 
 private:
+    bool isStopped() const { return m_stop.stop_requested() || platform::programEnds(); }
+
     void waitForDevice()
     {
         for (int wait = 1; wait <= m_kind.waits; ++wait) {
             platform::desk().clock().sleepUnlessStopped(kWait, m_stop);
-            if (m_stop.stop_requested())
+            if (isStopped())
                 return;
             m_report(wait * m_kind.waitStep);
         }
@@ -95,7 +98,7 @@ private:
         qDebug() << "Total chunks:" << total;
         const int between = std::max(1, static_cast<int>(total * 0.1 * m_kind.progressShare));
         qint64 left = size;
-        for (int index = 1; index <= total && !m_stop.stop_requested(); ++index) {
+        for (int index = 1; index <= total && !isStopped(); ++index) {
             const auto length = std::min(left, static_cast<qint64>(kChunkCells));
             left -= length;
             const HidWrite result = sendChunk(file, total, index, length);

@@ -29,15 +29,17 @@ QWindow *findWindow(WId id)
 
 } // namespace
 
-bool deliverNativeMessage(platform::NativeMessage message)
+bool deliverNativeMessage(platform::NativeMessage message, qintptr *result)
 {
     const QByteArray eventType(platform::kNativeEventType);
-    qintptr result = 0;
+    qintptr unused = 0;
+    if (result == nullptr)
+        result = &unused;
     QAbstractEventDispatcher *dispatcher = QAbstractEventDispatcher::instance();
-    if (dispatcher != nullptr && dispatcher->filterNativeEvent(eventType, &message, &result))
+    if (dispatcher != nullptr && dispatcher->filterNativeEvent(eventType, &message, result))
         return true;
     QWindow *window = findWindow(reinterpret_cast<WId>(message.window));
-    return window != nullptr && (window->*(&WindowAccess::nativeEvent))(eventType, &message, &result);
+    return window != nullptr && (window->*(&WindowAccess::nativeEvent))(eventType, &message, result);
 }
 
 void *DeviceRegistrations::add(WId window, const platform::Guid &interfaceClass)

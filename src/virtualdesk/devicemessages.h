@@ -18,8 +18,9 @@ inline constexpr platform::Guid kHidInterfaceClass{
     0x4D1E55B2, 0xF16F, 0x11CF, {0x88, 0xCB, 0x00, 0x11, 0x11, 0x00, 0x00, 0x30}};
 
 /// Hands a message to the application's native event filters and then, unless one took it, to the window whose native
-/// handle it names: the way that every native message takes through the toolkit. True when somebody took it.
-bool deliverNativeMessage(platform::NativeMessage message);
+/// handle it names: the way that every native message takes through the toolkit. True when somebody took it; result is
+/// then the answer.
+bool deliverNativeMessage(platform::NativeMessage message, qintptr *result = nullptr);
 
 /// The windows that asked for device broadcasts. Interface thread only.
 class DeviceRegistrations

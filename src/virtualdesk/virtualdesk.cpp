@@ -370,6 +370,18 @@ void VirtualDesk::closeMutex(void *handle)
         countHandleFault();
 }
 
+bool VirtualDesk::endSession()
+{
+    qintptr agreed = 1; // who does not answer agrees
+    platform::NativeMessage message;
+    message.message = platform::kMessageQueryEndSession;
+    deliverNativeMessage(message, &agreed);
+    message.message = platform::kMessageEndSession;
+    message.wParam = agreed != 0 ? 1 : 0;
+    deliverNativeMessage(message);
+    return agreed != 0;
+}
+
 void VirtualDesk::deliverDeviceMessage(std::uint64_t event, const platform::Guid &interfaceClass)
 {
     m_registrations.broadcast(event, interfaceClass);

@@ -117,6 +117,9 @@ public:
     /// first.
     void setMutexFolder(const QString &folder);
 
+    /// The user logs off: the program is asked first and, unless it refuses, told; false when it refused.
+    bool endSession();
+
     // The disk. Any thread.
 
     FileFaults fileFaults;

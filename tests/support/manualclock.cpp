@@ -5,6 +5,8 @@
 void ManualClock::sleep(platform::milliseconds duration)
 {
     const std::lock_guard lock(m_mutex);
+    if (hasEnded())
+        return;
     m_waits.append(static_cast<int>(duration.count()));
     m_now = m_now.addMSecs(duration.count());
 }
@@ -34,7 +36,7 @@ void ManualClock::advance(platform::milliseconds duration)
         m_tasks.erase(next);
         m_now = std::max(m_now, task.due);
         lock.unlock();
-        if (task.context)
+        if (task.context && !hasEnded())
             task.run();
         lock.lock();
     }

@@ -143,6 +143,17 @@ def case_music_bars(rig):
         switch_off(run, window)
 
 
+def case_music_log_off(rig):
+    """Logging off in music mode takes the last bars off the matrix."""
+    with with_sound(rig, "music_log_off") as run:
+        play(run, "tone 1900")
+        switch_on(run)
+        wait_for(lambda: len(live_chunks(run)) > CHUNKS, "bars")
+        run.announce("session")
+        assert run.processes[0].wait(3) == 0, run.processes[0].returncode
+        assert happened(run)[-2:] == [report(LIVE_STOP), "close"], happened(run)[-2:]
+
+
 def case_music_failures(rig):
     """Each failure of the sound is answered in its way and logged, and the bars go on."""
     lost = ["DEVICE_INVALIDATED", "FAILED(hr)1 0x88890004"]

@@ -39,6 +39,23 @@ def case_closed_window(rig):
         assert run.processes[0].poll() is None
 
 
+def case_log_off(rig):
+    """Logging off ends the program at once, from the tray and under an open question, which then counts as "No"."""
+    for question in (False, True):
+        with started(rig, "log_off") as run:
+            window = run.start_and_show()
+            if question:
+                open_basic_page(run, window, TOOL_SETTINGS)
+                run.click(window, *LANGUAGES["ja_JP"])
+                wait_for(lambda: run.active_title() == "Language", "the question")
+            else:
+                run.click(window, CLOSE_BUTTON_X, TOP_BAR_Y)
+                wait_for(lambda: not run.window(at_least=800), "the window to hide")
+            run.announce("session")
+            assert run.processes[0].wait(3) == 0, run.processes[0].returncode
+            assert not rig.copies() and not (run.folder / "config.ini").read_text().count("Language")
+
+
 def case_run_key(rig):
     """"Run on startup" writes the program's own place into the list of what Windows starts, and takes it out again."""
     rig.forget_start()

@@ -164,7 +164,7 @@ class Run:
         return process
 
     def announce(self, device_class):
-        """Tells the program's windows that a device has arrived: a "monitor" or a "hid"."""
+        """Tells the program's windows that a device has arrived, a "monitor" or a "hid", or that the "session" ends."""
         sent = self.rig.run(["wine", str(self.rig.standins / "windowprobe.exe"), TITLE, device_class], check=True)
         assert int(sent) >= 1, sent
 

@@ -1,5 +1,6 @@
-// Sends the arrival of a device to the windows of the program: "windowprobe <title> monitor", or "hid". Every top-level
-// window of the process that owns the window of that title gets it, as the system's broadcast would reach them.
+// Sends the arrival of a device to the windows of the program: "windowprobe <title> monitor", or "hid"; or the end of
+// the session: "session". Every top-level window of the process that owns the window of that title gets it, as the
+// system's broadcast would reach them.
 
 #include <cstdio>
 #include <cwchar>
@@ -41,20 +42,40 @@ BOOL CALLBACK findOwner(HWND window, LPARAM parameter)
     return FALSE;
 }
 
+/// The answer of a window; nothing when it is another program's or does not answer in time.
+bool send(const Search &search, HWND window, UINT message, WPARAM word, LPARAM body, DWORD_PTR *answer)
+{
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    return process == search.process &&
+           SendMessageTimeoutW(window, message, word, body, SMTO_ABORTIFHUNG, kPatienceMs, answer);
+}
+
+/// Asks and tells as the system does; the window of a refusal ends the program with 1.
+BOOL CALLBACK endSession(HWND window, LPARAM parameter)
+{
+    auto *search = reinterpret_cast<Search *>(parameter);
+    DWORD_PTR answer = 0;
+    if (!send(*search, window, WM_QUERYENDSESSION, 0, ENDSESSION_LOGOFF, &answer))
+        return TRUE;
+    if (!answer) {
+        search->sent = 0;
+        return FALSE;
+    }
+    send(*search, window, WM_ENDSESSION, TRUE, ENDSESSION_LOGOFF, &answer);
+    ++search->sent;
+    return TRUE;
+}
+
 BOOL CALLBACK sendArrival(HWND window, LPARAM parameter)
 {
     auto *search = reinterpret_cast<Search *>(parameter);
-    DWORD process = 0;
-    GetWindowThreadProcessId(window, &process);
-    if (process != search->process)
-        return TRUE;
     DEV_BROADCAST_DEVICEINTERFACE_W arrival = {};
     arrival.dbcc_size = sizeof(arrival);
     arrival.dbcc_devicetype = DBT_DEVTYP_DEVICEINTERFACE;
     arrival.dbcc_classguid = search->arrived->guid;
     DWORD_PTR result = 0;
-    if (SendMessageTimeoutW(window, WM_DEVICECHANGE, DBT_DEVICEARRIVAL, reinterpret_cast<LPARAM>(&arrival),
-                            SMTO_ABORTIFHUNG, kPatienceMs, &result))
+    if (send(*search, window, WM_DEVICECHANGE, DBT_DEVICEARRIVAL, reinterpret_cast<LPARAM>(&arrival), &result))
         ++search->sent;
     return TRUE;
 }
@@ -68,14 +89,15 @@ int wmain(int count, wchar_t **arguments)
         if (count == 3 && std::wcscmp(arguments[2], deviceClass.name) == 0)
             search.arrived = &deviceClass;
     }
-    if (!search.arrived) {
-        std::fputs("usage: windowprobe <window title> monitor|hid\n", stderr);
+    const bool session = count == 3 && std::wcscmp(arguments[2], L"session") == 0;
+    if (!search.arrived && !session) {
+        std::fputs("usage: windowprobe <window title> monitor|hid|session\n", stderr);
         return 2;
     }
     search.title = arguments[1];
     EnumWindows(findOwner, reinterpret_cast<LPARAM>(&search));
     if (search.process)
-        EnumWindows(sendArrival, reinterpret_cast<LPARAM>(&search));
+        EnumWindows(session ? endSession : sendArrival, reinterpret_cast<LPARAM>(&search));
     std::printf("%d\n", search.sent);
     return search.sent > 0 ? 0 : 1;
 }

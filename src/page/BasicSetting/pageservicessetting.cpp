@@ -36,6 +36,14 @@ constexpr char kUpgrader[] = "Flasqon.exe"; // looked for beside the program and
 constexpr platform::milliseconds kStartLimit{30000};
 constexpr int kLineWithQrCode = 1;
 
+/// A firmware upgrade that was begun goes on when the tool ends: cut off in the middle it could leave the monitor dead.
+class UpgradeProcess : public QProcess
+{
+public:
+    using QProcess::QProcess;
+    ~UpgradeProcess() override { setProcessState(NotRunning); } // else it would be killed, and waited for
+};
+
 /// What the upgrade program calls the product lines; it takes any other monitor for one of the first.
 QString upgradeCode(int productLine)
 {
@@ -204,7 +212,7 @@ void pageServicesSetting::startUpgrade(const QStringList &arguments)
 {
     showNotice({});
     delete m_upgrade;
-    m_upgrade = new QProcess(this);
+    m_upgrade = new UpgradeProcess(this);
     connect(m_upgrade, &QProcess::started, this, [this] { showNotice({}); });
     connect(m_upgrade, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
         if (error == QProcess::FailedToStart)

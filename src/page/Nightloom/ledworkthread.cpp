@@ -7,6 +7,7 @@
 #include "page/Nightloom/dateled.h"
 #include "page/Nightloom/ledframesource.h"
 #include "platform/desk.h"
+#include "platform/ending.h"
 #include "usb-hid/accessoryupload.h"
 #include "usb-hid/hidtransport.h"
 #include "usb-hid/livesender.h"
@@ -166,7 +167,7 @@ void ledWorkThread::runClock()
 bool ledWorkThread::showTime()
 {
     const std::lock_guard lock(m_frameMutex);
-    if (m_running != 1)
+    if (m_running != 1 || platform::programEnds())
         return false;
     const QDateTime now = platform::desk().clock().now();
     m_minute = now.time().minute();

@@ -12,6 +12,7 @@
 #include "page/Nightloom/frametabs.h"
 #include "page/Nightloom/pageledmatrixcanvas.h"
 #include "page/Nightloom/toolcolumn.h"
+#include "platform/ending.h"
 #include "usb-hid/accessoryupload.h"
 
 namespace {
@@ -37,6 +38,8 @@ QString pageLEDMatrixCanvas::askOpenFile()
 
 void pageLEDMatrixCanvas::warn(const QString &text)
 {
+    if (platform::programEnds()) // it closed the question for the file
+        return;
     const QString title = QObject::tr("Warning");
     showMessage(QMessageBox::Warning, title, text, QObject::tr("OK"), QMessageBox::YesRole, window());
 }

@@ -220,14 +220,15 @@ private:
 /// What the process's own desk stands on; a base, so that it is there before the adapters are.
 struct OwnDesk
 {
-    SystemClock ownClock;
-    VirtualDesk ownDesk{ownClock, virtualdesk::setupFromEnvironment()};
+    SystemClock programClock;
+    SystemClock deskClock; // devices take their time also when the program ends
+    VirtualDesk ownDesk{deskClock, virtualdesk::setupFromEnvironment()};
 };
 
 class ProcessDesk final : private OwnDesk, public VirtualPlatform
 {
 public:
-    ProcessDesk() : VirtualPlatform(ownDesk, ownClock)
+    ProcessDesk() : VirtualPlatform(ownDesk, programClock)
     {
         ownDesk.startsPrograms = true;
         const QString requestFile = qEnvironmentVariable("QUORVEL_DESK_LOG");
