@@ -1,8 +1,15 @@
+#include <QPushButton>
 #include <QtTest>
 
+#include "ledmatrix/matrixform.h"
 #include "support/accessoryfixture.h"
 #include "support/datarow.h"
 #include "usb-hid/hidtransport.h"
+#include "usb-hid/livesender.h"
+#include "virtualdesk/accessorypanel.h"
+#include "virtualdesk/matrixview.h"
+
+using virtualdesk::kForEver;
 
 namespace {
 
@@ -16,15 +23,19 @@ QByteArray hex(const AccessoryReport &report)
 
 } // namespace
 
-/// The reports, and what the accessory makes of wrong ones.
+/// The reports, what the accessory makes of wrong ones, and finding, opening and closing it, by the program and by hand
+/// on the desk's panel.
 class TestAccessory : public AccessoryFixture
 {
     Q_OBJECT
 private Q_SLOTS:
     void reports_data();
     void reports();
-    void deviceRefusesWrongReports_data();
     void deviceRefusesWrongReports();
+    void findAndOpen_data();
+    void findAndOpen();
+    void flagsAreSticky();
+    void panelShowsTheAccessory();
 };
 
 void TestAccessory::reports_data()
@@ -54,8 +65,7 @@ void TestAccessory::reports_data()
 
 void TestAccessory::reports()
 {
-    QFETCH(Build, build);
-    QFETCH(QByteArray, expected);
+    const auto [build, expected] = fetch<Build, QByteArray>();
     AccessoryReport report;
     report.bytes.fill(0xEE); // what was in the buffer before must not show
     build(report);
@@ -65,34 +75,107 @@ void TestAccessory::reports()
     m_faultsExpected = accessory().protocolFaults(); // the chunks have no beginning here
 }
 
-void TestAccessory::deviceRefusesWrongReports_data()
-{
-    columns<QByteArray, QString>("report", "fault");
-    const auto row = [](const char *report, const char *fault) {
-        QTest::newRow(report) << QByteArray::fromHex(report) << QString::fromLatin1(fault);
-    };
-    row("", "empty report");
-    row("02c024ab51", "unknown report");
-    row("01c024ab52", "wrong checksum");
-    row("01c02451ab", "wrong checksum");   // low byte first
-    row("01c024ab5100", "wrong checksum"); // padded
-    row("01c024", "wrong length");
-    row("01c02400030003fedc5c", "chunk without upload");
-    row("01e0000011000200ffc053", "short chunk");
-    row("0602fe", "wrong length");
-}
-
 void TestAccessory::deviceRefusesWrongReports()
 {
-    QFETCH(QByteArray, report);
     connectDevice();
-    const std::span bytes(reinterpret_cast<const std::uint8_t *>(report.constData()),
-                          static_cast<std::size_t>(report.size()));
-    QCOMPARE(platform::desk().hid().write(hidHandle, bytes), int(report.size()));
-    QTEST(QString::fromLatin1(accessory().history().back().fault), "fault");
-    m_faultsExpected = 1;
-    QCOMPARE(accessory().state().uploads, 0);
+    for (const auto &[report, fault] : {std::pair("", "empty report"),
+                                        {"02c024ab51", "unknown report"},
+                                        {"01c024ab52", "wrong checksum"},
+                                        {"01c02451ab", "wrong checksum"},   // low byte first
+                                        {"01c024ab5100", "wrong checksum"}, // padded
+                                        {"01c024", "wrong length"},
+                                        {"01c02400030003fedc5c", "chunk without upload"},
+                                        {"01e0000011000200ffc053", "short chunk"},
+                                        {"0602fe", "wrong length"}}) {
+        const QByteArray sent = QByteArray::fromHex(report);
+        const std::span bytes(reinterpret_cast<const std::uint8_t *>(sent.constData()),
+                              static_cast<std::size_t>(sent.size()));
+        QCOMPARE(platform::desk().hid().write(hidHandle, bytes), int(sent.size()));
+        QCOMPARE(accessory().history().back().fault, fault);
+        ++m_faultsExpected;
+        QCOMPARE(accessory().state().uploads, 0);
+    }
 }
 
-QTEST_GUILESS_MAIN(TestAccessory)
+void TestAccessory::findAndOpen_data()
+{
+    columns<bool, bool, bool, QStringList, int>("others", "plugged", "opens", "log", "held"); // held: not released
+    const QStringList away = {"HID device  not find"};
+    QTest::newRow("there") << true << true << true << QStringList{"HID device find", "HID open OK"} << 1;
+    QTest::newRow("alone") << false << true << true << QStringList{"HID device find", "HID open OK"} << 0;
+    QTest::newRow("does not open") << true << true << false << QStringList{"HID device find", "HID open Fail "} << 1;
+    QTest::newRow("away") << true << false << true << away << 2;
+    QTest::newRow("no device at all") << false << false << true << QStringList() << 0;
+}
+
+void TestAccessory::findAndOpen()
+{
+    const auto [others, plugged, opens, log] = fetch<bool, bool, bool, QStringList>();
+    m_desk->desk.hasHidDevices = others;
+    accessory().setPlugged(plugged);
+    accessory().failOpens(opens ? 0 : kForEver);
+    reopenHid();
+    QStringList said = m_desk->takeLog();
+    if (!said.isEmpty() && said.last().startsWith("HID open OK")) {
+        QVERIFY(said.last().size() > qsizetype(strlen("HID open OK ")));
+        said.last().truncate(qsizetype(strlen("HID open OK")));
+    }
+    QCOMPARE(said, log);
+    QTEST(m_desk->desk.hidEntriesHeld, "held");
+    QCOMPARE(hidFound, plugged);
+    QCOMPARE(hidOpened, plugged && opens);
+    QCOMPARE(hidHandle != nullptr, plugged && opens);
+}
+
+void TestAccessory::flagsAreSticky()
+{
+    QVERIFY(!Fun_hid_open(kAccessoryVendor, kAccessoryProduct)); // not found yet: not even tried
+    QVERIFY(m_desk->takeLog().isEmpty());
+    connectDevice();
+    accessory().setPlugged(false);
+    QVERIFY(Fun_hid_find(kAccessoryVendor, kAccessoryProduct));
+    QVERIFY(m_desk->takeLog().isEmpty());
+    QVERIFY(!Fun_hid_open(kAccessoryVendor, kAccessoryProduct)); // open already
+    QCOMPARE(accessory().handlesOpen(), 1);
+    accessory().setPlugged(true);
+    QList<int> told; // a panel follows it
+    const int listener = accessory().addListener([&] { told.append(accessory().handlesOpen()); });
+    reopenHid(); // the opened flag is still set: closed and nothing else
+    QVERIFY(!hidHandle);
+    connectDevice();
+    accessory().removeListener(listener);
+    QCOMPARE(told, (QList<int>{0, 1}));
+}
+
+void TestAccessory::panelShowsTheAccessory()
+{
+    connectDevice();
+    virtualdesk::AccessoryPanel panel(m_desk->desk);
+    panel.show();
+    QCOMPARE(panel.matrix()->litCells(), 0);
+    const auto button = [&panel](const char *name) { return panel.findChild<QPushButton *>(QLatin1String(name)); };
+    accessory().setForm(1);
+    matrixForm = 1;
+    sendLiveFrame(std::vector<std::int32_t>(1050, 1));
+    QTRY_COMPARE(panel.matrix()->litCells(), 1050);
+    QVERIFY(button("form")->isChecked());
+    button("unplug")->click();
+    QVERIFY(!accessory().isPlugged());
+    QTRY_COMPARE(panel.matrix()->litCells(), 0);
+    button("unplug")->click();
+    connectDevice();
+    button("refuse")->click();
+    AccessoryReport report;
+    buildLiveStop(report);
+    QCOMPARE(writeHid(report), HidWrite::Failed);
+    button("refuse")->click();
+    connectDevice();
+    button("pull")->click();
+    for (int i = 1; i <= 8; ++i)
+        QCOMPARE(writeHid(report), i < 8 ? HidWrite::Done : HidWrite::Failed);
+    QTRY_VERIFY(button("unplug")->isChecked());
+    QVERIFY(!button("pull")->isChecked());
+}
+
+QTEST_MAIN(TestAccessory)
 #include "tst_accessory.moc"

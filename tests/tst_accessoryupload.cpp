@@ -81,9 +81,7 @@ void TestAccessoryUpload::uploads_data()
 
 void TestAccessoryUpload::uploads()
 {
-    QFETCH(bool, text);
-    QFETCH(qint64, size);
-    QFETCH(int, chunks);
+    const auto [text, size, chunks] = fetch<bool, qint64, int>();
     const QByteArray content = drawn(size);
     QVERIFY(writeText(kDataFile, content));
     connectDevice();

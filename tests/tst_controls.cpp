@@ -47,7 +47,6 @@ class TestControls : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void switchFollowsTheHalfThatWasPressed_data();
     void switchFollowsTheHalfThatWasPressed();
     void keyboardPressesAsTheMouseDoes_data();
     void keyboardPressesAsTheMouseDoes();
@@ -56,35 +55,25 @@ private Q_SLOTS:
     void hoverEndsWithTheWindow();
     void swatchesAnswerMouseAndKeys();
     void pickerTakesOnlyAnAnswer();
-    void focusOutlineIsForTheKeyboard_data();
     void focusOutlineIsForTheKeyboard();
-    void captionFits_data();
     void captionFits();
     void picturesAreSharp();
     void assistiveSoftwareSeesAndPresses();
 };
 
-void TestControls::switchFollowsTheHalfThatWasPressed_data()
-{
-    columns<bool, int, bool>("before", "x", "after");
-    QTest::newRow("left half of a switch that is off") << false << 10 << false;
-    QTest::newRow("right half of a switch that is on") << true << 110 << true;
-    QTest::newRow("exact centre switches off") << true << 60 << false;
-    QTest::newRow("first pixel of the right half") << false << 61 << true;
-}
-
 void TestControls::switchFollowsTheHalfThatWasPressed()
 {
-    QFETCH(bool, before);
-    QFETCH(int, x);
-    QFETCH(bool, after);
-    SwitchButton button;
-    button.setChecked(before);
-    QSignalSpy spy(&button, &SwitchButton::sigChecked);
-    QTest::mousePress(&button, Qt::LeftButton, {}, QPoint(x, 19));
-    QCOMPARE(button.isChecked(), after);
-    QCOMPARE(spy.count(), 1);
-    QCOMPARE(spy.first().first().toBool(), after);
+    // The exact centre switches off, the first pixel of the right half on.
+    for (const auto &[before, x, after] :
+         {std::tuple(false, 10, false), {true, 110, true}, {true, 60, false}, {false, 61, true}}) {
+        SwitchButton button;
+        button.setChecked(before);
+        QSignalSpy spy(&button, &SwitchButton::sigChecked);
+        QTest::mousePress(&button, Qt::LeftButton, {}, QPoint(x, 19));
+        QCOMPARE(button.isChecked(), after);
+        QCOMPARE(spy.count(), 1);
+        QCOMPARE(spy.first().first().toBool(), after);
+    }
 }
 
 void TestControls::keyboardPressesAsTheMouseDoes_data()
@@ -131,9 +120,7 @@ void TestControls::keyboardPressesAsTheMouseDoes_data()
 
 void TestControls::keyboardPressesAsTheMouseDoes()
 {
-    QFETCH(Maker, make);
-    QFETCH(QPoint, point);
-    QFETCH(Said, expected);
+    const auto [make, point, expected] = fetch<Maker, QPoint, Said>();
 
     Said byMouse;
     const std::unique_ptr<QWidget> clicked(make(byMouse));
@@ -265,58 +252,45 @@ void TestControls::pickerTakesOnlyAnAnswer()
     QTest::mousePress(&picker, Qt::LeftButton, {}, QPoint(28, 17));
     QCOMPARE(picker.asked, 1);
     QCOMPARE(picker.color(), QColor(Qt::blue));
+    QCOMPARE(picker.accessibleDescription(), QStringLiteral("#0000ff"));
     QCOMPARE(spy.count(), 0);
-}
-
-void TestControls::focusOutlineIsForTheKeyboard_data()
-{
-    columns<QList<Qt::FocusReason>, bool>("reasons", "shown");
-    QTest::newRow("Tab") << QList{Qt::TabFocusReason} << true;
-    QTest::newRow("Backtab") << QList{Qt::BacktabFocusReason} << true;
-    QTest::newRow("mouse after Tab") << QList{Qt::TabFocusReason, Qt::MouseFocusReason} << false;
-    QTest::newRow("window back after Tab") << QList{Qt::TabFocusReason, Qt::ActiveWindowFocusReason} << true;
-    QTest::newRow("window back after mouse") << QList{Qt::MouseFocusReason, Qt::ActiveWindowFocusReason} << false;
 }
 
 void TestControls::focusOutlineIsForTheKeyboard()
 {
-    QFETCH(QList<Qt::FocusReason>, reasons);
-    QFETCH(bool, shown);
-    FocusRing ring;
-    for (const Qt::FocusReason reason : std::as_const(reasons)) {
-        const QFocusEvent out(QEvent::FocusOut, reason);
-        ring.follow(&out);
-        QVERIFY(!ring.isShown());
-        const QFocusEvent in(QEvent::FocusIn, reason);
-        ring.follow(&in);
+    for (const auto &[reasons, shown] : {std::pair(QList{Qt::TabFocusReason}, true),
+                                         {{Qt::BacktabFocusReason}, true},
+                                         {{Qt::TabFocusReason, Qt::MouseFocusReason}, false},
+                                         {{Qt::TabFocusReason, Qt::ActiveWindowFocusReason}, true}, // as before
+                                         {{Qt::MouseFocusReason, Qt::ActiveWindowFocusReason}, false}}) {
+        FocusRing ring;
+        for (const Qt::FocusReason reason : reasons) {
+            const QFocusEvent out(QEvent::FocusOut, reason);
+            ring.follow(&out);
+            QVERIFY(!ring.isShown());
+            const QFocusEvent in(QEvent::FocusIn, reason);
+            ring.follow(&in);
+        }
+        QCOMPARE(ring.isShown(), shown);
     }
-    QCOMPARE(ring.isShown(), shown);
-}
-
-void TestControls::captionFits_data()
-{
-    columns<int, int, int, bool>("percent", "leastPixels", "mostPixels", "elided");
-    QTest::newRow("room enough") << 100 << 20 << 20 << false;
-    QTest::newRow("shrunk") << 90 << 16 << 19 << false;
-    QTest::newRow("elided") << 50 << 16 << 16 << true;
-    QTest::newRow("no room at all") << 0 << 16 << 16 << true;
 }
 
 void TestControls::captionFits()
 {
-    QFETCH(int, percent);
     const QString text = QStringLiteral("A caption of some length");
     QFont font;
     font.setPixelSize(20);
-    const int width = (QFontMetrics(font).horizontalAdvance(text) * percent + 99) / 100;
-    const FittedCaption fitted = fitCaption(text, QFont(), 20, width);
-    QTEST(fitted.elided, "elided");
-    QFETCH(int, leastPixels);
-    QFETCH(int, mostPixels);
-    QVERIFY(fitted.font.pixelSize() >= leastPixels && fitted.font.pixelSize() <= mostPixels);
-    if (percent > 0)
-        QVERIFY(QFontMetrics(fitted.font).horizontalAdvance(fitted.text) <= width);
-    QCOMPARE(fitted.text == text, !fitted.elided);
+    // Room enough; it is made smaller; then cut off as well.
+    for (const auto &[percent, least, most, elided] :
+         {std::tuple(100, 20, 20, false), {90, 16, 19, false}, {50, 16, 16, true}, {0, 16, 16, true}}) {
+        const int width = (QFontMetrics(font).horizontalAdvance(text) * percent + 99) / 100;
+        const FittedCaption fitted = fitCaption(text, QFont(), 20, width);
+        QCOMPARE(fitted.elided, elided);
+        QCOMPARE(std::clamp(fitted.font.pixelSize(), least, most), fitted.font.pixelSize());
+        if (percent > 0)
+            QVERIFY(QFontMetrics(fitted.font).horizontalAdvance(fitted.text) <= width);
+        QCOMPARE(fitted.text == text, !elided);
+    }
 }
 
 void TestControls::picturesAreSharp()

@@ -104,8 +104,7 @@ void TestFields::sliderReports_data()
 
 void TestFields::sliderReports()
 {
-    QFETCH(std::function<void(SliderWidget *)>, action);
-    QFETCH(Said, expected);
+    const auto [action, expected] = fetch<std::function<void(SliderWidget *)>, Said>();
     Said said;
     const std::unique_ptr<SliderWidget> widget(laidOutSlider(said));
     widget->setValue(50);
@@ -191,9 +190,7 @@ void TestFields::keyFieldCaptures_data()
 
 void TestFields::keyFieldCaptures()
 {
-    QFETCH(Qt::Key, key);
-    QFETCH(Qt::KeyboardModifiers, modifiers);
-    QFETCH(QString, text);
+    const auto [key, modifiers, text] = fetch<Qt::Key, Qt::KeyboardModifiers, QString>();
     ZelmarKeySequenceEdit field;
     field.setKeySequence(QKeySequence(Qt::ALT | Qt::Key_9));
     QTest::keyPress(&field, key, modifiers);

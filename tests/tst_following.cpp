@@ -58,6 +58,7 @@ private:
 
     std::unique_ptr<DeskFixture> m_desk;
     std::unique_ptr<TestedPage> m_page;
+    qint64 m_waited = 0; ///< ms from a program's coming to the front to the last request
 };
 
 void TestFollowing::init()
@@ -94,7 +95,11 @@ QStringList TestFollowing::front(Program program, std::chrono::milliseconds late
 {
     m_desk->clock.advance(later);
     m_desk->clock.takeWaits();
+    const QDateTime begin = m_desk->clock.now();
+    const int listener = m_desk->monitor().addListener(
+        [this, begin](const virtualdesk::Request &) { m_waited = begin.msecsTo(m_desk->clock.now()); });
     m_desk->desk.applications().bringToFront(program);
+    m_desk->monitor().removeListener(listener);
     return m_desk->takeCommands();
 }
 
@@ -103,12 +108,14 @@ void TestFollowing::followsAndReturns()
     start({{QStringLiteral("D:/Games/Race.exe"), 6}, {QStringLiteral("C:/Film/film.exe"), 11}});
     QCOMPARE(front(Game), QStringList{"W 22=13"});
     QCOMPARE(m_desk->clock.takeWaits(), QList<int>(150, 1)); // a millisecond at a time
+    QCOMPARE(m_waited, 150);                                 // the write behind them
     QCOMPARE(front(Game), QStringList());                    // it is on already
     QCOMPARE(m_desk->clock.takeWaits().size(), 150);         // but only known after the wait
     QCOMPARE(front(Film), QStringList{"W 22=29"});
     QCOMPARE(deviceState.value(Command::SceneMode), 29);
+    m_waited = 0;
     QCOMPARE(front(Other), QStringList{"W 22=1"});
-    QCOMPARE(m_desk->clock.takeWaits().size(), 150);
+    QCOMPARE(m_waited, 150);
     QCOMPARE(front(Other), QStringList());
     QCOMPARE(m_desk->clock.takeWaits().size(), 0);
     QCOMPARE(front(SameName), QStringList{"W 22=13"}); // folders are not told apart

@@ -60,7 +60,11 @@ QStringList dots(const ClockRenderer &renderer, int form)
         for (int x = 0; x < 21; ++x) {
             const int row = form == kTaperingForm ? 2 * y : 5 + 2 * y;
             const int column = form == kTaperingForm ? x + 2 - matrixRowShift(form, row) / 2 : 2 * x;
-            line += QLatin1Char(frame.contains(row, column) && frame.cell(row, column) == 1 ? '#' : '.');
+            const auto lit = [&](int down, int right) {
+                return frame.contains(row + down, column + right) && frame.cell(row + down, column + right) == 1;
+            };
+            const bool square = form == kTaperingForm || (lit(0, 1) && lit(1, 0) && lit(1, 1));
+            line += QLatin1Char(lit(0, 0) && square ? '#' : '.');
         }
         lines.append(line);
     }
@@ -136,6 +140,8 @@ void TestLedWork::clockDigits()
         const auto renderer = makeClockRenderer(form);
         renderer->render(QTime(23, 47, 10));
         QCOMPARE(dots(*renderer, form).join('\n'), expected.join('\n'));
+        QCOMPARE(std::count(renderer->frame().begin(), renderer->frame().end(), 1), // and none beside the dots
+                 expected.join(QString()).count('#') * (form == kTaperingForm ? 2 : 4));
         const auto lit = [&renderer](int msec) {
             renderer->render(QTime(11, 11, 59, msec));
             return std::count(renderer->frame().begin(), renderer->frame().end(), 1);

@@ -1,3 +1,5 @@
+#include <QAbstractScrollArea>
+#include <QAccessible>
 #include <QCloseEvent>
 #include <QtTest>
 
@@ -6,11 +8,11 @@
 #include "ddc_protocol/displayenumeration.h"
 #include "ddc_protocol/transport.h"
 #include "leftbar.h"
+#include "page/Office/pageoffice.h"
 #include "page/Scene/pagescenesetting.h"
 #include "page/emptypage.h"
 #include "page/engine/optiongrouprow.h"
 #include "page/engine/page.h"
-#include "support/datarow.h"
 #include "support/windowfixture.h"
 #include "toptab.h"
 #include "toptabframe.h"
@@ -20,23 +22,23 @@ class TestMainWindow : public WindowFixture
     Q_OBJECT
 private Q_SLOTS:
     void constructionSendsNothing();
-    void openingFamily_data();
     void openingFamily();
     void entriesByModel();
     void entrySwitchesTheScene();
     void otherEntriesNameThemselves();
-    void interfaceModes_data();
     void interfaceModes();
     void unreadableBlockIsTriedOnce();
     void closingHides();
     void dragging();
     void refreshKeepsADraggedValue();
     void reconnectShowsTheMonitorsState();
+    void reconnectTakesTheMode();
     void unpluggingAndPlugging();
     void keyboardWalksTheTabs();
 
 private:
     QStringList shownTexts(const QWidget *page) const;
+    QStringList mute(const QWidget *page) const;
     QString status() const;
 };
 
@@ -46,6 +48,23 @@ QStringList TestMainWindow::shownTexts(const QWidget *page) const
     for (const QLabel *label : page->findChildren<QLabel *>())
         texts.append(label->text());
     return texts;
+}
+
+/// What can be seen and says nothing: labels without text and picture, and controls without a name.
+QStringList TestMainWindow::mute(const QWidget *page) const
+{
+    QStringList found;
+    for (QWidget *part : page->findChildren<QWidget *>()) {
+        const auto *label = qobject_cast<const QLabel *>(part);
+        const bool named = part->inherits("QTabWidget") || part->inherits("MatrixEditor"); // by tab and by cell
+        const bool control = part->focusPolicy() & Qt::TabFocus && !named && !qobject_cast<QAbstractScrollArea *>(part);
+        const bool says = label ? !label->text().isEmpty() || !label->pixmap().isNull()
+                                : !QAccessible::queryAccessibleInterface(part)->text(QAccessible::Name).isEmpty();
+        if (part->isVisibleTo(page) && !says &&
+            (control || (label && label->metaObject() == &QLabel::staticMetaObject)))
+            found.append(QLatin1String(part->metaObject()->className()) + ' ' + part->objectName());
+    }
+    return found;
 }
 
 QString TestMainWindow::status() const
@@ -65,26 +84,17 @@ void TestMainWindow::constructionSendsNothing()
     QCOMPARE(static_cast<quint32>(m_window->windowFlags() & ~Qt::WindowType_Mask), 0xC800u);
 }
 
-void TestMainWindow::openingFamily_data()
-{
-    columns<int, int, int>("scene", "family", "entry");
-    QTest::newRow("scene") << 1 << 0 << 1; // behind the maker's own mode
-    QTest::newRow("scene, custom") << 10 << 0 << 5;
-    QTest::newRow("mac view") << 29 << 1 << 0;
-    QTest::newRow("colour space") << 50 << 2 << 0;
-    QTest::newRow("print mode") << 85 << 3 << 2;
-}
-
 void TestMainWindow::openingFamily()
 {
-    QFETCH(int, scene);
-    QFETCH(int, family);
-    QFETCH(int, entry);
-    start(scene);
-    QCOMPARE(m_window->tabs()->current(), family);
-    QCOMPARE(m_window->leftBar(family)->current(), entry);
-    QVERIFY(m_window->scenePage()->isVisible());
-    QCOMPARE(m_window->scenePage()->isDefaultView(), scene % 2 != 0);
+    // The first mode stands behind the maker's own.
+    for (const auto &[scene, family, entry] : {std::tuple(1, 0, 1), {10, 0, 5}, {29, 1, 0}, {50, 2, 0}, {85, 3, 2}}) {
+        start(scene);
+        QCOMPARE(m_window->tabs()->current(), family);
+        QCOMPARE(m_window->leftBar(family)->current(), entry);
+        QVERIFY(m_window->scenePage()->isVisible());
+        QCOMPARE(m_window->scenePage()->isDefaultView(), scene % 2 != 0);
+        cleanup();
+    }
 }
 
 void TestMainWindow::entriesByModel()
@@ -138,7 +148,13 @@ void TestMainWindow::otherEntriesNameThemselves()
             QTest::mouseClick(bar->buttons()[i], Qt::LeftButton);
             Page *known = m_window->page(bar->entries()[i].page);
             const QWidget *page = known ? known->widget() : m_window->findChild<EmptyPage *>();
-            QVERIFY2(page->isVisible(), bar->entries()[i].label);
+            QVERIFY2(bar->isVisible() && page->isVisible(), bar->entries()[i].label);
+            QCOMPARE(mute(page), QStringList());
+            if (const auto *office = qobject_cast<const PageOffice *>(page)) {
+                QCOMPARE(office->currentPanel(), int(i));
+                m_window->refreshPages(); // which leaves open what is open
+                QVERIFY(office->currentPanel() == int(i) && page->isVisible() && bar->current() == int(i));
+            }
             if (qobject_cast<const EmptyPage *>(page))
                 QVERIFY2(shownTexts(page).contains(bar->buttons()[i]->caption()), bar->entries()[i].label);
         }
@@ -147,33 +163,26 @@ void TestMainWindow::otherEntriesNameThemselves()
     QVERIFY(m_desk->takeRequests().filter("W ").isEmpty()); // opening pages asks, but sends nothing
 }
 
-void TestMainWindow::interfaceModes_data()
-{
-    columns<int, bool>("code", "tabs");
-    QTest::addColumn<int>("accessoryEntries"); // that can be chosen
-    QTest::newRow("0 locks") << 0 << false << 0;
-    QTest::newRow("1 unlocks") << 1 << true << 6;
-    QTest::newRow("3 by model") << 3 << true << 6;
-    QTest::newRow("4 busy") << 4 << true << 1;
-    QTest::newRow("5 busy ended") << 5 << true << 6;
-}
-
 void TestMainWindow::interfaceModes()
 {
-    QFETCH(int, code);
-    QFETCH(bool, tabs);
-    QFETCH(int, accessoryEntries);
     start(10);
-    m_window->setInterfaceMode(0);
-    m_window->setInterfaceMode(code);
-    QCOMPARE(m_window->tabs()->tabs().front()->isEnabled(), tabs);
-    QCOMPARE(entry(0, "Night Mode")->isEnabled(), tabs);
     const auto &buttons = m_window->leftBar(kAccessoryFamily)->buttons();
-    QCOMPARE(std::count_if(buttons.begin(), buttons.end(), [](auto *button) { return button->isEnabled(); }),
-             accessoryEntries);
-    if (!tabs) {
-        QTest::mouseClick(entry(0, "Night Mode"), Qt::LeftButton);
-        QCOMPARE(m_desk->takeRequests(), QStringList());
+    // Each after the lock; the last number is that of the accessory's entries that can be chosen.
+    for (const auto &[code, tabs, entries] : {std::tuple(kLocked, false, 0),
+                                              {kUnlocked, true, 6},
+                                              {kByModel, true, 6},
+                                              {kBusy, true, 1},
+                                              {kBusyEnded, true, 6}}) {
+        m_window->setInterfaceMode(kLocked);
+        m_window->setInterfaceMode(code);
+        QCOMPARE(m_window->tabs()->tabs().front()->isEnabled(), tabs);
+        QCOMPARE(entry(0, "Night Mode")->isEnabled(), tabs);
+        QCOMPARE(std::count_if(buttons.begin(), buttons.end(), [](auto *button) { return button->isEnabled(); }),
+                 entries);
+        if (!tabs) {
+            QTest::mouseClick(entry(0, "Night Mode"), Qt::LeftButton);
+            QCOMPARE(m_desk->takeRequests(), QStringList());
+        }
     }
 }
 
@@ -242,9 +251,31 @@ void TestMainWindow::reconnectShowsTheMonitorsState()
     QVERIFY(deviceState.sceneBlockValid());
 }
 
+void TestMainWindow::reconnectTakesTheMode()
+{
+    // No mode, the lowest, the one that was on, another, the highest, and beyond; with the block where it is needed.
+    for (const auto &[mode, taken, requests] :
+         {std::tuple(0, false, 1), {1, true, 1}, {10, true, 1}, {14, true, 13}, {90, true, 13}, {91, false, 1}}) {
+        start(10);
+        m_desk->monitor().setValue(0x22, static_cast<std::uint16_t>(mode));
+        m_desk->session().delayedSearchDevices();
+        QCOMPARE(status().section(' ', 2), QString(taken ? "connected" : "no answer"));
+        QCOMPARE(deviceState.value(Command::SceneMode), taken ? mode : 10);
+        QCOMPARE(m_window->scenePage()->isDefaultView(), mode == 1);
+        QCOMPARE(int(m_desk->takeCommands().size()), requests);
+        cleanup();
+    }
+}
+
 void TestMainWindow::unpluggingAndPlugging()
 {
     start(10);
+    m_desk->takeCommands();
+    m_desk->desk.unplug(1); // told twice
+    m_desk->clock.advance(platform::milliseconds(299));
+    QCOMPARE(m_desk->takeCommands(), QStringList());
+    m_desk->clock.advance(platform::milliseconds(301));
+    QCOMPARE(m_desk->takeCommands(), QStringList{"R 22"});
     m_desk->desk.unplug(0);
     m_desk->clock.advance(platform::milliseconds(300));
     QCOMPARE(status(), QStringLiteral("1. Q27-OLED no answer"));

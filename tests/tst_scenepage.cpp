@@ -9,7 +9,6 @@
 #include "page/Scene/pagescenesetting.h"
 #include "page/Scene/scenetable.h"
 #include "page/engine/optiongrouprow.h"
-#include "support/datarow.h"
 #include "support/sessiondesk.h"
 
 class TestScenePage : public QObject
@@ -18,20 +17,12 @@ class TestScenePage : public QObject
 private Q_SLOTS:
     void cleanup();
     void fillingSendsNothing();
-    void optionsSend_data();
-    void optionsSend();
-    void slidersSend_data();
-    void slidersSend();
     void dragEndsOnTheLastValue();
     void sharpnessKeepsOnlyWhatWasTaken();
     void colorTemperature();
-    void colorEnhanceHoldsSaturation_data();
     void colorEnhanceHoldsSaturation();
-    void motionOptionsByScene_data();
     void motionOptionsByScene();
-    void halves_data();
     void halves();
-    void halfWithUnreadBlock_data();
     void halfWithUnreadBlock();
     void chooseScene();
     void factoryEditsAreNotTheUsers();
@@ -61,7 +52,7 @@ void TestScenePage::cleanup()
 {
     m_page.reset();
     m_queue.reset();
-    QCOMPARE(m_desk->monitor().protocolFaults().total(), 0);
+    QCOMPARE(m_desk ? m_desk->monitor().protocolFaults().total() : 0, 0);
     m_desk.reset();
 }
 
@@ -101,59 +92,6 @@ void TestScenePage::fillingSendsNothing()
     m_queue->drain();
     QCOMPARE(m_desk->takeRequests(), QStringList());
     QCOMPARE(m_page->slider("Brightness")->value(), 20);
-}
-
-void TestScenePage::optionsSend_data()
-{
-    columns<int, QString, QString>("command", "label", "sent");
-    row("dimming is numbered from 2", 0x47, "Close", "W 47=2");
-    row("grey response from 0", 0x49, "Close", "W 49=0");
-    row("motion, a label within another", 0x48, "Ull-Level1", "W 48=6");
-    row("gamma leaves 6 out", 0x26, "CAD/CAM", "W 26=7");
-    row("last temperature", 0x14, "User3", "W 14=10");
-    row("switch", 0xDA, "Open", "W da=1");
-}
-
-void TestScenePage::optionsSend()
-{
-    QFETCH(int, command);
-    QFETCH(QString, label);
-    QFETCH(QString, sent);
-    start(10);
-    for (QPushButton *button : m_page->optionGroup(Command(command))->buttons()) {
-        if (button->text() == label)
-            QTest::mouseClick(button, Qt::LeftButton);
-    }
-    QCOMPARE(m_desk->takeCommands(), QStringList{sent});
-    QCOMPARE(deviceState.value(Command(command)), sent.section('=', 1).toInt());
-}
-
-void TestScenePage::slidersSend_data()
-{
-    columns<QString, int, QString, bool>("name", "value", "sent", "onlyOnRelease");
-    row("Brightness", "Brightness", 73, "W 10=73", false);
-    row("CR Enhance", "CR Enhance", 5, "W 41=5", true);
-    row("Saturation", "Saturation_M", 9, "W 5e=9", false);
-    row("Hue", "Hue_Y", 9, "W 9c=9", false);
-}
-
-void TestScenePage::slidersSend()
-{
-    QFETCH(QString, name);
-    QFETCH(int, value);
-    QFETCH(QString, sent);
-    QFETCH(bool, onlyOnRelease);
-    start(10);
-    const QByteArray slider = name.toLatin1();
-    NoWheelSlider *control = m_page->slider(slider.constData())->slider();
-    control->setSliderDown(true);
-    control->setSliderPosition(value);
-    m_queue->drain();
-    QCOMPARE(m_desk->takeCommands(), onlyOnRelease ? QStringList() : QStringList{sent});
-    QCOMPARE(m_page->slider(slider.constData())->value(), value);
-    control->setSliderDown(false);
-    m_queue->drain();
-    QCOMPARE(m_desk->takeCommands(), onlyOnRelease ? QStringList{sent} : QStringList());
 }
 
 void TestScenePage::dragEndsOnTheLastValue()
@@ -201,110 +139,87 @@ void TestScenePage::colorTemperature()
     m_queue->drain();
     QCOMPARE(m_desk->takeCommands(), (QStringList{"W 14=9", "W 14=0", "W 14=7"})); // the sliders' moves sent nothing
 
+    for (int i = 0; i < 9; ++i) {
+        QTest::mouseClick(option(Command::ColorTemperature, 8 + i / 3), Qt::LeftButton);
+        m_desk->takeCommands();
+        press(kUserColourSliders[i % 3], 11 + i);
+        QCOMPARE(m_desk->takeCommands(), QStringList{QStringLiteral("W %1=%2").arg(0x16 + i, 0, 16).arg(11 + i)});
+    }
     QTest::mouseClick(option(Command::ColorTemperature, 8), Qt::LeftButton);
-    press("UserR", 11);
-    QTest::mouseClick(option(Command::ColorTemperature, 10), Qt::LeftButton);
-    press("UserR", 33);
-    QCOMPARE(m_desk->takeCommands(), (QStringList{"W 14=8", "W 16=11", "W 14=10", "W 1c=33"}));
-    QTest::mouseClick(option(Command::ColorTemperature, 8), Qt::LeftButton);
-    QCOMPARE(m_page->slider("UserR")->value(), 11); // each preset keeps its own
-}
-
-void TestScenePage::colorEnhanceHoldsSaturation_data()
-{
-    columns<int, int, bool, bool>("scene", "enhance", "saturation", "hue");
-    QTest::newRow("off") << 10 << 0 << true << true;
-    QTest::newRow("on") << 10 << 3 << false << true;
-    QTest::newRow("e-book, off") << 22 << 0 << false << false;
-    QTest::newRow("e-book, on") << 22 << 3 << false << false;
+    QCOMPARE(m_page->slider("UserB")->value(), 13); // each preset keeps its own
 }
 
 void TestScenePage::colorEnhanceHoldsSaturation()
 {
-    QFETCH(int, scene);
-    QFETCH(int, enhance);
-    start(scene);
-    deviceState.store(Command::ColorEnhance, enhance);
-    m_page->updateInterfaceData();
-    QTEST(m_page->slider("Saturation_R")->isEnabled(), "saturation");
-    QTEST(m_page->slider("Hue_R")->isEnabled(), "hue");
-    QTEST(m_page->slider("Color Enchance")->isEnabled(), "hue");
-    if (scene == 10) {
-        press("Color Enchance", enhance == 0 ? 1 : 0);
-        QCOMPARE(m_page->slider("Saturation_M")->isEnabled(), enhance != 0);
+    for (const auto &[scene, enhance] : {std::pair(10, 0), {10, 3}, {22, 0}, {22, 3}}) { // 22 is black and white
+        start(scene);
+        deviceState.store(Command::ColorEnhance, enhance);
+        m_page->updateInterfaceData();
+        QCOMPARE(m_page->slider("Saturation_R")->isEnabled(), scene == 10 && enhance == 0);
+        QCOMPARE(m_page->slider("Hue_R")->isEnabled(), scene == 10);
+        QCOMPARE(m_page->slider("Color Enchance")->isEnabled(), scene == 10);
+        if (scene == 10) {
+            press("Color Enchance", enhance == 0 ? 1 : 0);
+            QCOMPARE(m_page->slider("Saturation_M")->isEnabled(), enhance != 0);
+        }
+        cleanup();
     }
-}
-
-void TestScenePage::motionOptionsByScene_data()
-{
-    columns<int, QList<int>, bool>("scene", "enabled", "dimming");
-    QTest::newRow("26") << 26 << QList<int>{2, 6, 7, 8} << false;
-    QTest::newRow("28") << 28 << QList<int>{2, 3, 4, 5} << true;
-    QTest::newRow("any other") << 10 << QList<int>{2, 3, 4, 5, 6, 7, 8} << true;
 }
 
 void TestScenePage::motionOptionsByScene()
 {
-    QFETCH(int, scene);
-    QFETCH(QList<int>, enabled);
-    QFETCH(bool, dimming);
     start(10);
-    deviceState.store(Command::SceneMode, scene);
-    m_page->updateInterfaceData();
-    QList<int> found;
-    for (int value = 2; value <= 8; ++value) {
-        if (option(Command::MotionTech, value)->isEnabled())
-            found.append(value);
+    for (const auto &[scene, enabled] :
+         {std::pair(26, QList<int>{2, 6, 7, 8}), {28, {2, 3, 4, 5}}, {10, {2, 3, 4, 5, 6, 7, 8}}}) {
+        deviceState.store(Command::SceneMode, scene);
+        m_page->updateInterfaceData();
+        QList<int> found;
+        for (int value = 2; value <= 8; ++value) {
+            if (option(Command::MotionTech, value)->isEnabled())
+                found.append(value);
+        }
+        QCOMPARE(found, enabled);
+        QCOMPARE(m_page->optionGroup(Command::LocalDimming)->isHidden(), scene == 26);
     }
-    QCOMPARE(found, enabled);
-    QCOMPARE(!m_page->optionGroup(Command::LocalDimming)->isHidden(), dimming);
-}
-
-void TestScenePage::halves_data()
-{
-    columns<int, QByteArray, QStringList>("scene", "half", "sent");
-    QTest::newRow("custom to default") << 10 << QByteArray("        Default") << QStringList{"W 22=9"};
-    QTest::newRow("already custom") << 10 << QByteArray("        Custom") << QStringList();
-    QTest::newRow("already default") << 9 << QByteArray("        Default") << QStringList();
 }
 
 void TestScenePage::halves()
 {
-    QFETCH(int, scene);
-    QFETCH(QByteArray, half);
-    start(scene);
-    QSignalSpy shown(m_page.get(), &pageSceneSetting::viewShown);
-    QTest::mouseClick(this->half(half.constData()), Qt::LeftButton);
-    QTEST(m_desk->takeCommands(), "sent");
-    QCOMPARE(shown.last().first().toBool(), half.contains("Default"));
-    QCOMPARE(deviceState.value(Command::SceneMode) % 2 != 0, half.contains("Default"));
-}
-
-void TestScenePage::halfWithUnreadBlock_data()
-{
-    QTest::addColumn<bool>("readable");
-    QTest::newRow("readable") << true;
-    QTest::newRow("unreadable") << false;
+    const auto rows = {std::tuple(10, "        Default", QStringList{"W 22=9"}),
+                       {10, "        Custom", QStringList()}, // is on already
+                       {9, "        Default", QStringList()}};
+    for (const auto &[scene, label, sent] : rows) {
+        start(scene);
+        QSignalSpy shown(m_page.get(), &pageSceneSetting::viewShown);
+        QTest::mouseClick(half(label), Qt::LeftButton);
+        QCOMPARE(m_desk->takeCommands(), sent);
+        const bool isDefault = QByteArray(label).contains("Default");
+        QCOMPARE(shown.last().first().toBool(), isDefault);
+        QCOMPARE(deviceState.value(Command::SceneMode), isDefault ? 9 : 10);
+        cleanup();
+    }
 }
 
 void TestScenePage::halfWithUnreadBlock()
 {
-    QFETCH(bool, readable);
-    start(9); // starting in the factory half, the block has not been read
-    const int before = m_page->slider("Brightness")->value();
-    QSignalSpy begins(m_page.get(), &pageSceneSetting::modeChangeBegins);
-    QSignalSpy ended(m_page.get(), &pageSceneSetting::modeChangeEnded);
-    m_desk->monitor().setBlock(10, QByteArray(1, char(77)));
-    m_desk->monitor().dropChunks(readable ? 0 : 6);
-    QTest::mouseClick(half("        Custom"), Qt::LeftButton);
-    QCOMPARE(begins.count(), 1);
-    QTRY_COMPARE(ended.count(), 1);
-    const QStringList sent = m_desk->takeCommands();
-    if (readable)
-        QCOMPARE(sent, QStringList({"R 22", "R 0a"}) + QStringList(10, "R fe") + QStringList("W 22=10"));
-    QCOMPARE(sent.last(), QStringLiteral("W 22=10"));
-    QCOMPARE(m_page->slider("Brightness")->value(), readable ? 77 : before);
-    QCOMPARE(deviceState.sceneBlockValid(), readable);
+    for (const bool readable : {true, false}) {
+        start(9); // starting in the factory half, the block has not been read
+        const int before = m_page->slider("Brightness")->value();
+        QSignalSpy begins(m_page.get(), &pageSceneSetting::modeChangeBegins);
+        QSignalSpy ended(m_page.get(), &pageSceneSetting::modeChangeEnded);
+        m_desk->monitor().setBlock(10, QByteArray(1, char(77)));
+        m_desk->monitor().dropChunks(readable ? 0 : 6);
+        QTest::mouseClick(half("        Custom"), Qt::LeftButton);
+        QCOMPARE(begins.count(), 1);
+        QTRY_COMPARE(ended.count(), 1);
+        const QStringList sent = m_desk->takeCommands();
+        if (readable)
+            QCOMPARE(sent, QStringList({"R 22", "R 0a"}) + QStringList(10, "R fe") + QStringList("W 22=10"));
+        QCOMPARE(sent.last(), QStringLiteral("W 22=10"));
+        QCOMPARE(m_page->slider("Brightness")->value(), readable ? 77 : before);
+        QCOMPARE(deviceState.sceneBlockValid(), readable);
+        cleanup();
+    }
 }
 
 void TestScenePage::chooseScene()

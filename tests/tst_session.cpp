@@ -1,6 +1,7 @@
 #include <numeric>
 
 #include <QComboBox>
+#include <QProgressDialog>
 #include <QtTest>
 
 #include "ddc_protocol/displayenumeration.h"
@@ -102,7 +103,17 @@ void TestSession::cleanup()
 
 void TestSession::startUpReadOrder()
 {
+    QList<int> progress; // as the user sees it
+    const int listener = m_desk->monitor().addListener([&progress](const virtualdesk::Request &) {
+        for (const QWidget *window : QApplication::topLevelWidgets()) {
+            if (const auto *dialog = qobject_cast<const QProgressDialog *>(window))
+                progress.append(100 * dialog->value() / dialog->maximum());
+        }
+    });
     m_session->searchDevices();
+    m_desk->monitor().removeListener(listener);
+    QVERIFY(std::is_sorted(progress.begin(), progress.end()));
+    QVERIFY(progress.first() == 0 && progress.last() > 90);
     QStringList expected = {"R 22", "R f6", "R f7", "R ea", "R 22", "R 0c"};
     expected += QStringList(10, "R fe");
     expected += {"R ec", "R ed", "R ee", "R ef", "R f1", "R f2", "R 3b", "R f8", "R f9"};
@@ -161,18 +172,25 @@ void TestSession::passes_data()
     QTest::newRow("stored far beyond the list") << "7" << QList<int>{} << 0 << 0;
     QTest::newRow("stored nonsense") << "-250" << QList<int>{} << 0 << 0; // its low byte is 6
     QTest::newRow("all are silent") << "1" << QList<int>{0, 1} << 0 << 1;
+    QTest::newRow("alone and late") << "0" << QList<int>{-1} << 0 << 0;
 }
 
 void TestSession::passes()
 {
-    QFETCH(QString, stored);
-    QFETCH(QList<int>, deaf);
+    const auto [stored, deaf] = fetch<QString, QList<int>>();
     settingsString(kDeviceIndexKey, stored, true, kConfigFile);
-    for (const int index : deaf)
-        m_desk->monitor(static_cast<std::size_t>(index)).goDeaf();
+    if (deaf == QList<int>{-1}) {
+        m_desk->desk.unplug(1);
+        m_desk->monitor().goDeaf(20); // as long as the first pass asks
+    } else {
+        for (const int index : deaf)
+            m_desk->monitor(static_cast<std::size_t>(index)).goDeaf();
+    }
     m_session->searchDevices();
     QTEST(settingsInt(kDeviceIndexKey, 0, false), "chosen");
     QTEST(m_session->exits, "exits");
+    if (deaf == QList<int>{-1})
+        QCOMPARE(m_desk->clock.takeWaits().count(200), 3); // two rests between readings, one between passes
     const QStringList log = m_desk->takeLog();
     QCOMPARE(log.contains("DDC/CI erorr, App exit!"), m_session->exits == 1);
     if (m_session->exits == 1)
@@ -203,8 +221,7 @@ void TestSession::storedIndexOnLaterSearches()
 
 void TestSession::reasons_data()
 {
-    columns<int, QStringList>("reason", "calls");
-    QTest::addColumn<int>("commands"); // that reach the monitor
+    columns<int, QStringList, int>("reason", "calls", "commands"); // those that reach the monitor
     QTest::newRow("reconnect") << int(kReconnect) << QStringList{"reconnect", "refresh", "update"} << 0;
     QTest::newRow("idle") << int(kIdle) << QStringList{"reconnect", "refresh", "update"} << 0;
     QTest::newRow("full read") << int(kFullRead) << QStringList{"hide", "refresh", "show", "update"} << 25;

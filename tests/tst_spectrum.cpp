@@ -99,10 +99,7 @@ void TestSpectrum::agreesWithPlainTransform_data()
 
 void TestSpectrum::agreesWithPlainTransform()
 {
-    QFETCH(Sound, kind);
-    QFETCH(int, rate);
-    QFETCH(int, channels);
-    QFETCH(int, frames);
+    const auto [kind, rate, channels, frames] = fetch<Sound, int, int, int>();
     const Samples samples = record(playing(kind), rate, channels, frames);
     SpectrumAnalysis analysis;
     QVERIFY(analysis.prepare(static_cast<std::uint32_t>(rate)));

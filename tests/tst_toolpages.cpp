@@ -15,6 +15,7 @@
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/displayenumeration.h"
 #include "ddc_protocol/settingsstore.h"
+#include "page/BasicSetting/hotkeyoverlay.h"
 #include "page/BasicSetting/pagepcsetting.h"
 #include "page/BasicSetting/pageservicessetting.h"
 #include "page/BasicSetting/toollanguage.h"
@@ -74,6 +75,7 @@ private Q_SLOTS:
     void cleanup();
     void startUpIsWrittenOrFallsBack();
     void startUpIsReadAnewWhenShown();
+    void overlayIsSwitched();
     void languages_data();
     void languages();
     void choicesThatFailAreTakenBack();
@@ -202,10 +204,24 @@ void TestToolPages::startUpIsReadAnewWhenShown()
     }
 }
 
+void TestToolPages::overlayIsSwitched()
+{
+    for (const bool on : {false, true, true}) {
+        press(on ? "Hotkey overlay_Yes" : "Hotkey overlay_No");
+        QCOMPARE(hotkeyOverlayOn(), on);
+        QVERIFY(isChecked(on ? "Hotkey overlay_Yes" : "Hotkey overlay_No"));
+    }
+    QCOMPARE(toolPage().notice(), QString());
+    QFile::remove(QStringLiteral("config.ini"));
+    QVERIFY(QDir().mkpath(QStringLiteral("config.ini/full"))); // nothing can be stored
+    press("Hotkey overlay_No");
+    QVERIFY(toolPage().notice().contains("config.ini"));
+    QVERIFY(isChecked("Hotkey overlay_Yes"));
+}
+
 void TestToolPages::languages_data()
 {
-    columns<QString, QString>("code", "button");
-    QTest::addColumn<bool>("chosen"); // by its button; the others were stored before
+    columns<QString, QString, bool>("code", "button", "chosen"); // by its button; the others were stored before
     row("zh_TW, not its prefix", "zh_TW", "繁體中文", true);
     row("en, which is in use", "en", "English", true);
     row("zh", "zh", "简体中文", true);
@@ -217,9 +233,7 @@ void TestToolPages::languages_data()
 
 void TestToolPages::languages()
 {
-    QFETCH(QString, code);
-    QFETCH(QString, button);
-    QFETCH(bool, chosen);
+    const auto [code, button, chosen] = fetch<QString, QString, bool>();
     if (chosen) {
         press("Tool language settings_" + button);
         QCOMPARE(toolPage().questions, QStringList{"Language"});
@@ -350,8 +364,7 @@ void TestToolPages::upgradeArguments_data()
 
 void TestToolPages::upgradeArguments()
 {
-    QFETCH(int, line);
-    QFETCH(QString, code);
+    const auto [line, code] = fetch<int, QString>();
     deviceState.store(Command::Capability, line << 4);
     languageSetting(true, code);
     installUpgrader("#!/bin/sh\necho \"$*\"\nread wait\n");

@@ -186,6 +186,11 @@ void TestTransport::currentAndMaximum()
     QCOMPARE(current, 0u);
     QCOMPARE(maximum, 0u);
     QCOMPARE(m_desk->takeRequests(), (QStringList{"R 99", "R 10", "R 99", "R 10!"}));
+    m_desk->monitor().refuse(0x10);
+    QVERIFY(!readCommandOnce(kBrightnessRead)); // once, but announced as any other
+    QCOMPARE(readCommandOnce(kBrightnessRead), std::optional(30));
+    QCOMPARE(m_desk->takeRequests(), (QStringList{"R 99", "R 10!", "R 99", "R 10"}));
+    QCOMPARE(m_desk->clock.takeWaits(), QList<int>());
 }
 
 void TestTransport::indexBeyondTheListFails()

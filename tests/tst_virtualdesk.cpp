@@ -1,20 +1,25 @@
 #include <optional>
+#include <thread>
 
 #include <QTemporaryDir>
 #include <QtTest>
 
 #include "platform/virtual/virtualplatform.h"
-#include "support/datarow.h"
 #include "support/manualclock.h"
 #include "support/textfile.h"
 #include "support/vendorpairs.h"
 #include "virtualdesk/deskscript.h"
+#include "virtualdesk/desksetup.h"
 #include "virtualdesk/requestlog.h"
+#include "virtualdesk/simulatedmonitor.h"
 #include "virtualdesk/virtualdesk.h"
 
 using namespace std::chrono_literals;
 using namespace virtualdesk;
 
+using Steps = QList<QPair<int, int>>; // code, and the value written or -1 for a read
+
+/// The simulated desk and its monitors, on which all the other suites stand.
 class TestVirtualDesk : public QObject
 {
     Q_OBJECT
@@ -26,10 +31,15 @@ private Q_SLOTS:
     void enumeratesWhatIsPlugged();
     void tracksHandles();
     void readsScripts();
-    void namesScriptFaults_data();
     void namesScriptFaults();
     void holdsNamesOnce();
     void logsRequests();
+    void refusesWhatWasNotAnnounced();
+    void countsMixedUpRequests();
+    void limitsValues();
+    void keepsABlockPerMode();
+    void faultsStrikeAndEnd();
+    void spendsItsLatency();
 };
 
 void TestVirtualDesk::enumeratesWhatIsPlugged()
@@ -129,41 +139,37 @@ void TestVirtualDesk::readsScripts()
         QCOMPARE(desk.monitor(0).read(0x99).ok(), answers);
 }
 
-void TestVirtualDesk::namesScriptFaults_data()
-{
-    columns<QByteArray, QString>("script", "complaint");
-    row("not JSON", QByteArray("{\n\"monitors\": [,]\n}"), "line 2");
-    row("not an object", QByteArray("[1]"), "object");
-    row("unknown model", QByteArray(R"({"monitors": [{"model": "Q1"}]})"), "\"Q1\"");
-    row("no such display", QByteArray(R"({"monitors": [{"model": "Q27-OLED", "display": 2}]})"), "\"display\"");
-    row("display taken away", QByteArray(R"({"displays": [{}]})"), "fewer displays");
-    row("unknown event", QByteArray(R"({"events": [{"at_ms": 1, "event": "dance"}]})"), "\"dance\"");
-    row("no such monitor", QByteArray(R"({"events": [{"event": "plug", "monitor": 9}]})"), "\"monitor\"");
-    row("odd hexadecimal", QByteArray(R"({"monitors": [{"model": "Q27-OLED", "edid": "00f"}]})"), "\"edid\"");
-    row("negative wait", QByteArray(R"({"latency": {"read_ms": -1}})"), "\"read_ms\"");
-    row("no such form", QByteArray(R"({"accessory": {"form": 2}})"), "\"form\"");
-    row("fault of nothing", QByteArray(R"({"accessory": {"faults": [{"event": "sing"}]}})"), "\"sing\"");
-    row("refuse what", QByteArray(R"({"events": [{"event": "refuse"}]})"), "\"code\"");
-}
-
 void TestVirtualDesk::namesScriptFaults()
 {
-    QFETCH(QByteArray, script);
-    QFETCH(QString, complaint);
-    QString error;
-    QVERIFY(!parseDeskScript(script, error));
-    QVERIFY2(error.contains(complaint), qPrintable(error));
-
+    const std::pair<QByteArray, QString> faults[] = {
+        {"{\n\"monitors\": [,]\n}", "line 2"},
+        {"[1]", "object"},
+        {R"({"monitors": [{"model": "Q1"}]})", "\"Q1\""},
+        {R"({"monitors": [{"model": "Q27-OLED", "display": 2}]})", "\"display\""},
+        {R"({"displays": [{}]})", "fewer displays"},
+        {R"({"events": [{"at_ms": 1, "event": "dance"}]})", "\"dance\""},
+        {R"({"events": [{"event": "plug", "monitor": 9}]})", "\"monitor\""},
+        {R"({"monitors": [{"model": "Q27-OLED", "edid": "00f"}]})", "\"edid\""},
+        {R"({"latency": {"read_ms": -1}})", "\"read_ms\""},
+        {R"({"accessory": {"form": 2}})", "\"form\""},
+        {R"({"accessory": {"faults": [{"event": "sing"}]}})", "\"sing\""},
+        {R"({"events": [{"event": "refuse"}]})", "\"code\""},
+    };
     QTemporaryDir folder;
     const QString fileName = folder.filePath("desk.json");
-    QVERIFY(writeText(fileName, script));
-    qputenv("QUORVEL_DESK_SCRIPT", fileName.toLocal8Bit());
-    const QString pattern = "Desk script " + QRegularExpression::escape(fileName + " cannot be used: " + error);
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(pattern));
-    const DeskSetup setup = setupFromEnvironment();
-    qunsetenv("QUORVEL_DESK_SCRIPT");
-    QCOMPARE(setup.monitors.size(), 2u);
-    QCOMPARE(setup.readLatency, kRealisticRead);
+    for (const auto &[script, complaint] : faults) {
+        QString error;
+        QVERIFY2(!parseDeskScript(script, error), script.constData());
+        QVERIFY2(error.contains(complaint), qPrintable(error));
+        QVERIFY(writeText(fileName, script));
+        qputenv("QUORVEL_DESK_SCRIPT", fileName.toLocal8Bit());
+        const QString pattern = "Desk script " + QRegularExpression::escape(fileName + " cannot be used: " + error);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(pattern));
+        const DeskSetup setup = setupFromEnvironment();
+        qunsetenv("QUORVEL_DESK_SCRIPT");
+        QCOMPARE(setup.monitors.size(), 2u);
+        QCOMPARE(setup.readLatency, kRealisticRead);
+    }
 }
 
 void TestVirtualDesk::holdsNamesOnce()
@@ -212,6 +218,133 @@ void TestVirtualDesk::logsRequests()
     QTest::ignoreMessage(QtWarningMsg, qPrintable("Cannot write " + folder.path()));
     const RequestLog nowhere(desk, folder.path());
     QVERIFY(desk.monitor(0).read(0x99).ok()); // the desk does without
+}
+
+void TestVirtualDesk::refusesWhatWasNotAnnounced()
+{
+    const std::tuple<const char *, Steps, bool, int> rows[] = {
+        {"write pair", {{0x99, 70}, {0x10, 70}}, true, 0},
+        {"write alone", {{0x10, 70}}, false, 1},
+        {"announcement serves once", {{0x99, 70}, {0x10, 70}, {0x10, 70}}, false, 1},
+        {"other value", {{0x99, 70}, {0x10, 71}}, false, 1},
+        {"read announced, written", {{0x99, -1}, {0x10, 0}}, false, 1},
+        {"code outside the table", {{0x99, -1}, {0x11, -1}}, false, 0},
+        {"pair broken by another", {{0x99, 5}, {0x99, 70}, {0x10, 70}}, true, 1},
+        {"stray continuation", {{0xFE, -1}}, false, 1},
+        {"odd selector", {{0x99, -1}, {0x22, -1}, {0x03, -1}}, false, 1},
+        {"selector that is a command code too", {{0x99, -1}, {0x22, -1}, {0x10, -1}}, true, 0},
+        {"selector cannot be written", {{0x99, -1}, {0x22, -1}, {0x10, 16}}, false, 1},
+    };
+    for (const auto &[name, steps, accepted, faults] : rows) {
+        SimulatedMonitor monitor(*findModel("Q27-OLED"), m_clock);
+        Reply last;
+        for (const auto &[code, value] : steps) {
+            const auto byte = static_cast<std::uint8_t>(code);
+            last = value < 0 ? monitor.read(byte) : monitor.write(byte, static_cast<std::uint32_t>(value));
+        }
+        QVERIFY2(last.ok() == accepted && monitor.protocolFaults().total() == faults, name);
+        QCOMPARE(monitor.history().size(), static_cast<std::size_t>(steps.size()));
+        QCOMPARE(monitor.history().back().ok(), accepted);
+    }
+}
+
+void TestVirtualDesk::countsMixedUpRequests()
+{
+    SimulatedMonitor monitor(*findModel("Q27-OLED"), m_clock);
+    monitor.read(0x99);
+    std::thread([&monitor] { monitor.read(0x10); }).join();
+    QCOMPARE(monitor.protocolFaults().interleaved, 1);
+    // A whole pair from another thread is nothing to complain of.
+    std::thread([&monitor] { readPair(monitor, 0x10); }).join();
+    QCOMPARE(monitor.protocolFaults().total(), 1);
+}
+
+void TestVirtualDesk::limitsValues()
+{
+    SimulatedMonitor monitor(*findModel("Q32-MPCS"), m_clock);
+    QVERIFY(writePair(monitor, 0x10, 250)); // the wire tells nothing about the value
+    QCOMPARE(readPair(monitor, 0x10).current, 100u);
+    QVERIFY(writePair(monitor, 0x14, 11));
+    QVERIFY(readPair(monitor, 0x14).current <= 10u);
+    QVERIFY(writePair(monitor, 0xED, 1));
+    QCOMPARE(readPair(monitor, 0xED).current, 0x60u);
+    QVERIFY(writePair(monitor, 0x22, 24)); // a scene that this model lacks
+    QCOMPARE(readPair(monitor, 0x22).current, 2u);
+    QCOMPARE(monitor.protocolFaults().badValues, 4);
+    const Reply office = readPair(monitor, 0xEF);
+    QVERIFY(office.maximum > office.current); // a panel is wider than high
+}
+
+void TestVirtualDesk::keepsABlockPerMode()
+{
+    SimulatedMonitor monitor(*findModel("Q27-OLED"), m_clock);
+    QVERIFY(writePair(monitor, 0x22, 2));
+    QVERIFY(writePair(monitor, 0x10, 31));
+    QVERIFY(writePair(monitor, 0x9B, 77)); // red hue, byte 16
+    QVERIFY(writePair(monitor, 0x22, 10));
+    QVERIFY(writePair(monitor, 0x10, 32));
+    QCOMPARE(monitor.block(2).at(0), char(31));
+    QCOMPARE(monitor.block(2).at(16), char(77));
+    QCOMPARE(monitor.block(10).at(0), char(32));
+
+    // A factory mode shows its own picture and forgets what is changed in it.
+    const auto factory = monitor.block(9).at(0);
+    QVERIFY(writePair(monitor, 0x22, 9));
+    QCOMPARE(readPair(monitor, 0x10).current, static_cast<std::uint32_t>(factory));
+    QVERIFY(writePair(monitor, 0x10, 3));
+    QVERIFY(writePair(monitor, 0x22, 10));
+    QCOMPARE(readPair(monitor, 0x10).current, 32u);
+    QVERIFY(writePair(monitor, 0x22, 9));
+    QCOMPARE(readPair(monitor, 0x10).current, static_cast<std::uint32_t>(factory));
+
+    QVERIFY(writePair(monitor, 0xC7, 0));
+    QCOMPARE(readPair(monitor, 0x22).current, 1u);
+    QVERIFY(monitor.block(10).at(0) != char(32));
+}
+
+void TestVirtualDesk::faultsStrikeAndEnd()
+{
+    SimulatedMonitor monitor(*findModel("Q27-OLED"), m_clock);
+    monitor.refuse(0x10, 2);
+    QVERIFY(!writePair(monitor, 0x10, 20));
+    QVERIFY(!readPair(monitor, 0x10).ok());
+    QVERIFY(writePair(monitor, 0x10, 20));
+    QCOMPARE(monitor.value(0x10), std::uint16_t(20));
+
+    monitor.loseReplies(); // strikes the command's reply, not that of the announcement
+    QVERIFY(monitor.read(0x99).ok());
+    QCOMPARE(monitor.read(0x10).error, kErrorReceiving);
+    QCOMPARE(readPair(monitor, 0x10).current, 20u);
+
+    monitor.garbleReplies();
+    const Reply garbled = readPair(monitor, 0x10);
+    QVERIFY(garbled.ok());
+    QVERIFY(garbled.current != 20u);
+
+    monitor.refuseWrites(kForEver);
+    QVERIFY(!monitor.write(0x99, 1).ok());
+    QVERIFY(readPair(monitor, 0x10).ok());
+    monitor.recover();
+
+    monitor.read(0x99);
+    monitor.goDeaf(1);
+    QVERIFY(!monitor.read(0x10).ok());
+    QVERIFY(!monitor.read(0x10).ok()); // it woke up, but has forgotten the announcement
+    QCOMPARE(monitor.history().back().outcome, Outcome::Unexpected);
+    QCOMPARE(readPair(monitor, 0x10).current, 20u);
+
+    monitor.setPlugged(false);
+    QCOMPARE(readPair(monitor, 0x10).error, kErrorNoSuchDevice);
+}
+
+void TestVirtualDesk::spendsItsLatency()
+{
+    SimulatedMonitor monitor(*findModel("Q27-OLED"), m_clock);
+    monitor.setLatency(kRealisticRead, kRealisticWrite);
+    const QDateTime before = m_clock.now();
+    writePair(monitor, 0x10, 1);
+    readPair(monitor, 0x10);
+    QCOMPARE(before.msecsTo(m_clock.now()), (2 * kRealisticRead + 2 * kRealisticWrite).count());
 }
 
 QTEST_MAIN(TestVirtualDesk)

@@ -35,6 +35,7 @@ class TestWindowLinks : public WindowFixture
     Q_OBJECT
 private Q_SLOTS:
     void hotKeysAndFollowingShow();
+    void overlayNamesValues();
     void overlayGoesByItself();
     void refusedHotKeyIsNotKept();
     void accessoryIsOpenedAndFollowed();
@@ -66,9 +67,36 @@ void TestWindowLinks::hotKeysAndFollowingShow()
     QCOMPARE(m_window->overlay()->text(), QStringLiteral("Gamma: ") + option); // as the page calls it
     QVERIFY(m_window->scenePage()->optionGroup(Command::Gamma)->buttonOf(1)->isChecked());
 
+    QTest::mouseClick(m_window->tabs()->tabs()[8], Qt::LeftButton);
+    m_desk->takeCommands();
+    queue->post(Command::Brightness, 41); // here as well
     m_desk->desk.applications().bringToFront(1);
-    QCOMPARE(m_desk->monitor().value(0x22), std::uint16_t(13));
+    QCOMPARE(m_desk->takeCommands(), (QStringList{"W 10=41", "W 22=13"}));
+    QVERIFY(m_window->page(PageId::SystemSetting)->widget()->isVisible()); // the user is somewhere else
+    QCOMPARE(m_window->tabs()->current(), 8);
+    QTest::mouseClick(m_window->tabs()->tabs()[0], Qt::LeftButton);
     QVERIFY(entry(0, "Night Mode")->isChecked());
+    QVERIFY(m_window->scenePage()->isVisible());
+}
+
+void TestWindowLinks::overlayNamesValues()
+{
+    for (const auto &[function, key, code, before, text] :
+         {std::tuple(28, 'B', 0x63, 0, "HawkEye Vision: On"),
+          {28, 'C', 0x63, 1, "HawkEye Vision: Off"},
+          {23, 'B', 0xF7, 0, "Audio Mute: Open"}, // as its page says
+          {25, 'B', 0x34, 6, "Game Crosshair: Off"},
+          {25, 'B', 0x34, 2, "Game Crosshair: 3"},
+          {4, 'B', 0x22, 10, "Movie Mode: With the factory parameters"},
+          {4, 'C', 0x22, 9, "Movie Mode: With your own parameters"}}) {
+        start(10, 0, [function] { saveShortcuts({true, {{function, true, "Ctrl+B", "Ctrl+C"}}}); });
+        m_desk->clock.advance(200ms);
+        m_desk->monitor().setValue(0x3D, 1); // the crosshair is shown
+        m_desk->monitor().setValue(static_cast<std::uint8_t>(code), static_cast<std::uint16_t>(before));
+        m_desk->desk.pressKey(platform::kModifierControl, static_cast<std::uint32_t>(key));
+        QCOMPARE(m_window->overlay()->text(), QString(text));
+        cleanup();
+    }
 }
 
 void TestWindowLinks::overlayGoesByItself()

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <utility>
+
+// What the controls of every page of monitor settings make of the monitor, written down by hand.
+
+enum PageName { Scene, Picture, Office, Io, System, kPageNames };
+
+/// The values that the options of a group send on a code: "label=value|label=value".
+struct Options
+{
+    PageName page;
+    const char *group;
+    const char *code;
+    const char *values;
+};
+inline const char *const kSwitch = "         Enable=1|         Disable=0";
+inline const char *const kAlwaysOff = "         Enable=0|         Disable=0";
+inline const char *const kGrey = "Close=0|Level1=1|Level2=2|Level3=3|Topspeed=4";
+inline const char *const kMotion = "Close=2|Low=3|Medium=4|High=5|Ull-Level1=6|Ull-Level2=7|Ull-Level3=8";
+inline const char *const kRange = "RGB Auto=0|RGB Limit=1|RGB Full=2";
+inline const Options kOptions[] = {
+    {Scene, "Gama", "26", "1.6=0|1.8=1|2.0=2|2.2=3|2.4=4|2.6=5|CAD/CAM=7"},
+    {Scene, "Gray Response", "49", kGrey},
+    {Scene, "Light Sensor", "da", "Close=0|Open=1"},
+    {Scene, "Localdimming", "47", "Close=2|Low=3|Smooth=4|Medium=5|Strong=6"},
+    {Scene, "DyDs TECH", "48", kMotion},
+    {Scene, "Color Temperature", "14",
+     "5000K=0|5500K=1|6300K=2|6500K=3|7000K=4|7500K=5|9300K=6|Night View C.T=7|User1=8|User2=9|User3=10"},
+    {Picture, "Game Rush", "e4", kSwitch},
+    {Picture, "DyDs", "48", kAlwaysOff},
+    {Picture, "DyDs", "48", kMotion},
+    {Picture, "Night Vision", "45", "Close=0|Level1=1|Level2=2|Auto-L1=3|Auto-L2=4"},
+    {Picture, "Dynamic OD", "49", kGrey},
+    {Picture, "HDR", "4a", "Close=0|Auto=1|Game=2|Movie=3"},
+    {Picture, "Localdimming", "47", kAlwaysOff},
+    {Picture, "Localdimming", "47", "Close=2|Low=3|Smooth=4|Medium=5|High=6"},
+    {Picture, "Adaptive-Sync", "43", kSwitch},
+    {Office, "Paper", "ec", "Close=0|Paper_A4=1|Paper_B5=2|Paper_B6=3|Custom Size=4"},
+    {Office, "Alignment", "f1", "Close=0|Alignment_4=1|Alignment_6=2|Alignment_9=3"},
+    {Office, "Ruler", "f2", "Angle close=0|Ruler=1|Angle Ruler=2"},
+    {Office, "Alignment Aid", "3b", "Close=0|Open=1"},
+    {Office, "Composition", "f8", "Close=0|Triangle=1|Frame=2|Golden Section=3|Trichotomy=4|Round=5"},
+    {Office, "Eyeshield Remind", "f9",
+     "Close=0|30s=1|1 Hour=2|1.5 Hour=3|2 Hour=4|2.5 Hour=5|3 Hour=6|3.5 Hour=7|4 Hour=8"},
+    {Office, "AI Dual Mode", "e0", "Close=0|Open=1"},
+    {Io, "Output Range", "60", kRange},
+    {Io, "Quick Boot", "61", kSwitch},
+    {Io, "USB Power", "d5", kSwitch},
+    {Io, "DP Alt Mode", "d6", kSwitch},
+    {Io, "USB Switch", "5f", "Type-C=0|Type-B=1"},
+    {Io, "DP/Type-C", "d7", "5.4G=0|8.1G=1"},
+    {Io, "Input Signal", "57", "Auto=0|DP1=1|DP2=2|Type-C=3|HDMI1=4|HDMI2=5"},
+    {Io, "CEC", "d9", kSwitch},
+    {System, "Output Range", "60", kRange},
+    {System, "Power Saving", "c6", "Close=0|Level1=1|Level2=2"},
+    {System, "Audio Mute", "f7", "Close=0|Open=1"},
+    {System, "Audio Mode", "ea", "Standard=0|Movie=1|Convo=2"},
+    {System, "Power LED", "c5", "Close=1|Level1=2|Level2=3|Level3=4"},
+    {System, "Gravity Sensor", "eb", "Close=0|Open=1"},
+    {System, "OSD Language", "cc",
+     "简体中文=1|English=2|한국어=3|عربى=4|Türkçe=23|Deutsch=6|Nederland=7|Suomi=8|Français=9|Ελληνικά=10|Indonesia=11|"
+     "Italiano=12|日本語=13|Malaysia=14|Polskie=15|Português=16|Pусский=17|Español=18|ไทย=19|Українська=20|"
+     "Tiếng Việt=21|繁體中文=22|Portugues do Brasilazil=5"},
+    {System, "Menu Lock", "c4", kSwitch},
+};
+
+/// The sliders of each page: "name code lowest-highest", and behind it when a value is sent and stored: on every move,
+/// sent on (r)elease only, or also (s)tored then.
+inline const std::pair<PageName, const char *> kSliders[] = {
+    {Scene, "Brightness 10 0-100|CR Enhance 41 0-5 r|Contrast 12 0-100|Super Resolution 44 0-5 r|Sharpness 87 0-8|"
+            "Black Level 42 0-100 r|Color Enchance 40 0-10 r|Low Blue Light d8 0-4|Halo Control 46 0-100 r"},
+    {Scene, "Night View C.T 15 0-100 r|UserR 16 0-100|UserG 17 0-100|UserB 18 0-100"},
+    {Scene, "Saturation_R 59 0-100|Saturation_Y 5a 0-100|Saturation_G 5b 0-100|Saturation_C 5c 0-100|"
+            "Saturation_B 5d 0-100|Saturation_M 5e 0-100"},
+    {Scene, "Hue_R 9b 0-100|Hue_Y 9c 0-100|Hue_G 9d 0-100|Hue_C 9e 0-100|Hue_B 9f 0-100|Hue_M a0 0-100"},
+    {Picture,
+     "Color Enhance 40 0-10 s|CR Enhance 41 0-5 s|Shadow Balance 42 0-100 s|SR 44 0-5 s|Halo Control 46 0-100 s"},
+    {System, "Show Time(s) c0 5-100|H-Position c1 0-100|V-Position c2 0-100|Transparency c3 0-100|"
+             "No Signal Timer e3 0-100|Audio Volume f6 0-100"},
+};
