@@ -70,8 +70,8 @@ const Situation kSituations[] = {
      [](const Rig &rig) {
          auto *queue = rig.window.findChild<CommandQueue *>();
          QTimer::singleShot(kUnderWay - 20ms, &rig.window, [queue] {
-             for (const Command command : {Command::Brightness, Command::Contrast, Command::Sharpness, Command::Gamma,
-                                           Command::AudioVolume})
+             for (const Command command :
+                  {Command::Brightness, Command::Contrast, Command::Sharpness, Command::Gamma, Command::AudioVolume})
                  queue->post(command, 3);
          });
      }},
@@ -102,7 +102,10 @@ const Situation kSituations[] = {
          virtualdesk::SoundSetup tone;
          tone.sound = virtualdesk::Sound::Tone;
          rig.desk.desk.sound().play(tone);
-         qobject_cast<pageLEDMusic *>(rig.window.page(PageId::LedMusic)->widget())->switchOptions()->buttonOf(1)->click();
+         qobject_cast<pageLEDMusic *>(rig.window.page(PageId::LedMusic)->widget())
+             ->switchOptions()
+             ->buttonOf(1)
+             ->click();
      }},
     {"clock", [](const Rig &) { ledWorkThread::instance()->begin(ledWorkThread::ClockLoop); }},
     {"question open", [](const Rig &rig) { askYesNo(QStringLiteral("a"), QStringLiteral("b"), &rig.window); }},

@@ -6,7 +6,6 @@
 #include <QFile>
 #include <QProcess>
 #include <QPushButton>
-#include <QTimer>
 #include <QUrl>
 #include <QWheelEvent>
 #include <QtTest>
@@ -43,14 +42,6 @@ protected:
     }
 };
 
-/// The tool page with the box that users see.
-class AskingPage : public pagePCSetting
-{
-public:
-    using pagePCSetting::ask;
-    using pagePCSetting::pagePCSetting;
-};
-
 const QString kAddress = QStringLiteral("https://example.org/answers");
 
 /// A language that has an address for the knowledge page.
@@ -81,7 +72,6 @@ private Q_SLOTS:
     void choicesThatFailAreTakenBack();
     void machineRestarts();
     void declinedOrNoChange();
-    void questionBox();
     void firmwareVersion();
     void qrCodeByProductLine();
     void knowledgeOpens();
@@ -305,15 +295,6 @@ void TestToolPages::declinedOrNoChange()
     QCOMPARE(languageSetting(false), QStringLiteral("en"));
     QCOMPARE(settingsInt(QStringLiteral("PCSeting/DeviceIndex"), 0, false), 0);
     QVERIFY(m_desk->desk.started.empty());
-}
-
-void TestToolPages::questionBox()
-{
-    AskingPage page(m_desk->session(), *m_queue);
-    for (const auto key : {Qt::Key_Enter, Qt::Key_Escape}) {
-        QTimer::singleShot(0, this, [key] { QTest::keyClick(QApplication::activeModalWidget(), key); });
-        QCOMPARE(page.ask(QStringLiteral("Title"), QStringLiteral("Text?")), key == Qt::Key_Enter);
-    }
 }
 
 void TestToolPages::firmwareVersion()
