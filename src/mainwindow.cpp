@@ -1,11 +1,14 @@
 #include "mainwindow.h"
 
+#include <algorithm>
+
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDebug>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QScopedValueRollback>
 #include <QStackedWidget>
 #include <QSystemTrayIcon>
 #include <QVBoxLayout>
@@ -178,7 +181,7 @@ void MainWindow::createTrayIcon()
         QStringLiteral("QMenu { background-color: #161d1a; color: #c9c9c9; border: 1px solid #1b5043; }"
                        "QMenu::item { padding: 6px 24px; } QMenu::item:selected { background: #1b5043; }"));
     menu->addAction(QObject::tr("Show"), this, &MainWindow::showWindow);
-    menu->addAction(QObject::tr("Exit"), qApp, [] { platform::endProgram(); });
+    menu->addAction(QObject::tr("Exit"), this, &MainWindow::leave);
     m_tray->setContextMenu(menu);
     connect(m_tray, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
         if (reason != QSystemTrayIcon::Context)
@@ -255,6 +258,20 @@ void MainWindow::endWithSession()
     platform::endProgram();
     endAccessoryWork();
     m_queue->drainFor(kLastValues);
+}
+
+bool MainWindow::mayLeave()
+{
+    if (m_asksToLeave)
+        return false; // the question stands already
+    const QScopedValueRollback asking(m_asksToLeave, true);
+    return std::all_of(m_pageOf.begin(), m_pageOf.end(), [](const auto &entry) { return entry.second->mayLeave(); });
+}
+
+void MainWindow::leave()
+{
+    if (mayLeave())
+        platform::endProgram();
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

@@ -56,6 +56,7 @@ public:
     void updateInterface() override;
     void hideWindow() override { hide(); }
     void showWindow() override;
+    bool mayLeave() override;
     void deviceArrived() override;
     void deviceRemoved() override;
 
@@ -74,6 +75,9 @@ public:
     Page *page(PageId id) const;
     HotkeyOverlay *overlay() const { return m_overlay; }
     QSystemTrayIcon *trayIcon() const { return m_tray; }
+
+    /// Ends the program, unless the user is asked and wants to stay.
+    void leave();
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -143,6 +147,7 @@ private:
     int m_family = 0;
     bool m_monitorAnswers = true;
     bool m_checkWaiting = false;
+    bool m_asksToLeave = false;
     bool m_locked = false; ///< nothing can be chosen
     bool m_accessoryBusy = false;
     bool m_blockGivenUp = false;       ///< the block of the mode that is on could not be read

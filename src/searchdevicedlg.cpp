@@ -184,6 +184,11 @@ void SearchDeviceDlg::delayedSearchDevices()
     reloadEdidType = kIdle;
 }
 
+bool SearchDeviceDlg::mayLeave()
+{
+    return !m_host || m_host->mayLeave();
+}
+
 void SearchDeviceDlg::requestReconnect()
 {
     // On the interface thread the search runs at once. A worker's is queued, and one in the queue is enough.
@@ -202,6 +207,10 @@ void SearchDeviceDlg::onCurrentDeviceChanged(int index)
 {
     if (m_fillingBox || index < 0)
         return;
+    if (!mayLeave()) {
+        const QSignalBlocker quiet(m_deviceBox);
+        return m_deviceBox->setCurrentIndex(currentMonitorIndex);
+    }
     const QString key = QString::fromLatin1(kDeviceIndexKey);
     const bool stored = storeSetting(key, index); // else a copy would come back with the old one
     // Everything shown belongs to the monitor before, down to the entries of the left bars.

@@ -31,6 +31,9 @@ public:
     /// The recovery after a failed write, a monitor's arrival or a failed scene read.
     void delayedSearchDevices();
 
+    /// Whether the program may end, which the window's pages say. Asked by whoever restarts it for the user.
+    bool mayLeave();
+
     /// Reads the whole snapshot. False when the monitor tells no scene mode.
     bool readDataFromDevice();
 

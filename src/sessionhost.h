@@ -18,6 +18,10 @@ public:
     virtual void hideWindow() = 0;
     virtual void showWindow() = 0;
 
+    /// Whether the program may end: asks the user about what would be lost. To be asked before anything is done that
+    /// ends in a restart.
+    virtual bool mayLeave() { return true; }
+
     virtual void deviceArrived() = 0;
     virtual void deviceRemoved() = 0;
 

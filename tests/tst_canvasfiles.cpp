@@ -1,6 +1,10 @@
 #include <unistd.h>
 
+#include <atomic>
+#include <thread>
+
 #include <QComboBox>
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QFileDialog>
 #include <QMessageBox>
@@ -13,10 +17,12 @@
 #include "support/datarow.h"
 #include "support/fulldisk.h"
 #include "support/textfile.h"
+#include "usb-hid/accessoryupload.h"
 
 namespace {
 
-constexpr char kDataFile[] = "./LEDMatrixData.txt";
+constexpr const char *kDataFile = pageLEDMatrixCanvas::kDataFile;
+const QByteArray kTapering = QByteArray(948, '0') + "1"; // a frame
 
 } // namespace
 
@@ -37,6 +43,13 @@ private Q_SLOTS:
     void savedFlag();
     void upload_data();
     void upload();
+    void cancelledUpload_data();
+    void cancelledUpload();
+    void cancelledFiles();
+    void timeLeft();
+    void shownAgain_data();
+    void shownAgain();
+    void leaving();
 };
 
 void TestCanvasFiles::importRules_data()
@@ -47,6 +60,8 @@ void TestCanvasFiles::importRules_data()
     QTest::newRow("one frame") << 1 << frame << 1 << 2;
     QTest::newRow("a frame and a piece") << 1 << frame + frame.first(1049) << 1 << 2;
     QTest::newRow("steps of 1050 for the tapering form too") << 0 << frame.repeated(2) << 2 << 1;
+    QTest::newRow("shifted on purpose") << 0 << kTapering.repeated(20) << 18 << 1;
+    QTest::newRow("aligned") << 0 << kTapering.repeated(20) << 20 << 1;
     QTest::newRow("more than the maximum") << 1 << frame.repeated(193) << 192 << 2;
     QTest::newRow("a million bytes") << 1 << QByteArray(1'000'000, '1') << 192 << 1050;
     QTest::newRow("anything but 1 is dark") << 1 << QByteArray(1050, '\xff').replace(5, 2, "1\0", 2) << 1 << 1;
@@ -61,7 +76,8 @@ void TestCanvasFiles::importRules()
     page->addFrame();
     QVERIFY(writeText(QStringLiteral("in.csv"), content));
     page->fileName = QStringLiteral("in.csv");
-    QVERIFY(finish(*page, &AnsweredCanvas::importAnimate));
+    const bool aligned = qstrcmp(QTest::currentDataTag(), "aligned") == 0;
+    QVERIFY(finish(*page, aligned ? &AnsweredCanvas::importAligned : &AnsweredCanvas::importAnimate));
     QCOMPARE(page->tabs()->count(), frames); // those that were there are gone in any case
     QCOMPARE(page->frameCounter(), frames);
     if (frames > 0) {
@@ -69,7 +85,9 @@ void TestCanvasFiles::importRules()
         QCOMPARE(page->tabs()->tabText(0), QStringLiteral("1"));
     }
     QVERIFY(m_desk->takeLog().contains(QStringLiteral("Frame size: %1").arg(frames)));
-    QCOMPARE(page->notice().isEmpty(), frames > 0);
+    if (content.startsWith(kTapering))
+        QCOMPARE(page->tabs()->digits().count(kTapering), aligned ? 20 : 1);
+    QCOMPARE(page->work()->notice().isEmpty(), frames > 0 && content.size() < 193 * 1050); // what is left out is told
     QCOMPARE(page->busyEvents, (QList<int>{1, 0}));
     page->undo();
     QCOMPARE(page->tabs()->count(), 2);
@@ -150,7 +168,7 @@ void TestCanvasFiles::exportInTabOrder()
     QVERIFY(page->warnings.isEmpty());
     QCOMPARE(readText(page->fileName), "10" + QByteArray(1048, '0') + "11" + QByteArray(1048, '0'));
     QCOMPARE(page->dataFile(), page->fileName);
-    QCOMPARE(page->progressBar()->value(), 100);
+    QCOMPARE(page->work()->progressBar()->value(), 100);
     QCOMPARE(QDir().entryList(QDir::Files), QStringList{"out.csv"});
     QVERIFY(!page->button("Write Animate")->isEnabled()); // exported is not saved
 }
@@ -168,7 +186,8 @@ void TestCanvasFiles::progress()
     }
     QCOMPARE(values, (QList<int>{100, 33, 66, 100, 100, 8, 16, 24, 32, 40, 48, 56, 64, 72, 80, 88, 96, 100}));
     values.clear();
-    connect(page->progressBar(), &QProgressBar::valueChanged, this, [&values](int value) { values.append(value); });
+    connect(page->work()->progressBar(), &QProgressBar::valueChanged, this,
+            [&values](int value) { values.append(value); });
     while (page->frameCounter() < 24)
         page->addFrame();
     page->fileName = QStringLiteral("out.csv");
@@ -190,13 +209,13 @@ void TestCanvasFiles::fullDiskKeepsTheOldFile()
     }
     QCOMPARE(readText(QLatin1String(kDataFile)), before);
     QCOMPARE(QDir().entryList(QDir::Files).count(), 1);
-    QCOMPARE(page->progressBar()->value(), -1);
-    QVERIFY(page->notice().startsWith(QStringLiteral("The file cannot be written")));
-    QVERIFY(!page->button("Write Animate")->isEnabled());
+    QCOMPARE(page->work()->progressBar()->value(), -1);
+    QVERIFY(page->work()->notice().startsWith(QStringLiteral("The file cannot be written")));
+    QVERIFY(!page->button("Write Animate")->isEnabled() && page->dataFile() == QLatin1String(kDataFile));
     QVERIFY(finish(*page, &AnsweredCanvas::saveAnimate));
     QVERIFY(readText(QLatin1String(kDataFile)) != before);
     QVERIFY(page->button("Write Animate")->isEnabled());
-    QVERIFY(page->notice().isEmpty());
+    QVERIFY(page->work()->notice().isEmpty());
 }
 
 void TestCanvasFiles::faultsLeaveThePageUsable_data()
@@ -224,12 +243,12 @@ void TestCanvasFiles::faultsLeaveThePageUsable()
     QVERIFY(finish(*page, &AnsweredCanvas::saveAnimate));
     page->fileName = fileName;
     QVERIFY(finish(*page, imports ? &AnsweredCanvas::importAnimate : &AnsweredCanvas::exportAnimate));
-    QCOMPARE(page->progressBar()->value(), -1);
-    QVERIFY(!page->notice().isEmpty());
+    QCOMPARE(page->work()->progressBar()->value(), -1);
+    QVERIFY(!page->work()->notice().isEmpty());
     QVERIFY(m_desk->takeLog().join(QLatin1Char(' ')).contains(QStringLiteral("Failed to open file:")));
     QCOMPARE(litCells(*page->tabs()->editor(0)), 1);
     QVERIFY(page->button("Add Frame")->isEnabled() && page->tabs()->isEnabled());
-    QVERIFY(!page->button("Write Animate")->isEnabled()); // it would send that file
+    QCOMPARE(page->dataFile(), QLatin1String(kDataFile)); // nothing came of the other one
     QCOMPARE(page->busyEvents, (QList<int>{1, 0, 1, 0}));
 }
 
@@ -244,7 +263,16 @@ void TestCanvasFiles::savedFlag()
     draw(*page, 0);
     QVERIFY(!page->button("Write Animate")->isEnabled());
     QVERIFY(save());
+    page->fileName = QStringLiteral("in.csv"); // an import leaves the mark as it is, and is what is written then
+    QVERIFY(writeText(page->fileName, QByteArray(1051, '1')));
+    QVERIFY(finish(*page, &AnsweredCanvas::importAnimate));
+    QVERIFY(page->button("Write Animate")->isEnabled());
+    connectDevice();
+    QVERIFY(finish(*page, &AnsweredCanvas::writeAnimate));
+    QCOMPARE(accessory().state().upload.cells, QByteArray(1051, '\1'));
     page->undo();
+    QVERIFY(!page->button("Write Animate")->isEnabled());
+    QVERIFY(finish(*page, &AnsweredCanvas::importAnimate));
     QVERIFY(!page->button("Write Animate")->isEnabled());
     page->deleteFrame();
     QVERIFY(!save()); // there is nothing to send
@@ -288,14 +316,162 @@ void TestCanvasFiles::upload()
     const QByteArrayList before = page->tabs()->digits();
     QVERIFY(finish(*page, &AnsweredCanvas::writeAnimate));
     QCOMPARE(page->tabs()->digits(), before);
-    QTEST(page->progressBar()->value(), "shown");
-    QVERIFY(notice.isEmpty() ? page->notice().isEmpty() : page->notice().startsWith(notice));
+    QTEST(page->work()->progressBar()->value(), "shown");
+    QVERIFY(notice.isEmpty() ? page->work()->notice().isEmpty() : page->work()->notice().startsWith(notice));
     QCOMPARE(m_desk->clock.takeWaits().count(), connected ? 6 : 0);
     const virtualdesk::AccessoryUpload upload = accessory().state().upload;
     QCOMPARE(upload.isComplete(), connected && !fileGoes && pulledAt == 0);
     QCOMPARE(int(upload.mode), connected && pulledAt != 1 ? 0x28 : 0);
     QVERIFY(page->button("Write Animate")->isEnabled());
     QCOMPARE(page->busyEvents.count(), connected ? 4 : 2);
+}
+
+void TestCanvasFiles::cancelledUpload_data()
+{
+    columns<int, bool>("heldAt", "complete"); // chunks that are out when Cancel is pressed
+    QTest::newRow("in the first wait") << 0 << false;
+    QTest::newRow("in the chunks") << 3 << false;
+    QTest::newRow("at the last chunk") << 17 << true;
+}
+
+void TestCanvasFiles::cancelledUpload()
+{
+    QFETCH(int, heldAt);
+    QFETCH(bool, complete);
+    connectDevice();
+    const auto page = makePage();
+    page->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(page.get()));
+    QVERIFY(finish(*page, &AnsweredCanvas::saveAnimate));
+    QPushButton *write = page->button("Write Animate");
+    write->setFocus();
+    const std::stop_token stop = uploadStop();
+    std::atomic<bool> held = false;
+    const int listener = accessory().addListener([&] {
+        if (accessory().state().upload.received != heldAt || stop.stop_requested())
+            return;
+        held = true;
+        for (const QDeadlineTimer patience(10000); !stop.stop_requested() && !patience.hasExpired();)
+            std::this_thread::yield();
+    });
+    page->writeAnimate();
+    QTRY_VERIFY(held);
+    QCOMPARE(page->focusWidget(), page->work()->cancelButton());
+    if (heldAt == 0)
+        QCOMPARE(page->work()->timeText(), QStringLiteral("7 s left"));
+    page->updateControlText(); // another language meanwhile, and another form
+    matrixForm = heldAt == 3 ? kRectangleForm : kTaperingForm;
+    page->updateInterfaceData();
+    QTest::keyClick(page->focusWidget(), Qt::Key_Space);
+    QTRY_VERIFY(!page->isBusy());
+    accessory().removeListener(listener);
+    QCOMPARE(accessory().state().upload.isComplete(), complete);
+    QCOMPARE(page->work()->notice().isEmpty(), complete);
+    QCOMPARE(page->work()->progressBar()->isVisible(), complete);
+    QCOMPARE(page->busyEvents, (QList<int>{1, 0, 1, 0}));
+    QCOMPARE(page->tabs()->digits().first().size(), matrixCells(matrixForm)); // which is followed now
+    QCOMPARE(page->focusWidget() == write, heldAt != 3);                      // its drawing is not saved
+}
+
+void TestCanvasFiles::cancelledFiles()
+{
+    const auto page = makePage();
+    draw(*page, 1);
+    QVERIFY(finish(*page, &AnsweredCanvas::saveAnimate));
+    page->fileName = QStringLiteral("in.csv");
+    QVERIFY(writeText(page->fileName, QByteArray(2100, '1')));
+    page->importAnimate();
+    page->work()->cancelButton()->click();
+    QTRY_VERIFY(!page->isBusy());
+    QCOMPARE(page->tabs()->count(), 1);
+    QVERIFY(!page->work()->notice().isEmpty());
+    QCOMPARE(page->dataFile(), QLatin1String(kDataFile));
+    LEDThread thread(*page);
+    const auto interrupt = [&thread] { thread.requestInterruption(); };
+    connect(&thread, &LEDThread::progress, &thread, interrupt, Qt::DirectConnection); // after the first frame
+    thread.begin(LEDThread::Export, {{"1", "0"}, page->fileName});
+    thread.wait();
+    QCOMPARE(readText(page->fileName).size(), 2100);
+}
+
+void TestCanvasFiles::timeLeft()
+{
+    using std::chrono::milliseconds;
+    const WorkStep steps[] = {{"", 0, 30, milliseconds(6000)}, {"", 30, 130, milliseconds(1000)}};
+    for (const auto &[step, progress, gone, left] :
+         {std::tuple{0, 0, 500, 6500}, {0, 10, 2000, 5000}, {0, 0, 9000, 1000}, {1, 80, 4000, 4000}, {1, 130, 8000, 0}})
+        QCOMPARE(::timeLeft(steps, std::size_t(step), progress, milliseconds(gone)).count(), left);
+}
+
+void TestCanvasFiles::shownAgain_data()
+{
+    columns<int, QByteArray, int, int>("form", "content", "frames", "shownIn"); // -1: nowhere
+    const QByteArray other = QByteArray(949, '1');
+    QTest::newRow("of this form") << 0 << other.repeated(3) << 3 << 0;
+    QTest::newRow("of the other form") << 1 << other.repeated(3) << 3 << 0;
+    QTest::newRow("the most that can be drawn") << 1 << QByteArray(1050 * 193, '1') << 193 << 1;
+    QTest::newRow("more than can be drawn") << 1 << QByteArray(1050 * 194, '1') << 1 << -1;
+    QTest::newRow("a piece at its end") << 0 << other + "1" << 1 << -1;
+    QTest::newRow("something else") << 0 << QByteArray(949, 'x') << 1 << -1;
+}
+
+void TestCanvasFiles::shownAgain()
+{
+    QFETCH(int, form);
+    QFETCH(QByteArray, content);
+    QFETCH(int, frames);
+    QFETCH(int, shownIn);
+    QVERIFY(writeText(QLatin1String(kDataFile), content));
+    const auto page = makePage(form);
+    QCOMPARE(page->work()->notice().isEmpty(), shownIn >= 0);
+    QVERIFY(page->dataFile().isEmpty() && !page->button("Write Animate")->isEnabled());
+    matrixForm = shownIn >= 0 ? shownIn : form;
+    page->updateInterfaceData();
+    QCOMPARE(page->tabs()->count(), frames);
+    if (shownIn >= 0)
+        QCOMPARE(page->tabs()->digits().join(), content);
+    QVERIFY(page->mayLeave());
+    QCOMPARE(page->timesAsked, 0);
+    QCOMPARE(readText(QLatin1String(kDataFile)), content);
+    if (frames != 193)
+        return;
+    connectDevice();
+    const QString count = page->findChild<QLabel *>(QStringLiteral("note"))->text();
+    QCOMPARE(count, QStringLiteral("Frames: 193, of which the accessory takes 173"));
+    QVERIFY(finish(*page, &AnsweredCanvas::saveAnimate) && finish(*page, &AnsweredCanvas::writeAnimate));
+    QCOMPARE(page->work()->notice(), QStringLiteral("The accessory takes 173 of the 193 frames."));
+}
+
+void TestCanvasFiles::leaving()
+{
+    using Leaving = AnsweredCanvas::Leaving;
+    const auto page = makePage();
+    int asked = 0;
+    page->addFrame(); // dark: nothing is lost
+    QVERIFY(page->mayLeave());
+    draw(*page, 0);
+    QVERIFY(!page->mayLeave() && page->timesAsked == ++asked);
+    page->undo();
+    QVERIFY(page->mayLeave());
+    page->redo();
+    page->leaving = Leaving::DoNotSave;
+    QVERIFY(page->mayLeave() && page->timesAsked == ++asked);
+    QVERIFY(!QFile::exists(QLatin1String(kDataFile)));
+    page->leaving = Leaving::Save;
+    {
+        const FullDisk full(1000);
+        QVERIFY(!page->mayLeave() && page->timesAsked == ++asked);
+        QCOMPARE(page->warnings.count(), 1);
+    }
+    matrixForm = kRectangleForm; // two drawings, one data file: the one that is seen gets it
+    page->updateInterfaceData();
+    draw(*page, 2);
+    QVERIFY(!page->mayLeave() && page->timesAsked == ++asked); // no file was named for the other
+    page->fileName = QStringLiteral("other.csv");
+    QVERIFY(page->mayLeave() && page->timesAsked == ++asked);
+    QCOMPARE(readText(page->fileName), QByteArray(949, '0') + "1" + QByteArray(948, '0'));
+    QCOMPARE(readText(QLatin1String(kDataFile)), "001" + QByteArray(1047, '0'));
+    QVERIFY(page->mayLeave() && page->timesAsked == asked);
 }
 
 QTEST_MAIN(TestCanvasFiles)

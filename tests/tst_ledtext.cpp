@@ -1,3 +1,6 @@
+#include <thread>
+
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QLineEdit>
 #include <QPushButton>
@@ -11,6 +14,7 @@
 #include "support/accessoryfixture.h"
 #include "support/datarow.h"
 #include "support/textfile.h"
+#include "usb-hid/accessoryupload.h"
 
 using namespace std::chrono_literals;
 
@@ -200,8 +204,8 @@ void TestLedText::saveData()
     QSignalSpy made(page.text(), &TextWidget::progress);
     QStringList phases;
     connect(ledWorkThread::instance(), &ledWorkThread::progress, &page, [&] {
-        if (!phases.contains(page.phase()))
-            phases.append(page.phase());
+        if (!phases.contains(page.work()->stepName()))
+            phases.append(page.work()->stepName());
     });
     page.saveButton()->click();
     QVERIFY(!page.saveButton()->isEnabled());
@@ -228,6 +232,8 @@ void TestLedText::textThatFails_data()
     row("no text", "no text", "There is no text yet.");
     row("the file cannot be written", "folder", "The file cannot be written");
     row("pulled out", "pulled out", "The accessory did not take everything.");
+    row("cancelled at once", "cancelled", "Cancelled. Nothing was changed.");
+    row("cancelled in its upload", "upload", "The accessory did not take everything.");
 }
 
 void TestLedText::textThatFails()
@@ -240,9 +246,21 @@ void TestLedText::textThatFails()
         accessory().unplugAtWrite(3);
     pageLEDMatrixText page([] { return true; });
     page.text()->input()->setText(fault == QStringLiteral("no text") ? QString() : QStringLiteral("A"));
+    const auto cancel = [&page] { page.work()->cancelButton()->click(); };
+    const int listener = accessory().addListener([&] { // keeps the upload from being faster than the hand
+        if (fault != QStringLiteral("upload") || accessory().state().upload.received != 3)
+            return;
+        const std::stop_token stop = uploadStop();
+        QMetaObject::invokeMethod(&page, cancel);
+        for (const QDeadlineTimer patience(10000); !stop.stop_requested() && !patience.hasExpired();)
+            std::this_thread::yield();
+    });
     page.saveButton()->click();
+    if (fault == QStringLiteral("cancelled"))
+        cancel();
     QVERIFY(QTest::qWaitFor([&] { return !page.isBusy(); }));
-    QTRY_COMPARE(page.notice().left(notice.size()), notice);
+    accessory().removeListener(listener);
+    QTRY_COMPARE(page.work()->notice().left(notice.size()), notice);
     QVERIFY(page.saveButton()->isEnabled() && page.text()->isEnabled());
 }
 

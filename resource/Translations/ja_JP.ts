@@ -32,12 +32,20 @@
         <translation>%1 に書き込めません。ここでの設定はプログラムの終了まで有効です。</translation>
     </message>
     <message>
+        <source>%1 holds no saved drawing. It stays as it is until you save.</source>
+        <translation>%1 には保存された描画がありません。保存するまでファイルはそのまま残ります。</translation>
+    </message>
+    <message>
         <source>%1 is in the list already.</source>
         <translation>%1 は既にリストにあります。</translation>
     </message>
     <message>
         <source>%1 is taken by another program or function and does nothing here.</source>
         <translation>%1 は他のプログラムまたは機能が使用中のため、ここでは動作しません。</translation>
+    </message>
+    <message>
+        <source>%1 s left</source>
+        <translation>残り %1 秒</translation>
     </message>
     <message>
         <source>%1 · %2</source>
@@ -268,6 +276,10 @@
         <translation>アニメモード</translation>
     </message>
     <message>
+        <source>Animate: 1050 cells a frame. Aligned: 949, as this form saves.</source>
+        <translation>アニメ: 1フレーム1050セル。整列: この形状の949セル。</translation>
+    </message>
+    <message>
         <source>Animations</source>
         <translation>アニメーション</translation>
     </message>
@@ -386,6 +398,14 @@
     <message>
         <source>CSV file (*.csv);</source>
         <translation>CSVファイル (*.csv);</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing was changed.</source>
+        <translation>キャンセルしました。何も変更されていません。</translation>
     </message>
     <message>
         <source>Care Content</source>
@@ -556,6 +576,10 @@
         <translation>本体バージョン</translation>
     </message>
     <message>
+        <source>Do not save</source>
+        <translation>保存しない</translation>
+    </message>
+    <message>
         <source>Drop a chunk</source>
         <translation>ブロック欠落</translation>
     </message>
@@ -686,6 +710,10 @@
     <message>
         <source>Frames: %1</source>
         <translation>フレーム数: %1</translation>
+    </message>
+    <message>
+        <source>Frames: %1, of which the accessory takes %2</source>
+        <translation>フレーム数: %1（アクセサリに入るのは %2 まで）</translation>
     </message>
     <message>
         <source>Frequency</source>
@@ -846,6 +874,10 @@
     <message>
         <source>I/O Settings</source>
         <translation>入出力設定</translation>
+    </message>
+    <message>
+        <source>Import Aligned</source>
+        <translation>整列読み込み</translation>
     </message>
     <message>
         <source>Import Animate</source>
@@ -1448,6 +1480,10 @@
         <translation>彩度 R Y G C B M</translation>
     </message>
     <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
         <source>Save Animate</source>
         <translation>アニメ保存</translation>
     </message>
@@ -1652,6 +1688,10 @@
         <translation>音楽モードをオンにすると、このコンピューターの再生音がアクセサリーに表示されます。</translation>
     </message>
     <message>
+        <source>The accessory takes %1 of the %2 frames.</source>
+        <translation>%2 フレームのうち、アクセサリに入るのは最初の %1 フレームです。</translation>
+    </message>
+    <message>
         <source>The accessory takes no report until the button is released</source>
         <translation>ボタンを戻すまでアクセサリはレポートを受け取りません</translation>
     </message>
@@ -1676,12 +1716,20 @@
         <translation>ディスクにすべてを書き込めませんでした。</translation>
     </message>
     <message>
+        <source>The drawn frames are not saved. Save them now?</source>
+        <translation>描いたフレームは保存されていません。今すぐ保存しますか？</translation>
+    </message>
+    <message>
         <source>The file cannot be read: %1</source>
         <translation>ファイルを読み込めません: %1</translation>
     </message>
     <message>
         <source>The file cannot be written: %1</source>
         <translation>ファイルに書き込めません: %1</translation>
+    </message>
+    <message>
+        <source>The file holds %1 frames; the first %2 were taken.</source>
+        <translation>ファイルには %1 フレームあり、最初の %2 フレームを読み込みました。</translation>
     </message>
     <message>
         <source>The file holds no whole frame.</source>

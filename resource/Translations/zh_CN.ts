@@ -32,12 +32,20 @@
         <translation>%1 无法写入：此处的设置在程序结束前有效。</translation>
     </message>
     <message>
+        <source>%1 holds no saved drawing. It stays as it is until you save.</source>
+        <translation>%1 中没有已保存的绘图。在您保存之前，该文件保持不变。</translation>
+    </message>
+    <message>
         <source>%1 is in the list already.</source>
         <translation>%1 已在列表中。</translation>
     </message>
     <message>
         <source>%1 is taken by another program or function and does nothing here.</source>
         <translation>%1 已被其他程序或功能占用，在此不起作用。</translation>
+    </message>
+    <message>
+        <source>%1 s left</source>
+        <translation>剩余 %1 秒</translation>
     </message>
     <message>
         <source>%1 · %2</source>
@@ -268,6 +276,10 @@
         <translation>动画模式</translation>
     </message>
     <message>
+        <source>Animate: 1050 cells a frame. Aligned: 949, as this form saves.</source>
+        <translation>动画：每帧1050格。对齐：每帧949格，与此形状的保存相同。</translation>
+    </message>
+    <message>
         <source>Animations</source>
         <translation>动画</translation>
     </message>
@@ -386,6 +398,14 @@
     <message>
         <source>CSV file (*.csv);</source>
         <translation>CSV文件 (*.csv);</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing was changed.</source>
+        <translation>已取消，未作任何更改。</translation>
     </message>
     <message>
         <source>Care Content</source>
@@ -556,6 +576,10 @@
         <translation>显示器版本</translation>
     </message>
     <message>
+        <source>Do not save</source>
+        <translation>不保存</translation>
+    </message>
+    <message>
         <source>Drop a chunk</source>
         <translation>丢失数据块</translation>
     </message>
@@ -686,6 +710,10 @@
     <message>
         <source>Frames: %1</source>
         <translation>帧数：%1</translation>
+    </message>
+    <message>
+        <source>Frames: %1, of which the accessory takes %2</source>
+        <translation>帧数：%1，配件最多接收 %2 帧</translation>
     </message>
     <message>
         <source>Frequency</source>
@@ -846,6 +874,10 @@
     <message>
         <source>I/O Settings</source>
         <translation>I/O 设置</translation>
+    </message>
+    <message>
+        <source>Import Aligned</source>
+        <translation>对齐导入</translation>
     </message>
     <message>
         <source>Import Animate</source>
@@ -1448,6 +1480,10 @@
         <translation>饱和度 R Y G C B M</translation>
     </message>
     <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
         <source>Save Animate</source>
         <translation>保存动画</translation>
     </message>
@@ -1652,6 +1688,10 @@
         <translation>打开音乐模式后，配件会显示本机正在播放的声音。</translation>
     </message>
     <message>
+        <source>The accessory takes %1 of the %2 frames.</source>
+        <translation>共 %2 帧，配件只接收前 %1 帧。</translation>
+    </message>
+    <message>
         <source>The accessory takes no report until the button is released</source>
         <translation>松开按钮前，配件不接收任何报告</translation>
     </message>
@@ -1676,12 +1716,20 @@
         <translation>磁盘未能写入全部内容。</translation>
     </message>
     <message>
+        <source>The drawn frames are not saved. Save them now?</source>
+        <translation>绘制的帧尚未保存。现在保存吗？</translation>
+    </message>
+    <message>
         <source>The file cannot be read: %1</source>
         <translation>文件无法读取：%1</translation>
     </message>
     <message>
         <source>The file cannot be written: %1</source>
         <translation>文件无法写入：%1</translation>
+    </message>
+    <message>
+        <source>The file holds %1 frames; the first %2 were taken.</source>
+        <translation>文件中有 %1 帧，只导入了前 %2 帧。</translation>
     </message>
     <message>
         <source>The file holds no whole frame.</source>

@@ -32,12 +32,20 @@
         <translation>%1 無法寫入：此處的設定在程式結束前有效。</translation>
     </message>
     <message>
+        <source>%1 holds no saved drawing. It stays as it is until you save.</source>
+        <translation>%1 中沒有已儲存的繪圖。在您儲存之前，該檔案維持不變。</translation>
+    </message>
+    <message>
         <source>%1 is in the list already.</source>
         <translation>%1 已在清單中。</translation>
     </message>
     <message>
         <source>%1 is taken by another program or function and does nothing here.</source>
         <translation>%1 已被其他程式或功能佔用，在此不起作用。</translation>
+    </message>
+    <message>
+        <source>%1 s left</source>
+        <translation>剩餘 %1 秒</translation>
     </message>
     <message>
         <source>%1 · %2</source>
@@ -268,6 +276,10 @@
         <translation>動畫模式</translation>
     </message>
     <message>
+        <source>Animate: 1050 cells a frame. Aligned: 949, as this form saves.</source>
+        <translation>動畫：每畫格1050格。對齊：949格，與此形狀的儲存相同。</translation>
+    </message>
+    <message>
         <source>Animations</source>
         <translation>動畫</translation>
     </message>
@@ -386,6 +398,14 @@
     <message>
         <source>CSV file (*.csv);</source>
         <translation>CSV檔案 (*.csv);</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing was changed.</source>
+        <translation>已取消，未做任何變更。</translation>
     </message>
     <message>
         <source>Care Content</source>
@@ -556,6 +576,10 @@
         <translation>顯示器版本</translation>
     </message>
     <message>
+        <source>Do not save</source>
+        <translation>不儲存</translation>
+    </message>
+    <message>
         <source>Drop a chunk</source>
         <translation>遺失資料區塊</translation>
     </message>
@@ -686,6 +710,10 @@
     <message>
         <source>Frames: %1</source>
         <translation>畫格數：%1</translation>
+    </message>
+    <message>
+        <source>Frames: %1, of which the accessory takes %2</source>
+        <translation>畫格數：%1，配件最多接收 %2 個</translation>
     </message>
     <message>
         <source>Frequency</source>
@@ -846,6 +874,10 @@
     <message>
         <source>I/O Settings</source>
         <translation>I/O 設定</translation>
+    </message>
+    <message>
+        <source>Import Aligned</source>
+        <translation>對齊匯入</translation>
     </message>
     <message>
         <source>Import Animate</source>
@@ -1448,6 +1480,10 @@
         <translation>飽和度 R Y G C B M</translation>
     </message>
     <message>
+        <source>Save</source>
+        <translation>儲存</translation>
+    </message>
+    <message>
         <source>Save Animate</source>
         <translation>儲存動畫</translation>
     </message>
@@ -1652,6 +1688,10 @@
         <translation>開啟音樂模式後，配件會顯示本機正在播放的聲音。</translation>
     </message>
     <message>
+        <source>The accessory takes %1 of the %2 frames.</source>
+        <translation>共 %2 個畫格，配件只接收前 %1 個。</translation>
+    </message>
+    <message>
         <source>The accessory takes no report until the button is released</source>
         <translation>放開按鈕前，配件不接收任何報告</translation>
     </message>
@@ -1676,12 +1716,20 @@
         <translation>磁碟未能寫入全部內容。</translation>
     </message>
     <message>
+        <source>The drawn frames are not saved. Save them now?</source>
+        <translation>繪製的畫格尚未儲存。現在儲存嗎？</translation>
+    </message>
+    <message>
         <source>The file cannot be read: %1</source>
         <translation>檔案無法讀取：%1</translation>
     </message>
     <message>
         <source>The file cannot be written: %1</source>
         <translation>檔案無法寫入：%1</translation>
+    </message>
+    <message>
+        <source>The file holds %1 frames; the first %2 were taken.</source>
+        <translation>檔案中有 %1 個畫格，只匯入了前 %2 個。</translation>
     </message>
     <message>
         <source>The file holds no whole frame.</source>

@@ -61,3 +61,25 @@ bool askYesNo(const QString &title, const QString &text, QWidget *parent)
     const QAbstractButton *answer = box.ask(yes, no);
     return answer && answer != no;
 }
+
+/// The role of an answer among so many: the first agrees, the last takes back.
+static QMessageBox::ButtonRole roleOf(qsizetype place, qsizetype answers)
+{
+    if (place == 0)
+        return QMessageBox::YesRole;
+    return place + 1 < answers ? QMessageBox::DestructiveRole : QMessageBox::NoRole;
+}
+
+int askOneOf(const QString &title, const QString &text, const QStringList &answers, QWidget *parent)
+{
+    QMessageBox box(QMessageBox::Question, title, text, QMessageBox::NoButton, parent);
+    box.setStyleSheet(QLatin1String(kStyle));
+    QList<QAbstractButton *> buttons;
+    for (qsizetype i = 0; i < answers.size(); ++i)
+        buttons.append(addButton(box, answers[i], roleOf(i, answers.size())));
+    box.setDefaultButton(qobject_cast<QPushButton *>(buttons.first()));
+    box.setEscapeButton(buttons.last());
+    box.exec();
+    const auto given = buttons.indexOf(box.clickedButton());
+    return static_cast<int>(given < 0 ? buttons.size() - 1 : given);
+}

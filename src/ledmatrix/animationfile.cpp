@@ -2,13 +2,12 @@
 
 #include <QDebug>
 #include <QFile>
+#include <QFileInfo>
 #include <QObject>
 
 #include "files/wholefile.h"
 
 namespace {
-
-constexpr qsizetype kFrameBytes = 1050;
 
 void logFailure(const QString &error)
 {
@@ -26,7 +25,7 @@ QString appendFrame(const QString &fileName, const QByteArray &digits)
 }
 
 QString writeAnimation(const QString &fileName, const QByteArrayList &frames,
-                       const std::function<void(int written)> &written)
+                       const std::function<bool(int written)> &goesOn)
 {
     if (frames.isEmpty()) { // then there is nothing to keep an old file for, and nothing to make a new one of
         QFile old(fileName);
@@ -40,23 +39,25 @@ QString writeAnimation(const QString &fileName, const QByteArrayList &frames,
     for (qsizetype i = 0; i < frames.size(); ++i) {
         if (!file.write(frames[i]))
             return file.error();
-        written(static_cast<int>(i) + 1);
+        if (!goesOn(static_cast<int>(i) + 1))
+            return QStringLiteral("cancelled");
     }
     return file.putInPlace(frames.join()) ? QString() : file.error();
 }
 
-ReadAnimation readAnimation(const QString &fileName)
+ReadAnimation readAnimation(const QString &fileName, qint64 frameBytes, qint64 most)
 {
     ReadAnimation animation;
-    const WholeFile file = readWhole(fileName, kFrameBytes * kMaximumFrames);
+    const WholeFile file = readWhole(fileName, frameBytes * most);
     animation.error = file.exists ? file.error : QObject::tr("There is no such file.");
     if (!animation.error.isEmpty()) {
         logFailure(animation.error);
         return animation;
     }
-    const qsizetype frames = file.bytes.size() / kFrameBytes;
+    animation.framesInFile = QFileInfo(fileName).size() / frameBytes;
+    const qint64 frames = file.bytes.size() / frameBytes;
     qDebug() << "Frame size:" << frames;
-    for (qsizetype i = 0; i < frames; ++i)
-        animation.frames.append(file.bytes.sliced(i * kFrameBytes, kFrameBytes));
+    for (qint64 i = 0; i < frames; ++i)
+        animation.frames.append(file.bytes.sliced(i * frameBytes, frameBytes));
     return animation;
 }

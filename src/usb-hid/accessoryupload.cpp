@@ -30,7 +30,7 @@ struct UploadKind
 /// Runs on above 100, on purpose: the waits have reached 30 already.
 int animationProgress(int index, int total)
 {
-    return 30 - static_cast<int>(static_cast<double>(index) / total * -100.0);
+    return kAnimationPrepared - static_cast<int>(static_cast<double>(index) / total * -100.0);
 }
 
 int textProgress(int index, int total)
@@ -38,8 +38,8 @@ int textProgress(int index, int total)
     return static_cast<int>(static_cast<double>(index) / total * 100.0);
 }
 
-constexpr UploadKind kAnimation{6, 5, false, 182208, 0.7, true, animationProgress};
-constexpr UploadKind kText{24, 4, true, kTextMemory, 1.0, false, textProgress};
+constexpr UploadKind kAnimation{kAnimationWaits / kWait, 5, false, kAnimationCap, 0.7, true, animationProgress};
+constexpr UploadKind kText{kTextWaits / kWait, 4, true, kTextMemory, 1.0, false, textProgress};
 
 std::mutex s_stopMutex;
 std::stop_source s_stop; // of the uploads that were asked for since the last stop
@@ -55,6 +55,8 @@ public:
 
     bool run(const QString &fileName)
     {
+        if (m_stop.stop_requested())
+            return false; // the start alone makes the device forget what it has
         AccessoryReport start;
         buildUploadStart(start, m_mode);
         m_complete = writePageReport(start);
@@ -67,9 +69,9 @@ public:
             m_report(kProgressFailed);
             return false;
         }
-        sendChunks(file);
+        const bool stopped = !sendChunks(file);
         file.close();
-        if (isStopped())
+        if (stopped)
             return false;
         m_report(kProgressEnd);
         return m_complete;
@@ -90,7 +92,8 @@ private:
             m_report(kProgressEnd);
     }
 
-    void sendChunks(QFile &file)
+    /// False when it was stopped before the last chunk.
+    bool sendChunks(QFile &file)
     {
         const qint64 size = std::min(file.size(), m_kind.cap);
         const int total = chunkCount(size);
@@ -98,7 +101,9 @@ private:
         qDebug() << "Total chunks:" << total;
         const int between = std::max(1, static_cast<int>(total * 0.1 * m_kind.progressShare));
         qint64 left = size;
-        for (int index = 1; index <= total && !isStopped(); ++index) {
+        for (int index = 1; index <= total; ++index) {
+            if (isStopped())
+                return false;
             const auto length = std::min(left, static_cast<qint64>(kChunkCells));
             left -= length;
             const HidWrite result = sendChunk(file, total, index, length);
@@ -110,6 +115,7 @@ private:
             if (index % between == 0)
                 m_report(m_kind.progress(index, total));
         }
+        return true;
     }
 
     /// Cells that the file does not have any more are dark: the device was told how many come.
@@ -140,6 +146,11 @@ std::stop_token uploadStop()
 {
     const std::lock_guard lock(s_stopMutex);
     return s_stop.get_token();
+}
+
+std::chrono::milliseconds expectedWriteTime(qint64 bytes)
+{
+    return std::chrono::milliseconds(chunkCount(bytes)); // one a frame of the bus
 }
 
 bool uploadAnimation(const QString &fileName, std::uint8_t mode, const std::function<void(int)> &progress,

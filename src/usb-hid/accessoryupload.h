@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <stop_token>
@@ -19,6 +20,15 @@ inline constexpr int kTextMemory = 780078;
 
 inline constexpr int kProgressEnd = 100;
 inline constexpr int kProgressFailed = -1;
+inline constexpr int kAnimationPrepared = 30; ///< progress of an animation when the waits are over
+inline constexpr int kAnimationWritten = 130; ///< and when its last chunk is out, before the end is told
+
+inline constexpr qint64 kAnimationCap = 182208; ///< bytes of an animation that the device has room for
+
+/// What an upload should take: until the device is prepared, and a chunk at the pace of a full-speed device.
+inline constexpr std::chrono::milliseconds kAnimationWaits{6000};
+inline constexpr std::chrono::milliseconds kTextWaits{24000};
+std::chrono::milliseconds expectedWriteTime(qint64 bytes);
 
 /// Asked to stop by the next stopUploads(). Taken where an upload is asked for, before its thread comes to it.
 std::stop_token uploadStop();
@@ -33,5 +43,6 @@ bool uploadAnimation(const QString &fileName, std::uint8_t mode, const std::func
 bool uploadText(const QString &fileName, const std::function<void(int)> &progress,
                 const std::stop_token &stop = uploadStop());
 
-/// Ends the uploads that are under way or asked for, in whatever thread. For the program's end.
+/// Ends the uploads that are under way or asked for, in whatever thread: when the user cancels the one that there is,
+/// and at the program's end. One that has not begun yet writes nothing.
 void stopUploads();

@@ -19,8 +19,12 @@ public:
         connect(this, &pageLEDMatrixCanvas::busyEnded, this, [this] { busyEvents.append(0); });
     }
 
+    using pageLEDMatrixCanvas::Leaving;
+
     bool connected = true;
     QString fileName;
+    Leaving leaving = Leaving::Stay;
+    int timesAsked = 0; ///< before it was left
     QStringList warnings;
     QList<int> busyEvents;
 
@@ -28,6 +32,7 @@ protected:
     QString askSaveFile() override { return fileName; }
     QString askOpenFile() override { return fileName; }
     void warn(const QString &text) override { warnings.append(text); }
+    Leaving askLeaving() override { return ++timesAsked, leaving; }
 };
 
 /// Presses a cell of row 0 in the open editor.

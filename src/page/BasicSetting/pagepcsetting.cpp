@@ -197,7 +197,8 @@ void pagePCSetting::changeLanguage(const QString &objectName)
     });
     if (language == languages.end())
         return;
-    if (ask(QObject::tr("Language"), QObject::tr("The APP will restart automatically when switching languages."))) {
+    if (ask(QObject::tr("Language"), QObject::tr("The APP will restart automatically when switching languages.")) &&
+        m_session.mayLeave()) {
         const QString before = languageSetting(false);
         if (showStored(storeLanguage(QLatin1String(language->code)), Unstored::Undone)) {
             if (relaunchAndQuit())
@@ -214,7 +215,8 @@ void pagePCSetting::onComboxIndexChanged(int nIndex)
     if (isUpdating() || nIndex < 0 || nIndex == currentMonitorIndex)
         return;
     showNotice({});
-    if (ask(QObject::tr("Machine Select"), QObject::tr("The APP will reload data when switching machines."))) {
+    if (ask(QObject::tr("Machine Select"), QObject::tr("The APP will reload data when switching machines.")) &&
+        m_session.mayLeave()) {
         const std::uint8_t before = currentMonitorIndex;
         if (showStored(storeSetting(QLatin1String(kDeviceIndexKey), nIndex), Unstored::Undone)) {
             currentMonitorIndex = static_cast<std::uint8_t>(nIndex);

@@ -52,6 +52,8 @@ QWidget *pageSystemSetting::buildPart(const char *)
 
 void pageSystemSetting::resetFactory()
 {
+    if (!m_session.mayLeave()) // it ends in a restart that asks nobody
+        return;
     if (!send(Command::ResetFactory, 0)) {
         showNotice(QObject::tr("The monitor did not take the reset."));
         return;

@@ -1,5 +1,7 @@
 #include "page/Nightloom/animationhistory.h"
 
+#include <algorithm>
+
 #include "ledmatrix/matrixframe.h"
 
 /// The memory that a state takes beyond the one before it. Frames that have moved count as new, which is enough.
@@ -46,6 +48,15 @@ int AnimationHistory::redo()
     if (canRedo())
         ++m_now;
     return state().place;
+}
+
+bool AnimationHistory::isKept() const
+{
+    const std::vector<AnimationFrame> &now = state().frames;
+    const auto isDark = [](const AnimationFrame &frame) { return frame.cells.count(true) == 0; };
+    const auto sameCells = [](const AnimationFrame &a, const AnimationFrame &b) { return a.cells == b.cells; };
+    return std::all_of(now.begin(), now.end(), isDark) ||
+           std::equal(now.begin(), now.end(), m_kept.begin(), m_kept.end(), sameCells);
 }
 
 QBitArray toBits(const MatrixFrame &frame)

@@ -46,6 +46,12 @@ public:
     int undo();
     int redo();
 
+    /// The animation of now is in a file.
+    void keep() { m_kept = state().frames; }
+
+    /// Whether nothing of now is lost with the program: a file holds it, or no cell of it is lit.
+    bool isKept() const;
+
 private:
     struct Step
     {
@@ -58,6 +64,7 @@ private:
     std::deque<Step> m_steps;
     std::size_t m_bytes = 0; ///< of all steps
     std::size_t m_now = 0;
+    std::vector<AnimationFrame> m_kept;
 };
 
 /// The cells of a frame in frame order, and back.

@@ -41,7 +41,7 @@ void LEDThread::run()
     bool complete = true;
     switch (m_state) {
     case Export:
-        exportFrames();
+        complete = exportFrames();
         break;
     case Upload:
         complete = m_page.sendAnmateData(m_job, [this](int value) { Q_EMIT progress(value); });
@@ -54,16 +54,18 @@ void LEDThread::run()
     Q_EMIT workEnded(complete);
 }
 
-void LEDThread::exportFrames()
+bool LEDThread::exportFrames()
 {
     const auto frames = static_cast<double>(m_job.frames.size());
     const int step = std::max(static_cast<int>(frames * 0.1), 1);
     const QString error = writeAnimation(m_job.fileName, m_job.frames, [&](int count) {
         if (count % step == 0)
             Q_EMIT progress(static_cast<int>(count / frames * 100.0));
+        return !isInterruptionRequested();
     });
-    if (error.isEmpty())
-        return;
-    fail(error);
-    Q_EMIT progress(kProgressFailed);
+    if (!error.isEmpty() && !isInterruptionRequested()) {
+        fail(error);
+        Q_EMIT progress(kProgressFailed);
+    }
+    return error.isEmpty();
 }

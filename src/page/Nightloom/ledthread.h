@@ -19,7 +19,8 @@ struct LEDJob
     std::stop_token stop{}; ///< ends an upload
 };
 
-/// The canvas page's long work: it writes, asks to read, or uploads an animation. It touches nothing that is shown.
+/// The canvas page's long work: it writes, asks to read, or uploads an animation. It touches nothing that is shown. An
+/// interruption that is requested ends an export before its file takes the old one's place.
 class LEDThread : public JoinedThread
 {
     Q_OBJECT
@@ -45,14 +46,14 @@ Q_SIGNALS:
     void progress(int value);
 
     /// Follows the last progress. 100 alone does not say that the work is done: it is passed on the way as well, and
-    /// comes at the end even of an upload that the accessory did not take whole.
+    /// comes at the end even of an upload that the accessory did not take whole, or of an export without its file.
     void workEnded(bool complete);
 
 protected:
     void run() override;
 
 private:
-    void exportFrames();
+    bool exportFrames();
     void fail(const QString &error);
 
     pageLEDMatrixCanvas &m_page;

@@ -1,8 +1,7 @@
 #include "page/Nightloom/pageledmatrixcanvas.h"
 
-#include <algorithm>
+#include <utility>
 
-#include <QProgressBar>
 #include <QPushButton>
 
 #include "controls/sliderwidget.h"
@@ -25,9 +24,15 @@ AnimationState firstState(int form, int &nextId)
 
 } // namespace
 
+int pageLEDMatrixCanvas::framesWithRoom(int form)
+{
+    const int cells = matrixCells(form);
+    return cells == 0 ? 0 : static_cast<int>(kAnimationCap / cells);
+}
+
 pageLEDMatrixCanvas::pageLEDMatrixCanvas(AccessoryCheck ensureConnected, QWidget *parent)
     : QLabel(parent), m_ensureConnected(std::move(ensureConnected)), m_thread(*this), m_tabs(new FrameTabs(this)),
-      m_count(new QLabel(this)), m_notice(new QLabel(this)), m_progress(new QProgressBar(this))
+      m_count(new QLabel(this)), m_work(new WorkPanel(m_texts, this))
 {
     buildForm();
     bindShortcuts();
@@ -54,15 +59,17 @@ pageLEDMatrixCanvas::~pageLEDMatrixCanvas()
 /// Another form of the accessory was chosen: its own animation is drawn on, and the other one waits.
 void pageLEDMatrixCanvas::followMatrixForm()
 {
-    if (m_busy || m_form == matrixForm)
+    if (isBusy() || m_form == matrixForm)
         return;
     endStrokes();
     m_form = matrixForm;
     m_history = &m_histories.try_emplace(m_form, firstState(m_form, m_nextId)).first->second;
+    m_aligned->setVisible(m_form == kTaperingForm);
     m_tabs->setForm(m_form);
     m_tabs->apply(m_history->state(), m_history->state().place);
     m_cellSize->setValue(m_form == kRectangleForm ? LEDMatrixWidgetRect::kCellSize : LEDMatrixWidget::kCellSize);
-    onChanged();
+    m_saved = false; // the data file is not of this form's making
+    updateButtons();
 }
 
 void pageLEDMatrixCanvas::updateInterfaceData()
@@ -73,6 +80,8 @@ void pageLEDMatrixCanvas::updateInterfaceData()
 void pageLEDMatrixCanvas::showEvent(QShowEvent *event)
 {
     QLabel::showEvent(event);
+    if (!std::exchange(m_restored, true))
+        restoreSaved();
     followMatrixForm();
 }
 
@@ -112,7 +121,7 @@ AnimationFrame pageLEDMatrixCanvas::newFrame(AnimationState &state)
 void pageLEDMatrixCanvas::addFrame()
 {
     endStrokes();
-    if (m_busy || !mayAddFrame())
+    if (isBusy() || !mayAddFrame())
         return;
     AnimationState state = m_history->state();
     state.place = static_cast<int>(state.frames.size());
@@ -123,7 +132,7 @@ void pageLEDMatrixCanvas::addFrame()
 void pageLEDMatrixCanvas::duplicateFrame()
 {
     endStrokes();
-    if (m_busy || m_tabs->count() == 0 || !mayAddFrame())
+    if (isBusy() || m_tabs->count() == 0 || !mayAddFrame())
         return;
     AnimationState state = m_history->state();
     const int original = m_tabs->currentIndex();
@@ -137,7 +146,7 @@ void pageLEDMatrixCanvas::duplicateFrame()
 void pageLEDMatrixCanvas::deleteFrame()
 {
     endStrokes();
-    if (m_busy || m_tabs->count() == 0)
+    if (isBusy() || m_tabs->count() == 0)
         return;
     AnimationState state = m_history->state();
     state.place = m_tabs->currentIndex();
@@ -150,7 +159,7 @@ void pageLEDMatrixCanvas::deleteFrame()
 void pageLEDMatrixCanvas::cleanFrame()
 {
     endStrokes();
-    if (m_busy || m_tabs->count() == 0)
+    if (isBusy() || m_tabs->count() == 0)
         return;
     AnimationState state = m_history->state();
     state.place = m_tabs->currentIndex();
@@ -164,7 +173,7 @@ void pageLEDMatrixCanvas::cleanFrame()
 void pageLEDMatrixCanvas::undo()
 {
     endStrokes();
-    if (m_busy || !m_history->canUndo())
+    if (isBusy() || !m_history->canUndo())
         return;
     const int place = m_history->undo();
     m_tabs->apply(m_history->state(), place);
@@ -174,7 +183,7 @@ void pageLEDMatrixCanvas::undo()
 void pageLEDMatrixCanvas::redo()
 {
     endStrokes();
-    if (m_busy || !m_history->canRedo())
+    if (isBusy() || !m_history->canRedo())
         return;
     const int place = m_history->redo();
     m_tabs->apply(m_history->state(), place);
@@ -216,15 +225,23 @@ void pageLEDMatrixCanvas::onEdited(int index)
 void pageLEDMatrixCanvas::onChanged()
 {
     m_saved = false; // what the data file holds is no longer what is drawn
-    showNotice({});
+    m_work->showNotice({});
     updateButtons();
+}
+
+QString pageLEDMatrixCanvas::countText() const
+{
+    const int frames = m_tabs->count();
+    const int room = framesWithRoom(m_form);
+    if (frames <= room)
+        return QObject::tr("Frames: %1").arg(frames);
+    return QObject::tr("Frames: %1, of which the accessory takes %2").arg(frames).arg(room);
 }
 
 void pageLEDMatrixCanvas::updateButtons()
 {
     const bool any = m_tabs->count() > 0;
-    const QString frames = QObject::tr("Frames: %1");
-    m_count->setText(frames.arg(m_tabs->count()));
+    m_count->setText(countText());
     for (const char *label : {"Duplicate Frame", "Delete Frame", "Clean Frame", "Preview"})
         button(label)->setEnabled(any);
     button("Undo")->setEnabled(m_history->canUndo());

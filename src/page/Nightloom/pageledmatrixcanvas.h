@@ -4,18 +4,17 @@
 #include <map>
 
 #include <QLabel>
-#include <QPointer>
 
 #include "page/Nightloom/accessorycheck.h"
 #include "page/Nightloom/animationhistory.h"
 #include "page/Nightloom/frameplayer.h"
 #include "page/Nightloom/ledthread.h"
+#include "page/Nightloom/workpanel.h"
 #include "page/engine/boundtexts.h"
 #include "page/engine/page.h"
 
 class FrameTabs;
 class QComboBox;
-class QProgressBar;
 class QPushButton;
 class QVBoxLayout;
 class SliderWidget;
@@ -29,24 +28,30 @@ public:
     static constexpr std::uint8_t kFirstMode = 0x24;
     static constexpr int kModes = 5;
 
+    /// The file that a save writes, whatever the form; the next start shows it again.
+    static constexpr char kDataFile[] = "./LEDMatrixData.txt";
+
+    /// Whole frames of a form that the accessory has room for.
+    static int framesWithRoom(int form);
+
     explicit pageLEDMatrixCanvas(AccessoryCheck ensureConnected, QWidget *parent = nullptr);
     ~pageLEDMatrixCanvas() override;
 
     void updateInterfaceData() override;
     void updateControlText() override;
+    bool mayLeave() override;
     QWidget *widget() override { return this; }
 
     FrameTabs *tabs() const { return m_tabs; }
     QPushButton *button(const char *label) const;
-    QProgressBar *progressBar() const { return m_progress; }
-    QString notice() const { return m_notice->text(); }
+    WorkPanel *work() const { return m_work; }
 
     /// Counts the frames. It is compared before a frame is added, so one frame more than the maximum finds room.
     int frameCounter() const { return static_cast<int>(m_history->state().frames.size()); }
     std::uint8_t modeByte() const { return m_mode; }
     /// The file last saved, exported or imported; empty before.
     QString dataFile() const { return m_dataFile; }
-    bool isBusy() const { return m_busy; }
+    bool isBusy() const { return m_work->isBusy(); }
 
     /// Uploads the job's file; whether the accessory took it whole. For LEDThread, which runs it: touches nothing of
     /// the page.
@@ -63,6 +68,8 @@ public Q_SLOTS:
     void writeAnimate();
     void exportAnimate();
     void importAnimate();
+    /// As importAnimate(), but frame by frame of the form that is shown.
+    void importAligned();
     void togglePreview();
 
 Q_SIGNALS:
@@ -78,6 +85,10 @@ protected:
     /// A warning box with "OK".
     virtual void warn(const QString &text);
 
+    /// What becomes of frames that no file holds when the program ends.
+    enum class Leaving { Save, DoNotSave, Stay };
+    virtual Leaving askLeaving();
+
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
 
@@ -88,6 +99,7 @@ private:
     void buildViewTools(QVBoxLayout *column);
     void buildFileTools(QVBoxLayout *column);
     QWidget *buildModeBox();
+    QWidget *buildAlignedImport();
     void bindShortcuts();
 
     void followMatrixForm();
@@ -97,15 +109,23 @@ private:
     void change(AnimationState state);
     void onEdited(int index);
     void onChanged();
+    QString countText() const;
     void updateButtons();
-    void showProgress(int value);
-    void showNotice(const QString &text);
 
-    void beginWork(LEDThread::State state, const QString &fileName, bool saves);
+    void beginWork(LEDThread::State state, QString fileName, bool saves);
+    void cancelWork();
     void onProgress(int value);
     void endWork(bool complete);
+    void tellOutcome(bool complete);
+    void import(int frameCells);
     void importFrames();
     void fail(const QString &error);
+    void tellWhatIsCut();
+
+    AnimationState stateOf(const QByteArrayList &frames, int form);
+    void restoreSaved();
+    bool keepUnsaved();
+    bool keepInFile(int form, AnimationHistory &history);
 
     AccessoryCheck m_ensureConnected;
     BoundTexts m_texts;
@@ -117,16 +137,17 @@ private:
     LEDThread m_thread;
     FrameTabs *m_tabs;
     QWidget *m_tools = nullptr;
+    QWidget *m_aligned = nullptr; ///< what only the tapering form needs
     QLabel *m_count;
-    QLabel *m_notice;
-    QProgressBar *m_progress;
+    WorkPanel *m_work;
     QComboBox *m_modes = nullptr;
     SliderWidget *m_cellSize = nullptr;
-    QPointer<QWidget> m_focusBefore; ///< while nothing can be used
     QString m_dataFile;
+    QString m_fileBefore;  ///< the data file again when the work does not get done
+    int m_importCells = 0; ///< a frame, in the file that is imported
     std::uint8_t m_mode = kFirstMode;
-    bool m_saved = false; ///< nothing has changed since the last save
+    bool m_saved = false; ///< nothing has been drawn since the last save
     bool m_saves = false; ///< the work that goes on is a save
-    bool m_failed = false;
-    bool m_busy = false;
+    bool m_taken = false; ///< what is drawn and the data file are one, by the work that goes on
+    bool m_restored = false;
 };

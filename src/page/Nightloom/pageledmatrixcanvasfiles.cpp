@@ -1,23 +1,32 @@
 // The canvas page's long work: files and the upload.
 
 #include <algorithm>
+#include <utility>
 
 #include <QFileInfo>
-#include <QProgressBar>
 
 #include "controls/filequestion.h"
 #include "controls/messagebox.h"
 #include "ledmatrix/animationfile.h"
+#include "ledmatrix/matrixform.h"
 #include "ledmatrix/matrixframe.h"
 #include "page/Nightloom/frametabs.h"
 #include "page/Nightloom/pageledmatrixcanvas.h"
-#include "page/Nightloom/toolcolumn.h"
+#include "page/engine/labels.h"
 #include "platform/ending.h"
 #include "usb-hid/accessoryupload.h"
 
 namespace {
 
-constexpr char kDataFile[] = "./LEDMatrixData.txt";
+/// The parts of a state's work.
+std::vector<WorkStep> stepsOf(LEDThread::State state, const QString &fileName)
+{
+    if (state != LEDThread::Upload)
+        return {{"", 0, kProgressEnd, platform::milliseconds(0)}};
+    const qint64 bytes = std::min(QFileInfo(fileName).size(), kAnimationCap);
+    return {{LABEL("Erase"), 0, kAnimationPrepared, kAnimationWaits},
+            {LABEL("Write Data"), kAnimationPrepared, kAnimationWritten, expectedWriteTime(bytes)}};
+}
 
 QString fileFilter()
 {
@@ -51,7 +60,7 @@ void pageLEDMatrixCanvas::saveAnimate()
 
 void pageLEDMatrixCanvas::exportAnimate()
 {
-    if (m_busy)
+    if (isBusy())
         return;
     const QString fileName = askSaveFile();
     if (fileName.isEmpty())
@@ -61,7 +70,17 @@ void pageLEDMatrixCanvas::exportAnimate()
 
 void pageLEDMatrixCanvas::importAnimate()
 {
-    if (m_busy)
+    import(kImportStep);
+}
+
+void pageLEDMatrixCanvas::importAligned()
+{
+    import(matrixCells(m_form));
+}
+
+void pageLEDMatrixCanvas::import(int frameCells)
+{
+    if (isBusy() || frameCells == 0)
         return;
     const QString fileName = askOpenFile();
     if (fileName.isEmpty())
@@ -69,14 +88,25 @@ void pageLEDMatrixCanvas::importAnimate()
     const QFileInfo file(fileName);
     if (file.exists() && file.size() == 0)
         return warn(QObject::tr("File is null."));
+    m_importCells = frameCells;
     beginWork(LEDThread::Import, fileName, false);
 }
 
 void pageLEDMatrixCanvas::writeAnimate()
 {
-    if (m_busy || !m_saved || !m_ensureConnected())
+    if (isBusy() || !m_saved || !m_ensureConnected())
         return;
     beginWork(LEDThread::Upload, m_dataFile, false);
+    tellWhatIsCut();
+}
+
+/// The device has room for so many bytes, which are fewer frames of the bigger form.
+void pageLEDMatrixCanvas::tellWhatIsCut()
+{
+    const qint64 frames = m_form < 0 ? 0 : QFileInfo(m_dataFile).size() / std::max(matrixCells(m_form), 1);
+    if (frames > framesWithRoom(m_form))
+        m_work->showNotice(
+            QObject::tr("The accessory takes %1 of the %2 frames.").arg(framesWithRoom(m_form)).arg(frames));
 }
 
 bool pageLEDMatrixCanvas::sendAnmateData(const LEDJob &job, const std::function<void(int)> &progress) const
@@ -84,22 +114,24 @@ bool pageLEDMatrixCanvas::sendAnmateData(const LEDJob &job, const std::function<
     return uploadAnimation(job.fileName, job.mode, progress, job.stop);
 }
 
-void pageLEDMatrixCanvas::beginWork(LEDThread::State state, const QString &fileName, bool saves)
+void pageLEDMatrixCanvas::beginWork(LEDThread::State state, QString fileName, bool saves)
 {
-    if (m_busy)
+    if (isBusy())
         return;
     endStrokes();
-    m_dataFile = fileName;
-    m_busy = true;
-    m_failed = false;
+    m_fileBefore = std::exchange(m_dataFile, std::move(fileName));
     m_saves = saves;
-    showNotice({});
-    showProgress(0);
-    m_focusBefore = window()->focusWidget();
-    m_tools->setEnabled(false);
-    m_tabs->setEnabled(false);
-    Q_EMIT busyBegins();
-    m_thread.begin(state, {m_tabs->digits(), fileName, m_mode, uploadStop()});
+    m_taken = false;
+    m_work->begin(stepsOf(state, m_dataFile));
+    m_thread.begin(state, {m_tabs->digits(), m_dataFile, m_mode, uploadStop()});
+}
+
+/// The thread tells when it has ended; an import that has not begun yet does not begin any more.
+void pageLEDMatrixCanvas::cancelWork()
+{
+    m_thread.requestInterruption();
+    if (m_thread.state() == LEDThread::Upload)
+        stopUploads();
 }
 
 void pageLEDMatrixCanvas::onProgress(int value)
@@ -108,63 +140,67 @@ void pageLEDMatrixCanvas::onProgress(int value)
         return importFrames();
     if (value == kProgressFailed)
         return fail(m_thread.error());
-    if (!m_failed) // a failure stays in sight
-        showProgress(value);
+    m_work->showProgress(value);
 }
 
 void pageLEDMatrixCanvas::endWork(bool complete)
 {
-    if (!complete && !m_failed)
-        showNotice(QObject::tr("The accessory did not take everything."));
-    m_busy = false;
-    if (m_saves && !m_failed)
+    if (m_thread.state() == LEDThread::Export && complete) {
+        m_history->keep();
+        m_taken = true;
+    }
+    if (m_taken && m_saves)
         m_saved = m_tabs->count() > 0;
-    m_tools->setEnabled(true);
-    m_tabs->setEnabled(true);
+    tellOutcome(complete);
     updateButtons();
-    giveFocusBack(m_focusBefore);
-    Q_EMIT busyEnded();
+    m_work->end(m_thread.state() == LEDThread::Upload ? complete : m_taken);
+    followMatrixForm();
 }
 
+void pageLEDMatrixCanvas::tellOutcome(bool complete)
+{
+    const bool uploads = m_thread.state() == LEDThread::Upload;
+    if (!uploads && !m_taken)
+        m_dataFile = m_fileBefore; // the file that is named has nothing to do with what is drawn
+    if (m_work->hasFailed())
+        return;
+    if (uploads && !complete)
+        m_work->showNotice(QObject::tr("The accessory did not take everything."));
+    else if (!uploads && !m_taken)
+        m_work->showNotice(QObject::tr("Cancelled. Nothing was changed."));
+}
+
+/// Neither sets the mark of what is saved nor takes it away: what is written then is the imported file.
 void pageLEDMatrixCanvas::importFrames()
 {
-    const ReadAnimation animation = readAnimation(m_dataFile);
+    if (m_work->isCancelled())
+        return;
+    const ReadAnimation animation = readAnimation(m_dataFile, m_importCells);
     if (!animation.error.isEmpty())
         return fail(animation.error);
-    AnimationState state;
-    for (const QByteArray &digits : animation.frames) {
-        AnimationFrame frame = newFrame(state);
-        MatrixFrame cells(m_form);
-        cells.setDigits(digits);
-        frame.cells = toBits(cells);
-        state.frames.push_back(std::move(frame));
-    }
+    AnimationState state = stateOf(animation.frames, m_form);
     const double sum = static_cast<double>(m_tabs->count()) + static_cast<double>(animation.frames.size());
     const int step = std::max(static_cast<int>(0.1 * sum), 1);
     m_history->push(std::move(state));
     m_tabs->apply(m_history->state(), 0, [&](int removed) {
         if (removed % step != 0)
             return;
-        showProgress(static_cast<int>(removed / sum * 100.0));
-        m_progress->repaint(); // nothing else comes to be painted before the import has ended
+        m_work->showProgress(static_cast<int>(removed / sum * 100.0));
+        m_work->repaint(); // nothing else comes to be painted before the import has ended
     });
-    onChanged();
+    m_history->keep();
+    m_taken = true;
     if (m_tabs->count() == 0)
-        showNotice(QObject::tr("The file holds no whole frame."));
+        m_work->showNotice(QObject::tr("The file holds no whole frame."));
+    else if (animation.framesInFile > m_tabs->count())
+        m_work->showNotice(QObject::tr("The file holds %1 frames; the first %2 were taken.")
+                               .arg(animation.framesInFile)
+                               .arg(m_tabs->count()));
 }
 
 void pageLEDMatrixCanvas::fail(const QString &error)
 {
-    const LEDThread::State state = m_thread.state();
-    m_failed = true;
-    m_saved = m_saved && state == LEDThread::Upload; // else the data file is not what is drawn
-    showProgress(kProgressFailed);
-    const QString text = state == LEDThread::Export ? QObject::tr("The file cannot be written: %1")
-                                                    : QObject::tr("The file cannot be read: %1");
-    showNotice(text.arg(error.isEmpty() ? m_dataFile : error));
-}
-
-void pageLEDMatrixCanvas::showProgress(int value)
-{
-    showValue(m_progress, value);
+    const QString text = m_thread.state() == LEDThread::Export ? QObject::tr("The file cannot be written: %1")
+                                                               : QObject::tr("The file cannot be read: %1");
+    m_work->fail(text.arg(error.isEmpty() ? m_dataFile : error));
 }

@@ -2,7 +2,6 @@
 
 #include <QComboBox>
 #include <QHBoxLayout>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QShortcut>
 
@@ -91,17 +90,15 @@ QWidget *pageLEDMatrixCanvas::buildTools()
     column->addWidget(makeToolLine(m_tools));
     buildFileTools(column);
 
-    dressProgressBar(m_progress, m_texts);
-    m_notice->setObjectName(QStringLiteral("notice"));
-    m_notice->setFont(noteFont);
-    m_notice->setWordWrap(true);
-    m_notice->setTextFormat(Qt::PlainText);
+    m_work->block({m_tools, m_tabs});
+    connect(m_work, &WorkPanel::begins, this, &pageLEDMatrixCanvas::busyBegins);
+    connect(m_work, &WorkPanel::cancelled, this, &pageLEDMatrixCanvas::cancelWork);
+    connect(m_work, &WorkPanel::ended, this, &pageLEDMatrixCanvas::busyEnded);
     auto *all = new QVBoxLayout(side);
     all->setContentsMargins(0, 4, 0, 0);
     all->setSpacing(16);
     all->addWidget(m_tools);
-    all->addWidget(m_progress);
-    all->addWidget(m_notice);
+    all->addWidget(m_work);
     all->addStretch(1);
     return side;
 }
@@ -136,6 +133,27 @@ void pageLEDMatrixCanvas::buildFileTools(QVBoxLayout *column)
 {
     column->addWidget(buildModeBox());
     column->addLayout(makeGrid(kFileTools, m_texts, this, m_tools));
+    column->addWidget(buildAlignedImport());
+}
+
+/// The usual import goes through files of the tapering form in steps that are not its frames. This one does not.
+QWidget *pageLEDMatrixCanvas::buildAlignedImport()
+{
+    m_aligned = new QWidget(m_tools);
+    auto *note = new QLabel(m_aligned);
+    note->setObjectName(QStringLiteral("note"));
+    note->setFont(noteFont);
+    note->setWordWrap(true);
+    m_texts.bind(LABEL("Animate: 1050 cells a frame. Aligned: 949, as this form saves."),
+                 [note](const QString &text) { note->setText(text); });
+    QPushButton *button = makeToolButton(LABEL("Import Aligned"), m_texts, m_aligned);
+    connect(button, &QPushButton::clicked, this, &pageLEDMatrixCanvas::importAligned);
+    auto *row = new QHBoxLayout(m_aligned);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(8);
+    row->addWidget(note, 1);
+    row->addWidget(button);
+    return m_aligned;
 }
 
 QWidget *pageLEDMatrixCanvas::buildModeBox()
@@ -175,10 +193,4 @@ void pageLEDMatrixCanvas::bindShortcuts()
     bind("Ctrl+Z", &pageLEDMatrixCanvas::undo);
     bind("Ctrl+Y", &pageLEDMatrixCanvas::redo);
     bind("Ctrl+Shift+Z", &pageLEDMatrixCanvas::redo);
-}
-
-void pageLEDMatrixCanvas::showNotice(const QString &text)
-{
-    m_notice->setText(text);
-    m_notice->setVisible(!text.isEmpty());
 }

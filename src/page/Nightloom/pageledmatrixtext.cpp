@@ -1,8 +1,9 @@
 #include "page/Nightloom/pageledmatrixtext.h"
 
+#include <utility>
+
 #include <QHBoxLayout>
 #include <QLineEdit>
-#include <QProgressBar>
 #include <QPushButton>
 
 #include "controls/sharedfonts.h"
@@ -17,19 +18,21 @@
 
 namespace {
 
-/// What each phase is called beside the progress bar.
-constexpr const char *kPhaseLabels[] = {"", LABEL("Rendering"), LABEL("Erase"), LABEL("Write Data")};
+/// The device erases its memory before it takes the text. How much that is nobody knows before the text is rendered.
+constexpr WorkStep kSteps[] = {
+    {LABEL("Rendering"), 0, kProgressEnd, platform::milliseconds(500)},
+    {LABEL("Erase"), 0, kProgressEnd, kTextWaits},
+    {LABEL("Write Data"), 0, kProgressEnd, platform::milliseconds(2000)},
+};
 
 } // namespace
 
 pageLEDMatrixText::pageLEDMatrixText(AccessoryCheck ensureConnected, QWidget *parent)
     : QLabel(parent), m_ensureConnected(std::move(ensureConnected)), m_text(new TextWidget(m_texts, this)),
-      m_phaseLabel(new QLabel(this)), m_notice(new QLabel(this)), m_progress(new QProgressBar(this))
+      m_work(new WorkPanel(m_texts, this))
 {
     buildForm();
     connectWork();
-    enter(Phase::Idle);
-    showNotice({});
 }
 
 void pageLEDMatrixText::buildForm()
@@ -58,20 +61,11 @@ QWidget *pageLEDMatrixText::buildTools()
     connect(m_save, &QPushButton::clicked, this, &pageLEDMatrixText::saveData);
     column->addWidget(m_save);
 
-    m_phaseLabel->setObjectName(QStringLiteral("note"));
-    m_phaseLabel->setFont(noteFont);
-    dressProgressBar(m_progress, m_texts);
-    m_notice->setObjectName(QStringLiteral("notice"));
-    m_notice->setFont(noteFont);
-    m_notice->setWordWrap(true);
-    m_notice->setTextFormat(Qt::PlainText);
     auto *all = new QVBoxLayout(side);
     all->setContentsMargins(0, 4, 0, 0);
     all->setSpacing(16);
     all->addWidget(m_tools);
-    all->addWidget(m_progress);
-    all->addWidget(m_phaseLabel);
-    all->addWidget(m_notice);
+    all->addWidget(m_work);
     all->addStretch(1);
     return side;
 }
@@ -91,24 +85,24 @@ void pageLEDMatrixText::buildPreviewTools(QVBoxLayout *column)
 
 void pageLEDMatrixText::connectWork()
 {
+    m_work->block({m_tools, m_text});
+    connect(m_work, &WorkPanel::begins, this, &pageLEDMatrixText::busyBegins);
+    connect(m_work, &WorkPanel::cancelled, this, &pageLEDMatrixText::cancelWork);
+    connect(m_work, &WorkPanel::ended, this, &pageLEDMatrixText::busyEnded);
     connect(m_text, &TextWidget::progress, this, [this](int value) {
-        if (m_phase == Phase::Rendering)
-            showProgress(value);
+        if (isBusy() && !m_uploads)
+            m_work->showProgress(value);
     });
     connect(m_text, &TextWidget::framesReady, this, &pageLEDMatrixText::onFrames);
     connect(ledWorkThread::instance(), &ledWorkThread::progress, this, &pageLEDMatrixText::onUploadProgress);
-    connect(ledWorkThread::instance(), &ledWorkThread::uploadEnded, this, [this](bool complete) {
-        if (!complete && m_notice->text().isEmpty()) // the progress ends at 100 even so
-            showNotice(QObject::tr("The accessory did not take everything."));
-    });
-    connect(m_text->input(), &QLineEdit::textChanged, this, [this] { showNotice({}); });
+    connect(ledWorkThread::instance(), &ledWorkThread::uploadEnded, this, &pageLEDMatrixText::onUploadEnded);
+    connect(m_text->input(), &QLineEdit::textChanged, this, [this] { m_work->showNotice({}); });
 }
 
 void pageLEDMatrixText::updateControlText()
 {
     m_texts.retranslate();
     m_text->updateControlText();
-    enter(m_phase);
 }
 
 void pageLEDMatrixText::saveData()
@@ -116,77 +110,52 @@ void pageLEDMatrixText::saveData()
     if (isBusy() || !m_ensureConnected())
         return;
     m_text->player().stop();
-    if (!m_text->startJob())
-        return showNotice(QObject::tr("There is no text yet."));
-    showNotice({});
-    showProgress(0);
-    enter(Phase::Rendering);
-    m_focusBefore = window()->focusWidget();
-    m_tools->setEnabled(false);
-    m_text->setEnabled(false);
-    Q_EMIT busyBegins();
+    if (m_text->startJob())
+        m_work->begin({std::begin(kSteps), std::end(kSteps)});
+    else
+        m_work->showNotice(QObject::tr("There is no text yet."));
 }
 
 void pageLEDMatrixText::onFrames(const QByteArrayList &frames)
 {
+    if (!isBusy() || m_uploads)
+        return; // cancelled when they were on their way
     const QString fileName = QLatin1String(ledWorkThread::kTextFile);
-    const QString error = writeAnimation(fileName, frames, [](int) {});
+    const QString error = writeAnimation(fileName, frames, [](int) { return true; });
     if (!error.isEmpty()) {
-        const QString text = QObject::tr("The file cannot be written: %1");
-        return fail(text.arg(error));
+        m_work->fail(QObject::tr("The file cannot be written: %1").arg(error));
+        return m_work->end(false);
     }
-    enter(Phase::Erasing);
+    m_uploads = true;
     ledWorkThread::instance()->begin(ledWorkThread::UploadText);
 }
 
 void pageLEDMatrixText::onUploadProgress(int value)
 {
-    if (m_phase != Phase::Erasing && m_phase != Phase::Writing)
+    if (!m_uploads)
         return;
-    if (value == kProgressFailed) {
-        const QString text = QObject::tr("The file cannot be read: %1");
-        return fail(text.arg(QLatin1String(ledWorkThread::kTextFile)));
-    }
-    showProgress(value);
-    if (value != kProgressEnd)
-        return;
-    if (m_phase == Phase::Erasing)
-        enter(Phase::Writing);
+    if (value == kProgressFailed)
+        m_work->fail(QObject::tr("The file cannot be read: %1").arg(QLatin1String(ledWorkThread::kTextFile)));
     else
-        endWork();
+        m_work->showProgress(value);
 }
 
-void pageLEDMatrixText::enter(Phase phase)
+/// The progress may have ended at 100 even so, or not at all.
+void pageLEDMatrixText::onUploadEnded(bool complete)
 {
-    m_phase = phase;
-    const char *label = kPhaseLabels[static_cast<int>(phase)];
-    m_phaseLabel->setText(*label ? QObject::tr(label) : QString());
-    m_phaseLabel->setVisible(*label);
+    if (!std::exchange(m_uploads, false))
+        return;
+    if (!complete && !m_work->hasFailed())
+        m_work->showNotice(QObject::tr("The accessory did not take everything."));
+    m_work->end(complete);
 }
 
-void pageLEDMatrixText::endWork()
+/// Before the upload the work ends here; then the upload tells when it has ended.
+void pageLEDMatrixText::cancelWork()
 {
-    enter(Phase::Idle);
-    m_tools->setEnabled(true);
-    m_text->setEnabled(true);
-    giveFocusBack(m_focusBefore);
-    Q_EMIT busyEnded();
-}
-
-void pageLEDMatrixText::fail(const QString &text)
-{
-    showProgress(kProgressFailed);
-    showNotice(text);
-    endWork();
-}
-
-void pageLEDMatrixText::showProgress(int value)
-{
-    showValue(m_progress, value);
-}
-
-void pageLEDMatrixText::showNotice(const QString &text)
-{
-    m_notice->setText(text);
-    m_notice->setVisible(!text.isEmpty());
+    if (m_uploads)
+        return stopUploads();
+    m_text->cancelJob();
+    m_work->showNotice(QObject::tr("Cancelled. Nothing was changed."));
+    m_work->end(false);
 }

@@ -1,13 +1,12 @@
 #pragma once
 
 #include <QLabel>
-#include <QPointer>
 
 #include "page/Nightloom/accessorycheck.h"
+#include "page/Nightloom/workpanel.h"
 #include "page/engine/boundtexts.h"
 #include "page/engine/page.h"
 
-class QProgressBar;
 class QPushButton;
 class QVBoxLayout;
 class SliderWidget;
@@ -26,10 +25,8 @@ public:
 
     TextWidget *text() const { return m_text; }
     QPushButton *saveButton() const { return m_save; }
-    QProgressBar *progressBar() const { return m_progress; }
-    QString phase() const { return m_phaseLabel->text(); }
-    QString notice() const { return m_notice->text(); }
-    bool isBusy() const { return m_phase != Phase::Idle; }
+    WorkPanel *work() const { return m_work; }
+    bool isBusy() const { return m_work->isBusy(); }
 
 public Q_SLOTS:
     /// Renders the text into the text file and uploads it.
@@ -41,9 +38,6 @@ Q_SIGNALS:
     void busyEnded();
 
 private:
-    /// Where the work stands. The device erases its memory before it takes the text; each of the two is told to 100.
-    enum class Phase { Idle, Rendering, Erasing, Writing };
-
     void buildForm();
     QWidget *buildTools();
     void buildPreviewTools(QVBoxLayout *column);
@@ -51,20 +45,14 @@ private:
 
     void onFrames(const QByteArrayList &frames);
     void onUploadProgress(int value);
-    void enter(Phase phase);
-    void endWork();
-    void fail(const QString &text);
-    void showProgress(int value);
-    void showNotice(const QString &text);
+    void onUploadEnded(bool complete);
+    void cancelWork();
 
     AccessoryCheck m_ensureConnected;
     BoundTexts m_texts;
     TextWidget *m_text;
     QWidget *m_tools = nullptr;
     QPushButton *m_save = nullptr;
-    QLabel *m_phaseLabel;
-    QLabel *m_notice;
-    QProgressBar *m_progress;
-    QPointer<QWidget> m_focusBefore; ///< while nothing can be used
-    Phase m_phase = Phase::Idle;
+    WorkPanel *m_work;
+    bool m_uploads = false; ///< the work has come to its upload
 };

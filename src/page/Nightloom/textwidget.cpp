@@ -168,6 +168,11 @@ bool TextWidget::startJob()
     return true;
 }
 
+void TextWidget::cancelJob()
+{
+    m_job.reset();
+}
+
 void TextWidget::updateControlText()
 {
     showFit();

@@ -1,10 +1,7 @@
 #include "page/Nightloom/toolcolumn.h"
 
-#include <algorithm>
-
 #include <QFrame>
 #include <QHBoxLayout>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -84,27 +81,4 @@ SliderWidget *makeSpeedSlider(FramePlayer &player, BoundTexts &texts, QWidget *p
     QObject::connect(slider, &SliderWidget::sliderValueChanged, &player,
                      [&player](const QString &, int value) { player.setSpeed(value); });
     return slider;
-}
-
-void dressProgressBar(QProgressBar *bar, BoundTexts &texts)
-{
-    bar->setRange(0, 100);
-    bar->setFixedHeight(20);
-    bar->setAlignment(Qt::AlignCenter);
-    bar->hide(); // until there is something to show
-    texts.bind(LABEL("Progress"), [bar](const QString &text) { bar->setAccessibleName(text); });
-}
-
-void showValue(QProgressBar *bar, int value)
-{
-    bar->show();
-    bar->setMinimum(std::min(value, 0));
-    bar->setFormat(value < 0 ? QStringLiteral("%v") : QStringLiteral("%p%"));
-    bar->setValue(std::min(value, bar->maximum()));
-}
-
-void giveFocusBack(QWidget *before)
-{
-    if (before && before->isVisible() && !before->window()->focusWidget())
-        before->setFocus();
 }

@@ -3,7 +3,6 @@
 class BoundTexts;
 class FramePlayer;
 class QLayout;
-class QProgressBar;
 class QPushButton;
 class QVBoxLayout;
 class QWidget;
@@ -31,12 +30,3 @@ SliderWidget *makeSpeedSlider(FramePlayer &player, BoundTexts &texts, QWidget *p
 
 /// A thin line between two groups of tools.
 QWidget *makeToolLine(QWidget *parent);
-
-/// The look of a bar that shows percents.
-void dressProgressBar(QProgressBar *bar, BoundTexts &texts);
-
-/// Shows percents, at most 100, or the -1 of a failure as what it is.
-void showValue(QProgressBar *bar, int value);
-
-/// Brings the keyboard back to where it was before long work, unless the user has gone elsewhere meanwhile.
-void giveFocusBack(QWidget *before);

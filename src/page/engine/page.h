@@ -14,6 +14,10 @@ public:
     /// Shows every text in the language of now.
     virtual void updateControlText() = 0;
 
+    /// Asked before the program ends by the user's wish, never when the system ends it: a page that holds what would be
+    /// lost asks the user. False when the program is to stay.
+    virtual bool mayLeave() { return true; }
+
     /// What is shown; it owns the page.
     virtual QWidget *widget() = 0;
 };
