@@ -118,9 +118,9 @@ bool pageLEDMatrixCanvas::keepInFile(int form, AnimationHistory &history)
 pageLEDMatrixCanvas::Leaving pageLEDMatrixCanvas::askLeaving()
 {
     const bool seen = window()->isVisible() && !window()->isMinimized(); // a box would go to the tray with it
-    const int answer = askOneOf(QObject::tr("Custom Mode"), QObject::tr("The drawn frames are not saved. Save them now?"),
-                                {QObject::tr("Save"), QObject::tr("Do not save"), QObject::tr("Cancel")},
-                                seen ? window() : nullptr);
+    const int answer =
+        askOneOf(QObject::tr("Custom Mode"), QObject::tr("The drawn frames are not saved. Save them now?"),
+                 {QObject::tr("Save"), QObject::tr("Do not save"), QObject::tr("Cancel")}, seen ? window() : nullptr);
     constexpr Leaving kAnswers[] = {Leaving::Save, Leaving::DoNotSave, Leaving::Stay};
     return kAnswers[answer];
 }
