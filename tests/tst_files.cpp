@@ -92,11 +92,33 @@ void TestFiles::bytesAreTheToolkits_data()
         return pairs;
     };
     row("texts", QByteArray(),
-        values({"", " ", " a", "a ", "\ta", "a,b", "a;b", "a=b", "\"q\"", "don't", "\\", "C:\\a\\b.exe", "%41", "50%",
-                "#a", "[a]", "@", "@a", "@@a", "@Variant(x)", "@Invalid()", "日本語, 中文", "\U0001f600 é\x7f"}));
+        values({"",
+                " ",
+                " a",
+                "a ",
+                "\ta",
+                "a,b",
+                "a;b",
+                "a=b",
+                "\"q\"",
+                "don't",
+                "\\",
+                "C:\\a\\b.exe",
+                "%41",
+                "50%",
+                "#a",
+                "[a]",
+                "@",
+                "@a",
+                "@@a",
+                "@Variant(x)",
+                "@Invalid()",
+                "日本語, 中文",
+                "\U0001f600 é\x7f"}));
     row("control characters", QByteArray(),
-        values({"\a\b\f\n\r\t\v", "\x01", "\x01"
-                                          "af0g",
+        values({"\a\b\f\n\r\t\v", "\x01",
+                "\x01"
+                "af0g",
                 "\x1f\x01 ;", QString(QChar(0)), QString("a") + QChar(0) + "1", QString("@") + QChar(0)}));
     row("other values", QByteArray(),
         values({0, -7, 123456789012LL, 1.5, true, false, QStringList{}, QStringList{"a"}, QStringList{""},
@@ -158,7 +180,8 @@ void TestFiles::hostileFiles_data()
     row("a folder", Act([](auto &) { QDir().mkdir(kFile); }), false);
     row("a pipe", Act([](auto &) { mkfifo("config.ini", 0600); }), false);
     row("too large", holding("[a]\n" + QByteArray("b=1\n").repeated(2 << 20)), true);
-    row("a long line", holding(QByteArray("a=") + QByteArray("\\x0,%@\"").repeated(500000)), false); // more when written
+    row("a long line", holding(QByteArray("a=") + QByteArray("\\x0,%@\"").repeated(500000)),
+        false); // more when written
     row("sections", holding(QByteArray("[").repeated(4000000)), true);
     row("zeros", holding(QByteArray(4000000, '\0')), true);
 }

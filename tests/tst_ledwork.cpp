@@ -335,6 +335,16 @@ void TestLedWork::settingsAreSentAndStored()
     QCOMPARE(m_page->levelSlider()->value(), 8);
     m_page->updateInterfaceData();
     QCOMPARE(takeWrites(), QList<QByteArray>()); // filling sends nothing
+    m_desk->desk.fileFaults.flush.failAt(1);
+    release(m_page->levelSlider(), 3); // only the file does not take it
+    QVERIFY(m_page->notice().startsWith(QStringLiteral("config.ini cannot be written:")));
+    m_page->updateInterfaceData();
+    QCOMPARE(m_page->levelSlider()->value(), accessory().state().level);
+    QCOMPARE(accessory().state().level, 3);
+    m_desk->desk.fileFaults.flush.failAt(1);
+    m_page->formOptions()->buttonOf(kRectangleForm)->click();
+    QVERIFY(m_page->notice().startsWith(QStringLiteral("config.ini cannot be written:")));
+    QCOMPARE(matrixForm.load(), kRectangleForm);
 }
 
 /// Whatever comes in between, the clock goes on, and meanwhile no time stays that is no longer true.

@@ -174,6 +174,9 @@ void TestMusic::reachesMatrix()
     QCOMPARE(static_cast<int>(picture.size()), matrixCells(form));
     QVERIFY(litCells(picture) > 0);
 
+    rig.fixture.desk.fileFaults.replace.failAt(1);
+    rig.press(rig.page->templateOptions(), static_cast<int>(AudioTemplate::Hanging));
+    QVERIFY(rig.page->notice().contains("config.ini"));
     rig.press(rig.page->templateOptions(), static_cast<int>(AudioTemplate::Hanging));
     QCOMPARE(settingsInt(kMusicTemplateKey, 0, false), static_cast<int>(AudioTemplate::Hanging));
     QVERIFY(rig.becomes([&] {

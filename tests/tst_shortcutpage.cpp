@@ -52,6 +52,10 @@ ShortcutList listOf(int length)
 /// Saves for ever; what the test kills.
 int saveAgainAndAgain()
 {
+    ManualClock clock;
+    virtualdesk::VirtualDesk desk(clock);
+    platform::VirtualPlatform platform(desk, clock);
+    platform::installDesk(&platform);
     for (int i = 0; i < 1000000 && saveShortcuts(listOf(i % 2 == 0 ? 24 : 3)); ++i) {
         if (i == 0)
             puts("saving");

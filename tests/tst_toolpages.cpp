@@ -260,6 +260,8 @@ void TestToolPages::choicesThatFailAreTakenBack()
         QVERIFY(QDir().mkpath(QStringLiteral("config.ini/full"))); // not even an administrator writes over that
     }
     QCOMPARE(m_desk->desk.quits, 0);
+    press("Hotkey overlay_No");
+    QVERIFY(toolPage().notice().contains("config.ini"));
 }
 
 void TestToolPages::machineRestarts()

@@ -1,5 +1,7 @@
 #include "controls/messagebox.h"
 
+#include <algorithm>
+
 #include <QPointer>
 #include <QPushButton>
 
@@ -72,14 +74,11 @@ static QMessageBox::ButtonRole roleOf(qsizetype place, qsizetype answers)
 
 int askOneOf(const QString &title, const QString &text, const QStringList &answers, QWidget *parent)
 {
-    QMessageBox box(QMessageBox::Question, title, text, QMessageBox::NoButton, parent);
-    box.setStyleSheet(QLatin1String(kStyle));
-    QList<QAbstractButton *> buttons;
+    Box box(QMessageBox::Question, title, text, parent);
+    QList<QPushButton *> buttons;
     for (qsizetype i = 0; i < answers.size(); ++i)
-        buttons.append(addButton(box, answers[i], roleOf(i, answers.size())));
-    box.setDefaultButton(qobject_cast<QPushButton *>(buttons.first()));
-    box.setEscapeButton(buttons.last());
-    box.exec();
-    const auto given = buttons.indexOf(box.clickedButton());
-    return static_cast<int>(given < 0 ? buttons.size() - 1 : given);
+        buttons.append(box.addButton(answers[i], roleOf(i, answers.size())));
+    const QAbstractButton *answer = box.ask(buttons.first(), buttons.last());
+    const auto given = std::find(buttons.cbegin(), buttons.cend(), answer) - buttons.cbegin();
+    return static_cast<int>(std::min<qsizetype>(given, buttons.size() - 1)); // nobody answered: the last, too
 }

@@ -105,7 +105,7 @@ template <typename Change> bool changeFile(const QString &fileName, const Change
     Values values = content.values;
     change(values);
     const QByteArray bytes = bytesOf(values);
-    if (bytes == bytesOf(content.values))
+    if (bytes == old.bytes)
         return true;
     if (content.hasForeignLines && !keepDamaged(fileName, old))
         return refuse(fileName, QStringLiteral("what it held cannot be kept"));

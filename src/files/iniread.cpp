@@ -9,8 +9,9 @@
 namespace {
 
 /// The letter behind a backslash and what the two stand for.
-constexpr std::pair<char, char> kEscapes[] = {{'a', '\a'}, {'b', '\b'}, {'f', '\f'}, {'n', '\n'},  {'r', '\r'}, {'t', '\t'},
-                                              {'v', '\v'}, {'"', '"'},  {'?', '?'},  {'\'', '\''}, {'\\', '\\'}};
+constexpr std::pair<char, char> kEscapes[] = {{'a', '\a'}, {'b', '\b'},  {'f', '\f'}, {'n', '\n'},
+                                              {'r', '\r'}, {'t', '\t'},  {'v', '\v'}, {'"', '"'},
+                                              {'?', '?'},  {'\'', '\''}, {'\\', '\\'}};
 
 /// How values of other types begin; they end with a bracket. Texts with a NUL are "@String(...)" and harmless.
 constexpr const char *kOtherTypes[] = {"@ByteArray(", "@Variant(", "@DateTime(", "@Rect(",

@@ -38,8 +38,8 @@ public:
     /// The scratch file, which somebody else may write instead between open and putInPlace.
     QString scratchName() const { return m_scratch; }
 
-    /// Makes sure that the scratch file has reached the disk and holds exactly these bytes, and gives it the name. False
-    /// when not; the old file is then untouched.
+    /// Makes sure that the scratch file has reached the disk and holds exactly these bytes, and gives it the name.
+    /// False when not; the old file is then untouched.
     bool putInPlace(const QByteArray &whole);
 
     /// Why the last call failed.

@@ -63,7 +63,9 @@ public:
     {
         // Without waiting: a pipe of that name may have nobody at its other end.
         Descriptor file(::open(QFile::encodeName(path).constData(), flagsOf(access) | O_CLOEXEC | O_NONBLOCK, 0666));
-        struct stat status{};
+        struct stat status
+        {
+        };
         if (!finish(file.get() >= 0 && ::fstat(file.get(), &status) == 0))
             return -1;
         if (!S_ISREG(status.st_mode)) {
@@ -98,7 +100,9 @@ public:
 
     bool isLink(const QString &path) override
     {
-        struct stat status{};
+        struct stat status
+        {
+        };
         return ::lstat(QFile::encodeName(path).constData(), &status) == 0 && S_ISLNK(status.st_mode);
     }
 

@@ -123,7 +123,8 @@ public:
 
     bool replace(const QString &path, const QString &replaced) override
     {
-        return finish(MoveFileExW(wide(longPath(path)), wide(longPath(replaced)), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH));
+        return finish(MoveFileExW(wide(longPath(path)), wide(longPath(replaced)),
+                                  MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH));
     }
 
     bool isLink(const QString &path) override
