@@ -116,6 +116,9 @@ def case_accessory_replugged(rig):
         # Every window of the program hears of the arrival, but only one listens.
         expect(run, len(seen), REOPENED[1:])
         seen = happened(run)
+        run.announce("accessory")  # the same device under its own class
+        expect(run, len(seen), REOPENED)
+        seen = happened(run)
         run.click(window, *LAMP["Close"])
         expect(run, len(seen), [*REOPENED, report(LIVE_STOP), report(LAMP_CLOSE)])
 

@@ -3,7 +3,7 @@
 import shutil
 
 from casekit import PAGE_LIST_X, PAGE_LIST_Y, REGISTERS, TOP_BAR_Y, open_basic_page, started
-from rig import START_SECONDS, wait_for
+from rig import START_SECONDS, wait_for, windows_path
 
 EXIT_REFUSED = 255  # -1, as the shell sees it
 CLOSE_BUTTON_X = 1243
@@ -15,17 +15,26 @@ UPGRADE_BUTTON = (620, 245)  # whether the note above it takes one line or two
 
 
 def case_second_instance(rig):
-    """A second instance says that one is running and ends with -1; the first one goes on undisturbed."""
+    """A second instance says that one is running and ends with -1; the first one goes on undisturbed. So it does when
+    it may not even open the name that the first one holds."""
     with started(rig, "second_instance") as run:
         run.start_and_show()
         seen = run.requests()
-        second = run.start()
-        wait_for(lambda: run.window("Information"), "the box of the second instance")
-        rig.screenshot(run.folder / "box.png")
-        run.press("Return")
-        assert second.wait(15) == EXIT_REFUSED, second.returncode
+        expect_refusal(run)
         assert run.processes[0].poll() is None
         assert run.requests() == seen, run.requests()[len(seen):]
+    with started(rig, "closed_name") as run:
+        run.start_other(rig.standins / "keyholder.exe", "QUORVEL")
+        wait_for((run.folder / "held.txt").exists, "the name to be held")
+        expect_refusal(run)
+
+
+def expect_refusal(run):
+    second = run.start()
+    wait_for(lambda: run.window("Information"), "the box of the second instance", START_SECONDS)
+    run.rig.screenshot(run.folder / "box.png")
+    run.press("Return")
+    assert second.wait(15) == EXIT_REFUSED, second.returncode
 
 
 def case_closed_window(rig):
@@ -66,7 +75,7 @@ def case_run_key(rig):
             assert rig.started_with_windows() is None
             run.click(window, *RUN_ON_STARTUP["Yes"])
             command = wait_for(rig.started_with_windows, "the value QUORVEL")
-            assert command == "Z:" + str(rig.program / "quorvel.exe").replace("/", "\\"), command
+            assert command == windows_path(rig.program / "quorvel.exe"), command
             run.click(window, *RUN_ON_STARTUP["No"])
             wait_for(lambda: rig.started_with_windows() is None, "the value to go")
     finally:
@@ -103,20 +112,22 @@ def case_restart(rig):
             run.press("Return")
             wait_for(lambda: not rig.copies(), "the last copy to end")
     finally:
-        rig.run(["wine", "taskkill", "/f", "/im", "quorvel.exe"])  # a copy that a failed case left behind
+        rig.end_copies()  # a copy that a failed case left behind
 
 
 def case_upgrader(rig):
-    """The upgrade program, beside the program or in the working folder, is told the product line and the language."""
-    for name, line, stored, entry, beside, expected in (
-            ("upgrader_line_1", 1, None, 3, True, ["XB", "en_US"]),
-            ("upgrader_line_2", 2, "ja_JP", 2, False, ["PW", "ja_JP"]),
-            ("upgrader_line_3", 3, "zh_CN", 2, False, ["EXP", "zh"])):
+    """The upgrade program is told the product line and the language; one beside the program goes before one in the
+    working folder."""
+    for name, line, stored, entry, places, expected in (
+            ("upgrader_line_1", 1, None, 3, "both", ["XB", "en"]),
+            ("upgrader_line_2", 2, "ja_JP", 2, "here", ["PW", "ja_JP"]),
+            ("upgrader_line_3", 3, "zh_CN", 2, "beside", ["EXP", "zh"])):
         with started(rig, name, registers=REGISTERS | {0xED: line << 4}) as run:
             if stored:
                 (run.folder / "config.ini").write_text(f"[General]\nLanguage={stored}\n")
-            upgrader = (rig.program if beside else run.folder) / "Flasqon.exe"
-            shutil.copy(rig.standins / "Flasqon.exe", upgrader)
+            folders = {"here": [run.folder], "beside": [rig.program], "both": [rig.program, run.folder]}[places]
+            for folder in folders:
+                shutil.copy(rig.standins / "Flasqon.exe", folder)
             try:
                 window = run.start_and_show()
                 open_basic_page(run, window, SERVICE_SETTINGS)
@@ -124,6 +135,7 @@ def case_upgrader(rig):
                 run.click(window, *UPGRADE_BUTTON)
                 told = run.folder / "flasqon.txt"
                 wait_for(told.exists, "the upgrade program")
-                assert told.read_text().split("\n") == [*expected, ""], told.read_text()
+                lines = told.read_text().splitlines()
+                assert lines == [windows_path(folders[0]), *expected], lines
             finally:
-                upgrader.unlink()
+                (rig.program / "Flasqon.exe").unlink(missing_ok=True)

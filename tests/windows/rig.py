@@ -27,6 +27,11 @@ def wait_for(condition, what, seconds=15.0):
     raise AssertionError(f"waited {seconds:g} s in vain for {what}")
 
 
+def windows_path(path):
+    """How the programs see a place of this machine."""
+    return "Z:" + str(path).replace("/", "\\")
+
+
 def put(file, text):
     """Writes a file that a reader never meets half of."""
     new = file.with_suffix(".new")
@@ -86,7 +91,7 @@ class Rig:
 
     def start(self, command, **options):
         return subprocess.Popen(command, env=self.environment | options.pop("extra", {}), stdin=subprocess.DEVNULL,
-                                stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, **options)
+                                stdout=subprocess.DEVNULL, **{"stderr": subprocess.DEVNULL} | options)
 
     def put_edid(self, block):
         """Stores the EDID of the one display where Windows keeps it; None takes it away."""
@@ -106,12 +111,16 @@ class Rig:
         """The process numbers of all running copies of the program, as Windows counts them."""
         return re.findall(r"(\w+) +\d+ .*'quorvel\.exe'", self.run(["wine", "winedbg", "--command", "info proc"]))
 
+    def end_copies(self):
+        """Ends every copy that still runs, also one that was not started by the case itself."""
+        self.run(["wine", "taskkill", "/f", "/im", "quorvel.exe"])
+
     def screenshot(self, path):
         self.run(["import", "-window", "root", str(path)])
 
     def _put_sound_endpoint(self):
         """Puts the stand-in into the place of the system's class of sound devices."""
-        library = "Z:" + str(self.standins / "soundendpoint.dll").replace("/", "\\")
+        library = windows_path(self.standins / "soundendpoint.dll")
         self.run(["wine", "reg", "add", SOUND_KEY, "/ve", "/d", library, "/f"], check=True)
 
     def _start_display(self):
@@ -154,12 +163,13 @@ class Run:
         """Starts the program here and returns the process."""
         return self.start_other(self.rig.program / "quorvel.exe")
 
-    def start_other(self, program, *arguments):
-        """Starts any Windows program here, to end with the case at the latest, and returns the process."""
+    def start_other(self, program, *arguments, extra={}, **options):
+        """Starts any Windows program here, to end with the case at the latest, and returns the process. Options are
+        those of a process, extra variables of its environment."""
         places = {"QUORVEL_TEST_MONITOR": self.monitor, "QUORVEL_TEST_ACCESSORY": self.accessory,
                   "QUORVEL_TEST_SOUND": self.sound}
-        process = self.rig.start(["wine", str(program), *arguments], cwd=self.folder,
-                                 extra={name: f"Z:{place}" for name, place in places.items() if place})
+        process = self.rig.start(["wine", str(program), *arguments], **{"cwd": self.folder} | options,
+                                 extra={name: f"Z:{place}" for name, place in places.items() if place} | extra)
         self.processes.append(process)
         return process
 
@@ -168,9 +178,10 @@ class Run:
         sent = self.rig.run(["wine", str(self.rig.standins / "windowprobe.exe"), TITLE, device_class], check=True)
         assert int(sent) >= 1, sent
 
-    def start_and_show(self):
-        """Starts the program, waits for its window and returns the window's position on the screen."""
-        process = self.start()
+    def start_and_show(self, process=None):
+        """Starts the program, unless it was started, waits for its window and returns the window's position on the
+        screen."""
+        process = process or self.start()
 
         def window():
             assert process.poll() is None, f"the program ended with {process.returncode}"

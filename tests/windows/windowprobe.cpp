@@ -1,4 +1,4 @@
-// Sends the arrival of a device to the windows of the program: "windowprobe <title> monitor", or "hid"; or the end of
+// Sends the arrival of a device to the windows of the program: "windowprobe <title> monitor", "hid" or "accessory"; or the end of
 // the session: "session". Every top-level window of the process that owns the window of that title gets it, as the
 // system's broadcast would reach them.
 
@@ -20,6 +20,7 @@ struct DeviceClass
 constexpr DeviceClass kClasses[] = {
     {L"monitor", {0xE6F07B5F, 0xEE97, 0x4A90, {0xB0, 0x76, 0x33, 0xF5, 0x7B, 0xF4, 0xEA, 0xA7}}},
     {L"hid", {0x4D1E55B2, 0xF16F, 0x11CF, {0x88, 0xCB, 0x00, 0x11, 0x11, 0x00, 0x00, 0x30}}},
+    {L"accessory", {0xE6327CAD, 0xDCEC, 0x4949, {0xAE, 0x8A, 0x99, 0x1E, 0x97, 0x6A, 0x79, 0xD2}}},
 };
 constexpr UINT kPatienceMs = 5000;
 
@@ -91,7 +92,7 @@ int wmain(int count, wchar_t **arguments)
     }
     const bool session = count == 3 && std::wcscmp(arguments[2], L"session") == 0;
     if (!search.arrived && !session) {
-        std::fputs("usage: windowprobe <window title> monitor|hid|session\n", stderr);
+        std::fputs("usage: windowprobe <window title> monitor|hid|accessory|session\n", stderr);
         return 2;
     }
     search.title = arguments[1];

@@ -65,6 +65,7 @@ extern "C" {
 
 __declspec(dllexport) BOOL WINAPI GetNumberOfPhysicalMonitorsFromHMONITOR(HMONITOR display, DWORD *count)
 {
+    LoadLibraryW(L"planted.dll"); // whoever in the process asks for a library by its name alone
     *count = display ? 1 : 0;
     return display != nullptr;
 }
