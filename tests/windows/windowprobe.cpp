@@ -1,6 +1,6 @@
-// Sends the arrival of a device to the windows of the program: "windowprobe <title> monitor", "hid" or "accessory"; or the end of
-// the session: "session". Every top-level window of the process that owns the window of that title gets it, as the
-// system's broadcast would reach them.
+// Sends the arrival of a device to the windows of the program: "windowprobe <title> monitor", "hid" or "accessory"; or
+// the end of the session: "session". Every top-level window of the process that owns the window of that title gets it,
+// as the system's broadcast would reach them.
 
 #include <cstdio>
 #include <cwchar>
