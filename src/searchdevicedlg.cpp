@@ -220,7 +220,7 @@ void SearchDeviceDlg::onCurrentDeviceChanged(int index)
     m_deviceBox->setCurrentIndex(currentMonitorIndex);
     if (!stored)
         return;
-    storeSetting(key, currentMonitorIndex);
+    settingsInt(key, currentMonitorIndex, true);
     tellNotRestarted();
 }
 

@@ -91,7 +91,7 @@ void TestEnding::linksAreLetGo()
     Korvu_ReadCommandTable(readRow(Command::SceneMode), 10, 40);
     QVERIFY(!Korvu_SetCommandVal(writeRow(Command::Brightness), 3, kRetryCount));
     QCOMPARE(m_desk->takeRequests(), QStringList("W 99=3!")); // once, and the monitor is not looked for
-    relaunchAndQuit();
+    QVERIFY(relaunchAndQuit());
     QCOMPARE(m_desk->desk.started.size(), std::size_t(0));
 }
 

@@ -48,7 +48,7 @@ bool saveSettings(int length)
 
 bool saveAnimation(int length)
 {
-    return writeAnimation(kFile, frames(length < 1000 ? '0' : '1'), [](int) {}).isEmpty();
+    return writeAnimation(kFile, frames(length < 1000 ? '0' : '1'), [](int) { return true; }).isEmpty();
 }
 
 } // namespace
@@ -265,7 +265,7 @@ void TestFiles::linksAreNotFollowed()
     const QString logFile = "QUORVEL_" + m_desk->clock.now().toString("yyyy-MM-dd") + ".log";
     const std::pair<QString, std::function<bool()>> writers[] = {
         {kFile, [] { return saveSettings(5); }},
-        {"a.csv", [] { return writeAnimation("a.csv", frames('1'), [](int) {}).isEmpty(); }},
+        {"a.csv", [] { return writeAnimation("a.csv", frames('1'), [](int) { return true; }).isEmpty(); }},
         {"a.txt", [] { return appendFrame("a.txt", "1").isEmpty(); }},
         {logFile, log},
     };

@@ -203,7 +203,7 @@ void pagePCSetting::changeLanguage(const QString &objectName)
         if (showStored(storeLanguage(QLatin1String(language->code)), Unstored::Undone)) {
             if (relaunchAndQuit())
                 return;
-            storeLanguage(before);
+            languageSetting(true, before);
             showNotice(notRestarted());
         }
     }
@@ -223,7 +223,7 @@ void pagePCSetting::onComboxIndexChanged(int nIndex)
             if (relaunchAndQuit())
                 return;
             currentMonitorIndex = before; // or commands would go to a monitor that no page shows
-            storeSetting(QLatin1String(kDeviceIndexKey), before);
+            settingsInt(QLatin1String(kDeviceIndexKey), before, true);
             showNotice(notRestarted());
         }
     }
