@@ -1,9 +1,9 @@
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include "ledmatrix/matrixform.h"
 #include "page/Nightloom/animationhistory.h"
 #include "support/datarow.h"
+#include "support/deskfixture.h"
 #include "support/matrixcells.h"
 #include "support/textfile.h"
 
@@ -24,7 +24,6 @@ class TestEditors : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void initTestCase() { QDir::setCurrent(m_folder.path()); }
     void frameOrder_data();
     void frameOrder();
     void everyCellIsHit();
@@ -33,9 +32,6 @@ private Q_SLOTS:
     void keyboardCursor();
     void repaintsOnlyTheCell();
     void editorAppendsToItsFile();
-
-private:
-    QTemporaryDir m_folder;
 };
 
 void TestEditors::frameOrder_data()
@@ -188,6 +184,7 @@ void TestEditors::repaintsOnlyTheCell()
 
 void TestEditors::editorAppendsToItsFile()
 {
+    const DeskFixture desk; // whose disk takes the file
     LEDMatrixWidget editor;
     editor.setDataFile(QStringLiteral("frames.csv"));
     QVERIFY(editor.appendFrameToFile());

@@ -335,6 +335,7 @@ void TestLedWork::settingsAreSentAndStored()
     QCOMPARE(m_page->levelSlider()->value(), 8);
     m_page->updateInterfaceData();
     QCOMPARE(takeWrites(), QList<QByteArray>()); // filling sends nothing
+    m_connected = true;
     m_desk->desk.fileFaults.flush.failAt(1);
     release(m_page->levelSlider(), 3); // only the file does not take it
     QVERIFY(m_page->notice().startsWith(QStringLiteral("config.ini cannot be written:")));
