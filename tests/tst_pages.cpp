@@ -343,6 +343,10 @@ void TestPages::restReminder()
     QTest::mouseClick(button(Office, "Eyeshield Remind_Close"), Qt::LeftButton);
     m_desk->clock.advance(std::chrono::hours(9));
     QVERIFY(!office->toast()->isVisible());
+    deviceState.store(Command::RestTimer, 1); // as it is read when the program starts
+    office->updateInterfaceData();
+    m_desk->clock.advance(platform::milliseconds(30000));
+    QVERIFY(office->toast()->isVisible());
 }
 
 QTEST_MAIN(TestPages)

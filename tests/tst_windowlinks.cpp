@@ -73,7 +73,7 @@ void TestWindowLinks::hotKeysAndFollowingShow()
     m_desk->takeCommands();
     queue->post(Command::Brightness, 41); // here as well
     m_desk->desk.applications().bringToFront(1);
-    QCOMPARE(m_desk->takeCommands(), (QStringList{"W 10=41", "W 22=13"}));
+    QCOMPARE(m_desk->takeCommands().filter("W "), (QStringList{"W 10=41", "W 22=13"})); // the page asks meanwhile
     QVERIFY(m_window->page(PageId::SystemSetting)->widget()->isVisible()); // the user is somewhere else
     QCOMPARE(m_window->tabs()->current(), 8);
     QTest::mouseClick(m_window->tabs()->tabs()[0], Qt::LeftButton);
