@@ -212,6 +212,7 @@ void TestControls::swatchesAnswerMouseAndKeys()
     ColorSelecter row({kIcon, kIcon, kIcon});
     row.resize(300, 40);
     row.grab();
+    QVERIFY(row.hasMouseTracking()); // else it would not hear of hovering
     QSignalSpy spy(&row, &ColorSelecter::sigClicked);
     const QRect second = row.swatchRect(1);
     QMouseEvent over(QEvent::MouseMove, second.center(), second.center(), Qt::NoButton, Qt::NoButton, {});

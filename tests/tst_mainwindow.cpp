@@ -14,6 +14,7 @@
 #include "page/engine/optiongrouprow.h"
 #include "page/engine/page.h"
 #include "support/windowfixture.h"
+#include "support/wirevalues.h"
 #include "toptab.h"
 #include "toptabframe.h"
 
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void constructionSendsNothing();
     void openingFamily();
     void entriesByModel();
+    void entriesSwitchTheScene();
     void entrySwitchesTheScene();
     void otherEntriesNameThemselves();
     void interfaceModes();
@@ -114,6 +116,27 @@ void TestMainWindow::entriesByModel()
         m_window->setInterfaceMode(kUnlocked);
         if (first)
             cleanup();
+    }
+}
+
+void TestMainWindow::entriesSwitchTheScene()
+{
+    for (const std::size_t monitor : {0, 1}) {
+        start(90, monitor); // none of the modes
+        QStringList lacking;
+        for (int family = 0; family < kSceneFamilies; ++family) {
+            QTest::mouseClick(m_window->tabs()->tabs()[static_cast<std::size_t>(family)], Qt::LeftButton);
+            for (const QString &scene : QString(kScenes[family]).split('|')) {
+                LeftTabButton *button = entry(family, scene.section('=', 0, 0).toLatin1().constData());
+                if (button)
+                    QTest::mouseClick(button, Qt::LeftButton);
+                if (!button || QString::number(m_desk->monitor(monitor).value(0x22)) != scene.section('=', 1))
+                    lacking.append(scene);
+            }
+        }
+        QCOMPARE(lacking,
+                 monitor == 0 ? QStringList({"MPCS/ULL FPS=25", "MPCS/LD=27"}) : QStringList("Zelmar Mode=23"));
+        cleanup();
     }
 }
 
@@ -294,6 +317,8 @@ void TestMainWindow::keyboardWalksTheTabs()
     QTest::keyClick(tabs[1], Qt::Key_Right);
     QTest::keyClick(tabs[2], Qt::Key_Space);
     QCOMPARE(m_window->tabs()->current(), 2);
+    for (const std::size_t i : {0, 1, 2}) // as assistive software sees it
+        QCOMPARE(bool(QAccessible::queryAccessibleInterface(tabs[i])->state().checked), i == 2);
     QVERIFY(tabs[2]->accessibleName() == "Color Space");
 }
 

@@ -162,6 +162,9 @@ void TestScenePage::colorEnhanceHoldsSaturation()
             press("Color Enchance", enhance == 0 ? 1 : 0);
             QCOMPARE(m_page->slider("Saturation_M")->isEnabled(), enhance != 0);
         }
+        deviceState.store(Command::SceneMode, scene - 1); // the factory half is as colourful
+        m_page->updateInterfaceData();
+        QCOMPARE(m_page->slider("Hue_R")->isEnabled(), scene == 10);
         cleanup();
     }
 }
@@ -210,6 +213,7 @@ void TestScenePage::halfWithUnreadBlock()
         m_desk->monitor().setBlock(10, QByteArray(1, char(77)));
         m_desk->monitor().dropChunks(readable ? 0 : 6);
         QTest::mouseClick(half("        Custom"), Qt::LeftButton);
+        deviceState.store(Command::SceneMode, 9); // as a reconnection meanwhile finds it
         QCOMPARE(begins.count(), 1);
         QTRY_COMPARE(ended.count(), 1);
         const QStringList sent = m_desk->takeCommands();
@@ -218,6 +222,7 @@ void TestScenePage::halfWithUnreadBlock()
         QCOMPARE(sent.last(), QStringLiteral("W 22=10"));
         QCOMPARE(m_page->slider("Brightness")->value(), readable ? 77 : before);
         QCOMPARE(deviceState.sceneBlockValid(), readable);
+        QCOMPARE(deviceState.value(Command::SceneMode), 10);
         cleanup();
     }
 }
@@ -233,6 +238,7 @@ void TestScenePage::chooseScene()
     QCOMPARE(int(m_desk->monitor().block(10).at(0)), 5); // the drag belonged to the mode before
     QVERIFY(!deviceState.sceneBlockValid());             // and the block on the page does no longer
     QVERIFY(m_page->isDefaultView());
+    QCOMPARE(deviceState.lastSceneModeSent.load(), 13);
 }
 
 void TestScenePage::factoryEditsAreNotTheUsers()

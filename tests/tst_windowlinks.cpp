@@ -74,7 +74,7 @@ void TestWindowLinks::hotKeysAndFollowingShow()
     queue->post(Command::Brightness, 41); // here as well
     m_desk->desk.applications().bringToFront(1);
     QCOMPARE(m_desk->takeCommands().filter("W "), (QStringList{"W 10=41", "W 22=13"})); // the page asks meanwhile
-    QVERIFY(m_window->page(PageId::SystemSetting)->widget()->isVisible()); // the user is somewhere else
+    QVERIFY(m_window->page(PageId::SystemSetting)->widget()->isVisible());              // the user is somewhere else
     QCOMPARE(m_window->tabs()->current(), 8);
     QTest::mouseClick(m_window->tabs()->tabs()[0], Qt::LeftButton);
     QVERIFY(entry(0, "Night Mode")->isChecked());
@@ -159,6 +159,7 @@ void TestWindowLinks::missingAccessoryIsTold()
             const auto *shown = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
             QVERIFY(shown);
             QCOMPARE(shown->icon(), QMessageBox::Warning);
+            QCOMPARE(shown->defaultButton(), shown->buttons().first());
             QCOMPARE(shown->styleSheet(),
                      "QMessageBox {background-color: #101611;}QLabel{ color: white;}QDialogButtonBox "
                      "{qproperty-centerButtons: false;alignment: bottom right;}QMessageBox QPushButton { border: 1px "

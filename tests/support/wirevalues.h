@@ -6,6 +6,16 @@
 
 enum PageName { Scene, Picture, Office, Io, System, kPageNames };
 
+/// The entries of the four scene families: "label=value|label=value". No monitor has all.
+inline const char *const kScenes[] = {
+    "Zelmar Mode=23|Standard Mode=1|CAD/CAM Mode=3|Animate Mode=5|Art Design Mode=7|Movie Mode=9|Reading Mode=11|"
+    "Night Mode=13|Eye Care Mode=15|Light Programme=17|Dark Programme=19|E-Book Mode=21|MPCS/ULL FPS=25|MPCS/LD=27",
+    "Display P3 Mode=29|sRGB(2.2) Mode=31|DCI-P3(D65)=33|HDTV Video=35|NTSC Video=37|PAL & SECAM=39|Print(P3-D50)=41|"
+    "Photo(P3-D65)=43|Web(sRGB)=45|AdobeRGB=47",
+    "Native Mode=49|EBU Mode=51|SMPTE-C Mode=53|Rec.709 Mode=55|DICOM Mode=57|Paper Mode=59|Adobe Mode=61|"
+    "sRGB Mode=63|DCI-P3 Mode=65",
+    "AdobeRGB(D50)=81|Softproof=83|Softproof(D55)=85|Softproof(D58)=87"};
+
 /// The values that the options of a group send on a code: "label=value|label=value".
 struct Options
 {

@@ -8,7 +8,7 @@ import re
 from typing import NamedTuple
 
 # Functions that paint or lay out; those that merely draw into a frame of the LED matrix take no painter.
-LOOK_FUNCTION = re.compile(r"(?:^|::)(?:paint\w*|sizeHint|minimumSizeHint|\w*[sS]tyle\w*|setUpFrame|doLayout)$")
+LOOK_FUNCTION = re.compile(r"(?:^|::)(?:paint\w*|sizeHint|minimumSizeHint|\w*[sS]tyle\w*|setUpFrame|doLayout|colorOf)$")
 LOOK_CALL = re.compile(
     r"\b(?:q(?:Debug|Info|Warning|Critical)|setStyleSheet|set\w*(?:Margins|Spacing|Stretch|Alignment|Font|Icon|Pixmap|"
     r"Cursor|Color|Accent|PixelSize|SizePolicy|ScrollBarPolicy|FrameShape|CaptionWidth|RenderHint|WordWrap|Palette)|"
