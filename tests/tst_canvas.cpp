@@ -2,6 +2,7 @@
 #include <QTabBar>
 #include <QtTest>
 
+#include "controls/sliderwidget.h"
 #include "support/accessoryfixture.h"
 #include "support/answeredcanvas.h"
 
@@ -203,6 +204,9 @@ void TestCanvas::previewAndOnionSkin()
     draw(*page, 9); // nothing is drawn into a frame that only passes by
     m_desk->clock.advance(100ms);
     QCOMPARE(colorOf(0).name(), dark.name()); // the onion skin waits as well
+    QCOMPARE(colorOf(1), lit);
+    page->findChild<SliderWidget *>("Frames/s")->setValue(20);
+    m_desk->clock.advance(150ms); // the frame that is on keeps its time, the next has half of it
     QCOMPARE(colorOf(1), lit);
     page->addFrame();
     page->togglePreview();

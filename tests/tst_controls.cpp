@@ -246,6 +246,7 @@ void TestControls::swatchesAnswerMouseAndKeys()
 void TestControls::pickerTakesOnlyAnAnswer()
 {
     AnsweredPicker picker(QColor{}); // cancelled
+    QCOMPARE(picker.accessibleDescription(), picker.color().name());
     picker.setColor(Qt::blue);
     QSignalSpy spy(&picker, &ColorPicker::sigColorChanged);
     QTest::mousePress(&picker, Qt::LeftButton, {}, QPoint(1, 1)); // on the frame

@@ -144,6 +144,7 @@ void TestEditors::keyboardCursor()
     QCOMPARE(editor.cursorCell(), (MatrixCell{0, 24}));
     QTest::keyClick(&editor, Qt::Key_Down);
     QCOMPARE(editor.cursorCell(), (MatrixCell{1, 23})); // a shorter row
+    QCOMPARE(editor.accessibleDescription(), QStringLiteral("Row 2, cell 24: off"));
     QTest::keyClick(&editor, Qt::Key_Space);
     QCOMPARE(editor.frame().cell(1, 23), 1);
     QCOMPARE(editor.accessibleDescription(), QStringLiteral("Row 2, cell 24: on"));
