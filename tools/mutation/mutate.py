@@ -7,6 +7,7 @@ import re
 import resource
 import shlex
 import shutil
+import signal
 import subprocess
 import sys
 import time
@@ -281,6 +282,7 @@ def main() -> int:
     if options.list:
         print(*(f"{mutant.file}:{mutant.line}\t{mutant.what}" for mutant in mutants[:options.count]), sep="\n")
         return 0
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))  # or the copy would keep the change
     bench = Bench(prepare(options.jobs))
     path = WORK / f"seed-{options.seed}.txt"
     known = read_results(path)
