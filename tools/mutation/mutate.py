@@ -25,10 +25,11 @@ COPIED = ("CMakeLists.txt", "CMakePresets.json", "cmake", "resource", "src", "te
 
 # A room of the house: its name, its sources, and the suites that are likely to notice a change there.
 ROOMS = (
-    ("main window", r"src/(?:mainwindow|leftbar|toptab|navigation)", "mainwindow windowlinks"),
-    ("session", r"src/(?:searchdevice|device|snapshot|relaunch)", "session mainwindow"),
-    ("start", r"src/(?:main|global|single)", "shell"),
-    ("settings and log", r"src/ddc_protocol/(?:settings|loghandler)", "shell session"),
+    ("main window", r"src/(?:mainwindow|leftbar|toptab|navigation|trayicon)", "mainwindow windowlinks"),
+    ("main window", r"src/sessionend|src/platform/ending", "ending"),
+    ("session", r"src/(?:searchdevice|device|snapshot|relaunch|sessionhost)", "session mainwindow"),
+    ("start", r"src/(?:main|global|single|elevation|loading|workingfolder)", "start shell"),
+    ("files", r"src/files/|src/platform/posix/|src/ddc_protocol/(?:settings|damaged|loghandler)", "files shell session"),
     ("monitor link", r"src/ddc_protocol/", "transport displays session"),
     ("shortcuts", r"src/shortcut/|src/page/BasicSetting/(?:page)?shortcut", "shortcut shortcutpage"),
     ("following", r"src/following/|src/page/Following/", "following"),
