@@ -80,7 +80,7 @@ bool replaceFile(const QString &fileName, const Values &values, const QByteArray
     if (!file.open())
         return refuse(fileName, file.error());
     {
-        QSettings settings(file.scratchName(), iniFormat());
+        QSettings settings(file.handOver(), iniFormat());
         settings.setAtomicSyncRequired(false); // it is put in place below
         for (auto value = values.cbegin(); value != values.cend(); ++value)
             settings.setValue(value.key(), value.value());

@@ -121,6 +121,12 @@ bool Replacement::write(const QByteArray &bytes)
     return files().write(m_file, bytes) || failAsSystem();
 }
 
+QString Replacement::handOver()
+{
+    m_file.close();
+    return m_scratch;
+}
+
 bool Replacement::putInPlace(const QByteArray &whole)
 {
     m_file.close();

@@ -35,8 +35,9 @@ public:
     /// Adds bytes to the scratch file.
     bool write(const QByteArray &bytes);
 
-    /// The scratch file, which somebody else may write instead between open and putInPlace.
-    QString scratchName() const { return m_scratch; }
+    /// Leaves the scratch file to somebody else, who writes it until putInPlace: its name. It is closed first, as an
+    /// open one cannot be replaced on every system.
+    QString handOver();
 
     /// Makes sure that the scratch file has reached the disk and holds exactly these bytes, and gives it the name.
     /// False when not; the old file is then untouched.
