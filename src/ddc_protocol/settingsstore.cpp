@@ -3,6 +3,7 @@
 #include <QDebug>
 #include <QFileInfo>
 #include <QLockFile>
+#include <QMutex>
 #include <QSettings>
 
 #include "ddc_protocol/damagedsettings.h"
@@ -14,6 +15,7 @@ namespace {
 
 constexpr qint64 kLargestFile = 4 << 20; // bytes: some ten thousand programs to follow
 constexpr int kLockWait = 1000;          // ms
+constexpr qint64 kLargestLock = 4096;    // bytes; who holds it, and where
 
 using Values = QMap<QString, QVariant>;
 
@@ -57,12 +59,19 @@ QString textOf(const QVariant &value)
     }
 }
 
-/// A settings file opened to be read. Only regular files: the toolkit would wait for whoever writes to a pipe.
+/// A settings file opened to be read. Only regular files: the toolkit would wait for whoever writes to a pipe. The
+/// last one stays open, because the toolkit forgets what it parsed of a file with more than some eighty settings.
 template <typename Read> auto readFrom(const QString &fileName, const Read &read)
 {
     if (!QFileInfo(fileName).isFile())
         return decltype(read(std::declval<const QSettings &>()))();
-    return read(QSettings(fileName, iniFormat()));
+    static QMutex mutex;
+    static std::unique_ptr<QSettings> last;
+    auto file = std::make_unique<QSettings>(fileName, iniFormat()); // shares what it parsed with the one before
+    auto result = read(*file);
+    const QMutexLocker lock(&mutex);
+    last.swap(file);
+    return result;
 }
 
 bool refuse(const QString &fileName, const QString &why)
@@ -88,6 +97,13 @@ bool replaceFile(const QString &fileName, const Values &values, const QByteArray
     return file.putInPlace(bytes) || refuse(fileName, file.error());
 }
 
+/// Nothing else is left to the toolkit, which would wait for whoever writes to a pipe and read any size into memory.
+bool mayBeLock(const QString &name)
+{
+    const QFileInfo file(name);
+    return !file.exists() || (file.isFile() && file.size() <= kLargestLock);
+}
+
 /// Reads a file, lets the values be changed and writes it, unless nothing has changed.
 template <typename Change> bool changeFile(const QString &fileName, const Change &change)
 {
@@ -96,7 +112,7 @@ template <typename Change> bool changeFile(const QString &fileName, const Change
     if (lockFile.isFile() && lockFile.size() == 0) // of a process that was killed before it wrote its name there
         QFile::remove(lockName);
     QLockFile lock(lockName);
-    if (!lock.tryLock(kLockWait))
+    if (!mayBeLock(lockName) || !lock.tryLock(kLockWait))
         return refuse(fileName, QStringLiteral("it cannot be locked"));
     const WholeFile old = readWhole(fileName, kLargestFile);
     if (!old.error.isEmpty())
