@@ -1,7 +1,5 @@
 #include "support/accessoryfixture.h"
 
-#include <QtTest>
-
 #include "usb-hid/hidtransport.h"
 
 void AccessoryFixture::connectDevice()
@@ -12,12 +10,6 @@ void AccessoryFixture::connectDevice()
     m_desk->takeLog();
 }
 
-void AccessoryFixture::init()
-{
-    m_desk = std::make_unique<DeskFixture>();
-    m_faultsExpected = 0;
-}
-
 void AccessoryFixture::cleanup()
 {
     closeHid();
@@ -25,5 +17,5 @@ void AccessoryFixture::cleanup()
     const int faults = accessory().protocolFaults();
     m_desk.reset();
     QCOMPARE(left, 0);
-    QCOMPARE(faults, m_faultsExpected);
+    QCOMPARE(faults, std::exchange(m_faultsExpected, 0));
 }

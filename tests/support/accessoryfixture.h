@@ -3,7 +3,7 @@
 #include "support/deskfixture.h"
 
 /// A desk with the accessory plugged and not opened yet; the suites about it derive from this.
-class AccessoryFixture : public QObject
+class AccessoryFixture : public DeskSuite
 {
     Q_OBJECT
 protected:
@@ -12,12 +12,9 @@ protected:
     /// Opens the accessory as if it had just arrived.
     void connectDevice();
 
-    std::unique_ptr<DeskFixture> m_desk;
     int m_faultsExpected = 0; ///< writes that the accessory could not understand
 
 protected Q_SLOTS:
-    void init();
-
     /// Fails when a handle was left open or used after it was closed, or a write was not understood.
     void cleanup();
 };

@@ -2,11 +2,6 @@
 
 #include <mutex>
 
-#include <QDir>
-
-#include "ddc_protocol/devicestate.h"
-#include "ddc_protocol/displayenumeration.h"
-#include "ddc_protocol/transport.h"
 #include "ledmatrix/matrixform.h"
 #include "usb-hid/hidtransport.h"
 #include "usb-hid/livesender.h"

@@ -1,10 +1,15 @@
 #pragma once
 
-#include <QStringList>
-#include <QTemporaryDir>
+#include <QtTest>
 
+#include "ddc_protocol/devicestate.h"
+#include "ddc_protocol/displayenumeration.h"
+#include "ddc_protocol/settingsstore.h"
+#include "ddc_protocol/transport.h"
 #include "platform/virtual/virtualplatform.h"
+#include "support/datarow.h"
 #include "support/manualclock.h"
+#include "support/textfile.h"
 #include "virtualdesk/virtualdesk.h"
 
 /// What most tests stand on: a simulated desk with two monitors and a clock that does not wait, installed as the
@@ -36,4 +41,16 @@ private:
     QTemporaryDir m_folder;
     QString m_folderBefore;
     platform::VirtualPlatform m_platform;
+};
+
+/// Every test of a suite that derives from this begins on a desk of its own.
+class DeskSuite : public QObject
+{
+    Q_OBJECT
+protected:
+    std::unique_ptr<DeskFixture> m_desk;
+
+protected Q_SLOTS:
+    void init() { m_desk = std::make_unique<DeskFixture>(); }
+    void cleanup() { m_desk.reset(); }
 };

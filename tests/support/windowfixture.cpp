@@ -1,10 +1,5 @@
 #include "support/windowfixture.h"
 
-#include <QtTest>
-
-#include "controls/lefttabbutton.h"
-#include "leftbar.h"
-
 void WindowFixture::start(int scene, std::size_t monitor, const std::function<void()> &prepare)
 {
     m_desk = std::make_unique<SessionDesk>(scene, monitor);

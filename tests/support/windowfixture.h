@@ -1,9 +1,15 @@
 #pragma once
 
+#include "controls/lefttabbutton.h"
+#include "controls/sliderwidget.h"
+#include "leftbar.h"
 #include "mainwindow.h"
+#include "page/Scene/pagescenesetting.h"
+#include "page/engine/optiongrouprow.h"
+#include "page/engine/page.h"
 #include "support/sessiondesk.h"
-
-class LeftTabButton;
+#include "toptab.h"
+#include "toptabframe.h"
 
 /// The main window on a simulated desk; the suites about it derive from this and start it in every test.
 class WindowFixture : public QObject
