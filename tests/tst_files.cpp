@@ -2,17 +2,12 @@
 
 #include <functional>
 
-#include <QDir>
-#include <QSettings>
 #include <QtTest>
 
 #include "ddc_protocol/loghandler.h"
-#include "ddc_protocol/settingsstore.h"
 #include "ledmatrix/animationfile.h"
-#include "support/datarow.h"
 #include "support/deskfixture.h"
 #include "support/fulldisk.h"
-#include "support/textfile.h"
 
 using Pairs = QList<QPair<QString, QVariant>>;
 using Act = std::function<void(DeskFixture &)>;
@@ -53,12 +48,10 @@ bool saveAnimation(int length)
 
 } // namespace
 
-class TestFiles : public QObject
+class TestFiles : public DeskSuite
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init() { m_desk = std::make_unique<DeskFixture>(); }
-    void cleanup() { m_desk.reset(); }
     void bytesAreTheToolkits_data();
     void bytesAreTheToolkits();
     void letterCase();
@@ -71,19 +64,20 @@ private Q_SLOTS:
     void linksAreNotFollowed();
     void locks();
     void changesWithinATick();
-
-private:
-    std::unique_ptr<DeskFixture> m_desk;
 };
 
 void TestFiles::bytesAreTheToolkits_data()
 {
     columns<QByteArray, Pairs>("before", "pairs");
-    const auto values = [](std::initializer_list<QVariant> list) {
+    const auto values = [](const QVariantList &list) {
         Pairs pairs;
         for (const QVariant &value : list)
             pairs.append({QStringLiteral("group/%1").arg(pairs.size()), value});
         return pairs;
+    };
+    const auto texts = [&values](const char *list) {
+        const QStringList each = QString::fromUtf8(list).split('|');
+        return values({each.begin(), each.end()});
     };
     const auto keys = [](std::initializer_list<const char *> list) {
         Pairs pairs;
@@ -92,29 +86,8 @@ void TestFiles::bytesAreTheToolkits_data()
         return pairs;
     };
     row("texts", QByteArray(),
-        values({"",
-                " ",
-                " a",
-                "a ",
-                "\ta",
-                "a,b",
-                "a;b",
-                "a=b",
-                "\"q\"",
-                "don't",
-                "\\",
-                "C:\\a\\b.exe",
-                "%41",
-                "50%",
-                "#a",
-                "[a]",
-                "@",
-                "@a",
-                "@@a",
-                "@Variant(x)",
-                "@Invalid()",
-                "日本語, 中文",
-                "\U0001f600 é\x7f"}));
+        texts("| | a|a |\ta|a,b|a;b|a=b|\"q\"|don't|\\|C:\\a\\b.exe|%41|50%|#a|[a]|@|@a|@@a|@Variant(x)|@Invalid()|"
+              "日本語, 中文|\U0001f600 é\x7f"));
     row("control characters", QByteArray(),
         values({"\a\b\f\n\r\t\v", "\x01",
                 "\x01"
@@ -135,8 +108,7 @@ void TestFiles::bytesAreTheToolkits_data()
 
 void TestFiles::bytesAreTheToolkits()
 {
-    QFETCH(QByteArray, before);
-    QFETCH(Pairs, pairs);
+    const auto [before, pairs] = fetch<QByteArray, Pairs>();
     QVERIFY(before.isEmpty() || writeText(kFile, before));
     for (const auto &[key, value] : pairs)
         QVERIFY(storeSetting(key, value));
@@ -188,8 +160,7 @@ void TestFiles::hostileFiles_data()
 
 void TestFiles::hostileFiles()
 {
-    QFETCH(Act, makeFile);
-    QFETCH(bool, canBeReplaced);
+    const auto [makeFile, canBeReplaced] = fetch<Act, bool>();
     makeFile(*m_desk);
     QCOMPARE(settingsInt(kDeviceIndexKey, 0, false), 0);
     QCOMPARE(storeSetting(kDeviceIndexKey, 3), canBeReplaced);
@@ -206,9 +177,8 @@ void TestFiles::everyDamageIsKept()
         QCOMPARE(settingsInt(kDeviceIndexKey, 0, false), 3);
     }
     QCOMPARE(QDir().entryList({"*.bad*"}), (QStringList{"config.ini.bad", "config.ini.bad2", "config.ini.bad3"}));
-    QCOMPARE(readText("config.ini.bad"), damages[0]);
-    QCOMPARE(readText("config.ini.bad2"), damages[1]);
-    QCOMPARE(readText("config.ini.bad3"), damages[2]);
+    for (int i = 0; i < 3; ++i)
+        QCOMPARE(readText("config.ini.bad" + (i > 0 ? QString::number(i + 1) : QString())), damages[i]);
     for (int i = 0; i < 9; ++i) {
         QVERIFY(writeText(kFile, "more " + QByteArray::number(i)));
         QVERIFY(storeSetting(kDeviceIndexKey, 3));
@@ -236,9 +206,7 @@ void TestFiles::faultyDisk_data()
 /// A save that fails leaves the old file and nothing else, and says so; the next one works.
 void TestFiles::faultyDisk()
 {
-    QFETCH(bool, isAnimation);
-    QFETCH(Act, breakDisk);
-    QFETCH(int, bytes);
+    const auto [isAnimation, breakDisk, bytes] = fetch<bool, Act, int>();
     const auto save = isAnimation ? saveAnimation : saveSettings;
     QVERIFY(save(800));
     const QByteArray before = readText(kFile);

@@ -1,15 +1,11 @@
 #include <thread>
 
-#include <QDir>
 #include <QtTest>
 
 #include "ddc_protocol/loghandler.h"
 #include "ddc_protocol/scenemodes.h"
-#include "ddc_protocol/settingsstore.h"
 #include "globalapplication.h"
-#include "support/datarow.h"
 #include "support/deskfixture.h"
-#include "support/textfile.h"
 
 namespace {
 
@@ -20,21 +16,15 @@ void log(QtMsgType type, const char *text)
 
 } // namespace
 
-class TestShell : public QObject
+class TestShell : public DeskSuite
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init() { m_desk = std::make_unique<DeskFixture>(); }
-    void cleanup() { m_desk.reset(); }
     void logLines();
     void logFromManyThreads();
     void languages();
-    void damagedSettings_data();
     void damagedSettings();
     void sceneFamilies();
-
-private:
-    std::unique_ptr<DeskFixture> m_desk;
 };
 
 void TestShell::logLines()
@@ -98,25 +88,21 @@ void TestShell::languages()
         QVERIFY(line.size() < 1000); // whatever the settings file holds, the log stays readable
 }
 
-void TestShell::damagedSettings_data()
-{
-    columns<QByteArray, int, QString>("file", "index", "language");
-    QTest::newRow("empty") << QByteArray() << 0 << QString();
-    QTest::newRow("text") << QByteArray("no settings at all\n[[[\n=\n") << 0 << QString();
-    QTest::newRow("binary") << QByteArray("\x00\xff\x1a\x00[PC\x00", 9) << 0 << QString();
-    QTest::newRow("no number") << QByteArray("[PCSeting]\nDeviceIndex=first\n") << 0 << QString();
-    QTest::newRow("negative") << QByteArray("[PCSeting]\nDeviceIndex=-3\n") << -3 << QString();
-    QTest::newRow("huge") << QByteArray("[PCSeting]\nDeviceIndex=99999999999999999999\n") << 0 << QString();
-    QTest::newRow("written by the program") << QByteArray("[%General]\nLanguage=ja_JP\n") << 0 << "ja_JP";
-    QTest::newRow("written by hand") << QByteArray("[General]\nLanguage=zh\n") << 0 << "zh";
-}
-
 void TestShell::damagedSettings()
 {
-    QFETCH(QByteArray, file);
-    QVERIFY(writeText("config.ini", file));
-    QTEST(settingsInt(kDeviceIndexKey, 0, false), "index");
-    QTEST(languageSetting(false), "language");
+    for (const auto &[file, index, language] :
+         {std::tuple(QByteArray(), 0, ""),
+          {"no settings at all\n[[[\n=\n", 0, ""},
+          {QByteArray("\x00\xff\x1a\x00[PC\x00", 9), 0, ""},
+          {"[PCSeting]\nDeviceIndex=first\n", 0, ""},
+          {"[PCSeting]\nDeviceIndex=-3\n", -3, ""},
+          {"[PCSeting]\nDeviceIndex=99999999999999999999\n", 0, ""},
+          {"[%General]\nLanguage=ja_JP\n", 0, "ja_JP"}, // as the program writes it
+          {"[General]\nLanguage=zh\n", 0, "zh"}}) {
+        QVERIFY(writeText("config.ini", file));
+        QCOMPARE(settingsInt(kDeviceIndexKey, 0, false), index);
+        QCOMPARE(languageSetting(false), QString(language));
+    }
 }
 
 void TestShell::sceneFamilies()

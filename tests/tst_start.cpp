@@ -1,4 +1,3 @@
-#include <QDir>
 #include <QLocalSocket>
 #include <QtTest>
 
@@ -6,53 +5,39 @@
 #include "loading.h"
 #include "relaunch.h"
 #include "singleapplication.h"
-#include "support/datarow.h"
 #include "support/deskfixture.h"
-#include "support/textfile.h"
 #include "workingfolder.h"
 
 /// Before there is a window: folder, rights, what is loaded, and who is let in.
-class TestStart : public QObject
+class TestStart : public DeskSuite
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init() { m_desk = std::make_unique<DeskFixture>(); }
-    void cleanup() { m_desk.reset(); }
-    void workingFolders_data();
     void workingFolders();
     void workingFolderIsSettled();
     void elevatedCopyGetsTheFolder();
     void loadingIsNotSteered();
     void floodOfConnections();
     void copyFindsNoServer();
-
-private:
-    std::unique_ptr<DeskFixture> m_desk;
 };
-
-void TestStart::workingFolders_data()
-{
-    // The facts: settings in the current folder (c), it can be written (w), settings beside the program (o).
-    columns<QString, QString, QString>("current", "facts", "chosen");
-    row("a folder like any other", "/home", "wo", "");
-    row("settings that cannot be written", "/disc", "co", "");
-    row("settings in the system's folder", "C:/Windows/System32", "cw", "");
-    row("not to be written", "/disc", "", "/data/QUORVEL");
-    row("not to be written, settings beside the program", "/disc", "o", "/own");
-    row("the system's own", "C:/Windows", "wo", "/own");
-    row("below it, in other letters", "c:/windows/SYSTEM32/drivers", "w", "/data/QUORVEL");
-    row("only named alike", "C:/Windows.old", "w", "");
-}
 
 void TestStart::workingFolders()
 {
-    QFETCH(QString, current);
-    QFETCH(QString, facts);
-    const auto is = [&facts](char letter) { return facts.contains(QLatin1Char(letter)); };
-    FolderFacts all{current, is('c'), is('w'), "/own", is('o'), {"C:/Windows"}, "/data"};
-    QTEST(workingFolderFor(all), "chosen");
-    all.localData.clear();
-    QVERIFY(!workingFolderFor(all).contains("QUORVEL")); // nobody tells where
+    // The facts: settings in the current folder (c), it can be written (w), settings beside the program (o).
+    for (const auto &[current, facts, chosen] : {std::tuple("/home", "wo", ""),
+                                                 {"/disc", "co", ""}, // settings that cannot be written
+                                                 {"C:/Windows/System32", "cw", ""},
+                                                 {"/disc", "", "/data/QUORVEL"},
+                                                 {"/disc", "o", "/own"},
+                                                 {"C:/Windows", "wo", "/own"},
+                                                 {"c:/windows/SYSTEM32/drivers", "w", "/data/QUORVEL"},
+                                                 {"C:/Windows.old", "w", ""}}) { // only named alike
+        const QByteArray is(facts);
+        FolderFacts all{current, is.contains('c'), is.contains('w'), "/own", is.contains('o'), {"C:/Windows"}, "/data"};
+        QCOMPARE(workingFolderFor(all), QString(chosen));
+        all.localData.clear();
+        QVERIFY(!workingFolderFor(all).contains("QUORVEL")); // nobody tells where
+    }
 }
 
 void TestStart::workingFolderIsSettled()
