@@ -1,16 +1,11 @@
-#include <QPushButton>
-#include <QRegularExpression>
-#include <QSignalSpy>
-#include <QSpinBox>
 #include <QtTest>
+#include <QtWidgets>
 
 #include "controls/captionlabel.h"
 #include "controls/desktoptoast.h"
 #include "controls/lefttabbutton.h"
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
-#include "ddc_protocol/settingsstore.h"
-#include "ddc_protocol/transport.h"
 #include "page/BasicSetting/pagesystemsetting.h"
 #include "page/Game/pagepictureenhanc.h"
 #include "page/IO/iotable.h"
@@ -38,11 +33,9 @@ private Q_SLOTS:
     void valuesOutOfRange();
     void listByModel();
     void gameRushExcludesAdaptiveSync();
-    void oneOfTwoStandbyFunctions();
+    void functionsThatAreOnAlready();
     void inputPreview();
-    void menuLockOnce();
     void resetFactory();
-    void resetRefused();
     void customPaper();
     void restReminder();
 
@@ -50,7 +43,11 @@ private:
     SettingsPage *anyPage(int which);
     PanelPage *page(int which) { return static_cast<PanelPage *>(anyPage(which)); }
     QPushButton *button(int which, const QString &name) { return anyPage(which)->findChild<QPushButton *>(name); }
-    void settle();
+    /// Until the last of the system page's questions, which go by rising code, has been answered.
+    bool settle()
+    {
+        return QTest::qWaitFor([] { return deviceState.isKnown(Command::GravitySensor); });
+    }
 
     std::unique_ptr<SessionDesk> m_desk;
     std::unique_ptr<CommandQueue> m_queue;
@@ -85,12 +82,6 @@ SettingsPage *TestPages::anyPage(int which)
     else if (!page)
         page = std::make_unique<pageSystemSetting>(m_desk->session(), *m_queue);
     return page.get();
-}
-
-/// Until the last of the system page's questions, which go by rising code, has been answered.
-void TestPages::settle()
-{
-    QTRY_VERIFY(deviceState.isKnown(Command::GravitySensor));
 }
 
 void TestPages::optionsSend()
@@ -164,7 +155,7 @@ void TestPages::unknownValuesAreAskedFor()
     QVERIFY(page(System)->slider("H-Position")->isUnknown());
     QVERIFY(!page(System)->slider("Audio Volume")->isUnknown()); // in the snapshot already
     page(System)->show();
-    settle();
+    QVERIFY(settle());
     QCOMPARE(page(System)->slider("H-Position")->value(), 77);
     QVERIFY(button(System, "Power LED_Level2")->isChecked());
     QVERIFY(page(System)->slider("V-Position")->isUnknown());
@@ -187,7 +178,7 @@ void TestPages::answersDoNotOverwriteTheUser()
         page(System)->show();
         deviceState.store(Command::PowerLed, 4);
     }
-    settle();
+    QVERIFY(settle());
     QCOMPARE(deviceState.value(Command::PowerLed), 4);
     QVERIFY(button(System, "Power LED_Level3")->isChecked());
 }
@@ -237,7 +228,7 @@ void TestPages::gameRushExcludesAdaptiveSync()
     QCOMPARE(page(Picture)->notice(), QString());
 }
 
-void TestPages::oneOfTwoStandbyFunctions()
+void TestPages::functionsThatAreOnAlready()
 {
     deviceState.store(Command::QuickBoot, 1);
     deviceState.store(Command::Cec, 0);
@@ -250,6 +241,11 @@ void TestPages::oneOfTwoStandbyFunctions()
     QTest::mouseClick(button(Io, "CEC_         Enable"), Qt::LeftButton);
     QCOMPARE(m_desk->takeCommands(), (QStringList{"W 61=0", "W d9=1"}));
     QCOMPARE(page(Io)->notice(), QString());
+    for (const char *option : {"Menu Lock_         Enable", "Menu Lock_         Enable"})
+        QTest::mouseClick(button(System, option), Qt::LeftButton);
+    QCOMPARE(page(System)->notice(), QStringLiteral("Menu lock already opened!"));
+    QTest::mouseClick(button(System, "Menu Lock_         Disable"), Qt::LeftButton);
+    QCOMPARE(m_desk->takeCommands(), (QStringList{"W c4=1", "W c4=0"})); // opened once
 }
 
 void TestPages::inputPreview()
@@ -267,20 +263,17 @@ void TestPages::inputPreview()
     QCOMPARE(now->text(), QStringLiteral("On now: DP1")); // the picture still comes from there
 }
 
-void TestPages::menuLockOnce()
-{
-    QTest::mouseClick(button(System, "Menu Lock_         Enable"), Qt::LeftButton);
-    QTest::mouseClick(button(System, "Menu Lock_         Enable"), Qt::LeftButton);
-    QCOMPARE(page(System)->notice(), QStringLiteral("Menu lock already opened!"));
-    QTest::mouseClick(button(System, "Menu Lock_         Disable"), Qt::LeftButton);
-    QCOMPARE(m_desk->takeCommands(), (QStringList{"W c4=1", "W c4=0"}));
-}
-
 void TestPages::resetFactory()
 {
     QSignalSpy begins(static_cast<pageSystemSetting *>(page(System)), &pageSystemSetting::resetBegins);
     QTest::mouseClick(button(System, "Reset Factory_No"), Qt::LeftButton);
     QCOMPARE(m_desk->takeCommands(), QStringList());
+    m_desk->monitor().refuse(0xC7, 2); // the command with its retry
+    QTest::mouseClick(button(System, "Reset Factory_Yes"), Qt::LeftButton);
+    QVERIFY(begins.isEmpty() && !page(System)->notice().isEmpty());
+    QCOMPARE(settingsInt("SystemMode/Brightness", 0, false), 0);
+    QCOMPARE(m_desk->clock.tasksWaiting(), std::size_t(0));
+    m_desk->takeCommands();
     QTest::mouseClick(button(System, "Reset Factory_Yes"), Qt::LeftButton);
     QCOMPARE(m_desk->takeCommands(), QStringList{"W c7=0"});
     QCOMPARE(begins.count(), 1);
@@ -295,17 +288,6 @@ void TestPages::resetFactory()
     m_desk->clock.advance(platform::milliseconds(1));
     QCOMPARE(m_desk->desk.started.size(), std::size_t(1)); // the search of a reset is a fresh start
     QCOMPARE(mark, 1);                                     // which finds the mark already
-}
-
-void TestPages::resetRefused()
-{
-    QSignalSpy begins(static_cast<pageSystemSetting *>(page(System)), &pageSystemSetting::resetBegins);
-    m_desk->monitor().refuse(0xC7, kForEver);
-    QTest::mouseClick(button(System, "Reset Factory_Yes"), Qt::LeftButton);
-    QCOMPARE(begins.count(), 0);
-    QVERIFY(!page(System)->notice().isEmpty());
-    QCOMPARE(settingsInt("SystemMode/Brightness", 0, false), 0);
-    QCOMPARE(m_desk->clock.tasksWaiting(), std::size_t(0));
 }
 
 void TestPages::customPaper()
@@ -332,14 +314,10 @@ void TestPages::restReminder()
 {
     auto *office = static_cast<PageOffice *>(page(Office));
     QTest::mouseClick(button(Office, "Eyeshield Remind_30s"), Qt::LeftButton);
-    m_desk->clock.advance(platform::milliseconds(29999));
-    QVERIFY(!office->toast()->isVisible());
-    m_desk->clock.advance(platform::milliseconds(1));
-    QVERIFY(office->toast()->isVisible());
-    m_desk->clock.advance(platform::milliseconds(10000));
-    QVERIFY(!office->toast()->isVisible()); // goes away by itself
-    m_desk->clock.advance(platform::milliseconds(20000));
-    QVERIFY(office->toast()->isVisible()); // and comes again
+    for (const auto &[later, shown] : {std::pair(29999, false), {1, true}, {10000, false}, {20000, true}}) {
+        m_desk->clock.advance(platform::milliseconds(later)); // goes away by itself, and comes again
+        QCOMPARE(office->toast()->isVisible(), shown);
+    }
     QTest::mouseClick(button(Office, "Eyeshield Remind_Close"), Qt::LeftButton);
     m_desk->clock.advance(std::chrono::hours(9));
     QVERIFY(!office->toast()->isVisible());

@@ -1,15 +1,10 @@
 #include <numeric>
 
-#include <QComboBox>
-#include <QProgressDialog>
 #include <QtTest>
+#include <QtWidgets>
 
-#include "ddc_protocol/displayenumeration.h"
-#include "ddc_protocol/settingsstore.h"
-#include "ddc_protocol/transport.h"
 #include "searchdevicedlg.h"
 #include "sessionhost.h"
-#include "support/datarow.h"
 #include "support/deskfixture.h"
 #include "usb-hid/hidtransport.h"
 
@@ -56,7 +51,7 @@ public:
 
 } // namespace
 
-class TestSession : public QObject
+class TestSession : public DeskSuite
 {
     Q_OBJECT
 private Q_SLOTS:
@@ -68,7 +63,6 @@ private Q_SLOTS:
     void passes_data();
     void passes();
     void storedIndexOnLaterSearches();
-    void reasons_data();
     void reasons();
     void arrivalDuringTheStartUpRead();
     void sceneReads();
@@ -78,14 +72,13 @@ private Q_SLOTS:
     void chosenDeviceIsStoredAndTheProgramRestarts();
 
 private:
-    std::unique_ptr<DeskFixture> m_desk;
     std::unique_ptr<Session> m_session;
     Host m_host;
 };
 
 void TestSession::init()
 {
-    m_desk = std::make_unique<DeskFixture>();
+    DeskSuite::init();
     m_session = std::make_unique<Session>();
     m_host = Host();
     m_desk->monitor(0).setValue(0x22, 12);
@@ -96,7 +89,7 @@ void TestSession::cleanup()
 {
     QCOMPARE(m_desk->desk.handleFaults(), 0);
     m_session.reset();
-    m_desk.reset();
+    DeskSuite::cleanup();
 }
 
 void TestSession::startUpReadOrder()
@@ -209,25 +202,22 @@ void TestSession::storedIndexOnLaterSearches()
     QCOMPARE(int(currentMonitorIndex), 0);
 }
 
-void TestSession::reasons_data()
-{
-    columns<int, QStringList, int>("reason", "calls", "commands"); // those that reach the monitor
-    QTest::newRow("reconnect") << int(kReconnect) << QStringList{"reconnect", "refresh", "update"} << 0;
-    QTest::newRow("idle") << int(kIdle) << QStringList{"reconnect", "refresh", "update"} << 0;
-    QTest::newRow("full read") << int(kFullRead) << QStringList{"hide", "refresh", "show", "update"} << 25;
-    QTest::newRow("scene block") << int(kSceneBlockOnly) << QStringList{"refresh", "update"} << 12;
-}
-
 void TestSession::reasons()
 {
-    QFETCH(int, reason);
-    deviceState.store(Command::SceneMode, 12);
     m_session->setHost(&m_host);
-    reloadEdidType = reason;
-    m_session->delayedSearchDevices();
-    QTEST(m_host.take(), "calls");
-    QTEST(int(m_desk->takeCommands().size()), "commands");
-    QCOMPARE(reloadEdidType.load(), int(kIdle));
+    const QStringList again = {"reconnect", "refresh", "update"};
+    for (const auto &[reason, calls, commands] : {std::tuple(kReconnect, again, 0), // that reach the monitor
+                                                  {kIdle, again, 0},
+                                                  {kFullRead, {"hide", "refresh", "show", "update"}, 25},
+                                                  {kSceneBlockOnly, {"refresh", "update"}, 12}}) {
+        deviceState.clear();
+        deviceState.store(Command::SceneMode, 12);
+        reloadEdidType = reason;
+        m_session->delayedSearchDevices();
+        QCOMPARE(m_host.take(), calls);
+        QCOMPARE(int(m_desk->takeCommands().size()), commands);
+        QCOMPARE(reloadEdidType.load(), int(kIdle));
+    }
 }
 
 void TestSession::arrivalDuringTheStartUpRead()
