@@ -1,20 +1,13 @@
-#include <QComboBox>
-#include <QLabel>
-#include <QProcess>
-#include <QPushButton>
 #include <QtTest>
+#include <QtWidgets>
 
 #include "controls/zelmarkeysequenceedit.h"
-#include "ddc_protocol/devicestate.h"
-#include "ddc_protocol/displayenumeration.h"
 #include "page/BasicSetting/pageshortcutkey.h"
 #include "page/BasicSetting/shortcutrow.h"
 #include "platform/nativemessage.h"
 #include "shortcut/shortcutlist.h"
-#include "support/datarow.h"
 #include "support/deskfixture.h"
 #include "support/fulldisk.h"
-#include "support/textfile.h"
 
 using namespace std::chrono_literals;
 
@@ -66,14 +59,13 @@ int saveAgainAndAgain()
 
 } // namespace
 
-class TestShortcutPage : public QObject
+class TestShortcutPage : public DeskSuite
 {
     Q_OBJECT
 private Q_SLOTS:
     void init();
     void cleanup();
     void roundTripIsExact();
-    void loading_data();
     void loading();
     void keysReachTheMonitor();
     void switches();
@@ -84,24 +76,22 @@ private Q_SLOTS:
     void fieldSaysWhyNot();
     void keysInUse();
     void applyWaitsForChanges();
-    void keysOfOneId();
     void unwritableFile();
     void killedWhileSaving();
 
 private:
     void start();
-    void start(const std::vector<ShortcutEntry> &entries);
+    void start(const std::vector<ShortcutEntry> &entries) { saveShortcuts({true, entries}), start(); }
     ShortcutRow *row(std::size_t index) const { return m_page->shortcutRows()[index]; }
     QPushButton *button(const char *name) const { return m_page->findChild<QPushButton *>(QLatin1String(name)); }
     QStringList press(std::uint32_t modifiers, char key);
 
-    std::unique_ptr<DeskFixture> m_desk;
     std::unique_ptr<TestedPage> m_page;
 };
 
 void TestShortcutPage::init()
 {
-    m_desk = std::make_unique<DeskFixture>();
+    DeskSuite::init();
     findDevices();
     deviceState.store(Command::Capability, static_cast<int>(Capability::GameFunctions));
 }
@@ -109,20 +99,14 @@ void TestShortcutPage::init()
 void TestShortcutPage::cleanup()
 {
     m_page.reset();
-    m_desk.reset();
+    DeskSuite::cleanup();
 }
 
 void TestShortcutPage::start()
 {
+    m_page.reset();
     m_page = std::make_unique<TestedPage>();
     m_desk->clock.advance(200ms);
-}
-
-/// With these rows stored and all keys switched on.
-void TestShortcutPage::start(const std::vector<ShortcutEntry> &entries)
-{
-    QVERIFY(saveShortcuts({true, entries}));
-    start();
 }
 
 QStringList TestShortcutPage::press(std::uint32_t modifiers, char key)
@@ -147,45 +131,31 @@ void TestShortcutPage::roundTripIsExact()
     QVERIFY(!row(1)->minusEdit()->isEnabled());
 }
 
-void TestShortcutPage::loading_data()
-{
-    columns<QByteArray, QList<int>, int>("text", "functions", "keys"); // keys: registered afterwards
-    const auto many = [] {
-        QByteArray lines = "[3]\nplusKey=Ctrl+3\nswitchStatus=on\n";
-        for (int i = 100; i < 50100; ++i)
-            lines += "[" + QByteArray::number(i) + "]\nswitchStatus=on\n";
-        return lines;
-    };
-    const auto row = [](const char *name, const QByteArray &text, const QList<int> &functions, int keys) {
-        QTest::newRow(name) << text << functions << keys;
-    };
-    row("no file", "", {}, 0);
-    row("unknown numbers",
-        "[30]\nswitchStatus=on\n[-1]\nswitchStatus=on\n[x]\nswitchStatus=on\n[07]\nswitchStatus=on\n", {}, 0);
-    row("missing keys", "[1]\nswitchStatus=on\n[2]\nplusKey=Ctrl+2\n", {1}, 0);
-    row("switch in other case", "[1]\nplusKey=Ctrl+1\nswitchStatus=ON\n", {1}, 0);
-    row("no keys at all", "[1]\nplusKey=Ctrl+Bogus\nsubKey=,,,\nswitchStatus=on\n", {1}, 0);
-    row("several combinations", "[1]\nplusKey=\"Ctrl+A, Ctrl+B\"\nswitchStatus=on\n", {1}, 1);
-    row("same key twice", "[1]\nplusKey=Ctrl+1\nswitchStatus=on\n[2]\nplusKey=Ctrl+1\nsubKey=Ctrl+2\nswitchStatus=on\n",
-        {1, 2}, 2);
-    row("in list order", "[9]\nswitchStatus=on\n[10]\nswitchStatus=on\n[2]\nswitchStatus=off\n", {2, 9, 10}, 0);
-    row("another program's file", QByteArray::fromHex("7f454c460000010203") + "\n<html>\n{ }\n", {}, 0);
-    row("very long", many(), {3}, 1);
-}
-
 void TestShortcutPage::loading()
 {
-    QFETCH(QByteArray, text);
-    QFETCH(QList<int>, functions);
-    QFETCH(int, keys);
-    if (!text.isEmpty())
-        writeText(kFile, text);
-    start();
-    QList<int> shown;
-    for (const ShortcutRow *each : m_page->shortcutRows())
-        shown.append(each->function());
-    QCOMPARE(shown, functions);
-    QCOMPARE(m_desk->desk.hotKeys().count(), std::size_t(keys));
+    QByteArray many = "[3]\nplusKey=Ctrl+3\nswitchStatus=on\n";
+    for (int i = 100; i < 50100; ++i)
+        many += "[" + QByteArray::number(i) + "]\nswitchStatus=on\n";
+    for (const auto &[text, functions, keys] : // the keys that are registered afterwards
+         {std::tuple(QByteArray(), QList<int>(), 0),
+          {"[30]\nswitchStatus=on\n[-1]\nswitchStatus=on\n[x]\nswitchStatus=on\n[07]\nswitchStatus=on\n", {}, 0},
+          {"[1]\nswitchStatus=on\n[2]\nplusKey=Ctrl+2\n", {1}, 0},
+          {"[1]\nplusKey=Ctrl+1\nswitchStatus=ON\n", {1}, 0},
+          {"[1]\nplusKey=Ctrl+Bogus\nsubKey=,,,\nswitchStatus=on\n", {1}, 0},
+          {"[1]\nplusKey=\"Ctrl+A, Ctrl+B\"\nswitchStatus=on\n", {1}, 1},
+          {"[1]\nplusKey=Ctrl+1\nswitchStatus=on\n[2]\nplusKey=Ctrl+1\nsubKey=Ctrl+2\nswitchStatus=on\n", {1, 2}, 2},
+          {"[9]\nswitchStatus=on\n[10]\nswitchStatus=on\n[2]\nswitchStatus=off\n", {2, 9, 10}, 0},
+          {QByteArray::fromHex("7f454c460000010203") + "\n<html>\n{ }\n", {}, 0}, // another program's file
+          {many, {3}, 1}}) {
+        if (!text.isEmpty())
+            writeText(kFile, text);
+        start();
+        QList<int> shown;
+        for (const ShortcutRow *each : m_page->shortcutRows())
+            shown.append(each->function());
+        QCOMPARE(shown, functions);
+        QCOMPARE(m_desk->desk.hotKeys().count(), std::size_t(keys));
+    }
 }
 
 void TestShortcutPage::keysReachTheMonitor()
@@ -253,6 +223,14 @@ void TestShortcutPage::twoRowsChangeKeys()
     button("pushButtonAppli")->click();
     QCOMPARE(press(kControl, '1'), QStringList{"W 22=5"});
     QCOMPARE(press(kControl, '2'), QStringList{"W 22=3"});
+    start({{1, true, QStringLiteral("Ctrl+A"), {}}, {2, true, QStringLiteral("Alt+B"), {}}});
+    for (const std::size_t count : {0, 2}) { // they have one id; the system may take either away
+        button("pushButton")->click();
+        QCOMPARE(m_desk->desk.hotKeys().count(), count);
+    }
+    row(1)->trashButton()->click();
+    QCOMPARE(press(kControl, 'A'), QStringList{"W 22=3"});
+    QCOMPARE(m_desk->desk.hotKeys().count(), std::size_t(1));
 }
 
 void TestShortcutPage::addAndDelete()
@@ -349,19 +327,6 @@ void TestShortcutPage::applyWaitsForChanges()
     button("pushButton_2")->click();
     row(1)->plusEdit()->setKeySequence(QKeySequence(Qt::CTRL | Qt::Key_1));
     QVERIFY(isLit());
-}
-
-/// Ctrl+A and Alt+B have one id; the system may take either away.
-void TestShortcutPage::keysOfOneId()
-{
-    start({{1, true, QStringLiteral("Ctrl+A"), {}}, {2, true, QStringLiteral("Alt+B"), {}}});
-    for (const std::size_t count : {0, 2}) {
-        button("pushButton")->click();
-        QCOMPARE(m_desk->desk.hotKeys().count(), count);
-    }
-    row(1)->trashButton()->click();
-    QCOMPARE(press(kControl, 'A'), QStringList{"W 22=3"});
-    QCOMPARE(m_desk->desk.hotKeys().count(), std::size_t(1));
 }
 
 void TestShortcutPage::unwritableFile()

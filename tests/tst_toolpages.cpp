@@ -1,26 +1,15 @@
 #include <csignal>
 
-#include <QComboBox>
-#include <QDesktopServices>
-#include <QDir>
-#include <QFile>
-#include <QProcess>
-#include <QPushButton>
-#include <QUrl>
-#include <QWheelEvent>
 #include <QtTest>
+#include <QtWidgets>
 
 #include "controls/lefttabbutton.h"
 #include "ddc_protocol/commandqueue.h"
-#include "ddc_protocol/displayenumeration.h"
-#include "ddc_protocol/settingsstore.h"
 #include "page/BasicSetting/hotkeyoverlay.h"
 #include "page/BasicSetting/pagepcsetting.h"
 #include "page/BasicSetting/pageservicessetting.h"
 #include "page/BasicSetting/toollanguage.h"
-#include "support/datarow.h"
 #include "support/sessiondesk.h"
-#include "support/textfile.h"
 
 using namespace std::chrono_literals;
 
@@ -65,7 +54,6 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void startUpIsWrittenOrFallsBack();
-    void startUpIsReadAnewWhenShown();
     void overlayIsSwitched();
     void languages_data();
     void languages();
@@ -82,12 +70,19 @@ public Q_SLOTS:
     void takeUrl(const QUrl &url) { m_opened = url; }
 
 private:
-    AnsweredPage &toolPage();
-    pageServicesSetting &servicesPage();
-    void press(const QString &name);
+    template <typename Page> Page &shown(std::unique_ptr<Page> &page, auto &...with)
+    {
+        if (!page) {
+            page = std::make_unique<Page>(with...);
+            page->show();
+        }
+        return *page;
+    }
+    AnsweredPage &toolPage() { return shown(m_tool, m_desk->session(), *m_queue); }
+    pageServicesSetting &servicesPage() { return shown(m_services, *m_queue); }
+    void press(const QString &name) { QTest::mouseClick(toolPage().findChild<QPushButton *>(name), Qt::LeftButton); }
     bool isChecked(const QString &name) { return toolPage().findChild<QPushButton *>(name)->isChecked(); }
     QComboBox *machines() { return toolPage().findChild<QComboBox *>(); }
-    QString startUpValue() const;
     void verifyRestart();
     void installUpgrader(const char *script);
 
@@ -116,34 +111,6 @@ void TestToolPages::cleanup()
     qputenv("PATH", m_path);
 }
 
-AnsweredPage &TestToolPages::toolPage()
-{
-    if (!m_tool) {
-        m_tool = std::make_unique<AnsweredPage>(m_desk->session(), *m_queue);
-        m_tool->show();
-    }
-    return *m_tool;
-}
-
-pageServicesSetting &TestToolPages::servicesPage()
-{
-    if (!m_services) {
-        m_services = std::make_unique<pageServicesSetting>(*m_queue);
-        m_services->show();
-    }
-    return *m_services;
-}
-
-void TestToolPages::press(const QString &name)
-{
-    QTest::mouseClick(toolPage().findChild<QPushButton *>(name), Qt::LeftButton);
-}
-
-QString TestToolPages::startUpValue() const
-{
-    return m_desk->desk.startUp().value(QCoreApplication::applicationName()).value_or(QStringLiteral("none"));
-}
-
 void TestToolPages::verifyRestart()
 {
     QCOMPARE(m_desk->desk.started.size(), std::size_t(1));
@@ -163,30 +130,20 @@ void TestToolPages::installUpgrader(const char *script)
 
 void TestToolPages::startUpIsWrittenOrFallsBack()
 {
+    const QString name = QCoreApplication::applicationName(), program = QCoreApplication::applicationFilePath();
     QVERIFY(isChecked("Run on startup_No"));
-    m_desk->desk.startUp().writable = false;
-    press("Run on startup_Yes");
-    QVERIFY(isChecked("Run on startup_No"));
-    QVERIFY(toolPage().notice().contains("Run on startup"));
-    m_desk->desk.startUp().writable = true;
-    press("Run on startup_Yes");
-    QCOMPARE(toolPage().notice(), QString());
-    QCOMPARE(startUpValue(), QDir::toNativeSeparators(QCoreApplication::applicationFilePath()));
-    m_desk->desk.startUp().writable = false;
-    press("Run on startup_No");
-    QVERIFY(isChecked("Run on startup_Yes"));
-    m_desk->desk.startUp().writable = true;
-    press("Run on startup_No");
-    QCOMPARE(startUpValue(), QStringLiteral("none"));
-    QVERIFY(isChecked("Run on startup_No"));
-}
-
-void TestToolPages::startUpIsReadAnewWhenShown()
-{
-    for (const bool own : {true, false}) { // the other one is another copy of the program
+    for (const auto &[writable, pressed, after] :
+         {std::tuple(false, "Yes", "No"), {true, "Yes", "Yes"}, {false, "No", "Yes"}, {true, "No", "No"}}) {
+        m_desk->desk.startUp().writable = writable;
+        press(QStringLiteral("Run on startup_") + pressed);
+        QVERIFY(isChecked(QStringLiteral("Run on startup_") + after));
+        QVERIFY(toolPage().notice().contains("Run on startup") || (writable && toolPage().notice().isEmpty()));
+        QCOMPARE(m_desk->desk.startUp().value(name).value_or("none"),
+                 QByteArray(after) == "No" ? "none" : QDir::toNativeSeparators(program));
+    }
+    for (const bool own : {true, false}) { // read anew when it is shown; the other one is another copy of the program
         toolPage().hide();
-        m_desk->desk.startUp().setValue(QCoreApplication::applicationName(),
-                                        own ? QCoreApplication::applicationFilePath() : "/elsewhere/quorvel");
+        m_desk->desk.startUp().setValue(name, own ? program : "/elsewhere/quorvel");
         toolPage().show();
         QCOMPARE(isChecked("Run on startup_Yes"), own);
     }
