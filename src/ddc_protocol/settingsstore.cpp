@@ -3,7 +3,6 @@
 #include <QDebug>
 #include <QFileInfo>
 #include <QLockFile>
-#include <QMutex>
 #include <QSettings>
 
 #include "ddc_protocol/damagedsettings.h"
@@ -59,19 +58,12 @@ QString textOf(const QVariant &value)
     }
 }
 
-/// A settings file opened to be read. Only regular files: the toolkit would wait for whoever writes to a pipe. The
-/// last one stays open, because the toolkit forgets what it parsed of a file with more than some eighty settings.
+/// A settings file opened to be read. Only regular files: the toolkit would wait for whoever writes to a pipe.
 template <typename Read> auto readFrom(const QString &fileName, const Read &read)
 {
     if (!QFileInfo(fileName).isFile())
         return decltype(read(std::declval<const QSettings &>()))();
-    static QMutex mutex;
-    static std::unique_ptr<QSettings> last;
-    auto file = std::make_unique<QSettings>(fileName, iniFormat()); // shares what it parsed with the one before
-    auto result = read(*file);
-    const QMutexLocker lock(&mutex);
-    last.swap(file);
-    return result;
+    return read(QSettings(fileName, iniFormat()));
 }
 
 bool refuse(const QString &fileName, const QString &why)
