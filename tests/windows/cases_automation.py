@@ -5,7 +5,7 @@ import shutil
 import time
 
 from casekit import BASIC_TAB_X, REGISTERS, open_page, started
-from rig import START_SECONDS, wait_for
+from rig import START_SECONDS, wait_for, windows_path
 
 SHORTCUT_KEY = 1
 APPLY_BUTTON = (1191, 214)
@@ -128,6 +128,24 @@ def case_following(rig):
         switched("Painter", MOVIE_MODE)
         time.sleep(0.4)  # no flip
         switched("Reader", STANDARD_MODE)
+
+
+def case_settings_file(rig):
+    """The keys are stored although another program has their file open, and far down in folders; a file that may only
+    be read stays as it is, which the log tells."""
+    far_down = "far_down".ljust(245 - len(windows_path(rig.work / "cases" / "x")), "_")
+    for name, mode, held, stored in (("held_file", 0o644, True, True), ("read_only", 0o444, False, False),
+                                     (far_down, 0o644, False, True)):
+        with with_keys(rig, name) as run:
+            file = run.folder / "basicMode.ini"
+            file.chmod(mode)
+            if held:
+                run.start_other(rig.standins / "keyholder.exe", "file", file.name)
+                wait_for((run.folder / "held.txt").exists, "the file to be held")
+            run.start_and_show()
+            assert (b"\r\n" in file.read_bytes()) == stored, file.read_bytes()
+            assert bool(run.logged("Cannot write")) != stored, run.log()
+            assert not list(run.folder.glob("*.new")), list(run.folder.iterdir())
 
 
 def case_killed_while_saving(rig):

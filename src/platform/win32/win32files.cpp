@@ -49,11 +49,11 @@ QString longPath(const QString &path)
 {
     constexpr qsizetype kLongest = 240; // some calls keep room for a file's short name
     const QString full = QDir::toNativeSeparators(QFileInfo(path).absoluteFilePath());
-    if (full.size() < kLongest || full.startsWith(QLatin1String(R"(\?\)")))
+    if (full.size() < kLongest || full.startsWith(QLatin1String(R"(\\?\)")))
         return full;
-    if (full.startsWith(QLatin1String(R"(\)")))
-        return QLatin1String(R"(\?\UNC)") + full.sliced(1);
-    return QLatin1String(R"(\?\)") + full;
+    if (full.startsWith(QLatin1String(R"(\\)")))
+        return QLatin1String(R"(\\?\UNC)") + full.sliced(1);
+    return QLatin1String(R"(\\?\)") + full;
 }
 
 constexpr DWORD kShared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
@@ -87,6 +87,19 @@ bool standsForAnotherName(HANDLE handle)
     FILE_ATTRIBUTE_TAG_INFO info{};
     return GetFileInformationByHandleEx(handle, FileAttributeTagInfo, &info, sizeof info) &&
            (info.FileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 && IsReparseTagNameSurrogate(info.ReparseTag);
+}
+
+/// What a file that another program has open answers to whoever wants its name.
+bool isHeld(DWORD error)
+{
+    return error == ERROR_ACCESS_DENIED || error == ERROR_SHARING_VIOLATION;
+}
+
+/// A file that others have open, and share, gives its name away and lives on without one.
+bool replaceHeld(const QString &path, const QString &replaced)
+{
+    constexpr DWORD kWithoutSecurity = REPLACEFILE_IGNORE_MERGE_ERRORS | REPLACEFILE_IGNORE_ACL_ERRORS;
+    return ReplaceFileW(wide(replaced), wide(path), nullptr, kWithoutSecurity, nullptr, nullptr);
 }
 
 class Win32Files final : public Files
@@ -123,8 +136,10 @@ public:
 
     bool replace(const QString &path, const QString &replaced) override
     {
-        return finish(MoveFileExW(wide(longPath(path)), wide(longPath(replaced)),
-                                  MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH));
+        const QString from = longPath(path);
+        const QString to = longPath(replaced);
+        return finish(MoveFileExW(wide(from), wide(to), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) ||
+                      (isHeld(GetLastError()) && replaceHeld(from, to)));
     }
 
     bool isLink(const QString &path) override
