@@ -95,7 +95,8 @@ bool isHeld(DWORD error)
     return error == ERROR_ACCESS_DENIED || error == ERROR_SHARING_VIOLATION;
 }
 
-/// A file that others have open, and share, gives its name away and lives on without one.
+/// A file that others have open, and share, gives its name away and lives on without one. Two steps for the system, so
+/// only where it cannot be done in one.
 bool replaceHeld(const QString &path, const QString &replaced)
 {
     constexpr DWORD kWithoutSecurity = REPLACEFILE_IGNORE_MERGE_ERRORS | REPLACEFILE_IGNORE_ACL_ERRORS;
