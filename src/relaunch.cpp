@@ -2,6 +2,7 @@
 
 #include <QDebug>
 
+#include "ddc_protocol/settingsstore.h"
 #include "platform/desk.h"
 #include "platform/ending.h"
 #include "singleapplication.h"
@@ -23,6 +24,18 @@ bool relaunchAndQuit()
     if (application)
         application->serveAgain();
     return false;
+}
+
+Relaunch relaunchWith(const QString &key, const QVariant &value)
+{
+    const QString fileName = QString::fromLatin1(kConfigFile);
+    const QString before = settingsString(key, {}, false, fileName);
+    if (!storeSetting(key, value))
+        return Relaunch::NotStored;
+    if (relaunchAndQuit())
+        return Relaunch::Begins;
+    settingsString(key, before, true, fileName);
+    return Relaunch::NotStarted;
 }
 
 QString notRestarted()

@@ -207,21 +207,15 @@ void SearchDeviceDlg::onCurrentDeviceChanged(int index)
 {
     if (m_fillingBox || index < 0)
         return;
-    if (!mayLeave()) {
-        const QSignalBlocker quiet(m_deviceBox);
-        return m_deviceBox->setCurrentIndex(currentMonitorIndex);
-    }
-    const QString key = QString::fromLatin1(kDeviceIndexKey);
-    const bool stored = storeSetting(key, index); // else a copy would come back with the old one
     // Everything shown belongs to the monitor before, down to the entries of the left bars.
-    if (stored && relaunchAndQuit())
+    const bool leaves = mayLeave();
+    const Relaunch result = leaves ? relaunchWith(QString::fromLatin1(kDeviceIndexKey), index) : Relaunch::NotStored;
+    if (result == Relaunch::Begins)
         return;
     const QSignalBlocker quiet(m_deviceBox);
     m_deviceBox->setCurrentIndex(currentMonitorIndex);
-    if (!stored)
-        return;
-    settingsInt(key, currentMonitorIndex, true);
-    tellNotRestarted();
+    if (result == Relaunch::NotStarted)
+        tellNotRestarted();
 }
 
 /// No copy takes this one's place, so this one reads what the copy would have read.

@@ -173,12 +173,7 @@ bool writeAllSettings(const QString &fileName, const QList<QPair<QString, QStrin
 QString languageSetting(bool write, const QString &code)
 {
     const QString fileName = QString::fromLatin1(kConfigFile);
-    const QString stored = settingsString(QStringLiteral("General/Language"), code, write, fileName);
-    // The toolkit writes that key under [%General]; somebody editing the file by hand writes [General].
+    const QString stored = settingsString(QString::fromLatin1(kLanguageKey), code, write, fileName);
+    // That key is written under [%General]; somebody editing the file by hand writes [General].
     return stored.isEmpty() && !write ? settingsString(QStringLiteral("Language"), {}, false, fileName) : stored;
-}
-
-bool storeLanguage(const QString &code)
-{
-    return storeSetting(QStringLiteral("General/Language"), code);
 }

@@ -11,6 +11,7 @@
 // overwritten. A value that is no text, number or on/off reads as empty and is kept as it stands in the file.
 
 inline constexpr char kConfigFile[] = "config.ini";
+inline constexpr char kLanguageKey[] = "General/Language";
 inline constexpr char kDeviceIndexKey[] = "PCSeting/DeviceIndex"; // spelled so in every user's file
 inline constexpr char kRestartKey[] = "SystemMode/Restart";
 
@@ -37,6 +38,3 @@ QList<QPair<QString, QString>> readAllSettings(const QString &fileName);
 /// The interface language in config.ini. Write: stores the code and returns an empty text. Read: the stored code, empty
 /// when absent.
 QString languageSetting(bool write, const QString &code = {});
-
-/// As the writing languageSetting. False when the code could not be written.
-[[nodiscard]] bool storeLanguage(const QString &code);

@@ -198,16 +198,18 @@ void pagePCSetting::changeLanguage(const QString &objectName)
     if (language == languages.end())
         return;
     if (ask(QObject::tr("Language"), QObject::tr("The APP will restart automatically when switching languages.")) &&
-        m_session.mayLeave()) {
-        const QString before = languageSetting(false);
-        if (showStored(storeLanguage(QLatin1String(language->code)), Unstored::Undone)) {
-            if (relaunchAndQuit())
-                return;
-            languageSetting(true, before);
-            showNotice(notRestarted());
-        }
-    }
+        m_session.mayLeave() && restartWith(QLatin1String(kLanguageKey), QLatin1String(language->code)))
+        return;
     showWhatIsSet();
+}
+
+/// Says why when there is no restart.
+bool pagePCSetting::restartWith(const QString &key, const QVariant &value)
+{
+    const Relaunch result = relaunchWith(key, value);
+    if (showStored(result != Relaunch::NotStored, Unstored::Undone) && result == Relaunch::NotStarted)
+        showNotice(notRestarted());
+    return result == Relaunch::Begins;
 }
 
 void pagePCSetting::onComboxIndexChanged(int nIndex)
@@ -217,15 +219,10 @@ void pagePCSetting::onComboxIndexChanged(int nIndex)
     showNotice({});
     if (ask(QObject::tr("Machine Select"), QObject::tr("The APP will reload data when switching machines.")) &&
         m_session.mayLeave()) {
-        const std::uint8_t before = currentMonitorIndex;
-        if (showStored(storeSetting(QLatin1String(kDeviceIndexKey), nIndex), Unstored::Undone)) {
-            currentMonitorIndex = static_cast<std::uint8_t>(nIndex);
-            if (relaunchAndQuit())
-                return;
-            currentMonitorIndex = before; // or commands would go to a monitor that no page shows
-            settingsInt(QLatin1String(kDeviceIndexKey), before, true);
-            showNotice(notRestarted());
-        }
+        const std::uint8_t before = currentMonitorIndex.exchange(static_cast<std::uint8_t>(nIndex));
+        if (restartWith(QLatin1String(kDeviceIndexKey), nIndex))
+            return;
+        currentMonitorIndex = before; // or commands would go to a monitor that no page shows
     }
     const Updating updating(*this);
     m_machines->setCurrentIndex(currentMonitorIndex);

@@ -36,6 +36,7 @@ private:
     void setRunOnStartUp(bool on);
     void setOverlay(bool on);
     void changeLanguage(const QString &objectName);
+    bool restartWith(const QString &key, const QVariant &value);
 
     SearchDeviceDlg &m_session;
     OptionGroupRow *m_startUp = nullptr;
