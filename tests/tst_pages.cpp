@@ -308,6 +308,10 @@ void TestPages::customPaper()
     PageOffice next(*m_queue);
     QCOMPARE(next.findChild<QSpinBox *>("paperWidth")->value(), width->value());
     QCOMPARE(next.findChild<QSpinBox *>("paperHeight")->value(), 148);
+    m_desk->desk.fileFaults.replace.failFrom(1);
+    height->setValue(149);
+    QTest::mouseClick(button(Office, "paperApply"), Qt::LeftButton);
+    QVERIFY(page(Office)->notice().contains("config.ini"));
 }
 
 void TestPages::restReminder()

@@ -93,11 +93,11 @@ void PageOffice::sendPaperSize()
     const int height = m_height->value();
     const bool ok = send(Command::Paper, kCustomPaper) && send(Command::OfficeArea, width) &&
                     send(Command::OfficeArea, height | kHeightFlag);
-    if (ok) {
-        settingsInt(kWidthKey, width, true);
-        settingsInt(kHeightKey, height, true);
-    }
     showNotice(ok ? QString() : QObject::tr("The monitor did not take the size."));
+    if (!ok)
+        return;
+    const bool widthStored = storeSetting(kWidthKey, width);
+    showStored(storeSetting(kHeightKey, height) && widthStored, Unstored::HoldsUntilExit);
 }
 
 void PageOffice::showPaperSize()
