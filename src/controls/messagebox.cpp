@@ -57,11 +57,7 @@ void showMessage(QMessageBox::Icon icon, const QString &title, const QString &te
 
 bool askYesNo(const QString &title, const QString &text, QWidget *parent)
 {
-    Box box(QMessageBox::Question, title, text, parent);
-    QPushButton *yes = box.addButton(QObject::tr("Yes"), QMessageBox::YesRole);
-    QPushButton *no = box.addButton(QObject::tr("No"), QMessageBox::NoRole);
-    const QAbstractButton *answer = box.ask(yes, no);
-    return answer && answer != no;
+    return askOneOf(title, text, {QObject::tr("Yes"), QObject::tr("No")}, parent) == 0;
 }
 
 /// The role of an answer among so many: the first agrees, the last takes back.
