@@ -2,15 +2,12 @@
 
 #include <algorithm>
 
-#include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDebug>
-#include <QMenu>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QStackedWidget>
-#include <QSystemTrayIcon>
 #include <QVBoxLayout>
 
 #include "controls/pictures.h"
@@ -32,6 +29,7 @@
 #include "searchdevicedlg.h"
 #include "sessionend.h"
 #include "toptabframe.h"
+#include "trayicon.h"
 #include "usb-hid/hidtransport.h"
 
 namespace {
@@ -43,7 +41,6 @@ constexpr int kLeftWidth = 232;
 constexpr int kMargin = 24;
 constexpr int kStatusLeft = 32; // below the entries' icons
 constexpr int kStatusHeight = 40;
-constexpr int kBalloonTime = 10000;                 // ms
 constexpr platform::milliseconds kLastValues{1500}; // the system gives the whole program about 5 s
 
 } // namespace
@@ -174,19 +171,9 @@ void MainWindow::createTrayIcon()
         qDebug() << "SystemTray not available";
         return;
     }
-    m_tray = new QSystemTrayIcon(QIcon(Pictures::kRoot + QStringLiteral("app.ico")), this);
-    m_tray->setToolTip(QStringLiteral("QUORVEL"));
-    auto *menu = new QMenu(this);
-    menu->setStyleSheet(
-        QStringLiteral("QMenu { background-color: #161d1a; color: #c9c9c9; border: 1px solid #1b5043; }"
-                       "QMenu::item { padding: 6px 24px; } QMenu::item:selected { background: #1b5043; }"));
-    menu->addAction(QObject::tr("Show"), this, &MainWindow::showWindow);
-    menu->addAction(QObject::tr("Exit"), this, &MainWindow::leave);
-    m_tray->setContextMenu(menu);
-    connect(m_tray, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
-        if (reason != QSystemTrayIcon::Context)
-            showWindow();
-    });
+    m_tray = new TrayIcon(this);
+    connect(m_tray, &TrayIcon::showWanted, this, &MainWindow::showWindow);
+    connect(m_tray, &TrayIcon::exitWanted, this, &MainWindow::leave);
     m_tray->show();
 }
 
@@ -281,8 +268,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
     hide();
     event->ignore();
     if (m_tray)
-        m_tray->showMessage(QStringLiteral("QUORVEL"), QObject::tr("Background running"), QSystemTrayIcon::Information,
-                            kBalloonTime);
+        m_tray->tellRunning();
 }
 
 void MainWindow::mousePressEvent(QMouseEvent *event)

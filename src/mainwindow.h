@@ -15,9 +15,9 @@ class HotkeyOverlay;
 class CommandQueue;
 class LeftBar;
 class QStackedWidget;
-class QSystemTrayIcon;
 class SearchDeviceDlg;
 class TopTabFrame;
+class TrayIcon;
 class Page;
 class PageOffice;
 class PanelPage;
@@ -74,7 +74,6 @@ public:
     /// The page that an entry leads to; null for entries without one.
     Page *page(PageId id) const;
     HotkeyOverlay *overlay() const { return m_overlay; }
-    QSystemTrayIcon *trayIcon() const { return m_tray; }
 
     /// Ends the program, unless the user is asked and wants to stay.
     void leave();
@@ -143,7 +142,7 @@ private:
     HotkeyOverlay *m_overlay = nullptr;
     EmptyPage *m_emptyPage = nullptr;
     QLabel *m_status = nullptr;
-    QSystemTrayIcon *m_tray = nullptr; ///< null where there is no tray
+    TrayIcon *m_tray = nullptr; ///< null where there is no tray
     int m_family = 0;
     bool m_monitorAnswers = true;
     bool m_checkWaiting = false;
