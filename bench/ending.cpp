@@ -6,6 +6,7 @@
 #include <functional>
 
 #include <QApplication>
+#include <QPushButton>
 #include <QTimer>
 
 #include <benchmark/benchmark.h>
@@ -107,7 +108,10 @@ const Situation kSituations[] = {
              ->buttonOf(1)
              ->click();
      }},
-    {"clock", [](const Rig &) { ledWorkThread::instance()->begin(ledWorkThread::ClockLoop); }},
+    {"clock",
+     [](const Rig &rig) {
+         rig.window.page(PageId::LedSystem)->widget()->findChild<QPushButton *>("Clock_Open")->click();
+     }},
     {"question open", [](const Rig &rig) { askYesNo(QStringLiteral("a"), QStringLiteral("b"), &rig.window); }},
 };
 

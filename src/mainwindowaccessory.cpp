@@ -14,7 +14,6 @@
 #include "page/Nightloom/pageledsystem.h"
 #include "usb-hid/accessoryupload.h"
 #include "usb-hid/hidtransport.h"
-#include "usb-hid/livesender.h"
 
 void MainWindow::createAccessoryPages()
 {
@@ -87,5 +86,4 @@ void MainWindow::endAccessoryWork()
     m_liveDisplay->setInterrupted(true);
     stopUploads();
     ledWorkThread::shutDown();
-    endLivePicture();
 }

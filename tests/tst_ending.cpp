@@ -1,6 +1,7 @@
 #include <thread>
 
 #include <QFileDialog>
+#include <QPushButton>
 #include <QTimer>
 #include <QtTest>
 
@@ -9,10 +10,7 @@
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/displayenumeration.h"
 #include "ddc_protocol/transport.h"
-#include "page/Nightloom/ledworkthread.h"
-#include "page/Nightloom/pageledmusic.h"
 #include "page/Scene/pagescenesetting.h"
-#include "page/engine/optiongrouprow.h"
 #include "platform/ending.h"
 #include "platform/systemclock.h"
 #include "relaunch.h"
@@ -112,13 +110,8 @@ void TestEnding::sessionEnd()
         start(10);
         const auto shown = [this] { return m_desk->desk.accessory().state().showsLive; };
         m_desk->desk.sound().play(playing(virtualdesk::Sound::Tone));
-        if (music)
-            qobject_cast<pageLEDMusic *>(m_window->page(PageId::LedMusic)->widget())
-                ->switchOptions()
-                ->buttonOf(1)
-                ->click();
-        else
-            ledWorkThread::instance()->begin(ledWorkThread::ClockLoop);
+        const PageId page = music ? PageId::LedMusic : PageId::LedSystem;
+        m_window->page(page)->widget()->findChild<QPushButton *>(music ? "Music Mode_Open" : "Clock_Open")->click();
         QTRY_VERIFY(shown());
         {
             const auto busy = lockTransport();

@@ -10,8 +10,6 @@ static std::mutex s_handleMutex;
 // All wait for the handle one behind the other: an upload, which takes it again at once, would keep the others out.
 static std::mutex s_queueMutex;
 
-static std::atomic<bool> s_showsLive = false;
-
 HidLock lockHid()
 {
     const std::lock_guard queue(s_queueMutex);
@@ -92,17 +90,7 @@ HidWrite writeHid(const AccessoryReport &report, const HidLock &)
     platform::HidDevice *device = hidHandle;
     if (!device)
         return HidWrite::NoHandle;
-    if (platform::desk().hid().write(device, report.written()) < 0)
-        return HidWrite::Failed;
-    const std::uint8_t command = report.bytes[0] == kCommandReport ? report.bytes[1] : 0;
-    if (command == kLiveCommand || command == kUploadCommand)
-        s_showsLive = command == kLiveCommand && report.bytes[2] == kLiveFrame;
-    return HidWrite::Done;
-}
-
-bool showsLivePicture()
-{
-    return s_showsLive;
+    return platform::desk().hid().write(device, report.written()) < 0 ? HidWrite::Failed : HidWrite::Done;
 }
 
 bool writePageReport(const AccessoryReport &report)

@@ -46,9 +46,6 @@ enum class HidWrite { Done, NoHandle, Failed };
 HidWrite writeHid(const AccessoryReport &report);
 HidWrite writeHid(const AccessoryReport &report, const HidLock &held);
 
-/// Whether a part of a live frame went out and neither a live stop nor an upload since.
-bool showsLivePicture();
-
 /// Writes a report of a page: without a handle it is left out, a failure is logged. Whether it went out.
 bool writePageReport(const AccessoryReport &report);
 

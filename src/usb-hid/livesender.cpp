@@ -37,15 +37,6 @@ void sendLiveFrame(std::span<const std::int32_t> cells)
     }
 }
 
-void endLivePicture()
-{
-    if (!showsLivePicture())
-        return;
-    AccessoryReport report;
-    buildLiveStop(report);
-    writePageReport(report);
-}
-
 void resetLiveLatch()
 {
     s_failed = false;

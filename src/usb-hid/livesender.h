@@ -8,8 +8,5 @@
 /// success only behind a failure. Safe from any thread, one at a time.
 void sendLiveFrame(std::span<const std::int32_t> cells);
 
-/// Takes the live picture off the matrix if there is one. For the program's end, when nobody sends frames any more.
-void endLivePicture();
-
 /// Begins the log anew, as if the last write had succeeded.
 void resetLiveLatch();

@@ -14,7 +14,6 @@
 #include "page/engine/commonoptions.h"
 #include "page/engine/optiongrouprow.h"
 #include "platform/desk.h"
-#include "usb-hid/hidtransport.h"
 
 namespace {
 
@@ -194,11 +193,8 @@ void pageLEDMusic::freeAccessory(bool sendStop)
         if (visual)
             visual->reset();
     }
-    if (!std::exchange(m_streams, false) || !sendStop)
-        return;
-    AccessoryReport report;
-    buildLiveStop(report);
-    writePageReport(report);
+    if (std::exchange(m_streams, false) && sendStop)
+        ledWorkThread::instance()->endDisplay();
 }
 
 void pageLEDMusic::onSoudanalyzerIsRun()
