@@ -3,20 +3,12 @@
 #include <atomic>
 #include <thread>
 
-#include <QComboBox>
-#include <QDeadlineTimer>
-#include <QFile>
-#include <QFileDialog>
-#include <QMessageBox>
-#include <QProgressBar>
-#include <QPushButton>
 #include <QtTest>
+#include <QtWidgets>
 
 #include "support/accessoryfixture.h"
 #include "support/answeredcanvas.h"
-#include "support/datarow.h"
 #include "support/fulldisk.h"
-#include "support/textfile.h"
 #include "usb-hid/accessoryupload.h"
 
 namespace {
@@ -31,7 +23,6 @@ class TestCanvasFiles : public AccessoryFixture
 {
     Q_OBJECT
 private Q_SLOTS:
-    void importRules_data();
     void importRules();
     void realDialogs();
     void exportInTabOrder();
@@ -42,54 +33,46 @@ private Q_SLOTS:
     void savedFlag();
     void upload_data();
     void upload();
-    void cancelledUpload_data();
     void cancelledUpload();
     void cancelledFiles();
     void timeLeft();
-    void shownAgain_data();
     void shownAgain();
     void leaving();
 };
 
-void TestCanvasFiles::importRules_data()
-{
-    columns<int, QByteArray, int, int>("form", "content", "frames", "litInFirst");
-    const QByteArray frame = QByteArray("1") + QByteArray(1048, '0') + QByteArray("1");
-    QTest::newRow("too short for a frame") << 1 << frame.first(1049) << 0 << 0;
-    QTest::newRow("one frame") << 1 << frame << 1 << 2;
-    QTest::newRow("a frame and a piece") << 1 << frame + frame.first(1049) << 1 << 2;
-    QTest::newRow("steps of 1050 for the tapering form too") << 0 << frame.repeated(2) << 2 << 1;
-    QTest::newRow("shifted on purpose") << 0 << kTapering.repeated(20) << 18 << 1;
-    QTest::newRow("aligned") << 0 << kTapering.repeated(20) << 20 << 1;
-    QTest::newRow("more than the maximum") << 1 << frame.repeated(193) << 192 << 2;
-    QTest::newRow("a million bytes") << 1 << QByteArray(1'000'000, '1') << 192 << 1050;
-    QTest::newRow("anything but 1 is dark") << 1 << QByteArray(1050, '\xff').replace(5, 2, "1\0", 2) << 1 << 1;
-}
-
 void TestCanvasFiles::importRules()
 {
-    QFETCH(int, form);
-    QFETCH(QByteArray, content);
-    QFETCH(int, frames);
-    const auto page = makePage(form);
-    page->addFrame();
-    QVERIFY(writeText(QStringLiteral("in.csv"), content));
-    page->fileName = QStringLiteral("in.csv");
-    const bool aligned = qstrcmp(QTest::currentDataTag(), "aligned") == 0;
-    QVERIFY(finish(*page, aligned ? &AnsweredCanvas::importAligned : &AnsweredCanvas::importAnimate));
-    QCOMPARE(page->tabs()->count(), frames); // those that were there are gone in any case
-    QCOMPARE(page->frameCounter(), frames);
-    if (frames > 0) {
-        QTEST(litCells(*page->tabs()->editor(0)), "litInFirst");
-        QCOMPARE(page->tabs()->tabText(0), QStringLiteral("1"));
+    const QByteArray frame = QByteArray("1") + QByteArray(1048, '0') + QByteArray("1");
+    for (const auto &[form, content, aligned, frames, litInFirst] :
+         {std::tuple(1, frame.first(1049), false, 0, 0),
+          {1, frame, false, 1, 2},
+          {1, frame + frame.first(1049), false, 1, 2},
+          {0, frame.repeated(2), false, 2, 1},       // steps of 1050 for the tapering form too
+          {0, kTapering.repeated(20), false, 18, 1}, // shifted on purpose
+          {0, kTapering.repeated(20), true, 20, 1},
+          {1, frame.repeated(193), false, 192, 2}, // more than the maximum
+          {1, QByteArray(1'000'000, '1'), false, 192, 1050},
+          {1, QByteArray(1050, '\xff').replace(5, 2, "1\0", 2), false, 1, 1}}) { // anything but 1 is dark
+        const auto page = makePage(form);
+        page->addFrame();
+        QVERIFY(writeText(QStringLiteral("in.csv"), content));
+        page->fileName = QStringLiteral("in.csv");
+        QVERIFY(finish(*page, aligned ? &AnsweredCanvas::importAligned : &AnsweredCanvas::importAnimate));
+        QCOMPARE(page->tabs()->count(), frames); // those that were there are gone in any case
+        QCOMPARE(page->frameCounter(), frames);
+        if (frames > 0) {
+            QCOMPARE(litCells(*page->tabs()->editor(0)), litInFirst);
+            QCOMPARE(page->tabs()->tabText(0), QStringLiteral("1"));
+        }
+        QVERIFY(m_desk->takeLog().contains(QStringLiteral("Frame size: %1").arg(frames)));
+        if (content.startsWith(kTapering))
+            QCOMPARE(page->tabs()->digits().count(kTapering), aligned ? 20 : 1);
+        QCOMPARE(page->work()->notice().isEmpty(),
+                 frames > 0 && content.size() < 193 * 1050); // what is left out is told
+        QCOMPARE(page->busyEvents, (QList<int>{1, 0}));
+        page->undo();
+        QCOMPARE(page->tabs()->count(), 2);
     }
-    QVERIFY(m_desk->takeLog().contains(QStringLiteral("Frame size: %1").arg(frames)));
-    if (content.startsWith(kTapering))
-        QCOMPARE(page->tabs()->digits().count(kTapering), aligned ? 20 : 1);
-    QCOMPARE(page->work()->notice().isEmpty(), frames > 0 && content.size() < 193 * 1050); // what is left out is told
-    QCOMPARE(page->busyEvents, (QList<int>{1, 0}));
-    page->undo();
-    QCOMPARE(page->tabs()->count(), 2);
 }
 
 /// The real dialogs and boxes, which the other tests answer themselves.
@@ -212,8 +195,7 @@ void TestCanvasFiles::faultsLeaveThePageUsable_data()
 
 void TestCanvasFiles::faultsLeaveThePageUsable()
 {
-    QFETCH(bool, imports);
-    QFETCH(QString, fileName);
+    const auto [fileName, imports] = fetch<QString, bool>();
     QDir().mkdir(QStringLiteral("folder"));
     if (fileName == QStringLiteral("readonly.csv")) {
         if (geteuid() == 0)
@@ -280,10 +262,7 @@ void TestCanvasFiles::upload_data()
 
 void TestCanvasFiles::upload()
 {
-    QFETCH(bool, connected);
-    QFETCH(bool, fileGoes);
-    QFETCH(int, pulledAt);
-    QFETCH(QString, notice);
+    const auto [connected, fileGoes, pulledAt, shown, notice] = fetch<bool, bool, int, int, QString>();
     connectDevice();
     const auto page = makePage();
     page->findChild<QComboBox *>()->setCurrentIndex(4);
@@ -298,7 +277,7 @@ void TestCanvasFiles::upload()
     const QByteArrayList before = page->tabs()->digits();
     QVERIFY(finish(*page, &AnsweredCanvas::writeAnimate));
     QCOMPARE(page->tabs()->digits(), before);
-    QTEST(page->work()->progressBar()->value(), "shown");
+    QCOMPARE(page->work()->progressBar()->value(), shown);
     QVERIFY(notice.isEmpty() ? page->work()->notice().isEmpty() : page->work()->notice().startsWith(notice));
     QCOMPARE(m_desk->clock.takeWaits().count(), connected ? 6 : 0);
     const virtualdesk::AccessoryUpload upload = accessory().state().upload;
@@ -308,56 +287,51 @@ void TestCanvasFiles::upload()
     QCOMPARE(page->busyEvents.count(), connected ? 4 : 2);
 }
 
-void TestCanvasFiles::cancelledUpload_data()
-{
-    columns<int, bool>("heldAt", "complete"); // chunks that are out when Cancel is pressed
-    QTest::newRow("in the first wait") << 0 << false;
-    QTest::newRow("in the chunks") << 3 << false;
-    QTest::newRow("at the last chunk") << 17 << true;
-}
-
 void TestCanvasFiles::cancelledUpload()
 {
-    QFETCH(int, heldAt);
-    QFETCH(bool, complete);
-    connectDevice();
-    const auto page = makePage();
-    QPushButton other(page.get());
-    other.show();
-    page->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(page.get()));
-    QVERIFY(finish(*page, &AnsweredCanvas::saveAnimate));
-    QPushButton *write = page->button("Write Animate");
-    write->setFocus();
-    const std::stop_token stop = uploadStop();
-    std::atomic<bool> held = false;
-    const int listener = accessory().addListener([&] {
-        if (accessory().state().upload.received != heldAt || stop.stop_requested())
-            return;
-        held = true;
-        for (const QDeadlineTimer patience(10000); !stop.stop_requested() && !patience.hasExpired();)
-            std::this_thread::yield();
-    });
-    page->writeAnimate();
-    QTRY_VERIFY(held);
-    QCOMPARE(page->focusWidget(), page->work()->cancelButton());
-    if (heldAt == 0)
-        QCOMPARE(page->work()->timeText(), QStringLiteral("7 s left"));
-    page->updateControlText(); // another language meanwhile, and another form
-    matrixForm = heldAt == 3 ? kRectangleForm : kTaperingForm;
-    page->updateInterfaceData();
-    if (complete)
-        other.setFocus(); // the user goes elsewhere
-    QTest::keyClick(page->work()->cancelButton(), Qt::Key_Space);
-    QTRY_VERIFY(!page->isBusy());
-    accessory().removeListener(listener);
-    QCOMPARE(accessory().state().upload.isComplete(), complete);
-    QCOMPARE(page->work()->notice().isEmpty(), complete);
-    QCOMPARE(page->work()->progressBar()->isVisible(), complete);
-    QCOMPARE(page->busyEvents, (QList<int>{1, 0, 1, 0}));
-    QCOMPARE(page->tabs()->digits().first().size(), matrixCells(matrixForm)); // which is followed now
-    if (heldAt != 3)                                                          // where there is nothing saved to write
-        QCOMPARE(page->focusWidget(), complete ? &other : write);
+    for (const int heldAt : {0, 3, 17}) { // chunks that are out when Cancel is pressed: none, some, and all
+        const bool complete = heldAt == 17;
+        connectDevice();
+        const auto page = makePage();
+        QPushButton other(page.get());
+        other.show();
+        page->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(page.get()));
+        QVERIFY(finish(*page, &AnsweredCanvas::saveAnimate));
+        QPushButton *write = page->button("Write Animate");
+        write->setFocus();
+        const std::stop_token stop = uploadStop();
+        std::atomic<bool> held = false;
+        const int listener = accessory().addListener([&] {
+            if (accessory().state().upload.received != heldAt || stop.stop_requested())
+                return;
+            held = true;
+            for (const QDeadlineTimer patience(10000); !stop.stop_requested() && !patience.hasExpired();)
+                std::this_thread::yield();
+        });
+        page->writeAnimate();
+        QTRY_VERIFY(held);
+        QCOMPARE(page->focusWidget(), page->work()->cancelButton());
+        if (heldAt == 0)
+            QCOMPARE(page->work()->timeText(), QStringLiteral("7 s left"));
+        page->updateControlText(); // another language meanwhile, and another form
+        matrixForm = heldAt == 3 ? kRectangleForm : kTaperingForm;
+        page->updateInterfaceData();
+        if (complete)
+            other.setFocus(); // the user goes elsewhere
+        QTest::keyClick(page->work()->cancelButton(), Qt::Key_Space);
+        QTRY_VERIFY(!page->isBusy());
+        accessory().removeListener(listener);
+        QCOMPARE(accessory().state().upload.isComplete(), complete);
+        QCOMPARE(page->work()->notice().isEmpty(), complete);
+        QCOMPARE(page->work()->progressBar()->isVisible(), complete);
+        QCOMPARE(page->busyEvents, (QList<int>{1, 0, 1, 0}));
+        QCOMPARE(page->tabs()->digits().first().size(), matrixCells(matrixForm)); // which is followed now
+        if (heldAt != 3) // where there is nothing saved to write
+            QCOMPARE(page->focusWidget(), complete ? &other : write);
+        cleanup();
+        init();
+    }
 }
 
 void TestCanvasFiles::cancelledFiles()
@@ -390,43 +364,36 @@ void TestCanvasFiles::timeLeft()
         QCOMPARE(::timeLeft(steps, std::size_t(step), progress, milliseconds(gone)).count(), left);
 }
 
-void TestCanvasFiles::shownAgain_data()
-{
-    columns<int, QByteArray, int, int>("form", "content", "frames", "shownIn"); // -1: nowhere
-    const QByteArray other = QByteArray(949, '1');
-    QTest::newRow("of this form") << 0 << other.repeated(3) << 3 << 0;
-    QTest::newRow("of the other form") << 1 << other.repeated(3) << 3 << 0;
-    QTest::newRow("the most that can be drawn") << 1 << QByteArray(1050 * 193, '1') << 193 << 1;
-    QTest::newRow("more than can be drawn") << 1 << QByteArray(1050 * 194, '1') << 1 << -1;
-    QTest::newRow("a piece at its end") << 0 << other + "1" << 1 << -1;
-    QTest::newRow("something else") << 0 << QByteArray(949, 'x') << 1 << -1;
-}
-
 void TestCanvasFiles::shownAgain()
 {
-    QFETCH(int, form);
-    QFETCH(QByteArray, content);
-    QFETCH(int, frames);
-    QFETCH(int, shownIn);
-    QVERIFY(writeText(QLatin1String(kDataFile), content));
-    const auto page = makePage(form);
-    QCOMPARE(page->work()->notice().isEmpty(), shownIn >= 0);
-    QVERIFY(page->dataFile().isEmpty() && !page->button("Write Animate")->isEnabled());
-    matrixForm = shownIn >= 0 ? shownIn : form;
-    page->updateInterfaceData();
-    QCOMPARE(page->tabs()->count(), frames);
-    if (shownIn >= 0)
-        QCOMPARE(page->tabs()->digits().join(), content);
-    QVERIFY(page->mayLeave());
-    QCOMPARE(page->timesAsked, 0);
-    QCOMPARE(readText(QLatin1String(kDataFile)), content);
-    if (frames != 193)
-        return;
+    const QByteArray other(949, '1');
     connectDevice();
-    const QString count = page->findChild<QLabel *>(QStringLiteral("note"))->text();
-    QCOMPARE(count, QStringLiteral("Frames: 193, of which the accessory takes 173"));
-    QVERIFY(finish(*page, &AnsweredCanvas::saveAnimate) && finish(*page, &AnsweredCanvas::writeAnimate));
-    QCOMPARE(page->work()->notice(), QStringLiteral("The accessory takes 173 of the 193 frames."));
+    for (const auto &[form, content, frames, shownIn] : // -1: nowhere
+         {std::tuple(0, other.repeated(3), 3, 0),
+          {1, other.repeated(3), 3, 0},
+          {1, QByteArray(1050 * 194, '1'), 1, -1}, // more than can be drawn
+          {0, other + "1", 1, -1},
+          {0, QByteArray(949, 'x'), 1, -1},
+          {1, QByteArray(1050 * 193, '1'), 193, 1}}) {
+        QVERIFY(writeText(QLatin1String(kDataFile), content));
+        const auto page = makePage(form);
+        QCOMPARE(page->work()->notice().isEmpty(), shownIn >= 0);
+        QVERIFY(page->dataFile().isEmpty() && !page->button("Write Animate")->isEnabled());
+        matrixForm = shownIn >= 0 ? shownIn : form;
+        page->updateInterfaceData();
+        QCOMPARE(page->tabs()->count(), frames);
+        if (shownIn >= 0)
+            QCOMPARE(page->tabs()->digits().join(), content);
+        QVERIFY(page->mayLeave());
+        QCOMPARE(page->timesAsked, 0);
+        QCOMPARE(readText(QLatin1String(kDataFile)), content);
+        if (frames != 193)
+            continue;
+        const QString count = page->findChild<QLabel *>(QStringLiteral("note"))->text();
+        QCOMPARE(count, QStringLiteral("Frames: 193, of which the accessory takes 173"));
+        QVERIFY(finish(*page, &AnsweredCanvas::saveAnimate) && finish(*page, &AnsweredCanvas::writeAnimate));
+        QCOMPARE(page->work()->notice(), QStringLiteral("The accessory takes 173 of the 193 frames."));
+    }
 }
 
 void TestCanvasFiles::leaving()

@@ -1,18 +1,10 @@
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTextDocument>
 #include <QtTest>
+#include <QtWidgets>
 
-#include "ddc_protocol/devicestate.h"
-#include "ddc_protocol/displayenumeration.h"
 #include "following/followlist.h"
 #include "page/Following/followrow.h"
 #include "page/Following/pagescenariofollowing.h"
-#include "support/datarow.h"
 #include "support/deskfixture.h"
-#include "support/textfile.h"
 
 using namespace std::chrono_literals;
 
@@ -34,7 +26,7 @@ protected:
 
 } // namespace
 
-class TestFollowing : public QObject
+class TestFollowing : public DeskSuite
 {
     Q_OBJECT
 private Q_SLOTS:
@@ -46,7 +38,6 @@ private Q_SLOTS:
     void nothingToFollow();
     void changesCountWhenApplied();
     void fileNames();
-    void loading_data();
     void loading();
     void veryLongFile();
 
@@ -56,14 +47,13 @@ private:
     FollowRow *row(std::size_t index) const { return m_page->followRow(index); }
     QPushButton *button(const char *name) const { return m_page->findChild<QPushButton *>(QLatin1String(name)); }
 
-    std::unique_ptr<DeskFixture> m_desk;
     std::unique_ptr<TestedPage> m_page;
     qint64 m_waited = 0; ///< ms from a program's coming to the front to the last request
 };
 
 void TestFollowing::init()
 {
-    m_desk = std::make_unique<DeskFixture>();
+    DeskSuite::init();
     findDevices();
     m_desk->desk.applications().setList({{QStringLiteral("D:\\Games\\Race.exe")},
                                          {QStringLiteral("C:\\Film\\film.exe")},
@@ -79,7 +69,7 @@ void TestFollowing::cleanup()
 {
     m_page.reset();
     QCOMPARE(m_desk->desk.applications().processesOpen(), 0);
-    m_desk.reset();
+    DeskSuite::cleanup();
 }
 
 void TestFollowing::start(const std::vector<FollowEntry> &entries)
@@ -217,35 +207,27 @@ void TestFollowing::fileNames()
     QVERIFY(m_page->notice().contains(QStringLiteral("Race.exe")));
 }
 
-void TestFollowing::loading_data()
-{
-    columns<QByteArray, QStringList>("text", "rows"); // path and scene that is shown
-    QTest::newRow("nothing") << QByteArray() << QStringList();
-    QTest::newRow("missing keys") << QByteArray("[a.exe]\nappScence=3\n[b.exe]\nappPath=C:/b.exe\n")
-                                  << QStringList{"C:/b.exe 0"};
-    QTest::newRow("no such scene") << QByteArray("[a.exe]\nappPath=C:/a.exe\nappScence=12\n"
-                                                 "[b.exe]\nappPath=C:/b.exe\nappScence=-1\n"
-                                                 "[c.exe]\nappPath=C:/c.exe\nappScence=x\n")
-                                   << QStringList{"C:/a.exe 0", "C:/b.exe 0", "C:/c.exe 0"};
-    QTest::newRow("comma without quotes")
-        << QByteArray("[a.exe]\nappPath=C:/x, y/a.exe\nappScence=1\n") << QStringList{"C:/x, y/a.exe 1"};
-    QTest::newRow("two groups, one file")
-        << QByteArray("[a]\nappPath=C:/a.exe\n[b]\nappPath=D:/a.exe\n") << QStringList{"C:/a.exe 0"};
-    QTest::newRow("no group") << QByteArray("appPath=C:/a.exe\n") << QStringList();
-    QTest::newRow("a folder") << QByteArray("[a]\nappPath=C:/\n[b]\nappPath=\n") << QStringList();
-    QTest::newRow("another program's file") << QByteArray("<html>\n\1\2\3\n[a]\nx=1\n") << QStringList();
-}
-
 void TestFollowing::loading()
 {
-    QFETCH(QByteArray, text);
-    QFETCH(QStringList, rows);
-    writeText(kFile, text);
-    m_page = std::make_unique<TestedPage>();
-    QStringList shown;
-    for (std::size_t i = 0; i < m_page->programs().size(); ++i)
-        shown.append(QStringLiteral("%1 %2").arg(row(i)->path()).arg(row(i)->sceneBox()->currentIndex()));
-    QCOMPARE(shown, rows);
+    for (const auto &[text, rows] : // path and scene that is shown
+         {std::pair(QByteArray(), QStringList()),
+          {"[a.exe]\nappScence=3\n[b.exe]\nappPath=C:/b.exe\n", {"C:/b.exe 0"}},
+          {"[a.exe]\nappPath=C:/a.exe\nappScence=12\n[b.exe]\nappPath=C:/b.exe\nappScence=-1\n"
+           "[c.exe]\nappPath=C:/c.exe\nappScence=x\n",
+           {"C:/a.exe 0", "C:/b.exe 0", "C:/c.exe 0"}},
+          {"[a.exe]\nappPath=C:/x, y/a.exe\nappScence=1\n", {"C:/x, y/a.exe 1"}}, // a comma without quotes
+          {"[a]\nappPath=C:/a.exe\n[b]\nappPath=D:/a.exe\n", {"C:/a.exe 0"}},     // two groups, one file
+          {"appPath=C:/a.exe\n", {}},
+          {"[a]\nappPath=C:/\n[b]\nappPath=\n", {}}, // no group, no file
+          {"<html>\n\1\2\3\n[a]\nx=1\n", {}}}) {
+        writeText(kFile, text);
+        m_page.reset();
+        m_page = std::make_unique<TestedPage>();
+        QStringList shown;
+        for (std::size_t i = 0; i < m_page->programs().size(); ++i)
+            shown.append(QStringLiteral("%1 %2").arg(row(i)->path()).arg(row(i)->sceneBox()->currentIndex()));
+        QCOMPARE(shown, rows);
+    }
 }
 
 void TestFollowing::veryLongFile()

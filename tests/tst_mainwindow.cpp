@@ -1,50 +1,14 @@
-#include <QAbstractScrollArea>
-#include <QAccessible>
-#include <QCloseEvent>
 #include <QtTest>
+#include <QtWidgets>
 
-#include "controls/lefttabbutton.h"
-#include "controls/sliderwidget.h"
-#include "ddc_protocol/displayenumeration.h"
-#include "ddc_protocol/transport.h"
-#include "leftbar.h"
 #include "page/Office/pageoffice.h"
-#include "page/Scene/pagescenesetting.h"
 #include "page/emptypage.h"
-#include "page/engine/optiongrouprow.h"
-#include "page/engine/page.h"
 #include "support/windowfixture.h"
 #include "support/wirevalues.h"
-#include "toptab.h"
-#include "toptabframe.h"
 
-class TestMainWindow : public WindowFixture
-{
-    Q_OBJECT
-private Q_SLOTS:
-    void constructionSendsNothing();
-    void openingFamily();
-    void entriesByModel();
-    void entriesSwitchTheScene();
-    void entrySwitchesTheScene();
-    void otherEntriesNameThemselves();
-    void interfaceModes();
-    void unreadableBlockIsTriedOnce();
-    void closingHides();
-    void dragging();
-    void refreshKeepsADraggedValue();
-    void reconnectShowsTheMonitorsState();
-    void reconnectTakesTheMode();
-    void unpluggingAndPlugging();
-    void keyboardWalksTheTabs();
+namespace {
 
-private:
-    QStringList shownTexts(const QWidget *page) const;
-    QStringList mute(const QWidget *page) const;
-    QString status() const;
-};
-
-QStringList TestMainWindow::shownTexts(const QWidget *page) const
+QStringList shownTexts(const QWidget *page)
 {
     QStringList texts;
     for (const QLabel *label : page->findChildren<QLabel *>())
@@ -53,7 +17,7 @@ QStringList TestMainWindow::shownTexts(const QWidget *page) const
 }
 
 /// What can be seen and says nothing: labels without text and picture, and controls without a name.
-QStringList TestMainWindow::mute(const QWidget *page) const
+QStringList mute(const QWidget *page)
 {
     QStringList found;
     for (QWidget *part : page->findChildren<QWidget *>()) {
@@ -69,6 +33,29 @@ QStringList TestMainWindow::mute(const QWidget *page) const
     return found;
 }
 
+} // namespace
+
+class TestMainWindow : public WindowFixture
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void frameByItself();
+    void openingFamily();
+    void entriesByModel();
+    void entriesSwitchTheScene();
+    void entrySwitchesTheScene();
+    void otherEntriesNameThemselves();
+    void interfaceModes();
+    void unreadableBlockIsTriedOnce();
+    void refreshKeepsADraggedValue();
+    void reconnectShowsTheMonitorsState();
+    void reconnectTakesTheMode();
+    void unpluggingAndPlugging();
+
+private:
+    QString status() const;
+};
+
 QString TestMainWindow::status() const
 {
     for (const QLabel *label : m_window->findChildren<QLabel *>()) {
@@ -78,12 +65,36 @@ QString TestMainWindow::status() const
     return {};
 }
 
-void TestMainWindow::constructionSendsNothing()
+/// Made without a word to the monitor, walked through by keys, dragged, and closed to the tray.
+void TestMainWindow::frameByItself()
 {
     start(10);
     QCOMPARE(m_desk->takeRequests(), QStringList());
     QVERIFY(!commandsSuspended);
     QCOMPARE(static_cast<quint32>(m_window->windowFlags() & ~Qt::WindowType_Mask), 0xC800u);
+    const auto &tabs = m_window->tabs()->tabs();
+    m_window->activateWindow();
+    tabs[1]->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(tabs[1], Qt::Key_Right);
+    QTest::keyClick(tabs[2], Qt::Key_Space);
+    QCOMPARE(m_window->tabs()->current(), 2);
+    for (const std::size_t i : {0, 1, 2}) // as assistive software sees it
+        QCOMPARE(bool(QAccessible::queryAccessibleInterface(tabs[i])->state().checked), i == 2);
+    QCOMPARE(tabs[2]->accessibleName(), QStringLiteral("Color Space"));
+
+    const QPoint before = m_window->pos();
+    for (const QPoint &to : {QPoint(150, 720), QPoint(300, 300)}) { // dragged; and after the button was released
+        if (to.x() == 150)
+            QTest::mousePress(m_window.get(), Qt::LeftButton, {}, QPoint(120, 740));
+        QTest::mouseMove(m_window.get(), to);
+        QCOMPARE(m_window->pos() - before, QPoint(30, -20));
+        QTest::mouseRelease(m_window.get(), Qt::LeftButton, {}, QPoint(120, 740));
+    }
+    QCloseEvent event;
+    QCoreApplication::sendEvent(m_window.get(), &event);
+    QVERIFY(!event.isAccepted() && m_window->isHidden());
+    m_window->showWindow();
+    QVERIFY(m_window->isVisible());
 }
 
 void TestMainWindow::openingFamily()
@@ -222,29 +233,6 @@ void TestMainWindow::unreadableBlockIsTriedOnce()
     QCOMPARE(m_desk->clock.tasksWaiting(), std::size_t(0));
 }
 
-void TestMainWindow::closingHides()
-{
-    start(10);
-    QCloseEvent event;
-    QCoreApplication::sendEvent(m_window.get(), &event);
-    QVERIFY(!event.isAccepted());
-    QVERIFY(m_window->isHidden());
-    m_window->showWindow();
-    QVERIFY(m_window->isVisible());
-}
-
-void TestMainWindow::dragging()
-{
-    start(10);
-    const QPoint before = m_window->pos();
-    QTest::mousePress(m_window.get(), Qt::LeftButton, {}, QPoint(120, 740));
-    QTest::mouseMove(m_window.get(), QPoint(150, 720));
-    QCOMPARE(m_window->pos() - before, QPoint(30, -20));
-    QTest::mouseRelease(m_window.get(), Qt::LeftButton, {}, QPoint(120, 740));
-    QTest::mouseMove(m_window.get(), QPoint(300, 300));
-    QCOMPARE(m_window->pos() - before, QPoint(30, -20));
-}
-
 void TestMainWindow::refreshKeepsADraggedValue()
 {
     start(10);
@@ -306,20 +294,6 @@ void TestMainWindow::unpluggingAndPlugging()
     m_desk->clock.advance(platform::milliseconds(1000));
     QCOMPARE(status(), QStringLiteral("1. Q27-OLED connected"));
     QCOMPARE(m_desk->desk.handleFaults(), 0);
-}
-
-void TestMainWindow::keyboardWalksTheTabs()
-{
-    start(10);
-    const auto &tabs = m_window->tabs()->tabs();
-    m_window->activateWindow();
-    tabs[1]->setFocus(Qt::TabFocusReason);
-    QTest::keyClick(tabs[1], Qt::Key_Right);
-    QTest::keyClick(tabs[2], Qt::Key_Space);
-    QCOMPARE(m_window->tabs()->current(), 2);
-    for (const std::size_t i : {0, 1, 2}) // as assistive software sees it
-        QCOMPARE(bool(QAccessible::queryAccessibleInterface(tabs[i])->state().checked), i == 2);
-    QVERIFY(tabs[2]->accessibleName() == "Color Space");
 }
 
 QTEST_MAIN(TestMainWindow)
