@@ -201,12 +201,14 @@ void TestShortcutPage::switches()
 void TestShortcutPage::refusedKeysAreShown()
 {
     m_desk->desk.hotKeys().take(kControl, 'K');
-    start({{1, true, QStringLiteral("Ctrl+K"), QStringLiteral("Ctrl+L")}});
+    const QString key = QStringLiteral("Ctrl+K");
+    start({{1, true, key, QStringLiteral("Ctrl+L")}, {2, true, key, key}});
     QVERIFY(row(0)->isTaken(0));
     QVERIFY(!row(0)->isTaken(1));
+    QCOMPARE(row(1)->findChild<QLabel *>(QStringLiteral("problem"))->text().count(key), 1);
     const auto *problem = row(0)->findChild<QLabel *>(QStringLiteral("problem"));
     QVERIFY(!problem->isHidden());
-    QVERIFY(problem->text().contains(QStringLiteral("Ctrl+K")));
+    QVERIFY(problem->text().contains(key));
     QTest::keyClick(row(0)->plusEdit(), Qt::Key_J, Qt::ControlModifier);
     button("pushButtonAppli")->click();
     QVERIFY(problem->isHidden());

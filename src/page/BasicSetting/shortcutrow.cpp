@@ -134,7 +134,7 @@ void ShortcutRow::showProblems()
 {
     QStringList taken;
     for (const Side &side : m_sides) {
-        if (!side.refused.isEmpty())
+        if (!side.refused.isEmpty() && !taken.contains(side.refused))
             taken.append(side.refused);
     }
     m_problem->setVisible(!taken.isEmpty());
