@@ -99,6 +99,7 @@ void WorkPanel::showProgress(int value)
     if (value >= m_steps[m_now].to && m_now + 1 < m_steps.size()) {
         value = m_steps[++m_now].from;
         m_stepBegan = now;
+        m_bar->setValue(value); // or the next step would begin where the last one ended
     }
     showStep(timeLeft(m_steps, m_now, value, milliseconds(m_stepBegan.msecsTo(now))));
 }
