@@ -7,8 +7,8 @@
 
 #include "ledmatrix/matrixform.h"
 #include "page/Nightloom/audioled.h"
-#include "support/datarow.h"
 #include "support/sounds.h"
+#include "support/textfile.h"
 #include "virtualdesk/deskscript.h"
 
 using namespace virtualdesk;
@@ -40,58 +40,50 @@ class TestAudio : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void fillsEveryColumn_data();
     void fillsEveryColumn();
     void peaksFall();
-    void readsWaveFiles_data();
     void readsWaveFiles();
     void readsAudioScripts();
 };
 
-void TestAudio::fillsEveryColumn_data()
-{
-    columns<int>("form");
-    row("tapering", kTaperingForm);
-    row("rectangle", kRectangleForm);
-}
-
 void TestAudio::fillsEveryColumn()
 {
-    QFETCH(int, form);
-    const auto bars = makeAudioBars(form);
-    int cells = 0;
-    for (std::size_t bar = 0; bar < kSpectrumBands; ++bar)
-        cells += bars->depth(bar);
-    const int width = form == kTaperingForm ? 1 : 2;
-    QCOMPARE(litCells(drawn(*bars, AudioTemplate::Bars, highest(form))), cells * width);
-    QCOMPARE(litCells(drawn(*bars, AudioTemplate::Bars, Levels(11, 1))), 11 * width); // the lowest height is a dot
-    QCOMPARE(litCells(drawn(*bars, AudioTemplate::Bars, Levels(11, 0))), 0);
-    // Far too high, negative, too few and too many.
-    QCOMPARE(litCells(drawn(*bars, AudioTemplate::Mirrored, Levels(20, INT32_MAX))), cells * width);
-    QCOMPARE(litCells(drawn(*bars, AudioTemplate::Hanging, Levels(3, INT32_MIN))), 0);
-    bars->reset();
-    QCOMPARE(litCells(drawn(*bars, AudioTemplate::Peaks, Levels())), 0);
+    for (const int form : {kTaperingForm, kRectangleForm}) {
+        const auto bars = makeAudioBars(form);
+        int cells = 0;
+        for (std::size_t bar = 0; bar < kSpectrumBands; ++bar)
+            cells += bars->depth(bar);
+        const int width = form == kTaperingForm ? 1 : 2;
+        QCOMPARE(litCells(drawn(*bars, AudioTemplate::Bars, highest(form))), cells * width);
+        QCOMPARE(litCells(drawn(*bars, AudioTemplate::Bars, Levels(11, 1))), 11 * width); // the lowest height is a dot
+        QCOMPARE(litCells(drawn(*bars, AudioTemplate::Bars, Levels(11, 0))), 0);
+        // Far too high, negative, too few and too many.
+        QCOMPARE(litCells(drawn(*bars, AudioTemplate::Mirrored, Levels(20, INT32_MAX))), cells * width);
+        QCOMPARE(litCells(drawn(*bars, AudioTemplate::Hanging, Levels(3, INT32_MIN))), 0);
+        bars->reset();
+        QCOMPARE(litCells(drawn(*bars, AudioTemplate::Peaks, Levels())), 0);
 
-    // The bars stand side by side: the middle one reaches as far down as the form, and none shares a cell.
-    const std::size_t rows = matrixRows(form).size();
-    QCOMPARE(bars->depth(5), static_cast<int>(rows));
-    for (std::size_t bar = 0; bar < 5; ++bar)
-        QVERIFY(form == kRectangleForm ? bars->depth(bar) == 25 : bars->depth(bar) < bars->depth(bar + 1));
-    MatrixFrame frame(form);
-    frame.setFlat(drawn(*bars, AudioTemplate::Bars, {0, 0, 0, 0, 0, INT32_MAX}));
-    for (const MatrixFrame::Row &row : frame.rows())
-        QCOMPARE(litCells(row), width);
+        // The bars stand side by side: the middle one reaches as far down as the form, and none shares a cell.
+        const std::size_t rows = matrixRows(form).size();
+        QCOMPARE(bars->depth(5), static_cast<int>(rows));
+        for (std::size_t bar = 0; bar < 5; ++bar)
+            QVERIFY(form == kRectangleForm ? bars->depth(bar) == 25 : bars->depth(bar) < bars->depth(bar + 1));
+        MatrixFrame frame(form);
+        frame.setFlat(drawn(*bars, AudioTemplate::Bars, {0, 0, 0, 0, 0, INT32_MAX}));
+        for (const MatrixFrame::Row &row : frame.rows())
+            QCOMPARE(litCells(row), width);
 
-    const Levels half(11, 3 * spectrumLimits(form)[0] / 2);
-    std::set<Levels> pictures;
-    for (const auto which : {AudioTemplate::Mirrored, AudioTemplate::Bars, AudioTemplate::Hanging})
-        pictures.insert(drawn(*bars, which, half));
-    QCOMPARE(pictures.size(), 3u);
-    frame.setFlat(bars->frame());
-    QVERIFY(litCells(frame.rows().front()) > 0);
-    frame.setFlat(drawn(*bars, AudioTemplate::Bars, half));
-    QCOMPARE(litCells(frame.rows().back()), form == kRectangleForm ? 22 : 1);
-    QVERIFY(!makeAudioBars(2));
+        const Levels half(11, 3 * spectrumLimits(form)[0] / 2);
+        std::set<Levels> pictures;
+        for (const auto which : {AudioTemplate::Mirrored, AudioTemplate::Bars, AudioTemplate::Hanging})
+            pictures.insert(drawn(*bars, which, half));
+        QCOMPARE(pictures.size(), 3u);
+        frame.setFlat(bars->frame());
+        QVERIFY(litCells(frame.rows().front()) > 0);
+        frame.setFlat(drawn(*bars, AudioTemplate::Bars, half));
+        QCOMPARE(litCells(frame.rows().back()), form == kRectangleForm ? 22 : 1);
+        QVERIFY(!makeAudioBars(2));
+    }
 }
 
 void TestAudio::peaksFall()
@@ -111,47 +103,40 @@ void TestAudio::peaksFall()
     QCOMPARE(litCells(bars->frame()), 11 * 2); // it has come down to the bar
 }
 
-void TestAudio::readsWaveFiles_data()
+void TestAudio::readsWaveFiles()
 {
-    columns<QByteArray, int>("bytes", "frames");
     const auto format = [](char tag, char channels, char bits) {
         return QByteArray("fmt \x10\0\0\0", 8) + tag + '\0' + channels + QByteArray("\0\x80\xBB\0\0\0\0\0\0\0\0", 11) +
                bits + '\0';
     };
     const QByteArray head("RIFF\0\0\0\0WAVE", 12);
     const QByteArray data("data\x08\0\0\0\0\x40\0\xC0\0\x40\0\xC0", 16);
-    row("16 bits, two channels", head + format(1, 2, 16) + data, 2);
-    row("floats, behind a list", head + QByteArray("LIST\x01\0\0\0x\0", 10) + format(3, 1, 32) + data, 2);
-    row("floats beyond the scale", // no number, and -8
-        head + format(3, 1, 32) + QByteArray("data\x08\0\0\0\0\0\xC0\x7F\0\0\0\xC1", 16), 2);
-    row("cut off", (head + format(1, 1, 16) + data).chopped(3), 2);
-    row("length beyond the end", head + format(1, 1, 16) + QByteArray("data\xFF\xFF\xFF\xFFxx", 10), 1);
-    row("24 bits", head + format(1, 2, 24) + data, -1);
-    row("no channel", head + format(1, 0, 16) + data, -1);
-    row("no data", head + format(1, 1, 16), -1);
-    row("no format", head + data, -1);
-    row("empty", QByteArray(), -1);
-}
-
-void TestAudio::readsWaveFiles()
-{
-    QFETCH(QByteArray, bytes);
-    QFETCH(int, frames);
-    QTemporaryDir folder;
-    QFile file(folder.filePath("x.wav"));
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-    file.close();
-    QString error;
-    const auto wave = readWave(file.fileName(), error);
-    QCOMPARE(wave.has_value(), frames >= 0);
-    QCOMPARE(error.isEmpty(), frames >= 0);
-    if (!wave)
-        return;
-    QCOMPARE(wave->frames(), static_cast<std::size_t>(frames));
-    SoundSetup sound = playing(Sound::Wave);
-    sound.wave = std::make_shared<const WaveData>(*wave);
-    for (const int place : {-3, 0, 1}) // the first one with a clock that was set back
-        QVERIFY(std::abs(sound.sample(place, 0, wave->sampleRate)) <= 0.5);
+    for (const auto &[bytes, frames] :
+         {std::pair(QByteArray(head + format(1, 2, 16) + data), 2),
+          {head + QByteArray("LIST\x01\0\0\0x\0", 10) + format(3, 1, 32) + data, 2},
+          {head + format(3, 1, 32) + QByteArray("data\x08\0\0\0\0\0\xC0\x7F\0\0\0\xC1", 16), 2}, // no number, and -8
+          {QByteArray(head + format(1, 1, 16) + data).chopped(3), 2},
+          {head + format(1, 1, 16) + QByteArray("data\xFF\xFF\xFF\xFFxx", 10), 1}, // a length beyond the end
+          {head + format(1, 2, 24) + data, -1},
+          {head + format(1, 0, 16) + data, -1},
+          {head + format(1, 1, 16), -1},
+          {head + data, -1},
+          {QByteArray(), -1}}) {
+        const QTemporaryDir folder;
+        const QString fileName = folder.filePath("x.wav");
+        QVERIFY(writeText(fileName, bytes));
+        QString error;
+        const auto wave = readWave(fileName, error);
+        QCOMPARE(wave.has_value(), frames >= 0);
+        QCOMPARE(error.isEmpty(), frames >= 0);
+        if (!wave)
+            continue;
+        QCOMPARE(wave->frames(), static_cast<std::size_t>(frames));
+        SoundSetup sound = playing(Sound::Wave);
+        sound.wave = std::make_shared<const WaveData>(*wave);
+        for (const int place : {-3, 0, 1}) // the first one with a clock that was set back
+            QVERIFY(std::abs(sound.sample(place, 0, wave->sampleRate)) <= 0.5);
+    }
 }
 
 void TestAudio::readsAudioScripts()

@@ -1,9 +1,6 @@
 #include <QtTest>
 
-#include "ddc_protocol/displayenumeration.h"
 #include "ddc_protocol/edid.h"
-#include "ddc_protocol/transport.h"
-#include "support/datarow.h"
 #include "support/deskfixture.h"
 
 namespace {
@@ -24,50 +21,33 @@ QByteArray edidOf(const QList<QPair<int, QByteArray>> &descriptors, int size = 1
 
 } // namespace
 
-class TestDisplays : public QObject
+class TestDisplays : public DeskSuite
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init() { m_desk = std::make_unique<DeskFixture>(); }
-    void cleanup() { m_desk.reset(); }
-    void modelName_data();
     void modelName();
-    void randomBytesNeverCrash();
     void projection();
-    void labels_data();
     void labels();
     void unreadableEdidDropsTheDisplay();
     void secondMonitorMakesInternalExternal();
     void handles();
-
-private:
-    std::unique_ptr<DeskFixture> m_desk;
 };
-
-void TestDisplays::modelName_data()
-{
-    columns<QByteArray, QString>("edid", "name");
-    const QByteArray name = "Q27-OLED\n    ";
-    QTest::newRow("empty") << QByteArray() << QString();
-    QTest::newRow("127 bytes") << edidOf({{54, name}}, 127) << QString();
-    QTest::newRow("last descriptor") << edidOf({{108, name}}) << "Q27-OLED";
-    QTest::newRow("256 bytes") << edidOf({{54, name}}, 256) << "Q27-OLED";
-    QTest::newRow("an empty one before") << edidOf({{54, QByteArray(13, ' ')}, {90, name}}) << "Q27-OLED";
-    QTest::newRow("Latin-1") << edidOf({{54, QByteArray("B\xFCro 27\n     ")}}) << QStringLiteral("B\u00FCro 27");
-    QTest::newRow("no descriptor") << edidOf({}) << "ABC-01F3";
-    QByteArray timing = edidOf({{54, name}});
-    timing[54] = 1; // a timing whose bytes happen to look like a name
-    QTest::newRow("timing, not a name") << timing << "ABC-01F3";
-}
 
 void TestDisplays::modelName()
 {
-    QFETCH(QByteArray, edid);
-    QTEST(edidModelName(edid), "name");
-}
-
-void TestDisplays::randomBytesNeverCrash()
-{
+    const QByteArray name = "Q27-OLED\n    ";
+    QByteArray timing = edidOf({{54, name}});
+    timing[54] = 1; // a timing whose bytes happen to look like a name
+    for (const auto &[edid, expected] :
+         {std::pair(QByteArray(), QString()),
+          {edidOf({{54, name}}, 127), {}},
+          {edidOf({{108, name}}), "Q27-OLED"}, // the last descriptor
+          {edidOf({{54, name}}, 256), "Q27-OLED"},
+          {edidOf({{54, QByteArray(13, ' ')}, {90, name}}), "Q27-OLED"},     // an empty one before it
+          {edidOf({{54, QByteArray("B\xFCro 27\n     ")}}), "B\u00FCro 27"}, // Latin-1
+          {edidOf({}), "ABC-01F3"},
+          {timing, "ABC-01F3"}})
+        QCOMPARE(edidModelName(edid), expected);
     QRandomGenerator random(20240309);
     for (int size = 0; size < 400; ++size) {
         QByteArray bytes(size, '\0');
@@ -98,34 +78,26 @@ void TestDisplays::projection()
     }
 }
 
-void TestDisplays::labels_data()
-{
-    QTest::addColumn<int>("secondDisplay"); // of the second monitor
-    columns<QList<QRect>, QByteArrayList>("screens", "labels");
-    const QRect left(0, 0, 1920, 1080);
-    const QRect right(1920, 0, 1920, 1080);
-    QTest::newRow("side by side") << 1 << QList{left, right} << QByteArrayList{"1. Q27-OLED", "2. Q32-MPCS"};
-    QTest::newRow("toolkit's order") << 1 << QList{right, left} << QByteArrayList{"2. Q32-MPCS", "1. Q27-OLED"};
-    QTest::newRow("a screen on no display")
-        << 1 << QList{left, QRect(5000, 0, 100, 100)} << QByteArrayList{"1. Q27-OLED"};
-    QTest::newRow("two on one display") << 0 << QList{left} << QByteArrayList{"1. Q27-OLED", "2. Q32-MPCS"};
-    QTest::newRow("numbers restart for every screen")
-        << 0 << QList{left, left} << QByteArrayList{"1. Q27-OLED", "2. Q32-MPCS", "1. Q27-OLED", "2. Q32-MPCS"};
-    QTest::newRow("no screen") << 1 << QList<QRect>() << QByteArrayList();
-}
-
 void TestDisplays::labels()
 {
-    QFETCH(int, secondDisplay);
-    QFETCH(QList<QRect>, screens);
-    m_desk->desk.setMonitorDisplay(1, secondDisplay);
-    std::vector<platform::Screen> toolkit;
-    for (const QRect &geometry : screens)
-        toolkit.push_back({QStringLiteral("Screen"), geometry});
-    m_desk->desk.setScreens(toolkit);
-    const QByteArrayList found = findDevices();
-    QTEST(found, "labels");
-    QCOMPARE(monitorList.size(), static_cast<std::size_t>(found.size()));
+    const QRect left(0, 0, 1920, 1080), right(1920, 0, 1920, 1080);
+    const QByteArrayList both{"1. Q27-OLED", "2. Q32-MPCS"};
+    for (const auto &[secondDisplay, screens, labels] : // the display of the second monitor
+         {std::tuple(1, QList{left, right}, both),
+          {1, {right, left}, {"2. Q32-MPCS", "1. Q27-OLED"}},     // the toolkit's order
+          {1, {left, QRect(5000, 0, 100, 100)}, {"1. Q27-OLED"}}, // a screen on no display
+          {0, {left}, both},
+          {0, {left, left}, both + both}, // numbers restart for every screen
+          {1, {}, {}}}) {
+        m_desk->desk.setMonitorDisplay(1, secondDisplay);
+        std::vector<platform::Screen> toolkit;
+        for (const QRect &geometry : screens)
+            toolkit.push_back({QStringLiteral("Screen"), geometry});
+        m_desk->desk.setScreens(toolkit);
+        const QByteArrayList found = findDevices();
+        QCOMPARE(found, labels);
+        QCOMPARE(monitorList.size(), static_cast<std::size_t>(found.size()));
+    }
 }
 
 void TestDisplays::unreadableEdidDropsTheDisplay()
@@ -141,12 +113,12 @@ void TestDisplays::unreadableEdidDropsTheDisplay()
 void TestDisplays::secondMonitorMakesInternalExternal()
 {
     m_desk->desk.setMonitorDisplay(1, 0);
-    projectionMode = ProjectionMode::InternalOnly;
-    findDevices();
-    QCOMPARE(projectionMode, ProjectionMode::ExternalOnly);
-    projectionMode = ProjectionMode::Extend;
-    findDevices();
-    QCOMPARE(projectionMode, ProjectionMode::Extend);
+    using enum ProjectionMode;
+    for (const auto &[before, after] : {std::pair(InternalOnly, ExternalOnly), {Extend, Extend}}) {
+        projectionMode = before;
+        findDevices();
+        QCOMPARE(projectionMode, after);
+    }
 }
 
 /// Handle 0, the first one, is one like any other; a monitor without a handle keeps its place and takes no command.

@@ -1,10 +1,7 @@
 #include <thread>
 
-#include <QDeadlineTimer>
-#include <QDir>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QtTest>
+#include <QtWidgets>
 
 #include "ledmatrix/matrixform.h"
 #include "page/Nightloom/ledworkthread.h"
@@ -12,8 +9,6 @@
 #include "page/Nightloom/pageledmatrixtext.h"
 #include "page/Nightloom/textwidget.h"
 #include "support/accessoryfixture.h"
-#include "support/datarow.h"
-#include "support/textfile.h"
 #include "usb-hid/accessoryupload.h"
 
 using namespace std::chrono_literals;
@@ -36,9 +31,7 @@ private Q_SLOTS:
     void cleanup();
     void scrolling();
     void standing();
-    void standingPieces_data();
     void standingPieces();
-    void longTexts_data();
     void longTexts();
     void nothingToRender();
     void saveData();
@@ -95,78 +88,68 @@ void TestLedText::standing()
     QVERIFY(std::abs(first - (41 - last)) <= 3); // in the middle
 }
 
-void TestLedText::standingPieces_data()
-{
-    columns<QStringList>("units"); // that may not be cut; one alone is repeated
-    row("words", QStringList{"it", "ill", "li", "tilt"});
-    row("letters", QStringList{"W"});
-    row("pairs of surrogates", QStringList{"😀"});
-    row("joined ones", QStringList{"👨‍👩‍👧"});
-    row("marks above", QStringList{"o\u0308\u0301"});
-    row("from right to left", QStringList{"ש"});
-}
-
 /// A wide text is shown piece by piece, each as if it stood there alone: whole words, or else whole letters.
 void TestLedText::standingPieces()
 {
-    QFETCH(QStringList, units);
-    const bool words = units.size() > 1;
-    const QString text = words ? units.join(' ') : units.first().repeated(60);
-    for (const int form : {kTaperingForm, kRectangleForm}) {
-        QList<QByteArray> expected; // what stands there alone
-        const auto expect = [&expected, form](const QString &piece) {
-            const TextRenderer renderer(form, piece, TextMotion::Standing);
-            if (renderer.frameCount() == 1)
-                expected.append(renderer.frame(0).digits());
-        };
-        for (qsizetype i = 0; i < units.size(); ++i) {
-            for (qsizetype count = 1; i + count <= units.size(); ++count)
-                expect(units.mid(i, count).join(' '));
+    for (const QStringList &units :
+         {QStringList{"it", "ill", "li", "tilt"}, // that may not be cut; one alone is repeated
+          {"W"},
+          {"😀"},
+          {"👨‍👩‍👧"},
+          {"o\u0308\u0301"},
+          {"ש"}}) {
+        const bool words = units.size() > 1;
+        const QString text = words ? units.join(' ') : units.first().repeated(60);
+        for (const int form : {kTaperingForm, kRectangleForm}) {
+            QList<QByteArray> expected; // what stands there alone
+            const auto expect = [&expected, form](const QString &piece) {
+                const TextRenderer renderer(form, piece, TextMotion::Standing);
+                if (renderer.frameCount() == 1)
+                    expected.append(renderer.frame(0).digits());
+            };
+            for (qsizetype i = 0; i < units.size(); ++i) {
+                for (qsizetype count = 1; i + count <= units.size(); ++count)
+                    expect(units.mid(i, count).join(' '));
+            }
+            for (int count = 2; !words && count <= 12; ++count)
+                expect(units.first().repeated(count));
+            const TextRenderer renderer(form, text, TextMotion::Standing);
+            QVERIFY(renderer.frameCount() >= 2 * 20);
+            for (int i = 0; i < renderer.frameCount(); ++i)
+                QVERIFY(expected.contains(renderer.frame(i).digits()));
+            QCOMPARE(renderer.lettersShown(), renderer.letters());
         }
-        for (int count = 2; !words && count <= 12; ++count)
-            expect(units.first().repeated(count));
-        const TextRenderer renderer(form, text, TextMotion::Standing);
-        QVERIFY(renderer.frameCount() >= 2 * 20);
-        for (int i = 0; i < renderer.frameCount(); ++i)
-            QVERIFY(expected.contains(renderer.frame(i).digits()));
-        QCOMPARE(renderer.lettersShown(), renderer.letters());
     }
 }
 
-void TestLedText::longTexts_data()
-{
-    columns<QString, int>("text", "letters");
-    row("wide", QString(500, 'W'), 500);
-    row("too long", QString(3000, 'i'), 3000);
-    row("pairs of surrogates", QStringLiteral("😀").repeated(500), 500);
-    row("one letter without end", 'o' + QString(3000, QChar(0x0308)), 1);
-    row("halves of pairs", QString(300, QChar(0xD83D)), 300);
-    row("right to left, and more than a line", QStringLiteral("שלום world\n\t\r\u2029").repeated(9), 9 * 15);
-}
-
-/// Never more frames than the form has room for, none of which is lost, and nothing left out that is not told.
 void TestLedText::longTexts()
 {
-    QFETCH(QString, text);
-    QFETCH(int, letters);
-    for (const auto &[form, limit] : {std::pair{kTaperingForm, 822}, {kRectangleForm, 742}}) {
-        matrixForm = form;
-        BoundTexts texts;
-        TextWidget widget(texts);
-        widget.show();
-        widget.input()->setText(text);
-        for (const TextMotion motion : {TextMotion::Left, TextMotion::Right, TextMotion::Standing}) {
-            widget.setMotion(motion);
-            const TextRenderer renderer(form, widget.text(), motion);
-            const int frames = renderer.frameCount();
-            QVERIFY(frames > 0 && frames <= limit);
-            QVERIFY(lit(renderer.frame(frames / 2)) > 0);
-            QVERIFY(lit(renderer.frame(frames - 1)) >= 0);
-            QVERIFY(std::abs(renderer.letters() - letters) <= (text.contains('\r') ? 9 : 0)); // a line's end may be one
-            const QString told = widget.fit();
-            QCOMPARE(told.isEmpty(), renderer.lettersShown() == renderer.letters());
-            QVERIFY(told.isEmpty() || told.contains(QString::number(renderer.lettersShown())));
-            QVERIFY(letters <= 500 || !told.isEmpty());
+    for (const auto &[text, letters] : {std::pair(QString(500, 'W'), 500),
+                                        {QString(3000, 'i'), 3000},
+                                        {QStringLiteral("😀").repeated(500), 500},
+                                        {'o' + QString(3000, QChar(0x0308)), 1},
+                                        {QString(300, QChar(0xD83D)), 300}, // halves of pairs
+                                        {QStringLiteral("שלום world\n\t\r\u2029").repeated(9), 9 * 15}}) {
+        for (const auto &[form, limit] : {std::pair{kTaperingForm, 822}, {kRectangleForm, 742}}) {
+            matrixForm = form;
+            BoundTexts texts;
+            TextWidget widget(texts);
+            widget.show();
+            widget.input()->setText(text);
+            for (const TextMotion motion : {TextMotion::Left, TextMotion::Right, TextMotion::Standing}) {
+                widget.setMotion(motion);
+                const TextRenderer renderer(form, widget.text(), motion);
+                const int frames = renderer.frameCount();
+                QVERIFY(frames > 0 && frames <= limit);
+                QVERIFY(lit(renderer.frame(frames / 2)) > 0);
+                QVERIFY(lit(renderer.frame(frames - 1)) >= 0);
+                QVERIFY(std::abs(renderer.letters() - letters) <=
+                        (text.contains('\r') ? 9 : 0)); // a line's end may be one
+                const QString told = widget.fit();
+                QCOMPARE(told.isEmpty(), renderer.lettersShown() == renderer.letters());
+                QVERIFY(told.isEmpty() || told.contains(QString::number(renderer.lettersShown())));
+                QVERIFY(letters <= 500 || !told.isEmpty());
+            }
         }
     }
 }
@@ -238,8 +221,7 @@ void TestLedText::textThatFails_data()
 
 void TestLedText::textThatFails()
 {
-    QFETCH(QString, fault);
-    QFETCH(QString, notice);
+    const auto [fault, notice] = fetch<QString, QString>();
     if (fault == QStringLiteral("folder"))
         QDir().mkdir(QStringLiteral("out_frame.txt"));
     if (fault == QStringLiteral("pulled out"))

@@ -1,14 +1,10 @@
 #include <thread>
 
-#include <QDeadlineTimer>
-#include <QFile>
 #include <QPushButton>
-#include <QSemaphore>
 #include <QtTest>
 
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
-#include "ddc_protocol/settingsstore.h"
 #include "ledmatrix/matrixform.h"
 #include "ledmatrix/matrixgeometry.h"
 #include "page/Nightloom/accessorysettings.h"
@@ -21,7 +17,6 @@
 #include "page/engine/optiongrouprow.h"
 #include "searchdevicedlg.h"
 #include "support/accessoryfixture.h"
-#include "support/textfile.h"
 #include "usb-hid/hidtransport.h"
 
 using virtualdesk::kForEver;
@@ -83,7 +78,6 @@ private Q_SLOTS:
     void clockStopsWithinOnePass();
     void clockGoesOnInVain();
     void spectrum();
-    void spectrumWithoutSource();
     void noRequestIsLost();
     void textUploadEndsTheClock();
     void shutDownEndsAnUpload();
@@ -96,7 +90,7 @@ private Q_SLOTS:
 private:
     QList<int> runClock(int passes);
     void makePage();
-    void release(SliderWidget *slider, int value);
+    void release(SliderWidget *slider, int value) { slider->setValue(value), slider->onSliderReleased(); }
     QList<QByteArray> takeWrites();
 
     std::unique_ptr<CommandQueue> m_queue;
@@ -201,27 +195,9 @@ void TestLedWork::clockGoesOnInVain()
 
 void TestLedWork::spectrum()
 {
-    Source source;
     QObject receiver;
     QList<int> built; // filled here, not on the worker's thread
     connect(m_worker, &ledWorkThread::frameBuilt, &receiver, [&built](int value) { built.append(value); });
-    m_worker->setSource(&source);
-    m_worker->setLevels({40, 1, 2});
-    m_worker->begin(ledWorkThread::BuildSpectrum);
-    QTRY_COMPARE(built, QList<int>{0});
-    QCOMPARE(accessory().history().size(), 0u);
-    m_worker->begin(ledWorkThread::SendSpectrum);
-    QTRY_COMPARE(source.sent.load(), 1);
-    const auto cells = accessory().state().liveCells;
-    QCOMPARE(int(std::count(cells.begin(), cells.end(), 1)), 40);
-    m_worker->setSource(nullptr);
-}
-
-void TestLedWork::spectrumWithoutSource()
-{
-    QObject receiver;
-    int built = 0;
-    connect(m_worker, &ledWorkThread::frameBuilt, &receiver, [&built] { ++built; });
     Source source;
     source.hasVisual = false; // as for a form that is none
     for (LedFrameSource *each : {static_cast<LedFrameSource *>(nullptr), static_cast<LedFrameSource *>(&source)}) {
@@ -231,9 +207,17 @@ void TestLedWork::spectrumWithoutSource()
         QVERIFY(m_worker->wait(10000));
     }
     QCoreApplication::processEvents();
-    QCOMPARE(built, 0);
-    QCOMPARE(source.sent.load(), 0);
+    QVERIFY(built.isEmpty() && source.sent == 0);
+    source.hasVisual = true;
+    m_worker->setLevels({40, 1, 2});
+    m_worker->begin(ledWorkThread::BuildSpectrum);
+    QTRY_COMPARE(built, QList<int>{0});
     QCOMPARE(accessory().history().size(), 0u);
+    m_worker->begin(ledWorkThread::SendSpectrum);
+    QTRY_COMPARE(source.sent.load(), 1);
+    const auto cells = accessory().state().liveCells;
+    QCOMPARE(int(std::count(cells.begin(), cells.end(), 1)), 40);
+    m_worker->setSource(nullptr);
 }
 
 void TestLedWork::noRequestIsLost()
@@ -290,12 +274,6 @@ void TestLedWork::makePage()
     m_queue = std::make_unique<CommandQueue>();
     m_page = std::make_unique<pageLEDSystem>([this] { return m_connected; }, *m_display, *m_queue);
     m_desk->clock.takeWaits();
-}
-
-void TestLedWork::release(SliderWidget *slider, int value)
-{
-    slider->setValue(value);
-    slider->onSliderReleased();
 }
 
 QList<QByteArray> TestLedWork::takeWrites()
@@ -403,20 +381,17 @@ void TestLedWork::choicesInVain()
 void TestLedWork::lampStopsTheLiveDisplay()
 {
     makePage();
-    m_page->clockOptions()->buttonOf(1)->click();
-    QTRY_VERIFY(accessory().state().showsLive);
-    m_page->clockOptions()->buttonOf(0)->click();
-    QVERIFY(m_worker->wait(10000));
-    QVERIFY(m_page->clockOptions()->buttonOf(0)->isChecked());
-    takeWrites();
-    m_page->clockOptions()->buttonOf(1)->click();
-    QTRY_VERIFY(accessory().state().showsLive);
-    m_page->lampOptions()->buttonOf(0)->click();
-    QVERIFY(m_worker->wait(10000));
+    for (OptionGroupRow *stopping : {m_page->clockOptions(), m_page->lampOptions()}) {
+        takeWrites();
+        m_page->clockOptions()->buttonOf(1)->click();
+        QTRY_VERIFY(accessory().state().showsLive);
+        stopping->buttonOf(0)->click();
+        QVERIFY(m_worker->wait(10000));
+        QVERIFY(stopping->buttonOf(0)->isChecked());
+    }
     QList<QByteArray> writes = takeWrites();
     writes.removeIf([](const QByteArray &write) { return write.startsWith("01e000"); });
     QCOMPARE(writes, (QList<QByteArray>{"01e001b089", "01d00400f972"}));
-    QVERIFY(m_page->lampOptions()->buttonOf(0)->isChecked());
     m_page->lampOptions()->buttonOf(1)->click();
     QCOMPARE(accessory().state().lamp, 1);
 }

@@ -2,17 +2,12 @@
 
 #include <thread>
 
-#include <QComboBox>
-#include <QDeadlineTimer>
-#include <QPushButton>
-#include <QSemaphore>
-#include <QSlider>
 #include <QtTest>
+#include <QtWidgets>
 
 #include "PictureAudioCom/soundanalyzer.h"
 #include "controls/sharedfonts.h"
 #include "ddc_protocol/commandqueue.h"
-#include "ddc_protocol/settingsstore.h"
 #include "ledmatrix/matrixform.h"
 #include "page/Nightloom/audiopicture.h"
 #include "page/Nightloom/ledworkthread.h"
@@ -20,7 +15,6 @@
 #include "page/Nightloom/pageledmusic.h"
 #include "page/Nightloom/pageledsystem.h"
 #include "page/engine/optiongrouprow.h"
-#include "support/datarow.h"
 #include "support/deskfixture.h"
 #include "support/sounds.h"
 #include "usb-hid/hidtransport.h"
@@ -129,7 +123,6 @@ class TestMusic : public QObject
 
 private Q_SLOTS:
     void initTestCase() { setUpSharedFonts(); }
-    void reachesMatrix_data();
     void reachesMatrix();
     void endsWithStopReport_data();
     void endsWithStopReport();
@@ -139,52 +132,46 @@ private Q_SLOTS:
     void panelPlays();
 };
 
-void TestMusic::reachesMatrix_data()
-{
-    columns<int>("form");
-    row("tapering", kTaperingForm);
-    row("rectangle", kRectangleForm);
-}
-
 void TestMusic::reachesMatrix()
 {
-    QFETCH(int, form);
-    MusicRig rig;
-    rig.fixture.desk.accessory().setForm(form);
-    matrixForm = form;
-    settingsInt(kMusicTemplateKey, static_cast<int>(AudioTemplate::Mirrored), true);
-    rig.page->updateInterfaceData();
-    rig.press(rig.page->switchOptions(), 1);
-    QVERIFY(rig.page->isMusicOn());
-    QVERIFY(rig.becomes([&] { return litCells(rig.shown()) > 0; }));
-    QVERIFY(rig.becomes([&] { return rig.page->note() == QString(); }));
+    for (const int form : {kTaperingForm, kRectangleForm}) {
+        MusicRig rig;
+        rig.fixture.desk.accessory().setForm(form);
+        matrixForm = form;
+        settingsInt(kMusicTemplateKey, static_cast<int>(AudioTemplate::Mirrored), true);
+        rig.page->updateInterfaceData();
+        rig.press(rig.page->switchOptions(), 1);
+        QVERIFY(rig.page->isMusicOn());
+        QVERIFY(rig.becomes([&] { return litCells(rig.shown()) > 0; }));
+        QVERIFY(rig.becomes([&] { return rig.page->note() == QString(); }));
 
-    // A tone is the same in every packet but for its phase: what is shown is a picture of heights that were told.
-    QVERIFY(rig.becomes([&] {
-        const auto bars = makeAudioBars(form);
-        bars->setTemplate(AudioTemplate::Mirrored);
-        const auto shown = rig.shown();
-        return std::any_of(rig.heard.begin(), rig.heard.end(), [&](const QList<int> &list) {
-            bars->clear();
-            bars->setLevels({list.begin(), list.end()});
-            return std::equal(shown.begin(), shown.end(), bars->frame().begin(), bars->frame().end());
-        });
-    }));
-    const auto picture = rig.page->picture()->cells();
-    QCOMPARE(static_cast<int>(picture.size()), matrixCells(form));
-    QVERIFY(litCells(picture) > 0);
+        // A tone is the same in every packet but for its phase: what is shown is a picture of heights that were told.
+        QVERIFY(rig.becomes([&] {
+            const auto bars = makeAudioBars(form);
+            bars->setTemplate(AudioTemplate::Mirrored);
+            const auto shown = rig.shown();
+            return std::any_of(rig.heard.begin(), rig.heard.end(), [&](const QList<int> &list) {
+                bars->clear();
+                bars->setLevels({list.begin(), list.end()});
+                return std::equal(shown.begin(), shown.end(), bars->frame().begin(), bars->frame().end());
+            });
+        }));
+        const auto picture = rig.page->picture()->cells();
+        QCOMPARE(static_cast<int>(picture.size()), matrixCells(form));
+        QVERIFY(litCells(picture) > 0);
 
-    rig.fixture.desk.fileFaults.replace.failAt(1);
-    rig.press(rig.page->templateOptions(), static_cast<int>(AudioTemplate::Hanging));
-    QVERIFY(rig.page->notice().contains("config.ini"));
-    rig.press(rig.page->templateOptions(), static_cast<int>(AudioTemplate::Hanging));
-    QCOMPARE(settingsInt(kMusicTemplateKey, 0, false), static_cast<int>(AudioTemplate::Hanging));
-    QVERIFY(rig.becomes([&] {
-        MatrixFrame frame(form);
-        frame.setFlat(rig.shown());
-        return litCells(frame.rows()[0]) == (form == kTaperingForm ? 11 : 22);
-    }));
-    QCOMPARE(rig.fixture.desk.accessory().protocolFaults(), 0);
+        rig.fixture.desk.fileFaults.replace.failAt(1);
+        rig.press(rig.page->templateOptions(), static_cast<int>(AudioTemplate::Hanging));
+        QVERIFY(rig.page->notice().contains("config.ini"));
+        rig.press(rig.page->templateOptions(), static_cast<int>(AudioTemplate::Hanging));
+        QCOMPARE(settingsInt(kMusicTemplateKey, 0, false), static_cast<int>(AudioTemplate::Hanging));
+        QVERIFY(rig.becomes([&] {
+            MatrixFrame frame(form);
+            frame.setFlat(rig.shown());
+            return litCells(frame.rows()[0]) == (form == kTaperingForm ? 11 : 22);
+        }));
+        QCOMPARE(rig.fixture.desk.accessory().protocolFaults(), 0);
+    }
 }
 
 void TestMusic::endsWithStopReport_data()

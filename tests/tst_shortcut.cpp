@@ -1,15 +1,9 @@
-#include <QAbstractNativeEventFilter>
-#include <QSignalSpy>
 #include <QtTest>
 
-#include "ddc_protocol/devicestate.h"
-#include "ddc_protocol/displayenumeration.h"
-#include "ddc_protocol/transport.h"
 #include "platform/desk.h"
 #include "platform/nativekeys.h"
 #include "shortcut/qxtglobalshortcut.h"
 #include "shortcut/shortcutrunner.h"
-#include "support/datarow.h"
 #include "support/deskfixture.h"
 
 using namespace platform;
@@ -89,7 +83,7 @@ constexpr Step kSteps[] = {
 
 } // namespace
 
-class TestShortcut : public QObject
+class TestShortcut : public DeskSuite
 {
     Q_OBJECT
 private Q_SLOTS:
@@ -100,20 +94,16 @@ private Q_SLOTS:
     void restsAfterAKey();
     void sceneKeyKeepsTheSnapshotTrue();
     void nativeKeys();
-    void keyActivatesItsShortcut_data();
     void keyActivatesItsShortcut();
     void keyOfAnother();
     void newSequenceReplacesTheOld();
     void destructorGivesTheKeyBack();
     void filterLivesAsLongAsAnyShortcut();
-
-private:
-    std::unique_ptr<DeskFixture> m_desk;
 };
 
 void TestShortcut::init()
 {
-    m_desk = std::make_unique<DeskFixture>();
+    DeskSuite::init();
     findDevices();
     m_desk->takeLog();
 }
@@ -121,7 +111,7 @@ void TestShortcut::init()
 void TestShortcut::cleanup()
 {
     QCOMPARE(m_desk->monitor().protocolFaults().brokenPairs, 0);
-    m_desk.reset();
+    DeskSuite::cleanup();
 }
 
 void TestShortcut::steps_data()
@@ -208,38 +198,31 @@ void TestShortcut::nativeKeys()
     QCOMPARE(nativeKey(static_cast<std::uint32_t>((Qt::KeypadModifier | Qt::Key_5).toCombined())), 0u);
 }
 
-void TestShortcut::keyActivatesItsShortcut_data()
-{
-    columns<QString, std::uint32_t, std::uint32_t>("sequence", "modifiers", "key");
-    QTest::newRow("letter") << "Ctrl+A" << kModifierControl << std::uint32_t('A');
-    QTest::newRow("digit") << "Alt+9" << kModifierAlt << std::uint32_t('9');
-    QTest::newRow("all modifiers") << "Ctrl+Alt+Shift+Meta+F12"
-                                   << (kModifierControl | kModifierAlt | kModifierShift | kModifierWin) << 123u;
-    QTest::newRow("no modifier") << "Pause" << 0u << 19u;
-    QTest::newRow("only the first of several") << "Ctrl+K, Ctrl+D" << kModifierControl << std::uint32_t('K');
-}
-
 void TestShortcut::keyActivatesItsShortcut()
 {
-    QFETCH(QString, sequence);
-    QFETCH(std::uint32_t, modifiers);
-    QFETCH(std::uint32_t, key);
-    LastFilter others;
-    QxtGlobalShortcut shortcut;
-    QSignalSpy activated(&shortcut, &QxtGlobalShortcut::activated);
-    QVERIFY(shortcut.setShortcut(QKeySequence(sequence)));
-    QCOMPARE(shortcut.shortcut(), QKeySequence(QKeySequence(sequence)[0]));
-    QVERIFY(m_desk->desk.pressKey(modifiers, key));
-    QCOMPARE(activated.count(), 1);
-    QCOMPARE(others.messages, 1); // the message carries on
-    QVERIFY(!deliverHotKey(modifiers, key + 1));
-    QCOMPARE(activated.count(), 1);
-    shortcut.setDisabled(true);
-    QVERIFY(m_desk->desk.pressKey(modifiers, key)); // the key stays taken
-    QCOMPARE(activated.count(), 1);
-    shortcut.setEnabled(true);
-    m_desk->desk.pressKey(modifiers, key);
-    QCOMPARE(activated.count(), 2);
+    for (const auto &[sequence, modifiers, key] :
+         {std::tuple("Ctrl+A", kModifierControl, 65u),
+          {"Alt+9", kModifierAlt, 57u},
+          {"Ctrl+Alt+Shift+Meta+F12", kModifierControl | kModifierAlt | kModifierShift | kModifierWin, 123u},
+          {"Pause", 0u, 19u},
+          {"Ctrl+K, Ctrl+D", kModifierControl, 75u}}) { // only the first of several
+        LastFilter others;
+        QxtGlobalShortcut shortcut;
+        QSignalSpy activated(&shortcut, &QxtGlobalShortcut::activated);
+        QVERIFY(shortcut.setShortcut(QKeySequence(sequence)));
+        QCOMPARE(shortcut.shortcut(), QKeySequence(QKeySequence(sequence)[0]));
+        QVERIFY(m_desk->desk.pressKey(modifiers, key));
+        QCOMPARE(activated.count(), 1);
+        QCOMPARE(others.messages, 1); // the message carries on
+        QVERIFY(!deliverHotKey(modifiers, key + 1));
+        QCOMPARE(activated.count(), 1);
+        shortcut.setDisabled(true);
+        QVERIFY(m_desk->desk.pressKey(modifiers, key)); // the key stays taken
+        QCOMPARE(activated.count(), 1);
+        shortcut.setEnabled(true);
+        m_desk->desk.pressKey(modifiers, key);
+        QCOMPARE(activated.count(), 2);
+    }
 }
 
 void TestShortcut::keyOfAnother()

@@ -4,7 +4,6 @@
 
 #include "PictureAudioCom/soundanalyzer.h"
 #include "ledmatrix/matrixform.h"
-#include "support/datarow.h"
 #include "support/deskfixture.h"
 #include "support/sounds.h"
 
@@ -100,7 +99,6 @@ private Q_SLOTS:
     void turnsAsMeant();
     void onlySleepsWhenIdle();
     void failedInitialisationEndsIt();
-    void choosesFormat_data();
     void choosesFormat();
     void refusedFormat();
     void oldClientKeepsItsFormat();
@@ -170,36 +168,31 @@ void TestSoundAnalyzer::failedInitialisationEndsIt()
     }
 }
 
-void TestSoundAnalyzer::choosesFormat_data()
+void TestSoundAnalyzer::choosesFormat()
 {
-    columns<EndpointSetup, bool>("format", "heard");
     const auto device = [](MixKind mix, int rate, int channels, bool converts, int packet) {
         return EndpointSetup{true, mix, rate, channels, converts, packet, playing(Sound::Tone)};
     };
-    row("extensible", device(MixKind::ExtensibleFloat, 48000, 2, false, 0), true);
-    row("plain", device(MixKind::Float, 48000, 2, false, 0), true);
-    row("integer", device(MixKind::Integer, 48000, 2, false, 0), false);
-    row("extensible integer", device(MixKind::ExtensibleInteger, 48000, 2, false, 0), false);
-    row("44100", device(MixKind::ExtensibleFloat, 44100, 2, false, 0), true);
-    row("192000 converted", device(MixKind::ExtensibleFloat, 192000, 2, true, 0), true);
-    row("eight channels, odd packet", device(MixKind::ExtensibleFloat, 48000, 8, false, 479), true);
-    row("larger than N", device(MixKind::ExtensibleFloat, 48000, 2, false, 7001), true);
-}
-
-void TestSoundAnalyzer::choosesFormat()
-{
-    const auto [format, heard] = fetch<EndpointSetup, bool>();
-    Rig rig;
-    rig.endpoint.change([&format](EndpointSetup &setup) { setup = format; });
-    rig.run(60);
-    QVERIFY(rig.lines().isEmpty());
-    QCOMPARE(rig.count(AudioCall::Initialize), heard ? 1 : 0);
-    QCOMPARE(!rig.heights.isEmpty(), heard);
-    if (!heard)
-        return;
-    const int given = format.convertsRates ? 48000 : format.sampleRate;
-    const int frames = format.packetFrames > 0 ? format.packetFrames : given / 100;
-    QCOMPARE(rig.heights[0], rig.firstHeights(given, format.channels, frames));
+    for (const auto &[format, heard] : {std::pair(device(MixKind::ExtensibleFloat, 48000, 2, false, 0), true),
+                                        {device(MixKind::Float, 48000, 2, false, 0), true},
+                                        {device(MixKind::Integer, 48000, 2, false, 0), false},
+                                        {device(MixKind::ExtensibleInteger, 48000, 2, false, 0), false},
+                                        {device(MixKind::ExtensibleFloat, 44100, 2, false, 0), true},
+                                        {device(MixKind::ExtensibleFloat, 192000, 2, true, 0), true},
+                                        {device(MixKind::ExtensibleFloat, 48000, 8, false, 479), true},
+                                        {device(MixKind::ExtensibleFloat, 48000, 2, false, 7001), true}}) { // above N
+        Rig rig;
+        rig.endpoint.change([&format = format](EndpointSetup &setup) { setup = format; });
+        rig.run(60);
+        QVERIFY(rig.lines().isEmpty());
+        QCOMPARE(rig.count(AudioCall::Initialize), heard ? 1 : 0);
+        QCOMPARE(!rig.heights.isEmpty(), heard);
+        if (!heard)
+            continue;
+        const int given = format.convertsRates ? 48000 : format.sampleRate;
+        const int frames = format.packetFrames > 0 ? format.packetFrames : given / 100;
+        QCOMPARE(rig.heights[0], rig.firstHeights(given, format.channels, frames));
+    }
 }
 
 void TestSoundAnalyzer::refusedFormat()

@@ -9,7 +9,6 @@
 
 #include "PictureAudioCom/spectrumanalysis.h"
 #include "ledmatrix/matrixform.h"
-#include "support/datarow.h"
 #include "support/sounds.h"
 
 using virtualdesk::Sound;
@@ -74,7 +73,6 @@ class TestSpectrum : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void agreesWithPlainTransform_data();
     void agreesWithPlainTransform();
     void tonesFillTheirBand();
     void impulseGivesKnownHeights();
@@ -83,36 +81,31 @@ private Q_SLOTS:
     void lengthOnlyGrows();
 };
 
-void TestSpectrum::agreesWithPlainTransform_data()
-{
-    columns<Sound, int, int, int>("kind", "rate", "channels", "frames");
-    row("tone, one channel", Sound::Tone, 48000, 1, 4800);
-    row("two tones, two channels, 10 ms", Sound::TwoTones, 48000, 2, 480);
-    row("two tones, eight channels, odd", Sound::TwoTones, 44100, 8, 441);
-    row("sweep, one channel, odd", Sound::Sweep, 48000, 1, 4799);
-    row("noise, two channels, 96000", Sound::Noise, 96000, 2, 961);
-    row("noise, eight channels, 192000", Sound::Noise, 192000, 8, 1920);
-    row("exactly N", Sound::Noise, 48000, 2, 2400);
-    row("more than N", Sound::Noise, 48000, 2, 5001);
-    row("one frame", Sound::Noise, 48000, 1, 1);
-}
-
 void TestSpectrum::agreesWithPlainTransform()
 {
-    const auto [kind, rate, channels, frames] = fetch<Sound, int, int, int>();
-    const Samples samples = record(playing(kind), rate, channels, frames);
-    SpectrumAnalysis analysis;
-    QVERIFY(analysis.prepare(static_cast<std::uint32_t>(rate)));
-    QCOMPARE(analysis.length(), rate / 10);
-    PlainSpectrum plain(rate / 10);
+    for (const auto &[kind, rate, channels, frames] : {std::tuple(Sound::Tone, 48000, 1, 4800),
+                                                       {Sound::TwoTones, 48000, 2, 480}, // 10 ms
+                                                       {Sound::TwoTones, 44100, 8, 441},
+                                                       {Sound::Sweep, 48000, 1, 4799},
+                                                       {Sound::Noise, 96000, 2, 961},
+                                                       {Sound::Noise, 192000, 8, 1920},
+                                                       {Sound::Noise, 48000, 2, 2400}, // exactly N
+                                                       {Sound::Noise, 48000, 2, 5001}, // more
+                                                       {Sound::Noise, 48000, 1, 1}}) {
+        const Samples samples = record(playing(kind), rate, channels, frames);
+        SpectrumAnalysis analysis;
+        QVERIFY(analysis.prepare(static_cast<std::uint32_t>(rate)));
+        QCOMPARE(analysis.length(), rate / 10);
+        PlainSpectrum plain(rate / 10);
 
-    // The second packet is shorter: what it does not overwrite is heard again.
-    for (const Samples &packet : {samples, Samples(samples.begin(), samples.begin() + (frames + 1) / 2)}) {
-        const BandSums expected = plain.analyse(packet);
-        const auto sums = analysis.analyse(packet);
-        QCOMPARE(sums.has_value(), *std::max_element(expected.begin(), expected.end()) >= 20.0);
-        if (sums)
-            QVERIFY(close(*sums, expected));
+        // The second packet is shorter: what it does not overwrite is heard again.
+        for (const Samples &packet : {samples, Samples(samples.begin(), samples.begin() + (frames + 1) / 2)}) {
+            const BandSums expected = plain.analyse(packet);
+            const auto sums = analysis.analyse(packet);
+            QCOMPARE(sums.has_value(), *std::max_element(expected.begin(), expected.end()) >= 20.0);
+            if (sums)
+                QVERIFY(close(*sums, expected));
+        }
     }
 }
 
