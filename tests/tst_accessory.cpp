@@ -3,7 +3,6 @@
 
 #include "ledmatrix/matrixform.h"
 #include "support/accessoryfixture.h"
-#include "support/datarow.h"
 #include "usb-hid/hidtransport.h"
 #include "usb-hid/livesender.h"
 #include "virtualdesk/accessorypanel.h"

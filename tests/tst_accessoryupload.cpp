@@ -1,13 +1,10 @@
 #include <thread>
 
-#include <QFile>
 #include <QtTest>
 
 #include "ledmatrix/matrixform.h"
 #include "ledmatrix/matrixframe.h"
 #include "support/accessoryfixture.h"
-#include "support/datarow.h"
-#include "support/textfile.h"
 #include "usb-hid/accessoryupload.h"
 #include "usb-hid/hidtransport.h"
 #include "usb-hid/livesender.h"

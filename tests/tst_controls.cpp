@@ -1,9 +1,7 @@
 #include <functional>
 #include <memory>
 
-#include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QTest>
+#include <QtTest>
 
 #include "controls/captions.h"
 #include "controls/colorpicker.h"

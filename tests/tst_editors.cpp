@@ -52,10 +52,7 @@ void TestEditors::frameOrder_data()
 /// A cell that is pressed is at its place in the file, and a file with that place lit lights that cell alone.
 void TestEditors::frameOrder()
 {
-    QFETCH(int, form);
-    QFETCH(int, row);
-    QFETCH(int, column);
-    QFETCH(int, place);
+    const auto [form, row, column, place] = fetch<int, int, int, int>();
     const std::unique_ptr<MatrixEditor> editor(createMatrixEditor(form, nullptr));
     QTest::mouseClick(editor.get(), Qt::LeftButton, {}, middle(*editor, {row, column}));
     QByteArray digits(form == 0 ? 949 : 1050, '0');

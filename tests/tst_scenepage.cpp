@@ -1,11 +1,9 @@
 #include <QPushButton>
-#include <QSignalSpy>
 #include <QtTest>
 
 #include "controls/nowheelslider.h"
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
-#include "ddc_protocol/transport.h"
 #include "page/Scene/pagescenesetting.h"
 #include "page/Scene/scenetable.h"
 #include "page/engine/optiongrouprow.h"
