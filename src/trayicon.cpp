@@ -6,8 +6,7 @@
 
 static constexpr int kBalloonTime = 10000; // ms
 
-TrayIcon::TrayIcon(QWidget *window)
-    : QSystemTrayIcon(QIcon(Pictures::kRoot + QStringLiteral("app.ico")), window)
+TrayIcon::TrayIcon(QWidget *window) : QSystemTrayIcon(QIcon(Pictures::kRoot + QStringLiteral("app.ico")), window)
 {
     setToolTip(QStringLiteral("QUORVEL"));
     auto *menu = new QMenu(window);
