@@ -93,6 +93,8 @@ public:
     {
         if (SoundAnalyzer::instance().isRunning() || ledWorkThread::instance()->isRunning())
             return true;
+        SoundAnalyzer::instance().wait(); // one that no longer runs may still be about to tell so
+        ledWorkThread::instance()->wait();
         QCoreApplication::processEvents();
         return SoundAnalyzer::instance().isRunning() || ledWorkThread::instance()->isRunning();
     }
