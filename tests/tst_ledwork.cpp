@@ -90,7 +90,12 @@ private Q_SLOTS:
 private:
     QList<int> runClock(int passes);
     void makePage();
-    void release(SliderWidget *slider, int value) { slider->setValue(value), slider->onSliderReleased(); }
+    void release(SliderWidget *slider, int value)
+    {
+        slider->setValue(value);
+        slider->onSliderReleased();
+        m_queue->drain(); // or the next value would take this one's place
+    }
     QList<QByteArray> takeWrites();
 
     std::unique_ptr<CommandQueue> m_queue;
@@ -304,7 +309,6 @@ void TestLedWork::settingsAreSentAndStored()
     release(m_page->brightnessSlider(), 4);
     m_connected = false;
     release(m_page->brightnessSlider(), 5);
-    m_queue->drain();
     QCOMPARE(m_desk->takeCommands(), (QStringList{"W 73=8", "W 72=3", "W 72=4"}));
     QCOMPARE(settingsInt(QLatin1String(kPlaybackLevelKey), 0, false), 8);
     QCOMPARE(settingsInt(QLatin1String(kLedBrightnessKey), 0, false), 4);
