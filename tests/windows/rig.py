@@ -112,8 +112,14 @@ class Rig:
         return re.findall(r"(\w+) +\d+ .*'quorvel\.exe'", self.run(["wine", "winedbg", "--command", "info proc"]))
 
     def end_copies(self):
-        """Ends every copy that still runs, also one that was not started by the case itself."""
+        """Ends every copy that still runs, also one that was not started by the case itself, and waits until it is
+        gone: the next start would take its window for its own."""
         self.run(["wine", "taskkill", "/f", "/im", "quorvel.exe"])
+        wait_for(lambda: not self.copies() and not self.windows(TITLE), "the copies to end")
+
+    def windows(self, title):
+        """The numbers of the visible windows of that title."""
+        return self.run(["xdotool", "search", "--onlyvisible", "--name", f"^{title}$"]).split()
 
     def screenshot(self, path):
         self.run(["import", "-window", "root", str(path)])
@@ -158,6 +164,7 @@ class Run:
         for process in self.processes:
             process.kill()
             process.wait(10)
+        wait_for(lambda: not self.rig.windows(TITLE), "the program's windows to go")
 
     def start(self):
         """Starts the program here and returns the process."""
@@ -190,7 +197,7 @@ class Run:
 
     def window(self, title=TITLE, at_least=100):
         """(x, y, width, height) of the visible window of that title, if it is that wide; or None."""
-        for number in self.rig.run(["xdotool", "search", "--onlyvisible", "--name", f"^{title}$"]).split():
+        for number in self.rig.windows(title):
             shape = dict(line.split("=") for line in
                          self.rig.run(["xdotool", "getwindowgeometry", "--shell", number]).splitlines())
             if int(shape.get("WIDTH", 0)) >= at_least:
