@@ -133,8 +133,9 @@ def precompile():
     if done.returncode:
         sys.exit(f"mutate: {done.stdout}")
     # Taken only where the same parts of Qt are announced. Resources are compiled otherwise and need none.
+    parts = " ".join(sorted(set(re.findall(r"-DQT_[A-Z]+_LIB", compiler))))
     LAUNCHER.write_text('#!/bin/sh\ncase "$*" in *" -std="*)'
-                        f' set -- "$@" -DQT_GUI_LIB -DQT_WIDGETS_LIB -include {header} ;; esac\nexec "$@"\n')
+                        f' set -- "$@" {parts} -include {header} ;; esac\nexec "$@"\n')
     LAUNCHER.chmod(0o755)
 
 
