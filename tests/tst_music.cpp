@@ -38,14 +38,14 @@ public:
         fixture.desk.sound().play(playing(Sound::Tone));
         // The clock does not hold the analyser back: it waits here until the page has taken its heights.
         SoundAnalyzer &analyzer = SoundAnalyzer::instance();
-        QObject::connect(
-            &analyzer, &SoundAnalyzer::heightsReady, page.get(), [this] { ++told; }, Qt::DirectConnection);
         QObject::connect(&analyzer, &SoundAnalyzer::heightsReady, page.get(), [this](const QList<int> &heights) {
             heard.append(heights);
             ++taken;
             turns.release();
         });
         fixture.desk.sound().setProbe([this, &analyzer](AudioCall call, int) {
+            if (call == AudioCall::ReleaseBuffer) // behind the heights
+                ++told;
             if (call != AudioCall::NextPacketSize)
                 return;
             ++turn;
@@ -59,6 +59,7 @@ public:
         page.reset(); // waits for the analyser
         fixture.desk.sound().setProbe({});
         ledWorkThread::shutDown();
+        QCoreApplication::processEvents(); // what the two threads still tell is not the next page's
         closeHid();
         matrixForm = kTaperingForm;
     }

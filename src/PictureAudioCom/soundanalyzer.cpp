@@ -124,7 +124,7 @@ void SoundAnalyzer::run()
         m_analysis.clear();
         captureTurns();
         m_running = 0;
-        Q_EMIT stopped();
+        tell([this] { Q_EMIT stopped(); });
     }
     release();
 }
@@ -221,7 +221,7 @@ bool SoundAnalyzer::analysePacket(const platform::AudioPacket &packet)
     if (const auto heights = barHeights(*sums, matrixForm)) {
         const QList<int> list(heights->begin(), heights->end());
         qDebug() << list;
-        Q_EMIT heightsReady(list);
+        tell([this, list] { Q_EMIT heightsReady(list); });
     }
     return true;
 }

@@ -11,7 +11,7 @@
 #include "platform/joinedthread.h"
 
 /// Listens to what the computer plays and tells how high the bars of its spectrum are. start() begins; a start while it
-/// ends is lost, as with every thread. Its signals come from its own thread.
+/// ends is lost, as with every thread. Its signals come to the thread that made it, once its event loop runs.
 class SoundAnalyzer : public JoinedThread
 {
     Q_OBJECT

@@ -139,7 +139,7 @@ void ledWorkThread::buildSpectrum()
         const std::lock_guard levelsLock(m_mutex);
         visual->setLevels(m_levels);
     }
-    Q_EMIT frameBuilt(0);
+    tell([this] { Q_EMIT frameBuilt(0); });
 }
 
 void ledWorkThread::sendSpectrum()
@@ -186,8 +186,8 @@ void ledWorkThread::upload()
         stop = m_uploadStop;
     }
     const bool complete = uploadText(
-        QLatin1String(kTextFile), [this](int percent) { Q_EMIT progress(percent); }, stop);
-    Q_EMIT uploadEnded(complete);
+        QLatin1String(kTextFile), [this](int percent) { tell([this, percent] { Q_EMIT progress(percent); }); }, stop);
+    tell([this, complete] { Q_EMIT uploadEnded(complete); });
 }
 
 void ledWorkThread::sendData(std::span<const std::int32_t> cells)

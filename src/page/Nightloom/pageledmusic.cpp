@@ -52,7 +52,7 @@ pageLEDMusic::pageLEDMusic(AccessoryCheck ensureConnected, LiveDisplay &display,
 {
     connect(&m_analyzer, &SoundAnalyzer::heightsReady, this, &pageLEDMusic::showHeights);
     connect(&m_analyzer, &SoundAnalyzer::stopped, this, &pageLEDMusic::onSoudanalyzerIsRun);
-    connect(&m_analyzer, &QThread::finished, this, &pageLEDMusic::captureFinished);
+    connect(&m_analyzer, &SoundAnalyzer::ended, this, &pageLEDMusic::captureFinished);
     connect(ledWorkThread::instance(), &ledWorkThread::frameBuilt, this, &pageLEDMusic::sendBuiltFrame);
     buildPanels(kPanels);
     connect(&m_display, &LiveDisplay::musicBegins, this, &pageLEDMusic::startCapture);

@@ -39,7 +39,7 @@ pageSceneSetting::pageSceneSetting(SearchDeviceDlg &session, CommandQueue &queue
     column->addWidget(m_areas, 1);
 
     addRules();
-    connect(m_worker, &QThread::finished, this, &pageSceneSetting::onWorkFinished);
+    connect(m_worker, &WorkThread::ended, this, &pageSceneSetting::onWorkFinished);
     showHalf(deviceState.value(Command::SceneMode) % 2 != 0);
     updateInterfaceData();
 }
