@@ -18,6 +18,9 @@ constexpr qint64 kLargestLock = 4096;    // bytes; who holds it, and where
 
 using Values = QMap<QString, QVariant>;
 
+/// What the toolkit was given by us to write last, on this thread: it is to be found in the file again.
+thread_local QByteArray s_composed;
+
 bool readFormat(QIODevice &device, QSettings::SettingsMap &values)
 {
     const QByteArray bytes = device.read(kLargestFile + 1);
@@ -27,14 +30,11 @@ bool readFormat(QIODevice &device, QSettings::SettingsMap &values)
     return true;
 }
 
-QByteArray bytesOf(const Values &values)
-{
-    return composeIni(values, platform::desk().files().lineEnd());
-}
-
 bool writeFormat(QIODevice &device, const QSettings::SettingsMap &values)
 {
-    return platform::desk().files().write(device, bytesOf(values));
+    platform::Files &files = platform::desk().files();
+    s_composed = composeIni(values, files.lineEnd());
+    return files.write(device, s_composed);
 }
 
 /// The toolkit's INI format in our own hands: it builds no other types, and keeps letter case on every system.
@@ -58,6 +58,12 @@ QString textOf(const QVariant &value)
     }
 }
 
+/// As the file will give it back: a number or on/off is a text there.
+QVariant asRead(const QVariant &value)
+{
+    return value.typeId() == QMetaType::QStringList ? value : QVariant(value.toString());
+}
+
 /// A settings file opened to be read. Only regular files: the toolkit would wait for whoever writes to a pipe.
 template <typename Read> auto readFrom(const QString &fileName, const Read &read)
 {
@@ -73,20 +79,21 @@ bool refuse(const QString &fileName, const QString &why)
 }
 
 /// Has the toolkit write the values under a scratch name, where its lock and its cache are nobody else's.
-bool replaceFile(const QString &fileName, const Values &values, const QByteArray &bytes)
+bool replaceFile(const QString &fileName, const Values &values)
 {
-    if (bytes.size() > kLargestFile)
-        return refuse(fileName, QStringLiteral("it would be too large to be read again"));
     Replacement file(fileName);
     if (!file.open())
         return refuse(fileName, file.error());
+    s_composed.clear();
     {
         QSettings settings(file.handOver(), iniFormat());
         settings.setAtomicSyncRequired(false); // it is put in place below
         for (auto value = values.cbegin(); value != values.cend(); ++value)
             settings.setValue(value.key(), value.value());
     }
-    return file.putInPlace(bytes) || refuse(fileName, file.error());
+    if (s_composed.size() > kLargestFile || parseIni(s_composed).values.size() != values.size())
+        return refuse(fileName, QStringLiteral("it could not be read again"));
+    return file.putInPlace(s_composed) || refuse(fileName, file.error());
 }
 
 /// Nothing else is left to the toolkit, which would wait for whoever writes to a pipe and read any size into memory.
@@ -94,6 +101,14 @@ bool mayBeLock(const QString &name)
 {
     const QFileInfo file(name);
     return !file.exists() || (file.isFile() && file.size() <= kLargestLock);
+}
+
+/// The toolkit keeps the system's reason to itself: another file of that kind meets it as well.
+QString whyUnlocked(const QString &lockName, QLockFile::LockError error)
+{
+    Replacement probe(lockName + QLatin1String(".probe"));
+    const bool mayWrite = error != QLockFile::UnknownError || (probe.open() && probe.write(QByteArray(64, ' ')));
+    return mayWrite ? QStringLiteral("it cannot be locked") : probe.error();
 }
 
 /// Reads a file, lets the values be changed and writes it, unless nothing has changed.
@@ -105,19 +120,18 @@ template <typename Change> bool changeFile(const QString &fileName, const Change
         QFile::remove(lockName);
     QLockFile lock(lockName);
     if (!mayBeLock(lockName) || !lock.tryLock(kLockWait))
-        return refuse(fileName, QStringLiteral("it cannot be locked"));
+        return refuse(fileName, whyUnlocked(lockName, lock.error()));
     const WholeFile old = readWhole(fileName, kLargestFile);
     if (!old.error.isEmpty())
         return refuse(fileName, old.error);
     const IniContent content = old.more ? IniContent{{}, true} : parseIni(old.bytes);
     Values values = content.values;
     change(values);
-    const QByteArray bytes = bytesOf(values);
-    if (bytes == old.bytes)
+    if (values == content.values)
         return true;
     if (content.hasForeignLines && !keepDamaged(fileName, old))
         return refuse(fileName, QStringLiteral("what it held cannot be kept"));
-    return replaceFile(fileName, values, bytes);
+    return replaceFile(fileName, values);
 }
 
 } // namespace
@@ -158,7 +172,7 @@ QList<QPair<QString, QString>> readAllSettings(const QString &fileName)
 
 bool storeSetting(const QString &key, const QVariant &value, const QString &fileName)
 {
-    return changeFile(fileName, [&](Values &values) { values[normalizedKey(key)] = value; });
+    return changeFile(fileName, [&](Values &values) { values[normalizedKey(key)] = asRead(value); });
 }
 
 bool writeAllSettings(const QString &fileName, const QList<QPair<QString, QString>> &settings)

@@ -21,7 +21,11 @@ struct IniContent
 /// The key as the toolkit's settings class knows it: without empty parts between slashes.
 QString normalizedKey(const QString &key);
 
-/// Takes any bytes, in time that grows with their number only.
+/// Lines of a file and texts between commas, all in all: twenty thousand programs to follow.
+inline constexpr qsizetype kMostIniParts = 50'000;
+
+/// Takes any bytes, in time that grows with their number only. A file of more parts than that holds nothing but foreign
+/// lines: reading it would hold up the start.
 IniContent parseIni(const QByteArray &bytes);
 
 /// The file that holds these values: texts, lists of texts, numbers, on/off, and bytes as parseIni gave them. Sections

@@ -142,10 +142,11 @@ class Value
 public:
     explicit Value(QByteArrayView bytes) : m_bytes(bytes) {}
 
-    QStringList texts()
+    /// Not much more of them than that.
+    QStringList texts(qsizetype most)
     {
         skipBlanks();
-        while (m_at < m_bytes.size())
+        while (m_at < m_bytes.size() && m_texts.size() <= most)
             step();
         endText();
         return m_texts;
@@ -271,9 +272,8 @@ QString plainText(const QString &text)
     return text.startsWith(QLatin1String("@@")) ? text.mid(1) : text;
 }
 
-QVariant valueOf(QByteArrayView bytes)
+QVariant valueOf(QByteArrayView bytes, QStringList texts)
 {
-    QStringList texts = Value(bytes).texts();
     if (std::any_of(texts.cbegin(), texts.cend(), isOtherType))
         return bytes.toByteArray();
     for (QString &text : texts)
@@ -306,7 +306,8 @@ IniContent parseIni(const QByteArray &bytes)
     content.hasForeignLines = bytes.contains('\0');
     Lines lines(bytes.startsWith(kByteOrderMark) ? QByteArrayView(bytes).sliced(3) : QByteArrayView(bytes));
     QString group;
-    for (Line line; lines.next(line);) {
+    qsizetype room = kMostIniParts;
+    for (Line line; room >= 0 && lines.next(line); --room) {
         const QByteArrayView text = line.text;
         if (text.startsWith('[')) {
             const qsizetype end = text.indexOf(']');
@@ -314,13 +315,16 @@ IniContent parseIni(const QByteArray &bytes)
             group = groupOf((end < 0 ? text.sliced(1) : text.sliced(1, end - 1)).trimmed());
         } else if (line.equals > 0) {
             const QString key = normalizedKey(group + unescapedKey(text.first(line.equals).trimmed()));
+            const QByteArrayView value = text.sliced(line.equals + 1);
+            const QStringList texts = Value(value).texts(room);
+            room -= texts.size() - 1;
             if (key.isEmpty())
                 content.hasForeignLines = true;
             else
-                content.values.insert(key, valueOf(text.sliced(line.equals + 1)));
+                content.values.insert(key, valueOf(value, texts));
         } else {
             content.hasForeignLines = true;
         }
     }
-    return content;
+    return room >= 0 ? content : IniContent{{}, true};
 }

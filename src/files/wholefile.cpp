@@ -39,16 +39,18 @@ QString randomName(const QString &fileName)
     return fileName + QLatin1Char('.') + letters + QLatin1String(kScratchSuffix);
 }
 
-/// Scratch files whose writer was killed.
+/// Scratch files whose writer was killed, and what the toolkit puts beside them while it writes: their lock, and a file
+/// of its own that was to take their place.
 void removeForgotten(const QFileInfo &file)
 {
-    const qsizetype length = file.fileName().size() + 1 + kScratchLetters + qsizetype(qstrlen(kScratchSuffix));
+    const QString start = file.fileName() + QLatin1Char('.');
+    const QString scratch = QLatin1String(kScratchSuffix) + QLatin1Char('.');
     const QDateTime before = QDateTime::currentDateTime().addSecs(-kForgottenAfter);
     const QFileInfoList others = file.dir().entryInfoList(QDir::Files | QDir::Hidden);
     for (const QFileInfo &other : others) {
         const QString name = other.fileName();
-        if (name.size() == length && name.startsWith(file.fileName() + QLatin1Char('.')) &&
-            name.endsWith(QLatin1String(kScratchSuffix)) && other.lastModified() < before)
+        const QString end = name.mid(start.size() + kScratchLetters) + QLatin1Char('.');
+        if (name.startsWith(start) && end.startsWith(scratch) && other.lastModified() < before)
             QFile::remove(other.filePath());
     }
 }

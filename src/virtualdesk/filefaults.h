@@ -1,10 +1,10 @@
 #pragma once
 
-#include <atomic>
+#include <mutex>
 
 namespace virtualdesk {
 
-/// Calls of one kind that the disk refuses: by number from now on, 1 the next one, 0 none.
+/// Calls of one kind that the disk refuses: by number from now on, 1 the next one, 0 none. Safe from any thread.
 class FaultyCall
 {
 public:
@@ -16,10 +16,8 @@ public:
     /// Whether the call that is made now fails.
     bool failsNow()
     {
-        if (m_left == 0)
-            return false;
-        const int left = --m_left;
-        if (left > 0)
+        const std::lock_guard lock(m_mutex);
+        if (m_left == 0 || --m_left > 0)
             return false;
         m_left = m_stays ? 1 : 0;
         return true;
@@ -28,12 +26,14 @@ public:
 private:
     void set(int call, bool stays)
     {
+        const std::lock_guard lock(m_mutex);
         m_stays = stays;
         m_left = call;
     }
 
-    std::atomic<int> m_left{0};
-    std::atomic<bool> m_stays{false};
+    std::mutex m_mutex; // guards what follows
+    int m_left = 0;
+    bool m_stays = false;
 };
 
 /// What the simulated desk's disk does not do.
