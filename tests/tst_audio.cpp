@@ -1,4 +1,4 @@
-// What the drawings make of heights, and what the simulated sound reads.
+// What the drawings make of heights and of the time, and what the simulated sound reads.
 
 #include <algorithm>
 #include <set>
@@ -6,7 +6,9 @@
 #include <QtTest>
 
 #include "ledmatrix/matrixform.h"
+#include "ledmatrix/matrixgeometry.h"
 #include "page/Nightloom/audioled.h"
+#include "page/Nightloom/dateled.h"
 #include "support/sounds.h"
 #include "support/textfile.h"
 #include "virtualdesk/deskscript.h"
@@ -33,6 +35,28 @@ Levels drawn(AudioBars &bars, AudioTemplate which, const Levels &levels)
     return {bars.frame().begin(), bars.frame().end()};
 }
 
+/// What a renderer lit, as its grid of dots: seven lines of 21.
+QStringList dots(const ClockRenderer &renderer, int form)
+{
+    MatrixFrame frame(form);
+    frame.setFlat(renderer.frame());
+    QStringList lines;
+    for (int y = 0; y < 7; ++y) {
+        QString line;
+        for (int x = 0; x < 21; ++x) {
+            const int row = form == kTaperingForm ? 2 * y : 5 + 2 * y;
+            const int column = form == kTaperingForm ? x + 2 - matrixRowShift(form, row) / 2 : 2 * x;
+            const auto lit = [&](int down, int right) {
+                return frame.contains(row + down, column + right) && frame.cell(row + down, column + right) == 1;
+            };
+            const bool square = form == kTaperingForm || (lit(0, 1) && lit(1, 0) && lit(1, 1));
+            line += QLatin1Char(lit(0, 0) && square ? '#' : '.');
+        }
+        lines.append(line);
+    }
+    return lines;
+}
+
 } // namespace
 
 class TestAudio : public QObject
@@ -42,6 +66,7 @@ class TestAudio : public QObject
 private Q_SLOTS:
     void fillsEveryColumn();
     void peaksFall();
+    void clockDigits();
     void readsWaveFiles();
     void readsAudioScripts();
 };
@@ -58,9 +83,10 @@ void TestAudio::fillsEveryColumn()
         QCOMPARE(litCells(drawn(*bars, AudioTemplate::Bars, Levels(11, 1))), 11 * width); // the lowest height is a dot
         QCOMPARE(litCells(drawn(*bars, AudioTemplate::Bars, Levels(11, 0))), 0);
         // Far too high, negative, too few and too many.
-        QCOMPARE(litCells(drawn(*bars, AudioTemplate::Mirrored, Levels(20, INT32_MAX))), cells * width);
         QCOMPARE(litCells(drawn(*bars, AudioTemplate::Hanging, Levels(3, INT32_MIN))), 0);
+        QCOMPARE(litCells(drawn(*bars, AudioTemplate::Mirrored, Levels(20, INT32_MAX))), cells * width);
         bars->reset();
+        QCOMPARE(litCells(bars->frame()), 0);
         QCOMPARE(litCells(drawn(*bars, AudioTemplate::Peaks, Levels())), 0);
 
         // The bars stand side by side: the middle one reaches as far down as the form, and none shares a cell.
@@ -101,6 +127,33 @@ void TestAudio::peaksFall()
     for (int i = 0; i < 23; ++i)
         drawn(*bars, AudioTemplate::Peaks, Levels(11, 1));
     QCOMPARE(litCells(bars->frame()), 11 * 2); // it has come down to the bar
+}
+
+void TestAudio::clockDigits()
+{
+    const QStringList expected = {
+        ".##...##......#..####", //
+        "#..#.#..#....##.....#", //
+        "...#....#.#.#.#.....#", //
+        "..#...##....#.#....#.", //
+        ".#......#.#.####...#.", //
+        "#....#..#.....#...#..", //
+        "####..##......#...#..", //
+    };
+    for (const int form : {kTaperingForm, kRectangleForm}) {
+        const auto renderer = makeClockRenderer(form);
+        renderer->render(QTime(23, 47, 10));
+        QCOMPARE(dots(*renderer, form).join('\n'), expected.join('\n'));
+        QCOMPARE(std::count(renderer->frame().begin(), renderer->frame().end(), 1), // and none beside the dots
+                 expected.join(QString()).count('#') * (form == kTaperingForm ? 2 : 4));
+        const auto lit = [&renderer](int msec) {
+            renderer->render(QTime(11, 11, 59, msec));
+            return std::count(renderer->frame().begin(), renderer->frame().end(), 1);
+        };
+        QCOMPARE(lit(499) - lit(500), form == kTaperingForm ? 4 : 8); // the colon blinks
+        QCOMPARE(lit(0), lit(499));
+        QCOMPARE(lit(500), lit(999));
+    }
 }
 
 void TestAudio::readsWaveFiles()

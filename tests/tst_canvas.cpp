@@ -1,14 +1,16 @@
-#include <QPushButton>
-#include <QTabBar>
 #include <QtTest>
+#include <QtWidgets>
 
 #include "controls/sliderwidget.h"
 #include "support/accessoryfixture.h"
 #include "support/answeredcanvas.h"
+#include "support/fulldisk.h"
 
 using namespace std::chrono_literals;
 
 namespace {
+
+constexpr const char *kDataFile = pageLEDMatrixCanvas::kDataFile;
 
 QStringList tabNames(const AnsweredCanvas &page)
 {
@@ -20,7 +22,8 @@ QStringList tabNames(const AnsweredCanvas &page)
 
 } // namespace
 
-/// The page that animations are drawn on: its frames, their history, and how they are looked at.
+/// The page that animations are drawn on: its frames, their history, how they are looked at, and that they are not
+/// lost.
 class TestCanvas : public AccessoryFixture
 {
     Q_OBJECT
@@ -34,6 +37,8 @@ private Q_SLOTS:
     void onlyKeysScroll();
     void previewAndOnionSkin();
     void eachFormHasItsAnimation();
+    void shownAgain();
+    void leaving();
 };
 
 void TestCanvas::frameCounter()
@@ -43,7 +48,7 @@ void TestCanvas::frameCounter()
         page->addFrame();
     page->addFrame();
     QCOMPARE(page->tabs()->count(), 193);
-    QVERIFY(page->warnings.isEmpty());
+    QVERIFY(page->warnings.isEmpty() && page->button("Undo")->text() == QLatin1String("Undo"));
     page->addFrame();
     page->duplicateFrame();
     QCOMPARE(page->warnings, (QStringList{"Maximum 192 frames", "Maximum 192 frames"}));
@@ -197,11 +202,14 @@ void TestCanvas::previewAndOnionSkin()
     QTest::mouseClick(page->button("Onion Skin"), Qt::LeftButton);
     QVERIFY(colorOf(0) != dark && colorOf(0) != lit);
 
+    const QSignalSpy edited(editor, &MatrixEditor::edited);
+    QTest::mousePress(editor, Qt::LeftButton, {}, middle(*editor, {0, 5}));
     page->togglePreview(); // the open frame, then from the first on, in the open editor
     m_desk->clock.advance(100ms);
     QCOMPARE(colorOf(0), lit);
     QCOMPARE(colorOf(1), dark);
-    draw(*page, 9); // nothing is drawn into a frame that only passes by
+    QCOMPARE(edited.count(), 1); // a stroke ends here
+    draw(*page, 9);              // nothing is drawn into a frame that only passes by
     m_desk->clock.advance(100ms);
     QCOMPARE(colorOf(0).name(), dark.name()); // the onion skin waits as well
     QCOMPARE(colorOf(1), lit);
@@ -213,7 +221,7 @@ void TestCanvas::previewAndOnionSkin()
     page->hide(); // nobody sees it
     m_desk->clock.advance(1s);
     QCOMPARE(m_desk->clock.tasksWaiting(), std::size_t(0));
-    QCOMPARE(page->tabs()->editor(1)->frame().digits(), "01" + QByteArray(947, '0'));
+    QCOMPARE(page->tabs()->editor(1)->frame().digits(), "010001" + QByteArray(943, '0'));
 }
 
 void TestCanvas::eachFormHasItsAnimation()
@@ -235,6 +243,70 @@ void TestCanvas::eachFormHasItsAnimation()
     page->duplicateFrame();
     page->cleanFrame();
     QCOMPARE(page->tabs()->count(), 0);
+}
+
+void TestCanvas::shownAgain()
+{
+    const QByteArray other(949, '1');
+    connectDevice();
+    for (const auto &[form, content, frames, shownIn] : // -1: nowhere
+         {std::tuple(0, other.repeated(3), 3, 0),
+          {1, other.repeated(3), 3, 0},
+          {1, QByteArray(1050 * 194, '1'), 1, -1}, // more than can be drawn
+          {0, other + "1", 1, -1},
+          {0, QByteArray(949, 'x'), 1, -1},
+          {1, QByteArray(1050 * 193, '1'), 193, 1}}) {
+        QVERIFY(writeText(QLatin1String(kDataFile), content));
+        const auto page = makePage(form);
+        QCOMPARE(page->work()->notice().isEmpty(), shownIn >= 0);
+        QVERIFY(page->dataFile().isEmpty() && !page->button("Write Animate")->isEnabled());
+        matrixForm = shownIn >= 0 ? shownIn : form;
+        page->updateInterfaceData();
+        QCOMPARE(page->tabs()->count(), frames);
+        if (shownIn >= 0)
+            QCOMPARE(page->tabs()->digits().join(), content);
+        QVERIFY(page->mayLeave());
+        QCOMPARE(page->timesAsked, 0);
+        QCOMPARE(readText(QLatin1String(kDataFile)), content);
+        if (frames != 193)
+            continue;
+        const QString count = page->findChild<QLabel *>(QStringLiteral("note"))->text();
+        QCOMPARE(count, QStringLiteral("Frames: 193, of which the accessory takes 173"));
+        QVERIFY(finish(*page, &AnsweredCanvas::saveAnimate) && finish(*page, &AnsweredCanvas::writeAnimate));
+        QCOMPARE(page->work()->notice(), QStringLiteral("The accessory takes 173 of the 193 frames."));
+    }
+}
+
+void TestCanvas::leaving()
+{
+    using Leaving = AnsweredCanvas::Leaving;
+    const auto page = makePage();
+    int asked = 0;
+    page->addFrame(); // dark: nothing is lost
+    QVERIFY(page->mayLeave());
+    draw(*page, 0);
+    QVERIFY(!page->mayLeave() && page->timesAsked == ++asked);
+    page->undo();
+    QVERIFY(page->mayLeave());
+    page->redo();
+    page->leaving = Leaving::DoNotSave;
+    QVERIFY(page->mayLeave() && page->timesAsked == ++asked);
+    QVERIFY(!QFile::exists(QLatin1String(kDataFile)));
+    page->leaving = Leaving::Save;
+    {
+        const FullDisk full(1000);
+        QVERIFY(!page->mayLeave() && page->timesAsked == ++asked);
+        QCOMPARE(page->warnings.count(), 1);
+    }
+    matrixForm = kRectangleForm; // two drawings, one data file: the one that is seen gets it
+    page->updateInterfaceData();
+    draw(*page, 2);
+    QVERIFY(!page->mayLeave() && page->timesAsked == ++asked); // no file was named for the other
+    page->fileName = QStringLiteral("other.csv");
+    QVERIFY(page->mayLeave() && page->timesAsked == ++asked);
+    QCOMPARE(readText(page->fileName), QByteArray(949, '0') + "1" + QByteArray(948, '0'));
+    QCOMPARE(readText(QLatin1String(kDataFile)), "001" + QByteArray(1047, '0'));
+    QVERIFY(page->mayLeave() && page->timesAsked == asked);
 }
 
 QTEST_MAIN(TestCanvas)

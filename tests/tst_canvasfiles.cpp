@@ -36,8 +36,6 @@ private Q_SLOTS:
     void cancelledUpload();
     void cancelledFiles();
     void timeLeft();
-    void shownAgain();
-    void leaving();
 };
 
 void TestCanvasFiles::importRules()
@@ -362,70 +360,6 @@ void TestCanvasFiles::timeLeft()
     for (const auto &[step, progress, gone, left] :
          {std::tuple{0, 0, 500, 6500}, {0, 10, 2000, 5000}, {0, 0, 9000, 1000}, {1, 80, 4000, 4000}, {1, 130, 8000, 0}})
         QCOMPARE(::timeLeft(steps, std::size_t(step), progress, milliseconds(gone)).count(), left);
-}
-
-void TestCanvasFiles::shownAgain()
-{
-    const QByteArray other(949, '1');
-    connectDevice();
-    for (const auto &[form, content, frames, shownIn] : // -1: nowhere
-         {std::tuple(0, other.repeated(3), 3, 0),
-          {1, other.repeated(3), 3, 0},
-          {1, QByteArray(1050 * 194, '1'), 1, -1}, // more than can be drawn
-          {0, other + "1", 1, -1},
-          {0, QByteArray(949, 'x'), 1, -1},
-          {1, QByteArray(1050 * 193, '1'), 193, 1}}) {
-        QVERIFY(writeText(QLatin1String(kDataFile), content));
-        const auto page = makePage(form);
-        QCOMPARE(page->work()->notice().isEmpty(), shownIn >= 0);
-        QVERIFY(page->dataFile().isEmpty() && !page->button("Write Animate")->isEnabled());
-        matrixForm = shownIn >= 0 ? shownIn : form;
-        page->updateInterfaceData();
-        QCOMPARE(page->tabs()->count(), frames);
-        if (shownIn >= 0)
-            QCOMPARE(page->tabs()->digits().join(), content);
-        QVERIFY(page->mayLeave());
-        QCOMPARE(page->timesAsked, 0);
-        QCOMPARE(readText(QLatin1String(kDataFile)), content);
-        if (frames != 193)
-            continue;
-        const QString count = page->findChild<QLabel *>(QStringLiteral("note"))->text();
-        QCOMPARE(count, QStringLiteral("Frames: 193, of which the accessory takes 173"));
-        QVERIFY(finish(*page, &AnsweredCanvas::saveAnimate) && finish(*page, &AnsweredCanvas::writeAnimate));
-        QCOMPARE(page->work()->notice(), QStringLiteral("The accessory takes 173 of the 193 frames."));
-    }
-}
-
-void TestCanvasFiles::leaving()
-{
-    using Leaving = AnsweredCanvas::Leaving;
-    const auto page = makePage();
-    int asked = 0;
-    page->addFrame(); // dark: nothing is lost
-    QVERIFY(page->mayLeave());
-    draw(*page, 0);
-    QVERIFY(!page->mayLeave() && page->timesAsked == ++asked);
-    page->undo();
-    QVERIFY(page->mayLeave());
-    page->redo();
-    page->leaving = Leaving::DoNotSave;
-    QVERIFY(page->mayLeave() && page->timesAsked == ++asked);
-    QVERIFY(!QFile::exists(QLatin1String(kDataFile)));
-    page->leaving = Leaving::Save;
-    {
-        const FullDisk full(1000);
-        QVERIFY(!page->mayLeave() && page->timesAsked == ++asked);
-        QCOMPARE(page->warnings.count(), 1);
-    }
-    matrixForm = kRectangleForm; // two drawings, one data file: the one that is seen gets it
-    page->updateInterfaceData();
-    draw(*page, 2);
-    QVERIFY(!page->mayLeave() && page->timesAsked == ++asked); // no file was named for the other
-    page->fileName = QStringLiteral("other.csv");
-    QVERIFY(page->mayLeave() && page->timesAsked == ++asked);
-    QCOMPARE(readText(page->fileName), QByteArray(949, '0') + "1" + QByteArray(948, '0'));
-    QCOMPARE(readText(QLatin1String(kDataFile)), "001" + QByteArray(1047, '0'));
-    QVERIFY(page->mayLeave() && page->timesAsked == asked);
 }
 
 QTEST_MAIN(TestCanvasFiles)

@@ -6,9 +6,7 @@
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
 #include "ledmatrix/matrixform.h"
-#include "ledmatrix/matrixgeometry.h"
 #include "page/Nightloom/accessorysettings.h"
-#include "page/Nightloom/dateled.h"
 #include "page/Nightloom/ledframesource.h"
 #include "page/Nightloom/ledworkthread.h"
 #include "page/Nightloom/livedisplay.h"
@@ -44,28 +42,6 @@ private:
     std::vector<std::int32_t> m_cells;
 };
 
-/// What a renderer lit, as its grid of dots: seven lines of 21.
-QStringList dots(const ClockRenderer &renderer, int form)
-{
-    MatrixFrame frame(form);
-    frame.setFlat(renderer.frame());
-    QStringList lines;
-    for (int y = 0; y < 7; ++y) {
-        QString line;
-        for (int x = 0; x < 21; ++x) {
-            const int row = form == kTaperingForm ? 2 * y : 5 + 2 * y;
-            const int column = form == kTaperingForm ? x + 2 - matrixRowShift(form, row) / 2 : 2 * x;
-            const auto lit = [&](int down, int right) {
-                return frame.contains(row + down, column + right) && frame.cell(row + down, column + right) == 1;
-            };
-            const bool square = form == kTaperingForm || (lit(0, 1) && lit(1, 0) && lit(1, 1));
-            line += QLatin1Char(lit(0, 0) && square ? '#' : '.');
-        }
-        lines.append(line);
-    }
-    return lines;
-}
-
 } // namespace
 
 class TestLedWork : public AccessoryFixture
@@ -74,7 +50,6 @@ class TestLedWork : public AccessoryFixture
 private Q_SLOTS:
     void init();
     void cleanup();
-    void clockDigits();
     void clockStopsWithinOnePass();
     void clockGoesOnInVain();
     void spectrum();
@@ -122,33 +97,6 @@ void TestLedWork::cleanup()
     m_display.reset();
     m_queue.reset();
     AccessoryFixture::cleanup();
-}
-
-void TestLedWork::clockDigits()
-{
-    const QStringList expected = {
-        ".##...##......#..####", //
-        "#..#.#..#....##.....#", //
-        "...#....#.#.#.#.....#", //
-        "..#...##....#.#....#.", //
-        ".#......#.#.####...#.", //
-        "#....#..#.....#...#..", //
-        "####..##......#...#..", //
-    };
-    for (const int form : {kTaperingForm, kRectangleForm}) {
-        const auto renderer = makeClockRenderer(form);
-        renderer->render(QTime(23, 47, 10));
-        QCOMPARE(dots(*renderer, form).join('\n'), expected.join('\n'));
-        QCOMPARE(std::count(renderer->frame().begin(), renderer->frame().end(), 1), // and none beside the dots
-                 expected.join(QString()).count('#') * (form == kTaperingForm ? 2 : 4));
-        const auto lit = [&renderer](int msec) {
-            renderer->render(QTime(11, 11, 59, msec));
-            return std::count(renderer->frame().begin(), renderer->frame().end(), 1);
-        };
-        QCOMPARE(lit(499) - lit(500), form == kTaperingForm ? 4 : 8); // the colon blinks
-        QCOMPARE(lit(0), lit(499));
-        QCOMPARE(lit(500), lit(999));
-    }
 }
 
 void TestLedWork::clockStopsWithinOnePass()

@@ -108,6 +108,27 @@ void setTextOf(QLabel *label, const QString &text)
 
 MonitorPanel::MonitorPanel(VirtualDesk &desk, QWidget *parent) : QWidget(parent), m_desk(desk)
 {
+    layOut();
+    m_refreshTimer.setSingleShot(true);
+    m_refreshTimer.setInterval(kRefreshDelay);
+    connect(&m_refreshTimer, &QTimer::timeout, this, &MonitorPanel::refresh);
+    connect(&m_desk, &VirtualDesk::monitorsChanged, this, &MonitorPanel::askForRefresh);
+    for (std::size_t i = 0; i < m_desk.monitorCount(); ++i)
+        m_selector->addItem(QLatin1String(m_desk.monitor(i).model().name));
+    connect(m_selector, &QComboBox::currentIndexChanged, this, &MonitorPanel::selectMonitor);
+
+    retranslate();
+    selectMonitor(0);
+}
+
+MonitorPanel::~MonitorPanel()
+{
+    if (m_listener != 0)
+        monitor().removeListener(m_listener);
+}
+
+void MonitorPanel::layOut()
+{
     m_selector = new Selector(this);
     m_screen = new ScreenView(this);
     m_state = new QLabel(this);
@@ -137,23 +158,6 @@ MonitorPanel::MonitorPanel(VirtualDesk &desk, QWidget *parent) : QWidget(parent)
     layout->addWidget(buildOsd(), 3);
     layout->addWidget(m_requestsTitle);
     layout->addWidget(m_requests, 2);
-
-    m_refreshTimer.setSingleShot(true);
-    m_refreshTimer.setInterval(kRefreshDelay);
-    connect(&m_refreshTimer, &QTimer::timeout, this, &MonitorPanel::refresh);
-    connect(&m_desk, &VirtualDesk::monitorsChanged, this, &MonitorPanel::askForRefresh);
-    for (std::size_t i = 0; i < m_desk.monitorCount(); ++i)
-        m_selector->addItem(QLatin1String(m_desk.monitor(i).model().name));
-    connect(m_selector, &QComboBox::currentIndexChanged, this, &MonitorPanel::selectMonitor);
-
-    retranslate();
-    selectMonitor(0);
-}
-
-MonitorPanel::~MonitorPanel()
-{
-    if (m_listener != 0)
-        monitor().removeListener(m_listener);
 }
 
 SimulatedMonitor &MonitorPanel::monitor() const

@@ -34,6 +34,7 @@ public:
     void retranslate();
 
 private:
+    void layOut();
     QWidget *buildOsd();
     QLayout *buildFaults();
     void selectMonitor(int index);

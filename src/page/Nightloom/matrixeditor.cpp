@@ -76,7 +76,6 @@ void MatrixEditor::setShownInstead(const std::optional<MatrixFrame> &shown)
 {
     if (m_shownInstead == shown)
         return;
-    finishStroke();
     m_shownInstead = shown;
     update();
 }

@@ -40,7 +40,7 @@ public:
     /// Lets another frame shine faintly behind this one, or none.
     void setOnionSkin(const std::optional<MatrixFrame> &behind);
 
-    /// Shows another frame instead of this one; nothing can be drawn until it is taken away.
+    /// Shows another frame instead of this one; nothing can be drawn until it is taken away. No stroke is under way.
     void setShownInstead(const std::optional<MatrixFrame> &shown);
 
     /// Ends a stroke that is being drawn as if the button were released.
