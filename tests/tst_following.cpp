@@ -233,35 +233,35 @@ void TestFollowing::loading()
 void TestFollowing::veryLongFile()
 {
     QByteArray text;
-    for (int i = 0; i < 34000; ++i) {
+    for (int i = 0; i < 16000; ++i) {
         const QByteArray name = "p" + QByteArray::number(i) + ".exe";
         text += "[" + name + "]\nappPath=C:/" + name + "\nappScence=5\n";
     }
     text += "[zz.exe]\nappPath=D:/Games/Race.exe\nappScence=6\n";
     writeText(kFile, text);
     m_page = std::make_unique<TestedPage>();
-    QCOMPARE(loadFollowList().size(), std::size_t(34001)); // none is lost
+    QCOMPARE(loadFollowList().size(), std::size_t(16001)); // none is lost
     QCOMPARE(front(Game), QStringList{"W 22=13"});         // and each is followed
     m_page->show();
-    row(34000)->sceneBox()->setCurrentIndex(2); // can be seen, changed and deleted
-    row(17000)->trashButton()->click();
-    QCOMPARE(row(33999)->sceneBox()->currentIndex(), 2);
+    row(16000)->sceneBox()->setCurrentIndex(2); // can be seen, changed and deleted
+    row(8000)->trashButton()->click();
+    QCOMPARE(row(15999)->sceneBox()->currentIndex(), 2);
     QVERIFY(m_page->findChildren<FollowRow *>().size() < 30); // whatever was looked at
     button("pushButtonApply")->click();
     QCOMPARE(loadFollowList().front(), (FollowEntry{QStringLiteral("D:/Games/Race.exe"), 2}));
-    row(33970)->sceneBox()->setFocus();
+    row(15970)->sceneBox()->setFocus();
     QTRY_VERIFY(QApplication::focusWidget());
     for (int place = 1, way = 1; place >= 0; place += way) { // two controls a row, by Tab to the end and back
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, way > 0 ? Qt::NoModifier : Qt::ShiftModifier);
         const QWidget *now = QApplication::focusWidget();
         QCOMPARE(now->visibleRegion().boundingRect(), now->rect());
-        const FollowRow *there = row(static_cast<std::size_t>(33970 + place / 2));
+        const FollowRow *there = row(static_cast<std::size_t>(15970 + place / 2));
         QCOMPARE(now, place % 2 == 0 ? static_cast<QWidget *>(there->sceneBox()) : there->trashButton());
         way = place == 59 ? -1 : way;
     }
     row(0); // out of sight, the row with the focus keeps its program
-    QCOMPARE(qobject_cast<FollowRow *>(QApplication::focusWidget()->parentWidget())->index(), 33970);
-    row(33999)->trashButton()->setFocus();
+    QCOMPARE(qobject_cast<FollowRow *>(QApplication::focusWidget()->parentWidget())->index(), 15970);
+    row(15999)->trashButton()->setFocus();
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space); // takes its row with it
     QVERIFY(QApplication::focusWidget()->isVisible());
 }

@@ -21,7 +21,7 @@ struct IniContent
 /// The key as the toolkit's settings class knows it: without empty parts between slashes.
 QString normalizedKey(const QString &key);
 
-/// Lines of a file and texts between commas, all in all: twenty thousand programs to follow.
+/// Lines of a file and texts between commas, all in all: sixteen thousand programs to follow.
 inline constexpr qsizetype kMostIniParts = 50'000;
 
 /// Takes any bytes, in time that grows with their number only. A file of more parts than that holds nothing but foreign
