@@ -18,8 +18,8 @@ constexpr qint64 kLargestLock = 4096;    // bytes; who holds it, and where
 
 using Values = QMap<QString, QVariant>;
 
-/// What the toolkit was given by us to write last, on this thread: it is to be found in the file again.
-thread_local QByteArray s_composed;
+/// Where this thread is told what the toolkit was given to write: that is to be found in the file again.
+thread_local QByteArray *s_composed = nullptr;
 
 bool readFormat(QIODevice &device, QSettings::SettingsMap &values)
 {
@@ -33,8 +33,10 @@ bool readFormat(QIODevice &device, QSettings::SettingsMap &values)
 bool writeFormat(QIODevice &device, const QSettings::SettingsMap &values)
 {
     platform::Files &files = platform::desk().files();
-    s_composed = composeIni(values, files.lineEnd());
-    return files.write(device, s_composed);
+    const QByteArray bytes = composeIni(values, files.lineEnd());
+    if (s_composed)
+        *s_composed = bytes;
+    return files.write(device, bytes);
 }
 
 /// The toolkit's INI format in our own hands: it builds no other types, and keeps letter case on every system.
@@ -84,16 +86,18 @@ bool replaceFile(const QString &fileName, const Values &values)
     Replacement file(fileName);
     if (!file.open())
         return refuse(fileName, file.error());
-    s_composed.clear();
+    QByteArray bytes;
+    s_composed = &bytes;
     {
         QSettings settings(file.handOver(), iniFormat());
         settings.setAtomicSyncRequired(false); // it is put in place below
         for (auto value = values.cbegin(); value != values.cend(); ++value)
             settings.setValue(value.key(), value.value());
     }
-    if (s_composed.size() > kLargestFile || parseIni(s_composed).values.size() != values.size())
+    s_composed = nullptr;
+    if (bytes.size() > kLargestFile || parseIni(bytes).values.size() != values.size())
         return refuse(fileName, QStringLiteral("it could not be read again"));
-    return file.putInPlace(s_composed) || refuse(fileName, file.error());
+    return file.putInPlace(bytes) || refuse(fileName, file.error());
 }
 
 /// Nothing else is left to the toolkit, which would wait for whoever writes to a pipe and read any size into memory.
