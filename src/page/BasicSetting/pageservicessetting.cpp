@@ -80,16 +80,6 @@ pageServicesSetting::pageServicesSetting(CommandQueue &queue, QWidget *parent)
     buildPanels(kPanels);
 }
 
-pageServicesSetting::~pageServicesSetting()
-{
-    // A child process is killed with its owner, and a monitor whose upgrade is cut off may not start again: the program
-    // goes on without its owner until this process ends.
-    if (m_upgrade && m_upgrade->state() != QProcess::NotRunning) {
-        m_upgrade->disconnect(this);
-        m_upgrade->setParent(nullptr);
-    }
-}
-
 QWidget *pageServicesSetting::buildPart(const char *name)
 {
     if (qstrcmp(name, kVersion) == 0)

@@ -10,7 +10,6 @@ class pageServicesSetting : public PanelPage
     Q_OBJECT
 public:
     explicit pageServicesSetting(CommandQueue &queue, QWidget *parent = nullptr);
-    ~pageServicesSetting() override;
 
     void updateInterfaceData() override;
 
