@@ -131,8 +131,8 @@ template <typename Change> bool changeFile(const QString &fileName, const Change
     const IniContent content = old.more ? IniContent{{}, true} : parseIni(old.bytes);
     Values values = content.values;
     change(values);
-    if (values == content.values)
-        return true;
+    if (values == content.values && composeIni(values, platform::desk().files().lineEnd()) == old.bytes)
+        return true; // the same settings in another hand's form are written anew
     if (content.hasForeignLines && !keepDamaged(fileName, old))
         return refuse(fileName, QStringLiteral("what it held cannot be kept"));
     return replaceFile(fileName, values);
