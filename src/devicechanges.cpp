@@ -37,6 +37,7 @@ void SearchDeviceDlg::registerNotifications()
 {
     for (const platform::Guid &interfaceClass : {kAccessoryClass, kHidClass, kMonitorClass})
         m_registrations.push_back(platform::desk().deviceNotifications().registerInterface(winId(), interfaceClass));
+    platform::desk().deviceNotifications().registerSystem(winId());
 }
 
 bool SearchDeviceDlg::nativeEvent(const QByteArray &eventType, void *message, qintptr *result)
@@ -50,6 +51,9 @@ bool SearchDeviceDlg::nativeEvent(const QByteArray &eventType, void *message, qi
             else if (native->wParam == platform::kDeviceArrival)
                 handleArrival(broadcast);
         }
+        const std::optional<SystemNotice> notice = systemNoticeOf(*native);
+        if (notice && m_host)
+            m_host->systemNoticed(*notice);
     }
     return QDialog::nativeEvent(eventType, message, result);
 }

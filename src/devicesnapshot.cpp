@@ -47,7 +47,6 @@ bool readSceneMode()
             break;
     }
     deviceState.store(Command::SceneMode, mode);
-    deviceState.lastSceneModeSent = mode;
     qDebug() << "Scenario modem:" << mode;
     return mode >= 1 && mode <= kHighestSceneMode;
 }
@@ -122,7 +121,7 @@ bool SearchDeviceDlg::readSceneModeData(int mode)
         requestSearchAfter(kBrokenBlockDelay);
         return false;
     }
-    deviceState.storeSceneBlock(std::span<const std::uint8_t, kSceneBlockSize>(bytes, kSceneBlockSize));
+    deviceState.storeSceneBlock(mode, std::span<const std::uint8_t, kSceneBlockSize>(bytes, kSceneBlockSize));
     qDebug() << "readSceneModeData end ...";
     return true;
 }

@@ -13,6 +13,8 @@
 #include "controls/pictures.h"
 #include "controls/sharedfonts.h"
 #include "ddc_protocol/commandqueue.h"
+#include "ddc_protocol/displayenumeration.h"
+#include "ddc_protocol/linkstatus.h"
 #include "ddc_protocol/scenemodes.h"
 #include "ddc_protocol/transport.h"
 #include "leftbar.h"
@@ -76,6 +78,7 @@ MainWindow::MainWindow(SearchDeviceDlg &session) : m_session(session)
 MainWindow::~MainWindow()
 {
     m_session.setHost(nullptr);
+    setLinkObserver({});
     endAccessoryWork();
     delete m_pages; // before the queue that they send through
     closeHid();
@@ -89,6 +92,7 @@ void MainWindow::buildForm()
     m_barStack = new QStackedWidget(this);
     m_pages = new QStackedWidget(this);
     m_status = new QLabel(this);
+    m_status->setObjectName(QStringLiteral("status"));
     for (int family = 0; family < kFamilies; ++family) {
         auto *bar = new LeftBar(navigationEntries(family, deviceState), m_barStack);
         m_bars[static_cast<std::size_t>(family)] = bar;
@@ -122,9 +126,14 @@ void MainWindow::initialise()
     m_status->setFont(noteFont);
     createPages();
     connect(m_scenePage, &pageSceneSetting::modeChangeBegins, this, [this] { setInterfaceMode(kLocked); });
-    connect(m_scenePage, &pageSceneSetting::modeChangeEnded, this, [this] { setInterfaceMode(kByModel); });
+    connect(m_scenePage, &pageSceneSetting::modeChangeEnded, this, [this] {
+        setInterfaceMode(kByModel);
+        readMissingBlock();
+    });
+    createReconciler();
     connect(m_scenePage, &pageSceneSetting::viewShown, this, &MainWindow::followSceneMode);
     createTrayIcon();
+    m_shownMonitor = m_session.labels().value(currentMonitorIndex.load());
     m_session.setHost(this);
     connect(new SessionEnd(this), &SessionEnd::ends, this, &MainWindow::endWithSession);
 }

@@ -26,6 +26,7 @@ class LiveDisplay;
 class pageScenarioFollowing;
 class pageSceneSetting;
 class pageShortcutKey;
+class Reconciler;
 
 /// The codes of MainWindow::setInterfaceMode; 2 has no meaning.
 enum InterfaceMode { kLocked = 0, kUnlocked = 1, kByModel = 3, kBusy = 4, kBusyEnded = 5 };
@@ -59,6 +60,7 @@ public:
     bool mayLeave() override;
     void deviceArrived() override;
     void deviceRemoved() override;
+    void systemNoticed(SystemNotice notice) override;
 
     /// Closes the accessory's handle and opens the accessory anew, unless the flags say that it is open.
     void reopenHidDevice() override;
@@ -79,6 +81,7 @@ public:
     void leave();
 
 protected:
+    void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
@@ -126,11 +129,15 @@ private:
     void fillPages();
     void showShortcutResult(int function, Command command, int value, bool ok);
     QString valueText(int function, Command command, int value) const;
-    bool rereadSceneMode();
+    void followValue(Command command);
+    void readMissingBlock();
+    void createReconciler();
+    Page *pageInSight() const;
 
     SearchDeviceDlg &m_session;
     QPixmap m_labelPixmap;
     CommandQueue *m_queue = nullptr;
+    Reconciler *m_reconciler = nullptr;
     TopTabFrame *m_tabs = nullptr;
     QStackedWidget *m_barStack = nullptr;
     std::array<LeftBar *, kFamilies> m_bars = {};
@@ -144,12 +151,13 @@ private:
     QLabel *m_status = nullptr;
     TrayIcon *m_tray = nullptr; ///< null where there is no tray
     int m_family = 0;
-    bool m_monitorAnswers = true;
     bool m_checkWaiting = false;
     bool m_asksToLeave = false;
     bool m_locked = false; ///< nothing can be chosen
     bool m_accessoryBusy = false;
-    bool m_blockGivenUp = false;       ///< the block of the mode that is on could not be read
-    QPointer<QWidget> m_focusBefore;   ///< while nothing can be used
-    std::optional<QPoint> m_dragStart; ///< where the window was taken hold of
+    bool m_wasInFront = false;
+    QByteArray m_shownMonitor;          ///< the label of the monitor that the pages' values belong to
+    std::optional<int> m_blockAskedFor; ///< the mode whose block was asked for last
+    QPointer<QWidget> m_focusBefore;    ///< while nothing can be used
+    std::optional<QPoint> m_dragStart;  ///< where the window was taken hold of
 };

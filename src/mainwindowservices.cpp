@@ -1,10 +1,13 @@
 // What the main window does for the session and the pages: refreshing, interface modes, the monitor's state.
 
+#include <utility>
+
 #include <QStackedWidget>
 
 #include "controls/lefttabbutton.h"
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/displayenumeration.h"
+#include "ddc_protocol/linkstatus.h"
 #include "ddc_protocol/scenemodes.h"
 #include "ddc_protocol/transport.h"
 #include "leftbar.h"
@@ -12,6 +15,7 @@
 #include "page/Scene/pagescenesetting.h"
 #include "page/emptypage.h"
 #include "platform/desk.h"
+#include "reconciler.h"
 #include "searchdevicedlg.h"
 #include "toptabframe.h"
 
@@ -52,9 +56,9 @@ void MainWindow::updateInterface()
 {
     const QByteArray label = m_session.labels().value(currentMonitorIndex.load());
     const QString state = label.isEmpty()    ? QObject::tr("no monitor")
-                          : m_monitorAnswers ? QObject::tr("connected")
+                          : monitorAnswers() ? QObject::tr("connected")
                                              : QObject::tr("no answer");
-    const bool good = !label.isEmpty() && m_monitorAnswers;
+    const bool good = !label.isEmpty() && monitorAnswers();
     const QString name = label.isEmpty() ? QStringLiteral("–") : QString::fromUtf8(label).toHtmlEscaped();
     m_status->setText(QStringLiteral("<span style='color:%1; font-size:9px'>●</span>&nbsp;&nbsp;"
                                      "<span style='color:#adadad'>%2 · %3</span>")
@@ -62,27 +66,82 @@ void MainWindow::updateInterface()
     m_status->setAccessibleName(QString::fromUtf8(label) + QLatin1Char(' ') + state);
 }
 
+/// One request instead of a patient read: a monitor that is silent must not hold up the window.
 void MainWindow::reconnectPages()
 {
-    m_monitorAnswers = rereadSceneMode();
+    const QByteArray label = m_session.labels().value(currentMonitorIndex.load());
+    if (!label.isEmpty() && std::exchange(m_shownMonitor, label) != label) {
+        deviceState.forgetSettings(); // another monitor: nothing that was told holds
+        readCommandOnce(readRow(Command::Capability));
+        readCommandOnce(readRow(Command::Firmware));
+    }
+    readCommandOnce(readRow(Command::SceneMode));
     refreshPages();
+    m_blockAskedFor.reset();
+    readMissingBlock();
+    QMetaObject::invokeMethod(m_reconciler, &Reconciler::want, Qt::QueuedConnection); // when the search has ended
 }
 
-/// One request instead of a patient read: a monitor that is silent must not hold up the window.
-bool MainWindow::rereadSceneMode()
+void MainWindow::createReconciler()
 {
-    const int mode = readCommandOnce(readRow(Command::SceneMode)).value_or(0);
-    if (mode < 1 || mode > kHighestSceneMode)
-        return false;
-    if (mode != deviceState.value(Command::SceneMode))
-        deviceState.invalidateSceneBlock();
-    noteSceneMode(mode);
-    if (mode % 2 != 0 || deviceState.sceneBlockValid()) {
-        m_blockGivenUp = false;
-    } else if (!m_blockGivenUp) {
-        m_blockGivenUp = !m_session.readSceneModeData(mode); // a failure asks for a reconnection: try only once
+    m_reconciler = new Reconciler(
+        *m_queue, m_session, [this] { return pageInSight(); }, this);
+    connect(&m_queue->values(), &ValueWatch::changed, this, &MainWindow::followValue);
+    setLinkObserver([this] {
+        QMetaObject::invokeMethod(this, [this] {
+            updateInterface();
+            m_reconciler->linkChanged();
+        });
+    });
+}
+
+Page *MainWindow::pageInSight() const
+{
+    if (!isVisible() || isMinimized())
+        return nullptr;
+    for (const auto &[id, page] : m_pageOf) {
+        if (page->widget() == m_pages->currentWidget())
+            return page;
     }
-    return true;
+    return m_scenePage; // an empty page shows the scene mode as well
+}
+
+void MainWindow::systemNoticed(SystemNotice notice)
+{
+    if (notice == SystemNotice::Woke || notice == SystemNotice::DisplaysChanged)
+        m_reconciler->handlesMayBeStale();
+    else
+        m_reconciler->want();
+}
+
+void MainWindow::changeEvent(QEvent *event)
+{
+    QLabel::changeEvent(event);
+    const bool comesToFront = event->type() == QEvent::ActivationChange && isActiveWindow();
+    if (comesToFront && std::exchange(m_wasInFront, true)) // the first time everything has just been read
+        m_reconciler->want();
+}
+
+/// The block of a custom half that is on and was not read yet, asked for in the background; one that cannot be read is
+/// left until the mode changes, or the monitor is found anew.
+void MainWindow::readMissingBlock()
+{
+    const int mode = deviceState.value(Command::SceneMode);
+    const bool isOn = mode % 2 == 0 && deviceState.confirmed(Command::SceneMode) == mode;
+    if (!isOn)
+        m_blockAskedFor.reset();
+    if (!isOn || m_locked || m_session.isSearching() || deviceState.sceneBlockValid() || m_blockAskedFor == mode)
+        return;
+    m_blockAskedFor = mode;
+    m_queue->askBlock(mode);
+}
+
+void MainWindow::followValue(Command command)
+{
+    if (command != Command::SceneMode)
+        return;
+    followSceneMode();
+    readMissingBlock();
 }
 
 void MainWindow::deviceArrived()
@@ -101,7 +160,7 @@ void MainWindow::deviceRemoved()
 void MainWindow::checkMonitor()
 {
     m_checkWaiting = false;
-    m_monitorAnswers = readCommandOnce(readRow(Command::SceneMode)).has_value();
+    readCommandOnce(readRow(Command::SceneMode));
     updateInterface();
 }
 

@@ -40,6 +40,7 @@ SearchDeviceDlg::~SearchDeviceDlg()
     setReconnectHandler({});
     for (void *registration : m_registrations)
         platform::desk().deviceNotifications().unregister(registration);
+    platform::desk().deviceNotifications().unregisterSystem(winId());
 }
 
 std::uint8_t SearchDeviceDlg::storedIndex() const
@@ -117,15 +118,47 @@ SearchDeviceDlg::PassResult SearchDeviceDlg::runPass(int pass)
     return PassResult::Finished;
 }
 
+/// The progress dialog lets events in, so a device that arrives, or a block that broke, may want a search within this
+/// one. It is run when this one has ended, once however many were refused; a run that was remembered causes no other.
+bool SearchDeviceDlg::refusesSearch()
+{
+    if (!m_searching)
+        return false;
+    qDebug() << "nativeEvent: Aready searching devices Data!";
+    if (!m_runsRemembered)
+        m_remembered = std::max(m_remembered.value_or(kReconnect), refusedReason());
+    return true;
+}
+
+/// A restart outlasts everything; what else was refused finds the monitors anew and reads nothing more.
+int SearchDeviceDlg::refusedReason() const
+{
+    return reloadEdidType == kRestartProgram ? kRestartProgram : kReconnect;
+}
+
+void SearchDeviceDlg::runRememberedSearch()
+{
+    const std::optional<int> reason = std::exchange(m_remembered, std::nullopt);
+    if (!reason)
+        return;
+    const auto run = [this, reason = *reason] {
+        m_runsRemembered = true;
+        reloadEdidType = reason;
+        delayedSearchDevices();
+        m_runsRemembered = false;
+    };
+    QMetaObject::invokeMethod(this, run, Qt::QueuedConnection);
+}
+
 void SearchDeviceDlg::searchDevices()
 {
-    // The progress dialog lets events in, so a device that arrives may want a search within this one.
-    if (m_searching) {
-        qDebug() << "nativeEvent: Aready searching devices Data!";
+    if (refusesSearch())
         return;
-    }
     m_searching = true;
-    const auto ended = qScopeGuard([this] { m_searching = false; });
+    const auto ended = qScopeGuard([this] {
+        m_searching = false;
+        runRememberedSearch();
+    });
     currentProjectionMode();
     currentMonitorIndex = storedIndex();
     m_readSucceeded = false;
@@ -161,10 +194,8 @@ void SearchDeviceDlg::delayedSearchDevices()
     m_reconnectWaiting = false;
     if (platform::programEnds())
         return;
-    if (m_searching) {
-        qDebug() << "nativeEvent: Aready searching devices Data!";
+    if (refusesSearch())
         return;
-    }
     const int reason = reloadEdidType;
     qDebug() << "delayedSearchDevices: Reloader EDID Type:" << reason;
     if (reason == kRestartProgram) {
@@ -228,6 +259,7 @@ void SearchDeviceDlg::goOnWithoutCopy()
         if (readDataFromDevice() && m_host)
             m_host->refreshPages();
     }
+    runRememberedSearch();
     if (m_host)
         m_host->showWindow(); // whoever asked for a new start may have hidden it
     tellNotRestarted();

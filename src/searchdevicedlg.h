@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include <QByteArrayList>
@@ -44,6 +45,9 @@ public:
 
     /// The labels of the last search, in the order of monitorList.
     const QByteArrayList &labels() const { return m_labels; }
+    /// Whether a search is under way: what it reads must not be mixed with other questions.
+    bool isSearching() const { return m_searching; }
+
     QComboBox *deviceBox() const { return m_deviceBox; }
 
     bool nativeEvent(const QByteArray &eventType, void *message, qintptr *result) override;
@@ -66,6 +70,9 @@ private:
     void chooseIndexForPass(int pass);
     PassResult runPass(int pass);
     bool readForReason();
+    bool refusesSearch();
+    int refusedReason() const;
+    void runRememberedSearch();
     void requestSearchAfter(int delay);
     void requestReconnect();
     void goOnWithoutCopy();
@@ -79,6 +86,8 @@ private:
     std::vector<void *> m_registrations;
     bool m_fillingBox = false;
     bool m_readSucceeded = false;
-    bool m_searching = false; ///< refuses a search within a search
+    bool m_searching = false;        ///< refuses a search within a search
+    std::optional<int> m_remembered; ///< the reason of what was refused meanwhile
+    bool m_runsRemembered = false;
     std::atomic<bool> m_reconnectWaiting = false;
 };

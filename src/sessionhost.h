@@ -1,5 +1,7 @@
 #pragma once
 
+#include "systemnotices.h"
+
 /// What the device session asks of the main window. All calls come on the interface thread.
 class SessionHost
 {
@@ -24,6 +26,9 @@ public:
 
     virtual void deviceArrived() = 0;
     virtual void deviceRemoved() = 0;
+
+    /// The computer woke, its displays changed, somebody is back.
+    virtual void systemNoticed(SystemNotice notice) = 0;
 
     /// Looks for the LED-matrix accessory again; the flags of what was found are cleared.
     virtual void reopenHidDevice() = 0;

@@ -1,6 +1,9 @@
 #include <functional>
 #include <memory>
 
+#include <QHelpEvent>
+#include <QPainter>
+#include <QToolTip>
 #include <QtTest>
 
 #include "controls/captions.h"
@@ -291,6 +294,14 @@ void TestControls::captionFits()
             QVERIFY(QFontMetrics(fitted.font).horizontalAdvance(fitted.text) <= width);
         QCOMPARE(fitted.text == text, !elided);
     }
+    QPixmap narrow(60, 20);
+    QPainter painter(&narrow);
+    Caption caption(20, text);
+    caption.draw(painter, narrow.rect(), {}, Qt::black);
+    QWidget owner;
+    owner.show();
+    const QHelpEvent hover(QEvent::ToolTip, {}, {});
+    QVERIFY(caption.showToolTip(&hover, &owner) && QToolTip::text().contains(text));
 }
 
 void TestControls::picturesAreSharp()

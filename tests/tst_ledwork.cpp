@@ -226,6 +226,8 @@ void TestLedWork::makePage()
 {
     m_queue = std::make_unique<CommandQueue>();
     m_page = std::make_unique<pageLEDSystem>([this] { return m_connected; }, *m_display, *m_queue);
+    for (const SliderWidget *slider : m_page->findChildren<SliderWidget *>())
+        QVERIFY(slider->slider()->minimum() == 0 && slider->slider()->maximum() == kHighestAccessoryValue);
     m_desk->clock.takeWaits();
 }
 

@@ -162,6 +162,9 @@ void TestMainWindow::entrySwitchesTheScene()
     QVERIFY(m_window->scenePage()->isVisible());
     QCOMPARE(m_desk->takeRequests(), (QStringList{"W 99=13", "W 22=13", "W 99=47", "W 22=47"}));
     QVERIFY(entry(1, "AdobeRGB")->isChecked());
+    m_window->leftBar(1)->buttons().front()->setCaption(QStringLiteral("another language"));
+    m_window->updateControlText();
+    QVERIFY(entry(1, "Display P3 Mode"));
     QCOMPARE(m_window->leftBar(0)->current(), -1); // the mode that is on belongs to the other family
 }
 
@@ -226,7 +229,8 @@ void TestMainWindow::unreadableBlockIsTriedOnce()
     m_desk->monitor().setValue(0x22, 10); // by the monitor's own buttons
     m_desk->monitor().dropChunks(virtualdesk::kForEver);
     m_desk->session().delayedSearchDevices();
-    QVERIFY(m_desk->takeCommands().contains("R 0a"));
+    QStringList asked;
+    QTRY_VERIFY((asked += m_desk->takeCommands()).contains("R 0a"));
     for (int round = 0; round < 5; ++round)
         m_desk->clock.advance(platform::milliseconds(200)); // the reconnections that follow a failed block
     QVERIFY(!m_desk->takeCommands().contains("R 0a"));
@@ -259,21 +263,21 @@ void TestMainWindow::reconnectShowsTheMonitorsState()
     QCOMPARE(status(), QStringLiteral("1. Q27-OLED connected"));
     QVERIFY(entry(0, "Movie Mode")->isChecked()); // what the monitor says is on
     QVERIFY(!m_window->scenePage()->isDefaultView());
-    QVERIFY(deviceState.sceneBlockValid());
+    QTRY_VERIFY(deviceState.sceneBlockValid());
 }
 
 void TestMainWindow::reconnectTakesTheMode()
 {
     // No mode, the lowest, the one that was on, another, the highest, and beyond; with the block where it is needed.
-    for (const auto &[mode, taken, requests] :
-         {std::tuple(0, false, 1), {1, true, 1}, {10, true, 1}, {14, true, 13}, {90, true, 13}, {91, false, 1}}) {
+    for (const auto &[mode, taken] :
+         {std::pair(0, false), {1, true}, {10, true}, {14, true}, {90, true}, {91, false}}) {
         start(10);
         m_desk->monitor().setValue(0x22, static_cast<std::uint16_t>(mode));
         m_desk->session().delayedSearchDevices();
-        QCOMPARE(status().section(' ', 2), QString(taken ? "connected" : "no answer"));
+        QCOMPARE(status().section(' ', 2), QStringLiteral("connected")); // it answers, whatever it says
         QCOMPARE(deviceState.value(Command::SceneMode), taken ? mode : 10);
         QCOMPARE(m_window->scenePage()->isDefaultView(), mode == 1);
-        QCOMPARE(int(m_desk->takeCommands().size()), requests);
+        QTRY_COMPARE(deviceState.sceneBlockValid(), mode != 1);
         cleanup();
     }
 }

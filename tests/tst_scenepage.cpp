@@ -209,15 +209,15 @@ void TestScenePage::halfWithUnreadBlock()
         QSignalSpy begins(m_page.get(), &pageSceneSetting::modeChangeBegins);
         QSignalSpy ended(m_page.get(), &pageSceneSetting::modeChangeEnded);
         m_desk->monitor().setBlock(10, QByteArray(1, char(77)));
-        m_desk->monitor().dropChunks(readable ? 0 : 6);
+        m_desk->monitor().dropChunks(readable ? 0 : virtualdesk::kForEver);
         QTest::mouseClick(half("        Custom"), Qt::LeftButton);
-        deviceState.store(Command::SceneMode, 9); // as a reconnection meanwhile finds it
+        deviceState.told(Command::SceneMode, 9); // as a reconnection meanwhile finds it
         QCOMPARE(begins.count(), 1);
         QTRY_COMPARE(ended.count(), 1);
         const QStringList sent = m_desk->takeCommands();
         if (readable)
             QCOMPARE(sent, QStringList({"R 22", "R 0a"}) + QStringList(10, "R fe") + QStringList("W 22=10"));
-        QCOMPARE(sent.last(), QStringLiteral("W 22=10"));
+        QVERIFY(sent.contains("W 22=10")); // what cannot be read is asked for once more in the background
         QCOMPARE(m_page->slider("Brightness")->value(), readable ? 77 : before);
         QCOMPARE(deviceState.sceneBlockValid(), readable);
         QCOMPARE(deviceState.value(Command::SceneMode), 10);
@@ -243,10 +243,8 @@ void TestScenePage::factoryEditsAreNotTheUsers()
 {
     start(10);
     QTest::mouseClick(half("        Default"), Qt::LeftButton);
-    deviceState.storeUserValue(Command::BlackLevel, 3); // on another page, while the factory mode is on
-    QSignalSpy ended(m_page.get(), &pageSceneSetting::modeChangeEnded);
+    deviceState.wish(Command::BlackLevel, 3); // on another page, while the factory mode is on
     QTest::mouseClick(half("        Custom"), Qt::LeftButton);
-    QTRY_COMPARE(ended.count(), 1);
     QCOMPARE(m_page->slider("Black Level")->value(), int(m_desk->monitor().block(10).at(5)));
 }
 

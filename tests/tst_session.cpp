@@ -42,6 +42,7 @@ public:
     void showWindow() override { calls.append("show"); }
     void deviceArrived() override { calls.append("arrived"); }
     void deviceRemoved() override { calls.append("removed"); }
+    void systemNoticed(SystemNotice) override { calls.append("noticed"); }
     void reopenHidDevice() override { calls.append(hidFound || hidOpened ? "reopen" : "reopen anew"); }
     QStringList take() { return std::exchange(calls, {}); }
 
@@ -138,7 +139,7 @@ void TestSession::sceneBlockBytes()
 {
     std::array<std::uint8_t, 40> bytes = {};
     std::iota(bytes.begin(), bytes.end(), std::uint8_t(1));
-    deviceState.storeSceneBlock(bytes);
+    deviceState.storeSceneBlock(10, bytes);
     QCOMPARE(deviceState.value(Command::Sharpness), 3);
     QCOMPARE(deviceState.value(Command::HueCyan), 20); // hues end in C, M, Y
     QCOMPARE(deviceState.value(Command::HueYellow), 22);
@@ -240,6 +241,7 @@ void TestSession::arrivalDuringTheStartUpRead()
 void TestSession::sceneReads()
 {
     findDevices();
+    deviceState.store(Command::SceneMode, 12);
     for (const auto &[mode, result, commands] : {std::tuple(11, false, 0), {-3, true, 0}, {12, true, 12}}) {
         QCOMPARE(m_session->readSceneModeData(mode), result);
         QCOMPARE(int(m_desk->takeCommands().size()), commands);

@@ -175,7 +175,7 @@ void TestShortcut::sceneKeyKeepsTheSnapshotTrue()
 {
     ShortcutRunner runner;
     deviceState.store(Command::SceneMode, 3);
-    deviceState.store(Command::Sharpness, 4);
+    deviceState.storeSceneBlock(4, std::array<std::uint8_t, kSceneBlockSize>{});
     m_desk->clock.advance(milliseconds(200));
     runner.shortcutKeyCommand(1, kMinus); // the other half of the same mode
     QCOMPARE(deviceState.lastSceneModeSent.load(), 4);

@@ -109,6 +109,7 @@ void TestStart::floodOfConnections()
 
 void TestStart::copyFindsNoServer()
 {
+    QVERIFY(!SingleApplication::isNameTaken({nullptr, 8})); // out of memory is nobody else's name
     const auto isServed = [] {
         QLocalSocket client;
         client.connectToServer("QUORVEL");

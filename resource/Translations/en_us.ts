@@ -1224,6 +1224,10 @@
         <translation>On</translation>
     </message>
     <message>
+        <source>On its way to the monitor.</source>
+        <translation>On its way to the monitor.</translation>
+    </message>
+    <message>
         <source>On now: %1</source>
         <translation>On now: %1</translation>
     </message>
@@ -1576,6 +1580,10 @@
         <translation>Simulated monitor</translation>
     </message>
     <message>
+        <source>Sleep</source>
+        <translation>Sleep</translation>
+    </message>
+    <message>
         <source>Slow</source>
         <translation>Slow</translation>
     </message>
@@ -1712,6 +1720,10 @@
         <translation>The colours of the cinema.</translation>
     </message>
     <message>
+        <source>The computer and its monitors sleep until the button is released</source>
+        <translation>The computer and its monitors sleep until the button is released</translation>
+    </message>
+    <message>
         <source>The disk did not take everything.</source>
         <translation>The disk did not take everything.</translation>
     </message>
@@ -1752,6 +1764,10 @@
         <translation>The monitor answers nothing until the button is released</translation>
     </message>
     <message>
+        <source>The monitor did not confirm this value.</source>
+        <translation>The monitor did not confirm this value.</translation>
+    </message>
+    <message>
         <source>The monitor did not take the reset.</source>
         <translation>The monitor did not take the reset.</translation>
     </message>
@@ -1762,6 +1778,10 @@
     <message>
         <source>The monitor did not take this setting.</source>
         <translation>The monitor did not take this setting.</translation>
+    </message>
+    <message>
+        <source>The monitor has not told this value yet.</source>
+        <translation>The monitor has not told this value yet.</translation>
     </message>
     <message>
         <source>The monitor takes no value until the button is released</source>

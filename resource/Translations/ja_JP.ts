@@ -1224,6 +1224,10 @@
         <translation>オン</translation>
     </message>
     <message>
+        <source>On its way to the monitor.</source>
+        <translation>モニターへ送信中です。</translation>
+    </message>
+    <message>
         <source>On now: %1</source>
         <translation>現在: %1</translation>
     </message>
@@ -1576,6 +1580,10 @@
         <translation>シミュレートされたモニター</translation>
     </message>
     <message>
+        <source>Sleep</source>
+        <translation>スリープ</translation>
+    </message>
+    <message>
         <source>Slow</source>
         <translation>低速</translation>
     </message>
@@ -1712,6 +1720,10 @@
         <translation>映画館の色です。</translation>
     </message>
     <message>
+        <source>The computer and its monitors sleep until the button is released</source>
+        <translation>ボタンを離すまで、コンピューターとモニターはスリープします</translation>
+    </message>
+    <message>
         <source>The disk did not take everything.</source>
         <translation>ディスクにすべてを書き込めませんでした。</translation>
     </message>
@@ -1752,6 +1764,10 @@
         <translation>ボタンを戻すまでモニターは応答しません</translation>
     </message>
     <message>
+        <source>The monitor did not confirm this value.</source>
+        <translation>モニターがこの値を確認していません。</translation>
+    </message>
+    <message>
         <source>The monitor did not take the reset.</source>
         <translation>モニターはリセットを受け付けませんでした。</translation>
     </message>
@@ -1762,6 +1778,10 @@
     <message>
         <source>The monitor did not take this setting.</source>
         <translation>モニターがこの設定を受け付けませんでした。</translation>
+    </message>
+    <message>
+        <source>The monitor has not told this value yet.</source>
+        <translation>モニターからこの値をまだ受け取っていません。</translation>
     </message>
     <message>
         <source>The monitor takes no value until the button is released</source>

@@ -1224,6 +1224,10 @@
         <translation>开</translation>
     </message>
     <message>
+        <source>On its way to the monitor.</source>
+        <translation>正在发送到显示器。</translation>
+    </message>
+    <message>
         <source>On now: %1</source>
         <translation>当前：%1</translation>
     </message>
@@ -1576,6 +1580,10 @@
         <translation>模拟显示器</translation>
     </message>
     <message>
+        <source>Sleep</source>
+        <translation>睡眠</translation>
+    </message>
+    <message>
         <source>Slow</source>
         <translation>迟缓</translation>
     </message>
@@ -1712,6 +1720,10 @@
         <translation>影院的色彩。</translation>
     </message>
     <message>
+        <source>The computer and its monitors sleep until the button is released</source>
+        <translation>松开按钮之前，电脑及其显示器处于睡眠状态</translation>
+    </message>
+    <message>
         <source>The disk did not take everything.</source>
         <translation>磁盘未能写入全部内容。</translation>
     </message>
@@ -1752,6 +1764,10 @@
         <translation>显示器不再应答，直到松开按钮</translation>
     </message>
     <message>
+        <source>The monitor did not confirm this value.</source>
+        <translation>显示器没有确认此值。</translation>
+    </message>
+    <message>
         <source>The monitor did not take the reset.</source>
         <translation>显示器未执行重置。</translation>
     </message>
@@ -1762,6 +1778,10 @@
     <message>
         <source>The monitor did not take this setting.</source>
         <translation>显示器未接受此设置。</translation>
+    </message>
+    <message>
+        <source>The monitor has not told this value yet.</source>
+        <translation>显示器尚未告知此值。</translation>
     </message>
     <message>
         <source>The monitor takes no value until the button is released</source>

@@ -1224,6 +1224,10 @@
         <translation>開</translation>
     </message>
     <message>
+        <source>On its way to the monitor.</source>
+        <translation>正在傳送到顯示器。</translation>
+    </message>
+    <message>
         <source>On now: %1</source>
         <translation>目前：%1</translation>
     </message>
@@ -1576,6 +1580,10 @@
         <translation>模擬顯示器</translation>
     </message>
     <message>
+        <source>Sleep</source>
+        <translation>睡眠</translation>
+    </message>
+    <message>
         <source>Slow</source>
         <translation>遲緩</translation>
     </message>
@@ -1712,6 +1720,10 @@
         <translation>電影院的色彩。</translation>
     </message>
     <message>
+        <source>The computer and its monitors sleep until the button is released</source>
+        <translation>放開按鈕之前，電腦及其顯示器處於睡眠狀態</translation>
+    </message>
+    <message>
         <source>The disk did not take everything.</source>
         <translation>磁碟未能寫入全部內容。</translation>
     </message>
@@ -1752,6 +1764,10 @@
         <translation>顯示器不再回應，直到放開按鈕</translation>
     </message>
     <message>
+        <source>The monitor did not confirm this value.</source>
+        <translation>顯示器沒有確認此值。</translation>
+    </message>
+    <message>
         <source>The monitor did not take the reset.</source>
         <translation>顯示器未執行重設。</translation>
     </message>
@@ -1762,6 +1778,10 @@
     <message>
         <source>The monitor did not take this setting.</source>
         <translation>顯示器未接受此設定。</translation>
+    </message>
+    <message>
+        <source>The monitor has not told this value yet.</source>
+        <translation>顯示器尚未告知此值。</translation>
     </message>
     <message>
         <source>The monitor takes no value until the button is released</source>

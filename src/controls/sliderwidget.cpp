@@ -15,7 +15,7 @@ const QString kValueStyle = QStringLiteral("QLabel { color: #FFFFFF; }QLabel:dis
 
 SliderWidget::SliderWidget(const QString &name, int minimum, int maximum, QWidget *parent)
     : QWidget(parent), m_captionLabel(new CaptionLabel(name, kCaptionPixels, this)), m_slider(new NoWheelSlider(this)),
-      m_valueLabel(new QLabel(this))
+      m_valueLabel(new QLabel(this)), m_mark(new ValueMark(m_valueLabel))
 {
     setObjectName(name);
     m_captionLabel->setStyleSheet(kCaptionStyle);
@@ -34,6 +34,7 @@ SliderWidget::SliderWidget(const QString &name, int minimum, int maximum, QWidge
     row->addWidget(m_captionLabel);
     row->addWidget(m_slider, 1);
     row->addWidget(m_valueLabel);
+    m_mark->move(0, (sizeHint().height() - ValueMark::kSize) / 2);
     setFocusProxy(m_slider);
     setCaption(name);
     showValue();
@@ -76,6 +77,15 @@ void SliderWidget::setUnknown(bool unknown)
     showValue();
 }
 
+void SliderWidget::setMark(Mark mark)
+{
+    if (mark == Mark::Unknown)
+        setUnknown(true);
+    m_mark->setMark(mark == Mark::Unknown ? Mark::None : mark);
+    m_slider->setAccessibleDescription(markText(mark));
+    setToolTip(markText(mark));
+}
+
 void SliderWidget::onValueChanged(int value)
 {
     setUnknown(false);
@@ -84,7 +94,8 @@ void SliderWidget::onValueChanged(int value)
 
 void SliderWidget::onSliderReleased()
 {
-    setUnknown(false);
+    if (isUnknown())
+        onValueChanged(value());
     Q_EMIT sliderValueChanged(name(), value(), true);
 }
 

@@ -3,6 +3,7 @@
 #include <QWidget>
 
 #include "controls/nowheelslider.h"
+#include "controls/valuemark.h"
 
 class CaptionLabel;
 class QLabel;
@@ -37,6 +38,13 @@ public:
     /// Shows a dash for a value that was not read yet, until one is set.
     void setUnknown(bool unknown);
 
+    /// Whether the user has hold of it, by mouse or key.
+    bool isHeld() const { return m_slider->isSliderDown(); }
+
+    /// What is to be said about the value; a dash stands for Mark::Unknown.
+    void setMark(Mark mark);
+    Mark mark() const { return m_mark->mark(); }
+
     NoWheelSlider *slider() const { return m_slider; }
     CaptionLabel *captionLabel() const { return m_captionLabel; }
     QLabel *valueLabel() const { return m_valueLabel; }
@@ -46,7 +54,8 @@ public Q_SLOTS:
     void onSliderReleased();
 
 Q_SIGNALS:
-    /// @p bReleased is false for every step of a movement, true once when the user lets go of mouse or key.
+    /// @p bReleased is false for every step of a movement, true once when the user lets go of mouse or key. A slider
+    /// without a value that is taken hold of and not moved tells a step as well: where it is, is wanted now.
     void sliderValueChanged(QString sliderName, int value, bool bReleased);
 
 private:
@@ -55,4 +64,5 @@ private:
     CaptionLabel *m_captionLabel;
     NoWheelSlider *m_slider;
     QLabel *m_valueLabel;
+    ValueMark *m_mark;
 };

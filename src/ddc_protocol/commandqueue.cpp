@@ -1,8 +1,13 @@
 #include "ddc_protocol/commandqueue.h"
 
 #include <algorithm>
+#include <utility>
 
+#include "ddc_protocol/devicestate.h"
+#include "ddc_protocol/linkstatus.h"
+#include "ddc_protocol/sceneblock.h"
 #include "ddc_protocol/transport.h"
+#include "ddc_protocol/valuechanges.h"
 #include "platform/ending.h"
 
 CommandQueue::CommandQueue(QObject *parent) : QObject(parent)
@@ -23,6 +28,7 @@ CommandQueue::~CommandQueue()
 
 void CommandQueue::post(Command command, int value)
 {
+    deviceState.wish(command, value);
     {
         const std::lock_guard lock(m_mutex);
         const auto waiting = std::find_if(m_pending.begin(), m_pending.end(),
@@ -45,29 +51,46 @@ void CommandQueue::ask(Command command)
     m_wake.notify_one();
 }
 
+bool CommandQueue::isIdle()
+{
+    const std::lock_guard lock(m_mutex);
+    return isSent() && !hasQuestion() && !m_asking;
+}
+
+void CommandQueue::askBlock(int mode)
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        m_blockQuestion = mode;
+    }
+    m_wake.notify_one();
+}
+
 void CommandQueue::drain()
 {
     std::unique_lock lock(m_mutex);
-    m_idle.wait(lock, [this] { return isIdle() || platform::programEnds(); });
+    m_idle.wait(lock, [this] { return isSent() || platform::programEnds(); });
 }
 
 bool CommandQueue::drainFor(platform::milliseconds limit)
 {
     std::unique_lock lock(m_mutex);
-    return m_idle.wait_for(lock, limit, [this] { return isIdle(); });
+    return m_idle.wait_for(lock, limit, [this] { return isSent(); });
 }
 
 void CommandQueue::run()
 {
     std::unique_lock lock(m_mutex);
     for (;;) {
-        m_wake.wait(lock, [this] { return m_stop || !m_pending.empty() || !m_questions.empty(); });
+        m_wake.wait(lock, [this] { return m_stop || !m_pending.empty() || hasQuestion(); });
         if (!m_pending.empty())
             sendNext(lock);
         else if (m_stop)
             return;
-        else
+        else if (!m_questions.empty())
             askNext(lock);
+        else
+            askNextBlock(lock);
     }
 }
 
@@ -77,7 +100,7 @@ void CommandQueue::sendNext(std::unique_lock<std::mutex> &lock)
     m_pending.erase(m_pending.begin());
     m_sending = true;
     lock.unlock();
-    const bool ok = Korvu_SetCommandVal(writeRow(next.command), static_cast<std::uint16_t>(next.value), kRetryCount);
+    const bool ok = sendWish(next.command, next.value);
     Q_EMIT sent(next.command, next.value, ok);
     lock.lock();
     m_sending = false;
@@ -89,8 +112,43 @@ void CommandQueue::askNext(std::unique_lock<std::mutex> &lock)
 {
     const Command command = m_questions.front();
     m_questions.erase(m_questions.begin());
+    m_asking = true;
     lock.unlock();
-    if (const std::optional<int> value = readCommandOnce(readRow(command)))
-        Q_EMIT answered(command, *value);
+    const bool told = readCommandOnce(readRow(command)).has_value();
+    if (!told)
+        deviceState.doubt(command);
+    lock.lock();
+    noteAnswer(told, lock);
+}
+
+void CommandQueue::askNextBlock(std::unique_lock<std::mutex> &lock)
+{
+    const int mode = *m_blockQuestion;
+    m_blockQuestion.reset();
+    m_asking = true;
+    lock.unlock();
+    const bool told = readSceneBlockOnce(mode);
+    if (!told)
+        deviceState.doubtSceneBlock();
+    lock.lock();
+    noteAnswer(told, lock);
+}
+
+/// A monitor that sleeps is asked nothing more: each question would cost its time.
+void CommandQueue::noteAnswer(bool told, std::unique_lock<std::mutex> &lock)
+{
+    m_asking = false;
+    if (!told) {
+        ++m_unanswered;
+        if (!monitorAnswers()) {
+            m_questions.clear();
+            m_blockQuestion.reset();
+        }
+    }
+    if (hasQuestion())
+        return;
+    const int unanswered = std::exchange(m_unanswered, 0);
+    lock.unlock();
+    Q_EMIT asked(unanswered);
     lock.lock();
 }

@@ -2,17 +2,19 @@
 
 #include <condition_variable>
 #include <mutex>
+#include <optional>
 #include <thread>
 #include <vector>
 
 #include <QObject>
 
 #include "ddc_protocol/commandtable.h"
+#include "ddc_protocol/valuewatch.h"
 #include "platform/clock.h"
 
 /// Commands that must not hold up the window, carried by a thread of its own. The values of dragged sliders: of each
-/// command only the newest waits, and the last one given is always sent. And questions: values that a page does not
-/// know yet, asked for while nothing waits to be sent.
+/// command only the newest waits, and the last one given is always sent. And questions: values that somebody wants to
+/// know, asked for one at a time while nothing waits to be sent; what the monitor tells goes into the snapshot.
 class CommandQueue : public QObject
 {
     Q_OBJECT
@@ -20,11 +22,15 @@ public:
     explicit CommandQueue(QObject *parent = nullptr);
     ~CommandQueue() override; ///< sends what still waits; questions are dropped
 
-    /// Puts a value in the queue, in place of an older one of the same command.
+    /// Puts a value in the queue, in place of an older one of the same command. It counts as wished from now on.
     void post(Command command, int value);
 
-    /// Asks the monitor for a value, once, without retries that would hold up others. Nothing is logged.
+    /// Asks the monitor for a value, once, without retries that would hold up others. Nothing is logged. A monitor that
+    /// is silent is asked nothing more of what waits.
     void ask(Command command);
+
+    /// Asks for the scene block of an even mode in the same way, behind the values.
+    void askBlock(int mode);
 
     /// Blocks until everything posted has been sent. Whoever sends a command directly calls this first, or a drag's
     /// last value would arrive behind it. Not waited for when the program ends: its window is not to be held up.
@@ -33,12 +39,19 @@ public:
     /// Blocks until everything posted has been sent, or the time is over; false then. For those who end at once after.
     bool drainFor(platform::milliseconds limit);
 
+    /// Whether nothing waits or is under way, neither a value nor a question.
+    bool isIdle();
+
+    /// Tells of every change in the snapshot, on the queue's owner's thread.
+    ValueWatch &values() { return m_values; }
+
 Q_SIGNALS:
     /// A value went to the monitor, or failed to. Emitted on the queue's thread.
     void sent(Command command, int value, bool ok);
 
-    /// The monitor told a value; a question without an answer emits nothing. Emitted on the queue's thread.
-    void answered(Command command, int value);
+    /// All questions were asked, or given up; what was told is in the snapshot, and so many were not answered. Emitted
+    /// on the queue's thread.
+    void asked(int unanswered);
 
 private:
     struct Pending
@@ -47,17 +60,24 @@ private:
         int value;
     };
 
-    bool isIdle() const { return m_pending.empty() && !m_sending; }
+    bool isSent() const { return m_pending.empty() && !m_sending; }
     void run();
     void sendNext(std::unique_lock<std::mutex> &lock);
+    bool hasQuestion() const { return !m_questions.empty() || m_blockQuestion; }
     void askNext(std::unique_lock<std::mutex> &lock);
+    void askNextBlock(std::unique_lock<std::mutex> &lock);
+    void noteAnswer(bool told, std::unique_lock<std::mutex> &lock);
 
     std::mutex m_mutex;
     std::condition_variable m_wake;
     std::condition_variable m_idle;
     std::vector<Pending> m_pending;
     std::vector<Command> m_questions;
+    std::optional<int> m_blockQuestion; ///< its mode
+    int m_unanswered = 0;               ///< of the questions since the last was told
     bool m_sending = false;
+    bool m_asking = false;
     bool m_stop = false;
+    ValueWatch m_values;
     std::thread m_thread;
 };

@@ -3,7 +3,12 @@
 #include <array>
 #include <atomic>
 #include <cstdint>
+#include <functional>
+#include <mutex>
+#include <optional>
 #include <span>
+
+#include <QDateTime>
 
 #include "ddc_protocol/commandtable.h"
 
@@ -22,24 +27,81 @@ inline constexpr int kSceneBlockValues = 37; ///< of which this many carry a val
 inline constexpr int kBlockNotValid = 10;    ///< the Sharpness value of a block that has not been read
 inline constexpr int kHighestSceneMode = 90;
 
-/// The snapshot of the monitor's settings: one value for each command, whether it came from a single read, from the
-/// scene-mode block or from the user, so that pages and snapshot always agree. A value may be read and stored from any
-/// thread; the scene-mode worker does so.
+/// What is known about a value of the monitor.
+enum class ValueState {
+    Unknown, ///< nobody has told it, or what was told no longer holds
+    Known,   ///< the monitor told it, or took it
+    Pending, ///< wished, and not answered yet
+    Refused, ///< wished, and not taken
+};
+
+/// The snapshot of the monitor's settings, one for all pages: of each command the value that is shown, what is known
+/// about it, and what the monitor itself is known to have. Users, keys and rules put in wishes; only the transport and
+/// the session's reads put in answers, in the order of the wire, so that nothing late overwrites something newer.
+///
+/// The values of the scene-mode block exist twice, for the factory half of the mode that is on and for its custom half;
+/// every function goes to the half that is on. Safe from any thread.
 class DeviceState
 {
 public:
     DeviceState() { clear(); }
 
-    /// Everything zero and unknown, but the scene mode 10 and the scene-mode block marked as not valid.
+    /// Everything zero and unknown, but the scene mode 10 and the scene-mode block marked as not read.
     void clear();
 
-    /// The last value of a command, 0 when none is known.
+    /// The value to show: the user's wish, else what the monitor told last; 0 when there is neither, -1 after a patient
+    /// read without an answer.
     int value(Command command) const;
 
-    /// Whether the monitor has told the value, or the user has set it.
-    bool isKnown(Command command) const;
+    ValueState state(Command command) const;
 
-    /// Keeps a value. -1 is the transport's "no answer": it is kept as returned, but does not make the value known.
+    /// Whether there is a value to show: told by the monitor, or wished.
+    bool isKnown(Command command) const { return state(command) != ValueState::Unknown; }
+
+    /// What the monitor has, as far as it told; nothing when it did not.
+    std::optional<int> confirmed(Command command) const;
+
+    /// When it told that last.
+    std::optional<QDateTime> confirmedAt(Command command) const;
+
+    /// Whether it told that a moment ago, and nothing happened since after which it may have another value.
+    bool isFresh(Command command) const;
+
+    /// Since when a value is pending; nothing while it is not.
+    std::optional<QDateTime> pendingSince(Command command) const;
+
+    // Wishes.
+
+    /// The user still moves a control: this is shown, and nothing is wished yet.
+    void preview(Command command, int value);
+
+    /// Somebody wants a value: it is shown, and pending until the monitor has taken or refused it.
+    void wish(Command command, int value);
+
+    // Answers of the monitor.
+
+    /// The monitor took a value.
+    void taken(Command command, int value);
+
+    /// The monitor did not take a value. What is shown stays; a Sharpness leaves the block in doubt.
+    void refused(Command command, int value);
+
+    /// The monitor told a value. A wish that waits stays in sight, and that one was refused is said for ten seconds
+    /// yet: the search that a refusal leads to asks again at once.
+    void told(Command command, int value);
+
+    /// The monitor was asked and did not tell: what it told before is in doubt, and with the scene mode all that a mode
+    /// has of its own.
+    void doubt(Command command);
+
+    /// As doubt, for the whole block of the custom half.
+    void doubtSceneBlock();
+
+    /// Whether an unknown value was known before and only could not be told again.
+    bool isDoubted(Command command) const;
+
+    /// Keeps the result of a patient read, whatever stood there. -1 is "no answer": it is kept as returned and leaves
+    /// the value unknown.
     void store(Command command, int value);
 
     bool has(Capability capability) const { return hasAny(static_cast<std::uint16_t>(capability)); }
@@ -50,39 +112,76 @@ public:
     /// 1, 2 or 3; 0 when the monitor does not tell.
     int productLine() const;
 
-    /// Loads the values of a scene-mode block as the monitor sent it.
-    void storeSceneBlock(std::span<const std::uint8_t, kSceneBlockSize> block);
+    /// Loads the custom half from a mode's block as the monitor sent it; one of another mode than the one that is on is
+    /// left out.
+    void storeSceneBlock(int mode, std::span<const std::uint8_t, kSceneBlockSize> block);
 
-    bool sceneBlockValid() const { return value(Command::Sharpness) != kBlockNotValid; }
+    /// Whether the block of the mode that is on has been read, and nothing put it in doubt since.
+    bool sceneBlockValid() const;
 
-    /// Forgets the values of the scene-mode block: they belong to another mode.
+    /// Whether that was a moment ago: see isFresh.
+    bool isSceneBlockFresh() const;
+
+    /// Something happened after which the monitor may have other values than it told. What is shown stays.
+    void mayHaveChanged();
+
+    /// Forgets the values of the custom half.
     void invalidateSceneBlock();
 
     /// Forgets everything but the model: what is read next belongs to a monitor that may be another one.
     void forgetSettings();
 
-    /// Keeps what the user has set. In a mode with factory parameters the change is not the custom block's, which then
-    /// has to be read again before it is shown.
-    void storeUserValue(Command command, int value);
-
     /// Written by a full read, in the office area's units; 0 when not known.
     std::atomic<std::uint32_t> officeMaximumHorizontal = 0;
     std::atomic<std::uint32_t> officeMaximumVertical = 0;
 
-    /// The scene mode that was last sent or read, so that an unchanged one is not sent again.
+    /// The scene mode that was last sent or read, so that an unchanged one is not sent again. A refusal takes it back.
     std::atomic<int> lastSceneModeSent = 0;
+
+    /// Who is told of each command whose value or state has changed, on the thread that changed it; empty for nobody.
+    void setObserver(std::function<void(Command)> observer);
 
 private:
     struct Entry
     {
-        std::atomic<int> value = 0;
-        std::atomic<bool> known = false;
+        int value = 0;
+        ValueState state = ValueState::Unknown;
+        std::optional<int> confirmed;
+        QDateTime confirmedAt;
+        unsigned era = 0; ///< in which that was
+        QDateTime wishedAt;
+        QDateTime refusedAt;
+
+        void doubt();
     };
+
+    template <typename Change> void change(Command command, Change change);
+    Entry &entry(Command command);
+    const Entry &entry(Command command) const;
+    int modeThatIsOn() const;
+    bool isCustomHalf() const { return modeThatIsOn() % 2 == 0; }
+    void keepConfirmed(Entry &entry, int value);
+    bool isFresh(const Entry &entry) const;
+    void keepTold(Entry &entry, int value);
+    void followSceneMode(int before);
+    void forgetBlock();
+    void notify(Command command);
+
+    mutable std::mutex m_mutex; // guards what follows
     std::array<Entry, kCommandCodes> m_entries;
+    std::array<Entry, kSceneBlockValues> m_custom; ///< of the custom half, in the block's order
+    bool m_blockRead = false;
+    unsigned m_era = 0; ///< grows with everything after which the monitor may have changed
+
+    std::mutex m_observerMutex;
+    std::function<void(Command)> m_observer;
 };
 
-/// The one snapshot. Filled by the device session, read by the pages; a page writes what it sends.
+/// The one snapshot. Filled by the device session, read by the pages.
 extern DeviceState deviceState;
 
 /// Which command each value of the scene-mode block belongs to, in the order of its bytes.
 extern const std::array<Command, kSceneBlockValues> kSceneBlockLayout;
+
+/// Whether a command's value is one of the scene-mode block's.
+bool isInSceneBlock(Command command);

@@ -88,14 +88,6 @@ const SceneMode *sceneModeOf(int value)
     return nullptr;
 }
 
-void noteSceneMode(int value)
-{
-    if (sceneModeOf(value) != sceneModeOf(deviceState.value(Command::SceneMode)))
-        deviceState.invalidateSceneBlock();
-    deviceState.lastSceneModeSent = value;
-    deviceState.store(Command::SceneMode, value);
-}
-
 std::optional<SceneFamily> familyOfSceneValue(int value)
 {
     for (const FamilyRange &range : kFamilyRanges) {
@@ -103,4 +95,15 @@ std::optional<SceneFamily> familyOfSceneValue(int value)
             return range.family;
     }
     return {};
+}
+
+bool motionOptionAllowed(int option, int scene)
+{
+    constexpr int kLow = 3;
+    constexpr int kHigh = 5;
+    if (scene == kMpcsLdCustom)
+        return option <= kHigh;
+    if (scene == kMpcsFpsCustom)
+        return option < kLow || option > kHigh;
+    return true;
 }

@@ -30,9 +30,12 @@ std::vector<const SceneMode *> sceneModesOf(SceneFamily family, const DeviceStat
 /// The mode that a scene-mode value belongs to, odd or even; null for a value that no mode has.
 const SceneMode *sceneModeOf(int value);
 
-/// Keeps in deviceState that a scene mode was sent or found on: another mode's custom block is not this one's, and the
-/// mode need not be sent again.
-void noteSceneMode(int value);
-
 /// The family that a scene-mode value opens; nothing for 0 and above 90.
 std::optional<SceneFamily> familyOfSceneValue(int value);
+
+/// The custom halves of the two modes that limit the motion function.
+inline constexpr int kMpcsFpsCustom = 26; ///< motion at its sharpest: no local dimming
+inline constexpr int kMpcsLdCustom = 28;  ///< motion together with local dimming
+
+/// Whether an option of the motion function, 2 to 8, can be chosen in a scene mode.
+bool motionOptionAllowed(int option, int scene);

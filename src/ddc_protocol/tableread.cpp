@@ -18,8 +18,8 @@ constexpr platform::milliseconds kPause{250};
 class TableRead
 {
 public:
-    TableRead(std::optional<platform::PhysicalMonitorHandle> monitor, std::uint8_t *buffer)
-        : m_monitor(monitor), m_buffer(buffer)
+    TableRead(std::optional<platform::PhysicalMonitorHandle> monitor, std::uint8_t *buffer, int retries)
+        : m_monitor(monitor), m_buffer(buffer), m_retries(retries)
     {
     }
 
@@ -36,9 +36,10 @@ private:
     std::uint8_t *m_buffer;
     platform::VcpReply m_reply; ///< of the last request
     int m_count = 0;
-    int m_secondRetries = kStepRetries;
-    int m_thirdRetries = kStepRetries;
-    int m_streamRetries = kStepRetries;
+    const int m_retries;
+    int m_secondRetries = m_retries;
+    int m_thirdRetries = m_retries;
+    int m_streamRetries = m_retries;
 };
 
 QString hex(std::uint8_t code)
@@ -103,7 +104,7 @@ bool TableRead::stream(int remaining)
         if (request(code)) {
             storeChunk();
             remaining -= kChunkSize;
-            m_streamRetries = kStepRetries;
+            m_streamRetries = m_retries;
             code = kNextChunk;
             continue;
         }
@@ -135,5 +136,12 @@ int DDCCIReadTable(std::optional<platform::PhysicalMonitorHandle> monitor, std::
                    std::uint8_t c, std::uint8_t *buffer, int length)
 {
     const auto lock = lockTransport();
-    return TableRead(monitor, buffer).run(a, b, c, length);
+    return TableRead(monitor, buffer, kStepRetries).run(a, b, c, length);
+}
+
+int readTableOnce(std::optional<platform::PhysicalMonitorHandle> monitor, std::uint8_t a, std::uint8_t b,
+                  std::uint8_t c, std::uint8_t *buffer, int length)
+{
+    const auto lock = lockTransport();
+    return TableRead(monitor, buffer, 0).run(a, b, c, length);
 }

@@ -4,7 +4,9 @@
 
 #include <QDebug>
 
+#include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/displayenumeration.h"
+#include "ddc_protocol/linkstatus.h"
 #include "platform/desk.h"
 #include "platform/ending.h"
 
@@ -40,6 +42,19 @@ bool pause(milliseconds duration)
     return platform::desk().clock().sleepBeforeRetry(duration);
 }
 
+Command commandOf(COMMAND_set_Type row)
+{
+    return Command(commandCode(row));
+}
+
+/// A scene mode out of range is no answer to build on: the session asks again.
+void keepTold(COMMAND_set_Type row, std::uint32_t value)
+{
+    const bool isMode = value >= 1 && value <= kHighestSceneMode;
+    if (!monitorList.empty() && (commandOf(row) != Command::SceneMode || isMode))
+        deviceState.told(commandOf(row), static_cast<int>(value));
+}
+
 /// The monitor that commands go to; nothing when it could not be fetched. The first search takes any stored index, so
 /// it may lie beyond the list; such a request must fail like a monitor that does not answer.
 std::optional<platform::PhysicalMonitorHandle> selectedMonitor()
@@ -70,8 +85,10 @@ int readCommand(COMMAND_set_Type command, bool logged)
     for (int attempt = 0; attempt < kReadAttempts; ++attempt) {
         GetVcpValue(commandPacket[kPacketVendorByte]);
         value = GetVcpValue(commandPacket[kPacketCodeByte]);
-        if (value < kNoAnswer)
+        if (value < kNoAnswer) {
+            keepTold(command, value);
             break;
+        }
         if (logged)
             qDebug().noquote().nospace() << "Faile to retry errorCode: 01 99 " << hex(commandPacket[kPacketCodeByte]);
         if (!pause(kReadPause))
@@ -113,9 +130,12 @@ int BuildCommandPacket(COMMAND_set_Type command, std::uint16_t value)
 
 platform::VcpReply requestFeature(std::optional<platform::PhysicalMonitorHandle> monitor, std::uint8_t code)
 {
-    if (!monitor || platform::programEnds()) // nobody uses the answer any more, and whoever asks is waited for
+    if (platform::programEnds()) // nobody uses the answer any more, and whoever asks is waited for
         return {};
-    return platform::desk().monitors().getFeature(*monitor, code);
+    const platform::VcpReply reply =
+        monitor ? platform::desk().monitors().getFeature(*monitor, code) : platform::VcpReply();
+    noteRequest(code, reply.answered);
+    return reply;
 }
 
 std::uint32_t GetVcpValue(std::uint8_t code)
@@ -133,7 +153,9 @@ bool SetVcpValue(std::uint8_t code, std::uint32_t value)
     if (monitorList.empty())
         return false;
     const auto monitor = selectedMonitor();
-    return monitor && platform::desk().monitors().setFeature(*monitor, code, value);
+    const bool ok = monitor && platform::desk().monitors().setFeature(*monitor, code, value);
+    noteRequest(code, ok);
+    return ok;
 }
 
 bool Korvu_SetCommandVal(COMMAND_set_Type command, std::uint16_t value, std::uint16_t)
@@ -145,11 +167,14 @@ bool Korvu_SetCommandVal(COMMAND_set_Type command, std::uint16_t value, std::uin
             return false;
         BuildCommandPacket(command, value);
         for (int attempt = 0; attempt < kWriteAttempts; ++attempt) {
-            if (writeOnce(value))
+            if (writeOnce(value)) {
+                deviceState.taken(commandOf(command), value);
                 return true;
+            }
             if (!pause(kWritePause))
                 break;
         }
+        deviceState.refused(commandOf(command), value);
         qDebug().noquote().nospace() << "Write faile, errorCode: 03 99" << hex(commandPacket[kPacketCodeByte]) << "\r";
         reloadEdidType = kReconnect;
         reconnect = s_reconnect;
@@ -177,7 +202,10 @@ std::optional<int> readCommandOnce(COMMAND_set_Type command)
     BuildCommandPacket(command, 0);
     GetVcpValue(commandPacket[kPacketVendorByte]);
     const std::uint32_t value = GetVcpValue(commandPacket[kPacketCodeByte]);
-    return value == kNoAnswer ? std::nullopt : std::optional(static_cast<int>(value));
+    if (value == kNoAnswer)
+        return {};
+    keepTold(command, value);
+    return static_cast<int>(value);
 }
 
 bool Korvu_GetCommandValMax(COMMAND_set_Type command, std::uint32_t &current, std::uint32_t &maximum)
@@ -193,15 +221,28 @@ bool Korvu_GetCommandValMax(COMMAND_set_Type command, std::uint32_t &current, st
     return true;
 }
 
-const std::uint8_t *Korvu_ReadCommandTable(COMMAND_set_Type command, std::uint16_t selector, std::uint16_t length)
+using ReadTable = decltype(&DDCCIReadTable);
+
+static const std::uint8_t *readTable(COMMAND_set_Type command, std::uint16_t selector, std::uint16_t length,
+                                     ReadTable read)
 {
     const auto lock = lockTransport();
     BuildCommandPacket(command, selector);
     if (monitorList.empty())
         return nullptr;
     tableBuffer.assign(2 + std::max<std::size_t>(4, (length + 3u) / 4 * 4), 0);
-    tableReadLength = static_cast<std::uint8_t>(
-        DDCCIReadTable(selectedMonitor(), kVendorCode, commandPacket[kPacketCodeByte],
-                       static_cast<std::uint8_t>(selector & 0xFF), tableBuffer.data(), length));
+    tableReadLength =
+        static_cast<std::uint8_t>(read(selectedMonitor(), kVendorCode, commandPacket[kPacketCodeByte],
+                                       static_cast<std::uint8_t>(selector & 0xFF), tableBuffer.data(), length));
     return tableBuffer.data() + 2;
+}
+
+const std::uint8_t *Korvu_ReadCommandTable(COMMAND_set_Type command, std::uint16_t selector, std::uint16_t length)
+{
+    return readTable(command, selector, length, &DDCCIReadTable);
+}
+
+const std::uint8_t *readCommandTableOnce(COMMAND_set_Type command, std::uint16_t selector, std::uint16_t length)
+{
+    return readTable(command, selector, length, &readTableOnce);
 }

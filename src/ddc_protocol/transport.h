@@ -13,7 +13,8 @@
 
 // The vendor commands over DDC/CI. Every command is a request on the vendor code 0x99 and then one on its own code.
 // All functions may be called from any thread; one lock keeps two commands from interleaving. A failed write takes up
-// to 200 ms, a failed read 1.25 s, beside the monitor's own time.
+// to 200 ms, a failed read 1.25 s, beside the monitor's own time. What the monitor takes, refuses and tells goes into
+// the snapshot here, under the lock and so in the order of the wire.
 
 /// The last packet built: six bytes of the row, the value high byte first, and the XOR checksum. Only the vendor code
 /// (byte 3) and the command code (byte 5) of it reach the wire: the platform frames its requests itself.
@@ -80,11 +81,18 @@ bool Korvu_GetCommandValMax(COMMAND_set_Type command, std::uint32_t &current, st
 /// using the bytes.
 const std::uint8_t *Korvu_ReadCommandTable(COMMAND_set_Type command, std::uint16_t selector, std::uint16_t length);
 
+/// Korvu_ReadCommandTable without retries.
+const std::uint8_t *readCommandTableOnce(COMMAND_set_Type command, std::uint16_t selector, std::uint16_t length);
+
 /// The table stream itself: requests a, b and c, then the continuation code until length bytes are there. buffer takes
 /// 2 bytes of room and then the data, length rounded up to a multiple of 4 and at least 4. Returns the number of data
 /// bytes; 0 when the stream or b got lost, -1 when c was not answered. Without a monitor no request is answered.
 int DDCCIReadTable(std::optional<platform::PhysicalMonitorHandle> monitor, std::uint8_t a, std::uint8_t b,
                    std::uint8_t c, std::uint8_t *buffer, int length);
+
+/// DDCCIReadTable without retries.
+int readTableOnce(std::optional<platform::PhysicalMonitorHandle> monitor, std::uint8_t a, std::uint8_t b,
+                  std::uint8_t c, std::uint8_t *buffer, int length);
 
 /// Keeps other threads' commands out while held; the holder itself may go on sending.
 [[nodiscard]] std::unique_lock<std::recursive_mutex> lockTransport();

@@ -1,8 +1,7 @@
 #include "following/scenefollower.h"
 
 #include "ddc_protocol/devicestate.h"
-#include "ddc_protocol/scenemodes.h"
-#include "ddc_protocol/transport.h"
+#include "ddc_protocol/valuechanges.h"
 #include "following/followlist.h"
 #include "following/followscenes.h"
 #include "platform/desk.h"
@@ -65,9 +64,7 @@ void SceneFollower::restoreBase()
 void SceneFollower::send(int value)
 {
     Q_EMIT begins();
-    // Before: a send that fails makes the session record what is really on, and may let other events in.
-    m_appliedMode = value;
-    noteSceneMode(value);
-    const bool ok = Korvu_SetCommandVal(writeRow(Command::SceneMode), static_cast<std::uint16_t>(value), kRetryCount);
+    m_appliedMode = value; // before: a send that fails may let other events in
+    const bool ok = sendValue(Command::SceneMode, value);
     Q_EMIT sceneSent(value, ok);
 }

@@ -6,8 +6,9 @@
 
 namespace platform {
 
-/// Device-change broadcasts to a window of ours. They arrive at the window's nativeEvent as kNativeEventType messages
-/// with kMessageDeviceChange. All calls are made on the interface thread.
+/// What the system tells a window of ours about its surroundings. It arrives at the window's nativeEvent as messages of
+/// kNativeEventType: kMessageDeviceChange, and after registerSystem also kMessageSessionChange and
+/// kMessagePowerBroadcast with kPowerSettingChange. All calls are made on the interface thread.
 class DeviceNotifications
 {
 public:
@@ -18,6 +19,13 @@ public:
 
     /// Ends what registerInterface began; null is ignored.
     virtual void unregister(void *registration) = 0;
+
+    /// Asks for the session being locked and unlocked (WTSRegisterSessionNotification) and for the console's display
+    /// being switched off and on (RegisterPowerSettingNotification); what is refused stays silent.
+    virtual void registerSystem(WId window) = 0;
+
+    /// Ends what registerSystem began.
+    virtual void unregisterSystem(WId window) = 0;
 };
 
 } // namespace platform

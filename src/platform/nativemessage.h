@@ -36,6 +36,27 @@ inline constexpr std::uint64_t kDeviceArrival = 0x8000;        ///< DBT_DEVICEAR
 inline constexpr std::uint64_t kDeviceRemoveComplete = 0x8004; ///< DBT_DEVICEREMOVECOMPLETE
 inline constexpr std::uint32_t kDeviceTypeInterface = 5;       ///< DBT_DEVTYP_DEVICEINTERFACE
 
+inline constexpr std::uint32_t kMessageDisplayChange = 0x007E;  ///< WM_DISPLAYCHANGE
+inline constexpr std::uint32_t kMessagePowerBroadcast = 0x0218; ///< WM_POWERBROADCAST
+inline constexpr std::uint64_t kPowerResumeSuspend = 0x0007;    ///< PBT_APMRESUMESUSPEND: by the user
+inline constexpr std::uint64_t kPowerResumeAutomatic = 0x0012;  ///< PBT_APMRESUMEAUTOMATIC: by whatever
+inline constexpr std::uint64_t kPowerSettingChange = 0x8013;    ///< PBT_POWERSETTINGCHANGE, with a PowerSetting
+inline constexpr std::uint32_t kMessageSessionChange = 0x02B1;  ///< WM_WTSSESSION_CHANGE
+inline constexpr std::uint64_t kSessionUnlock = 0x0008;         ///< WTS_SESSION_UNLOCK
+
+/// The power setting that tells whether the console's display is off (0), on (1) or dimmed (2).
+inline constexpr Guid kConsoleDisplayState{
+    0x6FE69556, 0x704A, 0x47A0, {0x8F, 0x24, 0xC2, 0x8D, 0x93, 0x6F, 0xDA, 0x47}};
+
+/// What lParam points to behind kPowerSettingChange (POWERBROADCAST_SETTING), as far as a 32-bit value goes.
+struct PowerSetting
+{
+    Guid setting;
+    std::uint32_t length = 0; ///< of the data, in bytes
+    std::uint32_t value = 0;
+};
+static_assert(sizeof(PowerSetting) == 24);
+
 inline constexpr std::uint32_t kMessageHotKey = 0x0312; ///< WM_HOTKEY: lParam is virtual key << 16 | modifiers
 inline constexpr std::uint32_t kModifierAlt = 1;        ///< MOD_ALT
 inline constexpr std::uint32_t kModifierControl = 2;    ///< MOD_CONTROL

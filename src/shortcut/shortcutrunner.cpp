@@ -2,26 +2,14 @@
 
 #include <QDebug>
 
-#include "ddc_protocol/devicestate.h"
-#include "ddc_protocol/scenemodes.h"
 #include "ddc_protocol/transport.h"
+#include "ddc_protocol/valuechanges.h"
 #include "platform/desk.h"
 #include "shortcut/shortcutfunctions.h"
 
 namespace {
 
 constexpr platform::milliseconds kRest(200);
-
-/// True when the monitor took it.
-bool send(Command command, COMMAND_set_Type row, std::uint16_t value)
-{
-    // Before: a send that fails makes the session record what is really on.
-    if (command == Command::SceneMode)
-        noteSceneMode(value);
-    else
-        deviceState.storeUserValue(command, value);
-    return Korvu_SetCommandVal(row, value, kRetryCount);
-}
 
 } // namespace
 
@@ -50,7 +38,7 @@ void ShortcutRunner::shortcutKeyCommand(int function, int direction)
         shortcutStep(functions[static_cast<std::size_t>(function)].rule, ShortcutKey(direction), read);
     const auto command = Command(commandCode(step.row));
     const auto value = static_cast<std::uint16_t>(step.value);
-    const bool ok = send(command, step.row, value);
+    const bool ok = sendValue(command, value);
     if (step.locks)
         rest();
     Q_EMIT sent(function, command, value, ok);

@@ -85,6 +85,8 @@ MonitorEvent readEvent(Reader &reader, const QJsonObject &object)
         {QStringLiteral("garble"), Kind::Garble},
         {QStringLiteral("latency"), Kind::Latency},
         {QStringLiteral("delay"), Kind::Delay},
+        {QStringLiteral("sleep"), Kind::Sleep},
+        {QStringLiteral("wake"), Kind::Wake},
     };
     const QString name = object.value(QLatin1String("event")).toString();
     if (!kKinds.contains(name))

@@ -30,7 +30,9 @@ struct MonitorEvent
         LoseReplies,
         Garble,
         Latency,
-        Delay
+        Delay,
+        Sleep, ///< of the whole desk
+        Wake
     };
 
     Kind kind = Kind::Recover;

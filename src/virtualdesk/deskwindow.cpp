@@ -46,6 +46,7 @@ QPushButton:focus, QComboBox:focus { border-color: #7bfadb; }
 QListWidget { color: #c9c9c9; outline: none; padding: 4px; }
 QListWidget::item { padding: 6px 8px; border-radius: 6px; }
 QListWidget::item:selected { color: #ffffff; background-color: #1b5043; }
+QPushButton#osdButton { padding: 0; }
 QPushButton:checked { color: #ffffff; background-color: #5a2a2d; border-color: #da676d; }
 QComboBox::drop-down { border: none; width: 22px; }
 QComboBox QAbstractItemView { color: #ffffff; background-color: #1b2320; selection-background-color: #1b5043; }

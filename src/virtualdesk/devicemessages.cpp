@@ -74,4 +74,28 @@ void DeviceRegistrations::broadcast(std::uint64_t event, const platform::Guid &i
     }
 }
 
+void DeviceRegistrations::addSystem(WId window)
+{
+    if (window != 0)
+        m_systemWindows.push_back(window);
+}
+
+void DeviceRegistrations::removeSystem(WId window)
+{
+    std::erase(m_systemWindows, window);
+}
+
+void DeviceRegistrations::tellSystem(std::uint32_t message, std::uint64_t wParam, const void *lParam) const
+{
+    const auto windows = m_systemWindows; // a handler may end its registration
+    for (const WId window : windows) {
+        platform::NativeMessage native;
+        native.window = reinterpret_cast<void *>(window);
+        native.message = message;
+        native.wParam = wParam;
+        native.lParam = reinterpret_cast<std::intptr_t>(lParam);
+        deliverNativeMessage(native);
+    }
+}
+
 } // namespace virtualdesk

@@ -34,6 +34,13 @@ public:
     /// Sends a broadcast of one class (kDeviceArrival or kDeviceRemoveComplete) to every window registered for it.
     void broadcast(std::uint64_t event, const platform::Guid &interfaceClass) const;
 
+    /// The windows that asked for messages about power, displays and the session; a 0 is none.
+    void addSystem(WId window);
+    void removeSystem(WId window);
+
+    /// Sends a message of that kind to each of them.
+    void tellSystem(std::uint32_t message, std::uint64_t wParam, const void *lParam = nullptr) const;
+
     std::size_t count() const { return m_registrations.size(); }
 
 private:
@@ -44,6 +51,7 @@ private:
         platform::Guid interfaceClass;
     };
     std::vector<Registration> m_registrations;
+    std::vector<WId> m_systemWindows;
     std::uintptr_t m_nextToken = 0x7000;
 };
 

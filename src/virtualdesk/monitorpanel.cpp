@@ -53,6 +53,9 @@ constexpr FaultSpec kFaults[] = {
          desk.monitor(index).setDelay(on ? kSlow : platform::milliseconds(0));
      },
      [](const SimulatedMonitor &monitor) { return monitor.isSlow(); }},
+    {NAME("Sleep"), NAME("The computer and its monitors sleep until the button is released"),
+     [](VirtualDesk &desk, std::size_t, bool on) { on ? desk.sleep() : desk.wake(); },
+     [](const SimulatedMonitor &monitor) { return monitor.isAsleep(); }},
     {NAME("Unplug"), NAME("The cable is pulled out until the button is released"),
      [](VirtualDesk &desk, std::size_t index, bool on) { on ? desk.unplug(index) : desk.plug(index); },
      [](const SimulatedMonitor &monitor) { return !monitor.isPlugged(); }},
@@ -185,9 +188,27 @@ QWidget *MonitorPanel::buildOsd()
         grid->addWidget(name, row, 0);
         grid->addWidget(value, row, 1, Qt::AlignRight);
         m_osdRows.emplace_back(name, value);
+        if (row > 0 && row <= static_cast<int>(osdMenu().size()))
+            addOsdButtons(osdMenu()[static_cast<std::size_t>(row) - 1], grid, row);
     }
     area->setWidget(content);
     return area;
+}
+
+/// The monitor's own buttons: they change a value behind the program's back.
+void MonitorPanel::addOsdButtons(const OsdFunction &function, QGridLayout *grid, int row)
+{
+    for (const int direction : {-1, 1}) {
+        auto *button = new QPushButton(direction < 0 ? QStringLiteral("–") : QStringLiteral("+"), grid->parentWidget());
+        button->setFixedSize(22, 20);
+        button->setObjectName(QStringLiteral("osdButton"));
+        connect(button, &QPushButton::clicked, this, [this, function, direction] {
+            monitor().setValue(function.code, osdStep(function, monitor().value(function.code), direction));
+            askForRefresh();
+        });
+        grid->addWidget(button, row, direction < 0 ? 2 : 3);
+        m_osdButtons.push_back(button);
+    }
 }
 
 QLayout *MonitorPanel::buildFaults()
@@ -223,6 +244,8 @@ void MonitorPanel::retranslate()
         m_faultButtons[i]->setToolTip(QObject::tr(kFaults[i].tip));
         m_faultButtons[i]->setAccessibleDescription(QObject::tr(kFaults[i].tip));
     }
+    for (std::size_t i = 0; i < m_osdButtons.size(); ++i)
+        m_osdButtons[i]->setAccessibleName(osdName(osdMenu()[i / 2]) + QLatin1Char(' ') + m_osdButtons[i]->text());
     askForRefresh();
 }
 

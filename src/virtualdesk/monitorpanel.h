@@ -9,6 +9,7 @@
 #include "virtualdesk/request.h"
 
 class QComboBox;
+class QGridLayout;
 class QLabel;
 class QLayout;
 class QPlainTextEdit;
@@ -18,6 +19,7 @@ namespace virtualdesk {
 
 class ScreenView;
 class SimulatedMonitor;
+struct OsdFunction;
 class VirtualDesk;
 
 /// What a person in front of the simulated monitor would see, what the monitor was asked, and
@@ -36,6 +38,7 @@ public:
 private:
     void layOut();
     QWidget *buildOsd();
+    void addOsdButtons(const OsdFunction &function, QGridLayout *grid, int row);
     QLayout *buildFaults();
     void selectMonitor(int index);
     void requestArrived(const Request &request);
@@ -62,6 +65,7 @@ private:
     QLabel *m_state = nullptr;
     QPlainTextEdit *m_requests = nullptr;
     std::vector<std::pair<QLabel *, QLabel *>> m_osdRows; // name and value, in the order of the OSD
+    std::vector<QPushButton *> m_osdButtons;              // down and up for each row of the menu
     std::vector<QPushButton *> m_faultButtons;            // in the order of the fault table
 };
 

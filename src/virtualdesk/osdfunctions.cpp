@@ -181,6 +181,16 @@ QString osdValueText(const OsdFunction &function, std::uint16_t value)
     return QString::number(value);
 }
 
+std::uint16_t osdStep(const OsdFunction &function, std::uint16_t value, int direction)
+{
+    if (function.options.empty())
+        return static_cast<std::uint16_t>(std::clamp(value + direction, 0, int(function.maximum)));
+    const auto isOn = [value](const OsdOption &option) { return option.value == value; };
+    const auto on = std::find_if(function.options.begin(), function.options.end(), isOn) - function.options.begin();
+    const auto last = static_cast<std::ptrdiff_t>(function.options.size()) - 1;
+    return function.options[static_cast<std::size_t>(std::clamp<std::ptrdiff_t>(on + direction, 0, last))].value;
+}
+
 QString sceneName(int mode)
 {
     const int factory = mode % 2 == 0 ? mode - 1 : mode;

@@ -39,6 +39,10 @@ QString osdName(const OsdFunction &function);
 /// What the OSD shows for a value: the option's name in the interface language, or the number.
 QString osdValueText(const OsdFunction &function, std::uint16_t value);
 
+/// What a press on the monitor's own button makes of a value: the next option or number, up or down (1 or -1), and the
+/// same at the end.
+std::uint16_t osdStep(const OsdFunction &function, std::uint16_t value, int direction);
+
 /// The name of a scene mode, 1..90, in the interface language, with "Default" or "Custom".
 QString sceneName(int mode);
 

@@ -101,7 +101,7 @@ Reply SimulatedMonitor::serve(Request &request)
         request.outcome = Outcome::Unplugged;
         return {kErrorNoSuchDevice};
     }
-    if (m_faults.strikeDeaf()) {
+    if (m_asleep || m_faults.strikeDeaf()) {
         forgetConversation();
         request.outcome = Outcome::Deaf;
         return {isRead ? kErrorReceiving : kErrorTransmitting};

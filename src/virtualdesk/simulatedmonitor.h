@@ -69,6 +69,10 @@ public:
     void recover() { arm(&Faults::clear); }
     Faults::Armed armedFaults() const;
 
+    /// Asleep it answers nothing; what its buttons change is changed all the same.
+    void setAsleep(bool asleep) { m_asleep = asleep; }
+    bool isAsleep() const { return m_asleep; }
+
     void setPlugged(bool plugged);
     bool isPlugged() const;
 
@@ -145,6 +149,7 @@ private:
     std::optional<Stream> m_stream;
     bool m_selectorExpected = false;
     bool m_plugged = true;
+    std::atomic<bool> m_asleep = false;
     Faults m_faults;
     ProtocolFaults m_protocolFaults;
     std::deque<Request> m_history;

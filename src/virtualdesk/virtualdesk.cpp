@@ -105,54 +105,6 @@ void VirtualDesk::displaysChanged()
     Q_EMIT monitorsChanged();
 }
 
-void VirtualDesk::apply(std::size_t index, const MonitorEvent &event)
-{
-    using Kind = MonitorEvent::Kind;
-    SimulatedMonitor &target = monitor(index);
-    switch (event.kind) {
-    case Kind::Plug:
-        return plug(index);
-    case Kind::Unplug:
-        return unplug(index);
-    case Kind::Deaf:
-        target.goDeaf(event.times);
-        break;
-    case Kind::Recover:
-        target.recover();
-        break;
-    case Kind::Refuse:
-        target.refuse(static_cast<std::uint8_t>(event.code), event.times);
-        break;
-    case Kind::RefuseWrites:
-        target.refuseWrites(event.times);
-        break;
-    case Kind::DropChunks:
-        target.dropChunks(event.times);
-        break;
-    case Kind::LoseReplies:
-        target.loseReplies(event.times, event.code);
-        break;
-    case Kind::Garble:
-        target.garbleReplies(event.times, event.code);
-        break;
-    case Kind::Delay:
-        target.setDelay(event.read);
-        break;
-    case Kind::Latency:
-        target.setLatency(event.read, event.write);
-        break;
-    }
-    Q_EMIT monitorsChanged();
-}
-
-void VirtualDesk::startEvents()
-{
-    for (const TimedEvent &timed : std::exchange(m_events, {})) {
-        m_clock.callLater(timed.at, this,
-                          [this, timed] { apply(static_cast<std::size_t>(timed.monitor), timed.event); });
-    }
-}
-
 std::vector<std::size_t> VirtualDesk::pluggedOn(std::size_t display) const
 {
     std::vector<std::size_t> found;

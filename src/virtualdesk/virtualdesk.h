@@ -52,6 +52,11 @@ public:
     /// Changes the enumeration and tells the windows that registered for monitors.
     void plug(std::size_t index);
     void unplug(std::size_t index);
+    /// The computer goes to sleep, and its monitors with it.
+    void sleep();
+    /// It wakes, tells the windows so, more than once, as Windows does, and has new handles; the monitors answer two
+    /// seconds later.
+    void wake();
     /// Does to a monitor what a script may ask for.
     void apply(std::size_t index, const MonitorEvent &event);
     /// Starts the timed events of the script; calls after the first do nothing.

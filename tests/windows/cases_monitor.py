@@ -1,5 +1,7 @@
 """What reaches the monitor, and what the program makes of one that is silent, nameless or new."""
 
+import time
+
 from casekit import LEFT_BAR_X, codes_of, end_at_exit_box, entry_y, started, writes_of
 from rig import START_SECONDS, edid, time_of, wait_for
 
@@ -123,3 +125,23 @@ def case_monitor_arrival(rig):
         assert 0.99 <= delay < 3, f"searched after {delay:.3f} s"
         wait_for(lambda: run.logged("Reconnet device..."), "the reconnection")
         assert len(run.logged("ReadData from device begin")) == reads
+
+
+def case_system_notices(rig):
+    """What the system tells leads to reads of what is in sight, never to a write; where handles may be stale, to one
+    search."""
+    with started(rig, "system_notices") as run:
+        run.start_and_show()
+        assert run.session_registrations() == ["registered"]
+        for notice, scene, searches in (("unlock", 13, 0), ("resume", 5, 1), ("displays", 10, 1)):
+            time.sleep(2.5)  # what the monitor told a moment ago is not asked for again
+            begin, found = len(run.requests()), len(run.logged("Reconnet device..."))
+            run.set_by_hand({0x22: scene})
+            for _ in range(3):
+                run.announce(notice)
+            asked = wait_for(lambda: f"R 22 -> {scene}" in (new := run.requests()[begin:]) and new, notice)
+            if scene % 2 == 0:  # the custom half is in sight
+                wait_for(lambda: f"R {scene:02X}" in " ".join(run.requests()[begin:]), "the block")
+            time.sleep(1.5)
+            assert not writes_of(run.requests()[begin:]), asked
+            assert len(run.logged("Reconnet device...")) == found + searches, notice

@@ -3,7 +3,7 @@
 import shutil
 import time
 
-from casekit import PAGE_LIST_X, PAGE_LIST_Y, REGISTERS, TOP_BAR_Y, open_basic_page, started
+from casekit import PAGE_LIST_X, PAGE_LIST_Y, REGISTERS, TOP_BAR_Y, open_basic_page, started, writes_of
 from rig import START_SECONDS, wait_for, windows_path
 
 EXIT_REFUSED = 255  # -1, as the shell sees it
@@ -23,7 +23,7 @@ def case_second_instance(rig):
         seen = run.requests()
         expect_refusal(run)
         assert run.processes[0].poll() is None
-        assert run.requests() == seen, run.requests()[len(seen):]
+        assert not writes_of(run.requests()[len(seen):])  # coming back to the front, the first one only asks
     with started(rig, "closed_name") as run:
         run.start_other(rig.standins / "keyholder.exe", "QUORVEL")
         wait_for((run.folder / "held.txt").exists, "the name to be held")

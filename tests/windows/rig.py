@@ -58,12 +58,12 @@ class Rig:
         self.program = self.work / "program"
         shutil.rmtree(self.program, ignore_errors=True)
         shutil.copytree(program, self.program)
-        for library in ("dxva2.dll", "libhidapi.dll"):
+        for library in ("dxva2.dll", "libhidapi.dll", "wtsapi32.dll"):
             shutil.copy(self.standins / library, self.program)
         self.environment = {name: value for name, value in os.environ.items() if not name.startswith(("QT_", "QUORVEL_"))}
         self.environment.update(
             WINEPREFIX=str(self.work / "prefix"), WINEARCH="win64", WINEDEBUG="-all",
-            WINEDLLOVERRIDES="dxva2=n,b;mscoree,mshtml=", LC_ALL="en_US.UTF-8")
+            WINEDLLOVERRIDES="dxva2,wtsapi32=n,b;mscoree,mshtml=", LC_ALL="en_US.UTF-8")
         self._servers = []
 
     def __enter__(self):
@@ -181,7 +181,8 @@ class Run:
         return process
 
     def announce(self, device_class):
-        """Tells the program's windows that a device has arrived, a "monitor" or a "hid", or that the "session" ends."""
+        """Tells the program's windows that a device has arrived, a "monitor" or a "hid", that the "session" ends or its "unlock", the
+        "resume" of the computer, or that the "displays" changed."""
         sent = self.rig.run(["wine", str(self.rig.standins / "windowprobe.exe"), TITLE, device_class], check=True)
         assert int(sent) >= 1, sent
 
@@ -218,6 +219,13 @@ class Run:
     def requests(self):
         """What reached the monitor so far, a request each."""
         return self._written("requests.txt")
+
+    def set_by_hand(self, registers):
+        """Somebody presses the monitor's own buttons."""
+        put(self.monitor / "buttons.txt", "".join(f"{code:02x} {value}\n" for code, value in registers.items()))
+
+    def session_registrations(self):
+        return self._written("sessions.txt")
 
     def handles(self):
         """Which handles of the monitor were opened and closed so far."""

@@ -1,6 +1,6 @@
-// Sends the arrival of a device to the windows of the program: "windowprobe <title> monitor", "hid" or "accessory"; or
-// the end of the session: "session". Every top-level window of the process that owns the window of that title gets it,
-// as the system's broadcast would reach them.
+// Sends the arrival of a device to the windows of the program: "windowprobe <title> monitor", "hid" or "accessory"; the
+// end of the session: "session"; or what the system tells: "resume", "displays" or "unlock". Every top-level window of
+// the process that owns the window of that title gets it, as the system's broadcast would reach them.
 
 #include <cstdio>
 #include <cwchar>
@@ -8,6 +8,7 @@
 #include <windows.h>
 
 #include <dbt.h>
+#include <wtsapi32.h>
 
 namespace {
 
@@ -22,12 +23,25 @@ constexpr DeviceClass kClasses[] = {
     {L"hid", {0x4D1E55B2, 0xF16F, 0x11CF, {0x88, 0xCB, 0x00, 0x11, 0x11, 0x00, 0x00, 0x30}}},
     {L"accessory", {0xE6327CAD, 0xDCEC, 0x4949, {0xAE, 0x8A, 0x99, 0x1E, 0x97, 0x6A, 0x79, 0xD2}}},
 };
+struct Notice
+{
+    const wchar_t *name;
+    UINT message;
+    WPARAM word;
+};
+
+constexpr Notice kNotices[] = {
+    {L"resume", WM_POWERBROADCAST, PBT_APMRESUMEAUTOMATIC},
+    {L"displays", WM_DISPLAYCHANGE, 32},
+    {L"unlock", WM_WTSSESSION_CHANGE, WTS_SESSION_UNLOCK},
+};
 constexpr UINT kPatienceMs = 5000;
 
 struct Search
 {
     const wchar_t *title = nullptr;
     const DeviceClass *arrived = nullptr;
+    const Notice *notice = nullptr;
     DWORD process = 0;
     int sent = 0;
 };
@@ -81,6 +95,15 @@ BOOL CALLBACK sendArrival(HWND window, LPARAM parameter)
     return TRUE;
 }
 
+BOOL CALLBACK sendNotice(HWND window, LPARAM parameter)
+{
+    auto *search = reinterpret_cast<Search *>(parameter);
+    DWORD_PTR result = 0;
+    if (send(*search, window, search->notice->message, search->notice->word, 0, &result))
+        ++search->sent;
+    return TRUE;
+}
+
 } // namespace
 
 int wmain(int count, wchar_t **arguments)
@@ -90,15 +113,19 @@ int wmain(int count, wchar_t **arguments)
         if (count == 3 && std::wcscmp(arguments[2], deviceClass.name) == 0)
             search.arrived = &deviceClass;
     }
+    for (const Notice &notice : kNotices) {
+        if (count == 3 && std::wcscmp(arguments[2], notice.name) == 0)
+            search.notice = &notice;
+    }
     const bool session = count == 3 && std::wcscmp(arguments[2], L"session") == 0;
-    if (!search.arrived && !session) {
-        std::fputs("usage: windowprobe <window title> monitor|hid|accessory|session\n", stderr);
+    if (!search.arrived && !search.notice && !session) {
+        std::fputs("usage: windowprobe <window title> monitor|hid|accessory|session|resume|displays|unlock\n", stderr);
         return 2;
     }
     search.title = arguments[1];
     EnumWindows(findOwner, reinterpret_cast<LPARAM>(&search));
     if (search.process)
-        EnumWindows(session ? endSession : sendArrival, reinterpret_cast<LPARAM>(&search));
+        EnumWindows(session ? endSession : search.notice ? sendNotice : sendArrival, reinterpret_cast<LPARAM>(&search));
     std::printf("%d\n", search.sent);
     return search.sent > 0 ? 0 : 1;
 }

@@ -73,8 +73,7 @@ void pageSystemSetting::resetFactory()
 
 bool pageSystemSetting::refusesSecondLock(int value)
 {
-    const bool already =
-        value == 1 && deviceState.isKnown(Command::MenuLock) && deviceState.value(Command::MenuLock) == 1;
+    const bool already = value == 1 && monitorHas(Command::MenuLock, 1);
     showNotice(already ? QObject::tr("Menu lock already opened!") : QString());
     return already;
 }

@@ -24,7 +24,7 @@ pageIOSetting::pageIOSetting(CommandQueue &queue, QWidget *parent)
 
 bool pageIOSetting::excludes(Command other, const char *label, int value)
 {
-    const bool excluded = value == 1 && deviceState.value(other) == 1;
+    const bool excluded = value == 1 && monitorHas(other, 1);
     showNotice(excluded ? alreadyEnabled(label) : QString());
     return excluded;
 }
@@ -42,8 +42,14 @@ QWidget *pageIOSetting::buildPart(const char *name)
 void pageIOSetting::updateInterfaceData()
 {
     PanelPage::updateInterfaceData();
-    if (!m_inputOn && deviceState.isKnown(Command::InputSignal))
-        m_inputOn = deviceState.value(Command::InputSignal);
+    showInput();
+    showPreview();
+}
+
+void pageIOSetting::followValue(Command command)
+{
+    if (command != Command::InputSignal)
+        return;
     showInput();
     showPreview();
 }
@@ -54,10 +60,11 @@ void pageIOSetting::updateControlText()
     showInput();
 }
 
-/// Marks the input that the picture came from when the page was first filled: choosing another one blanks it.
+/// Names the input that the monitor is known to show: choosing another one blanks the picture.
 void pageIOSetting::showInput()
 {
-    const QPushButton *button = m_inputOn ? optionGroup(Command::InputSignal)->buttonOf(*m_inputOn) : nullptr;
+    const std::optional<int> on = deviceState.confirmed(Command::InputSignal);
+    const QPushButton *button = on ? optionGroup(Command::InputSignal)->buttonOf(*on) : nullptr;
     m_inputNow->setText(button ? QObject::tr("On now: %1").arg(button->text()) : QString());
 }
 

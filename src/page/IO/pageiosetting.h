@@ -14,6 +14,7 @@ public:
 
 protected:
     QWidget *buildPart(const char *name) override;
+    void followValue(Command command) override;
 
 private:
     bool excludes(Command other, const char *label, int value);
@@ -22,5 +23,4 @@ private:
 
     QLabel *m_inputNow = nullptr;
     QLabel *m_preview = nullptr;
-    std::optional<int> m_inputOn;
 };

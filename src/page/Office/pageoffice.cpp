@@ -5,6 +5,7 @@
 
 #include "controls/desktoptoast.h"
 #include "controls/wheeleventfilter.h"
+#include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/settingsstore.h"
 #include "page/Office/officetable.h"
 #include "page/engine/labels.h"
@@ -35,7 +36,10 @@ PageOffice::PageOffice(CommandQueue &queue, QWidget *parent)
 {
     buildPanels(officePanels());
     afterSending(Command::Paper, [this](int) { showPaperSize(); });
-    onResult(Command::RestTimer, [this](int option, bool ok) { m_reminder.setOption(ok ? option : 0); });
+    connect(&queue.values(), &ValueWatch::changed, this, [this](Command command) {
+        if (command == Command::RestTimer)
+            followRestTimer();
+    });
     connect(&m_reminder, &RestReminder::timeIsUp, this, &PageOffice::remind);
 }
 
@@ -116,7 +120,19 @@ void PageOffice::updateInterfaceData()
 {
     PanelPage::updateInterfaceData();
     showPaperSize();
-    m_reminder.setOption(deviceState.isKnown(Command::RestTimer) ? deviceState.value(Command::RestTimer) : 0);
+    followRestTimer();
+}
+
+void PageOffice::followValue(Command command)
+{
+    if (command == Command::Paper)
+        showPaperSize();
+}
+
+/// Also while the page is out of sight: the desktop's reminder goes as the monitor's does.
+void PageOffice::followRestTimer()
+{
+    m_reminder.setOption(deviceState.confirmed(Command::RestTimer).value_or(0));
 }
 
 void PageOffice::remind()

@@ -20,11 +20,13 @@ public:
 
 protected:
     QWidget *buildPart(const char *name) override;
+    void followValue(Command command) override;
 
 private:
     QSpinBox *makeSizeField(const QString &name);
     void sendPaperSize();
     void showPaperSize();
+    void followRestTimer();
     void remind();
 
     RestReminder m_reminder;

@@ -116,12 +116,6 @@ void pageSceneSetting::addRules()
 {
     beforeSending(Command::ColorTemperature, [this](int value) { followColorTemperature(value); });
     afterSending(Command::ColorEnhance, [this](int) { enableSaturation(); });
-    // A Sharpness that the monitor did not take leaves the block in doubt, until it is read again.
-    // A late answer must not make a block valid that belongs to another mode by now.
-    onResult(Command::Sharpness, [](int value, bool ok) {
-        if (deviceState.sceneBlockValid())
-            deviceState.store(Command::Sharpness, ok ? value : kBlockNotValid);
-    });
     for (int channel = 0; channel < 3; ++channel) {
         chooseCommand(kUserColourSliders[channel], [this, channel]() -> std::optional<Command> {
             if (m_userColourSlot == 0)
@@ -159,61 +153,55 @@ void pageSceneSetting::switchHalf(bool defaultView)
     }
     const bool isOdd = value % 2 != 0;
     const int wanted = defaultView == isOdd ? value : defaultView ? value - 1 : value + 1;
-    deviceState.store(Command::SceneMode, wanted);
-    showHalf(defaultView);
-
     const bool changed = wanted != deviceState.lastSceneModeSent;
-    if (deviceState.sceneBlockValid()) {
+    const bool blockValid = deviceState.sceneBlockValid();
+    if (changed)
+        deviceState.wish(Command::SceneMode, wanted);
+    showHalf(defaultView);
+    if (blockValid) {
         if (changed)
-            sendSceneMode();
+            showResult(send(Command::SceneMode, wanted));
         fillCustomArea();
         return;
     }
     Q_EMIT modeChangeBegins();
     if (changed) {
         queue().drain();
-        deviceState.lastSceneModeSent = wanted;
         m_worker->begin(wanted);
     } else {
         Q_EMIT modeChangeEnded();
     }
 }
 
-void pageSceneSetting::sendSceneMode()
-{
-    const int value = deviceState.value(Command::SceneMode);
-    deviceState.lastSceneModeSent = value; // before: a send that fails makes the session record what is really on
-    showResult(send(Command::SceneMode, value));
-}
-
+/// The snapshot knows what became of the mode: keys, rules and a reconnection may have changed it meanwhile.
 void pageSceneSetting::onWorkFinished()
 {
-    deviceState.store(Command::SceneMode, m_worker->mode()); // a reconnection meanwhile may have read the mode before
-    deviceState.lastSceneModeSent = m_worker->mode();
-    showHalf(m_worker->mode() % 2 != 0);
-    fillCustomArea();
+    updateInterfaceData();
+    showResult(m_worker->isTaken());
     Q_EMIT modeChangeEnded();
 }
 
 void pageSceneSetting::chooseScene(int value)
 {
     const SceneMode *wanted = sceneModeOf(value);
-    if (!wanted || wanted == sceneModeOf(deviceState.value(Command::SceneMode)))
+    const bool isOn = wanted == sceneModeOf(deviceState.value(Command::SceneMode));
+    if (!wanted || (isOn && deviceState.state(Command::SceneMode) != ValueState::Refused))
         return;
     queue().drain(); // a drag's last value belongs to the mode that is left
-    deviceState.invalidateSceneBlock();
-    deviceState.store(Command::SceneMode, wanted->value);
+    deviceState.wish(Command::SceneMode, wanted->value);
     showHalf(true);
-    sendSceneMode();
+    showResult(send(Command::SceneMode, wanted->value));
 }
 
 void pageSceneSetting::showTitle()
 {
     const SceneMode *mode = sceneModeOf(deviceState.value(Command::SceneMode));
     m_title->setText(mode ? QObject::tr(mode->label) : QObject::tr("Scene"));
-    m_note->setStyleSheet(m_lastResult ? QString() : QStringLiteral("color: #da676d;"));
-    m_note->setText(m_defaultView ? QObject::tr("The picture as the factory set it.")
-                                  : QObject::tr("Your own picture. Changes are sent to the monitor as you make them."));
+    m_note->setStyleSheet(m_refused ? QStringLiteral("color: #da676d;") : QString());
+    m_note->setText(m_refused ? markText(Mark::Refused)
+                    : m_defaultView
+                        ? QObject::tr("The picture as the factory set it.")
+                        : QObject::tr("Your own picture. Changes are sent to the monitor as you make them."));
     m_defaultText->setText((mode ? QObject::tr(mode->hint) + QLatin1Char('\n') : QString()) +
                            QObject::tr("Choose Custom to make it your own."));
     const QString icon = QStringLiteral("img/entry/%1_checked.png").arg(QLatin1String(mode ? mode->icon : "standard"));
@@ -223,10 +211,31 @@ void pageSceneSetting::showTitle()
 
 void pageSceneSetting::showResult(bool ok)
 {
-    if (ok == m_lastResult)
+    if (ok != m_refused)
         return;
-    m_lastResult = ok;
+    m_refused = !ok;
     showTitle();
+}
+
+/// Whoever comes back, or looks at another monitor, begins anew.
+void pageSceneSetting::hideEvent(QHideEvent *event)
+{
+    SettingsPage::hideEvent(event);
+    showResult(true);
+}
+
+void pageSceneSetting::followValue(Command command)
+{
+    if (command == Command::SceneMode) {
+        if (!deviceState.isKnown(Command::SceneMode))
+            showResult(true);
+        updateInterfaceData();
+        return reconcile(); // another half may have come into sight
+    }
+    const bool isColour = command == Command::ColorTemperature || command == Command::User1Red;
+    if (showsValues() && isColour && deviceState.isKnown(Command::ColorTemperature))
+        followColorTemperature(deviceState.value(Command::ColorTemperature));
+    enableSaturation();
 }
 
 void pageSceneSetting::updateInterfaceData()
@@ -239,4 +248,13 @@ void pageSceneSetting::updateControlText()
 {
     SettingsPage::updateControlText();
     showTitle();
+}
+
+void pageSceneSetting::reconcile()
+{
+    const int mode = deviceState.value(Command::SceneMode);
+    const bool isOn =
+        mode % 2 == 0 && deviceState.isKnown(Command::SceneMode) && deviceState.confirmed(Command::SceneMode) == mode;
+    if (isVisible() && !m_defaultView && isOn && !deviceState.isSceneBlockFresh())
+        queue().askBlock(mode);
 }

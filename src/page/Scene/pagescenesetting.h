@@ -24,6 +24,9 @@ public:
     void updateInterfaceData() override;
     void updateControlText() override;
 
+    /// Asks for the block of the custom half, when that is in sight.
+    void reconcile() override;
+
 Q_SIGNALS:
     /// A slow change of mode begins, and has ended: the window keeps the user's hands off in between.
     void modeChangeBegins();
@@ -34,6 +37,14 @@ Q_SIGNALS:
 
 protected:
     void showResult(bool ok) override;
+    void followValue(Command command) override;
+    void hideEvent(QHideEvent *event) override;
+
+    /// In the factory half the snapshot holds that half's values, which the custom area never shows.
+    bool showsValues() const override { return !m_defaultView; }
+
+    /// A block that cannot be read leaves what it showed before, marked; before the first one there are dashes.
+    bool keepsContents() const override { return m_filled; }
 
 private Q_SLOTS:
     void onHalfClicked();
@@ -47,7 +58,6 @@ private:
 
     void showHalf(bool defaultView);
     void switchHalf(bool defaultView);
-    void sendSceneMode();
     void fillCustomArea();
     void showTitle();
 
@@ -67,6 +77,7 @@ private:
     QStackedWidget *m_areas = nullptr;
     QWidget *m_customArea = nullptr;
     bool m_defaultView = true;
-    bool m_lastResult = true; ///< whether the monitor took what was set last
+    bool m_filled = false;    ///< a block of this session was shown
+    bool m_refused = false;   ///< what was set last
     int m_userColourSlot = 0; ///< which user preset the R, G, B sliders edit; 0 none
 };

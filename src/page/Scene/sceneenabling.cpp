@@ -3,33 +3,19 @@
 #include <QPushButton>
 
 #include "controls/sliderwidget.h"
+#include "ddc_protocol/scenemodes.h"
 #include "page/Scene/pagescenesetting.h"
 #include "page/Scene/scenetable.h"
 #include "page/engine/optiongrouprow.h"
 
 namespace {
 
-constexpr int kMpcsFpsCustom = 26; ///< motion at its sharpest: no local dimming
-constexpr int kMpcsLdCustom = 28;  ///< motion together with local dimming
-constexpr int kEBook = 21;         ///< black and white, in both halves
-
-constexpr int kFirstUllLevel = 6;
-constexpr int kLow = 3;
-constexpr int kHigh = 5;
+constexpr int kEBook = 21; ///< black and white, in both halves
 
 int userSlot(int temperature)
 {
     const int slot = temperature - kFirstUserTemperature + 1;
     return slot >= 1 && slot <= 3 ? slot : 0;
-}
-
-bool motionOptionAllowed(int option, int scene)
-{
-    if (scene == kMpcsLdCustom)
-        return option < kFirstUllLevel;
-    if (scene == kMpcsFpsCustom)
-        return option < kLow || option > kHigh;
-    return true;
 }
 
 } // namespace
@@ -61,11 +47,13 @@ void pageSceneSetting::fillUserColours(int value)
 
 void pageSceneSetting::fillCustomArea()
 {
-    if (!deviceState.sceneBlockValid())
+    if (!showsValues())
         return;
     const Updating updating(*this);
+    m_filled = m_filled || deviceState.sceneBlockValid();
     SettingsPage::updateInterfaceData();
-    followColorTemperature(deviceState.value(Command::ColorTemperature));
+    if (deviceState.isKnown(Command::ColorTemperature))
+        followColorTemperature(deviceState.value(Command::ColorTemperature));
     enableForScene();
     update();
 }

@@ -1,6 +1,8 @@
 #include "page/Scene/workthread.h"
 
+#include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/transport.h"
+#include "ddc_protocol/valuechanges.h"
 #include "searchdevicedlg.h"
 
 WorkThread::WorkThread(SearchDeviceDlg &session, QObject *parent) : JoinedThread(parent), m_session(session)
@@ -16,5 +18,7 @@ void WorkThread::begin(int mode)
 void WorkThread::run()
 {
     m_session.readSceneModeData(m_mode);
-    Korvu_SetCommandVal(writeRow(Command::SceneMode), static_cast<std::uint16_t>(m_mode), kRetryCount);
+    const auto lock = lockTransport(); // nobody's newer mode may come between the look and the request
+    const bool isNewest = deviceState.value(Command::SceneMode) == m_mode;
+    m_taken = !isNewest || sendWish(Command::SceneMode, m_mode);
 }

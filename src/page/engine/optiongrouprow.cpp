@@ -65,7 +65,7 @@ void dressOptionButton(QPushButton *button)
 
 OptionGroupRow::OptionGroupRow(const OptionGroup &group, BoundTexts &texts, QWidget *parent)
     : QWidget(parent), m_group(group), m_caption(new CaptionLabel(QString(), kCaptionPixels, this)),
-      m_exclusive(new QButtonGroup(this))
+      m_exclusive(new QButtonGroup(this)), m_mark(new ValueMark(this))
 {
     m_caption->setFixedSize(kCaptionWidth, group.look == GroupLook::Switch ? kHalfHeight : kButtonHeight);
     texts.bind(group.label, [this](const QString &text) { m_caption->setText(text); });
@@ -89,6 +89,11 @@ OptionGroupRow::OptionGroupRow(const OptionGroup &group, BoundTexts &texts, QWid
         m_buttons.push_back(button);
         flow->addWidget(button);
     }
+    m_mark->setFixedHeight(m_caption->height());
+    QSizePolicy markPolicy = m_mark->sizePolicy();
+    markPolicy.setRetainSizeWhenHidden(true); // the buttons must not jump when it comes
+    m_mark->setSizePolicy(markPolicy);
+    flow->addWidget(m_mark);
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(kSpacing);
@@ -118,4 +123,12 @@ void OptionGroupRow::showValue(std::optional<int> value)
     for (QPushButton *button : m_buttons)
         button->setChecked(button == chosen);
     m_exclusive->setExclusive(true);
+}
+
+void OptionGroupRow::setMark(Mark mark)
+{
+    m_mark->setMark(mark);
+    for (QPushButton *button : m_buttons)
+        button->setAccessibleDescription(markText(mark));
+    setToolTip(markText(mark));
 }

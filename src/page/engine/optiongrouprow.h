@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QWidget>
 
+#include "controls/valuemark.h"
 #include "page/engine/pagetable.h"
 
 class BoundTexts;
@@ -30,6 +31,10 @@ public:
     /// Checks the button of a value, or none.
     void showValue(std::optional<int> value);
 
+    /// What is to be said about the value.
+    void setMark(Mark mark);
+    Mark mark() const { return m_mark->mark(); }
+
 Q_SIGNALS:
     /// The user chose the button, by mouse or keyboard.
     void optionClicked(QPushButton *button);
@@ -39,6 +44,7 @@ private:
     CaptionLabel *m_caption;
     QButtonGroup *m_exclusive;
     std::vector<QPushButton *> m_buttons;
+    ValueMark *m_mark;
 };
 
 /// Gives a button the pictures of an option button, as small as its text allows.

@@ -18,6 +18,9 @@ public:
     /// lost asks the user. False when the program is to stay.
     virtual bool mayLeave() { return true; }
 
+    /// Asks the monitor in the background for what is in sight, unless it has just told it.
+    virtual void reconcile() {}
+
     /// What is shown; it owns the page.
     virtual QWidget *widget() = 0;
 };

@@ -162,6 +162,7 @@ void PanelPage::choose(int index)
     m_stack->setCurrentIndex(index);
     for (std::size_t i = 0; i < m_entries.size(); ++i)
         m_entries[i]->setChecked(static_cast<int>(i) == index);
+    reconcile();
 }
 
 void PanelPage::showPanel(int index)
@@ -186,7 +187,7 @@ void PanelPage::scrollList(int steps)
 
 void PanelPage::showResult(bool ok)
 {
-    showNotice(ok ? QString() : QObject::tr("The monitor did not take this setting."));
+    showNotice(ok ? QString() : markText(Mark::Refused));
 }
 
 QString PanelPage::alreadyEnabled(const char *label)

@@ -6,13 +6,18 @@
 
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
+#include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/transport.h"
+#include "ddc_protocol/valuechanges.h"
 #include "page/engine/optiongrouprow.h"
+#include "platform/desk.h"
+
+static constexpr platform::milliseconds kPatience{300}; // a value on its way for longer is marked
 
 SettingsPage::SettingsPage(CommandQueue &queue, QWidget *parent) : QLabel(parent), m_queue(queue)
 {
     connect(&queue, &CommandQueue::sent, this, &SettingsPage::onSent);
-    connect(&queue, &CommandQueue::answered, this, &SettingsPage::onAnswered);
+    connect(&queue.values(), &ValueWatch::changed, this, &SettingsPage::onValueChanged);
 }
 
 OptionGroupRow *SettingsPage::optionGroup(Command command) const
@@ -47,7 +52,12 @@ void SettingsPage::apply(const std::map<Command, Rule> &rules, Command command, 
 bool SettingsPage::send(Command command, int value)
 {
     m_queue.drain();
-    return Korvu_SetCommandVal(writeRow(command), static_cast<std::uint16_t>(value), kRetryCount);
+    return sendValue(command, value);
+}
+
+bool SettingsPage::monitorHas(Command command, int value)
+{
+    return deviceState.confirmed(command) == value && readCommandOnce(readRow(command)) == value;
 }
 
 /// The group and option that an object name stands for. A name of a group without an option gives what the group holds.
@@ -78,15 +88,11 @@ void SettingsPage::onOptionClicked(QPushButton *button)
         updateInterfaceData(); // the button shows again what is set
         return;
     }
-    deviceState.storeUserValue(choice->command, choice->value);
     apply(m_before, choice->command, choice->value);
     const bool ok = send(choice->command, choice->value);
     apply(m_after, choice->command, choice->value);
-    for (OptionGroupRow *row : m_groups) { // several rows may stand for one command
-        if (row->group().command == choice->command)
-            row->showValue(choice->value);
-    }
-    onSent(choice->command, choice->value, ok);
+    fill(choice->command);
+    showResult(ok);
 }
 
 void SettingsPage::onSliderChanged(const QString &name, int value, bool released)
@@ -97,56 +103,95 @@ void SettingsPage::onSliderChanged(const QString &name, int value, bool released
                                     [&name](const Slider &slider) { return slider.widget->name() == name; });
     if (entry == m_sliderEntries.end())
         return;
-    const std::optional<Command> command = entry->choose ? entry->choose() : entry->spec.command;
+    const std::optional<Command> command = commandOf(*entry);
     if (!command)
         return;
     const SendOn sendOn = entry->spec.sendOn;
-    const bool storesLater = m_results.contains(*command) || (sendOn == SendOn::ReleaseWithStore && !released);
-    if (!storesLater)
-        deviceState.storeUserValue(*command, value);
     if (released == (sendOn != SendOn::Move)) {
+        m_posted.insert(*command);
         m_queue.post(*command, value);
         apply(m_after, *command, value);
+    } else if (sendOn == SendOn::Release) {
+        deviceState.preview(*command, value);
     }
 }
 
-void SettingsPage::onSent(Command command, int value, bool ok)
+void SettingsPage::onSent(Command command, int, bool ok)
 {
-    if (shownCommands().contains(command))
+    if (m_posted.contains(command))
         showResult(ok);
-    if (const auto rule = m_results.find(command); rule != m_results.end())
-        rule->second(value, ok);
 }
 
-std::set<Command> SettingsPage::shownCommands() const
+std::optional<Command> SettingsPage::commandOf(const Slider &entry)
 {
-    std::set<Command> commands;
-    for (const OptionGroupRow *row : m_groups)
-        commands.insert(row->group().command);
-    for (const Slider &entry : m_sliderEntries)
-        commands.insert(entry.spec.command);
-    return commands;
+    return entry.choose ? entry.choose() : entry.spec.command;
 }
 
 void SettingsPage::showEvent(QShowEvent *event)
 {
     QLabel::showEvent(event);
     updateInterfaceData(); // another page may have changed what this one shows
-    if (!m_asksWhenShown)
+    reconcile();
+}
+
+void SettingsPage::reconcile()
+{
+    if (!m_asksWhenShown || !isVisible())
         return;
-    for (const Command command : shownCommands()) {
-        if (!deviceState.isKnown(command))
-            m_queue.ask(command);
+    const auto ask = [this](const QWidget *control, std::optional<Command> command) {
+        if (command && control->isVisibleTo(this) && !deviceState.isFresh(*command))
+            m_queue.ask(*command);
+    };
+    for (const OptionGroupRow *row : m_groups)
+        ask(row, row->group().command);
+    for (const Slider &entry : m_sliderEntries)
+        ask(entry.widget, commandOf(entry));
+}
+
+/// Several controls may stand for one command, also on pages that are not in sight: those are filled when shown.
+void SettingsPage::onValueChanged(Command command)
+{
+    if (!isVisible())
+        return;
+    if (showsValues())
+        fill(command);
+    followValue(command);
+}
+
+void SettingsPage::fill(Command command)
+{
+    const Updating updating(*this);
+    for (OptionGroupRow *row : m_groups) {
+        if (row->group().command == command)
+            fillRow(row);
+    }
+    for (const Slider &entry : m_sliderEntries) {
+        if (commandOf(entry) == command)
+            fillSlider(entry.widget, command);
     }
 }
 
-void SettingsPage::onAnswered(Command command, int value)
+/// A value on its way says so only when that takes longer than one expects; then it is looked at once more.
+Mark SettingsPage::markOf(Command command)
 {
-    if (!shownCommands().contains(command))
-        return;
-    if (!deviceState.isKnown(command)) // the user may have set it while the answer was on its way
-        deviceState.store(command, value);
-    updateInterfaceData();
+    switch (deviceState.state(command)) {
+    case ValueState::Known:
+        break;
+    case ValueState::Unknown:
+        return keepsContents() || deviceState.isDoubted(command) ? Mark::Unconfirmed : Mark::Unknown;
+    case ValueState::Refused:
+        return Mark::Refused;
+    case ValueState::Pending: {
+        platform::Clock &clock = platform::desk().clock();
+        const qint64 since = deviceState.pendingSince(command).value_or(clock.now()).msecsTo(clock.now());
+        if (since >= kPatience.count())
+            return Mark::Waiting;
+        clock.callLater(kPatience - platform::milliseconds(std::max<qint64>(since, 0)), this,
+                        [this, command] { fill(command); });
+        break;
+    }
+    }
+    return Mark::None;
 }
 
 void SettingsPage::showResult(bool)
@@ -158,24 +203,32 @@ QWidget *SettingsPage::buildPart(const char *)
     return nullptr;
 }
 
+void SettingsPage::fillRow(OptionGroupRow *row)
+{
+    const Command command = row->group().command;
+    const Mark mark = markOf(command);
+    if (mark != Mark::Unconfirmed)
+        row->showValue(mark != Mark::Unknown ? std::optional(deviceState.value(command)) : std::nullopt);
+    row->setMark(mark);
+}
+
 void SettingsPage::fillSlider(SliderWidget *slider, Command command)
 {
-    if (deviceState.isKnown(command))
+    if (slider->isHeld())
+        return;
+    const Mark mark = markOf(command);
+    if (mark != Mark::Unknown && mark != Mark::Unconfirmed)
         slider->setValue(deviceState.value(command));
-    else
-        slider->setUnknown(true);
+    slider->setMark(mark);
 }
 
 void SettingsPage::updateInterfaceData()
 {
     const Updating updating(*this);
-    for (OptionGroupRow *row : m_groups) {
-        const Command command = row->group().command;
-        row->showValue(deviceState.isKnown(command) ? std::optional(deviceState.value(command)) : std::nullopt);
-    }
+    for (OptionGroupRow *row : m_groups)
+        fillRow(row);
     for (const Slider &entry : m_sliderEntries) {
-        const std::optional<Command> command = entry.choose ? entry.choose() : entry.spec.command;
-        if (command)
+        if (const std::optional<Command> command = commandOf(entry))
             fillSlider(entry.widget, *command);
     }
 }

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "controls/valuemark.h"
 #include "page/engine/boundtexts.h"
 #include "page/engine/page.h"
 #include "page/engine/pagetable.h"
@@ -31,6 +32,9 @@ public:
 
     /// Shows every text in the language of now.
     void updateControlText() override;
+
+    /// On pages that ask at all.
+    void reconcile() override;
 
     QWidget *widget() override { return this; }
 
@@ -63,25 +67,33 @@ protected:
     /// Builds a part that the tables only name; null for a name that the page does not know.
     virtual QWidget *buildPart(const char *name);
 
-    /// Tells the user whether the monitor took what was set last; a page says so in its own place.
+    /// Tells the user whether the monitor took what was set last on this page; a page says so in its own place.
     virtual void showResult(bool ok);
 
-    /// From now on, whenever the page is shown, what its controls do not know yet is asked for in the background.
+    /// A value that the page shows, or what is known about it, has changed; its own controls show it already.
+    virtual void followValue(Command) {}
+
+    /// Whether what the snapshot holds now is what the controls of this page show.
+    virtual bool showsValues() const { return true; }
+
+    /// Whether controls keep what they show when nothing is known any more, marked as unconfirmed, instead of a dash.
+    virtual bool keepsContents() const { return false; }
+
+    /// From now on, whenever the page is shown, what is in sight is asked for in the background.
     void askWhenShown() { m_asksWhenShown = true; }
 
     void showEvent(QShowEvent *event) override;
 
-    /// Exceptions of a page: what happens before a command's value is sent, after it, and once the monitor has taken
-    /// it or not. A result rule replaces the storing of a moved slider's value.
+    /// Exceptions of a page: what happens before a command's value is sent, and after it.
     void beforeSending(Command command, Rule rule) { m_before[command] = std::move(rule); }
     void afterSending(Command command, Rule rule) { m_after[command] = std::move(rule); }
-    void onResult(Command command, std::function<void(int value, bool ok)> rule)
-    {
-        m_results[command] = std::move(rule);
-    }
 
     /// When the rule says true, an option of the command is not sent and nothing changes; the rule tells the user why.
+    /// It rests on what the monitor has: see monitorHas.
     void refuseWhen(Command command, std::function<bool(int value)> rule) { m_vetoes[command] = std::move(rule); }
+
+    /// Whether the monitor has a value: asks it once, unless it told another one.
+    static bool monitorHas(Command command, int value);
 
     /// Which command a slider's value goes to; nothing to send none. For sliders that serve several commands.
     void chooseCommand(const char *sliderName, std::function<std::optional<Command>()> choose);
@@ -89,7 +101,7 @@ protected:
     /// Sends a command at once, behind whatever a drag has left to send. True when the monitor took it.
     bool send(Command command, int value);
 
-    /// Sets a slider and its known or unknown look, under Updating.
+    /// Sets a slider to what is known of a command, under Updating; one that the user holds is left alone.
     void fillSlider(SliderWidget *slider, Command command);
 
     CommandQueue &queue() { return m_queue; }
@@ -100,7 +112,7 @@ private Q_SLOTS:
     void onOptionClicked(QPushButton *button);
     void onSliderChanged(const QString &name, int value, bool released);
     void onSent(Command command, int value, bool ok);
-    void onAnswered(Command command, int value);
+    void onValueChanged(Command command);
 
 private:
     struct Slider
@@ -120,7 +132,10 @@ private:
     void addOptions(const OptionGroup &group, QVBoxLayout *column);
     void addSliders(const SliderGrid &grid, QVBoxLayout *column);
     SliderWidget *makeSlider(const SliderSpec &spec, int captionWidth);
-    std::set<Command> shownCommands() const;
+    void fillRow(OptionGroupRow *row);
+    void fill(Command command);
+    Mark markOf(Command command);
+    static std::optional<Command> commandOf(const Slider &entry);
     void apply(const std::map<Command, Rule> &rules, Command command, int value) const;
 
     CommandQueue &m_queue;
@@ -132,6 +147,6 @@ private:
     std::vector<Slider> m_sliderEntries;
     std::map<Command, Rule> m_before;
     std::map<Command, Rule> m_after;
-    std::map<Command, std::function<void(int, bool)>> m_results;
     std::map<Command, std::function<bool(int)>> m_vetoes;
+    std::set<Command> m_posted; ///< by this page: what becomes of them is told here
 };

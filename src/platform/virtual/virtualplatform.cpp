@@ -197,6 +197,9 @@ public:
             m_desk.registrations().remove(registration);
     }
 
+    void registerSystem(WId window) override { m_desk.registrations().addSystem(window); }
+    void unregisterSystem(WId window) override { m_desk.registrations().removeSystem(window); }
+
 private:
     VirtualDesk &m_desk;
 };

@@ -2,10 +2,12 @@
 
 #include <bit>
 #include <cstddef>
+#include <utility>
 
 #include <windows.h>
 
 #include <dbt.h>
+#include <wtsapi32.h>
 
 namespace platform {
 
@@ -32,6 +34,13 @@ static_assert(sizeof(DeviceInterfaceBroadcast) == offsetof(DEV_BROADCAST_DEVICEI
 static_assert(offsetof(DeviceInterfaceBroadcast, interfaceClass) ==
               offsetof(DEV_BROADCAST_DEVICEINTERFACE_W, dbcc_classguid));
 
+static_assert(kMessageDisplayChange == WM_DISPLAYCHANGE && kMessagePowerBroadcast == WM_POWERBROADCAST);
+static_assert(kPowerResumeSuspend == PBT_APMRESUMESUSPEND && kPowerResumeAutomatic == PBT_APMRESUMEAUTOMATIC);
+static_assert(kPowerSettingChange == PBT_POWERSETTINGCHANGE && kMessageSessionChange == WM_WTSSESSION_CHANGE);
+static_assert(kSessionUnlock == WTS_SESSION_UNLOCK);
+static_assert(offsetof(PowerSetting, length) == offsetof(POWERBROADCAST_SETTING, DataLength));
+static_assert(offsetof(PowerSetting, value) == offsetof(POWERBROADCAST_SETTING, Data));
+
 static_assert(kMessageDeviceChange == WM_DEVICECHANGE);
 static_assert(kDeviceArrival == DBT_DEVICEARRIVAL);
 static_assert(kDeviceRemoveComplete == DBT_DEVICEREMOVECOMPLETE);
@@ -50,6 +59,21 @@ void Win32DeviceNotifications::unregister(void *registration)
 {
     if (registration)
         UnregisterDeviceNotification(registration);
+}
+
+void Win32DeviceNotifications::registerSystem(WId window)
+{
+    const auto handle = reinterpret_cast<HWND>(window);
+    WTSRegisterSessionNotification(handle, NOTIFY_FOR_THIS_SESSION);
+    const GUID displayState = std::bit_cast<GUID>(kConsoleDisplayState);
+    m_powerSetting = RegisterPowerSettingNotification(handle, &displayState, DEVICE_NOTIFY_WINDOW_HANDLE);
+}
+
+void Win32DeviceNotifications::unregisterSystem(WId window)
+{
+    WTSUnRegisterSessionNotification(reinterpret_cast<HWND>(window));
+    if (m_powerSetting)
+        UnregisterPowerSettingNotification(std::exchange(m_powerSetting, nullptr));
 }
 
 } // namespace platform

@@ -25,12 +25,8 @@ std::string requestName(char kind, std::uint8_t code)
 
 Monitor::Monitor(std::filesystem::path folder) : m_folder(std::move(folder))
 {
-    std::ifstream registers(m_folder / "registers.txt");
-    unsigned code = 0;
+    takeRegisters("registers.txt");
     unsigned value = 0;
-    while (registers >> std::hex >> code >> std::dec >> value)
-        m_registers.at(code) = static_cast<std::uint16_t>(value);
-
     std::ifstream block(m_folder / "block.txt");
     for (std::uint8_t &byte : m_block) {
         if (block >> value)
@@ -38,9 +34,19 @@ Monitor::Monitor(std::filesystem::path folder) : m_folder(std::move(folder))
     }
 }
 
+void Monitor::takeRegisters(const char *file)
+{
+    std::ifstream registers(m_folder / file);
+    unsigned code = 0;
+    unsigned value = 0;
+    while (registers >> std::hex >> code >> std::dec >> value)
+        m_registers.at(code) = static_cast<std::uint16_t>(value);
+}
+
 std::optional<Monitor::Reply> Monitor::read(std::uint8_t code)
 {
     const std::lock_guard lock(m_mutex);
+    takeRegisters("buttons.txt"); // what somebody set at the monitor itself
     const std::string request = requestName('R', code);
     std::optional<Reply> reply;
     if (!refuses(request))

@@ -37,6 +37,7 @@ public:
     void recordHandle(const std::string &line) const { append("handles.txt", line); }
 
 private:
+    void takeRegisters(const char *file);
     /// How far the host is in a command: each begins with the vendor code, a block read goes on after the scene code.
     enum class Step { Idle, AnnouncedRead, AnnouncedWrite, SceneAnswered, InBlock };
 

@@ -1,0 +1,75 @@
+#include "controls/valuemark.h"
+
+#include <QPainter>
+
+namespace {
+
+const QColor kQuiet(0x7b, 0xfa, 0xdb, 0x90);
+const QColor kDim(0xad, 0xad, 0xad);
+const QColor kRefused(0xda, 0x67, 0x6d);
+
+} // namespace
+
+QString markText(Mark mark)
+{
+    switch (mark) {
+    case Mark::None:
+        break;
+    case Mark::Unknown:
+        return QObject::tr("The monitor has not told this value yet.");
+    case Mark::Waiting:
+        return QObject::tr("On its way to the monitor.");
+    case Mark::Unconfirmed:
+        return QObject::tr("The monitor did not confirm this value.");
+    case Mark::Refused:
+        return QObject::tr("The monitor did not take this setting.");
+    }
+    return {};
+}
+
+ValueMark::ValueMark(QWidget *parent) : QWidget(parent)
+{
+    setFixedSize(kSize, kSize);
+    hide();
+}
+
+void ValueMark::setMark(Mark mark)
+{
+    if (mark == m_mark)
+        return;
+    m_mark = mark;
+    setVisible(mark != Mark::None);
+    const QString text = markText(mark);
+    setToolTip(text);
+    setAccessibleName(text);
+    update();
+}
+
+void ValueMark::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QPointF centre = QRectF(rect()).center();
+    constexpr qreal kRadius = 3;
+    switch (m_mark) {
+    case Mark::None:
+        break;
+    case Mark::Unknown:
+        painter.fillRect(QRectF(centre.x() - 4, centre.y() - 0.75, 8, 1.5), kDim);
+        break;
+    case Mark::Waiting:
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(kQuiet);
+        painter.drawEllipse(centre, kRadius, kRadius);
+        break;
+    case Mark::Unconfirmed:
+        painter.setPen(QPen(kDim, 1.5));
+        painter.drawEllipse(centre, kRadius, kRadius);
+        break;
+    case Mark::Refused:
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(kRefused);
+        painter.drawEllipse(centre, kRadius, kRadius);
+        break;
+    }
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <functional>
+
+#include <QObject>
+
+#include "reconcileplan.h"
+
+class CommandQueue;
+class Page;
+class SearchDeviceDlg;
+
+/// Keeps what is in sight true: whatever happens, it has the monitor asked again in the background, without a dialog
+/// and without a write. Decides by planReconciliation. Interface thread only.
+class Reconciler : public QObject
+{
+    Q_OBJECT
+public:
+    /// The page that is in sight; null while nobody can see the window.
+    using PageInSight = std::function<Page *()>;
+
+    Reconciler(CommandQueue &queue, SearchDeviceDlg &session, PageInSight pageInSight, QObject *parent);
+
+    /// Something happened after which what is shown may not hold.
+    void want();
+
+    /// The display set-up changed or the computer woke: handles may be stale.
+    void handlesMayBeStale();
+
+    /// The monitor fell silent, or answers again.
+    void linkChanged();
+
+    /// What can be seen, or what the session does, has changed.
+    void look();
+
+private:
+    void note();
+    void perform(const ReconcileStep &step);
+    void ask();
+    void answered(int unanswered);
+
+    CommandQueue &m_queue;
+    SearchDeviceDlg &m_session;
+    PageInSight m_pageInSight;
+    ReconcileFacts m_facts;
+    int m_looks = 0; ///< a look that was to come later means nothing once another has been taken
+};

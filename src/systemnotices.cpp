@@ -1,0 +1,41 @@
+#include "systemnotices.h"
+
+namespace {
+
+constexpr std::uint32_t kDisplayOn = 1;
+
+bool isDisplaySwitchedOn(const platform::PowerSetting *setting)
+{
+    return setting && setting->setting == platform::kConsoleDisplayState && setting->length >= sizeof(setting->value) &&
+           setting->value == kDisplayOn;
+}
+
+std::optional<SystemNotice> powerNotice(const platform::NativeMessage &message)
+{
+    switch (message.wParam) {
+    case platform::kPowerResumeAutomatic:
+    case platform::kPowerResumeSuspend:
+        return SystemNotice::Woke;
+    case platform::kPowerSettingChange:
+        if (isDisplaySwitchedOn(reinterpret_cast<const platform::PowerSetting *>(message.lParam)))
+            return SystemNotice::DisplayOn;
+        break;
+    }
+    return {};
+}
+
+} // namespace
+
+std::optional<SystemNotice> systemNoticeOf(const platform::NativeMessage &message)
+{
+    switch (message.message) {
+    case platform::kMessagePowerBroadcast:
+        return powerNotice(message);
+    case platform::kMessageDisplayChange:
+        return SystemNotice::DisplaysChanged;
+    case platform::kMessageSessionChange:
+        return message.wParam == platform::kSessionUnlock ? std::optional(SystemNotice::Unlocked) : std::nullopt;
+    default:
+        return {};
+    }
+}

@@ -1,0 +1,157 @@
+#include <random>
+
+#include <QPushButton>
+#include <QtTest>
+
+#include "following/followlist.h"
+#include "page/engine/settingspage.h"
+#include "platform/nativemessage.h"
+#include "shortcut/shortcutlist.h"
+#include "support/truthfixture.h"
+
+using namespace std::chrono_literals;
+
+namespace {
+
+unsigned number(const char *variable, unsigned otherwise)
+{
+    return qEnvironmentVariableIsSet(variable) ? qEnvironmentVariable(variable).toUInt() : otherwise;
+}
+
+} // namespace
+
+/// A random walk of use and misuse, after each step of which the window is compared with the monitor. QUORVEL_SEED
+/// replays one, QUORVEL_STEPS makes it longer, QUORVEL_TRACE tells every step with its requests.
+class TestTruthWalk : public TruthFixture
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void randomWalk();
+
+private:
+    void step(std::mt19937 &random);
+    void recoverAll();
+    void osdChange(std::mt19937 &random);
+
+    bool m_plugged = true;
+    QString m_step; ///< what the walk did last, for whoever has to find out
+};
+
+void TestTruthWalk::osdChange(std::mt19937 &random)
+{
+    constexpr std::uint8_t kCodes[] = {0x10, 0x12, 0x41, 0xC1, 0xF6};
+    const auto pick = random() % (std::size(kCodes) + 1);
+    if (pick == std::size(kCodes))
+        return inUse().setValue(0x22, static_cast<std::uint16_t>(1 + random() % 20));
+    inUse().setValue(kCodes[pick], static_cast<std::uint16_t>(random() % 6));
+}
+
+void TestTruthWalk::step(std::mt19937 &random)
+{
+    constexpr std::pair<int, const char *> kPages[] = {{0, "Standard Mode"},   {0, "Night Mode"},
+                                                       {5, "Picture Enhance"}, {8, "System Settings"},
+                                                       {8, "I/O Settings"},    {4, "Ruler"}};
+    virtualdesk::SimulatedMonitor &monitor = inUse();
+    const auto kind = random() % 15;
+    m_step = QString::number(kind);
+    switch (kind) {
+    case 0: {
+        const auto &[family, label] = kPages[random() % std::size(kPages)];
+        m_step += QLatin1Char(' ') + QLatin1String(label);
+        return openPage(family, label);
+    }
+    case 1:
+    case 2: {
+        const auto buttons = m_window->findChildren<OptionGroupRow *>();
+        const OptionGroupRow *row = buttons[static_cast<int>(random() % static_cast<unsigned>(buttons.size()))];
+        QPushButton *button = row->buttons()[random() % row->buttons().size()];
+        m_step += QLatin1Char(' ') + button->objectName();
+        if (button->isVisible() && row->group().command != Command{})
+            QTest::mouseClick(button, Qt::LeftButton);
+        return;
+    }
+    case 3:
+    case 4: {
+        const auto sliders = m_window->findChildren<SliderWidget *>();
+        SliderWidget *slider = sliders[static_cast<int>(random() % static_cast<unsigned>(sliders.size()))];
+        if (!slider->isVisible() || !slider->isEnabled())
+            return;
+        slider->slider()->setSliderDown(true);
+        slider->slider()->setSliderPosition(static_cast<int>(random() % 6));
+        return slider->slider()->setSliderDown(false);
+    }
+    case 5:
+        m_desk->clock.advance(200ms);
+        m_desk->desk.pressKey(platform::kModifierControl, "BNG"[random() % 3]);
+        return;
+    case 6:
+        return m_desk->desk.applications().bringToFront(static_cast<int>(random() % 3));
+    case 7:
+        return QTest::mouseClick(half(random() % 2 != 0), Qt::LeftButton);
+    case 8:
+        osdChange(random);
+        return m_desk->desk.registrations().tellSystem(platform::kMessageSessionChange, platform::kSessionUnlock);
+    case 9:
+        m_plugged = !m_plugged;
+        return m_plugged ? m_desk->desk.plug(0) : m_desk->desk.unplug(0);
+    case 10:
+        return monitor.refuseWrites(static_cast<int>(random() % 5));
+    case 11:
+        return monitor.loseReplies(static_cast<int>(random() % 4));
+    case 12:
+        return monitor.goDeaf(static_cast<int>(random() % 30));
+    case 13:
+        if (random() % 4 == 0)
+            return m_desk->desk.sleep();
+        return m_desk->desk.wake();
+    case 14:
+        m_window->systemNoticed(SystemNotice(random() % 4));
+        return m_desk->clock.advance(std::chrono::milliseconds(random() % 3000));
+    }
+}
+
+void TestTruthWalk::randomWalk()
+{
+    const unsigned seed = number("QUORVEL_SEED", 1);
+    const unsigned steps = number("QUORVEL_STEPS", 2000);
+    std::mt19937 random(seed);
+    start(10, 0, [] {
+        saveFollowList({{QStringLiteral("D:/Games/Night Race/NightRace.exe"), 6}});
+        saveShortcuts({true,
+                       {{6, true, {}, QStringLiteral("Ctrl+N")},
+                        {12, true, QStringLiteral("Ctrl+B"), {}},
+                        {16, true, QStringLiteral("Ctrl+G"), {}}}});
+    });
+    for (unsigned i = 0; i < steps; ++i) {
+        step(random);
+        settle();
+        const bool isRest = i % 10 == 9; // everything is well again, and the computer wakes
+        if (isRest)
+            recoverAll();
+        if (status().endsWith("connected") && !lies().isEmpty()) {
+            pass(3s); // so long it may take
+        }
+        const QByteArray where =
+            QStringLiteral("QUORVEL_SEED=%1, step %2 (%3): ").arg(seed).arg(i).arg(m_step).toUtf8();
+        if (qEnvironmentVariableIsSet("QUORVEL_TRACE"))
+            QTextStream(stderr)
+                << where << (m_desk->takeRequests() + QStringList("|") + m_desk->takeRequests(1)).join(QLatin1Char(32))
+                << status() << " mode " << deviceState.value(Command::SceneMode) << ' '
+                << int(deviceState.state(Command::SceneMode)) << ' ' << m_desk->monitor().value(0x22) << Qt::endl;
+        QVERIFY2(lies().isEmpty() || !status().endsWith("connected"), (where + lies().join("; ").toUtf8()).constData());
+        QVERIFY2(!isRest || status().endsWith("connected"), (where + status().toUtf8()).constData());
+    }
+}
+
+void TestTruthWalk::recoverAll()
+{
+    if (!std::exchange(m_plugged, true))
+        m_desk->desk.plug(0);
+    for (const std::size_t each : {0, 1})
+        m_desk->monitor(each).recover();
+    m_desk->desk.wake();
+    pass(5s); // of which the monitors take two to wake
+}
+
+QTEST_MAIN(TestTruthWalk)
+#include "tst_truthwalk.moc"
