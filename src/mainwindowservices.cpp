@@ -88,10 +88,11 @@ void MainWindow::createReconciler()
         *m_queue, m_session, [this] { return pageInSight(); }, this);
     connect(&m_queue->values(), &ValueWatch::changed, this, &MainWindow::followValue);
     setLinkObserver([this] {
-        QMetaObject::invokeMethod(this, [this] {
+        const auto follow = [this] {
             updateInterface();
             m_reconciler->linkChanged();
-        });
+        };
+        QMetaObject::invokeMethod(this, follow, Qt::QueuedConnection); // within a request nothing new may begin
     });
 }
 
