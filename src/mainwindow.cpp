@@ -161,6 +161,8 @@ void MainWindow::addPage(PageId id, Page *page)
 {
     m_pageOf[id] = page;
     m_pages->addWidget(page->widget());
+    if (const SettingsPage *settings = settingsPage(id))
+        connect(settings, &SettingsPage::settingWanted, this, &MainWindow::showSetting);
 }
 
 Page *MainWindow::page(PageId id) const

@@ -123,6 +123,9 @@ private:
     void setAccessoryBusy(bool busy);
     void enableAccessoryEntries();
     void enableEverything(bool enabled);
+    void explainEntries();
+    const char *lockOf(int family, int entry) const;
+    void showSetting(Command command);
     void endAccessoryWork();
     void endWithSession();
     void checkMonitor();

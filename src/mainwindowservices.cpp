@@ -46,6 +46,7 @@ void MainWindow::updateControlText()
     m_tabs->updateControlText();
     for (LeftBar *bar : m_bars)
         bar->updateControlText();
+    explainEntries();
     for (const auto &[id, page] : m_pageOf)
         page->updateControlText();
     m_emptyPage->updateControlText();
@@ -181,6 +182,7 @@ void MainWindow::setInterfaceMode(int code)
     else if (code == kBusy || code == kBusyEnded)
         setAccessoryBusy(code == kBusy);
     enableAccessoryEntries(); // a scene may change while the accessory's work goes on
+    explainEntries();
 }
 
 void MainWindow::enableEverything(bool enabled)

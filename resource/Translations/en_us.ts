@@ -608,6 +608,10 @@
         <translation>E-Book Mode</translation>
     </message>
     <message>
+        <source>E-Book Mode is black and white: colours need another scene mode.</source>
+        <translation>E-Book Mode is black and white: colours need another scene mode.</translation>
+    </message>
+    <message>
         <source>EBU</source>
         <translation>EBU</translation>
     </message>
@@ -1004,8 +1008,16 @@
         <translation>MPCS/LD</translation>
     </message>
     <message>
+        <source>MPCS/LD leaves no room for the Ull levels; they need another scene mode.</source>
+        <translation>MPCS/LD leaves no room for the Ull levels; they need another scene mode.</translation>
+    </message>
+    <message>
         <source>MPCS/ULL FPS</source>
         <translation>MPCS/ULL FPS</translation>
+    </message>
+    <message>
+        <source>MPCS/ULL FPS offers the Ull levels only; the others need another scene mode.</source>
+        <translation>MPCS/ULL FPS offers the Ull levels only; the others need another scene mode.</translation>
     </message>
     <message>
         <source>Mac View</source>
@@ -1424,6 +1436,10 @@
         <translation>Rectangular form</translation>
     </message>
     <message>
+        <source>Red, green and blue belong to User1, User2 and User3 of Color Temperature.</source>
+        <translation>Red, green and blue belong to User1, User2 and User3 of Color Temperature.</translation>
+    </message>
+    <message>
         <source>Redo</source>
         <translation>Redo</translation>
     </message>
@@ -1482,6 +1498,10 @@
     <message>
         <source>Saturation R Y G C B M</source>
         <translation>Saturation R Y G C B M</translation>
+    </message>
+    <message>
+        <source>Saturation follows Color Enchance while that is above 0.</source>
+        <translation>Saturation follows Color Enchance while that is above 0.</translation>
     </message>
     <message>
         <source>Save</source>
@@ -1652,6 +1672,10 @@
         <translation>Switch on</translation>
     </message>
     <message>
+        <source>Switch this row on to change its keys.</source>
+        <translation>Switch this row on to change its keys.</translation>
+    </message>
+    <message>
         <source>System Settings</source>
         <translation>System Settings</translation>
     </message>
@@ -1686,6 +1710,10 @@
     <message>
         <source>The accessory did not take everything.</source>
         <translation>The accessory did not take everything.</translation>
+    </message>
+    <message>
+        <source>The accessory is at work: wait until it has finished, or cancel the work on its page.</source>
+        <translation>The accessory is at work: wait until it has finished, or cancel the work on its page.</translation>
     </message>
     <message>
         <source>The accessory is the model with 25 rows of 42 cells</source>
@@ -1782,6 +1810,10 @@
     <message>
         <source>The monitor has not told this value yet.</source>
         <translation>The monitor has not told this value yet.</translation>
+    </message>
+    <message>
+        <source>The monitor is changing its scene mode.</source>
+        <translation>The monitor is changing its scene mode.</translation>
     </message>
     <message>
         <source>The monitor takes no value until the button is released</source>
@@ -1886,6 +1918,14 @@
     <message>
         <source>This function has its row already.</source>
         <translation>This function has its row already.</translation>
+    </message>
+    <message>
+        <source>This monitor does not have these functions.</source>
+        <translation>This monitor does not have these functions.</translation>
+    </message>
+    <message>
+        <source>This slider counts while Color Temperature is Night View C.T.</source>
+        <translation>This slider counts while Color Temperature is Night View C.T.</translation>
     </message>
     <message>
         <source>Time to rest your eyes for a while.</source>

@@ -608,6 +608,10 @@
         <translation>電子書籍モード</translation>
     </message>
     <message>
+        <source>E-Book Mode is black and white: colours need another scene mode.</source>
+        <translation>電子書籍モードは白黒表示です。色を調整するには別のシーンモードを選んでください。</translation>
+    </message>
+    <message>
         <source>EBU</source>
         <translation>EBU</translation>
     </message>
@@ -1004,8 +1008,16 @@
         <translation>MPCS/LD</translation>
     </message>
     <message>
+        <source>MPCS/LD leaves no room for the Ull levels; they need another scene mode.</source>
+        <translation>MPCS/LD では Ull レベルを使えません。別のシーンモードを選んでください。</translation>
+    </message>
+    <message>
         <source>MPCS/ULL FPS</source>
         <translation>MPCS/ULL FPS</translation>
+    </message>
+    <message>
+        <source>MPCS/ULL FPS offers the Ull levels only; the others need another scene mode.</source>
+        <translation>MPCS/ULL FPS で選べるのは Ull レベルだけです。ほかのレベルには別のシーンモードが必要です。</translation>
     </message>
     <message>
         <source>Mac View</source>
@@ -1424,6 +1436,10 @@
         <translation>長方形タイプ</translation>
     </message>
     <message>
+        <source>Red, green and blue belong to User1, User2 and User3 of Color Temperature.</source>
+        <translation>赤・緑・青は、色温がユーザー 1～3 のときに調整できます。</translation>
+    </message>
+    <message>
         <source>Redo</source>
         <translation>やり直す</translation>
     </message>
@@ -1482,6 +1498,10 @@
     <message>
         <source>Saturation R Y G C B M</source>
         <translation>彩度 R Y G C B M</translation>
+    </message>
+    <message>
+        <source>Saturation follows Color Enchance while that is above 0.</source>
+        <translation>色彩強調が 0 より大きい間、彩度はそれに従います。</translation>
     </message>
     <message>
         <source>Save</source>
@@ -1652,6 +1672,10 @@
         <translation>オンにする</translation>
     </message>
     <message>
+        <source>Switch this row on to change its keys.</source>
+        <translation>キーを変えるには、この行をオンにしてください。</translation>
+    </message>
+    <message>
         <source>System Settings</source>
         <translation>システム設定</translation>
     </message>
@@ -1686,6 +1710,10 @@
     <message>
         <source>The accessory did not take everything.</source>
         <translation>アクセサリがすべてのデータを受け取れませんでした。</translation>
+    </message>
+    <message>
+        <source>The accessory is at work: wait until it has finished, or cancel the work on its page.</source>
+        <translation>アクセサリーは作業中です。終わるまで待つか、そのページで取り消してください。</translation>
     </message>
     <message>
         <source>The accessory is the model with 25 rows of 42 cells</source>
@@ -1782,6 +1810,10 @@
     <message>
         <source>The monitor has not told this value yet.</source>
         <translation>モニターからこの値をまだ受け取っていません。</translation>
+    </message>
+    <message>
+        <source>The monitor is changing its scene mode.</source>
+        <translation>モニターがシーンモードを切り替えています。</translation>
     </message>
     <message>
         <source>The monitor takes no value until the button is released</source>
@@ -1886,6 +1918,14 @@
     <message>
         <source>This function has its row already.</source>
         <translation>この機能は既にリストにあります。</translation>
+    </message>
+    <message>
+        <source>This monitor does not have these functions.</source>
+        <translation>このモニターにはこれらの機能がありません。</translation>
+    </message>
+    <message>
+        <source>This slider counts while Color Temperature is Night View C.T.</source>
+        <translation>このスライダーは、色温が「夜間色温」のときに働きます。</translation>
     </message>
     <message>
         <source>Time to rest your eyes for a while.</source>

@@ -608,6 +608,10 @@
         <translation>电子书模式</translation>
     </message>
     <message>
+        <source>E-Book Mode is black and white: colours need another scene mode.</source>
+        <translation>电子书模式为黑白显示：要调整色彩，请换用其他情景模式。</translation>
+    </message>
+    <message>
         <source>EBU</source>
         <translation>EBU</translation>
     </message>
@@ -1004,8 +1008,16 @@
         <translation>MPCS/LD</translation>
     </message>
     <message>
+        <source>MPCS/LD leaves no room for the Ull levels; they need another scene mode.</source>
+        <translation>MPCS/LD 模式下不能使用 Ull 等级，请换用其他情景模式。</translation>
+    </message>
+    <message>
         <source>MPCS/ULL FPS</source>
         <translation>MPCS/ULL FPS</translation>
+    </message>
+    <message>
+        <source>MPCS/ULL FPS offers the Ull levels only; the others need another scene mode.</source>
+        <translation>MPCS/ULL FPS 模式只提供 Ull 等级，其他等级请换用其他情景模式。</translation>
     </message>
     <message>
         <source>Mac View</source>
@@ -1424,6 +1436,10 @@
         <translation>矩形款</translation>
     </message>
     <message>
+        <source>Red, green and blue belong to User1, User2 and User3 of Color Temperature.</source>
+        <translation>红、绿、蓝只用于色温的“用户 1”“用户 2”“用户 3”。</translation>
+    </message>
+    <message>
         <source>Redo</source>
         <translation>重做</translation>
     </message>
@@ -1482,6 +1498,10 @@
     <message>
         <source>Saturation R Y G C B M</source>
         <translation>饱和度 R Y G C B M</translation>
+    </message>
+    <message>
+        <source>Saturation follows Color Enchance while that is above 0.</source>
+        <translation>色彩增强大于 0 时，饱和度由它决定。</translation>
     </message>
     <message>
         <source>Save</source>
@@ -1652,6 +1672,10 @@
         <translation>打开</translation>
     </message>
     <message>
+        <source>Switch this row on to change its keys.</source>
+        <translation>打开这一行的开关后才能更改按键。</translation>
+    </message>
+    <message>
         <source>System Settings</source>
         <translation>系统设置</translation>
     </message>
@@ -1686,6 +1710,10 @@
     <message>
         <source>The accessory did not take everything.</source>
         <translation>配件没有接收全部数据。</translation>
+    </message>
+    <message>
+        <source>The accessory is at work: wait until it has finished, or cancel the work on its page.</source>
+        <translation>配件正在工作：请等它完成，或在它的页面上取消。</translation>
     </message>
     <message>
         <source>The accessory is the model with 25 rows of 42 cells</source>
@@ -1782,6 +1810,10 @@
     <message>
         <source>The monitor has not told this value yet.</source>
         <translation>显示器尚未告知此值。</translation>
+    </message>
+    <message>
+        <source>The monitor is changing its scene mode.</source>
+        <translation>显示器正在切换情景模式。</translation>
     </message>
     <message>
         <source>The monitor takes no value until the button is released</source>
@@ -1886,6 +1918,14 @@
     <message>
         <source>This function has its row already.</source>
         <translation>该功能已在列表中。</translation>
+    </message>
+    <message>
+        <source>This monitor does not have these functions.</source>
+        <translation>此显示器没有这些功能。</translation>
+    </message>
+    <message>
+        <source>This slider counts while Color Temperature is Night View C.T.</source>
+        <translation>色温选为“夜间色温”时，此滑块才起作用。</translation>
     </message>
     <message>
         <source>Time to rest your eyes for a while.</source>

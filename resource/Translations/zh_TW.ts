@@ -608,6 +608,10 @@
         <translation>電子書模式</translation>
     </message>
     <message>
+        <source>E-Book Mode is black and white: colours need another scene mode.</source>
+        <translation>電子書模式為黑白顯示：要調整色彩，請換用其他情境模式。</translation>
+    </message>
+    <message>
         <source>EBU</source>
         <translation>EBU</translation>
     </message>
@@ -1004,8 +1008,16 @@
         <translation>MPCS/LD</translation>
     </message>
     <message>
+        <source>MPCS/LD leaves no room for the Ull levels; they need another scene mode.</source>
+        <translation>MPCS/LD 模式下無法使用 Ull 等級，請換用其他情境模式。</translation>
+    </message>
+    <message>
         <source>MPCS/ULL FPS</source>
         <translation>MPCS/ULL FPS</translation>
+    </message>
+    <message>
+        <source>MPCS/ULL FPS offers the Ull levels only; the others need another scene mode.</source>
+        <translation>MPCS/ULL FPS 模式只提供 Ull 等級，其他等級請換用其他情境模式。</translation>
     </message>
     <message>
         <source>Mac View</source>
@@ -1424,6 +1436,10 @@
         <translation>矩形款</translation>
     </message>
     <message>
+        <source>Red, green and blue belong to User1, User2 and User3 of Color Temperature.</source>
+        <translation>紅、綠、藍只用於色溫的「使用者 1」「使用者 2」「使用者 3」。</translation>
+    </message>
+    <message>
         <source>Redo</source>
         <translation>重做</translation>
     </message>
@@ -1482,6 +1498,10 @@
     <message>
         <source>Saturation R Y G C B M</source>
         <translation>飽和度 R Y G C B M</translation>
+    </message>
+    <message>
+        <source>Saturation follows Color Enchance while that is above 0.</source>
+        <translation>色彩增強大於 0 時，飽和度由它決定。</translation>
     </message>
     <message>
         <source>Save</source>
@@ -1652,6 +1672,10 @@
         <translation>開啟</translation>
     </message>
     <message>
+        <source>Switch this row on to change its keys.</source>
+        <translation>開啟這一列的開關後才能變更按鍵。</translation>
+    </message>
+    <message>
         <source>System Settings</source>
         <translation>系統設定</translation>
     </message>
@@ -1686,6 +1710,10 @@
     <message>
         <source>The accessory did not take everything.</source>
         <translation>配件沒有接收全部資料。</translation>
+    </message>
+    <message>
+        <source>The accessory is at work: wait until it has finished, or cancel the work on its page.</source>
+        <translation>配件正在工作：請等它完成，或在它的頁面上取消。</translation>
     </message>
     <message>
         <source>The accessory is the model with 25 rows of 42 cells</source>
@@ -1782,6 +1810,10 @@
     <message>
         <source>The monitor has not told this value yet.</source>
         <translation>顯示器尚未告知此值。</translation>
+    </message>
+    <message>
+        <source>The monitor is changing its scene mode.</source>
+        <translation>顯示器正在切換情境模式。</translation>
     </message>
     <message>
         <source>The monitor takes no value until the button is released</source>
@@ -1886,6 +1918,14 @@
     <message>
         <source>This function has its row already.</source>
         <translation>該功能已在清單中。</translation>
+    </message>
+    <message>
+        <source>This monitor does not have these functions.</source>
+        <translation>此顯示器沒有這些功能。</translation>
+    </message>
+    <message>
+        <source>This slider counts while Color Temperature is Night View C.T.</source>
+        <translation>色溫選為「夜間色溫」時，此滑桿才有作用。</translation>
     </message>
     <message>
         <source>Time to rest your eyes for a while.</source>

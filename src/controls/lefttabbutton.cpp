@@ -42,6 +42,12 @@ void LeftTabButton::setSelectable(bool selectable)
     update();
 }
 
+void LeftTabButton::setLock(const QString &reason)
+{
+    setToolTip(reason);
+    setAccessibleDescription(reason);
+}
+
 void LeftTabButton::setCaption(const QString &caption)
 {
     m_caption.setText(caption);

@@ -21,6 +21,9 @@ public:
     /// Whether the button is enabled for selection (true at first). The checked state stays as it is.
     void setSelectable(bool selectable);
 
+    /// Why it cannot be used now, for tooltip and assistive software; empty when it can.
+    void setLock(const QString &reason);
+
     QString caption() const { return m_caption.text(); }
     /// Sets the caption, which is the accessible name too.
     void setCaption(const QString &caption);

@@ -26,7 +26,8 @@ public:
     bool isHovered() const { return m_hovered; }
 
 protected:
-    /// The caption whose whole text is shown as a tooltip when it was elided; null for controls without one.
+    /// The caption whose whole text is shown when it was elided, unless there is a tooltip; null for controls without
+    /// one.
     virtual const Caption *shownCaption() const { return nullptr; }
 
     /// A press of the left button at @p position; controls that care where it fell override this.
@@ -52,7 +53,8 @@ protected:
             setHovered(false);
             break;
         case QEvent::ToolTip:
-            if (shownCaption() && shownCaption()->showToolTip(static_cast<QHelpEvent *>(event), this))
+            if (Base::toolTip().isEmpty() && shownCaption() &&
+                shownCaption()->showToolTip(static_cast<QHelpEvent *>(event), this))
                 return true;
             break;
         default:

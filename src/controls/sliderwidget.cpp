@@ -82,8 +82,22 @@ void SliderWidget::setMark(Mark mark)
     if (mark == Mark::Unknown)
         setUnknown(true);
     m_mark->setMark(mark == Mark::Unknown ? Mark::None : mark);
-    m_slider->setAccessibleDescription(markText(mark));
-    setToolTip(markText(mark));
+    describe();
+}
+
+void SliderWidget::setLock(const QString &reason)
+{
+    m_lock = reason;
+    setEnabled(reason.isEmpty());
+    describe();
+}
+
+/// Why it cannot be used matters more than what is known about its value.
+void SliderWidget::describe()
+{
+    const QString text = m_lock.isEmpty() ? markText(mark()) : m_lock;
+    m_slider->setAccessibleDescription(text);
+    setToolTip(text);
 }
 
 void SliderWidget::onValueChanged(int value)

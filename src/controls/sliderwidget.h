@@ -45,6 +45,9 @@ public:
     void setMark(Mark mark);
     Mark mark() const { return m_mark->mark(); }
 
+    /// Disables the control while there is a reason, which it then says; empty enables it.
+    void setLock(const QString &reason);
+
     NoWheelSlider *slider() const { return m_slider; }
     CaptionLabel *captionLabel() const { return m_captionLabel; }
     QLabel *valueLabel() const { return m_valueLabel; }
@@ -60,9 +63,11 @@ Q_SIGNALS:
 
 private:
     void showValue();
+    void describe();
 
     CaptionLabel *m_captionLabel;
     NoWheelSlider *m_slider;
     QLabel *m_valueLabel;
     ValueMark *m_mark;
+    QString m_lock; ///< why it is disabled
 };

@@ -96,14 +96,3 @@ std::optional<SceneFamily> familyOfSceneValue(int value)
     }
     return {};
 }
-
-bool motionOptionAllowed(int option, int scene)
-{
-    constexpr int kLow = 3;
-    constexpr int kHigh = 5;
-    if (scene == kMpcsLdCustom)
-        return option <= kHigh;
-    if (scene == kMpcsFpsCustom)
-        return option < kLow || option > kHigh;
-    return true;
-}

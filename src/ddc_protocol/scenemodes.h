@@ -36,6 +36,3 @@ std::optional<SceneFamily> familyOfSceneValue(int value);
 /// The custom halves of the two modes that limit the motion function.
 inline constexpr int kMpcsFpsCustom = 26; ///< motion at its sharpest: no local dimming
 inline constexpr int kMpcsLdCustom = 28;  ///< motion together with local dimming
-
-/// Whether an option of the motion function, 2 to 8, can be chosen in a scene mode.
-bool motionOptionAllowed(int option, int scene);

@@ -105,6 +105,7 @@ void ShortcutRow::refresh()
     dressSwitch(m_switch, m_entry.isOn);
     for (const Side &side : m_sides)
         side.edit->setEnabled(m_entry.isOn);
+    explainFields();
     takeFields(); // a stored text that is no key is none
 }
 
@@ -142,17 +143,25 @@ void ShortcutRow::showProblems()
                            .arg(taken.join(QStringLiteral(", "))));
 }
 
+/// What a key does, and why it cannot be changed while its row is off.
+void ShortcutRow::explainFields()
+{
+    const KeyMeaning meaning = meaningOf(shortcutFunctions()[static_cast<std::size_t>(m_entry.function)]);
+    const QString lock = m_entry.isOn ? QString() : QObject::tr("Switch this row on to change its keys.");
+    for (const auto &[edit, text] : {std::pair(plusEdit(), meaning.plus), {minusEdit(), meaning.minus}}) {
+        edit->setToolTip(lock.isEmpty() ? text : lock);
+        edit->setAccessibleName(QStringLiteral("%1: %2").arg(m_name->text(), text));
+        edit->setAccessibleDescription(lock);
+    }
+}
+
 void ShortcutRow::updateControlText()
 {
     const ShortcutFunction &function = shortcutFunctions()[static_cast<std::size_t>(m_entry.function)];
     const QString name = QObject::tr(function.name);
-    const KeyMeaning meaning = meaningOf(function);
     m_name->setText(name);
     m_switch->setAccessibleName(name);
-    plusEdit()->setToolTip(meaning.plus);
-    minusEdit()->setToolTip(meaning.minus);
-    plusEdit()->setAccessibleName(QStringLiteral("%1: %2").arg(name, meaning.plus));
-    minusEdit()->setAccessibleName(QStringLiteral("%1: %2").arg(name, meaning.minus));
+    explainFields();
     m_trash->setToolTip(QObject::tr("Delete"));
     m_trash->setAccessibleName(QStringLiteral("%1: %2").arg(name, m_trash->toolTip()));
     dressSwitch(m_switch, m_entry.isOn);

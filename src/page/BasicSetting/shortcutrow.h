@@ -67,6 +67,7 @@ private:
     void layOut();
     void registerSide(Side &side, bool wanted);
     void showProblems();
+    void explainFields();
 
     ShortcutEntry m_entry;
     std::array<Side, 2> m_sides; ///< by direction

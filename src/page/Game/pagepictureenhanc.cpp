@@ -2,13 +2,13 @@
 
 #include <QDebug>
 
-#include "ddc_protocol/scenemodes.h"
 #include "page/Game/picturetable.h"
-#include "page/engine/optiongrouprow.h"
+#include "page/engine/lockrules.h"
 
 pagePictureEnhanc::pagePictureEnhanc(CommandQueue &queue, QWidget *parent)
     : PanelPage(QStringLiteral("pagePictureEnhanc"), OwnList::Shown, queue, parent)
 {
+    setLocks(motionLocks());
     buildPanels(picturePanels(deviceState));
 }
 
@@ -26,27 +26,4 @@ void pagePictureEnhanc::updateControlText()
     if (static_cast<int>(entries().size()) != panelCount())
         qDebug() << "buttonLeftText-size != buttonList-size";
     PanelPage::updateControlText();
-}
-
-void pagePictureEnhanc::updateInterfaceData()
-{
-    PanelPage::updateInterfaceData();
-    allowMotionOptions();
-}
-
-void pagePictureEnhanc::followValue(Command command)
-{
-    if (command == Command::SceneMode)
-        allowMotionOptions();
-}
-
-void pagePictureEnhanc::allowMotionOptions()
-{
-    const int scene = deviceState.value(Command::SceneMode);
-    for (OptionGroupRow *row : optionGroups()) {
-        if (row->group().command != Command::MotionTech || row->group().look == GroupLook::Switch)
-            continue;
-        for (const Option &option : row->group().options)
-            row->buttonOf(option.value)->setEnabled(motionOptionAllowed(option.value, scene));
-    }
 }

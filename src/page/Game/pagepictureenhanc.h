@@ -9,13 +9,8 @@ class pagePictureEnhanc : public PanelPage
 public:
     explicit pagePictureEnhanc(CommandQueue &queue, QWidget *parent = nullptr);
 
-    void updateInterfaceData() override;
     void updateControlText() override;
 
 protected:
     bool mayShow(const PanelSpec &panel) override;
-    void followValue(Command command) override;
-
-private:
-    void allowMotionOptions();
 };

@@ -11,6 +11,7 @@
 #include "controls/sharedfonts.h"
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/scenemodes.h"
+#include "page/Scene/scenelocks.h"
 #include "page/Scene/scenetable.h"
 #include "page/Scene/workthread.h"
 #include "page/engine/halfbutton.h"
@@ -100,6 +101,7 @@ QWidget *pageSceneSetting::buildCustomArea()
     auto *column = new QVBoxLayout(m_customArea);
     column->setContentsMargins(0, 0, 16, 0);
     column->setSpacing(18);
+    setLocks(sceneLocks());
     buildSections(sceneSections(), column);
     column->addStretch(1);
 
@@ -114,8 +116,7 @@ QWidget *pageSceneSetting::buildCustomArea()
 
 void pageSceneSetting::addRules()
 {
-    beforeSending(Command::ColorTemperature, [this](int value) { followColorTemperature(value); });
-    afterSending(Command::ColorEnhance, [this](int) { enableSaturation(); });
+    beforeSending(Command::ColorTemperature, [this](int value) { fillUserColours(value); });
     for (int channel = 0; channel < 3; ++channel) {
         chooseCommand(kUserColourSliders[channel], [this, channel]() -> std::optional<Command> {
             if (m_userColourSlot == 0)
@@ -234,8 +235,7 @@ void pageSceneSetting::followValue(Command command)
     }
     const bool isColour = command == Command::ColorTemperature || command == Command::User1Red;
     if (showsValues() && isColour && deviceState.isKnown(Command::ColorTemperature))
-        followColorTemperature(deviceState.value(Command::ColorTemperature));
-    enableSaturation();
+        fillUserColours(deviceState.value(Command::ColorTemperature));
 }
 
 void pageSceneSetting::updateInterfaceData()

@@ -61,11 +61,7 @@ private:
     void fillCustomArea();
     void showTitle();
 
-    void followColorTemperature(int value);
-    void enableTemperatureSliders(int value);
-    void fillUserColours(int value);
-    void enableForScene();
-    void enableSaturation();
+    void fillUserColours(int temperature);
 
     WorkThread *m_worker;
     QLabel *m_title = nullptr;

@@ -1,7 +1,5 @@
 #include "page/Scene/scenetable.h"
 
-#include <QString>
-
 #include "page/engine/commonoptions.h"
 
 namespace {
@@ -86,12 +84,8 @@ std::span<const Section> sceneSections()
     return kSections;
 }
 
-bool isHueSlider(const QString &name)
+int userSlot(int temperature)
 {
-    return name.startsWith(QLatin1String("Hue_"));
-}
-
-bool isSaturationSlider(const QString &name)
-{
-    return name.startsWith(QLatin1String("Saturation_"));
+    const int slot = temperature - kFirstUserTemperature + 1;
+    return slot >= 1 && slot <= 3 ? slot : 0;
 }

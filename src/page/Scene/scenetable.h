@@ -2,8 +2,6 @@
 
 #include <span>
 
-#include <QString>
-
 #include "page/engine/pagetable.h"
 
 /// The custom half of the scene-mode page, section by section.
@@ -24,6 +22,5 @@ inline constexpr Command kUserColours[3][3] = {
 inline constexpr int kNightViewTemperature = 7;
 inline constexpr int kFirstUserTemperature = 8; ///< "User1"; 9 and 10 are the other two
 
-/// Whether a slider is one of the six hues or six saturations.
-bool isHueSlider(const QString &name);
-bool isSaturationSlider(const QString &name);
+/// Which user preset, 1 to 3, a colour-temperature option is; 0 for the others.
+int userSlot(int temperature);

@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "controls/captionlabel.h"
+#include "controls/locksign.h"
 #include "page/engine/boundtexts.h"
 #include "page/engine/flowlayout.h"
 #include "page/engine/halfbutton.h"
@@ -65,7 +66,7 @@ void dressOptionButton(QPushButton *button)
 
 OptionGroupRow::OptionGroupRow(const OptionGroup &group, BoundTexts &texts, QWidget *parent)
     : QWidget(parent), m_group(group), m_caption(new CaptionLabel(QString(), kCaptionPixels, this)),
-      m_exclusive(new QButtonGroup(this)), m_mark(new ValueMark(this))
+      m_exclusive(new QButtonGroup(this)), m_mark(new ValueMark(this)), m_sign(new LockSign(this))
 {
     m_caption->setFixedSize(kCaptionWidth, group.look == GroupLook::Switch ? kHalfHeight : kButtonHeight);
     texts.bind(group.label, [this](const QString &text) { m_caption->setText(text); });
@@ -94,6 +95,8 @@ OptionGroupRow::OptionGroupRow(const OptionGroup &group, BoundTexts &texts, QWid
     markPolicy.setRetainSizeWhenHidden(true); // the buttons must not jump when it comes
     m_mark->setSizePolicy(markPolicy);
     flow->addWidget(m_mark);
+    flow->addWidget(m_sign);
+    connect(m_sign, &LockSign::pressed, this, &OptionGroupRow::lockPressed);
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(kSpacing);
@@ -128,7 +131,29 @@ void OptionGroupRow::showValue(std::optional<int> value)
 void OptionGroupRow::setMark(Mark mark)
 {
     m_mark->setMark(mark);
-    for (QPushButton *button : m_buttons)
-        button->setAccessibleDescription(markText(mark));
-    setToolTip(markText(mark));
+    describe();
+}
+
+void OptionGroupRow::setLocks(const QStringList &reasons)
+{
+    m_locks = reasons;
+    QStringList said = reasons;
+    said.removeAll(QString());
+    said.removeDuplicates();
+    m_sign->setReason(said.join(QLatin1Char('\n')));
+    for (std::size_t i = 0; i < m_buttons.size(); ++i)
+        m_buttons[i]->setEnabled(m_locks.value(static_cast<qsizetype>(i)).isEmpty());
+    describe();
+}
+
+/// Why an option cannot be chosen matters more than what is known about the value.
+void OptionGroupRow::describe()
+{
+    const QString text = markText(mark());
+    for (std::size_t i = 0; i < m_buttons.size(); ++i) {
+        const QString lock = m_locks.value(static_cast<qsizetype>(i));
+        m_buttons[i]->setAccessibleDescription(lock.isEmpty() ? text : lock);
+        m_buttons[i]->setToolTip(lock);
+    }
+    setToolTip(text);
 }

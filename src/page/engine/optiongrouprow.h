@@ -3,6 +3,7 @@
 #include <vector>
 
 #include <QPushButton>
+#include <QStringList>
 #include <QWidget>
 
 #include "controls/valuemark.h"
@@ -10,6 +11,7 @@
 
 class BoundTexts;
 class CaptionLabel;
+class LockSign;
 class QButtonGroup;
 
 /// The heading of an option group and its buttons, one of which is checked, or none while the value is not known.
@@ -35,16 +37,26 @@ public:
     void setMark(Mark mark);
     Mark mark() const { return m_mark->mark(); }
 
+    /// Disables each option that has a reason, in the order of the options, and says the reasons.
+    void setLocks(const QStringList &reasons);
+
 Q_SIGNALS:
     /// The user chose the button, by mouse or keyboard.
     void optionClicked(QPushButton *button);
 
+    /// The user wants to go to what locks the first locked option.
+    void lockPressed();
+
 private:
+    void describe();
+
     OptionGroup m_group;
     CaptionLabel *m_caption;
     QButtonGroup *m_exclusive;
     std::vector<QPushButton *> m_buttons;
     ValueMark *m_mark;
+    LockSign *m_sign;
+    QStringList m_locks; ///< of each option: why it is disabled
 };
 
 /// Gives a button the pictures of an option button, as small as its text allows.

@@ -88,6 +88,8 @@ void SettingsPage::onOptionClicked(QPushButton *button)
         updateInterfaceData(); // the button shows again what is set
         return;
     }
+    deviceState.preview(choice->command, choice->value); // what it locks follows before the monitor does
+    applyLocks();
     apply(m_before, choice->command, choice->value);
     const bool ok = send(choice->command, choice->value);
     apply(m_after, choice->command, choice->value);
@@ -155,6 +157,7 @@ void SettingsPage::onValueChanged(Command command)
         return;
     if (showsValues())
         fill(command);
+    applyLocks();
     followValue(command);
 }
 
@@ -231,9 +234,11 @@ void SettingsPage::updateInterfaceData()
         if (const std::optional<Command> command = commandOf(entry))
             fillSlider(entry.widget, *command);
     }
+    applyLocks();
 }
 
 void SettingsPage::updateControlText()
 {
     m_texts.retranslate();
+    applyLocks();
 }

@@ -10,10 +10,12 @@
 
 #include "controls/valuemark.h"
 #include "page/engine/boundtexts.h"
+#include "page/engine/lockrules.h"
 #include "page/engine/page.h"
 #include "page/engine/pagetable.h"
 
 class CommandQueue;
+class LockSign;
 class OptionGroupRow;
 class QVBoxLayout;
 class SliderWidget;
@@ -45,6 +47,10 @@ public:
     OptionGroupRow *optionGroup(Command command) const;
     SliderWidget *slider(const char *name) const;
 
+Q_SIGNALS:
+    /// The user wants to go to a setting that another page or the window has.
+    void settingWanted(Command command);
+
 protected:
     using Rule = std::function<void(int value)>;
 
@@ -60,6 +66,9 @@ protected:
         SettingsPage &m_page;
         bool m_before;
     };
+
+    /// To be called before the sections are built: by these their controls are enabled and disabled.
+    void setLocks(std::span<const LockRule> locks) { m_locks = locks; }
 
     /// Builds the sections, in order, into a column; those that the monitor lacks are left out.
     void buildSections(std::span<const Section> sections, QVBoxLayout *column);
@@ -119,6 +128,7 @@ private:
     {
         SliderSpec spec;
         SliderWidget *widget;
+        LockSign *sign; ///< null for one that no rule locks
         std::function<std::optional<Command>()> choose;
     };
 
@@ -131,7 +141,11 @@ private:
     std::optional<Choice> choiceOf(const QString &objectName) const;
     void addOptions(const OptionGroup &group, QVBoxLayout *column);
     void addSliders(const SliderGrid &grid, QVBoxLayout *column);
-    SliderWidget *makeSlider(const SliderSpec &spec, int captionWidth);
+    QLayout *makeSlider(const SliderSpec &spec, const SliderGrid &grid);
+    LockSign *makeSign(SliderWidget *slider);
+    void applyLocks();
+    void goTo(const LockRule *rule);
+    QWidget *controlOf(const LockTarget &target) const;
     void fillRow(OptionGroupRow *row);
     void fill(Command command);
     Mark markOf(Command command);
@@ -142,6 +156,7 @@ private:
     BoundTexts m_texts;
     bool m_updating = false;
     bool m_asksWhenShown = false;
+    std::span<const LockRule> m_locks;
     std::vector<OptionGroupRow *> m_groups;
     std::vector<SliderWidget *> m_sliders;
     std::vector<Slider> m_sliderEntries;

@@ -1,9 +1,12 @@
 // The part of the page engine that turns tables into controls.
 
+#include <algorithm>
+
 #include <QGridLayout>
 #include <QVBoxLayout>
 
 #include "controls/captionlabel.h"
+#include "controls/locksign.h"
 #include "controls/sliderwidget.h"
 #include "page/engine/optiongrouprow.h"
 #include "page/engine/settingspage.h"
@@ -13,6 +16,7 @@ namespace {
 constexpr int kColumnSpacing = 40;
 constexpr int kRowSpacing = 16;
 constexpr int kHeadingPixels = 15;
+constexpr int kSignSpacing = 4;
 
 QColor colorOf(Accent accent)
 {
@@ -60,6 +64,12 @@ void SettingsPage::addOptions(const OptionGroup &group, QVBoxLayout *column)
         return;
     auto *row = new OptionGroupRow(group, m_texts, this);
     connect(row, &OptionGroupRow::optionClicked, this, &SettingsPage::onOptionClicked);
+    connect(row, &OptionGroupRow::lockPressed, this, [this, row] {
+        for (const Option &option : row->group().options) {
+            if (const LockRule *rule = lockOf(m_locks, row->group().command, option.value, deviceState))
+                return goTo(rule);
+        }
+    });
     m_groups.push_back(row);
     column->addWidget(row);
 }
@@ -79,7 +89,7 @@ void SettingsPage::addSliders(const SliderGrid &grid, QVBoxLayout *column)
     for (const SliderSpec &spec : grid.sliders) {
         if (!isAvailable(spec.needs))
             continue;
-        cells->addWidget(makeSlider(spec, grid.captionWidth), cell / grid.columns, cell % grid.columns);
+        cells->addLayout(makeSlider(spec, grid), cell / grid.columns, cell % grid.columns);
         ++cell;
     }
     for (int i = 0; i < grid.columns; ++i) {
@@ -89,14 +99,25 @@ void SettingsPage::addSliders(const SliderGrid &grid, QVBoxLayout *column)
     column->addLayout(cells);
 }
 
-SliderWidget *SettingsPage::makeSlider(const SliderSpec &spec, int captionWidth)
+/// A slider, and behind it the room for a lock in grids where one may come: the sliders must not jump then.
+QLayout *SettingsPage::makeSlider(const SliderSpec &spec, const SliderGrid &grid)
 {
     auto *slider = new SliderWidget(QLatin1String(spec.name), spec.minimum, spec.maximum, this);
-    slider->setCaptionWidth(captionWidth);
+    slider->setCaptionWidth(grid.captionWidth);
     slider->setAccent(colorOf(spec.accent));
     m_texts.bind(spec.caption, [slider](const QString &text) { slider->setCaption(text); });
     connect(slider, &SliderWidget::sliderValueChanged, this, &SettingsPage::onSliderChanged);
     m_sliders.push_back(slider);
-    m_sliderEntries.push_back({spec, slider, {}});
-    return slider;
+
+    auto *cell = new QHBoxLayout;
+    cell->setSpacing(kSignSpacing);
+    cell->addWidget(slider, 1);
+    const auto mayBeLocked = [this](const SliderSpec &other) { return ruleFor(m_locks, QLatin1String(other.name)); };
+    LockSign *sign = mayBeLocked(spec) ? makeSign(slider) : nullptr;
+    if (sign)
+        cell->addWidget(sign);
+    else if (std::any_of(grid.sliders.begin(), grid.sliders.end(), mayBeLocked))
+        cell->addSpacing(LockSign::kSize + kSignSpacing);
+    m_sliderEntries.push_back({spec, slider, sign, {}});
+    return cell;
 }

@@ -1,0 +1,38 @@
+#include "controls/locksign.h"
+
+#include <QPainter>
+
+namespace {
+
+const QColor kDim(0xad, 0xad, 0xad);
+const QColor kMint(0x7b, 0xfa, 0xdb);
+
+} // namespace
+
+LockSign::LockSign(QWidget *parent) : PaintedControl(parent)
+{
+    setFixedSize(kSize, kSize);
+    hide();
+}
+
+void LockSign::setReason(const QString &reason)
+{
+    setAccessibleName(reason);
+    setToolTip(reason);
+    setVisible(!reason.isEmpty());
+}
+
+void LockSign::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor color = isHovered() || hasFocus() ? kMint : kDim;
+    const QPointF centre = QRectF(rect()).center();
+    painter.setPen(QPen(color, 1.5));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawArc(QRectF(centre.x() - 2.75, centre.y() - 5.5, 5.5, 7), 0, 180 * 16); // the shackle
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color);
+    painter.drawRoundedRect(QRectF(centre.x() - 4.5, centre.y() - 1.5, 9, 7), 1.5, 1.5);
+    drawFocus(painter, rect(), 4.0);
+}
