@@ -5,7 +5,10 @@
 #include "controls/nowheelslider.h"
 #include "ddc_protocol/scenemodes.h"
 #include "page/engine/panelpage.h"
+#include "page/engine/undobar.h"
 #include "support/windowfixture.h"
+
+using namespace std::chrono_literals;
 
 /// What the program spares its users and their monitors.
 class TestCare : public WindowFixture
@@ -14,6 +17,8 @@ class TestCare : public WindowFixture
 private Q_SLOTS:
     void everyLockHasItsReason();
     void lockedEntriesSayWhy();
+    void undoOfRiskyChanges_data();
+    void undoOfRiskyChanges();
 
 private:
     QStringList unexplained(SettingsPage *page) const;
@@ -57,7 +62,8 @@ QStringList TestCare::deadEnds(SettingsPage *page) const
         sign->setFocus();
         QTest::keyClick(sign, Qt::Key_Space);
         const QWidget *now = m_window->focusWidget();
-        if (!isShown || !now || now == sign || !now->isEnabled() || !now->isVisible() || sign->reason().isEmpty() || sign->reason() != sign->toolTip())
+        if (!isShown || !now || now == sign || !now->isEnabled() || !now->isVisible() || sign->reason().isEmpty() ||
+            sign->reason() != sign->toolTip())
             found.append(sign->reason());
     }
     return found;
@@ -73,8 +79,8 @@ void TestCare::everyLockHasItsReason()
             deviceState.store(Command::ColorTemperature, temperature);
             deviceState.store(Command::ColorEnhance, enhance);
             m_window->refreshPages();
-            for (const PageId id : {PageId::Scene, PageId::PictureEnhance, PageId::Office, PageId::SystemSetting,
-                                    PageId::IoSetting}) {
+            for (const PageId id :
+                 {PageId::Scene, PageId::PictureEnhance, PageId::Office, PageId::SystemSetting, PageId::IoSetting}) {
                 SettingsPage *page = m_window->settingsPage(id);
                 QCOMPARE(unexplained(page), QStringList());
                 QCOMPARE(deadEnds(page).join('|'), QString());
@@ -106,6 +112,67 @@ void TestCare::lockedEntriesSayWhy()
         QVERIFY(locked > 0);
         m_window->setInterfaceMode(kBusyEnded);
     }
+}
+
+void TestCare::undoOfRiskyChanges_data()
+{
+    columns<PageId, int, int, int, bool>("page", "command", "before", "value", "offered");
+    QTest::newRow("output range") << PageId::IoSetting << 0x60 << 0 << 2 << true;
+    QTest::newRow("OSD language") << PageId::SystemSetting << 0xCC << 2 << 13 << true;
+    QTest::newRow("overdrive") << PageId::PictureEnhance << 0x49 << 1 << 4 << true;
+    QTest::newRow("overdrive, not at its top") << PageId::PictureEnhance << 0x49 << 1 << 3 << false;
+    QTest::newRow("menu lock") << PageId::SystemSetting << 0xC4 << 0 << 1 << true;
+    QTest::newRow("menu unlocked") << PageId::SystemSetting << 0xC4 << 1 << 0 << false;
+    QTest::newRow("power saving") << PageId::SystemSetting << 0xC6 << 0 << 2 << true;
+    QTest::newRow("input") << PageId::IoSetting << 0x57 << 1 << 4 << false;
+    QTest::newRow("nothing changed") << PageId::IoSetting << 0x60 << 2 << 2 << false;
+}
+
+void TestCare::undoOfRiskyChanges()
+{
+    QFETCH(const PageId, page);
+    QFETCH(const int, command);
+    QFETCH(const int, before);
+    QFETCH(const int, value);
+    QFETCH(const bool, offered);
+    start(10);
+    SettingsPage *settings = m_window->settingsPage(page);
+    const UndoBar *bar = settings->undoBar();
+    const auto change = [&] {
+        deviceState.store(Command(command), before);
+        settings->optionGroup(Command(command))->buttonOf(value)->click();
+        QCoreApplication::processEvents();
+        m_desk->takeCommands();
+        return bar->offered().has_value();
+    };
+    QCOMPARE(change(), offered);
+    if (!offered)
+        return;
+    m_desk->clock.advance(14s);
+    QTest::keyClick(bar->button(), Qt::Key_Space);
+    QCOMPARE(m_desk->takeCommands(), QStringList{QStringLiteral("W %1=%2").arg(command, 0, 16).arg(before)});
+    QVERIFY(bar->isHidden() && deviceState.confirmed(Command(command)) == before);
+
+    QVERIFY(change());
+    m_desk->clock.advance(14s);
+    QVERIFY(change()); // has its own time
+    m_desk->clock.advance(14s);
+    QVERIFY(!bar->isHidden());
+    m_desk->clock.advance(1s);
+    QVERIFY(bar->isHidden() && m_desk->takeCommands().isEmpty()); // nothing goes back by itself
+    QCOMPARE(int(m_desk->monitor().value(std::uint8_t(command))), value);
+
+    m_desk->monitor().refuseWrites(2);
+    QVERIFY(!change()); // there is nothing to go back from
+    m_desk->clock.advance(1min);
+    QVERIFY(change());
+    deviceState.told(Command(command), before); // by the monitor's own buttons
+    QCoreApplication::processEvents();
+    QVERIFY(!bar->offered());
+    QVERIFY(change());
+    currentMonitorIndex = 1;
+    bar->button()->click();
+    QVERIFY(!bar->offered() && m_desk->takeCommands(1).isEmpty());
 }
 
 QTEST_MAIN(TestCare)

@@ -48,6 +48,10 @@
         <translation>%1 s left</translation>
     </message>
     <message>
+        <source>%1 was changed to &quot;%2&quot;.</source>
+        <translation>%1 was changed to &quot;%2&quot;.</translation>
+    </message>
+    <message>
         <source>%1 · %2</source>
         <translation>%1 · %2</translation>
     </message>
@@ -1558,6 +1562,10 @@
     <message>
         <source>Service Settings</source>
         <translation>Service Settings</translation>
+    </message>
+    <message>
+        <source>Set %1 back to &quot;%2&quot;</source>
+        <translation>Set %1 back to &quot;%2&quot;</translation>
     </message>
     <message>
         <source>Set everything back to how the monitor left the factory? It will be away for some seconds.</source>

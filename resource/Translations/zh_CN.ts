@@ -48,6 +48,10 @@
         <translation>剩余 %1 秒</translation>
     </message>
     <message>
+        <source>%1 was changed to &quot;%2&quot;.</source>
+        <translation>%1已改为“%2”。</translation>
+    </message>
+    <message>
         <source>%1 · %2</source>
         <translation>%1 · %2</translation>
     </message>
@@ -1558,6 +1562,10 @@
     <message>
         <source>Service Settings</source>
         <translation>服务设置</translation>
+    </message>
+    <message>
+        <source>Set %1 back to &quot;%2&quot;</source>
+        <translation>将%1改回“%2”</translation>
     </message>
     <message>
         <source>Set everything back to how the monitor left the factory? It will be away for some seconds.</source>

@@ -63,16 +63,17 @@ MonitorInfo firstPhysicalMonitor(platform::DisplayHandle display)
     if (count == 0 || !monitors.fetch(display, records))
         return {};
     monitors.destroy(std::span(records).subspan(1));
-    return {records.front(), true};
+    return {records.front(), true, {}};
 }
 
 void appendMonitor(const EnumerationEntry &entry, int number, const QString &screenName, QByteArrayList &labels)
 {
     const QString &name = entry.model.isEmpty() ? screenName : entry.model;
     labels += QStringLiteral("%1. %2").arg(number).arg(name).toUtf8();
-    const MonitorInfo record = firstPhysicalMonitor(entry.display);
+    MonitorInfo record = firstPhysicalMonitor(entry.display);
     qDebug().noquote() << "hMonitor " << entry.display << "deviceName " << entry.deviceName << "model " << entry.model
                        << "Monitor.hPhysicalMonitor" << record.handle;
+    record.label = QString::fromUtf8(labels.last());
     monitorList.push_back(record);
 }
 

@@ -15,6 +15,7 @@
 struct MonitorInfo : platform::PhysicalMonitor
 {
     bool fetched = false; ///< off: the platform gave none, the record is empty, and every command to it fails
+    QString label = {};   ///< as the user sees it
 
     /// What requests go to; nothing when it was not fetched.
     std::optional<platform::PhysicalMonitorHandle> target() const

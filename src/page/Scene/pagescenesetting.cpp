@@ -38,6 +38,7 @@ pageSceneSetting::pageSceneSetting(SearchDeviceDlg &session, CommandQueue &queue
     m_areas->addWidget(buildDefaultArea());
     m_areas->addWidget(buildCustomArea());
     column->addWidget(m_areas, 1);
+    addUndoBar(column);
 
     addRules();
     connect(m_worker, &WorkThread::ended, this, &pageSceneSetting::onWorkFinished);

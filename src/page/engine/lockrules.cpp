@@ -18,10 +18,14 @@ bool isMpcsLd(const DeviceState &state)
 }
 
 constexpr LockRule kMotionLocks[] = {
-    {OptionsOf{Command::MotionTech, 3, 5}, isMpcsFps,
-     LABEL("MPCS/ULL FPS offers the Ull levels only; the others need another scene mode."), {Command::SceneMode}},
-    {OptionsOf{Command::MotionTech, 6, 8}, isMpcsLd,
-     LABEL("MPCS/LD leaves no room for the Ull levels; they need another scene mode."), {Command::SceneMode}},
+    {OptionsOf{Command::MotionTech, 3, 5},
+     isMpcsFps,
+     LABEL("MPCS/ULL FPS offers the Ull levels only; the others need another scene mode."),
+     {Command::SceneMode}},
+    {OptionsOf{Command::MotionTech, 6, 8},
+     isMpcsLd,
+     LABEL("MPCS/LD leaves no room for the Ull levels; they need another scene mode."),
+     {Command::SceneMode}},
 };
 
 template <typename IsMeant> const LockRule *findRule(std::span<const LockRule> rules, const IsMeant &isMeant)

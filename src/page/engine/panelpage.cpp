@@ -59,6 +59,7 @@ void PanelPage::buildPanels(std::span<const PanelSpec> panels)
     auto *column = new QVBoxLayout;
     column->addWidget(m_stack, 1);
     column->addWidget(m_notice);
+    addUndoBar(column);
     row->addLayout(column, 1);
     for (const PanelSpec &panel : m_panels)
         m_stack->addWidget(buildPanel(panel));

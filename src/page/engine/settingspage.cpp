@@ -10,6 +10,7 @@
 #include "ddc_protocol/transport.h"
 #include "ddc_protocol/valuechanges.h"
 #include "page/engine/optiongrouprow.h"
+#include "page/engine/undobar.h"
 #include "platform/desk.h"
 
 static constexpr platform::milliseconds kPatience{300}; // a value on its way for longer is marked
@@ -88,13 +89,21 @@ void SettingsPage::onOptionClicked(QPushButton *button)
         updateInterfaceData(); // the button shows again what is set
         return;
     }
-    deviceState.preview(choice->command, choice->value); // what it locks follows before the monitor does
+    const std::optional<int> before = deviceState.confirmed(choice->command);
+    if (setOption(choice->command, choice->value))
+        offerUndo(choice->command, before, choice->value);
+}
+
+bool SettingsPage::setOption(Command command, int value)
+{
+    deviceState.preview(command, value); // what it locks follows before the monitor does
     applyLocks();
-    apply(m_before, choice->command, choice->value);
-    const bool ok = send(choice->command, choice->value);
-    apply(m_after, choice->command, choice->value);
-    fill(choice->command);
+    apply(m_before, command, value);
+    const bool ok = send(command, value);
+    apply(m_after, command, value);
+    fill(command);
     showResult(ok);
+    return ok;
 }
 
 void SettingsPage::onSliderChanged(const QString &name, int value, bool released)
@@ -153,6 +162,8 @@ void SettingsPage::reconcile()
 /// Several controls may stand for one command, also on pages that are not in sight: those are filled when shown.
 void SettingsPage::onValueChanged(Command command)
 {
+    if (m_undoBar)
+        m_undoBar->check();
     if (!isVisible())
         return;
     if (showsValues())
@@ -241,4 +252,5 @@ void SettingsPage::updateControlText()
 {
     m_texts.retranslate();
     applyLocks();
+    showUndoTexts();
 }

@@ -19,6 +19,7 @@ class LockSign;
 class OptionGroupRow;
 class QVBoxLayout;
 class SliderWidget;
+class UndoBar;
 
 /// What every page of monitor settings is: controls built from tables, filled from the snapshot without sending, and
 /// one command for each action of the user. A page derives from it, hands it its sections and adds its exceptions.
@@ -47,6 +48,9 @@ public:
     OptionGroupRow *optionGroup(Command command) const;
     SliderWidget *slider(const char *name) const;
 
+    /// The line that offers the way back from a risky change.
+    UndoBar *undoBar() const { return m_undoBar; }
+
 Q_SIGNALS:
     /// The user wants to go to a setting that another page or the window has.
     void settingWanted(Command command);
@@ -72,6 +76,9 @@ protected:
 
     /// Builds the sections, in order, into a column; those that the monitor lacks are left out.
     void buildSections(std::span<const Section> sections, QVBoxLayout *column);
+
+    /// To be called where a page ends: from then on it offers the way back from risky changes.
+    void addUndoBar(QVBoxLayout *column);
 
     /// Builds a part that the tables only name; null for a name that the page does not know.
     virtual QWidget *buildPart(const char *name);
@@ -144,6 +151,9 @@ private:
     QLayout *makeSlider(const SliderSpec &spec, const SliderGrid &grid);
     LockSign *makeSign(SliderWidget *slider);
     void applyLocks();
+    bool setOption(Command command, int value);
+    void offerUndo(Command command, std::optional<int> before, int value);
+    void showUndoTexts();
     void goTo(const LockRule *rule);
     QWidget *controlOf(const LockTarget &target) const;
     void fillRow(OptionGroupRow *row);
@@ -157,6 +167,7 @@ private:
     bool m_updating = false;
     bool m_asksWhenShown = false;
     std::span<const LockRule> m_locks;
+    UndoBar *m_undoBar = nullptr;
     std::vector<OptionGroupRow *> m_groups;
     std::vector<SliderWidget *> m_sliders;
     std::vector<Slider> m_sliderEntries;

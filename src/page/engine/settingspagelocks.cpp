@@ -22,8 +22,7 @@ LockSign *SettingsPage::makeSign(SliderWidget *slider)
     QSizePolicy policy = sign->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     sign->setSizePolicy(policy);
-    connect(sign, &LockSign::pressed, this,
-            [this, slider] { goTo(lockOf(m_locks, slider->name(), deviceState)); });
+    connect(sign, &LockSign::pressed, this, [this, slider] { goTo(lockOf(m_locks, slider->name(), deviceState)); });
     return sign;
 }
 

@@ -1,0 +1,106 @@
+#include "page/engine/undobar.h"
+
+#include <QAccessible>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+
+#include "ddc_protocol/devicestate.h"
+#include "ddc_protocol/monitoridentity.h"
+#include "platform/desk.h"
+
+namespace {
+
+constexpr platform::milliseconds kTick{100};
+constexpr int kButtonHeight = 34;
+constexpr qreal kRadius = 8;
+const QColor kGround(0x14, 0x1b, 0x18);
+const QColor kEdge(0x24, 0x33, 0x2d);
+const QColor kTime(0x7b, 0xfa, 0xdb);
+
+} // namespace
+
+UndoBar::UndoBar(QWidget *parent) : QFrame(parent), m_text(new QLabel(this)), m_button(new QPushButton(this))
+{
+    setObjectName(QStringLiteral("undoBar"));
+    m_text->setStyleSheet(QStringLiteral("color: #c9c9c9; font-size: 14px;"));
+    m_text->setTextFormat(Qt::PlainText);
+    m_text->setWordWrap(true);
+    m_button->setProperty("plain", true);
+    m_button->setFixedHeight(kButtonHeight);
+    m_button->setFocusPolicy(Qt::StrongFocus);
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(16, 8, 8, 10);
+    row->addWidget(m_text, 1);
+    row->addWidget(m_button);
+    connect(m_button, &QPushButton::clicked, this, [this] {
+        check();
+        if (m_offer)
+            Q_EMIT undoWanted(UndoOffer(*m_offer));
+    });
+    hide();
+}
+
+void UndoBar::offer(const UndoOffer &offer)
+{
+    m_offer = offer;
+    m_offer->monitor = monitorIdentity();
+    m_left = kOffered;
+    show();
+    tick(++m_number);
+}
+
+void UndoBar::setTexts(const QString &text, const QString &undo)
+{
+    m_text->setText(text);
+    m_button->setText(QObject::tr("Undo"));
+    m_button->setAccessibleName(undo);
+    m_button->setToolTip(undo);
+    setAccessibleName(text);
+    if (QAccessible::isActive()) {
+        QAccessibleEvent event(this, QAccessible::Alert);
+        QAccessible::updateAccessibility(&event);
+    }
+}
+
+/// The time is counted, not read from the clock: somebody may set that back.
+void UndoBar::tick(unsigned offer)
+{
+    check();
+    if (!m_offer || offer != m_number)
+        return;
+    if (m_left.count() <= 0)
+        return withdraw();
+    update();
+    platform::desk().clock().callLater(kTick, this, [this, offer] {
+        if (offer == m_number)
+            m_left -= kTick;
+        tick(offer);
+    });
+}
+
+void UndoBar::check()
+{
+    if (m_offer &&
+        (deviceState.confirmed(m_offer->command) != m_offer->value || monitorIdentity() != m_offer->monitor))
+        withdraw();
+}
+
+void UndoBar::withdraw()
+{
+    m_offer.reset();
+    hide();
+}
+
+void UndoBar::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(kEdge);
+    painter.setBrush(kGround);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
+    const qreal whole = width() - 2 * kRadius;
+    const qreal share = static_cast<qreal>(m_left.count()) / static_cast<qreal>(kOffered.count());
+    painter.fillRect(QRectF(kRadius, height() - 2.5, whole * share, 1.5), kTime);
+}
