@@ -17,6 +17,8 @@
 #include "ddc_protocol/linkstatus.h"
 #include "ddc_protocol/scenemodes.h"
 #include "ddc_protocol/transport.h"
+#include "ddc_protocol/writecounts.h"
+#include "ddc_protocol/writekeeper.h"
 #include "leftbar.h"
 #include "page/BasicSetting/pagepcsetting.h"
 #include "page/BasicSetting/pageservicessetting.h"
@@ -88,6 +90,7 @@ MainWindow::~MainWindow()
 void MainWindow::buildForm()
 {
     m_queue = new CommandQueue(this);
+    new WriteKeeper(this); // behind the queue: it goes after the last values were sent
     m_tabs = new TopTabFrame(this);
     m_barStack = new QStackedWidget(this);
     m_pages = new QStackedWidget(this);
@@ -256,6 +259,7 @@ void MainWindow::endWithSession()
     platform::endProgram();
     endAccessoryWork();
     m_queue->drainFor(kLastValues);
+    writeCounts.store();
 }
 
 bool MainWindow::mayLeave()

@@ -3,7 +3,12 @@
 
 #include "controls/locksign.h"
 #include "controls/nowheelslider.h"
+#include "ddc_protocol/automaticwriter.h"
+#include "ddc_protocol/commandqueue.h"
+#include "ddc_protocol/monitoridentity.h"
 #include "ddc_protocol/scenemodes.h"
+#include "ddc_protocol/valuechanges.h"
+#include "ddc_protocol/writecounts.h"
 #include "page/engine/panelpage.h"
 #include "page/engine/undobar.h"
 #include "support/windowfixture.h"
@@ -19,6 +24,10 @@ private Q_SLOTS:
     void lockedEntriesSayWhy();
     void undoOfRiskyChanges_data();
     void undoOfRiskyChanges();
+    void writesAreCounted();
+    void writeBudget_data();
+    void writeBudget();
+    void automaticWrites();
 
 private:
     QStringList unexplained(SettingsPage *page) const;
@@ -173,6 +182,103 @@ void TestCare::undoOfRiskyChanges()
     currentMonitorIndex = 1;
     bar->button()->click();
     QVERIFY(!bar->offered() && m_desk->takeCommands(1).isEmpty());
+}
+
+void TestCare::writesAreCounted()
+{
+    start(10);
+    const QString monitor = monitorIdentity();
+    QVERIFY(storeSetting("1.%20Q27-OLED%20%231/10", "before:7 2024-01-01:2 2024-03-08:5 nonsense", kWritesFile));
+    QCOMPARE(monitor, QStringLiteral("1. Q27-OLED #1"));
+    const auto counted = [&](int code) {
+        const WriteCount count = writeCounts.countOf(monitor, code);
+        return std::pair(count.today, count.inAll);
+    };
+    for (int value = 1; value <= 3; ++value)
+        sendValue(Command::Brightness, value);
+    m_desk->monitor().refuse(0x10, 1);
+    sendValue(Command::Brightness, 4); // taken by the second attempt
+    m_desk->monitor().refuse(0x10, 2);
+    sendValue(Command::Brightness, 5); // not taken
+    sendValue(Command::Contrast, 5);
+    QCOMPARE(counted(0x10), std::pair(qint64(4), qint64(18)));
+    QVERIFY(!QFileInfo::exists(kWritesFile) || !readText(kWritesFile).contains("03-09"));
+    QCoreApplication::processEvents();
+    m_desk->clock.advance(60s);
+    QCOMPARE(settingsString("1.%20Q27-OLED%20%231/10", {}, false, kWritesFile), "before:9 2024-03-08:5 2024-03-09:4");
+    sendValue(Command::Brightness, 6);
+    m_desk->clock.advance(24h);
+    m_window.reset(); // stores as well
+    QCOMPARE(counted(0x10), std::pair(qint64(0), qint64(19)));
+    QCOMPARE(counted(0x12), std::pair(qint64(0), qint64(1)));
+    QCOMPARE(writeCounts.countOf(monitor).inAll, qint64(20));
+}
+
+void TestCare::writeBudget_data()
+{
+    const QDateTime noon(QDate(2024, 3, 9), QTime(12, 0));
+    columns<WriteFacts, WriteStep, QDateTime>("facts", "step", "next");
+    const auto row = [](const char *name, const WriteFacts &facts, WriteStep step, const QDateTime &next = {}) {
+        QTest::newRow(name) << facts << step << next;
+    };
+    using enum WriteStep;
+    const QDateTime midnight(QDate(2024, 3, 10), QTime(0, 0));
+    row("asks first", {5, {}, false, {}, 0, 2000}, Ask);
+    row("no answer", {5, {}, true, {}, 0, 2000}, Drop);
+    row("is so already", {5, 5, true, noon, 2000, 2000}, Done);
+    row("differs", {5, 6, true, noon.addMSecs(-1000), 1999, 2000}, Send);
+    row("second used up", {5, 6, true, noon.addMSecs(-999), 0, 2000}, Wait, noon.addMSecs(1));
+    row("clock set back", {5, 6, true, noon.addSecs(3600), 0, 2000}, Send);
+    row("day used up", {5, 6, true, {}, 2000, 2000}, Wait, midnight);
+    row("day used up, nothing asked", {5, {}, false, {}, 2000, 2000}, Wait, midnight);
+    row("as many as it takes", {5, 6, true, {}, 9999, {}}, Send);
+    row("none at all", {5, {}, false, {}, 0, 0}, Wait, midnight);
+}
+
+void TestCare::writeBudget()
+{
+    QFETCH(const WriteFacts, facts);
+    QFETCH(const WriteStep, step);
+    QFETCH(const QDateTime, next);
+    const WriteDecision decision = planWrite(facts, QDateTime(QDate(2024, 3, 9), QTime(12, 0)));
+    QCOMPARE(int(decision.step), int(step));
+    QCOMPARE(decision.next.value_or(QDateTime()), next);
+    QCOMPARE(decision.dayIsUsedUp, next.date() > QDate(2024, 3, 9));
+}
+
+void TestCare::automaticWrites()
+{
+    start(10);
+    QVERIFY(storeSetting("Care/AutomaticWrites", 2));
+    AutomaticWriter writer(*m_window->findChild<CommandQueue *>());
+    QSignalSpy settled(&writer, &AutomaticWriter::settled);
+    QSignalSpy usedUp(&writer, &AutomaticWriter::dayIsUsedUp);
+    m_desk->monitor().setValue(0xF6, 30); // the monitor's own buttons; the program knows nothing of it
+    m_desk->monitor().setValue(0xC6, 1);
+    m_desk->monitor().refuse(0xEA, 1);
+    m_desk->clock.advance(1min);
+    m_desk->takeCommands();
+    writer.want(Command::AudioVolume, 31);
+    writer.want(Command::PowerSaving, 1);
+    writer.want(Command::AudioMode, 1);
+    writer.want(Command::OsdHPosition, 7);
+    writer.want(Command::OsdHPosition, 8);
+    QTRY_COMPARE(settled.count(), 3);
+    QStringList asked;
+    QTRY_VERIFY((asked += m_desk->takeCommands()).contains("R c1"));
+    QVERIFY(!asked.contains("W c6=1") && !asked.contains("W ea=1"));
+    QCOMPARE(int(m_desk->monitor().value(0xF6)), 31);
+    m_desk->clock.advance(1s);
+    QTRY_COMPARE(settled.count(), 4);
+    QCOMPARE(int(m_desk->monitor().value(0xC1)), 8);
+    writer.want(Command::OsdVPosition, 9);
+    QCOMPARE(usedUp.count(), 1);
+    sendValue(Command::OsdVPosition, 10); // the user's own are not limited
+    m_desk->takeCommands();
+    const QDateTime now = m_desk->clock.now();
+    m_desk->clock.advance(platform::milliseconds(now.msecsTo(now.date().addDays(1).startOfDay())));
+    QTRY_COMPARE(settled.count(), 5); // tomorrow
+    QCOMPARE(m_desk->takeCommands(), (QStringList{"R c2", "W c2=9"}));
 }
 
 QTEST_MAIN(TestCare)

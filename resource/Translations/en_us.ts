@@ -1944,6 +1944,10 @@
         <translation>Time, read or write, code, value and what became of it</translation>
     </message>
     <message>
+        <source>Today&apos;s automatic changes of this monitor are used up (%1). They go on tomorrow; what you set yourself is not limited.</source>
+        <translation>Today&apos;s automatic changes of this monitor are used up (%1). They go on tomorrow; what you set yourself is not limited.</translation>
+    </message>
+    <message>
         <source>Tool Settings</source>
         <translation>Tool Settings</translation>
     </message>

@@ -1944,6 +1944,10 @@
         <translation>時刻、読み書きの別、コード、値、結果</translation>
     </message>
     <message>
+        <source>Today&apos;s automatic changes of this monitor are used up (%1). They go on tomorrow; what you set yourself is not limited.</source>
+        <translation>このモニターへの今日の自動変更は上限（%1 回）に達しました。続きは明日行います。ご自身での設定に制限はありません。</translation>
+    </message>
+    <message>
         <source>Tool Settings</source>
         <translation>ツール設定</translation>
     </message>

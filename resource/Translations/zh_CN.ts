@@ -1944,6 +1944,10 @@
         <translation>时间、读取或写入、代码、值及结果</translation>
     </message>
     <message>
+        <source>Today&apos;s automatic changes of this monitor are used up (%1). They go on tomorrow; what you set yourself is not limited.</source>
+        <translation>今天对此显示器的自动更改次数已用完（%1 次），明天继续。您自己的设置不受限制。</translation>
+    </message>
+    <message>
         <source>Tool Settings</source>
         <translation>工具设置</translation>
     </message>

@@ -1944,6 +1944,10 @@
         <translation>時間、讀取或寫入、代碼、值及結果</translation>
     </message>
     <message>
+        <source>Today&apos;s automatic changes of this monitor are used up (%1). They go on tomorrow; what you set yourself is not limited.</source>
+        <translation>今天對此顯示器的自動變更次數已用完（%1 次），明天繼續。您自己的設定不受限制。</translation>
+    </message>
+    <message>
         <source>Tool Settings</source>
         <translation>工具設定</translation>
     </message>

@@ -57,6 +57,12 @@ bool CommandQueue::isIdle()
     return isSent() && !hasQuestion() && !m_asking;
 }
 
+bool CommandQueue::isAsking()
+{
+    const std::lock_guard lock(m_mutex);
+    return hasQuestion() || m_asking;
+}
+
 void CommandQueue::askBlock(int mode)
 {
     {

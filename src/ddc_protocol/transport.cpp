@@ -7,6 +7,8 @@
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/displayenumeration.h"
 #include "ddc_protocol/linkstatus.h"
+#include "ddc_protocol/monitoridentity.h"
+#include "ddc_protocol/writecounts.h"
 #include "platform/desk.h"
 #include "platform/ending.h"
 
@@ -169,6 +171,7 @@ bool Korvu_SetCommandVal(COMMAND_set_Type command, std::uint16_t value, std::uin
         for (int attempt = 0; attempt < kWriteAttempts; ++attempt) {
             if (writeOnce(value)) {
                 deviceState.taken(commandOf(command), value);
+                writeCounts.note(monitorIdentity(), commandCode(command));
                 return true;
             }
             if (!pause(kWritePause))

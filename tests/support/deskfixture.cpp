@@ -2,6 +2,7 @@
 
 #include <mutex>
 
+#include "ddc_protocol/writecounts.h"
 #include "ledmatrix/matrixform.h"
 #include "usb-hid/hidtransport.h"
 #include "usb-hid/livesender.h"
@@ -44,6 +45,7 @@ DeskFixture::DeskFixture() : desk(clock), m_folderBefore(QDir::currentPath()), m
     projectionMode = ProjectionMode::Unknown;
     monitorList.clear();
     deviceState.clear();
+    writeCounts.clear();
     matrixForm = kTaperingForm;
     clearHidFlags();
     resetLiveLatch();

@@ -25,7 +25,6 @@ constexpr RiskyChange kRiskyChanges[] = {
 
 bool isRiskyChange(Command command, int value)
 {
-    return std::any_of(std::begin(kRiskyChanges), std::end(kRiskyChanges), [=](const RiskyChange &change) {
-        return change.command == command && value >= change.from;
-    });
+    return std::any_of(std::begin(kRiskyChanges), std::end(kRiskyChanges),
+                       [=](const RiskyChange &change) { return change.command == command && value >= change.from; });
 }

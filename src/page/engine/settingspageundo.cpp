@@ -41,12 +41,12 @@ void SettingsPage::offerUndo(Command command, std::optional<int> before, int val
 
 void SettingsPage::showUndoTexts()
 {
-    const OptionGroupRow *row = m_undoBar && m_undoBar->offered() ? optionGroup(m_undoBar->offered()->command) : nullptr;
+    const OptionGroupRow *row =
+        m_undoBar && m_undoBar->offered() ? optionGroup(m_undoBar->offered()->command) : nullptr;
     if (!row)
         return;
     const OptionGroup &group = row->group();
     const QString name = QObject::tr(group.label);
-    m_undoBar->setTexts(
-        QObject::tr("%1 was changed to \"%2\".").arg(name, wordOf(group, m_undoBar->offered()->value)),
-        QObject::tr("Set %1 back to \"%2\"").arg(name, wordOf(group, m_undoBar->offered()->before)));
+    m_undoBar->setTexts(QObject::tr("%1 was changed to \"%2\".").arg(name, wordOf(group, m_undoBar->offered()->value)),
+                        QObject::tr("Set %1 back to \"%2\"").arg(name, wordOf(group, m_undoBar->offered()->before)));
 }

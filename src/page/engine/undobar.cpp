@@ -82,8 +82,7 @@ void UndoBar::tick(unsigned offer)
 
 void UndoBar::check()
 {
-    if (m_offer &&
-        (deviceState.confirmed(m_offer->command) != m_offer->value || monitorIdentity() != m_offer->monitor))
+    if (m_offer && (deviceState.confirmed(m_offer->command) != m_offer->value || monitorIdentity() != m_offer->monitor))
         withdraw();
 }
 
