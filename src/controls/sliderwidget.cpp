@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QWheelEvent>
 
 #include "controls/captionlabel.h"
 
@@ -111,6 +112,25 @@ void SliderWidget::onSliderReleased()
     if (isUnknown())
         onValueChanged(value());
     Q_EMIT sliderValueChanged(name(), value(), true);
+}
+
+/// The wheel over the caption and the number counts as well. What the slider does not know cannot be stepped.
+void SliderWidget::wheelEvent(QWheelEvent *event)
+{
+    if (!m_wheelSteps)
+        return QWidget::wheelEvent(event);
+    event->accept();
+    if (isUnknown() || isHeld())
+        return;
+    m_wheelTurn += event->angleDelta().y();
+    const int notches = m_wheelTurn / QWheelEvent::DefaultDeltasPerStep;
+    m_wheelTurn -= notches * QWheelEvent::DefaultDeltasPerStep;
+    const int wanted = qBound(m_slider->minimum(), value() + notches, m_slider->maximum());
+    if (wanted == value())
+        return;
+    m_slider->setSliderDown(true);
+    m_slider->setValue(wanted);
+    m_slider->setSliderDown(false);
 }
 
 void SliderWidget::showValue()

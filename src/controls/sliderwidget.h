@@ -38,6 +38,9 @@ public:
     /// Shows a dash for a value that was not read yet, until one is set.
     void setUnknown(bool unknown);
 
+    /// Whether the wheel steps it, for where nothing scrolls: a known value by one a notch, each a movement of its own.
+    void setWheelSteps(bool steps) { m_wheelSteps = steps; }
+
     /// Whether the user has hold of it, by mouse or key.
     bool isHeld() const { return m_slider->isSliderDown(); }
 
@@ -61,6 +64,9 @@ Q_SIGNALS:
     /// without a value that is taken hold of and not moved tells a step as well: where it is, is wanted now.
     void sliderValueChanged(QString sliderName, int value, bool bReleased);
 
+protected:
+    void wheelEvent(QWheelEvent *event) override;
+
 private:
     void showValue();
     void describe();
@@ -70,4 +76,6 @@ private:
     QLabel *m_valueLabel;
     ValueMark *m_mark;
     QString m_lock; ///< why it is disabled
+    bool m_wheelSteps = false;
+    int m_wheelTurn = 0; ///< less than a notch yet, in the wheel's own unit
 };

@@ -8,7 +8,10 @@
 #include "ddc_protocol/sceneblock.h"
 #include "ddc_protocol/transport.h"
 #include "ddc_protocol/valuechanges.h"
+#include "platform/desk.h"
 #include "platform/ending.h"
+
+static constexpr platform::milliseconds kPace{100};
 
 CommandQueue::CommandQueue(QObject *parent) : QObject(parent)
 {
@@ -21,6 +24,7 @@ CommandQueue::~CommandQueue()
     {
         const std::lock_guard lock(m_mutex);
         m_stop = true;
+        releaseAll();
     }
     m_wake.notify_one();
     m_thread.join();
@@ -31,13 +35,65 @@ void CommandQueue::post(Command command, int value)
     deviceState.wish(command, value);
     {
         const std::lock_guard lock(m_mutex);
-        const auto waiting = std::find_if(m_pending.begin(), m_pending.end(),
-                                          [command](const Pending &pending) { return pending.command == command; });
-        if (waiting != m_pending.end())
-            waiting->value = value;
+        if (Pending *waiting = find(command))
+            *waiting = {command, value};
         else
             m_pending.push_back({command, value});
     }
+    m_wake.notify_one();
+}
+
+void CommandQueue::postPaced(Command command, int value)
+{
+    deviceState.wish(command, value);
+    platform::Clock &clock = platform::desk().clock();
+    const QDateTime now = clock.now();
+    platform::milliseconds pause{0};
+    unsigned hold = 0;
+    {
+        const std::lock_guard lock(m_mutex);
+        if (Pending *waiting = find(command)) {
+            waiting->value = value;
+            return;
+        }
+        if (const auto next = m_paced.find(command); next != m_paced.end())
+            pause = platform::milliseconds(std::clamp<qint64>(now.msecsTo(next->second), 0, kPace.count()));
+        hold = pause.count() > 0 ? ++m_holds : 0;
+        m_pending.push_back({command, value, hold});
+        m_paced.insert_or_assign(command, now.addMSecs((pause + kPace).count()));
+    }
+    if (hold == 0)
+        return m_wake.notify_one();
+    clock.callLater(pause, this, [this, hold] { release(hold); });
+}
+
+CommandQueue::Pending *CommandQueue::find(Command command)
+{
+    const auto found = std::find_if(m_pending.begin(), m_pending.end(),
+                                    [command](const Pending &pending) { return pending.command == command; });
+    return found == m_pending.end() ? nullptr : &*found;
+}
+
+bool CommandQueue::hasValue() const
+{
+    return std::any_of(m_pending.begin(), m_pending.end(), Pending::mayGo);
+}
+
+void CommandQueue::release(unsigned hold)
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        for (Pending &pending : m_pending)
+            pending.hold = pending.hold == hold ? 0 : pending.hold;
+    }
+    m_wake.notify_one();
+}
+
+/// Nothing waits for its pause any more. Under the mutex.
+void CommandQueue::releaseAll()
+{
+    for (Pending &pending : m_pending)
+        pending.hold = 0;
     m_wake.notify_one();
 }
 
@@ -75,12 +131,14 @@ void CommandQueue::askBlock(int mode)
 void CommandQueue::drain()
 {
     std::unique_lock lock(m_mutex);
+    releaseAll();
     m_idle.wait(lock, [this] { return isSent() || platform::programEnds(); });
 }
 
 bool CommandQueue::drainFor(platform::milliseconds limit)
 {
     std::unique_lock lock(m_mutex);
+    releaseAll();
     return m_idle.wait_for(lock, limit, [this] { return isSent(); });
 }
 
@@ -88,8 +146,8 @@ void CommandQueue::run()
 {
     std::unique_lock lock(m_mutex);
     for (;;) {
-        m_wake.wait(lock, [this] { return m_stop || !m_pending.empty() || hasQuestion(); });
-        if (!m_pending.empty())
+        m_wake.wait(lock, [this] { return m_stop || hasValue() || hasQuestion(); });
+        if (hasValue())
             sendNext(lock);
         else if (m_stop)
             return;
@@ -102,8 +160,9 @@ void CommandQueue::run()
 
 void CommandQueue::sendNext(std::unique_lock<std::mutex> &lock)
 {
-    const Pending next = m_pending.front();
-    m_pending.erase(m_pending.begin());
+    const auto first = std::find_if(m_pending.begin(), m_pending.end(), Pending::mayGo);
+    const Pending next = *first;
+    m_pending.erase(first);
     m_sending = true;
     lock.unlock();
     const bool ok = sendWish(next.command, next.value);

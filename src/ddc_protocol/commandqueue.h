@@ -1,6 +1,7 @@
 #pragma once
 
 #include <condition_variable>
+#include <map>
 #include <mutex>
 #include <optional>
 #include <thread>
@@ -24,6 +25,10 @@ public:
 
     /// Puts a value in the queue, in place of an older one of the same command. It counts as wished from now on.
     void post(Command command, int value);
+
+    /// As post, for what comes faster than a monitor should be written to: of each command at most one value goes in
+    /// 100 ms, the newest; the last one given goes in any case, at once when somebody drains. Interface thread only.
+    void postPaced(Command command, int value);
 
     /// Asks the monitor for a value, once, without retries that would hold up others. Nothing is logged. A monitor that
     /// is silent is asked nothing more of what waits.
@@ -61,9 +66,16 @@ private:
     {
         Command command;
         int value;
+        unsigned hold = 0; ///< the pause that it waits for; 0 for none
+
+        static bool mayGo(const Pending &pending) { return pending.hold == 0; }
     };
 
     bool isSent() const { return m_pending.empty() && !m_sending; }
+    bool hasValue() const;
+    Pending *find(Command command);
+    void release(unsigned hold);
+    void releaseAll();
     void run();
     void sendNext(std::unique_lock<std::mutex> &lock);
     bool hasQuestion() const { return !m_questions.empty() || m_blockQuestion; }
@@ -75,6 +87,8 @@ private:
     std::condition_variable m_wake;
     std::condition_variable m_idle;
     std::vector<Pending> m_pending;
+    std::map<Command, QDateTime> m_paced; ///< when the next value may go
+    unsigned m_holds = 0;
     std::vector<Command> m_questions;
     std::optional<int> m_blockQuestion; ///< its mode
     int m_unanswered = 0;               ///< of the questions since the last was told

@@ -120,7 +120,7 @@ void SettingsPage::onSliderChanged(const QString &name, int value, bool released
     const SendOn sendOn = entry->spec.sendOn;
     if (released == (sendOn != SendOn::Move)) {
         m_posted.insert(*command);
-        m_queue.post(*command, value);
+        m_paced ? m_queue.postPaced(*command, value) : m_queue.post(*command, value);
         apply(m_after, *command, value);
     } else if (sendOn == SendOn::Release) {
         deviceState.preview(*command, value);
@@ -201,7 +201,7 @@ Mark SettingsPage::markOf(Command command)
         if (since >= kPatience.count())
             return Mark::Waiting;
         clock.callLater(kPatience - platform::milliseconds(std::max<qint64>(since, 0)), this,
-                        [this, command] { fill(command); });
+                        [this, command] { onValueChanged(command); });
         break;
     }
     }

@@ -98,6 +98,12 @@ protected:
     /// From now on, whenever the page is shown, what is in sight is asked for in the background.
     void askWhenShown() { m_asksWhenShown = true; }
 
+    /// From now on the sliders send no faster than CommandQueue::postPaced does.
+    void paceSliders() { m_paced = true; }
+
+    /// What is to be said beside a value; where time alone changes that, the value is shown again then.
+    Mark markOf(Command command);
+
     void showEvent(QShowEvent *event) override;
 
     /// Exceptions of a page: what happens before a command's value is sent, and after it.
@@ -158,7 +164,6 @@ private:
     QWidget *controlOf(const LockTarget &target) const;
     void fillRow(OptionGroupRow *row);
     void fill(Command command);
-    Mark markOf(Command command);
     static std::optional<Command> commandOf(const Slider &entry);
     void apply(const std::map<Command, Rule> &rules, Command command, int value) const;
 
@@ -168,6 +173,7 @@ private:
     bool m_asksWhenShown = false;
     std::span<const LockRule> m_locks;
     UndoBar *m_undoBar = nullptr;
+    bool m_paced = false;
     std::vector<OptionGroupRow *> m_groups;
     std::vector<SliderWidget *> m_sliders;
     std::vector<Slider> m_sliderEntries;
