@@ -34,6 +34,7 @@
 #include "sessionend.h"
 #include "toptabframe.h"
 #include "trayicon.h"
+#include "traypanelopener.h"
 #include "usb-hid/hidtransport.h"
 
 namespace {
@@ -82,6 +83,7 @@ MainWindow::~MainWindow()
     m_session.setHost(nullptr);
     setLinkObserver({});
     endAccessoryWork();
+    delete m_trayPanel;
     delete m_pages; // before the queue that they send through
     closeHid();
     s_mainWindow = nullptr;
@@ -134,6 +136,7 @@ void MainWindow::initialise()
         readMissingBlock();
     });
     createReconciler();
+    createTrayPanel();
     connect(m_scenePage, &pageSceneSetting::viewShown, this, &MainWindow::followSceneMode);
     createTrayIcon();
     m_shownMonitor = m_session.labels().value(currentMonitorIndex.load());
@@ -186,6 +189,7 @@ void MainWindow::createTrayIcon()
         return;
     }
     m_tray = new TrayIcon(this);
+    connect(m_tray, &TrayIcon::pressed, this, [this] { m_trayPanel->press(m_tray->geometry()); });
     connect(m_tray, &TrayIcon::showWanted, this, &MainWindow::showWindow);
     connect(m_tray, &TrayIcon::exitWanted, this, &MainWindow::leave);
     m_tray->show();
@@ -247,6 +251,7 @@ void MainWindow::followSceneMode()
 
 void MainWindow::showWindow()
 {
+    m_trayPanel->close();
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();

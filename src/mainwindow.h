@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QPointer>
 
+#include "monitorstatus.h"
 #include "navigation.h"
 #include "sessionhost.h"
 
@@ -18,6 +19,7 @@ class QStackedWidget;
 class SearchDeviceDlg;
 class TopTabFrame;
 class TrayIcon;
+class TrayPanelOpener;
 class Page;
 class PageOffice;
 class PanelPage;
@@ -75,6 +77,7 @@ public:
     SettingsPage *settingsPage(PageId id) const;
     /// The page that an entry leads to; null for entries without one.
     Page *page(PageId id) const;
+    TrayPanelOpener *trayPanel() const { return m_trayPanel; }
     HotkeyOverlay *overlay() const { return m_overlay; }
 
     /// Ends the program, unless the user is asked and wants to stay.
@@ -135,7 +138,10 @@ private:
     void followValue(Command command);
     void readMissingBlock();
     void createReconciler();
-    Page *pageInSight() const;
+    void createTrayPanel();
+    MonitorStatus monitorStatus() const;
+    std::vector<Page *> pagesInSight() const;
+    Page *pageInWindow() const;
 
     SearchDeviceDlg &m_session;
     QPixmap m_labelPixmap;
@@ -152,6 +158,7 @@ private:
     HotkeyOverlay *m_overlay = nullptr;
     EmptyPage *m_emptyPage = nullptr;
     QLabel *m_status = nullptr;
+    TrayPanelOpener *m_trayPanel = nullptr;
     TrayIcon *m_tray = nullptr; ///< null where there is no tray
     int m_family = 0;
     bool m_checkWaiting = false;

@@ -18,6 +18,8 @@
 #include "reconciler.h"
 #include "searchdevicedlg.h"
 #include "toptabframe.h"
+#include "traypanel.h"
+#include "traypanelopener.h"
 
 namespace {
 
@@ -50,21 +52,29 @@ void MainWindow::updateControlText()
     for (const auto &[id, page] : m_pageOf)
         page->updateControlText();
     m_emptyPage->updateControlText();
+    m_trayPanel->updateControlText();
     updateInterface();
 }
 
 void MainWindow::updateInterface()
 {
+    const MonitorStatus status = monitorStatus();
+    const QString name = status.name.isEmpty() ? QStringLiteral("–") : status.name.toHtmlEscaped();
+    m_status->setText(
+        QStringLiteral("<span style='color:%1; font-size:9px'>●</span>&nbsp;&nbsp;"
+                       "<span style='color:#adadad'>%2 · %3</span>")
+            .arg(status.isGood ? QStringLiteral("#00ff71") : QStringLiteral("#da676d"), name, status.state));
+    m_status->setAccessibleName(status.name + QLatin1Char(' ') + status.state);
+    m_trayPanel->showStatus(status);
+}
+
+MonitorStatus MainWindow::monitorStatus() const
+{
     const QByteArray label = m_session.labels().value(currentMonitorIndex.load());
     const QString state = label.isEmpty()    ? QObject::tr("no monitor")
                           : monitorAnswers() ? QObject::tr("connected")
                                              : QObject::tr("no answer");
-    const bool good = !label.isEmpty() && monitorAnswers();
-    const QString name = label.isEmpty() ? QStringLiteral("–") : QString::fromUtf8(label).toHtmlEscaped();
-    m_status->setText(QStringLiteral("<span style='color:%1; font-size:9px'>●</span>&nbsp;&nbsp;"
-                                     "<span style='color:#adadad'>%2 · %3</span>")
-                          .arg(good ? QStringLiteral("#00ff71") : QStringLiteral("#da676d"), name, state));
-    m_status->setAccessibleName(QString::fromUtf8(label) + QLatin1Char(' ') + state);
+    return {QString::fromUtf8(label), state, !label.isEmpty() && monitorAnswers()};
 }
 
 /// One request instead of a patient read: a monitor that is silent must not hold up the window.
@@ -83,10 +93,20 @@ void MainWindow::reconnectPages()
     QMetaObject::invokeMethod(m_reconciler, &Reconciler::want, Qt::QueuedConnection); // when the search has ended
 }
 
+/// The panel is a hand of the scene page: modes and halves go one way only.
+void MainWindow::createTrayPanel()
+{
+    m_trayPanel = new TrayPanelOpener(*m_queue, this);
+    connect(m_trayPanel, &TrayPanelOpener::sceneChosen, m_scenePage, &pageSceneSetting::chooseScene);
+    connect(m_trayPanel, &TrayPanelOpener::halfChosen, m_scenePage, &pageSceneSetting::switchHalf);
+    connect(m_trayPanel, &TrayPanelOpener::windowWanted, this, &MainWindow::showWindow);
+    connect(m_trayPanel, &TrayPanelOpener::opened, m_reconciler, &Reconciler::look);
+}
+
 void MainWindow::createReconciler()
 {
     m_reconciler = new Reconciler(
-        *m_queue, m_session, [this] { return pageInSight(); }, this);
+        *m_queue, m_session, [this] { return pagesInSight(); }, this);
     connect(&m_queue->values(), &ValueWatch::changed, this, &MainWindow::followValue);
     setLinkObserver([this] {
         const auto follow = [this] {
@@ -97,10 +117,18 @@ void MainWindow::createReconciler()
     });
 }
 
-Page *MainWindow::pageInSight() const
+std::vector<Page *> MainWindow::pagesInSight() const
 {
-    if (!isVisible() || isMinimized())
-        return nullptr;
+    std::vector<Page *> pages;
+    if (isVisible() && !isMinimized())
+        pages.push_back(pageInWindow());
+    if (m_trayPanel->isOpen())
+        pages.push_back(m_trayPanel->panel());
+    return pages;
+}
+
+Page *MainWindow::pageInWindow() const
+{
     for (const auto &[id, page] : m_pageOf) {
         if (page->widget() == m_pages->currentWidget())
             return page;
@@ -195,6 +223,7 @@ void MainWindow::enableEverything(bool enabled)
             button->setEnabled(enabled);
     }
     m_pages->setEnabled(enabled);
+    m_trayPanel->setUsable(enabled);
     if (!enabled)
         return setCursor(Qt::BusyCursor);
     unsetCursor();

@@ -8,8 +8,8 @@
 #include "platform/desk.h"
 #include "searchdevicedlg.h"
 
-Reconciler::Reconciler(CommandQueue &queue, SearchDeviceDlg &session, PageInSight pageInSight, QObject *parent)
-    : QObject(parent), m_queue(queue), m_session(session), m_pageInSight(std::move(pageInSight))
+Reconciler::Reconciler(CommandQueue &queue, SearchDeviceDlg &session, PagesInSight pagesInSight, QObject *parent)
+    : QObject(parent), m_queue(queue), m_session(session), m_pagesInSight(std::move(pagesInSight))
 {
     connect(&queue, &CommandQueue::asked, this, &Reconciler::answered);
 }
@@ -44,7 +44,7 @@ void Reconciler::linkChanged()
 
 void Reconciler::look()
 {
-    m_facts.isSeen = m_pageInSight() != nullptr;
+    m_facts.isSeen = !m_pagesInSight().empty();
     m_facts.isSearching = m_session.isSearching();
     m_facts.answers = monitorAnswers();
     perform(planReconciliation(m_facts, platform::desk().clock().now()));
@@ -81,7 +81,8 @@ void Reconciler::ask()
     if (!m_facts.answers)
         return;
     m_facts.isWanted = false;
-    m_pageInSight()->reconcile();
+    for (Page *page : m_pagesInSight())
+        page->reconcile();
 }
 
 /// Whoever asked: what was not told is asked for again.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
 #include <QObject>
 
@@ -16,10 +17,10 @@ class Reconciler : public QObject
 {
     Q_OBJECT
 public:
-    /// The page that is in sight; null while nobody can see the window.
-    using PageInSight = std::function<Page *()>;
+    /// The pages that are in sight: one while somebody can see the window, and the tray's panel while it is open.
+    using PagesInSight = std::function<std::vector<Page *>()>;
 
-    Reconciler(CommandQueue &queue, SearchDeviceDlg &session, PageInSight pageInSight, QObject *parent);
+    Reconciler(CommandQueue &queue, SearchDeviceDlg &session, PagesInSight pagesInSight, QObject *parent);
 
     /// Something happened after which what is shown may not hold.
     void want();
@@ -41,7 +42,7 @@ private:
 
     CommandQueue &m_queue;
     SearchDeviceDlg &m_session;
-    PageInSight m_pageInSight;
+    PagesInSight m_pagesInSight;
     ReconcileFacts m_facts;
     int m_looks = 0; ///< a look that was to come later means nothing once another has been taken
 };

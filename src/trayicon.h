@@ -2,6 +2,7 @@
 
 #include <QSystemTrayIcon>
 
+class QMenu;
 class QWidget;
 
 /// The program's place in the system tray, with a menu that shows the window or ends the program. For a system that has
@@ -17,6 +18,12 @@ public:
     void tellRunning();
 
 Q_SIGNALS:
+    /// A single press, or the first of two.
+    void pressed();
+
     void showWanted();
     void exitWanted();
 };
+
+/// Gives a menu the look of the tray's.
+void dressTrayMenu(QMenu *menu);

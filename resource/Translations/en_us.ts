@@ -440,6 +440,10 @@
         <translation>Choose an entry on the left.</translation>
     </message>
     <message>
+        <source>Choose the controls</source>
+        <translation>Choose the controls</translation>
+    </message>
+    <message>
         <source>Cinema colours at a D65 white.</source>
         <translation>Cinema colours at a D65 white.</translation>
     </message>
@@ -686,6 +690,10 @@
     <message>
         <source>Fine lines and clear edges for drawings.</source>
         <translation>Fine lines and clear edges for drawings.</translation>
+    </message>
+    <message>
+        <source>First control</source>
+        <translation>First control</translation>
     </message>
     <message>
         <source>Follow Desc</source>
@@ -1552,6 +1560,10 @@
         <translation>Scroll Right</translation>
     </message>
     <message>
+        <source>Second control</source>
+        <translation>Second control</translation>
+    </message>
+    <message>
         <source>Second tone</source>
         <translation>Second tone</translation>
     </message>
@@ -2106,6 +2118,10 @@
     <message>
         <source>What plays</source>
         <translation>What plays</translation>
+    </message>
+    <message>
+        <source>Wheel: one step · Tab, arrows · Esc closes</source>
+        <translation>Wheel: one step · Tab, arrows · Esc closes</translation>
     </message>
     <message>
         <source>Width</source>

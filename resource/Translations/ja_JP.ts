@@ -440,6 +440,10 @@
         <translation>左側で項目を選んでください。</translation>
     </message>
     <message>
+        <source>Choose the controls</source>
+        <translation>表示する項目を選ぶ</translation>
+    </message>
+    <message>
         <source>Cinema colours at a D65 white.</source>
         <translation>D65 白色点での映画の色です。</translation>
     </message>
@@ -686,6 +690,10 @@
     <message>
         <source>Fine lines and clear edges for drawings.</source>
         <translation>図面に適した細い線とくっきりした輪郭です。</translation>
+    </message>
+    <message>
+        <source>First control</source>
+        <translation>1 つ目の項目</translation>
     </message>
     <message>
         <source>Follow Desc</source>
@@ -1552,6 +1560,10 @@
         <translation>右へスクロール</translation>
     </message>
     <message>
+        <source>Second control</source>
+        <translation>2 つ目の項目</translation>
+    </message>
+    <message>
         <source>Second tone</source>
         <translation>2 つ目の音</translation>
     </message>
@@ -2106,6 +2118,10 @@
     <message>
         <source>What plays</source>
         <translation>再生内容</translation>
+    </message>
+    <message>
+        <source>Wheel: one step · Tab, arrows · Esc closes</source>
+        <translation>ホイールで 1 段階 · Tab・矢印キー · Esc で閉じる</translation>
     </message>
     <message>
         <source>Width</source>

@@ -440,6 +440,10 @@
         <translation>请在左侧选择一项。</translation>
     </message>
     <message>
+        <source>Choose the controls</source>
+        <translation>选择控件</translation>
+    </message>
+    <message>
         <source>Cinema colours at a D65 white.</source>
         <translation>D65 白点下的影院色彩。</translation>
     </message>
@@ -686,6 +690,10 @@
     <message>
         <source>Fine lines and clear edges for drawings.</source>
         <translation>线条精细、边缘清晰，适合制图。</translation>
+    </message>
+    <message>
+        <source>First control</source>
+        <translation>第一个控件</translation>
     </message>
     <message>
         <source>Follow Desc</source>
@@ -1552,6 +1560,10 @@
         <translation>向右滚动</translation>
     </message>
     <message>
+        <source>Second control</source>
+        <translation>第二个控件</translation>
+    </message>
+    <message>
         <source>Second tone</source>
         <translation>第二音</translation>
     </message>
@@ -2106,6 +2118,10 @@
     <message>
         <source>What plays</source>
         <translation>播放内容</translation>
+    </message>
+    <message>
+        <source>Wheel: one step · Tab, arrows · Esc closes</source>
+        <translation>滚轮：一格一步 · Tab 和方向键 · Esc 关闭</translation>
     </message>
     <message>
         <source>Width</source>

@@ -440,6 +440,10 @@
         <translation>請在左側選擇一項。</translation>
     </message>
     <message>
+        <source>Choose the controls</source>
+        <translation>選擇控制項</translation>
+    </message>
+    <message>
         <source>Cinema colours at a D65 white.</source>
         <translation>D65 白點下的電影院色彩。</translation>
     </message>
@@ -686,6 +690,10 @@
     <message>
         <source>Fine lines and clear edges for drawings.</source>
         <translation>線條精細、邊緣清晰，適合製圖。</translation>
+    </message>
+    <message>
+        <source>First control</source>
+        <translation>第一個控制項</translation>
     </message>
     <message>
         <source>Follow Desc</source>
@@ -1552,6 +1560,10 @@
         <translation>向右捲動</translation>
     </message>
     <message>
+        <source>Second control</source>
+        <translation>第二個控制項</translation>
+    </message>
+    <message>
         <source>Second tone</source>
         <translation>第二音</translation>
     </message>
@@ -2106,6 +2118,10 @@
     <message>
         <source>What plays</source>
         <translation>播放內容</translation>
+    </message>
+    <message>
+        <source>Wheel: one step · Tab, arrows · Esc closes</source>
+        <translation>滾輪：一格一步 · Tab 與方向鍵 · Esc 關閉</translation>
     </message>
     <message>
         <source>Width</source>

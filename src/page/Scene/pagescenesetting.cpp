@@ -17,10 +17,6 @@
 #include "page/engine/halfbutton.h"
 #include "page/engine/pagestyle.h"
 
-// The leading blanks are part of the two labels.
-static const char *const kDefaultLabel = QT_TRANSLATE_NOOP("QObject", "        Default");
-static const char *const kCustomLabel = QT_TRANSLATE_NOOP("QObject", "        Custom");
-
 pageSceneSetting::pageSceneSetting(SearchDeviceDlg &session, CommandQueue &queue, QWidget *parent)
     : SettingsPage(queue, parent), m_worker(new WorkThread(session, this)), m_areas(new QStackedWidget(this))
 {

@@ -19,6 +19,9 @@ public:
     /// Switches the monitor to a mode, by its odd value. A mode that is on already, in either half, is left alone.
     void chooseScene(int value);
 
+    /// Shows a half of the mode that is on, and switches the monitor to it.
+    void switchHalf(bool defaultView);
+
     bool isDefaultView() const { return m_defaultView; }
 
     void updateInterfaceData() override;
@@ -57,7 +60,6 @@ private:
     void addRules();
 
     void showHalf(bool defaultView);
-    void switchHalf(bool defaultView);
     void fillCustomArea();
     void showTitle();
 

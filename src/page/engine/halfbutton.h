@@ -1,8 +1,14 @@
 #pragma once
 
+#include <QtGlobal>
+
 class BoundTexts;
 class QPushButton;
 class QWidget;
+
+// The two halves of a scene mode. The leading blanks are part of the labels.
+inline constexpr char kDefaultLabel[] = QT_TRANSLATE_NOOP("QObject", "        Default");
+inline constexpr char kCustomLabel[] = QT_TRANSLATE_NOOP("QObject", "        Custom");
 
 /// Gives a button the pictures of one half of a selector or switch; its label's leading blanks are kept.
 void dressHalfButton(QPushButton *button);

@@ -64,6 +64,16 @@ void dressOptionButton(QPushButton *button)
             .arg(picture(name, "focus"), picture(name, "checkedfocus"), picture(name, "checkeddisabled")));
 }
 
+void checkOnly(QButtonGroup &group, QAbstractButton *chosen)
+{
+    if (chosen)
+        return chosen->setChecked(true); // the group releases the others
+    group.setExclusive(false);           // else the last checked button could not be released
+    for (QAbstractButton *button : group.buttons())
+        button->setChecked(false);
+    group.setExclusive(true);
+}
+
 OptionGroupRow::OptionGroupRow(const OptionGroup &group, BoundTexts &texts, QWidget *parent)
     : QWidget(parent), m_group(group), m_caption(new CaptionLabel(QString(), kCaptionPixels, this)),
       m_exclusive(new QButtonGroup(this)), m_mark(new ValueMark(this)), m_sign(new LockSign(this))
@@ -114,6 +124,11 @@ QPushButton *OptionGroupRow::buttonOf(int value) const
     return found;
 }
 
+void OptionGroupRow::setCaptionWidth(int width)
+{
+    m_caption->setFixedWidth(width);
+}
+
 void OptionGroupRow::hideCaption()
 {
     m_caption->hide();
@@ -122,10 +137,7 @@ void OptionGroupRow::hideCaption()
 void OptionGroupRow::showValue(std::optional<int> value)
 {
     QPushButton *chosen = value ? buttonOf(*value) : nullptr;
-    m_exclusive->setExclusive(false); // else the last checked button could not be released
-    for (QPushButton *button : m_buttons)
-        button->setChecked(button == chosen);
-    m_exclusive->setExclusive(true);
+    checkOnly(*m_exclusive, chosen);
 }
 
 void OptionGroupRow::setMark(Mark mark)

@@ -27,6 +27,9 @@ public:
     /// The button of an option's value; null when the group has no such option.
     QPushButton *buttonOf(int value) const;
 
+    /// Fixes the heading's width, in pixels, where it stands below captions of another width.
+    void setCaptionWidth(int width);
+
     /// Leaves the heading away, where what stands above says the same.
     void hideCaption();
 
@@ -61,3 +64,6 @@ private:
 
 /// Gives a button the pictures of an option button, as small as its text allows.
 void dressOptionButton(QPushButton *button);
+
+/// Checks one button of an exclusive group, or none.
+void checkOnly(QButtonGroup &group, QAbstractButton *chosen);

@@ -1,0 +1,102 @@
+#pragma once
+
+#include <map>
+#include <vector>
+
+#include <QPointer>
+
+#include "monitorstatus.h"
+#include "page/engine/settingspage.h"
+#include "traypanelchoices.h"
+
+class CaptionLabel;
+class QButtonGroup;
+class QComboBox;
+class QMenu;
+class QPushButton;
+class QScrollArea;
+class QToolButton;
+
+/// The small panel of the tray icon: what is changed most, for whoever does not want the whole window. A page of
+/// settings like any other, with the same snapshot and the same queue, on a window of its own.
+class TrayPanel : public SettingsPage
+{
+    Q_OBJECT
+public:
+    explicit TrayPanel(CommandQueue &queue);
+
+    void showStatus(const MonitorStatus &status);
+
+    /// Nothing can be chosen while a slow change of mode is under way.
+    void setUsable(bool usable);
+
+    /// Takes the height that its content wants, but no more than this one, in pixels; what is too much scrolls.
+    void fitInto(int height);
+
+    /// Puts the keyboard on the first control.
+    void begin();
+
+    void updateInterfaceData() override;
+    void updateControlText() override;
+    void reconcile() override;
+
+    /// Puts a control into a place of the user's choice, 0 or 1; where the other place has it, they are exchanged.
+    void choose(std::size_t place, Command command);
+
+Q_SIGNALS:
+    /// The user chose a mode, by its odd value, or a half of the mode that is on.
+    void sceneChosen(int value);
+    void halfChosen(bool defaultView);
+
+    /// Other controls are shown now, which may need another size.
+    void contentChanged();
+
+    /// Escape.
+    void closeWanted();
+
+protected:
+    void followValue(Command command) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    struct Row
+    {
+        TrayControl control;
+        QWidget *holder;
+        int lastOn; ///< of options: the one that was on last, beside the first
+    };
+
+    void build();
+    QWidget *buildHeader();
+    QWidget *buildBody();
+    QWidget *buildHalves();
+    QWidget *buildFooter();
+    void fillMenu(QMenu *menu);
+    Row &rowOf(const TrayControl &control);
+    void showChosen();
+    void orderKeyboard();
+    void fillScenes();
+    void fillScene();
+    void showTwoOptions(Row &row);
+    void showHint(const QString &notice = {});
+
+    const std::vector<TrayControl> m_choices;
+    std::vector<Command> m_chosen;
+    std::map<Command, Row> m_rows; ///< each made when it is first shown
+    MonitorStatus m_status;
+    CaptionLabel *m_name = nullptr;
+    CaptionLabel *m_state = nullptr;
+    QLabel *m_dot = nullptr;
+    ValueMark *m_sceneMark = nullptr;
+    QScrollArea *m_scroll = nullptr;
+    QWidget *m_body = nullptr;
+    QComboBox *m_scene = nullptr;
+    QButtonGroup *m_halves = nullptr;
+    QPushButton *m_default = nullptr;
+    QPushButton *m_custom = nullptr;
+    QVBoxLayout *m_places = nullptr;
+    QLabel *m_hint = nullptr;
+    QToolButton *m_chooser = nullptr;
+    QPointer<QWidget> m_focusBefore; ///< while nothing can be chosen
+};

@@ -1,0 +1,114 @@
+#include "traypanelchoices.h"
+
+#include <algorithm>
+
+#include "ddc_protocol/settingsstore.h"
+#include "page/BasicSetting/systemtable.h"
+#include "page/Game/picturetable.h"
+#include "page/Scene/scenetable.h"
+
+namespace {
+
+constexpr const char *kKeys[kTrayPlaces] = {"TrayPanel/First", "TrayPanel/Second"};
+constexpr Command kUsualChoices[kTrayPlaces] = {Command::LowBlueLight, Command::NightVision};
+constexpr Command kFixed[] = {Command::Brightness, Command::Contrast, Command::AudioVolume};
+
+struct Offer
+{
+    Command command;
+    int usual = 0;
+};
+constexpr Offer kOffers[] = {
+    {Command::LowBlueLight},    {Command::NightVision, 3}, // Auto-L1: the monitor chooses when
+    {Command::Sharpness},       {Command::BlackLevel},     {Command::ContrastEnhance},
+    {Command::SuperResolution}, {Command::HaloControl},    {Command::LightSensor, 1},
+    {Command::Hdr, 1},          {Command::AudioMute, 1},
+};
+
+bool isThere(const std::optional<Capability> &needs, const DeviceState &state)
+{
+    return !needs || state.has(*needs);
+}
+
+std::optional<TrayControl> findIn(const Section &section, Command command, const DeviceState &state)
+{
+    if (const auto *group = std::get_if<OptionGroup>(&section)) {
+        if (group->command == command && isThere(group->needs, state))
+            return TrayControl{command, group->label, *group};
+    } else if (const auto *grid = std::get_if<SliderGrid>(&section)) {
+        for (const SliderSpec &spec : grid->sliders) {
+            if (spec.command == command && isThere(spec.needs, state))
+                return TrayControl{command, spec.caption, SliderGrid{nullptr, 1, kTrayCaptionWidth, {&spec, 1}}};
+        }
+    }
+    return {};
+}
+
+std::optional<TrayControl> findIn(std::span<const Section> sections, Command command, const DeviceState &state)
+{
+    for (const Section &section : sections) {
+        if (auto found = findIn(section, command, state))
+            return found;
+    }
+    return {};
+}
+
+std::optional<TrayControl> findOnPages(Command command, const DeviceState &state)
+{
+    if (auto found = findIn(sceneSections(), command, state))
+        return found;
+    std::vector<PanelSpec> panels = picturePanels(state);
+    panels.insert(panels.end(), systemPanels().begin(), systemPanels().end());
+    for (const PanelSpec &panel : panels) {
+        if (auto found = findIn(panel.sections, command, state))
+            return found;
+    }
+    return {};
+}
+
+} // namespace
+
+std::vector<TrayControl> trayFixedControls(const DeviceState &state)
+{
+    std::vector<TrayControl> controls;
+    for (const Command command : kFixed)
+        controls.push_back(*findOnPages(command, state));
+    return controls;
+}
+
+std::vector<TrayControl> trayChoices(const DeviceState &state)
+{
+    std::vector<TrayControl> choices;
+    for (const Offer &offer : kOffers) {
+        if (auto found = findOnPages(offer.command, state)) {
+            found->usual = offer.usual;
+            choices.push_back(*found);
+        }
+    }
+    return choices;
+}
+
+std::vector<Command> storedTrayChoices(std::span<const TrayControl> choices)
+{
+    std::vector<Command> chosen(std::begin(kUsualChoices), std::end(kUsualChoices));
+    for (std::size_t place = 0; place < chosen.size(); ++place) {
+        const QString stored =
+            settingsString(QLatin1String(kKeys[place]), {}, false, QLatin1String(kConfigFile));
+        const auto found = std::find_if(choices.begin(), choices.end(),
+                                        [&](const TrayControl &choice) { return stored == QLatin1String(choice.label); });
+        if (found != choices.end())
+            chosen[place] = found->command;
+    }
+    return chosen[0] != chosen[1] ? chosen : std::vector(std::begin(kUsualChoices), std::end(kUsualChoices));
+}
+
+bool storeTrayChoices(std::span<const TrayControl> choices, std::span<const Command> chosen)
+{
+    bool stored = true;
+    for (std::size_t place = 0; place < chosen.size(); ++place) {
+        const auto found = std::find_if(choices.begin(), choices.end(),
+                                        [&](const TrayControl &choice) { return choice.command == chosen[place]; });
+        stored = storeSetting(QLatin1String(kKeys[place]), QLatin1String(found->label)) && stored;
+    }
+    return stored;
+}

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <memory>
+
+#include <QDateTime>
+#include <QObject>
+#include <QRect>
+
+#include "monitorstatus.h"
+#include "traypanelplace.h"
+
+class CommandQueue;
+class QScreen;
+class QWindow;
+class TrayPanel;
+
+/// Opens and closes the panel of the tray icon, which is made when it is first wanted. The window owns it.
+class TrayPanelOpener : public QObject
+{
+    Q_OBJECT
+public:
+    explicit TrayPanelOpener(CommandQueue &queue, QObject *parent = nullptr);
+    ~TrayPanelOpener() override;
+
+    /// The icon was pressed, by mouse or keyboard. An icon whose place the tray does not tell has an empty rectangle:
+    /// then the pointer's place counts.
+    void press(const QRect &icon);
+
+    void close();
+
+    /// The panel; null until it is first wanted.
+    TrayPanel *panel() const { return m_panel.get(); }
+    bool isOpen() const;
+
+    void showStatus(const MonitorStatus &status);
+    void setUsable(bool usable);
+    void updateControlText();
+
+Q_SIGNALS:
+    /// What the panel says: see there.
+    void sceneChosen(int value);
+    void halfChosen(bool defaultView);
+
+    void opened();
+    void windowWanted();
+
+private:
+    void open(const QRect &icon);
+    void make();
+    void place();
+    void followFocus(const QWindow *focused);
+    TrayPressFacts facts() const;
+
+    CommandQueue &m_queue;
+    std::unique_ptr<TrayPanel> m_panel;
+    MonitorStatus m_status;
+    bool m_usable = true;
+    bool m_hadFocus = false; ///< since it was opened
+    QRect m_icon;       ///< at which the panel stands
+    QDateTime m_opened; ///< when it was opened last
+    QDateTime m_left;   ///< when it closed because the user went elsewhere
+};
