@@ -111,6 +111,7 @@ void TrayPanel::showStatus(const MonitorStatus &status)
 {
     m_status = status;
     m_name->setText(status.name.isEmpty() ? QStringLiteral("–") : status.name);
+    m_dot->setAccessibleName(status.state);
     m_dot->setStyleSheet(status.isGood ? QStringLiteral("color: #00ff71;") : QStringLiteral("color: #da676d;"));
     fillScene();
 }
@@ -228,6 +229,16 @@ void TrayPanel::reconcile()
     if (isVisible() && !deviceState.isFresh(Command::SceneMode))
         queue().ask(Command::SceneMode);
     SettingsPage::reconcile();
+}
+
+/// Arrows open the list of modes: a held key must not send the monitor through all of them.
+bool TrayPanel::eventFilter(QObject *watched, QEvent *event)
+{
+    const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent *>(event)->key() : 0;
+    if (watched != m_scene || (key != Qt::Key_Up && key != Qt::Key_Down))
+        return SettingsPage::eventFilter(watched, event);
+    m_scene->showPopup();
+    return true;
 }
 
 void TrayPanel::keyPressEvent(QKeyEvent *event)

@@ -56,6 +56,7 @@ Q_SIGNALS:
 
 protected:
     void followValue(Command command) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 

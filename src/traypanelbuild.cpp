@@ -94,6 +94,7 @@ QWidget *TrayPanel::buildBody()
     m_scene->setFixedHeight(kControlHeight);
     m_scene->setPlaceholderText(QStringLiteral("–"));
     m_scene->setMaxVisibleItems(12);
+    m_scene->installEventFilter(this);
     connect(m_scene, &QComboBox::activated, this, [this](int index) {
         Q_EMIT sceneChosen(m_scene->itemData(index).toInt());
         fillScene();

@@ -19,10 +19,9 @@ struct Offer
     int usual = 0;
 };
 constexpr Offer kOffers[] = {
-    {Command::LowBlueLight},    {Command::NightVision, 3}, // Auto-L1: the monitor chooses when
-    {Command::Sharpness},       {Command::BlackLevel},     {Command::ContrastEnhance},
-    {Command::SuperResolution}, {Command::HaloControl},    {Command::LightSensor, 1},
-    {Command::Hdr, 1},          {Command::AudioMute, 1},
+    {Command::LowBlueLight}, {Command::NightVision, 3}, // Auto-L1: the monitor chooses when
+    {Command::Sharpness},    {Command::BlackLevel},     {Command::ContrastEnhance}, {Command::SuperResolution},
+    {Command::HaloControl},  {Command::LightSensor, 1}, {Command::Hdr, 1},          {Command::AudioMute, 1},
 };
 
 bool isThere(const std::optional<Capability> &needs, const DeviceState &state)
@@ -60,6 +59,8 @@ std::optional<TrayControl> findOnPages(Command command, const DeviceState &state
     std::vector<PanelSpec> panels = picturePanels(state);
     panels.insert(panels.end(), systemPanels().begin(), systemPanels().end());
     for (const PanelSpec &panel : panels) {
+        if (!isThere(panel.needs, state))
+            continue;
         if (auto found = findIn(panel.sections, command, state))
             return found;
     }
@@ -92,10 +93,10 @@ std::vector<Command> storedTrayChoices(std::span<const TrayControl> choices)
 {
     std::vector<Command> chosen(std::begin(kUsualChoices), std::end(kUsualChoices));
     for (std::size_t place = 0; place < chosen.size(); ++place) {
-        const QString stored =
-            settingsString(QLatin1String(kKeys[place]), {}, false, QLatin1String(kConfigFile));
-        const auto found = std::find_if(choices.begin(), choices.end(),
-                                        [&](const TrayControl &choice) { return stored == QLatin1String(choice.label); });
+        const QString stored = settingsString(QLatin1String(kKeys[place]), {}, false, QLatin1String(kConfigFile));
+        const auto found = std::find_if(choices.begin(), choices.end(), [&](const TrayControl &choice) {
+            return stored == QLatin1String(choice.label);
+        });
         if (found != choices.end())
             chosen[place] = found->command;
     }

@@ -32,8 +32,7 @@ TrayPressFacts TrayPanelOpener::facts() const
 /// A question that stands in the window is not to be missed behind the panel.
 void TrayPanelOpener::press(const QRect &icon)
 {
-    const TrayPress meaning =
-        QApplication::activeModalWidget() ? TrayPress::ShowWindow : meaningOfTrayPress(facts());
+    const TrayPress meaning = QApplication::activeModalWidget() ? TrayPress::ShowWindow : meaningOfTrayPress(facts());
     if (meaning == TrayPress::Open)
         return open(icon);
     close();

@@ -56,7 +56,7 @@ private:
     MonitorStatus m_status;
     bool m_usable = true;
     bool m_hadFocus = false; ///< since it was opened
-    QRect m_icon;       ///< at which the panel stands
-    QDateTime m_opened; ///< when it was opened last
-    QDateTime m_left;   ///< when it closed because the user went elsewhere
+    QRect m_icon;            ///< at which the panel stands
+    QDateTime m_opened;      ///< when it was opened last
+    QDateTime m_left;        ///< when it closed because the user went elsewhere
 };

@@ -22,8 +22,8 @@ bool isWithin(const std::optional<platform::milliseconds> &time, platform::milli
 
 QPoint placeTrayPanel(const QRect &icon, const QRect &available, const QSize &panel)
 {
-    const QRect room =
-        available.adjusted(kTrayPanelGap, kTrayPanelGap, -kTrayPanelGap - panel.width(), -kTrayPanelGap - panel.height());
+    const QRect room = available.adjusted(kTrayPanelGap, kTrayPanelGap, -kTrayPanelGap - panel.width(),
+                                          -kTrayPanelGap - panel.height());
     const QPoint centre = icon.center();
     const int toBottom = available.bottom() - centre.y();
     const int toTop = centre.y() - available.top();

@@ -1,3 +1,4 @@
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QMenu>
 #include <QPushButton>
@@ -58,7 +59,8 @@ void TestTrayPanel::settle()
 
 void TestTrayPanel::wheel(QWidget *under, int turn)
 {
-    QWheelEvent event(QPointF(5, 5), QPointF(5, 5), {}, {0, turn}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QWheelEvent event(QPointF(5, 5), QPointF(5, 5), {}, {0, turn}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                      false);
     QSpontaneKeyEvent::setSpontaneous(&event);
     qApp->notify(under, &event);
 }
@@ -79,7 +81,9 @@ void TestTrayPanel::place_data()
     for (const auto &[scale, size] : {std::pair(100, QSize(1920, 1080)), {150, {1280, 720}}, {200, {960, 540}}}) {
         const int bar = 40;
         for (const QPoint corner : {QPoint(0, 0), QPoint(-size.width(), 200)}) {
-            const auto screen = [&, corner, size](int x, int y, int w, int h) { return QRect(corner + QPoint(x, y), QSize(w, h)); };
+            const auto screen = [&, corner, size](int x, int y, int w, int h) {
+                return QRect(corner + QPoint(x, y), QSize(w, h));
+            };
             const int w = size.width();
             const int h = size.height();
             const QByteArray name = QByteArray::number(scale) + (corner.x() < 0 ? " left screen, " : " ");
@@ -100,7 +104,8 @@ void TestTrayPanel::place()
     QVERIFY(available.contains(panel));
     QVERIFY(!panel.intersects(icon));
     QVERIFY(panel.adjusted(-60, -60, 60, 60).intersects(icon));
-    QCOMPARE(placeTrayPanel(icon, available, available.size()), available.topLeft() + QPoint(kTrayPanelGap, kTrayPanelGap));
+    QCOMPARE(placeTrayPanel(icon, available, available.size()),
+             available.topLeft() + QPoint(kTrayPanelGap, kTrayPanelGap));
 }
 
 void TestTrayPanel::presses_data()
@@ -156,7 +161,8 @@ void TestTrayPanel::wheelIsPaced()
     const auto writes = [this](const char *what) { return m_desk->takeCommands().filter(QLatin1String(what)).count(); };
     m_desk->takeCommands();
     for (int i = 0; i < 50; ++i) {
-        wheel(i % 2 == 0 ? static_cast<QWidget *>(brightness->slider()) : brightness->valueLabel(), i < 10 ? 120 : -120);
+        wheel(i % 2 == 0 ? static_cast<QWidget *>(brightness->slider()) : brightness->valueLabel(),
+              i < 10 ? 120 : -120);
         (void)QTest::qWaitFor([queue] { return queue->isIdle(); }, 5); // for whatever may go now
         m_desk->clock.advance(20ms);
     }
@@ -166,7 +172,7 @@ void TestTrayPanel::wheelIsPaced()
     QVERIFY(writes("W 10") <= 12);
 
     wheel(brightness, -120);
-    wheel(brightness, -60); // half a notch
+    wheel(brightness, -60);                 // half a notch
     m_window->scenePage()->chooseScene(13); // a direct command goes behind what waits
     QCOMPARE(m_desk->takeCommands().filter("W "), (QStringList{QStringLiteral("W 10=%1").arg(before - 31), "W 22=13"}));
 }
@@ -183,13 +189,22 @@ void TestTrayPanel::sceneGoesThePagesWay()
     QVERIFY(entry(0, "Night Mode")->isChecked() && m_window->scenePage()->isDefaultView());
     QVERIFY(shown<QPushButton>("Default")->isChecked());
 
+    QTest::keyClick(scenes, Qt::Key_Down); // opens the list only
+    QTest::keyClick(scenes->view(), Qt::Key_Down);
+    QTest::keyClick(scenes->view(), Qt::Key_Return);
+    settle();
+    QCOMPARE(m_desk->takeCommands().filter("W "), QStringList("W 22=15"));
+    Q_EMIT scenes->activated(scenes->findText("Night Mode"));
+    settle();
+    m_desk->takeCommands();
     auto *custom = shown<QPushButton>("Custom");
     custom->setFocus();
     QTest::keyClick(custom, Qt::Key_Space);
     QVERIFY(!custom->isEnabled()); // the block is read first, as on the page
     settle();
     QCOMPARE(m_desk->takeCommands().filter("W "), QStringList("W 22=14"));
-    QVERIFY(custom->isChecked() && custom->hasFocus() && !m_window->scenePage()->isDefaultView());
+    QVERIFY(custom->isChecked() && !m_window->scenePage()->isDefaultView());
+    QCOMPARE(panel().focusWidget(), custom);
     QCOMPARE(panel().slider("Brightness")->value(), int(m_desk->monitor().value(0x10)));
 
     m_desk->monitor().refuse(0x22, virtualdesk::kForEver);

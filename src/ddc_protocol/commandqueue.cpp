@@ -11,7 +11,7 @@
 #include "platform/desk.h"
 #include "platform/ending.h"
 
-static constexpr platform::milliseconds kPace{100};
+static constexpr platform::milliseconds kPace{120};
 
 CommandQueue::CommandQueue(QObject *parent) : QObject(parent)
 {

@@ -27,7 +27,7 @@ public:
     void post(Command command, int value);
 
     /// As post, for what comes faster than a monitor should be written to: of each command at most one value goes in
-    /// 100 ms, the newest; the last one given goes in any case, at once when somebody drains. Interface thread only.
+    /// 120 ms, the newest; the last one given goes in any case, at once when somebody drains. Interface thread only.
     void postPaced(Command command, int value);
 
     /// Asks the monitor for a value, once, without retries that would hold up others. Nothing is logged. A monitor that
