@@ -40,7 +40,6 @@ private:
     template <typename Widget> Widget *shown(const QString &name) const;
 };
 
-/// With the window in the tray and the panel open.
 void TestTrayPanel::open(int scene)
 {
     start(scene, 0, [] { (void)storeSetting(QStringLiteral("TrayPanel/First"), QStringLiteral("No such control")); });
@@ -65,7 +64,6 @@ void TestTrayPanel::wheel(QWidget *under, int turn)
     qApp->notify(under, &event);
 }
 
-/// The one in sight whose accessible name is this.
 template <typename Widget> Widget *TestTrayPanel::shown(const QString &name) const
 {
     for (Widget *widget : panel().findChildren<Widget *>()) {
@@ -79,7 +77,6 @@ void TestTrayPanel::place_data()
 {
     columns<QRect, QRect>("available", "icon");
     for (const auto &[scale, size] : {std::pair(100, QSize(1920, 1080)), {150, {1280, 720}}, {200, {960, 540}}}) {
-        const int bar = 40;
         for (const QPoint corner : {QPoint(0, 0), QPoint(-size.width(), 200)}) {
             const auto screen = [&, corner, size](int x, int y, int w, int h) {
                 return QRect(corner + QPoint(x, y), QSize(w, h));
@@ -87,11 +84,11 @@ void TestTrayPanel::place_data()
             const int w = size.width();
             const int h = size.height();
             const QByteArray name = QByteArray::number(scale) + (corner.x() < 0 ? " left screen, " : " ");
-            row((name + "bottom").constData(), screen(0, 0, w, h - bar), screen(w - 90, h - 32, 24, 24));
+            row((name + "bottom").constData(), screen(0, 0, w, h - 40), screen(w - 90, h - 32, 24, 24));
             row((name + "bottom, hides itself").constData(), screen(0, 0, w, h), screen(w - 90, h - 32, 24, 24));
-            row((name + "top").constData(), screen(0, bar, w, h - bar), screen(w - 30, 8, 24, 24));
-            row((name + "left").constData(), screen(bar, 0, w - bar, h), screen(8, h - 90, 24, 24));
-            row((name + "right").constData(), screen(0, 0, w - bar, h), screen(w - 32, h - 60, 24, 24));
+            row((name + "top").constData(), screen(0, 40, w, h - 40), screen(w - 30, 8, 24, 24));
+            row((name + "left").constData(), screen(40, 0, w - 40, h), screen(8, h - 90, 24, 24));
+            row((name + "right").constData(), screen(0, 0, w - 40, h), screen(w - 32, h - 60, 24, 24));
         }
     }
 }
@@ -145,7 +142,7 @@ void TestTrayPanel::opensTrue()
     QCOMPARE(panel().slider("Audio Volume")->value(), 33);
     QVERIFY(shown<QPushButton>("Night Vision: Level2")->isChecked()); // in place of the usual one
     QVERIFY(shown<QPushButton>("Night Vision: Close") && !shown<QPushButton>("Night Vision: Auto-L1"));
-    QVERIFY(!m_window->isVisible());
+    QVERIFY(!m_window->isVisible() && panel().accessibleName().contains("connected"));
 
     m_desk->clock.advance(50ms);
     Q_EMIT icon.activated(QSystemTrayIcon::DoubleClick);
@@ -235,13 +232,6 @@ void TestTrayPanel::saysWhatIsNotConfirmed()
     settle();
     QCOMPARE(contrast->mark(), Mark::Refused);
     QCOMPARE(contrast->value(), wanted); // stays where the user put it
-
-    m_desk->monitor().goDeaf();
-    m_desk->clock.advance(5s);
-    m_window->trayPanel()->close();
-    m_window->trayPanel()->press({});
-    settle();
-    QVERIFY(panel().accessibleName().contains("no answer"));
 }
 
 void TestTrayPanel::choicesAreKept()
