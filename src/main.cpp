@@ -1,6 +1,8 @@
 #include <QDebug>
 #include <QFontDatabase>
 #include <QLocale>
+#include <QPalette>
+#include <QToolTip>
 
 #include "controls/messagebox.h"
 #include "controls/sharedfonts.h"
@@ -37,12 +39,23 @@ void loadInterfaceFont()
     QApplication::setFont(font);
 }
 
+/// Tips say why a control cannot be used, also over pages whose text is white.
+void dressToolTips()
+{
+    QPalette palette = QToolTip::palette();
+    palette.setColor(QPalette::ToolTipBase, QColor(0x1b, 0x23, 0x20));
+    palette.setColor(QPalette::ToolTipText, Qt::white);
+    QToolTip::setPalette(palette);
+    QToolTip::setFont(noteFont);
+}
+
 int runProgram(SingleApplication &application, void *mutex)
 {
     QApplication::setAttribute(Qt::AA_Use96Dpi); // high-dpi scaling needs no attribute: Qt 6 always scales
     QApplication::setQuitOnLastWindowClosed(false);
     loadInterfaceFont();
     setUpSharedFonts();
+    dressToolTips();
     deviceState.clear();
 
     SearchDeviceDlg session;

@@ -81,6 +81,7 @@ QStringList TestCare::deadEnds(SettingsPage *page) const
 void TestCare::everyLockHasItsReason()
 {
     start(10);
+    const auto busy = lockTransport(); // what the monitor has is not to come in between
     std::set<QString> reasons;
     for (const SceneMode &mode : sceneModes()) {
         for (const auto &[temperature, enhance] : {std::pair(0, 0), {7, 3}, {9, 0}}) {

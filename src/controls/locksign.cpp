@@ -34,5 +34,7 @@ void LockSign::paintEvent(QPaintEvent *)
     painter.setPen(Qt::NoPen);
     painter.setBrush(color);
     painter.drawRoundedRect(QRectF(centre.x() - 4.5, centre.y() - 1.5, 9, 7), 1.5, 1.5);
-    drawFocus(painter, rect(), 4.0);
+    QRect around(0, 0, kSize, kSize);
+    around.moveCenter(rect().center());
+    drawFocus(painter, around, 4.0);
 }

@@ -99,9 +99,8 @@ void AutomaticWriter::settle(bool ok)
 std::optional<qint64> automaticWritesADay()
 {
     bool isNumber = false;
-    const qint64 stored =
-        settingsString(QStringLiteral("Care/AutomaticWrites"), {}, false, QLatin1String(kConfigFile))
-            .toLongLong(&isNumber);
+    const qint64 stored = settingsString(QStringLiteral("Care/AutomaticWrites"), {}, false, QLatin1String(kConfigFile))
+                              .toLongLong(&isNumber);
     if (!isNumber)
         return kWritesADay;
     return stored < 0 ? std::nullopt : std::optional(stored);

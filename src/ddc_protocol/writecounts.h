@@ -44,7 +44,7 @@ public:
 
 private:
     using Days = std::map<QDate, qint64>; ///< an invalid date for all days that lie far back
-    using Key = std::pair<QString, int>;         ///< monitor and code
+    using Key = std::pair<QString, int>;  ///< monitor and code
     using Table = std::map<Key, Days>;
 
     static void add(Table &counts, const Table &more);

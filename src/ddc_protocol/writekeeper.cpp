@@ -8,9 +8,8 @@ static constexpr platform::milliseconds kStoredAfter{60'000};
 WriteKeeper::WriteKeeper(QObject *parent) : QObject(parent)
 {
     writeCounts.setObserver([this] {
-        QMetaObject::invokeMethod(this, [this] {
-            platform::desk().clock().callLater(kStoredAfter, this, [] { writeCounts.store(); });
-        });
+        QMetaObject::invokeMethod(
+            this, [this] { platform::desk().clock().callLater(kStoredAfter, this, [] { writeCounts.store(); }); });
     });
 }
 

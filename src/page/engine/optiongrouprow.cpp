@@ -105,6 +105,7 @@ OptionGroupRow::OptionGroupRow(const OptionGroup &group, BoundTexts &texts, QWid
     markPolicy.setRetainSizeWhenHidden(true); // the buttons must not jump when it comes
     m_mark->setSizePolicy(markPolicy);
     flow->addWidget(m_mark);
+    m_sign->setFixedHeight(m_caption->height());
     flow->addWidget(m_sign);
     connect(m_sign, &LockSign::pressed, this, &OptionGroupRow::lockPressed);
     auto *row = new QHBoxLayout(this);

@@ -48,7 +48,8 @@ void UndoBar::offer(const UndoOffer &offer)
     m_offer->monitor = monitorIdentity();
     m_left = kOffered;
     show();
-    tick(++m_number);
+    ++m_number;
+    tick();
 }
 
 void UndoBar::setTexts(const QString &text, const QString &undo)
@@ -65,18 +66,19 @@ void UndoBar::setTexts(const QString &text, const QString &undo)
 }
 
 /// The time is counted, not read from the clock: somebody may set that back.
-void UndoBar::tick(unsigned offer)
+void UndoBar::tick()
 {
     check();
-    if (!m_offer || offer != m_number)
+    if (!m_offer)
         return;
     if (m_left.count() <= 0)
         return withdraw();
     update();
-    platform::desk().clock().callLater(kTick, this, [this, offer] {
-        if (offer == m_number)
-            m_left -= kTick;
-        tick(offer);
+    platform::desk().clock().callLater(kTick, this, [this, number = m_number] {
+        if (number != m_number)
+            return; // an older offer's time
+        m_left -= kTick;
+        tick();
     });
 }
 

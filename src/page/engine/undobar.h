@@ -50,7 +50,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void tick(unsigned offer);
+    void tick();
     void withdraw();
 
     std::optional<UndoOffer> m_offer;
