@@ -18,19 +18,55 @@ struct EnumerationEntry
 {
     QString deviceName;
     platform::DisplayHandle display = nullptr;
-    QString model;
+    MonitorIdentity identity;
+    EdidFacts facts;
 };
 
 const char *const kEdidKey = "SYSTEM\\CurrentControlSet\\Enum\\%1\\Device Parameters";
 
-QByteArray readEdid(QString interfaceName)
+/// The path of a monitor among the system's devices, from the name of its device interface.
+QString devicePath(QString interfaceName)
 {
     if (interfaceName.startsWith(QLatin1String("\\\\?\\")))
         interfaceName.remove(0, 4);
-    interfaceName = interfaceName.section(QLatin1String("#{"), 0, 0).replace(QLatin1Char('#'), QLatin1Char('\\'));
-    const auto value = platform::desk().displays().localMachineValue(QString::fromLatin1(kEdidKey).arg(interfaceName),
-                                                                     QStringLiteral("EDID"));
+    return interfaceName.section(QLatin1String("#{"), 0, 0).replace(QLatin1Char('#'), QLatin1Char('\\'));
+}
+
+QByteArray readEdid(const QString &path)
+{
+    const auto value =
+        platform::desk().displays().localMachineValue(QString::fromLatin1(kEdidKey).arg(path), QStringLiteral("EDID"));
     return value && value->isBinary ? value->bytes : QByteArray();
+}
+
+constexpr QLatin1Char kSeparator(';'); // of names; in a name as well, which then counts as several
+
+/// The monitors on display number n; none when any of them has no readable EDID.
+std::vector<EnumerationEntry> monitorsOnDisplay(int n)
+{
+    platform::Displays &displays = platform::desk().displays();
+    const QString target = QStringLiteral("DISPLAY%1").arg(n);
+    qDebug().noquote() << "Input Device name" << target;
+
+    std::vector<EnumerationEntry> found;
+    for (std::uint32_t a = 0; const auto adapter = displays.adapter(a); ++a) {
+        for (std::uint32_t m = 0; const auto monitor = displays.monitor(adapter->name, m); ++m) {
+            qDebug().noquote() << "Enum Device name" << monitor->name;
+            if (!monitor->name.contains(target))
+                continue;
+            const QString path = devicePath(monitor->id);
+            const QByteArray edid = readEdid(path);
+            if (edid.isEmpty()) {
+                qDebug() << "EDID read error.";
+                return {};
+            }
+            const EdidFacts facts = edidFacts(edid);
+            const MonitorIdentity identity{edidModelName(edid), facts.serial, path.section(QLatin1Char('\\'), -1)};
+            qDebug().noquote() << "display0" << identity.name;
+            found.push_back({{}, nullptr, identity, facts});
+        }
+    }
+    return found;
 }
 
 void getMonitorInfoList(platform::DisplayHandle display, std::vector<EnumerationEntry> &entries)
@@ -43,15 +79,20 @@ void getMonitorInfoList(platform::DisplayHandle display, std::vector<Enumeration
     const QRegularExpressionMatch match = pattern.match(deviceName);
     if (!match.hasMatch())
         return;
-    static const QRegularExpression separator(QStringLiteral("[;]"));
-    const QStringList names =
-        monitorNameFromDisplayIndex(match.captured(1).toInt()).split(separator, Qt::SkipEmptyParts);
-    if (projectionMode == ProjectionMode::InternalOnly && names.size() >= 2) {
+    const std::size_t before = entries.size();
+    for (EnumerationEntry entry : monitorsOnDisplay(match.captured(1).toInt())) {
+        entry.deviceName = deviceName;
+        entry.display = display;
+        const QStringList names = entry.identity.name.split(kSeparator, Qt::SkipEmptyParts);
+        for (const QString &name : names) {
+            entry.identity.name = name;
+            entries.push_back(entry);
+        }
+    }
+    if (projectionMode == ProjectionMode::InternalOnly && entries.size() - before >= 2) {
         qDebug() << "ExternalOnly";
         projectionMode = ProjectionMode::ExternalOnly;
     }
-    for (const QString &name : names)
-        entries.push_back({deviceName, display, name});
 }
 
 /// The first physical monitor of a display; what else the platform handed out is given back at once.
@@ -63,17 +104,19 @@ MonitorInfo firstPhysicalMonitor(platform::DisplayHandle display)
     if (count == 0 || !monitors.fetch(display, records))
         return {};
     monitors.destroy(std::span(records).subspan(1));
-    return {records.front(), true, {}};
+    return {records.front(), true, {}, {}};
 }
 
 void appendMonitor(const EnumerationEntry &entry, int number, const QString &screenName, QByteArrayList &labels)
 {
-    const QString &name = entry.model.isEmpty() ? screenName : entry.model;
+    const QString &model = entry.identity.name;
+    const QString &name = model.isEmpty() ? screenName : model;
     labels += QStringLiteral("%1. %2").arg(number).arg(name).toUtf8();
     MonitorInfo record = firstPhysicalMonitor(entry.display);
-    qDebug().noquote() << "hMonitor " << entry.display << "deviceName " << entry.deviceName << "model " << entry.model
+    record.identity = entry.identity;
+    record.facts = entry.facts;
+    qDebug().noquote() << "hMonitor " << entry.display << "deviceName " << entry.deviceName << "model " << model
                        << "Monitor.hPhysicalMonitor" << record.handle;
-    record.label = QString::fromUtf8(labels.last());
     monitorList.push_back(record);
 }
 
@@ -128,25 +171,8 @@ QByteArrayList findDevices()
 
 QString monitorNameFromDisplayIndex(int n)
 {
-    platform::Displays &displays = platform::desk().displays();
-    const QString target = QStringLiteral("DISPLAY%1").arg(n);
-    qDebug().noquote() << "Input Device name" << target;
-
     QStringList names;
-    for (std::uint32_t a = 0; const auto adapter = displays.adapter(a); ++a) {
-        for (std::uint32_t m = 0; const auto monitor = displays.monitor(adapter->name, m); ++m) {
-            qDebug().noquote() << "Enum Device name" << monitor->name;
-            if (!monitor->name.contains(target))
-                continue;
-            const QByteArray edid = readEdid(monitor->id);
-            if (edid.isEmpty()) {
-                qDebug() << "EDID read error.";
-                return {};
-            }
-            const QString model = edidModelName(edid);
-            qDebug().noquote() << "display0" << model;
-            names += model;
-        }
-    }
-    return names.join(QLatin1Char(';'));
+    for (const EnumerationEntry &entry : monitorsOnDisplay(n))
+        names += entry.identity.name;
+    return names.join(kSeparator);
 }

@@ -8,14 +8,25 @@
 #include <QByteArrayList>
 #include <QString>
 
+#include "ddc_protocol/edid.h"
 #include "platform/monitorconfiguration.h"
+
+/// Which monitor of all: two of the same model differ in serial number or at least in where they are connected.
+struct MonitorIdentity
+{
+    QString name;   ///< as the EDID says
+    QString serial; ///< as the EDID says; may be empty
+    QString place;  ///< the system's name of the connection; it lasts while the cable stays
+    bool operator==(const MonitorIdentity &) const = default;
+};
 
 /// One monitor that commands can go to: the platform's record of it, and beside it whether there is one. The handle
 /// does not tell, for null may be one.
 struct MonitorInfo : platform::PhysicalMonitor
 {
     bool fetched = false; ///< off: the platform gave none, the record is empty, and every command to it fails
-    QString label = {};   ///< as the user sees it
+    MonitorIdentity identity;
+    EdidFacts facts;
 
     /// What requests go to; nothing when it was not fetched.
     std::optional<platform::PhysicalMonitorHandle> target() const

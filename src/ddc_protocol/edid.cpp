@@ -8,24 +8,36 @@ constexpr qsizetype kDescriptorSize = 18;
 constexpr qsizetype kNameOffset = 5;
 constexpr qsizetype kNameSize = 13;
 constexpr char kMonitorNameTag = char(0xFC);
+constexpr char kSerialTag = char(0xFF);
+constexpr qsizetype kSerialOffset = 12; // 32 bits, as week and year beside it in the header
+constexpr qsizetype kWeekOffset = 16;
+constexpr qsizetype kYearOffset = 17;
+constexpr int kFirstYear = 1990;
+constexpr int kLastWeek = 54;
+
+int byteAt(const QByteArray &bytes, qsizetype offset)
+{
+    return static_cast<quint8>(bytes[offset]);
+}
 
 int littleEndianWord(const QByteArray &bytes, qsizetype offset)
 {
-    return static_cast<quint8>(bytes[offset]) | static_cast<quint8>(bytes[offset + 1]) << 8;
+    return byteAt(bytes, offset) | byteAt(bytes, offset + 1) << 8;
 }
 
-QString descriptorName(const QByteArray &edid)
+/// The first descriptor of a kind that is not empty.
+QString descriptorText(const QByteArray &edid, char tag)
 {
     for (const qsizetype offset : kDescriptorOffsets) {
         if (offset + kDescriptorSize - 1 >= edid.size())
             break;
-        const bool isName =
-            edid[offset] == 0 && edid[offset + 1] == 0 && edid[offset + 2] == 0 && edid[offset + 3] == kMonitorNameTag;
-        if (!isName)
+        const bool isText =
+            edid[offset] == 0 && edid[offset + 1] == 0 && edid[offset + 2] == 0 && edid[offset + 3] == tag;
+        if (!isText)
             continue;
-        const QString name = QString::fromLatin1(edid.constData() + offset + kNameOffset, kNameSize).trimmed();
-        if (!name.isEmpty())
-            return name;
+        const QString text = QString::fromLatin1(edid.constData() + offset + kNameOffset, kNameSize).trimmed();
+        if (!text.isEmpty())
+            return text;
     }
     return {};
 }
@@ -42,12 +54,47 @@ QString fallbackName(const QByteArray &edid)
     return QStringLiteral("%1-%2").arg(letters).arg(product, 4, 16, QLatin1Char('0')).toUpper();
 }
 
+QString serialNumber(const QByteArray &edid)
+{
+    const QString text = descriptorText(edid, kSerialTag);
+    if (!text.isEmpty())
+        return text;
+    const auto number = static_cast<quint32>(littleEndianWord(edid, kSerialOffset)) |
+                        static_cast<quint32>(littleEndianWord(edid, kSerialOffset + 2)) << 16;
+    return number == 0 ? QString() : QString::number(number);
+}
+
+/// Of the first descriptor, when it is a timing: the low eight bits of each number, and four more in a byte behind.
+QSize preferredResolution(const QByteArray &edid)
+{
+    const qsizetype timing = kDescriptorOffsets[0];
+    if (littleEndianWord(edid, timing) == 0)
+        return {};
+    const auto number = [&](qsizetype low) {
+        return byteAt(edid, timing + low) | (byteAt(edid, timing + low + 2) >> 4) << 8;
+    };
+    return {number(2), number(5)};
+}
+
 } // namespace
 
 QString edidModelName(const QByteArray &edid)
 {
     if (edid.size() < kBaseBlockSize)
         return {};
-    const QString name = descriptorName(edid);
+    const QString name = descriptorText(edid, kMonitorNameTag);
     return name.isEmpty() ? fallbackName(edid) : name;
+}
+
+EdidFacts edidFacts(const QByteArray &edid)
+{
+    EdidFacts facts;
+    if (edid.size() < kBaseBlockSize)
+        return facts;
+    facts.serial = serialNumber(edid);
+    facts.year = kFirstYear + byteAt(edid, kYearOffset);
+    const int week = byteAt(edid, kWeekOffset);
+    facts.week = week <= kLastWeek ? week : 0;
+    facts.resolution = preferredResolution(edid);
+    return facts;
 }

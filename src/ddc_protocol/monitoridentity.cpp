@@ -1,13 +1,18 @@
 #include "ddc_protocol/monitoridentity.h"
 
-#include "ddc_protocol/displayenumeration.h"
 #include "ddc_protocol/transport.h"
+
+QString identityText(const MonitorIdentity &identity)
+{
+    QString text = QStringList{identity.name, identity.serial, identity.place}.join(QLatin1Char(' ')).simplified();
+    for (const QLatin1Char slash : {QLatin1Char('/'), QLatin1Char('\\')}) // would part a key
+        text.replace(slash, QLatin1Char('|'));
+    return text;
+}
 
 QString monitorIdentity()
 {
     const auto lock = lockTransport();
     const std::size_t index = currentMonitorIndex;
-    if (index >= monitorList.size())
-        return {};
-    return QStringLiteral("%1 #%2").arg(monitorList[index].label).arg(index + 1);
+    return index < monitorList.size() ? identityText(monitorList[index].identity) : QString();
 }

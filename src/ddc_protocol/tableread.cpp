@@ -26,7 +26,7 @@ public:
     int run(std::uint8_t a, std::uint8_t b, std::uint8_t c, int length);
 
 private:
-    bool request(std::uint8_t code);
+    bool request(std::uint8_t code, Attempt attempt = Attempt::First);
     bool mayRetry(int &retries);
     void storeChunk();
     std::optional<int> open(std::uint8_t a, std::uint8_t b, std::uint8_t c);
@@ -47,9 +47,9 @@ QString hex(std::uint8_t code)
     return QString::number(code, 16);
 }
 
-bool TableRead::request(std::uint8_t code)
+bool TableRead::request(std::uint8_t code, Attempt attempt)
 {
-    m_reply = requestFeature(m_monitor, code);
+    m_reply = requestBlockPart(m_monitor, code, attempt);
     return m_reply.answered;
 }
 
@@ -74,8 +74,8 @@ void TableRead::storeChunk()
 /// Opens the stream. Nothing when it stands, else the result to fail with.
 std::optional<int> TableRead::open(std::uint8_t a, std::uint8_t b, std::uint8_t c)
 {
-    for (;;) {
-        if (!request(a))
+    for (Attempt attempt = Attempt::First;; attempt = Attempt::Again) {
+        if (!request(a, attempt))
             qDebug().noquote().nospace() << "ErrorCode 99 " << m_reply.error;
         if (!request(b)) {
             if (!mayRetry(m_secondRetries)) {
@@ -101,7 +101,7 @@ bool TableRead::stream(int remaining)
 {
     std::uint8_t code = kNextChunk;
     while (remaining > 0) {
-        if (request(code)) {
+        if (request(code, code == kRepeatChunk ? Attempt::Again : Attempt::First)) {
             storeChunk();
             remaining -= kChunkSize;
             m_streamRetries = m_retries;

@@ -6,6 +6,7 @@
 
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/displayenumeration.h"
+#include "ddc_protocol/linkrecords.h"
 #include "ddc_protocol/linkstatus.h"
 #include "ddc_protocol/monitoridentity.h"
 #include "ddc_protocol/writecounts.h"
@@ -68,10 +69,42 @@ std::optional<platform::PhysicalMonitorHandle> selectedMonitor()
     return std::nullopt;
 }
 
-bool writeOnce(std::uint16_t value)
+/// Every request to a monitor is made here and nowhere else, so that what is noted is what was on the wire. Under the
+/// lock; without a monitor nothing is on it.
+void makeRequest(std::optional<platform::PhysicalMonitorHandle> monitor, LinkRequest &request)
+{
+    if (monitor) {
+        platform::MonitorConfiguration &monitors = platform::desk().monitors();
+        platform::Clock &clock = platform::desk().clock();
+        request.at = clock.now();
+        if (request.isWrite)
+            request.reply.answered = monitors.setFeature(*monitor, request.code, request.value);
+        else
+            request.reply = monitors.getFeature(*monitor, request.code);
+        // Somebody may set the clock back meanwhile.
+        request.duration = static_cast<int>(std::max<qint64>(request.at.msecsTo(clock.now()), 0));
+        const std::size_t index = currentMonitorIndex;
+        linkRecords.note(index < monitorList.size() ? monitorList[index].identity : MonitorIdentity(), request);
+    }
+    noteRequest(request.code, request.reply.answered);
+}
+
+platform::VcpReply read(std::optional<platform::PhysicalMonitorHandle> monitor, LinkRequest request)
+{
+    if (!platform::programEnds()) // else nobody uses the answer any more, and whoever asks is waited for
+        makeRequest(monitor, request);
+    return request.reply;
+}
+
+Attempt attemptOf(int number)
+{
+    return number == 0 ? Attempt::First : Attempt::Again;
+}
+
+bool writeOnce(std::uint16_t value, Attempt attempt)
 {
     for (const std::size_t byte : {kPacketVendorByte, kPacketCodeByte}) {
-        if (SetVcpValue(commandPacket[byte], value))
+        if (SetVcpValue(commandPacket[byte], value, byte == kPacketVendorByte ? attempt : Attempt::First))
             continue;
         qDebug().noquote().nospace() << "Fail to retry errorCode: 03 " << hex(commandPacket[byte]);
         return false;
@@ -85,7 +118,7 @@ int readCommand(COMMAND_set_Type command, bool logged)
     BuildCommandPacket(command, 0);
     std::uint32_t value = kNoAnswer;
     for (int attempt = 0; attempt < kReadAttempts; ++attempt) {
-        GetVcpValue(commandPacket[kPacketVendorByte]);
+        GetVcpValue(commandPacket[kPacketVendorByte], attemptOf(attempt));
         value = GetVcpValue(commandPacket[kPacketCodeByte]);
         if (value < kNoAnswer) {
             keepTold(command, value);
@@ -130,34 +163,29 @@ int BuildCommandPacket(COMMAND_set_Type command, std::uint16_t value)
     return static_cast<int>(length);
 }
 
-platform::VcpReply requestFeature(std::optional<platform::PhysicalMonitorHandle> monitor, std::uint8_t code)
+platform::VcpReply requestBlockPart(std::optional<platform::PhysicalMonitorHandle> monitor, std::uint8_t code,
+                                    Attempt attempt)
 {
-    if (platform::programEnds()) // nobody uses the answer any more, and whoever asks is waited for
-        return {};
-    const platform::VcpReply reply =
-        monitor ? platform::desk().monitors().getFeature(*monitor, code) : platform::VcpReply();
-    noteRequest(code, reply.answered);
-    return reply;
+    return read(monitor, {.code = code, .isBlock = true, .isRetry = attempt == Attempt::Again});
 }
 
-std::uint32_t GetVcpValue(std::uint8_t code)
+std::uint32_t GetVcpValue(std::uint8_t code, Attempt attempt)
 {
     const auto lock = lockTransport();
     if (monitorList.empty())
         return 0;
-    const platform::VcpReply reply = requestFeature(selectedMonitor(), code);
+    const platform::VcpReply reply = read(selectedMonitor(), {.code = code, .isRetry = attempt == Attempt::Again});
     return reply.answered ? reply.current : kNoAnswer;
 }
 
-bool SetVcpValue(std::uint8_t code, std::uint32_t value)
+bool SetVcpValue(std::uint8_t code, std::uint32_t value, Attempt attempt)
 {
     const auto lock = lockTransport();
     if (monitorList.empty())
         return false;
-    const auto monitor = selectedMonitor();
-    const bool ok = monitor && platform::desk().monitors().setFeature(*monitor, code, value);
-    noteRequest(code, ok);
-    return ok;
+    LinkRequest request{.isWrite = true, .code = code, .value = value, .isRetry = attempt == Attempt::Again};
+    makeRequest(selectedMonitor(), request);
+    return request.reply.answered;
 }
 
 bool Korvu_SetCommandVal(COMMAND_set_Type command, std::uint16_t value, std::uint16_t)
@@ -169,7 +197,7 @@ bool Korvu_SetCommandVal(COMMAND_set_Type command, std::uint16_t value, std::uin
             return false;
         BuildCommandPacket(command, value);
         for (int attempt = 0; attempt < kWriteAttempts; ++attempt) {
-            if (writeOnce(value)) {
+            if (writeOnce(value, attemptOf(attempt))) {
                 deviceState.taken(commandOf(command), value);
                 writeCounts.note(monitorIdentity(), commandCode(command));
                 return true;
@@ -218,7 +246,7 @@ bool Korvu_GetCommandValMax(COMMAND_set_Type command, std::uint32_t &current, st
         return false;
     BuildCommandPacket(command, 0);
     GetVcpValue(commandPacket[kPacketVendorByte]);
-    const platform::VcpReply reply = requestFeature(selectedMonitor(), commandPacket[kPacketCodeByte]);
+    const platform::VcpReply reply = read(selectedMonitor(), {.code = commandPacket[kPacketCodeByte]});
     current = reply.current;
     maximum = reply.maximum;
     return true;

@@ -48,14 +48,18 @@ inline constexpr std::uint16_t kRetryCount = 10;
 /// Fills commandPacket for a command and its value; returns the packet's length, 9.
 int BuildCommandPacket(COMMAND_set_Type command, std::uint16_t value);
 
-/// One read request to a monitor; no answer without one.
-platform::VcpReply requestFeature(std::optional<platform::PhysicalMonitorHandle> monitor, std::uint8_t code);
+/// Whether a request opens another attempt at what failed, for the record of the link only.
+enum class Attempt { First, Again };
+
+/// One read request of a table stream to a monitor; no answer without one.
+platform::VcpReply requestBlockPart(std::optional<platform::PhysicalMonitorHandle> monitor, std::uint8_t code,
+                                    Attempt attempt = Attempt::First);
 
 /// One read request. The current value; 0xFFFFFFFF when the monitor did not answer, 0 when there is no monitor at all.
-std::uint32_t GetVcpValue(std::uint8_t code);
+std::uint32_t GetVcpValue(std::uint8_t code, Attempt attempt = Attempt::First);
 
 /// One write request. False when the monitor did not take it or there is none.
-bool SetVcpValue(std::uint8_t code, std::uint32_t value);
+bool SetVcpValue(std::uint8_t code, std::uint32_t value, Attempt attempt = Attempt::First);
 
 /// Writes a command, in at most 2 attempts 100 ms apart. True when both requests went through. After the second
 /// failure the session is asked to find the monitor again. The last argument is not used.

@@ -2,6 +2,7 @@
 
 #include <mutex>
 
+#include "ddc_protocol/linkrecords.h"
 #include "ddc_protocol/writecounts.h"
 #include "ledmatrix/matrixform.h"
 #include "usb-hid/hidtransport.h"
@@ -45,6 +46,7 @@ DeskFixture::DeskFixture() : desk(clock), m_folderBefore(QDir::currentPath()), m
     projectionMode = ProjectionMode::Unknown;
     monitorList.clear();
     deviceState.clear();
+    linkRecords.clear();
     writeCounts.clear();
     matrixForm = kTaperingForm;
     clearHidFlags();

@@ -1,0 +1,196 @@
+#include <random>
+
+#include "ddc_protocol/linkrecords.h"
+#include "ddc_protocol/sceneblock.h"
+#include "support/deskfixture.h"
+
+using namespace std::chrono_literals;
+
+namespace {
+
+/// What a monitor's own log tells about a link, counted in another way than the program does.
+struct Observed
+{
+    std::uint64_t requests = 0, failures = 0, writes = 0, writesToday = 0, retries = 0;
+    std::vector<int> durations; ///< of answers
+    bool opened = false;        ///< the command under way has made an attempt
+};
+
+/// Ten minutes before midnight, so that a day ends on the way.
+const QDateTime kBegin(QDate(2024, 3, 9), QTime(23, 50));
+
+void armSomeFault(virtualdesk::SimulatedMonitor &monitor, std::mt19937 &random)
+{
+    const int times = static_cast<int>(random() % 9) + 1;
+    switch (random() % 8) {
+    case 0:
+        return monitor.goDeaf(times);
+    case 1:
+        return monitor.refuseWrites(times);
+    case 2:
+        return monitor.loseReplies(times);
+    case 3:
+        return monitor.dropChunks(times);
+    case 4:
+        return monitor.refuse(random() % 2 == 0 ? 0x99 : 0x10, times);
+    case 5:
+        return monitor.garbleReplies(times);
+    case 6:
+        return monitor.setDelay(platform::milliseconds(random() % 3 * 700));
+    default:
+        return monitor.recover();
+    }
+}
+
+void sendSomething(std::mt19937 &random)
+{
+    constexpr Command kCommands[] = {Command::Brightness, Command::Contrast, Command::SceneMode, Command::AudioVolume};
+    const Command command = kCommands[random() % 4];
+    switch (random() % 5) {
+    case 0:
+    case 1:
+        Korvu_SetCommandVal(writeRow(command), static_cast<std::uint16_t>(random() % 60 + 1), kRetryCount);
+        return;
+    case 2:
+        readCommandOnce(readRow(command));
+        return;
+    case 3:
+        Korvu_GetCommandValQuiet(readRow(command), kRetryCount);
+        return;
+    default:
+        Korvu_ReadCommandTable(readRow(Command::SceneMode), static_cast<std::uint16_t>(random() % 44 * 2 + 2),
+                               kSceneBlockSize);
+    }
+}
+
+LinkRequest request(char kind, std::uint8_t code, bool ok, int second)
+{
+    LinkRequest made{.isWrite = kind == 'W', .code = code, .isBlock = kind == 'B', .at = kBegin.addSecs(second)};
+    made.reply.answered = ok;
+    return made;
+}
+
+} // namespace
+
+/// What is kept of the link to each monitor.
+class TestLinkRecord : public DeskSuite
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void countsWhatTheMonitorSaw();
+    void errorsInWords_data();
+    void errorsInWords();
+    void twinsStayTwo();
+};
+
+/// Twenty thousand commands to two monitors with every fault: the counters are those of the monitors' own logs.
+void TestLinkRecord::countsWhatTheMonitorSaw()
+{
+    constexpr unsigned kSeed = 20260;
+    std::mt19937 random(kSeed);
+    std::array<Observed, 2> observed;
+    findDevices();
+    m_desk->clock.setNow(kBegin);
+    for (std::size_t i = 0; i < observed.size(); ++i) {
+        virtualdesk::SimulatedMonitor &monitor = m_desk->monitor(i);
+        monitor.setLatency(40ms, 50ms);
+        monitor.addListener([&, i](const virtualdesk::Request &request) {
+            Observed &seen = observed[i];
+            const bool isWrite = request.kind == virtualdesk::RequestKind::Write;
+            const int duration = m_desk->clock.takeWaits().last();
+            ++seen.requests;
+            seen.failures += request.ok() ? 0 : 1;
+            const bool again = request.code == 0xFF || (request.code == 0x99 && std::exchange(seen.opened, true));
+            seen.retries += again ? 1 : 0;
+            if (request.ok())
+                seen.durations.push_back(duration);
+            const bool counts = request.ok() && isWrite && request.code != 0x99;
+            seen.writes += counts ? 1 : 0;
+            const QDateTime begun = request.time.addMSecs(-duration);
+            seen.writesToday += counts && begun.date() == kBegin.date().addDays(1) ? 1 : 0;
+        });
+    }
+    for (int i = 0; i < 20000; ++i) {
+        if (random() % 20 == 0)
+            armSomeFault(m_desk->monitor(random() % 2), random);
+        currentMonitorIndex = static_cast<std::uint8_t>(random() % 2);
+        for (Observed &seen : observed)
+            seen.opened = false;
+        sendSomething(random);
+    }
+    for (std::size_t i = 0; i < observed.size(); ++i) {
+        Observed &seen = observed[i];
+        const LinkRecord record = linkRecords.recordOf(monitorList[i].identity);
+        std::sort(seen.durations.begin(), seen.durations.end());
+        QVERIFY2(seen.failures > 500 && seen.retries > 500 && seen.writesToday > 500, "the seed is too kind");
+        QCOMPARE(record.requests(), seen.requests);
+        QCOMPARE(record.failures(), seen.failures);
+        QCOMPARE(record.retries(), seen.retries);
+        QCOMPARE(record.writes(), seen.writes);
+        QCOMPARE(record.writesOn(kBegin.date().addDays(1)), seen.writesToday);
+        QCOMPARE(record.medianLatency(), seen.durations[(seen.durations.size() - 1) / 2]);
+        QCOMPARE(record.worstLatency(), seen.durations.back());
+        QVERIFY(record.errors().size() == LinkRecord::kErrors);
+        QVERIFY(record.failedRetries() > 0 && record.failedRetries() < record.retries());
+    }
+}
+
+/// Requests in order, as kind, code and whether it went well, and the errors that are told, newest first: how many,
+/// their fault, code and count, and whether the monitor has made up for them.
+void TestLinkRecord::errorsInWords_data()
+{
+    QTest::addColumn<QString>("requests");
+    QTest::addColumn<QString>("errors");
+    QTest::newRow("a value told when asked again") << "R99+ R10- R99+ R10- R99+ R10+" << "1:10x2+";
+    QTest::newRow("silence, then answers") << "R99- R10- W99- W99- R99+ R12-" << "1:12x1 0:99x4+";
+    QTest::newRow("refused for good, another one taken") << "W99+ W10- W99+ W10- W99+ W12+" << "2:10x2";
+    QTest::newRow("told is not taken") << "W99+ W10- R99+ R10+" << "2:10x1";
+    QTest::newRow("a chunk that came late") << "B99+ B22+ B0a+ Bfe- Bff+ Bfe+" << "3:fex1+";
+    QTest::newRow("a block that breaks twice") << "B99+ B22+ B0a- B99+ B22+ B0a-" << "3:0ax2";
+    QTest::newRow("two in turn stay two") << "R99+ R10- R99+ R12- R99+ R10-" << "1:10x2 1:12x1";
+}
+
+void TestLinkRecord::errorsInWords()
+{
+    QFETCH(const QString, requests);
+    QFETCH(const QString, errors);
+    LinkRecord record;
+    int second = 0;
+    for (const QString &each : requests.split(QLatin1Char(' ')))
+        record.add(request(each[0].toLatin1(), static_cast<std::uint8_t>(each.mid(1, 2).toInt(nullptr, 16)),
+                           each.endsWith(QLatin1Char('+')), ++second));
+    QStringList told;
+    for (const LinkError &error : record.errors())
+        told += QStringLiteral("%1:%2x%3%4")
+                    .arg(static_cast<int>(error.fault))
+                    .arg(error.code, 2, 16, QLatin1Char('0'))
+                    .arg(error.count)
+                    .arg(QLatin1String(error.recovered ? "+" : ""));
+    QCOMPARE(told.join(QLatin1Char(' ')), errors);
+}
+
+/// Two monitors of one model, even with the same serial number, have a record each; unplugged between, too.
+void TestLinkRecord::twinsStayTwo()
+{
+    m_desk->desk.setRegistryEdid(1, virtualdesk::buildEdid(m_desk->monitor(0).model()));
+    findDevices();
+    const MonitorIdentity first = monitorList[0].identity;
+    const MonitorIdentity second = monitorList[1].identity;
+    QCOMPARE(first.name, second.name);
+    QCOMPARE(first.serial, second.serial);
+    currentMonitorIndex = 1;
+    readCommandOnce(readRow(Command::Brightness));
+    m_desk->desk.unplug(0);
+    findDevices();
+    currentMonitorIndex = 0;
+    readCommandOnce(readRow(Command::Brightness));
+    QCOMPARE(linkRecords.recordOf(first).requests(), 0u);
+    QCOMPARE(linkRecords.recordOf(second).requests(), 4u);
+    const EdidFacts facts = monitorList[0].facts;
+    QCOMPARE(QStringLiteral("%1 %2-%3 %4x%5").arg(facts.serial).arg(facts.year).arg(facts.week)
+                 .arg(facts.resolution.width()).arg(facts.resolution.height()),
+             QStringLiteral("0000001 2024-20 2560x1440"));
+}
+
+QTEST_GUILESS_MAIN(TestLinkRecord)
+#include "tst_linkrecord.moc"
