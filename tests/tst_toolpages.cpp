@@ -4,6 +4,7 @@
 #include <QtWidgets>
 
 #include "controls/lefttabbutton.h"
+#include "ddc_protocol/commandnames.h"
 #include "ddc_protocol/commandqueue.h"
 #include "page/BasicSetting/hotkeyoverlay.h"
 #include "page/BasicSetting/pagepcsetting.h"
@@ -55,6 +56,9 @@ private Q_SLOTS:
     void cleanup();
     void startUpIsWrittenOrFallsBack();
     void overlayIsSwitched();
+    void healthIsBuiltWhenShown();
+    void everythingIsReadOnce();
+    void reportNamesNobody();
     void languages_data();
     void languages();
     void machineRestarts();
@@ -81,6 +85,7 @@ private:
     AnsweredPage &toolPage() { return shown(m_tool, m_desk->session(), *m_queue); }
     pageServicesSetting &servicesPage() { return shown(m_services, *m_queue); }
     void press(const QString &name) { QTest::mouseClick(toolPage().findChild<QPushButton *>(name), Qt::LeftButton); }
+    QString text(const char *name) { return toolPage().findChild<QLabel *>(QLatin1String(name))->text(); }
     bool isChecked(const QString &name) { return toolPage().findChild<QPushButton *>(name)->isChecked(); }
     QComboBox *machines() { return toolPage().findChild<QComboBox *>(); }
     void verifyRestart();
@@ -162,6 +167,72 @@ void TestToolPages::overlayIsSwitched()
     press("Hotkey overlay_No");
     QVERIFY(toolPage().notice().contains("config.ini"));
     QVERIFY(isChecked("Hotkey overlay_Yes"));
+}
+
+/// Nothing of it is there before, and it costs nothing while another panel is shown.
+void TestToolPages::healthIsBuiltWhenShown()
+{
+    QVERIFY(!toolPage().findChild<QPushButton *>("record"));
+    toolPage().showPanel("Monitor Health");
+    const auto refreshed = [this] {
+        readCommandOnce(readRow(Command::Brightness));
+        QCoreApplication::processEvents();
+        const std::size_t tasks = m_desk->clock.tasksWaiting();
+        m_desk->clock.advance(250ms);
+        return tasks;
+    };
+    const QString before = text("healthValue");
+    m_desk->monitor().refuse(0x10);
+    QCOMPARE(refreshed(), 1u);
+    QVERIFY(before == "100 %" && text("healthValue") != before);
+    QCOMPARE(toolPage().findChildren<QFrame *>("healthError").size(), 1);
+    toolPage().showPanel(0);
+    QCOMPARE(refreshed(), 0u);
+}
+
+void TestToolPages::everythingIsReadOnce()
+{
+    m_desk->monitor().setValue(0x22, 2);
+    readCommandOnce(readRow(Command::SceneMode));
+    toolPage().showPanel("Monitor Health");
+    m_desk->takeCommands();
+    m_desk->monitor().refuse(0x10);
+    press("readEverything");
+    QTRY_VERIFY(text("healthResult").contains("Not told: Brightness"));
+    QStringList asked = m_desk->takeCommands();
+    for (const Command command : readableCommands())
+        QCOMPARE(asked.removeAll(QStringLiteral("R %1").arg(static_cast<int>(command), 2, 16, QLatin1Char('0'))) +
+                     asked.removeAll(QStringLiteral("R %1!").arg(static_cast<int>(command), 2, 16, QLatin1Char('0'))),
+                 command == Command::SceneMode || command == Command::CareFunction2 ? 2 : 1); // with the block
+    QCOMPARE(asked, QStringList(10, "R fe"));
+
+    m_desk->monitor().goDeaf(); // given up at once, rather than for each
+    press("readEverything");
+    QTRY_VERIFY(text("healthResult").startsWith("The monitor does not answer"));
+    QCOMPARE(m_desk->takeRequests().size(), 2);
+    m_desk->monitor().recover();
+    {
+        const auto lock = lockTransport(); // nothing is told meanwhile
+        press("readEverything");
+        press("readEverything");
+    }
+    QVERIFY(text("healthResult").startsWith("Cancelled."));
+    QTRY_VERIFY(m_queue->isIdle());
+    QVERIFY(m_desk->takeCommands().size() <= 1);
+}
+
+void TestToolPages::reportNamesNobody()
+{
+    toolPage().showPanel("Monitor Health");
+    m_desk->monitor().refuse(0x10);
+    readCommandOnce(readRow(Command::Brightness));
+    press("copyReport");
+    const QString report = QGuiApplication::clipboard()->text();
+    for (const char *told : {"Q27-OLED", "0000001", "v1.2", "2560 × 1440", "Brightness was not told (0x10, 1x)"})
+        QVERIFY2(report.contains(QString::fromUtf8(told)), told);
+    const QString place = monitorList[0].identity.place;
+    for (const QString &hidden : {m_desk->folder(), QDir::homePath(), place, QStringLiteral("/"), QStringLiteral("\\")})
+        QVERIFY2(!place.isEmpty() && !report.contains(hidden), qPrintable(hidden));
 }
 
 void TestToolPages::languages_data()

@@ -24,6 +24,10 @@
         <translation> already enabled!</translation>
     </message>
     <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
         <source>%1 cannot be written. Nothing was changed.</source>
         <translation>%1 cannot be written. Nothing was changed.</translation>
     </message>
@@ -44,12 +48,42 @@
         <translation>%1 is taken by another program or function and does nothing here.</translation>
     </message>
     <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1 of %2 lost</source>
+        <translation>%1 of %2 lost</translation>
+    </message>
+    <message>
+        <source>%1 of %2 values were told, in %3 s.</source>
+        <translation>%1 of %2 values were told, in %3 s.</translation>
+    </message>
+    <message>
+        <source>%1 requests are recorded in %2</source>
+        <translation>%1 requests are recorded in %2</translation>
+    </message>
+    <message>
         <source>%1 s left</source>
         <translation>%1 s left</translation>
     </message>
     <message>
         <source>%1 was changed to &quot;%2&quot;.</source>
         <translation>%1 was changed to &quot;%2&quot;.</translation>
+        <source>%1 since the start</source>
+        <translation>%1 since the start</translation>
+    </message>
+    <message>
+        <source>%1 succeeded</source>
+        <translation>%1 succeeded</translation>
+    </message>
+    <message>
+        <source>%1 was not taken</source>
+        <translation>%1 was not taken</translation>
+    </message>
+    <message>
+        <source>%1 was not told</source>
+        <translation>%1 was not told</translation>
     </message>
     <message>
         <source>%1 · %2</source>
@@ -82,6 +116,10 @@
     <message>
         <source>1.8</source>
         <translation>1.8</translation>
+    </message>
+    <message>
+        <source>10 min</source>
+        <translation>10 min</translation>
     </message>
     <message>
         <source>2 Hour</source>
@@ -300,6 +338,14 @@
         <translation>Another program…</translation>
     </message>
     <message>
+        <source>Answer times, last ten minutes</source>
+        <translation>Answer times, last ten minutes</translation>
+    </message>
+    <message>
+        <source>Answers</source>
+        <translation>Answers</translation>
+    </message>
+    <message>
         <source>Application is already running</source>
         <translation>Application is already running</translation>
     </message>
@@ -314,6 +360,14 @@
     <message>
         <source>Art Design Mode</source>
         <translation>Art Design Mode</translation>
+    </message>
+    <message>
+        <source>Asked again and told; nothing to do.</source>
+        <translation>Asked again and told; nothing to do.</translation>
+    </message>
+    <message>
+        <source>Asked again; nothing to do.</source>
+        <translation>Asked again; nothing to do.</translation>
     </message>
     <message>
         <source>Audio Mode</source>
@@ -408,6 +462,10 @@
         <translation>Cancel</translation>
     </message>
     <message>
+        <source>Cancelled.</source>
+        <translation>Cancelled.</translation>
+    </message>
+    <message>
         <source>Cancelled. Nothing was changed.</source>
         <translation>Cancelled. Nothing was changed.</translation>
     </message>
@@ -442,6 +500,8 @@
     <message>
         <source>Choose the controls</source>
         <translation>Choose the controls</translation>
+        <source>Choose the scene again, or read everything once.</source>
+        <translation>Choose the scene again, or read everything once.</translation>
     </message>
     <message>
         <source>Cinema colours at a D65 white.</source>
@@ -498,6 +558,10 @@
     <message>
         <source>Convo</source>
         <translation>Convo</translation>
+    </message>
+    <message>
+        <source>Copy report</source>
+        <translation>Copy report</translation>
     </message>
     <message>
         <source>Custom</source>
@@ -864,6 +928,10 @@
         <translation>Hotkey overlay</translation>
     </message>
     <message>
+        <source>How the link to the monitor has been since the program started.</source>
+        <translation>How the link to the monitor has been since the program started.</translation>
+    </message>
+    <message>
         <source>How the print will look under a D55 light.</source>
         <translation>How the print will look under a D55 light.</translation>
     </message>
@@ -906,6 +974,14 @@
     <message>
         <source>Input Signal</source>
         <translation>Input Signal</translation>
+    </message>
+    <message>
+        <source>Is it on, its cable plugged in, and DDC/CI on in its menu?</source>
+        <translation>Is it on, its cable plugged in, and DDC/CI on in its menu?</translation>
+    </message>
+    <message>
+        <source>It answers again; nothing to do.</source>
+        <translation>It answers again; nothing to do.</translation>
     </message>
     <message>
         <source>It is a link, which is not followed.</source>
@@ -954,6 +1030,10 @@
     <message>
         <source>Language</source>
         <translation>Language</translation>
+    </message>
+    <message>
+        <source>Last errors</source>
+        <translation>Last errors</translation>
     </message>
     <message>
         <source>Last requests to the monitor</source>
@@ -1064,6 +1144,10 @@
         <translation>Maximum 192 frames</translation>
     </message>
     <message>
+        <source>Median answer</source>
+        <translation>Median answer</translation>
+    </message>
+    <message>
         <source>Medium</source>
         <translation>Medium</translation>
     </message>
@@ -1116,8 +1200,16 @@
         <translation>Mode5</translation>
     </message>
     <message>
+        <source>Model</source>
+        <translation>Model</translation>
+    </message>
+    <message>
         <source>Monitor</source>
         <translation>Monitor</translation>
+    </message>
+    <message>
+        <source>Monitor Health</source>
+        <translation>Monitor Health</translation>
     </message>
     <message>
         <source>Movie</source>
@@ -1192,6 +1284,14 @@
         <translation>No Type-C data cable or HDMI/DP + USB data cable connected.</translation>
     </message>
     <message>
+        <source>No answer</source>
+        <translation>No answer</translation>
+    </message>
+    <message>
+        <source>No answer for %1 s</source>
+        <translation>No answer for %1 s</translation>
+    </message>
+    <message>
         <source>No file path selected.</source>
         <translation>No file path selected.</translation>
     </message>
@@ -1206,6 +1306,14 @@
     <message>
         <source>Noise</source>
         <translation>Noise</translation>
+    </message>
+    <message>
+        <source>None.</source>
+        <translation>None.</translation>
+    </message>
+    <message>
+        <source>Not told: %1</source>
+        <translation>Not told: %1</translation>
     </message>
     <message>
         <source>Nothing is heard: no program plays, or the sound output is gone.</source>
@@ -1416,6 +1524,10 @@
         <translation>Rate</translation>
     </message>
     <message>
+        <source>Read everything once</source>
+        <translation>Read everything once</translation>
+    </message>
+    <message>
         <source>Reading</source>
         <translation>Reading</translation>
     </message>
@@ -1428,6 +1540,10 @@
         <translation>Reading sample 0123</translation>
     </message>
     <message>
+        <source>Reading: %1 of %2</source>
+        <translation>Reading: %1 of %2</translation>
+    </message>
+    <message>
         <source>Rec.709</source>
         <translation>Rec.709</translation>
     </message>
@@ -1438,6 +1554,10 @@
     <message>
         <source>Recommended to set [Expand These Monitors] in the System-&gt; Screen when operating multiple monitors.</source>
         <translation>Recommended to set [Expand These Monitors] in the System-&gt; Screen when operating multiple monitors.</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Record</translation>
     </message>
     <message>
         <source>Rectangle</source>
@@ -1480,6 +1600,10 @@
         <translation>Reset Factory</translation>
     </message>
     <message>
+        <source>Retries</source>
+        <translation>Retries</translation>
+    </message>
+    <message>
         <source>Round</source>
         <translation>Round</translation>
     </message>
@@ -1506,6 +1630,10 @@
     <message>
         <source>SR</source>
         <translation>SR</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturation</translation>
     </message>
     <message>
         <source>Saturation R Y G C B M</source>
@@ -1544,6 +1672,18 @@
         <translation>Scene</translation>
     </message>
     <message>
+        <source>Scene block</source>
+        <translation>Scene block</translation>
+    </message>
+    <message>
+        <source>Scene block: one part came late</source>
+        <translation>Scene block: one part came late</translation>
+    </message>
+    <message>
+        <source>Scene block: one part did not come</source>
+        <translation>Scene block: one part did not come</translation>
+    </message>
+    <message>
         <source>Scene mode</source>
         <translation>Scene mode</translation>
     </message>
@@ -1570,6 +1710,10 @@
     <message>
         <source>Select File</source>
         <translation>Select File</translation>
+    </message>
+    <message>
+        <source>Sent again and taken; nothing to do.</source>
+        <translation>Sent again and taken; nothing to do.</translation>
     </message>
     <message>
         <source>Service Settings</source>
@@ -1788,6 +1932,10 @@
         <translation>The file cannot be written: %1</translation>
     </message>
     <message>
+        <source>The file has become too large.</source>
+        <translation>The file has become too large.</translation>
+    </message>
+    <message>
         <source>The file holds %1 frames; the first %2 were taken.</source>
         <translation>The file holds %1 frames; the first %2 were taken.</translation>
     </message>
@@ -1826,6 +1974,10 @@
     <message>
         <source>The monitor did not take this setting.</source>
         <translation>The monitor did not take this setting.</translation>
+    </message>
+    <message>
+        <source>The monitor does not answer; the reading was given up.</source>
+        <translation>The monitor does not answer; the reading was given up.</translation>
     </message>
     <message>
         <source>The monitor has not told this value yet.</source>
@@ -1874,6 +2026,14 @@
     <message>
         <source>The program heard it.</source>
         <translation>The program heard it.</translation>
+    </message>
+    <message>
+        <source>The recording could not be begun: %1</source>
+        <translation>The recording could not be begun: %1</translation>
+    </message>
+    <message>
+        <source>The report is on the clipboard. It names no files, programs or users.</source>
+        <translation>The report is on the clipboard. It names no files, programs or users.</translation>
     </message>
     <message>
         <source>The selected display is unsupported or the signal line is disconnected.</source>
@@ -1946,6 +2106,8 @@
     <message>
         <source>This slider counts while Color Temperature is Night View C.T.</source>
         <translation>This slider counts while Color Temperature is Night View C.T.</translation>
+        <source>This monitor may not have it; else read everything once.</source>
+        <translation>This monitor may not have it; else read everything once.</translation>
     </message>
     <message>
         <source>Time to rest your eyes for a while.</source>
@@ -1990,6 +2152,10 @@
     <message>
         <source>True colours for design work.</source>
         <translation>True colours for design work.</translation>
+    </message>
+    <message>
+        <source>Try again; its scene or another setting may forbid it.</source>
+        <translation>Try again; its scene or another setting may forbid it.</translation>
     </message>
     <message>
         <source>Two tones</source>
@@ -2112,6 +2278,10 @@
         <translation>What goes wrong</translation>
     </message>
     <message>
+        <source>What is asked and answered is recorded in %1</source>
+        <translation>What is asked and answered is recorded in %1</translation>
+    </message>
+    <message>
         <source>What most visitors of a page see.</source>
         <translation>What most visitors of a page see.</translation>
     </message>
@@ -2148,6 +2318,10 @@
         <translation>Write here what the matrix shall show.</translation>
     </message>
     <message>
+        <source>Written today</source>
+        <translation>Written today</translation>
+    </message>
+    <message>
         <source>Y</source>
         <translation>Y</translation>
     </message>
@@ -2172,12 +2346,20 @@
         <translation>adjusted</translation>
     </message>
     <message>
+        <source>all succeeded</source>
+        <translation>all succeeded</translation>
+    </message>
+    <message>
         <source>connected</source>
         <translation>connected</translation>
     </message>
     <message>
         <source>deaf</source>
         <translation>deaf</translation>
+    </message>
+    <message>
+        <source>firmware %1</source>
+        <translation>firmware %1</translation>
     </message>
     <message>
         <source>garbled</source>
@@ -2200,6 +2382,14 @@
         <translation>lost</translation>
     </message>
     <message>
+        <source>made %1</source>
+        <translation>made %1</translation>
+    </message>
+    <message>
+        <source>made %1, week %2</source>
+        <translation>made %1, week %2</translation>
+    </message>
+    <message>
         <source>mode %1</source>
         <translation>mode %1</translation>
     </message>
@@ -2212,12 +2402,24 @@
         <translation>no monitor</translation>
     </message>
     <message>
+        <source>none needed</source>
+        <translation>none needed</translation>
+    </message>
+    <message>
         <source>not a WAV file of 16-bit or floating-point samples</source>
         <translation>not a WAV file of 16-bit or floating-point samples</translation>
     </message>
     <message>
         <source>nothing</source>
         <translation>nothing</translation>
+    </message>
+    <message>
+        <source>nothing asked yet</source>
+        <translation>nothing asked yet</translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>now</translation>
     </message>
     <message>
         <source>off</source>
@@ -2258,6 +2460,14 @@
     <message>
         <source>sRGB(2.2) Mode</source>
         <translation>sRGB(2.2) Mode</translation>
+    </message>
+    <message>
+        <source>serial %1</source>
+        <translation>serial %1</translation>
+    </message>
+    <message>
+        <source>slowest %1</source>
+        <translation>slowest %1</translation>
     </message>
     <message>
         <source>text</source>

@@ -24,6 +24,10 @@
         <translation> は既に有効です！</translation>
     </message>
     <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
         <source>%1 cannot be written. Nothing was changed.</source>
         <translation>%1 に書き込めません。変更はありません。</translation>
     </message>
@@ -44,12 +48,42 @@
         <translation>%1 は他のプログラムまたは機能が使用中のため、ここでは動作しません。</translation>
     </message>
     <message>
+        <source>%1 ms</source>
+        <translation>%1 ミリ秒</translation>
+    </message>
+    <message>
+        <source>%1 of %2 lost</source>
+        <translation>%2 回中 %1 回失敗</translation>
+    </message>
+    <message>
+        <source>%1 of %2 values were told, in %3 s.</source>
+        <translation>%2 個の値のうち %1 個を %3 秒で読み取りました。</translation>
+    </message>
+    <message>
+        <source>%1 requests are recorded in %2</source>
+        <translation>%1 件の要求を %2 に記録しました</translation>
+    </message>
+    <message>
         <source>%1 s left</source>
         <translation>残り %1 秒</translation>
     </message>
     <message>
         <source>%1 was changed to &quot;%2&quot;.</source>
         <translation>%1を「%2」に変更しました。</translation>
+        <source>%1 since the start</source>
+        <translation>起動後 %1 回</translation>
+    </message>
+    <message>
+        <source>%1 succeeded</source>
+        <translation>%1 回成功</translation>
+    </message>
+    <message>
+        <source>%1 was not taken</source>
+        <translation>%1を設定できませんでした</translation>
+    </message>
+    <message>
+        <source>%1 was not told</source>
+        <translation>%1を読み取れませんでした</translation>
     </message>
     <message>
         <source>%1 · %2</source>
@@ -82,6 +116,10 @@
     <message>
         <source>1.8</source>
         <translation>1.8</translation>
+    </message>
+    <message>
+        <source>10 min</source>
+        <translation>10 分前</translation>
     </message>
     <message>
         <source>2 Hour</source>
@@ -300,6 +338,14 @@
         <translation>別のプログラム…</translation>
     </message>
     <message>
+        <source>Answer times, last ten minutes</source>
+        <translation>直近 10 分間の応答時間</translation>
+    </message>
+    <message>
+        <source>Answers</source>
+        <translation>応答率</translation>
+    </message>
+    <message>
         <source>Application is already running</source>
         <translation>アプリケーションは既に起動しています</translation>
     </message>
@@ -314,6 +360,14 @@
     <message>
         <source>Art Design Mode</source>
         <translation>アートデザイン</translation>
+    </message>
+    <message>
+        <source>Asked again and told; nothing to do.</source>
+        <translation>再度読み取れました。操作は不要です。</translation>
+    </message>
+    <message>
+        <source>Asked again; nothing to do.</source>
+        <translation>読み直しました。操作は不要です。</translation>
     </message>
     <message>
         <source>Audio Mode</source>
@@ -408,6 +462,10 @@
         <translation>キャンセル</translation>
     </message>
     <message>
+        <source>Cancelled.</source>
+        <translation>中止しました。</translation>
+    </message>
+    <message>
         <source>Cancelled. Nothing was changed.</source>
         <translation>キャンセルしました。何も変更されていません。</translation>
     </message>
@@ -442,6 +500,8 @@
     <message>
         <source>Choose the controls</source>
         <translation>表示する項目を選ぶ</translation>
+        <source>Choose the scene again, or read everything once.</source>
+        <translation>シーンを選び直すか、すべてを一度読み取ってください。</translation>
     </message>
     <message>
         <source>Cinema colours at a D65 white.</source>
@@ -498,6 +558,10 @@
     <message>
         <source>Convo</source>
         <translation>会話</translation>
+    </message>
+    <message>
+        <source>Copy report</source>
+        <translation>レポートをコピー</translation>
     </message>
     <message>
         <source>Custom</source>
@@ -864,6 +928,10 @@
         <translation>ホットキー表示</translation>
     </message>
     <message>
+        <source>How the link to the monitor has been since the program started.</source>
+        <translation>プログラム起動後のモニターとの通信状況です。</translation>
+    </message>
+    <message>
         <source>How the print will look under a D55 light.</source>
         <translation>D55 光源での印刷物の見え方です。</translation>
     </message>
@@ -906,6 +974,14 @@
     <message>
         <source>Input Signal</source>
         <translation>入力信号</translation>
+    </message>
+    <message>
+        <source>Is it on, its cable plugged in, and DDC/CI on in its menu?</source>
+        <translation>電源、ケーブル、メニューの DDC/CI を確認してください。</translation>
+    </message>
+    <message>
+        <source>It answers again; nothing to do.</source>
+        <translation>応答が戻りました。操作は不要です。</translation>
     </message>
     <message>
         <source>It is a link, which is not followed.</source>
@@ -954,6 +1030,10 @@
     <message>
         <source>Language</source>
         <translation>言語</translation>
+    </message>
+    <message>
+        <source>Last errors</source>
+        <translation>最近のエラー</translation>
     </message>
     <message>
         <source>Last requests to the monitor</source>
@@ -1064,6 +1144,10 @@
         <translation>最大192フレーム</translation>
     </message>
     <message>
+        <source>Median answer</source>
+        <translation>応答の中央値</translation>
+    </message>
+    <message>
         <source>Medium</source>
         <translation>中</translation>
     </message>
@@ -1116,8 +1200,16 @@
         <translation>モード5</translation>
     </message>
     <message>
+        <source>Model</source>
+        <translation>機種</translation>
+    </message>
+    <message>
         <source>Monitor</source>
         <translation>モニター</translation>
+    </message>
+    <message>
+        <source>Monitor Health</source>
+        <translation>モニターの状態</translation>
     </message>
     <message>
         <source>Movie</source>
@@ -1192,6 +1284,14 @@
         <translation>Type-C データケーブルまたは HDMI/DP + USB データケーブルが接続されていません。</translation>
     </message>
     <message>
+        <source>No answer</source>
+        <translation>応答なし</translation>
+    </message>
+    <message>
+        <source>No answer for %1 s</source>
+        <translation>%1 秒間応答なし</translation>
+    </message>
+    <message>
         <source>No file path selected.</source>
         <translation>ファイルが選択されていません。</translation>
     </message>
@@ -1206,6 +1306,14 @@
     <message>
         <source>Noise</source>
         <translation>ノイズ</translation>
+    </message>
+    <message>
+        <source>None.</source>
+        <translation>ありません。</translation>
+    </message>
+    <message>
+        <source>Not told: %1</source>
+        <translation>読み取れなかった値：%1</translation>
     </message>
     <message>
         <source>Nothing is heard: no program plays, or the sound output is gone.</source>
@@ -1416,6 +1524,10 @@
         <translation>レート</translation>
     </message>
     <message>
+        <source>Read everything once</source>
+        <translation>すべて一度読み取る</translation>
+    </message>
+    <message>
         <source>Reading</source>
         <translation>読書</translation>
     </message>
@@ -1428,6 +1540,10 @@
         <translation>読書サンプル 0123</translation>
     </message>
     <message>
+        <source>Reading: %1 of %2</source>
+        <translation>読み取り中：%1 / %2</translation>
+    </message>
+    <message>
         <source>Rec.709</source>
         <translation>Rec.709</translation>
     </message>
@@ -1438,6 +1554,10 @@
     <message>
         <source>Recommended to set [Expand These Monitors] in the System-&gt; Screen when operating multiple monitors.</source>
         <translation>複数のモニターを使用する場合は、「システム -&gt; ディスプレイ」で[表示画面を拡張する]に設定することをお勧めします。</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>記録</translation>
     </message>
     <message>
         <source>Rectangle</source>
@@ -1480,6 +1600,10 @@
         <translation>初期化</translation>
     </message>
     <message>
+        <source>Retries</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
         <source>Round</source>
         <translation>円形</translation>
     </message>
@@ -1506,6 +1630,10 @@
     <message>
         <source>SR</source>
         <translation>SR</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>彩度</translation>
     </message>
     <message>
         <source>Saturation R Y G C B M</source>
@@ -1544,6 +1672,18 @@
         <translation>シーン</translation>
     </message>
     <message>
+        <source>Scene block</source>
+        <translation>シーンのデータ</translation>
+    </message>
+    <message>
+        <source>Scene block: one part came late</source>
+        <translation>シーンのデータの一部が遅れました</translation>
+    </message>
+    <message>
+        <source>Scene block: one part did not come</source>
+        <translation>シーンのデータの一部が届きません</translation>
+    </message>
+    <message>
         <source>Scene mode</source>
         <translation>シーンモード</translation>
     </message>
@@ -1570,6 +1710,10 @@
     <message>
         <source>Select File</source>
         <translation>ファイルを選択</translation>
+    </message>
+    <message>
+        <source>Sent again and taken; nothing to do.</source>
+        <translation>再送して設定できました。操作は不要です。</translation>
     </message>
     <message>
         <source>Service Settings</source>
@@ -1788,6 +1932,10 @@
         <translation>ファイルに書き込めません: %1</translation>
     </message>
     <message>
+        <source>The file has become too large.</source>
+        <translation>ファイルが大きくなりすぎました。</translation>
+    </message>
+    <message>
         <source>The file holds %1 frames; the first %2 were taken.</source>
         <translation>ファイルには %1 フレームあり、最初の %2 フレームを読み込みました。</translation>
     </message>
@@ -1826,6 +1974,10 @@
     <message>
         <source>The monitor did not take this setting.</source>
         <translation>モニターがこの設定を受け付けませんでした。</translation>
+    </message>
+    <message>
+        <source>The monitor does not answer; the reading was given up.</source>
+        <translation>モニターが応答しないため、読み取りを中止しました。</translation>
     </message>
     <message>
         <source>The monitor has not told this value yet.</source>
@@ -1874,6 +2026,14 @@
     <message>
         <source>The program heard it.</source>
         <translation>プログラムが受け取りました。</translation>
+    </message>
+    <message>
+        <source>The recording could not be begun: %1</source>
+        <translation>記録を開始できませんでした：%1</translation>
+    </message>
+    <message>
+        <source>The report is on the clipboard. It names no files, programs or users.</source>
+        <translation>レポートをクリップボードにコピーしました。ファイル、プログラム、ユーザーの名前は含まれません。</translation>
     </message>
     <message>
         <source>The selected display is unsupported or the signal line is disconnected.</source>
@@ -1946,6 +2106,8 @@
     <message>
         <source>This slider counts while Color Temperature is Night View C.T.</source>
         <translation>このスライダーは、色温が「夜間色温」のときに働きます。</translation>
+        <source>This monitor may not have it; else read everything once.</source>
+        <translation>この機種にない可能性があります。ある場合はすべて一度読み取ってください。</translation>
     </message>
     <message>
         <source>Time to rest your eyes for a while.</source>
@@ -1990,6 +2152,10 @@
     <message>
         <source>True colours for design work.</source>
         <translation>デザイン作業に適した忠実な色です。</translation>
+    </message>
+    <message>
+        <source>Try again; its scene or another setting may forbid it.</source>
+        <translation>もう一度お試しください。シーンや他の設定が原因の場合があります。</translation>
     </message>
     <message>
         <source>Two tones</source>
@@ -2112,6 +2278,10 @@
         <translation>起こす障害</translation>
     </message>
     <message>
+        <source>What is asked and answered is recorded in %1</source>
+        <translation>要求と応答を %1 に記録しています</translation>
+    </message>
+    <message>
         <source>What most visitors of a page see.</source>
         <translation>多くの閲覧者が目にする色です。</translation>
     </message>
@@ -2148,6 +2318,10 @@
         <translation>マトリクスに表示する文字を入力してください。</translation>
     </message>
     <message>
+        <source>Written today</source>
+        <translation>本日の書き込み</translation>
+    </message>
+    <message>
         <source>Y</source>
         <translation>Y</translation>
     </message>
@@ -2172,12 +2346,20 @@
         <translation>調整済み</translation>
     </message>
     <message>
+        <source>all succeeded</source>
+        <translation>すべて成功</translation>
+    </message>
+    <message>
         <source>connected</source>
         <translation>接続済み</translation>
     </message>
     <message>
         <source>deaf</source>
         <translation>応答停止</translation>
+    </message>
+    <message>
+        <source>firmware %1</source>
+        <translation>ファームウェア %1</translation>
     </message>
     <message>
         <source>garbled</source>
@@ -2200,6 +2382,14 @@
         <translation>消失</translation>
     </message>
     <message>
+        <source>made %1</source>
+        <translation>%1 年製</translation>
+    </message>
+    <message>
+        <source>made %1, week %2</source>
+        <translation>%1 年第 %2 週製</translation>
+    </message>
+    <message>
         <source>mode %1</source>
         <translation>モード %1</translation>
     </message>
@@ -2212,12 +2402,24 @@
         <translation>モニターなし</translation>
     </message>
     <message>
+        <source>none needed</source>
+        <translation>再試行なし</translation>
+    </message>
+    <message>
         <source>not a WAV file of 16-bit or floating-point samples</source>
         <translation>16 ビットまたは浮動小数点の WAV ファイルではありません</translation>
     </message>
     <message>
         <source>nothing</source>
         <translation>なし</translation>
+    </message>
+    <message>
+        <source>nothing asked yet</source>
+        <translation>まだ要求なし</translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>現在</translation>
     </message>
     <message>
         <source>off</source>
@@ -2258,6 +2460,14 @@
     <message>
         <source>sRGB(2.2) Mode</source>
         <translation>sRGB(2.2) モード</translation>
+    </message>
+    <message>
+        <source>serial %1</source>
+        <translation>シリアル番号 %1</translation>
+    </message>
+    <message>
+        <source>slowest %1</source>
+        <translation>最遅 %1</translation>
     </message>
     <message>
         <source>text</source>

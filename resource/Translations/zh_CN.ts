@@ -24,6 +24,10 @@
         <translation> 已启用！</translation>
     </message>
     <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
         <source>%1 cannot be written. Nothing was changed.</source>
         <translation>无法写入 %1，未作任何更改。</translation>
     </message>
@@ -44,12 +48,42 @@
         <translation>%1 已被其他程序或功能占用，在此不起作用。</translation>
     </message>
     <message>
+        <source>%1 ms</source>
+        <translation>%1 毫秒</translation>
+    </message>
+    <message>
+        <source>%1 of %2 lost</source>
+        <translation>%2 次中丢失 %1 次</translation>
+    </message>
+    <message>
+        <source>%1 of %2 values were told, in %3 s.</source>
+        <translation>%2 个值中读到 %1 个，用时 %3 秒。</translation>
+    </message>
+    <message>
+        <source>%1 requests are recorded in %2</source>
+        <translation>已将 %1 次请求记录到 %2</translation>
+    </message>
+    <message>
         <source>%1 s left</source>
         <translation>剩余 %1 秒</translation>
     </message>
     <message>
         <source>%1 was changed to &quot;%2&quot;.</source>
         <translation>%1已改为“%2”。</translation>
+        <source>%1 since the start</source>
+        <translation>启动以来 %1 次</translation>
+    </message>
+    <message>
+        <source>%1 succeeded</source>
+        <translation>%1 次成功</translation>
+    </message>
+    <message>
+        <source>%1 was not taken</source>
+        <translation>%1未被接受</translation>
+    </message>
+    <message>
+        <source>%1 was not told</source>
+        <translation>%1未能读到</translation>
     </message>
     <message>
         <source>%1 · %2</source>
@@ -82,6 +116,10 @@
     <message>
         <source>1.8</source>
         <translation>1.8</translation>
+    </message>
+    <message>
+        <source>10 min</source>
+        <translation>10 分钟前</translation>
     </message>
     <message>
         <source>2 Hour</source>
@@ -300,6 +338,14 @@
         <translation>其他程序…</translation>
     </message>
     <message>
+        <source>Answer times, last ten minutes</source>
+        <translation>最近十分钟的应答时间</translation>
+    </message>
+    <message>
+        <source>Answers</source>
+        <translation>应答率</translation>
+    </message>
+    <message>
         <source>Application is already running</source>
         <translation>程序已在运行</translation>
     </message>
@@ -314,6 +360,14 @@
     <message>
         <source>Art Design Mode</source>
         <translation>艺术设计模式</translation>
+    </message>
+    <message>
+        <source>Asked again and told; nothing to do.</source>
+        <translation>再次读取后已读到，无需处理。</translation>
+    </message>
+    <message>
+        <source>Asked again; nothing to do.</source>
+        <translation>已重新读取，无需处理。</translation>
     </message>
     <message>
         <source>Audio Mode</source>
@@ -408,6 +462,10 @@
         <translation>取消</translation>
     </message>
     <message>
+        <source>Cancelled.</source>
+        <translation>已取消。</translation>
+    </message>
+    <message>
         <source>Cancelled. Nothing was changed.</source>
         <translation>已取消，未作任何更改。</translation>
     </message>
@@ -442,6 +500,8 @@
     <message>
         <source>Choose the controls</source>
         <translation>选择控件</translation>
+        <source>Choose the scene again, or read everything once.</source>
+        <translation>请重新选择场景，或全部读取一次。</translation>
     </message>
     <message>
         <source>Cinema colours at a D65 white.</source>
@@ -498,6 +558,10 @@
     <message>
         <source>Convo</source>
         <translation>对话</translation>
+    </message>
+    <message>
+        <source>Copy report</source>
+        <translation>复制报告</translation>
     </message>
     <message>
         <source>Custom</source>
@@ -864,6 +928,10 @@
         <translation>快捷键提示</translation>
     </message>
     <message>
+        <source>How the link to the monitor has been since the program started.</source>
+        <translation>程序启动以来与显示器的连接状况。</translation>
+    </message>
+    <message>
         <source>How the print will look under a D55 light.</source>
         <translation>印刷品在 D55 光源下的效果。</translation>
     </message>
@@ -906,6 +974,14 @@
     <message>
         <source>Input Signal</source>
         <translation>输入信号</translation>
+    </message>
+    <message>
+        <source>Is it on, its cable plugged in, and DDC/CI on in its menu?</source>
+        <translation>请检查显示器是否开机、线缆是否接好、菜单中 DDC/CI 是否开启。</translation>
+    </message>
+    <message>
+        <source>It answers again; nothing to do.</source>
+        <translation>显示器已恢复应答，无需处理。</translation>
     </message>
     <message>
         <source>It is a link, which is not followed.</source>
@@ -954,6 +1030,10 @@
     <message>
         <source>Language</source>
         <translation>语言</translation>
+    </message>
+    <message>
+        <source>Last errors</source>
+        <translation>最近的错误</translation>
     </message>
     <message>
         <source>Last requests to the monitor</source>
@@ -1064,6 +1144,10 @@
         <translation>最多192帧</translation>
     </message>
     <message>
+        <source>Median answer</source>
+        <translation>应答中位数</translation>
+    </message>
+    <message>
         <source>Medium</source>
         <translation>中</translation>
     </message>
@@ -1116,8 +1200,16 @@
         <translation>模式5</translation>
     </message>
     <message>
+        <source>Model</source>
+        <translation>型号</translation>
+    </message>
+    <message>
         <source>Monitor</source>
         <translation>显示器</translation>
+    </message>
+    <message>
+        <source>Monitor Health</source>
+        <translation>显示器状况</translation>
     </message>
     <message>
         <source>Movie</source>
@@ -1192,6 +1284,14 @@
         <translation>未连接 Type-C 数据线或 HDMI/DP + USB 数据线。</translation>
     </message>
     <message>
+        <source>No answer</source>
+        <translation>无应答</translation>
+    </message>
+    <message>
+        <source>No answer for %1 s</source>
+        <translation>%1 秒无应答</translation>
+    </message>
+    <message>
         <source>No file path selected.</source>
         <translation>未选择文件路径。</translation>
     </message>
@@ -1206,6 +1306,14 @@
     <message>
         <source>Noise</source>
         <translation>噪声</translation>
+    </message>
+    <message>
+        <source>None.</source>
+        <translation>无。</translation>
+    </message>
+    <message>
+        <source>Not told: %1</source>
+        <translation>未读到：%1</translation>
     </message>
     <message>
         <source>Nothing is heard: no program plays, or the sound output is gone.</source>
@@ -1416,6 +1524,10 @@
         <translation>采样率</translation>
     </message>
     <message>
+        <source>Read everything once</source>
+        <translation>全部读取一次</translation>
+    </message>
+    <message>
         <source>Reading</source>
         <translation>阅读</translation>
     </message>
@@ -1428,6 +1540,10 @@
         <translation>阅读示例 0123</translation>
     </message>
     <message>
+        <source>Reading: %1 of %2</source>
+        <translation>正在读取：%1 / %2</translation>
+    </message>
+    <message>
         <source>Rec.709</source>
         <translation>Rec.709</translation>
     </message>
@@ -1438,6 +1554,10 @@
     <message>
         <source>Recommended to set [Expand These Monitors] in the System-&gt; Screen when operating multiple monitors.</source>
         <translation>使用多台显示器时，建议在“系统 -&gt; 屏幕”中设置[扩展这些显示器]。</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>记录</translation>
     </message>
     <message>
         <source>Rectangle</source>
@@ -1480,6 +1600,10 @@
         <translation>恢复出厂设置</translation>
     </message>
     <message>
+        <source>Retries</source>
+        <translation>重试</translation>
+    </message>
+    <message>
         <source>Round</source>
         <translation>圆形</translation>
     </message>
@@ -1506,6 +1630,10 @@
     <message>
         <source>SR</source>
         <translation>SR</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>饱和度</translation>
     </message>
     <message>
         <source>Saturation R Y G C B M</source>
@@ -1544,6 +1672,18 @@
         <translation>情景模式</translation>
     </message>
     <message>
+        <source>Scene block</source>
+        <translation>场景数据块</translation>
+    </message>
+    <message>
+        <source>Scene block: one part came late</source>
+        <translation>场景数据块：有一部分迟到</translation>
+    </message>
+    <message>
+        <source>Scene block: one part did not come</source>
+        <translation>场景数据块：有一部分未收到</translation>
+    </message>
+    <message>
         <source>Scene mode</source>
         <translation>情景模式</translation>
     </message>
@@ -1570,6 +1710,10 @@
     <message>
         <source>Select File</source>
         <translation>选择文件</translation>
+    </message>
+    <message>
+        <source>Sent again and taken; nothing to do.</source>
+        <translation>再次发送后已接受，无需处理。</translation>
     </message>
     <message>
         <source>Service Settings</source>
@@ -1788,6 +1932,10 @@
         <translation>文件无法写入：%1</translation>
     </message>
     <message>
+        <source>The file has become too large.</source>
+        <translation>文件过大。</translation>
+    </message>
+    <message>
         <source>The file holds %1 frames; the first %2 were taken.</source>
         <translation>文件中有 %1 帧，只导入了前 %2 帧。</translation>
     </message>
@@ -1826,6 +1974,10 @@
     <message>
         <source>The monitor did not take this setting.</source>
         <translation>显示器未接受此设置。</translation>
+    </message>
+    <message>
+        <source>The monitor does not answer; the reading was given up.</source>
+        <translation>显示器没有应答，读取已放弃。</translation>
     </message>
     <message>
         <source>The monitor has not told this value yet.</source>
@@ -1874,6 +2026,14 @@
     <message>
         <source>The program heard it.</source>
         <translation>程序已收到。</translation>
+    </message>
+    <message>
+        <source>The recording could not be begun: %1</source>
+        <translation>无法开始记录：%1</translation>
+    </message>
+    <message>
+        <source>The report is on the clipboard. It names no files, programs or users.</source>
+        <translation>报告已复制到剪贴板，其中不含文件、程序或用户的名称。</translation>
     </message>
     <message>
         <source>The selected display is unsupported or the signal line is disconnected.</source>
@@ -1946,6 +2106,8 @@
     <message>
         <source>This slider counts while Color Temperature is Night View C.T.</source>
         <translation>色温选为“夜间色温”时，此滑块才起作用。</translation>
+        <source>This monitor may not have it; else read everything once.</source>
+        <translation>此显示器可能没有该功能；否则请全部读取一次。</translation>
     </message>
     <message>
         <source>Time to rest your eyes for a while.</source>
@@ -1990,6 +2152,10 @@
     <message>
         <source>True colours for design work.</source>
         <translation>色彩真实，适合设计工作。</translation>
+    </message>
+    <message>
+        <source>Try again; its scene or another setting may forbid it.</source>
+        <translation>请重试；当前场景或其他设置可能不允许。</translation>
     </message>
     <message>
         <source>Two tones</source>
@@ -2112,6 +2278,10 @@
         <translation>故障模拟</translation>
     </message>
     <message>
+        <source>What is asked and answered is recorded in %1</source>
+        <translation>请求与应答正在记录到 %1</translation>
+    </message>
+    <message>
         <source>What most visitors of a page see.</source>
         <translation>大多数网页访客看到的色彩。</translation>
     </message>
@@ -2148,6 +2318,10 @@
         <translation>在此输入要在矩阵上显示的文字。</translation>
     </message>
     <message>
+        <source>Written today</source>
+        <translation>今日写入</translation>
+    </message>
+    <message>
         <source>Y</source>
         <translation>Y</translation>
     </message>
@@ -2172,12 +2346,20 @@
         <translation>已调整</translation>
     </message>
     <message>
+        <source>all succeeded</source>
+        <translation>全部成功</translation>
+    </message>
+    <message>
         <source>connected</source>
         <translation>已连接</translation>
     </message>
     <message>
         <source>deaf</source>
         <translation>无应答</translation>
+    </message>
+    <message>
+        <source>firmware %1</source>
+        <translation>固件 %1</translation>
     </message>
     <message>
         <source>garbled</source>
@@ -2200,6 +2382,14 @@
         <translation>已丢失</translation>
     </message>
     <message>
+        <source>made %1</source>
+        <translation>%1 年制造</translation>
+    </message>
+    <message>
+        <source>made %1, week %2</source>
+        <translation>%1 年第 %2 周制造</translation>
+    </message>
+    <message>
         <source>mode %1</source>
         <translation>模式 %1</translation>
     </message>
@@ -2212,12 +2402,24 @@
         <translation>无显示器</translation>
     </message>
     <message>
+        <source>none needed</source>
+        <translation>无需重试</translation>
+    </message>
+    <message>
         <source>not a WAV file of 16-bit or floating-point samples</source>
         <translation>不是 16 位或浮点采样的 WAV 文件</translation>
     </message>
     <message>
         <source>nothing</source>
         <translation>无</translation>
+    </message>
+    <message>
+        <source>nothing asked yet</source>
+        <translation>尚未请求</translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>现在</translation>
     </message>
     <message>
         <source>off</source>
@@ -2258,6 +2460,14 @@
     <message>
         <source>sRGB(2.2) Mode</source>
         <translation>sRGB(2.2) 模式</translation>
+    </message>
+    <message>
+        <source>serial %1</source>
+        <translation>序列号 %1</translation>
+    </message>
+    <message>
+        <source>slowest %1</source>
+        <translation>最慢 %1</translation>
     </message>
     <message>
         <source>text</source>

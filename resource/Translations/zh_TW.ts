@@ -24,6 +24,10 @@
         <translation> 已啟用！</translation>
     </message>
     <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
         <source>%1 cannot be written. Nothing was changed.</source>
         <translation>無法寫入 %1，未做任何變更。</translation>
     </message>
@@ -44,12 +48,42 @@
         <translation>%1 已被其他程式或功能佔用，在此不起作用。</translation>
     </message>
     <message>
+        <source>%1 ms</source>
+        <translation>%1 毫秒</translation>
+    </message>
+    <message>
+        <source>%1 of %2 lost</source>
+        <translation>%2 次中遺失 %1 次</translation>
+    </message>
+    <message>
+        <source>%1 of %2 values were told, in %3 s.</source>
+        <translation>%2 個值中讀到 %1 個，用時 %3 秒。</translation>
+    </message>
+    <message>
+        <source>%1 requests are recorded in %2</source>
+        <translation>已將 %1 次請求記錄到 %2</translation>
+    </message>
+    <message>
         <source>%1 s left</source>
         <translation>剩餘 %1 秒</translation>
     </message>
     <message>
         <source>%1 was changed to &quot;%2&quot;.</source>
         <translation>%1已改為「%2」。</translation>
+        <source>%1 since the start</source>
+        <translation>啟動以來 %1 次</translation>
+    </message>
+    <message>
+        <source>%1 succeeded</source>
+        <translation>%1 次成功</translation>
+    </message>
+    <message>
+        <source>%1 was not taken</source>
+        <translation>%1未被接受</translation>
+    </message>
+    <message>
+        <source>%1 was not told</source>
+        <translation>%1未能讀到</translation>
     </message>
     <message>
         <source>%1 · %2</source>
@@ -82,6 +116,10 @@
     <message>
         <source>1.8</source>
         <translation>1.8</translation>
+    </message>
+    <message>
+        <source>10 min</source>
+        <translation>10 分鐘前</translation>
     </message>
     <message>
         <source>2 Hour</source>
@@ -300,6 +338,14 @@
         <translation>其他程式…</translation>
     </message>
     <message>
+        <source>Answer times, last ten minutes</source>
+        <translation>最近十分鐘的回應時間</translation>
+    </message>
+    <message>
+        <source>Answers</source>
+        <translation>回應率</translation>
+    </message>
+    <message>
         <source>Application is already running</source>
         <translation>應用程式已在執行中</translation>
     </message>
@@ -314,6 +360,14 @@
     <message>
         <source>Art Design Mode</source>
         <translation>藝術設計模式</translation>
+    </message>
+    <message>
+        <source>Asked again and told; nothing to do.</source>
+        <translation>再次讀取後已讀到，無需處理。</translation>
+    </message>
+    <message>
+        <source>Asked again; nothing to do.</source>
+        <translation>已重新讀取，無需處理。</translation>
     </message>
     <message>
         <source>Audio Mode</source>
@@ -408,6 +462,10 @@
         <translation>取消</translation>
     </message>
     <message>
+        <source>Cancelled.</source>
+        <translation>已取消。</translation>
+    </message>
+    <message>
         <source>Cancelled. Nothing was changed.</source>
         <translation>已取消，未做任何變更。</translation>
     </message>
@@ -442,6 +500,8 @@
     <message>
         <source>Choose the controls</source>
         <translation>選擇控制項</translation>
+        <source>Choose the scene again, or read everything once.</source>
+        <translation>請重新選擇場景，或全部讀取一次。</translation>
     </message>
     <message>
         <source>Cinema colours at a D65 white.</source>
@@ -498,6 +558,10 @@
     <message>
         <source>Convo</source>
         <translation>對話</translation>
+    </message>
+    <message>
+        <source>Copy report</source>
+        <translation>複製報告</translation>
     </message>
     <message>
         <source>Custom</source>
@@ -864,6 +928,10 @@
         <translation>快速鍵提示</translation>
     </message>
     <message>
+        <source>How the link to the monitor has been since the program started.</source>
+        <translation>程式啟動以來與顯示器的連線狀況。</translation>
+    </message>
+    <message>
         <source>How the print will look under a D55 light.</source>
         <translation>印刷品在 D55 光源下的效果。</translation>
     </message>
@@ -906,6 +974,14 @@
     <message>
         <source>Input Signal</source>
         <translation>輸入訊號</translation>
+    </message>
+    <message>
+        <source>Is it on, its cable plugged in, and DDC/CI on in its menu?</source>
+        <translation>請檢查顯示器是否開機、線材是否接好、選單中 DDC/CI 是否開啟。</translation>
+    </message>
+    <message>
+        <source>It answers again; nothing to do.</source>
+        <translation>顯示器已恢復回應，無需處理。</translation>
     </message>
     <message>
         <source>It is a link, which is not followed.</source>
@@ -954,6 +1030,10 @@
     <message>
         <source>Language</source>
         <translation>語言</translation>
+    </message>
+    <message>
+        <source>Last errors</source>
+        <translation>最近的錯誤</translation>
     </message>
     <message>
         <source>Last requests to the monitor</source>
@@ -1064,6 +1144,10 @@
         <translation>最多192個畫格</translation>
     </message>
     <message>
+        <source>Median answer</source>
+        <translation>回應中位數</translation>
+    </message>
+    <message>
         <source>Medium</source>
         <translation>中</translation>
     </message>
@@ -1116,8 +1200,16 @@
         <translation>模式5</translation>
     </message>
     <message>
+        <source>Model</source>
+        <translation>型號</translation>
+    </message>
+    <message>
         <source>Monitor</source>
         <translation>顯示器</translation>
+    </message>
+    <message>
+        <source>Monitor Health</source>
+        <translation>顯示器狀況</translation>
     </message>
     <message>
         <source>Movie</source>
@@ -1192,6 +1284,14 @@
         <translation>未連接 Type-C 資料線或 HDMI/DP + USB 資料線。</translation>
     </message>
     <message>
+        <source>No answer</source>
+        <translation>沒有回應</translation>
+    </message>
+    <message>
+        <source>No answer for %1 s</source>
+        <translation>%1 秒沒有回應</translation>
+    </message>
+    <message>
         <source>No file path selected.</source>
         <translation>未選擇檔案路徑。</translation>
     </message>
@@ -1206,6 +1306,14 @@
     <message>
         <source>Noise</source>
         <translation>雜訊</translation>
+    </message>
+    <message>
+        <source>None.</source>
+        <translation>無。</translation>
+    </message>
+    <message>
+        <source>Not told: %1</source>
+        <translation>未讀到：%1</translation>
     </message>
     <message>
         <source>Nothing is heard: no program plays, or the sound output is gone.</source>
@@ -1416,6 +1524,10 @@
         <translation>取樣率</translation>
     </message>
     <message>
+        <source>Read everything once</source>
+        <translation>全部讀取一次</translation>
+    </message>
+    <message>
         <source>Reading</source>
         <translation>閱讀</translation>
     </message>
@@ -1428,6 +1540,10 @@
         <translation>閱讀範例 0123</translation>
     </message>
     <message>
+        <source>Reading: %1 of %2</source>
+        <translation>正在讀取：%1 / %2</translation>
+    </message>
+    <message>
         <source>Rec.709</source>
         <translation>Rec.709</translation>
     </message>
@@ -1438,6 +1554,10 @@
     <message>
         <source>Recommended to set [Expand These Monitors] in the System-&gt; Screen when operating multiple monitors.</source>
         <translation>使用多台顯示器時，建議在「系統 -&gt; 螢幕」中設定[延伸這些顯示器]。</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>記錄</translation>
     </message>
     <message>
         <source>Rectangle</source>
@@ -1480,6 +1600,10 @@
         <translation>恢復原廠設定</translation>
     </message>
     <message>
+        <source>Retries</source>
+        <translation>重試</translation>
+    </message>
+    <message>
         <source>Round</source>
         <translation>圓形</translation>
     </message>
@@ -1506,6 +1630,10 @@
     <message>
         <source>SR</source>
         <translation>SR</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>飽和度</translation>
     </message>
     <message>
         <source>Saturation R Y G C B M</source>
@@ -1544,6 +1672,18 @@
         <translation>情境模式</translation>
     </message>
     <message>
+        <source>Scene block</source>
+        <translation>場景資料區塊</translation>
+    </message>
+    <message>
+        <source>Scene block: one part came late</source>
+        <translation>場景資料區塊：有一部分遲到</translation>
+    </message>
+    <message>
+        <source>Scene block: one part did not come</source>
+        <translation>場景資料區塊：有一部分未收到</translation>
+    </message>
+    <message>
         <source>Scene mode</source>
         <translation>情境模式</translation>
     </message>
@@ -1570,6 +1710,10 @@
     <message>
         <source>Select File</source>
         <translation>選擇檔案</translation>
+    </message>
+    <message>
+        <source>Sent again and taken; nothing to do.</source>
+        <translation>再次傳送後已接受，無需處理。</translation>
     </message>
     <message>
         <source>Service Settings</source>
@@ -1788,6 +1932,10 @@
         <translation>檔案無法寫入：%1</translation>
     </message>
     <message>
+        <source>The file has become too large.</source>
+        <translation>檔案過大。</translation>
+    </message>
+    <message>
         <source>The file holds %1 frames; the first %2 were taken.</source>
         <translation>檔案中有 %1 個畫格，只匯入了前 %2 個。</translation>
     </message>
@@ -1826,6 +1974,10 @@
     <message>
         <source>The monitor did not take this setting.</source>
         <translation>顯示器未接受此設定。</translation>
+    </message>
+    <message>
+        <source>The monitor does not answer; the reading was given up.</source>
+        <translation>顯示器沒有回應，讀取已放棄。</translation>
     </message>
     <message>
         <source>The monitor has not told this value yet.</source>
@@ -1874,6 +2026,14 @@
     <message>
         <source>The program heard it.</source>
         <translation>程式已收到。</translation>
+    </message>
+    <message>
+        <source>The recording could not be begun: %1</source>
+        <translation>無法開始記錄：%1</translation>
+    </message>
+    <message>
+        <source>The report is on the clipboard. It names no files, programs or users.</source>
+        <translation>報告已複製到剪貼簿，其中不含檔案、程式或使用者的名稱。</translation>
     </message>
     <message>
         <source>The selected display is unsupported or the signal line is disconnected.</source>
@@ -1946,6 +2106,8 @@
     <message>
         <source>This slider counts while Color Temperature is Night View C.T.</source>
         <translation>色溫選為「夜間色溫」時，此滑桿才有作用。</translation>
+        <source>This monitor may not have it; else read everything once.</source>
+        <translation>此顯示器可能沒有該功能；否則請全部讀取一次。</translation>
     </message>
     <message>
         <source>Time to rest your eyes for a while.</source>
@@ -1990,6 +2152,10 @@
     <message>
         <source>True colours for design work.</source>
         <translation>色彩真實，適合設計工作。</translation>
+    </message>
+    <message>
+        <source>Try again; its scene or another setting may forbid it.</source>
+        <translation>請重試；目前場景或其他設定可能不允許。</translation>
     </message>
     <message>
         <source>Two tones</source>
@@ -2112,6 +2278,10 @@
         <translation>故障模擬</translation>
     </message>
     <message>
+        <source>What is asked and answered is recorded in %1</source>
+        <translation>請求與回應正在記錄到 %1</translation>
+    </message>
+    <message>
         <source>What most visitors of a page see.</source>
         <translation>多數網頁訪客看到的色彩。</translation>
     </message>
@@ -2148,6 +2318,10 @@
         <translation>在此輸入要在矩陣上顯示的文字。</translation>
     </message>
     <message>
+        <source>Written today</source>
+        <translation>今日寫入</translation>
+    </message>
+    <message>
         <source>Y</source>
         <translation>Y</translation>
     </message>
@@ -2172,12 +2346,20 @@
         <translation>已調整</translation>
     </message>
     <message>
+        <source>all succeeded</source>
+        <translation>全部成功</translation>
+    </message>
+    <message>
         <source>connected</source>
         <translation>已連線</translation>
     </message>
     <message>
         <source>deaf</source>
         <translation>無回應</translation>
+    </message>
+    <message>
+        <source>firmware %1</source>
+        <translation>韌體 %1</translation>
     </message>
     <message>
         <source>garbled</source>
@@ -2200,6 +2382,14 @@
         <translation>已遺失</translation>
     </message>
     <message>
+        <source>made %1</source>
+        <translation>%1 年製造</translation>
+    </message>
+    <message>
+        <source>made %1, week %2</source>
+        <translation>%1 年第 %2 週製造</translation>
+    </message>
+    <message>
         <source>mode %1</source>
         <translation>模式 %1</translation>
     </message>
@@ -2212,12 +2402,24 @@
         <translation>無顯示器</translation>
     </message>
     <message>
+        <source>none needed</source>
+        <translation>無需重試</translation>
+    </message>
+    <message>
         <source>not a WAV file of 16-bit or floating-point samples</source>
         <translation>不是 16 位元或浮點取樣的 WAV 檔案</translation>
     </message>
     <message>
         <source>nothing</source>
         <translation>無</translation>
+    </message>
+    <message>
+        <source>nothing asked yet</source>
+        <translation>尚未請求</translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>現在</translation>
     </message>
     <message>
         <source>off</source>
@@ -2258,6 +2460,14 @@
     <message>
         <source>sRGB(2.2) Mode</source>
         <translation>sRGB(2.2) 模式</translation>
+    </message>
+    <message>
+        <source>serial %1</source>
+        <translation>序號 %1</translation>
+    </message>
+    <message>
+        <source>slowest %1</source>
+        <translation>最慢 %1</translation>
     </message>
     <message>
         <source>text</source>

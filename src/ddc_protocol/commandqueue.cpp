@@ -99,10 +99,19 @@ void CommandQueue::releaseAll()
 
 void CommandQueue::ask(Command command)
 {
+    askAll(std::span(&command, 1), {});
+}
+
+void CommandQueue::askAll(std::span<const Command> commands, std::optional<int> blockMode)
+{
     {
         const std::lock_guard lock(m_mutex);
-        if (std::find(m_questions.begin(), m_questions.end(), command) == m_questions.end())
-            m_questions.push_back(command);
+        for (const Command command : commands) {
+            if (std::find(m_questions.begin(), m_questions.end(), command) == m_questions.end())
+                m_questions.push_back(command);
+        }
+        if (blockMode)
+            m_blockQuestion = blockMode;
     }
     m_wake.notify_one();
 }
@@ -121,11 +130,14 @@ bool CommandQueue::isAsking()
 
 void CommandQueue::askBlock(int mode)
 {
-    {
-        const std::lock_guard lock(m_mutex);
-        m_blockQuestion = mode;
-    }
-    m_wake.notify_one();
+    askAll({}, mode);
+}
+
+void CommandQueue::dropQuestions()
+{
+    const std::lock_guard lock(m_mutex);
+    m_questions.clear();
+    m_blockQuestion.reset();
 }
 
 void CommandQueue::drain()
@@ -182,6 +194,7 @@ void CommandQueue::askNext(std::unique_lock<std::mutex> &lock)
     const bool told = readCommandOnce(readRow(command)).has_value();
     if (!told)
         deviceState.doubt(command);
+    Q_EMIT answered(command, told);
     lock.lock();
     noteAnswer(told, lock);
 }
@@ -195,6 +208,7 @@ void CommandQueue::askNextBlock(std::unique_lock<std::mutex> &lock)
     const bool told = readSceneBlockOnce(mode);
     if (!told)
         deviceState.doubtSceneBlock();
+    Q_EMIT blockAnswered(told);
     lock.lock();
     noteAnswer(told, lock);
 }
@@ -205,9 +219,14 @@ void CommandQueue::noteAnswer(bool told, std::unique_lock<std::mutex> &lock)
     m_asking = false;
     if (!told) {
         ++m_unanswered;
-        if (!monitorAnswers()) {
+        if (!monitorAnswers() && hasQuestion()) {
+            const QList<Command> commands(m_questions.begin(), m_questions.end());
+            const bool block = m_blockQuestion.has_value();
             m_questions.clear();
             m_blockQuestion.reset();
+            lock.unlock();
+            Q_EMIT gaveUp(commands, block);
+            lock.lock();
         }
     }
     if (hasQuestion())

@@ -4,6 +4,7 @@
 #include <map>
 #include <mutex>
 #include <optional>
+#include <span>
 #include <thread>
 #include <vector>
 
@@ -37,6 +38,13 @@ public:
     /// Asks for the scene block of an even mode in the same way, behind the values.
     void askBlock(int mode);
 
+    /// Asks for many values, and for the scene block of a mode if one is given, at once: a monitor that is silent is
+    /// asked for the first one only.
+    void askAll(std::span<const Command> commands, std::optional<int> blockMode);
+
+    /// Asks nothing more of what waits.
+    void dropQuestions();
+
     /// Blocks until everything posted has been sent. Whoever sends a command directly calls this first, or a drag's
     /// last value would arrive behind it. Not waited for when the program ends: its window is not to be held up.
     void drain();
@@ -56,6 +64,16 @@ public:
 Q_SIGNALS:
     /// A value went to the monitor, or failed to. Emitted on the queue's thread.
     void sent(Command command, int value, bool ok);
+
+    /// A value was asked for, and the monitor told it or not. Emitted on the queue's thread.
+    void answered(Command command, bool told);
+
+    /// The same for a scene block.
+    void blockAnswered(bool told);
+
+    /// These values, and a block or not, are not asked for any more: the monitor is silent. Emitted on the queue's
+    /// thread.
+    void gaveUp(const QList<Command> &commands, bool block);
 
     /// All questions were asked, or given up; what was told is in the snapshot, and so many were not answered. Emitted
     /// on the queue's thread.

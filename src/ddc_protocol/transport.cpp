@@ -6,6 +6,7 @@
 
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/displayenumeration.h"
+#include "ddc_protocol/linkrecorder.h"
 #include "ddc_protocol/linkrecords.h"
 #include "ddc_protocol/linkstatus.h"
 #include "ddc_protocol/monitoridentity.h"
@@ -84,7 +85,9 @@ void makeRequest(std::optional<platform::PhysicalMonitorHandle> monitor, LinkReq
         // Somebody may set the clock back meanwhile.
         request.duration = static_cast<int>(std::max<qint64>(request.at.msecsTo(clock.now()), 0));
         const std::size_t index = currentMonitorIndex;
-        linkRecords.note(index < monitorList.size() ? monitorList[index].identity : MonitorIdentity(), request);
+        const MonitorIdentity identity = index < monitorList.size() ? monitorList[index].identity : MonitorIdentity();
+        linkRecords.note(identity, request);
+        linkRecorder.note(identity, request);
     }
     noteRequest(request.code, request.reply.answered);
 }

@@ -14,6 +14,7 @@
 #include "ddc_protocol/settingsstore.h"
 #include "page/BasicSetting/hotkeyoverlay.h"
 #include "page/BasicSetting/toollanguage.h"
+#include "page/Health/healthpanel.h"
 #include "page/engine/dropdown.h"
 #include "page/engine/labels.h"
 #include "page/engine/optiongrouprow.h"
@@ -29,14 +30,17 @@ constexpr char kLanguage[] = LABEL("Tool language settings");
 constexpr char kOverlay[] = LABEL("Hotkey overlay");
 constexpr char kVersion[] = "version";
 constexpr char kMachine[] = "machine";
+constexpr char kHealth[] = "health";
 
 constexpr Option kYesNo[] = {{LABEL("Yes"), 1}, {LABEL("No"), 0}};
 
 const Section kGeneral[] = {CustomPart{kStartUp}, CustomPart{kLanguage}, CustomPart{kOverlay}, CustomPart{kVersion}};
 const Section kMachineSelect[] = {CustomPart{kMachine}};
+const Section kHealthPanel[] = {CustomPart{kHealth}};
 const PanelSpec kPanels[] = {
     {LABEL("General Settings"), "tool_settings", "pageGeneralSettings", kGeneral},
     {LABEL("Machine Select"), "machine_select", "pageMachineSelect", kMachineSelect},
+    {LABEL("Monitor Health"), "monitor_health", "pageMonitorHealth", kHealthPanel},
 };
 
 /// The languages as options, each with its place in the list.
@@ -79,6 +83,8 @@ QWidget *pagePCSetting::buildPart(const char *name)
         return m_language = makeOptions({kLanguage, kNoCommand, languageOptions()});
     if (qstrcmp(name, kOverlay) == 0)
         return m_overlay = makeOptions({kOverlay, kNoCommand, kYesNo});
+    if (qstrcmp(name, kHealth) == 0)
+        return m_health = new HealthPanel(texts(), queue(), this);
     return qstrcmp(name, kVersion) == 0 ? buildVersion() : buildMachine();
 }
 
@@ -127,6 +133,13 @@ void pagePCSetting::updateInterfaceData()
     PanelPage::updateInterfaceData();
     showWhatIsSet();
     updateMachineCombox();
+    m_health->refresh();
+}
+
+void pagePCSetting::updateControlText()
+{
+    PanelPage::updateControlText();
+    m_health->refresh();
 }
 
 void pagePCSetting::showEvent(QShowEvent *event)

@@ -2,10 +2,12 @@
 
 #include "page/engine/panelpage.h"
 
+class HealthPanel;
 class QComboBox;
 class SearchDeviceDlg;
 
-/// The settings of the tool itself: start at log-on, language, and which of the connected monitors it controls.
+/// The settings of the tool itself: start at log-on, language, which of the connected monitors it controls, and
+/// how the link to them is.
 class pagePCSetting : public PanelPage
 {
     Q_OBJECT
@@ -13,6 +15,7 @@ public:
     pagePCSetting(SearchDeviceDlg &session, CommandQueue &queue, QWidget *parent = nullptr);
 
     void updateInterfaceData() override;
+    void updateControlText() override;
 
     /// Fills the machine list with the monitors that the session found. Changes no machine.
     void updateMachineCombox();
@@ -43,4 +46,5 @@ private:
     OptionGroupRow *m_language = nullptr;
     OptionGroupRow *m_overlay = nullptr;
     QComboBox *m_machines = nullptr;
+    HealthPanel *m_health = nullptr;
 };

@@ -10,6 +10,7 @@
 #include "controls/pictures.h"
 #include "controls/sharedfonts.h"
 #include "page/BasicSetting/toollanguage.h"
+#include "page/Health/healthtexts.h"
 #include "page/engine/labels.h"
 #include "platform/desk.h"
 
@@ -171,15 +172,9 @@ void pageServicesSetting::updateInterfaceData()
     }
 }
 
-/// The parts are written as the monitor's own menu does: in base 16.
 void pageServicesSetting::showVersion()
 {
-    if (!deviceState.isKnown(Command::Firmware)) {
-        m_version->setText(QStringLiteral("–"));
-        return;
-    }
-    const int firmware = deviceState.value(Command::Firmware);
-    m_version->setText(QStringLiteral("v%1.%2").arg(firmware >> 8 & 0xFF, 0, 16).arg(firmware & 0xFF, 0, 16));
+    m_version->setText(firmwareVersion());
 }
 
 void pageServicesSetting::onKnowledgeButtonClicked()

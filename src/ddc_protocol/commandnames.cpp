@@ -1,0 +1,136 @@
+#include "ddc_protocol/commandnames.h"
+
+#include <algorithm>
+
+#include <QObject>
+
+/// Marks a text for translation.
+#define LABEL(text) QT_TRANSLATE_NOOP("QObject", text)
+
+namespace {
+
+constexpr char kCare[] = LABEL("Oled Care");
+constexpr char kGameAid[] = LABEL("Game Aid");
+constexpr char kUser[] = LABEL("Color Temperature");
+constexpr char kHue[] = LABEL("Hue");
+constexpr char kSaturation[] = LABEL("Saturation");
+
+constexpr CommandName kNames[] = {
+    {Command::PixelShift, kCare, Capability::OledPanel},
+    {Command::CareFunction2, kCare, Capability::OledPanel},
+    {Command::DetectionRate, kCare, Capability::OledPanel},
+    {Command::StaticIcon, kCare, Capability::OledPanel},
+    {Command::CareState5, kCare, Capability::OledPanel},
+    {Command::Taskbar, kCare, Capability::OledPanel},
+    {Command::Boundary, kCare, Capability::OledPanel},
+    {Command::CareState8, kCare, Capability::OledPanel},
+    {Command::CareSwitch9, kCare, Capability::OledPanel},
+    {Command::CareMode, kCare, Capability::OledPanel},
+    {Command::CareFunctionB, kCare, Capability::OledPanel},
+    {Command::CareIsp, kCare, Capability::OledPanel},
+    {Command::CareFunctionE, kCare, Capability::OledPanel},
+    {Command::Brightness, LABEL("Brightness")},
+    {Command::Contrast, LABEL("Contrast")},
+    {Command::ColorTemperature, LABEL("Color Temperature")},
+    {Command::NightViewTemperature, LABEL("Night View C.T")},
+    {Command::User1Red, kUser},
+    {Command::User1Green, kUser},
+    {Command::User1Blue, kUser},
+    {Command::User2Red, kUser},
+    {Command::User2Green, kUser},
+    {Command::User2Blue, kUser},
+    {Command::User3Red, kUser},
+    {Command::User3Green, kUser},
+    {Command::User3Blue, kUser},
+    {Command::SceneMode, LABEL("Scene")},
+    {Command::Gamma, LABEL("Gama")},
+    {Command::RefreshRate, kGameAid, Capability::GameFunctions},
+    {Command::Crosshair, kGameAid, Capability::GameFunctions},
+    {Command::Stopwatch, kGameAid, Capability::GameFunctions},
+    {Command::GameTime, kGameAid, Capability::GameFunctions},
+    {Command::AlignmentAid, LABEL("Alignment Aid")},
+    {Command::ColorEnhance, LABEL("Color Enhance")},
+    {Command::ContrastEnhance, LABEL("CR Enhance")},
+    {Command::BlackLevel, LABEL("Black Level")},
+    {Command::AdaptiveSync, LABEL("Adaptive-Sync")},
+    {Command::SuperResolution, LABEL("Super Resolution")},
+    {Command::NightVision, LABEL("Night Vision")},
+    {Command::HaloControl, LABEL("Halo Control"), Capability::HaloControl},
+    {Command::LocalDimming, LABEL("Localdimming"), Capability::LocalDimming},
+    {Command::MotionTech, LABEL("DyDs TECH")},
+    {Command::GrayResponse, LABEL("Gray Response")},
+    {Command::Hdr, LABEL("HDR")},
+    {Command::InputSignal, LABEL("Input Signal")},
+    {Command::SaturationRed, kSaturation},
+    {Command::SaturationYellow, kSaturation},
+    {Command::SaturationGreen, kSaturation},
+    {Command::SaturationCyan, kSaturation},
+    {Command::SaturationBlue, kSaturation},
+    {Command::SaturationMagenta, kSaturation},
+    {Command::UsbSwitch, LABEL("USB Switch")},
+    {Command::OutputRange, LABEL("Output Range")},
+    {Command::QuickBoot, LABEL("Quick Boot")},
+    {Command::Sharpness, LABEL("Sharpness")},
+    {Command::HueRed, kHue},
+    {Command::HueYellow, kHue},
+    {Command::HueGreen, kHue},
+    {Command::HueCyan, kHue},
+    {Command::HueBlue, kHue},
+    {Command::HueMagenta, kHue},
+    {Command::OsdShowTime, LABEL("Show Time(s)")},
+    {Command::OsdHPosition, LABEL("H-Position")},
+    {Command::OsdVPosition, LABEL("V-Position")},
+    {Command::OsdTransparency, LABEL("Transparency")},
+    {Command::MenuLock, LABEL("Menu Lock")},
+    {Command::PowerLed, LABEL("Power LED")},
+    {Command::PowerSaving, LABEL("Power Saving")},
+    {Command::ResetFactory, LABEL("Reset Factory"), {}, false},
+    {Command::OsdLanguage, LABEL("OSD Language")},
+    {Command::UsbPower, LABEL("USB Power")},
+    {Command::DpAltMode, LABEL("DP Alt Mode")},
+    {Command::DpTypeC, LABEL("DP/Type-C")},
+    {Command::LowBlueLight, LABEL("Low Blue Light")},
+    {Command::Cec, LABEL("CEC")},
+    {Command::LightSensor, LABEL("Light Sensor")},
+    {Command::AiDualMode, LABEL("AI Dual Mode")},
+    {Command::NoSignalTimer, LABEL("No Signal Timer")},
+    {Command::GameRush, LABEL("Game Rush"), Capability::GameFunctions},
+    {Command::AudioMode, LABEL("Audio Mode")},
+    {Command::GravitySensor, LABEL("Gravity Sensor")},
+    {Command::Paper, LABEL("Paper")},
+    {Command::Capability, LABEL("Model")},
+    {Command::Firmware, LABEL("Display Version")},
+    {Command::OfficeArea, LABEL("Paper")},
+    {Command::Alignment, LABEL("Alignment")},
+    {Command::Ruler, LABEL("Ruler")},
+    {Command::AudioVolume, LABEL("Audio Volume")},
+    {Command::AudioMute, LABEL("Audio Mute")},
+    {Command::Composition, LABEL("Composition")},
+    {Command::RestTimer, LABEL("Eyeshield Remind")},
+};
+
+} // namespace
+
+std::span<const CommandName> commandNames()
+{
+    return kNames;
+}
+
+QString commandName(Command command)
+{
+    const auto found = std::find_if(std::begin(kNames), std::end(kNames),
+                                    [command](const CommandName &name) { return name.command == command; });
+    if (found != std::end(kNames))
+        return QObject::tr(found->label);
+    return QStringLiteral("0x%1").arg(static_cast<int>(command), 2, 16, QLatin1Char('0'));
+}
+
+std::vector<Command> readableCommands()
+{
+    std::vector<Command> commands;
+    for (const CommandName &name : kNames) {
+        if (name.isReadable && (!name.needs || deviceState.has(*name.needs)))
+            commands.push_back(name.command);
+    }
+    return commands;
+}

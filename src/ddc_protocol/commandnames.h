@@ -1,0 +1,27 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <vector>
+
+#include <QString>
+
+#include "ddc_protocol/devicestate.h"
+
+/// What a command is called where no page stands for it, such as in a list of errors.
+struct CommandName
+{
+    Command command;
+    const char *label; ///< source text
+    std::optional<Capability> needs = {};
+    bool isReadable = true;
+};
+
+/// All commands that the program uses, by code.
+std::span<const CommandName> commandNames();
+
+/// The translated name of a command; one that the program does not use is told by its code.
+QString commandName(Command command);
+
+/// The commands whose values a monitor of the model in use can tell.
+std::vector<Command> readableCommands();
