@@ -1,8 +1,10 @@
 #include <random>
 
+#include "ddc_protocol/linkrecorder.h"
 #include "ddc_protocol/linkrecords.h"
 #include "ddc_protocol/sceneblock.h"
 #include "support/deskfixture.h"
+#include "virtualdesk/deskscript.h"
 
 using namespace std::chrono_literals;
 
@@ -14,10 +16,28 @@ struct Observed
     std::uint64_t requests = 0, failures = 0, writes = 0, writesToday = 0, retries = 0;
     std::vector<int> durations; ///< of answers
     bool opened = false;        ///< the command under way has made an attempt
+
+    void add(const virtualdesk::Request &request, int duration);
 };
 
 /// Ten minutes before midnight, so that a day ends on the way.
 const QDateTime kBegin(QDate(2024, 3, 9), QTime(23, 50));
+
+void Observed::add(const virtualdesk::Request &request, int duration)
+{
+    const bool again = request.code == 0xFF || (request.code == 0x99 && std::exchange(opened, true));
+    ++requests;
+    retries += again ? 1 : 0;
+    if (!request.ok()) {
+        ++failures;
+        return;
+    }
+    durations.push_back(duration);
+    if (request.kind == virtualdesk::RequestKind::Read || request.code == 0x99)
+        return;
+    ++writes;
+    writesToday += request.time.addMSecs(-duration).date() == kBegin.date().addDays(1) ? 1 : 0;
+}
 
 void armSomeFault(virtualdesk::SimulatedMonitor &monitor, std::mt19937 &random)
 {
@@ -81,6 +101,11 @@ private Q_SLOTS:
     void errorsInWords_data();
     void errorsInWords();
     void twinsStayTwo();
+    void recordingReplays();
+    void departuresAreTold();
+
+private:
+    QByteArray record(unsigned seed, bool faults);
 };
 
 /// Twenty thousand commands to two monitors with every fault: the counters are those of the monitors' own logs.
@@ -93,27 +118,16 @@ void TestLinkRecord::countsWhatTheMonitorSaw()
     m_desk->clock.setNow(kBegin);
     for (std::size_t i = 0; i < observed.size(); ++i) {
         virtualdesk::SimulatedMonitor &monitor = m_desk->monitor(i);
-        monitor.setLatency(40ms, 50ms);
         monitor.addListener([&, i](const virtualdesk::Request &request) {
-            Observed &seen = observed[i];
-            const bool isWrite = request.kind == virtualdesk::RequestKind::Write;
-            const int duration = m_desk->clock.takeWaits().last();
-            ++seen.requests;
-            seen.failures += request.ok() ? 0 : 1;
-            const bool again = request.code == 0xFF || (request.code == 0x99 && std::exchange(seen.opened, true));
-            seen.retries += again ? 1 : 0;
-            if (request.ok())
-                seen.durations.push_back(duration);
-            const bool counts = request.ok() && isWrite && request.code != 0x99;
-            seen.writes += counts ? 1 : 0;
-            const QDateTime begun = request.time.addMSecs(-duration);
-            seen.writesToday += counts && begun.date() == kBegin.date().addDays(1) ? 1 : 0;
+            observed[i].add(request, m_desk->clock.takeWaits().last());
         });
     }
     for (int i = 0; i < 20000; ++i) {
         if (random() % 20 == 0)
             armSomeFault(m_desk->monitor(random() % 2), random);
         currentMonitorIndex = static_cast<std::uint8_t>(random() % 2);
+        const auto latency = [&random] { return platform::milliseconds(random() % 100 + 1); };
+        m_desk->monitor(currentMonitorIndex).setLatency(latency(), latency());
         for (Observed &seen : observed)
             seen.opened = false;
         sendSomething(random);
@@ -141,13 +155,20 @@ void TestLinkRecord::errorsInWords_data()
 {
     QTest::addColumn<QString>("requests");
     QTest::addColumn<QString>("errors");
-    QTest::newRow("a value told when asked again") << "R99+ R10- R99+ R10- R99+ R10+" << "1:10x2+";
-    QTest::newRow("silence, then answers") << "R99- R10- W99- W99- R99+ R12-" << "1:12x1 0:99x4+";
-    QTest::newRow("refused for good, another one taken") << "W99+ W10- W99+ W10- W99+ W12+" << "2:10x2";
-    QTest::newRow("told is not taken") << "W99+ W10- R99+ R10+" << "2:10x1";
-    QTest::newRow("a chunk that came late") << "B99+ B22+ B0a+ Bfe- Bff+ Bfe+" << "3:fex1+";
-    QTest::newRow("a block that breaks twice") << "B99+ B22+ B0a- B99+ B22+ B0a-" << "3:0ax2";
-    QTest::newRow("two in turn stay two") << "R99+ R10- R99+ R12- R99+ R10-" << "1:10x2 1:12x1";
+    QTest::newRow("a value told when asked again") << "R99+ R10- R99+ R10- R99+ R10+"
+                                                   << "1:10x2+";
+    QTest::newRow("silence, then answers") << "R99- R10- W99- W99- R99+ R12-"
+                                           << "1:12x1 0:99x4+";
+    QTest::newRow("refused for good, another one taken") << "W99+ W10- W99+ W10- W99+ W12+"
+                                                         << "2:10x2";
+    QTest::newRow("told is not taken") << "W99+ W10- R99+ R10+"
+                                       << "2:10x1";
+    QTest::newRow("a chunk that came late") << "B99+ B22+ B0a+ Bfe- Bff+ Bfe+"
+                                            << "3:fex1+";
+    QTest::newRow("a block that breaks twice") << "B99+ B22+ B0a- B99+ B22+ B0a-"
+                                               << "3:0ax2";
+    QTest::newRow("two in turn stay two") << "R99+ R10- R99+ R12- R99+ R10-"
+                                          << "1:10x2 1:12x1";
 }
 
 void TestLinkRecord::errorsInWords()
@@ -187,9 +208,94 @@ void TestLinkRecord::twinsStayTwo()
     QCOMPARE(linkRecords.recordOf(first).requests(), 0u);
     QCOMPARE(linkRecords.recordOf(second).requests(), 4u);
     const EdidFacts facts = monitorList[0].facts;
-    QCOMPARE(QStringLiteral("%1 %2-%3 %4x%5").arg(facts.serial).arg(facts.year).arg(facts.week)
-                 .arg(facts.resolution.width()).arg(facts.resolution.height()),
+    QCOMPARE(QStringLiteral("%1 %2-%3 %4x%5")
+                 .arg(facts.serial)
+                 .arg(facts.year)
+                 .arg(facts.week)
+                 .arg(facts.resolution.width())
+                 .arg(facts.resolution.height()),
              QStringLiteral("0000001 2024-20 2560x1440"));
+}
+
+/// Five hundred commands to both monitors, with faults if they do not come from a recording.
+QByteArray TestLinkRecord::record(unsigned seed, bool faults)
+{
+    std::mt19937 random(seed);
+    std::mt19937 randomFault(seed);
+    findDevices();
+    linkRecorder.start();
+    for (int i = 0; i < 500; ++i) {
+        if (faults && i % 5 == 0) {
+            armSomeFault(m_desk->monitor(randomFault() % 2), randomFault);
+            m_desk->monitor(0).setDelay(0ms); // a replay takes no time
+            m_desk->monitor(1).setDelay(0ms);
+        }
+        currentMonitorIndex = static_cast<std::uint8_t>(random() % 2);
+        sendSomething(random);
+    }
+    linkRecorder.stop();
+    return readText(linkRecorder.fileName());
+}
+
+/// A program that does the same gets the same answers: its own recording is the same, byte for byte.
+void TestLinkRecord::recordingReplays()
+{
+    const QByteArray recorded = record(1, true);
+    QVERIFY(recorded.count('\n') == linkRecorder.requests() && recorded.count("\"answered\":false") > 100);
+    DeskSuite::cleanup();
+    DeskSuite::init();
+    QString error;
+    const int oled = recorded.indexOf("Q27-OLED") < recorded.indexOf("Q32-MPCS") ? 0 : 1;
+    for (int i = 0; i < 2; ++i) {
+        const auto replay = virtualdesk::parseRecording(recorded, i == 0 ? oled : 1 - oled, error);
+        QVERIFY2(replay, qPrintable(error));
+        m_desk->monitor(static_cast<std::size_t>(i)).replay(*replay);
+    }
+    QCOMPARE(record(1, false), recorded);
+    for (std::size_t i = 0; i < 2; ++i) {
+        QCOMPARE(m_desk->monitor(i).replayed()->departures(), QStringList());
+        QCOMPARE(m_desk->monitor(i).replayed()->left(), 0);
+    }
+}
+
+/// By a desk's script, as a user's report becomes a test.
+void TestLinkRecord::departuresAreTold()
+{
+    const auto line = [](int code, int current, char kind = 'R') {
+        LinkRequest made = request(kind, static_cast<std::uint8_t>(code), true, 0);
+        made.value = static_cast<std::uint32_t>(current);
+        made.reply.current = static_cast<std::uint32_t>(current);
+        made.reply.maximum = 100;
+        return recordedLine({"Q27-OLED", "1", "UID1"}, made, 0);
+    };
+    const auto script = [](const QByteArray &recording, int monitor, QString &error) {
+        writeText("r.jsonl", recording);
+        const QString text = R"({"monitors": [{"model": "Q27-OLED", "replay": "r.jsonl", "replay_monitor": %1}]})";
+        return virtualdesk::parseDeskScript(text.arg(monitor).toUtf8(), error);
+    };
+    const QByteArray recording =
+        line(0x99, 0) + line(0x10, 40) + line(0x99, 0) + line(0x12, 50) + line(0x99, 5, 'W') + line(0x10, 5, 'W');
+    QString error;
+    const auto setup = script(recording, 0, error);
+    QVERIFY2(setup, qPrintable(error));
+    m_desk->monitor().replay(*setup->monitors[0].replay);
+    findDevices();
+    std::uint32_t current = 0;
+    std::uint32_t maximum = 0;
+    QVERIFY(Korvu_GetCommandValMax(readRow(Command::Contrast), current, maximum));
+    QVERIFY(current == 50 && maximum == 100); // it goes on where the recording asks the same
+    QVERIFY(!Korvu_SetCommandVal(writeRow(Command::Brightness), 6, kRetryCount));
+    QVERIFY(Korvu_SetCommandVal(writeRow(Command::Brightness), 5, kRetryCount));
+    QCOMPARE(readCommandOnce(readRow(Command::Brightness)), std::nullopt);
+    QCOMPARE(m_desk->monitor().replayed()->departures(),
+             (QStringList{"line 2 of the recording asks R 10, but R 12 was asked",
+                          "line 5 of the recording asks W 99=5, but W 99=6 was asked",
+                          "line 5 of the recording asks W 99=5, but W 99=6 was asked",
+                          "R 99 was asked behind the end of the recording",
+                          "R 10 was asked behind the end of the recording"}));
+
+    QVERIFY(!script(recording + "{\"op\": 3}\n", 0, error) && error.contains("line 7 is no recorded request"));
+    QVERIFY(!script(recording, 1, error) && error.contains("has 1 monitors"));
 }
 
 QTEST_GUILESS_MAIN(TestLinkRecord)

@@ -501,7 +501,7 @@
         <source>Choose the controls</source>
         <translation>表示する項目を選ぶ</translation>
         <source>Choose the scene again, or read everything once.</source>
-        <translation>シーンを選び直すか、すべてを一度読み取ってください。</translation>
+        <translation>シーンの再選択か再読み取りをお試しください。</translation>
     </message>
     <message>
         <source>Cinema colours at a D65 white.</source>
@@ -2107,7 +2107,7 @@
         <source>This slider counts while Color Temperature is Night View C.T.</source>
         <translation>このスライダーは、色温が「夜間色温」のときに働きます。</translation>
         <source>This monitor may not have it; else read everything once.</source>
-        <translation>この機種にない可能性があります。ある場合はすべて一度読み取ってください。</translation>
+        <translation>この機種にないか、再読み取りが必要です。</translation>
     </message>
     <message>
         <source>Time to rest your eyes for a while.</source>
@@ -2155,7 +2155,7 @@
     </message>
     <message>
         <source>Try again; its scene or another setting may forbid it.</source>
-        <translation>もう一度お試しください。シーンや他の設定が原因の場合があります。</translation>
+        <translation>シーンや他の設定を確認して再操作してください。</translation>
     </message>
     <message>
         <source>Two tones</source>

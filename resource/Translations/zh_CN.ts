@@ -501,7 +501,7 @@
         <source>Choose the controls</source>
         <translation>选择控件</translation>
         <source>Choose the scene again, or read everything once.</source>
-        <translation>请重新选择场景，或全部读取一次。</translation>
+        <translation>请重新选择情景，或全部读取一次。</translation>
     </message>
     <message>
         <source>Cinema colours at a D65 white.</source>
@@ -1673,15 +1673,15 @@
     </message>
     <message>
         <source>Scene block</source>
-        <translation>场景数据块</translation>
+        <translation>情景数据块</translation>
     </message>
     <message>
         <source>Scene block: one part came late</source>
-        <translation>场景数据块：有一部分迟到</translation>
+        <translation>情景数据块：有一部分迟到</translation>
     </message>
     <message>
         <source>Scene block: one part did not come</source>
-        <translation>场景数据块：有一部分未收到</translation>
+        <translation>情景数据块：有一部分未收到</translation>
     </message>
     <message>
         <source>Scene mode</source>
@@ -2155,7 +2155,7 @@
     </message>
     <message>
         <source>Try again; its scene or another setting may forbid it.</source>
-        <translation>请重试；当前场景或其他设置可能不允许。</translation>
+        <translation>请重试；当前情景或其他设置可能不允许。</translation>
     </message>
     <message>
         <source>Two tones</source>

@@ -501,7 +501,7 @@
         <source>Choose the controls</source>
         <translation>選擇控制項</translation>
         <source>Choose the scene again, or read everything once.</source>
-        <translation>請重新選擇場景，或全部讀取一次。</translation>
+        <translation>請重新選擇情境，或全部讀取一次。</translation>
     </message>
     <message>
         <source>Cinema colours at a D65 white.</source>
@@ -1673,15 +1673,15 @@
     </message>
     <message>
         <source>Scene block</source>
-        <translation>場景資料區塊</translation>
+        <translation>情境資料區塊</translation>
     </message>
     <message>
         <source>Scene block: one part came late</source>
-        <translation>場景資料區塊：有一部分遲到</translation>
+        <translation>情境資料區塊：有一部分遲到</translation>
     </message>
     <message>
         <source>Scene block: one part did not come</source>
-        <translation>場景資料區塊：有一部分未收到</translation>
+        <translation>情境資料區塊：有一部分未收到</translation>
     </message>
     <message>
         <source>Scene mode</source>
@@ -2155,7 +2155,7 @@
     </message>
     <message>
         <source>Try again; its scene or another setting may forbid it.</source>
-        <translation>請重試；目前場景或其他設定可能不允許。</translation>
+        <translation>請重試；目前情境或其他設定可能不允許。</translation>
     </message>
     <message>
         <source>Two tones</source>

@@ -84,5 +84,5 @@ void TimeCurve::paintEvent(QPaintEvent *)
     const QRectF below(area.left(), area.bottom(), area.width(), kTextHeight);
     painter.drawText(below, Qt::AlignLeft | Qt::AlignBottom, m_begin);
     painter.drawText(below, Qt::AlignRight | Qt::AlignBottom, m_end);
-    painter.drawText(QRectF(area.left(), 0, area.width(), kTopMargin - 1), Qt::AlignRight | Qt::AlignVCenter, m_top);
+    painter.drawText(QRectF(area.left(), 0, area.width(), kTopMargin - 1), Qt::AlignLeft | Qt::AlignVCenter, m_top);
 }

@@ -142,6 +142,22 @@ void readValues(Reader &reader, const QJsonValue &value, MonitorSetup &monitor)
     }
 }
 
+std::optional<Replay> readReplay(Reader &reader, const QJsonObject &object)
+{
+    if (!object.contains(QLatin1String("replay")))
+        return {};
+    QFile file(object.value(QLatin1String("replay")).toString());
+    if (!file.open(QIODevice::ReadOnly)) {
+        reader.fail(QStringLiteral("\"replay\" cannot be read: %1").arg(file.errorString()));
+        return {};
+    }
+    QString error;
+    auto replay = parseRecording(file.readAll(), reader.number(object, "replay_monitor", 0, 0, 1000), error);
+    if (!replay)
+        reader.fail(QStringLiteral("\"replay\": %1").arg(error));
+    return replay;
+}
+
 MonitorSetup readMonitor(Reader &reader, const QJsonObject &object, int displays)
 {
     MonitorSetup monitor;
@@ -153,6 +169,7 @@ MonitorSetup readMonitor(Reader &reader, const QJsonObject &object, int displays
     monitor.plugged = object.value(QLatin1String("plugged")).toBool(true);
     monitor.edid = readEdid(reader, object.value(QLatin1String("edid")));
     readValues(reader, object.value(QLatin1String("values")), monitor);
+    monitor.replay = readReplay(reader, object);
     const QJsonArray faults = reader.list(object, "faults");
     for (const QJsonValue &fault : faults)
         monitor.faults.push_back(readEvent(reader, fault.toObject()));

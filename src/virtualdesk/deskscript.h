@@ -18,7 +18,8 @@ namespace virtualdesk {
 ///       "administrator": true, "runas_result": 42,
 ///       "displays": [{"name": "\\\\.\\DISPLAY1", "bounds": [0, 0, 1920, 1080]}],
 ///       "monitors": [{"model": "Q27-OLED" | "Q32-MPCS" | "Q34-MINI", "display": 0, "plugged": true,
-///                     "edid": "00ff..." | {"random": 64}, "values": {"0x10": 30}, "latency": ..., "faults": [event]}],
+///                     "edid": "00ff..." | {"random": 64}, "values": {"0x10": 30}, "latency": ..., "faults": [event],
+///                     "replay": "recording.jsonl", "replay_monitor": 0}],
 ///       "events": [{"at_ms": 1000, "monitor": 0, "event": ...}],
 ///       "audio": {"present": true, "mix": "extensible_float" | "float" | "extensible_integer" | "integer",
 ///                 "rate": 48000, "channels": 2, "converts_rates": false, "packet_frames": 480,
@@ -33,7 +34,8 @@ namespace virtualdesk {
 /// lose_replies, garble (both may have a "code"), latency (with "read_ms", "write_ms") or delay (with "ms"). "times" is
 /// a number of requests or "always"; it is 1 unless given, for deaf "always". at_ms counts from the main window's
 /// opening. A fault of the accessory is {"event": "refuse_writes" or "fail_open", "times": ...}, or {"event": "unplug",
-/// "at_write": n}.
+/// "at_write": n}. A monitor with a "replay" answers what one was recorded to answer, that of the recording's monitors
+/// by their order of appearance; where the program departs from the recording a warning tells so.
 std::optional<DeskSetup> parseDeskScript(const QByteArray &json, QString &error);
 
 /// The desk of this process: from the file that QUORVEL_DESK_SCRIPT names, else the default desk with realistic timing.

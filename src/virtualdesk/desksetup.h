@@ -57,6 +57,7 @@ struct MonitorSetup
     std::optional<QByteArray> edid; ///< instead of the model's own
     std::vector<std::pair<std::uint8_t, std::uint16_t>> values;
     std::vector<MonitorEvent> faults;
+    std::optional<Replay> replay; ///< what it answers, instead of its own values
 };
 
 struct DisplaySetup

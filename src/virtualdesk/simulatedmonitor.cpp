@@ -96,6 +96,8 @@ Reply SimulatedMonitor::request(RequestKind kind, std::uint8_t code, std::uint32
 /// Serves a request through the faults that lie in wait.
 Reply SimulatedMonitor::serve(Request &request)
 {
+    if (m_replay)
+        return m_replay->answer(request);
     const bool isRead = request.kind == RequestKind::Read;
     if (!m_plugged) {
         request.outcome = Outcome::Unplugged;
@@ -350,22 +352,10 @@ void SimulatedMonitor::setPlugged(bool plugged)
     forgetConversation();
 }
 
-bool SimulatedMonitor::isPlugged() const
-{
-    const std::lock_guard lock(m_mutex);
-    return m_plugged;
-}
-
 std::vector<Request> SimulatedMonitor::history() const
 {
     const std::lock_guard lock(m_mutex);
     return {m_history.begin(), m_history.end()};
-}
-
-void SimulatedMonitor::clearHistory()
-{
-    const std::lock_guard lock(m_mutex);
-    m_history.clear();
 }
 
 ProtocolFaults SimulatedMonitor::protocolFaults() const

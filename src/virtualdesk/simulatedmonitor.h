@@ -14,6 +14,7 @@
 #include "platform/clock.h"
 #include "virtualdesk/faults.h"
 #include "virtualdesk/monitormodel.h"
+#include "virtualdesk/replay.h"
 #include "virtualdesk/request.h"
 
 namespace virtualdesk {
@@ -74,7 +75,24 @@ public:
     bool isAsleep() const { return m_asleep; }
 
     void setPlugged(bool plugged);
-    bool isPlugged() const;
+    bool isPlugged() const
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_plugged;
+    }
+
+    /// Answers from a recording from now on, whatever its own state and faults are.
+    void replay(Replay recording)
+    {
+        const std::lock_guard lock(m_mutex);
+        m_replay = std::move(recording);
+    }
+    /// The recording as far as it has been replayed; nothing without one.
+    std::optional<Replay> replayed() const
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_replay;
+    }
 
     /// What each request costs.
     void setLatency(platform::milliseconds read, platform::milliseconds write)
@@ -91,7 +109,11 @@ public:
 
     /// The last requests, oldest first, at most kHistorySize.
     std::vector<Request> history() const;
-    void clearHistory();
+    void clearHistory()
+    {
+        const std::lock_guard lock(m_mutex);
+        m_history.clear();
+    }
     ProtocolFaults protocolFaults() const;
 
     /// Called after each request, on the thread that made it, with nothing locked that a request or a question needs.
@@ -151,6 +173,7 @@ private:
     bool m_plugged = true;
     std::atomic<bool> m_asleep = false;
     Faults m_faults;
+    std::optional<Replay> m_replay;
     ProtocolFaults m_protocolFaults;
     std::deque<Request> m_history;
 

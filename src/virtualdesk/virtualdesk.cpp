@@ -41,6 +41,8 @@ VirtualDesk::VirtualDesk(platform::Clock &clock, const DeskSetup &setup)
         monitor->setPlugged(each.plugged);
         for (const auto &[code, value] : each.values)
             monitor->setValue(code, value);
+        if (each.replay)
+            monitor->replay(*each.replay);
         m_seats.push_back({std::move(monitor), each.display, each.edid.value_or(buildEdid(*each.model))});
         for (const MonitorEvent &fault : each.faults)
             apply(m_seats.size() - 1, fault);
