@@ -219,6 +219,8 @@ void TestToolPages::everythingIsReadOnce()
     QVERIFY(text("healthResult").startsWith("Cancelled."));
     QTRY_VERIFY(m_queue->isIdle());
     QVERIFY(m_desk->takeCommands().size() <= 1);
+    toolPage().findChild<QComboBox *>("healthMonitors")->setCurrentIndex(1); // not the one that is asked
+    QVERIFY(!toolPage().findChild<QPushButton *>("readEverything")->isEnabled());
 }
 
 void TestToolPages::reportNamesNobody()

@@ -312,7 +312,8 @@ void HealthPanel::fillErrors(const LinkRecord &record)
 void HealthPanel::fillButtons()
 {
     m_read->setText(m_reading.isRunning() ? QObject::tr("Cancel") : QObject::tr("Read everything once"));
-    m_read->setEnabled(!monitorList.empty());
+    const bool isInUse = chosen() < monitorList.size() && chosen() == currentMonitorIndex; // questions go to no other
+    m_read->setEnabled(isInUse || m_reading.isRunning());
     const QSignalBlocker quiet(m_record);
     if (m_record->isChecked() && !linkRecorder.isRecording())
         say(linkRecorder.error()); // it has stopped by itself
