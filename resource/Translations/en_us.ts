@@ -40,6 +40,10 @@
         <translation>%1 holds no saved drawing. It stays as it is until you save.</translation>
     </message>
     <message>
+        <source>%1 in all, %2 by itself today</source>
+        <translation>%1 in all, %2 by itself today</translation>
+    </message>
+    <message>
         <source>%1 is in the list already.</source>
         <translation>%1 is in the list already.</translation>
     </message>
@@ -68,14 +72,12 @@
         <translation>%1 s left</translation>
     </message>
     <message>
-        <source>%1 was changed to &quot;%2&quot;.</source>
-        <translation>%1 was changed to &quot;%2&quot;.</translation>
-        <source>%1 since the start</source>
-        <translation>%1 since the start</translation>
-    </message>
-    <message>
         <source>%1 succeeded</source>
         <translation>%1 succeeded</translation>
+    </message>
+    <message>
+        <source>%1 was changed to &quot;%2&quot;.</source>
+        <translation>%1 was changed to &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>%1 was not taken</source>
@@ -500,6 +502,8 @@
     <message>
         <source>Choose the controls</source>
         <translation>Choose the controls</translation>
+    </message>
+    <message>
         <source>Choose the scene again, or read everything once.</source>
         <translation>Choose the scene again, or read everything once.</translation>
     </message>
@@ -2104,10 +2108,12 @@
         <translation>This monitor does not have these functions.</translation>
     </message>
     <message>
-        <source>This slider counts while Color Temperature is Night View C.T.</source>
-        <translation>This slider counts while Color Temperature is Night View C.T.</translation>
         <source>This monitor may not have it; else read everything once.</source>
         <translation>This monitor may not have it; else read everything once.</translation>
+    </message>
+    <message>
+        <source>This slider counts while Color Temperature is Night View C.T.</source>
+        <translation>This slider counts while Color Temperature is Night View C.T.</translation>
     </message>
     <message>
         <source>Time to rest your eyes for a while.</source>

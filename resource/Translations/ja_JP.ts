@@ -40,6 +40,10 @@
         <translation>%1 には保存された描画がありません。保存するまでファイルはそのまま残ります。</translation>
     </message>
     <message>
+        <source>%1 in all, %2 by itself today</source>
+        <translation>全部で %1 回、今日の自動 %2 回</translation>
+    </message>
+    <message>
         <source>%1 is in the list already.</source>
         <translation>%1 は既にリストにあります。</translation>
     </message>
@@ -68,14 +72,12 @@
         <translation>残り %1 秒</translation>
     </message>
     <message>
-        <source>%1 was changed to &quot;%2&quot;.</source>
-        <translation>%1を「%2」に変更しました。</translation>
-        <source>%1 since the start</source>
-        <translation>起動後 %1 回</translation>
-    </message>
-    <message>
         <source>%1 succeeded</source>
         <translation>%1 回成功</translation>
+    </message>
+    <message>
+        <source>%1 was changed to &quot;%2&quot;.</source>
+        <translation>%1を「%2」に変更しました。</translation>
     </message>
     <message>
         <source>%1 was not taken</source>
@@ -500,6 +502,8 @@
     <message>
         <source>Choose the controls</source>
         <translation>表示する項目を選ぶ</translation>
+    </message>
+    <message>
         <source>Choose the scene again, or read everything once.</source>
         <translation>シーンの再選択か再読み取りをお試しください。</translation>
     </message>
@@ -2104,10 +2108,12 @@
         <translation>このモニターにはこれらの機能がありません。</translation>
     </message>
     <message>
-        <source>This slider counts while Color Temperature is Night View C.T.</source>
-        <translation>このスライダーは、色温が「夜間色温」のときに働きます。</translation>
         <source>This monitor may not have it; else read everything once.</source>
         <translation>この機種にないか、再読み取りが必要です。</translation>
+    </message>
+    <message>
+        <source>This slider counts while Color Temperature is Night View C.T.</source>
+        <translation>このスライダーは、色温が「夜間色温」のときに働きます。</translation>
     </message>
     <message>
         <source>Time to rest your eyes for a while.</source>

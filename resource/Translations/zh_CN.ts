@@ -40,6 +40,10 @@
         <translation>%1 中没有已保存的绘图。在您保存之前，该文件保持不变。</translation>
     </message>
     <message>
+        <source>%1 in all, %2 by itself today</source>
+        <translation>共 %1 次，今日自动 %2 次</translation>
+    </message>
+    <message>
         <source>%1 is in the list already.</source>
         <translation>%1 已在列表中。</translation>
     </message>
@@ -68,14 +72,12 @@
         <translation>剩余 %1 秒</translation>
     </message>
     <message>
-        <source>%1 was changed to &quot;%2&quot;.</source>
-        <translation>%1已改为“%2”。</translation>
-        <source>%1 since the start</source>
-        <translation>启动以来 %1 次</translation>
-    </message>
-    <message>
         <source>%1 succeeded</source>
         <translation>%1 次成功</translation>
+    </message>
+    <message>
+        <source>%1 was changed to &quot;%2&quot;.</source>
+        <translation>%1已改为“%2”。</translation>
     </message>
     <message>
         <source>%1 was not taken</source>
@@ -500,6 +502,8 @@
     <message>
         <source>Choose the controls</source>
         <translation>选择控件</translation>
+    </message>
+    <message>
         <source>Choose the scene again, or read everything once.</source>
         <translation>请重新选择情景，或全部读取一次。</translation>
     </message>
@@ -2104,10 +2108,12 @@
         <translation>此显示器没有这些功能。</translation>
     </message>
     <message>
-        <source>This slider counts while Color Temperature is Night View C.T.</source>
-        <translation>色温选为“夜间色温”时，此滑块才起作用。</translation>
         <source>This monitor may not have it; else read everything once.</source>
         <translation>此显示器可能没有该功能；否则请全部读取一次。</translation>
+    </message>
+    <message>
+        <source>This slider counts while Color Temperature is Night View C.T.</source>
+        <translation>色温选为“夜间色温”时，此滑块才起作用。</translation>
     </message>
     <message>
         <source>Time to rest your eyes for a while.</source>

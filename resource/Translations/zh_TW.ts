@@ -40,6 +40,10 @@
         <translation>%1 中沒有已儲存的繪圖。在您儲存之前，該檔案維持不變。</translation>
     </message>
     <message>
+        <source>%1 in all, %2 by itself today</source>
+        <translation>共 %1 次，今日自動 %2 次</translation>
+    </message>
+    <message>
         <source>%1 is in the list already.</source>
         <translation>%1 已在清單中。</translation>
     </message>
@@ -68,14 +72,12 @@
         <translation>剩餘 %1 秒</translation>
     </message>
     <message>
-        <source>%1 was changed to &quot;%2&quot;.</source>
-        <translation>%1已改為「%2」。</translation>
-        <source>%1 since the start</source>
-        <translation>啟動以來 %1 次</translation>
-    </message>
-    <message>
         <source>%1 succeeded</source>
         <translation>%1 次成功</translation>
+    </message>
+    <message>
+        <source>%1 was changed to &quot;%2&quot;.</source>
+        <translation>%1已改為「%2」。</translation>
     </message>
     <message>
         <source>%1 was not taken</source>
@@ -500,6 +502,8 @@
     <message>
         <source>Choose the controls</source>
         <translation>選擇控制項</translation>
+    </message>
+    <message>
         <source>Choose the scene again, or read everything once.</source>
         <translation>請重新選擇情境，或全部讀取一次。</translation>
     </message>
@@ -2104,10 +2108,12 @@
         <translation>此顯示器沒有這些功能。</translation>
     </message>
     <message>
-        <source>This slider counts while Color Temperature is Night View C.T.</source>
-        <translation>色溫選為「夜間色溫」時，此滑桿才有作用。</translation>
         <source>This monitor may not have it; else read everything once.</source>
         <translation>此顯示器可能沒有該功能；否則請全部讀取一次。</translation>
+    </message>
+    <message>
+        <source>This slider counts while Color Temperature is Night View C.T.</source>
+        <translation>色溫選為「夜間色溫」時，此滑桿才有作用。</translation>
     </message>
     <message>
         <source>Time to rest your eyes for a while.</source>

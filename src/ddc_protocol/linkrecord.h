@@ -19,8 +19,8 @@ struct LinkRequest
     bool isBlock = false;    ///< part of a table read, whose codes are no commands
     bool isRetry = false;    ///< opens another attempt at what failed
     platform::VcpReply reply = {};
-    QDateTime at = {};     ///< when it was made
-    int duration = 0; ///< milliseconds
+    QDateTime at = {}; ///< when it was made
+    int duration = 0;  ///< milliseconds
 };
 
 /// What goes wrong between a program and a monitor.
@@ -54,7 +54,7 @@ struct LatencySpan
 class LinkRecord
 {
 public:
-    static constexpr int kSpan = 5; ///< seconds
+    static constexpr int kSpan = 5;    ///< seconds
     static constexpr int kSpans = 120; ///< ten minutes
     static constexpr std::size_t kErrors = 10;
 

@@ -230,7 +230,7 @@ void HealthPanel::refresh()
     const LinkRecord record = isThere ? linkRecords.recordOf(monitorList[index].identity) : LinkRecord();
     const QDateTime now = platform::desk().clock().now();
     for (int i = 0; i < kHealthFigures; ++i) {
-        const HealthFigure figure = healthFigure(i, record, now.date());
+        const HealthFigure figure = healthFigure(i, index, record);
         const Tile &tile = m_tiles[static_cast<std::size_t>(i)];
         tile.value->setText(figure.value);
         tile.detail->setText(figure.detail);

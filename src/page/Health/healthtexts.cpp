@@ -4,6 +4,8 @@
 #include <QStringList>
 
 #include "ddc_protocol/commandnames.h"
+#include "ddc_protocol/monitoridentity.h"
+#include "ddc_protocol/writecounts.h"
 #include "page/engine/labels.h"
 
 namespace {
@@ -51,10 +53,15 @@ HealthFigure retries(const LinkRecord &record)
     return {number(record.retries()), detail, record.failedRetries() != 0};
 }
 
-HealthFigure written(const LinkRecord &record, QDate today)
+/// Of this monitor, by whatever sent them; what no user asked for as well by itself.
+HealthFigure written(std::size_t index)
 {
-    const WrittenCounts counts = writtenCounts(record, today);
-    return {number(counts.today), QObject::tr("%1 since the start").arg(number(counts.all))};
+    const QString monitor = index < monitorList.size() ? identityText(monitorList[index].identity) : QString();
+    const WriteCount all = writeCounts.countOf(monitor);
+    const QString detail = QObject::tr("%1 in all, %2 by itself today")
+                               .arg(number(static_cast<std::uint64_t>(all.inAll)))
+                               .arg(writeCounts.countOf(monitor, WriteCounts::kAutomatic).today);
+    return {number(static_cast<std::uint64_t>(all.today)), detail};
 }
 
 QString withCommand(const char *text, const LinkError &error)
@@ -150,17 +157,12 @@ QString errorAdvice(const LinkError &error)
     return {};
 }
 
-WrittenCounts writtenCounts(const LinkRecord &record, QDate today)
-{
-    return {record.writesOn(today), record.writes()};
-}
-
 const char *figureCaption(int figure)
 {
     return kCaptions[figure];
 }
 
-HealthFigure healthFigure(int figure, const LinkRecord &record, QDate today)
+HealthFigure healthFigure(int figure, std::size_t index, const LinkRecord &record)
 {
     switch (figure) {
     case 0:
@@ -170,7 +172,7 @@ HealthFigure healthFigure(int figure, const LinkRecord &record, QDate today)
     case 2:
         return retries(record);
     default:
-        return written(record, today);
+        return written(index);
     }
 }
 
@@ -179,7 +181,7 @@ QString healthReport(std::size_t index, const LinkRecord &record, const QDateTim
     QStringList lines{QStringLiteral("QUORVEL %1").arg(QLatin1String(QUORVEL_VERSION)),
                       now.toString(QStringLiteral("yyyy-MM-dd hh:mm:ss")), monitorFacts(index)};
     for (int i = 0; i < kHealthFigures; ++i) {
-        const HealthFigure figure = healthFigure(i, record, now.date());
+        const HealthFigure figure = healthFigure(i, index, record);
         lines += QStringLiteral("%1: %2 (%3)").arg(QObject::tr(figureCaption(i)), figure.value, figure.detail);
     }
     lines += QObject::tr("Last errors") + QLatin1Char(':');

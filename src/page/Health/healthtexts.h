@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QDate>
+#include <QDateTime>
 #include <QString>
 
 #include "ddc_protocol/displayenumeration.h"
@@ -21,16 +21,6 @@ QString monitorFacts(std::size_t index);
 QString errorText(const LinkError &error);
 QString errorAdvice(const LinkError &error);
 
-/// How often values were written to a monitor.
-struct WrittenCounts
-{
-    std::uint64_t today = 0;
-    std::uint64_t all = 0;
-};
-
-/// The one place where the page learns of them: those since the program started.
-WrittenCounts writtenCounts(const LinkRecord &record, QDate today);
-
 /// What a tile shows: the figure, and a line of detail.
 struct HealthFigure
 {
@@ -43,7 +33,7 @@ inline constexpr int kHealthFigures = 4;
 
 /// The caption of a tile, as a source text.
 const char *figureCaption(int figure);
-HealthFigure healthFigure(int figure, const LinkRecord &record, QDate today);
+HealthFigure healthFigure(int figure, std::size_t index, const LinkRecord &record);
 
 /// The text for the clipboard, about one monitor: no paths, no names of programs, users or connections.
 QString healthReport(std::size_t index, const LinkRecord &record, const QDateTime &now);
