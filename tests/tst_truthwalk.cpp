@@ -1,3 +1,4 @@
+#include <functional>
 #include <random>
 
 #include <QPushButton>
@@ -29,6 +30,9 @@ private Q_SLOTS:
     void randomWalk();
 
 private:
+    void openAnyPage(std::mt19937 &random);
+    void pressAnyOption(std::mt19937 &random);
+    void moveAnySlider(std::mt19937 &random);
     void step(std::mt19937 &random);
     void recoverAll();
     void osdChange(std::mt19937 &random);
@@ -42,72 +46,70 @@ void TestTruthWalk::osdChange(std::mt19937 &random)
     constexpr std::uint8_t kCodes[] = {0x10, 0x12, 0x41, 0xC1, 0xF6};
     const auto pick = random() % (std::size(kCodes) + 1);
     if (pick == std::size(kCodes))
-        return inUse().setValue(0x22, static_cast<std::uint16_t>(1 + random() % 20));
-    inUse().setValue(kCodes[pick], static_cast<std::uint16_t>(random() % 6));
+        inUse().setValue(0x22, static_cast<std::uint16_t>(1 + random() % 20));
+    else
+        inUse().setValue(kCodes[pick], static_cast<std::uint16_t>(random() % 6));
+    m_desk->desk.registrations().tellSystem(platform::kMessageSessionChange, platform::kSessionUnlock);
 }
 
-void TestTruthWalk::step(std::mt19937 &random)
+void TestTruthWalk::openAnyPage(std::mt19937 &random)
 {
     constexpr std::pair<int, const char *> kPages[] = {{0, "Standard Mode"},   {0, "Night Mode"},
                                                        {5, "Picture Enhance"}, {8, "System Settings"},
                                                        {8, "I/O Settings"},    {4, "Ruler"}};
-    virtualdesk::SimulatedMonitor &monitor = inUse();
-    const auto kind = random() % 15;
-    m_step = QString::number(kind);
-    switch (kind) {
-    case 0: {
-        const auto &[family, label] = kPages[random() % std::size(kPages)];
-        m_step += QLatin1Char(' ') + QLatin1String(label);
-        return openPage(family, label);
-    }
-    case 1:
-    case 2: {
-        const auto buttons = m_window->findChildren<OptionGroupRow *>();
-        const OptionGroupRow *row = buttons[static_cast<int>(random() % static_cast<unsigned>(buttons.size()))];
-        QPushButton *button = row->buttons()[random() % row->buttons().size()];
-        m_step += QLatin1Char(' ') + button->objectName();
-        if (button->isVisible() && row->group().command != Command{})
-            QTest::mouseClick(button, Qt::LeftButton);
+    const auto &[family, label] = kPages[random() % std::size(kPages)];
+    m_step = QLatin1String(label);
+    openPage(family, label);
+}
+
+void TestTruthWalk::pressAnyOption(std::mt19937 &random)
+{
+    const auto rows = m_window->findChildren<OptionGroupRow *>();
+    const OptionGroupRow *row = rows[static_cast<int>(random() % static_cast<unsigned>(rows.size()))];
+    QPushButton *button = row->buttons()[random() % row->buttons().size()];
+    m_step = button->objectName();
+    if (button->isVisible() && row->group().command != Command{})
+        QTest::mouseClick(button, Qt::LeftButton);
+}
+
+void TestTruthWalk::moveAnySlider(std::mt19937 &random)
+{
+    const auto sliders = m_window->findChildren<SliderWidget *>();
+    const SliderWidget *slider = sliders[static_cast<int>(random() % static_cast<unsigned>(sliders.size()))];
+    m_step = slider->name();
+    if (!slider->isVisible() || !slider->isEnabled())
         return;
-    }
-    case 3:
-    case 4: {
-        const auto sliders = m_window->findChildren<SliderWidget *>();
-        SliderWidget *slider = sliders[static_cast<int>(random() % static_cast<unsigned>(sliders.size()))];
-        if (!slider->isVisible() || !slider->isEnabled())
-            return;
-        slider->slider()->setSliderDown(true);
-        slider->slider()->setSliderPosition(static_cast<int>(random() % 6));
-        return slider->slider()->setSliderDown(false);
-    }
-    case 5:
-        m_desk->clock.advance(200ms);
-        m_desk->desk.pressKey(platform::kModifierControl, "BNG"[random() % 3]);
-        return;
-    case 6:
-        return m_desk->desk.applications().bringToFront(static_cast<int>(random() % 3));
-    case 7:
-        return QTest::mouseClick(half(random() % 2 != 0), Qt::LeftButton);
-    case 8:
-        osdChange(random);
-        return m_desk->desk.registrations().tellSystem(platform::kMessageSessionChange, platform::kSessionUnlock);
-    case 9:
-        m_plugged = !m_plugged;
-        return m_plugged ? m_desk->desk.plug(0) : m_desk->desk.unplug(0);
-    case 10:
-        return monitor.refuseWrites(static_cast<int>(random() % 5));
-    case 11:
-        return monitor.loseReplies(static_cast<int>(random() % 4));
-    case 12:
-        return monitor.goDeaf(static_cast<int>(random() % 30));
-    case 13:
-        if (random() % 4 == 0)
-            return m_desk->desk.sleep();
-        return m_desk->desk.wake();
-    case 14:
-        m_window->systemNoticed(SystemNotice(random() % 4));
-        return m_desk->clock.advance(std::chrono::milliseconds(random() % 3000));
-    }
+    slider->slider()->setSliderDown(true);
+    slider->slider()->setSliderPosition(static_cast<int>(random() % 6));
+    slider->slider()->setSliderDown(false);
+}
+
+void TestTruthWalk::step(std::mt19937 &random)
+{
+    virtualdesk::VirtualDesk &desk = m_desk->desk;
+    const auto below = [&random](unsigned end) { return static_cast<int>(random() % end); };
+    const std::pair<const char *, std::function<void()>> kSteps[] = {
+        {"page", [&] { openAnyPage(random); }},
+        {"option", [&] { pressAnyOption(random); }},
+        {"option", [&] { pressAnyOption(random); }},
+        {"slider", [&] { moveAnySlider(random); }},
+        {"slider", [&] { moveAnySlider(random); }},
+        {"key", [&] { m_desk->clock.advance(200ms), desk.pressKey(platform::kModifierControl, "BNG"[random() % 3]); }},
+        {"program", [&] { desk.applications().bringToFront(below(3)); }},
+        {"half", [&] { QTest::mouseClick(half(random() % 2 != 0), Qt::LeftButton); }},
+        {"buttons", [&] { osdChange(random); }},
+        {"cable", [&] { std::exchange(m_plugged, !m_plugged) ? desk.unplug(0) : desk.plug(0); }},
+        {"refuses", [&] { inUse().refuseWrites(below(5)); }},
+        {"loses", [&] { inUse().loseReplies(below(4)); }},
+        {"deaf", [&] { inUse().goDeaf(below(30)); }},
+        {"sleep", [&] { random() % 4 == 0 ? desk.sleep() : desk.wake(); }},
+        {"notice", [&] { m_window->systemNoticed(SystemNotice(random() % 4)); }},
+        {"time", [&] { m_desk->clock.advance(std::chrono::milliseconds(random() % 3000)); }},
+    };
+    const auto &[name, act] = kSteps[random() % std::size(kSteps)];
+    m_step.clear();
+    act();
+    m_step.prepend(QLatin1String(name) + QLatin1Char(' '));
 }
 
 void TestTruthWalk::randomWalk()
