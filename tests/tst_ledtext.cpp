@@ -255,6 +255,7 @@ void TestLedText::preview()
     const QByteArray still = shown->frame().digits();
     QVERIFY(still.contains('1'));
     QVERIFY(!page.work()->cancelButton()->isVisible()); // nothing is under way
+    QVERIFY(page.text()->findChild<QPushButton *>(QStringLiteral("Scroll Left"))->isChecked());
     for (QPushButton *button : page.findChildren<QPushButton *>()) {
         if (button->text() == QLatin1String("Preview"))
             button->click();
@@ -268,10 +269,12 @@ void TestLedText::preview()
     page.text()->input()->clear(); // nothing is left to play
     QCOMPARE(shown->frame().digits(), QByteArray(949, '0'));
     QVERIFY(!page.text()->player().isPlaying());
+    page.text()->input()->setText(QStringLiteral("A"));
     matrixForm = kRectangleForm;
     page.hide();
     page.show();
     QCOMPARE(page.text()->preview()->frame().form(), kRectangleForm);
+    QVERIFY(page.text()->preview()->frame().digits().contains('1'));
 }
 
 QTEST_MAIN(TestLedText)

@@ -141,7 +141,9 @@ void TestMusic::reachesMatrix()
         MusicRig rig;
         rig.fixture.desk.accessory().setForm(form);
         matrixForm = form;
-        settingsInt(kMusicTemplateKey, static_cast<int>(AudioTemplate::Mirrored), true);
+        rig.page->updateInterfaceData();
+        QVERIFY(rig.page->templateOptions()->buttonOf(static_cast<int>(AudioTemplate::Bars))->isChecked());
+        QCOMPARE(settingsInt(kMusicTemplateKey, static_cast<int>(AudioTemplate::Mirrored), true), 0);
         rig.page->updateInterfaceData();
         rig.press(rig.page->switchOptions(), 1);
         QVERIFY(rig.page->isMusicOn());
