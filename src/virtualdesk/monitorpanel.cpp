@@ -53,12 +53,12 @@ constexpr FaultSpec kFaults[] = {
          desk.monitor(index).setDelay(on ? kSlow : platform::milliseconds(0));
      },
      [](const SimulatedMonitor &monitor) { return monitor.isSlow(); }},
-    {NAME("Sleep"), NAME("The computer and its monitors sleep until the button is released"),
-     [](VirtualDesk &desk, std::size_t, bool on) { on ? desk.sleep() : desk.wake(); },
-     [](const SimulatedMonitor &monitor) { return monitor.isAsleep(); }},
     {NAME("Unplug"), NAME("The cable is pulled out until the button is released"),
      [](VirtualDesk &desk, std::size_t index, bool on) { on ? desk.unplug(index) : desk.plug(index); },
      [](const SimulatedMonitor &monitor) { return !monitor.isPlugged(); }},
+    {NAME("Sleep"), NAME("The computer and its monitors sleep until the button is released"),
+     [](VirtualDesk &desk, std::size_t, bool on) { on ? desk.sleep() : desk.wake(); },
+     [](const SimulatedMonitor &monitor) { return monitor.isAsleep(); }},
 };
 constexpr int kFaultColumns = 3;
 

@@ -8,7 +8,7 @@ declare -A PLACE=(
     [panel]='380 141' [panel-step]='0 48'     # in a settings page's own list
     [option]='300 190'                        # the first of a panel's options
     [default-half]='1039 142' [custom-half]='1166 142'
-    [slider-left]='449 216' [slider-right]='667 216' # of the first slider, Brightness: its groove's ends
+    [slider-left]='449 216' [slider-right]='643 216' # of the first slider, Brightness: its groove's ends
     [page]='460 600'
     [nothing]='640 770' # the window's lower edge: nothing lights up there
     [music-open]='564 190'
