@@ -73,6 +73,7 @@ void TestMainWindow::frameByItself()
     QVERIFY(!commandsSuspended);
     QCOMPARE(static_cast<quint32>(m_window->windowFlags() & ~Qt::WindowType_Mask), 0xC800u);
     const auto &tabs = m_window->tabs()->tabs();
+    QVERIFY(QAccessible::queryAccessibleInterface(tabs[0])->state().checked);
     m_window->activateWindow();
     tabs[1]->setFocus(Qt::TabFocusReason);
     QTest::keyClick(tabs[1], Qt::Key_Right);
