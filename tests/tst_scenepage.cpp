@@ -210,8 +210,11 @@ void TestScenePage::halfWithUnreadBlock()
         QSignalSpy ended(m_page.get(), &pageSceneSetting::modeChangeEnded);
         m_desk->monitor().setBlock(10, QByteArray(1, char(77)));
         m_desk->monitor().dropChunks(readable ? 0 : virtualdesk::kForEver);
-        QTest::mouseClick(half("        Custom"), Qt::LeftButton);
-        deviceState.told(Command::SceneMode, 9); // as a reconnection meanwhile finds it
+        {
+            const auto busy = lockTransport(); // before the worker's first request
+            QTest::mouseClick(half("        Custom"), Qt::LeftButton);
+            deviceState.told(Command::SceneMode, 9); // as a reconnection meanwhile finds it
+        }
         QCOMPARE(begins.count(), 1);
         QTRY_COMPARE(ended.count(), 1);
         const QStringList sent = m_desk->takeCommands();
