@@ -199,10 +199,9 @@ void TestToolPages::everythingIsReadOnce()
     m_desk->monitor().refuse(0x10);
     press("readEverything");
     QTRY_VERIFY(text("healthResult").contains("Not told: Brightness"));
-    QStringList asked = m_desk->takeCommands();
+    QStringList asked = m_desk->takeCommands().replaceInStrings("!", ""); // answered or not
     for (const Command command : readableCommands())
-        QCOMPARE(asked.removeAll(QStringLiteral("R %1").arg(static_cast<int>(command), 2, 16, QLatin1Char('0'))) +
-                     asked.removeAll(QStringLiteral("R %1!").arg(static_cast<int>(command), 2, 16, QLatin1Char('0'))),
+        QCOMPARE(asked.removeAll(QStringLiteral("R %1").arg(static_cast<int>(command), 2, 16, QLatin1Char('0'))),
                  command == Command::SceneMode || command == Command::CareFunction2 ? 2 : 1); // with the block
     QCOMPARE(asked, QStringList(10, "R fe"));
 

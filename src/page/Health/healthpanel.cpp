@@ -18,13 +18,13 @@
 #include "page/engine/boundtexts.h"
 #include "page/engine/dropdown.h"
 #include "page/engine/labels.h"
+#include "page/engine/plainbutton.h"
 #include "platform/desk.h"
 
 namespace {
 
 constexpr platform::milliseconds kRefreshPause{250};
-constexpr int kLongestGap = 12; // spans: a minute without a request is a gap in the curve
-constexpr int kButtonHeight = 36;
+constexpr int kLongestGap = 12;    // spans: a minute without a request is a gap in the curve
 constexpr int kErrorsHeight = 136; // three of them; the others scroll
 constexpr int kErrorHeight = 40;
 constexpr int kErrorTimeWidth = 62;
@@ -67,7 +67,7 @@ void HealthPanel::build()
                        1);
     m_monitors = makeDropDown(this);
     m_monitors->setObjectName(QStringLiteral("healthMonitors"));
-    m_monitors->setFixedSize(220, kButtonHeight);
+    m_monitors->setFixedSize(220, kPlainButtonHeight);
     m_texts.bind(LABEL("Machine Select"), [this](const QString &text) { m_monitors->setAccessibleName(text); });
     connect(m_monitors, &QComboBox::currentIndexChanged, this, &HealthPanel::refresh);
     heading->addWidget(m_monitors);
@@ -157,12 +157,7 @@ QWidget *HealthPanel::buildErrors()
 
 QPushButton *HealthPanel::makeButton(const char *label, const QString &name)
 {
-    auto *button = new QPushButton(this);
-    button->setObjectName(name);
-    button->setProperty("plain", true);
-    button->setFixedHeight(kButtonHeight);
-    m_texts.bind(label, [button](const QString &text) { button->setText(text); });
-    return button;
+    return makePlainButton(label, name, m_texts, this);
 }
 
 QWidget *HealthPanel::buildButtons()

@@ -11,6 +11,7 @@
 #include "controls/sharedfonts.h"
 #include "page/engine/labels.h"
 #include "page/engine/pagestyle.h"
+#include "page/engine/plainbutton.h"
 #include "page/engine/storenotice.h"
 
 namespace {
@@ -19,7 +20,6 @@ const QString kBackground = Pictures::kRoot + QStringLiteral("img/nightLoom/bg_3
 constexpr QSize kFallbackSize(1000, 680);
 constexpr int kMargin = 24;
 constexpr int kFixedItems = 2; // of the rows' column: what an empty list says, and the stretch below
-constexpr int kButtonHeight = 36;
 const char *const kTrashStyle = "QPushButton { border-image: url(%1trash_normal.png); }"
                                 "QPushButton:hover, QPushButton:focus { border-image: url(%1trash_checked.png); }";
 
@@ -129,12 +129,7 @@ void ListPage::showNotice(const QString &text, Tone tone)
 
 QPushButton *ListPage::makeButton(const char *label, const QString &name)
 {
-    auto *button = new QPushButton(this);
-    button->setObjectName(name);
-    button->setProperty("plain", true);
-    button->setFixedHeight(kButtonHeight);
-    m_texts.bind(label, [button](const QString &text) { button->setText(text); });
-    return button;
+    return makePlainButton(label, name, m_texts, this);
 }
 
 QPushButton *ListPage::addApplyButton(const QString &name)

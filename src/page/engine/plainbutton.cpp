@@ -1,0 +1,15 @@
+#include "page/engine/plainbutton.h"
+
+#include <QPushButton>
+
+#include "page/engine/boundtexts.h"
+
+QPushButton *makePlainButton(const char *label, const QString &name, BoundTexts &texts, QWidget *parent)
+{
+    auto *button = new QPushButton(parent);
+    button->setObjectName(name);
+    button->setProperty("plain", true);
+    button->setFixedHeight(kPlainButtonHeight);
+    texts.bind(label, [button](const QString &text) { button->setText(text); });
+    return button;
+}
