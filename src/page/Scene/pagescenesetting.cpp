@@ -76,7 +76,7 @@ QWidget *pageSceneSetting::buildHeader()
 
 QWidget *pageSceneSetting::buildDefaultArea()
 {
-    auto *area = new QWidget(this);
+    auto *area = new QWidget(m_areas);
     m_defaultIcon = new QLabel(area);
     m_defaultText = new QLabel(area);
     m_defaultText->setObjectName(QStringLiteral("note"));
@@ -93,7 +93,12 @@ QWidget *pageSceneSetting::buildDefaultArea()
 
 QWidget *pageSceneSetting::buildCustomArea()
 {
-    m_customArea = new QWidget(this);
+    auto *scroll = new QScrollArea(m_areas);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    m_customArea = new QWidget(scroll->viewport());
     m_customArea->setObjectName(QStringLiteral("customArea"));
     auto *column = new QVBoxLayout(m_customArea);
     column->setContentsMargins(0, 0, 16, 0);
@@ -101,12 +106,6 @@ QWidget *pageSceneSetting::buildCustomArea()
     setLocks(sceneLocks());
     buildSections(sceneSections(), column);
     column->addStretch(1);
-
-    auto *scroll = new QScrollArea(this);
-    scroll->setWidgetResizable(true);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll->setFocusPolicy(Qt::NoFocus);
     scroll->setWidget(m_customArea);
     return scroll;
 }

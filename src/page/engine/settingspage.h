@@ -154,7 +154,7 @@ private:
     std::optional<Choice> choiceOf(const QString &objectName) const;
     void addOptions(const OptionGroup &group, QVBoxLayout *column);
     void addSliders(const SliderGrid &grid, QVBoxLayout *column);
-    QLayout *makeSlider(const SliderSpec &spec, const SliderGrid &grid);
+    QLayout *makeSlider(const SliderSpec &spec, const SliderGrid &grid, QWidget *parent);
     LockSign *makeSign(SliderWidget *slider);
     void applyLocks();
     bool setOption(Command command, int value);

@@ -46,6 +46,7 @@ bool isAvailable(const std::optional<Capability> &needs)
 
 } // namespace
 
+/// Controls are made where they stay: a child that moves has every style sheet above it worked out again.
 void SettingsPage::buildSections(std::span<const Section> sections, QVBoxLayout *column)
 {
     for (const Section &section : sections) {
@@ -62,7 +63,7 @@ void SettingsPage::addOptions(const OptionGroup &group, QVBoxLayout *column)
 {
     if (!isAvailable(group.needs))
         return;
-    auto *row = new OptionGroupRow(group, m_texts, this);
+    auto *row = new OptionGroupRow(group, m_texts, column->parentWidget());
     connect(row, &OptionGroupRow::optionClicked, this, &SettingsPage::onOptionClicked);
     connect(row, &OptionGroupRow::lockPressed, this, [this, row] {
         for (const Option &option : row->group().options) {
@@ -77,7 +78,7 @@ void SettingsPage::addOptions(const OptionGroup &group, QVBoxLayout *column)
 void SettingsPage::addSliders(const SliderGrid &grid, QVBoxLayout *column)
 {
     if (grid.heading) {
-        auto *heading = new CaptionLabel(QString(), kHeadingPixels, this);
+        auto *heading = new CaptionLabel(QString(), kHeadingPixels, column->parentWidget());
         heading->setStyleSheet(QStringLiteral("color: #FFFFFF;"));
         m_texts.bind(grid.heading, [heading](const QString &text) { heading->setText(text); });
         column->addWidget(heading);
@@ -89,7 +90,7 @@ void SettingsPage::addSliders(const SliderGrid &grid, QVBoxLayout *column)
     for (const SliderSpec &spec : grid.sliders) {
         if (!isAvailable(spec.needs))
             continue;
-        cells->addLayout(makeSlider(spec, grid), cell / grid.columns, cell % grid.columns);
+        cells->addLayout(makeSlider(spec, grid, column->parentWidget()), cell / grid.columns, cell % grid.columns);
         ++cell;
     }
     for (int i = 0; i < grid.columns; ++i) {
@@ -100,9 +101,9 @@ void SettingsPage::addSliders(const SliderGrid &grid, QVBoxLayout *column)
 }
 
 /// A slider, and behind it the room for a lock in grids where one may come: the sliders must not jump then.
-QLayout *SettingsPage::makeSlider(const SliderSpec &spec, const SliderGrid &grid)
+QLayout *SettingsPage::makeSlider(const SliderSpec &spec, const SliderGrid &grid, QWidget *parent)
 {
-    auto *slider = new SliderWidget(QLatin1String(spec.name), spec.minimum, spec.maximum, this);
+    auto *slider = new SliderWidget(QLatin1String(spec.name), spec.minimum, spec.maximum, parent);
     slider->setCaptionWidth(grid.captionWidth);
     slider->setAccent(colorOf(spec.accent));
     m_texts.bind(spec.caption, [slider](const QString &text) { slider->setCaption(text); });

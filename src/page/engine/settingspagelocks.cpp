@@ -18,7 +18,7 @@ QString reasonOf(const LockRule *rule)
 
 LockSign *SettingsPage::makeSign(SliderWidget *slider)
 {
-    auto *sign = new LockSign(this);
+    auto *sign = new LockSign(slider->parentWidget());
     QSizePolicy policy = sign->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     sign->setSizePolicy(policy);
