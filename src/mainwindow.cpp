@@ -1,40 +1,34 @@
 #include "mainwindow.h"
 
-#include <algorithm>
+#include <utility>
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDebug>
-#include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QStackedWidget>
-#include <QVBoxLayout>
 
+#include "automation.h"
+#include "controls/messagebox.h"
 #include "controls/pictures.h"
-#include "controls/sharedfonts.h"
 #include "ddc_protocol/commandqueue.h"
-#include "ddc_protocol/displayenumeration.h"
 #include "ddc_protocol/linkstatus.h"
-#include "ddc_protocol/scenemodes.h"
 #include "ddc_protocol/transport.h"
 #include "ddc_protocol/writecounts.h"
 #include "ddc_protocol/writekeeper.h"
-#include "leftbar.h"
-#include "page/BasicSetting/pagepcsetting.h"
-#include "page/BasicSetting/pageservicessetting.h"
-#include "page/BasicSetting/pagesystemsetting.h"
-#include "page/Game/pagepictureenhanc.h"
-#include "page/IO/pageiosetting.h"
+#include "monitorchecks.h"
+#include "page/Nightloom/accessorypages.h"
 #include "page/Nightloom/matrixformsetting.h"
-#include "page/Office/pageoffice.h"
 #include "page/Scene/pagescenesetting.h"
-#include "page/emptypage.h"
+#include "page/monitorpages.h"
 #include "platform/ending.h"
+#include "reconciler.h"
 #include "searchdevicedlg.h"
 #include "sessionend.h"
+#include "statusline.h"
 #include "toptabframe.h"
-#include "trayicon.h"
-#include "traypanelopener.h"
+#include "tray/tray.h"
+#include "tray/traypanel.h"
+#include "tray/traypanelopener.h"
 #include "usb-hid/hidtransport.h"
 
 namespace {
@@ -55,203 +49,208 @@ MainWindow *MainWindow::instance()
     return s_mainWindow;
 }
 
-MainWindow::MainWindow(SearchDeviceDlg &session) : m_session(session)
+MainWindow::MainWindow(SearchDeviceDlg &session)
+    : FramelessWindow(QStringLiteral("img/bg.png")), m_session(session), m_queue(new CommandQueue(this)),
+      m_navigator(new Navigator(m_pages, this)), m_status(new StatusLine(this)),
+      m_modes(new InterfaceModes(*m_navigator, this)), m_checks(new MonitorChecks(session, *m_queue, *m_modes, this))
 {
     s_mainWindow = this;
     commandsSuspended = true; // what the construction moves must not reach the monitor
+    new WriteKeeper(this);    // behind the queue: it goes after the last values were sent
     m_labelPixmap = Pictures::load(Pictures::kRoot + QStringLiteral("img/lable_img.png"), devicePixelRatioF());
-    buildForm();
     setWindowTitle(QStringLiteral("QUORVEL"));
     loadMatrixForm();
     reopenHidDevice();
-    setUpFrame();
-    initialise();
+    placeParts();
+    createPages();
+    createFollowers();
+    createTray();
+    connectScene();
+    m_session.setHost(this);
     commandsSuspended = false;
     updateControlText();
-
-    m_barStack->setCurrentIndex(0);
-    for (int family = 0; family < kFamilies; ++family) {
-        if (navigationFamilies()[static_cast<std::size_t>(family)].startsSelected)
-            leftBar(family)->setCurrent(0);
-    }
-    showFamily(0);
-    openFamilyOfScene();
+    m_navigator->start();
 }
 
 MainWindow::~MainWindow()
 {
     m_session.setHost(nullptr);
     setLinkObserver({});
-    endAccessoryWork();
-    delete m_trayPanel;
-    delete m_pages; // before the queue that they send through
+    m_accessory->end();
+    delete m_tray;
+    delete m_navigator->pageStack(); // before the queue that they send through
     closeHid();
     s_mainWindow = nullptr;
 }
 
-void MainWindow::buildForm()
+void MainWindow::placeParts()
 {
-    m_queue = new CommandQueue(this);
-    new WriteKeeper(this); // behind the queue: it goes after the last values were sent
-    m_tabs = new TopTabFrame(this);
-    m_barStack = new QStackedWidget(this);
-    m_pages = new QStackedWidget(this);
-    m_status = new QLabel(this);
-    m_status->setObjectName(QStringLiteral("status"));
-    for (int family = 0; family < kFamilies; ++family) {
-        auto *bar = new LeftBar(navigationEntries(family, deviceState), m_barStack);
-        m_bars[static_cast<std::size_t>(family)] = bar;
-        m_barStack->addWidget(bar);
-        connect(bar, &LeftBar::entryChosen, this, [this, family](int index) { chooseEntry(family, index); });
-    }
-    connect(m_tabs, &TopTabFrame::tabChosen, this, &MainWindow::showFamily);
-    connect(m_tabs, &TopTabFrame::minimiseClicked, this, &QWidget::showMinimized);
-    connect(m_tabs, &TopTabFrame::closeClicked, this, &QWidget::close);
-}
-
-void MainWindow::setUpFrame()
-{
-    setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint);
-    setAttribute(Qt::WA_TranslucentBackground);
-    const QPixmap picture = Pictures::load(Pictures::kRoot + QStringLiteral("img/bg.png"), devicePixelRatioF());
-    setPixmap(picture);
-    setScaledContents(true);
-    const QSize size = (QSizeF(picture.size()) / picture.devicePixelRatio()).toSize();
-    setFixedSize(size);
-
-    m_tabs->setGeometry(0, 0, size.width(), kTopHeight);
-    m_barStack->setGeometry(0, kTopHeight, kLeftWidth, size.height() - kTopHeight - kStatusHeight);
-    m_status->setGeometry(kStatusLeft, size.height() - kStatusHeight, kLeftWidth - kStatusLeft, kStatusHeight - 8);
-    m_pages->setGeometry(kLeftWidth + kMargin, kTopHeight + kMargin, size.width() - kLeftWidth - 2 * kMargin,
-                         size.height() - kTopHeight - 2 * kMargin);
-}
-
-void MainWindow::initialise()
-{
-    m_status->setFont(noteFont);
-    createPages();
-    connect(m_scenePage, &pageSceneSetting::modeChangeBegins, this, [this] { setInterfaceMode(kLocked); });
-    connect(m_scenePage, &pageSceneSetting::modeChangeEnded, this, [this] {
-        setInterfaceMode(kByModel);
-        readMissingBlock();
-    });
-    createReconciler();
-    createTrayPanel();
-    connect(m_scenePage, &pageSceneSetting::viewShown, this, &MainWindow::followSceneMode);
-    createTrayIcon();
-    m_shownMonitor = m_session.labels().value(currentMonitorIndex.load());
-    m_session.setHost(this);
-    connect(new SessionEnd(this), &SessionEnd::ends, this, &MainWindow::endWithSession);
+    connect(tabs(), &TopTabFrame::minimiseClicked, this, &QWidget::showMinimized);
+    connect(tabs(), &TopTabFrame::closeClicked, this, &QWidget::close);
+    tabs()->setGeometry(0, 0, width(), kTopHeight);
+    m_navigator->barStack()->setGeometry(0, kTopHeight, kLeftWidth, height() - kTopHeight - kStatusHeight);
+    m_status->setGeometry(kStatusLeft, height() - kStatusHeight, kLeftWidth - kStatusLeft, kStatusHeight - 8);
+    m_navigator->pageStack()->setGeometry(kLeftWidth + kMargin, kTopHeight + kMargin,
+                                          width() - kLeftWidth - 2 * kMargin, height() - kTopHeight - 2 * kMargin);
 }
 
 void MainWindow::createPages()
 {
-    m_scenePage = new pageSceneSetting(m_session, *m_queue, m_pages);
-    m_officePage = new PageOffice(*m_queue, m_pages);
-    auto *system = new pageSystemSetting(m_session, *m_queue, m_pages);
-    connect(system, &pageSystemSetting::resetBegins, this, &MainWindow::hideWindow);
-    addPage(PageId::Scene, m_scenePage);
-    addPage(PageId::Office, m_officePage);
-    addPage(PageId::PictureEnhance, new pagePictureEnhanc(*m_queue, m_pages));
-    addPage(PageId::SystemSetting, system);
-    addPage(PageId::ToolSetting, new pagePCSetting(m_session, *m_queue, m_pages));
-    addPage(PageId::ServicesSetting, new pageServicesSetting(*m_queue, m_pages));
-    addPage(PageId::IoSetting, new pageIOSetting(*m_queue, m_pages));
-    createAutomation();
-    createAccessoryPages();
-    m_emptyPage = new EmptyPage(m_pages);
-    m_pages->addWidget(m_emptyPage);
-}
-
-void MainWindow::addPage(PageId id, Page *page)
-{
-    m_pageOf[id] = page;
-    m_pages->addWidget(page->widget());
-    if (const SettingsPage *settings = settingsPage(id))
-        connect(settings, &SettingsPage::settingWanted, this, &MainWindow::showSetting);
-}
-
-Page *MainWindow::page(PageId id) const
-{
-    const auto found = m_pageOf.find(id);
-    return found == m_pageOf.end() ? nullptr : found->second;
-}
-
-SettingsPage *MainWindow::settingsPage(PageId id) const
-{
-    return dynamic_cast<SettingsPage *>(page(id));
-}
-
-void MainWindow::createTrayIcon()
-{
-    if (!QSystemTrayIcon::isSystemTrayAvailable()) {
-        qDebug() << "SystemTray not available";
-        return;
+    QStackedWidget *stack = m_navigator->pageStack();
+    auto *monitor = new MonitorPages(m_session, *m_queue, m_pages, stack);
+    m_scenePage = monitor->scene();
+    m_automation = new Automation(*m_queue, m_pages, stack);
+    m_accessory = new AccessoryPages([this] { return ensureHidConnected(); }, *m_queue, m_pages, stack);
+    connect(monitor, &MonitorPages::resetBegins, this, &MainWindow::hideWindow);
+    for (Page *page : m_pages.all()) {
+        stack->addWidget(page->widget());
+        if (const auto *settings = dynamic_cast<SettingsPage *>(page))
+            connect(settings, &SettingsPage::settingWanted, m_navigator, &Navigator::showSetting);
     }
-    m_tray = new TrayIcon(this);
-    connect(m_tray, &TrayIcon::pressed, this, [this] { m_trayPanel->press(m_tray->geometry()); });
-    connect(m_tray, &TrayIcon::showWanted, this, &MainWindow::showWindow);
-    connect(m_tray, &TrayIcon::exitWanted, this, &MainWindow::leave);
-    m_tray->show();
 }
 
-void MainWindow::showFamily(int family)
+void MainWindow::createFollowers()
 {
-    m_family = family;
-    m_tabs->setCurrent(family);
-    m_barStack->setCurrentIndex(family);
-    showEntryPage(family);
+    connect(m_automation, &Automation::sent, this, &MainWindow::followSent);
+    connect(m_accessory, &AccessoryPages::workChanged, m_modes, &InterfaceModes::followAccessoryWork);
+    connect(m_modes, &InterfaceModes::accessoryBusyChanged, m_accessory, &AccessoryPages::setInterrupted);
+    connect(m_checks, &MonitorChecks::checked, this, &MainWindow::updateInterface);
+    m_reconciler = new Reconciler(
+        *m_queue, m_session, [this] { return pagesInSight(); }, this);
+    setLinkObserver([this] {
+        const auto follow = [this] {
+            updateInterface();
+            m_reconciler->linkChanged();
+        };
+        QMetaObject::invokeMethod(this, follow, Qt::QueuedConnection); // within a request nothing new may begin
+    });
+    connect(new SessionEnd(this), &SessionEnd::ends, this, &MainWindow::endWithSession);
 }
 
-void MainWindow::showEntryPage(int family)
+void MainWindow::createTray()
 {
-    if (family < kSceneFamilies) {
-        showSceneFamily(family);
-        return;
-    }
-    const LeftBar *bar = leftBar(family);
-    if (bar->current() < 0) {
-        m_emptyPage->showUnchosen(navigationFamilies()[static_cast<std::size_t>(family)].label);
-        return m_pages->setCurrentWidget(m_emptyPage);
-    }
-    const NavigationEntry &entry = bar->entries()[static_cast<std::size_t>(bar->current())];
-    Page *const chosen = page(entry.page);
-    if (entry.page == PageId::Office)
-        m_officePage->showPanel(entry.label);
-    if (!chosen)
-        m_emptyPage->showEntry(entry.label);
-    m_pages->setCurrentWidget(chosen ? chosen->widget() : m_emptyPage);
+    m_tray = new Tray(*m_queue, this);
+    connect(m_tray, &Tray::showWanted, this, &MainWindow::showWindow);
+    connect(m_tray, &Tray::exitWanted, this, &MainWindow::leave);
+    connect(m_modes, &InterfaceModes::usableChanged, trayPanel(), &TrayPanelOpener::setUsable);
+    connect(trayPanel(), &TrayPanelOpener::opened, m_reconciler, &Reconciler::look);
 }
 
-/// The scene page belongs to the family whose mode is on; the others ask to choose one.
-void MainWindow::showSceneFamily(int family)
+/// Bars and tray panel are hands of the scene page: modes and halves go one way only.
+void MainWindow::connectScene()
 {
-    const SceneMode *mode = sceneModeOf(deviceState.value(Command::SceneMode));
-    const bool isOn = !mode || static_cast<int>(mode->family) == family;
-    if (!isOn)
-        m_emptyPage->showFamily(navigationFamilies()[static_cast<std::size_t>(family)].label, mode->label);
-    m_pages->setCurrentWidget(isOn ? m_scenePage : static_cast<QWidget *>(m_emptyPage));
+    connect(m_navigator, &Navigator::sceneChosen, m_scenePage, &pageSceneSetting::chooseScene);
+    connect(trayPanel(), &TrayPanelOpener::sceneChosen, m_scenePage, &pageSceneSetting::chooseScene);
+    connect(trayPanel(), &TrayPanelOpener::halfChosen, m_scenePage, &pageSceneSetting::switchHalf);
+    connect(m_scenePage, &pageSceneSetting::viewShown, m_navigator, &Navigator::followSceneMode);
+    connect(m_scenePage, &pageSceneSetting::modeChangeBegins, this, [this] { setInterfaceMode(kLocked); });
+    connect(m_scenePage, &pageSceneSetting::modeChangeEnded, this, [this] {
+        setInterfaceMode(kByModel);
+        m_checks->readMissingBlock();
+    });
+    connect(&m_queue->values(), &ValueWatch::changed, this, [this](Command command) {
+        if (command != Command::SceneMode)
+            return;
+        m_navigator->followSceneMode();
+        m_checks->readMissingBlock();
+    });
 }
 
-void MainWindow::chooseEntry(int family, int index)
+TrayPanelOpener *MainWindow::trayPanel() const
 {
-    const NavigationEntry &entry = leftBar(family)->entries()[static_cast<std::size_t>(index)];
-    if (entry.sceneValue != 0)
-        m_scenePage->chooseScene(entry.sceneValue);
-    showEntryPage(family);
+    return m_tray->panel();
 }
 
-void MainWindow::followSceneMode()
+HotkeyOverlay *MainWindow::overlay() const
 {
-    for (int family = 0; family < kSceneFamilies; ++family)
-        leftBar(family)->setCurrentScene(deviceState.value(Command::SceneMode));
-    if (m_family < kSceneFamilies)
-        showSceneFamily(m_family);
+    return m_automation->overlay();
+}
+
+void MainWindow::refreshPages()
+{
+    m_pages.fill(*m_queue);
+    updateControlText();
+}
+
+void MainWindow::reconnectPages()
+{
+    m_checks->askAfterReconnection();
+    refreshPages();
+    m_checks->readMissingBlock(true);
+    QMetaObject::invokeMethod(m_reconciler, &Reconciler::want, Qt::QueuedConnection); // when the search has ended
+}
+
+void MainWindow::updateControlText()
+{
+    m_navigator->updateControlText();
+    m_modes->explain();
+    m_pages.updateControlText();
+    trayPanel()->updateControlText();
+    updateInterface();
+}
+
+void MainWindow::updateInterface()
+{
+    const MonitorStatus status = monitorStatus(m_session);
+    m_status->tell(status);
+    trayPanel()->showStatus(status);
+}
+
+void MainWindow::followSent(Command command)
+{
+    m_pages.fill(*m_queue);
+    if (command == Command::SceneMode)
+        m_navigator->followSceneMode();
+}
+
+std::vector<Page *> MainWindow::pagesInSight() const
+{
+    std::vector<Page *> pages;
+    if (isVisible() && !isMinimized())
+        pages.push_back(m_navigator->current());
+    if (trayPanel()->isOpen())
+        pages.push_back(trayPanel()->panel());
+    return pages;
+}
+
+void MainWindow::systemNoticed(SystemNotice notice)
+{
+    if (notice == SystemNotice::Woke || notice == SystemNotice::DisplaysChanged)
+        m_reconciler->handlesMayBeStale();
+    else
+        m_reconciler->want();
+}
+
+void MainWindow::deviceRemoved()
+{
+    m_checks->deviceRemoved();
+}
+
+void MainWindow::reopenHidDevice()
+{
+    reopenHid();
+}
+
+bool MainWindow::ensureHidConnected()
+{
+    clearHidFlags(); // what was found before may be gone
+    reopenHidDevice();
+    if (hidHandle)
+        return true;
+    warnNotConnected();
+    return false;
+}
+
+void MainWindow::warnNotConnected()
+{
+    showMessage(QMessageBox::Warning, QObject::tr("Warning"),
+                QObject::tr("No Type-C data cable or HDMI/DP + USB data cable connected."), QObject::tr("OK"),
+                QMessageBox::YesRole, this);
 }
 
 void MainWindow::showWindow()
 {
-    m_trayPanel->close();
+    trayPanel()->close();
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();
@@ -262,7 +261,7 @@ void MainWindow::showWindow()
 void MainWindow::endWithSession()
 {
     platform::endProgram();
-    endAccessoryWork();
+    m_accessory->end();
     m_queue->drainFor(kLastValues);
     writeCounts.store();
 }
@@ -272,7 +271,7 @@ bool MainWindow::mayLeave()
     if (m_asksToLeave)
         return false; // the question stands already
     const QScopedValueRollback asking(m_asksToLeave, true);
-    return std::all_of(m_pageOf.begin(), m_pageOf.end(), [](const auto &entry) { return entry.second->mayLeave(); });
+    return m_pages.mayLeave();
 }
 
 void MainWindow::leave()
@@ -281,29 +280,19 @@ void MainWindow::leave()
         platform::endProgram();
 }
 
+void MainWindow::changeEvent(QEvent *event)
+{
+    QLabel::changeEvent(event);
+    const bool comesToFront = event->type() == QEvent::ActivationChange && isActiveWindow();
+    if (comesToFront && std::exchange(m_wasInFront, true)) // the first time everything has just been read
+        m_reconciler->want();
+}
+
 void MainWindow::closeEvent(QCloseEvent *event)
 {
     if (platform::programEnds())
         return;
     hide();
     event->ignore();
-    if (m_tray)
-        m_tray->tellRunning();
-}
-
-void MainWindow::mousePressEvent(QMouseEvent *event)
-{
-    if (event->button() == Qt::LeftButton)
-        m_dragStart = event->globalPosition().toPoint() - pos();
-}
-
-void MainWindow::mouseMoveEvent(QMouseEvent *event)
-{
-    if (m_dragStart && event->buttons().testFlag(Qt::LeftButton))
-        move(event->globalPosition().toPoint() - *m_dragStart);
-}
-
-void MainWindow::mouseReleaseEvent(QMouseEvent *)
-{
-    m_dragStart.reset();
+    m_tray->tellRunning();
 }

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+class SearchDeviceDlg;
+
 /// What the window and the panel of the tray icon say about the monitor in use.
 struct MonitorStatus
 {
@@ -9,3 +11,6 @@ struct MonitorStatus
     QString state; ///< in words, translated
     bool isGood = false;
 };
+
+/// The monitor that the session has chosen, and whether it answers.
+MonitorStatus monitorStatus(const SearchDeviceDlg &session);

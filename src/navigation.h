@@ -5,24 +5,7 @@
 #include <vector>
 
 #include "ddc_protocol/devicestate.h"
-
-/// The pages that entries lead to.
-enum class PageId {
-    Scene,
-    Office,
-    PictureEnhance,
-    SystemSetting,
-    ToolSetting,
-    ServicesSetting,
-    IoSetting,
-    LedText,
-    LedCanvas,
-    ShortcutKey,
-    ScenarioFollowing,
-    LedMusic,
-    LedSystem,
-    Empty
-};
+#include "page/pageid.h"
 
 /// One entry of a left bar.
 struct NavigationEntry

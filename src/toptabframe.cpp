@@ -54,6 +54,14 @@ void TopTabFrame::setTabsEnabled(bool enabled)
         tab->setEnabled(enabled);
 }
 
+void TopTabFrame::explain(const QString &reason)
+{
+    for (TopTab *tab : m_tabs) {
+        tab->setToolTip(reason);
+        tab->setAccessibleDescription(reason);
+    }
+}
+
 void TopTabFrame::updateControlText()
 {
     for (std::size_t i = 0; i < m_tabs.size(); ++i)

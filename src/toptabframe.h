@@ -22,6 +22,9 @@ public:
     /// Whether the tabs can be pressed; minimise and close always can.
     void setTabsEnabled(bool enabled);
 
+    /// Says at each tab why it cannot be pressed; an empty text when it can.
+    void explain(const QString &reason);
+
     void updateControlText();
 
     const std::vector<TopTab *> &tabs() const { return m_tabs; }

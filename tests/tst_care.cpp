@@ -120,6 +120,8 @@ void TestCare::lockedEntriesSayWhy()
             }
         }
         QVERIFY(locked > 0);
+        for (const TopTab *tab : m_window->tabs()->tabs())
+            QVERIFY(tab->isEnabled() == tab->toolTip().isEmpty() && tab->accessibleDescription() == tab->toolTip());
         m_window->setInterfaceMode(kBusyEnded);
     }
 }

@@ -6,10 +6,10 @@
 
 #include "ddc_protocol/commandqueue.h"
 #include "support/windowfixture.h"
-#include "trayicon.h"
-#include "traypanel.h"
-#include "traypanelopener.h"
-#include "traypanelplace.h"
+#include "tray/trayicon.h"
+#include "tray/traypanel.h"
+#include "tray/traypanelopener.h"
+#include "tray/traypanelplace.h"
 
 using namespace std::chrono_literals;
 

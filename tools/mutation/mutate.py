@@ -25,7 +25,9 @@ COPIED = ("CMakeLists.txt", "CMakePresets.json", "cmake", "resource", "src", "te
 
 # A room of the house: its name, its sources, and the suites that are likely to notice a change there.
 ROOMS = (
-    ("main window", r"src/(?:mainwindow|leftbar|toptab|navigation|trayicon)", "mainwindow windowlinks"),
+    ("main window", r"src/(?:mainwindow|leftbar|toptab|naviga|interfacemodes|automation|monitorchecks|statusline)",
+     "mainwindow windowlinks"),
+    ("tray", r"src/tray/", "traypanel"),
     ("main window", r"src/sessionend|src/platform/ending", "ending"),
     ("session", r"src/(?:searchdevice|device|snapshot|relaunch|sessionhost)", "session mainwindow"),
     ("start", r"src/(?:main|global|single|elevation|loading|workingfolder)", "start shell"),

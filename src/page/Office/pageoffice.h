@@ -15,6 +15,7 @@ public:
     ~PageOffice() override;
 
     void updateInterfaceData() override;
+    void showEntry(const char *label) override { showPanel(label); }
 
     DesktopToast *toast() const { return m_toast.get(); }
 

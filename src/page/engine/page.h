@@ -21,6 +21,9 @@ public:
     /// Asks the monitor in the background for what is in sight, unless it has just told it.
     virtual void reconcile() {}
 
+    /// An entry of the left bar that leads to the page was chosen; its source text. For pages with several entries.
+    virtual void showEntry(const char *) {}
+
     /// What is shown; it owns the page.
     virtual QWidget *widget() = 0;
 };

@@ -1,4 +1,4 @@
-#include "traypanelchoices.h"
+#include "tray/traypanelchoices.h"
 
 #include <algorithm>
 

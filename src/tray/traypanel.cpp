@@ -1,4 +1,4 @@
-#include "traypanel.h"
+#include "tray/traypanel.h"
 
 #include <algorithm>
 

@@ -15,8 +15,8 @@
 #include "page/engine/halfbutton.h"
 #include "page/engine/labels.h"
 #include "page/engine/pagestyle.h"
-#include "trayicon.h"
-#include "traypanel.h"
+#include "tray/trayicon.h"
+#include "tray/traypanel.h"
 
 namespace {
 

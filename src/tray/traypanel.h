@@ -7,7 +7,7 @@
 
 #include "monitorstatus.h"
 #include "page/engine/settingspage.h"
-#include "traypanelchoices.h"
+#include "tray/traypanelchoices.h"
 
 class CaptionLabel;
 class QButtonGroup;

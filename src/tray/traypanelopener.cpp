@@ -1,4 +1,4 @@
-#include "traypanelopener.h"
+#include "tray/traypanelopener.h"
 
 #include <QApplication>
 #include <QCursor>
@@ -6,7 +6,7 @@
 #include <QWindow>
 
 #include "platform/desk.h"
-#include "traypanel.h"
+#include "tray/traypanel.h"
 
 TrayPanelOpener::TrayPanelOpener(CommandQueue &queue, QObject *parent) : QObject(parent), m_queue(queue)
 {

@@ -1,4 +1,4 @@
-#include "traypanelplace.h"
+#include "tray/traypanelplace.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "trayicon.h"
+#include "tray/trayicon.h"
 
 #include <QMenu>
 

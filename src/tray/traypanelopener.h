@@ -7,7 +7,7 @@
 #include <QRect>
 
 #include "monitorstatus.h"
-#include "traypanelplace.h"
+#include "tray/traypanelplace.h"
 
 class CommandQueue;
 class QScreen;

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QObject>
+
+#include "ddc_protocol/commandtable.h"
+
+class CommandQueue;
+class HotkeyOverlay;
+class PageSet;
+class QStackedWidget;
+
+/// Hot keys and scenario following as the window sees them: their pages, and what they sent on the desktop.
+class Automation : public QObject
+{
+    Q_OBJECT
+public:
+    /// Makes the pages on the stack and adds them to the set.
+    Automation(CommandQueue &queue, PageSet &pages, QStackedWidget *stack);
+
+    /// Tells on the desktop what a hot key did. A program's window: it goes with the window that is given.
+    HotkeyOverlay *overlay() const { return m_overlay; }
+
+Q_SIGNALS:
+    /// A key or a followed program has sent something, which the pages are to show.
+    void sent(Command command);
+
+private:
+    void showResult(int function, Command command, int value, bool ok);
+    QString valueText(int function, Command command, int value) const;
+
+    const PageSet &m_pages;
+    HotkeyOverlay *m_overlay;
+};

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <optional>
+
+#include <QLabel>
+
+/// A window whose frame is a picture, which gives it its size. It is dragged by any place that no control takes.
+class FramelessWindow : public QLabel
+{
+protected:
+    /// The picture's path below the resource folder.
+    explicit FramelessWindow(const QString &picture);
+
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+
+private:
+    std::optional<QPoint> m_dragStart; ///< where the window was taken hold of
+};

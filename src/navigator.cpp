@@ -1,0 +1,125 @@
+#include "navigator.h"
+
+#include <algorithm>
+
+#include <QStackedWidget>
+
+#include "controls/lefttabbutton.h"
+#include "ddc_protocol/scenemodes.h"
+#include "leftbar.h"
+#include "page/emptypage.h"
+#include "page/engine/page.h"
+#include "page/pageset.h"
+#include "toptabframe.h"
+
+Navigator::Navigator(const PageSet &pages, QWidget *window)
+    : QObject(window), m_pages(pages), m_tabs(new TopTabFrame(window)), m_barStack(new QStackedWidget(window)),
+      m_pageStack(new QStackedWidget(window)), m_emptyPage(new EmptyPage(m_pageStack))
+{
+    for (int family = 0; family < kFamilies; ++family) {
+        auto *bar = new LeftBar(navigationEntries(family, deviceState), m_barStack);
+        m_bars[static_cast<std::size_t>(family)] = bar;
+        m_barStack->addWidget(bar);
+        connect(bar, &LeftBar::entryChosen, this, [this, family](int index) { chooseEntry(family, index); });
+    }
+    connect(m_tabs, &TopTabFrame::tabChosen, this, &Navigator::showFamily);
+}
+
+void Navigator::start()
+{
+    m_pageStack->addWidget(m_emptyPage);
+    m_barStack->setCurrentIndex(0);
+    for (int family = 0; family < kFamilies; ++family) {
+        if (navigationFamilies()[static_cast<std::size_t>(family)].startsSelected)
+            bar(family)->setCurrent(0);
+    }
+    showFamily(0);
+    openFamilyOfScene();
+}
+
+void Navigator::showFamily(int family)
+{
+    m_family = family;
+    m_tabs->setCurrent(family);
+    m_barStack->setCurrentIndex(family);
+    showEntryPage(family);
+}
+
+void Navigator::showEntryPage(int family)
+{
+    if (family < kSceneFamilies) {
+        showSceneFamily(family);
+        return;
+    }
+    const LeftBar *left = bar(family);
+    if (left->current() < 0) {
+        m_emptyPage->showUnchosen(navigationFamilies()[static_cast<std::size_t>(family)].label);
+        return m_pageStack->setCurrentWidget(m_emptyPage);
+    }
+    const NavigationEntry &entry = left->entries()[static_cast<std::size_t>(left->current())];
+    Page *const chosen = m_pages.page(entry.page);
+    if (!chosen) {
+        m_emptyPage->showEntry(entry.label);
+        return m_pageStack->setCurrentWidget(m_emptyPage);
+    }
+    chosen->showEntry(entry.label);
+    m_pageStack->setCurrentWidget(chosen->widget());
+}
+
+/// The scene page belongs to the family whose mode is on; the others ask to choose one.
+void Navigator::showSceneFamily(int family)
+{
+    const SceneMode *mode = sceneModeOf(deviceState.value(Command::SceneMode));
+    const bool isOn = !mode || static_cast<int>(mode->family) == family;
+    if (!isOn)
+        m_emptyPage->showFamily(navigationFamilies()[static_cast<std::size_t>(family)].label, mode->label);
+    m_pageStack->setCurrentWidget(isOn ? m_pages.page(PageId::Scene)->widget() : m_emptyPage);
+}
+
+void Navigator::chooseEntry(int family, int index)
+{
+    const NavigationEntry &entry = bar(family)->entries()[static_cast<std::size_t>(index)];
+    if (entry.sceneValue != 0)
+        Q_EMIT sceneChosen(entry.sceneValue);
+    showEntryPage(family);
+}
+
+void Navigator::followSceneMode()
+{
+    for (int family = 0; family < kSceneFamilies; ++family)
+        bar(family)->setCurrentScene(deviceState.value(Command::SceneMode));
+    if (m_family < kSceneFamilies)
+        showSceneFamily(m_family);
+}
+
+void Navigator::openFamilyOfScene()
+{
+    followSceneMode();
+    if (const auto family = familyOfSceneValue(deviceState.value(Command::SceneMode)))
+        showFamily(static_cast<int>(*family));
+}
+
+/// The scene mode is chosen in the bar of its family; every other setting lies on the page that names it.
+void Navigator::showSetting(Command command)
+{
+    if (command != Command::SceneMode)
+        return;
+    openFamilyOfScene();
+    const LeftBar *left = bar(m_family);
+    const int index = std::max(left->current(), 0); // the bar may not have the mode that is on
+    left->buttons()[static_cast<std::size_t>(index)]->setFocus(Qt::ShortcutFocusReason);
+}
+
+Page *Navigator::current() const
+{
+    Page *shown = m_pages.shownBy(m_pageStack->currentWidget());
+    return shown ? shown : m_pages.page(PageId::Scene);
+}
+
+void Navigator::updateControlText()
+{
+    m_tabs->updateControlText();
+    for (LeftBar *left : m_bars)
+        left->updateControlText();
+    m_emptyPage->updateControlText();
+}

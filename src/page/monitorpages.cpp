@@ -1,0 +1,26 @@
+#include "page/monitorpages.h"
+
+#include <QStackedWidget>
+
+#include "page/BasicSetting/pagepcsetting.h"
+#include "page/BasicSetting/pageservicessetting.h"
+#include "page/BasicSetting/pagesystemsetting.h"
+#include "page/Game/pagepictureenhanc.h"
+#include "page/IO/pageiosetting.h"
+#include "page/Office/pageoffice.h"
+#include "page/Scene/pagescenesetting.h"
+#include "page/pageset.h"
+
+MonitorPages::MonitorPages(SearchDeviceDlg &session, CommandQueue &queue, PageSet &pages, QStackedWidget *stack)
+    : QObject(stack), m_scene(new pageSceneSetting(session, queue, stack))
+{
+    auto *system = new pageSystemSetting(session, queue, stack);
+    connect(system, &pageSystemSetting::resetBegins, this, &MonitorPages::resetBegins);
+    pages.add(PageId::Scene, m_scene);
+    pages.add(PageId::Office, new PageOffice(queue, stack));
+    pages.add(PageId::PictureEnhance, new pagePictureEnhanc(queue, stack));
+    pages.add(PageId::SystemSetting, system);
+    pages.add(PageId::ToolSetting, new pagePCSetting(session, queue, stack));
+    pages.add(PageId::ServicesSetting, new pageServicesSetting(queue, stack));
+    pages.add(PageId::IoSetting, new pageIOSetting(queue, stack));
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <map>
+#include <vector>
+
+#include <QString>
+
+#include "ddc_protocol/commandtable.h"
+#include "page/pageid.h"
+
+class CommandQueue;
+class Page;
+class QWidget;
+class SettingsPage;
+
+/// The pages that entries lead to, and what the window does with all of them. Owns none.
+class PageSet
+{
+public:
+    void add(PageId id, Page *page) { m_pages[id] = page; }
+
+    /// Null for entries without a page.
+    Page *page(PageId id) const;
+    /// The page of monitor settings that an entry leads to; null for those that are none.
+    SettingsPage *settings(PageId id) const;
+    /// The page that a widget shows; null for any other.
+    Page *shownBy(const QWidget *widget) const;
+    std::vector<Page *> all() const;
+
+    /// Fills every page from the snapshot. Nothing is sent, and nothing that was on its way in the queue is lost.
+    void fill(CommandQueue &queue) const;
+
+    void updateControlText() const;
+
+    /// Asks each until one wants the program to stay.
+    bool mayLeave() const;
+
+    /// A value as the page names it that offers it; empty where none does.
+    QString optionText(Command command, int value) const;
+
+private:
+    std::map<PageId, Page *> m_pages;
+};
