@@ -7,6 +7,7 @@
 #include <benchmark/benchmark.h>
 
 #include "benchdesk.h"
+#include "ddc_protocol/commandtable.h"
 #include "ddc_protocol/displayenumeration.h"
 #include "ddc_protocol/edid.h"
 #include "ddc_protocol/loghandler.h"

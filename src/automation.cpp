@@ -31,7 +31,7 @@ Automation::Automation(CommandQueue &queue, PageSet &pages, QStackedWidget *stac
 
 void Automation::showResult(int function, Command command, int value, bool ok)
 {
-    const QString name = QObject::tr(shortcutFunctions()[static_cast<std::size_t>(function)].name);
+    const QString name = QObject::tr(shortcutFunction(function)->name);
     m_overlay->showNote(name, ok ? valueText(function, command, value)
                                  : QObject::tr("The monitor did not take this setting."));
     Q_EMIT sent(command);
@@ -44,7 +44,7 @@ QString Automation::valueText(int function, Command command, int value) const
         return value % 2 != 0 ? QObject::tr("With the factory parameters") : QObject::tr("With your own parameters");
     if (const QString option = m_pages.optionText(command, value); !option.isEmpty())
         return option;
-    const auto *fixed = std::get_if<FixedValues>(&shortcutFunctions()[static_cast<std::size_t>(function)].rule);
+    const auto *fixed = std::get_if<FixedValues>(&shortcutFunction(function)->rule);
     if (fixed)
         return value == fixed->plus ? QObject::tr("On") : QObject::tr("Off");
     if (isAidSwitch(command))

@@ -2,7 +2,7 @@
 
 #include <QObject>
 
-#include "ddc_protocol/commandtable.h"
+#include "ddc_protocol/command.h"
 
 class CommandQueue;
 class HotkeyOverlay;

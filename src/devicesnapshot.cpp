@@ -3,6 +3,8 @@
 #include <QDebug>
 #include <QProgressDialog>
 
+#include "ddc_protocol/commandtable.h"
+#include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/transport.h"
 #include "platform/desk.h"
 #include "platform/ending.h"

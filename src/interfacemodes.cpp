@@ -1,4 +1,5 @@
 #include "interfacemodes.h"
+#include "ddc_protocol/devicestate.h"
 
 #include <QStackedWidget>
 

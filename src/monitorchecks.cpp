@@ -1,4 +1,6 @@
 #include "monitorchecks.h"
+#include "ddc_protocol/commandtable.h"
+#include "ddc_protocol/devicestate.h"
 
 #include <utility>
 

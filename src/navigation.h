@@ -1,11 +1,12 @@
 #pragma once
 
-#include <optional>
+#include <cstdint>
 #include <span>
 #include <vector>
 
-#include "ddc_protocol/devicestate.h"
 #include "page/pageid.h"
+
+class DeviceState;
 
 /// One entry of a left bar.
 struct NavigationEntry

@@ -1,4 +1,5 @@
 #include "navigator.h"
+#include "ddc_protocol/devicestate.h"
 
 #include <algorithm>
 

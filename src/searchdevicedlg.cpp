@@ -1,4 +1,5 @@
 #include "searchdevicedlg.h"
+#include "ddc_protocol/devicestate.h"
 
 #include <cstdlib>
 

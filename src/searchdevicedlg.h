@@ -6,7 +6,6 @@
 #include <QByteArrayList>
 #include <QDialog>
 
-#include "ddc_protocol/devicestate.h"
 #include "platform/nativemessage.h"
 
 class QComboBox;

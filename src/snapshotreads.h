@@ -2,7 +2,7 @@
 
 #include <span>
 
-#include "ddc_protocol/commandtable.h"
+#include "ddc_protocol/command.h"
 
 /// One single read of the start-up snapshot.
 struct SnapshotRead

@@ -5,6 +5,7 @@
 #include "controls/nowheelslider.h"
 #include "ddc_protocol/automaticwriter.h"
 #include "ddc_protocol/commandqueue.h"
+#include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/monitoridentity.h"
 #include "ddc_protocol/scenemodes.h"
 #include "ddc_protocol/valuechanges.h"

@@ -8,6 +8,7 @@
 #include "controls/filequestion.h"
 #include "controls/messagebox.h"
 #include "controls/sliderwidget.h"
+#include "ddc_protocol/commandtable.h"
 #include "ddc_protocol/displayenumeration.h"
 #include "ddc_protocol/transport.h"
 #include "page/Scene/pagescenesetting.h"

@@ -1,6 +1,7 @@
 #include <QtTest>
 #include <QtWidgets>
 
+#include "ddc_protocol/devicestate.h"
 #include "following/followlist.h"
 #include "page/Following/followrow.h"
 #include "page/Following/pagescenariofollowing.h"

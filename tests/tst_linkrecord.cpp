@@ -1,5 +1,7 @@
 #include <random>
 
+#include "ddc_protocol/commandtable.h"
+#include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/linkrecorder.h"
 #include "ddc_protocol/linkrecords.h"
 #include "ddc_protocol/sceneblock.h"

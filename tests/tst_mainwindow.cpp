@@ -1,6 +1,7 @@
 #include <QtTest>
 #include <QtWidgets>
 
+#include "ddc_protocol/devicestate.h"
 #include "page/Office/pageoffice.h"
 #include "page/emptypage.h"
 #include "support/windowfixture.h"

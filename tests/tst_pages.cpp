@@ -6,6 +6,7 @@
 #include "controls/lefttabbutton.h"
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
+#include "ddc_protocol/devicestate.h"
 #include "page/BasicSetting/pagesystemsetting.h"
 #include "page/Game/pagepictureenhanc.h"
 #include "page/IO/iotable.h"

@@ -4,6 +4,7 @@
 #include "controls/nowheelslider.h"
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
+#include "ddc_protocol/devicestate.h"
 #include "page/Scene/pagescenesetting.h"
 #include "page/Scene/scenetable.h"
 #include "page/engine/optiongrouprow.h"

@@ -3,6 +3,7 @@
 #include <QtTest>
 #include <QtWidgets>
 
+#include "ddc_protocol/devicestate.h"
 #include "searchdevicedlg.h"
 #include "sessionhost.h"
 #include "support/deskfixture.h"

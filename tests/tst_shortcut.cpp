@@ -1,5 +1,6 @@
 #include <QtTest>
 
+#include "ddc_protocol/devicestate.h"
 #include "platform/desk.h"
 #include "platform/nativekeys.h"
 #include "shortcut/qxtglobalshortcut.h"

@@ -2,6 +2,7 @@
 #include <QtWidgets>
 
 #include "controls/zelmarkeysequenceedit.h"
+#include "ddc_protocol/devicestate.h"
 #include "page/BasicSetting/pageshortcutkey.h"
 #include "page/BasicSetting/shortcutrow.h"
 #include "platform/nativemessage.h"

@@ -6,6 +6,8 @@
 #include "controls/lefttabbutton.h"
 #include "ddc_protocol/commandnames.h"
 #include "ddc_protocol/commandqueue.h"
+#include "ddc_protocol/commandtable.h"
+#include "ddc_protocol/devicestate.h"
 #include "page/BasicSetting/hotkeyoverlay.h"
 #include "page/BasicSetting/pagepcsetting.h"
 #include "page/BasicSetting/pageservicessetting.h"

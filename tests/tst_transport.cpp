@@ -3,6 +3,7 @@
 #include <QtTest>
 
 #include "ddc_protocol/commandqueue.h"
+#include "ddc_protocol/commandtable.h"
 #include "support/deskfixture.h"
 
 namespace {

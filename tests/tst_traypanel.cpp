@@ -5,6 +5,7 @@
 #include <QToolButton>
 
 #include "ddc_protocol/commandqueue.h"
+#include "ddc_protocol/devicestate.h"
 #include "support/windowfixture.h"
 #include "tray/trayicon.h"
 #include "tray/traypanel.h"

@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <QtTest>
 
+#include "ddc_protocol/devicestate.h"
 #include "following/followlist.h"
 #include "page/engine/settingspage.h"
 #include "platform/nativemessage.h"

@@ -9,6 +9,7 @@
 #include "controls/lefttabbutton.h"
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
+#include "ddc_protocol/devicestate.h"
 #include "following/followlist.h"
 #include "leftbar.h"
 #include "page/BasicSetting/hotkeyoverlay.h"

@@ -6,7 +6,7 @@
 #include <QDateTime>
 #include <QObject>
 
-#include "ddc_protocol/commandtable.h"
+#include "ddc_protocol/command.h"
 #include "ddc_protocol/writebudget.h"
 
 class CommandQueue;

@@ -1,4 +1,5 @@
 #include "ddc_protocol/commandnames.h"
+#include "ddc_protocol/devicestate.h"
 
 #include <algorithm>
 

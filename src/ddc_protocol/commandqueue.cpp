@@ -1,4 +1,5 @@
 #include "ddc_protocol/commandqueue.h"
+#include "ddc_protocol/commandtable.h"
 
 #include <algorithm>
 #include <utility>

@@ -10,7 +10,7 @@
 
 #include <QObject>
 
-#include "ddc_protocol/commandtable.h"
+#include "ddc_protocol/command.h"
 #include "ddc_protocol/valuewatch.h"
 #include "platform/clock.h"
 

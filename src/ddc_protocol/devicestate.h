@@ -4,28 +4,22 @@
 #include <atomic>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <mutex>
 #include <optional>
 #include <span>
 
 #include <QDateTime>
 
-#include "ddc_protocol/commandtable.h"
-
-/// The bits of the capability word that the program looks at.
-enum class Capability : std::uint16_t {
-    LocalDimming = 1 << 0,
-    HaloControl = 1 << 1,
-    OledPanel = 1 << 2, ///< the care values are read
-    ExtraScene = 1 << 3,
-    MpcsMotion = 1 << 6, ///< the motion function is called MPCS, not DyDs, and has scenes of its own
-    GameFunctions = 1 << 10,
-};
+#include "ddc_protocol/capability.h"
+#include "ddc_protocol/command.h"
 
 inline constexpr int kSceneBlockSize = 40;   ///< bytes of the table read of a custom mode
 inline constexpr int kSceneBlockValues = 37; ///< of which this many carry a value
 inline constexpr int kBlockNotValid = 10;    ///< the Sharpness value of a block that has not been read
 inline constexpr int kHighestSceneMode = 90;
+
+class StateStorage;
 
 /// What is known about a value of the monitor.
 enum class ValueState {
@@ -44,7 +38,8 @@ enum class ValueState {
 class DeviceState
 {
 public:
-    DeviceState() { clear(); }
+    DeviceState();
+    ~DeviceState();
 
     /// Everything zero and unknown, but the scene mode 10 and the scene-mode block marked as not read.
     void clear();
@@ -142,36 +137,12 @@ public:
     void setObserver(std::function<void(Command)> observer);
 
 private:
-    struct Entry
-    {
-        int value = 0;
-        ValueState state = ValueState::Unknown;
-        std::optional<int> confirmed;
-        QDateTime confirmedAt;
-        unsigned era = 0; ///< in which that was
-        QDateTime wishedAt;
-        QDateTime refusedAt;
-
-        void doubt();
-    };
-
     template <typename Change> void change(Command command, Change change);
-    Entry &entry(Command command);
-    const Entry &entry(Command command) const;
-    int modeThatIsOn() const;
-    bool isCustomHalf() const { return modeThatIsOn() % 2 == 0; }
-    void keepConfirmed(Entry &entry, int value);
-    bool isFresh(const Entry &entry) const;
-    void keepTold(Entry &entry, int value);
-    void followSceneMode(int before);
-    void forgetBlock();
+    template <typename Change> void changeBlock(Change change);
     void notify(Command command);
 
-    mutable std::mutex m_mutex; // guards what follows
-    std::array<Entry, kCommandCodes> m_entries;
-    std::array<Entry, kSceneBlockValues> m_custom; ///< of the custom half, in the block's order
-    bool m_blockRead = false;
-    unsigned m_era = 0; ///< grows with everything after which the monitor may have changed
+    mutable std::mutex m_mutex; // guards the storage
+    const std::unique_ptr<StateStorage> m_storage;
 
     std::mutex m_observerMutex;
     std::function<void(Command)> m_observer;

@@ -1,4 +1,5 @@
 #include "ddc_protocol/scenemodes.h"
+#include "ddc_protocol/devicestate.h"
 
 #include <QtGlobal>
 

@@ -5,7 +5,9 @@
 #include <span>
 #include <vector>
 
-#include "ddc_protocol/devicestate.h"
+#include "ddc_protocol/capability.h"
+
+class DeviceState;
 
 /// The four tabs that show scene modes, in tab order.
 enum class SceneFamily { Scene, MacView, ColorSpace, PrintMode };

@@ -1,4 +1,5 @@
 #include "ddc_protocol/transport.h"
+#include "ddc_protocol/commandtable.h"
 
 #include <algorithm>
 

@@ -8,7 +8,7 @@
 #include <optional>
 #include <vector>
 
-#include "ddc_protocol/commandtable.h"
+#include "ddc_protocol/command.h"
 #include "platform/monitorconfiguration.h"
 
 // The vendor commands over DDC/CI. Every command is a request on the vendor code 0x99 and then one on its own code.

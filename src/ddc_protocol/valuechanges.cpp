@@ -1,4 +1,5 @@
 #include "ddc_protocol/valuechanges.h"
+#include "ddc_protocol/commandtable.h"
 
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/transport.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ddc_protocol/commandtable.h"
+#include "ddc_protocol/command.h"
 
 /// Wishes a value and sends it at once, on the calling thread. True when the monitor took it.
 bool sendValue(Command command, int value);

@@ -5,7 +5,7 @@
 
 #include <QObject>
 
-#include "ddc_protocol/commandtable.h"
+#include "ddc_protocol/command.h"
 
 /// Hears of every change in the snapshot, whatever thread made it, and tells it on its own thread; several changes of
 /// one value in a row are told once. There is at most one.

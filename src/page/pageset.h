@@ -5,7 +5,7 @@
 
 #include <QString>
 
-#include "ddc_protocol/commandtable.h"
+#include "ddc_protocol/command.h"
 #include "page/pageid.h"
 
 class CommandQueue;

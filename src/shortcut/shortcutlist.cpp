@@ -30,13 +30,12 @@ ShortcutList loadShortcuts()
 
     ShortcutList list;
     list.masterOn = stored.value(kMasterSwitch) != kOff; // on unless it says exactly "off"
-    const int functions = static_cast<int>(shortcutFunctions().size());
-    for (int function = 0; function < functions; ++function) {
-        const QString group = QString::number(function);
+    for (const ShortcutFunction &function : shortcutFunctions()) {
+        const QString group = QString::number(function.number);
         const QString rowSwitch = stored.value(group + kRowSwitch);
         if (!rowSwitch.isEmpty()) // anything but exactly "on" is off
             list.entries.push_back(
-                {function, rowSwitch == kOn, stored.value(group + kPlusKey), stored.value(group + kMinusKey)});
+                {function.number, rowSwitch == kOn, stored.value(group + kPlusKey), stored.value(group + kMinusKey)});
     }
     return list;
 }

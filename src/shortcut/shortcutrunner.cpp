@@ -1,4 +1,5 @@
 #include "shortcut/shortcutrunner.h"
+#include "ddc_protocol/commandtable.h"
 
 #include <QDebug>
 
@@ -22,20 +23,18 @@ void ShortcutRunner::shortcutKeyCommand(int function, int direction)
 {
     if (!m_ready)
         return;
-    const auto functions = shortcutFunctions();
-    const bool exists = function >= 0 && static_cast<std::size_t>(function) < functions.size();
-    if (!exists)
+    const ShortcutFunction *const known = shortcutFunction(function);
+    if (!known)
         qDebug().noquote() << QStringLiteral("%1 暂未支持").arg(function);
     const bool isKey =
         direction == static_cast<int>(ShortcutKey::Plus) || direction == static_cast<int>(ShortcutKey::Minus);
-    if (!exists || !isKey) {
+    if (!known || !isKey) {
         rest();
         return;
     }
     Q_EMIT begins();
     const auto read = [](COMMAND_set_Type row) { return Korvu_GetCommandVal(row, kRetryCount); };
-    const ShortcutStep step =
-        shortcutStep(functions[static_cast<std::size_t>(function)].rule, ShortcutKey(direction), read);
+    const ShortcutStep step = shortcutStep(known->rule, ShortcutKey(direction), read);
     const auto command = Command(commandCode(step.row));
     const auto value = static_cast<std::uint16_t>(step.value);
     const bool ok = sendValue(command, value);

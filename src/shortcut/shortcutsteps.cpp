@@ -1,4 +1,5 @@
 #include "shortcut/shortcutsteps.h"
+#include "ddc_protocol/commandtable.h"
 
 namespace {
 

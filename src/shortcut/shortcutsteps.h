@@ -4,7 +4,7 @@
 #include <optional>
 #include <variant>
 
-#include "ddc_protocol/commandtable.h"
+#include "ddc_protocol/command.h"
 
 // What a hot key asks of the monitor, as data: nothing here talks to it.
 

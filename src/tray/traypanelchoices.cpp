@@ -1,4 +1,5 @@
 #include "tray/traypanelchoices.h"
+#include "ddc_protocol/devicestate.h"
 
 #include <algorithm>
 

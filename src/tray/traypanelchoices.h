@@ -6,6 +6,8 @@
 
 #include "page/engine/pagetable.h"
 
+class DeviceState;
+
 // What can stand on the panel of the tray icon: sliders and options of the pages, by the pages' own tables.
 
 inline constexpr int kTrayPlaces = 2;         ///< of the user's choice

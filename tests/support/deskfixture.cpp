@@ -1,4 +1,5 @@
 #include "support/deskfixture.h"
+#include "ddc_protocol/devicestate.h"
 
 #include <mutex>
 

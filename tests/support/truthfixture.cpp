@@ -1,4 +1,5 @@
 #include "support/truthfixture.h"
+#include "ddc_protocol/devicestate.h"
 
 #include <QPushButton>
 

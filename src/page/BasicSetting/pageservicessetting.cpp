@@ -1,4 +1,5 @@
 #include "page/BasicSetting/pageservicessetting.h"
+#include "ddc_protocol/devicestate.h"
 
 #include <QDebug>
 #include <QDesktopServices>

@@ -44,8 +44,8 @@ void pageShortcutKey::fillFunctions()
 {
     const int chosen = std::max(0, m_functions->currentIndex());
     m_functions->clear();
-    for (const ShortcutFunction &function : m_available)
-        m_functions->addItem(QObject::tr(function.name));
+    for (const ShortcutFunction *function : m_available)
+        m_functions->addItem(QObject::tr(function->name), function->number);
     m_functions->setCurrentIndex(chosen);
     m_functions->setAccessibleName(QObject::tr("Function"));
 }
@@ -55,7 +55,7 @@ void pageShortcutKey::loadRows()
     const ShortcutList list = loadShortcuts();
     m_masterOn = list.masterOn;
     for (const ShortcutEntry &entry : list.entries) {
-        if (entry.function < m_functions->count())
+        if (m_functions->findData(entry.function) >= 0)
             addShortcutRow(entry);
         else
             m_otherEntries.push_back(entry);
@@ -131,7 +131,7 @@ void pageShortcutKey::on_pushButton_clicked()
 
 void pageShortcutKey::on_pushButton_2_clicked()
 {
-    const int function = m_functions->currentIndex();
+    const int function = m_functions->currentData().toInt();
     const auto sameFunction = [function](const ShortcutRow *row) { return row->function() == function; };
     const auto found = std::find_if(m_rows.begin(), m_rows.end(), sameFunction);
     const bool isNew = found == m_rows.end();

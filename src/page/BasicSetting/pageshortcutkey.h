@@ -58,7 +58,7 @@ private:
     void showResting();
 
     ShortcutRunner m_runner;
-    const std::span<const ShortcutFunction> m_available; ///< of the monitor that the page was built for
+    const std::vector<const ShortcutFunction *> m_available; ///< of the monitor that the page was built for
     bool m_masterOn = true;
     std::vector<ShortcutRow *> m_rows;
     std::vector<ShortcutEntry> m_otherEntries; ///< functions that this monitor lacks, kept for the one that has them

@@ -146,7 +146,7 @@ void ShortcutRow::showProblems()
 /// What a key does, and why it cannot be changed while its row is off.
 void ShortcutRow::explainFields()
 {
-    const KeyMeaning meaning = meaningOf(shortcutFunctions()[static_cast<std::size_t>(m_entry.function)]);
+    const KeyMeaning meaning = meaningOf(*shortcutFunction(m_entry.function));
     const QString lock = m_entry.isOn ? QString() : QObject::tr("Switch this row on to change its keys.");
     for (const auto &[edit, text] : {std::pair(plusEdit(), meaning.plus), {minusEdit(), meaning.minus}}) {
         edit->setToolTip(lock.isEmpty() ? text : lock);
@@ -157,8 +157,7 @@ void ShortcutRow::explainFields()
 
 void ShortcutRow::updateControlText()
 {
-    const ShortcutFunction &function = shortcutFunctions()[static_cast<std::size_t>(m_entry.function)];
-    const QString name = QObject::tr(function.name);
+    const QString name = QObject::tr(shortcutFunction(m_entry.function)->name);
     m_name->setText(name);
     m_switch->setAccessibleName(name);
     explainFields();

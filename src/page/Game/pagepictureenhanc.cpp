@@ -1,4 +1,5 @@
 #include "page/Game/pagepictureenhanc.h"
+#include "ddc_protocol/devicestate.h"
 
 #include <QDebug>
 

@@ -1,4 +1,5 @@
 #include "page/Game/picturetable.h"
+#include "ddc_protocol/devicestate.h"
 
 #include "page/engine/commonoptions.h"
 

@@ -1,4 +1,5 @@
 #include "page/Health/everythingread.h"
+#include "ddc_protocol/devicestate.h"
 
 #include <algorithm>
 

@@ -6,7 +6,7 @@
 #include <QList>
 #include <QObject>
 
-#include "ddc_protocol/commandtable.h"
+#include "ddc_protocol/command.h"
 
 class CommandQueue;
 

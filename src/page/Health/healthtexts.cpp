@@ -1,4 +1,5 @@
 #include "page/Health/healthtexts.h"
+#include "ddc_protocol/devicestate.h"
 
 #include <QLocale>
 #include <QStringList>

@@ -1,4 +1,5 @@
 #include "page/IO/pageiosetting.h"
+#include "ddc_protocol/devicestate.h"
 
 #include "controls/pictures.h"
 #include "controls/sharedfonts.h"

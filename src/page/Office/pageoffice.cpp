@@ -1,4 +1,5 @@
 #include "page/Office/pageoffice.h"
+#include "ddc_protocol/devicestate.h"
 
 #include <QHBoxLayout>
 #include <QSpinBox>

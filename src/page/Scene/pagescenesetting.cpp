@@ -1,4 +1,5 @@
 #include "page/Scene/pagescenesetting.h"
+#include "ddc_protocol/devicestate.h"
 
 #include <QButtonGroup>
 #include <QHBoxLayout>

@@ -1,6 +1,7 @@
 // How the custom half follows its own values.
 
 #include "controls/sliderwidget.h"
+#include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/scenemodes.h"
 #include "page/Scene/pagescenesetting.h"
 #include "page/Scene/scenetable.h"

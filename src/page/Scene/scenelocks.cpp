@@ -1,4 +1,5 @@
 #include "page/Scene/scenelocks.h"
+#include "ddc_protocol/devicestate.h"
 
 #include <vector>
 

@@ -1,4 +1,5 @@
 #include "page/engine/lockrules.h"
+#include "ddc_protocol/devicestate.h"
 
 #include <algorithm>
 

@@ -7,6 +7,8 @@
 
 #include "page/engine/pagetable.h"
 
+class DeviceState;
+
 // When a control of a page cannot be used, why, and what has to be changed first. The pages enable their controls by
 // these tables and by nothing else, so that no lock is without its reason.
 

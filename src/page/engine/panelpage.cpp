@@ -1,4 +1,5 @@
 #include "page/engine/panelpage.h"
+#include "ddc_protocol/devicestate.h"
 
 #include <algorithm>
 

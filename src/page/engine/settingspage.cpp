@@ -1,4 +1,5 @@
 #include "page/engine/settingspage.h"
+#include "ddc_protocol/commandtable.h"
 
 #include <algorithm>
 

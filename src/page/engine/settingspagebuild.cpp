@@ -8,6 +8,7 @@
 #include "controls/captionlabel.h"
 #include "controls/locksign.h"
 #include "controls/sliderwidget.h"
+#include "ddc_protocol/devicestate.h"
 #include "page/engine/optiongrouprow.h"
 #include "page/engine/settingspage.h"
 

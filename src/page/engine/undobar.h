@@ -4,7 +4,7 @@
 
 #include <QFrame>
 
-#include "ddc_protocol/commandtable.h"
+#include "ddc_protocol/command.h"
 #include "platform/clock.h"
 
 class QLabel;
