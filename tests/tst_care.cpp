@@ -1,3 +1,5 @@
+#include <thread>
+
 #include <QPushButton>
 #include <QtTest>
 
@@ -12,6 +14,7 @@
 #include "ddc_protocol/writecounts.h"
 #include "page/engine/panelpage.h"
 #include "page/engine/undobar.h"
+#include "support/fulldisk.h"
 #include "support/windowfixture.h"
 
 using namespace std::chrono_literals;
@@ -161,7 +164,19 @@ void TestCare::undoOfRiskyChanges()
     QCOMPARE(change(), offered);
     if (!offered)
         return;
+    QSemaphore held;
+    QSemaphore looked;
+    bool wasFree = false;
+    std::thread worker([&] {
+        const auto lock = lockTransport(); // a slow read
+        held.release();
+        wasFree = looked.tryAcquire(1, 5000);
+    });
+    held.acquire();
     m_desk->clock.advance(14s);
+    looked.release();
+    worker.join();
+    QVERIFY(wasFree); // the window did not wait for it
     QTest::keyClick(bar->button(), Qt::Key_Space);
     QCOMPARE(m_desk->takeCommands(), QStringList{QStringLiteral("W %1=%2").arg(command, 0, 16).arg(before)});
     QVERIFY(bar->isHidden() && deviceState.confirmed(Command(command)) == before);
@@ -193,7 +208,8 @@ void TestCare::writesAreCounted()
     start(10);
     const QString monitor = monitorIdentity();
     const QString key = QString::fromLatin1(monitor.toUtf8().toPercentEncoding() + "/10");
-    QVERIFY(storeSetting(key, "before:7 2024-01-01:2 2024-03-08:5 nonsense", kWritesFile));
+    QVERIFY(
+        storeSetting(key, "before:7 2024-01-01:2 2024-03-08:5 2024-03-07:9223372036854775807 nonsense", kWritesFile));
     const auto counted = [&](int code) {
         const WriteCount count = writeCounts.countOf(monitor, code);
         return std::pair(count.today, count.inAll);
@@ -208,7 +224,11 @@ void TestCare::writesAreCounted()
     QCOMPARE(counted(0x10), std::pair(qint64(4), qint64(18)));
     QVERIFY(!QFileInfo::exists(kWritesFile) || !readText(kWritesFile).contains("03-09"));
     QCoreApplication::processEvents();
-    m_desk->clock.advance(60s);
+    {
+        const FullDisk full(0);
+        m_desk->clock.advance(60s);
+    }
+    m_desk->clock.advance(60s); // once more
     QCOMPARE(settingsString(key.toLatin1().constData(), {}, false, kWritesFile), "before:9 2024-03-08:5 2024-03-09:4");
     sendValue(Command::Brightness, 6);
     m_desk->clock.advance(24h);

@@ -1,6 +1,6 @@
 #include "ddc_protocol/monitoridentity.h"
 
-#include "ddc_protocol/transport.h"
+#include "ddc_protocol/displayenumeration.h"
 
 QString identityText(const MonitorIdentity &identity)
 {
@@ -12,7 +12,6 @@ QString identityText(const MonitorIdentity &identity)
 
 QString monitorIdentity()
 {
-    const auto lock = lockTransport();
     const std::size_t index = currentMonitorIndex;
     return index < monitorList.size() ? identityText(monitorList[index].identity) : QString();
 }

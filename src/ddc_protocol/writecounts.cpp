@@ -11,6 +11,7 @@ WriteCounts writeCounts;
 namespace {
 
 constexpr int kDaysKept = 30;
+constexpr qint64 kMostWrites = 1'000'000'000'000; // of a code on a day: what a file says beyond that is nonsense
 const QString kFarBack = QStringLiteral("before");
 
 QDate today()
@@ -74,7 +75,10 @@ void WriteCounts::store()
     if (write(std::move(counts)))
         return;
     const std::lock_guard lock(m_mutex);
+    const bool isFirst = m_new.empty();
     add(m_new, fresh);
+    if (isFirst && m_observer)
+        m_observer(); // to be stored later; else who wrote meanwhile has said so
 }
 
 void WriteCounts::add(Table &counts, const Table &more)
@@ -109,7 +113,8 @@ WriteCounts::Table WriteCounts::read()
             const QString day = part.section(QLatin1Char(':'), 0, 0);
             const QDate date = QDate::fromString(day, Qt::ISODate);
             const qint64 writes = part.section(QLatin1Char(':'), 1).toLongLong();
-            if (isCode && writes > 0 && (date.isValid() || day == kFarBack))
+            const bool isCount = writes > 0 && writes <= kMostWrites;
+            if (isCode && isCount && (date.isValid() || day == kFarBack))
                 counts[{monitor, code}][date] += writes;
         }
     }
