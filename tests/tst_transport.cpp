@@ -264,13 +264,17 @@ void TestTransport::queueKeepsTheNewestValue()
 {
     CommandQueue queue;
     QSignalSpy sent(&queue, &CommandQueue::sent);
+    QSignalSpy asked(&queue, &CommandQueue::asked);
     {
         const auto busy = lockTransport(); // the monitor is at work on something else
         for (int value = 1; value <= 60; ++value)
             queue.post(Command::Brightness, value);
         queue.post(Command::Contrast, 7);
+        queue.ask(Command::Gamma);
+        queue.dropQuestions();
     }
     queue.drain();
+    QCOMPARE(asked.count(), 1); // whoever asked is told all the same
     QCOMPARE(int(m_desk->monitor().value(0x10)), 60);
     QCOMPARE(int(m_desk->monitor().value(0x12)), 7);
     QVERIFY(sent.count() <= 3); // at most the first value was on its way already

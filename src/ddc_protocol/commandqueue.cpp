@@ -136,9 +136,24 @@ void CommandQueue::askBlock(int mode)
 
 void CommandQueue::dropQuestions()
 {
-    const std::lock_guard lock(m_mutex);
-    m_questions.clear();
-    m_blockQuestion.reset();
+    {
+        const std::lock_guard lock(m_mutex);
+        m_unanswered += static_cast<int>(m_questions.size()) + (m_blockQuestion ? 1 : 0);
+        m_questions.clear();
+        m_blockQuestion.reset();
+        if (m_asking || m_unanswered == 0)
+            return; // the one under way ends them, or there was none
+    }
+    tellAsked();
+}
+
+/// Whoever waits for his answer waits for this.
+void CommandQueue::tellAsked()
+{
+    std::unique_lock lock(m_mutex);
+    const int unanswered = std::exchange(m_unanswered, 0);
+    lock.unlock();
+    Q_EMIT asked(unanswered);
 }
 
 void CommandQueue::drain()
@@ -232,8 +247,7 @@ void CommandQueue::noteAnswer(bool told, std::unique_lock<std::mutex> &lock)
     }
     if (hasQuestion())
         return;
-    const int unanswered = std::exchange(m_unanswered, 0);
     lock.unlock();
-    Q_EMIT asked(unanswered);
+    tellAsked();
     lock.lock();
 }

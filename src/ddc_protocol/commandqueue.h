@@ -42,7 +42,7 @@ public:
     /// asked for the first one only.
     void askAll(std::span<const Command> commands, std::optional<int> blockMode);
 
-    /// Asks nothing more of what waits.
+    /// Asks nothing more of what waits, whoever asked; it counts as not answered.
     void dropQuestions();
 
     /// Blocks until everything posted has been sent. Whoever sends a command directly calls this first, or a drag's
@@ -76,7 +76,7 @@ Q_SIGNALS:
     void gaveUp(const QList<Command> &commands, bool block);
 
     /// All questions were asked, or given up; what was told is in the snapshot, and so many were not answered. Emitted
-    /// on the queue's thread.
+    /// on the queue's thread, or by whoever drops them.
     void asked(int unanswered);
 
 private:
@@ -100,6 +100,7 @@ private:
     void askNext(std::unique_lock<std::mutex> &lock);
     void askNextBlock(std::unique_lock<std::mutex> &lock);
     void noteAnswer(bool told, std::unique_lock<std::mutex> &lock);
+    void tellAsked();
 
     std::mutex m_mutex;
     std::condition_variable m_wake;
