@@ -6,6 +6,7 @@
 
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/displayenumeration.h"
+#include "ddc_protocol/monitoridentity.h"
 #include "ddc_protocol/transport.h"
 #include "interfacemodes.h"
 #include "platform/desk.h"
@@ -16,14 +17,15 @@ static constexpr platform::milliseconds kRemovalSettles{300}; // one unplugging 
 MonitorChecks::MonitorChecks(SearchDeviceDlg &session, CommandQueue &queue, const InterfaceModes &modes,
                              QObject *parent)
     : QObject(parent), m_session(session), m_queue(queue), m_modes(modes),
-      m_shownMonitor(session.labels().value(currentMonitorIndex.load()))
+      m_shownMonitor(monitorIdentity())
 {
 }
 
 void MonitorChecks::askAfterReconnection()
 {
-    const QByteArray label = m_session.labels().value(currentMonitorIndex.load());
-    if (!label.isEmpty() && std::exchange(m_shownMonitor, label) != label) {
+    const bool isThere = !m_session.labels().value(currentMonitorIndex.load()).isEmpty();
+    const QString identity = monitorIdentity(); // twins have one label
+    if (isThere && std::exchange(m_shownMonitor, identity) != identity) {
         deviceState.forgetSettings();
         readCommandOnce(readRow(Command::Capability));
         readCommandOnce(readRow(Command::Firmware));

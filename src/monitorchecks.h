@@ -2,8 +2,8 @@
 
 #include <optional>
 
-#include <QByteArray>
 #include <QObject>
+#include <QString>
 
 class CommandQueue;
 class InterfaceModes;
@@ -36,7 +36,7 @@ private:
     SearchDeviceDlg &m_session;
     CommandQueue &m_queue;
     const InterfaceModes &m_modes;
-    QByteArray m_shownMonitor;          ///< the label of the monitor that the pages' values belong to
+    QString m_shownMonitor;             ///< the identity of the monitor that the pages' values belong to
     std::optional<int> m_blockAskedFor; ///< the mode whose block was asked for last
     bool m_checkWaits = false;
 };
