@@ -112,6 +112,8 @@ void TestDeviceState::halvesAndModes_data()
     row("mode told 9,wish 40,taken 40,mode taken 10", "unknown 0, has ?", false);
     row("mode told 10,block 10,mode taken 12", "unknown 0, has ?", false);
     row("mode told 9,wish 40,mode taken 13", "unknown 0, has ?", false); // nor does a wish follow into the next mode
+    row("mode told 9,mode wish 10,told 50,mode taken 10", "unknown 0, has ?", false); // it was still in the other half
+    row("mode told 9,mode wish 10,block 10,wish 40,taken 40,mode taken 10", "known 7, has 7", true); // a key's
     row("mode told 9,mode wish 10,mode refused 10,wish 40,taken 40,mode told 9", "known 40, has 40", false);
 }
 

@@ -169,10 +169,27 @@ void TestTrayPanel::wheelIsPaced()
     QCOMPARE(int(m_desk->monitor().value(0x10)), before - 30);
     QVERIFY(writes("W 10") <= 12);
 
-    wheel(brightness, -120);
-    wheel(brightness, -60);                 // half a notch
-    m_window->scenePage()->chooseScene(13); // a direct command goes behind what waits
-    QCOMPARE(m_desk->takeCommands().filter("W "), (QStringList{QStringLiteral("W 10=%1").arg(before - 31), "W 22=13"}));
+    wheel(brightness, -60); // half a notch, and back
+    wheel(brightness, 60);
+    const auto leave = [&](auto change, const char *mode) {
+        m_desk->clock.advance(1s);
+        settle();
+        const int value = brightness->value();
+        wheel(brightness, -120);
+        settle();
+        m_desk->takeCommands();
+        wheel(brightness, -120);
+        change(m_window->scenePage()); // a direct command goes behind what waits
+        QCOMPARE(m_desk->takeCommands().filter("W "), (QStringList{QStringLiteral("W 10=%1").arg(value - 2), mode}));
+        QTRY_COMPARE(brightness->value(), int(m_desk->monitor().value(0x10))); // what waited was the other half's
+    };
+    leave([](pageSceneSetting *page) { page->switchHalf(true); }, "W 22=9");
+    m_window->scenePage()->switchHalf(false);
+    settle();
+    m_desk->clock.advance(1s);
+    settle();
+    QCOMPARE(brightness->mark(), Mark::None);
+    leave([](pageSceneSetting *page) { page->chooseScene(13); }, "W 22=13");
 }
 
 void TestTrayPanel::sceneGoesThePagesWay()

@@ -23,6 +23,7 @@ private Q_SLOTS:
     void refusedHalf();
     void keyDuringAHalfSwitch();
     void minusKeyIntoAnotherMode();
+    void factoryHalfIsNotTheUsers_data();
     void factoryHalfIsNotTheUsers();
     void heldSliderIsLeftAlone();
     void unknownSliderAtItsEndSends();
@@ -32,6 +33,7 @@ private Q_SLOTS:
     void noticed_data();
     void noticed();
     void trueAgainAfterAnAbsence();
+    void twinIsAnotherMonitor();
 };
 
 /// The planner alone: at second 100, what is done, and when it looks again.
@@ -121,12 +123,24 @@ void TestTruth::minusKeyIntoAnotherMode()
     QCOMPARE(lies(), QStringList());
 }
 
+void TestTruth::factoryHalfIsNotTheUsers_data()
+{
+    columns<bool>("byItself");
+    row("chosen here", false);
+    row("chosen by the monitor's own buttons", true);
+}
+
 /// The picture page shows the half that is on; what is set there does not enter the other half.
 void TestTruth::factoryHalfIsNotTheUsers()
 {
+    QFETCH(bool, byItself);
     start(10);
     const int users = m_desk->monitor().block(10).at(4);
-    QTest::mouseClick(half(false), Qt::LeftButton);
+    m_desk->clock.advance(5s);
+    if (byItself)
+        m_desk->monitor().setValue(0x22, 9);
+    else
+        QTest::mouseClick(half(false), Qt::LeftButton);
     m_desk->monitor().setValue(0x41, static_cast<std::uint16_t>((users + 1) % 6));
     openPage(5, "Picture Enhance");
     auto *picture = m_window->settingsPage(PageId::PictureEnhance);
@@ -280,6 +294,23 @@ void TestTruth::trueAgainAfterAnAbsence()
     QCOMPARE(status(), QStringLiteral("1. Q27-OLED connected"));
     QCOMPARE(lies(), QStringList());
     QCOMPARE(slider("Brightness")->value(), 13);
+}
+
+/// In the place of the one that was unplugged, under the same label: nothing that the other one told holds.
+void TestTruth::twinIsAnotherMonitor()
+{
+    start(10, 0, [this] {
+        m_desk->desk.setRegistryEdid(1, virtualdesk::buildEdid(m_desk->monitor(0).model()));
+        m_desk->session().searchDevices();
+    });
+    deviceState.told(Command::AudioVolume, 31);
+    m_window->hide(); // so that nothing is asked for
+    m_desk->desk.unplug(0);
+    m_window->systemNoticed(SystemNotice::DisplaysChanged);
+    m_desk->clock.advance(2s);
+    settle();
+    QCOMPARE(status(), QStringLiteral("1. Q27-OLED connected"));
+    QVERIFY(!deviceState.isKnown(Command::AudioVolume));
 }
 
 QTEST_MAIN(TestTruth)

@@ -118,9 +118,15 @@ void DeviceState::wish(Command command, int value)
 
 void DeviceState::taken(Command command, int value)
 {
-    change(command, [this, value](StateEntry &entry) {
+    change(command, [=, this](StateEntry &entry) {
+        const bool isPending = entry.state == ValueState::Pending;
+        if (isInSceneBlock(command) && m_storage->leavesItsMode()) {
+            entry.state = !isPending ? entry.state : entry.confirmed ? ValueState::Known : ValueState::Unknown;
+            entry.value = isPending ? entry.confirmed.value_or(entry.value) : entry.value;
+            return; // the half that is to be on keeps what it has
+        }
         m_storage->keepConfirmed(entry, value);
-        if (entry.state == ValueState::Pending && entry.value != value)
+        if (isPending && entry.value != value)
             return; // a newer wish follows
         entry.value = value;
         entry.state = ValueState::Known;
@@ -141,7 +147,10 @@ void DeviceState::refused(Command command, int value)
 
 void DeviceState::told(Command command, int value)
 {
-    change(command, [this, value](StateEntry &entry) { m_storage->keepTold(entry, value); });
+    change(command, [=, this](StateEntry &entry) {
+        if (!isInSceneBlock(command) || !m_storage->leavesItsMode())
+            m_storage->keepTold(entry, value);
+    });
 }
 
 void DeviceState::doubt(Command command)

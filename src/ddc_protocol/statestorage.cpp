@@ -78,6 +78,12 @@ int StateStorage::modeThatIsOn() const
     return scene.state == ValueState::Refused ? scene.confirmed.value_or(scene.value) : scene.value;
 }
 
+bool StateStorage::leavesItsMode() const
+{
+    const StateEntry &scene = sceneMode();
+    return scene.state == ValueState::Pending && scene.confirmed && scene.confirmed != scene.value;
+}
+
 const StateEntry &StateStorage::entry(Command command) const
 {
     const std::size_t place = isCustomHalf() ? blockPlaceOf(command) : kSceneBlockLayout.size();

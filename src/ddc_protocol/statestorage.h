@@ -38,6 +38,9 @@ public:
     int modeThatIsOn() const;
     bool isCustomHalf() const { return modeThatIsOn() % 2 == 0; }
     const StateEntry &sceneMode() const;
+    /// Another mode than the monitor's own is on its way to it: what it says meanwhile belongs to the mode that it
+    /// leaves.
+    bool leavesItsMode() const;
 
     /// After a change of the scene mode: another mode's block is not this one's, and another half's values are not this
     /// half's. Takes the mode that was on before.

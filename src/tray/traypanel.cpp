@@ -216,20 +216,10 @@ void TrayPanel::showHint(const QString &notice)
 
 void TrayPanel::followValue(Command command)
 {
-    if (command == Command::SceneMode) {
-        updateInterfaceData();
-        return reconcile(); // another half has come into sight
-    }
+    if (command == Command::SceneMode)
+        return updateInterfaceData();
     if (const auto row = m_rows.find(command); row != m_rows.end())
         showTwoOptions(row->second);
-}
-
-/// The mode comes first: which half the other answers belong to follows from it.
-void TrayPanel::reconcile()
-{
-    if (isVisible() && !deviceState.isFresh(Command::SceneMode))
-        queue().ask(Command::SceneMode);
-    SettingsPage::reconcile();
 }
 
 /// Arrows open the list of modes: a held key must not send the monitor through all of them.

@@ -38,7 +38,6 @@ public:
 
     void updateInterfaceData() override;
     void updateControlText() override;
-    void reconcile() override;
 
     /// Puts a control into a place of the user's choice, 0 or 1; where the other place has it, they are exchanged.
     void choose(std::size_t place, Command command);

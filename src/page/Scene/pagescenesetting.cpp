@@ -153,8 +153,10 @@ void pageSceneSetting::switchHalf(bool defaultView)
     const int wanted = defaultView == isOdd ? value : defaultView ? value - 1 : value + 1;
     const bool changed = wanted != deviceState.lastSceneModeSent;
     const bool blockValid = deviceState.sceneBlockValid();
-    if (changed)
+    if (changed) {
+        queue().drain(); // a drag's last value belongs to the half that is left
         deviceState.wish(Command::SceneMode, wanted);
+    }
     showHalf(defaultView);
     if (blockValid) {
         if (changed)
@@ -163,12 +165,10 @@ void pageSceneSetting::switchHalf(bool defaultView)
         return;
     }
     Q_EMIT modeChangeBegins();
-    if (changed) {
-        queue().drain();
+    if (changed)
         m_worker->begin(wanted);
-    } else {
+    else
         Q_EMIT modeChangeEnded();
-    }
 }
 
 /// The snapshot knows what became of the mode: keys, rules and a reconnection may have changed it meanwhile.
@@ -227,8 +227,7 @@ void pageSceneSetting::followValue(Command command)
     if (command == Command::SceneMode) {
         if (!deviceState.isKnown(Command::SceneMode))
             showResult(true);
-        updateInterfaceData();
-        return reconcile(); // another half may have come into sight
+        return updateInterfaceData(); // another half may have come into sight
     }
     const bool isColour = command == Command::ColorTemperature || command == Command::User1Red;
     if (showsValues() && isColour && deviceState.isKnown(Command::ColorTemperature))
@@ -250,6 +249,8 @@ void pageSceneSetting::updateControlText()
 void pageSceneSetting::reconcile()
 {
     const int mode = deviceState.value(Command::SceneMode);
+    if (isVisible() && !deviceState.isFresh(Command::SceneMode))
+        queue().ask(Command::SceneMode);
     const bool isOn =
         mode % 2 == 0 && deviceState.isKnown(Command::SceneMode) && deviceState.confirmed(Command::SceneMode) == mode;
     if (isVisible() && !m_defaultView && isOn && !deviceState.isSceneBlockFresh())

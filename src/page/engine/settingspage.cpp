@@ -2,6 +2,7 @@
 #include "ddc_protocol/commandtable.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QPushButton>
 
@@ -142,22 +143,44 @@ std::optional<Command> SettingsPage::commandOf(const Slider &entry)
 void SettingsPage::showEvent(QShowEvent *event)
 {
     QLabel::showEvent(event);
+    m_shownMode = confirmedMode();
     updateInterfaceData(); // another page may have changed what this one shows
     reconcile();
 }
 
+/// The mode comes first where a value is one of a mode's: which half the answer belongs to follows from it.
 void SettingsPage::reconcile()
 {
     if (!m_asksWhenShown || !isVisible())
         return;
-    const auto ask = [this](const QWidget *control, std::optional<Command> command) {
+    std::vector<Command> commands;
+    const auto add = [this, &commands](const QWidget *control, std::optional<Command> command) {
         if (command && control->isVisibleTo(this) && !deviceState.isFresh(*command))
-            m_queue.ask(*command);
+            commands.push_back(*command);
     };
     for (const OptionGroupRow *row : m_groups)
-        ask(row, row->group().command);
+        add(row, row->group().command);
     for (const Slider &entry : m_sliderEntries)
-        ask(entry.widget, commandOf(entry));
+        add(entry.widget, commandOf(entry));
+    if (!deviceState.isFresh(Command::SceneMode) && std::any_of(commands.begin(), commands.end(), isInSceneBlock))
+        commands.insert(commands.begin(), Command::SceneMode);
+    m_queue.askAll(commands, {});
+}
+
+SettingsPage::Mode SettingsPage::confirmedMode()
+{
+    return {deviceState.value(Command::SceneMode), deviceState.confirmed(Command::SceneMode)};
+}
+
+/// Another mode or half has values of its own.
+void SettingsPage::followMode()
+{
+    const Mode mode = confirmedMode();
+    if (deviceState.state(Command::SceneMode) == ValueState::Pending || std::exchange(m_shownMode, mode) == mode)
+        return;
+    if (showsValues())
+        SettingsPage::updateInterfaceData();
+    reconcile();
 }
 
 /// Several controls may stand for one command, also on pages that are not in sight: those are filled when shown.
@@ -171,6 +194,8 @@ void SettingsPage::onValueChanged(Command command)
         fill(command);
     applyLocks();
     followValue(command);
+    if (command == Command::SceneMode)
+        followMode();
 }
 
 void SettingsPage::fill(Command command)

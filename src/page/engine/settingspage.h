@@ -151,6 +151,10 @@ private:
         int value;
     };
 
+    using Mode = std::pair<int, std::optional<int>>; ///< shown, and what the monitor has
+
+    static Mode confirmedMode();
+    void followMode();
     std::optional<Choice> choiceOf(const QString &objectName) const;
     void addOptions(const OptionGroup &group, QVBoxLayout *column);
     void addSliders(const SliderGrid &grid, QVBoxLayout *column);
@@ -171,6 +175,7 @@ private:
     BoundTexts m_texts;
     bool m_updating = false;
     bool m_asksWhenShown = false;
+    Mode m_shownMode;
     std::span<const LockRule> m_locks;
     UndoBar *m_undoBar = nullptr;
     bool m_paced = false;
