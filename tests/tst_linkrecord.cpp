@@ -6,6 +6,7 @@
 #include "ddc_protocol/linkrecords.h"
 #include "ddc_protocol/sceneblock.h"
 #include "support/deskfixture.h"
+#include "support/fulldisk.h"
 #include "virtualdesk/deskscript.h"
 
 using namespace std::chrono_literals;
@@ -104,6 +105,7 @@ private Q_SLOTS:
     void errorsInWords();
     void twinsStayTwo();
     void recordingReplays();
+    void recordingsAreWhole();
     void departuresAreTold();
 
 private:
@@ -258,6 +260,26 @@ void TestLinkRecord::recordingReplays()
         QCOMPARE(m_desk->monitor(i).replayed()->departures(), QStringList());
         QCOMPARE(m_desk->monitor(i).replayed()->left(), 0);
     }
+}
+
+/// On a full disk, and with another one in the same second.
+void TestLinkRecord::recordingsAreWhole()
+{
+    findDevices();
+    linkRecorder.start();
+    const QString first = linkRecorder.fileName();
+    {
+        const FullDisk full(1000);
+        for (int i = 0; i < 9; ++i)
+            readCommandOnce(readRow(Command::Brightness));
+    }
+    QVERIFY(!linkRecorder.isRecording() && !linkRecorder.error().isEmpty());
+    const QByteArray recorded = readText(first);
+    QVERIFY(recorded.endsWith('\n') && recorded.count('\n') == linkRecorder.requests());
+    linkRecorder.start();
+    readCommandOnce(readRow(Command::Brightness));
+    linkRecorder.stop();
+    QVERIFY(readText(first) == recorded && readText(linkRecorder.fileName()).count('\n') == 2);
 }
 
 /// By a desk's script, as a user's report becomes a test.

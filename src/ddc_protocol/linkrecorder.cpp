@@ -1,5 +1,6 @@
 #include "ddc_protocol/linkrecorder.h"
 
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -8,6 +9,8 @@
 #include "platform/desk.h"
 
 LinkRecorder linkRecorder;
+
+static constexpr char kSuffix[] = ".jsonl";
 
 QByteArray recordedLine(const MonitorIdentity &monitor, const LinkRequest &request, qint64 milliseconds)
 {
@@ -34,7 +37,10 @@ bool LinkRecorder::start()
     m_requests = 0;
     m_size = 0;
     m_error.clear();
-    m_name = QStringLiteral("recording-%1.jsonl").arg(m_begun.toString(QStringLiteral("yyyyMMdd-hhmmss")));
+    const QString name = QStringLiteral("recording-") + m_begun.toString(QStringLiteral("yyyyMMdd-hhmmss"));
+    m_name = name + QLatin1String(kSuffix);
+    for (int number = 2; QFileInfo::exists(m_name); ++number) // another one of the same second
+        m_name = QStringLiteral("%1-%2%3").arg(name).arg(number).arg(QLatin1String(kSuffix));
     m_isRecording = openToAppend(m_file, m_name);
     if (!m_isRecording)
         m_error = fileError();
@@ -89,8 +95,11 @@ void LinkRecorder::note(const MonitorIdentity &monitor, const LinkRequest &reque
     m_size += line.size();
     if (m_size > kLargest)
         return fail(QObject::tr("The file has become too large."));
-    if (platform::desk().files().write(m_file, line))
+    if (platform::desk().files().write(m_file, line)) {
         ++m_requests;
-    else
-        fail(fileError());
+        return;
+    }
+    const QString error = fileError();
+    m_file.resize(m_size - line.size()); // half a line would spoil the recording
+    fail(error);
 }

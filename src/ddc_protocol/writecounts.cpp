@@ -1,5 +1,7 @@
 #include "ddc_protocol/writecounts.h"
 
+#include <utility>
+
 #include <QStringList>
 #include <QUrl>
 
@@ -33,11 +35,12 @@ void WriteCounts::note(const QString &monitor, int code)
 template <typename IsMeant> WriteCount WriteCounts::sum(const IsMeant &isMeant) const
 {
     const std::lock_guard file(m_file);
-    const Table stored = read();
+    if (!m_stored)
+        m_stored = read();
     const std::lock_guard lock(m_mutex);
     const QDate now = today();
     WriteCount count;
-    for (const Table *table : {&stored, &m_new}) {
+    for (const Table *table : {&std::as_const(*m_stored), &m_new}) {
         for (const auto &[key, days] : *table) {
             if (!isMeant(key))
                 continue;
@@ -72,8 +75,10 @@ void WriteCounts::store()
         return;
     Table counts = read();
     add(counts, fresh);
-    if (write(std::move(counts)))
+    if (write(counts)) {
+        m_stored = std::move(counts);
         return;
+    }
     const std::lock_guard lock(m_mutex);
     const bool isFirst = m_new.empty();
     add(m_new, fresh);
@@ -97,6 +102,8 @@ void WriteCounts::setObserver(std::function<void()> observer)
 
 void WriteCounts::clear()
 {
+    const std::lock_guard file(m_file);
+    m_stored.reset();
     const std::lock_guard lock(m_mutex);
     m_new.clear();
 }
@@ -114,18 +121,18 @@ WriteCounts::Table WriteCounts::read()
             const QDate date = QDate::fromString(day, Qt::ISODate);
             const qint64 writes = part.section(QLatin1Char(':'), 1).toLongLong();
             const bool isCount = writes > 0 && writes <= kMostWrites;
-            if (isCode && isCount && (date.isValid() || day == kFarBack))
+            if (isCode && code >= 0 && code <= kAutomatic && isCount && (date.isValid() || day == kFarBack))
                 counts[{monitor, code}][date] += writes;
         }
     }
     return counts;
 }
 
-bool WriteCounts::write(Table counts)
+bool WriteCounts::write(const Table &counts)
 {
     const QDate oldest = today().addDays(-kDaysKept);
     QList<QPair<QString, QString>> lines;
-    for (auto &[key, days] : counts) {
+    for (const auto &[key, days] : counts) {
         QStringList parts;
         qint64 before = 0;
         for (const auto &[day, writes] : days) {

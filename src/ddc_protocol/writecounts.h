@@ -3,6 +3,7 @@
 #include <functional>
 #include <map>
 #include <mutex>
+#include <optional>
 
 #include <QDate>
 #include <QString>
@@ -39,7 +40,7 @@ public:
     /// nobody.
     void setObserver(std::function<void()> observer);
 
-    /// Forgets what was not stored.
+    /// Forgets what was not stored, and what the file held.
     void clear();
 
 private:
@@ -49,12 +50,13 @@ private:
 
     static void add(Table &counts, const Table &more);
     static Table read();
-    static bool write(Table counts);
+    static bool write(const Table &counts);
     template <typename IsMeant> WriteCount sum(const IsMeant &isMeant) const;
 
-    mutable std::mutex m_file;  // taken first; the transport never waits for the disk
-    mutable std::mutex m_mutex; // guards what follows
-    Table m_new;                ///< and not stored yet
+    mutable std::mutex m_file;             // taken first; the transport never waits for the disk
+    mutable std::optional<Table> m_stored; ///< what the file held when it was read or written last; under m_file
+    mutable std::mutex m_mutex;            // guards what follows
+    Table m_new;                           ///< and not stored yet
     std::function<void()> m_observer;
 };
 
