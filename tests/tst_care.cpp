@@ -1,4 +1,4 @@
-#include <thread>
+#include <future>
 
 #include <QPushButton>
 #include <QtTest>
@@ -164,19 +164,16 @@ void TestCare::undoOfRiskyChanges()
     QCOMPARE(change(), offered);
     if (!offered)
         return;
-    QSemaphore held;
-    QSemaphore looked;
-    bool wasFree = false;
-    std::thread worker([&] {
+    std::promise<void> held, looked;
+    auto isFree = std::async(std::launch::async, [&] {
         const auto lock = lockTransport(); // a slow read
-        held.release();
-        wasFree = looked.tryAcquire(1, 5000);
+        held.set_value();
+        return looked.get_future().wait_for(5s) == std::future_status::ready;
     });
-    held.acquire();
+    held.get_future().wait();
     m_desk->clock.advance(14s);
-    looked.release();
-    worker.join();
-    QVERIFY(wasFree); // the window did not wait for it
+    looked.set_value();
+    QVERIFY(isFree.get()); // the window did not wait for it
     QTest::keyClick(bar->button(), Qt::Key_Space);
     QCOMPARE(m_desk->takeCommands(), QStringList{QStringLiteral("W %1=%2").arg(command, 0, 16).arg(before)});
     QVERIFY(bar->isHidden() && deviceState.confirmed(Command(command)) == before);

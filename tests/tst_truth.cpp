@@ -23,7 +23,6 @@ private Q_SLOTS:
     void refusedHalf();
     void keyDuringAHalfSwitch();
     void minusKeyIntoAnotherMode();
-    void factoryHalfIsNotTheUsers_data();
     void factoryHalfIsNotTheUsers();
     void heldSliderIsLeftAlone();
     void unknownSliderAtItsEndSends();
@@ -123,24 +122,12 @@ void TestTruth::minusKeyIntoAnotherMode()
     QCOMPARE(lies(), QStringList());
 }
 
-void TestTruth::factoryHalfIsNotTheUsers_data()
-{
-    columns<bool>("byItself");
-    row("chosen here", false);
-    row("chosen by the monitor's own buttons", true);
-}
-
 /// The picture page shows the half that is on; what is set there does not enter the other half.
 void TestTruth::factoryHalfIsNotTheUsers()
 {
-    QFETCH(bool, byItself);
     start(10);
     const int users = m_desk->monitor().block(10).at(4);
-    m_desk->clock.advance(5s);
-    if (byItself)
-        m_desk->monitor().setValue(0x22, 9);
-    else
-        QTest::mouseClick(half(false), Qt::LeftButton);
+    QTest::mouseClick(half(false), Qt::LeftButton);
     m_desk->monitor().setValue(0x41, static_cast<std::uint16_t>((users + 1) % 6));
     openPage(5, "Picture Enhance");
     auto *picture = m_window->settingsPage(PageId::PictureEnhance);
@@ -152,6 +139,12 @@ void TestTruth::factoryHalfIsNotTheUsers()
     settle();
     QCOMPARE(slider("CR Enhance")->value(), users);
     QCOMPARE(lies(), QStringList());
+    m_desk->clock.advance(5s);
+    m_desk->monitor().setValue(0x22, 9); // by its own buttons
+    openPage(5, "Picture Enhance");
+    settle();
+    QCOMPARE(lies(), QStringList());
+    QCOMPARE(deviceState.value(Command::SceneMode), 9);
 }
 
 void TestTruth::heldSliderIsLeftAlone()
