@@ -93,6 +93,14 @@ LinkRequest request(char kind, std::uint8_t code, bool ok, int second)
     return made;
 }
 
+/// A desk's script whose monitor answers as a recording's.
+auto script(const QByteArray &recording, int monitor, QString &error)
+{
+    writeText("r.jsonl", recording);
+    const QString text = R"({"monitors": [{"model": "Q27-OLED", "replay": "r.jsonl", "replay_monitor": %1}]})";
+    return virtualdesk::parseDeskScript(text.arg(monitor).toUtf8(), error);
+}
+
 } // namespace
 
 /// What is kept of the link to each monitor.
@@ -106,6 +114,7 @@ private Q_SLOTS:
     void twinsStayTwo();
     void recordingReplays();
     void recordingsAreWhole();
+    void recordingOfWindowsReplays();
     void departuresAreTold();
 
 private:
@@ -281,6 +290,34 @@ void TestLinkRecord::recordingsAreWhole()
     QVERIFY(readText(first) == recorded && readText(linkRecorder.fileName()).isEmpty());
 }
 
+/// What the Windows program recorded of a monitor: the desk answers as the monitor's own log tells, byte for byte, also
+/// after an editor or a mail has changed the line ends. QUORVEL_RECORDING names another folder than the one kept here.
+void TestLinkRecord::recordingOfWindowsReplays()
+{
+    const QString folder = qEnvironmentVariable("QUORVEL_RECORDING", QFINDTESTDATA("windows/recorded"));
+    const QByteArray recording = readText(folder + "/recording.jsonl");
+    const QByteArray log = readText(folder + "/bytes.txt");
+    QVERIFY(log.contains("\nR ") && log.contains("\nW ") && log.contains(" 0 0 0\n"));
+    for (const QByteArray &text : {recording, "\xEF\xBB\xBF" + QByteArray(recording).replace('\n', "\r\n")}) {
+        QString error;
+        const auto setup = script(text, 0, error);
+        QVERIFY2(setup, qPrintable(error));
+        virtualdesk::SimulatedMonitor &monitor = m_desk->monitor();
+        monitor.replay(*setup->monitors[0].replay);
+        QByteArray told;
+        for (const QByteArray &line : log.chopped(1).split('\n')) {
+            const QByteArrayList words = line.split(' ');
+            const auto code = static_cast<std::uint8_t>(words[1].toInt(nullptr, 16));
+            const auto reply = words[0] == "R" ? monitor.read(code) : monitor.write(code, words[2].toUInt());
+            told += words.mid(0, 3).join(' ') + (reply.ok() ? " 1 " : " 0 ") + QByteArray::number(reply.current) + ' ' +
+                    QByteArray::number(reply.maximum) + '\n';
+        }
+        QCOMPARE(told, log);
+        QCOMPARE(monitor.replayed()->departures(), QStringList());
+        QCOMPARE(monitor.replayed()->left(), 0);
+    }
+}
+
 /// By a desk's script, as a user's report becomes a test.
 void TestLinkRecord::departuresAreTold()
 {
@@ -290,11 +327,6 @@ void TestLinkRecord::departuresAreTold()
         made.reply.current = static_cast<std::uint32_t>(current);
         made.reply.maximum = 100;
         return recordedLine({"Q27-OLED", "1", "UID1"}, made, 0);
-    };
-    const auto script = [](const QByteArray &recording, int monitor, QString &error) {
-        writeText("r.jsonl", recording);
-        const QString text = R"({"monitors": [{"model": "Q27-OLED", "replay": "r.jsonl", "replay_monitor": %1}]})";
-        return virtualdesk::parseDeskScript(text.arg(monitor).toUtf8(), error);
     };
     const QByteArray recording =
         line(0x99, 0) + line(0x10, 40) + line(0x99, 0) + line(0x12, 50) + line(0x99, 5, 'W') + line(0x10, 5, 'W');
@@ -317,7 +349,9 @@ void TestLinkRecord::departuresAreTold()
                           "R 99 was asked behind the end of the recording",
                           "R 10 was asked behind the end of the recording"}));
 
-    QVERIFY(!script(recording + "{\"op\": 3}\n", 0, error) && error.contains("line 7 is no recorded request"));
+    for (const QByteArray &damaged : {QByteArray("{\"op\": 3}\n"), line(0x10, 40).replace("current", "currmnt"),
+                                      line(0x10, 40).replace(":40", ":-4")})
+        QVERIFY(!script(recording + damaged, 0, error) && error.contains("line 7 is no recorded request"));
     QVERIFY(!script(recording, 1, error) && error.contains("has 1 monitors"));
 }
 

@@ -1,6 +1,7 @@
 #include "virtualdesk/replay.h"
 
 #include <algorithm>
+#include <limits>
 
 #include <QDebug>
 #include <QJsonDocument>
@@ -27,9 +28,13 @@ QString describe(const Request &request)
                                              : QStringLiteral("W %1=%2").arg(code).arg(request.value);
 }
 
-std::uint32_t numberOf(const QJsonObject &line, const char *key)
+/// Nothing for what is no number that fits on the wire.
+std::optional<std::uint32_t> numberOf(const QJsonObject &line, const char *key)
 {
-    return static_cast<std::uint32_t>(line.value(QLatin1String(key)).toDouble());
+    const qint64 number = line.value(QLatin1String(key)).toInteger(-1);
+    return number >= 0 && number <= std::numeric_limits<std::uint32_t>::max()
+               ? std::optional(static_cast<std::uint32_t>(number))
+               : std::nullopt;
 }
 
 std::optional<Replay::Line> parseLine(const QJsonObject &object, int number)
@@ -38,15 +43,19 @@ std::optional<Replay::Line> parseLine(const QJsonObject &object, int number)
     const int code = object.value(QLatin1String("code")).toInt(-1);
     const bool isRead = kind == QLatin1String("R");
     const bool isKnown = isRead || kind == QLatin1String("W");
-    if (!isKnown || code < 0 || code > kLargestCode || !object.value(QLatin1String("answered")).isBool())
+    const QJsonValue answered = object.value(QLatin1String("answered"));
+    const auto value = numberOf(object, isRead ? "current" : "value");
+    const auto maximum = numberOf(object, "maximum");
+    const bool isTold = isRead ? !answered.toBool() || (value && maximum) : value.has_value();
+    if (!isKnown || code < 0 || code > kLargestCode || !answered.isBool() || !isTold)
         return {};
     Replay::Line line;
     line.number = number;
     line.request.kind = isRead ? RequestKind::Read : RequestKind::Write;
     line.request.code = static_cast<std::uint8_t>(code);
-    line.request.value = numberOf(object, isRead ? "current" : "value");
-    line.request.maximum = numberOf(object, "maximum");
-    line.answered = object.value(QLatin1String("answered")).toBool();
+    line.request.value = value.value_or(0);
+    line.request.maximum = maximum.value_or(0);
+    line.answered = answered.toBool();
     return line;
 }
 

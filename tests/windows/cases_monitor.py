@@ -1,12 +1,18 @@
 """What reaches the monitor, and what the program makes of one that is silent, nameless or new."""
 
+import subprocess
 import time
 
-from casekit import LEFT_BAR_X, codes_of, end_at_exit_box, entry_y, started, writes_of
+from casekit import (BASIC_TAB_X, LEFT_BAR_X, PAGE_LIST_X, PAGE_LIST_Y, TOP_BAR_Y, codes_of, end_at_exit_box, entry_y,
+                     started, writes_of)
 from rig import START_SECONDS, edid, time_of, wait_for
 
 STANDARD = (1, 2)
 CAD_CAM = (3, 4)
+HEALTH_PAGE = ((BASIC_TAB_X, TOP_BAR_Y), (LEFT_BAR_X, entry_y(4)), (PAGE_LIST_X, PAGE_LIST_Y + 48 * 2))
+READ_BUTTON, RECORD_BUTTON = (608, 674), (890, 674)
+SCENE_TAB = (267, TOP_BAR_Y)
+BRIGHTNESS_40, BRIGHTNESS_80 = (527, 216), (604, 216)
 
 
 def colours_of(run, window):
@@ -145,3 +151,28 @@ def case_system_notices(rig):
             time.sleep(1.5)
             assert not writes_of(run.requests()[begin:]), asked
             assert len(run.logged("Reconnet device...")) == found + searches, notice
+
+
+def case_recording(rig):
+    """What the program records while it is used, with values that are not told and writes that are not taken, another
+    machine's simulated desk answers as the monitor itself wrote it down, byte for byte."""
+    with started(rig, "recording") as run:
+        window = run.start_and_show()
+
+        def press(*places):
+            for place in places:
+                run.click(window, *place)
+            return run.settled()
+        begin = press(*HEALTH_PAGE)
+        press(RECORD_BUTTON)
+        for refused, place in ((("R 12", "R FE"), READ_BUTTON), ((), SCENE_TAB), (("W 10",), BRIGHTNESS_40),
+                               ((), BRIGHTNESS_80), ((), (LEFT_BAR_X, entry_y(0)))):
+            run.refuse(*refused)
+            press(place)
+        end = press(*HEALTH_PAGE)
+        assert press(RECORD_BUTTON, READ_BUTTON) > end  # what is not recorded any more
+        next(run.folder.glob("recording-*.jsonl")).rename(run.folder / "recording.jsonl")
+        (run.folder / "bytes.txt").write_text("".join(line + "\n" for line in run.bytes_told()[begin:end]))
+        replayed = subprocess.run([rig.suites / "tst_linkrecord", "recordingOfWindowsReplays"], text=True,
+                                  env=rig.environment | {"QUORVEL_RECORDING": str(run.folder)}, capture_output=True)
+        assert replayed.returncode == 0, replayed.stdout

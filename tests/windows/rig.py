@@ -52,8 +52,9 @@ def edid(name):
 class Rig:
     """The display, the window manager and the Wine prefix that all cases share."""
 
-    def __init__(self, program, standins, work):
+    def __init__(self, program, standins, work, suites):
         self.work = pathlib.Path(work).resolve()
+        self.suites = pathlib.Path(suites).resolve()
         self.standins = pathlib.Path(standins).resolve()
         self.program = self.work / "program"
         shutil.rmtree(self.program, ignore_errors=True)
@@ -223,6 +224,17 @@ class Run:
     def set_by_hand(self, registers):
         """Somebody presses the monitor's own buttons."""
         put(self.monitor / "buttons.txt", "".join(f"{code:02x} {value}\n" for code, value in registers.items()))
+
+    def bytes_told(self):
+        """The same with all that was told, as the monitor itself writes it down."""
+        return self._written("bytes.txt")
+
+    def settled(self):
+        """Waits until the program has asked nothing for a while; returns how many requests there were."""
+        asked = None
+        while asked != (asked := len(self.requests())):
+            time.sleep(1.5)
+        return asked
 
     def session_registrations(self):
         return self._written("sessions.txt")

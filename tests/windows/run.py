@@ -38,10 +38,11 @@ def main():
     parser.add_argument("--program", required=True, help="folder of quorvel.exe and its libraries")
     parser.add_argument("--standins", required=True, help="folder of the stand-in libraries and programs")
     parser.add_argument("--work", required=True, help="where the Wine prefix and the cases' folders are made")
+    parser.add_argument("--suites", required=True, help="folder of the test suites of this machine")
     parser.add_argument("names", nargs="*", help="cases to run, all when none is named")
     arguments = parser.parse_args()
     chosen = [case for case in CASES if not arguments.names or case.__name__[5:] in arguments.names]
-    with Rig(arguments.program, arguments.standins, arguments.work) as rig:
+    with Rig(arguments.program, arguments.standins, arguments.work, arguments.suites) as rig:
         passed = sum(run_case(rig, case) for case in chosen)
     print(f"{passed} passed, {len(chosen) - passed} failed")
     return 0 if chosen and passed == len(chosen) else 1

@@ -51,7 +51,7 @@ std::optional<Monitor::Reply> Monitor::read(std::uint8_t code)
     std::optional<Reply> reply;
     if (!refuses(request))
         reply = answer(code);
-    record(request + (reply ? " -> " + std::to_string(reply->current) : " refused"));
+    record(request + (reply ? " -> " + std::to_string(reply->current) : " refused"), request, 0, reply);
     return reply;
 }
 
@@ -65,7 +65,8 @@ bool Monitor::write(std::uint8_t code, std::uint16_t value)
         m_registers[code] = value;
     m_step = taken && code == kVendorCode ? Step::AnnouncedWrite : Step::Idle;
     m_announcedValue = value;
-    record(request + " " + std::to_string(value) + (taken ? "" : " refused"));
+    record(request + " " + std::to_string(value) + (taken ? "" : " refused"), request, value,
+           taken ? std::optional(Reply()) : std::nullopt);
     return taken;
 }
 
@@ -115,9 +116,12 @@ bool Monitor::refuses(const std::string &request) const
     return false;
 }
 
-void Monitor::record(const std::string &line) const
+void Monitor::record(const std::string &line, const std::string &request, int value, std::optional<Reply> reply) const
 {
     append("requests.txt", line);
+    const Reply told = reply.value_or(Reply());
+    append("bytes.txt", request + ' ' + std::to_string(value) + (reply ? " 1 " : " 0 ") + std::to_string(told.current) +
+                            ' ' + std::to_string(told.maximum));
     const auto now = std::chrono::system_clock::now().time_since_epoch();
     append("times.txt", std::to_string(std::chrono::duration_cast<std::chrono::milliseconds>(now).count()));
 }

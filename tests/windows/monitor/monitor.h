@@ -13,6 +13,7 @@
 ///   block.txt      40 numbers, read once: the scene-mode block
 ///   refuse.txt     "R <code>" or "W <code>" lines, read at every request: what is not answered now
 ///   requests.txt   written: "W 99 9", "R 22 -> 10", "R 22 refused"
+///   bytes.txt      written: the same in full, "R 22 0 1 10 100": what was written, whether it went well, both answers
 ///   handles.txt    written: "opened 0", "closed 0"
 ///   times.txt      written: when each of them came, in milliseconds
 /// Codes are hexadecimal, values decimal.
@@ -44,7 +45,7 @@ private:
     std::optional<Reply> answer(std::uint8_t code);
     Reply chunk() const;
     bool refuses(const std::string &request) const;
-    void record(const std::string &line) const;
+    void record(const std::string &line, const std::string &request, int value, std::optional<Reply> reply) const;
     void append(const char *file, const std::string &line) const;
 
     std::filesystem::path m_folder;
