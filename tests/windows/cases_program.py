@@ -3,11 +3,12 @@
 import shutil
 import time
 
-from casekit import PAGE_LIST_X, PAGE_LIST_Y, REGISTERS, TOP_BAR_Y, open_basic_page, started, writes_of
+from casekit import BLOCK, PAGE_LIST_X, PAGE_LIST_Y, REGISTERS, TOP_BAR_Y, open_basic_page, started, writes_of
 from rig import START_SECONDS, wait_for, windows_path
 
 EXIT_REFUSED = 255  # -1, as the shell sees it
 CLOSE_BUTTON_X = 1243
+PANEL_NOTHING, PANEL_BRIGHTNESS = (150, 30), (219, 204)
 SERVICE_SETTINGS = 3
 TOOL_SETTINGS = 4
 RUN_ON_STARTUP = {"Yes": (710, 189), "No": (796, 189)}
@@ -38,15 +39,39 @@ def expect_refusal(run):
     assert second.wait(15) == EXIT_REFUSED, second.returncode
 
 
-def case_closed_window(rig):
-    """Closing the window only hides it: the program lives on and still searches for a monitor that arrives."""
-    with started(rig, "closed_window") as run:
-        window = run.start_and_show()
-        run.click(window, CLOSE_BUTTON_X, TOP_BAR_Y)
-        wait_for(lambda: not run.window(at_least=800), "the window to hide")
+def press_icon(rig, times=1):
+    """Presses the program's icon in the tray, which is a small window of Wine's here."""
+    tray = wait_for(lambda: rig.windows("Wine System Tray"), "the tray")[0]
+    rig.run(["xdotool", "mousemove", "--window", tray, "10", "10", "sleep", "0.3",
+             "click", "--repeat", str(times), "--delay", "150", "1"])
+
+
+def case_tray_panel(rig):
+    """Closing the window only hides it: a monitor that arrives is still searched for. A press on the tray's icon opens
+    the panel, wholly on the screen; fifty notches of the wheel in a second end with the last value in at most twelve
+    writes; Escape closes it, and a double press shows the window."""
+    with started(rig, "tray_panel", registers=REGISTERS | {0x10: BLOCK[0]}) as run:
+        run.click(run.start_and_show(), CLOSE_BUTTON_X, TOP_BAR_Y)
+        wait_for(lambda: not run.window(), "the window to hide")
         run.announce("monitor")
-        wait_for(lambda: run.logged("delayedSearchDevices: Reloader EDID Type:"), "the search")
-        assert run.processes[0].poll() is None
+        wait_for(lambda: run.logged("Reconnet device..."), "the reconnection")
+        press_icon(rig)
+        panel = x, y, width, height = wait_for(run.window, "the panel")
+        assert width == 360 and x >= 0 and y >= 0 and x + width <= 1600 and y + height <= 1000, panel
+        begin = run.settled()
+        run.click(panel, *PANEL_NOTHING)  # Wine's tray, a window itself, has the keyboard
+        rig.run(["xdotool", "mousemove", str(x + PANEL_BRIGHTNESS[0]), str(y + PANEL_BRIGHTNESS[1])])
+        wheel = time.monotonic()
+        rig.run(["xdotool", "click", "--repeat", "50", "--delay", "20", "5"])
+        wheel = time.monotonic() - wheel
+        run.settled()
+        steps = [write for write in writes_of(run.requests()[begin:]) if write.startswith("W 10")]
+        print(f"{len(steps)} writes for 50 notches in {wheel:.2f} s")
+        assert steps[-1] == f"W 10 {BLOCK[0] - 50}" and len(steps) <= 2 + wheel / 0.12, steps
+        run.press("Escape")
+        wait_for(lambda: not run.window(), "the panel to close")
+        press_icon(rig, 2)
+        wait_for(lambda: run.window(at_least=800), "the window")
 
 
 def case_log_off(rig):
