@@ -187,7 +187,13 @@ void TestToolPages::healthIsBuiltWhenShown()
     m_desk->monitor().refuse(0x10);
     QCOMPARE(refreshed(), 1u);
     QVERIFY(before == "100 %" && text("healthValue") != before);
+    const auto time = [this] { return toolPage().findChild<QFrame *>("healthError")->findChild<QLabel *>()->text(); };
+    const QString first = time();
+    m_desk->clock.advance(2s);
+    m_desk->monitor().refuse(0x10);
+    refreshed();
     QCOMPARE(toolPage().findChildren<QFrame *>("healthError").size(), 1);
+    QVERIFY(time() > first); // the newest comes first, so its last time is told
     toolPage().showPanel(0);
     QCOMPARE(refreshed(), 0u);
 }

@@ -96,6 +96,10 @@
         <translation>%1 · protocol faults: %2 · open handles: %3</translation>
     </message>
     <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
         <source>%1, chunk %2 of %3</source>
         <translation>%1, chunk %2 of %3</translation>
     </message>

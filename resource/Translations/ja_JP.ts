@@ -96,6 +96,10 @@
         <translation>%1 · プロトコルエラー: %2 · 開いているハンドル: %3</translation>
     </message>
     <message>
+        <source>%1, %2</source>
+        <translation>%1、%2</translation>
+    </message>
+    <message>
         <source>%1, chunk %2 of %3</source>
         <translation>%1、チャンク %2 / %3</translation>
     </message>

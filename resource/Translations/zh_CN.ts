@@ -96,6 +96,10 @@
         <translation>%1 · 协议错误：%2 · 打开的句柄：%3</translation>
     </message>
     <message>
+        <source>%1, %2</source>
+        <translation>%1、%2</translation>
+    </message>
+    <message>
         <source>%1, chunk %2 of %3</source>
         <translation>%1，第 %2 块，共 %3 块</translation>
     </message>

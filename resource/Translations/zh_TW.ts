@@ -96,6 +96,10 @@
         <translation>%1 · 通訊協定錯誤：%2 · 開啟的控制代碼：%3</translation>
     </message>
     <message>
+        <source>%1, %2</source>
+        <translation>%1、%2</translation>
+    </message>
+    <message>
         <source>%1, chunk %2 of %3</source>
         <translation>%1，第 %2 塊，共 %3 塊</translation>
     </message>

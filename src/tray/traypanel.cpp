@@ -21,6 +21,7 @@
 #include "ddc_protocol/settingsstore.h"
 #include "navigation.h"
 #include "page/engine/halfbutton.h"
+#include "page/engine/listed.h"
 #include "page/engine/optiongrouprow.h"
 #include "page/engine/storenotice.h"
 
@@ -167,8 +168,7 @@ void TrayPanel::fillScene()
     m_scene->setCurrentIndex(mode ? m_scene->findData(mode->value) : -1);
     QPushButton *half = value % 2 != 0 ? m_default : m_custom;
     checkOnly(*m_halves, mode ? half : nullptr);
-    const QString scene =
-        mode ? QStringLiteral("%1, %2").arg(QObject::tr(mode->label), half->text()) : QStringLiteral("–");
+    const QString scene = mode ? listed({QObject::tr(mode->label), half->text()}) : QStringLiteral("–");
     m_state->setText(QStringLiteral("%1 · %2").arg(m_status.state, scene));
     m_sceneMark->setMark(mark);
     m_scene->setAccessibleDescription(markText(mark));

@@ -8,6 +8,7 @@
 
 #include "ddc_protocol/commandnames.h"
 #include "ddc_protocol/commandqueue.h"
+#include "page/engine/listed.h"
 #include "platform/desk.h"
 
 namespace {
@@ -110,7 +111,9 @@ QString EverythingRead::missingNames() const
     names.removeDuplicates();
     const bool isCut = names.size() > kNamesTold;
     names = names.mid(0, kNamesTold);
-    return names.join(QStringLiteral(", ")) + (isCut ? QStringLiteral(", …") : QString());
+    if (isCut)
+        names += QStringLiteral("…");
+    return listed(names);
 }
 
 QString EverythingRead::summary() const

@@ -7,10 +7,12 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QScrollArea>
 #include <QSignalBlocker>
 #include <QStyle>
 
+#include "controls/captionlabel.h"
 #include "controls/sharedfonts.h"
 #include "controls/timecurve.h"
 #include "ddc_protocol/linkrecorder.h"
@@ -36,6 +38,13 @@ QVBoxLayout *makeColumn(QWidget *parent, int spacing)
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(spacing);
     return column;
+}
+
+/// A path that a line may end in, also within a long name: nothing of it is cut off.
+QString breakable(QString path)
+{
+    static const QRegularExpression kPlaces(QStringLiteral(R"(([\\/_-]))"));
+    return path.replace(kPlaces, QStringLiteral("\\1\u200b"));
 }
 
 } // namespace
@@ -113,12 +122,15 @@ QWidget *HealthPanel::buildTile(Tile &tile, const char *caption)
 {
     auto *frame = new QFrame(this);
     frame->setObjectName(QStringLiteral("healthTile"));
+    frame->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // all of one width, whatever they say
     auto *column = new QVBoxLayout(frame);
     column->setContentsMargins(16, 10, 8, 10);
     column->setSpacing(2);
     QLabel *const title = makeLabel(QStringLiteral("note"), 13, caption);
     tile.value = makeLabel(QStringLiteral("healthValue"), 26);
-    tile.detail = makeLabel(QStringLiteral("note"), 13);
+    tile.detail = new CaptionLabel(QString(), 13, frame);
+    tile.detail->setObjectName(QStringLiteral("note"));
+    tile.detail->setFont(noteFont);
     for (QLabel *label : {title, tile.value, tile.detail})
         column->addWidget(label);
     return frame;
@@ -285,7 +297,7 @@ void HealthPanel::fillErrors(const LinkRecord &record)
         cells->setContentsMargins(16, 2, 8, 2);
         cells->setSpacing(16);
         QLabel *const time = makeLabel(QStringLiteral("note"), 13);
-        time->setText(error.at.toString(QStringLiteral("hh:mm:ss")));
+        time->setText(error.until.toString(QStringLiteral("hh:mm:ss")));
         time->setFixedWidth(kErrorTimeWidth);
         QLabel *const text = makeLabel(QStringLiteral("healthHeading"), 0);
         text->setText(errorText(error));
@@ -346,7 +358,7 @@ void HealthPanel::onRecordToggled(bool on)
     }
     if (!on)
         linkRecorder.stop();
-    const QString path = QDir::toNativeSeparators(QDir::current().absoluteFilePath(linkRecorder.fileName()));
+    const QString path = breakable(QDir::toNativeSeparators(QDir::current().absoluteFilePath(linkRecorder.fileName())));
     say(on ? QObject::tr("What is asked and answered is recorded in %1").arg(path)
            : QObject::tr("%1 requests are recorded in %2").arg(linkRecorder.requests()).arg(path));
 }

@@ -74,7 +74,7 @@ QString withCommand(const char *text, const LinkError &error)
 QString errorLine(const LinkError &error)
 {
     return QStringLiteral("%1  %2 (0x%3, %4x)  %5")
-        .arg(error.at.toString(QStringLiteral("yyyy-MM-dd hh:mm:ss")), errorText(error))
+        .arg(error.until.toString(QStringLiteral("yyyy-MM-dd hh:mm:ss")), errorText(error))
         .arg(error.code, 2, 16, QLatin1Char('0'))
         .arg(error.count)
         .arg(errorAdvice(error));
