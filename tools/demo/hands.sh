@@ -6,11 +6,13 @@ declare -A PLACE=(
     [tab]='268 36' [tab-step]='104 0'
     [entry]='116 108' [entry-step]='0 48'
     [panel]='380 141' [panel-step]='0 48'     # in a settings page's own list
-    [option]='300 190'                        # the first of a panel's options
+    [option]='300 190' [listed-option]='540 190' # the first of a panel's options, without and with a list of panels
     [default-half]='1039 142' [custom-half]='1166 142'
     [slider-left]='449 216' [slider-right]='643 216' # of the first slider, Brightness: its groove's ends
     [page]='460 600'
+    [first-lock]='735 452' # of the scene page, scrolled to its end
     [nothing]='640 770' # the window's lower edge: nothing lights up there
+    [read-everything]='560 678' # of the health page, with one monitor
     [music-open]='564 190'
     [unplug]='342 393'  # in the desk's window
     [accessory-tab]='246 28'
@@ -45,11 +47,11 @@ click_at() {
     timeout 5 xdotool click 1
 }
 
-# Presses the option some steps after the first, by the keyboard, as widths differ: choose_option WINDOW STEPS
+# Presses the option some steps after the first, by the keyboard, as widths differ: choose_option WINDOW FIRST STEPS
 choose_option() {
     local step
-    click_at "$1" option
-    for ((step = 0; step < $2; ++step)); do timeout 5 xdotool key Right; done
+    click_at "$1" "$2"
+    for ((step = 0; step < $3; ++step)); do timeout 5 xdotool key Right; done
     timeout 5 xdotool key space
 }
 
