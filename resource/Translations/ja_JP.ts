@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>%1 in all, %2 by itself today</source>
-        <translation>全部で %1 回、今日の自動 %2 回</translation>
+        <translation>計 %1 回、本日自動 %2 回</translation>
     </message>
     <message>
         <source>%1 is in the list already.</source>
