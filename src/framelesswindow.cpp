@@ -14,6 +14,21 @@ FramelessWindow::FramelessWindow(const QString &picture)
     setFixedSize((QSizeF(background.size()) / background.devicePixelRatio()).toSize());
 }
 
+void FramelessWindow::showInFront()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
+void FramelessWindow::changeEvent(QEvent *event)
+{
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        cameToFront();
+}
+
 void FramelessWindow::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::LeftButton)

@@ -7,10 +7,18 @@
 /// A window whose frame is a picture, which gives it its size. It is dragged by any place that no control takes.
 class FramelessWindow : public QLabel
 {
+public:
+    /// Shows the window in front of all others, also when it was minimised.
+    void showInFront();
+
 protected:
     /// The picture's path below the resource folder.
     explicit FramelessWindow(const QString &picture);
 
+    /// It is the window in use now, and was not before.
+    virtual void cameToFront() = 0;
+
+    void changeEvent(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;

@@ -4,18 +4,14 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QScopedValueRollback>
 #include <QStackedWidget>
 
-#include "automation.h"
 #include "controls/messagebox.h"
 #include "controls/pictures.h"
 #include "ddc_protocol/commandqueue.h"
-#include "ddc_protocol/linkstatus.h"
 #include "ddc_protocol/transport.h"
 #include "ddc_protocol/writecounts.h"
 #include "ddc_protocol/writekeeper.h"
-#include "monitorchecks.h"
 #include "page/Nightloom/accessorypages.h"
 #include "page/Nightloom/matrixformsetting.h"
 #include "page/Scene/pagescenesetting.h"
@@ -26,10 +22,8 @@
 #include "sessionend.h"
 #include "statusline.h"
 #include "toptabframe.h"
-#include "tray/tray.h"
 #include "tray/traypanel.h"
 #include "tray/traypanelopener.h"
-#include "usb-hid/hidtransport.h"
 
 namespace {
 
@@ -75,7 +69,7 @@ MainWindow::MainWindow(SearchDeviceDlg &session)
 MainWindow::~MainWindow()
 {
     m_session.setHost(nullptr);
-    setLinkObserver({});
+    delete m_reconciler;
     m_accessory->end();
     delete m_tray;
     delete m_navigator->pageStack(); // before the queue that they send through
@@ -117,13 +111,7 @@ void MainWindow::createFollowers()
     connect(m_checks, &MonitorChecks::checked, this, &MainWindow::updateInterface);
     m_reconciler = new Reconciler(
         *m_queue, m_session, [this] { return pagesInSight(); }, this);
-    setLinkObserver([this] {
-        const auto follow = [this] {
-            updateInterface();
-            m_reconciler->linkChanged();
-        };
-        QMetaObject::invokeMethod(this, follow, Qt::QueuedConnection); // within a request nothing new may begin
-    });
+    connect(m_reconciler, &Reconciler::linkChanged, this, &MainWindow::updateInterface);
     connect(new SessionEnd(this), &SessionEnd::ends, this, &MainWindow::endWithSession);
 }
 
@@ -154,16 +142,6 @@ void MainWindow::connectScene()
         m_navigator->followSceneMode();
         m_checks->readMissingBlock();
     });
-}
-
-TrayPanelOpener *MainWindow::trayPanel() const
-{
-    return m_tray->panel();
-}
-
-HotkeyOverlay *MainWindow::overlay() const
-{
-    return m_automation->overlay();
 }
 
 void MainWindow::refreshPages()
@@ -213,24 +191,6 @@ std::vector<Page *> MainWindow::pagesInSight() const
     return pages;
 }
 
-void MainWindow::systemNoticed(SystemNotice notice)
-{
-    if (notice == SystemNotice::Woke || notice == SystemNotice::DisplaysChanged)
-        m_reconciler->handlesMayBeStale();
-    else
-        m_reconciler->want();
-}
-
-void MainWindow::deviceRemoved()
-{
-    m_checks->deviceRemoved();
-}
-
-void MainWindow::reopenHidDevice()
-{
-    reopenHid();
-}
-
 bool MainWindow::ensureHidConnected()
 {
     clearHidFlags(); // what was found before may be gone
@@ -251,10 +211,7 @@ void MainWindow::warnNotConnected()
 void MainWindow::showWindow()
 {
     trayPanel()->close();
-    setWindowState(windowState() & ~Qt::WindowMinimized);
-    show();
-    raise();
-    activateWindow();
+    showInFront();
 }
 
 /// The user logs off: once this returns the process may be gone, so that it cannot wait for the ordinary end.
@@ -266,25 +223,15 @@ void MainWindow::endWithSession()
     writeCounts.store();
 }
 
-bool MainWindow::mayLeave()
-{
-    if (m_asksToLeave)
-        return false; // the question stands already
-    const QScopedValueRollback asking(m_asksToLeave, true);
-    return m_pages.mayLeave();
-}
-
 void MainWindow::leave()
 {
     if (mayLeave())
         platform::endProgram();
 }
 
-void MainWindow::changeEvent(QEvent *event)
+void MainWindow::cameToFront()
 {
-    QLabel::changeEvent(event);
-    const bool comesToFront = event->type() == QEvent::ActivationChange && isActiveWindow();
-    if (comesToFront && std::exchange(m_wasInFront, true)) // the first time everything has just been read
+    if (std::exchange(m_wasInFront, true)) // the first time everything has just been read
         m_reconciler->want();
 }
 

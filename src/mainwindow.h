@@ -1,20 +1,21 @@
 #pragma once
 
+#include "automation.h"
 #include "framelesswindow.h"
 #include "interfacemodes.h"
+#include "monitorchecks.h"
 #include "navigator.h"
 #include "page/pageset.h"
+#include "reconciler.h"
 #include "sessionhost.h"
+#include "tray/tray.h"
+#include "usb-hid/hidtransport.h"
 
 class AccessoryPages;
-class Automation;
 class CommandQueue;
 class HotkeyOverlay;
-class MonitorChecks;
-class Reconciler;
 class SearchDeviceDlg;
 class StatusLine;
-class Tray;
 class TrayPanelOpener;
 class pageSceneSetting;
 
@@ -44,13 +45,13 @@ public:
     void updateInterface() override;
     void hideWindow() override { hide(); }
     void showWindow() override;
-    bool mayLeave() override;
+    bool mayLeave() override { return m_pages.mayLeave(); }
     void deviceArrived() override { updateInterface(); }
-    void deviceRemoved() override;
-    void systemNoticed(SystemNotice notice) override;
+    void deviceRemoved() override { m_checks->deviceRemoved(); }
+    void systemNoticed(SystemNotice notice) override { m_reconciler->systemNoticed(notice); }
 
     /// Closes the accessory's handle and opens the accessory anew, unless the flags say that it is open.
-    void reopenHidDevice() override;
+    void reopenHidDevice() override { reopenHid(); }
 
     /// Looks for the accessory, whatever was found before. False when it is not there, which the user is told.
     bool ensureHidConnected();
@@ -61,14 +62,14 @@ public:
     /// See PageSet.
     SettingsPage *settingsPage(PageId id) const { return m_pages.settings(id); }
     Page *page(PageId id) const { return m_pages.page(id); }
-    TrayPanelOpener *trayPanel() const;
-    HotkeyOverlay *overlay() const;
+    TrayPanelOpener *trayPanel() const { return m_tray->panel(); }
+    HotkeyOverlay *overlay() const { return m_automation->overlay(); }
 
     /// Ends the program, unless the user is asked and wants to stay.
     void leave();
 
 protected:
-    void changeEvent(QEvent *event) override;
+    void cameToFront() override;
     void closeEvent(QCloseEvent *event) override;
 
     /// Tells the user that the accessory is not connected, and waits for the answer.
@@ -108,6 +109,5 @@ private:
     AccessoryPages *m_accessory = nullptr;
     Reconciler *m_reconciler = nullptr;
     Tray *m_tray = nullptr;
-    bool m_asksToLeave = false;
     bool m_wasInFront = false;
 };

@@ -16,8 +16,7 @@ static constexpr platform::milliseconds kRemovalSettles{300}; // one unplugging 
 
 MonitorChecks::MonitorChecks(SearchDeviceDlg &session, CommandQueue &queue, const InterfaceModes &modes,
                              QObject *parent)
-    : QObject(parent), m_session(session), m_queue(queue), m_modes(modes),
-      m_shownMonitor(monitorIdentity())
+    : QObject(parent), m_session(session), m_queue(queue), m_modes(modes), m_shownMonitor(monitorIdentity())
 {
 }
 

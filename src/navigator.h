@@ -4,6 +4,7 @@
 
 #include <QObject>
 
+#include "ddc_protocol/command.h"
 #include "navigation.h"
 
 class EmptyPage;

@@ -12,6 +12,22 @@ Reconciler::Reconciler(CommandQueue &queue, SearchDeviceDlg &session, PagesInSig
     : QObject(parent), m_queue(queue), m_session(session), m_pagesInSight(std::move(pagesInSight))
 {
     connect(&queue, &CommandQueue::asked, this, &Reconciler::answered);
+    setLinkObserver([this] { // within a request nothing new may begin
+        QMetaObject::invokeMethod(this, &Reconciler::followLink, Qt::QueuedConnection);
+    });
+}
+
+Reconciler::~Reconciler()
+{
+    setLinkObserver({});
+}
+
+void Reconciler::systemNoticed(SystemNotice notice)
+{
+    if (notice == SystemNotice::Woke || notice == SystemNotice::DisplaysChanged)
+        handlesMayBeStale();
+    else
+        want();
 }
 
 void Reconciler::want()
@@ -27,14 +43,16 @@ void Reconciler::note()
     deviceState.mayHaveChanged();
 }
 
+/// Handles may be stale: there is a search first.
 void Reconciler::handlesMayBeStale()
 {
     m_facts.stale = platform::desk().clock().now();
     look();
 }
 
-void Reconciler::linkChanged()
+void Reconciler::followLink()
 {
+    Q_EMIT linkChanged();
     if (!monitorAnswers())
         m_facts.asked = platform::desk().clock().now(); // whoever asked: the pauses count from here
     else if (!m_facts.isAsking)

@@ -6,6 +6,7 @@
 #include <QObject>
 
 #include "reconcileplan.h"
+#include "systemnotices.h"
 
 class CommandQueue;
 class Page;
@@ -21,20 +22,24 @@ public:
     using PagesInSight = std::function<std::vector<Page *>()>;
 
     Reconciler(CommandQueue &queue, SearchDeviceDlg &session, PagesInSight pagesInSight, QObject *parent);
+    ~Reconciler() override;
 
     /// Something happened after which what is shown may not hold.
     void want();
 
-    /// The display set-up changed or the computer woke: handles may be stale.
-    void handlesMayBeStale();
-
-    /// The monitor fell silent, or answers again.
-    void linkChanged();
+    /// The computer woke, its displays changed, somebody is back.
+    void systemNoticed(SystemNotice notice);
 
     /// What can be seen, or what the session does, has changed.
     void look();
 
+Q_SIGNALS:
+    /// The monitor fell silent, or answers again.
+    void linkChanged();
+
 private:
+    void followLink();
+    void handlesMayBeStale();
     void note();
     void perform(const ReconcileStep &step);
     void ask();

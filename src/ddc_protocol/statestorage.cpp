@@ -1,6 +1,6 @@
 #include "ddc_protocol/statestorage.h"
-#include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/commandtable.h"
+#include "ddc_protocol/devicestate.h"
 
 #include <algorithm>
 #include <utility>

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <QPushButton>
+#include <QScopedValueRollback>
 
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/transport.h"
@@ -52,8 +53,11 @@ void PageSet::updateControlText() const
         page->updateControlText();
 }
 
-bool PageSet::mayLeave() const
+bool PageSet::mayLeave()
 {
+    if (m_asksToLeave)
+        return false;
+    const QScopedValueRollback asking(m_asksToLeave, true);
     return std::all_of(m_pages.begin(), m_pages.end(), [](const auto &entry) { return entry.second->mayLeave(); });
 }
 

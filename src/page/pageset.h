@@ -32,12 +32,13 @@ public:
 
     void updateControlText() const;
 
-    /// Asks each until one wants the program to stay.
-    bool mayLeave() const;
+    /// Asks each until one wants the program to stay; false as well while a question stands already.
+    bool mayLeave();
 
     /// A value as the page names it that offers it; empty where none does.
     QString optionText(Command command, int value) const;
 
 private:
     std::map<PageId, Page *> m_pages;
+    bool m_asksToLeave = false;
 };
