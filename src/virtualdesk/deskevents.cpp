@@ -31,45 +31,10 @@ void VirtualDesk::wake()
 
 void VirtualDesk::apply(std::size_t index, const MonitorEvent &event)
 {
-    using Kind = MonitorEvent::Kind;
-    SimulatedMonitor &target = monitor(index);
-    switch (event.kind) {
-    case Kind::Plug:
-        return plug(index);
-    case Kind::Unplug:
-        return unplug(index);
-    case Kind::Sleep:
-        return sleep();
-    case Kind::Wake:
-        return wake();
-    case Kind::Deaf:
-        target.goDeaf(event.times);
-        break;
-    case Kind::Recover:
-        target.recover();
-        break;
-    case Kind::Refuse:
-        target.refuse(static_cast<std::uint8_t>(event.code), event.times);
-        break;
-    case Kind::RefuseWrites:
-        target.refuseWrites(event.times);
-        break;
-    case Kind::DropChunks:
-        target.dropChunks(event.times);
-        break;
-    case Kind::LoseReplies:
-        target.loseReplies(event.times, event.code);
-        break;
-    case Kind::Garble:
-        target.garbleReplies(event.times, event.code);
-        break;
-    case Kind::Delay:
-        target.setDelay(event.read);
-        break;
-    case Kind::Latency:
-        target.setLatency(event.read, event.write);
-        break;
-    }
+    if (const auto *happening = std::get_if<DeskEvent>(&event.fault->does))
+        happening->happen(*this, index, event);
+    else
+        monitor(index).arm(*event.fault, event.times, event.code);
     Q_EMIT monitorsChanged();
 }
 

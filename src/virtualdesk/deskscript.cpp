@@ -1,7 +1,6 @@
 #include "virtualdesk/deskscript.h"
 
 #include <QFile>
-#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -12,8 +11,6 @@
 namespace virtualdesk {
 
 namespace {
-
-using Kind = MonitorEvent::Kind;
 
 /// Reads values and keeps the first fault; everything after a fault is harmless and thrown away.
 class Reader
@@ -73,34 +70,20 @@ void readLatency(Reader &reader, const QJsonValue &value, std::chrono::milliseco
 
 MonitorEvent readEvent(Reader &reader, const QJsonObject &object)
 {
-    static const QHash<QString, Kind> kKinds = {
-        {QStringLiteral("plug"), Kind::Plug},
-        {QStringLiteral("unplug"), Kind::Unplug},
-        {QStringLiteral("deaf"), Kind::Deaf},
-        {QStringLiteral("recover"), Kind::Recover},
-        {QStringLiteral("refuse"), Kind::Refuse},
-        {QStringLiteral("refuse_writes"), Kind::RefuseWrites},
-        {QStringLiteral("drop_chunks"), Kind::DropChunks},
-        {QStringLiteral("lose_replies"), Kind::LoseReplies},
-        {QStringLiteral("garble"), Kind::Garble},
-        {QStringLiteral("latency"), Kind::Latency},
-        {QStringLiteral("delay"), Kind::Delay},
-        {QStringLiteral("sleep"), Kind::Sleep},
-        {QStringLiteral("wake"), Kind::Wake},
-    };
     const QString name = object.value(QLatin1String("event")).toString();
-    if (!kKinds.contains(name))
-        reader.fail(QStringLiteral("unknown \"event\": \"%1\"").arg(name));
-
     MonitorEvent event;
-    event.kind = kKinds.value(name, Kind::Recover);
+    event.fault = findFault(name);
+    if (event.fault == nullptr) {
+        reader.fail(QStringLiteral("unknown \"event\": \"%1\"").arg(name));
+        return event;
+    }
     const bool always = object.value(QLatin1String("times")) == QLatin1String("always");
-    const int once = event.kind == Kind::Deaf ? kForEver : 1;
-    event.times = always ? kForEver : reader.number(object, "times", once, kForEver, 1000000);
-    event.code = reader.number(object, "code", Faults::kAnyCommand, 0, 255);
-    if (event.kind == Kind::Refuse && event.code == Faults::kAnyCommand)
-        reader.fail(QStringLiteral("\"refuse\" needs a \"code\""));
-    event.read = reader.wait(object, event.kind == Kind::Delay ? "ms" : "read_ms");
+    event.times = always ? kForEver : reader.number(object, "times", event.fault->times, kForEver, 1000000);
+    event.code = reader.number(object, "code", kAnyCommand, 0, 255);
+    if (event.fault->code == FaultCode::Needed && event.code == kAnyCommand)
+        reader.fail(QStringLiteral("\"%1\" needs a \"code\"").arg(name));
+    event.wait = reader.wait(object, "ms");
+    event.read = reader.wait(object, "read_ms");
     event.write = reader.wait(object, "write_ms");
     return event;
 }
@@ -175,7 +158,7 @@ MonitorSetup readMonitor(Reader &reader, const QJsonObject &object, int displays
         monitor.faults.push_back(readEvent(reader, fault.toObject()));
     if (object.contains(QLatin1String("latency"))) {
         MonitorEvent latency;
-        latency.kind = Kind::Latency;
+        latency.fault = findFault(QStringLiteral("latency"));
         readLatency(reader, object.value(QLatin1String("latency")), latency.read, latency.write);
         monitor.faults.push_back(latency);
     }

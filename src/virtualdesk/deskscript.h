@@ -30,9 +30,9 @@ namespace virtualdesk {
 ///     }
 ///
 /// An audio fault may name any call of AudioCall, written so, and last "always".
-/// An event is {"event": kind} with kind plug, unplug, recover, deaf, refuse (with "code"), refuse_writes, drop_chunks,
-/// lose_replies, garble (both may have a "code"), latency (with "read_ms", "write_ms") or delay (with "ms"). "times" is
-/// a number of requests or "always"; it is 1 unless given, for deaf "always". at_ms counts from the main window's
+/// An event is {"event": word} with a word of monitorFaults(), and with "code" for those of one code, "read_ms" and
+/// "write_ms" for latency, "ms" for delay. "times" is
+/// a number of requests or "always"; unless given it is the row's, mostly 1. at_ms counts from the main window's
 /// opening. A fault of the accessory is {"event": "refuse_writes" or "fail_open", "times": ...}, or {"event": "unplug",
 /// "at_write": n}. A monitor with a "replay" answers what one was recorded to answer, that of the recording's monitors
 /// by their order of appearance; where the program departs from the recording a warning tells so.

@@ -19,26 +19,11 @@ namespace virtualdesk {
 /// Something that happens to a monitor, at once or at its time.
 struct MonitorEvent
 {
-    enum class Kind {
-        Plug,
-        Unplug,
-        Deaf,
-        Recover,
-        Refuse,
-        RefuseWrites,
-        DropChunks,
-        LoseReplies,
-        Garble,
-        Latency,
-        Delay,
-        Sleep, ///< of the whole desk
-        Wake
-    };
-
-    Kind kind = Kind::Recover;
-    int times = 1;                     ///< requests, or kForEver
-    int code = Faults::kAnyCommand;    ///< VCP code, for Refuse, LoseReplies, Garble
-    std::chrono::milliseconds read{0}; ///< for Latency; for Delay of every request
+    const MonitorFault *fault = nullptr; ///< a row of monitorFaults()
+    int times = 1;                       ///< requests, or kForEver
+    int code = kAnyCommand;              ///< VCP code, for faults of one
+    std::chrono::milliseconds wait{0};   ///< for what takes its time
+    std::chrono::milliseconds read{0};   ///< for latency, as the next
     std::chrono::milliseconds write{0};
 };
 

@@ -1,38 +1,41 @@
 #include "virtualdesk/faults.h"
 
+#include <algorithm>
+
 namespace virtualdesk {
 
-namespace {
-
-constexpr std::uint8_t kVendorCode = 0x99;
-
-} // namespace
-
-void Faults::refuse(std::uint8_t code, int times)
+void Faults::arm(const MonitorFault &fault, int times, int code)
 {
-    m_refusals[code] = times;
+    Q_ASSERT(std::holds_alternative<WireFault>(fault.does));
+    std::erase_if(m_armed, [&](const Armed &armed) {
+        return armed.fault == &fault && (fault.code != FaultCode::Needed || armed.code == code);
+    });
+    if (times == 0)
+        return;
+    const auto behind = std::find_if(m_armed.begin(), m_armed.end(),
+                                     [&fault](const Armed &armed) { return armed.fault > &fault; }); // of one table
+    m_armed.insert(behind, {&fault, times, fault.code == FaultCode::None ? kAnyCommand : code});
 }
 
-bool Faults::strikeRefusal(RequestKind kind, std::uint8_t code)
+bool Faults::isArmed(const MonitorFault &fault) const
 {
-    if (kind == RequestKind::Write && take(m_refuseWrites))
-        return true;
-    return take(m_refusals[code]);
+    return std::any_of(m_armed.begin(), m_armed.end(), [&fault](const Armed &armed) { return armed.fault == &fault; });
 }
 
-bool Faults::take(int &count)
+bool Faults::strike(WireFault::Moment moment, bool inStream, Request &request, Reply &reply)
 {
-    if (count == 0)
+    const auto strikes = [&](const Armed &armed) {
+        const auto &wire = std::get<WireFault>(armed.fault->does);
+        return wire.moment == moment &&
+               (armed.code == kAnyCommand ? wire.concerns(request, inStream) : armed.code == request.code);
+    };
+    const auto found = std::find_if(m_armed.begin(), m_armed.end(), strikes);
+    if (found == m_armed.end())
         return false;
-    if (count > 0)
-        --count;
+    std::get<WireFault>(found->fault->does).spoil(request, reply);
+    if (found->times != kForEver && --found->times == 0)
+        m_armed.erase(found);
     return true;
-}
-
-bool Faults::strikeReply(ReplyFault &fault, std::uint8_t code)
-{
-    const bool matches = fault.code == kAnyCommand ? code != kVendorCode : code == fault.code;
-    return matches && take(fault.times);
 }
 
 } // namespace virtualdesk

@@ -22,44 +22,9 @@ namespace {
 constexpr int kKeptLines = 400;
 constexpr std::size_t kShownAtOnce = 100;
 constexpr std::chrono::milliseconds kRefreshDelay{60};
-constexpr platform::milliseconds kSlow{400};
 
 #define NAME(text) QT_TRANSLATE_NOOP("QObject", text)
 
-/// One thing that can go wrong with a monitor. A button is down while the fault waits or lasts.
-struct FaultSpec
-{
-    const char *text;
-    const char *tip;
-    void (*set)(VirtualDesk &desk, std::size_t index, bool on);
-    bool (*isSet)(const SimulatedMonitor &monitor);
-};
-
-constexpr FaultSpec kFaults[] = {
-    {NAME("Refuse writes"), NAME("The monitor takes no value until the button is released"),
-     [](VirtualDesk &desk, std::size_t index, bool on) { desk.monitor(index).refuseWrites(on ? kForEver : 0); },
-     [](const SimulatedMonitor &monitor) { return monitor.armedFaults().refuseWrites; }},
-    {NAME("Drop a chunk"), NAME("Four bytes of the next scene-mode block get lost"),
-     [](VirtualDesk &desk, std::size_t index, bool on) { desk.monitor(index).dropChunks(on ? 1 : 0); },
-     [](const SimulatedMonitor &monitor) { return monitor.armedFaults().dropChunks; }},
-    {NAME("Lose a reply"), NAME("The answer to the next read never arrives"),
-     [](VirtualDesk &desk, std::size_t index, bool on) { desk.monitor(index).loseReplies(on ? 1 : 0); },
-     [](const SimulatedMonitor &monitor) { return monitor.armedFaults().loseReplies; }},
-    {NAME("Go deaf"), NAME("The monitor answers nothing until the button is released"),
-     [](VirtualDesk &desk, std::size_t index, bool on) { desk.monitor(index).goDeaf(on ? kForEver : 0); },
-     [](const SimulatedMonitor &monitor) { return monitor.armedFaults().deaf; }},
-    {NAME("Slow"), NAME("Every request takes 400 ms longer"),
-     [](VirtualDesk &desk, std::size_t index, bool on) {
-         desk.monitor(index).setDelay(on ? kSlow : platform::milliseconds(0));
-     },
-     [](const SimulatedMonitor &monitor) { return monitor.isSlow(); }},
-    {NAME("Unplug"), NAME("The cable is pulled out until the button is released"),
-     [](VirtualDesk &desk, std::size_t index, bool on) { on ? desk.unplug(index) : desk.plug(index); },
-     [](const SimulatedMonitor &monitor) { return !monitor.isPlugged(); }},
-    {NAME("Sleep"), NAME("The computer and its monitors sleep until the button is released"),
-     [](VirtualDesk &desk, std::size_t, bool on) { on ? desk.sleep() : desk.wake(); },
-     [](const SimulatedMonitor &monitor) { return monitor.isAsleep(); }},
-};
 constexpr int kFaultColumns = 3;
 
 constexpr const char *kOutcomes[] = {NAME("ok"),      NAME("adjusted"), NAME("garbled"), NAME("unexpected"),
@@ -215,17 +180,22 @@ QLayout *MonitorPanel::buildFaults()
 {
     auto *grid = new QGridLayout;
     grid->setSpacing(8);
-    for (const FaultSpec &fault : kFaults) {
+    for (const MonitorFault &fault : monitorFaults()) {
+        if (fault.button.label == nullptr)
+            continue;
         auto *button = new QPushButton(this);
+        button->setObjectName(QStringLiteral("fault_") + QLatin1String(fault.word));
         button->setCheckable(true);
         button->setEnabled(m_desk.monitorCount() > 0);
         connect(button, &QPushButton::clicked, this, [this, &fault](bool on) {
-            fault.set(m_desk, m_index, on);
+            const FaultButton &press = fault.button;
+            m_desk.apply(m_index,
+                         on ? MonitorEvent{&fault, press.times, kAnyCommand, press.wait} : MonitorEvent{&fault, 0});
             askForRefresh();
         });
         const int place = static_cast<int>(m_faultButtons.size());
         grid->addWidget(button, place / kFaultColumns, place % kFaultColumns);
-        m_faultButtons.push_back(button);
+        m_faultButtons.emplace_back(button, &fault);
     }
     return grid;
 }
@@ -239,10 +209,11 @@ void MonitorPanel::retranslate()
     m_screen->setAccessibleName(QObject::tr("Screen of the simulated monitor"));
     m_requests->setAccessibleName(QObject::tr("Last requests to the monitor"));
     m_requests->setToolTip(QObject::tr("Time, read or write, code, value and what became of it"));
-    for (std::size_t i = 0; i < m_faultButtons.size(); ++i) {
-        m_faultButtons[i]->setText(QObject::tr(kFaults[i].text));
-        m_faultButtons[i]->setToolTip(QObject::tr(kFaults[i].tip));
-        m_faultButtons[i]->setAccessibleDescription(QObject::tr(kFaults[i].tip));
+    for (const auto &[button, fault] : m_faultButtons) {
+        const QString tip = QObject::tr(fault->button.tip);
+        button->setText(QObject::tr(fault->button.label));
+        button->setToolTip(tip);
+        button->setAccessibleDescription(tip);
     }
     for (std::size_t i = 0; i < m_osdButtons.size(); ++i)
         m_osdButtons[i]->setAccessibleName(osdName(osdMenu()[i / 2]) + QLatin1Char(' ') + m_osdButtons[i]->text());
@@ -341,8 +312,8 @@ void MonitorPanel::refreshOsd()
 
 void MonitorPanel::refreshState()
 {
-    for (std::size_t i = 0; i < m_faultButtons.size(); ++i)
-        m_faultButtons[i]->setChecked(kFaults[i].isSet(monitor()));
+    for (const auto &[button, fault] : m_faultButtons)
+        button->setChecked(monitor().isOn(*fault));
     const QString plugged = monitor().isPlugged() ? QObject::tr("Plugged in") : QObject::tr("Unplugged");
     setTextOf(m_state, QObject::tr("%1 · protocol faults: %2 · open handles: %3")
                            .arg(plugged)

@@ -19,6 +19,7 @@ namespace virtualdesk {
 
 class ScreenView;
 class SimulatedMonitor;
+struct MonitorFault;
 struct OsdFunction;
 class VirtualDesk;
 
@@ -66,7 +67,7 @@ private:
     QPlainTextEdit *m_requests = nullptr;
     std::vector<std::pair<QLabel *, QLabel *>> m_osdRows; // name and value, in the order of the OSD
     std::vector<QPushButton *> m_osdButtons;              // down and up for each row of the menu
-    std::vector<QPushButton *> m_faultButtons;            // in the order of the fault table
+    std::vector<std::pair<QPushButton *, const MonitorFault *>> m_faultButtons;
 };
 
 } // namespace virtualdesk

@@ -1,7 +1,6 @@
 #include "virtualdesk/simulatedmonitor.h"
 
 #include <algorithm>
-#include <cstring>
 
 #include "virtualdesk/osdfunctions.h"
 
@@ -14,7 +13,6 @@ constexpr std::uint8_t kNextChunk = 0xFE;
 constexpr std::uint8_t kSameChunk = 0xFF;
 constexpr int kChunkSize = 4;
 constexpr int kChunks = kBlockSize / kChunkSize;
-constexpr std::uint32_t kGarble = 0x55; // what a garbled reply has flipped
 
 bool isContinuation(std::uint8_t code)
 {
@@ -32,32 +30,11 @@ bool isSelector(std::uint8_t code)
     return code % 2 == 0 && code > kFirstMode && code <= kLastMode;
 }
 
-bool isReadOnly(std::uint8_t code)
-{
-    return code == kCapabilityCode || code == kFirmwareCode || code == kOfficeSizeCode;
-}
-
-bool isCustom(int mode)
-{
-    return mode % 2 == 0 && mode > 0 && mode <= kLastMode;
-}
-
-/// Whether a paper's width, or its height, which has bit 15, lies within the office area.
-bool isPaperSize(const MonitorModel &model, std::uint32_t value)
-{
-    constexpr std::uint32_t kHeight = 0x8000;
-    return value <= ((value & kHeight) != 0 ? kHeight | model.officeHeight : model.officeWidth);
-}
-
 } // namespace
 
-SimulatedMonitor::SimulatedMonitor(const MonitorModel &model, platform::Clock &clock) : m_model(model), m_clock(clock)
+SimulatedMonitor::SimulatedMonitor(const MonitorModel &model, platform::Clock &clock)
+    : m_model(model), m_clock(clock), m_memory(model)
 {
-    resetToFactory();
-    m_values[kCapabilityCode] = model.capabilities;
-    m_values[kFirmwareCode] = model.firmware;
-    m_values[kOfficeSizeCode] = model.officeHeight;
-    changeScene(model.scene);
 }
 
 Reply SimulatedMonitor::read(std::uint8_t code)
@@ -96,46 +73,47 @@ Reply SimulatedMonitor::request(RequestKind kind, std::uint8_t code, std::uint32
 /// Serves a request through the faults that lie in wait.
 Reply SimulatedMonitor::serve(Request &request)
 {
+    using Moment = WireFault::Moment;
     if (m_replay)
         return m_replay->answer(request);
-    const bool isRead = request.kind == RequestKind::Read;
     if (!m_plugged) {
         request.outcome = Outcome::Unplugged;
         return {kErrorNoSuchDevice};
     }
-    if (m_asleep || m_faults.strikeDeaf()) {
+    Reply reply;
+    const bool continues = continuesStream(request);
+    if (m_asleep)
+        stayUnheard(request, reply);
+    if (m_asleep || m_faults.strike(Moment::Hearing, continues, request, reply)) {
         forgetConversation();
-        request.outcome = Outcome::Deaf;
-        return {isRead ? kErrorReceiving : kErrorTransmitting};
+        return reply;
     }
-    if (m_faults.strikeRefusal(request.kind, request.code)) {
-        // A refused continuation was heard all the same: the stream moves on, and 0xFF brings what is missing.
-        if (isRead && isContinuation(request.code) && m_stream)
+    if (m_faults.strike(Moment::Taking, continues, request, reply)) {
+        // A continuation was heard all the same: the stream moves on, and 0xFF brings what is missing.
+        if (continues)
             continueStream(request);
         else
             forgetConversation();
-        request.outcome = Outcome::Refused;
-        return {kErrorNotSupported};
+        return reply;
     }
 
-    Reply reply = converse(request);
-    if (!isRead || !reply.ok())
+    reply = converse(request);
+    if (request.kind == RequestKind::Write || !reply.ok())
         return reply;
-    const bool dropped = isContinuation(request.code) && m_stream && m_faults.strikeChunk();
-    if (dropped || m_faults.strikeLoss(request.code)) {
+    m_faults.strike(Moment::Answering, continuesStream(request), request, reply);
+    if (!reply.ok()) {
         if (m_announcement)
             m_announcement->heard = false;
-        request.outcome = Outcome::Lost;
-        return {kErrorReceiving};
-    }
-    if (m_faults.strikeGarble(request.code)) {
-        reply.current ^= kGarble;
-        reply.maximum ^= kGarble;
-        request.outcome = Outcome::Garbled;
+        return reply;
     }
     request.value = reply.current;
     request.maximum = reply.maximum;
     return reply;
+}
+
+bool SimulatedMonitor::continuesStream(const Request &request) const
+{
+    return request.kind == RequestKind::Read && isContinuation(request.code) && m_stream;
 }
 
 /// Serves a request by the vendor protocol.
@@ -198,9 +176,12 @@ Reply SimulatedMonitor::command(Request &request)
     }
     if (request.kind == RequestKind::Read) {
         m_selectorExpected = request.code == kSceneCode;
-        return answer(request.code);
+        return m_memory.answer(request.code);
     }
-    take(request);
+    if (!m_memory.take(request.code, request.value)) {
+        ++m_protocolFaults.badValues;
+        request.outcome = Outcome::Adjusted;
+    }
     return {};
 }
 
@@ -215,83 +196,13 @@ bool SimulatedMonitor::matchesAnnouncement(const Request &request, const Announc
     return matches;
 }
 
-Reply SimulatedMonitor::answer(std::uint8_t code) const
-{
-    const std::uint16_t maximum = code == kOfficeSizeCode ? m_model.officeWidth
-                                  : code == kSceneCode    ? kLastMode
-                                  : isReadOnly(code)      ? 0xFFFF
-                                                          : osdFunction(code).maximum;
-    return {0, m_values[code], maximum};
-}
-
 /// Four bytes a reply: maximum high and low, current high and low.
 Reply SimulatedMonitor::answerChunk() const
 {
-    const SceneBlock &block = m_blocks[static_cast<std::size_t>(m_stream->mode)];
+    const SceneBlock &block = m_memory.block(m_stream->mode);
     const auto *bytes = block.data() + m_stream->chunk * kChunkSize;
     const auto word = [bytes](int i) { return static_cast<std::uint32_t>(bytes[i] << 8 | bytes[i + 1]); };
     return {0, word(2), word(0)};
-}
-
-/// Takes a written value as far as it makes sense: a number is limited, anything else out of range is ignored.
-void SimulatedMonitor::take(Request &request)
-{
-    if (request.code == kOfficeSizeCode && isPaperSize(m_model, request.value))
-        return; // which changes nothing that can be read back
-    const OsdFunction function = osdFunction(request.code);
-    const auto isOption = [&](const OsdOption &option) { return option.value == request.value; };
-    const bool known =
-        request.code == kSceneCode ? request.value <= kLastMode && offersScene(m_model, static_cast<int>(request.value))
-        : function.options.empty() ? true
-                                   : std::any_of(function.options.begin(), function.options.end(), isOption);
-    const bool isNumber = function.options.empty() && request.code != kSceneCode;
-    const bool inRange = !isNumber || request.value <= function.maximum;
-    if (!known || !inRange || isReadOnly(request.code)) {
-        ++m_protocolFaults.badValues;
-        request.outcome = Outcome::Adjusted;
-    }
-    if (known && !isReadOnly(request.code)) {
-        const std::uint32_t limit = isNumber ? function.maximum : 0xFFFF;
-        apply(request.code, static_cast<std::uint16_t>(std::min(request.value, limit)));
-    }
-}
-
-void SimulatedMonitor::apply(std::uint8_t code, std::uint16_t value)
-{
-    if (code == kSceneCode)
-        return changeScene(value);
-    if (code == kResetCode)
-        return resetToFactory();
-    m_values[code] = value;
-    const int mode = m_values[kSceneCode];
-    const auto codes = blockCodes();
-    const auto found = std::find(codes.begin(), codes.end(), code);
-    // A factory mode forgets what was changed in it as soon as it is left.
-    if (found != codes.end() && isCustom(mode))
-        m_blocks[static_cast<std::size_t>(mode)][static_cast<std::size_t>(found - codes.begin())] =
-            static_cast<std::uint8_t>(value);
-}
-
-void SimulatedMonitor::changeScene(int mode)
-{
-    m_values[kSceneCode] = static_cast<std::uint16_t>(mode);
-    if (mode < kFirstMode || mode > kLastMode)
-        return;
-    const SceneBlock &block = m_blocks[static_cast<std::size_t>(mode)];
-    const auto codes = blockCodes();
-    for (std::size_t i = 0; i < codes.size(); ++i)
-        m_values[codes[i]] = block[i];
-}
-
-void SimulatedMonitor::resetToFactory()
-{
-    for (const std::uint8_t code : commandCodes()) {
-        if (!isReadOnly(code))
-            m_values[code] = osdFunction(code).factory;
-    }
-    for (int mode = kFirstMode; mode <= kLastMode; ++mode)
-        m_blocks[static_cast<std::size_t>(mode)] = factoryBlock(mode);
-    changeScene(kFirstMode);
 }
 
 void SimulatedMonitor::forgetConversation()
@@ -304,19 +215,19 @@ void SimulatedMonitor::forgetConversation()
 std::uint16_t SimulatedMonitor::value(std::uint8_t code) const
 {
     const std::lock_guard lock(m_mutex);
-    return m_values[code];
+    return m_memory.value(code);
 }
 
 std::uint16_t SimulatedMonitor::maximum(std::uint8_t code) const
 {
     const std::lock_guard lock(m_mutex);
-    return static_cast<std::uint16_t>(answer(code).maximum);
+    return static_cast<std::uint16_t>(m_memory.answer(code).maximum);
 }
 
 void SimulatedMonitor::setValue(std::uint8_t code, std::uint16_t value)
 {
     const std::lock_guard lock(m_mutex);
-    apply(code, value);
+    m_memory.set(code, value);
 }
 
 QByteArray SimulatedMonitor::block(int mode) const
@@ -324,25 +235,33 @@ QByteArray SimulatedMonitor::block(int mode) const
     if (mode < kFirstMode || mode > kLastMode)
         return {};
     const std::lock_guard lock(m_mutex);
-    const SceneBlock &block = m_blocks[static_cast<std::size_t>(mode)];
-    return {reinterpret_cast<const char *>(block.data()), kBlockSize};
+    return {reinterpret_cast<const char *>(m_memory.block(mode).data()), kBlockSize};
 }
 
 void SimulatedMonitor::setBlock(int mode, const QByteArray &bytes)
 {
-    if (!isCustom(mode))
-        return;
     const std::lock_guard lock(m_mutex);
-    const auto size = std::min<std::size_t>(static_cast<std::size_t>(bytes.size()), kBlockSize);
-    std::memcpy(m_blocks[static_cast<std::size_t>(mode)].data(), bytes.constData(), size);
-    if (m_values[kSceneCode] == mode)
-        changeScene(mode);
+    m_memory.setBlock(mode, bytes);
 }
 
-Faults::Armed SimulatedMonitor::armedFaults() const
+void SimulatedMonitor::arm(const MonitorFault &fault, int times, int code)
 {
     const std::lock_guard lock(m_mutex);
-    return m_faults.armed();
+    m_faults.arm(fault, times, code);
+}
+
+bool SimulatedMonitor::isOn(const MonitorFault &fault) const
+{
+    if (const auto *event = std::get_if<DeskEvent>(&fault.does))
+        return event->lasts != nullptr && event->lasts(*this);
+    const std::lock_guard lock(m_mutex);
+    return m_faults.isArmed(fault);
+}
+
+void SimulatedMonitor::recover()
+{
+    const std::lock_guard lock(m_mutex);
+    m_faults.clear();
 }
 
 void SimulatedMonitor::setPlugged(bool plugged)

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <atomic>
 #include <deque>
 #include <functional>
@@ -13,7 +12,7 @@
 
 #include "platform/clock.h"
 #include "virtualdesk/faults.h"
-#include "virtualdesk/monitormodel.h"
+#include "virtualdesk/monitormemory.h"
 #include "virtualdesk/replay.h"
 #include "virtualdesk/request.h"
 
@@ -56,19 +55,22 @@ public:
 
     // Faults. Counts are requests, or kForEver.
 
-    void refuse(std::uint8_t code, int times = 1) { arm(&Faults::refuse, code, times); }
-    void refuseWrites(int times = 1) { arm(&Faults::refuseWrites, times); }
-    /// The next reads are done, but the caller sees them fail; code may narrow it to one code.
-    void loseReplies(int times = 1, int code = Faults::kAnyCommand) { arm(&Faults::loseReplies, times, code); }
-    /// The next reads answer wrong numbers.
-    void garbleReplies(int times = 1, int code = Faults::kAnyCommand) { arm(&Faults::garbleReplies, times, code); }
-    /// The next continuations of table streams fail; 0xFF then brings the four bytes that got lost.
-    void dropChunks(int times = 1) { arm(&Faults::dropChunks, times); }
-    /// Every request fails from now on, and a conversation is forgotten; it hears again after so many requests.
-    void goDeaf(int requests = kForEver) { arm(&Faults::goDeaf, requests); }
+    /// Arms a fault of the wire for the next requests; where it may be for one code, a code narrows it to that.
+    void arm(const MonitorFault &fault, int times, int code = kAnyCommand);
+    void arm(const char *word, int times, int code = kAnyCommand) { arm(*findFault(QLatin1String(word)), times, code); }
+    /// Whether a fault waits for a request, or lasts.
+    bool isOn(const MonitorFault &fault) const;
     /// Ends every fault.
-    void recover() { arm(&Faults::clear); }
-    Faults::Armed armedFaults() const;
+    void recover();
+
+    // Those that are asked for most.
+
+    void refuse(std::uint8_t code, int times = 1) { arm("refuse", times, code); }
+    void refuseWrites(int times = 1) { arm("refuse_writes", times); }
+    void loseReplies(int times = 1, int code = kAnyCommand) { arm("lose_replies", times, code); }
+    void garbleReplies(int times = 1, int code = kAnyCommand) { arm("garble", times, code); }
+    void dropChunks(int times = 1) { arm("drop_chunks", times); }
+    void goDeaf(int requests = kForEver) { arm("deaf", requests); }
 
     /// Asleep it answers nothing; what its buttons change is changed all the same.
     void setAsleep(bool asleep) { m_asleep = asleep; }
@@ -135,12 +137,6 @@ private:
         int chunk; ///< the four bytes sent last; 10 is past the end
     };
 
-    template <typename... Arguments, typename... Given> void arm(void (Faults::*fault)(Arguments...), Given... given)
-    {
-        const std::lock_guard lock(m_mutex);
-        (m_faults.*fault)(given...);
-    }
-
     Reply request(RequestKind kind, std::uint8_t code, std::uint32_t value);
     Reply serve(Request &request);
     Reply converse(Request &request);
@@ -148,12 +144,8 @@ private:
     Reply continueStream(Request &request);
     Reply command(Request &request);
     bool matchesAnnouncement(const Request &request, const Announcement &announcement);
-    Reply answer(std::uint8_t code) const;
+    bool continuesStream(const Request &request) const;
     Reply answerChunk() const;
-    void take(Request &request);
-    void apply(std::uint8_t code, std::uint16_t value);
-    void changeScene(int mode);
-    void resetToFactory();
     void forgetConversation();
     void tell(const Request &request);
 
@@ -165,8 +157,7 @@ private:
     std::atomic<std::int64_t> m_delay = 0;
 
     mutable std::mutex m_mutex; // guards everything down to the listeners
-    std::array<std::uint16_t, 256> m_values{};
-    std::array<SceneBlock, kLastMode + 1> m_blocks{};
+    MonitorMemory m_memory;
     std::optional<Announcement> m_announcement;
     std::optional<Stream> m_stream;
     bool m_selectorExpected = false;
