@@ -43,6 +43,17 @@ constexpr SceneTaste kTastes[] = {
     {25, 80, 55, 6, 5, 2, 60, 0}, {27, 72, 55, 6, 5, 3, 60, 0}, {59, 40, 42, 3, 0, 3, 45, 1}};
 constexpr SceneTaste kColorManaged = {0, 48, 50, 4, 3, 3, 50, 0}; // every other mode: a calibrated space
 
+// What only some models have, and the capability that tells so.
+struct BoundCodes
+{
+    std::uint8_t first, last;
+    Capability capability;
+};
+constexpr BoundCodes kBoundCodes[] = {
+    {0x01, 0x0B, OledPanel},     {0x0D, 0x0E, OledPanel},   {0x30, 0x37, GameFunctions}, {0x3D, 0x3F, GameFunctions},
+    {0x63, 0x63, GameFunctions}, {0x46, 0x46, HaloControl}, {0x47, 0x47, LocalDimming}};
+constexpr std::uint8_t kSystemCodes[] = {kSceneCode, kResetCode, kCapabilityCode, kFirmwareCode, kOfficeSizeCode};
+
 int byteOf(std::uint8_t code)
 {
     return static_cast<int>(std::find(std::begin(kBlockCodes), std::end(kBlockCodes), code) - std::begin(kBlockCodes));
@@ -99,6 +110,18 @@ SceneBlock factoryBlock(int mode)
     for (std::uint8_t code = 0x59; code <= 0x5E; ++code)
         put(code, taste.saturation);
     return block;
+}
+
+bool hasFunction(const MonitorModel &model, std::uint8_t code)
+{
+    for (const BoundCodes &bound : kBoundCodes) {
+        if (code >= bound.first && code <= bound.last)
+            return (model.capabilities & bound.capability) != 0;
+    }
+    const auto isIn = [code](std::span<const std::uint8_t> codes) {
+        return std::find(codes.begin(), codes.end(), code) != codes.end();
+    };
+    return *osdFunction(code).name != '\0' || isIn(kBlockCodes) || isIn(kSystemCodes);
 }
 
 bool offersScene(const MonitorModel &model, int mode)

@@ -58,6 +58,10 @@ std::span<const std::uint8_t> blockCodes();
 /// The picture that a scene mode has from the factory; custom modes begin with their neighbour's.
 SceneBlock factoryBlock(int mode);
 
+/// Whether the model has something behind a command code, with a menu entry or without. One that has not answers all
+/// the same, as the real ones do.
+bool hasFunction(const MonitorModel &model, std::uint8_t code);
+
 /// Whether the model offers the scene mode.
 bool offersScene(const MonitorModel &model, int mode);
 

@@ -47,15 +47,6 @@ constexpr GatheredRow kGatheredRows[] = {
 
 constexpr std::uint8_t kMotionCode = 0x48;
 
-bool hasFunction(const MonitorModel &model, const OsdFunction &function)
-{
-    if (function.code == 0x47)
-        return (model.capabilities & LocalDimming) != 0;
-    if (function.code == 0x46)
-        return (model.capabilities & HaloControl) != 0;
-    return true;
-}
-
 QString requestLine(const Request &request)
 {
     return QStringLiteral("%1 %2 %3 %4 %5")
@@ -300,7 +291,7 @@ void MonitorPanel::refreshOsd()
     for (const OsdFunction &function : osdMenu()) {
         const bool isMpcs = function.code == kMotionCode && (model.capabilities & MotionIsMpcs) != 0;
         put(isMpcs ? QObject::tr("MPCS") : osdName(function), osdValueText(function, monitor().value(function.code)),
-            hasFunction(model, function));
+            hasFunction(model, function.code));
     }
     for (const GatheredRow &gathered : kGatheredRows) {
         QStringList values;
