@@ -16,6 +16,7 @@ LeftBar::LeftBar(std::vector<NavigationEntry> entries, QWidget *parent) : QWidge
         const NavigationEntry &entry = m_entries[i];
         const QString icon = Pictures::kRoot + QLatin1String("img/entry/") + QLatin1String(entry.icon);
         auto *button = new LeftTabButton(icon, QObject::tr(entry.label), this);
+        button->setObjectName(QStringLiteral("entry_") + QLatin1String(entry.label));
         connect(button, &LeftTabButton::clicked, this, [this, index = static_cast<int>(i)] {
             setCurrent(index);
             Q_EMIT entryChosen(index);

@@ -25,6 +25,7 @@ TopTabFrame::TopTabFrame(QWidget *parent) : QFrame(parent)
     for (const NavigationFamily &family : navigationFamilies()) {
         const QString icon = Pictures::kRoot + QLatin1String("img/tab/") + QLatin1String(family.icon);
         auto *tab = new TopTab(icon, QObject::tr(family.label), this);
+        tab->setObjectName(QStringLiteral("tab_") + QLatin1String(family.label));
         connect(tab, &TopTab::clicked, this,
                 [this, index = static_cast<int>(m_tabs.size())] { Q_EMIT tabChosen(index); });
         m_tabs.push_back(tab);
@@ -33,6 +34,7 @@ TopTabFrame::TopTabFrame(QWidget *parent) : QFrame(parent)
     row->addStretch(1);
     m_minimise = new TopWindowButton(Pictures::kRoot + QStringLiteral("img/top_min"), this);
     m_close = new TopWindowButton(Pictures::kRoot + QStringLiteral("img/top_close"), this);
+    m_close->setObjectName(QStringLiteral("windowClose"));
     connect(m_minimise, &TopWindowButton::clicked, this, &TopTabFrame::minimiseClicked);
     connect(m_close, &TopWindowButton::clicked, this, &TopTabFrame::closeClicked);
     row->addWidget(m_minimise);

@@ -21,6 +21,7 @@ SliderWidget::SliderWidget(const QString &name, int minimum, int maximum, QWidge
     setObjectName(name);
     m_captionLabel->setStyleSheet(kCaptionStyle);
     m_captionLabel->setBuddy(m_slider);
+    m_slider->setObjectName(name + QStringLiteral("_slider"));
     m_slider->setRange(minimum, maximum);
     QFont font = m_valueLabel->font();
     font.setPixelSize(kCaptionPixels);

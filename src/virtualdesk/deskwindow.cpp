@@ -69,6 +69,7 @@ DeskWindow::DeskWindow(VirtualDesk &desk) : m_tabs(new QTabWidget(this))
     font.setPixelSize(13);
     setFont(font);
     m_tabs->tabBar()->setDrawBase(false);
+    m_tabs->tabBar()->setObjectName(QStringLiteral("deskTabs"));
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(kMargin, 8, kMargin, kMargin);

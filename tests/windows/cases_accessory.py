@@ -1,15 +1,9 @@
 """The LED-matrix accessory: found, written to, failing, unplugged and back."""
 
-from casekit import NIGHT_LOOM_TAB_X, open_page, started
+from casekit import open_page, started
 from rig import put, wait_for
 
-SYSTEM_SETTINGS = 3
-CUSTOM_MODE = 4
 FIRST_MODE = 0x24
-DRAWN_CELLS = [(576, 304), (616, 304), (601, 754)]  # the last one lies in the last row
-SAVE_ANIMATE = (1019, 497)
-WRITE_ANIMATE = (1162, 497)
-LAMP = {"Close": (477, 269), "Open": (562, 269)}
 LIVE_STOP = bytes((0xE0, 0x01))
 LAMP_OPEN = bytes((0xD0, 0x04, 0x01))
 LAMP_CLOSE = bytes((0xD0, 0x04, 0x00))
@@ -45,9 +39,8 @@ def report(command):
 
 
 def show_settings(run):
-    window = run.start_and_show()
-    open_page(run, window, NIGHT_LOOM_TAB_X, SYSTEM_SETTINGS)
-    return window
+    run.start_and_show()
+    open_page(run, "Night Loom", "System Settings")
 
 
 def expect(run, seen, events):
@@ -66,14 +59,14 @@ def expect_warning(run):
 def case_accessory_lamp(rig):
     """The accessory is found among other devices and opened at the start; the lamp's button opens it anew and writes."""
     with with_accessory(rig, "accessory_lamp") as run:
-        window = show_settings(run)
+        show_settings(run)
         lines = [line for line in run.log() if "HID " in line]
         assert len(lines) == 2, lines
         assert lines[0].rstrip().endswith("HID device find") and "HID open OK" in lines[1], lines
         seen = REOPENED[1:]
         assert happened(run) == seen, happened(run)
         for name, lamp in (("Open", LAMP_OPEN), ("Close", LAMP_CLOSE)):
-            run.click(window, *LAMP[name])
+            run.click(f"Matrix Lamp_{name}")
             events = [*REOPENED, report(LIVE_STOP), report(lamp)]
             expect(run, len(seen), events)
             seen = seen + events
@@ -82,14 +75,14 @@ def case_accessory_lamp(rig):
 def case_accessory_absent(rig):
     """Without the accessory its buttons warn each time and write nothing; a failing one is only logged."""
     with with_accessory(rig, "accessory_absent", "absent") as run:
-        window = show_settings(run)
+        show_settings(run)
         assert run.logged("HID device  not find") and not run.logged("HID open"), run.log()
         for _ in range(2):
-            run.click(window, *LAMP["Open"])
+            run.click("Matrix Lamp_Open")
             expect_warning(run)
         assert happened(run) == [], happened(run)
         set_state(run, "failing")
-        run.click(window, *LAMP["Open"])
+        run.click("Matrix Lamp_Open")
         expect(run, 0, [*REOPENED[1:], report(LIVE_STOP) + " failed", report(LAMP_OPEN) + " failed"])
         wait_for(lambda: len(run.logged("HID write error.")) == 2, "the log of the failures")
         assert not run.window("Warning")
@@ -98,12 +91,12 @@ def case_accessory_absent(rig):
 def case_accessory_replugged(rig):
     """An accessory pulled out between two reports is missed at the next; its return is heard and it is opened again."""
     with with_accessory(rig, "accessory_replugged", "vanish 2") as run:
-        window = show_settings(run)
-        run.click(window, *LAMP["Open"])
+        show_settings(run)
+        run.click("Matrix Lamp_Open")
         wait_for(lambda: run.logged("HID write error."), "the log of the failure")
         seen = [*REOPENED[1:], *REOPENED, report(LIVE_STOP), report(LAMP_OPEN) + " failed"]
         expect(run, 0, seen)
-        run.click(window, *LAMP["Close"])
+        run.click("Matrix Lamp_Close")
         expect_warning(run)
         seen = seen + ["close"]
         expect(run, 0, seen)
@@ -119,7 +112,7 @@ def case_accessory_replugged(rig):
         run.announce("accessory")  # the same device under its own class
         expect(run, len(seen), REOPENED)
         seen = happened(run)
-        run.click(window, *LAMP["Close"])
+        run.click("Matrix Lamp_Close")
         expect(run, len(seen), [*REOPENED, report(LIVE_STOP), report(LAMP_CLOSE)])
 
 
@@ -136,20 +129,22 @@ def upload_reports(mode, digits):
 def case_upload(rig):
     """A drawn animation goes out cell by cell; pulling out the accessory ends an upload, which is logged."""
     with with_accessory(rig, "upload") as run:
-        window = run.start_and_show()
-        open_page(run, window, NIGHT_LOOM_TAB_X, CUSTOM_MODE)
-        for place in DRAWN_CELLS:
-            run.click(window, *place)
-        run.click(window, *SAVE_ANIMATE)
+        run.start_and_show()
+        open_page(run, "Night Loom", "Custom Mode")
+        x, y, width, height = run.place("LEDMatrixWidget")
+        cells = [(x + width // 3, y + height // 8), (x + width // 2, y + height // 8), (x + width // 2, y + height - 4)]
+        for cell in cells:  # the last one lies in the last row
+            run.click_at(*cell)
+        run.click("Save Animate")
         saved = run.folder / "LEDMatrixData.txt"
         wait_for(saved.exists, "the saved animation")
         digits = saved.read_bytes()
-        assert len(digits) == 949 and digits.count(b"1") == len(DRAWN_CELLS), digits
+        assert len(digits) == 949 and digits.count(b"1") == len(cells), digits
         whole = upload_reports(FIRST_MODE, digits)
-        run.click(window, *WRITE_ANIMATE)
+        run.click("Write Animate")
         seen = [*REOPENED[1:], *REOPENED, *whole]
         expect(run, 0, seen)
         set_state(run, "vanish 5")
-        run.click(window, *WRITE_ANIMATE)
+        run.click("Write Animate")
         wait_for(lambda: run.logged("HID write error."), "the log of the failure")
         expect(run, len(seen), [*REOPENED, *whole[:4], whole[4] + " failed"])

@@ -4,11 +4,9 @@ import cmath
 import math
 
 from cases_accessory import LIVE_STOP, happened, report, with_accessory
-from casekit import NIGHT_LOOM_TAB_X, open_page
+from casekit import open_page
 from rig import put, wait_for
 
-MUSIC_MODE = 2
-SWITCH = {"Close": (477, 189), "Open": (562, 189)}
 LIVE_FRAME = "01 E0 00 "
 
 # The rectangle: a bar is two cells wide, on every fourth column, its foot in the last row.
@@ -90,15 +88,14 @@ def with_sound(rig, name):
 
 
 def switch_on(run):
-    window = run.start_and_show()
-    open_page(run, window, NIGHT_LOOM_TAB_X, MUSIC_MODE)
-    run.click(window, *SWITCH["Open"])
-    return window
+    run.start_and_show()
+    open_page(run, "Night Loom", "Music Mode")
+    run.click("Music Mode_Open")
 
 
-def switch_off(run, window):
+def switch_off(run):
     """The last report stops the live frames, and nothing is left of the capture."""
-    run.click(window, *SWITCH["Close"])
+    run.click("Music Mode_Close")
     wait_for(lambda: report(LIVE_STOP) in happened(run) and asked(run)[-1] == "gone", "the end of the capture")
     assert happened(run)[-1] == report(LIVE_STOP), happened(run)[-1]
 
@@ -121,7 +118,7 @@ def case_music_bars(rig):
     nothing new; switched off, the accessory is told so and the device is let go."""
     with with_sound(rig, "music_bars") as run:
         play(run, "tone 1900")
-        window = switch_on(run)
+        switch_on(run)
         expect_bars(run, (1900, 48000, 2, 480, 4800), 4)
         play(run, "tone 8000")
         expect_bars(run, (8000, 48000, 2, 480, 4800), 8)
@@ -140,7 +137,7 @@ def case_music_bars(rig):
         assert len(live_chunks(run)) - shown <= CHUNKS, "frames of silence"  # one may have been under way
         play(run, "tone 3000", "rate 44100", "channels 8", "packet 441")
         wait_for(lambda: len(live_chunks(run)) > shown + CHUNKS, "bars again")
-        switch_off(run, window)
+        switch_off(run)
 
 
 def case_music_log_off(rig):
@@ -160,7 +157,7 @@ def case_music_failures(rig):
     stopped = ["The Windows audio service is not running.", "FAILED(hr)1 0x88890010"]
     with with_sound(rig, "music_failures") as run:
         play(run, "tone 1900")
-        window = switch_on(run)
+        switch_on(run)
         wait_for(lambda: live_chunks(run), "the first bars")
         for faults, events, logged in (
                 (["next 88890004 1"], opened(), lost),
@@ -180,14 +177,14 @@ def case_music_failures(rig):
             wait_for(lambda: len(live_chunks(run)) > shown + CHUNKS, f"bars after {faults}")
             assert asked(run)[seen:] == events, (faults, asked(run)[seen:])
             assert failures(run)[said:] == logged, (faults, failures(run)[said:])
-        switch_off(run, window)
+        switch_off(run)
 
 
 def case_music_no_endpoint(rig):
     """Without a device, or with one whose samples are not understood, nothing is logged or shown. It is looked for
     again until there is one."""
     with with_sound(rig, "music_no_endpoint") as run:
-        window = switch_on(run)
+        switch_on(run)
         none = ["endpoint", "gone"]
         wait_for(lambda: asked(run) == none * 2, "the second look")
         play(run, "tone 1900", "integer")
@@ -195,4 +192,4 @@ def case_music_no_endpoint(rig):
         assert not live_chunks(run) and not failures(run), run.log()
         play(run, "tone 1900")
         expect_bars(run, (1900, 48000, 2, 480, 4800), 4)
-        switch_off(run, window)
+        switch_off(run)

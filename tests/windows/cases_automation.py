@@ -4,11 +4,9 @@ import contextlib
 import shutil
 import time
 
-from casekit import BASIC_TAB_X, REGISTERS, open_page, started
+from casekit import REGISTERS, open_page, started
 from rig import START_SECONDS, wait_for, windows_path
 
-SHORTCUT_KEY = 1
-APPLY_BUTTON = (1191, 214)
 PROBLEM_COLOUR = "#da676d"
 BRIGHTNESS = 0x10
 KEYS = "[basicMode]\nswitchStatus=on\n\n[12]\nswitchStatus=on\nplusKey=Ctrl+B\nsubKey=Ctrl+Alt+D\n"
@@ -84,14 +82,14 @@ def case_taken_key(rig):
         held = run.folder / "held.txt"
         wait_for(held.exists, "the other program's key")
         window = run.start_and_show()
-        open_page(run, window, BASIC_TAB_X, SHORTCUT_KEY)
+        open_page(run, "Basic", "Shortcut Key")
         wait_for(lambda: problem_dots(run, window) > 50, "the problem at the row")
         seen = len(run.requests())
         run.press("ctrl+b")
         wait_for(lambda: held.read_text() == "pressed\n", "the key in the other program")
         holder.kill()
         holder.wait(10)
-        run.click(window, *APPLY_BUTTON)
+        run.click("pushButtonAppli")
         wait_for(lambda: problem_dots(run, window) == 0, "the problem to go")
         assert run.requests()[seen:] == [], run.requests()[seen:]
         run.press("ctrl+b")

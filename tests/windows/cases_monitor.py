@@ -3,16 +3,11 @@
 import subprocess
 import time
 
-from casekit import (BASIC_TAB_X, LEFT_BAR_X, PAGE_LIST_X, PAGE_LIST_Y, TOP_BAR_Y, codes_of, end_at_exit_box, entry_y,
-                     started, writes_of)
+from casekit import codes_of, end_at_exit_box, open_page, started, writes_of
 from rig import START_SECONDS, edid, time_of, wait_for
 
-STANDARD = (1, 2)
-CAD_CAM = (3, 4)
-HEALTH_PAGE = ((BASIC_TAB_X, TOP_BAR_Y), (LEFT_BAR_X, entry_y(4)), (PAGE_LIST_X, PAGE_LIST_Y + 48 * 2))
-READ_BUTTON, RECORD_BUTTON = (608, 674), (890, 674)
-SCENE_TAB = (267, TOP_BAR_Y)
-BRIGHTNESS_40, BRIGHTNESS_80 = (527, 216), (604, 216)
+STANDARD = ("entry_Standard Mode", (1, 2))
+CAD_CAM = ("entry_CAD/CAM Mode", (3, 4))
 
 
 def colours_of(run, window):
@@ -42,10 +37,10 @@ def case_first_read(rig):
 def case_scene_by_mouse(rig):
     """A scene chosen with the mouse reaches the monitor as the vendor code and then the scene code, same value."""
     with started(rig, "scene_by_mouse") as run:
-        window = run.start_and_show()
-        for index, values in enumerate((STANDARD, CAD_CAM)):
+        run.start_and_show()
+        for name, values in (STANDARD, CAD_CAM):
             seen = len(run.requests())
-            run.click(window, LEFT_BAR_X, entry_y(index))
+            run.click(name)
             wait_for(lambda: "22" in codes_of(writes_of(run.requests()[seen:])), "the write of the scene")
             writes = writes_of(run.requests()[seen:])
             value = int(writes[0].split()[2])
@@ -57,11 +52,11 @@ def case_refused_write(rig):
     """A write refused twice leads to a new search, after which the next write arrives. The old handle was 0: also that
     one is used and given back."""
     with started(rig, "refused_write") as run:
-        window = run.start_and_show()
+        run.start_and_show()
         searches = len(run.logged("monitor counts:"))
         seen = len(run.requests())
         run.refuse("W 99")
-        run.click(window, LEFT_BAR_X, entry_y(0))
+        run.click(STANDARD[0])
         started_again = wait_for(lambda: run.logged("delayedSearchDevices: Reloader EDID Type:"), "the new search")
         assert started_again[0].rstrip().endswith(" 0"), started_again
         wait_for(lambda: run.logged("Reconnet device..."), "the reconnection")
@@ -71,7 +66,7 @@ def case_refused_write(rig):
         assert len(run.logged("monitor counts:")) == searches + 1
         run.refuse()
         seen = len(run.requests())
-        run.click(window, LEFT_BAR_X, entry_y(1))
+        run.click(CAD_CAM[0])
         wait_for(lambda: "22" in codes_of(writes_of(run.requests()[seen:])), "the write after the search")
         assert run.handles() == ["opened 0", "closed 0", "opened 1"], run.handles()
 
@@ -157,20 +152,28 @@ def case_recording(rig):
     """What the program records while it is used, with values that are not told and writes that are not taken, another
     machine's simulated desk answers as the monitor itself wrote it down, byte for byte."""
     with started(rig, "recording") as run:
-        window = run.start_and_show()
+        run.start_and_show()
 
-        def press(*places):
-            for place in places:
-                run.click(window, *place)
+        def slide(value):
+            x, y, width, height = run.place("Brightness_slider")
+            run.click_at(x + width * value // 100, y + height // 2)
+
+        def open_health():
+            open_page(run, "Basic", "Tool Settings")
+            run.click("Monitor Health")
             return run.settled()
-        begin = press(*HEALTH_PAGE)
-        press(RECORD_BUTTON)
-        for refused, place in ((("R 12", "R FE"), READ_BUTTON), ((), SCENE_TAB), (("W 10",), BRIGHTNESS_40),
-                               ((), BRIGHTNESS_80), ((), (LEFT_BAR_X, entry_y(0)))):
+        begin = open_health()
+        run.click("record")
+        run.settled()
+        for refused, act in ((("R 12", "R FE"), lambda: run.click("readEverything")), ((), lambda: run.click("tab_Scene")),
+                             (("W 10",), lambda: slide(40)), ((), lambda: slide(80)), ((), lambda: run.click(STANDARD[0]))):
             run.refuse(*refused)
-            press(place)
-        end = press(*HEALTH_PAGE)
-        assert press(RECORD_BUTTON, READ_BUTTON) > end  # what is not recorded any more
+            act()
+            run.settled()
+        end = open_health()
+        run.click("record")
+        run.click("readEverything")
+        assert run.settled() > end  # what is not recorded any more
         next(run.folder.glob("recording-*.jsonl")).rename(run.folder / "recording.jsonl")
         (run.folder / "bytes.txt").write_text("".join(line + "\n" for line in run.bytes_told()[begin:end]))
         replayed = subprocess.run([rig.suites / "tst_linkrecord", "recordingOfWindowsReplays"], text=True,

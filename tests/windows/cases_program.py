@@ -3,17 +3,11 @@
 import shutil
 import time
 
-from casekit import BLOCK, PAGE_LIST_X, PAGE_LIST_Y, REGISTERS, TOP_BAR_Y, open_basic_page, started, writes_of
+from casekit import BLOCK, REGISTERS, open_page, started, writes_of
 from rig import START_SECONDS, wait_for, windows_path
 
 EXIT_REFUSED = 255  # -1, as the shell sees it
-CLOSE_BUTTON_X = 1243
-PANEL_NOTHING, PANEL_BRIGHTNESS = (150, 30), (219, 204)
-SERVICE_SETTINGS = 3
-TOOL_SETTINGS = 4
-RUN_ON_STARTUP = {"Yes": (710, 189), "No": (796, 189)}
-LANGUAGES = {"en": (796, 243), "ja_JP": (968, 243)}
-UPGRADE_BUTTON = (620, 245)  # whether the note above it takes one line or two
+LANGUAGES = {"en": "Tool language settings_English", "ja_JP": "Tool language settings_日本語"}
 
 
 def case_second_instance(rig):
@@ -51,7 +45,8 @@ def case_tray_panel(rig):
     the panel, wholly on the screen; fifty notches of the wheel in a second end with the last value in at most twelve
     writes; Escape closes it, and a double press shows the window."""
     with started(rig, "tray_panel", registers=REGISTERS | {0x10: BLOCK[0]}) as run:
-        run.click(run.start_and_show(), CLOSE_BUTTON_X, TOP_BAR_Y)
+        run.start_and_show()
+        run.click("windowClose")
         wait_for(lambda: not run.window(), "the window to hide")
         run.announce("monitor")
         wait_for(lambda: run.logged("Reconnet device..."), "the reconnection")
@@ -59,8 +54,9 @@ def case_tray_panel(rig):
         panel = x, y, width, height = wait_for(run.window, "the panel")
         assert width == 360 and x >= 0 and y >= 0 and x + width <= 1600 and y + height <= 1000, panel
         begin = run.settled()
-        run.click(panel, *PANEL_NOTHING)  # Wine's tray, a window itself, has the keyboard
-        rig.run(["xdotool", "mousemove", str(x + PANEL_BRIGHTNESS[0]), str(y + PANEL_BRIGHTNESS[1])])
+        run.click("panelHint")  # Wine's tray, a window itself, has the keyboard
+        x, y, width, height = run.place("Brightness_slider")
+        rig.run(["xdotool", "mousemove", str(x + width // 2), str(y + height // 2)])
         wheel = time.monotonic()
         rig.run(["xdotool", "click", "--repeat", "50", "--delay", "20", "5"])
         wheel = time.monotonic() - wheel
@@ -78,13 +74,13 @@ def case_log_off(rig):
     """Logging off ends the program at once, from the tray and under an open question, which then counts as "No"."""
     for question in (False, True):
         with started(rig, "log_off") as run:
-            window = run.start_and_show()
+            run.start_and_show()
             if question:
-                open_basic_page(run, window, TOOL_SETTINGS)
-                run.click(window, *LANGUAGES["ja_JP"])
+                open_page(run, "Basic", "Tool Settings")
+                run.click(LANGUAGES["ja_JP"])
                 wait_for(lambda: run.active_title() == "Language", "the question")
             else:
-                run.click(window, CLOSE_BUTTON_X, TOP_BAR_Y)
+                run.click("windowClose")
                 wait_for(lambda: not run.window(at_least=800), "the window to hide")
             run.announce("session")
             assert run.processes[0].wait(3) == 0, run.processes[0].returncode
@@ -96,23 +92,23 @@ def case_run_key(rig):
     rig.forget_start()
     try:
         with started(rig, "run_key") as run:
-            window = run.start_and_show()
-            open_basic_page(run, window, TOOL_SETTINGS)
+            run.start_and_show()
+            open_page(run, "Basic", "Tool Settings")
             assert rig.started_with_windows() is None
-            run.click(window, *RUN_ON_STARTUP["Yes"])
+            run.click("Run on startup_Yes")
             command = wait_for(rig.started_with_windows, "the value QUORVEL")
             assert command == windows_path(rig.program / "quorvel.exe"), command
-            run.click(window, *RUN_ON_STARTUP["No"])
+            run.click("Run on startup_No")
             wait_for(lambda: rig.started_with_windows() is None, "the value to go")
     finally:
         rig.forget_start()  # or the next session of this prefix would begin with the program
 
 
-def choose_language(run, window, code, question):
+def choose_language(run, code, question):
     """Presses the language's button in the tool settings and answers the question, whose title is given, with yes.
     Returns when that was, in seconds of the clock of the day."""
-    open_basic_page(run, window, TOOL_SETTINGS)
-    run.click(window, *LANGUAGES[code])
+    open_page(run, "Basic", "Tool Settings")
+    run.click(LANGUAGES[code])
     wait_for(lambda: run.active_title() == question, "the question")
     answered = time.time()
     run.press("Return")
@@ -124,24 +120,24 @@ def case_restart(rig):
     is free in time for it."""
     try:
         with started(rig, "restart") as run:
-            window = run.start_and_show()
+            run.start_and_show()
             first = rig.copies()
             run.start_other(rig.standins / "keyholder.exe", "free", "QUORVEL")
-            chosen = choose_language(run, window, "ja_JP", "Language")
+            chosen = choose_language(run, "ja_JP", "Language")
             assert run.processes[0].wait(15) == 0, run.processes[0].returncode
             free = run.folder / "held.txt"
             wait_for(free.exists, "the name to be free")
             free_after = free.stat().st_mtime - chosen
             print(f"the name was free after {1000 * free_after:.0f} ms")
             assert 0 < free_after < 0.8, free_after
-            window = wait_for(lambda: run.window(at_least=800), "the window of the new copy", START_SECONDS)
+            wait_for(lambda: run.window(at_least=800), "the window of the new copy", START_SECONDS)
             second = rig.copies()
             assert len(first) == len(second) == 1 and first != second, (first, second)
             assert "Language=ja_JP" in (run.folder / "config.ini").read_text().split()
             assert len(run.logged("ReadData from device begin")) == 2, run.log()
             # A copy that finds no monitor ends of itself: so the last one does.
             rig.put_edid(None)
-            choose_language(run, window, "en", "言語")
+            choose_language(run, "en", "言語")
             wait_for(lambda: run.window("Exit"), "the exit box of the last copy", START_SECONDS)
             last = rig.copies()
             assert len(last) == 1 and last != second, (second, last)
@@ -154,10 +150,10 @@ def case_restart(rig):
 def case_upgrader(rig):
     """The upgrade program is told the product line and the language; one beside the program goes before one in the
     working folder."""
-    for name, line, stored, entry, places, expected in (
-            ("upgrader_line_1", 1, None, 2, "both", ["XB", "en"]),
-            ("upgrader_line_2", 2, "ja_JP", 1, "here", ["PW", "ja_JP"]),
-            ("upgrader_line_3", 3, "zh_CN", 1, "beside", ["EXP", "zh"])):
+    for name, line, stored, places, expected in (
+            ("upgrader_line_1", 1, None, "both", ["XB", "en"]),
+            ("upgrader_line_2", 2, "ja_JP", "here", ["PW", "ja_JP"]),
+            ("upgrader_line_3", 3, "zh_CN", "beside", ["EXP", "zh"])):
         with started(rig, name, registers=REGISTERS | {0xED: line << 4}) as run:
             if stored:
                 (run.folder / "config.ini").write_text(f"[General]\nLanguage={stored}\n")
@@ -165,10 +161,10 @@ def case_upgrader(rig):
             for folder in folders:
                 shutil.copy(rig.standins / "Flasqon.exe", folder)
             try:
-                window = run.start_and_show()
-                open_basic_page(run, window, SERVICE_SETTINGS)
-                run.click(window, PAGE_LIST_X, PAGE_LIST_Y + 48 * entry)
-                run.click(window, *UPGRADE_BUTTON)
+                run.start_and_show()
+                open_page(run, "Basic", "Service Settings")
+                run.click("Upgrade")
+                run.click("upgrade")
                 told = run.folder / "flasqon.txt"
                 wait_for(told.exists, "the upgrade program")
                 lines = told.read_text().splitlines()

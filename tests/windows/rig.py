@@ -210,9 +210,24 @@ class Run:
         """The title of the window that has the keyboard; unlike a search, in any script."""
         return self.rig.run(["xdotool", "getactivewindow", "getwindowname"])
 
-    def click(self, window, x, y):
-        """Presses the left mouse button at a place of the window."""
-        self.rig.run(["xdotool", "mousemove", str(window[0] + x), str(window[1] + y), "sleep", "0.2", "click", "1"])
+    def place(self, name):
+        """(x, y, width, height) on the screen of what can be seen of the control of that name; waits for it."""
+        answer = self.monitor / "place.txt"
+
+        def asked():
+            answer.unlink(missing_ok=True)
+            put(self.monitor / "where.txt", name)
+            wait_for(answer.exists, f"the place of {name}")
+            return tuple(map(int, answer.read_text().split()))
+        return wait_for(asked, f"{name} to be seen")
+
+    def click(self, name):
+        """Presses the left mouse button in the middle of a control."""
+        x, y, width, height = self.place(name)
+        self.click_at(x + width // 2, y + height // 2)
+
+    def click_at(self, x, y):
+        self.rig.run(["xdotool", "mousemove", str(x), str(y), "sleep", "0.2", "click", "1"])
 
     def press(self, key):
         self.rig.run(["xdotool", "key", key])

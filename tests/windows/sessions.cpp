@@ -1,18 +1,28 @@
 // The registrations for messages about the session, written down in the folder that the environment variable
-// QUORVEL_TEST_MONITOR names; and the calls of the same library that the toolkit imports.
+// QUORVEL_TEST_MONITOR names; and the calls of the same library that the toolkit imports. The first registration comes
+// from the program's window: from then on the same folder answers where its controls are.
 
 #include <filesystem>
 #include <fstream>
 
 #include <windows.h>
 
+#include <QCoreApplication>
+
+#include "virtualdesk/whereabouts.h"
+
 namespace {
 
-BOOL record(const char *what)
+std::filesystem::path testFolder()
 {
     wchar_t folder[MAX_PATH] = {};
     GetEnvironmentVariableW(L"QUORVEL_TEST_MONITOR", folder, MAX_PATH);
-    std::ofstream(std::filesystem::path(folder) / "sessions.txt", std::ios::app) << what << '\n';
+    return folder;
+}
+
+BOOL record(const char *what)
+{
+    std::ofstream(testFolder() / "sessions.txt", std::ios::app) << what << '\n';
     return TRUE;
 }
 
@@ -22,6 +32,9 @@ extern "C" {
 
 __declspec(dllexport) BOOL WINAPI WTSRegisterSessionNotification(HWND window, DWORD flags)
 {
+    static QObject *const whereabouts =
+        new virtualdesk::Whereabouts(QString::fromStdWString(testFolder().wstring()), qApp);
+    Q_UNUSED(whereabouts);
     return record(window && flags == 0 ? "registered" : "wrong");
 }
 

@@ -12,6 +12,7 @@ program_window=''
 scale=1 # pixels a point
 
 started=() # processes to end with the tool
+places=''  # where a program answers where its controls are, see hands.sh
 scratch='' # sockets and lock files, apart from those of a program that somebody uses meanwhile
 program_pid=''
 
@@ -29,6 +30,7 @@ wait_for() {
 # when close_screen is called.
 open_screen() {
     scratch=$(mktemp -d)
+    places=$scratch
     trap close_screen EXIT
     trap 'exit 130' INT
     trap 'exit 143' TERM HUP
@@ -60,7 +62,8 @@ close_screen() {
 open_program() {
     local program=$1 folder=$2
     shift 2
-    (cd "$folder" && exec env TMPDIR="$scratch" XDG_RUNTIME_DIR="$scratch" QUORVEL_DESK=virtual "$@" "$program") \
+    (cd "$folder" && exec env TMPDIR="$scratch" XDG_RUNTIME_DIR="$scratch" QUORVEL_DESK=virtual \
+        QUORVEL_DESK_PLACES="$places" "$@" "$program") \
         >"$folder/output.txt" 2>&1 &
     program_pid=$!
     program_window=$(window_named QUORVEL 1280) || die "the program shows no window; see $folder"

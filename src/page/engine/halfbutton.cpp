@@ -34,6 +34,7 @@ void dressHalfButton(QPushButton *button)
 QPushButton *makeHalfButton(const char *label, BoundTexts &texts, QWidget *parent)
 {
     auto *button = new QPushButton(parent);
+    button->setObjectName(QStringLiteral("half_") + QString::fromUtf8(label).trimmed());
     button->setCheckable(true);
     button->setFocusPolicy(Qt::StrongFocus);
     texts.bind(label, [button](const QString &text) {

@@ -16,6 +16,7 @@
 #include "virtualdesk/deskwindow.h"
 #include "virtualdesk/requestlog.h"
 #include "virtualdesk/virtualdesk.h"
+#include "virtualdesk/whereabouts.h"
 
 namespace platform {
 
@@ -242,6 +243,9 @@ public:
     void mainWindowShown() override
     {
         VirtualPlatform::mainWindowShown();
+        const QString places = qEnvironmentVariable("QUORVEL_DESK_PLACES");
+        if (!places.isEmpty())
+            new virtualdesk::Whereabouts(places, qApp);
         if (m_window != nullptr || qEnvironmentVariable("QUORVEL_DESK_WINDOW") == QLatin1String("0"))
             return;
         m_window = std::make_unique<virtualdesk::DeskWindow>(ownDesk);
