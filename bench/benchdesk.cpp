@@ -28,7 +28,7 @@ BenchDesk::BenchDesk(bool logged) : m_folderBefore(QDir::currentPath())
 {
     platform::installDesk(&m_platform);
     QDir::setCurrent(m_folder.path());
-    desk.setMutexFolder(m_folder.path());
+    desk.process().setFolder(m_folder.path());
     commandsSuspended = false;
     reloadEdidType = kFullRead;
     currentMonitorIndex = 0;

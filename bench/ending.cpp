@@ -121,7 +121,7 @@ void endProgram(benchmark::State &state)
     state.SetLabel(situation.name);
     for ([[maybe_unused]] auto _ : state) {
         BenchDesk desk;
-        desk.desk.startsPrograms = true; // or it would not really quit
+        desk.desk.process().startsPrograms = true; // or it would not really quit
         desk.monitor().setValue(virtualdesk::kSceneCode, kMovieScene);
         SearchDeviceDlg session;
         session.searchDevices();

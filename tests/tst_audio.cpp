@@ -11,7 +11,6 @@
 #include "page/Nightloom/dateled.h"
 #include "support/sounds.h"
 #include "support/textfile.h"
-#include "virtualdesk/deskscript.h"
 
 using namespace virtualdesk;
 
@@ -68,7 +67,6 @@ private Q_SLOTS:
     void peaksFall();
     void clockDigits();
     void readsWaveFiles();
-    void readsAudioScripts();
 };
 
 void TestAudio::fillsEveryColumn()
@@ -189,32 +187,6 @@ void TestAudio::readsWaveFiles()
         sound.wave = std::make_shared<const WaveData>(*wave);
         for (const int place : {-3, 0, 1}) // the first one with a clock that was set back
             QVERIFY(std::abs(sound.sample(place, 0, wave->sampleRate)) <= 0.5);
-    }
-}
-
-void TestAudio::readsAudioScripts()
-{
-    QString error;
-    const auto setup = parseDeskScript(R"({"audio": {"rate": 44100, "channels": 8, "mix": "float", "plays": "tone",
-        "frequency": 700, "volume": 5, "packet_frames": 33, "converts_rates": true, "present": false,
-        "faults": [{"call": "reset", "result": "0x88890004", "times": "always"}]}})",
-                                       error);
-    QVERIFY2(setup, qPrintable(error));
-    QCOMPARE(setup->sound.sampleRate, 44100);
-    QVERIFY(setup->sound.channels == 8 && setup->sound.mix == MixKind::Float && !setup->sound.present);
-    QVERIFY(setup->sound.sound.sound == Sound::Tone && setup->sound.packetFrames == 33);
-    QCOMPARE(setup->audioFaults.size(), 1u);
-    QVERIFY(setup->audioFaults[0].call == AudioCall::Reset && setup->audioFaults[0].times == kForEver);
-    QCOMPARE(setup->audioFaults[0].result, platform::kAudioDeviceInvalidated);
-
-    for (const char *script :
-         {R"([])", R"({"rate": 3})", R"({"plays": "jazz"})", R"({"plays": "wave", "file": "none.wav"})",
-          R"({"present": 1})", R"({"rat": 48000})", R"({"faults": {}})", R"({"faults": [{}]})",
-          R"({"faults": [{"call": "sing"}]})", R"({"faults": [{"call": "stop", "result": "bad"}]})",
-          R"({"faults": [{"call": "stop", "result": 5}]})", R"({"faults": [{"call": "stop", "time": 5}]})"}) {
-        error.clear();
-        QVERIFY(!parseDeskScript(QByteArray("{\"audio\": ") + script + "}", error));
-        QVERIFY(!error.isEmpty());
     }
 }
 

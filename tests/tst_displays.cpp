@@ -71,7 +71,7 @@ void TestDisplays::projection()
         std::vector<platform::DisplayPath> paths;
         for (const int source : each.sources)
             paths.push_back({7, static_cast<std::uint32_t>(source)});
-        m_desk->desk.setPaths(paths);
+        m_desk->desk.displays().setPaths(paths);
         QCOMPARE(int(currentProjectionMode()), each.mode);
         QCOMPARE(int(projectionMode), each.mode == 0 ? 2 : each.mode);
         QCOMPARE(m_desk->takeLog(), each.log);
@@ -89,11 +89,11 @@ void TestDisplays::labels()
           {0, {left}, both},
           {0, {left, left}, both + both}, // numbers restart for every screen
           {1, {}, {}}}) {
-        m_desk->desk.setMonitorDisplay(1, secondDisplay);
+        m_desk->desk.displays().setMonitorDisplay(1, secondDisplay);
         std::vector<platform::Screen> toolkit;
         for (const QRect &geometry : screens)
             toolkit.push_back({QStringLiteral("Screen"), geometry});
-        m_desk->desk.setScreens(toolkit);
+        m_desk->desk.displays().setScreens(toolkit);
         const QByteArrayList found = findDevices();
         QCOMPARE(found, labels);
         QCOMPARE(monitorList.size(), static_cast<std::size_t>(found.size()));
@@ -104,7 +104,7 @@ void TestDisplays::unreadableEdidDropsTheDisplay()
 {
     using Edid = std::optional<QByteArray>;
     for (const Edid &edid : {Edid(), Edid(QByteArray()), Edid(QByteArray(71, 'x'))}) {
-        m_desk->desk.setRegistryEdid(0, edid);
+        m_desk->desk.displays().setRegistryEdid(0, edid);
         QCOMPARE(findDevices(), QByteArrayList{"1. Q32-MPCS"});
         QCOMPARE(m_desk->takeLog().contains(QStringLiteral("EDID read error.")), edid.value_or(QByteArray()).isEmpty());
     }
@@ -112,7 +112,7 @@ void TestDisplays::unreadableEdidDropsTheDisplay()
 
 void TestDisplays::secondMonitorMakesInternalExternal()
 {
-    m_desk->desk.setMonitorDisplay(1, 0);
+    m_desk->desk.displays().setMonitorDisplay(1, 0);
     using enum ProjectionMode;
     for (const auto &[before, after] : {std::pair(InternalOnly, ExternalOnly), {Extend, Extend}}) {
         projectionMode = before;
@@ -125,7 +125,7 @@ void TestDisplays::secondMonitorMakesInternalExternal()
 void TestDisplays::handles()
 {
     for (const bool second : {true, false}) {
-        m_desk->desk.unfetchableDisplay = second ? std::nullopt : std::optional<std::size_t>(1);
+        m_desk->desk.displays().unfetchableDisplay = second ? std::nullopt : std::optional<std::size_t>(1);
         QCOMPARE(findDevices().size(), 2);
         QCOMPARE(monitorList[0].handle == nullptr, second);
         for (const std::uint8_t index : {0, 1}) {
@@ -137,11 +137,12 @@ void TestDisplays::handles()
         }
         QCOMPARE(m_desk->takeRequests(0), QStringList());
     }
-    m_desk->desk.setMonitorDisplay(1, 0); // two physical monitors behind one handle, of which the first is kept
+    m_desk->desk.displays().setMonitorDisplay(1,
+                                              0); // two physical monitors behind one handle, of which the first is kept
     findDevices();
     findDevices();
-    QCOMPARE(m_desk->desk.handlesOpen(), 2);
-    QCOMPARE(m_desk->desk.handleFaults(), 0);
+    QCOMPARE(m_desk->desk.handles().countOpen(), 2);
+    QCOMPARE(m_desk->desk.handles().faults(), 0);
 }
 
 QTEST_MAIN(TestDisplays)

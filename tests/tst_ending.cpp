@@ -91,7 +91,7 @@ void TestEnding::linksAreLetGo()
     QVERIFY(!Korvu_SetCommandVal(writeRow(Command::Brightness), 3, kRetryCount));
     QCOMPARE(m_desk->takeRequests(), QStringList("W 99=3!")); // once, and the monitor is not looked for
     QVERIFY(relaunchAndQuit());
-    QCOMPARE(m_desk->desk.started.size(), std::size_t(0));
+    QCOMPARE(m_desk->desk.process().started.size(), std::size_t(0));
 }
 
 void TestEnding::readUnderItsDialogIsCut()
@@ -118,10 +118,10 @@ void TestEnding::sessionEnd()
             const auto busy = lockTransport();
             m_window->scenePage()->slider("Brightness")->slider()->setSliderPosition(17);
         }
-        QVERIFY(m_desk->desk.endSession());
+        QVERIFY(m_desk->desk.process().endSession());
         QVERIFY(!shown());
         QCOMPARE(int(m_desk->monitor().value(0x10)), 17);
-        QCOMPARE(m_desk->desk.quits, 1);
+        QCOMPARE(m_desk->desk.process().quits, 1);
         QVERIFY(m_window->close()); // not to the tray
         cleanup();
     }

@@ -206,7 +206,7 @@ void TestLinkRecord::errorsInWords()
 /// Two monitors of one model, even with the same serial number, have a record each; unplugged between, too.
 void TestLinkRecord::twinsStayTwo()
 {
-    m_desk->desk.setRegistryEdid(1, virtualdesk::buildEdid(m_desk->monitor(0).model()));
+    m_desk->desk.displays().setRegistryEdid(1, virtualdesk::buildEdid(m_desk->monitor(0).model()));
     findDevices();
     const MonitorIdentity first = monitorList[0].identity;
     const MonitorIdentity second = monitorList[1].identity;

@@ -299,7 +299,7 @@ void TestMainWindow::unpluggingAndPlugging()
     m_desk->desk.plug(0);
     m_desk->clock.advance(platform::milliseconds(1000));
     QCOMPARE(status(), QStringLiteral("1. Q27-OLED connected"));
-    QCOMPARE(m_desk->desk.handleFaults(), 0);
+    QCOMPARE(m_desk->desk.handles().faults(), 0);
 }
 
 QTEST_MAIN(TestMainWindow)

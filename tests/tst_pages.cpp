@@ -287,15 +287,15 @@ void TestPages::resetFactory()
     QCOMPARE(begins.count(), 1);
     QCOMPARE(settingsInt("SystemMode/Brightness", 0, false), 10);
     m_desk->clock.advance(platform::milliseconds(19999));
-    QVERIFY(m_desk->desk.started.empty());
+    QVERIFY(m_desk->desk.process().started.empty());
     int mark = 0;
-    m_desk->desk.start = [&mark] {
+    m_desk->desk.process().start = [&mark] {
         mark = settingsInt(kRestartKey, 0, false);
         return true;
     };
     m_desk->clock.advance(platform::milliseconds(1));
-    QCOMPARE(m_desk->desk.started.size(), std::size_t(1)); // the search of a reset is a fresh start
-    QCOMPARE(mark, 1);                                     // which finds the mark already
+    QCOMPARE(m_desk->desk.process().started.size(), std::size_t(1)); // the search of a reset is a fresh start
+    QCOMPARE(mark, 1);                                               // which finds the mark already
 }
 
 void TestPages::customPaper()

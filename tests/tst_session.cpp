@@ -89,7 +89,7 @@ void TestSession::init()
 
 void TestSession::cleanup()
 {
-    QCOMPARE(m_desk->desk.handleFaults(), 0);
+    QCOMPARE(m_desk->desk.handles().faults(), 0);
     m_session.reset();
     DeskSuite::cleanup();
 }
@@ -199,7 +199,7 @@ void TestSession::storedIndexOnLaterSearches()
         m_session->searchDevices();
         QCOMPARE(int(currentMonitorIndex), used);
     }
-    m_desk->desk.setPaths(std::vector<platform::DisplayPath>{{1, 1}, {1, 1}}); // clone mode
+    m_desk->desk.displays().setPaths(std::vector<platform::DisplayPath>{{1, 1}, {1, 1}}); // clone mode
     m_session->searchDevices();
     QCOMPARE(int(currentMonitorIndex), 0);
 }
@@ -323,8 +323,8 @@ void TestSession::chosenDeviceIsStoredAndTheProgramRestarts()
 {
     m_session->searchDevices();
     m_session->setHost(&m_host);
-    QCOMPARE(m_desk->desk.started.size(), std::size_t(0)); // filling the box is no choice
-    m_desk->desk.start = [] { return false; };
+    QCOMPARE(m_desk->desk.process().started.size(), std::size_t(0)); // filling the box is no choice
+    m_desk->desk.process().start = [] { return false; };
     m_session->deviceBox()->setCurrentIndex(1);
     QCOMPARE(settingsInt(kDeviceIndexKey, 7, false), 0); // what cannot be followed is taken back
     QCOMPARE(m_session->deviceBox()->currentIndex(), 0);
@@ -335,11 +335,11 @@ void TestSession::chosenDeviceIsStoredAndTheProgramRestarts()
     QVERIFY(m_desk->takeCommands().contains("R ed")); // all that the copy would have read
     QCOMPARE(reloadEdidType.load(), int(kIdle));
     QCOMPARE(m_session->notRestarted, 2);
-    QCOMPARE(m_desk->desk.quits, 0);
-    m_desk->desk.start = [] { return true; };
+    QCOMPARE(m_desk->desk.process().quits, 0);
+    m_desk->desk.process().start = [] { return true; };
     m_session->deviceBox()->setCurrentIndex(1);
     QCOMPARE(settingsInt(kDeviceIndexKey, 0, false), 1);
-    QCOMPARE(m_desk->desk.quits, 1);
+    QCOMPARE(m_desk->desk.process().quits, 1);
 }
 
 QTEST_MAIN(TestSession)

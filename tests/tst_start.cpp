@@ -44,11 +44,11 @@ void TestStart::workingFolderIsSettled()
 {
     const QString data = m_desk->folder() + "/local data";
     qputenv("XDG_DATA_HOME", data.toLocal8Bit());
-    m_desk->desk.systemFolders = QStringList{m_desk->folder()};
+    m_desk->desk.process().systemFolders = QStringList{m_desk->folder()};
     QVERIFY(writeText("config.ini", ""));
     settleWorkingFolder();
     QCOMPARE(QDir::currentPath(), m_desk->folder());
-    m_desk->desk.systemFolders.clear();
+    m_desk->desk.process().systemFolders.clear();
     QVERIFY(QDir::setCurrent("/proc")); // not even an administrator makes a file there
     settleWorkingFolder();
     QCOMPARE(QDir::currentPath(), data + "/QUORVEL");
@@ -60,12 +60,12 @@ void TestStart::elevatedCopyGetsTheFolder()
     char name[] = "quorvel", argument[] = "runas";
     char *arguments[] = {name, argument};
     QVERIFY(!handedToElevatedCopy(1, arguments));
-    m_desk->desk.administrator = false;
+    m_desk->desk.process().administrator = false;
     QVERIFY(!handedToElevatedCopy(2, arguments));
-    QVERIFY(m_desk->desk.elevated.empty());
+    QVERIFY(m_desk->desk.process().elevated.empty());
     QVERIFY(QDir::current().mkdir("ein Ordner 名") && QDir::setCurrent("ein Ordner 名"));
     QVERIFY(handedToElevatedCopy(1, arguments));
-    QCOMPARE(m_desk->desk.elevated.at(0).folder, m_desk->folder() + "/ein Ordner 名");
+    QCOMPARE(m_desk->desk.process().elevated.at(0).folder, m_desk->folder() + "/ein Ordner 名");
 }
 
 void TestStart::loadingIsNotSteered()
@@ -82,7 +82,7 @@ void TestStart::loadingIsNotSteered()
     int count = 7;
     hardenLoading(count, arguments); // here everybody may load what he likes
     QVERIFY(qEnvironmentVariableIsSet("QT_STYLE_OVERRIDE") && count == 7);
-    m_desk->desk.restrictsLibraries = true;
+    m_desk->desk.process().restrictsLibraries = true;
     hardenLoading(count, arguments);
     QVERIFY(!qEnvironmentVariableIsSet("QT_STYLE_OVERRIDE") && count == 2 && !arguments[2]);
     QCOMPARE(arguments[1], "runas");
@@ -118,11 +118,11 @@ void TestStart::copyFindsNoServer()
     for (const bool starts : {false, true}) {
         QVERIFY(isServed());
         bool found = true;
-        m_desk->desk.start = [&] { return found = isServed(), starts; };
+        m_desk->desk.process().start = [&] { return found = isServed(), starts; };
         QCOMPARE(relaunchAndQuit(), starts);
         QVERIFY(!found);
         QCOMPARE(isServed(), !starts);
-        QCOMPARE(m_desk->desk.quits, int(starts));
+        QCOMPARE(m_desk->desk.process().quits, int(starts));
     }
 }
 

@@ -120,10 +120,10 @@ void TestToolPages::cleanup()
 
 void TestToolPages::verifyRestart()
 {
-    QCOMPARE(m_desk->desk.started.size(), std::size_t(1));
-    QCOMPARE(m_desk->desk.started[0].program, QCoreApplication::applicationFilePath());
-    QCOMPARE(m_desk->desk.started[0].arguments, QCoreApplication::arguments().mid(1));
-    QCOMPARE(m_desk->desk.started[0].folder, QString());
+    QCOMPARE(m_desk->desk.process().started.size(), std::size_t(1));
+    QCOMPARE(m_desk->desk.process().started[0].program, QCoreApplication::applicationFilePath());
+    QCOMPARE(m_desk->desk.process().started[0].arguments, QCoreApplication::arguments().mid(1));
+    QCOMPARE(m_desk->desk.process().started[0].folder, QString());
 }
 
 /// Puts a program of the upgrade program's name where the system looks first.
@@ -141,16 +141,16 @@ void TestToolPages::startUpIsWrittenOrFallsBack()
     QVERIFY(isChecked("Run on startup_No"));
     for (const auto &[writable, pressed, after] :
          {std::tuple(false, "Yes", "No"), {true, "Yes", "Yes"}, {false, "No", "Yes"}, {true, "No", "No"}}) {
-        m_desk->desk.startUp().writable = writable;
+        m_desk->desk.process().startUp().writable = writable;
         press(QStringLiteral("Run on startup_") + pressed);
         QVERIFY(isChecked(QStringLiteral("Run on startup_") + after));
         QVERIFY(toolPage().notice().contains("Run on startup") || (writable && toolPage().notice().isEmpty()));
-        QCOMPARE(m_desk->desk.startUp().value(name).value_or("none"),
+        QCOMPARE(m_desk->desk.process().startUp().value(name).value_or("none"),
                  QByteArray(after) == "No" ? "none" : QDir::toNativeSeparators(program));
     }
     for (const bool own : {true, false}) { // read anew when it is shown; the other one is another copy of the program
         toolPage().hide();
-        m_desk->desk.startUp().setValue(name, own ? program : "/elsewhere/quorvel");
+        m_desk->desk.process().startUp().setValue(name, own ? program : "/elsewhere/quorvel");
         toolPage().show();
         QCOMPARE(isChecked("Run on startup_Yes"), own);
     }
@@ -297,7 +297,7 @@ void TestToolPages::declinedOrNoChange()
     QCOMPARE(toolPage().questions, QStringList());
     // Declined, without a copy that takes over, without a file to store it in: every choice is taken back.
     const QByteArray before = readText(kConfigFile);
-    m_desk->desk.start = [] { return false; };
+    m_desk->desk.process().start = [] { return false; };
     for (const QString complaint : {"", "could not be restarted", kConfigFile}) {
         QCOMPARE(readText(kConfigFile), before);
         if (complaint == kConfigFile)
@@ -312,9 +312,9 @@ void TestToolPages::declinedOrNoChange()
         press("Tool language settings_日本語");
         QVERIFY(toolPage().notice().contains(complaint) && isChecked("Tool language settings_English"));
         QCOMPARE(toolPage().questions, (QStringList{"Machine Select", "Language"}));
-        QCOMPARE(m_desk->desk.started.size(), std::size_t(complaint.isEmpty() ? 0 : 2));
+        QCOMPARE(m_desk->desk.process().started.size(), std::size_t(complaint.isEmpty() ? 0 : 2));
     }
-    QCOMPARE(m_desk->desk.quits, 0);
+    QCOMPARE(m_desk->desk.process().quits, 0);
 }
 
 void TestToolPages::firmwareVersion()

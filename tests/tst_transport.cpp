@@ -193,7 +193,7 @@ void TestTransport::indexBeyondTheListFails()
     QVERIFY(Korvu_ReadCommandTable(kSceneRead, 2, 40));
     QCOMPARE(int(tableReadLength), 0);
     QVERIFY(m_desk->takeLog().contains(QStringLiteral("Monitor index 200 is beyond the 2 found")));
-    QCOMPARE(m_desk->desk.handleFaults(), 0);
+    QCOMPARE(m_desk->desk.handles().faults(), 0);
 }
 
 void TestTransport::tableRead()

@@ -254,7 +254,7 @@ void TestWindowLinks::exitAsksOnce()
     m_window->showWindow();
     QWidget *page = m_window->page(PageId::LedCanvas)->widget();
     m_window->leave();
-    QCOMPARE(m_desk->desk.quits, 1); // nothing to lose
+    QCOMPARE(m_desk->desk.process().quits, 1); // nothing to lose
     auto *editor = page->findChild<MatrixEditor *>();
     QTest::keyClick(editor, Qt::Key_Space);
     for (const auto &[key, quits] : {std::pair{Qt::Key_Escape, 1}, {Qt::Key_Return, 2}}) {
@@ -266,7 +266,7 @@ void TestWindowLinks::exitAsksOnce()
         });
         m_window->leave();
         QCOMPARE(boxes, 1);
-        QCOMPARE(m_desk->desk.quits, quits);
+        QCOMPARE(m_desk->desk.process().quits, quits);
     }
     QVERIFY(QFile::exists(QLatin1String(pageLEDMatrixCanvas::kDataFile)));
     QVERIFY(m_desk->session().mayLeave());

@@ -6,11 +6,11 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
 
 #include "virtualdesk/osdfunctions.h"
+#include "virtualdesk/osdlist.h"
 #include "virtualdesk/screenview.h"
 #include "virtualdesk/selector.h"
 #include "virtualdesk/virtualdesk.h"
@@ -30,22 +30,7 @@ constexpr int kFaultColumns = 3;
 constexpr const char *kOutcomes[] = {NAME("ok"),      NAME("adjusted"), NAME("garbled"), NAME("unexpected"),
                                      NAME("refused"), NAME("lost"),     NAME("deaf"),    NAME("unplugged")};
 
-// Rows of the OSD that gather several codes each, below those of the menu.
-struct GatheredRow
-{
-    const char *name;
-    std::uint8_t first;
-    int count;
-};
-constexpr GatheredRow kGatheredRows[] = {
-    {NAME("User1 R G B"), 0x16, 3},     {NAME("User2 R G B"), 0x19, 3},
-    {NAME("User3 R G B"), 0x1C, 3},     {NAME("Saturation R Y G C B M"), 0x59, 6},
-    {NAME("Hue R Y G C B M"), 0x9B, 6},
-};
-
 #undef NAME
-
-constexpr std::uint8_t kMotionCode = 0x48;
 
 QString requestLine(const Request &request)
 {
@@ -92,6 +77,11 @@ void MonitorPanel::layOut()
     m_screen = new ScreenView(this);
     m_state = new QLabel(this);
     m_state->setObjectName(QStringLiteral("state"));
+    m_osd = new OsdList(this);
+    connect(m_osd, &OsdList::stepped, this, [this](const OsdFunction &function, int direction) {
+        monitor().setValue(function.code, osdStep(function, monitor().value(function.code), direction));
+        askForRefresh();
+    });
     m_osdTitle = new QLabel(this);
     m_requestsTitle = new QLabel(this);
     for (QLabel *title : {m_osdTitle, m_requestsTitle})
@@ -114,7 +104,7 @@ void MonitorPanel::layOut()
     layout->addLayout(buildFaults());
     layout->addWidget(m_state);
     layout->addWidget(m_osdTitle);
-    layout->addWidget(buildOsd(), 3);
+    layout->addWidget(m_osd, 3);
     layout->addWidget(m_requestsTitle);
     layout->addWidget(m_requests, 2);
 }
@@ -122,49 +112,6 @@ void MonitorPanel::layOut()
 SimulatedMonitor &MonitorPanel::monitor() const
 {
     return m_desk.monitor(m_index);
-}
-
-QWidget *MonitorPanel::buildOsd()
-{
-    auto *area = new QScrollArea(this);
-    area->setWidgetResizable(true);
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    auto *content = new QWidget(area);
-    content->setObjectName(QStringLiteral("osd"));
-    area->viewport()->setAutoFillBackground(false);
-    auto *grid = new QGridLayout(content);
-    grid->setContentsMargins(12, 8, 12, 8);
-    grid->setVerticalSpacing(4);
-    grid->setColumnStretch(0, 1);
-    const int rows = 1 + static_cast<int>(osdMenu().size() + std::size(kGatheredRows));
-    for (int row = 0; row < rows; ++row) {
-        auto *name = new QLabel(content);
-        auto *value = new QLabel(content);
-        value->setObjectName(QStringLiteral("value"));
-        grid->addWidget(name, row, 0);
-        grid->addWidget(value, row, 1, Qt::AlignRight);
-        m_osdRows.emplace_back(name, value);
-        if (row > 0 && row <= static_cast<int>(osdMenu().size()))
-            addOsdButtons(osdMenu()[static_cast<std::size_t>(row) - 1], grid, row);
-    }
-    area->setWidget(content);
-    return area;
-}
-
-/// The monitor's own buttons: they change a value behind the program's back.
-void MonitorPanel::addOsdButtons(const OsdFunction &function, QGridLayout *grid, int row)
-{
-    for (const int direction : {-1, 1}) {
-        auto *button = new QPushButton(direction < 0 ? QStringLiteral("–") : QStringLiteral("+"), grid->parentWidget());
-        button->setFixedSize(22, 20);
-        button->setObjectName(QStringLiteral("osdButton"));
-        connect(button, &QPushButton::clicked, this, [this, function, direction] {
-            monitor().setValue(function.code, osdStep(function, monitor().value(function.code), direction));
-            askForRefresh();
-        });
-        grid->addWidget(button, row, direction < 0 ? 2 : 3);
-        m_osdButtons.push_back(button);
-    }
 }
 
 QLayout *MonitorPanel::buildFaults()
@@ -206,8 +153,7 @@ void MonitorPanel::retranslate()
         button->setToolTip(tip);
         button->setAccessibleDescription(tip);
     }
-    for (std::size_t i = 0; i < m_osdButtons.size(); ++i)
-        m_osdButtons[i]->setAccessibleName(osdName(osdMenu()[i / 2]) + QLatin1Char(' ') + m_osdButtons[i]->text());
+    m_osd->retranslate();
     askForRefresh();
 }
 
@@ -259,7 +205,7 @@ void MonitorPanel::refresh()
     if (m_desk.monitorCount() == 0)
         return;
     m_screen->show(monitor());
-    refreshOsd();
+    m_osd->show(monitor());
     refreshState();
 }
 
@@ -276,31 +222,6 @@ void MonitorPanel::appendRequests(const std::vector<Request> &requests)
         m_requests->verticalScrollBar()->setValue(m_requests->verticalScrollBar()->maximum());
 }
 
-void MonitorPanel::refreshOsd()
-{
-    const MonitorModel &model = monitor().model();
-    std::size_t row = 0;
-    const auto put = [this, &row](const QString &name, const QString &value, bool visible) {
-        const auto [nameLabel, valueLabel] = m_osdRows[row++];
-        setTextOf(nameLabel, name);
-        setTextOf(valueLabel, value);
-        nameLabel->setVisible(visible);
-        valueLabel->setVisible(visible);
-    };
-    put(QObject::tr("Scene mode"), sceneName(monitor().value(kSceneCode)), true);
-    for (const OsdFunction &function : osdMenu()) {
-        const bool isMpcs = function.code == kMotionCode && (model.capabilities & MotionIsMpcs) != 0;
-        put(isMpcs ? QObject::tr("MPCS") : osdName(function), osdValueText(function, monitor().value(function.code)),
-            hasFunction(model, function.code));
-    }
-    for (const GatheredRow &gathered : kGatheredRows) {
-        QStringList values;
-        for (int i = 0; i < gathered.count; ++i)
-            values.append(QString::number(monitor().value(static_cast<std::uint8_t>(gathered.first + i))));
-        put(QObject::tr(gathered.name), values.join(QLatin1String("  ")), true);
-    }
-}
-
 void MonitorPanel::refreshState()
 {
     for (const auto &[button, fault] : m_faultButtons)
@@ -309,7 +230,7 @@ void MonitorPanel::refreshState()
     setTextOf(m_state, QObject::tr("%1 · protocol faults: %2 · open handles: %3")
                            .arg(plugged)
                            .arg(monitor().protocolFaults().total())
-                           .arg(m_desk.handlesOpen()));
+                           .arg(m_desk.handles().countOpen()));
 }
 
 } // namespace virtualdesk

@@ -9,7 +9,6 @@
 #include "virtualdesk/request.h"
 
 class QComboBox;
-class QGridLayout;
 class QLabel;
 class QLayout;
 class QPlainTextEdit;
@@ -17,10 +16,10 @@ class QPushButton;
 
 namespace virtualdesk {
 
+class OsdList;
 class ScreenView;
 class SimulatedMonitor;
 struct MonitorFault;
-struct OsdFunction;
 class VirtualDesk;
 
 /// What a person in front of the simulated monitor would see, what the monitor was asked, and
@@ -38,13 +37,10 @@ public:
 
 private:
     void layOut();
-    QWidget *buildOsd();
-    void addOsdButtons(const OsdFunction &function, QGridLayout *grid, int row);
     QLayout *buildFaults();
     void selectMonitor(int index);
     void requestArrived(const Request &request);
     void refresh();
-    void refreshOsd();
     void refreshState();
     void appendRequests(const std::vector<Request> &requests);
     void askForRefresh();
@@ -61,12 +57,11 @@ private:
     QTimer m_refreshTimer; // single shot: many requests, one repaint
     QComboBox *m_selector = nullptr;
     ScreenView *m_screen = nullptr;
+    OsdList *m_osd = nullptr;
     QLabel *m_osdTitle = nullptr;
     QLabel *m_requestsTitle = nullptr;
     QLabel *m_state = nullptr;
     QPlainTextEdit *m_requests = nullptr;
-    std::vector<std::pair<QLabel *, QLabel *>> m_osdRows; // name and value, in the order of the OSD
-    std::vector<QPushButton *> m_osdButtons;              // down and up for each row of the menu
     std::vector<std::pair<QPushButton *, const MonitorFault *>> m_faultButtons;
 };
 

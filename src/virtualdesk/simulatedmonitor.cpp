@@ -1,39 +1,9 @@
 #include "virtualdesk/simulatedmonitor.h"
 
-#include <algorithm>
-
-#include "virtualdesk/osdfunctions.h"
-
 namespace virtualdesk {
 
-namespace {
-
-constexpr std::uint8_t kVendorCode = 0x99;
-constexpr std::uint8_t kNextChunk = 0xFE;
-constexpr std::uint8_t kSameChunk = 0xFF;
-constexpr int kChunkSize = 4;
-constexpr int kChunks = kBlockSize / kChunkSize;
-
-bool isContinuation(std::uint8_t code)
-{
-    return code == kNextChunk || code == kSameChunk;
-}
-
-bool isCommand(std::uint8_t code)
-{
-    const auto codes = commandCodes();
-    return std::binary_search(codes.begin(), codes.end(), code);
-}
-
-bool isSelector(std::uint8_t code)
-{
-    return code % 2 == 0 && code > kFirstMode && code <= kLastMode;
-}
-
-} // namespace
-
 SimulatedMonitor::SimulatedMonitor(const MonitorModel &model, platform::Clock &clock)
-    : m_model(model), m_clock(clock), m_memory(model)
+    : m_model(model), m_clock(clock), m_memory(model), m_conversation(m_memory)
 {
 }
 
@@ -59,7 +29,7 @@ Reply SimulatedMonitor::request(RequestKind kind, std::uint8_t code, std::uint32
     {
         const std::lock_guard lock(m_mutex);
         if (overlaps)
-            ++m_protocolFaults.interleaved;
+            m_conversation.countInterleaved();
         reply = serve(made);
         m_history.push_back(made);
         if (m_history.size() > kHistorySize)
@@ -81,135 +51,33 @@ Reply SimulatedMonitor::serve(Request &request)
         return {kErrorNoSuchDevice};
     }
     Reply reply;
-    const bool continues = continuesStream(request);
+    const bool continues = m_conversation.continuesStream(request);
     if (m_asleep)
         stayUnheard(request, reply);
     if (m_asleep || m_faults.strike(Moment::Hearing, continues, request, reply)) {
-        forgetConversation();
+        m_conversation.forget();
         return reply;
     }
     if (m_faults.strike(Moment::Taking, continues, request, reply)) {
         // A continuation was heard all the same: the stream moves on, and 0xFF brings what is missing.
         if (continues)
-            continueStream(request);
+            m_conversation.skip(request);
         else
-            forgetConversation();
+            m_conversation.forget();
         return reply;
     }
 
-    reply = converse(request);
+    reply = m_conversation.converse(request);
     if (request.kind == RequestKind::Write || !reply.ok())
         return reply;
-    m_faults.strike(Moment::Answering, continuesStream(request), request, reply);
+    m_faults.strike(Moment::Answering, m_conversation.continuesStream(request), request, reply);
     if (!reply.ok()) {
-        if (m_announcement)
-            m_announcement->heard = false;
+        m_conversation.loseReply();
         return reply;
     }
     request.value = reply.current;
     request.maximum = reply.maximum;
     return reply;
-}
-
-bool SimulatedMonitor::continuesStream(const Request &request) const
-{
-    return request.kind == RequestKind::Read && isContinuation(request.code) && m_stream;
-}
-
-/// Serves a request by the vendor protocol.
-Reply SimulatedMonitor::converse(Request &request)
-{
-    if (request.code == kVendorCode)
-        return announce(request);
-    if (request.kind == RequestKind::Read && isContinuation(request.code))
-        return continueStream(request);
-    if (m_selectorExpected && request.kind == RequestKind::Read && isSelector(request.code)) {
-        m_selectorExpected = false;
-        m_stream = Stream{request.code, 0};
-        return answerChunk();
-    }
-    return command(request);
-}
-
-Reply SimulatedMonitor::announce(Request &request)
-{
-    if (m_announcement && m_announcement->heard)
-        ++m_protocolFaults.brokenPairs;
-    if (m_stream)
-        ++m_protocolFaults.openStreams;
-    forgetConversation();
-    m_announcement = Announcement{request.kind, request.value, std::this_thread::get_id(), true};
-    return {};
-}
-
-Reply SimulatedMonitor::continueStream(Request &request)
-{
-    if (!m_stream) {
-        ++m_protocolFaults.stray;
-        forgetConversation();
-        request.outcome = Outcome::Unexpected;
-        return {kErrorNotSupported};
-    }
-    if (request.code == kNextChunk)
-        ++m_stream->chunk;
-    if (m_stream->chunk < kChunks)
-        return answerChunk();
-    m_stream.reset();
-    return {};
-}
-
-Reply SimulatedMonitor::command(Request &request)
-{
-    const std::optional<Announcement> announcement = m_announcement;
-    if (m_stream)
-        ++m_protocolFaults.openStreams;
-    forgetConversation();
-    if (!announcement)
-        ++m_protocolFaults.unannounced;
-    if (!announcement || !matchesAnnouncement(request, *announcement)) {
-        request.outcome = Outcome::Unexpected;
-        return {kErrorNotSupported};
-    }
-    if (!isCommand(request.code)) {
-        request.outcome = Outcome::Refused;
-        return {kErrorNotSupported};
-    }
-    if (request.kind == RequestKind::Read) {
-        m_selectorExpected = request.code == kSceneCode;
-        return m_memory.answer(request.code);
-    }
-    if (!m_memory.take(request.code, request.value)) {
-        ++m_protocolFaults.badValues;
-        request.outcome = Outcome::Adjusted;
-    }
-    return {};
-}
-
-bool SimulatedMonitor::matchesAnnouncement(const Request &request, const Announcement &announcement)
-{
-    if (announcement.thread != std::this_thread::get_id())
-        ++m_protocolFaults.interleaved;
-    const bool matches =
-        announcement.kind == request.kind && (request.kind == RequestKind::Read || announcement.value == request.value);
-    if (!matches)
-        ++m_protocolFaults.mismatched;
-    return matches;
-}
-
-/// Four bytes a reply: maximum high and low, current high and low.
-Reply SimulatedMonitor::answerChunk() const
-{
-    const SceneBlock &block = m_memory.block(m_stream->mode);
-    const auto *bytes = block.data() + m_stream->chunk * kChunkSize;
-    const auto word = [bytes](int i) { return static_cast<std::uint32_t>(bytes[i] << 8 | bytes[i + 1]); };
-    return {0, word(2), word(0)};
-}
-
-void SimulatedMonitor::forgetConversation()
-{
-    m_announcement.reset();
-    m_stream.reset();
-    m_selectorExpected = false;
 }
 
 std::uint16_t SimulatedMonitor::value(std::uint8_t code) const
@@ -268,7 +136,7 @@ void SimulatedMonitor::setPlugged(bool plugged)
 {
     const std::lock_guard lock(m_mutex);
     m_plugged = plugged;
-    forgetConversation();
+    m_conversation.forget();
 }
 
 std::vector<Request> SimulatedMonitor::history() const
@@ -280,7 +148,7 @@ std::vector<Request> SimulatedMonitor::history() const
 ProtocolFaults SimulatedMonitor::protocolFaults() const
 {
     const std::lock_guard lock(m_mutex);
-    return m_protocolFaults;
+    return m_conversation.faults();
 }
 
 int SimulatedMonitor::addListener(Listener listener)

@@ -5,12 +5,12 @@
 #include <functional>
 #include <mutex>
 #include <optional>
-#include <thread>
 #include <vector>
 
 #include <QByteArray>
 
 #include "platform/clock.h"
+#include "virtualdesk/conversation.h"
 #include "virtualdesk/faults.h"
 #include "virtualdesk/monitormemory.h"
 #include "virtualdesk/replay.h"
@@ -18,10 +18,8 @@
 
 namespace virtualdesk {
 
-/// A monitor as the wire sees it. It speaks the vendor protocol: every command is a request on 0x99 and then one on the
-/// command code, both writes (of the same value) or both reads. A read of 0x22 may be followed by a read whose code is
-/// an even scene mode: that opens the 40-byte block of the mode, four bytes a reply, 0xFE for the next four, 0xFF for
-/// the last four again, and one more 0xFE closes it. Safe from any thread.
+/// A monitor as the wire sees it: a memory and a conversation, reached through the faults that lie in wait. Safe from
+/// any thread.
 class SimulatedMonitor
 {
 public:
@@ -124,29 +122,8 @@ public:
     void removeListener(int id);
 
 private:
-    struct Announcement
-    {
-        RequestKind kind;
-        std::uint32_t value;
-        std::thread::id thread;
-        bool heard; ///< the caller knows that it arrived
-    };
-    struct Stream
-    {
-        int mode;
-        int chunk; ///< the four bytes sent last; 10 is past the end
-    };
-
     Reply request(RequestKind kind, std::uint8_t code, std::uint32_t value);
     Reply serve(Request &request);
-    Reply converse(Request &request);
-    Reply announce(Request &request);
-    Reply continueStream(Request &request);
-    Reply command(Request &request);
-    bool matchesAnnouncement(const Request &request, const Announcement &announcement);
-    bool continuesStream(const Request &request) const;
-    Reply answerChunk() const;
-    void forgetConversation();
     void tell(const Request &request);
 
     const MonitorModel &m_model;
@@ -158,14 +135,11 @@ private:
 
     mutable std::mutex m_mutex; // guards everything down to the listeners
     MonitorMemory m_memory;
-    std::optional<Announcement> m_announcement;
-    std::optional<Stream> m_stream;
-    bool m_selectorExpected = false;
+    Conversation m_conversation;
     bool m_plugged = true;
     std::atomic<bool> m_asleep = false;
     Faults m_faults;
     std::optional<Replay> m_replay;
-    ProtocolFaults m_protocolFaults;
     std::deque<Request> m_history;
 
     // Recursive, since a listener may pull the plug, which makes the program send requests from within.

@@ -24,7 +24,8 @@ QByteArray placeOf(const QString &name)
 {
     const auto widgets = QApplication::allWidgets();
     for (const QWidget *widget : widgets) {
-        if (!widget->isVisible() || (widget->objectName() != name && name != QLatin1String(widget->metaObject()->className())))
+        if (!widget->isVisible() ||
+            (widget->objectName() != name && name != QLatin1String(widget->metaObject()->className())))
             continue;
         const QRect part = seenPart(widget);
         if (part.isEmpty())

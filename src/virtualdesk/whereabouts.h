@@ -6,10 +6,10 @@
 
 namespace virtualdesk {
 
-/// Tells whoever plays the program from outside where its controls are, so that nobody has to know pixels. A name is put
-/// into the folder's file "where.txt"; a look or two later the answer lies in "place.txt": "x y width height", in pixels
-/// of the screen, of what can be seen of the control, or an empty line when nothing can. A name is an object name or that
-/// of a widget's class. Interface thread.
+/// Tells whoever plays the program from outside where its controls are, so that nobody has to know pixels. A name is
+/// put into the folder's file "where.txt"; a look or two later the answer lies in "place.txt": "x y width height", in
+/// pixels of the screen, of what can be seen of the control, or an empty line when nothing can. A name is an object
+/// name or that of a widget's class. Interface thread.
 class Whereabouts : public QObject
 {
 public:

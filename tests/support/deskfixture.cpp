@@ -36,11 +36,11 @@ DeskFixture::DeskFixture() : desk(clock), m_folderBefore(QDir::currentPath()), m
 {
     platform::installDesk(&m_platform);
     QDir::setCurrent(m_folder.path());
-    desk.setMutexFolder(m_folder.path());
-    desk.setScreens(std::vector<platform::Screen>{{QStringLiteral("First"), QRect(0, 0, 1920, 1080)},
-                                                  {QStringLiteral("Second"), QRect(1920, 0, 1920, 1080)}});
-    desk.setDisplays({{QStringLiteral("\\\\.\\DISPLAY1"), QRect(0, 0, 1920, 1080)},
-                      {QStringLiteral("\\\\.\\DISPLAY2"), QRect(1920, 0, 1920, 1080)}});
+    desk.process().setFolder(m_folder.path());
+    desk.displays().setScreens(std::vector<platform::Screen>{{QStringLiteral("First"), QRect(0, 0, 1920, 1080)},
+                                                             {QStringLiteral("Second"), QRect(1920, 0, 1920, 1080)}});
+    desk.displays().setDisplays({{QStringLiteral("\\\\.\\DISPLAY1"), QRect(0, 0, 1920, 1080)},
+                                 {QStringLiteral("\\\\.\\DISPLAY2"), QRect(1920, 0, 1920, 1080)}});
     commandsSuspended = false;
     reloadEdidType = kFullRead;
     currentMonitorIndex = 0;

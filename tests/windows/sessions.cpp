@@ -32,9 +32,8 @@ extern "C" {
 
 __declspec(dllexport) BOOL WINAPI WTSRegisterSessionNotification(HWND window, DWORD flags)
 {
-    static QObject *const whereabouts =
+    [[maybe_unused]] static const auto *const whereabouts =
         new virtualdesk::Whereabouts(QString::fromStdWString(testFolder().wstring()), qApp);
-    Q_UNUSED(whereabouts);
     return record(window && flags == 0 ? "registered" : "wrong");
 }
 

@@ -7,6 +7,7 @@ namespace platform {
 namespace {
 
 using virtualdesk::AudioCall;
+using virtualdesk::LoopbackStream;
 using virtualdesk::SimulatedEndpoint;
 
 /// Counted by the endpoint as long as it lives.
@@ -24,15 +25,16 @@ struct Shared
 {
     explicit Shared(SimulatedEndpoint &device) : endpoint(device), token(device.token()) {}
 
-    /// Counts the call, then does it unless a fault is armed.
-    template <typename Call> AudioResult operator()(AudioCall name, Call call)
+    /// Counts the call, then has the stream do it unless a fault is armed.
+    template <typename Function, typename... Given>
+    AudioResult operator()(AudioCall name, Function function, Given &&...given)
     {
         const AudioResult result = endpoint.enter(name);
-        return result == kAudioOk ? call(endpoint, stream) : result;
+        return result == kAudioOk ? endpoint.ask(stream, function, std::forward<Given>(given)...) : result;
     }
 
     SimulatedEndpoint &endpoint;
-    SimulatedEndpoint::Stream stream;
+    LoopbackStream stream;
     std::shared_ptr<void> token;
 };
 
@@ -43,23 +45,17 @@ public:
 
     AudioResult nextPacketSize(std::uint32_t &frames) override
     {
-        return (*m_shared)(AudioCall::NextPacketSize, [&frames](SimulatedEndpoint &endpoint, auto &stream) {
-            return endpoint.nextPacketSize(stream, frames);
-        });
+        return (*m_shared)(AudioCall::NextPacketSize, &LoopbackStream::nextPacketSize, frames);
     }
 
     AudioResult getBuffer(AudioPacket &packet) override
     {
-        return (*m_shared)(AudioCall::GetBuffer, [&packet](SimulatedEndpoint &endpoint, auto &stream) {
-            return endpoint.getBuffer(stream, packet);
-        });
+        return (*m_shared)(AudioCall::GetBuffer, &LoopbackStream::getBuffer, packet);
     }
 
     AudioResult releaseBuffer(std::uint32_t frames) override
     {
-        return (*m_shared)(AudioCall::ReleaseBuffer, [frames](SimulatedEndpoint &endpoint, auto &stream) {
-            return endpoint.releaseBuffer(stream, frames);
-        });
+        return (*m_shared)(AudioCall::ReleaseBuffer, &LoopbackStream::releaseBuffer, frames);
     }
 
 private:
@@ -85,39 +81,31 @@ public:
 
     AudioResult isFormatSupported(const AudioFormat &format) override
     {
-        return (*m_shared)(AudioCall::IsFormatSupported, [&format](SimulatedEndpoint &endpoint, auto &) {
-            return endpoint.isFormatSupported(format);
-        });
+        const AudioResult result = m_shared->endpoint.enter(AudioCall::IsFormatSupported);
+        return result == kAudioOk ? m_shared->endpoint.isFormatSupported(format) : result;
     }
 
     AudioResult initialize(std::uint32_t flags, std::int64_t duration, const AudioFormat &format) override
     {
-        return (*m_shared)(AudioCall::Initialize, [&](SimulatedEndpoint &endpoint, auto &stream) {
-            return endpoint.initialise(stream, flags, duration, format);
-        });
+        return (*m_shared)(AudioCall::Initialize, &LoopbackStream::initialise, flags, duration, format);
     }
 
-    AudioResult start() override { return plain(AudioCall::Start, &SimulatedEndpoint::start); }
-    AudioResult stop() override { return plain(AudioCall::Stop, &SimulatedEndpoint::stop); }
-    AudioResult reset() override { return plain(AudioCall::Reset, &SimulatedEndpoint::reset); }
+    AudioResult start() override { return (*m_shared)(AudioCall::Start, &LoopbackStream::start); }
+    AudioResult stop() override { return (*m_shared)(AudioCall::Stop, &LoopbackStream::stop); }
+    AudioResult reset() override { return (*m_shared)(AudioCall::Reset, &LoopbackStream::reset); }
 
     AudioResult captureClient(std::unique_ptr<AudioCaptureClient> &client) override
     {
-        return (*m_shared)(AudioCall::CaptureClient, [this, &client](auto &, const auto &stream) {
-            if (!stream.initialised)
-                return kAudioNotInitialised;
-            client = std::make_unique<VirtualCaptureClient>(m_shared);
-            return kAudioOk;
-        });
+        const AudioResult result = m_shared->endpoint.enter(AudioCall::CaptureClient);
+        if (result != kAudioOk)
+            return result;
+        if (!m_shared->stream.isInitialised())
+            return kAudioNotInitialised;
+        client = std::make_unique<VirtualCaptureClient>(m_shared);
+        return kAudioOk;
     }
 
 private:
-    AudioResult plain(AudioCall name, AudioResult (SimulatedEndpoint::*call)(SimulatedEndpoint::Stream &))
-    {
-        return (*m_shared)(name,
-                           [call](SimulatedEndpoint &endpoint, auto &stream) { return (endpoint.*call)(stream); });
-    }
-
     std::shared_ptr<Shared> m_shared;
 };
 
@@ -131,7 +119,7 @@ public:
         auto shared = std::make_shared<Shared>(m_endpoint);
         AudioResult result = m_endpoint.enter(AudioCall::Activate);
         if (result == kAudioOk)
-            result = m_endpoint.open(shared->stream);
+            result = m_endpoint.ask(shared->stream, &LoopbackStream::open);
         if (result == kAudioOk)
             client = std::make_unique<VirtualAudioClient>(std::move(shared));
         return result;

@@ -33,7 +33,7 @@ public:
 
     std::optional<std::vector<DisplayPath>> activePaths() override
     {
-        auto paths = m_desk.paths();
+        auto paths = m_desk.displays().paths();
         if (paths.empty()) // the system has always a path while it shows anything
             return std::nullopt;
         return paths;
@@ -41,24 +41,24 @@ public:
 
     void enumerate(const std::function<bool(DisplayHandle)> &visit) override
     {
-        const auto displays = m_desk.displays();
+        const auto displays = m_desk.displays().enumerate();
         for (const DisplayHandle display : displays) {
             if (!visit(display))
                 return;
         }
     }
 
-    std::optional<DisplayInfo> info(DisplayHandle display) override { return m_desk.displayInfo(display); }
-    std::optional<DisplayDevice> adapter(std::uint32_t index) override { return m_desk.adapter(index); }
+    std::optional<DisplayInfo> info(DisplayHandle display) override { return m_desk.displays().info(display); }
+    std::optional<DisplayDevice> adapter(std::uint32_t index) override { return m_desk.displays().adapter(index); }
     std::optional<DisplayDevice> monitor(const QString &adapterName, std::uint32_t index) override
     {
-        return m_desk.monitorDevice(adapterName, index);
+        return m_desk.displays().monitorDevice(adapterName, index);
     }
     std::optional<RegistryValue> localMachineValue(const QString &keyPath, const QString &valueName) override
     {
-        return m_desk.registryValue(keyPath, valueName);
+        return m_desk.displays().registryValue(keyPath, valueName);
     }
-    std::vector<Screen> screens() override { return m_desk.screens(); }
+    std::vector<Screen> screens() override { return m_desk.displays().screens(); }
 
 private:
     VirtualDesk &m_desk;
@@ -71,7 +71,7 @@ public:
 
     std::optional<std::uint32_t> count(DisplayHandle display) override
     {
-        const auto monitors = m_desk.monitorsOf(display);
+        const auto monitors = m_desk.displays().monitorsOf(display);
         if (!monitors)
             return std::nullopt;
         return static_cast<std::uint32_t>(monitors->size());
@@ -79,12 +79,12 @@ public:
 
     bool fetch(DisplayHandle display, std::span<PhysicalMonitor> monitors) override
     {
-        const auto found = m_desk.monitorsOf(display);
-        if (!found || monitors.empty() || monitors.size() > found->size() || !m_desk.isFetchable(display))
+        const auto found = m_desk.displays().monitorsOf(display);
+        if (!found || monitors.empty() || monitors.size() > found->size() || !m_desk.displays().isFetchable(display))
             return false;
         for (std::size_t i = 0; i < monitors.size(); ++i) {
             monitors[i] = {};
-            monitors[i].handle = m_desk.openHandle((*found)[i]);
+            monitors[i].handle = m_desk.handles().open((*found)[i]);
             std::u16string_view(u"Generic PnP Monitor").copy(monitors[i].description, 127);
         }
         return true;
@@ -93,7 +93,7 @@ public:
     void destroy(std::span<PhysicalMonitor> monitors) override
     {
         for (const PhysicalMonitor &monitor : monitors)
-            m_desk.closeHandle(monitor.handle);
+            m_desk.handles().close(monitor.handle);
     }
 
     VcpReply getFeature(PhysicalMonitorHandle monitor, std::uint8_t code) override
@@ -122,7 +122,7 @@ class VirtualProcess final : public Process
 public:
     explicit VirtualProcess(VirtualDesk &desk) : m_desk(desk) {}
 
-    bool isUserAnAdmin() override { return m_desk.administrator; }
+    bool isUserAnAdmin() override { return m_desk.process().administrator; }
 
     QString ownFile() override
     {
@@ -130,39 +130,39 @@ public:
         return file.isEmpty() ? QCoreApplication::applicationFilePath() : file;
     }
 
-    QStringList systemFolders() override { return m_desk.systemFolders; }
+    QStringList systemFolders() override { return m_desk.process().systemFolders; }
     QString localDataFolder() override { return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation); }
-    bool restrictLibraries() override { return m_desk.restrictsLibraries; }
+    bool restrictLibraries() override { return m_desk.process().restrictsLibraries; }
 
     std::intptr_t shellExecuteRunas(const QString &file, const QString &parameters, const QString &folder) override
     {
-        m_desk.elevated.push_back({file, {parameters}, folder});
-        if (m_desk.startsPrograms && m_desk.runasResult > kShellSuccess)
+        m_desk.process().elevated.push_back({file, {parameters}, folder});
+        if (m_desk.process().startsPrograms && m_desk.process().runasResult > kShellSuccess)
             QProcess::startDetached(file, QProcess::splitCommand(parameters), folder);
-        return m_desk.runasResult;
+        return m_desk.process().runasResult;
     }
 
-    NamedMutex createMutex(const QString &name) override { return m_desk.createMutex(name); }
+    NamedMutex createMutex(const QString &name) override { return m_desk.process().createMutex(name); }
 
     void closeHandle(void *handle) override
     {
         if (handle != nullptr)
-            m_desk.closeMutex(handle);
+            m_desk.process().closeMutex(handle);
     }
 
     void quit() override
     {
-        ++m_desk.quits;
-        if (m_desk.startsPrograms)
+        ++m_desk.process().quits;
+        if (m_desk.process().startsPrograms)
             QCoreApplication::exit();
     }
 
     bool startDetached(const QString &program, const QStringList &arguments, const QString &folder) override
     {
-        m_desk.started.push_back({program, arguments, folder});
-        if (m_desk.startsPrograms)
+        m_desk.process().started.push_back({program, arguments, folder});
+        if (m_desk.process().startsPrograms)
             return QProcess::startDetached(program, arguments, folder);
-        return m_desk.start();
+        return m_desk.process().start();
     }
 
 private:
@@ -174,9 +174,12 @@ class VirtualStartUp final : public StartUp
 public:
     explicit VirtualStartUp(VirtualDesk &desk) : m_desk(desk) {}
 
-    std::optional<QString> value(const QString &name) override { return m_desk.startUp().value(name); }
-    bool setValue(const QString &name, const QString &text) override { return m_desk.startUp().setValue(name, text); }
-    bool removeValue(const QString &name) override { return m_desk.startUp().removeValue(name); }
+    std::optional<QString> value(const QString &name) override { return m_desk.process().startUp().value(name); }
+    bool setValue(const QString &name, const QString &text) override
+    {
+        return m_desk.process().startUp().setValue(name, text);
+    }
+    bool removeValue(const QString &name) override { return m_desk.process().startUp().removeValue(name); }
 
 private:
     VirtualDesk &m_desk;
@@ -234,7 +237,7 @@ class ProcessDesk final : private OwnDesk, public VirtualPlatform
 public:
     ProcessDesk() : VirtualPlatform(ownDesk, programClock)
     {
-        ownDesk.startsPrograms = true;
+        ownDesk.process().startsPrograms = true;
         const QString requestFile = qEnvironmentVariable("QUORVEL_DESK_LOG");
         if (!requestFile.isEmpty())
             m_requestLog.emplace(ownDesk, requestFile);
