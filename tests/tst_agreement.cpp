@@ -37,7 +37,6 @@ template <typename Row> bool isOffered(const Row &row)
 class TestAgreement : public DeskSuite
 {
     Q_OBJECT
-
     std::optional<SimulatedMonitor> m_monitor;
     std::map<int, std::set<int>> m_offered;         ///< by code the values of options, ends and keys
     std::map<QString, QSet<QString>> m_differences; ///< with the models
@@ -102,10 +101,8 @@ class TestAgreement : public DeskSuite
         }
         walkSections(sceneSections());
         for (const SceneMode &mode : sceneModes()) {
-            for (const int half : {mode.value, mode.value + 1}) {
-                if (isOffered(mode))
-                    offer(Command::SceneMode, mode.label, half);
-            }
+            for (int half = 0; isOffered(mode) && half < 2; ++half)
+                offer(Command::SceneMode, mode.label, mode.value + half);
         }
     }
 
@@ -117,8 +114,8 @@ class TestAgreement : public DeskSuite
         };
         for (const ShortcutFunction &function : shortcutFunctions()) {
             for (int press = 0; isOffered(function) && press < 40; ++press) {
-                const auto key = press < 20 ? ShortcutKey::Plus : ShortcutKey::Minus;
-                const ShortcutStep step = shortcutStep(function.rule, key, read);
+                const ShortcutStep step =
+                    shortcutStep(function.rule, press < 20 ? ShortcutKey::Plus : ShortcutKey::Minus, read);
                 offer(Command(commandCode(step.row)), function.name, step.value);
                 writePair(*m_monitor, commandCode(step.row), static_cast<std::uint32_t>(step.value));
             }
@@ -158,35 +155,33 @@ class TestAgreement : public DeskSuite
     }
 
 private Q_SLOTS:
-    void programAndMonitors();
+    void programAndMonitors()
+    {
+        std::map<int, std::set<int>> always;
+        for (int bit = -1; bit < 16; ++bit) {
+            const QByteArray name = bit < 0 ? "no bit" : "bit " + QByteArray::number(bit);
+            MonitorModel model = monitorModels().front();
+            model.name = name.constData();
+            model.capabilities = static_cast<std::uint16_t>(bit < 0 ? 0 : 1u << bit);
+            walk(model);
+            if (bit < 0)
+                always = m_offered;
+            const auto has = [&model](const MonitorModel &each) { return each.capabilities & model.capabilities; };
+            if (m_offered != always && std::ranges::none_of(monitorModels(), has))
+                m_differences["no simulated model has " + name];
+        }
+        for (const MonitorModel &model : monitorModels())
+            walk(model);
+        for (const auto &[difference, reason] : kMeant) {
+            if (m_differences.erase(difference) == 0)
+                m_differences[QStringLiteral("listed as meant, but gone: %1").arg(difference)];
+        }
+        m_desk.reset(); // whose log nobody sees
+        for (const auto &[difference, models] : m_differences)
+            qWarning().noquote() << difference << models.values().join(", ");
+        QVERIFY(m_differences.empty());
+    }
 };
-
-void TestAgreement::programAndMonitors()
-{
-    std::map<int, std::set<int>> always;
-    for (int bit = -1; bit < 16; ++bit) {
-        const QByteArray name = bit < 0 ? "no bit" : "bit " + QByteArray::number(bit);
-        MonitorModel model = monitorModels().front();
-        model.name = name.constData();
-        model.capabilities = static_cast<std::uint16_t>(bit < 0 ? 0 : 1u << bit);
-        walk(model);
-        if (bit < 0)
-            always = m_offered;
-        const auto has = [&model](const MonitorModel &each) { return (each.capabilities & model.capabilities) != 0; };
-        if (m_offered != always && std::ranges::none_of(monitorModels(), has))
-            m_differences["no simulated model has " + name];
-    }
-    for (const MonitorModel &model : monitorModels())
-        walk(model);
-    for (const auto &[difference, reason] : kMeant) {
-        if (m_differences.erase(difference) == 0)
-            m_differences[QStringLiteral("listed as meant, but gone: %1").arg(difference)];
-    }
-    m_desk.reset(); // whose log nobody sees
-    for (const auto &[difference, models] : m_differences)
-        qWarning().noquote() << difference << models.values().join(", ");
-    QVERIFY(m_differences.empty());
-}
 
 QTEST_MAIN(TestAgreement)
 #include "tst_agreement.moc"

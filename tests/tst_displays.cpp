@@ -137,8 +137,7 @@ void TestDisplays::handles()
         }
         QCOMPARE(m_desk->takeRequests(0), QStringList());
     }
-    m_desk->desk.displays().setMonitorDisplay(1,
-                                              0); // two physical monitors behind one handle, of which the first is kept
+    m_desk->desk.displays().setMonitorDisplay(1, 0); // two behind one handle, of which the first is kept
     findDevices();
     findDevices();
     QCOMPARE(m_desk->desk.handles().countOpen(), 2);

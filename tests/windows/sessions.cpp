@@ -1,6 +1,6 @@
 // The registrations for messages about the session, written down in the folder that the environment variable
-// QUORVEL_TEST_MONITOR names; and the calls of the same library that the toolkit imports. The first registration comes
-// from the program's window: from then on the same folder answers where its controls are.
+// QUORVEL_TEST_MONITOR names; from the first one, by the program's window, the folder answers where its controls are.
+// And the calls of the same library that the toolkit imports.
 
 #include <filesystem>
 #include <fstream>
