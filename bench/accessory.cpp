@@ -5,7 +5,6 @@
 #include <benchmark/benchmark.h>
 
 #include "benchdesk.h"
-#include "ledmatrix/matrixform.h"
 #include "usb-hid/hidtransport.h"
 #include "usb-hid/livesender.h"
 
@@ -43,7 +42,7 @@ private:
 
 std::vector<std::int32_t> someFrame()
 {
-    std::vector<std::int32_t> cells(static_cast<std::size_t>(matrixCells(kTaperingForm)));
+    std::vector<std::int32_t> cells(static_cast<std::size_t>(matrixForms().front().cells()));
     for (std::size_t i = 0; i < cells.size(); ++i)
         cells[i] = i % 3 == 0 ? 1 : 0;
     return cells;
@@ -90,12 +89,12 @@ void liveFrameSent(benchmark::State &state)
     NullHidDesk taker(desk.desk, desk.clock);
     platform::installDesk(&taker);
     int device = 0; // only its address is used
-    hidHandle = reinterpret_cast<platform::HidDevice *>(&device);
-    matrixForm = kTaperingForm;
+    accessoryLink.handle = reinterpret_cast<platform::HidDevice *>(&device);
+    accessoryLink.form = &matrixForms().front();
     const auto cells = someFrame();
     for ([[maybe_unused]] auto _ : state)
         sendLiveFrame(cells);
-    hidHandle = nullptr;
+    accessoryLink.handle = nullptr;
 }
 
 void repeat(benchmark::internal::Benchmark *benchmark)

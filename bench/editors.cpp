@@ -11,10 +11,10 @@
 #include <benchmark/benchmark.h>
 
 #include "benchdesk.h"
-#include "ledmatrix/matrixform.h"
 #include "page/Nightloom/frametabs.h"
 #include "page/Nightloom/matrixeditor.h"
 #include "page/Nightloom/pageledmatrixcanvas.h"
+#include "usb-hid/accessorylink.h"
 
 namespace {
 
@@ -79,7 +79,7 @@ double milliseconds(Clock::time_point begin)
 void importFrames(benchmark::State &state)
 {
     const BenchDesk desk;
-    matrixForm = static_cast<int>(state.range(0));
+    accessoryLink.form = findMatrixForm(static_cast<int>(state.range(0)));
     QFile file(QStringLiteral("frames.csv"));
     if (!file.open(QIODevice::WriteOnly) || file.write(QByteArray("01").repeated(525 * kFrames)) < 0)
         return state.SkipWithError("no file");
@@ -100,14 +100,14 @@ void importFrames(benchmark::State &state)
         NamedCanvas::settle();
     }
     state.counters["worst_ms"] = worst;
-    matrixForm = kTaperingForm;
+    accessoryLink.form = &matrixForms().front();
 }
 
 /// From the press on a cell until it is painted, its stroke noted for undoing on release.
 void toggleCell(benchmark::State &state)
 {
     const BenchDesk desk;
-    matrixForm = static_cast<int>(state.range(0));
+    accessoryLink.form = findMatrixForm(static_cast<int>(state.range(0)));
     NamedCanvas page;
     while (page.frameCounter() <= kFrames)
         page.addFrame();
@@ -133,14 +133,14 @@ void toggleCell(benchmark::State &state)
             state.SkipWithError("the cell was not painted");
     }
     state.counters["worst_ms"] = worst;
-    matrixForm = kTaperingForm;
+    accessoryLink.form = &matrixForms().front();
 }
 
 /// What 193 frames take beyond the one that the page opens with, each shown once and drawn in, their history included.
 void openFrames(benchmark::State &state)
 {
     const BenchDesk desk;
-    matrixForm = static_cast<int>(state.range(0));
+    accessoryLink.form = findMatrixForm(static_cast<int>(state.range(0)));
     for ([[maybe_unused]] auto _ : state) {
         NamedCanvas page;
         const double before = residentMegabytes();
@@ -155,7 +155,7 @@ void openFrames(benchmark::State &state)
         state.counters["MB"] = residentMegabytes() - before;
         state.counters["frames"] = page.tabs()->count();
     }
-    matrixForm = kTaperingForm;
+    accessoryLink.form = &matrixForms().front();
 }
 
 BENCHMARK(importFrames)

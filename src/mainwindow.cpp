@@ -195,7 +195,7 @@ bool MainWindow::ensureHidConnected()
 {
     clearHidFlags(); // what was found before may be gone
     reopenHidDevice();
-    if (hidHandle)
+    if (accessoryLink.handle)
         return true;
     warnNotConnected();
     return false;

@@ -1,8 +1,8 @@
 #include <QPushButton>
 #include <QtTest>
 
-#include "ledmatrix/matrixform.h"
 #include "support/accessoryfixture.h"
+#include "support/matrixforms.h"
 #include "usb-hid/hidtransport.h"
 #include "usb-hid/livesender.h"
 #include "virtualdesk/accessorypanel.h"
@@ -89,7 +89,7 @@ void TestAccessory::deviceRefusesWrongReports()
         const QByteArray sent = QByteArray::fromHex(report);
         const std::span bytes(reinterpret_cast<const std::uint8_t *>(sent.constData()),
                               static_cast<std::size_t>(sent.size()));
-        QCOMPARE(platform::desk().hid().write(hidHandle, bytes), int(sent.size()));
+        QCOMPARE(platform::desk().hid().write(accessoryLink.handle, bytes), int(sent.size()));
         QCOMPARE(accessory().history().back().fault, fault);
         ++m_faultsExpected;
         QCOMPARE(accessory().state().uploads, 0);
@@ -121,9 +121,9 @@ void TestAccessory::findAndOpen()
     }
     QCOMPARE(said, log);
     QTEST(m_desk->desk.hidEntriesHeld, "held");
-    QCOMPARE(hidFound, plugged);
-    QCOMPARE(hidOpened, plugged && opens);
-    QCOMPARE(hidHandle != nullptr, plugged && opens);
+    QCOMPARE(accessoryLink.found.has_value(), plugged);
+    QCOMPARE(accessoryLink.opened, plugged && opens);
+    QCOMPARE(accessoryLink.handle != nullptr, plugged && opens);
 }
 
 void TestAccessory::flagsAreSticky()
@@ -140,7 +140,7 @@ void TestAccessory::flagsAreSticky()
     QList<int> told; // a panel follows it
     const int listener = accessory().addListener([&] { told.append(accessory().handlesOpen()); });
     reopenHid(); // the opened flag is still set: closed and nothing else
-    QVERIFY(!hidHandle);
+    QVERIFY(!accessoryLink.handle);
     connectDevice();
     accessory().removeListener(listener);
     QCOMPARE(told, (QList<int>{0, 1}));
@@ -154,7 +154,7 @@ void TestAccessory::panelShowsTheAccessory()
     QCOMPARE(panel.matrix()->litCells(), 0);
     const auto button = [&panel](const char *name) { return panel.findChild<QPushButton *>(QLatin1String(name)); };
     accessory().setForm(1);
-    matrixForm = 1;
+    useForm(1);
     sendLiveFrame(std::vector<std::int32_t>(1050, 1));
     QTRY_COMPARE(panel.matrix()->litCells(), 1050);
     QVERIFY(button("form")->isChecked());

@@ -2,12 +2,13 @@
 
 #include <QtTest>
 
-#include "ledmatrix/matrixform.h"
 #include "ledmatrix/matrixframe.h"
 #include "support/accessoryfixture.h"
+#include "support/matrixforms.h"
 #include "usb-hid/accessoryupload.h"
 #include "usb-hid/hidtransport.h"
 #include "usb-hid/livesender.h"
+#include "virtualdesk/accessoryforms.h"
 
 using virtualdesk::kForEver;
 
@@ -22,9 +23,9 @@ QByteArray drawn(qint64 size)
     return QByteArray("100").repeated(size / 3 + 1).first(size);
 }
 
-std::vector<std::int32_t> patternOf(int form)
+std::vector<std::int32_t> patternOf(const MatrixForm &form)
 {
-    std::vector<std::int32_t> cells(static_cast<std::size_t>(matrixCells(form)));
+    std::vector<std::int32_t> cells(static_cast<std::size_t>(form.cells()));
     for (std::size_t i = 0; i < cells.size(); ++i)
         cells[i] = i % 5 == 0 ? 1 : i % 7 == 0 ? 2 : 0; // 2 is no lit cell
     return cells;
@@ -46,6 +47,7 @@ private Q_SLOTS:
     void reopenedUnderAnUpload();
     void stoppedUploadEndsAtOnce();
     void liveFrames();
+    void formsAgree();
     void liveLatch();
 
 private:
@@ -225,26 +227,52 @@ void TestAccessoryUpload::liveFrames()
     connectDevice();
     AccessoryReport start;
     buildUploadStart(start, 0x24);
-    for (const auto &[form, chunks] : {std::pair{kTaperingForm, 17}, {kRectangleForm, 19}, {2, 0}}) {
+    for (const MatrixForm &form : matrixForms()) {
+        const int chunks = chunkCount(form.cells());
         auto cells = patternOf(form);
-        accessory().setForm(form);
+        accessory().setForm(form.number);
         accessory().clearHistory();
-        matrixForm = form;
+        accessoryLink.form = &form;
         sendLiveFrame(cells);
         QCOMPARE(int(accessory().history().size()), chunks);
         std::replace(cells.begin(), cells.end(), 2, 0);
-        QVERIFY(chunks == 0 || accessory().state().liveCells == cells);
-        sendLiveFrame(patternOf(1 - form)); // built just before the form was changed
+        QVERIFY(accessory().state().liveCells == cells);
+        QVERIFY(accessory().state().showsLive);
+        for (const MatrixForm &other : matrixForms()) {
+            accessoryLink.form = nullptr; // then nothing goes out
+            sendLiveFrame(patternOf(other));
+            accessoryLink.form = &form; // a frame was built just before the form was changed
+            if (&other != &form)
+                sendLiveFrame(patternOf(other));
+        }
         QCOMPARE(int(accessory().history().size()), chunks);
-        QCOMPARE(accessory().state().showsLive, chunks > 0);
         QCOMPARE(writeHid(start), HidWrite::Done);
         QVERIFY(!accessory().state().showsLive); // the upload is what it shows from now on
     }
 }
 
+/// The program and the device that it is watched by know the same forms, each by a table of its own.
+void TestAccessoryUpload::formsAgree()
+{
+    using namespace virtualdesk;
+    for (int number = 0; number <= std::max(highestForm(), matrixForms().back().number); ++number) {
+        const MatrixForm *form = findMatrixForm(number);
+        const auto &rows = virtualdesk::matrixRows(number);
+        QVERIFY2(form && !rows.empty(),
+                 qPrintable(
+                     QStringLiteral("form %1 is unknown to %2").arg(number).arg(form ? "the device" : "the program")));
+        QCOMPARE(form->rows.size(), rows.size());
+        for (std::size_t row = 0; row < rows.size(); ++row) {
+            const auto &[cells, first, shift] = form->rows[row];
+            QVERIFY2(cells == rows[row].cells && first == rows[row].first && shift == matrixRowShift(number, int(row)),
+                     qPrintable(QStringLiteral("%1, row %2").arg(form->label).arg(row)));
+        }
+    }
+}
+
 void TestAccessoryUpload::liveLatch()
 {
-    const auto cells = patternOf(kTaperingForm);
+    const auto cells = patternOf(kTapering);
     connectDevice();
     accessory().refuseWrites(kForEver);
     for (int i = 0; i < 100; ++i)

@@ -5,10 +5,9 @@
 
 #include <QtTest>
 
-#include "ledmatrix/matrixform.h"
-#include "ledmatrix/matrixgeometry.h"
 #include "page/Nightloom/audioled.h"
 #include "page/Nightloom/dateled.h"
+#include "support/matrixforms.h"
 #include "support/sounds.h"
 #include "support/textfile.h"
 
@@ -18,10 +17,10 @@ namespace {
 
 using Levels = std::vector<std::int32_t>;
 
-Levels highest(int form)
+Levels highest(const MatrixForm &form)
 {
     Levels levels;
-    for (const int limit : spectrumLimits(form))
+    for (const int limit : form.bars.limits)
         levels.push_back(3 * limit + 1);
     return levels;
 }
@@ -35,20 +34,22 @@ Levels drawn(AudioBars &bars, AudioTemplate which, const Levels &levels)
 }
 
 /// What a renderer lit, as its grid of dots: seven lines of 21.
-QStringList dots(const ClockRenderer &renderer, int form)
+QStringList dots(const ClockRenderer &renderer, const MatrixForm &form)
 {
+    const bool staggered = form.lattice == RowLattice::Staggered;
     MatrixFrame frame(form);
     frame.setFlat(renderer.frame());
     QStringList lines;
     for (int y = 0; y < 7; ++y) {
         QString line;
         for (int x = 0; x < 21; ++x) {
-            const int row = form == kTaperingForm ? 2 * y : 5 + 2 * y;
-            const int column = form == kTaperingForm ? x + 2 - matrixRowShift(form, row) / 2 : 2 * x;
+            const int row = form.clock.top + 2 * y;
+            const int shift = form.rows[static_cast<std::size_t>(row)].shift;
+            const int column = form.clock.left + (staggered ? x - shift / 2 : 2 * x);
             const auto lit = [&](int down, int right) {
                 return frame.contains(row + down, column + right) && frame.cell(row + down, column + right) == 1;
             };
-            const bool square = form == kTaperingForm || (lit(0, 1) && lit(1, 0) && lit(1, 1));
+            const bool square = staggered || (lit(0, 1) && lit(1, 0) && lit(1, 1));
             line += QLatin1Char(lit(0, 0) && square ? '#' : '.');
         }
         lines.append(line);
@@ -71,12 +72,12 @@ private Q_SLOTS:
 
 void TestAudio::fillsEveryColumn()
 {
-    for (const int form : {kTaperingForm, kRectangleForm}) {
+    for (const MatrixForm &form : matrixForms()) {
         const auto bars = makeAudioBars(form);
         int cells = 0;
         for (std::size_t bar = 0; bar < kSpectrumBands; ++bar)
             cells += bars->depth(bar);
-        const int width = form == kTaperingForm ? 1 : 2;
+        const int width = form.bars.width;
         QCOMPARE(litCells(drawn(*bars, AudioTemplate::Bars, highest(form))), cells * width);
         QCOMPARE(litCells(drawn(*bars, AudioTemplate::Bars, Levels(11, 1))), 11 * width); // the lowest height is a dot
         QCOMPARE(litCells(drawn(*bars, AudioTemplate::Bars, Levels(11, 0))), 0);
@@ -88,16 +89,17 @@ void TestAudio::fillsEveryColumn()
         QCOMPARE(litCells(drawn(*bars, AudioTemplate::Peaks, Levels())), 0);
 
         // The bars stand side by side: the middle one reaches as far down as the form, and none shares a cell.
-        const std::size_t rows = matrixRows(form).size();
+        const std::size_t rows = form.rows.size();
+        const bool upright = form.lattice == RowLattice::Upright;
         QCOMPARE(bars->depth(5), static_cast<int>(rows));
         for (std::size_t bar = 0; bar < 5; ++bar)
-            QVERIFY(form == kRectangleForm ? bars->depth(bar) == 25 : bars->depth(bar) < bars->depth(bar + 1));
+            QVERIFY(upright ? bars->depth(bar) == bars->depth(5) : bars->depth(bar) < bars->depth(bar + 1));
         MatrixFrame frame(form);
         frame.setFlat(drawn(*bars, AudioTemplate::Bars, {0, 0, 0, 0, 0, INT32_MAX}));
         for (const MatrixFrame::Row &row : frame.rows())
             QCOMPARE(litCells(row), width);
 
-        const Levels half(11, 3 * spectrumLimits(form)[0] / 2);
+        const Levels half(11, 3 * form.bars.limits[0] / 2);
         std::set<Levels> pictures;
         for (const auto which : {AudioTemplate::Mirrored, AudioTemplate::Bars, AudioTemplate::Hanging})
             pictures.insert(drawn(*bars, which, half));
@@ -105,21 +107,20 @@ void TestAudio::fillsEveryColumn()
         frame.setFlat(bars->frame());
         QVERIFY(litCells(frame.rows().front()) > 0);
         frame.setFlat(drawn(*bars, AudioTemplate::Bars, half));
-        QCOMPARE(litCells(frame.rows().back()), form == kRectangleForm ? 22 : 1);
-        QVERIFY(!makeAudioBars(2));
+        QCOMPARE(litCells(frame.rows().back()), upright ? 11 * width : width);
     }
 }
 
 void TestAudio::peaksFall()
 {
-    const auto bars = makeAudioBars(kRectangleForm);
-    const int full = litCells(drawn(*bars, AudioTemplate::Peaks, highest(kRectangleForm)));
+    const auto bars = makeAudioBars(kRectangle);
+    const int full = litCells(drawn(*bars, AudioTemplate::Peaks, highest(kRectangle)));
     QCOMPARE(full, 11 * 50);
     const Levels first = drawn(*bars, AudioTemplate::Peaks, Levels(11, 1));
     QCOMPARE(litCells(first), 11 * 4); // the bar's dot, and the peak one step below the top
     bars->redraw();                    // nothing new was heard
     QVERIFY(std::equal(first.begin(), first.end(), bars->frame().begin()));
-    MatrixFrame frame(kRectangleForm);
+    MatrixFrame frame(kRectangle);
     frame.setFlat(first);
     QCOMPARE(litCells(frame.rows()[1]), 22);
     for (int i = 0; i < 23; ++i)
@@ -138,17 +139,17 @@ void TestAudio::clockDigits()
         "#....#..#.....#...#..", //
         "####..##......#...#..", //
     };
-    for (const int form : {kTaperingForm, kRectangleForm}) {
+    for (const MatrixForm &form : matrixForms()) {
         const auto renderer = makeClockRenderer(form);
         renderer->render(QTime(23, 47, 10));
         QCOMPARE(dots(*renderer, form).join('\n'), expected.join('\n'));
         QCOMPARE(std::count(renderer->frame().begin(), renderer->frame().end(), 1), // and none beside the dots
-                 expected.join(QString()).count('#') * (form == kTaperingForm ? 2 : 4));
+                 expected.join(QString()).count('#') * (form.lattice == RowLattice::Staggered ? 2 : 4));
         const auto lit = [&renderer](int msec) {
             renderer->render(QTime(11, 11, 59, msec));
             return std::count(renderer->frame().begin(), renderer->frame().end(), 1);
         };
-        QCOMPARE(lit(499) - lit(500), form == kTaperingForm ? 4 : 8); // the colon blinks
+        QCOMPARE(lit(499) - lit(500), form.lattice == RowLattice::Staggered ? 4 : 8); // the colon blinks
         QCOMPARE(lit(0), lit(499));
         QCOMPARE(lit(500), lit(999));
     }

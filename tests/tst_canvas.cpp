@@ -171,7 +171,7 @@ void TestCanvas::keyboardReachesTheCells()
 /// A press at the edge of what is seen draws where the pen is; a key brings the cell that it goes to into sight.
 void TestCanvas::onlyKeysScroll()
 {
-    const auto page = makePage(kRectangleForm);
+    const auto page = makePage(1);
     page->tabs()->setCellSize(20);
     QCoreApplication::processEvents();
     MatrixEditor *editor = page->tabs()->currentEditor();
@@ -230,14 +230,14 @@ void TestCanvas::eachFormHasItsAnimation()
     draw(*page, 3);
     page->addFrame();
     const QByteArrayList before = page->tabs()->digits();
-    matrixForm = kRectangleForm;
+    useForm(1);
     page->updateInterfaceData();
     QCOMPARE(page->tabs()->digits(), QByteArrayList{QByteArray(1050, '0')});
     QVERIFY(qobject_cast<LEDMatrixWidgetRect *>(page->tabs()->editor(0)));
-    matrixForm = kTaperingForm;
+    useForm(0);
     page->updateInterfaceData();
     QCOMPARE(page->tabs()->digits(), before);
-    matrixForm = 7; // none
+    useForm(7); // none
     page->updateInterfaceData();
     page->addFrame();
     page->duplicateFrame();
@@ -260,7 +260,7 @@ void TestCanvas::shownAgain()
         const auto page = makePage(form);
         QCOMPARE(page->work()->notice().isEmpty(), shownIn >= 0);
         QVERIFY(page->dataFile().isEmpty() && !page->button("Write Animate")->isEnabled());
-        matrixForm = shownIn >= 0 ? shownIn : form;
+        useForm(shownIn >= 0 ? shownIn : form);
         page->updateInterfaceData();
         QCOMPARE(page->tabs()->count(), frames);
         if (shownIn >= 0)
@@ -298,7 +298,7 @@ void TestCanvas::leaving()
         QVERIFY(!page->mayLeave() && page->timesAsked == ++asked);
         QCOMPARE(page->warnings.count(), 1);
     }
-    matrixForm = kRectangleForm; // two drawings, one data file: the one that is seen gets it
+    useForm(1); // two drawings, one data file: the one that is seen gets it
     page->updateInterfaceData();
     draw(*page, 2);
     QVERIFY(!page->mayLeave() && page->timesAsked == ++asked); // no file was named for the other

@@ -14,7 +14,7 @@
 namespace {
 
 constexpr const char *kDataFile = pageLEDMatrixCanvas::kDataFile;
-const QByteArray kTapering = QByteArray(948, '0') + "1"; // a frame
+const QByteArray kTaperingFrame = QByteArray(948, '0') + "1"; // a frame
 
 } // namespace
 
@@ -45,9 +45,9 @@ void TestCanvasFiles::importRules()
          {std::tuple(1, frame.first(1049), false, 0, 0),
           {1, frame, false, 1, 2},
           {1, frame + frame.first(1049), false, 1, 2},
-          {0, frame.repeated(2), false, 2, 1},       // steps of 1050 for the tapering form too
-          {0, kTapering.repeated(20), false, 18, 1}, // shifted on purpose
-          {0, kTapering.repeated(20), true, 20, 1},
+          {0, frame.repeated(2), false, 2, 1},            // steps of 1050 for the tapering form too
+          {0, kTaperingFrame.repeated(20), false, 18, 1}, // shifted on purpose
+          {0, kTaperingFrame.repeated(20), true, 20, 1},
           {1, frame.repeated(193), false, 192, 2}, // more than the maximum
           {1, QByteArray(1'000'000, '1'), false, 192, 1050},
           {1, QByteArray(1050, '\xff').replace(5, 2, "1\0", 2), false, 1, 1}}) { // anything but 1 is dark
@@ -63,8 +63,8 @@ void TestCanvasFiles::importRules()
             QCOMPARE(page->tabs()->tabText(0), QStringLiteral("1"));
         }
         QVERIFY(m_desk->takeLog().contains(QStringLiteral("Frame size: %1").arg(frames)));
-        if (content.startsWith(kTapering))
-            QCOMPARE(page->tabs()->digits().count(kTapering), aligned ? 20 : 1);
+        if (content.startsWith(kTaperingFrame))
+            QCOMPARE(page->tabs()->digits().count(kTaperingFrame), aligned ? 20 : 1);
         QCOMPARE(page->work()->notice().isEmpty(),
                  frames > 0 && content.size() < 193 * 1050); // what is left out is told
         QCOMPARE(page->busyEvents, (QList<int>{1, 0}));
@@ -114,7 +114,7 @@ void TestCanvasFiles::realDialogs()
 
 void TestCanvasFiles::exportInTabOrder()
 {
-    const auto page = makePage(kRectangleForm);
+    const auto page = makePage(1);
     draw(*page, 0);
     page->duplicateFrame();
     draw(*page, 1);
@@ -313,7 +313,7 @@ void TestCanvasFiles::cancelledUpload()
         if (heldAt == 0)
             QCOMPARE(page->work()->timeText(), QStringLiteral("7 s left"));
         page->updateControlText(); // another language meanwhile, and another form
-        matrixForm = heldAt == 3 ? kRectangleForm : kTaperingForm;
+        useForm(heldAt == 3);
         page->updateInterfaceData();
         if (complete)
             other.setFocus(); // the user goes elsewhere
@@ -324,7 +324,7 @@ void TestCanvasFiles::cancelledUpload()
         QCOMPARE(page->work()->notice().isEmpty(), complete);
         QCOMPARE(page->work()->progressBar()->isVisible(), complete);
         QCOMPARE(page->busyEvents, (QList<int>{1, 0, 1, 0}));
-        QCOMPARE(page->tabs()->digits().first().size(), matrixCells(matrixForm)); // which is followed now
+        QCOMPARE(page->tabs()->digits().first().size(), accessoryLink.form.load()->cells()); // which is followed now
         if (heldAt != 3) // where there is nothing saved to write
             QCOMPARE(page->focusWidget(), complete ? &other : write);
         cleanup();

@@ -1,10 +1,10 @@
 #include <QtTest>
 
-#include "ledmatrix/matrixform.h"
 #include "page/Nightloom/animationhistory.h"
 #include "support/datarow.h"
 #include "support/deskfixture.h"
 #include "support/matrixcells.h"
+#include "support/matrixforms.h"
 #include "support/textfile.h"
 
 namespace {
@@ -53,13 +53,13 @@ void TestEditors::frameOrder_data()
 void TestEditors::frameOrder()
 {
     const auto [form, row, column, place] = fetch<int, int, int, int>();
-    const std::unique_ptr<MatrixEditor> editor(createMatrixEditor(form, nullptr));
+    const std::unique_ptr<MatrixEditor> editor(createMatrixEditor(*findMatrixForm(form), nullptr));
     QTest::mouseClick(editor.get(), Qt::LeftButton, {}, middle(*editor, {row, column}));
     QByteArray digits(form == 0 ? 949 : 1050, '0');
     digits[place] = '1';
     QCOMPARE(editor->frame().digits(), digits);
 
-    const std::unique_ptr<MatrixEditor> other(createMatrixEditor(form, nullptr));
+    const std::unique_ptr<MatrixEditor> other(createMatrixEditor(*findMatrixForm(form), nullptr));
     other->setFrame(editor->frame().flat());
     QCOMPARE(other->frame().cell(row, column), 1);
     QCOMPARE(litCells(*other), 1);
@@ -70,8 +70,8 @@ void TestEditors::frameOrder()
 /// Each cell is hit where it is drawn, at its corners too; together they take all the points that hit anything.
 void TestEditors::everyCellIsHit()
 {
-    for (const auto &[form, cellSize] : {std::pair{0, 10}, {0, 7}, {1, 13}}) {
-        const MatrixGeometry geometry(form, cellSize);
+    for (const auto &[form, cellSize] : {std::pair{&kTapering, 10}, {&kTapering, 7}, {&kRectangle, 13}}) {
+        const MatrixGeometry geometry(*form, cellSize);
         int points = 0;
         for (int y = -1; y <= geometry.size().height(); ++y) {
             for (int x = -1; x <= geometry.size().width(); ++x) {
@@ -80,13 +80,13 @@ void TestEditors::everyCellIsHit()
                 points += cell.has_value();
             }
         }
-        QCOMPARE(points, matrixCells(form) * cellSize * cellSize); // none lies beyond the edge
+        QCOMPARE(points, form->cells() * cellSize * cellSize); // none lies beyond the edge
     }
 }
 
 void TestEditors::pressAndDrag()
 {
-    LEDMatrixWidgetRect editor;
+    LEDMatrixWidgetRect editor(kRectangle);
     QCOMPARE(editor.size(), QSize(42 * 13, 25 * 13));
     QSignalSpy edited(&editor, &MatrixEditor::edited);
     drag(editor, middle(editor, {2, 2}), middle(editor, {2, 6}));
@@ -115,7 +115,7 @@ void TestEditors::pressAndDrag()
 
 void TestEditors::fastMouseSkipsNoCell()
 {
-    LEDMatrixWidget editor;
+    LEDMatrixWidget editor(kTapering);
     drag(editor, middle(editor, {0, 12}), middle(editor, {70, 1}));
     for (int row = 0; row <= 70; ++row) {
         const auto &cells = editor.frame().rows()[static_cast<std::size_t>(row)];
@@ -125,7 +125,7 @@ void TestEditors::fastMouseSkipsNoCell()
     drag(editor, middle(editor, {0, 0}), QPoint(4000, 5)); // far beyond the edge
     QCOMPARE(litCells(editor), 25);
     for (const int to : {9, 5}) { // the press puts a cell out, which only the mouse that comes back to it lights again
-        editor.setFrame(toFrame(QBitArray(949, true), kTaperingForm).flat());
+        editor.setFrame(toFrame(QBitArray(949, true), kTapering).flat());
         drag(editor, middle(editor, {0, 5}), middle(editor, {0, to}) + QPoint(2, 0));
         QCOMPARE(editor.frame().cell(0, 5), to == 5 ? 1 : 0);
     }
@@ -133,7 +133,7 @@ void TestEditors::fastMouseSkipsNoCell()
 
 void TestEditors::keyboardCursor()
 {
-    LEDMatrixWidget editor;
+    LEDMatrixWidget editor(kTapering);
     QCOMPARE(editor.cursorCell(), (MatrixCell{0, 0}));
     QTest::keyClick(&editor, Qt::Key_Left); // the edge
     for (int i = 0; i < 30; ++i)
@@ -166,7 +166,7 @@ void TestEditors::repaintsOnlyTheCell()
         }
         QRegion region;
     } painted;
-    LEDMatrixWidgetRect editor;
+    LEDMatrixWidgetRect editor(kRectangle);
     editor.show();
     QVERIFY(QTest::qWaitForWindowExposed(&editor));
     QCoreApplication::processEvents();
@@ -183,7 +183,7 @@ void TestEditors::repaintsOnlyTheCell()
 void TestEditors::editorAppendsToItsFile()
 {
     const DeskFixture desk; // whose disk takes the file
-    LEDMatrixWidget editor;
+    LEDMatrixWidget editor(kTapering);
     editor.setDataFile(QStringLiteral("frames.csv"));
     QVERIFY(editor.appendFrameToFile());
     QTest::mouseClick(&editor, Qt::LeftButton, {}, middle(editor, {0, 1}));

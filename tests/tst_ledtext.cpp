@@ -3,12 +3,12 @@
 #include <QtTest>
 #include <QtWidgets>
 
-#include "ledmatrix/matrixform.h"
 #include "page/Nightloom/ledworkthread.h"
 #include "page/Nightloom/matrixeditor.h"
 #include "page/Nightloom/pageledmatrixtext.h"
 #include "page/Nightloom/textwidget.h"
 #include "support/accessoryfixture.h"
+#include "support/matrixforms.h"
 #include "usb-hid/accessoryupload.h"
 
 using namespace std::chrono_literals;
@@ -55,11 +55,11 @@ void TestLedText::cleanup()
 /// A text comes in at one edge cell by cell and goes out at the other; to the right it does so backwards.
 void TestLedText::scrolling()
 {
-    for (const int form : {kTaperingForm, kRectangleForm}) {
-        const TextRenderer left(form, QStringLiteral("H"), TextMotion::Left);
-        const TextRenderer right(form, QStringLiteral("H"), TextMotion::Right);
+    for (const MatrixForm &form : matrixForms()) {
+        const TextRenderer left(&form, QStringLiteral("H"), TextMotion::Left);
+        const TextRenderer right(&form, QStringLiteral("H"), TextMotion::Right);
         QCOMPARE(left.frameCount(), right.frameCount());
-        QVERIFY(left.frameCount() > matrixColumns(form));
+        QVERIFY(left.frameCount() > form.columns());
         QCOMPARE(lit(left.frame(left.frameCount() - 1)), 0); // gone
         QVERIFY(lit(left.frame(left.fullestFrame())) > 20);
         QCOMPARE(left.frame(5), right.frame(right.frameCount() - 2 - 5));
@@ -73,7 +73,7 @@ void TestLedText::scrolling()
 
 void TestLedText::standing()
 {
-    const TextRenderer shortText(kRectangleForm, QStringLiteral("Hi"), TextMotion::Standing);
+    const TextRenderer shortText(&kRectangle, QStringLiteral("Hi"), TextMotion::Standing);
     QCOMPARE(shortText.frameCount(), 1);
     const MatrixFrame frame = shortText.frame(0);
     int first = 42;
@@ -100,10 +100,10 @@ void TestLedText::standingPieces()
           {"ש"}}) {
         const bool words = units.size() > 1;
         const QString text = words ? units.join(' ') : units.first().repeated(60);
-        for (const int form : {kTaperingForm, kRectangleForm}) {
+        for (const MatrixForm &form : matrixForms()) {
             QList<QByteArray> expected; // what stands there alone
-            const auto expect = [&expected, form](const QString &piece) {
-                const TextRenderer renderer(form, piece, TextMotion::Standing);
+            const auto expect = [&expected, &form](const QString &piece) {
+                const TextRenderer renderer(&form, piece, TextMotion::Standing);
                 if (renderer.frameCount() == 1)
                     expected.append(renderer.frame(0).digits());
             };
@@ -113,7 +113,7 @@ void TestLedText::standingPieces()
             }
             for (int count = 2; !words && count <= 12; ++count)
                 expect(units.first().repeated(count));
-            const TextRenderer renderer(form, text, TextMotion::Standing);
+            const TextRenderer renderer(&form, text, TextMotion::Standing);
             QVERIFY(renderer.frameCount() >= 2 * 20);
             for (int i = 0; i < renderer.frameCount(); ++i)
                 QVERIFY(expected.contains(renderer.frame(i).digits()));
@@ -130,8 +130,8 @@ void TestLedText::longTexts()
                                         {'o' + QString(3000, QChar(0x0308)), 1},
                                         {QString(300, QChar(0xD83D)), 300}, // halves of pairs
                                         {QStringLiteral("שלום world\n\t\r\u2029").repeated(9), 9 * 15}}) {
-        for (const auto &[form, limit] : {std::pair{kTaperingForm, 822}, {kRectangleForm, 742}}) {
-            matrixForm = form;
+        for (const auto &[form, limit] : {std::pair{&kTapering, 822}, {&kRectangle, 742}}) {
+            accessoryLink.form = form;
             BoundTexts texts;
             TextWidget widget(texts);
             widget.show();
@@ -156,8 +156,8 @@ void TestLedText::longTexts()
 
 void TestLedText::nothingToRender()
 {
-    QCOMPARE(TextRenderer(7, QStringLiteral("Hello"), TextMotion::Left).frameCount(), 0);
-    QCOMPARE(TextRenderer(0, QString(), TextMotion::Left).frameCount(), 0);
+    QCOMPARE(TextRenderer(nullptr, QStringLiteral("Hello"), TextMotion::Left).frameCount(), 0);
+    QCOMPARE(TextRenderer(&kTapering, QString(), TextMotion::Left).frameCount(), 0);
     BoundTexts texts;
     TextWidget widget(texts);
     m_desk->takeLog();
@@ -192,13 +192,13 @@ void TestLedText::saveData()
     });
     page.saveButton()->click();
     QVERIFY(!page.saveButton()->isEnabled());
-    matrixForm = kRectangleForm; // too late for this one
+    useForm(1); // too late for this one
     QVERIFY(QTest::qWaitFor([&] { return !page.isBusy(); }));
     QCOMPARE(phases.first(), QStringLiteral("Erase"));
     QVERIFY(phases.contains(QStringLiteral("Write Data")));
     QCOMPARE(busy, (QList<int>{1, 0}));
     QVERIFY(page.saveButton()->isEnabled());
-    const TextRenderer renderer(0, QStringLiteral("Loom"), TextMotion::Left);
+    const TextRenderer renderer(&kTapering, QStringLiteral("Loom"), TextMotion::Left);
     const QByteArray written = readText(QStringLiteral("out_frame.txt"));
     QCOMPARE(written.size(), renderer.frameCount() * 949);
     QCOMPARE(written.sliced(renderer.fullestFrame() * 949, 949), renderer.frame(renderer.fullestFrame()).digits());
@@ -270,10 +270,10 @@ void TestLedText::preview()
     QCOMPARE(shown->frame().digits(), QByteArray(949, '0'));
     QVERIFY(!page.text()->player().isPlaying());
     page.text()->input()->setText(QStringLiteral("A"));
-    matrixForm = kRectangleForm;
+    useForm(1);
     page.hide();
     page.show();
-    QCOMPARE(page.text()->preview()->frame().form(), kRectangleForm);
+    QCOMPARE(page.text()->preview()->frame().form().number, 1);
     QVERIFY(page.text()->preview()->frame().digits().contains('1'));
 }
 

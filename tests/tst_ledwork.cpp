@@ -5,7 +5,6 @@
 
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
-#include "ledmatrix/matrixform.h"
 #include "page/Nightloom/accessorysettings.h"
 #include "page/Nightloom/ledframesource.h"
 #include "page/Nightloom/ledworkthread.h"
@@ -15,6 +14,7 @@
 #include "page/engine/optiongrouprow.h"
 #include "searchdevicedlg.h"
 #include "support/accessoryfixture.h"
+#include "support/matrixforms.h"
 #include "usb-hid/hidtransport.h"
 
 using virtualdesk::kForEver;
@@ -27,7 +27,7 @@ class Source : public LedFrameSource, public AudioVisual
 public:
     AudioVisual *audioVisual() override { return hasVisual ? this : nullptr; }
     void frameSent() override { ++sent; }
-    void clear() override { m_cells.assign(static_cast<std::size_t>(matrixCells(matrixForm)), 0); }
+    void clear() override { m_cells.assign(static_cast<std::size_t>(accessoryLink.form.load()->cells()), 0); }
     void setLevels(const std::vector<std::int32_t> &levels) override
     {
         drawn = levels.empty() ? 0 : levels.front();
@@ -136,10 +136,10 @@ QList<int> TestLedWork::runClock(int passes)
 
 void TestLedWork::clockGoesOnInVain()
 {
-    matrixForm = 7;
+    useForm(7);
     QVERIFY(runClock(3).size() >= 3); // should the form be set right
     QCOMPARE(accessory().history().size(), 0u);
-    matrixForm = kTaperingForm;
+    useForm(0);
     accessory().refuseWrites(kForEver);
     const QList<int> waits = runClock(240); // two minutes
     QVERIFY(waits.size() >= 240 && waits.count(500) == waits.size());
@@ -275,9 +275,9 @@ void TestLedWork::settingsAreSentAndStored()
     QCOMPARE(m_page->levelSlider()->value(), accessory().state().level);
     QCOMPARE(accessory().state().level, 3);
     m_desk->desk.fileFaults.flush.failAt(1);
-    m_page->formOptions()->buttonOf(kRectangleForm)->click();
+    m_page->formOptions()->buttonOf(1)->click();
     QVERIFY(m_page->notice().startsWith(QStringLiteral("config.ini cannot be written:")));
-    QCOMPARE(matrixForm.load(), kRectangleForm);
+    QCOMPARE(accessoryLink.form.load(), &kRectangle);
 }
 
 /// Whatever comes in between, the clock goes on, and meanwhile no time stays that is no longer true.
@@ -302,8 +302,8 @@ void TestLedWork::clockGoesOnAfterwards()
         QVERIFY(goesOn());
     }
     m_display->setInterrupted(true);
-    accessory().setForm(kRectangleForm); // only now, or frames of the old form would still come to it
-    m_page->formOptions()->buttonOf(kRectangleForm)->click();
+    accessory().setForm(1); // only now, or frames of the old form would still come to it
+    m_page->formOptions()->buttonOf(1)->click();
     m_display->setInterrupted(false);
     QTRY_COMPARE(int(accessory().state().liveCells.size()), 1050);
     m_display->setInterrupted(true);
@@ -354,11 +354,11 @@ void TestLedWork::formIsChosenAndLoaded()
 {
     makePage();
     m_page->formOptions()->buttonOf(1)->click();
-    QCOMPARE(matrixForm.load(), 1);
+    QCOMPARE(accessoryLink.form.load(), &kRectangle);
     for (const auto &[stored, loaded] : {std::pair{0, 0}, {1, 1}, {2, 0}, {-1, 0}}) {
         settingsInt(QLatin1String(kMatrixFormKey), stored, true);
         loadMatrixForm();
-        QCOMPARE(matrixForm.load(), loaded);
+        QCOMPARE(accessoryLink.form.load()->number, loaded);
     }
 }
 

@@ -8,7 +8,6 @@
 #include "PictureAudioCom/soundanalyzer.h"
 #include "controls/sharedfonts.h"
 #include "ddc_protocol/commandqueue.h"
-#include "ledmatrix/matrixform.h"
 #include "page/Nightloom/audiopicture.h"
 #include "page/Nightloom/ledworkthread.h"
 #include "page/Nightloom/livedisplay.h"
@@ -16,6 +15,7 @@
 #include "page/Nightloom/pageledsystem.h"
 #include "page/engine/optiongrouprow.h"
 #include "support/deskfixture.h"
+#include "support/matrixforms.h"
 #include "support/sounds.h"
 #include "usb-hid/hidtransport.h"
 #include "virtualdesk/soundpanel.h"
@@ -31,7 +31,7 @@ class MusicRig
 public:
     MusicRig()
     {
-        matrixForm = kTaperingForm;
+        useForm(0);
         page = std::make_unique<pageLEDMusic>([this] { return connected; }, display, queue);
         clearHidFlags();
         reopenHid();
@@ -61,7 +61,7 @@ public:
         ledWorkThread::shutDown();
         QCoreApplication::processEvents(); // what the two threads still tell is not the next page's
         closeHid();
-        matrixForm = kTaperingForm;
+        useForm(0);
     }
     Q_DISABLE_COPY_MOVE(MusicRig)
 
@@ -137,10 +137,10 @@ private Q_SLOTS:
 
 void TestMusic::reachesMatrix()
 {
-    for (const int form : {kTaperingForm, kRectangleForm}) {
+    for (const MatrixForm &form : matrixForms()) {
         MusicRig rig;
-        rig.fixture.desk.accessory().setForm(form);
-        matrixForm = form;
+        rig.fixture.desk.accessory().setForm(form.number);
+        accessoryLink.form = &form;
         rig.page->updateInterfaceData();
         QVERIFY(rig.page->templateOptions()->buttonOf(static_cast<int>(AudioTemplate::Bars))->isChecked());
         QCOMPARE(settingsInt(kMusicTemplateKey, static_cast<int>(AudioTemplate::Mirrored), true), 0);
@@ -162,7 +162,7 @@ void TestMusic::reachesMatrix()
             });
         }));
         const auto picture = rig.page->picture()->cells();
-        QCOMPARE(static_cast<int>(picture.size()), matrixCells(form));
+        QCOMPARE(static_cast<int>(picture.size()), form.cells());
         QVERIFY(litCells(picture) > 0);
 
         rig.fixture.desk.fileFaults.replace.failAt(1);
@@ -173,7 +173,7 @@ void TestMusic::reachesMatrix()
         QVERIFY(rig.becomes([&] {
             MatrixFrame frame(form);
             frame.setFlat(rig.shown());
-            return litCells(frame.rows()[0]) == (form == kTaperingForm ? 11 : 22);
+            return litCells(frame.rows()[0]) == 11 * form.bars.width;
         }));
         QCOMPARE(rig.fixture.desk.accessory().protocolFaults(), 0);
     }

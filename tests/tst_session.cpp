@@ -44,7 +44,10 @@ public:
     void deviceArrived() override { calls.append("arrived"); }
     void deviceRemoved() override { calls.append("removed"); }
     void systemNoticed(SystemNotice) override { calls.append("noticed"); }
-    void reopenHidDevice() override { calls.append(hidFound || hidOpened ? "reopen" : "reopen anew"); }
+    void reopenHidDevice() override
+    {
+        calls.append(accessoryLink.found || accessoryLink.opened ? "reopen" : "reopen anew");
+    }
     QStringList take() { return std::exchange(calls, {}); }
 
     QStringList calls;
@@ -270,7 +273,8 @@ void TestSession::deviceMessages()
 {
     m_session->searchDevices();
     m_session->setHost(&m_host);
-    hidFound = hidOpened = true;
+    accessoryLink.found.emplace();
+    accessoryLink.opened = true;
     m_desk->desk.deliverDeviceMessage(platform::kDeviceArrival, kAccessoryClass);
     QCOMPARE(m_host.take(), (QStringList{"arrived", "reopen anew"}));
     m_desk->desk.accessory().setPlugged(false);

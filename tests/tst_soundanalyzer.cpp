@@ -3,8 +3,8 @@
 #include <QtTest>
 
 #include "PictureAudioCom/soundanalyzer.h"
-#include "ledmatrix/matrixform.h"
 #include "support/deskfixture.h"
+#include "support/matrixforms.h"
 #include "support/sounds.h"
 
 using virtualdesk::AudioCall;
@@ -23,7 +23,7 @@ class Rig
 public:
     explicit Rig(Sound kind = Sound::Tone)
     {
-        matrixForm = kTaperingForm;
+        useForm(0);
         endpoint.play(playing(kind));
         QObject::connect(&analyzer, &SoundAnalyzer::heightsReady, [this](const auto &list) { heights.append(list); });
         QObject::connect(&analyzer, &SoundAnalyzer::stopped, [this] { ++stops; });
@@ -62,7 +62,7 @@ public:
         SpectrumAnalysis analysis;
         analysis.prepare(static_cast<std::uint32_t>(rate));
         const BarHeights expected =
-            *barHeights(*analysis.analyse(record(endpoint.setup().sound, rate, channels, frames)), kTaperingForm);
+            barHeights(*analysis.analyse(record(endpoint.setup().sound, rate, channels, frames)), kTapering);
         return {expected.begin(), expected.end()};
     }
 
@@ -128,7 +128,7 @@ void TestSoundAnalyzer::turnsAsMeant()
     QCOMPARE(rig.stops, 2);
     rig.fixture.takeLog();
 
-    matrixForm = 7; // unknown: no heights, and yet it goes on as with them
+    useForm(7); // unknown: no heights, and yet it goes on as with them
     rig.run(8);
     QCOMPARE(rig.heights.size(), 2);
     QCOMPARE(rig.count(AudioCall::ReleaseBuffer), 2);

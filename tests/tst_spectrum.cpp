@@ -8,7 +8,7 @@
 #include <QtTest>
 
 #include "PictureAudioCom/spectrumanalysis.h"
-#include "ledmatrix/matrixform.h"
+#include "support/matrixforms.h"
 #include "support/sounds.h"
 
 using virtualdesk::Sound;
@@ -119,8 +119,8 @@ void TestSpectrum::tonesFillTheirBand()
         const auto sums = analysis.analyse(record(playing(Sound::Tone, bin * 20.0), 48000, 1, 4800));
         QVERIFY(sums);
         QCOMPARE(std::max_element(sums->begin(), sums->end()) - sums->begin(), static_cast<std::ptrdiff_t>(band));
-        for (const int form : {kTaperingForm, kRectangleForm})
-            QCOMPARE(barHeights(*sums, form)->at(band), 3 * spectrumLimits(form)[band] + 1);
+        for (const MatrixForm &form : matrixForms())
+            QCOMPARE(barHeights(*sums, form).at(band), 3 * form.bars.limits[band] + 1);
     }
 }
 
@@ -135,10 +135,8 @@ void TestSpectrum::impulseGivesKnownHeights()
     const auto sums = analysis.analyse(impulse);
     QVERIFY(sums);
     QVERIFY(std::abs(sums->at(10) - 1000.0 * 370 / 219) < 1e-6);
-    QCOMPARE(*barHeights(*sums, kTaperingForm), (BarHeights{1, 1, 5, 8, 10, 32, 27, 41, 26, 23, 16}));
-    QCOMPARE(*barHeights(*sums, kRectangleForm), (BarHeights{1, 1, 10, 12, 12, 32, 23, 44, 39, 52, 76}));
-    QVERIFY(!barHeights(*sums, 2));
-    QVERIFY(!barHeights(*sums, -1));
+    QCOMPARE(barHeights(*sums, kTapering), (BarHeights{1, 1, 5, 8, 10, 32, 27, 41, 26, 23, 16}));
+    QCOMPARE(barHeights(*sums, kRectangle), (BarHeights{1, 1, 10, 12, 12, 32, 23, 44, 39, 52, 76}));
 }
 
 void TestSpectrum::silenceGivesNothing()
@@ -170,15 +168,15 @@ void TestSpectrum::heightsStayWithinLimits()
     empty[6] = 246.0;
     BandSums oneOnly{};
     oneOnly[5] = 99;
-    for (const int form : {kTaperingForm, kRectangleForm}) {
-        const auto limits = spectrumLimits(form);
+    for (const MatrixForm &form : matrixForms()) {
+        const auto &limits = form.bars.limits;
         BarHeights expected;
         expected.fill(1);
-        QCOMPARE(*barHeights(alike, form), expected);
-        QCOMPARE(*barHeights(oneOnly, form), expected);
+        QCOMPARE(barHeights(alike, form), expected);
+        QCOMPARE(barHeights(oneOnly, form), expected);
         expected[6] = 3 * limits[6] + 1;
-        QCOMPARE(*barHeights(empty, form), expected);
-        const BarHeights high = *barHeights(extreme, form);
+        QCOMPARE(barHeights(empty, form), expected);
+        const BarHeights high = barHeights(extreme, form);
         QCOMPARE(high[3], 1);
         QCOMPARE(high[4], 3 * limits[4] + 1);
         for (std::size_t band = 0; band < high.size(); ++band)

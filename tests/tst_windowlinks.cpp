@@ -135,17 +135,17 @@ void TestWindowLinks::accessoryIsOpenedAndFollowed()
 {
     start(10);
     virtualdesk::SimulatedAccessory &accessory = m_desk->desk.accessory();
-    QVERIFY(hidHandle);
+    QVERIFY(accessoryLink.handle);
     QCOMPARE(accessory.handlesOpen(), 1);
     accessory.setPlugged(false);
-    QVERIFY(hidHandle); // nobody noticed yet
+    QVERIFY(accessoryLink.handle); // nobody noticed yet
     accessory.setPlugged(true);
     AccessoryReport report;
     buildLiveStop(report);
     QCOMPARE(writeHid(report), HidWrite::Done); // the arrival opened it anew
     QCOMPARE(accessory.handlesOpen(), 1);
     m_window.reset();
-    QVERIFY(!hidHandle);
+    QVERIFY(!accessoryLink.handle);
     QCOMPARE(accessory.handlesOpen() + accessory.handleFaults(), 0);
 }
 

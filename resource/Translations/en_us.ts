@@ -324,8 +324,8 @@
         <translation>Animate Mode</translation>
     </message>
     <message>
-        <source>Animate: 1050 cells a frame. Aligned: 949, as this form saves.</source>
-        <translation>Animate: 1050 cells a frame. Aligned: 949, as this form saves.</translation>
+        <source>Animate: 1050 cells a frame. Aligned: %1, as this form saves.</source>
+        <translation>Animate: 1050 cells a frame. Aligned: %1, as this form saves.</translation>
     </message>
     <message>
         <source>Animations</source>

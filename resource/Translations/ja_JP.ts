@@ -324,8 +324,8 @@
         <translation>アニメモード</translation>
     </message>
     <message>
-        <source>Animate: 1050 cells a frame. Aligned: 949, as this form saves.</source>
-        <translation>アニメ: 1フレーム1050セル。整列: この形状の949セル。</translation>
+        <source>Animate: 1050 cells a frame. Aligned: %1, as this form saves.</source>
+        <translation>アニメ: 1フレーム1050セル。整列: この形状の%1セル。</translation>
     </message>
     <message>
         <source>Animations</source>

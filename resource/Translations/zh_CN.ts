@@ -324,8 +324,8 @@
         <translation>动画模式</translation>
     </message>
     <message>
-        <source>Animate: 1050 cells a frame. Aligned: 949, as this form saves.</source>
-        <translation>动画：每帧1050格。对齐：每帧949格，与此形状的保存相同。</translation>
+        <source>Animate: 1050 cells a frame. Aligned: %1, as this form saves.</source>
+        <translation>动画：每帧1050格。对齐：每帧%1格，与此形状的保存相同。</translation>
     </message>
     <message>
         <source>Animations</source>

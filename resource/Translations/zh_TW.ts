@@ -324,8 +324,8 @@
         <translation>動畫模式</translation>
     </message>
     <message>
-        <source>Animate: 1050 cells a frame. Aligned: 949, as this form saves.</source>
-        <translation>動畫：每畫格1050格。對齊：949格，與此形狀的儲存相同。</translation>
+        <source>Animate: 1050 cells a frame. Aligned: %1, as this form saves.</source>
+        <translation>動畫：每畫格1050格。對齊：%1格，與此形狀的儲存相同。</translation>
     </message>
     <message>
         <source>Animations</source>

@@ -2,9 +2,9 @@
 
 #include <QDebug>
 
-#include "ledmatrix/matrixform.h"
 #include "platform/desk.h"
 #include "platform/ending.h"
+#include "usb-hid/accessorylink.h"
 
 namespace {
 
@@ -218,8 +218,9 @@ bool SoundAnalyzer::analysePacket(const platform::AudioPacket &packet)
     const auto sums = m_analysis.analyse(samples);
     if (!sums)
         return false;
-    if (const auto heights = barHeights(*sums, matrixForm)) {
-        const QList<int> list(heights->begin(), heights->end());
+    if (const MatrixForm *form = accessoryLink.form) {
+        const BarHeights heights = barHeights(*sums, *form);
+        const QList<int> list(heights.begin(), heights.end());
         qDebug() << list;
         tell([this, list] { Q_EMIT heightsReady(list); });
     }

@@ -5,17 +5,12 @@
 #include <limits>
 #include <mutex>
 
-#include "ledmatrix/matrixform.h"
-
 namespace {
 
 // Hz; band i runs from entry i to entry i + 1. 2049 is meant, and so are the two entries that no band uses.
 constexpr std::array kBandEdges = {100, 150, 205, 300, 400, 500, 800, 1000, 1600, 2049, 3000, 6400, 12800, 22050};
 constexpr int kTopFrequency = kBandEdges.back();
 static_assert(kBandEdges.size() > kSpectrumBands);
-
-constexpr std::array<int, kSpectrumBands> kTaperingLimits = {5, 9, 13, 17, 21, 25, 29, 23, 17, 11, 5};
-constexpr std::array<int, kSpectrumBands> kRectangleLimits = {25, 25, 25, 25, 25, 25, 25, 25, 25, 25, 25};
 
 constexpr double kSilence = 20.0;        // the loudest band of a packet that counts as sound reaches it
 constexpr double kSecondsAnalysed = 0.1; // of one channel
@@ -35,15 +30,6 @@ void SpectrumAnalysis::DestroyPlan::operator()(fftw_plan plan) const
 {
     const std::lock_guard lock(plannerMutex());
     fftw_destroy_plan(plan);
-}
-
-std::span<const int> spectrumLimits(int form)
-{
-    if (form == kTaperingForm)
-        return kTaperingLimits;
-    if (form == kRectangleForm)
-        return kRectangleLimits;
-    return {};
 }
 
 bool SpectrumAnalysis::prepare(std::uint32_t sampleRate)
@@ -122,11 +108,8 @@ BandSums SpectrumAnalysis::sumBands() const
     return sums;
 }
 
-std::optional<BarHeights> barHeights(const BandSums &sums, int form)
+BarHeights barHeights(const BandSums &sums, const MatrixForm &form)
 {
-    const std::span<const int> limits = spectrumLimits(form);
-    if (limits.empty())
-        return std::nullopt;
     BandSums logs{};
     double smallest = std::numeric_limits<double>::infinity();
     double largest = -smallest;
@@ -143,8 +126,8 @@ std::optional<BarHeights> barHeights(const BandSums &sums, int form)
         return heights;
     for (std::size_t band = 0; band < sums.size(); ++band) {
         if (std::isfinite(logs[band]))
-            heights[band] =
-                static_cast<int>((logs[band] - smallest) / (largest - smallest) * limits[band] * kStepsPerLimit + 1.0);
+            heights[band] = static_cast<int>(
+                (logs[band] - smallest) / (largest - smallest) * form.bars.limits[band] * kStepsPerLimit + 1.0);
     }
     return heights;
 }

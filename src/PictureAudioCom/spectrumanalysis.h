@@ -9,18 +9,14 @@
 
 #include <fftw3.h>
 
-inline constexpr std::size_t kSpectrumBands = 11;
+#include "ledmatrix/matrixform.h"
 
 using BandSums = std::array<double, kSpectrumBands>;
 using BarHeights = std::array<int, kSpectrumBands>;
 
-/// What the bars of a form are scaled to, one limit a band; none for a number that is no form. A bar is at most three
-/// times its limit and one high.
-std::span<const int> spectrumLimits(int form);
-
-/// Turns band sums into bars: logarithmic between the quietest band and the loudest, 1 to 3 * limit + 1. Nothing for a
-/// number that is no form. A band that holds nothing at all has the height 1 and is not the quietest one.
-std::optional<BarHeights> barHeights(const BandSums &sums, int form);
+/// Turns band sums into the bars of a form: logarithmic between the quietest band and the loudest, 1 to 3 * limit + 1.
+/// A band that holds nothing at all has the height 1 and is not the quietest one.
+BarHeights barHeights(const BandSums &sums, const MatrixForm &form);
 
 /// Samples in, eleven band sums or silence out. Knows no device and no thread; one object serves one thread at a time,
 /// several objects may live beside each other.

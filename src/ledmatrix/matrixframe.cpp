@@ -2,11 +2,9 @@
 
 #include <algorithm>
 
-#include "ledmatrix/matrixform.h"
-
-MatrixFrame::MatrixFrame(int form) : m_form(form)
+MatrixFrame::MatrixFrame(const MatrixForm &form) : m_form(&form)
 {
-    for (const MatrixRow &row : matrixRows(form))
+    for (const MatrixRow &row : form.rows)
         m_rows.emplace_back(static_cast<std::size_t>(row.cells), 0);
 }
 
@@ -34,8 +32,8 @@ void MatrixFrame::clear()
 
 std::vector<std::int32_t> MatrixFrame::flat() const
 {
-    std::vector<std::int32_t> cells(static_cast<std::size_t>(matrixCells(m_form)));
-    const auto layout = matrixRows(m_form);
+    std::vector<std::int32_t> cells(static_cast<std::size_t>(m_form->cells()));
+    const auto layout = m_form->rows;
     for (std::size_t row = 0; row < m_rows.size(); ++row)
         std::copy(m_rows[row].begin(), m_rows[row].end(), cells.begin() + layout[row].first);
     return cells;
@@ -43,7 +41,7 @@ std::vector<std::int32_t> MatrixFrame::flat() const
 
 void MatrixFrame::setFlat(std::span<const std::int32_t> cells)
 {
-    const auto layout = matrixRows(m_form);
+    const auto layout = m_form->rows;
     for (std::size_t row = 0; row < m_rows.size(); ++row) {
         for (std::size_t column = 0; column < m_rows[row].size(); ++column) {
             const std::size_t place = static_cast<std::size_t>(layout[row].first) + column;
@@ -63,7 +61,7 @@ QByteArray MatrixFrame::digits() const
 void MatrixFrame::setDigits(QByteArrayView digits)
 {
     std::vector<std::int32_t> cells;
-    for (const char digit : digits.first(std::min<qsizetype>(digits.size(), matrixCells(m_form))))
+    for (const char digit : digits.first(std::min<qsizetype>(digits.size(), m_form->cells())))
         cells.push_back(digit == '1' ? 1 : 0);
     setFlat(cells);
 }

@@ -6,6 +6,8 @@
 
 #include <QByteArray>
 
+#include "ledmatrix/matrixform.h"
+
 /// One picture of the matrix: rows of cells, 0 off and 1 on. The flat view holds the same cells in frame order, the
 /// order of files and of the wire.
 class MatrixFrame
@@ -13,10 +15,10 @@ class MatrixFrame
 public:
     using Row = std::vector<std::int32_t>;
 
-    /// All cells off. A number that is no form gives a frame without cells.
-    explicit MatrixFrame(int form);
+    /// All cells off.
+    explicit MatrixFrame(const MatrixForm &form);
 
-    int form() const { return m_form; }
+    const MatrixForm &form() const { return *m_form; }
     const std::vector<Row> &rows() const { return m_rows; }
 
     /// Whether the form has such a cell.
@@ -42,6 +44,6 @@ public:
     bool operator==(const MatrixFrame &) const = default;
 
 private:
-    int m_form;
+    const MatrixForm *m_form; ///< never null
     std::vector<Row> m_rows;
 };

@@ -5,6 +5,8 @@
 #include <QRect>
 #include <QSize>
 
+#include "ledmatrix/matrixform.h"
+
 /// A cell by row and by its number within the row.
 struct MatrixCell
 {
@@ -14,18 +16,14 @@ struct MatrixCell
     bool operator==(const MatrixCell &) const = default;
 };
 
-/// How far a row begins right of the widest one, in halves of a cell. Odd rows of the tapering form lie between the
-/// cells of the even ones, and the shorter ones stand in the middle.
-int matrixRowShift(int form, int row);
-
 /// Where the cells of a form lie on a plane, each a square of the same size, row below row.
 class MatrixGeometry
 {
 public:
     /// Cells of @p cellSize pixels.
-    MatrixGeometry(int form, int cellSize) : m_form(form), m_cellSize(cellSize) {}
+    MatrixGeometry(const MatrixForm &form, int cellSize) : m_form(&form), m_cellSize(cellSize) {}
 
-    int form() const { return m_form; }
+    const MatrixForm &form() const { return *m_form; }
     int cellSize() const { return m_cellSize; }
 
     /// The room that all cells take.
@@ -40,8 +38,9 @@ public:
     MatrixCell neighbour(MatrixCell cell, int columns, int rows) const;
 
 private:
-    int left(int row) const { return matrixRowShift(m_form, row) * m_cellSize / 2; }
+    const MatrixRow &row(int number) const { return m_form->rows[static_cast<std::size_t>(number)]; }
+    int left(int number) const { return row(number).shift * m_cellSize / 2; }
 
-    int m_form;
+    const MatrixForm *m_form; ///< never null
     int m_cellSize;
 };

@@ -18,32 +18,32 @@ HidLock lockHid()
 
 bool Fun_hid_find(std::uint16_t vendor, std::uint16_t product)
 {
-    if (hidFound)
+    if (accessoryLink.found)
         return true;
     platform::Hid &hid = platform::desk().hid();
     platform::HidEntry *entry = hid.enumerate(0, 0);
     if (!entry)
-        return hidFound;
+        return false;
     for (; entry; entry = hid.next(entry)) {
         const platform::HidIds ids = hid.ids(entry);
         if (ids.vendor == vendor && ids.product == product) {
             qDebug() << "HID device find";
-            hidFound = true;
+            accessoryLink.found = ids;
             break;
         }
     }
     hid.freeEnumeration(entry); // meant: only from the match on, the entries before it are kept
-    if (!hidFound)
+    if (!accessoryLink.found)
         qDebug() << "HID device  not find";
-    return hidFound;
+    return accessoryLink.found.has_value();
 }
 
 platform::HidDevice *Fun_hid_open(std::uint16_t vendor, std::uint16_t product)
 {
-    if (!hidFound || hidOpened)
+    if (!accessoryLink.found || accessoryLink.opened)
         return nullptr;
     platform::HidDevice *device = platform::desk().hid().open(vendor, product);
-    hidOpened = device != nullptr;
+    accessoryLink.opened = device != nullptr;
     if (device)
         qDebug() << "HID open OK" << static_cast<void *>(device);
     else
@@ -53,13 +53,13 @@ platform::HidDevice *Fun_hid_open(std::uint16_t vendor, std::uint16_t product)
 
 void clearHidFlags()
 {
-    hidFound = false;
-    hidOpened = false;
+    accessoryLink.found.reset();
+    accessoryLink.opened = false;
 }
 
 static void closeHandle(const HidLock &)
 {
-    if (platform::HidDevice *device = hidHandle.exchange(nullptr))
+    if (platform::HidDevice *device = accessoryLink.handle.exchange(nullptr))
         platform::desk().hid().close(device);
 }
 
@@ -72,10 +72,10 @@ void reopenHid()
 {
     const HidLock lock = lockHid(); // an upload that goes on meanwhile must not find it closed
     closeHandle(lock);
-    if (!Fun_hid_find(kAccessoryVendor, kAccessoryProduct) || hidOpened)
+    if (!Fun_hid_find(kAccessoryVendor, kAccessoryProduct) || accessoryLink.opened)
         return;
     if (platform::HidDevice *device = Fun_hid_open(kAccessoryVendor, kAccessoryProduct)) {
-        hidHandle = device;
+        accessoryLink.handle = device;
         platform::desk().hid().setNonblocking(device, true);
     }
 }
@@ -87,7 +87,7 @@ HidWrite writeHid(const AccessoryReport &report)
 
 HidWrite writeHid(const AccessoryReport &report, const HidLock &)
 {
-    platform::HidDevice *device = hidHandle;
+    platform::HidDevice *device = accessoryLink.handle;
     if (!device)
         return HidWrite::NoHandle;
     return platform::desk().hid().write(device, report.written()) < 0 ? HidWrite::Failed : HidWrite::Done;

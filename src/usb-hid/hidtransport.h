@@ -1,22 +1,12 @@
 #pragma once
 
-#include <atomic>
 #include <cstdint>
 #include <mutex>
 
-#include "platform/hid.h"
+#include "usb-hid/accessorylink.h"
 #include "usb-hid/accessorypackets.h"
 
-// The one accessory and the one handle to it. Reports are only written, never read.
-
-/// An enumeration saw the device; stays set until somebody clears it. Interface thread only.
-inline bool hidFound = false;
-
-/// The device was opened. Interface thread only.
-inline bool hidOpened = false;
-
-/// The shared handle, null while closed. Only reopenHid and closeHid, on the interface thread, write it.
-inline std::atomic<platform::HidDevice *> hidHandle = nullptr;
+// The way to the one accessory. Reports are only written, never read.
 
 /// Whether the device is connected. Once it was found, true without looking again.
 bool Fun_hid_find(std::uint16_t vendor, std::uint16_t product);

@@ -5,7 +5,6 @@
 
 #include <QDebug>
 
-#include "ledmatrix/matrixform.h"
 #include "usb-hid/hidtransport.h"
 
 static std::atomic<bool> s_failed = false; // the last write; one for all live sends, or the log would flood
@@ -24,7 +23,8 @@ static bool writeLiveChunk(const AccessoryReport &chunk, const HidLock &lock)
 
 void sendLiveFrame(std::span<const std::int32_t> cells)
 {
-    if (cells.empty() || std::ssize(cells) != matrixCells(matrixForm))
+    const MatrixForm *form = accessoryLink.form;
+    if (!form || std::ssize(cells) != form->cells())
         return;
     const int total = chunkCount(std::ssize(cells));
     const HidLock lock = lockHid(); // a page's report may not fall between the chunks

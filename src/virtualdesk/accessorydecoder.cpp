@@ -1,6 +1,6 @@
 #include "virtualdesk/accessorydecoder.h"
 
-#include "ledmatrix/matrixform.h"
+#include "virtualdesk/accessoryforms.h"
 
 namespace virtualdesk {
 

@@ -7,7 +7,7 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "ledmatrix/matrixform.h"
+#include "virtualdesk/accessoryforms.h"
 #include "virtualdesk/matrixview.h"
 #include "virtualdesk/virtualdesk.h"
 

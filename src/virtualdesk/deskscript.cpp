@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QJsonDocument>
 
+#include "virtualdesk/accessoryforms.h"
 #include "virtualdesk/monitorscript.h"
 #include "virtualdesk/soundscript.h"
 
@@ -26,7 +27,7 @@ AccessorySetup readAccessory(ScriptObject object)
 {
     AccessorySetup accessory;
     object.flag("plugged", accessory.plugged);
-    object.number("form", accessory.form, 0, 1);
+    object.number("form", accessory.form, 0, highestForm());
     object.each("faults", [&accessory](ScriptObject fault) {
         const QString word = fault.take("event").toString();
         int times = 1;

@@ -4,8 +4,7 @@
 
 #include <QPainter>
 
-#include "ledmatrix/matrixform.h"
-#include "ledmatrix/matrixgeometry.h"
+#include "virtualdesk/accessoryforms.h"
 
 namespace virtualdesk {
 
@@ -49,11 +48,11 @@ void MatrixView::paintEvent(QPaintEvent *)
     painter.setBrush(kGround);
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 8, 8);
 
-    const auto rows = matrixRows(m_form);
+    const auto &rows = matrixRows(m_form);
     if (rows.empty())
         return;
     // The staggered rows lie half as far apart as the cells of a row do.
-    const double rowsPerCell = m_form == kTaperingForm ? 0.5 : 1.0;
+    const double rowsPerCell = matrixRowPitch(m_form);
     const double wide = matrixColumns(m_form);
     const double high = static_cast<double>(rows.size()) * rowsPerCell;
     const double pitch = std::min((width() - 2 * kMargin) / wide, (height() - 2 * kMargin) / high);

@@ -6,7 +6,7 @@ void AccessoryFixture::connectDevice()
 {
     clearHidFlags();
     reopenHid();
-    QVERIFY(hidHandle);
+    QVERIFY(accessoryLink.handle);
     m_desk->takeLog();
 }
 

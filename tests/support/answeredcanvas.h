@@ -4,10 +4,10 @@
 
 #include <QtTest>
 
-#include "ledmatrix/matrixform.h"
 #include "page/Nightloom/frametabs.h"
 #include "page/Nightloom/pageledmatrixcanvas.h"
 #include "support/matrixcells.h"
+#include "support/matrixforms.h"
 
 /// The canvas page with its boxes and file dialogs answered by the test.
 class AnsweredCanvas : public pageLEDMatrixCanvas
@@ -43,9 +43,9 @@ inline void draw(AnsweredCanvas &page, int column)
 }
 
 /// A page on the screen, for a form of the matrix.
-inline std::unique_ptr<AnsweredCanvas> makePage(int form = kTaperingForm)
+inline std::unique_ptr<AnsweredCanvas> makePage(int form = 0)
 {
-    matrixForm = form;
+    useForm(form);
     auto page = std::make_unique<AnsweredCanvas>();
     page->resize(1000, 680);
     page->show();

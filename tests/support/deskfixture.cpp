@@ -5,7 +5,6 @@
 
 #include "ddc_protocol/linkrecords.h"
 #include "ddc_protocol/writecounts.h"
-#include "ledmatrix/matrixform.h"
 #include "usb-hid/hidtransport.h"
 #include "usb-hid/livesender.h"
 
@@ -49,7 +48,7 @@ DeskFixture::DeskFixture() : desk(clock), m_folderBefore(QDir::currentPath()), m
     deviceState.clear();
     linkRecords.clear();
     writeCounts.clear();
-    matrixForm = kTaperingForm;
+    accessoryLink.form = &matrixForms().front();
     clearHidFlags();
     resetLiveLatch();
     takeLog();

@@ -68,7 +68,7 @@ QBitArray toBits(const MatrixFrame &frame)
     return bits;
 }
 
-MatrixFrame toFrame(const QBitArray &cells, int form)
+MatrixFrame toFrame(const QBitArray &cells, const MatrixForm &form)
 {
     std::vector<std::int32_t> flat(static_cast<std::size_t>(cells.size()));
     for (std::size_t i = 0; i < flat.size(); ++i)

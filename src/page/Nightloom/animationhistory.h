@@ -7,6 +7,7 @@
 #include <QBitArray>
 
 class MatrixFrame;
+struct MatrixForm;
 
 /// One frame of an animation, kept as bits in frame order; copies share them.
 struct AnimationFrame
@@ -69,4 +70,4 @@ private:
 
 /// The cells of a frame in frame order, and back.
 QBitArray toBits(const MatrixFrame &frame);
-MatrixFrame toFrame(const QBitArray &cells, int form);
+MatrixFrame toFrame(const QBitArray &cells, const MatrixForm &form);

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "ledmatrix/matrixform.h"
-
 namespace {
 
 constexpr int kStepsPerLimit = 3; // a height is at most three times its limit and one
@@ -11,7 +9,7 @@ constexpr int kFallTime = 25;     // frames in which a peak falls from the top; 
 
 } // namespace
 
-AudioBars::AudioBars(int form) : m_form(form), m_frame(form), m_flat(m_frame.flat())
+AudioBars::AudioBars(const MatrixForm &form) : m_form(form), m_frame(form), m_flat(m_frame.flat())
 {
 }
 
@@ -25,14 +23,15 @@ int AudioBars::litSteps(std::size_t bar, std::int32_t height) const
 {
     if (height <= 0)
         return 0;
-    const int highest = kStepsPerLimit * spectrumLimits(m_form)[bar];
+    const int highest = kStepsPerLimit * m_form.bars.limits[bar];
     return 1 + static_cast<int>(std::int64_t{std::min(height - 1, highest)} * (depth(bar) - 1) / highest);
 }
 
 void AudioBars::light(std::size_t bar, int step)
 {
-    for (const MatrixCell cell : m_columns[bar][static_cast<std::size_t>(step)])
-        m_frame.setCell(cell.row, cell.column, 1);
+    const MatrixCell first = m_columns[bar][static_cast<std::size_t>(step)];
+    for (int column = first.column; column < first.column + m_form.bars.width; ++column)
+        m_frame.setCell(first.row, column, 1);
 }
 
 void AudioBars::lightFrom(std::size_t bar, int first, int count)
@@ -88,39 +87,36 @@ void AudioBars::draw()
     m_flat = m_frame.flat();
 }
 
-AudioLed::AudioLed() : AudioBars(kTaperingForm)
+AudioLed::AudioLed(const MatrixForm &form) : AudioBars(form)
 {
-    const auto rows = matrixRows(kTaperingForm);
-    const int bars = static_cast<int>(kSpectrumBands);
-    const int left = (matrixColumns(kTaperingForm) - (2 * bars - 1)) / 2;
-    for (int bar = 0; bar < bars; ++bar) {
-        for (int row = static_cast<int>(rows.size()) - 1; row >= 0; --row) {
+    for (int row = static_cast<int>(form.rows.size()) - 1; row >= 0; --row) {
+        const auto &[cells, first, shift] = form.rows[static_cast<std::size_t>(row)];
+        for (std::size_t bar = 0; bar < kSpectrumBands; ++bar) {
             // Odd rows lie half a cell beside the even ones: there the bar takes the cell to the right, or, at the
             // form's edge, to the left.
-            const int cells = rows[static_cast<std::size_t>(row)].cells;
-            const int halves = 2 * (left + 2 * bar) + row % 2 - matrixRowShift(kTaperingForm, row);
-            const int column = halves / 2 == cells ? halves / 2 - row % 2 : halves / 2;
+            const int halves = 2 * (form.bars.left + static_cast<int>(bar) * form.bars.pitch) + shift % 2 - shift;
+            const int column = halves / 2 == cells ? halves / 2 - shift % 2 : halves / 2;
             if (halves >= 0 && column < cells)
-                addStep(static_cast<std::size_t>(bar), {{row, column}});
+                addStep(bar, row, column);
         }
     }
 }
 
-AudioLedRect::AudioLedRect() : AudioBars(kRectangleForm)
+AudioLedRect::AudioLedRect(const MatrixForm &form) : AudioBars(form)
 {
-    constexpr int kPitch = 4;
-    for (std::size_t bar = 0; bar < kSpectrumBands; ++bar) {
-        const int column = static_cast<int>(bar) * kPitch;
-        for (int row = static_cast<int>(matrixRows(kRectangleForm).size()) - 1; row >= 0; --row)
-            addStep(bar, {{row, column}, {row, column + 1}});
+    for (int row = static_cast<int>(form.rows.size()) - 1; row >= 0; --row) {
+        for (std::size_t bar = 0; bar < kSpectrumBands; ++bar)
+            addStep(bar, row, form.bars.left + static_cast<int>(bar) * form.bars.pitch);
     }
 }
 
-std::unique_ptr<AudioBars> makeAudioBars(int form)
+std::unique_ptr<AudioBars> makeAudioBars(const MatrixForm &form)
 {
-    if (form == kTaperingForm)
-        return std::make_unique<AudioLed>();
-    if (form == kRectangleForm)
-        return std::make_unique<AudioLedRect>();
-    return nullptr;
+    switch (form.lattice) {
+    case RowLattice::Staggered:
+        return std::make_unique<AudioLed>(form);
+    case RowLattice::Upright:
+        break;
+    }
+    return std::make_unique<AudioLedRect>(form);
 }

@@ -6,7 +6,6 @@
 #include <span>
 #include <vector>
 
-#include "PictureAudioCom/spectrumanalysis.h"
 #include "ledmatrix/matrixframe.h"
 #include "ledmatrix/matrixgeometry.h"
 #include "page/Nightloom/ledframesource.h"
@@ -36,12 +35,10 @@ public:
     int depth(std::size_t bar) const { return static_cast<int>(m_columns[bar].size()); }
 
 protected:
-    using Step = std::vector<MatrixCell>;
+    explicit AudioBars(const MatrixForm &form);
 
-    explicit AudioBars(int form);
-
-    /// Adds the next higher step to a bar's column.
-    void addStep(std::size_t bar, Step cells) { m_columns[bar].push_back(std::move(cells)); }
+    /// Adds the next higher step to a bar's column: as many cells as a bar is wide, from this one to the right.
+    void addStep(std::size_t bar, int row, int column) { m_columns[bar].push_back({row, column}); }
 
 private:
     int litSteps(std::size_t bar, std::int32_t height) const;
@@ -49,29 +46,28 @@ private:
     void lightFrom(std::size_t bar, int first, int count);
     void draw();
 
-    const int m_form;
+    const MatrixForm &m_form;
     AudioTemplate m_template = AudioTemplate::Bars;
     MatrixFrame m_frame;
     std::vector<std::int32_t> m_flat;
-    std::array<std::vector<Step>, kSpectrumBands> m_columns; // steps from the foot up
-    std::array<int, kSpectrumBands> m_lit{};                 // steps
-    std::array<int, kSpectrumBands> m_peaks{};               // as counts of lit steps
+    std::array<std::vector<MatrixCell>, kSpectrumBands> m_columns; // steps from the foot up
+    std::array<int, kSpectrumBands> m_lit{};                       // steps
+    std::array<int, kSpectrumBands> m_peaks{};                     // as counts of lit steps
 };
 
-/// Bars for the tapering form: a cell wide, every other cell, in the middle of the widest rows; each as high as the
-/// form is deep there, with its foot on the slanting edge.
+/// Bars for staggered rows: each as high as the form is deep there, with its foot on the slanting edge.
 class AudioLed final : public AudioBars
 {
 public:
-    AudioLed();
+    explicit AudioLed(const MatrixForm &form);
 };
 
-/// Bars for the rectangle: two cells wide with gaps of two, over its whole height.
+/// Bars for upright rows: over the form's whole height.
 class AudioLedRect final : public AudioBars
 {
 public:
-    AudioLedRect();
+    explicit AudioLedRect(const MatrixForm &form);
 };
 
-/// The bars of a form; null for a number that is no form.
-std::unique_ptr<AudioBars> makeAudioBars(int form);
+/// The bars of a form.
+std::unique_ptr<AudioBars> makeAudioBars(const MatrixForm &form);

@@ -4,7 +4,7 @@
 
 #include <QPainter>
 
-#include "ledmatrix/matrixform.h"
+#include "usb-hid/accessorylink.h"
 
 namespace {
 
@@ -53,10 +53,10 @@ std::span<const std::int32_t> AudioPicture::cells() const
 
 void AudioPicture::followForm()
 {
-    if (m_form == matrixForm)
+    if (m_form == accessoryLink.form)
         return;
-    m_form = matrixForm;
-    m_bars = makeAudioBars(m_form);
+    m_form = accessoryLink.form;
+    m_bars = m_form ? makeAudioBars(*m_form) : nullptr;
     if (m_bars)
         m_bars->setTemplate(m_template);
 }
@@ -102,7 +102,6 @@ void AudioPicture::paintBars(QPainter &painter, const QRect &area) const
     QFont font = painter.font();
     font.setPixelSize(kCaptionPixels);
     painter.setFont(font);
-    const auto limits = spectrumLimits(m_form);
     const int count = static_cast<int>(kSpectrumBands);
     const qreal pitch = area.width() / qreal(count);
     const qreal full = area.height() - kCaptionHeight;
@@ -111,8 +110,8 @@ void AudioPicture::paintBars(QPainter &painter, const QRect &area) const
         painter.setPen(Qt::NoPen);
         painter.setBrush(kEmpty);
         painter.drawRoundedRect(column, 4, 4);
-        if (bar < m_heights.size() && !limits.empty()) {
-            const int highest = kStepsPerLimit * limits[static_cast<std::size_t>(bar)] + 1;
+        if (bar < m_heights.size() && m_form) {
+            const int highest = kStepsPerLimit * m_form->bars.limits[static_cast<std::size_t>(bar)] + 1;
             QRectF filled = column;
             filled.setTop(column.bottom() - full * std::clamp(m_heights[bar], 0, highest) / highest);
             QLinearGradient colours(column.bottomLeft(), column.topLeft());
@@ -132,14 +131,14 @@ void AudioPicture::paintBars(QPainter &painter, const QRect &area) const
 
 void AudioPicture::paintMatrix(QPainter &painter, const QRect &area) const
 {
-    const MatrixGeometry geometry(m_form, kCell);
-    const QSizeF size = geometry.size();
-    if (size.isEmpty())
+    if (!m_form)
         return;
+    const MatrixGeometry geometry(*m_form, kCell);
+    const QSizeF size = geometry.size();
     const qreal scale = std::min({area.width() / size.width(), area.height() / size.height(), kLargestScale});
     painter.translate(QRectF(area).center() - QPointF(size.width(), size.height()) * scale / 2);
     painter.scale(scale, scale);
-    const auto rows = matrixRows(m_form);
+    const auto rows = m_form->rows;
     const auto flat = m_bars->frame();
     const qreal gap = kCell / 10.0;
     painter.setPen(Qt::NoPen);

@@ -35,6 +35,6 @@ private:
 
     QList<int> m_heights;
     AudioTemplate m_template = AudioTemplate::Bars;
-    int m_form = -1; // of the object below
+    const MatrixForm *m_form = nullptr; ///< of the object below
     std::unique_ptr<AudioBars> m_bars;
 };

@@ -2,9 +2,6 @@
 
 #include <array>
 
-#include "ledmatrix/matrixform.h"
-#include "ledmatrix/matrixgeometry.h"
-
 namespace {
 
 constexpr int kGlyphWidth = 4;
@@ -28,7 +25,6 @@ constexpr std::array<std::array<std::uint8_t, kGlyphHeight>, 11> kGlyphs = {{
 
 /// Where the five glyphs begin: a dot between any two.
 constexpr std::array kLefts = {0, 5, 10, 12, 17};
-constexpr int kDotsWide = 21;
 constexpr int kHalfSecond = 500; // ms
 
 } // namespace
@@ -56,43 +52,41 @@ void ClockRenderer::renderGlyph(std::size_t glyph, int left)
     }
 }
 
+std::array<int, 2> ClockRenderer::rowsOf(int y) const
+{
+    const int upper = form().clock.top + 2 * y;
+    return {upper, upper + 1};
+}
+
 void ClockRenderer::lightCell(int row, int column)
 {
     if (m_frame.contains(row, column))
         m_frame.setCell(row, column, 1);
 }
 
-DateLed::DateLed() : ClockRenderer(kTaperingForm)
-{
-}
-
 void DateLed::light(int x, int y)
 {
-    static const int left = (matrixColumns(kTaperingForm) - kDotsWide) / 2;
-    for (const int row : {2 * y, 2 * y + 1}) {
-        const int halves = 2 * (left + x) + row % 2;
-        lightCell(row, (halves - matrixRowShift(kTaperingForm, row)) / 2);
+    for (const int row : rowsOf(y)) {
+        const int shift = form().rows[static_cast<std::size_t>(row)].shift;
+        lightCell(row, (2 * (form().clock.left + x) + shift % 2 - shift) / 2);
     }
-}
-
-DateLedRect::DateLedRect() : ClockRenderer(kRectangleForm)
-{
 }
 
 void DateLedRect::light(int x, int y)
 {
-    constexpr int kTop = 5; // of 25 rows, 14 are lit
-    for (const int row : {kTop + 2 * y, kTop + 2 * y + 1}) {
-        lightCell(row, 2 * x);
-        lightCell(row, 2 * x + 1);
+    for (const int row : rowsOf(y)) {
+        lightCell(row, form().clock.left + 2 * x);
+        lightCell(row, form().clock.left + 2 * x + 1);
     }
 }
 
-std::unique_ptr<ClockRenderer> makeClockRenderer(int form)
+std::unique_ptr<ClockRenderer> makeClockRenderer(const MatrixForm &form)
 {
-    if (form == kTaperingForm)
-        return std::make_unique<DateLed>();
-    if (form == kRectangleForm)
-        return std::make_unique<DateLedRect>();
-    return nullptr;
+    switch (form.lattice) {
+    case RowLattice::Staggered:
+        return std::make_unique<DateLed>(form);
+    case RowLattice::Upright:
+        break;
+    }
+    return std::make_unique<DateLedRect>(form);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <memory>
 #include <span>
@@ -13,6 +14,7 @@
 class ClockRenderer
 {
 public:
+    explicit ClockRenderer(const MatrixForm &form) : m_frame(form) {}
     virtual ~ClockRenderer() = default;
 
     void render(const QTime &time);
@@ -21,9 +23,12 @@ public:
     std::span<const std::int32_t> frame() const { return m_flat; }
 
 protected:
-    explicit ClockRenderer(int form) : m_frame(form) {}
+    const MatrixForm &form() const { return m_frame.form(); }
 
-    /// Lights a dot of the digits, whose grid is 21 dots wide and 7 high.
+    /// The two rows of a line of dots.
+    std::array<int, 2> rowsOf(int y) const;
+
+    /// Lights a dot of the digits, whose grid is kClockDotsWide dots wide and kClockDotsHigh high.
     virtual void light(int x, int y) = 0;
 
     /// Lights a cell that the form has; others are left out.
@@ -36,26 +41,25 @@ private:
     std::vector<std::int32_t> m_flat;
 };
 
-/// The clock of the tapering form, in its widest rows at the top. A dot is two cells, one of an even row and the one
-/// beside it in the odd row below.
-class DateLed : public ClockRenderer
+/// The clock of staggered rows. A dot is two cells, one of an even row and the one beside it in the odd row below.
+class DateLed final : public ClockRenderer
 {
 public:
-    DateLed();
+    using ClockRenderer::ClockRenderer;
 
 protected:
     void light(int x, int y) override;
 };
 
-/// The clock of the rectangle, as wide as it is. A dot is a square of four cells.
-class DateLedRect : public ClockRenderer
+/// The clock of upright rows. A dot is a square of four cells.
+class DateLedRect final : public ClockRenderer
 {
 public:
-    DateLedRect();
+    using ClockRenderer::ClockRenderer;
 
 protected:
     void light(int x, int y) override;
 };
 
-/// The renderer of a form; null for a number that is no form.
-std::unique_ptr<ClockRenderer> makeClockRenderer(int form);
+/// The renderer of a form.
+std::unique_ptr<ClockRenderer> makeClockRenderer(const MatrixForm &form);

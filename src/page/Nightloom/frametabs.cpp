@@ -89,7 +89,7 @@ FrameTabs::FrameTabs(QWidget *parent) : QTabWidget(parent), m_view(new QScrollAr
     });
 }
 
-void FrameTabs::setForm(int form)
+void FrameTabs::setForm(const MatrixForm *form)
 {
     m_form = form;
     m_cellSize = 0;
@@ -144,7 +144,7 @@ void FrameTabs::apply(const AnimationState &state, int place, const std::functio
         for (int i = 0; i < static_cast<int>(state.frames.size()); ++i) {
             const AnimationFrame &frame = state.frames[static_cast<std::size_t>(i)];
             if (i < count() && sheet(i)->frameId == frame.id)
-                editor(i)->setFrame(toFrame(frame.cells, m_form).flat());
+                editor(i)->setFrame(toFrame(frame.cells, *m_form).flat());
             else
                 addSheet(i, frame);
         }
@@ -175,10 +175,10 @@ void FrameTabs::removeTabsWithout(const AnimationState &state, const std::functi
 
 void FrameTabs::addSheet(int index, const AnimationFrame &frame)
 {
-    MatrixEditor *matrixEditor = createMatrixEditor(m_form, nullptr);
+    MatrixEditor *matrixEditor = createMatrixEditor(*m_form, nullptr);
     if (m_cellSize != 0)
         matrixEditor->setCellSize(m_cellSize);
-    matrixEditor->setFrame(toFrame(frame.cells, m_form).flat());
+    matrixEditor->setFrame(toFrame(frame.cells, *m_form).flat());
     auto *page = new FrameSheet(frame.id, matrixEditor); // the tabs own it when they have taken it
     connect(matrixEditor, &MatrixEditor::edited, this, [this, page] { Q_EMIT edited(indexOf(page)); });
     connect(matrixEditor, &MatrixEditor::cursorMoved, m_view,

@@ -18,8 +18,8 @@ class FrameTabs : public QTabWidget
 public:
     explicit FrameTabs(QWidget *parent = nullptr);
 
-    /// From the next animation on its frames are of this form.
-    void setForm(int form);
+    /// From the next animation on its frames are of this form; with null there are none.
+    void setForm(const MatrixForm *form);
 
     /// Shows an animation: tabs of frames that it does not have go, those that are missing come, the others stay and
     /// take the cells. The tab at @p place, or the nearest, becomes the open one. @p removed is told how many tabs are
@@ -58,7 +58,7 @@ private:
 
     QScrollArea *const m_view;
     FrameSheet *m_open = nullptr; ///< which has the view
-    int m_form = 0;
+    const MatrixForm *m_form = nullptr;
     int m_cellSize = 0; ///< 0 until chosen: each editor as it is
     bool m_onionSkin = false;
 };

@@ -23,7 +23,7 @@ class LedFrameSource
 public:
     virtual ~LedFrameSource() = default;
 
-    /// The object for the matrix form that is set, made on first use; null for a number that is no form.
+    /// The object for the matrix form that is set, made on first use; null without a form.
     virtual AudioVisual *audioVisual() = 0;
 
     /// The frame went out, or was tried to.

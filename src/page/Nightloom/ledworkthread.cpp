@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "ledmatrix/matrixform.h"
 #include "page/Nightloom/dateled.h"
 #include "page/Nightloom/ledframesource.h"
 #include "platform/desk.h"
@@ -171,7 +170,8 @@ bool ledWorkThread::showTime()
         return false;
     const QDateTime now = platform::desk().clock().now();
     m_minute = now.time().minute();
-    if (const auto renderer = makeClockRenderer(matrixForm)) {
+    if (const MatrixForm *form = accessoryLink.form) {
+        const auto renderer = makeClockRenderer(*form);
         renderer->render(now.time());
         sendData(renderer->frame());
     }

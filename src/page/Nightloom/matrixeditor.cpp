@@ -17,8 +17,8 @@ constexpr int kCursorMargin = 2; // the cursor stands this far outside its cell
 
 } // namespace
 
-MatrixEditor::MatrixEditor(int form, int cellSize, QWidget *parent)
-    : QLabel(parent), m_geometry(form, cellSize), m_frame(form)
+MatrixEditor::MatrixEditor(const MatrixForm &form, QWidget *parent)
+    : QLabel(parent), m_geometry(form, form.cellSize), m_frame(form)
 {
     setFixedSize(m_geometry.size());
     setFocusPolicy(Qt::StrongFocus);
@@ -285,11 +285,13 @@ void MatrixEditor::drawCursor(QPainter &painter) const
     painter.drawRoundedRect(QRectF(m_geometry.cellRect(m_cursor)).adjusted(0.25, 0.25, -0.25, -0.25), radius, radius);
 }
 
-MatrixEditor *createMatrixEditor(int form, QWidget *parent)
+MatrixEditor *createMatrixEditor(const MatrixForm &form, QWidget *parent)
 {
-    if (form == kTaperingForm)
-        return new LEDMatrixWidget(parent);
-    if (form == kRectangleForm)
-        return new LEDMatrixWidgetRect(parent);
-    return nullptr;
+    switch (form.lattice) {
+    case RowLattice::Staggered:
+        return new LEDMatrixWidget(form, parent);
+    case RowLattice::Upright:
+        break;
+    }
+    return new LEDMatrixWidgetRect(form, parent);
 }

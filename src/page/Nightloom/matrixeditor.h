@@ -4,7 +4,6 @@
 
 #include <QLabel>
 
-#include "ledmatrix/matrixform.h"
 #include "ledmatrix/matrixframe.h"
 #include "ledmatrix/matrixgeometry.h"
 
@@ -14,6 +13,8 @@ class MatrixEditor : public QLabel
 {
     Q_OBJECT
 public:
+    explicit MatrixEditor(const MatrixForm &form, QWidget *parent = nullptr);
+
     /// The frame as it is drawn in.
     const MatrixFrame &frame() const { return m_frame; }
 
@@ -57,8 +58,6 @@ Q_SIGNALS:
     void cursorMoved(const QRect &cell);
 
 protected:
-    MatrixEditor(int form, int cellSize, QWidget *parent);
-
     QSize sizeHint() const override { return m_geometry.size(); }
     QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
     void paintEvent(QPaintEvent *event) override;
@@ -96,25 +95,21 @@ private:
     std::optional<MatrixCell> m_putOut; ///< by the stroke's press
 };
 
-/// The editor of the tapering form.
+/// The editor of staggered rows.
 class LEDMatrixWidget : public MatrixEditor
 {
     Q_OBJECT
 public:
-    static constexpr int kCellSize = 10;
-
-    explicit LEDMatrixWidget(QWidget *parent = nullptr) : MatrixEditor(kTaperingForm, kCellSize, parent) {}
+    using MatrixEditor::MatrixEditor;
 };
 
-/// The editor of the rectangular form.
+/// The editor of upright rows.
 class LEDMatrixWidgetRect : public MatrixEditor
 {
     Q_OBJECT
 public:
-    static constexpr int kCellSize = 13;
-
-    explicit LEDMatrixWidgetRect(QWidget *parent = nullptr) : MatrixEditor(kRectangleForm, kCellSize, parent) {}
+    using MatrixEditor::MatrixEditor;
 };
 
-/// The editor of a form; null for a number that is no form.
-MatrixEditor *createMatrixEditor(int form, QWidget *parent);
+/// The editor of a form.
+MatrixEditor *createMatrixEditor(const MatrixForm &form, QWidget *parent);

@@ -1,16 +1,16 @@
 #include "page/Nightloom/matrixformsetting.h"
 
 #include "ddc_protocol/settingsstore.h"
-#include "ledmatrix/matrixform.h"
+#include "usb-hid/accessorylink.h"
 
 void loadMatrixForm()
 {
-    const int stored = settingsInt(QLatin1String(kMatrixFormKey), 0, false);
-    matrixForm = matrixRows(stored).empty() ? kTaperingForm : stored;
+    const MatrixForm *stored = findMatrixForm(settingsInt(QLatin1String(kMatrixFormKey), 0, false));
+    accessoryLink.form = stored ? stored : &matrixForms().front();
 }
 
-bool chooseMatrixForm(int form)
+bool chooseMatrixForm(const MatrixForm &form)
 {
-    matrixForm = form;
-    return storeSetting(QLatin1String(kMatrixFormKey), form);
+    accessoryLink.form = &form;
+    return storeSetting(QLatin1String(kMatrixFormKey), form.number);
 }

@@ -6,28 +6,27 @@
 
 #include "controls/sliderwidget.h"
 #include "ledmatrix/animationfile.h"
-#include "ledmatrix/matrixform.h"
 #include "page/Nightloom/frametabs.h"
 #include "page/Nightloom/matrixeditor.h"
+#include "usb-hid/accessorylink.h"
 #include "usb-hid/accessoryupload.h"
 
 namespace {
 
 /// The animation that the page opens with: one dark frame, which the counter counts and which is called 1.
-AnimationState firstState(int form, int &nextId)
+AnimationState firstState(const MatrixForm *form, int &nextId)
 {
     AnimationState state;
-    if (matrixCells(form) > 0)
-        state.frames.push_back({nextId++, state.nextNumber++, QBitArray(matrixCells(form))});
+    if (form)
+        state.frames.push_back({nextId++, state.nextNumber++, QBitArray(form->cells())});
     return state;
 }
 
 } // namespace
 
-int pageLEDMatrixCanvas::framesWithRoom(int form)
+int pageLEDMatrixCanvas::framesWithRoom(const MatrixForm *form)
 {
-    const int cells = matrixCells(form);
-    return cells == 0 ? 0 : static_cast<int>(kAnimationCap / cells);
+    return form ? static_cast<int>(kAnimationCap / form->cells()) : 0;
 }
 
 pageLEDMatrixCanvas::pageLEDMatrixCanvas(AccessoryCheck ensureConnected, QWidget *parent)
@@ -46,7 +45,7 @@ pageLEDMatrixCanvas::pageLEDMatrixCanvas(AccessoryCheck ensureConnected, QWidget
             m_tabs->showInstead(-1);
         updateButtons();
     });
-    followMatrixForm();
+    useForm(accessoryLink.form);
 }
 
 pageLEDMatrixCanvas::~pageLEDMatrixCanvas()
@@ -56,20 +55,31 @@ pageLEDMatrixCanvas::~pageLEDMatrixCanvas()
     m_thread.wait();
 }
 
-/// Another form of the accessory was chosen: its own animation is drawn on, and the other one waits.
 void pageLEDMatrixCanvas::followMatrixForm()
 {
-    if (isBusy() || m_form == matrixForm)
-        return;
+    const MatrixForm *form = accessoryLink.form;
+    if (!isBusy() && m_form != form)
+        useForm(form);
+}
+
+/// The animation of a form is drawn on, and that of another waits.
+void pageLEDMatrixCanvas::useForm(const MatrixForm *form)
+{
     endStrokes();
-    m_form = matrixForm;
+    m_form = form;
     m_history = &m_histories.try_emplace(m_form, firstState(m_form, m_nextId)).first->second;
-    m_aligned->setVisible(m_form == kTaperingForm);
+    m_aligned->setVisible(m_form && m_form->cells() != kImportStep);
+    showAlignedNote();
     m_tabs->setForm(m_form);
     m_tabs->apply(m_history->state(), m_history->state().place);
-    m_cellSize->setValue(m_form == kRectangleForm ? LEDMatrixWidgetRect::kCellSize : LEDMatrixWidget::kCellSize);
+    m_cellSize->setValue((m_form ? *m_form : matrixForms().front()).cellSize);
     m_saved = false; // the data file is not of this form's making
     updateButtons();
+}
+
+void pageLEDMatrixCanvas::showAlignedNote()
+{
+    m_alignedNote->setText(m_alignedPattern.arg(m_form ? m_form->cells() : 0));
 }
 
 void pageLEDMatrixCanvas::updateInterfaceData()
@@ -105,7 +115,7 @@ QPushButton *pageLEDMatrixCanvas::button(const char *label) const
 
 bool pageLEDMatrixCanvas::mayAddFrame()
 {
-    if (matrixCells(m_form) == 0)
+    if (!m_form)
         return false;
     if (frameCounter() <= kMaximumFrames) // one more than the maximum, and meant
         return true;
@@ -115,7 +125,7 @@ bool pageLEDMatrixCanvas::mayAddFrame()
 
 AnimationFrame pageLEDMatrixCanvas::newFrame(AnimationState &state)
 {
-    return {m_nextId++, state.nextNumber++, QBitArray(matrixCells(m_form))};
+    return {m_nextId++, state.nextNumber++, QBitArray(m_form->cells())};
 }
 
 void pageLEDMatrixCanvas::addFrame()

@@ -31,8 +31,8 @@ public:
     /// The file that a save writes, whatever the form; the next start shows it again.
     static constexpr char kDataFile[] = "./LEDMatrixData.txt";
 
-    /// Whole frames of a form that the accessory has room for.
-    static int framesWithRoom(int form);
+    /// Whole frames of a form that the accessory has room for; 0 without one.
+    static int framesWithRoom(const MatrixForm *form);
 
     explicit pageLEDMatrixCanvas(AccessoryCheck ensureConnected, QWidget *parent = nullptr);
     ~pageLEDMatrixCanvas() override;
@@ -103,6 +103,8 @@ private:
     void bindShortcuts();
 
     void followMatrixForm();
+    void useForm(const MatrixForm *form);
+    void showAlignedNote();
     void endStrokes();
     bool mayAddFrame();
     AnimationFrame newFrame(AnimationState &state);
@@ -122,22 +124,24 @@ private:
     void fail(const QString &error);
     void tellWhatIsCut();
 
-    AnimationState stateOf(const QByteArrayList &frames, int form);
+    AnimationState stateOf(const QByteArrayList &frames, const MatrixForm &form);
     void restoreSaved();
     bool keepUnsaved();
-    bool keepInFile(int form, AnimationHistory &history);
+    bool keepInFile(const MatrixForm *form, AnimationHistory &history);
 
     AccessoryCheck m_ensureConnected;
     BoundTexts m_texts;
-    int m_form = -1;
+    const MatrixForm *m_form = nullptr;
     int m_nextId = 0;
-    std::map<int, AnimationHistory> m_histories; ///< by form: an animation of one cannot be shown in the other
-    AnimationHistory *m_history = nullptr;       ///< of the form that is shown
+    std::map<const MatrixForm *, AnimationHistory> m_histories; ///< an animation of one cannot be shown in another
+    AnimationHistory *m_history = nullptr;                      ///< of the form that is shown
     FramePlayer m_player;
     LEDThread m_thread;
     FrameTabs *m_tabs;
     QWidget *m_tools = nullptr;
-    QWidget *m_aligned = nullptr; ///< what only the tapering form needs
+    QWidget *m_aligned = nullptr; ///< what only forms need whose frames are no steps of an import
+    QLabel *m_alignedNote = nullptr;
+    QString m_alignedPattern; ///< for the cells of a frame
     QLabel *m_count;
     WorkPanel *m_work;
     QComboBox *m_modes = nullptr;

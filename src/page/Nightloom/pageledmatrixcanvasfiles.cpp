@@ -8,7 +8,6 @@
 #include "controls/filequestion.h"
 #include "controls/messagebox.h"
 #include "ledmatrix/animationfile.h"
-#include "ledmatrix/matrixform.h"
 #include "ledmatrix/matrixframe.h"
 #include "page/Nightloom/frametabs.h"
 #include "page/Nightloom/pageledmatrixcanvas.h"
@@ -75,12 +74,13 @@ void pageLEDMatrixCanvas::importAnimate()
 
 void pageLEDMatrixCanvas::importAligned()
 {
-    import(matrixCells(m_form));
+    if (m_form)
+        import(m_form->cells());
 }
 
 void pageLEDMatrixCanvas::import(int frameCells)
 {
-    if (isBusy() || frameCells == 0)
+    if (isBusy())
         return;
     const QString fileName = askOpenFile();
     if (fileName.isEmpty())
@@ -103,7 +103,7 @@ void pageLEDMatrixCanvas::writeAnimate()
 /// The device has room for so many bytes, which are fewer frames of the bigger form.
 void pageLEDMatrixCanvas::tellWhatIsCut()
 {
-    const qint64 frames = m_form < 0 ? 0 : QFileInfo(m_dataFile).size() / std::max(matrixCells(m_form), 1);
+    const qint64 frames = m_form ? QFileInfo(m_dataFile).size() / m_form->cells() : 0;
     if (frames > framesWithRoom(m_form))
         m_work->showNotice(
             QObject::tr("The accessory takes %1 of the %2 frames.").arg(framesWithRoom(m_form)).arg(frames));
@@ -178,7 +178,7 @@ void pageLEDMatrixCanvas::importFrames()
     const ReadAnimation animation = readAnimation(m_dataFile, m_importCells);
     if (!animation.error.isEmpty())
         return fail(animation.error);
-    AnimationState state = stateOf(animation.frames, m_form);
+    AnimationState state = stateOf(animation.frames, *m_form);
     const double sum = static_cast<double>(m_tabs->count()) + static_cast<double>(animation.frames.size());
     const int step = std::max(static_cast<int>(0.1 * sum), 1);
     m_history->push(std::move(state));

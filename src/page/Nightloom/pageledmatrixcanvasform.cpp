@@ -121,8 +121,8 @@ void pageLEDMatrixCanvas::buildViewTools(QVBoxLayout *column)
     row->addWidget(preview);
     row->addWidget(onionSkin);
     column->addLayout(row);
-    m_cellSize =
-        makeToolSlider(LABEL("Cell Size"), kSmallestCell, kBiggestCell, LEDMatrixWidget::kCellSize, m_texts, m_tools);
+    m_cellSize = makeToolSlider(LABEL("Cell Size"), kSmallestCell, kBiggestCell, matrixForms().front().cellSize,
+                                m_texts, m_tools);
     connect(m_cellSize, &SliderWidget::sliderValueChanged, this,
             [this](const QString &, int value) { m_tabs->setCellSize(value); });
     column->addWidget(makeSpeedSlider(m_player, m_texts, m_tools));
@@ -136,22 +136,24 @@ void pageLEDMatrixCanvas::buildFileTools(QVBoxLayout *column)
     column->addWidget(buildAlignedImport());
 }
 
-/// The usual import goes through files of the tapering form in steps that are not its frames. This one does not.
+/// The usual import goes through the files of a form in steps that may not be its frames. This one does not.
 QWidget *pageLEDMatrixCanvas::buildAlignedImport()
 {
     m_aligned = new QWidget(m_tools);
-    auto *note = new QLabel(m_aligned);
-    note->setObjectName(QStringLiteral("note"));
-    note->setFont(noteFont);
-    note->setWordWrap(true);
-    m_texts.bind(LABEL("Animate: 1050 cells a frame. Aligned: 949, as this form saves."),
-                 [note](const QString &text) { note->setText(text); });
+    m_alignedNote = new QLabel(m_aligned);
+    m_alignedNote->setObjectName(QStringLiteral("note"));
+    m_alignedNote->setFont(noteFont);
+    m_alignedNote->setWordWrap(true);
+    m_texts.bind(LABEL("Animate: 1050 cells a frame. Aligned: %1, as this form saves."), [this](const QString &text) {
+        m_alignedPattern = text;
+        showAlignedNote();
+    });
     QPushButton *button = makeToolButton(LABEL("Import Aligned"), m_texts, m_aligned);
     connect(button, &QPushButton::clicked, this, &pageLEDMatrixCanvas::importAligned);
     auto *row = new QHBoxLayout(m_aligned);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(8);
-    row->addWidget(note, 1);
+    row->addWidget(m_alignedNote, 1);
     row->addWidget(button);
     return m_aligned;
 }

@@ -6,7 +6,6 @@
 
 #include "controls/messagebox.h"
 #include "ledmatrix/animationfile.h"
-#include "ledmatrix/matrixform.h"
 #include "ledmatrix/matrixframe.h"
 #include "page/Nightloom/frametabs.h"
 #include "page/Nightloom/pageledmatrixcanvas.h"
@@ -15,15 +14,18 @@ namespace {
 
 constexpr int kMostFramesSaved = kMaximumFrames + 1; // as many as can be drawn
 
-/// The form whose whole frames a file of this size holds; -1 when it is no size of a saved drawing. No such size fits
-/// both forms.
-int formOfSize(qint64 bytes)
+/// The form whose whole frames a file of this size holds, of several the one that is used; null when it is no size of a
+/// saved drawing.
+const MatrixForm *formOfSize(qint64 bytes, const MatrixForm *used)
 {
-    for (const int form : {kTaperingForm, kRectangleForm}) {
-        if (bytes % matrixCells(form) == 0 && bytes / matrixCells(form) <= kMostFramesSaved)
-            return form;
-    }
-    return -1;
+    const auto fits = [bytes](const MatrixForm &form) {
+        return bytes % form.cells() == 0 && bytes / form.cells() <= kMostFramesSaved;
+    };
+    if (used && fits(*used))
+        return used;
+    const auto forms = matrixForms();
+    const auto form = std::find_if(forms.begin(), forms.end(), fits);
+    return form == forms.end() ? nullptr : &*form;
 }
 
 bool isDrawing(const QByteArrayList &frames)
@@ -35,7 +37,7 @@ bool isDrawing(const QByteArrayList &frames)
 
 } // namespace
 
-AnimationState pageLEDMatrixCanvas::stateOf(const QByteArrayList &frames, int form)
+AnimationState pageLEDMatrixCanvas::stateOf(const QByteArrayList &frames, const MatrixForm &form)
 {
     AnimationState state;
     for (const QByteArray &digits : frames) {
@@ -53,15 +55,15 @@ void pageLEDMatrixCanvas::restoreSaved()
     const QFileInfo file{QLatin1String(kDataFile)};
     if (!file.exists() || file.size() == 0)
         return;
-    const int form = formOfSize(file.size());
+    const MatrixForm *form = formOfSize(file.size(), m_form);
     ReadAnimation saved;
-    if (form >= 0)
-        saved = readAnimation(QLatin1String(kDataFile), matrixCells(form), kMostFramesSaved);
+    if (form)
+        saved = readAnimation(QLatin1String(kDataFile), form->cells(), kMostFramesSaved);
     if (!isDrawing(saved.frames)) {
         const QString text = QObject::tr("%1 holds no saved drawing. It stays as it is until you save.");
         return m_work->showNotice(text.arg(QLatin1String(kDataFile)));
     }
-    AnimationHistory history(stateOf(saved.frames, form));
+    AnimationHistory history(stateOf(saved.frames, *form));
     history.keep();
     m_histories.insert_or_assign(form, std::move(history));
     if (form != m_form)
@@ -98,14 +100,14 @@ bool pageLEDMatrixCanvas::keepUnsaved()
 
 /// The form that is used has the data file; a drawing of another form would take its place there, and so gets a file
 /// that the user names. At once, for the program ends.
-bool pageLEDMatrixCanvas::keepInFile(int form, AnimationHistory &history)
+bool pageLEDMatrixCanvas::keepInFile(const MatrixForm *form, AnimationHistory &history)
 {
     const QString fileName = form == m_form ? QLatin1String(kDataFile) : askSaveFile();
     if (fileName.isEmpty())
         return false;
     QByteArrayList frames;
     for (const AnimationFrame &frame : history.state().frames)
-        frames.append(toFrame(frame.cells, form).digits());
+        frames.append(toFrame(frame.cells, *form).digits());
     const QString error = writeAnimation(fileName, frames, [](int) { return true; });
     if (!error.isEmpty()) {
         warn(QObject::tr("The file cannot be written: %1").arg(error));

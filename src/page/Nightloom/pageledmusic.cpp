@@ -7,13 +7,13 @@
 #include "PictureAudioCom/soundanalyzer.h"
 #include "controls/sharedfonts.h"
 #include "ddc_protocol/settingsstore.h"
-#include "ledmatrix/matrixform.h"
 #include "page/Nightloom/audiopicture.h"
 #include "page/Nightloom/ledworkthread.h"
 #include "page/Nightloom/livedisplay.h"
 #include "page/engine/commonoptions.h"
 #include "page/engine/optiongrouprow.h"
 #include "platform/desk.h"
+#include "usb-hid/accessorylink.h"
 
 namespace {
 
@@ -189,10 +189,8 @@ void pageLEDMusic::stopCapture()
 void pageLEDMusic::freeAccessory(bool sendStop)
 {
     ledWorkThread::instance()->setSource(nullptr); // once this returns no frame of ours is under way
-    for (const auto &visual : m_visuals) {
-        if (visual)
-            visual->reset();
-    }
+    for (const auto &[form, visual] : m_visuals)
+        visual->reset();
     if (std::exchange(m_streams, false) && sendStop)
         ledWorkThread::instance()->endDisplay();
 }
@@ -277,12 +275,12 @@ void pageLEDMusic::setHearing(Hearing hearing)
 
 AudioVisual *pageLEDMusic::audioVisual()
 {
-    const int form = matrixForm;
-    if (form < 0 || form >= static_cast<int>(m_visuals.size()))
+    const MatrixForm *form = accessoryLink.form;
+    if (!form)
         return nullptr;
-    auto &visual = m_visuals[static_cast<std::size_t>(form)];
+    auto &visual = m_visuals[form];
     if (!visual)
-        visual = makeAudioBars(form);
+        visual = makeAudioBars(*form);
     visual->setTemplate(m_template);
     return visual.get();
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <array>
 #include <atomic>
+#include <map>
 #include <memory>
 
 #include "page/Nightloom/accessorycheck.h"
@@ -82,5 +82,5 @@ private:
     int m_lookRun = 0;      ///< looks of earlier runs mean nothing any more
     Hearing m_hearing = Hearing::Off;
     std::atomic<AudioTemplate> m_template = AudioTemplate::Bars;
-    std::array<std::unique_ptr<AudioBars>, 2> m_visuals; ///< by matrix form; the worker's thread makes and uses them
+    std::map<const MatrixForm *, std::unique_ptr<AudioBars>> m_visuals; ///< the worker's thread makes and uses them
 };

@@ -5,7 +5,6 @@
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/settingsstore.h"
-#include "ledmatrix/matrixform.h"
 #include "page/Nightloom/accessorysettings.h"
 #include "page/Nightloom/livedisplay.h"
 #include "page/Nightloom/matrixformsetting.h"
@@ -25,10 +24,19 @@ constexpr char kLamp[] = LABEL("Matrix Lamp");
 constexpr char kForm[] = LABEL("Matrix Form");
 constexpr char kClock[] = LABEL("Clock");
 
-constexpr Option kForms[] = {{LABEL("Tapering"), kTaperingForm}, {LABEL("Rectangle"), kRectangleForm}};
-
 const Section kSettings[] = {CustomPart{kSliders}, CustomPart{kLamp}, CustomPart{kForm}, CustomPart{kClock}};
 const PanelSpec kPanels[] = {{LABEL("System Settings"), "led_system", "pageLEDSystemPanel", kSettings}};
+
+std::span<const Option> matrixOptions()
+{
+    static const std::vector<Option> options = [] {
+        std::vector<Option> list;
+        for (const MatrixForm &form : matrixForms())
+            list.push_back({form.label, form.number});
+        return list;
+    }();
+    return options;
+}
 
 int stored(const char *key, int usual)
 {
@@ -53,7 +61,7 @@ QWidget *pageLEDSystem::buildPart(const char *name)
     if (qstrcmp(name, kLamp) == 0)
         return m_lamp = makeOptions({kLamp, kNoCommand, kCloseOpen}, &pageLEDSystem::switchLamp);
     if (qstrcmp(name, kForm) == 0)
-        return m_form = makeOptions({kForm, kNoCommand, kForms}, &pageLEDSystem::chooseForm);
+        return m_form = makeOptions({kForm, kNoCommand, matrixOptions()}, &pageLEDSystem::chooseForm);
     return m_clock = makeOptions({kClock, kNoCommand, kCloseOpen}, &pageLEDSystem::switchClock);
 }
 
@@ -116,7 +124,8 @@ void pageLEDSystem::showWhatIsSet()
     m_level->setValue(m_unstored ? m_unstored->first : stored(kPlaybackLevelKey, kUsualPlaybackLevel));
     m_brightness->setValue(m_unstored ? m_unstored->second : stored(kLedBrightnessKey, kUsualLedBrightness));
     m_lamp->showValue(m_lampSet);
-    m_form->showValue(matrixForm.load());
+    const MatrixForm *form = accessoryLink.form;
+    m_form->showValue(form ? std::optional(form->number) : std::nullopt);
     m_clock->showValue(m_display.shown() == LiveDisplay::Show::Clock ? 1 : 0);
 }
 
@@ -157,7 +166,8 @@ void pageLEDSystem::switchLamp(int value)
 void pageLEDSystem::chooseForm(int value)
 {
     const LiveDisplay::Pause pause(m_display); // no frame may be half of one form
-    showStored(chooseMatrixForm(value), Unstored::HoldsUntilExit);
+    if (const MatrixForm *form = findMatrixForm(value))
+        showStored(chooseMatrixForm(*form), Unstored::HoldsUntilExit);
 }
 
 void pageLEDSystem::switchClock(int value)

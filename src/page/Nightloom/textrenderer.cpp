@@ -9,8 +9,6 @@
 #include <QTextBoundaryFinder>
 #include <QTextLayout>
 
-#include "ledmatrix/matrixform.h"
-#include "ledmatrix/matrixgeometry.h"
 #include "usb-hid/accessoryupload.h"
 
 namespace {
@@ -21,28 +19,16 @@ constexpr int kLongestHold = 20;  // frames that a piece of a standing text stay
 constexpr int kSeenFrames = 3;    // that every letter is on the matrix at least, or nobody could read it
 constexpr qsizetype kLongestText = 500;
 
-/// Where the text stands and how: the tapering form is wide enough near its top only, and thin stems would fall between
-/// its cells. A standing text is smaller there, or hardly two letters stood side by side.
-struct TextBand
+const TextBand &bandOf(const MatrixForm &form, TextMotion motion)
 {
-    int top; ///< row
-    int rows;
-    int pixels; ///< of the font, in cells
-    QFont::Weight weight;
-};
-
-constexpr TextBand bandOf(int form, TextMotion motion)
-{
-    if (form == kRectangleForm)
-        return {0, 25, 19, QFont::Medium};
-    return motion == TextMotion::Standing ? TextBand{1, 15, 12, QFont::Bold} : TextBand{3, 20, 14, QFont::Bold};
+    return motion == TextMotion::Standing ? form.standing : form.scrolling;
 }
 
 QFont fontOf(const TextBand &band)
 {
     QFont font;
     font.setPixelSize(band.pixels * kFineness);
-    font.setWeight(band.weight);
+    font.setWeight(QFont::Weight(band.weight));
     return font;
 }
 
@@ -53,15 +39,14 @@ struct Span
 };
 
 /// What every row of the text's band has, in pixels of the strip: a letter that reached beyond would lose a corner.
-Span wholeRows(int form, const TextBand &band)
+Span wholeRows(const MatrixForm &form, const TextBand &band)
 {
-    const auto rows = matrixRows(form);
     int left = 0;
-    int right = matrixColumns(form) * kFineness;
+    int right = form.columns() * kFineness;
     for (int row = band.top; row < band.top + band.rows; ++row) {
-        const int shift = matrixRowShift(form, row);
+        const auto &[cells, first, shift] = form.rows[static_cast<std::size_t>(row)];
         left = std::max(left, shift);
-        right = std::min(right, shift + rows[static_cast<std::size_t>(row)].cells * kFineness);
+        right = std::min(right, shift + cells * kFineness);
     }
     return {left, right - left};
 }
@@ -100,16 +85,15 @@ int countLetters(const QString &text)
 
 } // namespace
 
-int TextRenderer::frameLimit(int form)
+int TextRenderer::frameLimit(const MatrixForm &form)
 {
-    const int cells = matrixCells(form);
-    return cells == 0 ? 0 : kTextMemory / cells;
+    return kTextMemory / form.cells();
 }
 
-TextRenderer::TextRenderer(int form, const QString &text, TextMotion motion)
-    : m_form(form), m_motion(motion), m_columns(matrixColumns(form)), m_letters(countLetters(text))
+TextRenderer::TextRenderer(const MatrixForm *form, const QString &text, TextMotion motion)
+    : m_form(form), m_motion(motion), m_columns(form ? form->columns() : 0), m_letters(countLetters(text))
 {
-    if (!text.isEmpty() && m_columns != 0)
+    if (!text.isEmpty() && m_form)
         layOut(onOneLine(beginning(text)));
 }
 
@@ -117,9 +101,9 @@ TextRenderer::TextRenderer(int form, const QString &text, TextMotion motion)
 void TextRenderer::layOut(const QString &text)
 {
     const bool standing = m_motion == TextMotion::Standing;
-    const int limit = frameLimit(m_form);
-    const TextBand band = bandOf(m_form, m_motion);
-    const Span whole = wholeRows(m_form, band);
+    const int limit = frameLimit(*m_form);
+    const TextBand band = bandOf(*m_form, m_motion);
+    const Span whole = wholeRows(*m_form, band);
     const int mostLines = standing ? limit / kSeenFrames : 1;
     const int widest = standing ? whole.width : (limit * (m_columns / kSeenFrames) - m_columns) * kFineness;
 
@@ -157,7 +141,7 @@ void TextRenderer::layOut(const QString &text)
 void TextRenderer::drawLine(QPainter &painter, const QTextLine &line, int left, int width) const
 {
     // By what letters reach, from accent to tail: a font's own height would push the tails out of the band.
-    const QRectF reach = QFontMetricsF(fontOf(bandOf(m_form, m_motion))).tightBoundingRect(QStringLiteral("Ágjy"));
+    const QRectF reach = QFontMetricsF(fontOf(bandOf(*m_form, m_motion))).tightBoundingRect(QStringLiteral("Ágjy"));
     const QRectF natural = line.naturalTextRect();
     const qreal squeeze = std::min(1.0, width / std::max(1.0, natural.width()));
     const qreal baseline = std::round((m_strip.height() - reach.height()) / 2 - reach.top());
@@ -170,7 +154,7 @@ void TextRenderer::drawLine(QPainter &painter, const QTextLine &line, int left, 
 
 void TextRenderer::countFrames(int pieces)
 {
-    const int limit = frameLimit(m_form);
+    const int limit = frameLimit(*m_form);
     if (m_motion == TextMotion::Standing) {
         m_hold = std::clamp(limit / pieces, kSeenFrames, kLongestHold);
         m_frames = pieces == 1 ? 1 : pieces * m_hold;
@@ -205,16 +189,15 @@ int TextRenderer::fullestFrame() const
 
 MatrixFrame TextRenderer::frame(int index) const
 {
-    MatrixFrame frame(m_form);
-    const TextBand band = bandOf(m_form, m_motion);
+    MatrixFrame frame(*m_form);
+    const TextBand band = bandOf(*m_form, m_motion);
     const int window = windowOf(index) * kFineness;
-    const auto rows = matrixRows(m_form);
     for (int row = band.top; row < band.top + band.rows; ++row) {
         const uchar *upper = m_strip.constScanLine((row - band.top) * kFineness);
         const uchar *lower = m_strip.constScanLine((row - band.top) * kFineness + 1);
-        const int shift = window + matrixRowShift(m_form, row);
-        for (int column = 0; column < rows[static_cast<std::size_t>(row)].cells; ++column) {
-            const int x = shift + column * kFineness;
+        const auto &[cells, first, shift] = m_form->rows[static_cast<std::size_t>(row)];
+        for (int column = 0; column < cells; ++column) {
+            const int x = window + shift + column * kFineness;
             if (x < 0 || x + 1 >= m_strip.width())
                 continue;
             const int light = upper[x] + upper[x + 1] + lower[x] + lower[x + 1];

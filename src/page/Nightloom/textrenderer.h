@@ -20,12 +20,13 @@ enum class TextMotion : std::int32_t { Left, Right, Standing };
 class TextRenderer
 {
 public:
-    /// Frames of a form that the accessory keeps of a text; 0 for a number that is no form.
-    static int frameLimit(int form);
+    /// Frames of a form that the accessory keeps of a text.
+    static int frameLimit(const MatrixForm &form);
 
-    TextRenderer(int form, const QString &text, TextMotion motion);
+    /// The form may be null: then there is nothing to render.
+    TextRenderer(const MatrixForm *form, const QString &text, TextMotion motion);
 
-    /// 0 for an empty text or a number that is no form.
+    /// 0 for an empty text or without a form.
     int frameCount() const { return m_frames; }
 
     /// How many letters the text has, as its reader counts them, and how many of them, from the first, are shown.
@@ -44,7 +45,7 @@ private:
     void countFrames(int pieces);
     int windowOf(int index) const;
 
-    int m_form;
+    const MatrixForm *m_form;
     TextMotion m_motion;
     int m_columns;
     QImage m_strip;  ///< two pixels a cell either way

@@ -9,11 +9,11 @@
 #include <QScrollArea>
 
 #include "controls/sharedfonts.h"
-#include "ledmatrix/matrixform.h"
 #include "page/Nightloom/matrixeditor.h"
 #include "page/Nightloom/toolcolumn.h"
 #include "page/engine/boundtexts.h"
 #include "page/engine/labels.h"
+#include "usb-hid/accessorylink.h"
 
 namespace {
 
@@ -51,6 +51,7 @@ TextWidget::TextWidget(BoundTexts &texts, QWidget *parent)
         if (!playing)
             showFrame(m_shown.fullestFrame());
     });
+    showFit();
     followMatrixForm();
 }
 
@@ -75,10 +76,10 @@ void TextWidget::buildMotions(BoundTexts &texts, QHBoxLayout *row)
 
 void TextWidget::followMatrixForm()
 {
-    if (m_form == matrixForm)
+    if (m_form == accessoryLink.form)
         return;
-    m_form = matrixForm;
-    m_preview = createMatrixEditor(m_form, nullptr);
+    m_form = accessoryLink.form;
+    m_preview = m_form ? createMatrixEditor(*m_form, nullptr) : nullptr;
     delete m_stage->takeWidget();
     if (m_preview) {
         m_preview->setEditable(false);

@@ -27,7 +27,7 @@ public:
     QLineEdit *input() const { return m_input; }
     /// What is said about how much of the text fits; empty when all of it does.
     QString fit() const;
-    /// Null while the matrix form is none.
+    /// Null without a matrix form.
     MatrixEditor *preview() const { return m_preview; }
     FramePlayer &player() { return m_player; }
 
@@ -36,7 +36,10 @@ public:
     void setMotion(TextMotion motion);
 
     /// The glyph source of a text. Usable from any thread.
-    static TextRenderer renderer(int form, const QString &text, TextMotion motion) { return {form, text, motion}; }
+    static TextRenderer renderer(const MatrixForm *form, const QString &text, TextMotion motion)
+    {
+        return {form, text, motion};
+    }
 
     /// Renders the text into frames, telling by the signals. False, with a log line, when there is no text.
     bool startJob();
@@ -65,7 +68,7 @@ private:
     void showFit();
     void showFrame(int index);
 
-    int m_form = -1;
+    const MatrixForm *m_form = nullptr;
     TextMotion m_motion = TextMotion::Left;
     TextRenderer m_shown; ///< what the preview shows
     QLineEdit *m_input;

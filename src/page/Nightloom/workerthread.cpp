@@ -1,10 +1,10 @@
 #include "page/Nightloom/workerthread.h"
 
-#include "ledmatrix/matrixform.h"
 #include "page/Nightloom/textwidget.h"
+#include "usb-hid/accessorylink.h"
 
 WorkerThread::WorkerThread(std::int32_t value, const QString &text, std::int32_t direction, const TextWidget &widget)
-    : m_value(value), m_text(text), m_direction(direction), m_widget(widget), m_form(matrixForm)
+    : m_value(value), m_text(text), m_direction(direction), m_widget(widget), m_form(accessoryLink.form)
 {
 }
 

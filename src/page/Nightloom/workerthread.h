@@ -5,6 +5,7 @@
 #include "platform/joinedthread.h"
 
 class TextWidget;
+struct MatrixForm;
 
 /// Renders one text into frames, off the interface thread.
 class WorkerThread : public JoinedThread
@@ -30,5 +31,5 @@ private:
     QString m_text;
     std::int32_t m_direction;
     const TextWidget &m_widget; ///< holds the glyph source
-    const int m_form;           ///< of the matrix when the job began
+    const MatrixForm *m_form;   ///< of the matrix when the job began
 };
