@@ -8,8 +8,8 @@ namespace virtualdesk {
 
 namespace {
 
-/// How a model is built: one or two strips, wired one behind the other, of which the second lies between the rows of the
-/// first, half a cell beside them.
+/// How a model is built: one or two strips, wired one behind the other, of which the second lies between the rows of
+/// the first, half a cell beside them.
 struct Model
 {
     int number;
@@ -26,8 +26,8 @@ constexpr Model kModels[] = {
 
 const Model *modelOf(int form)
 {
-    const auto *model = std::find_if(std::begin(kModels), std::end(kModels),
-                                     [form](const Model &each) { return each.number == form; });
+    const auto *model =
+        std::find_if(std::begin(kModels), std::end(kModels), [form](const Model &each) { return each.number == form; });
     return model == std::end(kModels) ? nullptr : model;
 }
 
@@ -81,9 +81,9 @@ double matrixRowPitch(int form)
 
 int highestForm()
 {
-    return std::max_element(std::begin(kModels), std::end(kModels), [](const Model &one, const Model &other) {
-               return one.number < other.number;
-           })->number;
+    return std::max_element(std::begin(kModels), std::end(kModels),
+                            [](const Model &one, const Model &other) { return one.number < other.number; })
+        ->number;
 }
 
 /// The rows of a strip stand in its middle, as far as its lattice lets them.

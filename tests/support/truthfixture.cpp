@@ -82,7 +82,7 @@ QStringList TruthFixture::lies() const
         for (const OptionGroupRow *row : page->optionGroups()) {
             if (!row->isVisible() || row->mark() != Mark::None)
                 continue;
-            const int has = monitor.value(static_cast<std::uint8_t>(row->group().command));
+            const int has = monitor.value(static_cast<std::uint8_t>(*row->group().command));
             for (const Option &option : row->group().options) {
                 const QPushButton *button = row->buttonOf(option.value);
                 if (button->isChecked() != (button == row->buttonOf(has)))

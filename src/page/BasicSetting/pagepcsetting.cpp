@@ -24,7 +24,6 @@
 
 namespace {
 
-constexpr Command kNoCommand{}; // these options are the tool's own and never go to the monitor
 constexpr char kStartUp[] = LABEL("Run on startup");
 constexpr char kLanguage[] = LABEL("Tool language settings");
 constexpr char kOverlay[] = LABEL("Hotkey overlay");
@@ -33,15 +32,6 @@ constexpr char kMachine[] = "machine";
 constexpr char kHealth[] = "health";
 
 constexpr Option kYesNo[] = {{LABEL("Yes"), 1}, {LABEL("No"), 0}};
-
-const Section kGeneral[] = {CustomPart{kStartUp}, CustomPart{kLanguage}, CustomPart{kOverlay}, CustomPart{kVersion}};
-const Section kMachineSelect[] = {CustomPart{kMachine}};
-const Section kHealthPanel[] = {CustomPart{kHealth}};
-const PanelSpec kPanels[] = {
-    {LABEL("General Settings"), "tool_settings", "pageGeneralSettings", kGeneral},
-    {LABEL("Machine Select"), "machine_select", "pageMachineSelect", kMachineSelect},
-    {LABEL("Monitor Health"), "monitor_health", "pageMonitorHealth", kHealthPanel},
-};
 
 /// The languages as options, each with its place in the list.
 std::span<const Option> languageOptions()
@@ -53,6 +43,20 @@ std::span<const Option> languageOptions()
         return list;
     }();
     return options;
+}
+
+std::span<const PanelSpec> panels()
+{
+    static const Section general[] = {OptionGroup{kStartUp, {}, kYesNo}, OptionGroup{kLanguage, {}, languageOptions()},
+                                      OptionGroup{kOverlay, {}, kYesNo}, CustomPart{kVersion}};
+    static const Section machineSelect[] = {CustomPart{kMachine}};
+    static const Section healthPanel[] = {CustomPart{kHealth}};
+    static const PanelSpec all[] = {
+        {LABEL("General Settings"), "tool_settings", "pageGeneralSettings", general},
+        {LABEL("Machine Select"), "machine_select", "pageMachineSelect", machineSelect},
+        {LABEL("Monitor Health"), "monitor_health", "pageMonitorHealth", healthPanel},
+    };
+    return all;
 }
 
 QString programPath()
@@ -72,27 +76,14 @@ bool runsOnStartUp()
 pagePCSetting::pagePCSetting(SearchDeviceDlg &session, CommandQueue &queue, QWidget *parent)
     : PanelPage(QStringLiteral("pagePCSetting"), OwnList::Shown, queue, parent), m_session(session)
 {
-    buildPanels(kPanels);
+    buildPanels(panels());
 }
 
 QWidget *pagePCSetting::buildPart(const char *name)
 {
-    if (qstrcmp(name, kStartUp) == 0)
-        return m_startUp = makeOptions({kStartUp, kNoCommand, kYesNo});
-    if (qstrcmp(name, kLanguage) == 0)
-        return m_language = makeOptions({kLanguage, kNoCommand, languageOptions()});
-    if (qstrcmp(name, kOverlay) == 0)
-        return m_overlay = makeOptions({kOverlay, kNoCommand, kYesNo});
     if (qstrcmp(name, kHealth) == 0)
         return m_health = new HealthPanel(texts(), queue(), this);
     return qstrcmp(name, kVersion) == 0 ? buildVersion() : buildMachine();
-}
-
-OptionGroupRow *pagePCSetting::makeOptions(const OptionGroup &group)
-{
-    auto *row = new OptionGroupRow(group, texts(), this);
-    connect(row, &OptionGroupRow::optionClicked, this, &pagePCSetting::onButtonClicked);
-    return row;
 }
 
 QWidget *pagePCSetting::buildVersion()
@@ -131,7 +122,6 @@ QWidget *pagePCSetting::buildMachine()
 void pagePCSetting::updateInterfaceData()
 {
     PanelPage::updateInterfaceData();
-    showWhatIsSet();
     updateMachineCombox();
     m_health->refresh();
 }
@@ -142,18 +132,13 @@ void pagePCSetting::updateControlText()
     m_health->refresh();
 }
 
-void pagePCSetting::showEvent(QShowEvent *event)
+std::optional<int> pagePCSetting::ownValue(const char *label)
 {
-    PanelPage::showEvent(event);
-    showWhatIsSet(); // other programs may have changed it since
-}
-
-void pagePCSetting::showWhatIsSet()
-{
-    m_startUp->showValue(runsOnStartUp() ? 1 : 0);
-    m_overlay->showValue(hotkeyOverlayOn() ? 1 : 0);
-    const ToolLanguage &language = toolLanguageOf(toolLanguageCode());
-    m_language->showValue(static_cast<int>(&language - toolLanguages().data()));
+    if (qstrcmp(label, kStartUp) == 0)
+        return runsOnStartUp() ? 1 : 0;
+    if (qstrcmp(label, kOverlay) == 0)
+        return hotkeyOverlayOn() ? 1 : 0;
+    return static_cast<int>(&toolLanguageOf(toolLanguageCode()) - toolLanguages().data());
 }
 
 void pagePCSetting::updateMachineCombox()
@@ -174,16 +159,14 @@ bool pagePCSetting::ask(const QString &title, const QString &text)
     return askYesNo(title, text, window());
 }
 
-void pagePCSetting::onButtonClicked(QPushButton *button)
+void pagePCSetting::onButtonClicked(const char *label, int value)
 {
-    const QString name = button->objectName();
-    showNotice({});
-    if (name.contains(QLatin1String(kStartUp)))
-        setRunOnStartUp(name.contains(QLatin1String("Yes")));
-    else if (name.contains(QLatin1String(kOverlay)))
-        setOverlay(name.contains(QLatin1String("Yes")));
-    else if (name.contains(QLatin1String(kLanguage)))
-        changeLanguage(name);
+    if (qstrcmp(label, kStartUp) == 0)
+        setRunOnStartUp(value != 0);
+    else if (qstrcmp(label, kOverlay) == 0)
+        showStored(setHotkeyOverlayOn(value != 0), Unstored::Undone);
+    else
+        changeLanguage(toolLanguages()[static_cast<std::size_t>(value)]);
 }
 
 void pagePCSetting::setRunOnStartUp(bool on)
@@ -193,27 +176,13 @@ void pagePCSetting::setRunOnStartUp(bool on)
     const bool ok = on ? startUp.setValue(name, programPath()) : startUp.removeValue(name);
     if (!ok || runsOnStartUp() != on)
         showNotice(QObject::tr("The system did not allow \"%1\" to be changed.").arg(QObject::tr(kStartUp)));
-    showWhatIsSet();
 }
 
-void pagePCSetting::setOverlay(bool on)
+void pagePCSetting::changeLanguage(const ToolLanguage &language)
 {
-    showStored(setHotkeyOverlayOn(on), Unstored::Undone);
-    showWhatIsSet();
-}
-
-void pagePCSetting::changeLanguage(const QString &objectName)
-{
-    const auto languages = toolLanguages();
-    const auto language = std::find_if(languages.begin(), languages.end(), [&objectName](const ToolLanguage &each) {
-        return objectName.contains(QString::fromUtf8(each.label));
-    });
-    if (language == languages.end())
-        return;
     if (ask(QObject::tr("Language"), QObject::tr("The APP will restart automatically when switching languages.")) &&
-        m_session.mayLeave() && restartWith(QLatin1String(kLanguageKey), QLatin1String(language->code)))
-        return;
-    showWhatIsSet();
+        m_session.mayLeave())
+        restartWith(QLatin1String(kLanguageKey), QLatin1String(language.code));
 }
 
 /// Says why when there is no restart.

@@ -5,6 +5,7 @@
 class HealthPanel;
 class QComboBox;
 class SearchDeviceDlg;
+struct ToolLanguage;
 
 /// The settings of the tool itself: start at log-on, language, which of the connected monitors it controls, and
 /// how the link to them is.
@@ -22,29 +23,23 @@ public:
 
 protected:
     QWidget *buildPart(const char *name) override;
-    void showEvent(QShowEvent *event) override;
+    std::optional<int> ownValue(const char *label) override;
+    void onButtonClicked(const char *label, int value) override;
 
     /// Asks before the program starts anew; anything but "No" is true.
     virtual bool ask(const QString &title, const QString &text);
 
 private Q_SLOTS:
-    void onButtonClicked(QPushButton *button);
     void onComboxIndexChanged(int nIndex);
 
 private:
-    OptionGroupRow *makeOptions(const OptionGroup &group);
     QWidget *buildVersion();
     QWidget *buildMachine();
-    void showWhatIsSet();
     void setRunOnStartUp(bool on);
-    void setOverlay(bool on);
-    void changeLanguage(const QString &objectName);
+    void changeLanguage(const ToolLanguage &language);
     bool restartWith(const QString &key, const QVariant &value);
 
     SearchDeviceDlg &m_session;
-    OptionGroupRow *m_startUp = nullptr;
-    OptionGroupRow *m_language = nullptr;
-    OptionGroupRow *m_overlay = nullptr;
     QComboBox *m_machines = nullptr;
     HealthPanel *m_health = nullptr;
 };

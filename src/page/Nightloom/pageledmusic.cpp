@@ -17,7 +17,6 @@
 
 namespace {
 
-constexpr Command kNoCommand{}; // these options are the accessory's and never go to the monitor
 constexpr platform::milliseconds kLookAfter{1000};
 constexpr int kQuietLooks = 5; // then it is listened anew: another device may have become the default one
 constexpr platform::milliseconds kRetryAfter{3000};
@@ -32,7 +31,8 @@ constexpr Option kTemplates[] = {{LABEL("Bars"), static_cast<int>(AudioTemplate:
                                  {LABEL("Hanging"), static_cast<int>(AudioTemplate::Hanging)}};
 static_assert(std::size(kTemplates) == kAudioTemplates);
 
-const Section kSections[] = {CustomPart{kMusic}, CustomPart{kTemplate}, CustomPart{kPicture}};
+const Section kSections[] = {OptionGroup{kMusic, {}, kCloseOpen}, OptionGroup{kTemplate, {}, kTemplates},
+                             CustomPart{kPicture}};
 const PanelSpec kPanels[] = {{kMusic, "led_music", "pageLEDMusicPanel", kSections}};
 
 // In the order of Hearing.
@@ -67,12 +67,19 @@ pageLEDMusic::~pageLEDMusic()
     freeAccessory(true);
 }
 
-QWidget *pageLEDMusic::buildPart(const char *name)
+OptionGroupRow *pageLEDMusic::switchOptions() const
 {
-    if (qstrcmp(name, kMusic) == 0)
-        return m_switch = makeOptions({kMusic, kNoCommand, kCloseOpen}, &pageLEDMusic::switchMusic);
-    if (qstrcmp(name, kTemplate) == 0)
-        return m_templates = makeOptions({kTemplate, kNoCommand, kTemplates}, &pageLEDMusic::chooseTemplate);
+    return ownGroup(kMusic);
+}
+
+OptionGroupRow *pageLEDMusic::templateOptions() const
+{
+    return ownGroup(kTemplate);
+}
+
+/// The one part that the table names: the picture and what is said of it.
+QWidget *pageLEDMusic::buildPart(const char *)
+{
     auto *part = new QWidget(this);
     m_picture = new AudioPicture(part);
     m_note = new QLabel(part);
@@ -88,20 +95,6 @@ QWidget *pageLEDMusic::buildPart(const char *name)
     return part;
 }
 
-OptionGroupRow *pageLEDMusic::makeOptions(const OptionGroup &group, void (pageLEDMusic::*chosen)(int value))
-{
-    auto *row = new OptionGroupRow(group, texts(), this);
-    connect(row, &OptionGroupRow::optionClicked, this, [this, row, chosen](QPushButton *button) {
-        showNotice({});
-        for (const Option &option : row->group().options) {
-            if (row->buttonOf(option.value) == button)
-                (this->*chosen)(option.value);
-        }
-        showWhatIsSet();
-    });
-    return row;
-}
-
 void pageLEDMusic::updateInterfaceData()
 {
     PanelPage::updateInterfaceData();
@@ -114,20 +107,29 @@ void pageLEDMusic::updateControlText()
     setHearing(m_hearing);
 }
 
-void pageLEDMusic::showEvent(QShowEvent *event)
-{
-    PanelPage::showEvent(event);
-    showWhatIsSet(); // another page may have chosen another form
-}
-
 void pageLEDMusic::showWhatIsSet()
 {
     const int stored = settingsInt(QLatin1String(kMusicTemplateKey), 0, false);
     m_template = static_cast<AudioTemplate>(std::clamp(stored, 0, kAudioTemplates - 1));
-    m_templates->showValue(static_cast<int>(m_template.load()));
     m_picture->setTemplate(m_template);
-    m_switch->showValue(isMusicOn() ? 1 : 0);
+    showOwnValues();
     setHearing(m_hearing);
+}
+
+std::optional<int> pageLEDMusic::ownValue(const char *label)
+{
+    if (qstrcmp(label, kTemplate) == 0)
+        return static_cast<int>(m_template.load());
+    return isMusicOn() ? 1 : 0;
+}
+
+void pageLEDMusic::onButtonClicked(const char *label, int value)
+{
+    if (qstrcmp(label, kTemplate) == 0)
+        chooseTemplate(value);
+    else
+        switchMusic(value);
+    showWhatIsSet();
 }
 
 void pageLEDMusic::chooseTemplate(int value)

@@ -31,8 +31,8 @@ public:
     /// Also while something else needs the accessory; the capture goes on afterwards.
     bool isMusicOn() const;
 
-    OptionGroupRow *switchOptions() const { return m_switch; }
-    OptionGroupRow *templateOptions() const { return m_templates; }
+    OptionGroupRow *switchOptions() const;
+    OptionGroupRow *templateOptions() const;
     AudioPicture *picture() const { return m_picture; }
     /// What is said about why nothing moves; empty while something does.
     QString note() const { return m_note->text(); }
@@ -43,7 +43,8 @@ public Q_SLOTS:
 
 protected:
     QWidget *buildPart(const char *name) override;
-    void showEvent(QShowEvent *event) override;
+    std::optional<int> ownValue(const char *label) override;
+    void onButtonClicked(const char *label, int value) override;
 
 private:
     enum class Hearing { Off, Waiting, Sound, Silence, Failed };
@@ -51,7 +52,6 @@ private:
     AudioVisual *audioVisual() override;
     void frameSent() override {}
 
-    OptionGroupRow *makeOptions(const OptionGroup &group, void (pageLEDMusic::*chosen)(int value));
     void switchMusic(int value);
     void showSwitched();
     bool streams() const;
@@ -70,8 +70,6 @@ private:
     AccessoryCheck m_ensureConnected;
     LiveDisplay &m_display;
     SoundAnalyzer &m_analyzer;
-    OptionGroupRow *m_switch = nullptr;
-    OptionGroupRow *m_templates = nullptr;
     AudioPicture *m_picture = nullptr;
     QLabel *m_note = nullptr;
     bool m_startAgain = false; ///< as soon as the capture that was stopped has ended

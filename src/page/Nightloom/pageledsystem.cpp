@@ -14,7 +14,6 @@
 
 namespace {
 
-constexpr Command kNoCommand{}; // these options are the accessory's and never go to the monitor
 constexpr int kCaptionWidth = 140;
 
 constexpr char kSliders[] = "sliders";
@@ -23,9 +22,6 @@ constexpr char kBrightness[] = LABEL("Brightness");
 constexpr char kLamp[] = LABEL("Matrix Lamp");
 constexpr char kForm[] = LABEL("Matrix Form");
 constexpr char kClock[] = LABEL("Clock");
-
-const Section kSettings[] = {CustomPart{kSliders}, CustomPart{kLamp}, CustomPart{kForm}, CustomPart{kClock}};
-const PanelSpec kPanels[] = {{LABEL("System Settings"), "led_system", "pageLEDSystemPanel", kSettings}};
 
 std::span<const Option> matrixOptions()
 {
@@ -36,6 +32,14 @@ std::span<const Option> matrixOptions()
         return list;
     }();
     return options;
+}
+
+std::span<const PanelSpec> panels()
+{
+    static const Section settings[] = {CustomPart{kSliders}, OptionGroup{kLamp, {}, kCloseOpen},
+                                       OptionGroup{kForm, {}, matrixOptions()}, OptionGroup{kClock, {}, kCloseOpen}};
+    static const PanelSpec all[] = {{LABEL("System Settings"), "led_system", "pageLEDSystemPanel", settings}};
+    return all;
 }
 
 int stored(const char *key, int usual)
@@ -50,22 +54,27 @@ pageLEDSystem::pageLEDSystem(AccessoryCheck ensureConnected, LiveDisplay &displa
     : PanelPage(QStringLiteral("pageLEDSystem"), OwnList::None, queue, parent),
       m_ensureConnected(std::move(ensureConnected)), m_display(display)
 {
-    buildPanels(kPanels);
+    buildPanels(panels());
     connect(&m_display, &LiveDisplay::changed, this, &pageLEDSystem::showWhatIsSet);
 }
 
-QWidget *pageLEDSystem::buildPart(const char *name)
+OptionGroupRow *pageLEDSystem::lampOptions() const
 {
-    if (qstrcmp(name, kSliders) == 0)
-        return buildSliders();
-    if (qstrcmp(name, kLamp) == 0)
-        return m_lamp = makeOptions({kLamp, kNoCommand, kCloseOpen}, &pageLEDSystem::switchLamp);
-    if (qstrcmp(name, kForm) == 0)
-        return m_form = makeOptions({kForm, kNoCommand, matrixOptions()}, &pageLEDSystem::chooseForm);
-    return m_clock = makeOptions({kClock, kNoCommand, kCloseOpen}, &pageLEDSystem::switchClock);
+    return ownGroup(kLamp);
 }
 
-QWidget *pageLEDSystem::buildSliders()
+OptionGroupRow *pageLEDSystem::formOptions() const
+{
+    return ownGroup(kForm);
+}
+
+OptionGroupRow *pageLEDSystem::clockOptions() const
+{
+    return ownGroup(kClock);
+}
+
+/// The one part that the table names: the sliders.
+QWidget *pageLEDSystem::buildPart(const char *)
 {
     auto *part = new QWidget(this);
     m_level = makeOwnSlider(kLevel, Command::AccessoryLevel, part);
@@ -92,30 +101,10 @@ SliderWidget *pageLEDSystem::makeOwnSlider(const char *name, Command command, QW
     return slider;
 }
 
-OptionGroupRow *pageLEDSystem::makeOptions(const OptionGroup &group, Chosen chosen)
-{
-    auto *row = new OptionGroupRow(group, texts(), this);
-    connect(row, &OptionGroupRow::optionClicked, this, [this, row, chosen](QPushButton *button) {
-        showNotice({});
-        for (const Option &option : row->group().options) {
-            if (row->buttonOf(option.value) == button)
-                (this->*chosen)(option.value);
-        }
-        showWhatIsSet();
-    });
-    return row;
-}
-
 void pageLEDSystem::updateInterfaceData()
 {
     PanelPage::updateInterfaceData();
     showWhatIsSet();
-}
-
-void pageLEDSystem::showEvent(QShowEvent *event)
-{
-    PanelPage::showEvent(event);
-    showWhatIsSet(); // a factory reset may have stored other values since
 }
 
 void pageLEDSystem::showWhatIsSet()
@@ -123,10 +112,27 @@ void pageLEDSystem::showWhatIsSet()
     const Updating updating(*this);
     m_level->setValue(m_unstored ? m_unstored->first : stored(kPlaybackLevelKey, kUsualPlaybackLevel));
     m_brightness->setValue(m_unstored ? m_unstored->second : stored(kLedBrightnessKey, kUsualLedBrightness));
-    m_lamp->showValue(m_lampSet);
+    showOwnValues();
+}
+
+std::optional<int> pageLEDSystem::ownValue(const char *label)
+{
+    if (qstrcmp(label, kLamp) == 0)
+        return m_lampSet;
+    if (qstrcmp(label, kClock) == 0)
+        return m_display.shown() == LiveDisplay::Show::Clock ? 1 : 0;
     const MatrixForm *form = accessoryLink.form;
-    m_form->showValue(form ? std::optional(form->number) : std::nullopt);
-    m_clock->showValue(m_display.shown() == LiveDisplay::Show::Clock ? 1 : 0);
+    return form ? std::optional(form->number) : std::nullopt;
+}
+
+void pageLEDSystem::onButtonClicked(const char *label, int value)
+{
+    if (qstrcmp(label, kLamp) == 0)
+        switchLamp(value);
+    else if (qstrcmp(label, kClock) == 0)
+        switchClock(value);
+    else
+        chooseForm(value);
 }
 
 void pageLEDSystem::onSliderReleased(SliderWidget *moved, Command command)

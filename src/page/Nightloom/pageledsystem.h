@@ -21,20 +21,17 @@ public:
 
     SliderWidget *levelSlider() const { return m_level; }
     SliderWidget *brightnessSlider() const { return m_brightness; }
-    OptionGroupRow *lampOptions() const { return m_lamp; }
-    OptionGroupRow *formOptions() const { return m_form; }
-    OptionGroupRow *clockOptions() const { return m_clock; }
+    OptionGroupRow *lampOptions() const;
+    OptionGroupRow *formOptions() const;
+    OptionGroupRow *clockOptions() const;
 
 protected:
     QWidget *buildPart(const char *name) override;
-    void showEvent(QShowEvent *event) override;
+    std::optional<int> ownValue(const char *label) override;
+    void onButtonClicked(const char *label, int value) override;
 
 private:
-    using Chosen = void (pageLEDSystem::*)(int value);
-
-    QWidget *buildSliders();
     SliderWidget *makeOwnSlider(const char *name, Command command, QWidget *parent);
-    OptionGroupRow *makeOptions(const OptionGroup &group, Chosen chosen);
     void showWhatIsSet();
     void onSliderReleased(SliderWidget *moved, Command command);
     void switchLamp(int value);
@@ -45,9 +42,6 @@ private:
     LiveDisplay &m_display;
     SliderWidget *m_level = nullptr;
     SliderWidget *m_brightness = nullptr;
-    OptionGroupRow *m_lamp = nullptr;
-    OptionGroupRow *m_form = nullptr;
-    OptionGroupRow *m_clock = nullptr;
     std::optional<std::pair<int, int>> m_unstored; ///< level and brightness that the file did not take
     std::optional<int> m_lampSet;                  ///< what the lamp was switched to last; the accessory does not tell
 };

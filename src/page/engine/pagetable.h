@@ -25,7 +25,7 @@ enum class GroupLook { Buttons, Switch };
 struct OptionGroup
 {
     const char *label;
-    Command command;
+    std::optional<Command> command; ///< none for options of the page's own, which go to no monitor
     std::span<const Option> options;
     std::optional<Capability> needs = {}; ///< built only for monitors that have it
     GroupLook look = GroupLook::Buttons;

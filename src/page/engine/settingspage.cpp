@@ -30,6 +30,20 @@ OptionGroupRow *SettingsPage::optionGroup(Command command) const
     return group == m_groups.end() ? nullptr : *group;
 }
 
+OptionGroupRow *SettingsPage::ownGroup(const char *label) const
+{
+    const auto group = std::find_if(m_ownGroups.begin(), m_ownGroups.end(), [label](const OptionGroupRow *row) {
+        return qstrcmp(row->group().label, label) == 0;
+    });
+    return group == m_ownGroups.end() ? nullptr : *group;
+}
+
+void SettingsPage::showOwnValues()
+{
+    for (OptionGroupRow *row : m_ownGroups)
+        row->showValue(ownValue(row->group().label));
+}
+
 SliderWidget *SettingsPage::slider(const char *name) const
 {
     const auto slider = std::find_if(m_sliders.begin(), m_sliders.end(), [name](const SliderWidget *widget) {
@@ -74,10 +88,10 @@ std::optional<SettingsPage::Choice> SettingsPage::choiceOf(const QString &object
             continue;
         for (const Option &option : group.options) {
             if (objectName == prefix + QString::fromUtf8(option.label))
-                return Choice{group.command, option.value};
+                return Choice{*group.command, option.value};
         }
         if (!fallback)
-            fallback = Choice{group.command, deviceState.value(group.command)};
+            fallback = Choice{*group.command, deviceState.value(*group.command)};
     }
     return fallback;
 }
@@ -245,7 +259,7 @@ QWidget *SettingsPage::buildPart(const char *)
 
 void SettingsPage::fillRow(OptionGroupRow *row)
 {
-    const Command command = row->group().command;
+    const Command command = *row->group().command;
     const Mark mark = markOf(command);
     if (mark != Mark::Unconfirmed)
         row->showValue(mark != Mark::Unknown ? std::optional(deviceState.value(command)) : std::nullopt);
@@ -271,6 +285,7 @@ void SettingsPage::updateInterfaceData()
         if (const std::optional<Command> command = commandOf(entry))
             fillSlider(entry.widget, *command);
     }
+    showOwnValues();
     applyLocks();
 }
 

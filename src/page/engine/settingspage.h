@@ -41,11 +41,13 @@ public:
 
     QWidget *widget() override { return this; }
 
-    /// The controls in the order of their creation.
+    /// The controls of the monitor's settings in the order of their creation.
     const std::vector<OptionGroupRow *> &optionGroups() const { return m_groups; }
     const std::vector<SliderWidget *> &sliders() const { return m_sliders; }
 
     OptionGroupRow *optionGroup(Command command) const;
+    /// Options without a command, by their label.
+    OptionGroupRow *ownGroup(const char *label) const;
     SliderWidget *slider(const char *name) const;
 
     /// The line that offers the way back from a risky change.
@@ -82,6 +84,15 @@ protected:
 
     /// Builds a part that the tables only name; null for a name that the page does not know.
     virtual QWidget *buildPart(const char *name);
+
+    /// Which option of a group without a command is set; nothing while that is not known.
+    virtual std::optional<int> ownValue(const char *) { return std::nullopt; }
+
+    /// The user chose an option of such a group. What is set then is shown as soon as this returns.
+    virtual void onButtonClicked(const char *, int) {}
+
+    /// Shows what is set of the options without a command.
+    void showOwnValues();
 
     /// Tells the user whether the monitor took what was set last on this page; a page says so in its own place.
     virtual void showResult(bool ok);
@@ -157,6 +168,7 @@ private:
     void followMode();
     std::optional<Choice> choiceOf(const QString &objectName) const;
     void addOptions(const OptionGroup &group, QVBoxLayout *column);
+    void addOwnOptions(const OptionGroup &group, QVBoxLayout *column);
     void addSliders(const SliderGrid &grid, QVBoxLayout *column);
     QLayout *makeSlider(const SliderSpec &spec, const SliderGrid &grid, QWidget *parent);
     LockSign *makeSign(SliderWidget *slider);
@@ -180,6 +192,7 @@ private:
     UndoBar *m_undoBar = nullptr;
     bool m_paced = false;
     std::vector<OptionGroupRow *> m_groups;
+    std::vector<OptionGroupRow *> m_ownGroups; ///< without a command
     std::vector<SliderWidget *> m_sliders;
     std::vector<Slider> m_sliderEntries;
     std::map<Command, Rule> m_before;

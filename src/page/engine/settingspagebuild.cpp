@@ -64,15 +64,32 @@ void SettingsPage::addOptions(const OptionGroup &group, QVBoxLayout *column)
 {
     if (!isAvailable(group.needs))
         return;
+    if (!group.command)
+        return addOwnOptions(group, column);
     auto *row = new OptionGroupRow(group, m_texts, column->parentWidget());
     connect(row, &OptionGroupRow::optionClicked, this, &SettingsPage::onOptionClicked);
     connect(row, &OptionGroupRow::lockPressed, this, [this, row] {
         for (const Option &option : row->group().options) {
-            if (const LockRule *rule = lockOf(m_locks, row->group().command, option.value, deviceState))
+            if (const LockRule *rule = lockOf(m_locks, *row->group().command, option.value, deviceState))
                 return goTo(rule);
         }
     });
     m_groups.push_back(row);
+    column->addWidget(row);
+}
+
+void SettingsPage::addOwnOptions(const OptionGroup &group, QVBoxLayout *column)
+{
+    auto *row = new OptionGroupRow(group, m_texts, column->parentWidget());
+    connect(row, &OptionGroupRow::optionClicked, this, [this, row](QPushButton *button) {
+        showResult(true); // what is said there was said of another choice
+        for (const Option &option : row->group().options) {
+            if (row->buttonOf(option.value) == button)
+                onButtonClicked(row->group().label, option.value);
+        }
+        showOwnValues();
+    });
+    m_ownGroups.push_back(row);
     column->addWidget(row);
 }
 

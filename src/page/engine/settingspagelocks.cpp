@@ -41,7 +41,7 @@ void SettingsPage::applyLocks()
     for (OptionGroupRow *row : m_groups) {
         QStringList reasons;
         for (const Option &option : row->group().options)
-            reasons.append(reasonOf(lockOf(m_locks, row->group().command, option.value, deviceState)));
+            reasons.append(reasonOf(lockOf(m_locks, *row->group().command, option.value, deviceState)));
         row->setLocks(reasons);
     }
 }
