@@ -11,9 +11,9 @@
 
 #include "PictureAudioCom/soundanalyzer.h"
 #include "benchdesk.h"
-#include "page/Nightloom/audioled.h"
-#include "page/Nightloom/ledframesource.h"
-#include "page/Nightloom/ledworkthread.h"
+#include "page/Nightloom/render/audioled.h"
+#include "page/Nightloom/work/ledframesource.h"
+#include "page/Nightloom/work/ledworkthread.h"
 #include "usb-hid/hidtransport.h"
 
 static thread_local std::size_t s_allocations = 0;

@@ -11,9 +11,9 @@
 #include <benchmark/benchmark.h>
 
 #include "benchdesk.h"
-#include "page/Nightloom/frametabs.h"
-#include "page/Nightloom/matrixeditor.h"
-#include "page/Nightloom/pageledmatrixcanvas.h"
+#include "page/Nightloom/canvas/frametabs.h"
+#include "page/Nightloom/canvas/pageledmatrixcanvas.h"
+#include "page/Nightloom/parts/matrixeditor.h"
 #include "usb-hid/accessorylink.h"
 
 namespace {

@@ -13,7 +13,7 @@
 #include "ddc_protocol/writecounts.h"
 #include "ddc_protocol/writekeeper.h"
 #include "page/Nightloom/accessorypages.h"
-#include "page/Nightloom/matrixformsetting.h"
+#include "page/Nightloom/system/matrixformsetting.h"
 #include "page/Scene/pagescenesetting.h"
 #include "page/monitorpages.h"
 #include "platform/ending.h"

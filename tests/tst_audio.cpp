@@ -5,8 +5,8 @@
 
 #include <QtTest>
 
-#include "page/Nightloom/audioled.h"
-#include "page/Nightloom/dateled.h"
+#include "page/Nightloom/render/audioled.h"
+#include "page/Nightloom/render/dateled.h"
 #include "support/matrixforms.h"
 #include "support/sounds.h"
 #include "support/textfile.h"

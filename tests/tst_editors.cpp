@@ -1,6 +1,6 @@
 #include <QtTest>
 
-#include "page/Nightloom/animationhistory.h"
+#include "page/Nightloom/canvas/animationhistory.h"
 #include "support/datarow.h"
 #include "support/deskfixture.h"
 #include "support/matrixcells.h"

@@ -3,10 +3,10 @@
 #include <QtTest>
 #include <QtWidgets>
 
-#include "page/Nightloom/ledworkthread.h"
-#include "page/Nightloom/matrixeditor.h"
-#include "page/Nightloom/pageledmatrixtext.h"
-#include "page/Nightloom/textwidget.h"
+#include "page/Nightloom/parts/matrixeditor.h"
+#include "page/Nightloom/text/pageledmatrixtext.h"
+#include "page/Nightloom/text/textwidget.h"
+#include "page/Nightloom/work/ledworkthread.h"
 #include "support/accessoryfixture.h"
 #include "support/matrixforms.h"
 #include "usb-hid/accessoryupload.h"

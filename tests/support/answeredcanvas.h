@@ -4,8 +4,8 @@
 
 #include <QtTest>
 
-#include "page/Nightloom/frametabs.h"
-#include "page/Nightloom/pageledmatrixcanvas.h"
+#include "page/Nightloom/canvas/frametabs.h"
+#include "page/Nightloom/canvas/pageledmatrixcanvas.h"
 #include "support/matrixcells.h"
 #include "support/matrixforms.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "page/Nightloom/matrixeditor.h"
+#include "page/Nightloom/parts/matrixeditor.h"
 
 inline QPoint middle(const MatrixEditor &editor, MatrixCell cell)
 {

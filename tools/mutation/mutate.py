@@ -37,7 +37,7 @@ ROOMS = (
     ("following", r"src/following/|src/page/Following/", "following"),
     ("accessory", r"src/usb-hid/|src/ledmatrix/", "accessory accessoryupload ledwork"),
     ("sound", r"src/PictureAudioCom/", "spectrum soundanalyzer audio music"),
-    ("accessory pages", r"src/page/Nightloom/(?:\w*canvas|frame|matrix|animation|toolcolumn|ledthread)",
+    ("accessory pages", r"src/page/Nightloom/(?:canvas/|parts/|work/ledthread)",
      "canvas canvasfiles editors"),
     ("accessory pages", r"src/page/Nightloom/", "ledtext ledwork audio music"),
     ("pages", r"src/page/Scene/", "scenepage pages"),

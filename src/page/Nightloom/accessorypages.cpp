@@ -2,12 +2,12 @@
 
 #include <QStackedWidget>
 
-#include "page/Nightloom/ledworkthread.h"
-#include "page/Nightloom/livedisplay.h"
-#include "page/Nightloom/pageledmatrixcanvas.h"
-#include "page/Nightloom/pageledmatrixtext.h"
-#include "page/Nightloom/pageledmusic.h"
-#include "page/Nightloom/pageledsystem.h"
+#include "page/Nightloom/work/ledworkthread.h"
+#include "page/Nightloom/work/livedisplay.h"
+#include "page/Nightloom/canvas/pageledmatrixcanvas.h"
+#include "page/Nightloom/text/pageledmatrixtext.h"
+#include "page/Nightloom/music/pageledmusic.h"
+#include "page/Nightloom/system/pageledsystem.h"
 #include "page/pageset.h"
 #include "usb-hid/accessoryupload.h"
 

@@ -1,0 +1,297 @@
+#include "page/Nightloom/parts/matrixeditor.h"
+
+#include <algorithm>
+
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "ledmatrix/animationfile.h"
+
+namespace {
+
+const QColor kDark(0x2a, 0x37, 0x31);
+const QColor kLit(0x7b, 0xfa, 0xdb);
+const QColor kBehind(0x2f, 0x5f, 0x52);
+const QColor kCursor(0xff, 0xff, 0xff);
+constexpr int kCursorMargin = 2; // the cursor stands this far outside its cell
+
+} // namespace
+
+MatrixEditor::MatrixEditor(const MatrixForm &form, QWidget *parent)
+    : QLabel(parent), m_geometry(form, form.cellSize), m_frame(form)
+{
+    setFixedSize(m_geometry.size());
+    setFocusPolicy(Qt::StrongFocus);
+    setCursor(Qt::CrossCursor);
+    updateControlText();
+}
+
+void MatrixEditor::setFrame(std::span<const std::int32_t> cells)
+{
+    const MatrixFrame before = m_frame;
+    m_frame.setFlat(cells);
+    for (int row = 0; row < static_cast<int>(before.rows().size()); ++row) {
+        const auto &old = before.rows()[static_cast<std::size_t>(row)];
+        for (int column = 0; column < static_cast<int>(old.size()); ++column) {
+            if (old[static_cast<std::size_t>(column)] != m_frame.cell(row, column))
+                updateCell({row, column});
+        }
+    }
+    describeCursor();
+}
+
+void MatrixEditor::clearFrame()
+{
+    setFrame({});
+}
+
+bool MatrixEditor::appendFrameToFile() const
+{
+    return appendFrame(m_dataFile, m_frame.digits()).isEmpty();
+}
+
+void MatrixEditor::setEditable(bool editable)
+{
+    if (!editable)
+        finishStroke();
+    m_editable = editable;
+}
+
+void MatrixEditor::setCellSize(int pixels)
+{
+    m_geometry = MatrixGeometry(m_geometry.form(), pixels);
+    setFixedSize(m_geometry.size());
+    update();
+}
+
+void MatrixEditor::setOnionSkin(const std::optional<MatrixFrame> &behind)
+{
+    if (m_onionSkin == behind)
+        return;
+    m_onionSkin = behind;
+    update();
+}
+
+void MatrixEditor::setShownInstead(const std::optional<MatrixFrame> &shown)
+{
+    if (m_shownInstead == shown)
+        return;
+    m_shownInstead = shown;
+    update();
+}
+
+void MatrixEditor::setCell(MatrixCell cell, std::int32_t value)
+{
+    if (m_frame.cell(cell.row, cell.column) == value)
+        return;
+    m_frame.setCell(cell.row, cell.column, value);
+    m_strokeChanged = true;
+    updateCell(cell);
+}
+
+void MatrixEditor::toggle(MatrixCell cell)
+{
+    setCell(cell, (m_frame.cell(cell.row, cell.column) + 1) % 2);
+}
+
+void MatrixEditor::finishStroke()
+{
+    m_pressed = false;
+    if (!m_strokeChanged)
+        return;
+    m_strokeChanged = false;
+    describeCursor();
+    Q_EMIT edited();
+}
+
+void MatrixEditor::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton)
+        return event->ignore(); // the window may be moved by it
+    if (!mayDraw())
+        return;
+    const QPoint point = event->position().toPoint();
+    const auto cell = m_geometry.cellAt(point);
+    if (!cell)
+        return;
+    m_pressed = true;
+    m_lastPoint = point;
+    toggle(*cell);
+    m_putOut.reset();
+    if (m_frame.cell(cell->row, cell->column) == 0)
+        m_putOut = cell;
+    placeCursor(*cell);
+}
+
+void MatrixEditor::mouseMoveEvent(QMouseEvent *event)
+{
+    if (!mayDraw() || !m_pressed)
+        return;
+    if (!(event->buttons() & Qt::LeftButton))
+        return finishStroke(); // it was released where nobody told
+    const QPoint point = event->position().toPoint();
+    drawBetween(m_lastPoint, point);
+    if (const auto cell = m_geometry.cellAt(point))
+        setCell(*cell, 1);
+    m_lastPoint = point;
+}
+
+/// A fast mouse reports only some points of its way: every cell between two of them is lit as well. The one that the
+/// press put out stays out until the mouse is reported there.
+void MatrixEditor::drawBetween(QPoint from, QPoint to)
+{
+    const QPoint way = to - from;
+    const int steps = std::max(std::abs(way.x()), std::abs(way.y()));
+    for (int step = 1; step < steps; ++step) {
+        const auto cell = m_geometry.cellAt(from + way * step / steps);
+        if (cell && cell != m_putOut)
+            setCell(*cell, 1);
+    }
+}
+
+void MatrixEditor::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        finishStroke();
+}
+
+void MatrixEditor::keyPressEvent(QKeyEvent *event)
+{
+    if (event->modifiers() & ~Qt::KeypadModifier)
+        return QLabel::keyPressEvent(event);
+    switch (event->key()) {
+    case Qt::Key_Left:
+        return moveCursor(-1, 0);
+    case Qt::Key_Right:
+        return moveCursor(1, 0);
+    case Qt::Key_Up:
+        return moveCursor(0, -1);
+    case Qt::Key_Down:
+        return moveCursor(0, 1);
+    case Qt::Key_Space:
+        if (!mayDraw() || event->isAutoRepeat() || m_pressed)
+            return;
+        toggle(m_cursor);
+        return finishStroke();
+    default:
+        QLabel::keyPressEvent(event);
+    }
+}
+
+void MatrixEditor::placeCursor(MatrixCell cell)
+{
+    if (cell == m_cursor)
+        return;
+    updateCell(m_cursor);
+    m_cursor = cell;
+    updateCell(m_cursor);
+    describeCursor();
+}
+
+void MatrixEditor::moveCursor(int columns, int rows)
+{
+    placeCursor(m_geometry.neighbour(m_cursor, columns, rows));
+    Q_EMIT cursorMoved(m_geometry.cellRect(m_cursor));
+}
+
+/// What scrolls brings the cursor's cell into sight when the focus comes, not the middle of the frame.
+QVariant MatrixEditor::inputMethodQuery(Qt::InputMethodQuery query) const
+{
+    return query == Qt::ImCursorRectangle ? m_geometry.cellRect(m_cursor) : QLabel::inputMethodQuery(query);
+}
+
+void MatrixEditor::updateControlText()
+{
+    setAccessibleName(QObject::tr("LED matrix"));
+    describeCursor();
+}
+
+void MatrixEditor::describeCursor()
+{
+    const bool lit = m_frame.cell(m_cursor.row, m_cursor.column) == 1;
+    const QString state = lit ? QObject::tr("on") : QObject::tr("off");
+    const QString text = QObject::tr("Row %1, cell %2: %3");
+    setAccessibleDescription(text.arg(m_cursor.row + 1).arg(m_cursor.column + 1).arg(state));
+}
+
+void MatrixEditor::focusInEvent(QFocusEvent *event)
+{
+    QLabel::focusInEvent(event);
+    updateCell(m_cursor);
+}
+
+void MatrixEditor::focusOutEvent(QFocusEvent *event)
+{
+    QLabel::focusOutEvent(event);
+    updateCell(m_cursor);
+}
+
+/// The release of a stroke never comes to a widget that is gone by then.
+void MatrixEditor::hideEvent(QHideEvent *event)
+{
+    QLabel::hideEvent(event);
+    finishStroke();
+}
+
+void MatrixEditor::changeEvent(QEvent *event)
+{
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange && !isEnabled())
+        finishStroke();
+}
+
+void MatrixEditor::updateCell(MatrixCell cell)
+{
+    const int margin = cell == m_cursor ? kCursorMargin : 0;
+    update(m_geometry.cellRect(cell).adjusted(-margin, -margin, margin, margin));
+}
+
+void MatrixEditor::paintEvent(QPaintEvent *event)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    const QRect area = event->rect() & QRect(QPoint(), m_geometry.size());
+    if (area.isEmpty())
+        return;
+    for (int row = area.top() / cellSize(); row <= area.bottom() / cellSize(); ++row)
+        drawRow(painter, row, area);
+    if (hasFocus() && !m_shownInstead)
+        drawCursor(painter);
+}
+
+void MatrixEditor::drawRow(QPainter &painter, int row, const QRect &area) const
+{
+    const MatrixFrame &shown = m_shownInstead ? *m_shownInstead : m_frame;
+    const qreal gap = cellSize() / 10.0;
+    const qreal radius = cellSize() / 4.0;
+    const auto &cells = shown.rows()[static_cast<std::size_t>(row)];
+    for (int column = 0; column < static_cast<int>(cells.size()); ++column) {
+        const QRect rect = m_geometry.cellRect({row, column});
+        if (!rect.intersects(area))
+            continue;
+        const bool behind = m_onionSkin && !m_shownInstead && m_onionSkin->cell(row, column) == 1;
+        const bool lit = cells[static_cast<std::size_t>(column)] == 1;
+        painter.setBrush(lit ? kLit : behind ? kBehind : kDark);
+        painter.drawRoundedRect(QRectF(rect).adjusted(gap, gap, -gap, -gap), radius, radius);
+    }
+}
+
+void MatrixEditor::drawCursor(QPainter &painter) const
+{
+    const qreal radius = cellSize() / 3.0;
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(kCursor, 1.5));
+    painter.drawRoundedRect(QRectF(m_geometry.cellRect(m_cursor)).adjusted(0.25, 0.25, -0.25, -0.25), radius, radius);
+}
+
+MatrixEditor *createMatrixEditor(const MatrixForm &form, QWidget *parent)
+{
+    switch (form.lattice) {
+    case RowLattice::Staggered:
+        return new LEDMatrixWidget(form, parent);
+    case RowLattice::Upright:
+        break;
+    }
+    return new LEDMatrixWidgetRect(form, parent);
+}

@@ -1,0 +1,84 @@
+#include "page/Nightloom/parts/toolcolumn.h"
+
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "controls/captions.h"
+#include "controls/sliderwidget.h"
+#include "page/Nightloom/parts/frameplayer.h"
+#include "page/engine/boundtexts.h"
+#include "page/engine/labels.h"
+
+namespace {
+
+constexpr int kButtonWidth = 136;
+constexpr int kButtonHeight = 36;
+constexpr int kButtonPixels = 14;
+constexpr int kTextMargin = 8;
+
+} // namespace
+
+static constexpr int kToolColumnWidth = 280;
+
+void layOutWithTools(QWidget *page, QLayout *work, QWidget *side)
+{
+    side->setFixedWidth(kToolColumnWidth);
+    auto *row = new QHBoxLayout(page);
+    row->setContentsMargins(24, 16, 24, 16);
+    row->setSpacing(24);
+    row->addLayout(work, 1);
+    row->addWidget(side);
+}
+
+QVBoxLayout *makeToolColumn(QWidget *tools)
+{
+    auto *column = new QVBoxLayout(tools);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(16);
+    return column;
+}
+
+QPushButton *makeToolButton(const char *label, BoundTexts &texts, QWidget *parent)
+{
+    auto *button = new QPushButton(parent);
+    button->setObjectName(QLatin1String(label));
+    button->setProperty("tool", true); // what the style sheet knows it by
+    button->setFixedSize(kButtonWidth, kButtonHeight);
+    button->setFocusPolicy(Qt::StrongFocus);
+    texts.bind(label, [button](const QString &text) {
+        const auto fitted = fitCaption(text, button->font(), kButtonPixels, kButtonWidth - 2 * kTextMargin);
+        button->setFont(fitted.font);
+        button->setText(fitted.text);
+        button->setToolTip(fitted.elided ? text : QString());
+        button->setAccessibleName(text);
+    });
+    return button;
+}
+
+QWidget *makeToolLine(QWidget *parent)
+{
+    auto *line = new QFrame(parent);
+    line->setObjectName(QStringLiteral("line"));
+    line->setFixedHeight(1);
+    return line;
+}
+
+SliderWidget *makeToolSlider(const char *label, int minimum, int maximum, int value, BoundTexts &texts, QWidget *parent)
+{
+    auto *slider = new SliderWidget(QLatin1String(label), minimum, maximum, parent);
+    slider->setCaptionWidth(kToolCaptionWidth);
+    slider->setValue(value);
+    texts.bind(label, [slider](const QString &text) { slider->setCaption(text); });
+    return slider;
+}
+
+SliderWidget *makeSpeedSlider(FramePlayer &player, BoundTexts &texts, QWidget *parent)
+{
+    SliderWidget *slider =
+        makeToolSlider(LABEL("Frames/s"), FramePlayer::kSlowest, FramePlayer::kFastest, player.speed(), texts, parent);
+    QObject::connect(slider, &SliderWidget::sliderValueChanged, &player,
+                     [&player](const QString &, int value) { player.setSpeed(value); });
+    return slider;
+}
