@@ -139,7 +139,7 @@ void TestCanvasFiles::exportInTabOrder()
 void TestCanvasFiles::progress()
 {
     const auto page = makePage();
-    LEDThread thread(*page);
+    LEDThread thread(&pageLEDMatrixCanvas::sendAnmateData);
     QList<int> values;
     connect(&thread, &LEDThread::progress, this, [&values](int value) { values.append(value); });
     for (const int frames : {0, 3, 25}) { // none, each of a few, every second
@@ -345,7 +345,7 @@ void TestCanvasFiles::cancelledFiles()
     QCOMPARE(page->tabs()->count(), 1);
     QVERIFY(!page->work()->notice().isEmpty());
     QCOMPARE(page->dataFile(), QLatin1String(kDataFile));
-    LEDThread thread(*page);
+    LEDThread thread(&pageLEDMatrixCanvas::sendAnmateData);
     const auto interrupt = [&thread] { thread.requestInterruption(); };
     connect(&thread, &LEDThread::progress, &thread, interrupt, Qt::DirectConnection); // after the first frame
     thread.begin(LEDThread::Export, {{"1", "0"}, page->fileName});

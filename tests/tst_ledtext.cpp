@@ -164,9 +164,9 @@ void TestLedText::nothingToRender()
     QVERIFY(!widget.startJob());
     QCOMPARE(m_desk->takeLog(), QStringList{"Input text is null"});
     QSignalSpy progress(&widget, &TextWidget::progress);
-    WorkerThread empty(1000, QString(), 0, widget);
+    WorkerThread empty(1000, QString(), 0, &TextWidget::renderer);
     QSignalSpy ready(&empty, &WorkerThread::framesReady);
-    empty.start();
+    empty.begin();
     QVERIFY(empty.wait(5000));
     QCoreApplication::processEvents();
     QVERIFY(ready.isEmpty() && progress.isEmpty());

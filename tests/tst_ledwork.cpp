@@ -5,6 +5,7 @@
 
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
+#include "page/Nightloom/render/audiovisual.h"
 #include "page/Nightloom/system/accessorysettings.h"
 #include "page/Nightloom/system/matrixformsetting.h"
 #include "page/Nightloom/system/pageledsystem.h"

@@ -2,27 +2,18 @@
 
 #include <utility>
 
+#include <QHBoxLayout>
 #include <QPushButton>
+#include <QShortcut>
 
-#include "controls/sliderwidget.h"
+#include "controls/sharedfonts.h"
 #include "ledmatrix/animationfile.h"
+#include "page/Nightloom/canvas/canvastools.h"
 #include "page/Nightloom/canvas/frametabs.h"
 #include "page/Nightloom/parts/matrixeditor.h"
+#include "page/engine/labels.h"
 #include "usb-hid/accessorylink.h"
 #include "usb-hid/accessoryupload.h"
-
-namespace {
-
-/// The animation that the page opens with: one dark frame, which the counter counts and which is called 1.
-AnimationState firstState(const MatrixForm *form, int &nextId)
-{
-    AnimationState state;
-    if (form)
-        state.frames.push_back({nextId++, state.nextNumber++, QBitArray(form->cells())});
-    return state;
-}
-
-} // namespace
 
 int pageLEDMatrixCanvas::framesWithRoom(const MatrixForm *form)
 {
@@ -30,10 +21,13 @@ int pageLEDMatrixCanvas::framesWithRoom(const MatrixForm *form)
 }
 
 pageLEDMatrixCanvas::pageLEDMatrixCanvas(AccessoryCheck ensureConnected, QWidget *parent)
-    : QLabel(parent), m_ensureConnected(std::move(ensureConnected)), m_thread(*this), m_tabs(new FrameTabs(this)),
-      m_count(new QLabel(this)), m_work(new WorkPanel(m_texts, this))
+    : LongWorkPage(QStringLiteral("pageLEDMatrixCanvas"), LABEL("Custom Mode"), std::move(ensureConnected), parent),
+      m_thread(&pageLEDMatrixCanvas::sendAnmateData), m_tabs(new FrameTabs(this)), m_count(new QLabel(this))
 {
-    buildForm();
+    m_count->setObjectName(QStringLiteral("note"));
+    m_count->setFont(noteFont);
+    head()->addWidget(m_count, 0, Qt::AlignBottom);
+    layOut(m_tabs, 12);
     bindShortcuts();
     connect(&m_thread, &LEDThread::progress, this, &pageLEDMatrixCanvas::onProgress);
     connect(&m_thread, &LEDThread::workEnded, this, &pageLEDMatrixCanvas::endWork);
@@ -55,10 +49,31 @@ pageLEDMatrixCanvas::~pageLEDMatrixCanvas()
     m_thread.wait();
 }
 
+void pageLEDMatrixCanvas::buildTools(QVBoxLayout *column, QWidget *tools)
+{
+    m_tools = new CanvasTools(*this, m_player, texts(), column, tools);
+    connect(m_tools, &CanvasTools::modeChosen, this,
+            [this](int index) { m_mode = static_cast<std::uint8_t>(kFirstMode + index); });
+    connect(m_tools, &CanvasTools::cellSizeChosen, m_tabs, &FrameTabs::setCellSize);
+    connect(m_tools, &CanvasTools::onionSkinSwitched, m_tabs, &FrameTabs::setOnionSkin);
+}
+
+void pageLEDMatrixCanvas::bindShortcuts()
+{
+    const auto bind = [this](const char *keys, void (pageLEDMatrixCanvas::*press)()) {
+        auto *shortcut = new QShortcut(QKeySequence(QLatin1String(keys)), this);
+        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+        connect(shortcut, &QShortcut::activated, this, press);
+    };
+    bind("Ctrl+Z", &pageLEDMatrixCanvas::undo);
+    bind("Ctrl+Y", &pageLEDMatrixCanvas::redo);
+    bind("Ctrl+Shift+Z", &pageLEDMatrixCanvas::redo);
+}
+
 void pageLEDMatrixCanvas::followMatrixForm()
 {
     const MatrixForm *form = accessoryLink.form;
-    if (!isBusy() && m_form != form)
+    if (!isBusy() && m_drawings.form() != form)
         useForm(form);
 }
 
@@ -66,20 +81,12 @@ void pageLEDMatrixCanvas::followMatrixForm()
 void pageLEDMatrixCanvas::useForm(const MatrixForm *form)
 {
     endStrokes();
-    m_form = form;
-    m_history = &m_histories.try_emplace(m_form, firstState(m_form, m_nextId)).first->second;
-    m_aligned->setVisible(m_form && m_form->cells() != kImportStep);
-    showAlignedNote();
-    m_tabs->setForm(m_form);
-    m_tabs->apply(m_history->state(), m_history->state().place);
-    m_cellSize->setValue((m_form ? *m_form : matrixForms().front()).cellSize);
+    m_drawings.use(form);
+    m_tabs->setForm(form);
+    m_tabs->apply(m_drawings.state(), m_drawings.state().place);
+    m_tools->useForm(form);
     m_saved = false; // the data file is not of this form's making
     updateButtons();
-}
-
-void pageLEDMatrixCanvas::showAlignedNote()
-{
-    m_alignedNote->setText(m_alignedPattern.arg(m_form ? m_form->cells() : 0));
 }
 
 void pageLEDMatrixCanvas::updateInterfaceData()
@@ -103,7 +110,7 @@ void pageLEDMatrixCanvas::hideEvent(QHideEvent *event)
 
 void pageLEDMatrixCanvas::updateControlText()
 {
-    m_texts.retranslate();
+    LongWorkPage::updateControlText();
     m_tabs->updateControlText();
     updateButtons();
 }
@@ -111,101 +118,6 @@ void pageLEDMatrixCanvas::updateControlText()
 QPushButton *pageLEDMatrixCanvas::button(const char *label) const
 {
     return findChild<QPushButton *>(QLatin1String(label));
-}
-
-bool pageLEDMatrixCanvas::mayAddFrame()
-{
-    if (!m_form)
-        return false;
-    if (frameCounter() <= kMaximumFrames) // one more than the maximum, and meant
-        return true;
-    warn(QObject::tr("Maximum 192 frames"));
-    return false;
-}
-
-AnimationFrame pageLEDMatrixCanvas::newFrame(AnimationState &state)
-{
-    return {m_nextId++, state.nextNumber++, QBitArray(m_form->cells())};
-}
-
-void pageLEDMatrixCanvas::addFrame()
-{
-    endStrokes();
-    if (isBusy() || !mayAddFrame())
-        return;
-    AnimationState state = m_history->state();
-    state.place = static_cast<int>(state.frames.size());
-    state.frames.push_back(newFrame(state));
-    change(std::move(state));
-}
-
-void pageLEDMatrixCanvas::duplicateFrame()
-{
-    endStrokes();
-    if (isBusy() || m_tabs->count() == 0 || !mayAddFrame())
-        return;
-    AnimationState state = m_history->state();
-    const int original = m_tabs->currentIndex();
-    AnimationFrame copy = newFrame(state);
-    copy.cells = state.frames[static_cast<std::size_t>(original)].cells;
-    state.place = original + 1;
-    state.frames.insert(state.frames.begin() + state.place, std::move(copy));
-    change(std::move(state));
-}
-
-void pageLEDMatrixCanvas::deleteFrame()
-{
-    endStrokes();
-    if (isBusy() || m_tabs->count() == 0)
-        return;
-    AnimationState state = m_history->state();
-    state.place = m_tabs->currentIndex();
-    state.frames.erase(state.frames.begin() + state.place);
-    if (state.frames.empty())
-        state.nextNumber = 1;
-    change(std::move(state));
-}
-
-void pageLEDMatrixCanvas::cleanFrame()
-{
-    endStrokes();
-    if (isBusy() || m_tabs->count() == 0)
-        return;
-    AnimationState state = m_history->state();
-    state.place = m_tabs->currentIndex();
-    QBitArray &cells = state.frames[static_cast<std::size_t>(state.place)].cells;
-    if (cells.count(true) == 0)
-        return; // nothing that could be taken back
-    cells.fill(false);
-    change(std::move(state));
-}
-
-void pageLEDMatrixCanvas::undo()
-{
-    endStrokes();
-    if (isBusy() || !m_history->canUndo())
-        return;
-    const int place = m_history->undo();
-    m_tabs->apply(m_history->state(), place);
-    onChanged();
-}
-
-void pageLEDMatrixCanvas::redo()
-{
-    endStrokes();
-    if (isBusy() || !m_history->canRedo())
-        return;
-    const int place = m_history->redo();
-    m_tabs->apply(m_history->state(), place);
-    onChanged();
-}
-
-void pageLEDMatrixCanvas::togglePreview()
-{
-    if (m_player.isPlaying())
-        return m_player.stop();
-    endStrokes();
-    m_player.play(m_tabs->count(), m_tabs->currentIndex());
 }
 
 /// What is being drawn or played ends: every action begins with the animation as the user has drawn it.
@@ -216,33 +128,99 @@ void pageLEDMatrixCanvas::endStrokes()
         editor->finishStroke();
 }
 
-void pageLEDMatrixCanvas::change(AnimationState state)
+/// Whether there is a frame to change, and nothing that forbids it.
+bool pageLEDMatrixCanvas::mayChange()
 {
-    m_history->push(std::move(state));
-    m_tabs->apply(m_history->state(), m_history->state().place);
+    endStrokes();
+    return !isBusy() && m_tabs->count() > 0;
+}
+
+bool pageLEDMatrixCanvas::mayAddFrame()
+{
+    if (!m_drawings.form())
+        return false;
+    if (frameCounter() <= kMaximumFrames) // one more than the maximum, and meant
+        return true;
+    warn(QObject::tr("Maximum 192 frames"));
+    return false;
+}
+
+void pageLEDMatrixCanvas::addFrame()
+{
+    endStrokes();
+    if (isBusy() || !mayAddFrame())
+        return;
+    m_drawings.add();
+    showChange(m_drawings.state().place);
+}
+
+void pageLEDMatrixCanvas::duplicateFrame()
+{
+    if (!mayChange() || !mayAddFrame())
+        return;
+    m_drawings.duplicate(m_tabs->currentIndex());
+    showChange(m_drawings.state().place);
+}
+
+void pageLEDMatrixCanvas::deleteFrame()
+{
+    if (!mayChange())
+        return;
+    m_drawings.remove(m_tabs->currentIndex());
+    showChange(m_drawings.state().place);
+}
+
+void pageLEDMatrixCanvas::cleanFrame()
+{
+    if (mayChange() && m_drawings.clean(m_tabs->currentIndex()))
+        showChange(m_drawings.state().place);
+}
+
+void pageLEDMatrixCanvas::undo()
+{
+    endStrokes();
+    if (!isBusy() && m_drawings.history().canUndo())
+        showChange(m_drawings.history().undo());
+}
+
+void pageLEDMatrixCanvas::redo()
+{
+    endStrokes();
+    if (!isBusy() && m_drawings.history().canRedo())
+        showChange(m_drawings.history().redo());
+}
+
+void pageLEDMatrixCanvas::togglePreview()
+{
+    if (m_player.isPlaying())
+        return m_player.stop();
+    endStrokes();
+    m_player.play(m_tabs->count(), m_tabs->currentIndex());
+}
+
+void pageLEDMatrixCanvas::showChange(int place)
+{
+    m_tabs->apply(m_drawings.state(), place);
     onChanged();
 }
 
 void pageLEDMatrixCanvas::onEdited(int index)
 {
-    AnimationState state = m_history->state();
-    state.place = index;
-    state.frames[static_cast<std::size_t>(index)].cells = toBits(m_tabs->editor(index)->frame());
-    m_history->push(std::move(state)); // the editor shows it already
+    m_drawings.edit(index, m_tabs->editor(index)->frame()); // which shows it already
     onChanged();
 }
 
 void pageLEDMatrixCanvas::onChanged()
 {
     m_saved = false; // what the data file holds is no longer what is drawn
-    m_work->showNotice({});
+    work()->showNotice({});
     updateButtons();
 }
 
 QString pageLEDMatrixCanvas::countText() const
 {
     const int frames = m_tabs->count();
-    const int room = framesWithRoom(m_form);
+    const int room = framesWithRoom(m_drawings.form());
     if (frames <= room)
         return QObject::tr("Frames: %1").arg(frames);
     return QObject::tr("Frames: %1, of which the accessory takes %2").arg(frames).arg(room);
@@ -250,13 +228,7 @@ QString pageLEDMatrixCanvas::countText() const
 
 void pageLEDMatrixCanvas::updateButtons()
 {
-    const bool any = m_tabs->count() > 0;
     m_count->setText(countText());
-    for (const char *label : {"Duplicate Frame", "Delete Frame", "Clean Frame", "Preview"})
-        button(label)->setEnabled(any);
-    button("Undo")->setEnabled(m_history->canUndo());
-    button("Redo")->setEnabled(m_history->canRedo());
-    button("Write Animate")->setEnabled(m_saved);
-    button("Preview")->setChecked(m_player.isPlaying());
-    m_cellSize->setEnabled(any);
+    m_tools->show({m_tabs->count() > 0, m_drawings.history().canUndo(), m_drawings.history().canRedo(), m_saved,
+                   m_player.isPlaying()});
 }

@@ -1,26 +1,18 @@
 #pragma once
 
 #include <functional>
-#include <map>
 
-#include <QLabel>
-
-#include "page/Nightloom/canvas/animationhistory.h"
-#include "page/Nightloom/parts/accessorycheck.h"
+#include "page/Nightloom/canvas/drawings.h"
 #include "page/Nightloom/parts/frameplayer.h"
-#include "page/Nightloom/parts/workpanel.h"
+#include "page/Nightloom/parts/longworkpage.h"
 #include "page/Nightloom/work/ledthread.h"
-#include "page/engine/boundtexts.h"
-#include "page/engine/page.h"
 
+class CanvasTools;
 class FrameTabs;
-class QComboBox;
 class QPushButton;
-class QVBoxLayout;
-class SliderWidget;
 
 /// The page on which the user draws an animation for the accessory frame by frame, keeps it in files and uploads it.
-class pageLEDMatrixCanvas : public QLabel, public Page
+class pageLEDMatrixCanvas : public LongWorkPage
 {
     Q_OBJECT
 public:
@@ -40,22 +32,19 @@ public:
     void updateInterfaceData() override;
     void updateControlText() override;
     bool mayLeave() override;
-    QWidget *widget() override { return this; }
 
     FrameTabs *tabs() const { return m_tabs; }
     QPushButton *button(const char *label) const;
-    WorkPanel *work() const { return m_work; }
 
     /// Counts the frames. It is compared before a frame is added, so one frame more than the maximum finds room.
-    int frameCounter() const { return static_cast<int>(m_history->state().frames.size()); }
+    int frameCounter() const { return static_cast<int>(m_drawings.state().frames.size()); }
     std::uint8_t modeByte() const { return m_mode; }
     /// The file last saved, exported or imported; empty before.
     QString dataFile() const { return m_dataFile; }
-    bool isBusy() const { return m_work->isBusy(); }
 
     /// Uploads the job's file; whether the accessory took it whole. For LEDThread, which runs it: touches nothing of
     /// the page.
-    bool sendAnmateData(const LEDJob &job, const std::function<void(int)> &progress) const;
+    static bool sendAnmateData(const LEDJob &job, const std::function<void(int)> &progress);
 
 public Q_SLOTS:
     void addFrame();
@@ -72,11 +61,6 @@ public Q_SLOTS:
     void importAligned();
     void togglePreview();
 
-Q_SIGNALS:
-    /// Long work begins and ends; the window keeps everything else from the accessory meanwhile.
-    void busyBegins();
-    void busyEnded();
-
 protected:
     /// Ask for a file; empty when the user names none.
     virtual QString askSaveFile();
@@ -89,63 +73,41 @@ protected:
     enum class Leaving { Save, DoNotSave, Stay };
     virtual Leaving askLeaving();
 
+    void buildTools(QVBoxLayout *column, QWidget *tools) override;
+    void cancelWork() override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
 
 private:
-    void buildForm();
-    QWidget *buildTools();
-    void buildFrameTools(QVBoxLayout *column);
-    void buildViewTools(QVBoxLayout *column);
-    void buildFileTools(QVBoxLayout *column);
-    QWidget *buildModeBox();
-    QWidget *buildAlignedImport();
     void bindShortcuts();
-
     void followMatrixForm();
     void useForm(const MatrixForm *form);
-    void showAlignedNote();
-    void endStrokes();
+    bool mayChange();
     bool mayAddFrame();
-    AnimationFrame newFrame(AnimationState &state);
-    void change(AnimationState state);
+    void endStrokes();
+    void showChange(int place);
     void onEdited(int index);
     void onChanged();
     QString countText() const;
     void updateButtons();
 
     void beginWork(LEDThread::State state, QString fileName, bool saves);
-    void cancelWork();
     void onProgress(int value);
     void endWork(bool complete);
-    void tellOutcome(bool complete);
     void import(int frameCells);
     void importFrames();
+    void tellWhatWasTaken(qint64 framesInFile);
     void fail(const QString &error);
     void tellWhatIsCut();
-
-    AnimationState stateOf(const QByteArrayList &frames, const MatrixForm &form);
     void restoreSaved();
-    bool keepUnsaved();
-    bool keepInFile(const MatrixForm *form, AnimationHistory &history);
+    bool keepInFile(const MatrixForm &form, const QByteArrayList &digits);
 
-    AccessoryCheck m_ensureConnected;
-    BoundTexts m_texts;
-    const MatrixForm *m_form = nullptr;
-    int m_nextId = 0;
-    std::map<const MatrixForm *, AnimationHistory> m_histories; ///< an animation of one cannot be shown in another
-    AnimationHistory *m_history = nullptr;                      ///< of the form that is shown
+    Drawings m_drawings;
     FramePlayer m_player;
     LEDThread m_thread;
     FrameTabs *m_tabs;
-    QWidget *m_tools = nullptr;
-    QWidget *m_aligned = nullptr; ///< what only forms need whose frames are no steps of an import
-    QLabel *m_alignedNote = nullptr;
-    QString m_alignedPattern; ///< for the cells of a frame
+    CanvasTools *m_tools = nullptr;
     QLabel *m_count;
-    WorkPanel *m_work;
-    QComboBox *m_modes = nullptr;
-    SliderWidget *m_cellSize = nullptr;
     QString m_dataFile;
     QString m_fileBefore;  ///< the data file again when the work does not get done
     int m_importCells = 0; ///< a frame, in the file that is imported

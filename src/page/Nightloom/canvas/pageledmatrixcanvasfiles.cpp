@@ -1,4 +1,4 @@
-// The canvas page's long work: files and the upload.
+// The canvas page's long work: files and the upload; and what is kept of the drawings when the program ends.
 
 #include <algorithm>
 #include <utility>
@@ -8,7 +8,7 @@
 #include "controls/filequestion.h"
 #include "controls/messagebox.h"
 #include "ledmatrix/animationfile.h"
-#include "ledmatrix/matrixframe.h"
+#include "ledmatrix/matrixform.h"
 #include "page/Nightloom/canvas/frametabs.h"
 #include "page/Nightloom/canvas/pageledmatrixcanvas.h"
 #include "page/engine/labels.h"
@@ -74,13 +74,13 @@ void pageLEDMatrixCanvas::importAnimate()
 
 void pageLEDMatrixCanvas::importAligned()
 {
-    if (m_form)
-        import(m_form->cells());
+    if (m_drawings.form())
+        import(m_drawings.form()->cells());
 }
 
 void pageLEDMatrixCanvas::import(int frameCells)
 {
-    if (isBusy())
+    if (isBusy() || !m_drawings.form())
         return;
     const QString fileName = askOpenFile();
     if (fileName.isEmpty())
@@ -94,22 +94,23 @@ void pageLEDMatrixCanvas::import(int frameCells)
 
 void pageLEDMatrixCanvas::writeAnimate()
 {
-    if (isBusy() || !m_saved || !m_ensureConnected())
+    if (isBusy() || !m_saved || !ensureConnected())
         return;
     beginWork(LEDThread::Upload, m_dataFile, false);
     tellWhatIsCut();
 }
 
-/// The device has room for so many bytes, which are fewer frames of the bigger form.
+/// The device has room for so many bytes, which are fewer frames of a bigger form.
 void pageLEDMatrixCanvas::tellWhatIsCut()
 {
-    const qint64 frames = m_form ? QFileInfo(m_dataFile).size() / m_form->cells() : 0;
-    if (frames > framesWithRoom(m_form))
-        m_work->showNotice(
-            QObject::tr("The accessory takes %1 of the %2 frames.").arg(framesWithRoom(m_form)).arg(frames));
+    const MatrixForm *form = m_drawings.form();
+    const qint64 frames = form ? QFileInfo(m_dataFile).size() / form->cells() : 0;
+    if (frames > framesWithRoom(form))
+        work()->showNotice(
+            QObject::tr("The accessory takes %1 of the %2 frames.").arg(framesWithRoom(form)).arg(frames));
 }
 
-bool pageLEDMatrixCanvas::sendAnmateData(const LEDJob &job, const std::function<void(int)> &progress) const
+bool pageLEDMatrixCanvas::sendAnmateData(const LEDJob &job, const std::function<void(int)> &progress)
 {
     return uploadAnimation(job.fileName, job.mode, progress, job.stop);
 }
@@ -122,7 +123,7 @@ void pageLEDMatrixCanvas::beginWork(LEDThread::State state, QString fileName, bo
     m_fileBefore = std::exchange(m_dataFile, std::move(fileName));
     m_saves = saves;
     m_taken = false;
-    m_work->begin(stepsOf(state, m_dataFile));
+    work()->begin(stepsOf(state, m_dataFile));
     m_thread.begin(state, {m_tabs->digits(), m_dataFile, m_mode, uploadStop()});
 }
 
@@ -140,67 +141,121 @@ void pageLEDMatrixCanvas::onProgress(int value)
         return importFrames();
     if (value == kProgressFailed)
         return fail(m_thread.error());
-    m_work->showProgress(value);
+    work()->showProgress(value);
 }
 
 void pageLEDMatrixCanvas::endWork(bool complete)
 {
+    const bool uploads = m_thread.state() == LEDThread::Upload;
     if (m_thread.state() == LEDThread::Export && complete) {
-        m_history->keep();
+        m_drawings.history().keep();
         m_taken = true;
     }
     if (m_taken && m_saves)
         m_saved = m_tabs->count() > 0;
-    tellOutcome(complete);
-    updateButtons();
-    m_work->end(m_thread.state() == LEDThread::Upload ? complete : m_taken);
-    followMatrixForm();
-}
-
-void pageLEDMatrixCanvas::tellOutcome(bool complete)
-{
-    const bool uploads = m_thread.state() == LEDThread::Upload;
-    if (!uploads && !m_taken)
+    if (!uploads && !m_taken) {
         m_dataFile = m_fileBefore; // the file that is named has nothing to do with what is drawn
-    if (m_work->hasFailed())
-        return;
-    if (uploads && !complete)
-        m_work->showNotice(QObject::tr("The accessory did not take everything."));
-    else if (!uploads && !m_taken)
-        m_work->showNotice(QObject::tr("Cancelled. Nothing was changed."));
+        tellCancelled();
+    }
+    updateButtons();
+    if (uploads)
+        endUpload(complete);
+    else
+        work()->end(m_taken);
+    followMatrixForm();
 }
 
 /// Neither sets the mark of what is saved nor takes it away: what is written then is the imported file.
 void pageLEDMatrixCanvas::importFrames()
 {
-    if (m_work->isCancelled())
+    if (work()->isCancelled())
         return;
     const ReadAnimation animation = readAnimation(m_dataFile, m_importCells);
     if (!animation.error.isEmpty())
         return fail(animation.error);
-    AnimationState state = stateOf(animation.frames, *m_form);
     const double sum = static_cast<double>(m_tabs->count()) + static_cast<double>(animation.frames.size());
     const int step = std::max(static_cast<int>(0.1 * sum), 1);
-    m_history->push(std::move(state));
-    m_tabs->apply(m_history->state(), 0, [&](int removed) {
+    m_drawings.replace(animation.frames);
+    m_tabs->apply(m_drawings.state(), 0, [&](int removed) {
         if (removed % step != 0)
             return;
-        m_work->showProgress(static_cast<int>(removed / sum * 100.0));
-        m_work->repaint(); // nothing else comes to be painted before the import has ended
+        work()->showProgress(static_cast<int>(removed / sum * 100.0));
+        work()->repaint(); // nothing else comes to be painted before the import has ended
     });
-    m_history->keep();
+    m_drawings.history().keep();
     m_taken = true;
-    if (m_tabs->count() == 0)
-        m_work->showNotice(QObject::tr("The file holds no whole frame."));
-    else if (animation.framesInFile > m_tabs->count())
-        m_work->showNotice(QObject::tr("The file holds %1 frames; the first %2 were taken.")
-                               .arg(animation.framesInFile)
-                               .arg(m_tabs->count()));
+    tellWhatWasTaken(animation.framesInFile);
+}
+
+void pageLEDMatrixCanvas::tellWhatWasTaken(qint64 framesInFile)
+{
+    const int taken = m_tabs->count();
+    if (taken == 0)
+        work()->showNotice(QObject::tr("The file holds no whole frame."));
+    else if (framesInFile > taken)
+        work()->showNotice(
+            QObject::tr("The file holds %1 frames; the first %2 were taken.").arg(framesInFile).arg(taken));
 }
 
 void pageLEDMatrixCanvas::fail(const QString &error)
 {
     const QString text = m_thread.state() == LEDThread::Export ? QObject::tr("The file cannot be written: %1")
                                                                : QObject::tr("The file cannot be read: %1");
-    m_work->fail(text.arg(error.isEmpty() ? m_dataFile : error));
+    work()->fail(text.arg(error.isEmpty() ? m_dataFile : error));
+}
+
+void pageLEDMatrixCanvas::restoreSaved()
+{
+    switch (m_drawings.restore(QLatin1String(kDataFile))) {
+    case Drawings::Restored::Nothing:
+    case Drawings::Restored::InAnotherForm:
+        break;
+    case Drawings::Restored::Shown:
+        m_tabs->apply(m_drawings.state(), 0);
+        updateButtons();
+        break;
+    case Drawings::Restored::NoDrawing:
+        work()->showNotice(
+            QObject::tr("%1 holds no saved drawing. It stays as it is until you save.").arg(QLatin1String(kDataFile)));
+    }
+}
+
+bool pageLEDMatrixCanvas::mayLeave()
+{
+    endStrokes();
+    if (m_drawings.areKept())
+        return true;
+    switch (askLeaving()) {
+    case Leaving::Save:
+        return m_drawings.keep(
+            [this](const MatrixForm &form, const QByteArrayList &digits) { return keepInFile(form, digits); });
+    case Leaving::DoNotSave:
+        return true;
+    case Leaving::Stay:
+        break;
+    }
+    return false;
+}
+
+/// The form that is used has the data file; a drawing of another form would take its place there, and so gets a file
+/// that the user names. At once, for the program ends. False when it could not be kept, of which the user was told.
+bool pageLEDMatrixCanvas::keepInFile(const MatrixForm &form, const QByteArrayList &digits)
+{
+    const QString fileName = &form == m_drawings.form() ? QLatin1String(kDataFile) : askSaveFile();
+    if (fileName.isEmpty())
+        return false;
+    const QString error = writeAnimation(fileName, digits, [](int) { return true; });
+    if (!error.isEmpty())
+        warn(QObject::tr("The file cannot be written: %1").arg(error));
+    return error.isEmpty();
+}
+
+pageLEDMatrixCanvas::Leaving pageLEDMatrixCanvas::askLeaving()
+{
+    const bool seen = window()->isVisible() && !window()->isMinimized(); // a box would go to the tray with it
+    const int answer =
+        askOneOf(QObject::tr("Custom Mode"), QObject::tr("The drawn frames are not saved. Save them now?"),
+                 {QObject::tr("Save"), QObject::tr("Do not save"), QObject::tr("Cancel")}, seen ? window() : nullptr);
+    constexpr Leaving kAnswers[] = {Leaving::Save, Leaving::DoNotSave, Leaving::Stay};
+    return kAnswers[answer];
 }

@@ -6,6 +6,7 @@
 
 #include "page/Nightloom/parts/accessorycheck.h"
 #include "page/Nightloom/render/audioled.h"
+#include "page/Nightloom/work/ledframesource.h"
 #include "page/engine/panelpage.h"
 
 class AudioPicture;

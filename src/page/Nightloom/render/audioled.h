@@ -8,7 +8,7 @@
 
 #include "ledmatrix/matrixframe.h"
 #include "ledmatrix/matrixgeometry.h"
-#include "page/Nightloom/work/ledframesource.h"
+#include "page/Nightloom/render/audiovisual.h"
 
 /// How the bars are drawn.
 enum class AudioTemplate { Bars, Peaks, Mirrored, Hanging };

@@ -2,18 +2,16 @@
 
 #include <utility>
 
-#include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QVBoxLayout>
 
-#include "controls/sharedfonts.h"
 #include "controls/sliderwidget.h"
 #include "ledmatrix/animationfile.h"
 #include "page/Nightloom/parts/toolcolumn.h"
 #include "page/Nightloom/text/textwidget.h"
 #include "page/Nightloom/work/ledworkthread.h"
 #include "page/engine/labels.h"
-#include "page/engine/pagestyle.h"
 #include "usb-hid/accessoryupload.h"
 
 namespace {
@@ -28,53 +26,27 @@ constexpr WorkStep kSteps[] = {
 } // namespace
 
 pageLEDMatrixText::pageLEDMatrixText(AccessoryCheck ensureConnected, QWidget *parent)
-    : QLabel(parent), m_ensureConnected(std::move(ensureConnected)), m_text(new TextWidget(m_texts, this)),
-      m_work(new WorkPanel(m_texts, this))
+    : LongWorkPage(QStringLiteral("pageLEDMatrixText"), LABEL("Text Mode"), std::move(ensureConnected), parent),
+      m_text(new TextWidget(texts(), this))
 {
-    buildForm();
+    layOut(m_text, 16);
     connectWork();
 }
 
-void pageLEDMatrixText::buildForm()
+void pageLEDMatrixText::buildTools(QVBoxLayout *column, QWidget *tools)
 {
-    setObjectName(QStringLiteral("pageLEDMatrixText"));
-    dressPage(this);
-    auto *title = new QLabel(this);
-    title->setObjectName(QStringLiteral("title"));
-    title->setFont(titleFont);
-    m_texts.bind(LABEL("Text Mode"), [title](const QString &text) { title->setText(text); });
-    auto *column = new QVBoxLayout;
-    column->setSpacing(16);
-    column->addWidget(title);
-    column->addWidget(m_text, 1);
-    layOutWithTools(this, column, buildTools());
-}
-
-QWidget *pageLEDMatrixText::buildTools()
-{
-    auto *side = new QWidget(this);
-    m_tools = new QWidget(side);
-    QVBoxLayout *column = makeToolColumn(m_tools);
-    buildPreviewTools(column);
-    column->addWidget(makeToolLine(m_tools));
-    m_save = makeToolButton(LABEL("Save Data"), m_texts, m_tools);
+    buildPreviewTools(column, tools);
+    column->addWidget(makeToolLine(tools));
+    m_save = makeToolButton(LABEL("Save Data"), texts(), tools);
     connect(m_save, &QPushButton::clicked, this, &pageLEDMatrixText::saveData);
     column->addWidget(m_save);
-
-    auto *all = new QVBoxLayout(side);
-    all->setContentsMargins(0, 4, 0, 0);
-    all->setSpacing(16);
-    all->addWidget(m_tools);
-    all->addWidget(m_work);
-    all->addStretch(1);
-    return side;
 }
 
-void pageLEDMatrixText::buildPreviewTools(QVBoxLayout *column)
+void pageLEDMatrixText::buildPreviewTools(QVBoxLayout *column, QWidget *tools)
 {
-    QPushButton *preview = makeToolButton(LABEL("Preview"), m_texts, m_tools);
+    QPushButton *preview = makeToolButton(LABEL("Preview"), texts(), tools);
     preview->setCheckable(true);
-    SliderWidget *speed = makeSpeedSlider(m_text->player(), m_texts, m_tools);
+    SliderWidget *speed = makeSpeedSlider(m_text->player(), texts(), tools);
     connect(preview, &QPushButton::clicked, m_text, &TextWidget::togglePreview);
     connect(&m_text->player(), &FramePlayer::playingChanged, preview, &QPushButton::setChecked);
     connect(preview, &QPushButton::clicked, this,
@@ -85,35 +57,31 @@ void pageLEDMatrixText::buildPreviewTools(QVBoxLayout *column)
 
 void pageLEDMatrixText::connectWork()
 {
-    m_work->block({m_tools, m_text});
-    connect(m_work, &WorkPanel::begins, this, &pageLEDMatrixText::busyBegins);
-    connect(m_work, &WorkPanel::cancelled, this, &pageLEDMatrixText::cancelWork);
-    connect(m_work, &WorkPanel::ended, this, &pageLEDMatrixText::busyEnded);
     connect(m_text, &TextWidget::progress, this, [this](int value) {
         if (isBusy() && !m_uploads)
-            m_work->showProgress(value);
+            work()->showProgress(value);
     });
     connect(m_text, &TextWidget::framesReady, this, &pageLEDMatrixText::onFrames);
     connect(ledWorkThread::instance(), &ledWorkThread::progress, this, &pageLEDMatrixText::onUploadProgress);
     connect(ledWorkThread::instance(), &ledWorkThread::uploadEnded, this, &pageLEDMatrixText::onUploadEnded);
-    connect(m_text->input(), &QLineEdit::textChanged, this, [this] { m_work->showNotice({}); });
+    connect(m_text->input(), &QLineEdit::textChanged, this, [this] { work()->showNotice({}); });
 }
 
 void pageLEDMatrixText::updateControlText()
 {
-    m_texts.retranslate();
+    LongWorkPage::updateControlText();
     m_text->updateControlText();
 }
 
 void pageLEDMatrixText::saveData()
 {
-    if (isBusy() || !m_ensureConnected())
+    if (isBusy() || !ensureConnected())
         return;
     m_text->player().stop();
     if (m_text->startJob())
-        m_work->begin({std::begin(kSteps), std::end(kSteps)});
+        work()->begin({std::begin(kSteps), std::end(kSteps)});
     else
-        m_work->showNotice(QObject::tr("There is no text yet."));
+        work()->showNotice(QObject::tr("There is no text yet."));
 }
 
 void pageLEDMatrixText::onFrames(const QByteArrayList &frames)
@@ -123,8 +91,8 @@ void pageLEDMatrixText::onFrames(const QByteArrayList &frames)
     const QString fileName = QLatin1String(ledWorkThread::kTextFile);
     const QString error = writeAnimation(fileName, frames, [](int) { return true; });
     if (!error.isEmpty()) {
-        m_work->fail(QObject::tr("The file cannot be written: %1").arg(error));
-        return m_work->end(false);
+        work()->fail(QObject::tr("The file cannot be written: %1").arg(error));
+        return work()->end(false);
     }
     m_uploads = true;
     ledWorkThread::instance()->begin(ledWorkThread::UploadText);
@@ -135,19 +103,16 @@ void pageLEDMatrixText::onUploadProgress(int value)
     if (!m_uploads)
         return;
     if (value == kProgressFailed)
-        m_work->fail(QObject::tr("The file cannot be read: %1").arg(QLatin1String(ledWorkThread::kTextFile)));
+        work()->fail(QObject::tr("The file cannot be read: %1").arg(QLatin1String(ledWorkThread::kTextFile)));
     else
-        m_work->showProgress(value);
+        work()->showProgress(value);
 }
 
 /// The progress may have ended at 100 even so, or not at all.
 void pageLEDMatrixText::onUploadEnded(bool complete)
 {
-    if (!std::exchange(m_uploads, false))
-        return;
-    if (!complete && !m_work->hasFailed())
-        m_work->showNotice(QObject::tr("The accessory did not take everything."));
-    m_work->end(complete);
+    if (std::exchange(m_uploads, false))
+        endUpload(complete);
 }
 
 /// Before the upload the work ends here; then the upload tells when it has ended.
@@ -156,6 +121,6 @@ void pageLEDMatrixText::cancelWork()
     if (m_uploads)
         return stopUploads();
     m_text->cancelJob();
-    m_work->showNotice(QObject::tr("Cancelled. Nothing was changed."));
-    m_work->end(false);
+    tellCancelled();
+    work()->end(false);
 }

@@ -161,11 +161,11 @@ bool TextWidget::startJob()
         qDebug() << "Input text is null";
         return false;
     }
-    m_job =
-        std::make_unique<WorkerThread>(WorkerThread::kUsualValue, text(), static_cast<std::int32_t>(m_motion), *this);
+    m_job = std::make_unique<WorkerThread>(WorkerThread::kUsualValue, text(), static_cast<std::int32_t>(m_motion),
+                                           &TextWidget::renderer);
     connect(m_job.get(), &WorkerThread::progress, this, &TextWidget::progress);
     connect(m_job.get(), &WorkerThread::framesReady, this, &TextWidget::framesReady);
-    m_job->start(QThread::TimeCriticalPriority);
+    m_job->begin();
     return true;
 }
 

@@ -44,7 +44,7 @@ public:
     /// Renders the text into frames, telling by the signals. False, with a log line, when there is no text.
     bool startJob();
 
-    /// Gives up what is being rendered; frames that are ready already may still be told.
+    /// Gives up what is being rendered.
     void cancelJob();
 
     /// Plays the preview, or stops it.

@@ -3,10 +3,9 @@
 #include <algorithm>
 
 #include "ledmatrix/animationfile.h"
-#include "page/Nightloom/canvas/pageledmatrixcanvas.h"
 #include "usb-hid/accessoryupload.h"
 
-LEDThread::LEDThread(pageLEDMatrixCanvas &page) : m_page(page)
+LEDThread::LEDThread(Send send) : m_send(send)
 {
 }
 
@@ -21,7 +20,7 @@ void LEDThread::begin(State state, LEDJob job)
     m_state = state;
     m_job = std::move(job);
     fail({});
-    start(QThread::TimeCriticalPriority);
+    startWork();
 }
 
 QString LEDThread::error() const
@@ -44,7 +43,7 @@ void LEDThread::run()
         complete = exportFrames();
         break;
     case Upload:
-        complete = m_page.sendAnmateData(m_job, [this](int value) { Q_EMIT progress(value); });
+        complete = m_send(m_job, [this](int value) { Q_EMIT progress(value); });
         break;
     case Import:
         Q_EMIT progress(kImportNow);

@@ -1,14 +1,13 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <mutex>
 #include <stop_token>
 
 #include <QByteArrayList>
 
-#include "platform/joinedthread.h"
-
-class pageLEDMatrixCanvas;
+#include "page/Nightloom/work/senderthread.h"
 
 /// What the canvas page hands its thread, taken from the page before the thread starts.
 struct LEDJob
@@ -21,7 +20,7 @@ struct LEDJob
 
 /// The canvas page's long work: it writes, asks to read, or uploads an animation. It touches nothing that is shown. An
 /// interruption that is requested ends an export before its file takes the old one's place.
-class LEDThread : public JoinedThread
+class LEDThread : public SenderThread
 {
     Q_OBJECT
 public:
@@ -30,7 +29,10 @@ public:
     /// Asks the page to import, on its own thread.
     static constexpr int kImportNow = 200;
 
-    explicit LEDThread(pageLEDMatrixCanvas &page);
+    /// Uploads a job's file, telling percents; whether the accessory took it whole. Called on the thread.
+    using Send = bool (*)(const LEDJob &job, const std::function<void(int)> &progress);
+
+    explicit LEDThread(Send send);
     ~LEDThread() override;
 
     /// Starts the work of a state; the work before has ended. Interface thread only.
@@ -42,11 +44,10 @@ public:
     QString error() const;
 
 Q_SIGNALS:
-    /// Percent, and beyond 100 during an upload; -1 when it fails; kImportNow.
-    void progress(int value);
-
-    /// Follows the last progress. 100 alone does not say that the work is done: it is passed on the way as well, and
-    /// comes at the end even of an upload that the accessory did not take whole, or of an export without its file.
+    /// Both signals come from the thread itself: who is connected directly may interrupt an export between two frames.
+    /// Follows the last progress, which goes beyond 100 during an upload, is -1 when it fails, or kImportNow. 100 alone
+    /// does not say that the work is done: it is passed on the way as well, and comes at the end even of an upload that
+    /// the accessory did not take whole, or of an export without its file.
     void workEnded(bool complete);
 
 protected:
@@ -56,7 +57,7 @@ private:
     bool exportFrames();
     void fail(const QString &error);
 
-    pageLEDMatrixCanvas &m_page;
+    const Send m_send;
     State m_state = Export;
     LEDJob m_job;
     mutable std::mutex m_mutex;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "page/Nightloom/render/audiovisual.h"
 #include "page/Nightloom/render/dateled.h"
 #include "page/Nightloom/work/ledframesource.h"
 #include "platform/desk.h"
@@ -71,8 +72,7 @@ void ledWorkThread::begin(State state)
         m_uploadStop = uploadStop();
     if (std::exchange(m_works, true))
         return;
-    wait(); // it may be on its last steps out of run, where a start would be lost
-    start(QThread::TimeCriticalPriority);
+    startWork();
 }
 
 void ledWorkThread::stop()
@@ -186,7 +186,7 @@ void ledWorkThread::upload()
         stop = m_uploadStop;
     }
     const bool complete = uploadText(
-        QLatin1String(kTextFile), [this](int percent) { tell([this, percent] { Q_EMIT progress(percent); }); }, stop);
+        QLatin1String(kTextFile), [this](int percent) { report(percent); }, stop);
     tell([this, complete] { Q_EMIT uploadEnded(complete); });
 }
 

@@ -9,13 +9,13 @@
 #include <stop_token>
 #include <vector>
 
-#include "platform/joinedthread.h"
+#include "page/Nightloom/work/senderthread.h"
 
 class LedFrameSource;
 
 /// Streams live frames to the accessory (spectrum, clock) and uploads rendered texts, one work after the other. There
 /// is one instance, which lives until the program ends.
-class ledWorkThread : public JoinedThread
+class ledWorkThread : public SenderThread
 {
     Q_OBJECT
 public:
@@ -63,10 +63,8 @@ public:
     void sendData(std::span<const std::int32_t> cells);
 
 Q_SIGNALS:
-    /// Percent of a text upload: to 100 while the device prepares, then again for the text itself; -1 without a file.
-    void progress(int value);
-
-    /// Follows the last progress. Not complete when the accessory did not take every report.
+    /// Follows the last progress of a text upload, which goes to 100 while the device prepares and then again for the
+    /// text itself, and is -1 without a file. Not complete when the accessory did not take every report.
     void uploadEnded(bool complete);
 
     /// A spectrum frame was built; always 0.

@@ -1,10 +1,9 @@
 #include "page/Nightloom/work/workerthread.h"
 
-#include "page/Nightloom/text/textwidget.h"
 #include "usb-hid/accessorylink.h"
 
-WorkerThread::WorkerThread(std::int32_t value, const QString &text, std::int32_t direction, const TextWidget &widget)
-    : m_value(value), m_text(text), m_direction(direction), m_widget(widget), m_form(accessoryLink.form)
+WorkerThread::WorkerThread(std::int32_t value, const QString &text, std::int32_t direction, GlyphSource source)
+    : m_value(value), m_text(text), m_direction(direction), m_source(source), m_form(accessoryLink.form)
 {
 }
 
@@ -18,14 +17,14 @@ void WorkerThread::run()
 {
     if (m_text.isEmpty())
         return;
-    const TextRenderer renderer = m_widget.renderer(m_form, m_text, static_cast<TextMotion>(m_direction));
+    const TextRenderer renderer = m_source(m_form, m_text, static_cast<TextMotion>(m_direction));
     QByteArrayList frames;
     const int total = renderer.frameCount();
     for (int i = 1; i <= total; ++i) {
         if (isInterruptionRequested())
             return;
         frames.append(renderer.frame(i - 1).digits());
-        Q_EMIT progress(i * 100 / total);
+        report(i * 100 / total);
     }
-    Q_EMIT framesReady(frames);
+    tell([this, frames] { Q_EMIT framesReady(frames); });
 }

@@ -2,26 +2,29 @@
 
 #include <QByteArrayList>
 
-#include "platform/joinedthread.h"
-
-class TextWidget;
-struct MatrixForm;
+#include "page/Nightloom/render/textrenderer.h"
+#include "page/Nightloom/work/senderthread.h"
 
 /// Renders one text into frames, off the interface thread.
-class WorkerThread : public JoinedThread
+class WorkerThread : public SenderThread
 {
     Q_OBJECT
 public:
     /// What the text widget gives every job; nothing depends on it.
     static constexpr std::int32_t kUsualValue = 1000;
 
-    WorkerThread(std::int32_t value, const QString &text, std::int32_t direction, const TextWidget &widget);
+    /// Makes the renderer of a text; usable from any thread.
+    using GlyphSource = TextRenderer (*)(const MatrixForm *form, const QString &text, TextMotion motion);
+
+    WorkerThread(std::int32_t value, const QString &text, std::int32_t direction, GlyphSource source);
     ~WorkerThread() override;
+
+    /// Begins the job.
+    void begin() { startWork(); }
 
 Q_SIGNALS:
     /// The digits of every frame, in order.
     void framesReady(const QByteArrayList &frames);
-    void progress(int percent);
 
 protected:
     void run() override;
@@ -30,6 +33,6 @@ private:
     std::int32_t m_value;
     QString m_text;
     std::int32_t m_direction;
-    const TextWidget &m_widget; ///< holds the glyph source
-    const MatrixForm *m_form;   ///< of the matrix when the job began
+    const GlyphSource m_source;     ///< the text widget's
+    const MatrixForm *const m_form; ///< of the matrix when the job began
 };

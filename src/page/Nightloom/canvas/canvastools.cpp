@@ -1,0 +1,170 @@
+#include "page/Nightloom/canvas/canvastools.h"
+
+#include <span>
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QPushButton>
+
+#include "controls/captionlabel.h"
+#include "controls/sharedfonts.h"
+#include "controls/sliderwidget.h"
+#include "ledmatrix/animationfile.h"
+#include "ledmatrix/matrixform.h"
+#include "page/Nightloom/canvas/pageledmatrixcanvas.h"
+#include "page/Nightloom/parts/toolcolumn.h"
+#include "page/engine/dropdown.h"
+#include "page/engine/labels.h"
+
+namespace {
+
+constexpr int kSmallestCell = 6; // pixels
+constexpr int kBiggestCell = 20;
+
+struct Tool
+{
+    const char *label;
+    void (pageLEDMatrixCanvas::*press)();
+};
+constexpr Tool kFrameTools[] = {
+    {LABEL("Add Frame"), &pageLEDMatrixCanvas::addFrame},
+    {LABEL("Duplicate Frame"), &pageLEDMatrixCanvas::duplicateFrame},
+    {LABEL("Delete Frame"), &pageLEDMatrixCanvas::deleteFrame},
+    {LABEL("Clean Frame"), &pageLEDMatrixCanvas::cleanFrame},
+    {LABEL("Undo"), &pageLEDMatrixCanvas::undo},
+    {LABEL("Redo"), &pageLEDMatrixCanvas::redo},
+};
+constexpr Tool kFileTools[] = {
+    {LABEL("Save Animate"), &pageLEDMatrixCanvas::saveAnimate},
+    {LABEL("Write Animate"), &pageLEDMatrixCanvas::writeAnimate},
+    {LABEL("Export Animate"), &pageLEDMatrixCanvas::exportAnimate},
+    {LABEL("Import Animate"), &pageLEDMatrixCanvas::importAnimate},
+};
+constexpr const char *kModeLabels[pageLEDMatrixCanvas::kModes] = {LABEL("Mode1"), LABEL("Mode2"), LABEL("Mode3"),
+                                                                  LABEL("Mode4"), LABEL("Mode5")};
+
+QGridLayout *makeGrid(std::span<const Tool> tools, BoundTexts &texts, const pageLEDMatrixCanvas &page, QWidget *parent)
+{
+    auto *grid = new QGridLayout;
+    grid->setSpacing(8);
+    for (int i = 0; i < static_cast<int>(tools.size()); ++i) {
+        const Tool &tool = tools[static_cast<std::size_t>(i)];
+        QPushButton *button = makeToolButton(tool.label, texts, parent);
+        QObject::connect(button, &QPushButton::clicked, &page, tool.press);
+        grid->addWidget(button, i / 2, i % 2);
+    }
+    return grid;
+}
+
+} // namespace
+
+CanvasTools::CanvasTools(pageLEDMatrixCanvas &page, FramePlayer &player, BoundTexts &texts, QVBoxLayout *column,
+                         QWidget *tools)
+    : QObject(tools), m_texts(texts), m_tools(tools)
+{
+    column->addLayout(makeGrid(kFrameTools, m_texts, page, m_tools));
+    column->addWidget(makeToolLine(m_tools));
+    buildViewTools(page, player, column);
+    column->addWidget(makeToolLine(m_tools));
+    column->addWidget(buildModeBox());
+    column->addLayout(makeGrid(kFileTools, m_texts, page, m_tools));
+    column->addWidget(buildAlignedImport(page));
+}
+
+void CanvasTools::buildViewTools(const pageLEDMatrixCanvas &page, FramePlayer &player, QVBoxLayout *column)
+{
+    auto *row = new QHBoxLayout;
+    row->setSpacing(8);
+    QPushButton *preview = makeToolButton(LABEL("Preview"), m_texts, m_tools);
+    QPushButton *onionSkin = makeToolButton(LABEL("Onion Skin"), m_texts, m_tools);
+    preview->setCheckable(true);
+    onionSkin->setCheckable(true);
+    connect(preview, &QPushButton::clicked, &page, &pageLEDMatrixCanvas::togglePreview);
+    connect(onionSkin, &QPushButton::toggled, this, &CanvasTools::onionSkinSwitched);
+    row->addWidget(preview);
+    row->addWidget(onionSkin);
+    column->addLayout(row);
+    m_cellSize = makeToolSlider(LABEL("Cell Size"), kSmallestCell, kBiggestCell, matrixForms().front().cellSize,
+                                m_texts, m_tools);
+    connect(m_cellSize, &SliderWidget::sliderValueChanged, this,
+            [this](const QString &, int value) { Q_EMIT cellSizeChosen(value); });
+    column->addWidget(makeSpeedSlider(player, m_texts, m_tools));
+    column->addWidget(m_cellSize);
+}
+
+/// The usual import goes through the files of a form in steps that may not be its frames. This one does not.
+QWidget *CanvasTools::buildAlignedImport(const pageLEDMatrixCanvas &page)
+{
+    m_aligned = new QWidget(m_tools);
+    m_alignedNote = new QLabel(m_aligned);
+    m_alignedNote->setObjectName(QStringLiteral("note"));
+    m_alignedNote->setFont(noteFont);
+    m_alignedNote->setWordWrap(true);
+    m_texts.bind(LABEL("Animate: 1050 cells a frame. Aligned: %1, as this form saves."), [this](const QString &text) {
+        m_alignedPattern = text;
+        showAlignedNote();
+    });
+    QPushButton *button = makeToolButton(LABEL("Import Aligned"), m_texts, m_aligned);
+    connect(button, &QPushButton::clicked, &page, &pageLEDMatrixCanvas::importAligned);
+    auto *row = new QHBoxLayout(m_aligned);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(8);
+    row->addWidget(m_alignedNote, 1);
+    row->addWidget(button);
+    return m_aligned;
+}
+
+QWidget *CanvasTools::buildModeBox()
+{
+    auto *part = new QWidget(m_tools);
+    auto *row = new QHBoxLayout(part);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(8);
+    auto *caption = new CaptionLabel(QString(), 15, part);
+    caption->setStyleSheet(QStringLiteral("QLabel { color: #ffffff; } QLabel:disabled { color: #696969; }"));
+    caption->setFixedWidth(kToolCaptionWidth);
+    QComboBox *modes = makeDropDown(part);
+    modes->setObjectName(QStringLiteral("modes"));
+    modes->setFixedHeight(36);
+    for (int i = 0; i < pageLEDMatrixCanvas::kModes; ++i) {
+        modes->addItem(QString());
+        m_texts.bind(kModeLabels[i], [modes, i](const QString &text) { modes->setItemText(i, text); });
+    }
+    m_texts.bind(LABEL("Mode"), [modes, caption](const QString &text) {
+        caption->setText(text);
+        modes->setAccessibleName(text);
+    });
+    connect(modes, &QComboBox::currentIndexChanged, this, &CanvasTools::modeChosen);
+    row->addWidget(caption);
+    row->addWidget(modes, 1);
+    return part;
+}
+
+void CanvasTools::useForm(const MatrixForm *form)
+{
+    m_form = form;
+    m_aligned->setVisible(form && form->cells() != kImportStep);
+    showAlignedNote();
+    m_cellSize->setValue((form ? *form : matrixForms().front()).cellSize);
+}
+
+void CanvasTools::showAlignedNote()
+{
+    m_alignedNote->setText(m_alignedPattern.arg(m_form ? m_form->cells() : 0));
+}
+
+QPushButton *CanvasTools::button(const char *label) const
+{
+    return m_tools->findChild<QPushButton *>(QLatin1String(label));
+}
+
+void CanvasTools::show(const Possible &possible)
+{
+    for (const char *label : {"Duplicate Frame", "Delete Frame", "Clean Frame", "Preview"})
+        button(label)->setEnabled(possible.any);
+    button("Undo")->setEnabled(possible.undo);
+    button("Redo")->setEnabled(possible.redo);
+    button("Write Animate")->setEnabled(possible.write);
+    button("Preview")->setChecked(possible.plays);
+    m_cellSize->setEnabled(possible.any);
+}

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QLabel>
+
+#include "page/Nightloom/parts/accessorycheck.h"
+#include "page/Nightloom/parts/workpanel.h"
+#include "page/engine/boundtexts.h"
+#include "page/engine/page.h"
+
+class QHBoxLayout;
+class QVBoxLayout;
+
+/// A page of the accessory whose work may take long: what is worked on under the title, and at its side a column of
+/// tools, above what there is to say of the work. While it goes on neither what is worked on nor a tool can be used.
+class LongWorkPage : public QLabel, public Page
+{
+    Q_OBJECT
+public:
+    void updateControlText() override;
+    QWidget *widget() override { return this; }
+
+    WorkPanel *work() const { return m_work; }
+    bool isBusy() const { return m_work->isBusy(); }
+
+Q_SIGNALS:
+    /// Long work begins and ends; the window keeps everything else from the accessory meanwhile.
+    void busyBegins();
+    void busyEnded();
+
+protected:
+    /// The object name is what the page's style goes by; the title is a source text.
+    LongWorkPage(const QString &name, const char *title, AccessoryCheck ensureConnected, QWidget *parent);
+
+    /// To be called once: lays out what is worked on, so many pixels below the title. Builds the tools.
+    void layOut(QWidget *worked, int spacing);
+
+    /// Fills the column of tools, whose parent is @p tools.
+    virtual void buildTools(QVBoxLayout *column, QWidget *tools) = 0;
+
+    /// The user does not want the work any more; it tells its end as it always does.
+    virtual void cancelWork() = 0;
+
+    /// The work has ended. Says so when the accessory did not take all of an upload, unless something worse was said.
+    void endUpload(bool complete);
+
+    /// Says that the work was ended before anything came of it, unless something worse was said.
+    void tellCancelled();
+
+    /// Whether the accessory is there; the user has been told when it is not.
+    bool ensureConnected() const { return m_ensureConnected(); }
+
+    BoundTexts &texts() { return m_texts; }
+
+    /// The line of the title, for what else is to stand there.
+    QHBoxLayout *head() { return m_head; }
+
+private:
+    AccessoryCheck m_ensureConnected;
+    BoundTexts m_texts;
+    WorkPanel *m_work;
+    QHBoxLayout *m_head;
+};
