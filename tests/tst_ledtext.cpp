@@ -100,10 +100,10 @@ void TestLedText::standingPieces()
           {"ש"}}) {
         const bool words = units.size() > 1;
         const QString text = words ? units.join(' ') : units.first().repeated(60);
-        for (const MatrixForm &form : matrixForms()) {
-            QList<QByteArray> expected; // what stands there alone
-            const auto expect = [&expected, &form](const QString &piece) {
-                const TextRenderer renderer(&form, piece, TextMotion::Standing);
+        for (const MatrixForm *form : {&kTapering, &kRectangle}) { // too narrow for all of it
+            QList<QByteArray> expected;                            // what stands there alone
+            const auto expect = [&expected, form](const QString &piece) {
+                const TextRenderer renderer(form, piece, TextMotion::Standing);
                 if (renderer.frameCount() == 1)
                     expected.append(renderer.frame(0).digits());
             };
@@ -113,7 +113,7 @@ void TestLedText::standingPieces()
             }
             for (int count = 2; !words && count <= 12; ++count)
                 expect(units.first().repeated(count));
-            const TextRenderer renderer(&form, text, TextMotion::Standing);
+            const TextRenderer renderer(form, text, TextMotion::Standing);
             QVERIFY(renderer.frameCount() >= 2 * 20);
             for (int i = 0; i < renderer.frameCount(); ++i)
                 QVERIFY(expected.contains(renderer.frame(i).digits()));

@@ -356,7 +356,7 @@ void TestLedWork::formIsChosenAndLoaded()
     makePage();
     m_page->formOptions()->buttonOf(1)->click();
     QCOMPARE(accessoryLink.form.load(), &kRectangle);
-    for (const auto &[stored, loaded] : {std::pair{0, 0}, {1, 1}, {2, 0}, {-1, 0}}) {
+    for (const auto &[stored, loaded] : {std::pair{0, 0}, {1, 1}, {99, 0}, {-1, 0}}) {
         settingsInt(QLatin1String(kMatrixFormKey), stored, true);
         loadMatrixForm();
         QCOMPARE(accessoryLink.form.load()->number, loaded);

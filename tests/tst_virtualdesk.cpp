@@ -157,7 +157,7 @@ void TestVirtualDesk::namesScriptFaults()
         {R"({"events": [{"event": "plug", "monitor": 9}]})", "\"monitor\""},
         {R"({"monitors": [{"model": "Q27-OLED", "edid": "00f"}]})", "\"edid\""},
         {R"({"latency": {"read_ms": -1}})", "\"read_ms\""},
-        {R"({"accessory": {"form": 2}})", "\"form\""},
+        {R"({"accessory": {"form": 99}})", "\"form\""},
         {R"({"accessory": {"faults": [{"event": "sing"}]}})", "\"sing\""},
         {R"({"events": [{"event": "refuse"}]})", "\"code\""},
         {R"({"administrator": 1})", "\"administrator\""},
