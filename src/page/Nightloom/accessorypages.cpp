@@ -2,27 +2,24 @@
 
 #include <QStackedWidget>
 
-#include "page/Nightloom/work/ledworkthread.h"
-#include "page/Nightloom/work/livedisplay.h"
 #include "page/Nightloom/canvas/pageledmatrixcanvas.h"
-#include "page/Nightloom/text/pageledmatrixtext.h"
 #include "page/Nightloom/music/pageledmusic.h"
 #include "page/Nightloom/system/pageledsystem.h"
+#include "page/Nightloom/text/pageledmatrixtext.h"
+#include "page/Nightloom/work/ledworkthread.h"
+#include "page/Nightloom/work/livedisplay.h"
 #include "page/pageset.h"
 #include "usb-hid/accessoryupload.h"
 
-AccessoryPages::AccessoryPages(const Check &check, CommandQueue &queue, PageSet &pages, QStackedWidget *stack)
+AccessoryPages::AccessoryPages(const AccessoryCheck &check, CommandQueue &queue, PageSet &pages, QStackedWidget *stack)
     : QObject(stack), m_liveDisplay(new LiveDisplay(this))
 {
     auto *text = new pageLEDMatrixText(check, stack);
     auto *canvas = new pageLEDMatrixCanvas(check, stack);
-    const auto followWork = [this](auto *page) {
-        using AnyPage = std::remove_pointer_t<decltype(page)>;
-        connect(page, &AnyPage::busyBegins, this, [this] { Q_EMIT workChanged(true); });
-        connect(page, &AnyPage::busyEnded, this, [this] { Q_EMIT workChanged(false); });
-    };
-    followWork(text);
-    followWork(canvas);
+    for (const LongWorkPage *page : std::initializer_list<LongWorkPage *>{text, canvas}) {
+        connect(page, &LongWorkPage::busyBegins, this, [this] { Q_EMIT workChanged(true); });
+        connect(page, &LongWorkPage::busyEnded, this, [this] { Q_EMIT workChanged(false); });
+    }
     pages.add(PageId::LedText, text);
     pages.add(PageId::LedCanvas, canvas);
     pages.add(PageId::LedMusic, new pageLEDMusic(check, *m_liveDisplay, queue, stack));

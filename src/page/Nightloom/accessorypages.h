@@ -1,8 +1,8 @@
 #pragma once
 
-#include <functional>
-
 #include <QObject>
+
+#include "page/Nightloom/parts/accessorycheck.h"
 
 class CommandQueue;
 class LiveDisplay;
@@ -14,11 +14,8 @@ class AccessoryPages : public QObject
 {
     Q_OBJECT
 public:
-    /// Looks for the accessory; false when it is not there, which the user has been told.
-    using Check = std::function<bool()>;
-
     /// Makes the pages on the stack and adds them to the set.
-    AccessoryPages(const Check &check, CommandQueue &queue, PageSet &pages, QStackedWidget *stack);
+    AccessoryPages(const AccessoryCheck &check, CommandQueue &queue, PageSet &pages, QStackedWidget *stack);
 
     /// While something else is at work what lives on the matrix holds still.
     void setInterrupted(bool interrupted);
