@@ -11,8 +11,8 @@
 #include "page/BasicSetting/hotkeyoverlay.h"
 #include "page/BasicSetting/pagepcsetting.h"
 #include "page/BasicSetting/pageservicessetting.h"
-#include "page/BasicSetting/toollanguage.h"
 #include "support/sessiondesk.h"
+#include "toollanguage.h"
 
 using namespace std::chrono_literals;
 

@@ -13,7 +13,6 @@
 #include "ddc_protocol/displayenumeration.h"
 #include "ddc_protocol/settingsstore.h"
 #include "page/BasicSetting/hotkeyoverlay.h"
-#include "page/BasicSetting/toollanguage.h"
 #include "page/Health/healthpanel.h"
 #include "page/engine/dropdown.h"
 #include "page/engine/labels.h"
@@ -21,6 +20,7 @@
 #include "platform/desk.h"
 #include "relaunch.h"
 #include "searchdevicedlg.h"
+#include "toollanguage.h"
 
 namespace {
 

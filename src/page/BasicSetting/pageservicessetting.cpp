@@ -10,10 +10,10 @@
 #include "controls/lefttabbutton.h"
 #include "controls/pictures.h"
 #include "controls/sharedfonts.h"
-#include "page/BasicSetting/toollanguage.h"
 #include "page/Health/healthtexts.h"
 #include "page/engine/labels.h"
 #include "platform/desk.h"
+#include "toollanguage.h"
 
 namespace {
 

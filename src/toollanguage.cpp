@@ -1,4 +1,4 @@
-#include "page/BasicSetting/toollanguage.h"
+#include "toollanguage.h"
 
 #include <cstring>
 
