@@ -13,8 +13,8 @@ public:
     GlobalApplication();
     ~GlobalApplication();
 
-    /// Replaces the installed translation by the one that the code's prefix names, such as "zh_TW" or "ja_JP"; English
-    /// for every other code. When it cannot be loaded nothing is installed and the source texts are shown.
+    /// Replaces the installed translation by that of the code's language (toolLanguageOf). When it cannot be loaded
+    /// nothing is installed and the source texts are shown.
     void switchApplicationLanguage(const QString &code);
 
     /// The resource of the translation that a language code stands for.

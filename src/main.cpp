@@ -1,6 +1,5 @@
 #include <QDebug>
 #include <QFontDatabase>
-#include <QLocale>
 #include <QPalette>
 #include <QToolTip>
 
@@ -8,7 +7,6 @@
 #include "controls/sharedfonts.h"
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/loghandler.h"
-#include "ddc_protocol/settingsstore.h"
 #include "elevation.h"
 #include "globalapplication.h"
 #include "loading.h"
@@ -16,6 +14,7 @@
 #include "platform/deskfactory.h"
 #include "searchdevicedlg.h"
 #include "singleapplication.h"
+#include "toollanguage.h"
 #include "workingfolder.h"
 
 namespace {
@@ -85,8 +84,7 @@ int main(int argc, char *argv[])
     SingleApplication application(argc, argv);
     qInstallMessageHandler(logMessageHandler);
     GlobalApplication language;
-    const QString stored = languageSetting(false);
-    language.switchApplicationLanguage(stored.isEmpty() ? QLocale::system().name() : stored);
+    language.switchApplicationLanguage(toolLanguageCode());
     qDebug() << "main...";
     desk->clock().sleep(kStartUpWait);
 

@@ -1,18 +1,11 @@
 #include "toollanguage.h"
 
-#include <cstring>
+#include <algorithm>
 
 #include <QLocale>
 
 #include "ddc_protocol/settingsstore.h"
-
-static constexpr ToolLanguage kLanguages[] = {
-    {"繁體中文", "zh_TW"},
-    {"English", "en"},
-    {"简体中文", "zh"},
-    {"日本語", "ja_JP"},
-};
-static constexpr std::size_t kEnglish = 1;
+#include "languagetable.h"
 
 std::span<const ToolLanguage> toolLanguages()
 {
@@ -27,11 +20,9 @@ QString toolLanguageCode()
 
 const ToolLanguage &toolLanguageOf(const QString &code)
 {
-    const ToolLanguage *best = nullptr;
     for (const ToolLanguage &language : kLanguages) {
-        const bool longer = !best || std::strlen(language.code) > std::strlen(best->code);
-        if (longer && code.startsWith(QLatin1String(language.code)))
-            best = &language;
+        if (code.startsWith(QLatin1String(language.code)))
+            return language;
     }
-    return best ? *best : kLanguages[kEnglish];
+    return *std::ranges::find(kLanguages, true, &ToolLanguage::english);
 }

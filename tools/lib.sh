@@ -73,3 +73,8 @@ build_quorvel() {
     cmake --build build/release --target quorvel >&2
     printf '%s\n' "$PWD/build/release/src/quorvel"
 }
+
+# Prints the codes of the interface's languages, a line each.
+language_codes() {
+    awk '!/^#/ { print $1 }' resource/Translations/languages.txt
+}
