@@ -4,6 +4,8 @@
 #include <QtTest>
 
 #include "ddc_protocol/commandnames.h"
+#include "ddc_protocol/commandtable.h"
+#include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/scenemodes.h"
 #include "page/BasicSetting/systemtable.h"
 #include "page/Game/picturetable.h"
@@ -82,9 +84,10 @@ class TestAgreement : public DeskSuite
                     if (isOffered(slider))
                         offerSlider(slider);
                 }
-            } else if (const auto *group = std::get_if<OptionGroup>(&section); group != nullptr && isOffered(*group)) {
+            } else if (const auto *group = std::get_if<OptionGroup>(&section);
+                       group != nullptr && isOffered(*group) && group->command) {
                 for (const Option &option : group->options)
-                    offer(group->command, group->label, option.value);
+                    offer(*group->command, group->label, option.value);
             }
         }
     }
@@ -112,11 +115,11 @@ class TestAgreement : public DeskSuite
         const ReadRow read = [this](COMMAND_set_Type row) {
             return static_cast<int>(readPair(*m_monitor, commandCode(row)).current);
         };
-        for (const ShortcutFunction &function : shortcutFunctions()) {
-            for (int press = 0; isOffered(function) && press < 40; ++press) {
+        for (const ShortcutFunction *function : shortcutFunctionsOf(deviceState)) {
+            for (int press = 0; press < 40; ++press) {
                 const ShortcutStep step =
-                    shortcutStep(function.rule, press < 20 ? ShortcutKey::Plus : ShortcutKey::Minus, read);
-                offer(Command(commandCode(step.row)), function.name, step.value);
+                    shortcutStep(function->rule, press < 20 ? ShortcutKey::Plus : ShortcutKey::Minus, read);
+                offer(Command(commandCode(step.row)), function->name, step.value);
                 writePair(*m_monitor, commandCode(step.row), static_cast<std::uint32_t>(step.value));
             }
         }

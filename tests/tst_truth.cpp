@@ -293,7 +293,7 @@ void TestTruth::trueAgainAfterAnAbsence()
 void TestTruth::twinIsAnotherMonitor()
 {
     start(10, 0, [this] {
-        m_desk->desk.setRegistryEdid(1, virtualdesk::buildEdid(m_desk->monitor(0).model()));
+        m_desk->desk.displays().setRegistryEdid(1, virtualdesk::buildEdid(m_desk->monitor(0).model()));
         m_desk->session().searchDevices();
     });
     deviceState.told(Command::AudioVolume, 31);
