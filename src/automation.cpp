@@ -16,8 +16,8 @@ static bool isAidSwitch(Command command)
            command == Command::GameTime;
 }
 
-Automation::Automation(CommandQueue &queue, PageSet &pages, QStackedWidget *stack)
-    : QObject(stack), m_pages(pages), m_overlay(new HotkeyOverlay(this))
+Automation::Automation(CommandQueue &queue, PageSet &pages, QStackedWidget *stack, QObject *parent)
+    : QObject(parent), m_pages(pages), m_overlay(new HotkeyOverlay(this))
 {
     auto *keys = new pageShortcutKey(stack);
     connect(keys->runner(), &ShortcutRunner::begins, &queue, &CommandQueue::drain);

@@ -15,9 +15,9 @@ class Automation : public QObject
     Q_OBJECT
 public:
     /// Makes the pages on the stack and adds them to the set.
-    Automation(CommandQueue &queue, PageSet &pages, QStackedWidget *stack);
+    Automation(CommandQueue &queue, PageSet &pages, QStackedWidget *stack, QObject *parent);
 
-    /// Tells on the desktop what a hot key did. A program's window: it goes with the window that is given.
+    /// Tells on the desktop what a hot key did.
     HotkeyOverlay *overlay() const { return m_overlay; }
 
 Q_SIGNALS:

@@ -1,9 +1,9 @@
 #include "interfacemodes.h"
-#include "ddc_protocol/devicestate.h"
 
 #include <QStackedWidget>
 
 #include "controls/lefttabbutton.h"
+#include "ddc_protocol/devicestate.h"
 #include "leftbar.h"
 #include "navigator.h"
 #include "page/engine/labels.h"

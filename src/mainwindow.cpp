@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QStackedWidget>
 
@@ -12,8 +11,6 @@
 #include "ddc_protocol/transport.h"
 #include "ddc_protocol/writecounts.h"
 #include "ddc_protocol/writekeeper.h"
-#include "page/Nightloom/accessorypages.h"
-#include "page/Nightloom/system/matrixformsetting.h"
 #include "page/Scene/pagescenesetting.h"
 #include "page/monitorpages.h"
 #include "platform/ending.h"
@@ -46,15 +43,14 @@ MainWindow *MainWindow::instance()
 MainWindow::MainWindow(SearchDeviceDlg &session)
     : FramelessWindow(QStringLiteral("img/bg.png")), m_session(session), m_queue(new CommandQueue(this)),
       m_navigator(new Navigator(m_pages, this)), m_status(new StatusLine(this)),
-      m_modes(new InterfaceModes(*m_navigator, this)), m_checks(new MonitorChecks(session, *m_queue, *m_modes, this))
+      m_modes(new InterfaceModes(*m_navigator, this)), m_checks(new MonitorChecks(session, *m_queue, *m_modes, this)),
+      m_accessory(new AccessoryPages([this] { warnNotConnected(); }, this))
 {
     s_mainWindow = this;
     commandsSuspended = true; // what the construction moves must not reach the monitor
     new WriteKeeper(this);    // behind the queue: it goes after the last values were sent
     m_labelPixmap = Pictures::load(Pictures::kRoot + QStringLiteral("img/lable_img.png"), devicePixelRatioF());
     setWindowTitle(QStringLiteral("QUORVEL"));
-    loadMatrixForm();
-    reopenHidDevice();
     placeParts();
     createPages();
     createFollowers();
@@ -69,11 +65,10 @@ MainWindow::MainWindow(SearchDeviceDlg &session)
 MainWindow::~MainWindow()
 {
     m_session.setHost(nullptr);
-    delete m_reconciler;
     m_accessory->end();
     delete m_tray;
     delete m_navigator->pageStack(); // before the queue that they send through
-    closeHid();
+    delete std::exchange(m_reconciler, nullptr);
     s_mainWindow = nullptr;
 }
 
@@ -93,8 +88,8 @@ void MainWindow::createPages()
     QStackedWidget *stack = m_navigator->pageStack();
     auto *monitor = new MonitorPages(m_session, *m_queue, m_pages, stack);
     m_scenePage = monitor->scene();
-    m_automation = new Automation(*m_queue, m_pages, stack);
-    m_accessory = new AccessoryPages([this] { return ensureHidConnected(); }, *m_queue, m_pages, stack);
+    m_automation = new Automation(*m_queue, m_pages, stack, this);
+    m_accessory->build(*m_queue, m_pages, stack);
     connect(monitor, &MonitorPages::resetBegins, this, &MainWindow::hideWindow);
     for (Page *page : m_pages.all()) {
         stack->addWidget(page->widget());
@@ -191,16 +186,6 @@ std::vector<Page *> MainWindow::pagesInSight() const
     return pages;
 }
 
-bool MainWindow::ensureHidConnected()
-{
-    clearHidFlags(); // what was found before may be gone
-    reopenHidDevice();
-    if (accessoryLink.handle)
-        return true;
-    warnNotConnected();
-    return false;
-}
-
 void MainWindow::warnNotConnected()
 {
     showMessage(QMessageBox::Warning, QObject::tr("Warning"),
@@ -231,7 +216,7 @@ void MainWindow::leave()
 
 void MainWindow::cameToFront()
 {
-    if (std::exchange(m_wasInFront, true)) // the first time everything has just been read
+    if (std::exchange(m_wasInFront, true) && m_reconciler) // the first time everything has just been read
         m_reconciler->want();
 }
 

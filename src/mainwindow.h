@@ -1,17 +1,19 @@
 #pragma once
 
+#include <QDebug>
+
 #include "automation.h"
 #include "framelesswindow.h"
 #include "interfacemodes.h"
 #include "monitorchecks.h"
 #include "navigator.h"
+#include "page/Nightloom/accessorypages.h"
 #include "page/pageset.h"
 #include "reconciler.h"
 #include "sessionhost.h"
 #include "tray/tray.h"
 #include "usb-hid/hidtransport.h"
 
-class AccessoryPages;
 class CommandQueue;
 class HotkeyOverlay;
 class SearchDeviceDlg;
@@ -54,7 +56,7 @@ public:
     void reopenHidDevice() override { reopenHid(); }
 
     /// Looks for the accessory, whatever was found before. False when it is not there, which the user is told.
-    bool ensureHidConnected();
+    bool ensureHidConnected() { return m_accessory->ensureConnected(); }
 
     TopTabFrame *tabs() const { return m_navigator->tabs(); }
     LeftBar *leftBar(int family) const { return m_navigator->bar(family); }
@@ -77,14 +79,14 @@ protected:
 
 public Q_SLOTS:
     // Hooks that only log their names, on purpose: working hot keys go through the shortcut page.
-    void onBrightnessAddShortcut();
-    void onBrightnessSubShortcut();
-    void onSoundAddShortcut();
-    void onSoundSubShortcut();
-    void onEyeModeShortcut();
-    void onSplitModeShortcut();
-    void onAudioRhyShortcut();
-    void onScreenRhyShortcut();
+    void onBrightnessAddShortcut() { qDebug() << "MainWindow::onBrightnessAddShortcut"; }
+    void onBrightnessSubShortcut() { qDebug() << "MainWindow::onBrightnessSubShortcut"; }
+    void onSoundAddShortcut() { qDebug() << "MainWindow::onSoundAddShortcut"; }
+    void onSoundSubShortcut() { qDebug() << "MainWindow::onSoundSubShortcut"; }
+    void onEyeModeShortcut() { qDebug() << "MainWindow::onEyeModeShortcut"; }
+    void onSplitModeShortcut() { qDebug() << "MainWindow::onSplitModeShortcut"; }
+    void onAudioRhyShortcut() { qDebug() << "MainWindow::onAudioRhyShortcut"; }
+    void onScreenRhyShortcut() { qDebug() << "MainWindow::onScreenRhyShortcut"; }
 
 private:
     void createPages();
@@ -104,9 +106,9 @@ private:
     StatusLine *m_status;
     InterfaceModes *m_modes;
     MonitorChecks *m_checks;
+    AccessoryPages *m_accessory;
     pageSceneSetting *m_scenePage = nullptr;
     Automation *m_automation = nullptr;
-    AccessoryPages *m_accessory = nullptr;
     Reconciler *m_reconciler = nullptr;
     Tray *m_tray = nullptr;
     bool m_wasInFront = false;

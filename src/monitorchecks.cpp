@@ -1,10 +1,10 @@
 #include "monitorchecks.h"
-#include "ddc_protocol/commandtable.h"
-#include "ddc_protocol/devicestate.h"
 
 #include <utility>
 
 #include "ddc_protocol/commandqueue.h"
+#include "ddc_protocol/commandtable.h"
+#include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/displayenumeration.h"
 #include "ddc_protocol/monitoridentity.h"
 #include "ddc_protocol/transport.h"

@@ -1,11 +1,11 @@
 #include "navigator.h"
-#include "ddc_protocol/devicestate.h"
 
 #include <algorithm>
 
 #include <QStackedWidget>
 
 #include "controls/lefttabbutton.h"
+#include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/scenemodes.h"
 #include "leftbar.h"
 #include "page/emptypage.h"

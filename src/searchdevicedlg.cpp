@@ -1,5 +1,4 @@
 #include "searchdevicedlg.h"
-#include "ddc_protocol/devicestate.h"
 
 #include <cstdlib>
 
@@ -11,6 +10,7 @@
 #include <QScopedValueRollback>
 
 #include "controls/messagebox.h"
+#include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/displayenumeration.h"
 #include "ddc_protocol/settingsstore.h"
 #include "ddc_protocol/transport.h"

@@ -150,6 +150,11 @@ class TestAgreement : public DeskSuite
         deviceState.store(Command::Capability, model.capabilities);
         walkPages();
         walkKeys();
+        for (const auto &[code, values] : m_offered) {
+            const auto isIts = [code](const CommandName &name) { return static_cast<int>(name.command) == code; };
+            if (std::ranges::none_of(commandNames(), isIts))
+                differ(static_cast<std::uint8_t>(code), "", "it has no name");
+        }
         for (const CommandName &name : commandNames()) {
             if (isOffered(name))
                 offer(name.command, name.label);

@@ -190,8 +190,10 @@ void TestCare::undoOfRiskyChanges()
     m_desk->monitor().refuseWrites(2);
     QVERIFY(!change()); // there is nothing to go back from
     m_desk->clock.advance(1min);
+    QTRY_VERIFY(m_window->findChild<CommandQueue *>()->isIdle()); // what the refusal led to
     QVERIFY(change());
-    deviceState.told(Command(command), before); // by the monitor's own buttons
+    m_desk->monitor().setValue(std::uint8_t(command), std::uint16_t(before)); // by the monitor's own buttons
+    deviceState.told(Command(command), before);
     QCoreApplication::processEvents();
     QVERIFY(!bar->offered());
     QVERIFY(change());

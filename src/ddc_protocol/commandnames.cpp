@@ -1,9 +1,10 @@
 #include "ddc_protocol/commandnames.h"
-#include "ddc_protocol/devicestate.h"
 
 #include <algorithm>
 
 #include <QObject>
+
+#include "ddc_protocol/devicestate.h"
 
 /// Marks a text for translation.
 #define LABEL(text) QT_TRANSLATE_NOOP("QObject", text)
@@ -46,6 +47,13 @@ constexpr CommandName kNames[] = {
     {Command::SceneMode, LABEL("Scene")},
     {Command::Gamma, LABEL("Gama")},
     {Command::RefreshRate, kGameAid, Capability::GameFunctions},
+    {Command::RefreshRatePlace, kGameAid, Capability::GameFunctions},
+    {Command::CrosshairColor, kGameAid, Capability::GameFunctions},
+    {Command::StopwatchTime, kGameAid, Capability::GameFunctions},
+    {Command::CrosshairShape, kGameAid, Capability::GameFunctions},
+    {Command::StopwatchPlace, kGameAid, Capability::GameFunctions},
+    {Command::GameTimeLength, kGameAid, Capability::GameFunctions},
+    {Command::GameTimePlace, kGameAid, Capability::GameFunctions},
     {Command::Crosshair, kGameAid, Capability::GameFunctions},
     {Command::Stopwatch, kGameAid, Capability::GameFunctions},
     {Command::GameTime, kGameAid, Capability::GameFunctions},
@@ -71,6 +79,7 @@ constexpr CommandName kNames[] = {
     {Command::UsbSwitch, LABEL("USB Switch")},
     {Command::OutputRange, LABEL("Output Range")},
     {Command::QuickBoot, LABEL("Quick Boot")},
+    {Command::HawkEyeVision, LABEL("HawkEye Vision"), Capability::GameFunctions},
     {Command::Sharpness, LABEL("Sharpness")},
     {Command::HueRed, kHue},
     {Command::HueYellow, kHue},

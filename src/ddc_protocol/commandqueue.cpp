@@ -1,9 +1,9 @@
 #include "ddc_protocol/commandqueue.h"
-#include "ddc_protocol/commandtable.h"
 
 #include <algorithm>
 #include <utility>
 
+#include "ddc_protocol/commandtable.h"
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/linkstatus.h"
 #include "ddc_protocol/sceneblock.h"

@@ -1,7 +1,8 @@
 #include "ddc_protocol/scenemodes.h"
-#include "ddc_protocol/devicestate.h"
 
 #include <QtGlobal>
+
+#include "ddc_protocol/devicestate.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
 #include "ddc_protocol/statestorage.h"
-#include "ddc_protocol/commandtable.h"
-#include "ddc_protocol/devicestate.h"
 
 #include <algorithm>
 #include <utility>
 
+#include "ddc_protocol/commandtable.h"
+#include "ddc_protocol/devicestate.h"
 #include "platform/desk.h"
 
 // The hue values end in the order C, M, Y and the saturation values in Y, C, M: the monitor packs them so.

@@ -1,10 +1,10 @@
 #include "ddc_protocol/transport.h"
-#include "ddc_protocol/commandtable.h"
 
 #include <algorithm>
 
 #include <QDebug>
 
+#include "ddc_protocol/commandtable.h"
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/displayenumeration.h"
 #include "ddc_protocol/linkrecorder.h"

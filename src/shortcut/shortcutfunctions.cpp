@@ -1,10 +1,11 @@
 #include "shortcut/shortcutfunctions.h"
-#include "ddc_protocol/devicestate.h"
 
 #include <algorithm>
 #include <iterator>
 
 #include <QtGlobal>
+
+#include "ddc_protocol/devicestate.h"
 
 #define LABEL(text) QT_TRANSLATE_NOOP("QObject", text)
 

@@ -1,8 +1,8 @@
 #include "shortcut/shortcutrunner.h"
-#include "ddc_protocol/commandtable.h"
 
 #include <QDebug>
 
+#include "ddc_protocol/commandtable.h"
 #include "ddc_protocol/transport.h"
 #include "ddc_protocol/valuechanges.h"
 #include "platform/desk.h"

@@ -1,5 +1,4 @@
 #include "tray/traypanel.h"
-#include "ddc_protocol/devicestate.h"
 
 #include <algorithm>
 
@@ -17,6 +16,7 @@
 #include "controls/captionlabel.h"
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
+#include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/scenemodes.h"
 #include "ddc_protocol/settingsstore.h"
 #include "navigation.h"

@@ -1,8 +1,8 @@
 #include "tray/traypanelchoices.h"
-#include "ddc_protocol/devicestate.h"
 
 #include <algorithm>
 
+#include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/settingsstore.h"
 #include "page/BasicSetting/systemtable.h"
 #include "page/Game/picturetable.h"

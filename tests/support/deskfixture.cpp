@@ -1,10 +1,10 @@
-#include "support/deskfixture.h"
-#include "ddc_protocol/devicestate.h"
 
 #include <mutex>
 
+#include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/linkrecords.h"
 #include "ddc_protocol/writecounts.h"
+#include "support/deskfixture.h"
 #include "usb-hid/hidtransport.h"
 #include "usb-hid/livesender.h"
 

@@ -1,10 +1,10 @@
-#include "support/truthfixture.h"
-#include "ddc_protocol/devicestate.h"
 
 #include <QPushButton>
 
 #include "ddc_protocol/commandqueue.h"
+#include "ddc_protocol/devicestate.h"
 #include "page/engine/settingspage.h"
+#include "support/truthfixture.h"
 
 using namespace std::chrono_literals;
 

@@ -1,5 +1,4 @@
 #include "page/BasicSetting/pageservicessetting.h"
-#include "ddc_protocol/devicestate.h"
 
 #include <QDebug>
 #include <QDesktopServices>
@@ -10,6 +9,7 @@
 #include "controls/lefttabbutton.h"
 #include "controls/pictures.h"
 #include "controls/sharedfonts.h"
+#include "ddc_protocol/devicestate.h"
 #include "page/Health/healthtexts.h"
 #include "page/engine/labels.h"
 #include "platform/desk.h"

@@ -1,8 +1,8 @@
 #include "page/Game/pagepictureenhanc.h"
-#include "ddc_protocol/devicestate.h"
 
 #include <QDebug>
 
+#include "ddc_protocol/devicestate.h"
 #include "page/Game/picturetable.h"
 #include "page/engine/lockrules.h"
 

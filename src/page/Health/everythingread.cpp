@@ -1,5 +1,4 @@
 #include "page/Health/everythingread.h"
-#include "ddc_protocol/devicestate.h"
 
 #include <algorithm>
 
@@ -8,6 +7,7 @@
 
 #include "ddc_protocol/commandnames.h"
 #include "ddc_protocol/commandqueue.h"
+#include "ddc_protocol/devicestate.h"
 #include "page/engine/listed.h"
 #include "platform/desk.h"
 

@@ -1,10 +1,10 @@
 #include "page/Health/healthtexts.h"
-#include "ddc_protocol/devicestate.h"
 
 #include <QLocale>
 #include <QStringList>
 
 #include "ddc_protocol/commandnames.h"
+#include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/monitoridentity.h"
 #include "ddc_protocol/writecounts.h"
 #include "page/engine/labels.h"

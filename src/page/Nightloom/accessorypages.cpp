@@ -4,16 +4,40 @@
 
 #include "page/Nightloom/canvas/pageledmatrixcanvas.h"
 #include "page/Nightloom/music/pageledmusic.h"
+#include "page/Nightloom/system/matrixformsetting.h"
 #include "page/Nightloom/system/pageledsystem.h"
 #include "page/Nightloom/text/pageledmatrixtext.h"
 #include "page/Nightloom/work/ledworkthread.h"
 #include "page/Nightloom/work/livedisplay.h"
 #include "page/pageset.h"
 #include "usb-hid/accessoryupload.h"
+#include "usb-hid/hidtransport.h"
 
-AccessoryPages::AccessoryPages(const AccessoryCheck &check, CommandQueue &queue, PageSet &pages, QStackedWidget *stack)
-    : QObject(stack), m_liveDisplay(new LiveDisplay(this))
+AccessoryPages::AccessoryPages(std::function<void()> warn, QObject *parent)
+    : QObject(parent), m_warn(std::move(warn)), m_liveDisplay(new LiveDisplay(this))
 {
+    loadMatrixForm();
+    reopenHid();
+}
+
+AccessoryPages::~AccessoryPages()
+{
+    closeHid();
+}
+
+bool AccessoryPages::ensureConnected()
+{
+    clearHidFlags(); // what was found before may be gone
+    reopenHid();
+    if (accessoryLink.handle)
+        return true;
+    m_warn();
+    return false;
+}
+
+void AccessoryPages::build(CommandQueue &queue, PageSet &pages, QStackedWidget *stack)
+{
+    const AccessoryCheck check = [this] { return ensureConnected(); };
     auto *text = new pageLEDMatrixText(check, stack);
     auto *canvas = new pageLEDMatrixCanvas(check, stack);
     for (const LongWorkPage *page : std::initializer_list<LongWorkPage *>{text, canvas}) {

@@ -1,5 +1,4 @@
 #include "page/Office/pageoffice.h"
-#include "ddc_protocol/devicestate.h"
 
 #include <QHBoxLayout>
 #include <QSpinBox>
@@ -7,6 +6,7 @@
 #include "controls/desktoptoast.h"
 #include "controls/wheeleventfilter.h"
 #include "ddc_protocol/commandqueue.h"
+#include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/settingsstore.h"
 #include "page/Office/officetable.h"
 #include "page/engine/labels.h"

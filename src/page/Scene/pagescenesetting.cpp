@@ -1,5 +1,4 @@
 #include "page/Scene/pagescenesetting.h"
-#include "ddc_protocol/devicestate.h"
 
 #include <QButtonGroup>
 #include <QHBoxLayout>
@@ -11,6 +10,7 @@
 #include "controls/pictures.h"
 #include "controls/sharedfonts.h"
 #include "ddc_protocol/commandqueue.h"
+#include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/scenemodes.h"
 #include "page/Scene/scenelocks.h"
 #include "page/Scene/scenetable.h"

@@ -1,8 +1,8 @@
 #include "page/Scene/scenelocks.h"
-#include "ddc_protocol/devicestate.h"
 
 #include <vector>
 
+#include "ddc_protocol/devicestate.h"
 #include "page/Scene/scenetable.h"
 #include "page/engine/labels.h"
 

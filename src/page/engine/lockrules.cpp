@@ -1,8 +1,8 @@
 #include "page/engine/lockrules.h"
-#include "ddc_protocol/devicestate.h"
 
 #include <algorithm>
 
+#include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/scenemodes.h"
 #include "page/engine/labels.h"
 

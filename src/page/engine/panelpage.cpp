@@ -1,5 +1,4 @@
 #include "page/engine/panelpage.h"
-#include "ddc_protocol/devicestate.h"
 
 #include <algorithm>
 
@@ -12,6 +11,7 @@
 #include "controls/lefttabbutton.h"
 #include "controls/pictures.h"
 #include "controls/sharedfonts.h"
+#include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/settingsstore.h"
 #include "page/engine/optiongrouprow.h"
 #include "page/engine/pagestyle.h"

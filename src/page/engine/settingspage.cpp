@@ -1,5 +1,4 @@
 #include "page/engine/settingspage.h"
-#include "ddc_protocol/commandtable.h"
 
 #include <algorithm>
 #include <utility>
@@ -8,6 +7,7 @@
 
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
+#include "ddc_protocol/commandtable.h"
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/transport.h"
 #include "ddc_protocol/valuechanges.h"

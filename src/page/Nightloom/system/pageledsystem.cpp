@@ -133,6 +133,7 @@ void pageLEDSystem::onButtonClicked(const char *label, int value)
         switchClock(value);
     else
         chooseForm(value);
+    showWhatIsSet();
 }
 
 void pageLEDSystem::onSliderReleased(SliderWidget *moved, Command command)
