@@ -14,7 +14,6 @@
 #include "page/Scene/pagescenesetting.h"
 #include "page/monitorpages.h"
 #include "platform/ending.h"
-#include "reconciler.h"
 #include "searchdevicedlg.h"
 #include "sessionend.h"
 #include "statusline.h"

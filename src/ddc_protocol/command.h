@@ -97,7 +97,7 @@ enum class Command : std::uint8_t {
     AudioMode = 0xEA,     ///< option 0 to 2
     GravitySensor = 0xEB, ///< 0 or 1
     Paper = 0xEC,         ///< option 0 to 4
-    Capability = 0xED,    ///< the capability word, read only (see capability.h)
+    Capability = 0xED,    ///< the capability word, read only (see below)
     Firmware = 0xEE,      ///< major in the high byte, minor in the low byte, read only
     OfficeArea = 0xEF,    ///< maximum and current value are the office area's sizes;
                           ///< written: a paper's width in millimetres, or its height with bit 15
@@ -111,3 +111,13 @@ enum class Command : std::uint8_t {
 
 /// A vendor command: its number is a row of commandTable. Even rows write, the next odd row reads the same code.
 enum class COMMAND_set_Type : std::uint16_t {};
+
+/// The bits of the capability word that the program looks at.
+enum class Capability : std::uint16_t {
+    LocalDimming = 1 << 0,
+    HaloControl = 1 << 1,
+    OledPanel = 1 << 2, ///< the care values are read
+    ExtraScene = 1 << 3,
+    MpcsMotion = 1 << 6, ///< the motion function is called MPCS, not DyDs, and has scenes of its own
+    GameFunctions = 1 << 10,
+};

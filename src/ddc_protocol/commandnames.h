@@ -6,7 +6,6 @@
 
 #include <QString>
 
-#include "ddc_protocol/capability.h"
 #include "ddc_protocol/command.h"
 
 /// What a command is called where no page stands for it, such as in a list of errors.

@@ -11,7 +11,6 @@
 
 #include <QDateTime>
 
-#include "ddc_protocol/capability.h"
 #include "ddc_protocol/command.h"
 
 inline constexpr int kSceneBlockSize = 40;   ///< bytes of the table read of a custom mode

@@ -5,7 +5,7 @@
 #include <span>
 #include <vector>
 
-#include "ddc_protocol/capability.h"
+#include "ddc_protocol/command.h"
 
 class DeviceState;
 

@@ -4,7 +4,6 @@
 #include <span>
 #include <vector>
 
-#include "ddc_protocol/capability.h"
 #include "ddc_protocol/command.h"
 #include "shortcut/shortcutsteps.h"
 

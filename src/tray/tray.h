@@ -2,8 +2,6 @@
 
 #include <QObject>
 
-#include "monitorstatus.h"
-
 class CommandQueue;
 class QWidget;
 class TrayIcon;

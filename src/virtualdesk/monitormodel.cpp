@@ -14,9 +14,11 @@ constexpr std::uint16_t productLine(unsigned line)
     return static_cast<std::uint16_t>(line << 4);
 }
 
-constexpr MonitorModel kModels[] = {
-    {"Q27-OLED", "QVL", 0x2701, LocalDimming | HaloControl | OledPanel | ExtraScene | productLine(1) | GameFunctions,
-     0x0102, 597, 336, 10},
+// The first one has everything that the menu knows.
+const MonitorModel kModels[] = {
+    {"Q27-OLED", "QVL", 0x2701,
+     static_cast<std::uint16_t>(neededByMenu() | OledPanel | ExtraScene | productLine(1) | GameFunctions), 0x0102, 597,
+     336, 10},
     {"Q32-MPCS", "QVL", 0x3202, productLine(2) | MotionIsMpcs, 0x0203, 708, 399, 2},
     {"Q34-MINI", "QVL", 0x3403, LocalDimming | HaloControl | productLine(3) | GameFunctions, 0x0300, 797, 334, 1},
 };
@@ -49,9 +51,11 @@ struct BoundCodes
     std::uint8_t first, last;
     Capability capability;
 };
-constexpr BoundCodes kBoundCodes[] = {
-    {0x01, 0x0B, OledPanel},     {0x0D, 0x0E, OledPanel},   {0x30, 0x37, GameFunctions}, {0x3D, 0x3F, GameFunctions},
-    {0x63, 0x63, GameFunctions}, {0x46, 0x46, HaloControl}, {0x47, 0x47, LocalDimming}};
+constexpr BoundCodes kBoundCodes[] = {{0x01, 0x0B, OledPanel},
+                                      {0x0D, 0x0E, OledPanel},
+                                      {0x30, 0x37, GameFunctions},
+                                      {0x3D, 0x3F, GameFunctions},
+                                      {0x63, 0x63, GameFunctions}};
 constexpr std::uint8_t kSystemCodes[] = {kSceneCode, kResetCode, kCapabilityCode, kFirmwareCode, kOfficeSizeCode};
 
 int byteOf(std::uint8_t code)
@@ -121,6 +125,8 @@ bool hasFunction(const MonitorModel &model, std::uint8_t code)
     const auto isIn = [code](std::span<const std::uint8_t> codes) {
         return std::find(codes.begin(), codes.end(), code) != codes.end();
     };
+    if (const std::uint16_t needs = osdFunction(code).needs; needs != 0)
+        return (model.capabilities & needs) != 0;
     return *osdFunction(code).name != '\0' || isIn(kBlockCodes) || isIn(kSystemCodes);
 }
 

@@ -48,6 +48,11 @@ constexpr OsdOption kRest[] = {{0, NAME("Close")},    {1, NAME("30s")},      {2,
                                {3, NAME("1.5 Hour")}, {4, NAME("2 Hour")},   {5, NAME("2.5 Hour")},
                                {6, NAME("3 Hour")},   {7, NAME("3.5 Hour")}, {8, NAME("4 Hour")}};
 
+constexpr std::uint16_t bit(int number)
+{
+    return static_cast<std::uint16_t>(1u << number);
+}
+
 // In the order of the OSD; picture first, since the scene changes most of it.
 constexpr OsdFunction kMenu[] = {
     {0x10, NAME("Brightness"), 50, 100, {}},
@@ -62,8 +67,8 @@ constexpr OsdFunction kMenu[] = {
     {0x44, NAME("Super Resolution"), 1, 5, {}},
     {0x49, NAME("Gray Response"), 1, 4, kResponse},
     {0x48, NAME("DyDs TECH"), 2, 8, kMotion},
-    {0x47, NAME("Localdimming"), 4, 6, kLocalDimming},
-    {0x46, NAME("Halo Control"), 40, 100, {}},
+    {0x47, NAME("Localdimming"), 4, 6, kLocalDimming, bit(0)},
+    {0x46, NAME("Halo Control"), 40, 100, {}, bit(1)},
     {0xD8, NAME("Low Blue Light"), 0, 4, {}},
     {0xDA, NAME("Light Sensor"), 0, 1, kSwitch},
     {0x4A, NAME("HDR"), 0, 3, kHdr},
@@ -165,6 +170,14 @@ OsdFunction osdFunction(std::uint8_t code)
 std::span<const OsdFunction> osdMenu()
 {
     return kMenu;
+}
+
+std::uint16_t neededByMenu()
+{
+    std::uint16_t bits = 0;
+    for (const OsdFunction &function : kMenu)
+        bits |= function.needs;
+    return bits;
 }
 
 QString osdName(const OsdFunction &function)

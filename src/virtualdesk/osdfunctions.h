@@ -22,6 +22,7 @@ struct OsdFunction
     std::uint16_t factory;              ///< value after a factory reset
     std::uint16_t maximum;              ///< highest value; what the reply reports as maximum
     std::span<const OsdOption> options; ///< the only values taken; empty for a plain number 0..maximum
+    std::uint16_t needs = 0;            ///< the bit of the capability word that only its models have
 };
 
 /// The 168 command codes of the monitor, rising.
@@ -32,6 +33,9 @@ OsdFunction osdFunction(std::uint8_t code);
 
 /// The functions with a menu entry, in the order of the OSD.
 std::span<const OsdFunction> osdMenu();
+
+/// The bits of all that functions with a menu entry need.
+std::uint16_t neededByMenu();
 
 /// The function's name in the interface language.
 QString osdName(const OsdFunction &function);

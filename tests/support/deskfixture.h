@@ -2,7 +2,6 @@
 
 #include <QtTest>
 
-#include "ddc_protocol/capability.h"
 #include "ddc_protocol/command.h"
 #include "ddc_protocol/displayenumeration.h"
 #include "ddc_protocol/settingsstore.h"

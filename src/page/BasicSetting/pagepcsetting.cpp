@@ -1,7 +1,5 @@
 #include "page/BasicSetting/pagepcsetting.h"
 
-#include <algorithm>
-
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QDebug>

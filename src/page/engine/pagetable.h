@@ -6,7 +6,6 @@
 
 #include <QtGlobal>
 
-#include "ddc_protocol/capability.h"
 #include "ddc_protocol/command.h"
 
 // A settings page is a table of these. Labels are source texts, marked by QT_TRANSLATE_NOOP("QObject", ...).
