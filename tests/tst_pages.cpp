@@ -117,12 +117,14 @@ void TestPages::slidersSend()
 {
     button(Scene, "Color Temperature_User1")->click(); // whose colours are then set
     m_desk->takeCommands();
+    QMap<int, int> found;
     for (const auto &[which, table] : kSliders) {
         for (const QString &entry : QString(table).split('|')) {
             static const QRegularExpression form("(.+) (..) (\\d+)-(\\d+)(?: (.))?$");
             const QRegularExpressionMatch part = form.match(entry);
             SliderWidget *widget = anyPage(which)->slider(part.captured(1).toUtf8().constData());
             QVERIFY2(widget, qPrintable(entry));
+            ++found[which];
             const auto command = Command(part.captured(2).toInt(nullptr, 16));
             for (const int end : {part.captured(3).toInt(), part.captured(4).toInt()}) {
                 widget->setValue(part.captured(3).toInt() + 1);
@@ -143,6 +145,8 @@ void TestPages::slidersSend()
             }
         }
     }
+    for (int which = 0; which < kPageNames; ++which)
+        QCOMPARE(int(anyPage(which)->sliders().size()), found[which]);
 }
 
 void TestPages::unknownValuesAreAskedFor()
