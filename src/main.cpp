@@ -1,6 +1,7 @@
 #include <QDebug>
 #include <QFontDatabase>
 #include <QPalette>
+#include <QResource>
 #include <QToolTip>
 
 #include "controls/messagebox.h"
@@ -23,7 +24,9 @@ constexpr platform::milliseconds kStartUpWait{1000};
 
 void loadInterfaceFont()
 {
-    const int id = QFontDatabase::addApplicationFont(QStringLiteral(":/resource/HARMONYOS_SANS_SC_REGULAR.TTF"));
+    // Handed over as bytes the font is in memory once; named by its file, every reader of it keeps a copy.
+    const QResource file(QStringLiteral(":/resource/HARMONYOS_SANS_SC_REGULAR.TTF"));
+    const int id = QFontDatabase::addApplicationFontFromData(file.uncompressedData());
     if (id == -1) {
         qDebug() << "Failed to load font.";
         return;
