@@ -2,6 +2,7 @@
 
 #include <QStackedWidget>
 
+#include "ddc_protocol/automaticwriter.h"
 #include "ddc_protocol/commandqueue.h"
 #include "page/BasicSetting/hotkeyoverlay.h"
 #include "page/BasicSetting/pageshortcutkey.h"
@@ -17,7 +18,7 @@ static bool isAidSwitch(Command command)
 }
 
 Automation::Automation(CommandQueue &queue, PageSet &pages, QStackedWidget *stack, QObject *parent)
-    : QObject(parent), m_pages(pages), m_overlay(new HotkeyOverlay(this))
+    : QObject(parent), m_pages(pages), m_overlay(new HotkeyOverlay(this)), m_writer(new AutomaticWriter(queue, this))
 {
     auto *keys = new pageShortcutKey(stack);
     connect(keys->runner(), &ShortcutRunner::begins, &queue, &CommandQueue::drain);
@@ -25,6 +26,8 @@ Automation::Automation(CommandQueue &queue, PageSet &pages, QStackedWidget *stac
     auto *following = new pageScenarioFollowing(stack);
     connect(following->follower(), &SceneFollower::begins, &queue, &CommandQueue::drain);
     connect(following->follower(), &SceneFollower::sceneSent, this, [this] { Q_EMIT sent(Command::SceneMode); });
+    connect(m_writer, &AutomaticWriter::dayIsUsedUp, this,
+            [this](const QString &text) { m_overlay->showMessage(QObject::tr("Automatic changes a day"), text); });
     pages.add(PageId::ShortcutKey, keys);
     pages.add(PageId::ScenarioFollowing, following);
 }

@@ -4,12 +4,14 @@
 
 #include "ddc_protocol/command.h"
 
+class AutomaticWriter;
 class CommandQueue;
 class HotkeyOverlay;
 class PageSet;
 class QStackedWidget;
 
-/// Hot keys and scenario following as the window sees them: their pages, and what they sent on the desktop.
+/// Hot keys and scenario following as the window sees them: their pages, and what they sent on the desktop. And
+/// what is sent by itself.
 class Automation : public QObject
 {
     Q_OBJECT
@@ -19,6 +21,9 @@ public:
 
     /// Tells on the desktop what a hot key did.
     HotkeyOverlay *overlay() const { return m_overlay; }
+
+    /// Sends what no user asked for just now; that a day's writes are used up is told on the desktop.
+    AutomaticWriter *writer() const { return m_writer; }
 
 Q_SIGNALS:
     /// A key or a followed program has sent something, which the pages are to show.
@@ -30,4 +35,5 @@ private:
 
     const PageSet &m_pages;
     HotkeyOverlay *m_overlay;
+    AutomaticWriter *m_writer;
 };

@@ -12,6 +12,7 @@
 #include "ddc_protocol/scenemodes.h"
 #include "ddc_protocol/valuechanges.h"
 #include "ddc_protocol/writecounts.h"
+#include "page/BasicSetting/hotkeyoverlay.h"
 #include "page/engine/panelpage.h"
 #include "page/engine/undobar.h"
 #include "support/fulldisk.h"
@@ -273,7 +274,7 @@ void TestCare::automaticWrites()
 {
     start(10);
     QVERIFY(storeSetting("Care/AutomaticWrites", 2));
-    AutomaticWriter writer(*m_window->findChild<CommandQueue *>());
+    auto &writer = *m_window->findChild<AutomaticWriter *>();
     QSignalSpy settled(&writer, &AutomaticWriter::settled);
     QSignalSpy usedUp(&writer, &AutomaticWriter::dayIsUsedUp);
     m_desk->monitor().setValue(0xF6, 30); // the monitor's own buttons; the program knows nothing of it
@@ -296,6 +297,8 @@ void TestCare::automaticWrites()
     QCOMPARE(int(m_desk->monitor().value(0xC1)), 8);
     writer.want(Command::OsdVPosition, 9);
     QCOMPARE(usedUp.count(), 1);
+    const auto *overlay = m_window->findChild<HotkeyOverlay *>();
+    QVERIFY(overlay->isShown() && overlay->text().contains("used up (2)"));
     sendValue(Command::OsdVPosition, 10); // the user's own are not limited
     m_desk->takeCommands();
     const QDateTime now = m_desk->clock.now();

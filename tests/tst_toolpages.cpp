@@ -4,6 +4,7 @@
 #include <QtWidgets>
 
 #include "controls/lefttabbutton.h"
+#include "ddc_protocol/automaticwriter.h"
 #include "ddc_protocol/commandnames.h"
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/commandtable.h"
@@ -56,7 +57,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void startUpIsWrittenOrFallsBack();
-    void overlayIsSwitched();
+    void overlayAndLimitAreSwitched();
     void healthIsBuiltWhenShown();
     void everythingIsReadOnce();
     void reportNamesNobody();
@@ -152,19 +153,18 @@ void TestToolPages::startUpIsWrittenOrFallsBack()
     }
 }
 
-void TestToolPages::overlayIsSwitched()
+void TestToolPages::overlayAndLimitAreSwitched()
 {
-    for (const bool on : {false, true, true}) {
-        const QString name = on ? "Hotkey overlay_Yes" : "Hotkey overlay_No";
+    for (const QString name : {"Hotkey overlay_No", "Hotkey overlay_Yes", "Hotkey overlay_Yes"}) {
         press(name);
-        QVERIFY(hotkeyOverlayOn() == on && isChecked(name));
+        QVERIFY(hotkeyOverlayOn() == name.endsWith("Yes") && isChecked(name));
     }
-    QCOMPARE(toolPage().notice(), QString());
+    press("Automatic changes a day_No limit");
+    QVERIFY(!automaticWritesADay() && toolPage().notice().isEmpty());
     QFile::remove(QStringLiteral("config.ini"));
     QVERIFY(QDir().mkpath(QStringLiteral("config.ini/full"))); // nothing can be stored
     press("Hotkey overlay_No");
-    QVERIFY(toolPage().notice().contains("config.ini"));
-    QVERIFY(isChecked("Hotkey overlay_Yes"));
+    QVERIFY(toolPage().notice().contains("config.ini") && isChecked("Hotkey overlay_Yes"));
 }
 
 /// Nothing of it is there before, and it costs nothing while another panel is shown.

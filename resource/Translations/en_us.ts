@@ -404,6 +404,10 @@
         <translation>Auto-L2</translation>
     </message>
     <message>
+        <source>Automatic changes a day</source>
+        <translation>Automatic changes a day</translation>
+    </message>
+    <message>
         <source>B</source>
         <translation>B</translation>
     </message>
@@ -1308,12 +1312,20 @@
         <translation>No hot keys yet: choose a function above and add it.</translation>
     </message>
     <message>
+        <source>No limit</source>
+        <translation>No limit</translation>
+    </message>
+    <message>
         <source>No programs yet: add one and choose its scene.</source>
         <translation>No programs yet: add one and choose its scene.</translation>
     </message>
     <message>
         <source>Noise</source>
         <translation>Noise</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>None</translation>
     </message>
     <message>
         <source>None.</source>

@@ -404,6 +404,10 @@
         <translation>自動-L2</translation>
     </message>
     <message>
+        <source>Automatic changes a day</source>
+        <translation>1 日の自動変更の回数</translation>
+    </message>
+    <message>
         <source>B</source>
         <translation>B</translation>
     </message>
@@ -1308,12 +1312,20 @@
         <translation>ホットキーはまだありません。上で機能を選んで追加してください。</translation>
     </message>
     <message>
+        <source>No limit</source>
+        <translation>無制限</translation>
+    </message>
+    <message>
         <source>No programs yet: add one and choose its scene.</source>
         <translation>プログラムはまだありません。追加してシーンを選んでください。</translation>
     </message>
     <message>
         <source>Noise</source>
         <translation>ノイズ</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
     </message>
     <message>
         <source>None.</source>

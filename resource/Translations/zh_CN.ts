@@ -404,6 +404,10 @@
         <translation>自动-L2</translation>
     </message>
     <message>
+        <source>Automatic changes a day</source>
+        <translation>每天自动更改次数</translation>
+    </message>
+    <message>
         <source>B</source>
         <translation>B</translation>
     </message>
@@ -1308,12 +1312,20 @@
         <translation>还没有快捷键：请在上方选择功能并添加。</translation>
     </message>
     <message>
+        <source>No limit</source>
+        <translation>不限</translation>
+    </message>
+    <message>
         <source>No programs yet: add one and choose its scene.</source>
         <translation>还没有程序：请添加程序并选择其情景。</translation>
     </message>
     <message>
         <source>Noise</source>
         <translation>噪声</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
     </message>
     <message>
         <source>None.</source>

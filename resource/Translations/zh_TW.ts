@@ -404,6 +404,10 @@
         <translation>自動-L2</translation>
     </message>
     <message>
+        <source>Automatic changes a day</source>
+        <translation>每天自動變更次數</translation>
+    </message>
+    <message>
         <source>B</source>
         <translation>B</translation>
     </message>
@@ -1308,12 +1312,20 @@
         <translation>尚無快速鍵：請在上方選擇功能並新增。</translation>
     </message>
     <message>
+        <source>No limit</source>
+        <translation>不限</translation>
+    </message>
+    <message>
         <source>No programs yet: add one and choose its scene.</source>
         <translation>尚無程式：請新增程式並選擇其情境。</translation>
     </message>
     <message>
         <source>Noise</source>
         <translation>雜訊</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>無</translation>
     </message>
     <message>
         <source>None.</source>

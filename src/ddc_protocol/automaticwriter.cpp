@@ -9,6 +9,12 @@
 #include "ddc_protocol/writecounts.h"
 #include "platform/desk.h"
 
+namespace {
+
+const QString kKey = QStringLiteral("Care/AutomaticWrites");
+
+} // namespace
+
 AutomaticWriter::AutomaticWriter(CommandQueue &queue, QObject *parent) : QObject(parent), m_queue(queue)
 {
     connect(&queue, &CommandQueue::sent, this, &AutomaticWriter::onSent);
@@ -99,9 +105,13 @@ void AutomaticWriter::settle(bool ok)
 std::optional<qint64> automaticWritesADay()
 {
     bool isNumber = false;
-    const qint64 stored = settingsString(QStringLiteral("Care/AutomaticWrites"), {}, false, QLatin1String(kConfigFile))
-                              .toLongLong(&isNumber);
+    const qint64 stored = settingsString(kKey, {}, false, QLatin1String(kConfigFile)).toLongLong(&isNumber);
     if (!isNumber)
         return kWritesADay;
     return stored < 0 ? std::nullopt : std::optional(stored);
+}
+
+bool setAutomaticWritesADay(int count)
+{
+    return storeSetting(kKey, QString::number(count));
 }

@@ -54,3 +54,6 @@ private:
 /// How many automatic writes a monitor takes a day at most, by "Care/AutomaticWrites" in config.ini: a number, or -1
 /// for as many as it takes.
 std::optional<qint64> automaticWritesADay();
+
+/// Stores how many; a negative number for as many as it takes. False when that could not be stored.
+bool setAutomaticWritesADay(int count);

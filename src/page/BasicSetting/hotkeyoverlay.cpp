@@ -6,7 +6,8 @@
 
 namespace {
 
-constexpr platform::milliseconds kShown{1500};
+constexpr platform::milliseconds kNoteShown{1500};
+constexpr platform::milliseconds kMessageShown{8000};
 const QString kKey = QStringLiteral("PCSeting/HotkeyOverlay");
 const QString kOff = QStringLiteral("off");
 
@@ -30,10 +31,19 @@ HotkeyOverlay::~HotkeyOverlay() = default;
 
 void HotkeyOverlay::showNote(const QString &function, const QString &value)
 {
-    if (!hotkeyOverlayOn())
-        return;
-    m_toast->showNote(function, value);
-    platform::desk().clock().callLater(kShown, this, [this, note = ++m_notes] {
+    if (hotkeyOverlayOn())
+        show(function, value, kNoteShown);
+}
+
+void HotkeyOverlay::showMessage(const QString &title, const QString &text)
+{
+    show(title, text, kMessageShown);
+}
+
+void HotkeyOverlay::show(const QString &title, const QString &text, platform::milliseconds shown)
+{
+    m_toast->showNote(title, text);
+    platform::desk().clock().callLater(shown, this, [this, note = ++m_notes] {
         if (note == m_notes)
             m_toast->hide();
     });

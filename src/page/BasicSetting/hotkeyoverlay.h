@@ -4,6 +4,8 @@
 
 #include <QObject>
 
+#include "platform/clock.h"
+
 class DesktopToast;
 
 /// Whether a hot key shows on the desktop what it did; so at first.
@@ -23,12 +25,17 @@ public:
     /// Shows a note in place of the one before, unless the user has switched that off.
     void showNote(const QString &function, const QString &value);
 
+    /// Shows what the program has to say by itself, for 8 s, also when the user has switched the notes off.
+    void showMessage(const QString &title, const QString &text);
+
     bool isShown() const;
 
     /// What the last note said, as "function: value".
     QString text() const;
 
 private:
+    void show(const QString &title, const QString &text, platform::milliseconds shown);
+
     std::unique_ptr<DesktopToast> m_toast;
     int m_notes = 0; ///< a note does not end with the time of the one before
 };

@@ -8,6 +8,7 @@
 
 #include "controls/messagebox.h"
 #include "controls/sharedfonts.h"
+#include "ddc_protocol/automaticwriter.h"
 #include "ddc_protocol/displayenumeration.h"
 #include "ddc_protocol/settingsstore.h"
 #include "page/BasicSetting/hotkeyoverlay.h"
@@ -25,10 +26,13 @@ namespace {
 constexpr char kStartUp[] = LABEL("Run on startup");
 constexpr char kLanguage[] = LABEL("Tool language settings");
 constexpr char kOverlay[] = LABEL("Hotkey overlay");
+constexpr char kAutomatic[] = LABEL("Automatic changes a day");
 constexpr char kVersion[] = "version";
 constexpr char kMachine[] = "machine";
 constexpr char kHealth[] = "health";
 
+/// What "Care/AutomaticWrites" holds: how many, or -1.
+constexpr Option kADay[] = {{LABEL("None"), 0}, {"500", 500}, {"2000", 2000}, {LABEL("No limit"), -1}};
 constexpr Option kYesNo[] = {{LABEL("Yes"), 1}, {LABEL("No"), 0}};
 
 /// The languages as options, each with its place in the list.
@@ -46,7 +50,8 @@ std::span<const Option> languageOptions()
 std::span<const PanelSpec> panels()
 {
     static const Section general[] = {OptionGroup{kStartUp, {}, kYesNo}, OptionGroup{kLanguage, {}, languageOptions()},
-                                      OptionGroup{kOverlay, {}, kYesNo}, CustomPart{kVersion}};
+                                      OptionGroup{kOverlay, {}, kYesNo}, OptionGroup{kAutomatic, {}, kADay},
+                                      CustomPart{kVersion}};
     static const Section machineSelect[] = {CustomPart{kMachine}};
     static const Section healthPanel[] = {CustomPart{kHealth}};
     static const PanelSpec all[] = {
@@ -136,6 +141,8 @@ std::optional<int> pagePCSetting::ownValue(const char *label)
         return runsOnStartUp() ? 1 : 0;
     if (qstrcmp(label, kOverlay) == 0)
         return hotkeyOverlayOn() ? 1 : 0;
+    if (qstrcmp(label, kAutomatic) == 0)
+        return static_cast<int>(automaticWritesADay().value_or(-1));
     return static_cast<int>(&toolLanguageOf(toolLanguageCode()) - toolLanguages().data());
 }
 
@@ -163,6 +170,8 @@ void pagePCSetting::onButtonClicked(const char *label, int value)
         setRunOnStartUp(value != 0);
     else if (qstrcmp(label, kOverlay) == 0)
         showStored(setHotkeyOverlayOn(value != 0), Unstored::Undone);
+    else if (qstrcmp(label, kAutomatic) == 0)
+        showStored(setAutomaticWritesADay(value), Unstored::Undone);
     else
         changeLanguage(toolLanguages()[static_cast<std::size_t>(value)]);
 }
