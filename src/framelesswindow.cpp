@@ -1,30 +1,53 @@
 #include "framelesswindow.h"
 
-#include <QMouseEvent>
+#include <algorithm>
 
-#include "controls/pictures.h"
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QScreen>
+
+#include "platform/desk.h"
+#include "windowscale.h"
 
 FramelessWindow::FramelessWindow(const QString &picture)
 {
     setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint);
     setAttribute(Qt::WA_TranslucentBackground);
-    const QPixmap background = Pictures::load(Pictures::kRoot + picture, devicePixelRatioF());
-    setPixmap(background);
+    setPicture(picture);
     setScaledContents(true);
-    setFixedSize((QSizeF(background.size()) / background.devicePixelRatio()).toSize());
+    QSize size = pixmap(Qt::ReturnByValue).deviceIndependentSize().toSize();
+    if (const auto area = platform::desk().displays().workArea())
+        size.setHeight(std::min(size.height(), heightToFit(*area, devicePixelRatioF())));
+    setFixedSize(size);
 }
 
 void FramelessWindow::showInFront()
 {
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
+    keepOnScreen();
     raise();
     activateWindow();
 }
 
+void FramelessWindow::showEvent(QShowEvent *event)
+{
+    PictureLabel::showEvent(event);
+    keepOnScreen();
+}
+
+/// A screen may have gone since the window was hidden, or the system may have placed it half outside.
+void FramelessWindow::keepOnScreen()
+{
+    const QScreen *screen = QGuiApplication::screenAt(frameGeometry().center());
+    const QRect area = (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
+    const QPoint last = area.bottomRight() - rect().bottomRight();
+    move(std::max(area.left(), std::min(x(), last.x())), std::max(area.top(), std::min(y(), last.y())));
+}
+
 void FramelessWindow::changeEvent(QEvent *event)
 {
-    QLabel::changeEvent(event);
+    PictureLabel::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActiveWindow())
         cameToFront();
 }

@@ -2,10 +2,10 @@
 
 #include <optional>
 
-#include <QLabel>
+#include "controls/picturelabel.h"
 
 /// A window whose frame is a picture, which gives it its size. It is dragged by any place that no control takes.
-class FramelessWindow : public QLabel
+class FramelessWindow : public PictureLabel
 {
 public:
     /// Shows the window in front of all others, also when it was minimised.
@@ -18,11 +18,14 @@ protected:
     /// It is the window in use now, and was not before.
     virtual void cameToFront() = 0;
 
+    void showEvent(QShowEvent *event) override;
     void changeEvent(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
+    void keepOnScreen();
+
     std::optional<QPoint> m_dragStart; ///< where the window was taken hold of
 };

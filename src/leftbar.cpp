@@ -54,4 +54,5 @@ void LeftBar::updateControlText()
 {
     for (std::size_t i = 0; i < m_buttons.size(); ++i)
         m_buttons[i]->setCaption(QObject::tr(m_entries[i].label));
+    shrinkTogether(m_buttons);
 }

@@ -16,6 +16,7 @@
 #include "searchdevicedlg.h"
 #include "singleapplication.h"
 #include "toollanguage.h"
+#include "windowscale.h"
 #include "workingfolder.h"
 
 namespace {
@@ -84,7 +85,9 @@ int main(int argc, char *argv[])
         return 0;
     settleWorkingFolder(); // before anything is read from or written to it
 
+    WindowScale scale(desk->displays().workArea());
     SingleApplication application(argc, argv);
+    scale.takeBack();
     qInstallMessageHandler(logMessageHandler);
     GlobalApplication language;
     language.switchApplicationLanguage(toolLanguageCode());

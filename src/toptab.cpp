@@ -42,6 +42,17 @@ void TopTab::setCaption(const QString &caption)
     update();
 }
 
+int TopTab::captionSize() const
+{
+    return m_caption.sizeWithin(font(), kCaptionRect.width());
+}
+
+void TopTab::setCaptionSize(int pixels)
+{
+    m_caption.setLargest(pixels);
+    update();
+}
+
 void TopTab::press()
 {
     if (isEnabled())

@@ -14,6 +14,10 @@ public:
     void setChecked(bool checked);
     void setCaption(const QString &caption);
 
+    /// See shrinkTogether().
+    int captionSize() const;
+    void setCaptionSize(int pixels);
+
     QAccessible::Role accessibleRole() const override { return QAccessible::PageTab; }
     std::optional<bool> checkedState() const override { return m_checked; }
     void press() override;

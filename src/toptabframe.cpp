@@ -68,6 +68,7 @@ void TopTabFrame::updateControlText()
 {
     for (std::size_t i = 0; i < m_tabs.size(); ++i)
         m_tabs[i]->setCaption(QObject::tr(navigationFamilies()[i].label));
+    shrinkTogether(m_tabs);
     for (auto [button, text] :
          {std::pair(m_minimise, QObject::tr("Minimise")), std::pair(m_close, QObject::tr("Close window"))}) {
         button->setAccessibleName(text);

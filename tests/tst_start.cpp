@@ -6,6 +6,7 @@
 #include "relaunch.h"
 #include "singleapplication.h"
 #include "support/deskfixture.h"
+#include "windowscale.h"
 #include "workingfolder.h"
 
 /// Before there is a window: folder, rights, what is loaded, and who is let in.
@@ -19,6 +20,7 @@ private Q_SLOTS:
     void loadingIsNotSteered();
     void floodOfConnections();
     void copyFindsNoServer();
+    void windowFitsTheScreen();
 };
 
 void TestStart::workingFolders()
@@ -123,6 +125,29 @@ void TestStart::copyFindsNoServer()
         QVERIFY(!found);
         QCOMPARE(isServed(), !starts);
         QCOMPARE(m_desk->desk.process().quits, int(starts));
+    }
+}
+
+void TestStart::windowFitsTheScreen()
+{
+    // The user's own factor is there again afterwards, for the programs that are started from here.
+    for (const auto &[pixels, scale, own, wanted, height] : {std::tuple(QSize(1920, 1040), 1.0, "", "", 800),
+                                                             {QSize(1920, 1020), 1.5, "", "0.85", 800},
+                                                             {QSize(1366, 728), 1.0, "", "", 728},
+                                                             {QSize(1366, 728), 1.25, "", "0.8", 728},
+                                                             {QSize(1920, 1020), 1.0, "1.5", "1.275", 800},
+                                                             {QSize(1024, 500), 1.0, "junk", "junk", 600},
+                                                             {QSize(3840, 2060), 2.0, "", "", 800}}) {
+        if (*own)
+            qputenv("QT_SCALE_FACTOR", own);
+        const platform::WorkArea area{pixels, scale};
+        WindowScale chosen(area);
+        QCOMPARE(qgetenv("QT_SCALE_FACTOR"), QByteArray(wanted));
+        const bool isNumber = QByteArray(wanted).toDouble() > 0;
+        QCOMPARE(heightToFit(area, scale * (isNumber ? QByteArray(wanted).toDouble() : 1)), height);
+        chosen.takeBack();
+        QCOMPARE(qgetenv("QT_SCALE_FACTOR"), QByteArray(own));
+        qunsetenv("QT_SCALE_FACTOR");
     }
 }
 

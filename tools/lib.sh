@@ -49,7 +49,7 @@ apt_install() {
 # shellcheck disable=SC2034
 BUILD_PACKAGES=(
     g++ cmake ninja-build ccache qt6-base-dev qt6-base-dev-tools qt6-l10n-tools libgl1-mesa-dev
-    fontconfig libfftw3-dev
+    fontconfig libfftw3-dev libxcb1-dev libxcb-randr0-dev pkg-config
 )
 
 # Configures a preset: configure_preset NAME [CMAKE-OPTION...]

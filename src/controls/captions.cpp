@@ -21,13 +21,18 @@ FittedCaption fitCaption(const QString &text, const QFont &font, int pixelSize, 
     return fitted;
 }
 
-Caption::Caption(int pixelSize, const QString &text) : m_pixelSize(pixelSize), m_text(text)
+Caption::Caption(int pixelSize, const QString &text) : m_pixelSize(pixelSize), m_largest(pixelSize), m_text(text)
 {
+}
+
+int Caption::sizeWithin(const QFont &font, int width) const
+{
+    return fitCaption(m_text, font, m_pixelSize, width).font.pixelSize();
 }
 
 void Caption::draw(QPainter &painter, const QRect &rect, Qt::Alignment flags, const QColor &color)
 {
-    const FittedCaption fitted = fitCaption(m_text, painter.font(), m_pixelSize, rect.width());
+    const FittedCaption fitted = fitCaption(m_text, painter.font(), std::min(m_pixelSize, m_largest), rect.width());
     m_elided = fitted.elided;
     painter.save();
     painter.setFont(fitted.font);

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <algorithm>
+#include <limits>
+
 #include <QColor>
 #include <QFont>
 #include <QPainter>
@@ -20,6 +23,17 @@ struct FittedCaption
 /// Fits @p text, wished at @p pixelSize, into @p width pixels.
 FittedCaption fitCaption(const QString &text, const QFont &font, int pixelSize, int width);
 
+/// Draws the captions of one bar in one size: the smallest that one of them needs. Each control says what it needs by
+/// captionSize() and is told by setCaptionSize(), both in pixels.
+template <class Controls> void shrinkTogether(const Controls &bar)
+{
+    int smallest = std::numeric_limits<int>::max();
+    for (const auto *control : bar)
+        smallest = std::min(smallest, control->captionSize());
+    for (auto *control : bar)
+        control->setCaptionSize(smallest);
+}
+
 /// One line of text that a control paints itself. It remembers whether the last painting had to elide it.
 class Caption
 {
@@ -27,7 +41,17 @@ public:
     explicit Caption(int pixelSize, const QString &text = QString());
 
     const QString &text() const { return m_text; }
-    void setText(const QString &text) { m_text = text; }
+    void setText(const QString &text)
+    {
+        m_text = text;
+        m_largest = m_pixelSize;
+    }
+
+    /// The size in pixels at which the text is drawn into @p width when nothing else limits it.
+    int sizeWithin(const QFont &font, int width) const;
+
+    /// Draws the text no larger than this until it is another text.
+    void setLargest(int pixels) { m_largest = pixels; }
 
     /// Draws the text into @p rect, aligned by @p flags (Qt::Alignment), never beyond the rectangle.
     void draw(QPainter &painter, const QRect &rect, Qt::Alignment flags, const QColor &color);
@@ -37,6 +61,7 @@ public:
 
 private:
     int m_pixelSize;
+    int m_largest; ///< of what the captions beside it take
     QString m_text;
     bool m_elided = false;
 };

@@ -8,6 +8,7 @@
 
 namespace {
 constexpr QSize kSize(208, 46);
+constexpr int kLeastHeight = 34; // in a bar of many entries on a small screen
 constexpr int kIconLeft = 19;
 constexpr int kIconSide = 24;
 constexpr int kCaptionLeft = 54;
@@ -21,8 +22,20 @@ const QColor kDisabledText(0x69, 0x69, 0x69);
 LeftTabButton::LeftTabButton(const QString &iconBase, const QString &caption, QWidget *parent)
     : PaintedControl(parent), m_iconBase(iconBase), m_caption(kCaptionPixels)
 {
-    setFixedSize(kSize);
+    setFixedWidth(kSize.width());
+    setMaximumHeight(kSize.height());
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Maximum);
     setCaption(caption);
+}
+
+QSize LeftTabButton::sizeHint() const
+{
+    return kSize;
+}
+
+QSize LeftTabButton::minimumSizeHint() const
+{
+    return {kSize.width(), kLeastHeight};
 }
 
 void LeftTabButton::setChecked(bool checked)
@@ -52,6 +65,17 @@ void LeftTabButton::setCaption(const QString &caption)
 {
     m_caption.setText(caption);
     setAccessibleName(caption);
+    update();
+}
+
+int LeftTabButton::captionSize() const
+{
+    return m_caption.sizeWithin(font(), kSize.width() - kCaptionLeft - kCaptionRightMargin);
+}
+
+void LeftTabButton::setCaptionSize(int pixels)
+{
+    m_caption.setLargest(pixels);
     update();
 }
 

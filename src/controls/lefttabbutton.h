@@ -4,7 +4,8 @@
 
 #include "controls/paintedcontrol.h"
 
-/// An entry of the left bar, 208 x 46: icon and caption. It takes a press only while it is enabled for selection.
+/// An entry of the left bar, 208 x 46, lower in a bar that is too full: icon and caption. It takes a press only while
+/// it is enabled for selection.
 class LeftTabButton : public PaintedControl<QFrame>
 {
     Q_OBJECT
@@ -28,6 +29,12 @@ public:
     /// Sets the caption, which is the accessible name too.
     void setCaption(const QString &caption);
 
+    /// See shrinkTogether().
+    int captionSize() const;
+    void setCaptionSize(int pixels);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
     QAccessible::Role accessibleRole() const override { return QAccessible::RadioButton; }
     std::optional<bool> checkedState() const override { return m_checked; }
     void press() override;

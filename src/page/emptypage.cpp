@@ -2,7 +2,7 @@
 
 #include <QVBoxLayout>
 
-#include "controls/pictures.h"
+#include "controls/picturelabel.h"
 #include "controls/sharedfonts.h"
 #include "page/engine/labels.h"
 #include "page/engine/pagestyle.h"
@@ -11,15 +11,15 @@ EmptyPage::EmptyPage(QWidget *parent) : QLabel(parent), m_title(new QLabel(this)
 {
     setObjectName(QStringLiteral("EmptyPage"));
     dressPage(this);
-    auto *picture = new QLabel(this);
-    picture->setPixmap(Pictures::load(Pictures::kRoot + QStringLiteral("img/empty_page.png"), devicePixelRatioF()));
+    auto *picture = new PictureLabel(this);
+    picture->setPicture(QStringLiteral("img/empty_page.png"));
     m_title->setFont(titleFont);
     m_noteLabel->setFont(noteFont);
     m_title->setStyleSheet(QStringLiteral("color: #ffffff;"));
     m_noteLabel->setStyleSheet(QStringLiteral("color: #8d9a94;"));
     auto *column = new QVBoxLayout(this);
     column->addStretch(2);
-    for (QLabel *label : {picture, m_title, m_noteLabel})
+    for (QLabel *label : {static_cast<QLabel *>(picture), m_title, m_noteLabel})
         column->addWidget(label, 0, Qt::AlignHCenter);
     column->addStretch(3);
     column->setSpacing(12);

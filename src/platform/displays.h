@@ -43,6 +43,13 @@ struct Screen
     QRect geometry;
 };
 
+/// The part of a screen that windows may fill: all but the taskbar and its like.
+struct WorkArea
+{
+    QSize pixels;     ///< of the screen itself, before any scaling
+    double scale = 1; ///< that the user has set for the screen: 1.5 at 150 %
+};
+
 /// A registry value as it is stored; only binary values matter to the program.
 struct RegistryValue
 {
@@ -76,6 +83,10 @@ public:
 
     /// The toolkit's screens, in its order.
     virtual std::vector<Screen> screens() = 0;
+
+    /// The primary screen's work area, on which the program opens (SystemParametersInfoW, GetDpiForSystem). May be
+    /// asked before the toolkit has begun; nothing when it is not known.
+    virtual std::optional<WorkArea> workArea() = 0;
 };
 
 } // namespace platform

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "controls/lefttabbutton.h"
+#include "controls/picturelabel.h"
 #include "controls/pictures.h"
 #include "controls/sharedfonts.h"
 #include "ddc_protocol/devicestate.h"
@@ -108,10 +109,9 @@ QWidget *pageServicesSetting::buildVersion()
 QWidget *pageServicesSetting::buildQrCode()
 {
     auto *part = new QWidget(this);
-    auto *picture = new QLabel(part);
+    auto *picture = new PictureLabel(part);
     picture->setObjectName(QStringLiteral("qrCode"));
-    picture->setPixmap(
-        Pictures::load(Pictures::kRoot + QLatin1String(kPictures) + QLatin1String("qr_code.png"), devicePixelRatioF()));
+    picture->setPicture(QLatin1String(kPictures) + QLatin1String("qr_code.png"));
     texts().bind(kQrCode, [picture](const QString &text) { picture->setAccessibleName(text); });
     auto *column = new QVBoxLayout(part);
     column->setContentsMargins(0, 0, 0, 0);

@@ -1,7 +1,7 @@
 #include "page/IO/pageiosetting.h"
 #include "ddc_protocol/devicestate.h"
 
-#include "controls/pictures.h"
+#include "controls/picturelabel.h"
 #include "controls/sharedfonts.h"
 #include "page/IO/iotable.h"
 #include "page/engine/optiongrouprow.h"
@@ -32,8 +32,11 @@ bool pageIOSetting::excludes(Command other, const char *label, int value)
 
 QWidget *pageIOSetting::buildPart(const char *name)
 {
-    QLabel *&part = qstrcmp(name, kPreviewPart) == 0 ? m_preview : m_inputNow;
-    part = new QLabel(this);
+    QLabel *part = nullptr;
+    if (qstrcmp(name, kPreviewPart) == 0)
+        part = m_preview = new PictureLabel(this);
+    else
+        part = m_inputNow = new QLabel(this);
     part->setFont(noteFont);
     part->setObjectName(QLatin1String(name));
     part->setStyleSheet(QStringLiteral("color: #9cffc8;"));
@@ -77,5 +80,5 @@ void pageIOSetting::showPreview()
     if (!hasPicture)
         return;
     const QString picture = QStringLiteral("img/preview/%1.png").arg(QLatin1String(kPreviews[input - 1]));
-    m_preview->setPixmap(Pictures::load(Pictures::kRoot + picture, devicePixelRatioF()));
+    m_preview->setPicture(picture);
 }

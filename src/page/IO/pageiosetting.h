@@ -2,6 +2,8 @@
 
 #include "page/engine/panelpage.h"
 
+class PictureLabel;
+
 /// The monitor's inputs and outputs.
 class pageIOSetting : public PanelPage
 {
@@ -22,5 +24,5 @@ private:
     void showPreview();
 
     QLabel *m_inputNow = nullptr;
-    QLabel *m_preview = nullptr;
+    PictureLabel *m_preview = nullptr;
 };

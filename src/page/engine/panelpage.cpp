@@ -145,6 +145,12 @@ QWidget *PanelPage::buildPanel(const PanelSpec &panel)
     return content;
 }
 
+void PanelPage::updateControlText()
+{
+    SettingsPage::updateControlText();
+    shrinkTogether(m_entries);
+}
+
 int PanelPage::panelCount() const
 {
     return m_stack->count();

@@ -19,6 +19,8 @@ public:
     /// Builds the panels that the monitor has and shows the first. The page's object name is what its style goes by.
     PanelPage(const QString &name, OwnList list, CommandQueue &queue, QWidget *parent = nullptr);
 
+    void updateControlText() override;
+
     int panelCount() const;
     int currentPanel() const;
 

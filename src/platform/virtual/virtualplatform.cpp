@@ -8,6 +8,7 @@
 #include <QStandardPaths>
 
 #include "platform/systemclock.h"
+#include "platform/virtual/rootscreen.h"
 #include "platform/virtual/virtualaudio.h"
 #include "platform/virtual/virtualfiles.h"
 #include "platform/virtual/virtualforeground.h"
@@ -59,6 +60,7 @@ public:
         return m_desk.displays().registryValue(keyPath, valueName);
     }
     std::vector<Screen> screens() override { return m_desk.displays().screens(); }
+    std::optional<WorkArea> workArea() override { return rootWorkArea(); }
 
 private:
     VirtualDesk &m_desk;

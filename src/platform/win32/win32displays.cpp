@@ -125,4 +125,18 @@ std::vector<Screen> Win32Displays::screens()
     return result;
 }
 
+std::optional<WorkArea> Win32Displays::workArea()
+{
+    // Else a process that has not said yet how it scales is told of a screen at 100 %.
+    const DPI_AWARENESS_CONTEXT before = SetThreadDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
+    RECT area = {};
+    const BOOL known = SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
+    const UINT dpi = GetDpiForSystem();
+    if (before)
+        SetThreadDpiAwarenessContext(before);
+    if (!known)
+        return std::nullopt;
+    return WorkArea{{area.right - area.left, area.bottom - area.top}, dpi / double(USER_DEFAULT_SCREEN_DPI)};
+}
+
 } // namespace platform

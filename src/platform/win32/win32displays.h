@@ -15,6 +15,7 @@ public:
     std::optional<DisplayDevice> monitor(const QString &adapterName, std::uint32_t index) override;
     std::optional<RegistryValue> localMachineValue(const QString &keyPath, const QString &valueName) override;
     std::vector<Screen> screens() override;
+    std::optional<WorkArea> workArea() override;
 };
 
 } // namespace platform

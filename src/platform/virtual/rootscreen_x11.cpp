@@ -1,0 +1,105 @@
+#include "platform/virtual/rootscreen.h"
+
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+
+#include <xcb/randr.h>
+#include <xcb/xcb.h>
+
+#include <QByteArray>
+#include <QList>
+
+namespace platform {
+
+namespace {
+
+struct Disconnects
+{
+    void operator()(xcb_connection_t *connection) const { xcb_disconnect(connection); }
+};
+using Connection = std::unique_ptr<xcb_connection_t, Disconnects>;
+
+struct Frees
+{
+    void operator()(void *reply) const { std::free(reply); }
+};
+template <class T> using Reply = std::unique_ptr<T, Frees>;
+
+constexpr std::uint32_t kLongestProperty = 1 << 14; // in units of four bytes
+
+/// A property of the root window; empty when it has none.
+QByteArray property(xcb_connection_t *x, xcb_window_t root, const char *name)
+{
+    const auto length = static_cast<std::uint16_t>(std::strlen(name));
+    const Reply<xcb_intern_atom_reply_t> atom(
+        xcb_intern_atom_reply(x, xcb_intern_atom(x, 1, length, name), nullptr));
+    if (!atom || atom->atom == XCB_ATOM_NONE)
+        return {};
+    const auto asked = xcb_get_property(x, 0, root, atom->atom, XCB_GET_PROPERTY_TYPE_ANY, 0, kLongestProperty);
+    const Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(x, asked, nullptr));
+    if (!reply)
+        return {};
+    return {static_cast<const char *>(xcb_get_property_value(reply.get())), xcb_get_property_value_length(reply.get())};
+}
+
+/// The primary monitor, or the first one; the whole root window where monitors are not told of.
+QRect primaryMonitor(xcb_connection_t *x, const xcb_screen_t &screen)
+{
+    QRect first(0, 0, screen.width_in_pixels, screen.height_in_pixels);
+    const Reply<xcb_randr_get_monitors_reply_t> reply(
+        xcb_randr_get_monitors_reply(x, xcb_randr_get_monitors(x, screen.root, 1), nullptr));
+    if (!reply)
+        return first;
+    for (auto it = xcb_randr_get_monitors_monitors_iterator(reply.get()); it.rem > 0; xcb_randr_monitor_info_next(&it)) {
+        const QRect monitor(it.data->x, it.data->y, it.data->width, it.data->height);
+        if (it.data->primary)
+            return monitor;
+        if (it.index == 0)
+            first = monitor;
+    }
+    return first;
+}
+
+/// Four numbers a desktop, the first of which counts.
+QRect desktopArea(const QByteArray &workArea)
+{
+    std::uint32_t numbers[4];
+    if (workArea.size() < qsizetype(sizeof numbers))
+        return {};
+    std::memcpy(numbers, workArea.constData(), sizeof numbers);
+    return {int(numbers[0]), int(numbers[1]), int(numbers[2]), int(numbers[3])};
+}
+
+/// The scale that the toolkit takes from the desktop's settings.
+double scaleOf(const QByteArray &resources)
+{
+    constexpr char kDpi[] = "Xft.dpi:";
+    for (const QByteArray &line : resources.split('\n')) {
+        const double dpi = line.startsWith(kDpi) ? line.mid(sizeof kDpi - 1).trimmed().toDouble() : 0;
+        if (dpi > 0)
+            return dpi / 96;
+    }
+    return 1;
+}
+
+} // namespace
+
+std::optional<WorkArea> rootWorkArea()
+{
+    const QByteArray toolkit = qgetenv("QT_QPA_PLATFORM");
+    if (!qEnvironmentVariableIsSet("DISPLAY") || !(toolkit.isEmpty() || toolkit.startsWith("xcb")))
+        return std::nullopt;
+    const Connection connection(xcb_connect(nullptr, nullptr));
+    xcb_connection_t *x = connection.get();
+    if (xcb_connection_has_error(x))
+        return std::nullopt;
+    const xcb_screen_t &screen = *xcb_setup_roots_iterator(xcb_get_setup(x)).data;
+    QRect area = primaryMonitor(x, screen);
+    const QRect desktop = desktopArea(property(x, screen.root, "_NET_WORKAREA"));
+    if (desktop.intersects(area))
+        area = area.intersected(desktop);
+    return WorkArea{area.size(), scaleOf(property(x, screen.root, "RESOURCE_MANAGER"))};
+}
+
+} // namespace platform

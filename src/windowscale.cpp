@@ -1,0 +1,53 @@
+#include "windowscale.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr char kVariable[] = "QT_SCALE_FACTOR";
+constexpr int kLeastHeight = 600;
+
+/// The user's own factor, which counts beside the screen's; 1 when it is none.
+double factorOf(const QByteArray &text)
+{
+    bool isNumber = false;
+    const double factor = text.toDouble(&isNumber);
+    return isNumber && factor > 0 ? factor : 1;
+}
+
+} // namespace
+
+double scaleToFit(const platform::WorkArea &area, const QSize &window)
+{
+    const double wide = area.pixels.width() / (window.width() * area.scale);
+    const double high = area.pixels.height() / (window.height() * area.scale);
+    const double fitting = std::floor(std::min(wide, high) * 1000) / 1000; // no pixel too many by rounding
+    return std::clamp(fitting, std::min(1 / area.scale, 1.0), 1.0);
+}
+
+int heightToFit(const platform::WorkArea &area, double ratio)
+{
+    return std::clamp(static_cast<int>(area.pixels.height() / ratio), kLeastHeight, kWindowSize.height());
+}
+
+WindowScale::WindowScale(const std::optional<platform::WorkArea> &area)
+{
+    if (!area || area->pixels.isEmpty() || area->scale <= 0)
+        return;
+    if (qEnvironmentVariableIsSet(kVariable))
+        m_before = qgetenv(kVariable);
+    const double own = m_before ? factorOf(*m_before) : 1;
+    const double fitting = scaleToFit({area->pixels, area->scale * own}, kWindowSize);
+    m_isSet = fitting < 1 && qputenv(kVariable, QByteArray::number(fitting * own));
+}
+
+void WindowScale::takeBack()
+{
+    if (!m_isSet)
+        return;
+    if (m_before)
+        qputenv(kVariable, *m_before);
+    else
+        qunsetenv(kVariable);
+}
