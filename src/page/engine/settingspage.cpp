@@ -4,6 +4,7 @@
 #include <utility>
 
 #include <QPushButton>
+#include <QVBoxLayout>
 
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
@@ -12,52 +13,42 @@
 #include "ddc_protocol/transport.h"
 #include "ddc_protocol/valuechanges.h"
 #include "page/engine/optiongrouprow.h"
+#include "page/engine/riskychanges.h"
 #include "page/engine/undobar.h"
 #include "platform/desk.h"
 
 static constexpr platform::milliseconds kPatience{300}; // a value on its way for longer is marked
 
-SettingsPage::SettingsPage(CommandQueue &queue, QWidget *parent) : QLabel(parent), m_queue(queue)
+SettingsPage::SettingsPage(CommandQueue &queue, QWidget *parent)
+    : QLabel(parent), m_queue(queue), m_controls(m_texts), m_locks(m_controls)
 {
+    connect(&m_controls, &PageControls::optionClicked, this, &SettingsPage::onOptionClicked);
+    connect(&m_controls, &PageControls::ownOptionClicked, this, &SettingsPage::onOwnOptionClicked);
+    connect(&m_controls, &PageControls::sliderChanged, this, &SettingsPage::onSliderChanged);
+    connect(&m_locks, &PageLocks::settingWanted, this, &SettingsPage::settingWanted);
     connect(&queue, &CommandQueue::sent, this, &SettingsPage::onSent);
     connect(&queue.values(), &ValueWatch::changed, this, &SettingsPage::onValueChanged);
 }
 
-OptionGroupRow *SettingsPage::optionGroup(Command command) const
+void SettingsPage::buildSections(std::span<const Section> sections, QVBoxLayout *column)
 {
-    const auto group = std::find_if(m_groups.begin(), m_groups.end(),
-                                    [command](const OptionGroupRow *row) { return row->group().command == command; });
-    return group == m_groups.end() ? nullptr : *group;
+    m_controls.build(sections, m_locks.rules(), column, [this](const char *name) { return buildPart(name); });
 }
 
-OptionGroupRow *SettingsPage::ownGroup(const char *label) const
+void SettingsPage::addUndoBar(QVBoxLayout *column)
 {
-    const auto group = std::find_if(m_ownGroups.begin(), m_ownGroups.end(), [label](const OptionGroupRow *row) {
-        return qstrcmp(row->group().label, label) == 0;
+    m_undoBar = new UndoBar(this);
+    column->addWidget(m_undoBar);
+    connect(m_undoBar, &UndoBar::undoWanted, this, [this](const UndoOffer &offer) {
+        if (setOption(offer.command, offer.before)) // else it may be tried once more
+            m_undoBar->check();
     });
-    return group == m_ownGroups.end() ? nullptr : *group;
 }
 
 void SettingsPage::showOwnValues()
 {
-    for (OptionGroupRow *row : m_ownGroups)
+    for (OptionGroupRow *row : m_controls.ownGroups())
         row->showValue(ownValue(row->group().label));
-}
-
-SliderWidget *SettingsPage::slider(const char *name) const
-{
-    const auto slider = std::find_if(m_sliders.begin(), m_sliders.end(), [name](const SliderWidget *widget) {
-        return widget->name() == QLatin1String(name);
-    });
-    return slider == m_sliders.end() ? nullptr : *slider;
-}
-
-void SettingsPage::chooseCommand(const char *sliderName, std::function<std::optional<Command>()> choose)
-{
-    for (Slider &entry : m_sliderEntries) {
-        if (entry.widget->name() == QLatin1String(sliderName))
-            entry.choose = std::move(choose);
-    }
 }
 
 void SettingsPage::apply(const std::map<Command, Rule> &rules, Command command, int value) const
@@ -77,28 +68,9 @@ bool SettingsPage::monitorHas(Command command, int value)
     return deviceState.confirmed(command) == value && readCommandOnce(readRow(command)) == value;
 }
 
-/// The group and option that an object name stands for. A name of a group without an option gives what the group holds.
-std::optional<SettingsPage::Choice> SettingsPage::choiceOf(const QString &objectName) const
-{
-    std::optional<Choice> fallback;
-    for (const OptionGroupRow *row : m_groups) {
-        const OptionGroup &group = row->group();
-        const QString prefix = QString::fromUtf8(group.label) + QLatin1Char('_');
-        if (!objectName.startsWith(prefix))
-            continue;
-        for (const Option &option : group.options) {
-            if (objectName == prefix + QString::fromUtf8(option.label))
-                return Choice{*group.command, option.value};
-        }
-        if (!fallback)
-            fallback = Choice{*group.command, deviceState.value(*group.command)};
-    }
-    return fallback;
-}
-
 void SettingsPage::onOptionClicked(QPushButton *button)
 {
-    const std::optional<Choice> choice = choiceOf(button->objectName());
+    const std::optional<PageControls::Choice> choice = m_controls.choiceOf(button->objectName());
     if (!choice)
         return;
     if (const auto veto = m_vetoes.find(choice->command); veto != m_vetoes.end() && veto->second(choice->value)) {
@@ -110,10 +82,23 @@ void SettingsPage::onOptionClicked(QPushButton *button)
         offerUndo(choice->command, before, choice->value);
 }
 
+void SettingsPage::onOwnOptionClicked(const char *group, int value)
+{
+    showResult(true); // what is said there was said of another choice
+    onButtonClicked(group, value);
+    showOwnValues();
+}
+
+void SettingsPage::offerUndo(Command command, std::optional<int> before, int value)
+{
+    if (m_undoBar && before && before != value && isRiskyChange(command, value))
+        m_undoBar->offer(optionGroup(command)->group(), *before, value);
+}
+
 bool SettingsPage::setOption(Command command, int value)
 {
     deviceState.preview(command, value); // what it locks follows before the monitor does
-    applyLocks();
+    m_locks.apply();
     apply(m_before, command, value);
     const bool ok = send(command, value);
     apply(m_after, command, value);
@@ -126,11 +111,8 @@ void SettingsPage::onSliderChanged(const QString &name, int value, bool released
 {
     if (m_updating)
         return;
-    const auto entry = std::find_if(m_sliderEntries.begin(), m_sliderEntries.end(),
-                                    [&name](const Slider &slider) { return slider.widget->name() == name; });
-    if (entry == m_sliderEntries.end())
-        return;
-    const std::optional<Command> command = commandOf(*entry);
+    const PageControls::Slider *entry = m_controls.sliderEntry(name);
+    const std::optional<Command> command = entry ? entry->command() : std::nullopt;
     if (!command)
         return;
     const SendOn sendOn = entry->spec.sendOn;
@@ -149,11 +131,6 @@ void SettingsPage::onSent(Command command, int, bool ok)
         showResult(ok);
 }
 
-std::optional<Command> SettingsPage::commandOf(const Slider &entry)
-{
-    return entry.choose ? entry.choose() : entry.spec.command;
-}
-
 void SettingsPage::showEvent(QShowEvent *event)
 {
     QLabel::showEvent(event);
@@ -167,15 +144,8 @@ void SettingsPage::reconcile()
 {
     if (!m_asksWhenShown || !isVisible())
         return;
-    std::vector<Command> commands;
-    const auto add = [this, &commands](const QWidget *control, std::optional<Command> command) {
-        if (command && control->isVisibleTo(this) && !deviceState.isFresh(*command))
-            commands.push_back(*command);
-    };
-    for (const OptionGroupRow *row : m_groups)
-        add(row, row->group().command);
-    for (const Slider &entry : m_sliderEntries)
-        add(entry.widget, commandOf(entry));
+    std::vector<Command> commands = m_controls.commandsInSight(this);
+    std::erase_if(commands, [](Command command) { return deviceState.isFresh(command); });
     if (!deviceState.isFresh(Command::SceneMode) && std::any_of(commands.begin(), commands.end(), isInSceneBlock))
         commands.insert(commands.begin(), Command::SceneMode);
     m_queue.askAll(commands, {});
@@ -206,7 +176,7 @@ void SettingsPage::onValueChanged(Command command)
         return;
     if (showsValues())
         fill(command);
-    applyLocks();
+    m_locks.apply();
     followValue(command);
     if (command == Command::SceneMode)
         followMode();
@@ -215,12 +185,12 @@ void SettingsPage::onValueChanged(Command command)
 void SettingsPage::fill(Command command)
 {
     const Updating updating(*this);
-    for (OptionGroupRow *row : m_groups) {
+    for (OptionGroupRow *row : m_controls.groups()) {
         if (row->group().command == command)
             fillRow(row);
     }
-    for (const Slider &entry : m_sliderEntries) {
-        if (commandOf(entry) == command)
+    for (const PageControls::Slider &entry : m_controls.sliderEntries()) {
+        if (entry.command() == command)
             fillSlider(entry.widget, command);
     }
 }
@@ -279,19 +249,20 @@ void SettingsPage::fillSlider(SliderWidget *slider, Command command)
 void SettingsPage::updateInterfaceData()
 {
     const Updating updating(*this);
-    for (OptionGroupRow *row : m_groups)
+    for (OptionGroupRow *row : m_controls.groups())
         fillRow(row);
-    for (const Slider &entry : m_sliderEntries) {
-        if (const std::optional<Command> command = commandOf(entry))
+    for (const PageControls::Slider &entry : m_controls.sliderEntries()) {
+        if (const std::optional<Command> command = entry.command())
             fillSlider(entry.widget, *command);
     }
     showOwnValues();
-    applyLocks();
+    m_locks.apply();
 }
 
 void SettingsPage::updateControlText()
 {
     m_texts.retranslate();
-    applyLocks();
-    showUndoTexts();
+    m_locks.apply();
+    if (m_undoBar)
+        m_undoBar->retranslate();
 }

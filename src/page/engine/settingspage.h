@@ -10,15 +10,11 @@
 
 #include "controls/valuemark.h"
 #include "page/engine/boundtexts.h"
-#include "page/engine/lockrules.h"
 #include "page/engine/page.h"
-#include "page/engine/pagetable.h"
+#include "page/engine/pagecontrols.h"
+#include "page/engine/pagelocks.h"
 
 class CommandQueue;
-class LockSign;
-class OptionGroupRow;
-class QVBoxLayout;
-class SliderWidget;
 class UndoBar;
 
 /// What every page of monitor settings is: controls built from tables, filled from the snapshot without sending, and
@@ -42,13 +38,13 @@ public:
     QWidget *widget() override { return this; }
 
     /// The controls of the monitor's settings in the order of their creation.
-    const std::vector<OptionGroupRow *> &optionGroups() const { return m_groups; }
-    const std::vector<SliderWidget *> &sliders() const { return m_sliders; }
+    const std::vector<OptionGroupRow *> &optionGroups() const { return m_controls.groups(); }
+    const std::vector<SliderWidget *> &sliders() const { return m_controls.sliders(); }
 
-    OptionGroupRow *optionGroup(Command command) const;
+    OptionGroupRow *optionGroup(Command command) const { return m_controls.group(command); }
     /// Options without a command, by their label.
-    OptionGroupRow *ownGroup(const char *label) const;
-    SliderWidget *slider(const char *name) const;
+    OptionGroupRow *ownGroup(const char *label) const { return m_controls.ownGroup(label); }
+    SliderWidget *slider(const char *name) const { return m_controls.slider(name); }
 
     /// The line that offers the way back from a risky change.
     UndoBar *undoBar() const { return m_undoBar; }
@@ -74,7 +70,7 @@ protected:
     };
 
     /// To be called before the sections are built: by these their controls are enabled and disabled.
-    void setLocks(std::span<const LockRule> locks) { m_locks = locks; }
+    void setLocks(std::span<const LockRule> locks) { m_locks.setRules(locks); }
 
     /// Builds the sections, in order, into a column; those that the monitor lacks are left out.
     void buildSections(std::span<const Section> sections, QVBoxLayout *column);
@@ -129,7 +125,10 @@ protected:
     static bool monitorHas(Command command, int value);
 
     /// Which command a slider's value goes to; nothing to send none. For sliders that serve several commands.
-    void chooseCommand(const char *sliderName, std::function<std::optional<Command>()> choose);
+    void chooseCommand(const char *sliderName, std::function<std::optional<Command>()> choose)
+    {
+        m_controls.chooseCommand(sliderName, std::move(choose));
+    }
 
     /// Sends a command at once, behind whatever a drag has left to send. True when the monitor took it.
     bool send(Command command, int value);
@@ -143,58 +142,31 @@ protected:
 
 private Q_SLOTS:
     void onOptionClicked(QPushButton *button);
+    void onOwnOptionClicked(const char *group, int value);
     void onSliderChanged(const QString &name, int value, bool released);
     void onSent(Command command, int value, bool ok);
     void onValueChanged(Command command);
 
 private:
-    struct Slider
-    {
-        SliderSpec spec;
-        SliderWidget *widget;
-        LockSign *sign; ///< null for one that no rule locks
-        std::function<std::optional<Command>()> choose;
-    };
-
-    struct Choice
-    {
-        Command command;
-        int value;
-    };
-
     using Mode = std::pair<int, std::optional<int>>; ///< shown, and what the monitor has
 
     static Mode confirmedMode();
     void followMode();
-    std::optional<Choice> choiceOf(const QString &objectName) const;
-    void addOptions(const OptionGroup &group, QVBoxLayout *column);
-    void addOwnOptions(const OptionGroup &group, QVBoxLayout *column);
-    void addSliders(const SliderGrid &grid, QVBoxLayout *column);
-    QLayout *makeSlider(const SliderSpec &spec, const SliderGrid &grid, QWidget *parent);
-    LockSign *makeSign(SliderWidget *slider);
-    void applyLocks();
     bool setOption(Command command, int value);
     void offerUndo(Command command, std::optional<int> before, int value);
-    void showUndoTexts();
-    void goTo(const LockRule *rule);
-    QWidget *controlOf(const LockTarget &target) const;
     void fillRow(OptionGroupRow *row);
     void fill(Command command);
-    static std::optional<Command> commandOf(const Slider &entry);
     void apply(const std::map<Command, Rule> &rules, Command command, int value) const;
 
     CommandQueue &m_queue;
     BoundTexts m_texts;
+    PageControls m_controls;
+    PageLocks m_locks;
     bool m_updating = false;
     bool m_asksWhenShown = false;
     Mode m_shownMode;
-    std::span<const LockRule> m_locks;
     UndoBar *m_undoBar = nullptr;
     bool m_paced = false;
-    std::vector<OptionGroupRow *> m_groups;
-    std::vector<OptionGroupRow *> m_ownGroups; ///< without a command
-    std::vector<SliderWidget *> m_sliders;
-    std::vector<Slider> m_sliderEntries;
     std::map<Command, Rule> m_before;
     std::map<Command, Rule> m_after;
     std::map<Command, std::function<bool(int)>> m_vetoes;

@@ -19,6 +19,16 @@ const QColor kGround(0x14, 0x1b, 0x18);
 const QColor kEdge(0x24, 0x33, 0x2d);
 const QColor kTime(0x7b, 0xfa, 0xdb);
 
+/// An option's value in the words of its group.
+QString wordOf(const OptionGroup &group, int value)
+{
+    for (const Option &option : group.options) {
+        if (option.value == value)
+            return QObject::tr(option.label).trimmed();
+    }
+    return QString::number(value);
+}
+
 } // namespace
 
 UndoBar::UndoBar(QWidget *parent) : QFrame(parent), m_text(new QLabel(this)), m_button(new QPushButton(this))
@@ -42,18 +52,24 @@ UndoBar::UndoBar(QWidget *parent) : QFrame(parent), m_text(new QLabel(this)), m_
     hide();
 }
 
-void UndoBar::offer(const UndoOffer &offer)
+void UndoBar::offer(const OptionGroup &group, int before, int value)
 {
-    m_offer = offer;
-    m_offer->monitor = monitorIdentity();
+    m_offer = {*group.command, before, value, monitorIdentity()};
+    m_group = group;
     m_left = kOffered;
     show();
     ++m_number;
     tick();
+    retranslate();
 }
 
-void UndoBar::setTexts(const QString &text, const QString &undo)
+void UndoBar::retranslate()
 {
+    if (!m_offer)
+        return;
+    const QString name = QObject::tr(m_group.label);
+    const QString text = QObject::tr("%1 was changed to \"%2\".").arg(name, wordOf(m_group, m_offer->value));
+    const QString undo = QObject::tr("Set %1 back to \"%2\"").arg(name, wordOf(m_group, m_offer->before));
     m_text->setText(text);
     m_button->setText(QObject::tr("Undo"));
     m_button->setAccessibleName(undo);

@@ -4,7 +4,7 @@
 
 #include <QFrame>
 
-#include "ddc_protocol/command.h"
+#include "page/engine/pagetable.h"
 #include "platform/clock.h"
 
 class QLabel;
@@ -29,14 +29,14 @@ public:
 
     explicit UndoBar(QWidget *parent);
 
-    /// Shows an offer, in place of an older one, for its whole time.
-    void offer(const UndoOffer &offer);
+    /// Offers the way back from an option of a group, in place of an older offer, for its whole time.
+    void offer(const OptionGroup &group, int before, int value);
 
     /// What is offered; nothing while the bar is hidden.
     const std::optional<UndoOffer> &offered() const { return m_offer; }
 
-    /// What happened, and what the button does, translated.
-    void setTexts(const QString &text, const QString &undo);
+    /// Says in the language of now what happened, and what the button does.
+    void retranslate();
 
     /// Takes the offer back when it does not hold any more.
     void check();
@@ -54,6 +54,7 @@ private:
     void withdraw();
 
     std::optional<UndoOffer> m_offer;
+    OptionGroup m_group{}; ///< of what is offered
     unsigned m_number = 0; ///< of the offer, so that an older one's time does not count
     platform::milliseconds m_left{0};
     QLabel *m_text;

@@ -1,4 +1,4 @@
-// The part of the page engine that enables and disables controls by a page's table, and leads to what locks them.
+#include "page/engine/pagelocks.h"
 
 #include <QScrollArea>
 
@@ -6,7 +6,7 @@
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/devicestate.h"
 #include "page/engine/optiongrouprow.h"
-#include "page/engine/settingspage.h"
+#include "page/engine/pagecontrols.h"
 
 namespace {
 
@@ -17,49 +17,58 @@ QString reasonOf(const LockRule *rule)
 
 } // namespace
 
-LockSign *SettingsPage::makeSign(SliderWidget *slider)
+PageLocks::PageLocks(const PageControls &controls) : m_controls(controls)
 {
-    auto *sign = new LockSign(slider->parentWidget());
-    QSizePolicy policy = sign->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    sign->setSizePolicy(policy);
-    connect(sign, &LockSign::pressed, this, [this, slider] { goTo(lockOf(m_locks, slider->name(), deviceState)); });
-    return sign;
+    connect(&controls, &PageControls::groupLockPressed, this, &PageLocks::onGroupLockPressed);
+    connect(&controls, &PageControls::sliderLockPressed, this, &PageLocks::onSliderLockPressed);
 }
 
-void SettingsPage::applyLocks()
+void PageLocks::apply()
 {
-    if (m_locks.empty())
+    if (m_rules.empty())
         return;
-    for (const Slider &entry : m_sliderEntries) {
+    for (const PageControls::Slider &entry : m_controls.sliderEntries()) {
         if (!entry.sign)
             continue;
-        const QString reason = reasonOf(lockOf(m_locks, entry.widget->name(), deviceState));
+        const QString reason = reasonOf(lockOf(m_rules, entry.widget->name(), deviceState));
         entry.widget->setLock(reason);
         entry.sign->setReason(reason);
     }
-    for (OptionGroupRow *row : m_groups) {
+    for (OptionGroupRow *row : m_controls.groups()) {
         QStringList reasons;
         for (const Option &option : row->group().options)
-            reasons.append(reasonOf(lockOf(m_locks, *row->group().command, option.value, deviceState)));
+            reasons.append(reasonOf(lockOf(m_rules, *row->group().command, option.value, deviceState)));
         row->setLocks(reasons);
     }
 }
 
 /// The control of this page that is to be changed first; null when the page has none.
-QWidget *SettingsPage::controlOf(const LockTarget &target) const
+QWidget *PageLocks::controlOf(const LockTarget &target) const
 {
-    if (const OptionGroupRow *row = optionGroup(target.command))
+    if (const OptionGroupRow *row = m_controls.group(target.command))
         return row->buttonOf(target.option == LockTarget::kChosenOption ? deviceState.value(target.command)
                                                                         : target.option);
-    for (const Slider &entry : m_sliderEntries) {
-        if (commandOf(entry) == target.command)
+    for (const PageControls::Slider &entry : m_controls.sliderEntries()) {
+        if (entry.command() == target.command)
             return entry.widget->slider();
     }
     return nullptr;
 }
 
-void SettingsPage::goTo(const LockRule *rule)
+void PageLocks::onGroupLockPressed(const OptionGroupRow *row)
+{
+    for (const Option &option : row->group().options) {
+        if (const LockRule *rule = lockOf(m_rules, *row->group().command, option.value, deviceState))
+            return goTo(rule);
+    }
+}
+
+void PageLocks::onSliderLockPressed(const SliderWidget *slider)
+{
+    goTo(lockOf(m_rules, slider->name(), deviceState));
+}
+
+void PageLocks::goTo(const LockRule *rule)
 {
     if (!rule)
         return;
