@@ -15,22 +15,21 @@
 #include "usb-hid/accessorylink.h"
 #include "usb-hid/accessoryupload.h"
 
-int pageLEDMatrixCanvas::framesWithRoom(const MatrixForm *form)
-{
-    return form ? static_cast<int>(kAnimationCap / form->cells()) : 0;
-}
-
 pageLEDMatrixCanvas::pageLEDMatrixCanvas(AccessoryCheck ensureConnected, QWidget *parent)
     : LongWorkPage(QStringLiteral("pageLEDMatrixCanvas"), LABEL("Custom Mode"), std::move(ensureConnected), parent),
-      m_thread(&pageLEDMatrixCanvas::sendAnmateData), m_tabs(new FrameTabs(this)), m_count(new QLabel(this))
+      CanvasQuestions(this), m_tabs(new FrameTabs(this)),
+      m_files(
+          m_drawings, *m_tabs, *work(), *this, [this] { return this->ensureConnected(); }, &sendAnmateData),
+      m_count(new QLabel(this))
 {
     m_count->setObjectName(QStringLiteral("note"));
     m_count->setFont(noteFont);
     head()->addWidget(m_count, 0, Qt::AlignBottom);
     layOut(m_tabs, 12);
     bindShortcuts();
-    connect(&m_thread, &LEDThread::progress, this, &pageLEDMatrixCanvas::onProgress);
-    connect(&m_thread, &LEDThread::workEnded, this, &pageLEDMatrixCanvas::endWork);
+    connect(&m_files, &CanvasFiles::begins, this, &pageLEDMatrixCanvas::endStrokes);
+    connect(&m_files, &CanvasFiles::changed, this, &pageLEDMatrixCanvas::updateButtons);
+    connect(&m_files, &CanvasFiles::ended, this, &pageLEDMatrixCanvas::followMatrixForm);
     connect(m_tabs, &FrameTabs::edited, this, &pageLEDMatrixCanvas::onEdited);
     connect(m_tabs, &FrameTabs::currentChanged, this, [this] { m_player.stop(); });
     connect(&m_player, &FramePlayer::frameDue, m_tabs, &FrameTabs::showInstead);
@@ -44,16 +43,14 @@ pageLEDMatrixCanvas::pageLEDMatrixCanvas(AccessoryCheck ensureConnected, QWidget
 
 pageLEDMatrixCanvas::~pageLEDMatrixCanvas()
 {
-    endStrokes();  // the cells, which go last, would end it in a page that is gone
-    stopUploads(); // the window would wait for them
-    m_thread.wait();
+    endStrokes(); // the cells, which go last, would end it in a page that is gone
 }
 
 void pageLEDMatrixCanvas::buildTools(QVBoxLayout *column, QWidget *tools)
 {
     m_tools = new CanvasTools(*this, m_player, texts(), column, tools);
     connect(m_tools, &CanvasTools::modeChosen, this,
-            [this](int index) { m_mode = static_cast<std::uint8_t>(kFirstMode + index); });
+            [this](int index) { m_files.setMode(static_cast<std::uint8_t>(kFirstMode + index)); });
     connect(m_tools, &CanvasTools::cellSizeChosen, m_tabs, &FrameTabs::setCellSize);
     connect(m_tools, &CanvasTools::onionSkinSwitched, m_tabs, &FrameTabs::setOnionSkin);
 }
@@ -85,7 +82,7 @@ void pageLEDMatrixCanvas::useForm(const MatrixForm *form)
     m_tabs->setForm(form);
     m_tabs->apply(m_drawings.state(), m_drawings.state().place);
     m_tools->useForm(form);
-    m_saved = false; // the data file is not of this form's making
+    m_files.forgetSaved(); // the data file is not of this form's making
     updateButtons();
 }
 
@@ -98,7 +95,7 @@ void pageLEDMatrixCanvas::showEvent(QShowEvent *event)
 {
     QLabel::showEvent(event);
     if (!std::exchange(m_restored, true))
-        restoreSaved();
+        m_files.restoreSaved();
     followMatrixForm();
 }
 
@@ -113,6 +110,28 @@ void pageLEDMatrixCanvas::updateControlText()
     LongWorkPage::updateControlText();
     m_tabs->updateControlText();
     updateButtons();
+}
+
+bool pageLEDMatrixCanvas::mayLeave()
+{
+    endStrokes();
+    return m_files.mayLeave();
+}
+
+void pageLEDMatrixCanvas::importAnimate()
+{
+    m_files.import(kImportStep);
+}
+
+void pageLEDMatrixCanvas::importAligned()
+{
+    if (m_drawings.form())
+        m_files.import(m_drawings.form()->cells());
+}
+
+bool pageLEDMatrixCanvas::sendAnmateData(const LEDJob &job, const std::function<void(int)> &progress)
+{
+    return uploadAnimation(job.fileName, job.mode, progress, job.stop);
 }
 
 QPushButton *pageLEDMatrixCanvas::button(const char *label) const
@@ -212,7 +231,7 @@ void pageLEDMatrixCanvas::onEdited(int index)
 
 void pageLEDMatrixCanvas::onChanged()
 {
-    m_saved = false; // what the data file holds is no longer what is drawn
+    m_files.forgetSaved(); // what the data file holds is no longer what is drawn
     work()->showNotice({});
     updateButtons();
 }
@@ -220,7 +239,7 @@ void pageLEDMatrixCanvas::onChanged()
 QString pageLEDMatrixCanvas::countText() const
 {
     const int frames = m_tabs->count();
-    const int room = framesWithRoom(m_drawings.form());
+    const int room = CanvasFiles::framesWithRoom(m_drawings.form());
     if (frames <= room)
         return QObject::tr("Frames: %1").arg(frames);
     return QObject::tr("Frames: %1, of which the accessory takes %2").arg(frames).arg(room);
@@ -229,6 +248,6 @@ QString pageLEDMatrixCanvas::countText() const
 void pageLEDMatrixCanvas::updateButtons()
 {
     m_count->setText(countText());
-    m_tools->show({m_tabs->count() > 0, m_drawings.history().canUndo(), m_drawings.history().canRedo(), m_saved,
-                   m_player.isPlaying()});
+    m_tools->show({m_tabs->count() > 0, m_drawings.history().canUndo(), m_drawings.history().canRedo(),
+                   m_files.isSaved(), m_player.isPlaying()});
 }

@@ -49,16 +49,3 @@ void LongWorkPage::updateControlText()
 {
     m_texts.retranslate();
 }
-
-void LongWorkPage::endUpload(bool complete)
-{
-    if (!complete && !m_work->hasFailed())
-        m_work->showNotice(QObject::tr("The accessory did not take everything."));
-    m_work->end(complete);
-}
-
-void LongWorkPage::tellCancelled()
-{
-    if (!m_work->hasFailed())
-        m_work->showNotice(QObject::tr("Cancelled. Nothing was changed."));
-}

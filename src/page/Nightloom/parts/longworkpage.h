@@ -40,12 +40,6 @@ protected:
     /// The user does not want the work any more; it tells its end as it always does.
     virtual void cancelWork() = 0;
 
-    /// The work has ended. Says so when the accessory did not take all of an upload, unless something worse was said.
-    void endUpload(bool complete);
-
-    /// Says that the work was ended before anything came of it, unless something worse was said.
-    void tellCancelled();
-
     /// Whether the accessory is there; the user has been told when it is not.
     bool ensureConnected() const { return m_ensureConnected(); }
 

@@ -184,3 +184,16 @@ void WorkPanel::giveFocusBack()
     if (m_focusBefore && m_focusBefore->isVisible() && (!now || now == m_cancel))
         m_focusBefore->setFocus();
 }
+
+void WorkPanel::endUpload(bool complete)
+{
+    if (!complete && !m_failed)
+        showNotice(QObject::tr("The accessory did not take everything."));
+    end(complete);
+}
+
+void WorkPanel::tellCancelled()
+{
+    if (!m_failed)
+        showNotice(QObject::tr("Cancelled. Nothing was changed."));
+}

@@ -53,6 +53,12 @@ public:
     /// was cancelled may have been @p done all the same.
     void end(bool done);
 
+    /// The work has ended. Says so when the accessory did not take all of an upload, unless something worse was said.
+    void endUpload(bool complete);
+
+    /// Says that the work was ended before anything came of it, unless something worse was said.
+    void tellCancelled();
+
     bool isBusy() const { return !m_steps.empty(); }
     bool hasFailed() const { return m_failed; }
     bool isCancelled() const { return m_cancelled; }

@@ -112,7 +112,7 @@ void pageLEDMatrixText::onUploadProgress(int value)
 void pageLEDMatrixText::onUploadEnded(bool complete)
 {
     if (std::exchange(m_uploads, false))
-        endUpload(complete);
+        work()->endUpload(complete);
 }
 
 /// Before the upload the work ends here; then the upload tells when it has ended.
@@ -121,6 +121,6 @@ void pageLEDMatrixText::cancelWork()
     if (m_uploads)
         return stopUploads();
     m_text->cancelJob();
-    tellCancelled();
+    work()->tellCancelled();
     work()->end(false);
 }

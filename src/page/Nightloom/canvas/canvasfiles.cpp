@@ -1,18 +1,18 @@
-// The canvas page's long work: files and the upload; and what is kept of the drawings when the program ends.
+#include "page/Nightloom/canvas/canvasfiles.h"
 
 #include <algorithm>
 #include <utility>
 
 #include <QFileInfo>
 
-#include "controls/filequestion.h"
-#include "controls/messagebox.h"
 #include "ledmatrix/animationfile.h"
 #include "ledmatrix/matrixform.h"
+#include "page/Nightloom/canvas/canvasquestions.h"
+#include "page/Nightloom/canvas/drawings.h"
 #include "page/Nightloom/canvas/frametabs.h"
-#include "page/Nightloom/canvas/pageledmatrixcanvas.h"
+#include "page/Nightloom/parts/workpanel.h"
 #include "page/engine/labels.h"
-#include "platform/ending.h"
+#include "usb-hid/accessorylink.h"
 #include "usb-hid/accessoryupload.h"
 
 namespace {
@@ -27,124 +27,110 @@ std::vector<WorkStep> stepsOf(LEDThread::State state, const QString &fileName)
             {LABEL("Write Data"), kAnimationPrepared, kAnimationWritten, expectedWriteTime(bytes)}};
 }
 
-QString fileFilter()
-{
-    return QObject::tr("CSV file (*.csv);");
-}
-
 } // namespace
 
-QString pageLEDMatrixCanvas::askSaveFile()
+int CanvasFiles::framesWithRoom(const MatrixForm *form)
 {
-    return askForNewFile(window(), QObject::tr("Save File"), QString(), fileFilter(), QStringLiteral("csv"));
+    return form ? static_cast<int>(kAnimationCap / form->cells()) : 0;
 }
 
-QString pageLEDMatrixCanvas::askOpenFile()
+CanvasFiles::CanvasFiles(Drawings &drawings, FrameTabs &tabs, WorkPanel &panel, CanvasQuestions &questions,
+                         AccessoryCheck ensureConnected, LEDThread::Send send)
+    : m_drawings(drawings), m_tabs(tabs), m_panel(panel), m_questions(questions),
+      m_ensureConnected(std::move(ensureConnected)), m_thread(send)
 {
-    return askForFile(window(), QObject::tr("Select File"), QString(), fileFilter());
+    connect(&m_thread, &LEDThread::progress, this, &CanvasFiles::onProgress);
+    connect(&m_thread, &LEDThread::workEnded, this, &CanvasFiles::endWork);
 }
 
-void pageLEDMatrixCanvas::warn(const QString &text)
+CanvasFiles::~CanvasFiles()
 {
-    if (platform::programEnds()) // it closed the question for the file
-        return;
-    const QString title = QObject::tr("Warning");
-    showMessage(QMessageBox::Warning, title, text, QObject::tr("OK"), QMessageBox::YesRole, window());
+    stopUploads(); // the window would wait for them
+    m_thread.wait();
 }
 
-void pageLEDMatrixCanvas::saveAnimate()
+bool CanvasFiles::isBusy() const
+{
+    return m_panel.isBusy();
+}
+
+void CanvasFiles::saveDrawing()
 {
     beginWork(LEDThread::Export, QLatin1String(kDataFile), true);
 }
 
-void pageLEDMatrixCanvas::exportAnimate()
+void CanvasFiles::exportDrawing()
 {
     if (isBusy())
         return;
-    const QString fileName = askSaveFile();
+    const QString fileName = m_questions.askSaveFile();
     if (fileName.isEmpty())
-        return warn(QObject::tr("No file path selected."));
+        return m_questions.warn(QObject::tr("No file path selected."));
     beginWork(LEDThread::Export, fileName, false);
 }
 
-void pageLEDMatrixCanvas::importAnimate()
-{
-    import(kImportStep);
-}
-
-void pageLEDMatrixCanvas::importAligned()
-{
-    if (m_drawings.form())
-        import(m_drawings.form()->cells());
-}
-
-void pageLEDMatrixCanvas::import(int frameCells)
+void CanvasFiles::import(int frameCells)
 {
     if (isBusy() || !m_drawings.form())
         return;
-    const QString fileName = askOpenFile();
+    const QString fileName = m_questions.askOpenFile();
     if (fileName.isEmpty())
-        return warn(QObject::tr("No file path selected."));
+        return m_questions.warn(QObject::tr("No file path selected."));
     const QFileInfo file(fileName);
     if (file.exists() && file.size() == 0)
-        return warn(QObject::tr("File is null."));
+        return m_questions.warn(QObject::tr("File is null."));
     m_importCells = frameCells;
     beginWork(LEDThread::Import, fileName, false);
 }
 
-void pageLEDMatrixCanvas::writeAnimate()
+void CanvasFiles::upload()
 {
-    if (isBusy() || !m_saved || !ensureConnected())
+    if (isBusy() || !m_saved || !m_ensureConnected())
         return;
     beginWork(LEDThread::Upload, m_dataFile, false);
     tellWhatIsCut();
 }
 
 /// The device has room for so many bytes, which are fewer frames of a bigger form.
-void pageLEDMatrixCanvas::tellWhatIsCut()
+void CanvasFiles::tellWhatIsCut()
 {
     const MatrixForm *form = m_drawings.form();
     const qint64 frames = form ? QFileInfo(m_dataFile).size() / form->cells() : 0;
     if (frames > framesWithRoom(form))
-        work()->showNotice(
+        m_panel.showNotice(
             QObject::tr("The accessory takes %1 of the %2 frames.").arg(framesWithRoom(form)).arg(frames));
 }
 
-bool pageLEDMatrixCanvas::sendAnmateData(const LEDJob &job, const std::function<void(int)> &progress)
-{
-    return uploadAnimation(job.fileName, job.mode, progress, job.stop);
-}
-
-void pageLEDMatrixCanvas::beginWork(LEDThread::State state, QString fileName, bool saves)
+void CanvasFiles::beginWork(LEDThread::State state, QString fileName, bool saves)
 {
     if (isBusy())
         return;
-    endStrokes();
+    Q_EMIT begins();
     m_fileBefore = std::exchange(m_dataFile, std::move(fileName));
     m_saves = saves;
     m_taken = false;
-    work()->begin(stepsOf(state, m_dataFile));
-    m_thread.begin(state, {m_tabs->digits(), m_dataFile, m_mode, uploadStop()});
+    m_panel.begin(stepsOf(state, m_dataFile));
+    m_thread.begin(state, {m_tabs.digits(), m_dataFile, m_mode, uploadStop()});
 }
 
 /// The thread tells when it has ended; an import that has not begun yet does not begin any more.
-void pageLEDMatrixCanvas::cancelWork()
+void CanvasFiles::cancel()
 {
     m_thread.requestInterruption();
     if (m_thread.state() == LEDThread::Upload)
         stopUploads();
 }
 
-void pageLEDMatrixCanvas::onProgress(int value)
+void CanvasFiles::onProgress(int value)
 {
     if (value == LEDThread::kImportNow)
         return importFrames();
     if (value == kProgressFailed)
         return fail(m_thread.error());
-    work()->showProgress(value);
+    m_panel.showProgress(value);
 }
 
-void pageLEDMatrixCanvas::endWork(bool complete)
+void CanvasFiles::endWork(bool complete)
 {
     const bool uploads = m_thread.state() == LEDThread::Upload;
     if (m_thread.state() == LEDThread::Export && complete) {
@@ -152,86 +138,85 @@ void pageLEDMatrixCanvas::endWork(bool complete)
         m_taken = true;
     }
     if (m_taken && m_saves)
-        m_saved = m_tabs->count() > 0;
+        m_saved = m_tabs.count() > 0;
     if (!uploads && !m_taken) {
         m_dataFile = m_fileBefore; // the file that is named has nothing to do with what is drawn
-        tellCancelled();
+        m_panel.tellCancelled();
     }
-    updateButtons();
+    Q_EMIT changed();
     if (uploads)
-        endUpload(complete);
+        m_panel.endUpload(complete);
     else
-        work()->end(m_taken);
-    followMatrixForm();
+        m_panel.end(m_taken);
+    Q_EMIT ended();
 }
 
 /// Neither sets the mark of what is saved nor takes it away: what is written then is the imported file.
-void pageLEDMatrixCanvas::importFrames()
+void CanvasFiles::importFrames()
 {
-    if (work()->isCancelled())
+    if (m_panel.isCancelled())
         return;
     const ReadAnimation animation = readAnimation(m_dataFile, m_importCells);
     if (!animation.error.isEmpty())
         return fail(animation.error);
-    const double sum = static_cast<double>(m_tabs->count()) + static_cast<double>(animation.frames.size());
+    const double sum = static_cast<double>(m_tabs.count()) + static_cast<double>(animation.frames.size());
     const int step = std::max(static_cast<int>(0.1 * sum), 1);
     m_drawings.replace(animation.frames);
-    m_tabs->apply(m_drawings.state(), 0, [&](int removed) {
+    m_tabs.apply(m_drawings.state(), 0, [&](int removed) {
         if (removed % step != 0)
             return;
-        work()->showProgress(static_cast<int>(removed / sum * 100.0));
-        work()->repaint(); // nothing else comes to be painted before the import has ended
+        m_panel.showProgress(static_cast<int>(removed / sum * 100.0));
+        m_panel.repaint(); // nothing else comes to be painted before the import has ended
     });
     m_drawings.history().keep();
     m_taken = true;
     tellWhatWasTaken(animation.framesInFile);
 }
 
-void pageLEDMatrixCanvas::tellWhatWasTaken(qint64 framesInFile)
+void CanvasFiles::tellWhatWasTaken(qint64 framesInFile)
 {
-    const int taken = m_tabs->count();
+    const int taken = m_tabs.count();
     if (taken == 0)
-        work()->showNotice(QObject::tr("The file holds no whole frame."));
+        m_panel.showNotice(QObject::tr("The file holds no whole frame."));
     else if (framesInFile > taken)
-        work()->showNotice(
+        m_panel.showNotice(
             QObject::tr("The file holds %1 frames; the first %2 were taken.").arg(framesInFile).arg(taken));
 }
 
-void pageLEDMatrixCanvas::fail(const QString &error)
+void CanvasFiles::fail(const QString &error)
 {
     const QString text = m_thread.state() == LEDThread::Export ? QObject::tr("The file cannot be written: %1")
                                                                : QObject::tr("The file cannot be read: %1");
-    work()->fail(text.arg(error.isEmpty() ? m_dataFile : error));
+    m_panel.fail(text.arg(error.isEmpty() ? m_dataFile : error));
 }
 
-void pageLEDMatrixCanvas::restoreSaved()
+void CanvasFiles::restoreSaved()
 {
     switch (m_drawings.restore(QLatin1String(kDataFile))) {
     case Drawings::Restored::Nothing:
     case Drawings::Restored::InAnotherForm:
         break;
     case Drawings::Restored::Shown:
-        m_tabs->apply(m_drawings.state(), 0);
-        updateButtons();
+        m_tabs.apply(m_drawings.state(), 0);
+        Q_EMIT changed();
         break;
     case Drawings::Restored::NoDrawing:
-        work()->showNotice(
+        m_panel.showNotice(
             QObject::tr("%1 holds no saved drawing. It stays as it is until you save.").arg(QLatin1String(kDataFile)));
     }
 }
 
-bool pageLEDMatrixCanvas::mayLeave()
+bool CanvasFiles::mayLeave()
 {
-    endStrokes();
     if (m_drawings.areKept())
         return true;
-    switch (askLeaving()) {
-    case Leaving::Save:
+    switch (m_questions.askLeaving()) {
+    case CanvasQuestions::Leaving::Save:
         return m_drawings.keep(
             [this](const MatrixForm &form, const QByteArrayList &digits) { return keepInFile(form, digits); });
-    case Leaving::DoNotSave:
+    case CanvasQuestions::Leaving::DoNotSave:
         return true;
-    case Leaving::Stay:
+    case CanvasQuestions::Leaving::Stay:
         break;
     }
     return false;
@@ -239,23 +224,13 @@ bool pageLEDMatrixCanvas::mayLeave()
 
 /// The form that is used has the data file; a drawing of another form would take its place there, and so gets a file
 /// that the user names. At once, for the program ends. False when it could not be kept, of which the user was told.
-bool pageLEDMatrixCanvas::keepInFile(const MatrixForm &form, const QByteArrayList &digits)
+bool CanvasFiles::keepInFile(const MatrixForm &form, const QByteArrayList &digits)
 {
-    const QString fileName = &form == m_drawings.form() ? QLatin1String(kDataFile) : askSaveFile();
+    const QString fileName = &form == m_drawings.form() ? QLatin1String(kDataFile) : m_questions.askSaveFile();
     if (fileName.isEmpty())
         return false;
     const QString error = writeAnimation(fileName, digits, [](int) { return true; });
     if (!error.isEmpty())
-        warn(QObject::tr("The file cannot be written: %1").arg(error));
+        m_questions.warn(QObject::tr("The file cannot be written: %1").arg(error));
     return error.isEmpty();
-}
-
-pageLEDMatrixCanvas::Leaving pageLEDMatrixCanvas::askLeaving()
-{
-    const bool seen = window()->isVisible() && !window()->isMinimized(); // a box would go to the tray with it
-    const int answer =
-        askOneOf(QObject::tr("Custom Mode"), QObject::tr("The drawn frames are not saved. Save them now?"),
-                 {QObject::tr("Save"), QObject::tr("Do not save"), QObject::tr("Cancel")}, seen ? window() : nullptr);
-    constexpr Leaving kAnswers[] = {Leaving::Save, Leaving::DoNotSave, Leaving::Stay};
-    return kAnswers[answer];
 }
