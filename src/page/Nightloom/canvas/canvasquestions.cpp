@@ -31,10 +31,11 @@ void CanvasQuestions::warn(const QString &text)
 
 CanvasQuestions::Leaving CanvasQuestions::askLeaving()
 {
-    const bool seen = m_asker->window()->isVisible() && !m_asker->window()->isMinimized(); // a box would go to the tray with it
-    const int answer =
-        askOneOf(QObject::tr("Custom Mode"), QObject::tr("The drawn frames are not saved. Save them now?"),
-                 {QObject::tr("Save"), QObject::tr("Do not save"), QObject::tr("Cancel")}, seen ? m_asker->window() : nullptr);
+    const bool seen =
+        m_asker->window()->isVisible() && !m_asker->window()->isMinimized(); // a box would go to the tray with it
+    const int answer = askOneOf(
+        QObject::tr("Custom Mode"), QObject::tr("The drawn frames are not saved. Save them now?"),
+        {QObject::tr("Save"), QObject::tr("Do not save"), QObject::tr("Cancel")}, seen ? m_asker->window() : nullptr);
     constexpr Leaving kAnswers[] = {Leaving::Save, Leaving::DoNotSave, Leaving::Stay};
     return kAnswers[answer];
 }
