@@ -1,10 +1,10 @@
-// The session's view of devices being plugged in and out.
+#include "devicechanges.h"
+
+#include <utility>
 
 #include <QDebug>
 
-#include "ddc_protocol/transport.h"
 #include "platform/desk.h"
-#include "searchdevicedlg.h"
 #include "sessionhost.h"
 #include "usb-hid/hidtransport.h"
 
@@ -33,56 +33,60 @@ const platform::Guid *interfaceClassOf(const platform::DeviceBroadcast *broadcas
 
 } // namespace
 
-void SearchDeviceDlg::registerNotifications()
+DeviceChanges::DeviceChanges(WId window, std::function<void(int)> searchAfter)
+    : m_window(window), m_searchAfter(std::move(searchAfter))
 {
     for (const platform::Guid &interfaceClass : {kAccessoryClass, kHidClass, kMonitorClass})
-        m_registrations.push_back(platform::desk().deviceNotifications().registerInterface(winId(), interfaceClass));
-    platform::desk().deviceNotifications().registerSystem(winId());
+        m_registrations.push_back(platform::desk().deviceNotifications().registerInterface(m_window, interfaceClass));
+    platform::desk().deviceNotifications().registerSystem(m_window);
 }
 
-bool SearchDeviceDlg::nativeEvent(const QByteArray &eventType, void *message, qintptr *result)
+DeviceChanges::~DeviceChanges()
 {
-    if (eventType == platform::kNativeEventType) {
-        const auto *native = static_cast<const platform::NativeMessage *>(message);
-        if (native->message == platform::kMessageDeviceChange) {
-            const auto *broadcast = reinterpret_cast<const platform::DeviceBroadcast *>(native->lParam);
-            if (native->wParam == platform::kDeviceRemoveComplete)
-                handleRemoval(broadcast);
-            else if (native->wParam == platform::kDeviceArrival)
-                handleArrival(broadcast);
-        }
-        const std::optional<SystemNotice> notice = systemNoticeOf(*native);
-        if (notice && m_host)
-            m_host->systemNoticed(*notice);
-    }
-    return QDialog::nativeEvent(eventType, message, result);
+    for (void *registration : m_registrations)
+        platform::desk().deviceNotifications().unregister(registration);
+    platform::desk().deviceNotifications().unregisterSystem(m_window);
 }
 
-void SearchDeviceDlg::handleRemoval(const platform::DeviceBroadcast *broadcast)
+void DeviceChanges::follow(const platform::NativeMessage &message, SessionHost *host) const
+{
+    if (message.message == platform::kMessageDeviceChange) {
+        const auto *broadcast = reinterpret_cast<const platform::DeviceBroadcast *>(message.lParam);
+        if (message.wParam == platform::kDeviceRemoveComplete)
+            handleRemoval(broadcast, host);
+        else if (message.wParam == platform::kDeviceArrival)
+            handleArrival(broadcast, host);
+    }
+    const std::optional<SystemNotice> notice = systemNoticeOf(message);
+    if (notice && host)
+        host->systemNoticed(*notice);
+}
+
+void DeviceChanges::handleRemoval(const platform::DeviceBroadcast *broadcast, SessionHost *host)
 {
     qDebug() << "devicetype=" << typeOf(broadcast) << "Device Remove";
-    if (!m_host)
+    if (!host)
         return;
-    m_host->deviceRemoved();
+    host->deviceRemoved();
     if (interfaceClassOf(broadcast))
-        m_host->deviceRemoved(); // the interface goes after the device itself
+        host->deviceRemoved(); // the interface goes after the device itself
 }
 
-void SearchDeviceDlg::handleArrival(const platform::DeviceBroadcast *broadcast)
+void DeviceChanges::handleArrival(const platform::DeviceBroadcast *broadcast, SessionHost *host) const
 {
     qDebug() << "Device Arrival\r";
     const platform::Guid *arrived = interfaceClassOf(broadcast);
     if (!arrived)
         return;
-    if (m_host)
-        m_host->deviceArrived();
+    if (host)
+        host->deviceArrived();
     // The accessory comes as itself and as a HID device, whichever is told first: what was found and opened before is
     // not what arrived now, so the lookup may not answer from memory.
     if (*arrived == kAccessoryClass || *arrived == kHidClass) {
         clearHidFlags();
-        if (m_host)
-            m_host->reopenHidDevice();
+        if (host)
+            host->reopenHidDevice();
     }
     if (*arrived == kMonitorClass)
-        requestSearchAfter(kMonitorArrivalDelay);
+        m_searchAfter(kMonitorArrivalDelay);
 }

@@ -28,55 +28,18 @@ constexpr milliseconds kPassPause{200};
 
 } // namespace
 
-SearchDeviceDlg::SearchDeviceDlg(QWidget *parent) : QDialog(parent), m_deviceBox(new QComboBox(this))
+SearchDeviceDlg::SearchDeviceDlg(QWidget *parent)
+    : QDialog(parent), m_monitors(this), m_reader([this](int delay) { requestSearchAfter(delay); })
 {
-    (new QHBoxLayout(this))->addWidget(m_deviceBox);
-    connect(m_deviceBox, &QComboBox::currentIndexChanged, this, &SearchDeviceDlg::onCurrentDeviceChanged);
+    (new QHBoxLayout(this))->addWidget(deviceBox());
+    connect(&m_monitors, &MonitorChoice::chosen, this, &SearchDeviceDlg::onCurrentDeviceChanged);
     setReconnectHandler([this] { requestReconnect(); });
-    registerNotifications();
+    m_changes.emplace(winId(), [this](int delay) { requestSearchAfter(delay); });
 }
 
 SearchDeviceDlg::~SearchDeviceDlg()
 {
     setReconnectHandler({});
-    for (void *registration : m_registrations)
-        platform::desk().deviceNotifications().unregister(registration);
-    platform::desk().deviceNotifications().unregisterSystem(winId());
-}
-
-std::uint8_t SearchDeviceDlg::storedIndex() const
-{
-    const auto index = static_cast<std::uint8_t>(settingsInt(QString::fromLatin1(kDeviceIndexKey), 0, false));
-    // Before the first search there are no labels and the subtraction wraps: any stored index is then accepted. That is
-    // meant; only the second pass falls back.
-    const quint64 highest = static_cast<quint64>(m_labels.size()) - 1;
-    const bool accepted = index <= highest && projectionMode != ProjectionMode::Clone;
-    return accepted ? index : 0;
-}
-
-void SearchDeviceDlg::fillDeviceBox()
-{
-    m_fillingBox = true;
-    m_labels = findDevices();
-    m_deviceBox->clear();
-    for (const QByteArray &label : std::as_const(m_labels)) {
-        if (!label.isEmpty())
-            m_deviceBox->addItem(QString::fromUtf8(label));
-    }
-    m_fillingBox = false;
-}
-
-void SearchDeviceDlg::chooseIndexForPass(int pass)
-{
-    const int labels = static_cast<int>(m_labels.size());
-    const int index = currentMonitorIndex;
-    if (pass == 1 && index != 0)
-        currentMonitorIndex = 0;
-    else if (pass == 1)
-        currentMonitorIndex = labels >= 2 ? 1 : 0;
-    else if (pass > 1 && index + 1 < labels)
-        currentMonitorIndex = static_cast<std::uint8_t>(index + 1);
-    qDebug() << "Connet device Count=" << m_deviceBox->count() << "disp_sle" << currentMonitorIndex.load();
 }
 
 bool SearchDeviceDlg::readForReason()
@@ -93,16 +56,14 @@ bool SearchDeviceDlg::readForReason()
 
 SearchDeviceDlg::PassResult SearchDeviceDlg::runPass(int pass)
 {
-    fillDeviceBox();
-    chooseIndexForPass(pass);
-    if (m_deviceBox->count() == 0) {
+    m_monitors.find();
+    m_monitors.chooseForPass(pass);
+    if (deviceBox()->count() == 0) {
         if (m_host)
             m_host->refreshPages();
         return PassResult::Finished;
     }
-    m_fillingBox = true;
-    m_deviceBox->setCurrentIndex(currentMonitorIndex);
-    m_fillingBox = false;
+    m_monitors.showTried();
 
     if (m_host && (reloadEdidType == kReconnect || reloadEdidType == kIdle)) {
         qDebug() << "Reconnet device...";
@@ -161,7 +122,7 @@ void SearchDeviceDlg::searchDevices()
         runRememberedSearch();
     });
     currentProjectionMode();
-    currentMonitorIndex = storedIndex();
+    currentMonitorIndex = m_monitors.storedIndex();
     m_readSucceeded = false;
     for (int pass = 0; pass < kPasses; ++pass) {
         const PassResult result = runPass(pass);
@@ -216,6 +177,13 @@ void SearchDeviceDlg::delayedSearchDevices()
     reloadEdidType = kIdle;
 }
 
+bool SearchDeviceDlg::nativeEvent(const QByteArray &eventType, void *message, qintptr *result)
+{
+    if (eventType == platform::kNativeEventType && m_changes)
+        m_changes->follow(*static_cast<const platform::NativeMessage *>(message), m_host);
+    return QDialog::nativeEvent(eventType, message, result);
+}
+
 bool SearchDeviceDlg::mayLeave()
 {
     return !m_host || m_host->mayLeave();
@@ -237,15 +205,12 @@ void SearchDeviceDlg::requestSearchAfter(int delay)
 
 void SearchDeviceDlg::onCurrentDeviceChanged(int index)
 {
-    if (m_fillingBox || index < 0)
-        return;
     // Everything shown belongs to the monitor before, down to the entries of the left bars.
     const bool leaves = mayLeave();
     const Relaunch result = leaves ? relaunchWith(QString::fromLatin1(kDeviceIndexKey), index) : Relaunch::NotStored;
     if (result == Relaunch::Begins)
         return;
-    const QSignalBlocker quiet(m_deviceBox);
-    m_deviceBox->setCurrentIndex(currentMonitorIndex);
+    m_monitors.showAgain();
     if (result == Relaunch::NotStarted)
         tellNotRestarted();
 }

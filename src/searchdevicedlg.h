@@ -1,12 +1,12 @@
 #pragma once
 
 #include <optional>
-#include <vector>
 
-#include <QByteArrayList>
 #include <QDialog>
 
-#include "platform/nativemessage.h"
+#include "devicechanges.h"
+#include "monitorchoice.h"
+#include "snapshotreader.h"
 
 class QComboBox;
 class SessionHost;
@@ -35,19 +35,19 @@ public:
     bool mayLeave();
 
     /// Reads the whole snapshot. False when the monitor tells no scene mode.
-    bool readDataFromDevice();
+    bool readDataFromDevice() { return m_reader.readAll(); }
 
     /// Reads the scene-mode block of an even mode; safe from the scene-mode worker. A short block schedules a
     /// reconnection and gives false. A positive odd mode gives false, a negative odd one true, both without reading:
     /// callers rely on that asymmetry.
-    bool readSceneModeData(int mode);
+    bool readSceneModeData(int mode) { return m_reader.readSceneBlock(mode); }
 
     /// The labels of the last search, in the order of monitorList.
-    const QByteArrayList &labels() const { return m_labels; }
+    const QByteArrayList &labels() const { return m_monitors.labels(); }
     /// Whether a search is under way: what it reads must not be mixed with other questions.
     bool isSearching() const { return m_searching; }
 
-    QComboBox *deviceBox() const { return m_deviceBox; }
+    QComboBox *deviceBox() const { return m_monitors.box(); }
 
     bool nativeEvent(const QByteArray &eventType, void *message, qintptr *result) override;
 
@@ -64,9 +64,6 @@ private Q_SLOTS:
 private:
     enum class PassResult { Next, Finished, Abandoned };
 
-    std::uint8_t storedIndex() const;
-    void fillDeviceBox();
-    void chooseIndexForPass(int pass);
     PassResult runPass(int pass);
     bool readForReason();
     bool refusesSearch();
@@ -75,15 +72,11 @@ private:
     void requestSearchAfter(int delay);
     void requestReconnect();
     void goOnWithoutCopy();
-    void registerNotifications();
-    void handleArrival(const platform::DeviceBroadcast *broadcast);
-    void handleRemoval(const platform::DeviceBroadcast *broadcast);
 
     SessionHost *m_host = nullptr;
-    QComboBox *m_deviceBox;
-    QByteArrayList m_labels;
-    std::vector<void *> m_registrations;
-    bool m_fillingBox = false;
+    MonitorChoice m_monitors;
+    SnapshotReader m_reader;
+    std::optional<DeviceChanges> m_changes; ///< while there is a window that can be told
     bool m_readSucceeded = false;
     bool m_searching = false;        ///< refuses a search within a search
     std::optional<int> m_remembered; ///< the reason of what was refused meanwhile

@@ -1,4 +1,6 @@
-// The session's reads: the whole snapshot, and the block of one scene mode.
+#include "snapshotreader.h"
+
+#include <utility>
 
 #include <QDebug>
 #include <QProgressDialog>
@@ -8,7 +10,6 @@
 #include "ddc_protocol/transport.h"
 #include "platform/desk.h"
 #include "platform/ending.h"
-#include "searchdevicedlg.h"
 #include "snapshotreads.h"
 
 using platform::milliseconds;
@@ -81,7 +82,11 @@ void prepare(QProgressDialog &progress, bool care)
 
 } // namespace
 
-bool SearchDeviceDlg::readDataFromDevice()
+SnapshotReader::SnapshotReader(SearchAfter searchAfter) : m_searchAfter(std::move(searchAfter))
+{
+}
+
+bool SnapshotReader::readAll() const
 {
     qDebug() << "ReadData from device begin ...";
     deviceState.forgetSettings();
@@ -95,7 +100,7 @@ bool SearchDeviceDlg::readDataFromDevice()
     readGroup(audioReads(), progress);
     if (care)
         readGroup(careReads(), progress);
-    readSceneModeData(deviceState.value(Command::SceneMode));
+    readSceneBlock(deviceState.value(Command::SceneMode));
     progress.setValue(progress.value() + 1);
     readGroup(modelReads(), progress);
     readOfficeArea();
@@ -105,7 +110,7 @@ bool SearchDeviceDlg::readDataFromDevice()
     return !platform::programEnds();
 }
 
-bool SearchDeviceDlg::readSceneModeData(int mode)
+bool SnapshotReader::readSceneBlock(int mode) const
 {
     if (mode % 2 != 0) {
         if (mode > 0)
@@ -120,7 +125,7 @@ bool SearchDeviceDlg::readSceneModeData(int mode)
     if (!bytes || tableReadLength != kSceneBlockSize) {
         qDebug() << "get cust buffer failed, datelen= " << tableReadLength.load();
         reloadEdidType = kReconnect;
-        requestSearchAfter(kBrokenBlockDelay);
+        m_searchAfter(kBrokenBlockDelay);
         return false;
     }
     deviceState.storeSceneBlock(mode, std::span<const std::uint8_t, kSceneBlockSize>(bytes, kSceneBlockSize));
