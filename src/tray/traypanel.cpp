@@ -3,12 +3,11 @@
 #include <algorithm>
 
 #include <QAbstractButton>
-#include <QButtonGroup>
-#include <QComboBox>
+#include <QGridLayout>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QPainter>
 #include <QScrollArea>
-#include <QStandardItemModel>
 #include <QStyleOption>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -17,21 +16,22 @@
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/devicestate.h"
-#include "ddc_protocol/scenemodes.h"
 #include "ddc_protocol/settingsstore.h"
-#include "navigation.h"
-#include "page/engine/halfbutton.h"
-#include "page/engine/listed.h"
 #include "page/engine/optiongrouprow.h"
+#include "page/engine/pagestyle.h"
 #include "page/engine/storenotice.h"
+#include "tray/traypanelfooter.h"
+#include "tray/trayscene.h"
 
-/// A line that cannot be chosen.
-static void addHeading(QComboBox *box, const char *label)
-{
-    box->addItem(QObject::tr(label));
-    auto *model = qobject_cast<QStandardItemModel *>(box->model());
-    model->item(box->count() - 1)->setEnabled(false);
-}
+namespace {
+
+constexpr int kWidth = 360;
+constexpr int kMargin = 20;
+constexpr int kRowSpacing = 14;
+constexpr int kNamePixels = 17;
+constexpr int kStatePixels = 14;
+
+} // namespace
 
 TrayPanel::TrayPanel(CommandQueue &queue)
     : SettingsPage(queue), m_choices(trayChoices(deviceState)), m_chosen(storedTrayChoices(m_choices))
@@ -41,6 +41,78 @@ TrayPanel::TrayPanel(CommandQueue &queue)
     build();
     showChosen();
     updateControlText();
+}
+
+void TrayPanel::build()
+{
+    setObjectName(QStringLiteral("TrayPanel"));
+    setWindowTitle(QStringLiteral("QUORVEL"));
+    setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::NoDropShadowWindowHint);
+    setAttribute(Qt::WA_TranslucentBackground);
+    dressPage(this);
+    setFixedWidth(kWidth);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(kMargin, 16, kMargin, 12);
+    column->setSpacing(12);
+    column->addWidget(buildHeader());
+    auto *line = new QFrame(this);
+    line->setObjectName(QStringLiteral("line"));
+    line->setFixedHeight(1);
+    column->addWidget(line);
+    m_scroll = new QScrollArea(this);
+    m_scroll->setWidgetResizable(true);
+    m_scroll->setFrameShape(QFrame::NoFrame);
+    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_scroll->setFocusPolicy(Qt::NoFocus);
+    m_scroll->setWidget(buildBody());
+    column->addWidget(m_scroll);
+    m_footer = new TrayPanelFooter(m_choices, m_chosen, column, this);
+    connect(m_footer, &TrayPanelFooter::chosen, this, &TrayPanel::choose);
+}
+
+QWidget *TrayPanel::buildHeader()
+{
+    auto *header = new QWidget(this);
+    m_name = new CaptionLabel(QString(), kNamePixels, header);
+    m_name->setObjectName(QStringLiteral("title"));
+    m_state = new CaptionLabel(QString(), kStatePixels, header);
+    m_state->setObjectName(QStringLiteral("note"));
+    m_dot = new QLabel(QStringLiteral("●"), header);
+    m_dot->setObjectName(QStringLiteral("panelDot"));
+    m_sceneMark = new ValueMark(header);
+    auto *grid = new QGridLayout(header);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setVerticalSpacing(4);
+    grid->addWidget(m_name, 0, 0);
+    grid->addWidget(m_dot, 0, 1, Qt::AlignRight);
+    grid->addWidget(m_state, 1, 0);
+    grid->addWidget(m_sceneMark, 1, 1, Qt::AlignRight | Qt::AlignVCenter);
+    grid->setColumnStretch(0, 1);
+    return header;
+}
+
+QWidget *TrayPanel::buildBody()
+{
+    m_body = new QWidget(this);
+    m_body->setObjectName(QStringLiteral("customArea"));
+    auto *column = new QVBoxLayout(m_body);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(12);
+    m_scene = new TrayScene(texts(), column, m_body);
+    connect(m_scene, &TrayScene::sceneChosen, this, [this](int value) {
+        Q_EMIT sceneChosen(value);
+        showScene();
+    });
+    connect(m_scene, &TrayScene::halfChosen, this, [this](bool defaultView) {
+        Q_EMIT halfChosen(defaultView);
+        showScene();
+    });
+    m_places = new QVBoxLayout;
+    m_places->setSpacing(kRowSpacing);
+    column->addSpacing(4);
+    column->addLayout(m_places);
+    column->addStretch(1);
+    return m_body;
 }
 
 TrayPanel::Row &TrayPanel::rowOf(const TrayControl &control)
@@ -82,7 +154,7 @@ void TrayPanel::showChosen()
 /// From the first control to the last as they stand, whenever they were made.
 void TrayPanel::orderKeyboard()
 {
-    QWidget *before = m_custom;
+    QWidget *before = m_scene->last();
     const auto append = [&before](QWidget *next) {
         setTabOrder(before, next);
         before = next;
@@ -93,7 +165,7 @@ void TrayPanel::orderKeyboard()
                 append(widget);
         }
     }
-    append(m_chooser);
+    append(m_footer->chooser());
 }
 
 void TrayPanel::choose(std::size_t place, Command command)
@@ -103,7 +175,7 @@ void TrayPanel::choose(std::size_t place, Command command)
         *elsewhere = m_chosen[place];
     m_chosen[place] = command;
     const bool stored = storeTrayChoices(m_choices, m_chosen);
-    showHint(stored ? QString() : storeNotice(Unstored::HoldsUntilExit, QLatin1String(kConfigFile)));
+    m_footer->showHint(stored ? QString() : storeNotice(Unstored::HoldsUntilExit, QLatin1String(kConfigFile)));
     showChosen();
     reconcile();
     Q_EMIT contentChanged();
@@ -115,7 +187,7 @@ void TrayPanel::showStatus(const MonitorStatus &status)
     m_name->setText(status.name.isEmpty() ? QStringLiteral("–") : status.name);
     m_dot->setAccessibleName(status.state);
     m_dot->setStyleSheet(status.isGood ? QStringLiteral("color: #00ff71;") : QStringLiteral("color: #da676d;"));
-    fillScene();
+    showScene();
 }
 
 void TrayPanel::setUsable(bool usable)
@@ -125,16 +197,16 @@ void TrayPanel::setUsable(bool usable)
     if (!usable)
         m_focusBefore = focusWidget();
     m_body->setEnabled(usable);
-    m_chooser->setEnabled(usable);
+    m_footer->chooser()->setEnabled(usable);
     if (usable && m_focusBefore) // disabling takes the keyboard's place away
         m_focusBefore->setFocus();
 }
 
 void TrayPanel::begin()
 {
-    fillScenes(); // the model may be another one than it was
-    fillScene();
-    m_scene->setFocus(Qt::ActiveWindowFocusReason);
+    m_scene->fill(); // the model may be another one than it was
+    showScene();
+    m_scene->begin();
 }
 
 void TrayPanel::fitInto(int height)
@@ -148,30 +220,12 @@ void TrayPanel::fitInto(int height)
     layout()->activate();
 }
 
-void TrayPanel::fillScenes()
-{
-    m_scene->clear();
-    for (int family = 0; family < kSceneFamilies; ++family) {
-        const auto modes = sceneModesOf(static_cast<SceneFamily>(family), deviceState);
-        if (!modes.empty())
-            addHeading(m_scene, navigationFamilies()[static_cast<std::size_t>(family)].label);
-        for (const SceneMode *mode : modes)
-            m_scene->addItem(QObject::tr(mode->label), mode->value);
-    }
-}
-
-void TrayPanel::fillScene()
+void TrayPanel::showScene()
 {
     const Mark mark = markOf(Command::SceneMode);
-    const int value = deviceState.value(Command::SceneMode);
-    const SceneMode *mode = mark != Mark::Unknown ? sceneModeOf(value) : nullptr;
-    m_scene->setCurrentIndex(mode ? m_scene->findData(mode->value) : -1);
-    QPushButton *half = value % 2 != 0 ? m_default : m_custom;
-    checkOnly(*m_halves, mode ? half : nullptr);
-    const QString scene = mode ? listed({QObject::tr(mode->label), half->text()}) : QStringLiteral("–");
-    m_state->setText(QStringLiteral("%1 · %2").arg(m_status.state, scene));
+    m_scene->show(mark);
+    m_state->setText(QStringLiteral("%1 · %2").arg(m_status.state, m_scene->words()));
     m_sceneMark->setMark(mark);
-    m_scene->setAccessibleDescription(markText(mark));
     setAccessibleName(QStringLiteral("%1 %2").arg(m_name->text(), m_state->text()));
 }
 
@@ -194,24 +248,15 @@ void TrayPanel::updateInterfaceData()
     SettingsPage::updateInterfaceData();
     for (auto &[command, row] : m_rows)
         showTwoOptions(row);
-    fillScene();
+    showScene();
 }
 
 void TrayPanel::updateControlText()
 {
     SettingsPage::updateControlText();
-    m_scene->setAccessibleName(QObject::tr("Scene"));
-    m_chooser->setAccessibleName(QObject::tr("Choose the controls"));
-    m_chooser->setToolTip(QObject::tr("Choose the controls"));
-    showHint();
-    fillScenes();
-    fillScene();
-}
-
-void TrayPanel::showHint(const QString &notice)
-{
-    m_hint->setStyleSheet(notice.isEmpty() ? QString() : QStringLiteral("color: #da676d;"));
-    m_hint->setText(notice.isEmpty() ? QObject::tr("Wheel: one step · Tab, arrows · Esc closes") : notice);
+    m_footer->updateControlText();
+    m_scene->fill();
+    showScene();
 }
 
 void TrayPanel::followValue(Command command)
@@ -220,16 +265,6 @@ void TrayPanel::followValue(Command command)
         return updateInterfaceData();
     if (const auto row = m_rows.find(command); row != m_rows.end())
         showTwoOptions(row->second);
-}
-
-/// Arrows open the list of modes: a held key must not send the monitor through all of them.
-bool TrayPanel::eventFilter(QObject *watched, QEvent *event)
-{
-    const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent *>(event)->key() : 0;
-    if (watched != m_scene || (key != Qt::Key_Up && key != Qt::Key_Down))
-        return SettingsPage::eventFilter(watched, event);
-    m_scene->showPopup();
-    return true;
 }
 
 void TrayPanel::keyPressEvent(QKeyEvent *event)

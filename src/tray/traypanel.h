@@ -10,12 +10,9 @@
 #include "tray/traypanelchoices.h"
 
 class CaptionLabel;
-class QButtonGroup;
-class QComboBox;
-class QMenu;
-class QPushButton;
 class QScrollArea;
-class QToolButton;
+class TrayPanelFooter;
+class TrayScene;
 
 /// The small panel of the tray icon: what is changed most, for whoever does not want the whole window. A page of
 /// settings like any other, with the same snapshot and the same queue, on a window of its own.
@@ -55,7 +52,6 @@ Q_SIGNALS:
 
 protected:
     void followValue(Command command) override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
@@ -70,16 +66,11 @@ private:
     void build();
     QWidget *buildHeader();
     QWidget *buildBody();
-    QWidget *buildHalves();
-    QWidget *buildFooter();
-    void fillMenu(QMenu *menu);
     Row &rowOf(const TrayControl &control);
     void showChosen();
     void orderKeyboard();
-    void fillScenes();
-    void fillScene();
+    void showScene();
     void showTwoOptions(Row &row);
-    void showHint(const QString &notice = {});
 
     const std::vector<TrayControl> m_choices;
     std::vector<Command> m_chosen;
@@ -91,12 +82,8 @@ private:
     ValueMark *m_sceneMark = nullptr;
     QScrollArea *m_scroll = nullptr;
     QWidget *m_body = nullptr;
-    QComboBox *m_scene = nullptr;
-    QButtonGroup *m_halves = nullptr;
-    QPushButton *m_default = nullptr;
-    QPushButton *m_custom = nullptr;
+    TrayScene *m_scene = nullptr;
     QVBoxLayout *m_places = nullptr;
-    QLabel *m_hint = nullptr;
-    QToolButton *m_chooser = nullptr;
+    TrayPanelFooter *m_footer = nullptr;
     QPointer<QWidget> m_focusBefore; ///< while nothing can be chosen
 };

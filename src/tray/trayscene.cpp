@@ -1,0 +1,101 @@
+#include "tray/trayscene.h"
+
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QStandardItemModel>
+
+#include "ddc_protocol/devicestate.h"
+#include "ddc_protocol/scenemodes.h"
+#include "navigation.h"
+#include "page/engine/boundtexts.h"
+#include "page/engine/dropdown.h"
+#include "page/engine/halfbutton.h"
+#include "page/engine/listed.h"
+#include "page/engine/optiongrouprow.h"
+
+static constexpr int kControlHeight = 36;
+
+/// A line that cannot be chosen.
+static void addHeading(QComboBox *box, const char *label)
+{
+    box->addItem(QObject::tr(label));
+    auto *model = qobject_cast<QStandardItemModel *>(box->model());
+    model->item(box->count() - 1)->setEnabled(false);
+}
+
+TrayScene::TrayScene(BoundTexts &texts, QVBoxLayout *column, QWidget *body) : QObject(body), m_scene(makeDropDown(body))
+{
+    m_scene->setFixedHeight(kControlHeight);
+    m_scene->setPlaceholderText(QStringLiteral("–"));
+    m_scene->setMaxVisibleItems(12);
+    m_scene->installEventFilter(this);
+    connect(m_scene, &QComboBox::activated, this,
+            [this](int index) { Q_EMIT sceneChosen(m_scene->itemData(index).toInt()); });
+    column->addWidget(m_scene);
+    column->addWidget(buildHalves(texts, body));
+}
+
+QWidget *TrayScene::buildHalves(BoundTexts &texts, QWidget *body)
+{
+    auto *halves = new QWidget(body);
+    auto *row = new QHBoxLayout(halves);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(8);
+    m_halves = new QButtonGroup(halves);
+    m_default = new QPushButton(halves);
+    m_custom = new QPushButton(halves);
+    for (QPushButton *half : {m_default, m_custom}) {
+        half->setProperty("half", true);
+        half->setCheckable(true);
+        half->setFocusPolicy(Qt::StrongFocus);
+        half->setFixedHeight(kControlHeight);
+        texts.bind(half == m_default ? kDefaultLabel : kCustomLabel,
+                   [half](const QString &text) { half->setText(text.trimmed()); });
+        m_halves->addButton(half);
+        row->addWidget(half, 1);
+        connect(half, &QPushButton::clicked, this, [this, half] { Q_EMIT halfChosen(half == m_default); });
+    }
+    return halves;
+}
+
+void TrayScene::fill()
+{
+    m_scene->setAccessibleName(QObject::tr("Scene"));
+    m_scene->clear();
+    for (int family = 0; family < kSceneFamilies; ++family) {
+        const auto modes = sceneModesOf(static_cast<SceneFamily>(family), deviceState);
+        if (!modes.empty())
+            addHeading(m_scene, navigationFamilies()[static_cast<std::size_t>(family)].label);
+        for (const SceneMode *mode : modes)
+            m_scene->addItem(QObject::tr(mode->label), mode->value);
+    }
+}
+
+void TrayScene::show(Mark mark)
+{
+    const int value = deviceState.value(Command::SceneMode);
+    const SceneMode *mode = mark != Mark::Unknown ? sceneModeOf(value) : nullptr;
+    m_scene->setCurrentIndex(mode ? m_scene->findData(mode->value) : -1);
+    QPushButton *half = value % 2 != 0 ? m_default : m_custom;
+    checkOnly(*m_halves, mode ? half : nullptr);
+    m_words = mode ? listed({QObject::tr(mode->label), half->text()}) : QStringLiteral("–");
+    m_scene->setAccessibleDescription(markText(mark));
+}
+
+void TrayScene::begin()
+{
+    m_scene->setFocus(Qt::ActiveWindowFocusReason);
+}
+
+/// Arrows open the list of modes: a held key must not send the monitor through all of them.
+bool TrayScene::eventFilter(QObject *watched, QEvent *event)
+{
+    const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent *>(event)->key() : 0;
+    if (watched != m_scene || (key != Qt::Key_Up && key != Qt::Key_Down))
+        return QObject::eventFilter(watched, event);
+    m_scene->showPopup();
+    return true;
+}
