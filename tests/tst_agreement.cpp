@@ -7,6 +7,8 @@
 #include "ddc_protocol/commandtable.h"
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/scenemodes.h"
+#include "following/followscenes.h"
+#include "globalapplication.h"
 #include "page/BasicSetting/systemtable.h"
 #include "page/Game/picturetable.h"
 #include "page/IO/iotable.h"
@@ -15,6 +17,7 @@
 #include "shortcut/shortcutfunctions.h"
 #include "support/deskfixture.h"
 #include "support/vendorpairs.h"
+#include "toollanguage.h"
 #include "virtualdesk/osdfunctions.h"
 
 using namespace virtualdesk;
@@ -188,6 +191,29 @@ private Q_SLOTS:
         for (const auto &[difference, models] : m_differences)
             qWarning().noquote() << difference << models.values().join(", ");
         QVERIFY(m_differences.empty());
+    }
+
+    /// Lists and rules find a scene or a function by the name that is shown.
+    void namesOfEachLanguage()
+    {
+        GlobalApplication application;
+        QStringList doubled;
+        for (const ToolLanguage &language : toolLanguages()) {
+            application.switchApplicationLanguage(language.code);
+            const auto differ = [&](const auto &rows, auto name) {
+                QSet<QString> names;
+                for (const auto &row : rows) {
+                    const QString shown = QObject::tr(row.*name).trimmed();
+                    if (names.contains(shown))
+                        doubled << QString(language.code) + ": " + shown;
+                    names << shown;
+                }
+            };
+            differ(shortcutFunctions(), &ShortcutFunction::name);
+            differ(followScenes(), &FollowScene::name);
+            differ(sceneModes(), &SceneMode::label);
+        }
+        QCOMPARE(doubled, QStringList());
     }
 };
 

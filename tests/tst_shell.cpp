@@ -89,7 +89,7 @@ void TestShell::languages()
     QStringList shown;
     for (const char *source : {"Brightness", "Contrast", "LANGUAGE_SHORTCUTKEY", "Follow Setting", "LANGUAGE_ADD_KEY"})
         shown << partial.translate("QObject", source);
-    QCOMPARE(shown.join('|'), "Heleco|Kontrasto|Shortcut Keys|Scene Following|Add Hotkey");
+    QCOMPARE(shown.join('|'), "Heleco|Kontrasto|Shortcut Keys|Scene Following|Add Shortcut");
     for (const QString &line : m_desk->takeLog())
         QVERIFY(line.size() < 1000); // whatever the settings file holds, the log stays readable
 }

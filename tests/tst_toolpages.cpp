@@ -155,7 +155,7 @@ void TestToolPages::startUpIsWrittenOrFallsBack()
 
 void TestToolPages::overlayAndLimitAreSwitched()
 {
-    for (const QString name : {"Hotkey overlay_No", "Hotkey overlay_Yes", "Hotkey overlay_Yes"}) {
+    for (const QString name : {"Shortcut overlay_No", "Shortcut overlay_Yes", "Shortcut overlay_Yes"}) {
         press(name);
         QVERIFY(hotkeyOverlayOn() == name.endsWith("Yes") && isChecked(name));
     }
@@ -163,8 +163,8 @@ void TestToolPages::overlayAndLimitAreSwitched()
     QVERIFY(!automaticWritesADay() && toolPage().notice().isEmpty());
     QFile::remove(QStringLiteral("config.ini"));
     QVERIFY(QDir().mkpath(QStringLiteral("config.ini/full"))); // nothing can be stored
-    press("Hotkey overlay_No");
-    QVERIFY(toolPage().notice().contains("config.ini") && isChecked("Hotkey overlay_Yes"));
+    press("Shortcut overlay_No");
+    QVERIFY(toolPage().notice().contains("config.ini") && isChecked("Shortcut overlay_Yes"));
 }
 
 /// Nothing of it is there before, and it costs nothing while another panel is shown.

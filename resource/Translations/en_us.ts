@@ -108,6 +108,10 @@
         <translation>%1, frames: %2</translation>
     </message>
     <message>
+        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
+        <translation>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</translation>
+    </message>
+    <message>
         <source>1 Hour</source>
         <translation>1 Hour</translation>
     </message>
@@ -204,10 +208,6 @@
         <translation>9300K</translation>
     </message>
     <message>
-        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
-        <translation>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</translation>
-    </message>
-    <message>
         <source>A WAV file</source>
         <translation>A WAV file</translation>
     </message>
@@ -300,8 +300,8 @@
         <translation>All file (*.*)</translation>
     </message>
     <message>
-        <source>All hot keys rest while the switch above is off.</source>
-        <translation>All hot keys rest while the switch above is off.</translation>
+        <source>All shortcuts rest while the switch above is off.</source>
+        <translation>All shortcuts rest while the switch above is off.</translation>
     </message>
     <message>
         <source>American broadcasting primaries.</source>
@@ -488,8 +488,8 @@
         <translation>Cell Size</translation>
     </message>
     <message>
-        <source>Changes count once you press &quot;%1&quot;.</source>
-        <translation>Changes count once you press &quot;%1&quot;.</translation>
+        <source>Changes take effect when you press &quot;%1&quot;.</source>
+        <translation>Changes take effect when you press &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Channels</source>
@@ -936,10 +936,6 @@
         <translation>Hotkey conflict</translation>
     </message>
     <message>
-        <source>Hotkey overlay</source>
-        <translation>Hotkey overlay</translation>
-    </message>
-    <message>
         <source>How the link to the monitor has been since the program started.</source>
         <translation>How the link to the monitor has been since the program started.</translation>
     </message>
@@ -1021,7 +1017,7 @@
     </message>
     <message>
         <source>LANGUAGE_ADD_KEY</source>
-        <translation>Add Hotkey</translation>
+        <translation>Add Shortcut</translation>
     </message>
     <message>
         <source>LANGUAGE_SHORTCUTKEY</source>
@@ -1308,16 +1304,16 @@
         <translation>No file path selected.</translation>
     </message>
     <message>
-        <source>No hot keys yet: choose a function above and add it.</source>
-        <translation>No hot keys yet: choose a function above and add it.</translation>
-    </message>
-    <message>
         <source>No limit</source>
         <translation>No limit</translation>
     </message>
     <message>
         <source>No programs yet: add one and choose its scene.</source>
         <translation>No programs yet: add one and choose its scene.</translation>
+    </message>
+    <message>
+        <source>No shortcuts yet: choose a function above and add it.</source>
+        <translation>No shortcuts yet: choose a function above and add it.</translation>
     </message>
     <message>
         <source>Noise</source>
@@ -1744,8 +1740,8 @@
         <translation>Set %1 back to &quot;%2&quot;</translation>
     </message>
     <message>
-        <source>Set everything back to how the monitor left the factory? It will be away for some seconds.</source>
-        <translation>Set everything back to how the monitor left the factory? It will be away for some seconds.</translation>
+        <source>Set everything back to how the monitor left the factory? The screen goes dark for a few seconds.</source>
+        <translation>Set everything back to how the monitor left the factory? The screen goes dark for a few seconds.</translation>
     </message>
     <message>
         <source>Shadow Balance</source>
@@ -1762,6 +1758,10 @@
     <message>
         <source>Shortcut Key</source>
         <translation>Shortcut Key</translation>
+    </message>
+    <message>
+        <source>Shortcut overlay</source>
+        <translation>Shortcut overlay</translation>
     </message>
     <message>
         <source>Show</source>
@@ -2188,6 +2188,10 @@
         <translation>Type the combination here, then press it on the whole desktop</translation>
     </message>
     <message>
+        <source>Type the text for the matrix.</source>
+        <translation>Type the text for the matrix.</translation>
+    </message>
+    <message>
         <source>Type-B</source>
         <translation>Type-B</translation>
     </message>
@@ -2334,10 +2338,6 @@
     <message>
         <source>Write Data</source>
         <translation>Write Data</translation>
-    </message>
-    <message>
-        <source>Write here what the matrix shall show.</source>
-        <translation>Write here what the matrix shall show.</translation>
     </message>
     <message>
         <source>Written today</source>

@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>%1 cannot be written: what is set here lasts until the program ends.</source>
-        <translation>%1 に書き込めません。ここでの設定はプログラムの終了まで有効です。</translation>
+        <translation>%1 に書き込めません。ここでの設定はアプリの終了まで有効です。</translation>
     </message>
     <message>
         <source>%1 holds no saved drawing. It stays as it is until you save.</source>
@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>%1 is taken by another program or function and does nothing here.</source>
-        <translation>%1 は他のプログラムまたは機能が使用中のため、ここでは動作しません。</translation>
+        <translation>%1 は他のアプリまたは機能が使用中のため、ここでは動作しません。</translation>
     </message>
     <message>
         <source>%1 ms</source>
@@ -77,15 +77,15 @@
     </message>
     <message>
         <source>%1 was changed to &quot;%2&quot;.</source>
-        <translation>%1を「%2」に変更しました。</translation>
+        <translation>「%1」を「%2」に変更しました。</translation>
     </message>
     <message>
         <source>%1 was not taken</source>
-        <translation>%1を設定できませんでした</translation>
+        <translation>「%1」を設定できませんでした</translation>
     </message>
     <message>
         <source>%1 was not told</source>
-        <translation>%1を読み取れませんでした</translation>
+        <translation>「%1」を読み取れませんでした</translation>
     </message>
     <message>
         <source>%1 · %2</source>
@@ -106,6 +106,10 @@
     <message>
         <source>%1, frames: %2</source>
         <translation>%1、フレーム数: %2</translation>
+    </message>
+    <message>
+        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
+        <translation>&lt;font color=white&gt;ディスプレイ情報を取得しています...&lt;/font&gt;</translation>
     </message>
     <message>
         <source>1 Hour</source>
@@ -204,10 +208,6 @@
         <translation>9300K</translation>
     </message>
     <message>
-        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
-        <translation>&lt;font color=white&gt;ディスプレイ情報を取得しています...&lt;/font&gt;</translation>
-    </message>
-    <message>
         <source>A WAV file</source>
         <translation>WAV ファイル</translation>
     </message>
@@ -285,23 +285,23 @@
     </message>
     <message>
         <source>Alignment_4</source>
-        <translation>位置合わせ 4</translation>
+        <translation>4 分割</translation>
     </message>
     <message>
         <source>Alignment_6</source>
-        <translation>位置合わせ 6</translation>
+        <translation>6 分割</translation>
     </message>
     <message>
         <source>Alignment_9</source>
-        <translation>位置合わせ 9</translation>
+        <translation>9 分割</translation>
     </message>
     <message>
         <source>All file (*.*)</source>
         <translation>すべてのファイル (*.*)</translation>
     </message>
     <message>
-        <source>All hot keys rest while the switch above is off.</source>
-        <translation>上のスイッチがオフの間、すべてのホットキーは休止します。</translation>
+        <source>All shortcuts rest while the switch above is off.</source>
+        <translation>上のスイッチがオフの間、ショートカットキーはすべて働きません。</translation>
     </message>
     <message>
         <source>American broadcasting primaries.</source>
@@ -313,19 +313,19 @@
     </message>
     <message>
         <source>Angle close</source>
-        <translation>角度オフ</translation>
+        <translation>オフ</translation>
     </message>
     <message>
         <source>Animate</source>
-        <translation>アニメ</translation>
+        <translation>アニメーション</translation>
     </message>
     <message>
         <source>Animate Mode</source>
-        <translation>アニメモード</translation>
+        <translation>アニメーションモード</translation>
     </message>
     <message>
         <source>Animate: 1050 cells a frame. Aligned: %1, as this form saves.</source>
-        <translation>アニメ: 1フレーム1050セル。整列: この形状の%1セル。</translation>
+        <translation>アニメーション: 1 フレーム 1050 セル。整列: この形状で保存するときと同じ %1 セル。</translation>
     </message>
     <message>
         <source>Animations</source>
@@ -333,15 +333,15 @@
     </message>
     <message>
         <source>Another device becomes the default one</source>
-        <translation>別のデバイスが既定になります</translation>
+        <translation>別のデバイスがデフォルトになります</translation>
     </message>
     <message>
         <source>Another program registers the combination first</source>
-        <translation>別のプログラムがこの組み合わせを先に登録します</translation>
+        <translation>別のアプリがこの組み合わせを先に登録します</translation>
     </message>
     <message>
         <source>Another program…</source>
-        <translation>別のプログラム…</translation>
+        <translation>別のアプリ…</translation>
     </message>
     <message>
         <source>Answer times, last ten minutes</source>
@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>Application is already running</source>
-        <translation>アプリケーションは既に起動しています</translation>
+        <translation>アプリは既に起動しています</translation>
     </message>
     <message>
         <source>Apply</source>
@@ -365,11 +365,11 @@
     </message>
     <message>
         <source>Art Design Mode</source>
-        <translation>アートデザイン</translation>
+        <translation>アートデザインモード</translation>
     </message>
     <message>
         <source>Asked again and told; nothing to do.</source>
-        <translation>再度読み取れました。操作は不要です。</translation>
+        <translation>再読み取りできました。操作は不要です。</translation>
     </message>
     <message>
         <source>Asked again; nothing to do.</source>
@@ -381,7 +381,7 @@
     </message>
     <message>
         <source>Audio Mute</source>
-        <translation>消音</translation>
+        <translation>ミュート</translation>
     </message>
     <message>
         <source>Audio Settings</source>
@@ -397,11 +397,11 @@
     </message>
     <message>
         <source>Auto-L1</source>
-        <translation>自動-L1</translation>
+        <translation>自動 L1</translation>
     </message>
     <message>
         <source>Auto-L2</source>
-        <translation>自動-L2</translation>
+        <translation>自動 L2</translation>
     </message>
     <message>
         <source>Automatic changes a day</source>
@@ -465,7 +465,7 @@
     </message>
     <message>
         <source>CSV file (*.csv);</source>
-        <translation>CSVファイル (*.csv);</translation>
+        <translation>CSV ファイル (*.csv);</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -473,7 +473,7 @@
     </message>
     <message>
         <source>Cancelled.</source>
-        <translation>中止しました。</translation>
+        <translation>キャンセルしました。</translation>
     </message>
     <message>
         <source>Cancelled. Nothing was changed.</source>
@@ -488,8 +488,8 @@
         <translation>セルの大きさ</translation>
     </message>
     <message>
-        <source>Changes count once you press &quot;%1&quot;.</source>
-        <translation>「%1」を押すと変更が有効になります。</translation>
+        <source>Changes take effect when you press &quot;%1&quot;.</source>
+        <translation>「%1」を押すと変更が反映されます。</translation>
     </message>
     <message>
         <source>Channels</source>
@@ -657,7 +657,7 @@
     </message>
     <message>
         <source>Display Version</source>
-        <translation>本体バージョン</translation>
+        <translation>モニターのバージョン</translation>
     </message>
     <message>
         <source>Do not save</source>
@@ -665,7 +665,7 @@
     </message>
     <message>
         <source>Drop a chunk</source>
-        <translation>ブロック欠落</translation>
+        <translation>チャンク欠落</translation>
     </message>
     <message>
         <source>Duplicate Frame</source>
@@ -733,7 +733,7 @@
     </message>
     <message>
         <source>Export Animate</source>
-        <translation>アニメ書き出し</translation>
+        <translation>アニメーション書き出し</translation>
     </message>
     <message>
         <source>Extensible, floating point</source>
@@ -757,7 +757,7 @@
     </message>
     <message>
         <source>Falling Peaks</source>
-        <translation>落下ピーク</translation>
+        <translation>ピークの落下</translation>
     </message>
     <message>
         <source>File is null.</source>
@@ -777,7 +777,7 @@
     </message>
     <message>
         <source>Follow Setting</source>
-        <translation>シーン追従の設定</translation>
+        <translation>シーン連動の設定</translation>
     </message>
     <message>
         <source>For code on a dark ground.</source>
@@ -793,7 +793,7 @@
     </message>
     <message>
         <source>Frame</source>
-        <translation>フレーム</translation>
+        <translation>枠線</translation>
     </message>
     <message>
         <source>Frames/s</source>
@@ -813,7 +813,7 @@
     </message>
     <message>
         <source>From now on another program has it.</source>
-        <translation>以後は別のプログラムのものです。</translation>
+        <translation>これ以降、別のアプリが使用します。</translation>
     </message>
     <message>
         <source>Function</source>
@@ -877,7 +877,7 @@
     </message>
     <message>
         <source>Gray Response</source>
-        <translation>階調応答</translation>
+        <translation>応答速度</translation>
     </message>
     <message>
         <source>H-Position</source>
@@ -936,12 +936,8 @@
         <translation>ショートカットキーの競合</translation>
     </message>
     <message>
-        <source>Hotkey overlay</source>
-        <translation>ホットキー表示</translation>
-    </message>
-    <message>
         <source>How the link to the monitor has been since the program started.</source>
-        <translation>プログラム起動後のモニターとの通信状況です。</translation>
+        <translation>アプリ起動後のモニターとの通信状況です。</translation>
     </message>
     <message>
         <source>How the print will look under a D55 light.</source>
@@ -977,7 +973,7 @@
     </message>
     <message>
         <source>Import Animate</source>
-        <translation>アニメ読み込み</translation>
+        <translation>アニメーション読み込み</translation>
     </message>
     <message>
         <source>Information</source>
@@ -1021,7 +1017,7 @@
     </message>
     <message>
         <source>LANGUAGE_ADD_KEY</source>
-        <translation>ホットキーを追加</translation>
+        <translation>ショートカットキーを追加</translation>
     </message>
     <message>
         <source>LANGUAGE_SHORTCUTKEY</source>
@@ -1029,11 +1025,11 @@
     </message>
     <message>
         <source>LANGUAGE_SHORTCUTKEY_DESC</source>
-        <translation>モニターの機能に、デスクトップのどこでも使えるキーを割り当てます。Ctrl か Alt と英字または数字。Backspace で消去します。</translation>
+        <translation>モニターの機能に、デスクトップのどこでも使えるキーを割り当てます。Ctrl または Alt と英字か数字を押します。Backspace で消去します。</translation>
     </message>
     <message>
         <source>LED matrix</source>
-        <translation>LEDマトリクス</translation>
+        <translation>LED マトリクス</translation>
     </message>
     <message>
         <source>Lamp</source>
@@ -1077,7 +1073,7 @@
     </message>
     <message>
         <source>Listening…</source>
-        <translation>聞き取り中…</translation>
+        <translation>音声を取得中…</translation>
     </message>
     <message>
         <source>Live frames</source>
@@ -1129,7 +1125,7 @@
     </message>
     <message>
         <source>Machine Select</source>
-        <translation>モニター選択</translation>
+        <translation>モニターの選択</translation>
     </message>
     <message>
         <source>Matches notebooks with a Display P3 screen.</source>
@@ -1153,7 +1149,7 @@
     </message>
     <message>
         <source>Maximum 192 frames</source>
-        <translation>最大192フレーム</translation>
+        <translation>最大 192 フレーム</translation>
     </message>
     <message>
         <source>Median answer</source>
@@ -1169,7 +1165,7 @@
     </message>
     <message>
         <source>Menu lock already opened!</source>
-        <translation>メニューロック中です！</translation>
+        <translation>メニューロックは既に有効です！</translation>
     </message>
     <message>
         <source>Minimise</source>
@@ -1193,23 +1189,23 @@
     </message>
     <message>
         <source>Mode1</source>
-        <translation>モード1</translation>
+        <translation>モード 1</translation>
     </message>
     <message>
         <source>Mode2</source>
-        <translation>モード2</translation>
+        <translation>モード 2</translation>
     </message>
     <message>
         <source>Mode3</source>
-        <translation>モード3</translation>
+        <translation>モード 3</translation>
     </message>
     <message>
         <source>Mode4</source>
-        <translation>モード4</translation>
+        <translation>モード 4</translation>
     </message>
     <message>
         <source>Mode5</source>
-        <translation>モード5</translation>
+        <translation>モード 5</translation>
     </message>
     <message>
         <source>Model</source>
@@ -1308,16 +1304,16 @@
         <translation>ファイルが選択されていません。</translation>
     </message>
     <message>
-        <source>No hot keys yet: choose a function above and add it.</source>
-        <translation>ホットキーはまだありません。上で機能を選んで追加してください。</translation>
-    </message>
-    <message>
         <source>No limit</source>
         <translation>無制限</translation>
     </message>
     <message>
         <source>No programs yet: add one and choose its scene.</source>
-        <translation>プログラムはまだありません。追加してシーンを選んでください。</translation>
+        <translation>アプリはまだありません。追加してシーンを選んでください。</translation>
+    </message>
+    <message>
+        <source>No shortcuts yet: choose a function above and add it.</source>
+        <translation>ショートカットキーはまだありません。上で機能を選んで追加してください。</translation>
     </message>
     <message>
         <source>Noise</source>
@@ -1333,11 +1329,11 @@
     </message>
     <message>
         <source>Not told: %1</source>
-        <translation>読み取れなかった値：%1</translation>
+        <translation>読み取れなかった値: %1</translation>
     </message>
     <message>
         <source>Nothing is heard: no program plays, or the sound output is gone.</source>
-        <translation>音が聞こえません。再生中のプログラムがないか、音声出力がなくなりました。</translation>
+        <translation>音が聞こえません。再生中のアプリがないか、音声出力がなくなりました。</translation>
     </message>
     <message>
         <source>Nothing plays</source>
@@ -1389,7 +1385,7 @@
     </message>
     <message>
         <source>Onion Skin</source>
-        <translation>前フレーム透過</translation>
+        <translation>オニオンスキン</translation>
     </message>
     <message>
         <source>Open</source>
@@ -1489,7 +1485,7 @@
     </message>
     <message>
         <source>Programs</source>
-        <translation>プログラム</translation>
+        <translation>アプリ</translation>
     </message>
     <message>
         <source>Progress</source>
@@ -1537,7 +1533,7 @@
     </message>
     <message>
         <source>RGB Limit</source>
-        <translation>RGB リミット</translation>
+        <translation>RGB リミテッド</translation>
     </message>
     <message>
         <source>Rate</source>
@@ -1561,7 +1557,7 @@
     </message>
     <message>
         <source>Reading: %1 of %2</source>
-        <translation>読み取り中：%1 / %2</translation>
+        <translation>読み取り中: %1 / %2</translation>
     </message>
     <message>
         <source>Rec.709</source>
@@ -1629,7 +1625,7 @@
     </message>
     <message>
         <source>Row %1, cell %2: %3</source>
-        <translation>%1行 %2番: %3</translation>
+        <translation>%1 行目 %2 番目: %3</translation>
     </message>
     <message>
         <source>Ruler</source>
@@ -1669,7 +1665,7 @@
     </message>
     <message>
         <source>Save Animate</source>
-        <translation>アニメ保存</translation>
+        <translation>アニメーション保存</translation>
     </message>
     <message>
         <source>Save Data</source>
@@ -1741,11 +1737,11 @@
     </message>
     <message>
         <source>Set %1 back to &quot;%2&quot;</source>
-        <translation>%1を「%2」に戻す</translation>
+        <translation>「%1」を「%2」に戻す</translation>
     </message>
     <message>
-        <source>Set everything back to how the monitor left the factory? It will be away for some seconds.</source>
-        <translation>モニターのすべての設定を工場出荷時に戻しますか？数秒間モニターを使用できなくなります。</translation>
+        <source>Set everything back to how the monitor left the factory? The screen goes dark for a few seconds.</source>
+        <translation>モニターのすべての設定を工場出荷時の状態に戻しますか？画面が数秒間暗くなります。</translation>
     </message>
     <message>
         <source>Shadow Balance</source>
@@ -1762,6 +1758,10 @@
     <message>
         <source>Shortcut Key</source>
         <translation>ショートカットキー</translation>
+    </message>
+    <message>
+        <source>Shortcut overlay</source>
+        <translation>ショートカットキー表示</translation>
     </message>
     <message>
         <source>Show</source>
@@ -1829,7 +1829,7 @@
     </message>
     <message>
         <source>Starts the program that brings the monitor&apos;s firmware up to date. Leave the monitor switched on until it has finished.</source>
-        <translation>モニターのファームウェアを更新するプログラムを起動します。完了するまでモニターの電源を切らないでください。</translation>
+        <translation>モニターのファームウェアを更新するアプリを起動します。完了するまでモニターの電源を切らないでください。</translation>
     </message>
     <message>
         <source>Stop service</source>
@@ -1897,7 +1897,7 @@
     </message>
     <message>
         <source>The accessory is at work: wait until it has finished, or cancel the work on its page.</source>
-        <translation>アクセサリーは作業中です。終わるまで待つか、そのページで取り消してください。</translation>
+        <translation>アクセサリは作業中です。終わるまで待つか、そのページでキャンセルしてください。</translation>
     </message>
     <message>
         <source>The accessory is the model with 25 rows of 42 cells</source>
@@ -1905,7 +1905,7 @@
     </message>
     <message>
         <source>The accessory shows what this computer plays as soon as the music mode is open.</source>
-        <translation>音楽モードをオンにすると、このコンピューターの再生音がアクセサリーに表示されます。</translation>
+        <translation>音楽モードをオンにすると、このコンピューターの再生音がアクセサリに表示されます。</translation>
     </message>
     <message>
         <source>The accessory takes %1 of the %2 frames.</source>
@@ -1933,7 +1933,7 @@
     </message>
     <message>
         <source>The computer and its monitors sleep until the button is released</source>
-        <translation>ボタンを離すまで、コンピューターとモニターはスリープします</translation>
+        <translation>ボタンを戻すまで、コンピューターとモニターはスリープします</translation>
     </message>
     <message>
         <source>The disk did not take everything.</source>
@@ -2001,7 +2001,7 @@
     </message>
     <message>
         <source>The monitor has not told this value yet.</source>
-        <translation>モニターからこの値をまだ受け取っていません。</translation>
+        <translation>この値はまだモニターから読み取れていません。</translation>
     </message>
     <message>
         <source>The monitor is changing its scene mode.</source>
@@ -2033,11 +2033,11 @@
     </message>
     <message>
         <source>The program could not be restarted. It goes on as it was.</source>
-        <translation>プログラムを再起動できませんでした。このまま動作を続けます。</translation>
+        <translation>アプリを再起動できませんでした。このまま動作を続けます。</translation>
     </message>
     <message>
         <source>The program has not registered this combination.</source>
-        <translation>プログラムはこの組み合わせを登録していません。</translation>
+        <translation>アプリはこの組み合わせを登録していません。</translation>
     </message>
     <message>
         <source>The program has this combination already.</source>
@@ -2045,15 +2045,15 @@
     </message>
     <message>
         <source>The program heard it.</source>
-        <translation>プログラムが受け取りました。</translation>
+        <translation>アプリが受け取りました。</translation>
     </message>
     <message>
         <source>The recording could not be begun: %1</source>
-        <translation>記録を開始できませんでした：%1</translation>
+        <translation>記録を開始できませんでした: %1</translation>
     </message>
     <message>
         <source>The report is on the clipboard. It names no files, programs or users.</source>
-        <translation>レポートをクリップボードにコピーしました。ファイル、プログラム、ユーザーの名前は含まれません。</translation>
+        <translation>レポートをクリップボードにコピーしました。ファイル、アプリ、ユーザーの名前は含まれません。</translation>
     </message>
     <message>
         <source>The selected display is unsupported or the signal line is disconnected.</source>
@@ -2069,7 +2069,7 @@
     </message>
     <message>
         <source>The sound output cannot be listened to. It is tried again every few seconds.</source>
-        <translation>音声出力を聞き取れません。数秒ごとに再試行します。</translation>
+        <translation>音声出力を取得できません。数秒ごとに再試行します。</translation>
     </message>
     <message>
         <source>The standard of the web.</source>
@@ -2089,11 +2089,11 @@
     </message>
     <message>
         <source>The upgrade program %1 could not be started.</source>
-        <translation>更新プログラム %1 を起動できませんでした。</translation>
+        <translation>更新アプリ %1 を起動できませんでした。</translation>
     </message>
     <message>
         <source>The upgrade program is running already.</source>
-        <translation>更新プログラムは既に実行中です。</translation>
+        <translation>更新アプリは既に実行中です。</translation>
     </message>
     <message>
         <source>The white of printed paper.</source>
@@ -2188,6 +2188,10 @@
         <translation>ここに組み合わせを入力し、デスクトップ全体で押します</translation>
     </message>
     <message>
+        <source>Type the text for the matrix.</source>
+        <translation>マトリクスに表示する文字を入力してください。</translation>
+    </message>
+    <message>
         <source>Type-B</source>
         <translation>Type-B</translation>
     </message>
@@ -2205,15 +2209,15 @@
     </message>
     <message>
         <source>Ull-Level1</source>
-        <translation>Ull-レベル 1</translation>
+        <translation>Ull レベル 1</translation>
     </message>
     <message>
         <source>Ull-Level2</source>
-        <translation>Ull-レベル 2</translation>
+        <translation>Ull レベル 2</translation>
     </message>
     <message>
         <source>Ull-Level3</source>
-        <translation>Ull-レベル 3</translation>
+        <translation>Ull レベル 3</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -2281,7 +2285,7 @@
     </message>
     <message>
         <source>Vivid colours for animation.</source>
-        <translation>アニメに適した鮮やかな色です。</translation>
+        <translation>アニメーションに適した鮮やかな色です。</translation>
     </message>
     <message>
         <source>Volume</source>
@@ -2329,15 +2333,11 @@
     </message>
     <message>
         <source>Write Animate</source>
-        <translation>アニメ書き込み</translation>
+        <translation>アニメーション書き込み</translation>
     </message>
     <message>
         <source>Write Data</source>
         <translation>データ書き込み</translation>
-    </message>
-    <message>
-        <source>Write here what the matrix shall show.</source>
-        <translation>マトリクスに表示する文字を入力してください。</translation>
     </message>
     <message>
         <source>Written today</source>

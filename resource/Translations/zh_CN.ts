@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>%1 cannot be written: what is set here lasts until the program ends.</source>
-        <translation>%1 无法写入：此处的设置在程序结束前有效。</translation>
+        <translation>无法写入 %1：此处的设置在程序结束前有效。</translation>
     </message>
     <message>
         <source>%1 holds no saved drawing. It stays as it is until you save.</source>
@@ -61,7 +61,7 @@
     </message>
     <message>
         <source>%1 of %2 values were told, in %3 s.</source>
-        <translation>%2 个值中读到 %1 个，用时 %3 秒。</translation>
+        <translation>已读取 %2 个值中的 %1 个，用时 %3 秒。</translation>
     </message>
     <message>
         <source>%1 requests are recorded in %2</source>
@@ -77,15 +77,15 @@
     </message>
     <message>
         <source>%1 was changed to &quot;%2&quot;.</source>
-        <translation>%1已改为“%2”。</translation>
+        <translation>“%1”已改为“%2”。</translation>
     </message>
     <message>
         <source>%1 was not taken</source>
-        <translation>%1未被接受</translation>
+        <translation>未能设置“%1”</translation>
     </message>
     <message>
         <source>%1 was not told</source>
-        <translation>%1未能读到</translation>
+        <translation>未能读取“%1”</translation>
     </message>
     <message>
         <source>%1 · %2</source>
@@ -101,11 +101,15 @@
     </message>
     <message>
         <source>%1, chunk %2 of %3</source>
-        <translation>%1，第 %2 块，共 %3 块</translation>
+        <translation>%1，第 %2 个数据块，共 %3 个</translation>
     </message>
     <message>
         <source>%1, frames: %2</source>
         <translation>%1，帧数：%2</translation>
+    </message>
+    <message>
+        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
+        <translation>&lt;font color=white&gt;正在获取显示设备信息...&lt;/font&gt;</translation>
     </message>
     <message>
         <source>1 Hour</source>
@@ -204,10 +208,6 @@
         <translation>9300K</translation>
     </message>
     <message>
-        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
-        <translation>&lt;font color=white&gt;正在获取显示设备信息...&lt;/font&gt;</translation>
-    </message>
-    <message>
         <source>A WAV file</source>
         <translation>WAV 文件</translation>
     </message>
@@ -221,7 +221,7 @@
     </message>
     <message>
         <source>A soft page for long texts.</source>
-        <translation>柔和的页面，适合长时间阅读。</translation>
+        <translation>画面柔和，适合长时间阅读。</translation>
     </message>
     <message>
         <source>A sweep</source>
@@ -285,22 +285,22 @@
     </message>
     <message>
         <source>Alignment_4</source>
-        <translation>对齐 4</translation>
+        <translation>4 分格</translation>
     </message>
     <message>
         <source>Alignment_6</source>
-        <translation>对齐 6</translation>
+        <translation>6 分格</translation>
     </message>
     <message>
         <source>Alignment_9</source>
-        <translation>对齐 9</translation>
+        <translation>9 分格</translation>
     </message>
     <message>
         <source>All file (*.*)</source>
         <translation>所有文件 (*.*)</translation>
     </message>
     <message>
-        <source>All hot keys rest while the switch above is off.</source>
+        <source>All shortcuts rest while the switch above is off.</source>
         <translation>上方开关关闭时，所有快捷键均不起作用。</translation>
     </message>
     <message>
@@ -313,7 +313,7 @@
     </message>
     <message>
         <source>Angle close</source>
-        <translation>关闭角度</translation>
+        <translation>关闭</translation>
     </message>
     <message>
         <source>Animate</source>
@@ -325,7 +325,7 @@
     </message>
     <message>
         <source>Animate: 1050 cells a frame. Aligned: %1, as this form saves.</source>
-        <translation>动画：每帧1050格。对齐：每帧%1格，与此形状的保存相同。</translation>
+        <translation>动画：每帧 1050 格。对齐：每帧 %1 格，与此形状的保存格式相同。</translation>
     </message>
     <message>
         <source>Animations</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>Asked again and told; nothing to do.</source>
-        <translation>再次读取后已读到，无需处理。</translation>
+        <translation>重新读取成功，无需处理。</translation>
     </message>
     <message>
         <source>Asked again; nothing to do.</source>
@@ -397,11 +397,11 @@
     </message>
     <message>
         <source>Auto-L1</source>
-        <translation>自动-L1</translation>
+        <translation>自动 L1</translation>
     </message>
     <message>
         <source>Auto-L2</source>
-        <translation>自动-L2</translation>
+        <translation>自动 L2</translation>
     </message>
     <message>
         <source>Automatic changes a day</source>
@@ -465,7 +465,7 @@
     </message>
     <message>
         <source>CSV file (*.csv);</source>
-        <translation>CSV文件 (*.csv);</translation>
+        <translation>CSV 文件 (*.csv);</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -488,8 +488,8 @@
         <translation>格子大小</translation>
     </message>
     <message>
-        <source>Changes count once you press &quot;%1&quot;.</source>
-        <translation>按“%1”后更改生效。</translation>
+        <source>Changes take effect when you press &quot;%1&quot;.</source>
+        <translation>按下“%1”后更改生效。</translation>
     </message>
     <message>
         <source>Channels</source>
@@ -625,7 +625,7 @@
     </message>
     <message>
         <source>Dark Programme</source>
-        <translation>深色编程</translation>
+        <translation>编程(深色)</translation>
     </message>
     <message>
         <source>Deep contrast for films.</source>
@@ -717,7 +717,7 @@
     </message>
     <message>
         <source>Every packet holds 7001 frames until the button is released</source>
-        <translation>松开按钮前，每个数据包含 7001 帧</translation>
+        <translation>松开按钮前，每个数据包都含 7001 帧</translation>
     </message>
     <message>
         <source>Every request takes 400 ms longer</source>
@@ -757,7 +757,7 @@
     </message>
     <message>
         <source>Falling Peaks</source>
-        <translation>下落峰值</translation>
+        <translation>峰值回落</translation>
     </message>
     <message>
         <source>File is null.</source>
@@ -773,7 +773,7 @@
     </message>
     <message>
         <source>Follow Desc</source>
-        <translation>为应用程序指定情景模式：该程序位于前台时显示器自动切换，离开后恢复基础情景。</translation>
+        <translation>为程序指定情景模式：该程序位于前台时显示器自动切换，离开后恢复基础情景。</translation>
     </message>
     <message>
         <source>Follow Setting</source>
@@ -793,7 +793,7 @@
     </message>
     <message>
         <source>Frame</source>
-        <translation>边框</translation>
+        <translation>框线</translation>
     </message>
     <message>
         <source>Frames/s</source>
@@ -905,7 +905,7 @@
     </message>
     <message>
         <source>Hanging</source>
-        <translation>悬挂</translation>
+        <translation>倒挂</translation>
     </message>
     <message>
         <source>HawkEye Vision</source>
@@ -934,10 +934,6 @@
     <message>
         <source>Hotkey conflict</source>
         <translation>快捷键冲突</translation>
-    </message>
-    <message>
-        <source>Hotkey overlay</source>
-        <translation>快捷键提示</translation>
     </message>
     <message>
         <source>How the link to the monitor has been since the program started.</source>
@@ -997,7 +993,7 @@
     </message>
     <message>
         <source>It is a link, which is not followed.</source>
-        <translation>它是一个链接，程序不会跟随链接写入。</translation>
+        <translation>它是链接，程序不会通过链接写入。</translation>
     </message>
     <message>
         <source>It is no file.</source>
@@ -1005,7 +1001,7 @@
     </message>
     <message>
         <source>It may not be changed.</source>
-        <translation>它不允许修改。</translation>
+        <translation>不允许修改。</translation>
     </message>
     <message>
         <source>Keyboard</source>
@@ -1029,11 +1025,11 @@
     </message>
     <message>
         <source>LANGUAGE_SHORTCUTKEY_DESC</source>
-        <translation>为显示器功能指定全局快捷键，在桌面任何位置都有效：Ctrl 或 Alt 加字母或数字，Backspace 清除。</translation>
+        <translation>为显示器功能指定快捷键，在桌面任何位置都有效：Ctrl 或 Alt 加字母或数字，按 Backspace 可清除。</translation>
     </message>
     <message>
         <source>LED matrix</source>
-        <translation>LED矩阵</translation>
+        <translation>LED 矩阵</translation>
     </message>
     <message>
         <source>Lamp</source>
@@ -1069,7 +1065,7 @@
     </message>
     <message>
         <source>Light Programme</source>
-        <translation>浅色编程</translation>
+        <translation>编程(浅色)</translation>
     </message>
     <message>
         <source>Light Sensor</source>
@@ -1077,7 +1073,7 @@
     </message>
     <message>
         <source>Listening…</source>
-        <translation>正在聆听…</translation>
+        <translation>正在获取声音…</translation>
     </message>
     <message>
         <source>Live frames</source>
@@ -1129,7 +1125,7 @@
     </message>
     <message>
         <source>Machine Select</source>
-        <translation>显示器选择</translation>
+        <translation>选择显示器</translation>
     </message>
     <message>
         <source>Matches notebooks with a Display P3 screen.</source>
@@ -1153,7 +1149,7 @@
     </message>
     <message>
         <source>Maximum 192 frames</source>
-        <translation>最多192帧</translation>
+        <translation>最多 192 帧</translation>
     </message>
     <message>
         <source>Median answer</source>
@@ -1193,23 +1189,23 @@
     </message>
     <message>
         <source>Mode1</source>
-        <translation>模式1</translation>
+        <translation>模式 1</translation>
     </message>
     <message>
         <source>Mode2</source>
-        <translation>模式2</translation>
+        <translation>模式 2</translation>
     </message>
     <message>
         <source>Mode3</source>
-        <translation>模式3</translation>
+        <translation>模式 3</translation>
     </message>
     <message>
         <source>Mode4</source>
-        <translation>模式4</translation>
+        <translation>模式 4</translation>
     </message>
     <message>
         <source>Mode5</source>
-        <translation>模式5</translation>
+        <translation>模式 5</translation>
     </message>
     <message>
         <source>Model</source>
@@ -1269,7 +1265,7 @@
     </message>
     <message>
         <source>Night Loom</source>
-        <translation>夜织</translation>
+        <translation>Night Loom</translation>
     </message>
     <message>
         <source>Night Mode</source>
@@ -1289,7 +1285,7 @@
     </message>
     <message>
         <source>No Signal Timer</source>
-        <translation>无信号定时</translation>
+        <translation>无信号定时器</translation>
     </message>
     <message>
         <source>No Type-C data cable or HDMI/DP + USB data cable connected.</source>
@@ -1308,16 +1304,16 @@
         <translation>未选择文件路径。</translation>
     </message>
     <message>
-        <source>No hot keys yet: choose a function above and add it.</source>
-        <translation>还没有快捷键：请在上方选择功能并添加。</translation>
-    </message>
-    <message>
         <source>No limit</source>
         <translation>不限</translation>
     </message>
     <message>
         <source>No programs yet: add one and choose its scene.</source>
         <translation>还没有程序：请添加程序并选择其情景。</translation>
+    </message>
+    <message>
+        <source>No shortcuts yet: choose a function above and add it.</source>
+        <translation>还没有快捷键：请在上方选择功能并添加。</translation>
     </message>
     <message>
         <source>Noise</source>
@@ -1537,7 +1533,7 @@
     </message>
     <message>
         <source>RGB Limit</source>
-        <translation>RGB 有限</translation>
+        <translation>RGB 有限范围</translation>
     </message>
     <message>
         <source>Rate</source>
@@ -1629,7 +1625,7 @@
     </message>
     <message>
         <source>Row %1, cell %2: %3</source>
-        <translation>第%1行第%2格：%3</translation>
+        <translation>第 %1 行第 %2 格：%3</translation>
     </message>
     <message>
         <source>Ruler</source>
@@ -1741,11 +1737,11 @@
     </message>
     <message>
         <source>Set %1 back to &quot;%2&quot;</source>
-        <translation>将%1改回“%2”</translation>
+        <translation>将“%1”改回“%2”</translation>
     </message>
     <message>
-        <source>Set everything back to how the monitor left the factory? It will be away for some seconds.</source>
-        <translation>要将显示器的所有设置恢复为出厂状态吗？显示器将有数秒无法使用。</translation>
+        <source>Set everything back to how the monitor left the factory? The screen goes dark for a few seconds.</source>
+        <translation>要将显示器的所有设置恢复为出厂状态吗？屏幕会黑屏几秒钟。</translation>
     </message>
     <message>
         <source>Shadow Balance</source>
@@ -1764,6 +1760,10 @@
         <translation>快捷键</translation>
     </message>
     <message>
+        <source>Shortcut overlay</source>
+        <translation>快捷键提示</translation>
+    </message>
+    <message>
         <source>Show</source>
         <translation>显示</translation>
     </message>
@@ -1777,7 +1777,7 @@
     </message>
     <message>
         <source>Silence</source>
-        <translation>静音</translation>
+        <translation>无声</translation>
     </message>
     <message>
         <source>Simulated monitor</source>
@@ -1897,7 +1897,7 @@
     </message>
     <message>
         <source>The accessory is at work: wait until it has finished, or cancel the work on its page.</source>
-        <translation>配件正在工作：请等它完成，或在它的页面上取消。</translation>
+        <translation>配件正在工作：请等待完成，或在其页面上取消。</translation>
     </message>
     <message>
         <source>The accessory is the model with 25 rows of 42 cells</source>
@@ -1933,7 +1933,7 @@
     </message>
     <message>
         <source>The computer and its monitors sleep until the button is released</source>
-        <translation>松开按钮之前，电脑及其显示器处于睡眠状态</translation>
+        <translation>松开按钮前，电脑及其显示器处于睡眠状态</translation>
     </message>
     <message>
         <source>The disk did not take everything.</source>
@@ -2001,7 +2001,7 @@
     </message>
     <message>
         <source>The monitor has not told this value yet.</source>
-        <translation>显示器尚未告知此值。</translation>
+        <translation>尚未从显示器读取此值。</translation>
     </message>
     <message>
         <source>The monitor is changing its scene mode.</source>
@@ -2069,7 +2069,7 @@
     </message>
     <message>
         <source>The sound output cannot be listened to. It is tried again every few seconds.</source>
-        <translation>无法监听声音输出，每隔几秒会重试。</translation>
+        <translation>无法获取声音输出，每隔几秒会重试。</translation>
     </message>
     <message>
         <source>The standard of the web.</source>
@@ -2149,11 +2149,11 @@
     </message>
     <message>
         <source>Tool Version: </source>
-        <translation>软件版本： </translation>
+        <translation>工具版本：</translation>
     </message>
     <message>
         <source>Tool language settings</source>
-        <translation>软件语言设置</translation>
+        <translation>工具语言设置</translation>
     </message>
     <message>
         <source>Topspeed</source>
@@ -2188,6 +2188,10 @@
         <translation>在此输入组合键，然后在整个桌面上按下</translation>
     </message>
     <message>
+        <source>Type the text for the matrix.</source>
+        <translation>请输入要在矩阵上显示的文字。</translation>
+    </message>
+    <message>
         <source>Type-B</source>
         <translation>Type-B</translation>
     </message>
@@ -2205,15 +2209,15 @@
     </message>
     <message>
         <source>Ull-Level1</source>
-        <translation>Ull-等级 1</translation>
+        <translation>Ull 等级 1</translation>
     </message>
     <message>
         <source>Ull-Level2</source>
-        <translation>Ull-等级 2</translation>
+        <translation>Ull 等级 2</translation>
     </message>
     <message>
         <source>Ull-Level3</source>
-        <translation>Ull-等级 3</translation>
+        <translation>Ull 等级 3</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -2334,10 +2338,6 @@
     <message>
         <source>Write Data</source>
         <translation>写入数据</translation>
-    </message>
-    <message>
-        <source>Write here what the matrix shall show.</source>
-        <translation>在此输入要在矩阵上显示的文字。</translation>
     </message>
     <message>
         <source>Written today</source>

@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>%1 cannot be written: what is set here lasts until the program ends.</source>
-        <translation>%1 無法寫入：此處的設定在程式結束前有效。</translation>
+        <translation>無法寫入 %1：此處的設定在應用程式結束前有效。</translation>
     </message>
     <message>
         <source>%1 holds no saved drawing. It stays as it is until you save.</source>
@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>%1 is taken by another program or function and does nothing here.</source>
-        <translation>%1 已被其他程式或功能佔用，在此不起作用。</translation>
+        <translation>%1 已被其他應用程式或功能佔用，在此不起作用。</translation>
     </message>
     <message>
         <source>%1 ms</source>
@@ -61,7 +61,7 @@
     </message>
     <message>
         <source>%1 of %2 values were told, in %3 s.</source>
-        <translation>%2 個值中讀到 %1 個，用時 %3 秒。</translation>
+        <translation>已讀取 %2 個值中的 %1 個，用時 %3 秒。</translation>
     </message>
     <message>
         <source>%1 requests are recorded in %2</source>
@@ -77,15 +77,15 @@
     </message>
     <message>
         <source>%1 was changed to &quot;%2&quot;.</source>
-        <translation>%1已改為「%2」。</translation>
+        <translation>「%1」已改為「%2」。</translation>
     </message>
     <message>
         <source>%1 was not taken</source>
-        <translation>%1未被接受</translation>
+        <translation>未能設定「%1」</translation>
     </message>
     <message>
         <source>%1 was not told</source>
-        <translation>%1未能讀到</translation>
+        <translation>未能讀取「%1」</translation>
     </message>
     <message>
         <source>%1 · %2</source>
@@ -101,11 +101,15 @@
     </message>
     <message>
         <source>%1, chunk %2 of %3</source>
-        <translation>%1，第 %2 塊，共 %3 塊</translation>
+        <translation>%1，第 %2 個區塊，共 %3 個</translation>
     </message>
     <message>
         <source>%1, frames: %2</source>
-        <translation>%1，影格數：%2</translation>
+        <translation>%1，畫格數：%2</translation>
+    </message>
+    <message>
+        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
+        <translation>&lt;font color=white&gt;正在取得顯示裝置資訊...&lt;/font&gt;</translation>
     </message>
     <message>
         <source>1 Hour</source>
@@ -204,10 +208,6 @@
         <translation>9300K</translation>
     </message>
     <message>
-        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
-        <translation>&lt;font color=white&gt;正在取得顯示裝置資訊...&lt;/font&gt;</translation>
-    </message>
-    <message>
         <source>A WAV file</source>
         <translation>WAV 檔案</translation>
     </message>
@@ -221,7 +221,7 @@
     </message>
     <message>
         <source>A soft page for long texts.</source>
-        <translation>柔和的頁面，適合長時間閱讀。</translation>
+        <translation>畫面柔和，適合長時間閱讀。</translation>
     </message>
     <message>
         <source>A sweep</source>
@@ -285,22 +285,22 @@
     </message>
     <message>
         <source>Alignment_4</source>
-        <translation>對齊 4</translation>
+        <translation>4 分格</translation>
     </message>
     <message>
         <source>Alignment_6</source>
-        <translation>對齊 6</translation>
+        <translation>6 分格</translation>
     </message>
     <message>
         <source>Alignment_9</source>
-        <translation>對齊 9</translation>
+        <translation>9 分格</translation>
     </message>
     <message>
         <source>All file (*.*)</source>
         <translation>所有檔案 (*.*)</translation>
     </message>
     <message>
-        <source>All hot keys rest while the switch above is off.</source>
+        <source>All shortcuts rest while the switch above is off.</source>
         <translation>上方開關關閉時，所有快速鍵均不起作用。</translation>
     </message>
     <message>
@@ -313,7 +313,7 @@
     </message>
     <message>
         <source>Angle close</source>
-        <translation>關閉角度</translation>
+        <translation>關閉</translation>
     </message>
     <message>
         <source>Animate</source>
@@ -325,7 +325,7 @@
     </message>
     <message>
         <source>Animate: 1050 cells a frame. Aligned: %1, as this form saves.</source>
-        <translation>動畫：每畫格1050格。對齊：%1格，與此形狀的儲存相同。</translation>
+        <translation>動畫：每個畫格 1050 格。對齊：每個畫格 %1 格，與此形狀的儲存格式相同。</translation>
     </message>
     <message>
         <source>Animations</source>
@@ -337,11 +337,11 @@
     </message>
     <message>
         <source>Another program registers the combination first</source>
-        <translation>由另一個程式先註冊該組合鍵</translation>
+        <translation>由另一個應用程式先註冊該組合鍵</translation>
     </message>
     <message>
         <source>Another program…</source>
-        <translation>其他程式…</translation>
+        <translation>其他應用程式…</translation>
     </message>
     <message>
         <source>Answer times, last ten minutes</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>Asked again and told; nothing to do.</source>
-        <translation>再次讀取後已讀到，無需處理。</translation>
+        <translation>重新讀取成功，無需處理。</translation>
     </message>
     <message>
         <source>Asked again; nothing to do.</source>
@@ -397,11 +397,11 @@
     </message>
     <message>
         <source>Auto-L1</source>
-        <translation>自動-L1</translation>
+        <translation>自動 L1</translation>
     </message>
     <message>
         <source>Auto-L2</source>
-        <translation>自動-L2</translation>
+        <translation>自動 L2</translation>
     </message>
     <message>
         <source>Automatic changes a day</source>
@@ -465,7 +465,7 @@
     </message>
     <message>
         <source>CSV file (*.csv);</source>
-        <translation>CSV檔案 (*.csv);</translation>
+        <translation>CSV 檔案 (*.csv);</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -488,8 +488,8 @@
         <translation>格子大小</translation>
     </message>
     <message>
-        <source>Changes count once you press &quot;%1&quot;.</source>
-        <translation>按「%1」後變更生效。</translation>
+        <source>Changes take effect when you press &quot;%1&quot;.</source>
+        <translation>按下「%1」後變更生效。</translation>
     </message>
     <message>
         <source>Channels</source>
@@ -625,7 +625,7 @@
     </message>
     <message>
         <source>Dark Programme</source>
-        <translation>深色程式設計</translation>
+        <translation>程式設計(深色)</translation>
     </message>
     <message>
         <source>Deep contrast for films.</source>
@@ -665,7 +665,7 @@
     </message>
     <message>
         <source>Drop a chunk</source>
-        <translation>遺失資料區塊</translation>
+        <translation>遺失區塊</translation>
     </message>
     <message>
         <source>Duplicate Frame</source>
@@ -717,7 +717,7 @@
     </message>
     <message>
         <source>Every packet holds 7001 frames until the button is released</source>
-        <translation>放開按鈕前，每個封包含 7001 幀</translation>
+        <translation>放開按鈕前，每個封包都含 7001 個音框</translation>
     </message>
     <message>
         <source>Every request takes 400 ms longer</source>
@@ -757,7 +757,7 @@
     </message>
     <message>
         <source>Falling Peaks</source>
-        <translation>下落峰值</translation>
+        <translation>峰值回落</translation>
     </message>
     <message>
         <source>File is null.</source>
@@ -773,7 +773,7 @@
     </message>
     <message>
         <source>Follow Desc</source>
-        <translation>為應用程式指定情境模式：該程式位於前景時顯示器自動切換，離開後恢復基礎情境。</translation>
+        <translation>為應用程式指定情境模式：該應用程式位於前景時，顯示器會自動切換，離開後恢復基礎情境。</translation>
     </message>
     <message>
         <source>Follow Setting</source>
@@ -793,7 +793,7 @@
     </message>
     <message>
         <source>Frame</source>
-        <translation>邊框</translation>
+        <translation>框線</translation>
     </message>
     <message>
         <source>Frames/s</source>
@@ -813,7 +813,7 @@
     </message>
     <message>
         <source>From now on another program has it.</source>
-        <translation>從現在起由另一個程式佔用。</translation>
+        <translation>從現在起由另一個應用程式佔用。</translation>
     </message>
     <message>
         <source>Function</source>
@@ -837,7 +837,7 @@
     </message>
     <message>
         <source>Game Crosshair</source>
-        <translation>遊戲準星</translation>
+        <translation>遊戲準心</translation>
     </message>
     <message>
         <source>Game Rush</source>
@@ -905,7 +905,7 @@
     </message>
     <message>
         <source>Hanging</source>
-        <translation>懸掛</translation>
+        <translation>倒掛</translation>
     </message>
     <message>
         <source>HawkEye Vision</source>
@@ -936,12 +936,8 @@
         <translation>快速鍵衝突</translation>
     </message>
     <message>
-        <source>Hotkey overlay</source>
-        <translation>快速鍵提示</translation>
-    </message>
-    <message>
         <source>How the link to the monitor has been since the program started.</source>
-        <translation>程式啟動以來與顯示器的連線狀況。</translation>
+        <translation>應用程式啟動以來與顯示器的連線狀況。</translation>
     </message>
     <message>
         <source>How the print will look under a D55 light.</source>
@@ -989,7 +985,7 @@
     </message>
     <message>
         <source>Is it on, its cable plugged in, and DDC/CI on in its menu?</source>
-        <translation>請檢查顯示器是否開機、線材是否接好、選單中 DDC/CI 是否開啟。</translation>
+        <translation>請檢查顯示器是否開機、纜線是否接好、選單中 DDC/CI 是否開啟。</translation>
     </message>
     <message>
         <source>It answers again; nothing to do.</source>
@@ -997,7 +993,7 @@
     </message>
     <message>
         <source>It is a link, which is not followed.</source>
-        <translation>它是一個連結，程式不會跟隨連結寫入。</translation>
+        <translation>它是連結，應用程式不會透過連結寫入。</translation>
     </message>
     <message>
         <source>It is no file.</source>
@@ -1005,7 +1001,7 @@
     </message>
     <message>
         <source>It may not be changed.</source>
-        <translation>它不允許修改。</translation>
+        <translation>不允許修改。</translation>
     </message>
     <message>
         <source>Keyboard</source>
@@ -1029,11 +1025,11 @@
     </message>
     <message>
         <source>LANGUAGE_SHORTCUTKEY_DESC</source>
-        <translation>為顯示器功能指定全域快速鍵，在桌面任何位置都有效：Ctrl 或 Alt 加字母或數字，Backspace 清除。</translation>
+        <translation>為顯示器功能指定快速鍵，在桌面任何位置都有效：Ctrl 或 Alt 加字母或數字，按 Backspace 可清除。</translation>
     </message>
     <message>
         <source>LED matrix</source>
-        <translation>LED矩陣</translation>
+        <translation>LED 矩陣</translation>
     </message>
     <message>
         <source>Lamp</source>
@@ -1069,7 +1065,7 @@
     </message>
     <message>
         <source>Light Programme</source>
-        <translation>淺色程式設計</translation>
+        <translation>程式設計(淺色)</translation>
     </message>
     <message>
         <source>Light Sensor</source>
@@ -1077,11 +1073,11 @@
     </message>
     <message>
         <source>Listening…</source>
-        <translation>正在聆聽…</translation>
+        <translation>正在取得聲音…</translation>
     </message>
     <message>
         <source>Live frames</source>
-        <translation>即時影格</translation>
+        <translation>即時畫格</translation>
     </message>
     <message>
         <source>Localdimming</source>
@@ -1129,7 +1125,7 @@
     </message>
     <message>
         <source>Machine Select</source>
-        <translation>顯示器選擇</translation>
+        <translation>選擇顯示器</translation>
     </message>
     <message>
         <source>Matches notebooks with a Display P3 screen.</source>
@@ -1153,7 +1149,7 @@
     </message>
     <message>
         <source>Maximum 192 frames</source>
-        <translation>最多192個畫格</translation>
+        <translation>最多 192 個畫格</translation>
     </message>
     <message>
         <source>Median answer</source>
@@ -1193,23 +1189,23 @@
     </message>
     <message>
         <source>Mode1</source>
-        <translation>模式1</translation>
+        <translation>模式 1</translation>
     </message>
     <message>
         <source>Mode2</source>
-        <translation>模式2</translation>
+        <translation>模式 2</translation>
     </message>
     <message>
         <source>Mode3</source>
-        <translation>模式3</translation>
+        <translation>模式 3</translation>
     </message>
     <message>
         <source>Mode4</source>
-        <translation>模式4</translation>
+        <translation>模式 4</translation>
     </message>
     <message>
         <source>Mode5</source>
-        <translation>模式5</translation>
+        <translation>模式 5</translation>
     </message>
     <message>
         <source>Model</source>
@@ -1269,7 +1265,7 @@
     </message>
     <message>
         <source>Night Loom</source>
-        <translation>夜織</translation>
+        <translation>Night Loom</translation>
     </message>
     <message>
         <source>Night Mode</source>
@@ -1289,27 +1285,23 @@
     </message>
     <message>
         <source>No Signal Timer</source>
-        <translation>無訊號計時</translation>
+        <translation>無訊號計時器</translation>
     </message>
     <message>
         <source>No Type-C data cable or HDMI/DP + USB data cable connected.</source>
-        <translation>未連接 Type-C 資料線或 HDMI/DP + USB 資料線。</translation>
+        <translation>未連接 Type-C 資料纜線或 HDMI/DP + USB 資料纜線。</translation>
     </message>
     <message>
         <source>No answer</source>
-        <translation>沒有回應</translation>
+        <translation>無回應</translation>
     </message>
     <message>
         <source>No answer for %1 s</source>
-        <translation>%1 秒沒有回應</translation>
+        <translation>%1 秒無回應</translation>
     </message>
     <message>
         <source>No file path selected.</source>
         <translation>未選擇檔案路徑。</translation>
-    </message>
-    <message>
-        <source>No hot keys yet: choose a function above and add it.</source>
-        <translation>尚無快速鍵：請在上方選擇功能並新增。</translation>
     </message>
     <message>
         <source>No limit</source>
@@ -1317,7 +1309,11 @@
     </message>
     <message>
         <source>No programs yet: add one and choose its scene.</source>
-        <translation>尚無程式：請新增程式並選擇其情境。</translation>
+        <translation>尚無應用程式：請新增應用程式並選擇其情境。</translation>
+    </message>
+    <message>
+        <source>No shortcuts yet: choose a function above and add it.</source>
+        <translation>尚無快速鍵：請在上方選擇功能並新增。</translation>
     </message>
     <message>
         <source>Noise</source>
@@ -1337,7 +1333,7 @@
     </message>
     <message>
         <source>Nothing is heard: no program plays, or the sound output is gone.</source>
-        <translation>沒有聲音：沒有程式在播放，或音訊輸出已中斷。</translation>
+        <translation>沒有聲音：沒有應用程式在播放，或音訊輸出已中斷。</translation>
     </message>
     <message>
         <source>Nothing plays</source>
@@ -1489,7 +1485,7 @@
     </message>
     <message>
         <source>Programs</source>
-        <translation>程式</translation>
+        <translation>應用程式</translation>
     </message>
     <message>
         <source>Progress</source>
@@ -1537,7 +1533,7 @@
     </message>
     <message>
         <source>RGB Limit</source>
-        <translation>RGB 有限</translation>
+        <translation>RGB 有限範圍</translation>
     </message>
     <message>
         <source>Rate</source>
@@ -1629,11 +1625,11 @@
     </message>
     <message>
         <source>Row %1, cell %2: %3</source>
-        <translation>第%1列第%2格：%3</translation>
+        <translation>第 %1 列第 %2 格：%3</translation>
     </message>
     <message>
         <source>Ruler</source>
-        <translation>尺規</translation>
+        <translation>標尺</translation>
     </message>
     <message>
         <source>Run on startup</source>
@@ -1741,11 +1737,11 @@
     </message>
     <message>
         <source>Set %1 back to &quot;%2&quot;</source>
-        <translation>將%1改回「%2」</translation>
+        <translation>將「%1」改回「%2」</translation>
     </message>
     <message>
-        <source>Set everything back to how the monitor left the factory? It will be away for some seconds.</source>
-        <translation>要將顯示器的所有設定恢復為出廠狀態嗎？顯示器將有數秒無法使用。</translation>
+        <source>Set everything back to how the monitor left the factory? The screen goes dark for a few seconds.</source>
+        <translation>要將顯示器的所有設定恢復為出廠狀態嗎？螢幕會暫時變黑數秒。</translation>
     </message>
     <message>
         <source>Shadow Balance</source>
@@ -1764,6 +1760,10 @@
         <translation>快速鍵</translation>
     </message>
     <message>
+        <source>Shortcut overlay</source>
+        <translation>快速鍵提示</translation>
+    </message>
+    <message>
         <source>Show</source>
         <translation>顯示</translation>
     </message>
@@ -1777,7 +1777,7 @@
     </message>
     <message>
         <source>Silence</source>
-        <translation>靜音</translation>
+        <translation>無聲</translation>
     </message>
     <message>
         <source>Simulated monitor</source>
@@ -1829,7 +1829,7 @@
     </message>
     <message>
         <source>Starts the program that brings the monitor&apos;s firmware up to date. Leave the monitor switched on until it has finished.</source>
-        <translation>啟動顯示器韌體升級程式。升級完成前請勿關閉顯示器。</translation>
+        <translation>啟動顯示器韌體升級應用程式。升級完成前請勿關閉顯示器。</translation>
     </message>
     <message>
         <source>Stop service</source>
@@ -1885,11 +1885,11 @@
     </message>
     <message>
         <source>The APP will reload data when switching machines.</source>
-        <translation>切換顯示器時，程式將重新載入資料。</translation>
+        <translation>切換顯示器時，應用程式將重新載入資料。</translation>
     </message>
     <message>
         <source>The APP will restart automatically when switching languages.</source>
-        <translation>切換語言時，程式將自動重新啟動。</translation>
+        <translation>切換語言時，應用程式將自動重新啟動。</translation>
     </message>
     <message>
         <source>The accessory did not take everything.</source>
@@ -1897,7 +1897,7 @@
     </message>
     <message>
         <source>The accessory is at work: wait until it has finished, or cancel the work on its page.</source>
-        <translation>配件正在工作：請等它完成，或在它的頁面上取消。</translation>
+        <translation>配件正在工作：請等待完成，或在其頁面上取消。</translation>
     </message>
     <message>
         <source>The accessory is the model with 25 rows of 42 cells</source>
@@ -1921,7 +1921,7 @@
     </message>
     <message>
         <source>The cable is pulled out at the eighth report from now</source>
-        <translation>從現在起第八個報告時拔出線纜</translation>
+        <translation>從現在起第八個報告時拔出纜線</translation>
     </message>
     <message>
         <source>The cable is pulled out until the button is released</source>
@@ -1933,7 +1933,7 @@
     </message>
     <message>
         <source>The computer and its monitors sleep until the button is released</source>
-        <translation>放開按鈕之前，電腦及其顯示器處於睡眠狀態</translation>
+        <translation>放開按鈕前，電腦及其顯示器處於睡眠狀態</translation>
     </message>
     <message>
         <source>The disk did not take everything.</source>
@@ -2001,7 +2001,7 @@
     </message>
     <message>
         <source>The monitor has not told this value yet.</source>
-        <translation>顯示器尚未告知此值。</translation>
+        <translation>尚未從顯示器讀取此值。</translation>
     </message>
     <message>
         <source>The monitor is changing its scene mode.</source>
@@ -2033,11 +2033,11 @@
     </message>
     <message>
         <source>The program could not be restarted. It goes on as it was.</source>
-        <translation>程式無法重新啟動，將維持原狀繼續執行。</translation>
+        <translation>應用程式無法重新啟動，將維持原狀繼續執行。</translation>
     </message>
     <message>
         <source>The program has not registered this combination.</source>
-        <translation>程式未註冊該組合鍵。</translation>
+        <translation>應用程式未註冊該組合鍵。</translation>
     </message>
     <message>
         <source>The program has this combination already.</source>
@@ -2045,7 +2045,7 @@
     </message>
     <message>
         <source>The program heard it.</source>
-        <translation>程式已收到。</translation>
+        <translation>應用程式已收到。</translation>
     </message>
     <message>
         <source>The recording could not be begun: %1</source>
@@ -2053,11 +2053,11 @@
     </message>
     <message>
         <source>The report is on the clipboard. It names no files, programs or users.</source>
-        <translation>報告已複製到剪貼簿，其中不含檔案、程式或使用者的名稱。</translation>
+        <translation>報告已複製到剪貼簿，其中不含檔案、應用程式或使用者的名稱。</translation>
     </message>
     <message>
         <source>The selected display is unsupported or the signal line is disconnected.</source>
-        <translation>不支援所選的顯示器，或訊號線未連接。</translation>
+        <translation>不支援所選的顯示器，或訊號纜線未連接。</translation>
     </message>
     <message>
         <source>The sharpest motion for shooters.</source>
@@ -2069,7 +2069,7 @@
     </message>
     <message>
         <source>The sound output cannot be listened to. It is tried again every few seconds.</source>
-        <translation>無法監聽聲音輸出，每隔幾秒會重試。</translation>
+        <translation>無法取得音訊輸出，每隔幾秒會重試。</translation>
     </message>
     <message>
         <source>The standard of the web.</source>
@@ -2089,11 +2089,11 @@
     </message>
     <message>
         <source>The upgrade program %1 could not be started.</source>
-        <translation>無法啟動升級程式 %1。</translation>
+        <translation>無法啟動升級應用程式 %1。</translation>
     </message>
     <message>
         <source>The upgrade program is running already.</source>
-        <translation>升級程式已在執行中。</translation>
+        <translation>升級應用程式已在執行中。</translation>
     </message>
     <message>
         <source>The white of printed paper.</source>
@@ -2149,11 +2149,11 @@
     </message>
     <message>
         <source>Tool Version: </source>
-        <translation>軟體版本： </translation>
+        <translation>工具版本：</translation>
     </message>
     <message>
         <source>Tool language settings</source>
-        <translation>軟體語言設定</translation>
+        <translation>工具語言設定</translation>
     </message>
     <message>
         <source>Topspeed</source>
@@ -2188,6 +2188,10 @@
         <translation>在此輸入組合鍵，然後在整個桌面上按下</translation>
     </message>
     <message>
+        <source>Type the text for the matrix.</source>
+        <translation>請輸入要在矩陣上顯示的文字。</translation>
+    </message>
+    <message>
         <source>Type-B</source>
         <translation>Type-B</translation>
     </message>
@@ -2205,15 +2209,15 @@
     </message>
     <message>
         <source>Ull-Level1</source>
-        <translation>Ull-等級 1</translation>
+        <translation>Ull 等級 1</translation>
     </message>
     <message>
         <source>Ull-Level2</source>
-        <translation>Ull-等級 2</translation>
+        <translation>Ull 等級 2</translation>
     </message>
     <message>
         <source>Ull-Level3</source>
-        <translation>Ull-等級 3</translation>
+        <translation>Ull 等級 3</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -2334,10 +2338,6 @@
     <message>
         <source>Write Data</source>
         <translation>寫入資料</translation>
-    </message>
-    <message>
-        <source>Write here what the matrix shall show.</source>
-        <translation>在此輸入要在矩陣上顯示的文字。</translation>
     </message>
     <message>
         <source>Written today</source>

@@ -16,7 +16,7 @@
 
 pageShortcutKey::pageShortcutKey(QWidget *parent)
     : ListPage(QStringLiteral("pageShortcutKey"), LABEL("LANGUAGE_SHORTCUTKEY"), LABEL("LANGUAGE_SHORTCUTKEY_DESC"),
-               LABEL("No hot keys yet: choose a function above and add it."), parent),
+               LABEL("No shortcuts yet: choose a function above and add it."), parent),
       m_available(shortcutFunctionsOf(deviceState)), m_master(new QPushButton(this)), m_functions(makeDropDown(this))
 {
     m_master->setObjectName(QStringLiteral("pushButton"));
@@ -206,7 +206,7 @@ void pageShortcutKey::showState()
 void pageShortcutKey::showResting()
 {
     if (!m_masterOn && notice().isEmpty())
-        showNotice(QObject::tr("All hot keys rest while the switch above is off."));
+        showNotice(QObject::tr("All shortcuts rest while the switch above is off."));
 }
 
 void pageShortcutKey::updateControlText()

@@ -34,8 +34,9 @@ QWidget *pageSystemSetting::buildPart(const char *)
     auto *question = new QLabel(part);
     question->setStyleSheet(QStringLiteral("color: #c9c9c9; font-size: 14px;"));
     question->setWordWrap(true);
-    texts().bind(LABEL("Set everything back to how the monitor left the factory? It will be away for some seconds."),
-                 [question](const QString &text) { question->setText(text); });
+    texts().bind(
+        LABEL("Set everything back to how the monitor left the factory? The screen goes dark for a few seconds."),
+        [question](const QString &text) { question->setText(text); });
     grid->addWidget(question, 0, 0, 1, 3);
     QPushButton *yes = makeHalfButton(LABEL("Yes"), texts(), part);
     QPushButton *no = makeHalfButton(LABEL("No"), texts(), part);

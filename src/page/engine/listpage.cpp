@@ -144,7 +144,7 @@ void ListPage::setWaiting(bool waiting)
 {
     m_apply->setProperty("waiting", waiting);
     m_apply->style()->polish(m_apply);
-    showNotice(waiting ? QObject::tr("Changes count once you press \"%1\".").arg(m_apply->text()) : QString());
+    showNotice(waiting ? QObject::tr("Changes take effect when you press \"%1\".").arg(m_apply->text()) : QString());
 }
 
 void ListPage::showStored(bool stored, const QString &fileName)

@@ -28,7 +28,7 @@ TextWidget::TextWidget(BoundTexts &texts, QWidget *parent)
     m_input->setObjectName(QStringLiteral("text"));
     m_input->setFixedHeight(40);
     texts.bind(LABEL("Text"), [this](const QString &text) { m_input->setAccessibleName(text); });
-    texts.bind(LABEL("Write here what the matrix shall show."),
+    texts.bind(LABEL("Type the text for the matrix."),
                [this](const QString &text) { m_input->setPlaceholderText(text); });
     auto *motions = new QHBoxLayout;
     buildMotions(texts, motions);
