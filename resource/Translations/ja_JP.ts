@@ -2508,4 +2508,478 @@
         <translation>アップロード済み</translation>
     </message>
 </context>
+<context>
+    <name>QAbstractFileIconProvider</name>
+    <message>
+        <source>Drive</source>
+        <translation>ドライブ</translation>
+    </message>
+    <message>
+        <source>File Folder</source>
+        <comment>Match Windows Explorer</comment>
+        <translation>ファイル フォルダー</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <comment>All other platforms</comment>
+        <translation>フォルダー</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <comment>All other platforms</comment>
+        <translation>ショートカット</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>不明</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>すべて選択(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>増やす(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>減らす(&amp;D)</translation>
+    </message>
+</context>
+<context>
+    <name>QColorDialog</name>
+    <message>
+        <source>&amp;Add to Custom Colors</source>
+        <translation>カスタムカラーに追加(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Basic colors</source>
+        <translation>基本の色(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Custom colors</source>
+        <translation>カスタムカラー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Green:</source>
+        <translation>緑(&amp;G):</translation>
+    </message>
+    <message>
+        <source>&amp;HTML:</source>
+        <translation>&amp;HTML:</translation>
+    </message>
+    <message>
+        <source>&amp;Pick Screen Color</source>
+        <translation>画面の色を取得(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Red:</source>
+        <translation>赤(&amp;R):</translation>
+    </message>
+    <message>
+        <source>&amp;Sat:</source>
+        <translation>彩度(&amp;S):</translation>
+    </message>
+    <message>
+        <source>&amp;Val:</source>
+        <translation>明度(&amp;V):</translation>
+    </message>
+    <message>
+        <source>A&amp;lpha channel:</source>
+        <translation>アルファチャンネル(&amp;L):</translation>
+    </message>
+    <message>
+        <source>Bl&amp;ue:</source>
+        <translation>青(&amp;U):</translation>
+    </message>
+    <message>
+        <source>Cursor at %1, %2
+Press ESC to cancel</source>
+        <translation>カーソル位置 %1, %2
+Esc キーでキャンセル</translation>
+    </message>
+    <message>
+        <source>Hu&amp;e:</source>
+        <translation>色相(&amp;E):</translation>
+    </message>
+    <message>
+        <source>Select Color</source>
+        <translation>色の選択</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+フォルダーが見つかりません。
+フォルダー名が正しいか確認してください。</translation>
+    </message>
+    <message>
+        <source>%1
+File not found.
+Please verify the correct file name was given.</source>
+        <translation>%1
+ファイルが見つかりません。
+ファイル名が正しいか確認してください。</translation>
+    </message>
+    <message>
+        <source>%1 already exists.
+Do you want to replace it?</source>
+        <translation>%1 は既に存在します。
+置き換えますか？</translation>
+    </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>選択(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>削除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;New Folder</source>
+        <translation>新しいフォルダー(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>開く(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>名前の変更(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is write protected.
+Do you want to delete it anyway?</source>
+        <translation>「%1」は書き込み禁止です。
+それでも削除しますか？</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete &apos;%1&apos;?</source>
+        <translation>「%1」を削除しますか？</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>Change to detail view mode</source>
+        <translation>詳細表示に切り替え</translation>
+    </message>
+    <message>
+        <source>Change to list view mode</source>
+        <translation>一覧表示に切り替え</translation>
+    </message>
+    <message>
+        <source>Could not delete directory.</source>
+        <translation>フォルダーを削除できませんでした。</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>新しいフォルダーの作成</translation>
+    </message>
+    <message>
+        <source>Create a New Folder</source>
+        <translation>新しいフォルダーを作成します</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Detail View</source>
+        <translation>詳細表示</translation>
+    </message>
+    <message>
+        <source>Directories</source>
+        <translation>フォルダー</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>フォルダー:</translation>
+    </message>
+    <message>
+        <source>File &amp;name:</source>
+        <translation>ファイル名(&amp;N):</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Files of type:</source>
+        <translation>ファイルの種類:</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>進む</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>前に戻ります</translation>
+    </message>
+    <message>
+        <source>Go forward</source>
+        <translation>次に進みます</translation>
+    </message>
+    <message>
+        <source>Go to the parent directory</source>
+        <translation>1 つ上のフォルダーに移動します</translation>
+    </message>
+    <message>
+        <source>List View</source>
+        <translation>一覧表示</translation>
+    </message>
+    <message>
+        <source>List of places and bookmarks</source>
+        <translation>場所とブックマークの一覧</translation>
+    </message>
+    <message>
+        <source>Look in:</source>
+        <translation>場所:</translation>
+    </message>
+    <message>
+        <source>New Folder</source>
+        <translation>新しいフォルダー</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>1 つ上のフォルダー</translation>
+    </message>
+    <message>
+        <source>Recent Places</source>
+        <translation>最近使った場所</translation>
+    </message>
+    <message>
+        <source>Show </source>
+        <translation>表示 </translation>
+    </message>
+    <message>
+        <source>Show &amp;hidden files</source>
+        <translation>隠しファイルを表示(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Sidebar</source>
+        <translation>サイドバー</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Computer</source>
+        <translation>コンピューター</translation>
+    </message>
+    <message>
+        <source>Date Modified</source>
+        <translation>更新日時</translation>
+    </message>
+    <message>
+        <source>My Computer</source>
+        <translation>PC</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>サイズ</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <comment>All other platforms</comment>
+        <translation>種類</translation>
+    </message>
+</context>
+<context>
+    <name>QKeySequenceEdit</name>
+    <message>
+        <source>Press shortcut</source>
+        <translation>キーを押してください</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>貼り付け(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>やり直し(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>切り取り(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>すべて選択</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>&amp;No</source>
+        <translation>いいえ(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>はい(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Bottom</source>
+        <translation>下端</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>左端</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>1 ページ下</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>1 ページ左</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>1 ページ右</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>1 ページ上</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>右端</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>下へスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll here</source>
+        <translation>ここまでスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>左へスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>右へスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>上へスクロール</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>上端</translation>
+    </message>
+</context>
+<context>
+    <name>QSidebar</name>
+    <message>
+        <source>Remove</source>
+        <translation>取り除く</translation>
+    </message>
+</context>
+<context>
+    <name>QTabBar</name>
+    <message>
+        <source>Scroll Left</source>
+        <translation>左へスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll Right</source>
+        <translation>右へスクロール</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>貼り付け(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>やり直し(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>切り取り(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>すべて選択</translation>
+    </message>
+</context>
 </TS>

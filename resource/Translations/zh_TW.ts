@@ -2508,4 +2508,478 @@
         <translation>已上傳內容</translation>
     </message>
 </context>
+<context>
+    <name>QAbstractFileIconProvider</name>
+    <message>
+        <source>Drive</source>
+        <translation>磁碟機</translation>
+    </message>
+    <message>
+        <source>File Folder</source>
+        <comment>Match Windows Explorer</comment>
+        <translation>資料夾</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <comment>All other platforms</comment>
+        <translation>資料夾</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <comment>All other platforms</comment>
+        <translation>捷徑</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>未知</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>全選(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>遞增(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>遞減(&amp;D)</translation>
+    </message>
+</context>
+<context>
+    <name>QColorDialog</name>
+    <message>
+        <source>&amp;Add to Custom Colors</source>
+        <translation>新增至自訂色彩(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Basic colors</source>
+        <translation>基本色彩(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Custom colors</source>
+        <translation>自訂色彩(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Green:</source>
+        <translation>綠(&amp;G)：</translation>
+    </message>
+    <message>
+        <source>&amp;HTML:</source>
+        <translation>&amp;HTML：</translation>
+    </message>
+    <message>
+        <source>&amp;Pick Screen Color</source>
+        <translation>挑選螢幕色彩(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Red:</source>
+        <translation>紅(&amp;R)：</translation>
+    </message>
+    <message>
+        <source>&amp;Sat:</source>
+        <translation>飽和度(&amp;S)：</translation>
+    </message>
+    <message>
+        <source>&amp;Val:</source>
+        <translation>明度(&amp;V)：</translation>
+    </message>
+    <message>
+        <source>A&amp;lpha channel:</source>
+        <translation>透明色版(&amp;L)：</translation>
+    </message>
+    <message>
+        <source>Bl&amp;ue:</source>
+        <translation>藍(&amp;U)：</translation>
+    </message>
+    <message>
+        <source>Cursor at %1, %2
+Press ESC to cancel</source>
+        <translation>游標位於 %1, %2
+按 Esc 取消</translation>
+    </message>
+    <message>
+        <source>Hu&amp;e:</source>
+        <translation>色相(&amp;E)：</translation>
+    </message>
+    <message>
+        <source>Select Color</source>
+        <translation>選擇色彩</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+找不到該資料夾。
+請檢查資料夾名稱是否正確。</translation>
+    </message>
+    <message>
+        <source>%1
+File not found.
+Please verify the correct file name was given.</source>
+        <translation>%1
+找不到該檔案。
+請檢查檔案名稱是否正確。</translation>
+    </message>
+    <message>
+        <source>%1 already exists.
+Do you want to replace it?</source>
+        <translation>%1 已存在。
+要取代它嗎？</translation>
+    </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>選擇(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>刪除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;New Folder</source>
+        <translation>新增資料夾(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>開啟(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>重新命名(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>儲存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is write protected.
+Do you want to delete it anyway?</source>
+        <translation>「%1」已防寫保護。
+仍要刪除它嗎？</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>所有檔案 (*)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>所有檔案 (*)</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete &apos;%1&apos;?</source>
+        <translation>確定要刪除「%1」嗎？</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>返回</translation>
+    </message>
+    <message>
+        <source>Change to detail view mode</source>
+        <translation>切換到詳細資料檢視</translation>
+    </message>
+    <message>
+        <source>Change to list view mode</source>
+        <translation>切換到清單檢視</translation>
+    </message>
+    <message>
+        <source>Could not delete directory.</source>
+        <translation>無法刪除資料夾。</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>新增資料夾</translation>
+    </message>
+    <message>
+        <source>Create a New Folder</source>
+        <translation>新增資料夾</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>刪除</translation>
+    </message>
+    <message>
+        <source>Detail View</source>
+        <translation>詳細資料</translation>
+    </message>
+    <message>
+        <source>Directories</source>
+        <translation>資料夾</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>資料夾：</translation>
+    </message>
+    <message>
+        <source>File &amp;name:</source>
+        <translation>檔案名稱(&amp;N)：</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>檔案</translation>
+    </message>
+    <message>
+        <source>Files of type:</source>
+        <translation>檔案類型：</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>前進</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>返回</translation>
+    </message>
+    <message>
+        <source>Go forward</source>
+        <translation>前進</translation>
+    </message>
+    <message>
+        <source>Go to the parent directory</source>
+        <translation>移至上一層資料夾</translation>
+    </message>
+    <message>
+        <source>List View</source>
+        <translation>清單</translation>
+    </message>
+    <message>
+        <source>List of places and bookmarks</source>
+        <translation>位置與書籤清單</translation>
+    </message>
+    <message>
+        <source>Look in:</source>
+        <translation>查詢：</translation>
+    </message>
+    <message>
+        <source>New Folder</source>
+        <translation>新增資料夾</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>上一層資料夾</translation>
+    </message>
+    <message>
+        <source>Recent Places</source>
+        <translation>最近的位置</translation>
+    </message>
+    <message>
+        <source>Show </source>
+        <translation>顯示 </translation>
+    </message>
+    <message>
+        <source>Show &amp;hidden files</source>
+        <translation>顯示隱藏檔案(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Sidebar</source>
+        <translation>側邊欄</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Computer</source>
+        <translation>電腦</translation>
+    </message>
+    <message>
+        <source>Date Modified</source>
+        <translation>修改日期</translation>
+    </message>
+    <message>
+        <source>My Computer</source>
+        <translation>本機</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名稱</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <comment>All other platforms</comment>
+        <translation>類型</translation>
+    </message>
+</context>
+<context>
+    <name>QKeySequenceEdit</name>
+    <message>
+        <source>Press shortcut</source>
+        <translation>請按快速鍵</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>複製(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>貼上(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>重做(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>復原(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>剪下(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>刪除</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>全選</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>&amp;No</source>
+        <translation>否(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>是(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>確定</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>開啟</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>儲存</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Bottom</source>
+        <translation>底端</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>左端</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>下一頁</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>左一頁</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>右一頁</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>上一頁</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>右端</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>向下捲動</translation>
+    </message>
+    <message>
+        <source>Scroll here</source>
+        <translation>捲動到此處</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>向左捲動</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>向右捲動</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>向上捲動</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>頂端</translation>
+    </message>
+</context>
+<context>
+    <name>QSidebar</name>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+</context>
+<context>
+    <name>QTabBar</name>
+    <message>
+        <source>Scroll Left</source>
+        <translation>向左捲動</translation>
+    </message>
+    <message>
+        <source>Scroll Right</source>
+        <translation>向右捲動</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>複製(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>貼上(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>重做(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>復原(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>剪下(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>刪除</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>全選</translation>
+    </message>
+</context>
 </TS>
