@@ -11,6 +11,9 @@ class TopTab : public PaintedControl<QWidget>
 public:
     TopTab(const QString &iconBase, const QString &caption, QWidget *parent);
 
+    /// Its icon: the path without suffix.
+    const QString &icon() const { return m_iconBase; }
+
     void setChecked(bool checked);
     void setCaption(const QString &caption);
 

@@ -1,7 +1,9 @@
 #include <QtTest>
 #include <QtWidgets>
 
+#include "controls/pictures.h"
 #include "ddc_protocol/devicestate.h"
+#include "ddc_protocol/scenemodes.h"
 #include "page/Office/pageoffice.h"
 #include "page/emptypage.h"
 #include "support/windowfixture.h"
@@ -32,6 +34,20 @@ QStringList mute(const QWidget *page)
             found.append(QLatin1String(part->metaObject()->className()) + ' ' + part->objectName());
     }
     return found;
+}
+
+/// Captions by what is drawn above them; the icons of tabs have a narrower border than those of entries.
+using Meanings = QMap<QByteArray, QStringList>;
+
+void addMeaning(Meanings &meanings, const QString &icon, const QString &caption)
+{
+    const QImage image = Pictures::load(Pictures::ofState(icon), 1.0).toImage();
+    const int side = 20;
+    const QImage drawn = image.copy((image.width() - side) / 2, (image.height() - side) / 2, side, side);
+    QStringList &captions =
+        meanings[QByteArray(reinterpret_cast<const char *>(drawn.constBits()), drawn.sizeInBytes())];
+    if (!captions.contains(caption))
+        captions.append(caption);
 }
 
 } // namespace
@@ -200,6 +216,17 @@ void TestMainWindow::otherEntriesNameThemselves()
     }
     QCOMPARE(unchosen, (QList<int>{5, 6}));                 // three others begin with their first entry
     QVERIFY(m_desk->takeRequests().filter("W ").isEmpty()); // opening pages asks, but sends nothing
+
+    Meanings meanings;
+    for (const SceneMode &mode : sceneModes())
+        addMeaning(meanings, Pictures::kRoot + "img/entry/" + mode.icon, mode.label);
+    for (const LeftTabButton *button : m_window->findChildren<LeftTabButton *>())
+        addMeaning(meanings, button->icon(), button->caption());
+    for (const TopTab *tab : m_window->tabs()->tabs())
+        addMeaning(meanings, tab->icon(), tab->accessibleName());
+    for (const QStringList &captions : std::as_const(meanings))
+        QVERIFY2(captions.size() == 1, qPrintable("one icon means: " + captions.join(", ")));
+    QVERIFY(meanings.size() > 80); // pages' own entries among them
 }
 
 void TestMainWindow::interfaceModes()

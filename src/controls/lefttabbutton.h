@@ -25,6 +25,9 @@ public:
     /// Why it cannot be used now, for tooltip and assistive software; empty when it can.
     void setLock(const QString &reason);
 
+    /// Its icon: the path without suffix.
+    const QString &icon() const { return m_iconBase; }
+
     QString caption() const { return m_caption.text(); }
     /// Sets the caption, which is the accessible name too.
     void setCaption(const QString &caption);

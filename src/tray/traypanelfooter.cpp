@@ -25,7 +25,7 @@ TrayPanelFooter::TrayPanelFooter(std::span<const TrayControl> choices, std::span
     m_hint->setObjectName(QStringLiteral("panelHint"));
     m_hint->setWordWrap(true);
     m_chooser = new QToolButton(footer);
-    m_chooser->setIcon(QIcon(Pictures::kRoot + QStringLiteral("img/entry/tool_settings.png")));
+    m_chooser->setIcon(QIcon(Pictures::kRoot + QStringLiteral("img/entry/choose_functions.png")));
     m_chooser->setFocusPolicy(Qt::StrongFocus);
     m_chooser->setPopupMode(QToolButton::InstantPopup);
     auto *menu = new QMenu(m_chooser);

@@ -55,7 +55,7 @@ std::span<const PanelSpec> panels()
     static const Section machineSelect[] = {CustomPart{kMachine}};
     static const Section healthPanel[] = {CustomPart{kHealth}};
     static const PanelSpec all[] = {
-        {LABEL("General Settings"), "tool_settings", "pageGeneralSettings", general},
+        {LABEL("General Settings"), "general_settings", "pageGeneralSettings", general},
         {LABEL("Machine Select"), "machine_select", "pageMachineSelect", machineSelect},
         {LABEL("Monitor Health"), "monitor_health", "pageMonitorHealth", healthPanel},
     };

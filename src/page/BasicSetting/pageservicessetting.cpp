@@ -28,7 +28,7 @@ const Section kQrCodePanel[] = {CustomPart{kQrCode}};
 const Section kKnowledgePanel[] = {CustomPart{kKnowledge}};
 const Section kUpgradePanel[] = {CustomPart{kUpgrade}};
 const PanelSpec kPanels[] = {
-    {kVersion, "standard", "pageDisplayVersion", kVersionPanel},
+    {kVersion, "display_version", "pageDisplayVersion", kVersionPanel},
     {kQrCode, "qr_code", "pageQrCode", kQrCodePanel},
     {kKnowledge, "knowledge", "pageKnowledge", kKnowledgePanel},
     {kUpgrade, "upgrade", "pageUpgrade", kUpgradePanel},

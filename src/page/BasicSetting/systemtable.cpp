@@ -61,15 +61,15 @@ const Section kOsdLanguage[] = {OptionGroup{LABEL("OSD Language"), Command::OsdL
 const Section kMenuLock[] = {OptionGroup{LABEL("Menu Lock"), Command::MenuLock, kSwitchOptions, {}, GroupLook::Switch}};
 
 const PanelSpec kPanels[] = {
-    {LABEL("Output Range"), "native", "pageOutputRange", kOutputRange},
-    {LABEL("OSD Setting"), "standard", "pageOSDSetting", kOsdSetting},
-    {LABEL("Power Saving"), "eye_care", "pagePowerSaving", kPowerSavingPanel},
-    {LABEL("Audio Settings"), "led_music", "pageAduioSettings", kAudioSettings}, // spelled so
-    {LABEL("Power LED"), "light_programme", "pagePowerLED", kPowerLedPanel},
-    {LABEL("Gravity Sensor"), "alignment_aid", "pageGravitySensor", kGravitySensor},
-    {LABEL("Reset Factory"), "service_settings", "pageRestFactorySettings", kResetFactory},
-    {LABEL("OSD Language"), "led_text", "pageLanguage", kOsdLanguage},
-    {LABEL("Menu Lock"), "care_content", "pageMenuLock", kMenuLock},
+    {LABEL("Output Range"), "output_range", "pageOutputRange", kOutputRange},
+    {LABEL("OSD Setting"), "osd_setting", "pageOSDSetting", kOsdSetting},
+    {LABEL("Power Saving"), "power_saving", "pagePowerSaving", kPowerSavingPanel},
+    {LABEL("Audio Settings"), "audio_settings", "pageAduioSettings", kAudioSettings}, // spelled so
+    {LABEL("Power LED"), "power_led", "pagePowerLED", kPowerLedPanel},
+    {LABEL("Gravity Sensor"), "gravity_sensor", "pageGravitySensor", kGravitySensor},
+    {LABEL("Reset Factory"), "reset_factory", "pageRestFactorySettings", kResetFactory},
+    {LABEL("OSD Language"), "osd_language", "pageLanguage", kOsdLanguage},
+    {LABEL("Menu Lock"), "menu_lock", "pageMenuLock", kMenuLock},
 };
 
 } // namespace

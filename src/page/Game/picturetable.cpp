@@ -57,20 +57,20 @@ const Section kAdaptiveSync[] = {makeSwitch(LABEL("Adaptive-Sync"), Command::Ada
 std::vector<PanelSpec> picturePanels(const DeviceState &state)
 {
     const PanelSpec motion = state.has(Capability::MpcsMotion)
-                                 ? PanelSpec{LABEL("MPCS"), "mpcs_fps", "pageMotion", kMpcs}
-                                 : PanelSpec{LABEL("DyDs"), "mpcs_fps", "pageMotion", kDyds};
+                                 ? PanelSpec{LABEL("MPCS"), "motion", "pageMotion", kMpcs}
+                                 : PanelSpec{LABEL("DyDs"), "motion", "pageMotion", kDyds};
     return {
-        {LABEL("Game Rush"), "game_aid", "pageGameRush", kGameRush},
+        {LABEL("Game Rush"), "game_rush", "pageGameRush", kGameRush},
         motion,
-        {LABEL("Night Vision"), "night", "pageNightVision", kNightVisionPanel},
-        {LABEL("Dynamic OD"), "animate", "pageDynamicOD", kDynamicOd},
-        {LABEL("HDR"), "light_programme", "pageHDR", kHdrPanel},
-        {LABEL("Color Enhance"), "art_design", "pageColorEnhance", kColorEnhancePanel},
-        {LABEL("CR Enhance"), "picture_enhance", "pageCREnhance", kContrastEnhancePanel},
-        {LABEL("Shadow Balance"), "dark_programme", "pageShadowBalance", kShadowBalancePanel},
-        {LABEL("SR"), "standard", "pageSR", kSuperResolutionPanel},
-        {LABEL("Localdimming"), "mpcs_ld", "pageLocaldimming", kLocalDimmingPanel, Capability::LocalDimming},
-        {LABEL("Halo Control"), "eye_care", "pageHaloControl", kHaloControlPanel, Capability::HaloControl},
-        {LABEL("Adaptive-Sync"), "emberline", "pageAdaptiveSync", kAdaptiveSync},
+        {LABEL("Night Vision"), "night_vision", "pageNightVision", kNightVisionPanel},
+        {LABEL("Dynamic OD"), "dynamic_od", "pageDynamicOD", kDynamicOd},
+        {LABEL("HDR"), "hdr", "pageHDR", kHdrPanel},
+        {LABEL("Color Enhance"), "color_enhance", "pageColorEnhance", kColorEnhancePanel},
+        {LABEL("CR Enhance"), "cr_enhance", "pageCREnhance", kContrastEnhancePanel},
+        {LABEL("Shadow Balance"), "shadow_balance", "pageShadowBalance", kShadowBalancePanel},
+        {LABEL("SR"), "super_resolution", "pageSR", kSuperResolutionPanel},
+        {LABEL("Localdimming"), "local_dimming", "pageLocaldimming", kLocalDimmingPanel, Capability::LocalDimming},
+        {LABEL("Halo Control"), "halo_control", "pageHaloControl", kHaloControlPanel, Capability::HaloControl},
+        {LABEL("Adaptive-Sync"), "adaptive_sync", "pageAdaptiveSync", kAdaptiveSync},
     };
 }

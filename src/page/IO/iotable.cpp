@@ -26,12 +26,12 @@ const Section kInputSignalPanel[] = {CustomPart{kInputNowPart},
 const Section kCec[] = {makeSwitch(LABEL("CEC"), Command::Cec)};
 
 const PanelSpec kPanels[] = {
-    {LABEL("Output Range"), "native", "pageOutputRange", kOutputRange},
-    {LABEL("Quick Boot"), "emberline", "pageQuickBoot", kQuickBoot},
-    {LABEL("USB Power"), "io_settings", "pageUSBPower", kUsbPower},
-    {LABEL("USB Switch"), "service_settings", "pageUSBSwitch", kUsbSwitchPanel},
-    {LABEL("Input Signal"), "hdtv_video", "pageInputSignal", kInputSignalPanel},
-    {LABEL("CEC"), "scence_follow", "pageCEC", kCec},
+    {LABEL("Output Range"), "output_range", "pageOutputRange", kOutputRange},
+    {LABEL("Quick Boot"), "quick_boot", "pageQuickBoot", kQuickBoot},
+    {LABEL("USB Power"), "usb_power", "pageUSBPower", kUsbPower},
+    {LABEL("USB Switch"), "usb_switch", "pageUSBSwitch", kUsbSwitchPanel},
+    {LABEL("Input Signal"), "input_signal", "pageInputSignal", kInputSignalPanel},
+    {LABEL("CEC"), "cec", "pageCEC", kCec},
 };
 
 } // namespace
