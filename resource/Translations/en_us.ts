@@ -220,6 +220,10 @@
         <translation>A dim picture for dark rooms.</translation>
     </message>
     <message>
+        <source>A line of text that the matrix shows, standing or scrolling.</source>
+        <translation>A line of text that the matrix shows, standing or scrolling.</translation>
+    </message>
+    <message>
         <source>A soft page for long texts.</source>
         <translation>A soft page for long texts.</translation>
     </message>
@@ -662,6 +666,10 @@
     <message>
         <source>Do not save</source>
         <translation>Do not save</translation>
+    </message>
+    <message>
+        <source>Draw frames cell by cell; the matrix plays them in a loop.</source>
+        <translation>Draw frames cell by cell; the matrix plays them in a loop.</translation>
     </message>
     <message>
         <source>Drop a chunk</source>
@@ -1984,6 +1992,10 @@
         <translation>The monitor did not confirm this value.</translation>
     </message>
     <message>
+        <source>The monitor did not take &quot;%1&quot;.</source>
+        <translation>The monitor did not take &quot;%1&quot;.</translation>
+    </message>
+    <message>
         <source>The monitor did not take the reset.</source>
         <translation>The monitor did not take the reset.</translation>
     </message>
@@ -2174,6 +2186,10 @@
     <message>
         <source>True colours for design work.</source>
         <translation>True colours for design work.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Try again</translation>
     </message>
     <message>
         <source>Try again; its scene or another setting may forbid it.</source>

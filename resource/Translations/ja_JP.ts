@@ -220,6 +220,10 @@
         <translation>暗い部屋に適した明るさを抑えた画質です。</translation>
     </message>
     <message>
+        <source>A line of text that the matrix shows, standing or scrolling.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>A soft page for long texts.</source>
         <translation>長文を読むのに適したやわらかな画質です。</translation>
     </message>
@@ -662,6 +666,10 @@
     <message>
         <source>Do not save</source>
         <translation>保存しない</translation>
+    </message>
+    <message>
+        <source>Draw frames cell by cell; the matrix plays them in a loop.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Drop a chunk</source>
@@ -1984,6 +1992,10 @@
         <translation>モニターがこの値を確認していません。</translation>
     </message>
     <message>
+        <source>The monitor did not take &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The monitor did not take the reset.</source>
         <translation>モニターはリセットを受け付けませんでした。</translation>
     </message>
@@ -2174,6 +2186,10 @@
     <message>
         <source>True colours for design work.</source>
         <translation>デザイン作業に適した忠実な色です。</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Try again; its scene or another setting may forbid it.</source>

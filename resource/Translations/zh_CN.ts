@@ -220,6 +220,10 @@
         <translation>较暗的画面，适合昏暗的房间。</translation>
     </message>
     <message>
+        <source>A line of text that the matrix shows, standing or scrolling.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>A soft page for long texts.</source>
         <translation>画面柔和，适合长时间阅读。</translation>
     </message>
@@ -662,6 +666,10 @@
     <message>
         <source>Do not save</source>
         <translation>不保存</translation>
+    </message>
+    <message>
+        <source>Draw frames cell by cell; the matrix plays them in a loop.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Drop a chunk</source>
@@ -1984,6 +1992,10 @@
         <translation>显示器没有确认此值。</translation>
     </message>
     <message>
+        <source>The monitor did not take &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The monitor did not take the reset.</source>
         <translation>显示器未执行重置。</translation>
     </message>
@@ -2174,6 +2186,10 @@
     <message>
         <source>True colours for design work.</source>
         <translation>色彩真实，适合设计工作。</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Try again; its scene or another setting may forbid it.</source>

@@ -220,6 +220,10 @@
         <translation>較暗的畫面，適合昏暗的房間。</translation>
     </message>
     <message>
+        <source>A line of text that the matrix shows, standing or scrolling.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>A soft page for long texts.</source>
         <translation>畫面柔和，適合長時間閱讀。</translation>
     </message>
@@ -662,6 +666,10 @@
     <message>
         <source>Do not save</source>
         <translation>不儲存</translation>
+    </message>
+    <message>
+        <source>Draw frames cell by cell; the matrix plays them in a loop.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Drop a chunk</source>
@@ -1984,6 +1992,10 @@
         <translation>顯示器沒有確認此值。</translation>
     </message>
     <message>
+        <source>The monitor did not take &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The monitor did not take the reset.</source>
         <translation>顯示器未執行重設。</translation>
     </message>
@@ -2174,6 +2186,10 @@
     <message>
         <source>True colours for design work.</source>
         <translation>色彩真實，適合設計工作。</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Try again; its scene or another setting may forbid it.</source>

@@ -10,7 +10,7 @@
 #include "controls/pictures.h"
 
 namespace {
-constexpr int kHandle = 20;
+constexpr int kHandle = 2 * NoWheelSlider::kGrooveInset;
 constexpr int kGroove = 4;
 constexpr int kHeight = 26;
 const QColor kGrooveColor(0x2b, 0x36, 0x31);

@@ -13,6 +13,8 @@ class NoWheelSlider : public QSlider
     Q_OBJECT
 
 public:
+    static constexpr int kGrooveInset = 10; ///< pixels before the groove and behind it, for the handle
+
     explicit NoWheelSlider(QWidget *parent = nullptr);
 
     /// Colour of the filled part and the handle's ring; an invalid colour (the default) means the mint gradient.

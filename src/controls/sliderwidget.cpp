@@ -36,7 +36,6 @@ SliderWidget::SliderWidget(const QString &name, int minimum, int maximum, QWidge
     row->addWidget(m_captionLabel);
     row->addWidget(m_slider, 1);
     row->addWidget(m_valueLabel);
-    m_mark->move(0, (sizeHint().height() - ValueMark::kSize) / 2);
     setFocusProxy(m_slider);
     setCaption(name);
     showValue();
@@ -59,7 +58,13 @@ void SliderWidget::setCaption(const QString &caption)
 
 void SliderWidget::setCaptionWidth(int width)
 {
-    m_captionLabel->setFixedWidth(width);
+    m_captionLabel->setFixedWidth(width - NoWheelSlider::kGrooveInset);
+}
+
+void SliderWidget::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    m_mark->move(0, (height() - ValueMark::kSize) / 2);
 }
 
 void SliderWidget::setAccent(const QColor &accent)

@@ -23,7 +23,7 @@ public:
     QString caption() const;
     /// Sets the caption, which is the accessible name too; the name stays.
     void setCaption(const QString &caption);
-    /// Fixes the caption's width, in pixels, so that the sliders of a column begin together.
+    /// Fixes where the groove begins: as many pixels from the left as an option does behind a caption of this width.
     void setCaptionWidth(int width);
 
     /// Colour of the slider; an invalid colour means the mint gradient.
@@ -65,6 +65,7 @@ Q_SIGNALS:
     void sliderValueChanged(QString sliderName, int value, bool bReleased);
 
 protected:
+    void resizeEvent(QResizeEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
 
 private:

@@ -1,10 +1,11 @@
 #include "page/BasicSetting/systemtable.h"
 
+#include "controls/metrics.h"
 #include "page/engine/commonoptions.h"
 
 namespace {
 
-constexpr int kCaption = 150;
+constexpr int kCaption = metrics::kCaptionWidth;
 
 constexpr SliderSpec kOsd[] = {
     {"Show Time(s)", LABEL("Show Time(s)"), Command::OsdShowTime, 5, 100},

@@ -1,11 +1,12 @@
 #include "page/Game/picturetable.h"
 #include "ddc_protocol/devicestate.h"
 
+#include "controls/metrics.h"
 #include "page/engine/commonoptions.h"
 
 namespace {
 
-constexpr int kCaption = 150;
+constexpr int kCaption = metrics::kCaptionWidth;
 
 // The switches of the motion function and of local dimming always send 0, although the option "Close" of the same
 // groups sends 2. Both are meant.

@@ -13,6 +13,7 @@
 #include <QStyle>
 
 #include "controls/captionlabel.h"
+#include "controls/metrics.h"
 #include "controls/sharedfonts.h"
 #include "controls/timecurve.h"
 #include "ddc_protocol/linkrecorder.h"
@@ -76,7 +77,7 @@ void HealthPanel::build()
                        1);
     m_monitors = makeDropDown(this);
     m_monitors->setObjectName(QStringLiteral("healthMonitors"));
-    m_monitors->setFixedSize(220, kPlainButtonHeight);
+    m_monitors->setFixedSize(220, metrics::kControlHeight);
     m_texts.bind(LABEL("Machine Select"), [this](const QString &text) { m_monitors->setAccessibleName(text); });
     connect(m_monitors, &QComboBox::currentIndexChanged, this, &HealthPanel::refresh);
     heading->addWidget(m_monitors);

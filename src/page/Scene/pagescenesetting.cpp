@@ -7,6 +7,7 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include "controls/metrics.h"
 #include "controls/pictures.h"
 #include "controls/sharedfonts.h"
 #include "ddc_protocol/commandqueue.h"
@@ -16,6 +17,7 @@
 #include "page/Scene/scenetable.h"
 #include "page/Scene/workthread.h"
 #include "page/engine/halfbutton.h"
+#include "page/engine/pagehead.h"
 #include "page/engine/pagestyle.h"
 
 pageSceneSetting::pageSceneSetting(SearchDeviceDlg &session, CommandQueue &queue, QWidget *parent)
@@ -25,13 +27,9 @@ pageSceneSetting::pageSceneSetting(SearchDeviceDlg &session, CommandQueue &queue
     dressPage(this);
 
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(24, 16, 24, 16);
-    column->setSpacing(16);
-    column->addWidget(buildHeader());
-    auto *line = new QFrame(this);
-    line->setObjectName(QStringLiteral("line"));
-    line->setFixedHeight(1);
-    column->addWidget(line);
+    column->setContentsMargins(metrics::kBlockGap, 0, metrics::kBlockGap, 16);
+    column->setSpacing(metrics::kGap);
+    buildHead(column);
     m_areas->addWidget(buildDefaultArea());
     m_areas->addWidget(buildCustomArea());
     column->addWidget(m_areas, 1);
@@ -48,31 +46,18 @@ pageSceneSetting::~pageSceneSetting()
     m_worker->wait();
 }
 
-QWidget *pageSceneSetting::buildHeader()
+void pageSceneSetting::buildHead(QVBoxLayout *column)
 {
-    auto *header = new QWidget(this);
-    m_title = new QLabel(header);
-    m_title->setObjectName(QStringLiteral("title"));
-    m_title->setFont(titleFont);
-    m_note = new QLabel(header);
-    m_note->setObjectName(QStringLiteral("note"));
-    m_note->setFont(noteFont);
-    m_defaultButton = makeHalfButton(kDefaultLabel, texts(), header);
-    m_customButton = makeHalfButton(kCustomLabel, texts(), header);
-
+    m_head = addHead(column);
+    m_defaultButton = makeHalfButton(kDefaultLabel, texts(), m_head);
+    m_customButton = makeHalfButton(kCustomLabel, texts(), m_head);
     auto *halves = new QButtonGroup(this);
-    auto *grid = new QGridLayout(header);
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->setHorizontalSpacing(0);
-    grid->addWidget(m_title, 0, 0);
-    grid->addWidget(m_note, 1, 0);
-    grid->setColumnStretch(0, 1);
+    m_head->corner()->setSpacing(0);
     for (QPushButton *half : {m_defaultButton, m_customButton}) {
         halves->addButton(half);
-        grid->addWidget(half, 0, grid->columnCount(), 2, 1);
+        m_head->corner()->addWidget(half, 0, Qt::AlignTop);
         connect(half, &QPushButton::clicked, this, &pageSceneSetting::onHalfClicked);
     }
-    return header;
 }
 
 QWidget *pageSceneSetting::buildDefaultArea()
@@ -103,7 +88,7 @@ QWidget *pageSceneSetting::buildCustomArea()
     m_customArea->setObjectName(QStringLiteral("customArea"));
     auto *column = new QVBoxLayout(m_customArea);
     column->setContentsMargins(0, 0, 16, 0);
-    column->setSpacing(18);
+    column->setSpacing(metrics::kRowGap);
     setLocks(sceneLocks());
     buildSections(sceneSections(), column);
     column->addStretch(1);
@@ -160,7 +145,7 @@ void pageSceneSetting::switchHalf(bool defaultView)
     showHalf(defaultView);
     if (blockValid) {
         if (changed)
-            showResult(send(Command::SceneMode, wanted));
+            showModeResult(send(Command::SceneMode, wanted));
         fillCustomArea();
         return;
     }
@@ -175,7 +160,7 @@ void pageSceneSetting::switchHalf(bool defaultView)
 void pageSceneSetting::onWorkFinished()
 {
     updateInterfaceData();
-    showResult(m_worker->isTaken());
+    showModeResult(m_worker->isTaken());
     Q_EMIT modeChangeEnded();
 }
 
@@ -188,31 +173,33 @@ void pageSceneSetting::chooseScene(int value)
     queue().drain(); // a drag's last value belongs to the mode that is left
     deviceState.wish(Command::SceneMode, wanted->value);
     showHalf(true);
-    showResult(send(Command::SceneMode, wanted->value));
+    showModeResult(send(Command::SceneMode, wanted->value));
+}
+
+/// The half or mode that is shown was wished and not taken: it may be wished once more.
+void pageSceneSetting::showModeResult(bool ok)
+{
+    const int wished = deviceState.value(Command::SceneMode);
+    const SceneMode *mode = sceneModeOf(wished);
+    showResult(ok, mode ? QObject::tr(mode->label) : QString(), [this, wished] {
+        if (wished % 2 != 0)
+            chooseScene(wished);
+        else
+            switchHalf(false);
+    });
 }
 
 void pageSceneSetting::showTitle()
 {
     const SceneMode *mode = sceneModeOf(deviceState.value(Command::SceneMode));
-    m_title->setText(mode ? QObject::tr(mode->label) : QObject::tr("Scene"));
-    m_note->setStyleSheet(m_refused ? QStringLiteral("color: #da676d;") : QString());
-    m_note->setText(m_refused ? markText(Mark::Refused)
-                    : m_defaultView
-                        ? QObject::tr("The picture as the factory set it.")
-                        : QObject::tr("Your own picture. Changes are sent to the monitor as you make them."));
+    m_head->setTitle(mode ? QObject::tr(mode->label) : QObject::tr("Scene"));
+    m_head->setHelp(m_defaultView ? QObject::tr("The picture as the factory set it.")
+                                  : QObject::tr("Your own picture. Changes are sent to the monitor as you make them."));
     m_defaultText->setText((mode ? QObject::tr(mode->hint) + QLatin1Char('\n') : QString()) +
                            QObject::tr("Choose Custom to make it your own."));
     const QString icon = QStringLiteral("img/entry/%1_checked.png").arg(QLatin1String(mode ? mode->icon : "standard"));
     const QPixmap picture = Pictures::load(Pictures::kRoot + icon, 2.0);
     m_defaultIcon->setPixmap(picture.scaled(picture.size() * 2, Qt::KeepAspectRatio, Qt::SmoothTransformation));
-}
-
-void pageSceneSetting::showResult(bool ok)
-{
-    if (ok != m_refused)
-        return;
-    m_refused = !ok;
-    showTitle();
 }
 
 /// Whoever comes back, or looks at another monitor, begins anew.

@@ -39,7 +39,6 @@ Q_SIGNALS:
     void viewShown(bool defaultView);
 
 protected:
-    void showResult(bool ok) override;
     void followValue(Command command) override;
     void hideEvent(QHideEvent *event) override;
 
@@ -54,7 +53,8 @@ private Q_SLOTS:
     void onWorkFinished();
 
 private:
-    QWidget *buildHeader();
+    void buildHead(QVBoxLayout *column);
+    void showModeResult(bool ok);
     QWidget *buildDefaultArea();
     QWidget *buildCustomArea();
     void addRules();
@@ -66,8 +66,7 @@ private:
     void fillUserColours(int temperature);
 
     WorkThread *m_worker;
-    QLabel *m_title = nullptr;
-    QLabel *m_note = nullptr;
+    PageHead *m_head = nullptr;
     QLabel *m_defaultIcon = nullptr;
     QLabel *m_defaultText = nullptr;
     QPushButton *m_defaultButton = nullptr;
@@ -76,6 +75,5 @@ private:
     QWidget *m_customArea = nullptr;
     bool m_defaultView = true;
     bool m_filled = false;    ///< a block of this session was shown
-    bool m_refused = false;   ///< what was set last
     int m_userColourSlot = 0; ///< which user preset the R, G, B sliders edit; 0 none
 };

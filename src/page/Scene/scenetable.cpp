@@ -1,10 +1,11 @@
 #include "page/Scene/scenetable.h"
 
+#include "controls/metrics.h"
 #include "page/engine/commonoptions.h"
 
 namespace {
 
-constexpr int kWideCaption = 150;
+constexpr int kWideCaption = metrics::kCaptionWidth;
 constexpr int kNarrowCaption = 52;
 
 constexpr SliderSpec kPictureSliders[] = {

@@ -2,11 +2,13 @@
 
 #include <QPushButton>
 
+#include "controls/metrics.h"
 #include "page/engine/boundtexts.h"
 
 namespace {
 
 constexpr int kPixels = 15;
+constexpr int kWidth = 112;
 
 const char *const kStyle = "QPushButton { border-image: url(%1normal.png); color: #adadad; padding-right: %2px; }"
                            "QPushButton:hover { border-image: url(%1hover.png); }"
@@ -18,7 +20,7 @@ const char *const kStyle = "QPushButton { border-image: url(%1normal.png); color
 
 void dressHalfButton(QPushButton *button)
 {
-    button->setFixedSize(128, 40);
+    button->setFixedSize(kWidth, metrics::kControlHeight);
     QFont font = button->font();
     font.setPixelSize(kPixels);
     button->setFont(font);

@@ -7,9 +7,11 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include "controls/messagestrip.h"
+#include "controls/metrics.h"
 #include "controls/pictures.h"
-#include "controls/sharedfonts.h"
 #include "page/engine/labels.h"
+#include "page/engine/pagehead.h"
 #include "page/engine/pagestyle.h"
 #include "page/engine/plainbutton.h"
 #include "page/engine/storenotice.h"
@@ -18,51 +20,36 @@ namespace {
 
 const QString kBackground = Pictures::kRoot + QStringLiteral("img/nightLoom/bg_3.png");
 constexpr QSize kFallbackSize(1000, 680);
-constexpr int kMargin = 24;
 constexpr int kFixedItems = 2; // of the rows' column: what an empty list says, and the stretch below
 const char *const kTrashStyle = "QPushButton { border-image: url(%1trash_normal.png); }"
                                 "QPushButton:hover, QPushButton:focus { border-image: url(%1trash_checked.png); }";
-
-QLabel *makeLabel(const QString &name, const QFont &font, QWidget *parent)
-{
-    auto *label = new QLabel(parent);
-    label->setObjectName(name);
-    label->setFont(font);
-    label->setWordWrap(true);
-    return label;
-}
 
 } // namespace
 
 ListPage::ListPage(const QString &name, const char *title, const char *description, const char *nothing,
                    QWidget *parent)
-    : QFrame(parent), m_heading(new QHBoxLayout), m_tools(new QHBoxLayout),
-      m_nothing(makeLabel(QStringLiteral("note"), QFont(), this)),
-      m_notice(makeLabel(QStringLiteral("listNotice"), noteFont, this))
+    : QFrame(parent), m_head(new PageHead(this)), m_tools(new QHBoxLayout), m_nothing(new QLabel(this))
 {
     setObjectName(name);
     dressPage(this);
     const QPixmap background = Pictures::load(kBackground, 1.0);
     setFixedSize(background.isNull() ? kFallbackSize : background.size());
 
-    QLabel *heading = makeLabel(QStringLiteral("title"), titleFont, this);
-    QLabel *note = makeLabel(QStringLiteral("note"), noteFont, this);
-    m_texts.bind(title, [heading](const QString &text) { heading->setText(text); });
+    m_nothing->setObjectName(QStringLiteral("note"));
+    m_nothing->setWordWrap(true);
+    m_texts.bind(title, [this](const QString &text) { m_head->setTitle(text); });
     m_texts.bind(nothing, [this](const QString &text) { m_nothing->setText(text); });
-    m_texts.bind(description, [note](const QString &text) { note->setText(text); });
-    m_heading->addWidget(heading, 1);
-    m_tools->setSpacing(12);
+    m_texts.bind(description, [this](const QString &text) { m_head->setHelp(text); });
+    m_tools->setSpacing(metrics::kGap);
 
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(kMargin, kMargin, kMargin, 16);
-    column->setSpacing(12);
-    column->addLayout(m_heading);
-    column->addWidget(note);
+    constexpr int kSides = metrics::kBlockGap + metrics::kPageBorder; // which its picture has
+    column->setContentsMargins(kSides, metrics::kPageBorder, kSides, 16);
+    column->setSpacing(metrics::kGap);
+    column->addWidget(m_head);
     column->addLayout(m_tools);
+    column->addSpacing(metrics::kGap);
     column->addWidget(buildList(), 1);
-    column->addWidget(m_notice);
-    m_notice->setTextFormat(Qt::PlainText); // it may name a file of any name
-    showNotice({});
     showWhetherEmpty();
 }
 
@@ -119,12 +106,19 @@ void ListPage::updateControlText()
     m_texts.retranslate();
 }
 
+QHBoxLayout *ListPage::heading()
+{
+    return m_head->corner();
+}
+
+QString ListPage::notice() const
+{
+    return m_head->strip()->text();
+}
+
 void ListPage::showNotice(const QString &text, Tone tone)
 {
-    m_notice->setText(text);
-    m_notice->setVisible(!text.isEmpty());
-    m_notice->setProperty("warning", tone == Tone::Warning);
-    m_notice->style()->polish(m_notice);
+    m_head->strip()->say(text, tone == Tone::Warning ? MessageStrip::Tone::Refusal : MessageStrip::Tone::Notice);
 }
 
 QPushButton *ListPage::makeButton(const char *label, const QString &name)

@@ -6,6 +6,7 @@
 #include "page/engine/boundtexts.h"
 #include "page/engine/page.h"
 
+class PageHead;
 class QHBoxLayout;
 class QPushButton;
 class QScrollArea;
@@ -24,13 +25,13 @@ public:
     void updateControlText() override;
     QWidget *widget() override { return this; }
 
-    /// What is written under the rows; empty when there is nothing to say.
-    QString notice() const { return m_notice->text(); }
+    /// What is said under the title; empty when there is nothing to say.
+    QString notice() const;
 
 protected:
     void paintEvent(QPaintEvent *event) override;
 
-    QHBoxLayout *heading() { return m_heading; }
+    QHBoxLayout *heading();
     QHBoxLayout *tools() { return m_tools; }
 
     /// Puts a row below the others.
@@ -64,13 +65,12 @@ private:
     void showWhetherEmpty();
 
     BoundTexts m_texts;
-    QHBoxLayout *m_heading;
+    PageHead *m_head;
     QHBoxLayout *m_tools;
     QScrollArea *m_area = nullptr;
     QVBoxLayout *m_rows = nullptr;
     QLabel *m_nothing;
     QPushButton *m_apply = nullptr;
-    QLabel *m_notice;
 };
 
 /// The button that takes a row away.

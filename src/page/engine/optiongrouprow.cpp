@@ -6,19 +6,16 @@
 
 #include "controls/captionlabel.h"
 #include "controls/locksign.h"
+#include "controls/metrics.h"
 #include "page/engine/boundtexts.h"
 #include "page/engine/flowlayout.h"
 #include "page/engine/halfbutton.h"
 
 namespace {
 
-constexpr int kCaptionWidth = 150;
 constexpr int kCaptionPixels = 15;
 constexpr int kButtonPixels = 14;
-constexpr int kButtonHeight = 34;
-constexpr int kHalfHeight = 40;
 constexpr int kTextMargin = 10; // on either side of a button's text
-constexpr int kSpacing = 8;
 
 struct ButtonSize
 {
@@ -55,7 +52,7 @@ void dressOptionButton(QPushButton *button)
         ++size;
     if (button->width() == size->width && !button->styleSheet().isEmpty())
         return; // a style sheet is dear, and it would be the same
-    button->setFixedSize(size->width, kButtonHeight);
+    button->setFixedSize(size->width, metrics::kControlHeight);
     const char *name = size->pictures;
     button->setStyleSheet(
         QString::fromLatin1(kPictureStyle)
@@ -78,11 +75,11 @@ OptionGroupRow::OptionGroupRow(const OptionGroup &group, BoundTexts &texts, QWid
     : QWidget(parent), m_group(group), m_caption(new CaptionLabel(QString(), kCaptionPixels, this)),
       m_exclusive(new QButtonGroup(this)), m_mark(new ValueMark(this)), m_sign(new LockSign(this))
 {
-    m_caption->setFixedSize(kCaptionWidth, group.look == GroupLook::Switch ? kHalfHeight : kButtonHeight);
+    m_caption->setFixedSize(metrics::kCaptionWidth, metrics::kControlHeight);
     texts.bind(group.label, [this](const QString &text) { m_caption->setText(text); });
     m_caption->setStyleSheet(QStringLiteral("QLabel { color: #FFFFFF; }QLabel:disabled { color: #000; }"));
 
-    auto *flow = new FlowLayout(kSpacing);
+    auto *flow = new FlowLayout(metrics::kGap);
     for (const Option &option : group.options) {
         auto *button = new QPushButton(this);
         button->setObjectName(
@@ -110,7 +107,7 @@ OptionGroupRow::OptionGroupRow(const OptionGroup &group, BoundTexts &texts, QWid
     connect(m_sign, &LockSign::pressed, this, &OptionGroupRow::lockPressed);
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(kSpacing);
+    row->setSpacing(metrics::kGap);
     row->addWidget(m_caption, 0, Qt::AlignTop);
     row->addLayout(flow, 1);
 }

@@ -9,6 +9,7 @@
 
 #include "controls/captionlabel.h"
 #include "controls/locksign.h"
+#include "controls/metrics.h"
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/devicestate.h"
 #include "page/engine/boundtexts.h"
@@ -17,7 +18,6 @@
 namespace {
 
 constexpr int kColumnSpacing = 40;
-constexpr int kRowSpacing = 16;
 constexpr int kHeadingPixels = 15;
 constexpr int kSignSpacing = 4;
 
@@ -103,7 +103,7 @@ void PageControls::addSliders(const SliderGrid &grid, std::span<const LockRule> 
     }
     auto *cells = new QGridLayout;
     cells->setHorizontalSpacing(kColumnSpacing);
-    cells->setVerticalSpacing(kRowSpacing);
+    cells->setVerticalSpacing(metrics::kRowGap);
     int cell = 0;
     for (const SliderSpec &spec : grid.sliders) {
         if (!isAvailable(spec.needs))
@@ -125,6 +125,7 @@ QLayout *PageControls::makeSlider(const SliderSpec &spec, const SliderGrid &grid
 {
     auto *slider = new SliderWidget(QLatin1String(spec.name), spec.minimum, spec.maximum, parent);
     slider->setCaptionWidth(grid.captionWidth);
+    slider->setFixedHeight(metrics::kControlHeight);
     slider->setAccent(colorOf(spec.accent));
     m_texts.bind(spec.caption, [slider](const QString &text) { slider->setCaption(text); });
     connect(slider, &SliderWidget::sliderValueChanged, this, &PageControls::sliderChanged);
@@ -201,6 +202,20 @@ void PageControls::chooseCommand(const char *sliderName, std::function<std::opti
         if (entry.widget->name() == QLatin1String(sliderName))
             entry.choose = std::move(choose);
     }
+}
+
+QString PageControls::wordsFor(Command command, int value) const
+{
+    if (const OptionGroupRow *row = group(command)) {
+        const QPushButton *button = row->buttonOf(value);
+        const QString name = QObject::tr(row->group().label);
+        return button ? QStringLiteral("%1: %2").arg(name, button->text().trimmed()) : name;
+    }
+    for (const Slider &entry : m_sliderEntries) {
+        if (entry.command() == command)
+            return QStringLiteral("%1: %2").arg(entry.widget->caption()).arg(value);
+    }
+    return {};
 }
 
 std::optional<PageControls::Choice> PageControls::choiceOf(const QString &objectName) const

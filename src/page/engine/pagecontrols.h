@@ -75,6 +75,9 @@ public:
     /// holds.
     std::optional<Choice> choiceOf(const QString &objectName) const;
 
+    /// A setting and its value in the words of the control that stands for it; empty when there is none.
+    QString wordsFor(Command command, int value) const;
+
 Q_SIGNALS:
     void optionClicked(QPushButton *button);
     void ownOptionClicked(const char *group, int value);

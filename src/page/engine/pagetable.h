@@ -79,4 +79,5 @@ struct PanelSpec
     const char *widgetName;
     std::span<const Section> sections;
     std::optional<Capability> needs = {};
+    const char *help = nullptr; ///< a sentence that says what it is for
 };

@@ -9,18 +9,20 @@
 #include <QVBoxLayout>
 
 #include "controls/lefttabbutton.h"
+#include "controls/metrics.h"
 #include "controls/pictures.h"
 #include "controls/sharedfonts.h"
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/settingsstore.h"
 #include "page/engine/optiongrouprow.h"
+#include "page/engine/pagehead.h"
 #include "page/engine/pagestyle.h"
 
 namespace {
 
 constexpr int kListWidth = 232;
 constexpr int kEntryPitch = 48;
-constexpr int kPanelSpacing = 20;
+constexpr int kBottom = 16;
 
 QPushButton *makeArrow(const QString &name, const QString &arrow, QWidget *parent)
 {
@@ -34,23 +36,19 @@ QPushButton *makeArrow(const QString &name, const QString &arrow, QWidget *paren
 } // namespace
 
 PanelPage::PanelPage(const QString &name, OwnList list, CommandQueue &queue, QWidget *parent)
-    : SettingsPage(queue, parent), m_list(list), m_stack(new QStackedWidget(this)), m_notice(new QLabel(this))
+    : SettingsPage(queue, parent), m_list(list), m_stack(new QStackedWidget(this))
 {
     setObjectName(name);
     dressPage(this);
     m_stack->setObjectName(QStringLiteral("rightStackedWidget"));
-    m_notice->setObjectName(QStringLiteral("notice"));
-    m_notice->setFont(noteFont);
-    m_notice->setWordWrap(true);
-    m_notice->setTextFormat(Qt::PlainText);
     askWhenShown();
 }
 
 void PanelPage::buildPanels(std::span<const PanelSpec> panels)
 {
     auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(m_list == OwnList::Shown ? 0 : 24, 16, 24, 16);
-    row->setSpacing(24);
+    row->setContentsMargins(m_list == OwnList::Shown ? 0 : metrics::kBlockGap, 0, metrics::kBlockGap, kBottom);
+    row->setSpacing(metrics::kBlockGap);
     for (const PanelSpec &panel : panels) {
         if (!panel.needs || deviceState.has(*panel.needs))
             m_panels.push_back(panel);
@@ -58,8 +56,9 @@ void PanelPage::buildPanels(std::span<const PanelSpec> panels)
     if (m_list == OwnList::Shown)
         row->addWidget(buildList());
     auto *column = new QVBoxLayout;
+    column->setSpacing(metrics::kGap);
+    m_head = addHead(column);
     column->addWidget(m_stack, 1);
-    column->addWidget(m_notice);
     addUndoBar(column);
     row->addLayout(column, 1);
     for (const PanelSpec &panel : m_panels)
@@ -102,7 +101,7 @@ QWidget *PanelPage::buildList()
     m_down->hide();
 
     auto *layout = new QVBoxLayout(bar);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins(0, kBottom, 0, 0);
     layout->addWidget(m_upper);
     layout->addWidget(m_listArea, 1);
     layout->addWidget(m_down);
@@ -126,13 +125,8 @@ QWidget *PanelPage::buildPanel(const PanelSpec &panel)
     auto *content = new QWidget(m_stack);
     content->setObjectName(QLatin1String(panel.widgetName));
     auto *column = new QVBoxLayout(content);
-    column->setContentsMargins(0, 8, 0, 0);
-    column->setSpacing(kPanelSpacing);
-    auto *title = new QLabel(content);
-    title->setObjectName(QStringLiteral("title"));
-    title->setFont(titleFont);
-    texts().bind(panel.label, [title](const QString &text) { title->setText(text); });
-    column->addWidget(title);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(metrics::kRowGap);
     const std::size_t before = optionGroups().size();
     buildSections(panel.sections, column);
     const std::span rows = std::span(optionGroups()).subspan(before);
@@ -149,6 +143,16 @@ void PanelPage::updateControlText()
 {
     SettingsPage::updateControlText();
     shrinkTogether(m_entries);
+    showTitle();
+}
+
+void PanelPage::showTitle()
+{
+    if (m_panels.empty())
+        return;
+    const PanelSpec &panel = m_panels[static_cast<std::size_t>(currentPanel())];
+    m_head->setTitle(QObject::tr(panel.label));
+    m_head->setHelp(panel.help ? QObject::tr(panel.help) : QString());
 }
 
 int PanelPage::panelCount() const
@@ -168,6 +172,7 @@ void PanelPage::choose(int index)
     else
         showNotice({});
     m_stack->setCurrentIndex(index);
+    showTitle();
     for (std::size_t i = 0; i < m_entries.size(); ++i)
         m_entries[i]->setChecked(static_cast<int>(i) == index);
     reconcile();
@@ -193,26 +198,10 @@ void PanelPage::scrollList(int steps)
     bar->setValue(bar->value() + steps * kEntryPitch);
 }
 
-void PanelPage::showResult(bool ok)
-{
-    showNotice(ok ? QString() : markText(Mark::Refused));
-}
-
 QString PanelPage::alreadyEnabled(const char *label)
 {
     const QString ending = QObject::tr(" already enabled!");
     return QObject::tr(label) + ending;
-}
-
-QString PanelPage::notice() const
-{
-    return m_notice->text();
-}
-
-void PanelPage::showNotice(const QString &text)
-{
-    m_notice->setText(text);
-    m_notice->setVisible(!text.isEmpty());
 }
 
 bool PanelPage::showStored(bool stored, Unstored otherwise)

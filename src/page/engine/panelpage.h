@@ -31,14 +31,9 @@ public:
     /// The entries of the page's own list; empty on pages without one.
     const std::vector<LeftTabButton *> &entries() const { return m_entries; }
 
-    /// What is written under the panel, such as why something was not done; empty when there is nothing to say.
-    QString notice() const;
-
 protected:
     /// To be called once by the page's constructor, when its own members stand.
     void buildPanels(std::span<const PanelSpec> panels);
-
-    void showResult(bool ok) override;
 
     /// Whether a panel may be chosen now; a page that says no shows why.
     virtual bool mayShow(const PanelSpec &) { return true; }
@@ -46,10 +41,7 @@ protected:
     /// The warning of two functions that exclude each other; the label of the one that is on, as a source text.
     static QString alreadyEnabled(const char *label);
 
-    /// Writes something under the panel until another one is chosen or something is sent.
-    void showNotice(const QString &text);
-
-    /// Writes under the panel that a setting of the tool's own could not be stored, unless it was; returns whether.
+    /// Says under the title that a setting of the tool's own could not be stored, unless it was; returns whether.
     bool showStored(bool stored, Unstored otherwise);
 
 private:
@@ -57,6 +49,7 @@ private:
     QWidget *buildPanel(const PanelSpec &panel);
     void addEntry(const PanelSpec &panel, QLayout *column);
     void choose(int index);
+    void showTitle();
     void scrollList(int steps);
 
     OwnList m_list;
@@ -66,5 +59,5 @@ private:
     QPushButton *m_upper = nullptr;
     QPushButton *m_down = nullptr;
     QStackedWidget *m_stack;
-    QLabel *m_notice;
+    PageHead *m_head = nullptr;
 };

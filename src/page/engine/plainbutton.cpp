@@ -1,5 +1,7 @@
 #include "page/engine/plainbutton.h"
 
+#include "controls/metrics.h"
+
 #include <QPushButton>
 
 #include "page/engine/boundtexts.h"
@@ -9,7 +11,7 @@ QPushButton *makePlainButton(const char *label, const QString &name, BoundTexts 
     auto *button = new QPushButton(parent);
     button->setObjectName(name);
     button->setProperty("plain", true);
-    button->setFixedHeight(kPlainButtonHeight);
+    button->setFixedHeight(metrics::kControlHeight);
     texts.bind(label, [button](const QString &text) { button->setText(text); });
     return button;
 }

@@ -5,7 +5,5 @@ class QPushButton;
 class QString;
 class QWidget;
 
-inline constexpr int kPlainButtonHeight = 36; // pixels
-
 /// A button of a page's own, beside the settings; its text, a source text, follows the language.
 QPushButton *makePlainButton(const char *label, const QString &name, BoundTexts &texts, QWidget *parent);

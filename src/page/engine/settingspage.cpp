@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "controls/messagestrip.h"
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/commandtable.h"
@@ -13,6 +14,7 @@
 #include "ddc_protocol/transport.h"
 #include "ddc_protocol/valuechanges.h"
 #include "page/engine/optiongrouprow.h"
+#include "page/engine/pagehead.h"
 #include "page/engine/riskychanges.h"
 #include "page/engine/undobar.h"
 #include "platform/desk.h"
@@ -33,6 +35,40 @@ SettingsPage::SettingsPage(CommandQueue &queue, QWidget *parent)
 void SettingsPage::buildSections(std::span<const Section> sections, QVBoxLayout *column)
 {
     m_controls.build(sections, m_locks.rules(), column, [this](const char *name) { return buildPart(name); });
+}
+
+PageHead *SettingsPage::addHead(QVBoxLayout *column)
+{
+    m_head = new PageHead(this);
+    column->addWidget(m_head);
+    connect(m_head->strip(), &MessageStrip::actionWanted, this, [this] {
+        if (const auto again = m_tryAgain) // it may say anew what is to be tried
+            again();
+    });
+    return m_head;
+}
+
+QString SettingsPage::notice() const
+{
+    return m_head->strip()->text();
+}
+
+void SettingsPage::showNotice(const QString &text)
+{
+    m_tryAgain = {};
+    if (m_head)
+        m_head->strip()->say(text, MessageStrip::Tone::Refusal);
+}
+
+void SettingsPage::showResult(bool ok, const QString &again, std::function<void()> tryAgain)
+{
+    showNotice({});
+    if (ok || !m_head)
+        return;
+    m_tryAgain = std::move(tryAgain);
+    const QString text =
+        again.isEmpty() ? markText(Mark::Refused) : QObject::tr("The monitor did not take \"%1\".").arg(again);
+    m_head->strip()->say(text, MessageStrip::Tone::Refusal, m_tryAgain ? QObject::tr("Try again") : QString());
 }
 
 void SettingsPage::addUndoBar(QVBoxLayout *column)
@@ -103,7 +139,7 @@ bool SettingsPage::setOption(Command command, int value)
     const bool ok = send(command, value);
     apply(m_after, command, value);
     fill(command);
-    showResult(ok);
+    showResult(ok, m_controls.wordsFor(command, value), [this, command, value] { setOption(command, value); });
     return ok;
 }
 
@@ -125,10 +161,10 @@ void SettingsPage::onSliderChanged(const QString &name, int value, bool released
     }
 }
 
-void SettingsPage::onSent(Command command, int, bool ok)
+void SettingsPage::onSent(Command command, int value, bool ok)
 {
     if (m_posted.contains(command))
-        showResult(ok);
+        showResult(ok, m_controls.wordsFor(command, value), [this, command, value] { setOption(command, value); });
 }
 
 void SettingsPage::showEvent(QShowEvent *event)
@@ -216,10 +252,6 @@ Mark SettingsPage::markOf(Command command)
     }
     }
     return Mark::None;
-}
-
-void SettingsPage::showResult(bool)
-{
 }
 
 QWidget *SettingsPage::buildPart(const char *)

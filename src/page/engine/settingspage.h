@@ -15,6 +15,7 @@
 #include "page/engine/pagelocks.h"
 
 class CommandQueue;
+class PageHead;
 class UndoBar;
 
 /// What every page of monitor settings is: controls built from tables, filled from the snapshot without sending, and
@@ -46,6 +47,9 @@ public:
     OptionGroupRow *ownGroup(const char *label) const { return m_controls.ownGroup(label); }
     SliderWidget *slider(const char *name) const { return m_controls.slider(name); }
 
+    /// What is said under the title, such as why something was not done; empty when there is nothing to say.
+    QString notice() const;
+
     /// The line that offers the way back from a risky change.
     UndoBar *undoBar() const { return m_undoBar; }
 
@@ -75,6 +79,9 @@ protected:
     /// Builds the sections, in order, into a column; those that the monitor lacks are left out.
     void buildSections(std::span<const Section> sections, QVBoxLayout *column);
 
+    /// To be called where a page begins: its title, its sentence, and what there is to say.
+    PageHead *addHead(QVBoxLayout *column);
+
     /// To be called where a page ends: from then on it offers the way back from risky changes.
     void addUndoBar(QVBoxLayout *column);
 
@@ -90,8 +97,12 @@ protected:
     /// Shows what is set of the options without a command.
     void showOwnValues();
 
-    /// Tells the user whether the monitor took what was set last on this page; a page says so in its own place.
-    virtual void showResult(bool ok);
+    /// Tells the user under the title whether the monitor took what was set last on this page. A page without a head
+    /// says so in its own place. What is called @p again may be tried once more by @p tryAgain.
+    virtual void showResult(bool ok, const QString &again = QString(), std::function<void()> tryAgain = {});
+
+    /// Says under the title why something was not done, until something else is done.
+    void showNotice(const QString &text);
 
     /// A value that the page shows, or what is known about it, has changed; its own controls show it already.
     virtual void followValue(Command) {}
@@ -165,7 +176,9 @@ private:
     bool m_updating = false;
     bool m_asksWhenShown = false;
     Mode m_shownMode;
+    PageHead *m_head = nullptr;
     UndoBar *m_undoBar = nullptr;
+    std::function<void()> m_tryAgain; ///< what the monitor did not take
     bool m_paced = false;
     std::map<Command, Rule> m_before;
     std::map<Command, Rule> m_after;

@@ -12,11 +12,14 @@
 #include "page/Nightloom/canvas/frametabs.h"
 #include "page/Nightloom/parts/matrixeditor.h"
 #include "page/engine/labels.h"
+#include "page/engine/pagehead.h"
 #include "usb-hid/accessorylink.h"
 #include "usb-hid/accessoryupload.h"
 
 pageLEDMatrixCanvas::pageLEDMatrixCanvas(AccessoryCheck ensureConnected, QWidget *parent)
-    : LongWorkPage(QStringLiteral("pageLEDMatrixCanvas"), LABEL("Custom Mode"), std::move(ensureConnected), parent),
+    : LongWorkPage(QStringLiteral("pageLEDMatrixCanvas"), LABEL("Custom Mode"),
+                   LABEL("Draw frames cell by cell; the matrix plays them in a loop."), std::move(ensureConnected),
+                   parent),
       CanvasQuestions(this), m_tabs(new FrameTabs(this)),
       m_files(
           m_drawings, *m_tabs, *work(), *this, [this] { return this->ensureConnected(); }, &sendAnmateData),
@@ -24,8 +27,8 @@ pageLEDMatrixCanvas::pageLEDMatrixCanvas(AccessoryCheck ensureConnected, QWidget
 {
     m_count->setObjectName(QStringLiteral("note"));
     m_count->setFont(noteFont);
-    head()->addWidget(m_count, 0, Qt::AlignBottom);
-    layOut(m_tabs, 12);
+    head()->corner()->addWidget(m_count, 0, Qt::AlignTop);
+    layOut(m_tabs);
     bindShortcuts();
     connect(&m_files, &CanvasFiles::begins, this, &pageLEDMatrixCanvas::endStrokes);
     connect(&m_files, &CanvasFiles::changed, this, &pageLEDMatrixCanvas::updateButtons);

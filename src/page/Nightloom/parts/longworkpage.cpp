@@ -5,44 +5,49 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "controls/sharedfonts.h"
+#include "controls/metrics.h"
 #include "page/Nightloom/parts/toolcolumn.h"
+#include "page/engine/pagehead.h"
 #include "page/engine/pagestyle.h"
 
-LongWorkPage::LongWorkPage(const QString &name, const char *title, AccessoryCheck ensureConnected, QWidget *parent)
-    : QLabel(parent), m_ensureConnected(std::move(ensureConnected)), m_work(new WorkPanel(m_texts, this)),
-      m_head(new QHBoxLayout)
+static constexpr int kToolColumnWidth = 280;
+
+LongWorkPage::LongWorkPage(const QString &name, const char *title, const char *help, AccessoryCheck ensureConnected,
+                           QWidget *parent)
+    : QLabel(parent), m_ensureConnected(std::move(ensureConnected)), m_head(new PageHead(this)),
+      m_work(new WorkPanel(m_texts, *m_head->strip(), this))
 {
     setObjectName(name);
     dressPage(this);
-    auto *heading = new QLabel(this);
-    heading->setObjectName(QStringLiteral("title"));
-    heading->setFont(titleFont);
-    m_texts.bind(title, [heading](const QString &text) { heading->setText(text); });
-    m_head->addWidget(heading);
-    m_head->addStretch(1);
+    m_texts.bind(title, [this](const QString &text) { m_head->setTitle(text); });
+    m_texts.bind(help, [this](const QString &text) { m_head->setHelp(text); });
     connect(m_work, &WorkPanel::begins, this, &LongWorkPage::busyBegins);
     connect(m_work, &WorkPanel::cancelled, this, &LongWorkPage::cancelWork);
     connect(m_work, &WorkPanel::ended, this, &LongWorkPage::busyEnded);
 }
 
-void LongWorkPage::layOut(QWidget *worked, int spacing)
+void LongWorkPage::layOut(QWidget *worked)
 {
-    auto *main = new QVBoxLayout;
-    main->setSpacing(spacing);
-    main->addLayout(m_head);
-    main->addWidget(worked, 1);
     auto *side = new QWidget(this);
+    side->setFixedWidth(kToolColumnWidth);
     auto *tools = new QWidget(side);
     buildTools(makeToolColumn(tools), tools);
     m_work->block({tools, worked});
     auto *column = new QVBoxLayout(side);
-    column->setContentsMargins(0, 4, 0, 0);
-    column->setSpacing(16);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(metrics::kRowGap);
     column->addWidget(tools);
     column->addWidget(m_work);
     column->addStretch(1);
-    layOutWithTools(this, main, side);
+    auto *row = new QHBoxLayout;
+    row->setSpacing(metrics::kBlockGap);
+    row->addWidget(worked, 1);
+    row->addWidget(side);
+    auto *page = new QVBoxLayout(this);
+    page->setContentsMargins(metrics::kBlockGap, 0, metrics::kBlockGap, 16);
+    page->setSpacing(metrics::kGap);
+    page->addWidget(m_head);
+    page->addLayout(row, 1);
 }
 
 void LongWorkPage::updateControlText()

@@ -7,11 +7,12 @@
 #include "page/engine/boundtexts.h"
 #include "page/engine/page.h"
 
-class QHBoxLayout;
+class PageHead;
 class QVBoxLayout;
 
 /// A page of the accessory whose work may take long: what is worked on under the title, and at its side a column of
-/// tools, above what there is to say of the work. While it goes on neither what is worked on nor a tool can be used.
+/// tools, above how far the work is; what there is to say of it stands under the title. While it goes on neither what
+/// is worked on nor a tool can be used.
 class LongWorkPage : public QLabel, public Page
 {
     Q_OBJECT
@@ -28,11 +29,12 @@ Q_SIGNALS:
     void busyEnded();
 
 protected:
-    /// The object name is what the page's style goes by; the title is a source text.
-    LongWorkPage(const QString &name, const char *title, AccessoryCheck ensureConnected, QWidget *parent);
+    /// The object name is what the page's style goes by; the title, and the sentence below it, are source texts.
+    LongWorkPage(const QString &name, const char *title, const char *help, AccessoryCheck ensureConnected,
+                 QWidget *parent);
 
-    /// To be called once: lays out what is worked on, so many pixels below the title. Builds the tools.
-    void layOut(QWidget *worked, int spacing);
+    /// To be called once: lays out what is worked on below the title. Builds the tools.
+    void layOut(QWidget *worked);
 
     /// Fills the column of tools, whose parent is @p tools.
     virtual void buildTools(QVBoxLayout *column, QWidget *tools) = 0;
@@ -45,12 +47,11 @@ protected:
 
     BoundTexts &texts() { return m_texts; }
 
-    /// The line of the title, for what else is to stand there.
-    QHBoxLayout *head() { return m_head; }
+    PageHead *head() const { return m_head; }
 
 private:
     AccessoryCheck m_ensureConnected;
     BoundTexts m_texts;
+    PageHead *m_head;
     WorkPanel *m_work;
-    QHBoxLayout *m_head;
 };

@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "controls/captions.h"
+#include "controls/metrics.h"
 #include "controls/sliderwidget.h"
 #include "page/Nightloom/parts/frameplayer.h"
 #include "page/engine/boundtexts.h"
@@ -14,29 +15,16 @@
 namespace {
 
 constexpr int kButtonWidth = 136;
-constexpr int kButtonHeight = 36;
 constexpr int kButtonPixels = 14;
 constexpr int kTextMargin = 8;
 
 } // namespace
 
-static constexpr int kToolColumnWidth = 280;
-
-void layOutWithTools(QWidget *page, QLayout *work, QWidget *side)
-{
-    side->setFixedWidth(kToolColumnWidth);
-    auto *row = new QHBoxLayout(page);
-    row->setContentsMargins(24, 16, 24, 16);
-    row->setSpacing(24);
-    row->addLayout(work, 1);
-    row->addWidget(side);
-}
-
 QVBoxLayout *makeToolColumn(QWidget *tools)
 {
     auto *column = new QVBoxLayout(tools);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(16);
+    column->setSpacing(metrics::kRowGap);
     return column;
 }
 
@@ -45,7 +33,7 @@ QPushButton *makeToolButton(const char *label, BoundTexts &texts, QWidget *paren
     auto *button = new QPushButton(parent);
     button->setObjectName(QLatin1String(label));
     button->setProperty("tool", true); // what the style sheet knows it by
-    button->setFixedSize(kButtonWidth, kButtonHeight);
+    button->setFixedSize(kButtonWidth, metrics::kControlHeight);
     button->setFocusPolicy(Qt::StrongFocus);
     texts.bind(label, [button](const QString &text) {
         const auto fitted = fitCaption(text, button->font(), kButtonPixels, kButtonWidth - 2 * kTextMargin);

@@ -12,9 +12,6 @@ class SliderWidget;
 
 inline constexpr int kToolCaptionWidth = 88;
 
-/// Lays a page out: what it works on, and its tools at the right.
-void layOutWithTools(QWidget *page, QLayout *work, QWidget *side);
-
 /// The column that a widget of tools is filled from above.
 QVBoxLayout *makeToolColumn(QWidget *tools);
 

@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "controls/messagestrip.h"
 #include "controls/sharedfonts.h"
 #include "page/Nightloom/parts/toolcolumn.h"
 #include "page/engine/boundtexts.h"
@@ -30,9 +31,9 @@ milliseconds timeLeft(std::span<const WorkStep> steps, std::size_t step, int pro
     return left;
 }
 
-WorkPanel::WorkPanel(BoundTexts &texts, QWidget *parent)
-    : QWidget(parent), m_bar(new QProgressBar(this)), m_cancel(makeToolButton(LABEL("Cancel"), texts, this)),
-      m_step(new QLabel(this)), m_notice(new QLabel(this))
+WorkPanel::WorkPanel(BoundTexts &texts, MessageStrip &strip, QWidget *parent)
+    : QWidget(parent), m_strip(strip), m_bar(new QProgressBar(this)),
+      m_cancel(makeToolButton(LABEL("Cancel"), texts, this)), m_step(new QLabel(this))
 {
     layOut();
     m_bar->setRange(0, kProgressEnd);
@@ -42,7 +43,6 @@ WorkPanel::WorkPanel(BoundTexts &texts, QWidget *parent)
         showStep(m_left);
     });
     connect(m_cancel, &QPushButton::clicked, this, &WorkPanel::cancel);
-    showNotice({});
 }
 
 void WorkPanel::layOut()
@@ -56,10 +56,6 @@ void WorkPanel::layOut()
     m_cancel->hide();
     m_step->setObjectName(QStringLiteral("note"));
     m_step->setFont(noteFont);
-    m_notice->setObjectName(QStringLiteral("notice"));
-    m_notice->setFont(noteFont);
-    m_notice->setWordWrap(true);
-    m_notice->setTextFormat(Qt::PlainText); // it may name a file of any name
     auto *row = new QHBoxLayout;
     row->setSpacing(8);
     row->addWidget(m_bar, 1);
@@ -69,7 +65,6 @@ void WorkPanel::layOut()
     column->setSpacing(8);
     column->addLayout(row);
     column->addWidget(m_step);
-    column->addWidget(m_notice);
 }
 
 void WorkPanel::begin(std::vector<WorkStep> steps)
@@ -155,13 +150,12 @@ void WorkPanel::showStep(milliseconds left)
 
 QString WorkPanel::notice() const
 {
-    return m_notice->text();
+    return m_strip.text();
 }
 
 void WorkPanel::showNotice(const QString &text)
 {
-    m_notice->setText(text);
-    m_notice->setVisible(!text.isEmpty());
+    m_strip.say(text, MessageStrip::Tone::Refusal);
 }
 
 /// The keyboard goes to the one button that is left of the page.

@@ -10,6 +10,7 @@
 #include "platform/clock.h"
 
 class BoundTexts;
+class MessageStrip;
 class QLabel;
 class QProgressBar;
 class QPushButton;
@@ -34,7 +35,8 @@ class WorkPanel : public QWidget
 {
     Q_OBJECT
 public:
-    explicit WorkPanel(BoundTexts &texts, QWidget *parent = nullptr);
+    /// What there is to tell is told on the strip.
+    WorkPanel(BoundTexts &texts, MessageStrip &strip, QWidget *parent = nullptr);
 
     /// What cannot be used while work goes on.
     void block(std::vector<QWidget *> widgets) { m_blocked = std::move(widgets); }
@@ -85,10 +87,10 @@ private:
     void takeFocus();
     void giveFocusBack();
 
+    MessageStrip &m_strip;
     QProgressBar *m_bar;
     QPushButton *m_cancel;
     QLabel *m_step;
-    QLabel *m_notice;
     QString m_timePattern;
     std::vector<QWidget *> m_blocked;
     std::vector<WorkStep> m_steps; ///< none while no work goes on

@@ -2,6 +2,7 @@
 
 #include <QVBoxLayout>
 
+#include "controls/metrics.h"
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/settingsstore.h"
@@ -13,8 +14,6 @@
 #include "usb-hid/hidtransport.h"
 
 namespace {
-
-constexpr int kCaptionWidth = 140;
 
 constexpr char kSliders[] = "sliders";
 constexpr char kLevel[] = LABEL("Playback Level");
@@ -81,7 +80,7 @@ QWidget *pageLEDSystem::buildPart(const char *)
     m_brightness = makeOwnSlider(kBrightness, Command::AccessoryBrightness, part);
     auto *column = new QVBoxLayout(part);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(8);
+    column->setSpacing(metrics::kRowGap);
     column->addWidget(m_level);
     column->addWidget(m_brightness);
     return part;
@@ -91,7 +90,8 @@ QWidget *pageLEDSystem::buildPart(const char *)
 SliderWidget *pageLEDSystem::makeOwnSlider(const char *name, Command command, QWidget *parent)
 {
     auto *slider = new SliderWidget(QLatin1String(name), 0, kHighestAccessoryValue, parent);
-    slider->setCaptionWidth(kCaptionWidth);
+    slider->setCaptionWidth(metrics::kCaptionWidth);
+    slider->setFixedHeight(metrics::kControlHeight);
     texts().bind(name, [slider](const QString &text) { slider->setCaption(text); });
     connect(slider, &SliderWidget::sliderValueChanged, this,
             [this, slider, command](const QString &, int, bool released) {

@@ -26,10 +26,12 @@ constexpr WorkStep kSteps[] = {
 } // namespace
 
 pageLEDMatrixText::pageLEDMatrixText(AccessoryCheck ensureConnected, QWidget *parent)
-    : LongWorkPage(QStringLiteral("pageLEDMatrixText"), LABEL("Text Mode"), std::move(ensureConnected), parent),
+    : LongWorkPage(QStringLiteral("pageLEDMatrixText"), LABEL("Text Mode"),
+                   LABEL("A line of text that the matrix shows, standing or scrolling."), std::move(ensureConnected),
+                   parent),
       m_text(new TextWidget(texts(), this))
 {
-    layOut(m_text, 16);
+    layOut(m_text);
     connectWork();
 }
 

@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QScrollArea>
 
+#include "controls/metrics.h"
 #include "controls/sharedfonts.h"
 #include "page/Nightloom/parts/matrixeditor.h"
 #include "page/Nightloom/parts/toolcolumn.h"
@@ -26,7 +27,7 @@ TextWidget::TextWidget(BoundTexts &texts, QWidget *parent)
       m_fit(new QLabel(this))
 {
     m_input->setObjectName(QStringLiteral("text"));
-    m_input->setFixedHeight(40);
+    m_input->setFixedHeight(metrics::kControlHeight);
     texts.bind(LABEL("Text"), [this](const QString &text) { m_input->setAccessibleName(text); });
     texts.bind(LABEL("Type the text for the matrix."),
                [this](const QString &text) { m_input->setPlaceholderText(text); });
@@ -34,7 +35,7 @@ TextWidget::TextWidget(BoundTexts &texts, QWidget *parent)
     buildMotions(texts, motions);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(16);
+    column->setSpacing(metrics::kRowGap);
     column->addWidget(m_input);
     column->addLayout(motions);
     m_fit->setObjectName(QStringLiteral("notice"));
@@ -60,7 +61,7 @@ TextWidget::~TextWidget() = default;
 void TextWidget::buildMotions(BoundTexts &texts, QHBoxLayout *row)
 {
     auto *exclusive = new QButtonGroup(this);
-    row->setSpacing(8);
+    row->setSpacing(metrics::kGap);
     for (const char *label : kMotionLabels) {
         QPushButton *button = makeToolButton(label, texts, this);
         button->setCheckable(true);

@@ -1,0 +1,94 @@
+#include "controls/messagestrip.h"
+
+#include <QAccessible>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+
+#include "controls/metrics.h"
+#include "controls/sharedfonts.h"
+
+namespace {
+
+constexpr qreal kRadius = 8;
+constexpr int kSign = 18; // the circle before the text
+constexpr int kSignLeft = 13;
+constexpr int kTextLeft = 40;
+
+struct Colors
+{
+    QColor ground;
+    QColor sign;
+    const char *text;
+};
+
+Colors colorsOf(MessageStrip::Tone tone)
+{
+    if (tone == MessageStrip::Tone::Refusal)
+        return {{0x3a, 0x2c, 0x2b}, {0xf0, 0x9a, 0x9d}, "#f4b4b6"};
+    return {{0x1d, 0x30, 0x2a}, {0x7b, 0xfa, 0xdb}, "#c9e8dd"};
+}
+
+} // namespace
+
+MessageStrip::MessageStrip(QWidget *parent) : QFrame(parent), m_text(new QLabel(this)), m_button(new QPushButton(this))
+{
+    setObjectName(QStringLiteral("strip"));
+    setMinimumHeight(metrics::kControlHeight);
+    m_text->setObjectName(QStringLiteral("notice"));
+    m_text->setFont(noteFont);
+    m_text->setWordWrap(true);
+    m_text->setTextFormat(Qt::PlainText);
+    m_button->setObjectName(QStringLiteral("stripAction"));
+    m_button->setFocusPolicy(Qt::StrongFocus);
+    m_button->setFont(noteFont);
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(kTextLeft, 4, metrics::kGap, 4);
+    row->setSpacing(metrics::kGap);
+    row->addWidget(m_text, 1);
+    row->addWidget(m_button);
+    connect(m_button, &QPushButton::clicked, this, &MessageStrip::actionWanted);
+    hide();
+}
+
+void MessageStrip::say(const QString &text, Tone tone, const QString &action)
+{
+    const bool isNew = text != m_text->text() || isHidden();
+    m_tone = tone;
+    m_text->setStyleSheet(QStringLiteral("color: %1;").arg(QLatin1String(colorsOf(tone).text)));
+    m_text->setText(text);
+    m_button->setText(action);
+    m_button->setVisible(!action.isEmpty());
+    setAccessibleName(text);
+    setVisible(!text.isEmpty());
+    update();
+    if (isNew && !text.isEmpty() && QAccessible::isActive()) {
+        QAccessibleEvent event(this, QAccessible::Alert);
+        QAccessible::updateAccessibility(&event);
+    }
+}
+
+QString MessageStrip::text() const
+{
+    return m_text->text();
+}
+
+void MessageStrip::paintEvent(QPaintEvent *)
+{
+    const Colors colors = colorsOf(m_tone);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colors.ground);
+    painter.drawRoundedRect(rect(), kRadius, kRadius);
+    const QRectF sign(kSignLeft, (height() - kSign) / 2.0, kSign, kSign);
+    painter.setPen(QPen(colors.sign, 1.5));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawEllipse(sign.adjusted(0.75, 0.75, -0.75, -0.75));
+    const QPointF middle = sign.center();
+    const qreal down = m_tone == Tone::Refusal ? 1 : -1; // "!" and "i"
+    painter.setPen(QPen(colors.sign, 1.8, Qt::SolidLine, Qt::RoundCap));
+    painter.drawLine(middle - QPointF(0, 4 * down), middle + QPointF(0, 1 * down));
+    painter.drawPoint(middle + QPointF(0, 4 * down));
+}

@@ -1,0 +1,63 @@
+#include "page/engine/pagehead.h"
+
+#include <QFontMetrics>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "controls/messagestrip.h"
+#include "controls/metrics.h"
+#include "controls/sharedfonts.h"
+
+namespace {
+
+QLabel *makeLine(const QString &name, const QFont &font, QWidget *parent)
+{
+    auto *line = new QLabel(parent);
+    line->setObjectName(name);
+    line->setFont(font);
+    line->setMinimumHeight(QFontMetrics(font).height());
+    return line;
+}
+
+} // namespace
+
+PageHead::PageHead(QWidget *parent)
+    : QWidget(parent), m_title(makeLine(QStringLiteral("title"), titleFont, this)),
+      m_help(makeLine(QStringLiteral("help"), noteFont, this)), m_corner(new QHBoxLayout),
+      m_strip(new MessageStrip(this))
+{
+    m_help->setWordWrap(true);
+    const QFontMetrics title(titleFont);
+    const QFontMetrics help(noteFont);
+    const int helpTop = metrics::kHelpBaseline - help.ascent();
+    auto *words = new QVBoxLayout;
+    words->setContentsMargins(0, metrics::kTitleBaseline - title.ascent(), 0, 0);
+    words->setSpacing(helpTop - metrics::kTitleBaseline - title.descent());
+    words->addWidget(m_title);
+    words->addWidget(m_help);
+    m_corner->setContentsMargins(metrics::kBlockGap, metrics::kBlockGap, 0, 0);
+    auto *line = new QHBoxLayout;
+    line->setSpacing(0);
+    line->addLayout(words, 1);
+    line->addLayout(m_corner);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addLayout(line);
+    column->addSpacing(metrics::kStripTop - metrics::kHelpBaseline - help.descent());
+    auto *slot = new QVBoxLayout; // with the strip goes the gap below it
+    slot->setContentsMargins(0, 0, 0, metrics::kGap);
+    slot->addWidget(m_strip);
+    column->addLayout(slot);
+}
+
+void PageHead::setTitle(const QString &title)
+{
+    m_title->setText(title);
+}
+
+void PageHead::setHelp(const QString &sentence)
+{
+    m_help->setText(sentence);
+}
