@@ -8,7 +8,6 @@ namespace virtualdesk {
 
 namespace {
 
-constexpr std::uint8_t kVendorCode = 0x99;
 constexpr std::uint8_t kNextChunk = 0xFE;
 constexpr std::uint8_t kSameChunk = 0xFF;
 constexpr int kChunkSize = 4;

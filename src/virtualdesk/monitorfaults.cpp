@@ -14,7 +14,6 @@ using enum WireFault::Moment;
 
 #define NAME(text) QT_TRANSLATE_NOOP("QObject", text)
 
-constexpr std::uint8_t kVendorCode = 0x99;
 constexpr std::uint32_t kGarble = 0x55; // what a garbled reply has flipped
 
 // Which requests a fault strikes. The announcement of a command on 0x99 is a request like any other, and counts.

@@ -9,6 +9,7 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
+#include "virtualdesk/labeltext.h"
 #include "virtualdesk/osdfunctions.h"
 #include "virtualdesk/osdlist.h"
 #include "virtualdesk/screenview.h"
@@ -40,12 +41,6 @@ QString requestLine(const Request &request)
         .arg(request.code, 2, 16, QLatin1Char('0'))
         .arg(request.value, 5)
         .arg(QObject::tr(kOutcomes[static_cast<int>(request.outcome)]));
-}
-
-void setTextOf(QLabel *label, const QString &text)
-{
-    if (label->text() != text)
-        label->setText(text);
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "virtualdesk/labeltext.h"
 #include "virtualdesk/osdfunctions.h"
 #include "virtualdesk/simulatedmonitor.h"
 
@@ -29,12 +30,6 @@ constexpr GatheredRow kGatheredRows[] = {
 #undef NAME
 
 constexpr std::uint8_t kMotionCode = 0x48;
-
-void setTextOf(QLabel *label, const QString &text)
-{
-    if (label->text() != text)
-        label->setText(text);
-}
 
 } // namespace
 

@@ -6,6 +6,9 @@
 
 namespace virtualdesk {
 
+/// Announces a command of the vendor protocol.
+inline constexpr std::uint8_t kVendorCode = 0x99;
+
 enum class RequestKind { Read, Write };
 
 /// What became of a request.
