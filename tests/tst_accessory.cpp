@@ -5,6 +5,7 @@
 #include "support/matrixforms.h"
 #include "usb-hid/hidtransport.h"
 #include "usb-hid/livesender.h"
+#include "virtualdesk/accessoryforms.h"
 #include "virtualdesk/accessorypanel.h"
 #include "virtualdesk/matrixview.h"
 
@@ -158,6 +159,9 @@ void TestAccessory::panelShowsTheAccessory()
     sendLiveFrame(std::vector<std::int32_t>(1050, 1));
     QTRY_COMPARE(panel.matrix()->litCells(), 1050);
     QVERIFY(button("form")->isChecked());
+    for ([[maybe_unused]] const int form : virtualdesk::knownForms())
+        button("form")->click();
+    QCOMPARE(accessory().form(), 1); // through all of them
     button("unplug")->click();
     QVERIFY(!accessory().isPlugged());
     QTRY_COMPARE(panel.matrix()->litCells(), 0);

@@ -1264,6 +1264,10 @@
         <translation>New device</translation>
     </message>
     <message>
+        <source>Next form</source>
+        <translation>Next form</translation>
+    </message>
+    <message>
         <source>Next value</source>
         <translation>Next value</translation>
     </message>
@@ -1588,10 +1592,6 @@
         <translation>Rectangle</translation>
     </message>
     <message>
-        <source>Rectangular form</source>
-        <translation>Rectangular form</translation>
-    </message>
-    <message>
         <source>Red, green and blue belong to User1, User2 and User3 of Color Temperature.</source>
         <translation>Red, green and blue belong to User1, User2 and User3 of Color Temperature.</translation>
     </message>
@@ -1900,16 +1900,16 @@
         <translation>The APP will restart automatically when switching languages.</translation>
     </message>
     <message>
+        <source>The accessory becomes the next of its models; the button is up while it is the first</source>
+        <translation>The accessory becomes the next of its models; the button is up while it is the first</translation>
+    </message>
+    <message>
         <source>The accessory did not take everything.</source>
         <translation>The accessory did not take everything.</translation>
     </message>
     <message>
         <source>The accessory is at work: wait until it has finished, or cancel the work on its page.</source>
         <translation>The accessory is at work: wait until it has finished, or cancel the work on its page.</translation>
-    </message>
-    <message>
-        <source>The accessory is the model with 25 rows of 42 cells</source>
-        <translation>The accessory is the model with 25 rows of 42 cells</translation>
     </message>
     <message>
         <source>The accessory shows what this computer plays as soon as the music mode is open.</source>

@@ -1264,6 +1264,10 @@
         <translation>新しいデバイス</translation>
     </message>
     <message>
+        <source>Next form</source>
+        <translation>次のタイプ</translation>
+    </message>
+    <message>
         <source>Next value</source>
         <translation>次の値</translation>
     </message>
@@ -1588,10 +1592,6 @@
         <translation>長方形</translation>
     </message>
     <message>
-        <source>Rectangular form</source>
-        <translation>長方形タイプ</translation>
-    </message>
-    <message>
         <source>Red, green and blue belong to User1, User2 and User3 of Color Temperature.</source>
         <translation>赤・緑・青は、色温がユーザー 1～3 のときに調整できます。</translation>
     </message>
@@ -1900,16 +1900,16 @@
         <translation>言語を切り替えると、アプリは自動的に再起動します。</translation>
     </message>
     <message>
+        <source>The accessory becomes the next of its models; the button is up while it is the first</source>
+        <translation>アクセサリが次のモデルに変わります。最初のモデルの間、ボタンは押されていない状態です</translation>
+    </message>
+    <message>
         <source>The accessory did not take everything.</source>
         <translation>アクセサリがすべてのデータを受け取れませんでした。</translation>
     </message>
     <message>
         <source>The accessory is at work: wait until it has finished, or cancel the work on its page.</source>
         <translation>アクセサリは作業中です。終わるまで待つか、そのページでキャンセルしてください。</translation>
-    </message>
-    <message>
-        <source>The accessory is the model with 25 rows of 42 cells</source>
-        <translation>アクセサリは 25 行 × 42 セルのモデルです</translation>
     </message>
     <message>
         <source>The accessory shows what this computer plays as soon as the music mode is open.</source>

@@ -1264,6 +1264,10 @@
         <translation>新设备</translation>
     </message>
     <message>
+        <source>Next form</source>
+        <translation>下一款</translation>
+    </message>
+    <message>
         <source>Next value</source>
         <translation>下一个值</translation>
     </message>
@@ -1588,10 +1592,6 @@
         <translation>矩形</translation>
     </message>
     <message>
-        <source>Rectangular form</source>
-        <translation>矩形款</translation>
-    </message>
-    <message>
         <source>Red, green and blue belong to User1, User2 and User3 of Color Temperature.</source>
         <translation>红、绿、蓝只用于色温的“用户 1”“用户 2”“用户 3”。</translation>
     </message>
@@ -1900,16 +1900,16 @@
         <translation>切换语言时，程序将自动重新启动。</translation>
     </message>
     <message>
+        <source>The accessory becomes the next of its models; the button is up while it is the first</source>
+        <translation>配件变为下一个型号；为第一个型号时按钮弹起</translation>
+    </message>
+    <message>
         <source>The accessory did not take everything.</source>
         <translation>配件没有接收全部数据。</translation>
     </message>
     <message>
         <source>The accessory is at work: wait until it has finished, or cancel the work on its page.</source>
         <translation>配件正在工作：请等待完成，或在其页面上取消。</translation>
-    </message>
-    <message>
-        <source>The accessory is the model with 25 rows of 42 cells</source>
-        <translation>配件为 25 行、每行 42 格的型号</translation>
     </message>
     <message>
         <source>The accessory shows what this computer plays as soon as the music mode is open.</source>

@@ -1264,6 +1264,10 @@
         <translation>新裝置</translation>
     </message>
     <message>
+        <source>Next form</source>
+        <translation>下一款</translation>
+    </message>
+    <message>
         <source>Next value</source>
         <translation>下一個值</translation>
     </message>
@@ -1588,10 +1592,6 @@
         <translation>矩形</translation>
     </message>
     <message>
-        <source>Rectangular form</source>
-        <translation>矩形款</translation>
-    </message>
-    <message>
         <source>Red, green and blue belong to User1, User2 and User3 of Color Temperature.</source>
         <translation>紅、綠、藍只用於色溫的「使用者 1」「使用者 2」「使用者 3」。</translation>
     </message>
@@ -1900,16 +1900,16 @@
         <translation>切換語言時，應用程式將自動重新啟動。</translation>
     </message>
     <message>
+        <source>The accessory becomes the next of its models; the button is up while it is the first</source>
+        <translation>配件變為下一個型號；為第一個型號時按鈕彈起</translation>
+    </message>
+    <message>
         <source>The accessory did not take everything.</source>
         <translation>配件沒有接收全部資料。</translation>
     </message>
     <message>
         <source>The accessory is at work: wait until it has finished, or cancel the work on its page.</source>
         <translation>配件正在工作：請等待完成，或在其頁面上取消。</translation>
-    </message>
-    <message>
-        <source>The accessory is the model with 25 rows of 42 cells</source>
-        <translation>配件為 25 列、每列 42 格的型號</translation>
     </message>
     <message>
         <source>The accessory shows what this computer plays as soon as the music mode is open.</source>

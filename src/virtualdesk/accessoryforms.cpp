@@ -1,6 +1,7 @@
 #include "virtualdesk/accessoryforms.h"
 
 #include <algorithm>
+#include <iterator>
 #include <map>
 #include <numeric>
 
@@ -20,8 +21,8 @@ struct Model
 };
 
 constexpr Model kModels[] = {
-    {kTaperingForm, 2, 73, 25, true},
-    {kRectangleForm, 1, 25, 42, false},
+    {0, 2, 73, 25, true},
+    {1, 1, 25, 42, false},
 };
 
 const Model *modelOf(int form)
@@ -79,11 +80,18 @@ double matrixRowPitch(int form)
     return model ? 1.0 / model->strips : 1.0;
 }
 
-int highestForm()
+std::vector<int> knownForms()
 {
-    return std::max_element(std::begin(kModels), std::end(kModels),
-                            [](const Model &one, const Model &other) { return one.number < other.number; })
-        ->number;
+    std::vector<int> numbers;
+    std::transform(std::begin(kModels), std::end(kModels), std::back_inserter(numbers),
+                   [](const Model &model) { return model.number; });
+    return numbers;
+}
+
+int nextForm(int form)
+{
+    const Model *model = modelOf(form);
+    return model && model + 1 != std::end(kModels) ? model[1].number : kModels[0].number;
 }
 
 /// The rows of a strip stand in its middle, as far as its lattice lets them.

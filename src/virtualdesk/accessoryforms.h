@@ -1,15 +1,11 @@
 #pragma once
 
-#include <span>
 #include <vector>
 
 namespace virtualdesk {
 
 // The models of the accessory as their maker knows them, by number. Nothing is shared with the program that is watched
 // here.
-
-inline constexpr int kTaperingForm = 0;
-inline constexpr int kRectangleForm = 1;
 
 /// A row of cells, and the place of its first one in the frame order.
 struct MatrixRow
@@ -30,8 +26,11 @@ int matrixColumns(int form);
 /// How far apart its rows lie, in cells of a row.
 double matrixRowPitch(int form);
 
-/// The highest number of a form.
-int highestForm();
+/// The number of every form, in the order of their table.
+std::vector<int> knownForms();
+
+/// The form behind one in that order; behind the last comes the first.
+int nextForm(int form);
 
 /// How far a row that the form has begins right of the widest one, in halves of a cell.
 int matrixRowShift(int form, int row);

@@ -8,6 +8,7 @@
 #include <QPushButton>
 
 #include "virtualdesk/accessoryforms.h"
+#include "virtualdesk/labeltext.h"
 #include "virtualdesk/matrixview.h"
 #include "virtualdesk/virtualdesk.h"
 
@@ -61,9 +62,10 @@ constexpr ActionSpec kActions[] = {
     {"pull", NAME("Pull out in mid-transfer"), NAME("The cable is pulled out at the eighth report from now"),
      [](SimulatedAccessory &accessory, bool on) { accessory.unplugAtWrite(on ? kMidTransfer : 0); },
      [](const SimulatedAccessory &accessory) { return accessory.unplugsAtWrite(); }},
-    {"form", NAME("Rectangular form"), NAME("The accessory is the model with 25 rows of 42 cells"),
-     [](SimulatedAccessory &accessory, bool on) { accessory.setForm(on ? kRectangleForm : kTaperingForm); },
-     [](const SimulatedAccessory &accessory) { return accessory.form() == kRectangleForm; }},
+    {"form", NAME("Next form"),
+     NAME("The accessory becomes the next of its models; the button is up while it is the first"),
+     [](SimulatedAccessory &accessory, bool) { accessory.setForm(nextForm(accessory.form())); },
+     [](const SimulatedAccessory &accessory) { return accessory.form() != knownForms().front(); }},
 };
 
 constexpr const char *kValueNames[] = {NAME("Shown"),      NAME("Live frames"),    NAME("Upload"),
@@ -95,12 +97,6 @@ QString uploadText(const AccessoryUpload &upload, int form)
 QString switchText(int value)
 {
     return value == 0 ? QObject::tr("Close") : QObject::tr("Open");
-}
-
-void setTextOf(QLabel *label, const QString &text)
-{
-    if (label->text() != text)
-        label->setText(text);
 }
 
 } // namespace

@@ -11,6 +11,8 @@ namespace virtualdesk {
 
 namespace {
 
+constexpr int kHighestByte = 255;
+
 DisplaySetup readDisplay(ScriptObject object, std::size_t index)
 {
     DisplaySetup display;
@@ -20,6 +22,7 @@ DisplaySetup readDisplay(ScriptObject object, std::size_t index)
         display.bounds = QRect(bounds[0].toInt(), bounds[1].toInt(), bounds[2].toInt(), bounds[3].toInt());
     else if (!bounds.isEmpty())
         object.fail(QStringLiteral("\"bounds\" must be [x, y, width, height]"));
+    object.finish();
     return display;
 }
 
@@ -27,7 +30,9 @@ AccessorySetup readAccessory(ScriptObject object)
 {
     AccessorySetup accessory;
     object.flag("plugged", accessory.plugged);
-    object.number("form", accessory.form, 0, highestForm());
+    object.number("form", accessory.form, 0, kHighestByte);
+    if (matrixCells(accessory.form) == 0)
+        object.fail(QStringLiteral("\"form\" must be one that the accessory is built in"));
     object.each("faults", [&accessory](ScriptObject fault) {
         const QString word = fault.take("event").toString();
         int times = 1;
@@ -43,7 +48,9 @@ AccessorySetup readAccessory(ScriptObject object)
         } else {
             fault.fail(QStringLiteral("unknown \"event\" of the accessory: \"%1\"").arg(word));
         }
+        fault.finish();
     });
+    object.finish();
     return accessory;
 }
 
@@ -106,6 +113,7 @@ DeskSetup readSetup(ScriptObject root)
     root.number("runas_result", setup.runasResult, 0, 1000);
     if (root.has("audio"))
         readSoundScript(root, setup.sound, setup.audioFaults);
+    root.finish();
     return setup;
 }
 

@@ -10,12 +10,13 @@
 namespace virtualdesk {
 
 /// Reads a desk from JSON. What the script leaves out is as in the default desk. On a fault the result is empty and
-/// error says what is wrong and where. Codes are numbers or text such as "0x10"; all keys:
+/// error says what is wrong and where; a key that nothing reads is one. Codes are numbers or text such as "0x10"; all
+/// keys:
 ///
 ///     {
 ///       "latency": "realistic" | "none" | {"read_ms": 40, "write_ms": 50},
 ///       "topology": "extend" | "clone" | "single",
-///       "administrator": true, "runas_result": 42,
+///       "administrator": true, "runas_result": 42, "startup_writable": true,
 ///       "displays": [{"name": "\\\\.\\DISPLAY1", "bounds": [0, 0, 1920, 1080]}],
 ///       "monitors": [{"model": "Q27-OLED" | "Q32-MPCS" | "Q34-MINI", "display": 0, "plugged": true,
 ///                     "edid": "00ff..." | {"random": 64}, "values": {"0x10": 30}, "latency": ..., "faults": [event],

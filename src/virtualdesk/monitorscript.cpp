@@ -24,7 +24,9 @@ std::optional<QByteArray> readEdid(ScriptObject &monitor)
     const QJsonValue value = monitor.take("edid");
     if (value.isObject()) {
         int length = 0;
-        monitor.inside(value).number("random", length, 0, 65536);
+        ScriptObject edid = monitor.inside(value);
+        edid.number("random", length, 0, 65536);
+        edid.finish();
         return randomBytes(length);
     }
     QByteArray hex = value.toString().toLatin1();
@@ -85,6 +87,7 @@ MonitorEvent readEvent(ScriptObject &object)
     event.wait = object.wait("ms");
     event.read = object.wait("read_ms");
     event.write = object.wait("write_ms");
+    object.finish();
     return event;
 }
 
@@ -100,6 +103,7 @@ void readLatency(ScriptObject &object, std::chrono::milliseconds &read, std::chr
         ScriptObject latency = object.inside(value);
         read = latency.wait("read_ms");
         write = latency.wait("write_ms");
+        latency.finish();
     } else {
         object.fail(QStringLiteral("\"latency\" must be \"realistic\", \"none\" or {\"read_ms\", \"write_ms\"}"));
     }
@@ -124,6 +128,7 @@ MonitorSetup readMonitor(ScriptObject object, int displays)
         readLatency(object, latency.read, latency.write);
         monitor.faults.push_back(latency);
     }
+    object.finish();
     return monitor;
 }
 

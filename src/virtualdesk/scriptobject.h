@@ -72,7 +72,7 @@ public:
     /// A word that nothing here has.
     void failUnknown(const char *key, const QString &word);
 
-    /// To be called when everything was read, where what is left is a mistake.
+    /// To be called when everything was read: what is left is a mistake.
     void finish();
 
 private:
