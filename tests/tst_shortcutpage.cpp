@@ -267,6 +267,12 @@ void TestShortcutPage::otherMonitorsRowsAreKept()
     QCOMPARE(m_desk->desk.hotKeys().count(), std::size_t(0));
     button("pushButtonAppli")->click();
     QCOMPARE(loadShortcuts().entries.back(), game);
+
+    const FixedValues rule{Command::AudioMute, 1, 0};
+    const ShortcutFunction functions[] = {
+        {5, "one", rule}, {2, "two", rule, Capability::GameFunctions}, {9, "three", rule}};
+    const auto offered = shortcutFunctionsOf(deviceState, functions); // one may be missing anywhere
+    QVERIFY(offered.size() == 2 && offered[0]->number == 5 && offered[1]->number == 9);
 }
 
 void TestShortcutPage::fieldSaysWhyNot()

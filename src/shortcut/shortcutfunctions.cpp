@@ -78,10 +78,11 @@ const ShortcutFunction *shortcutFunction(int number)
     return found == std::end(kFunctions) ? nullptr : found;
 }
 
-std::vector<const ShortcutFunction *> shortcutFunctionsOf(const DeviceState &state)
+std::vector<const ShortcutFunction *> shortcutFunctionsOf(const DeviceState &state,
+                                                          std::span<const ShortcutFunction> of)
 {
     std::vector<const ShortcutFunction *> functions;
-    for (const ShortcutFunction &function : kFunctions) {
+    for (const ShortcutFunction &function : of) {
         if (!function.needs || state.has(*function.needs))
             functions.push_back(&function);
     }

@@ -24,5 +24,6 @@ std::span<const ShortcutFunction> shortcutFunctions();
 /// A function by its number; null when there is none.
 const ShortcutFunction *shortcutFunction(int number);
 
-/// The functions that a monitor has, in the same order.
-std::vector<const ShortcutFunction *> shortcutFunctionsOf(const DeviceState &state);
+/// Those of a list that a monitor has, in the same order.
+std::vector<const ShortcutFunction *> shortcutFunctionsOf(const DeviceState &state,
+                                                          std::span<const ShortcutFunction> of = shortcutFunctions());
