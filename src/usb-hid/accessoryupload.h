@@ -7,6 +7,8 @@
 
 #include <QString>
 
+#include "ledmatrix/devicememory.h"
+
 // Uploads of a file into the accessory's memory. They take as long as the device does, 6 s or 24 s before the first
 // byte, and so run in a thread of their own. The file holds a digit a cell, frame behind frame; what it holds beyond
 // the device's memory is not sent.
@@ -15,15 +17,10 @@
 // file it is -1. True is returned when every report went out. A stop ends an upload within a chunk or a wait of it;
 // then it reports nothing more.
 
-/// Cells that the device keeps of an uploaded text.
-inline constexpr int kTextMemory = 780078;
-
 inline constexpr int kProgressEnd = 100;
 inline constexpr int kProgressFailed = -1;
 inline constexpr int kAnimationPrepared = 30; ///< progress of an animation when the waits are over
 inline constexpr int kAnimationWritten = 130; ///< and when its last chunk is out, before the end is told
-
-inline constexpr qint64 kAnimationCap = 182208; ///< bytes of an animation that the device has room for
 
 /// What an upload should take: until the device is prepared, and a chunk at the pace of a full-speed device.
 inline constexpr std::chrono::milliseconds kAnimationWaits{6000};

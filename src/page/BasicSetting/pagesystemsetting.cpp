@@ -6,11 +6,11 @@
 #include "ddc_protocol/settingsstore.h"
 #include "ddc_protocol/transport.h"
 #include "page/BasicSetting/systemtable.h"
-#include "page/Nightloom/system/accessorysettings.h"
 #include "page/engine/halfbutton.h"
 #include "page/engine/labels.h"
 #include "platform/desk.h"
 #include "searchdevicedlg.h"
+#include "usb-hid/accessorysettings.h"
 
 namespace {
 

@@ -9,7 +9,7 @@
 #include <QTextBoundaryFinder>
 #include <QTextLayout>
 
-#include "usb-hid/accessoryupload.h"
+#include "ledmatrix/devicememory.h"
 
 namespace {
 

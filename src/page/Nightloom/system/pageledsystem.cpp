@@ -6,11 +6,11 @@
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/settingsstore.h"
-#include "page/Nightloom/system/accessorysettings.h"
 #include "page/Nightloom/system/matrixformsetting.h"
 #include "page/Nightloom/work/livedisplay.h"
 #include "page/engine/commonoptions.h"
 #include "page/engine/optiongrouprow.h"
+#include "usb-hid/accessorysettings.h"
 #include "usb-hid/hidtransport.h"
 
 namespace {
