@@ -10,6 +10,7 @@
 #include "ddc_protocol/loghandler.h"
 #include "elevation.h"
 #include "globalapplication.h"
+#include "interfacefont.h"
 #include "loading.h"
 #include "mainwindow.h"
 #include "platform/deskfactory.h"
@@ -37,7 +38,7 @@ void loadInterfaceFont()
         qDebug() << "Failed to find font family.";
         return;
     }
-    QFont font(families.first());
+    QFont font = interfaceFont(families.first());
     font.setPixelSize(18);
     QApplication::setFont(font);
 }

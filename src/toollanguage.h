@@ -11,6 +11,7 @@ struct ToolLanguage
     const char *code;        ///< what begins the codes that it is shown for, and what config.ini keeps
     const char *translation; ///< the resource of its texts
     bool english;            ///< the language of the source texts
+    const char *font;        ///< the resource of its own shapes of characters; empty where the common font has them
 };
 
 /// The languages, in the order of their buttons.

@@ -5,6 +5,7 @@
 #include "ddc_protocol/loghandler.h"
 #include "ddc_protocol/scenemodes.h"
 #include "globalapplication.h"
+#include "interfacefont.h"
 #include "support/deskfixture.h"
 
 namespace {
@@ -83,6 +84,13 @@ void TestShell::languages()
         application.switchApplicationLanguage(code);
         QCOMPARE(QObject::tr("Brightness"), QString(brightness));       // the older translation is gone, not below
         QVERIFY(QObject::tr("        Default").startsWith("        ")); // the blanks are part of the label
+    }
+    for (const auto &[code, families] : std::initializer_list<std::pair<const char *, const char *>>{
+             {"zh_TW", "Noto Sans CJK TC|common|Quorvel Scripts"},
+             {"ja_JP", "Noto Sans CJK JP|common|Quorvel Scripts"},
+             {"zh_CN", "common|Quorvel Scripts"}}) {
+        languageSetting(true, code);
+        QCOMPARE(interfaceFont("common").families().join('|'), families); // its own shapes before the common ones
     }
     QTranslator partial; // English stands in for what it lacks
     QVERIFY(partial.load(QStringLiteral(PARTIAL_TRANSLATION)));

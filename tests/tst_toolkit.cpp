@@ -17,7 +17,8 @@ public:
     QString translate(const char *context, const char *source, const char *comment, int) const override
     {
         // The names of keys stay: files hold combinations by them. The direction of texts is the system's.
-        if (!QByteArrayList({"QObject", "QShortcut", "QGuiApplication"}).contains(context) && !QByteArray(source).startsWith("Alt+"))
+        if (!QByteArrayList({"QObject", "QShortcut", "QGuiApplication"}).contains(context) &&
+            !QByteArray(source).startsWith("Alt+"))
             asked.insert({context, source, comment});
         return {};
     }
@@ -113,7 +114,8 @@ private Q_SLOTS:
         QSpinBox number;
         QTabBar tabs;
         QKeySequenceEdit keys;
-        for (QWidget *widget : std::initializer_list<QWidget *>{&line, page.viewport(), &across, &down, &number, &tabs, &keys})
+        for (QWidget *widget :
+             std::initializer_list<QWidget *>{&line, page.viewport(), &across, &down, &number, &tabs, &keys})
             openMenu(widget);
 
         QStringList missing;

@@ -325,7 +325,7 @@
     </message>
     <message>
         <source>Animate Mode</source>
-        <translation>アニメーションモード</translation>
+        <translation>アニメーション</translation>
     </message>
     <message>
         <source>Animate: 1050 cells a frame. Aligned: %1, as this form saves.</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>Art Design Mode</source>
-        <translation>アートデザインモード</translation>
+        <translation>アートデザイン</translation>
     </message>
     <message>
         <source>Asked again and told; nothing to do.</source>
@@ -741,7 +741,7 @@
     </message>
     <message>
         <source>Export Animate</source>
-        <translation>アニメーション書き出し</translation>
+        <translation>書き出し</translation>
     </message>
     <message>
         <source>Extensible, floating point</source>
@@ -981,7 +981,7 @@
     </message>
     <message>
         <source>Import Animate</source>
-        <translation>アニメーション読み込み</translation>
+        <translation>読み込み</translation>
     </message>
     <message>
         <source>Information</source>
@@ -1673,7 +1673,7 @@
     </message>
     <message>
         <source>Save Animate</source>
-        <translation>アニメーション保存</translation>
+        <translation>保存</translation>
     </message>
     <message>
         <source>Save Data</source>
@@ -2349,7 +2349,7 @@
     </message>
     <message>
         <source>Write Animate</source>
-        <translation>アニメーション書き込み</translation>
+        <translation>書き込み</translation>
     </message>
     <message>
         <source>Write Data</source>
