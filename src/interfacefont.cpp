@@ -16,5 +16,6 @@ static QStringList familiesOf(const QString &resource)
 QFont interfaceFont(const QString &commonFamily)
 {
     const QString own = QString::fromLatin1(toolLanguageOf(toolLanguageCode()).font);
-    return QFont(familiesOf(own) + QStringList{commonFamily} + familiesOf(QStringLiteral(":/resource/fonts/scripts.ttf")));
+    return QFont(familiesOf(own) + QStringList{commonFamily} +
+                 familiesOf(QStringLiteral(":/resource/fonts/scripts.ttf")));
 }

@@ -2770,7 +2770,7 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>Look in:</source>
-        <translation>查詢：</translation>
+        <translation>位置：</translation>
     </message>
     <message>
         <source>New Folder</source>

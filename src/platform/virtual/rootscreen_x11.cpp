@@ -32,8 +32,7 @@ constexpr std::uint32_t kLongestProperty = 1 << 14; // in units of four bytes
 QByteArray property(xcb_connection_t *x, xcb_window_t root, const char *name)
 {
     const auto length = static_cast<std::uint16_t>(std::strlen(name));
-    const Reply<xcb_intern_atom_reply_t> atom(
-        xcb_intern_atom_reply(x, xcb_intern_atom(x, 1, length, name), nullptr));
+    const Reply<xcb_intern_atom_reply_t> atom(xcb_intern_atom_reply(x, xcb_intern_atom(x, 1, length, name), nullptr));
     if (!atom || atom->atom == XCB_ATOM_NONE)
         return {};
     const auto asked = xcb_get_property(x, 0, root, atom->atom, XCB_GET_PROPERTY_TYPE_ANY, 0, kLongestProperty);
@@ -51,7 +50,8 @@ QRect primaryMonitor(xcb_connection_t *x, const xcb_screen_t &screen)
         xcb_randr_get_monitors_reply(x, xcb_randr_get_monitors(x, screen.root, 1), nullptr));
     if (!reply)
         return first;
-    for (auto it = xcb_randr_get_monitors_monitors_iterator(reply.get()); it.rem > 0; xcb_randr_monitor_info_next(&it)) {
+    for (auto it = xcb_randr_get_monitors_monitors_iterator(reply.get()); it.rem > 0;
+         xcb_randr_monitor_info_next(&it)) {
         const QRect monitor(it.data->x, it.data->y, it.data->width, it.data->height);
         if (it.data->primary)
             return monitor;
