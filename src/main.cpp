@@ -1,9 +1,8 @@
 #include <QDebug>
 #include <QFontDatabase>
-#include <QPalette>
 #include <QResource>
-#include <QToolTip>
 
+#include "controls/dress.h"
 #include "controls/messagebox.h"
 #include "controls/sharedfonts.h"
 #include "ddc_protocol/devicestate.h"
@@ -43,23 +42,13 @@ void loadInterfaceFont()
     QApplication::setFont(font);
 }
 
-/// Tips say why a control cannot be used, also over pages whose text is white.
-void dressToolTips()
-{
-    QPalette palette = QToolTip::palette();
-    palette.setColor(QPalette::ToolTipBase, QColor(0x1b, 0x23, 0x20));
-    palette.setColor(QPalette::ToolTipText, Qt::white);
-    QToolTip::setPalette(palette);
-    QToolTip::setFont(noteFont);
-}
-
 int runProgram(SingleApplication &application, void *mutex)
 {
     QApplication::setAttribute(Qt::AA_Use96Dpi); // high-dpi scaling needs no attribute: Qt 6 always scales
     QApplication::setQuitOnLastWindowClosed(false);
     loadInterfaceFont();
     setUpSharedFonts();
-    dressToolTips();
+    dressApplication();
     deviceState.clear();
 
     SearchDeviceDlg session;

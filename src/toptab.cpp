@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include "controls/palette.h"
 #include "controls/pictures.h"
 
 namespace {
@@ -11,11 +12,11 @@ constexpr int kIconTop = 14;
 constexpr int kIconSide = 22;
 constexpr QRect kCaptionRect(2, 40, 100, 24);
 constexpr int kCaptionPixels = 15;
-const QColor kText(0xad, 0xad, 0xad);
-const QColor kHoveredText(0x9c, 0xff, 0xc8);
-const QColor kCheckedText(0xff, 0xff, 0xff);
-const QColor kDisabledText(0x69, 0x69, 0x69);
-const QColor kMarker(0x00, 0xff, 0x71);
+const QColor kText = Palette::kDim;
+const QColor kHoveredText = Palette::kBright;
+const QColor kCheckedText = Palette::kText;
+const QColor kDisabledText = Palette::kDisabled;
+const QColor kMarker = Palette::kSignal;
 
 } // namespace
 

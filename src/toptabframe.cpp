@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QPainter>
 
+#include "controls/palette.h"
 #include "controls/pictures.h"
 #include "navigation.h"
 #include "toptab.h"
@@ -86,6 +87,6 @@ void TopTabFrame::paintEvent(QPaintEvent *)
     name.setPixelSize(kNamePixels);
     name.setLetterSpacing(QFont::AbsoluteSpacing, 3);
     painter.setFont(name);
-    painter.setPen(QColor(0xff, 0xff, 0xff));
+    painter.setPen(QColor(Palette::kText));
     painter.drawText(QRect(kNameLeft, 0, kTabsLeft - kNameLeft, height()), Qt::AlignVCenter, QStringLiteral("QUORVEL"));
 }

@@ -1,6 +1,7 @@
 #include <QtTest>
 #include <QtWidgets>
 
+#include "controls/tooltips.h"
 #include "ddc_protocol/devicestate.h"
 #include "following/followlist.h"
 #include "page/Following/followrow.h"
@@ -193,14 +194,14 @@ void TestFollowing::fileNames()
     start(entries);
     const auto *name = row(2)->findChild<QLabel *>(); // the groups are in order
     QCOMPARE(name->text(), QStringLiteral("<b>Two lines.exe"));
-    QVERIFY(name->toolTip().contains(QStringLiteral("&lt;b&gt;")));
+    QVERIFY(tipText(name->toolTip()).contains(QStringLiteral("&lt;b&gt;")));
     QCOMPARE(m_page->programs().size(), entries.size());
     for (const FollowEntry &entry : loadFollowList())
         QVERIFY2(std::find(entries.begin(), entries.end(), entry) != entries.end(), qPrintable(entry.path));
     m_page->answer = QStringLiteral("C:/<i>a.exe"); // shown as it stands also where the toolkit knows rich text
     button("pushButtonAdd")->click();
     QTextDocument tip;
-    tip.setHtml(row(entries.size())->findChild<QLineEdit *>("path")->toolTip());
+    tip.setHtml(tipText(row(entries.size())->findChild<QLineEdit *>("path")->toolTip()));
     QCOMPARE(tip.toPlainText(), QDir::toNativeSeparators(m_page->answer));
     m_page->answer = QStringLiteral("D:/other/Race.exe");
     button("pushButtonAdd")->click();

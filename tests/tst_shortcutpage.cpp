@@ -242,14 +242,27 @@ void TestShortcutPage::twoRowsChangeKeys()
 void TestShortcutPage::addAndDelete()
 {
     start();
-    m_page->functionBox()->setCurrentIndex(12);
+    QComboBox *box = m_page->functionBox();
+    const auto isMarked = [box](int row) {
+        const QModelIndex entry = box->model()->index(row, 0);
+        return !entry.flags().testFlag(Qt::ItemIsEnabled) && entry.data(Qt::CheckStateRole) == Qt::Checked;
+    };
+    box->setCurrentIndex(12);
+    QVERIFY(!isMarked(12));
     button("pushButton_2")->click();
+    QVERIFY(isMarked(12) && !isMarked(11));
+    m_page->show();
+    box->showPopup();
+    QCOMPARE(box->view()->viewport()->height() / box->view()->sizeHintForRow(0), 10);
+    QVERIFY(box->view()->verticalScrollBar()->isVisible());
+    box->hidePopup();
     button("pushButton_2")->click(); // a function has one row
     QCOMPARE(m_page->shortcutRows().size(), std::size_t(1));
     QTest::keyClick(row(0)->plusEdit(), Qt::Key_B, Qt::ControlModifier);
     button("pushButtonAppli")->click();
     QCOMPARE(loadShortcuts().entries, (std::vector<ShortcutEntry>{{12, true, QStringLiteral("Ctrl+B"), {}}}));
     row(0)->trashButton()->click();
+    QVERIFY(!isMarked(12));
     QCOMPARE(m_desk->desk.hotKeys().count(), std::size_t(0));
     button("pushButton_2")->click(); // it may come again
     QCOMPARE(m_page->shortcutRows().size(), std::size_t(1));

@@ -4,10 +4,9 @@
 #include <QHelpEvent>
 #include <QPainter>
 #include <QStyleOption>
-#include <QToolTip>
 
 #include "controls/captions.h"
-#include "controls/plaintext.h"
+#include "controls/tooltips.h"
 
 namespace {
 QFont sized(QFont font, int pixelSize)
@@ -39,7 +38,7 @@ QSize CaptionLabel::minimumSizeHint() const
 bool CaptionLabel::event(QEvent *event)
 {
     if (event->type() == QEvent::ToolTip && m_elided) {
-        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), asItStands(text()), this);
+        showTip(static_cast<QHelpEvent *>(event)->globalPos(), text(), this);
         return true;
     }
     return QLabel::event(event);

@@ -2,10 +2,9 @@
 
 #include <QFontMetrics>
 #include <QHelpEvent>
-#include <QToolTip>
 #include <QWidget>
 
-#include "controls/plaintext.h"
+#include "controls/tooltips.h"
 
 FittedCaption fitCaption(const QString &text, const QFont &font, int pixelSize, int width)
 {
@@ -45,6 +44,6 @@ bool Caption::showToolTip(const QHelpEvent *event, QWidget *owner) const
 {
     if (!m_elided)
         return false;
-    QToolTip::showText(event->globalPos(), asItStands(m_text), owner);
+    showTip(event->globalPos(), m_text, owner);
     return true;
 }

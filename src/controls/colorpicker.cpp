@@ -3,6 +3,7 @@
 #include <QColorDialog>
 #include <QPainter>
 
+#include "controls/palette.h"
 #include "controls/pictures.h"
 
 namespace {
@@ -60,8 +61,8 @@ void ColorPicker::paintEvent(QPaintEvent *)
     const QString state = hovered ? QStringLiteral("hover") : QString();
     if (!Pictures::draw(painter, rect(),
                         Pictures::ofState(Pictures::kRoot + QStringLiteral("img/picker/frame"), state))) {
-        painter.setPen(hovered ? QColor(0x7b, 0xfa, 0xdb) : QColor(27, 80, 67));
-        painter.setBrush(QColor(0x0f, 0x15, 0x12));
+        painter.setPen(hovered ? QColor(Palette::kMint) : QColor(27, 80, 67));
+        painter.setBrush(QColor(Palette::kWell));
         painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 8, 8);
     }
     painter.setPen(Qt::NoPen);

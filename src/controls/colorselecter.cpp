@@ -1,9 +1,10 @@
 #include "controls/colorselecter.h"
 
 #include <QPainter>
-#include <QToolTip>
 
+#include "controls/palette.h"
 #include "controls/pictures.h"
+#include "controls/tooltips.h"
 
 namespace {
 constexpr int kSwatch = 28;
@@ -86,7 +87,7 @@ bool ColorSelecter::event(QEvent *event)
         const auto *help = static_cast<QHelpEvent *>(event);
         const QString name = m_names.value(indexAt(help->pos()));
         if (!name.isEmpty()) {
-            QToolTip::showText(help->globalPos(), name, this);
+            showTip(help->globalPos(), name, this);
             return true;
         }
     }
@@ -165,7 +166,7 @@ void ColorSelecter::drawSwatch(QPainter &painter, int index) const
         // The swatch that is only pointed at stays behind the selected one.
         painter.setOpacity(index == m_selected ? painter.opacity() : 0.55);
         if (!Pictures::draw(painter, highlight, Pictures::kRoot + QStringLiteral("img/swatch/highlight.png"))) {
-            painter.setPen(QPen(QColor(0x7b, 0xfa, 0xdb), 2));
+            painter.setPen(QPen(QColor(Palette::kMint), 2));
             painter.setBrush(Qt::NoBrush);
             painter.drawEllipse(highlight.adjusted(1, 1, -1, -1));
         }

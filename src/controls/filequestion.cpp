@@ -2,19 +2,67 @@
 
 #include <QFileDialog>
 #include <QFileIconProvider>
+#include <QHeaderView>
+#include <QPushButton>
+#include <QSplitter>
+#include <QToolButton>
+#include <QTreeView>
+
+#include "controls/dress.h"
+#include "controls/pictures.h"
 
 namespace {
+
+constexpr QSize kSize(860, 540);
+constexpr int kPlacesWidth = 160;
+
+QIcon fileIcon(const char *name)
+{
+    return QIcon(Pictures::kRoot + QStringLiteral("img/file/%1.png").arg(QLatin1String(name)));
+}
 
 /// Icons by kind: those that the system knows of each file come from other programs' code as well.
 class PlainIcons : public QFileIconProvider
 {
 public:
-    using QFileIconProvider::icon;
+    QIcon icon(IconType kind) const override
+    {
+        static const QIcon drive = fileIcon("drive"), computer = fileIcon("computer"), folder = fileIcon("folder"),
+                           file = fileIcon("file");
+        return kind == Drive || kind == Network      ? drive
+               : kind == Computer || kind == Desktop ? computer
+               : kind == Folder                      ? folder
+                                                     : file;
+    }
     QIcon icon(const QFileInfo &info) const override
     {
         return icon(info.isRoot() ? Drive : info.isDir() ? Folder : File);
     }
 };
+
+/// Its buttons in the hand of the program's icons, and room for names and dates.
+void dress(QFileDialog &dialog)
+{
+    dressDialog(&dialog);
+    for (const auto &[button, icon] : {std::pair("backButton", "back"),
+                                       {"forwardButton", "forward"},
+                                       {"toParentButton", "up"},
+                                       {"newFolderButton", "new_folder"},
+                                       {"listModeButton", "list"},
+                                       {"detailModeButton", "details"}}) {
+        if (auto *found = dialog.findChild<QToolButton *>(QLatin1String(button)))
+            found->setIcon(fileIcon(icon));
+    }
+    for (QPushButton *button : dialog.findChildren<QPushButton *>())
+        button->setIcon({});
+    dialog.resize(kSize);
+    if (auto *splitter = dialog.findChild<QSplitter *>())
+        splitter->setSizes({kPlacesWidth, kSize.width() - kPlacesWidth});
+    if (auto *tree = dialog.findChild<QTreeView *>()) {
+        tree->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+        tree->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    }
+}
 
 QString ask(QFileDialog &dialog, QFileDialog::AcceptMode mode)
 {
@@ -23,6 +71,7 @@ QString ask(QFileDialog &dialog, QFileDialog::AcceptMode mode)
     dialog.setIconProvider(&icons);
     dialog.setAcceptMode(mode);
     dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    dress(dialog);
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include "controls/palette.h"
 #include "controls/pictures.h"
 
 namespace {
@@ -9,9 +10,9 @@ constexpr QSize kTileSize(90, 82);
 constexpr QRect kIconRect(33, 18, 24, 24);
 constexpr QRect kCaptionRect(5, 50, 80, 24);
 constexpr int kCaptionPixels = 14;
-const QColor kCheckedText(0x7b, 0xfa, 0xdb);
-const QColor kNormalText(0xad, 0xad, 0xad);
-const QColor kDisabledText(0x69, 0x69, 0x69);
+const QColor kCheckedText = Palette::kMint;
+const QColor kNormalText = Palette::kDim;
+const QColor kDisabledText = Palette::kDisabled;
 } // namespace
 
 IconTextButton::IconTextButton(const QString &iconBase, const QString &caption, QWidget *parent)
@@ -70,7 +71,7 @@ void IconTextButton::drawTile(QPainter &painter) const
     if (Pictures::draw(painter, tile, lit ? m_checkedPicture : m_normalPicture))
         return;
     painter.setPen(lit ? kCheckedText : QColor(27, 80, 67));
-    painter.setBrush(lit ? QColor(0x26, 0x3d, 0x35) : QColor(0x1b, 0x23, 0x20));
+    painter.setBrush(lit ? QColor(0x26, 0x3d, 0x35) : QColor(Palette::kTip));
     painter.drawRoundedRect(QRectF(tile).adjusted(0.5, 0.5, -0.5, -0.5), 10, 10);
 }
 

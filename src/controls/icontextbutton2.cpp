@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include "controls/palette.h"
 #include "controls/pictures.h"
 
 namespace {
@@ -13,8 +14,8 @@ constexpr int kCaptionPixels = 14;
 const QColor kFrame(31, 43, 43);
 const QColor kLitFrame(41, 47, 47);
 const QColor kCheckedText(65, 202, 169);
-const QColor kNormalText(0xad, 0xad, 0xad);
-const QColor kDisabledText(0x69, 0x69, 0x69);
+const QColor kNormalText = Palette::kDim;
+const QColor kDisabledText = Palette::kDisabled;
 } // namespace
 
 IconTextButton2::IconTextButton2(const QString &normalPicture, const QString &checkedPicture, const QString &caption,

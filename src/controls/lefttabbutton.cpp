@@ -4,6 +4,7 @@
 
 #include <QPainter>
 
+#include "controls/palette.h"
 #include "controls/pictures.h"
 
 namespace {
@@ -14,9 +15,9 @@ constexpr int kIconSide = 24;
 constexpr int kCaptionLeft = 54;
 constexpr int kCaptionRightMargin = 8;
 constexpr int kCaptionPixels = 19;
-const QColor kNormalText(0xc9, 0xc9, 0xc9);
-const QColor kCheckedText(0xff, 0xff, 0xff);
-const QColor kDisabledText(0x69, 0x69, 0x69);
+const QColor kNormalText = Palette::kSoft;
+const QColor kCheckedText = Palette::kText;
+const QColor kDisabledText = Palette::kDisabled;
 } // namespace
 
 LeftTabButton::LeftTabButton(const QString &iconBase, const QString &caption, QWidget *parent)

@@ -2,10 +2,12 @@
 
 #include <QPainter>
 
+#include "controls/palette.h"
+
 namespace {
 
-const QColor kDim(0xad, 0xad, 0xad);
-const QColor kMint(0x7b, 0xfa, 0xdb);
+const QColor kDim = Palette::kDim;
+const QColor kMint = Palette::kMint;
 
 } // namespace
 

@@ -7,17 +7,16 @@
 #include <QStyle>
 #include <QWheelEvent>
 
+#include "controls/palette.h"
 #include "controls/pictures.h"
 
 namespace {
 constexpr int kHandle = 2 * NoWheelSlider::kGrooveInset;
 constexpr int kGroove = 4;
 constexpr int kHeight = 26;
-const QColor kGrooveColor(0x2b, 0x36, 0x31);
-const QColor kMintDark(0x00, 0xc4, 0x8c);
-const QColor kMint(0x7b, 0xfa, 0xdb);
-const QColor kInside(0x0c, 0x10, 0x0e);
-const QColor kDisabled(0x4a, 0x55, 0x50);
+const QColor kMintDark = Palette::kDeep;
+const QColor kMint = Palette::kMint;
+const QColor kInside = Palette::kInk;
 
 bool isStepKey(int key)
 {
@@ -169,7 +168,7 @@ void NoWheelSlider::drawGroove(QPainter &painter) const
 {
     const QRectF groove = grooveRect();
     painter.setPen(Qt::NoPen);
-    painter.setBrush(kGrooveColor);
+    painter.setBrush(QColor(isEnabled() ? Palette::kGroove : Palette::kRestingGroove));
     painter.drawRoundedRect(groove, kGroove / 2.0, kGroove / 2.0);
     if (m_unknown)
         return;
@@ -178,7 +177,9 @@ void NoWheelSlider::drawGroove(QPainter &painter) const
     QLinearGradient mint(filled.topLeft(), filled.topRight());
     mint.setColorAt(0.0, kMintDark);
     mint.setColorAt(1.0, kMint);
-    painter.setBrush(!isEnabled() ? QBrush(kDisabled) : m_accent.isValid() ? QBrush(m_accent) : QBrush(mint));
+    painter.setBrush(!isEnabled()         ? QBrush(QColor(Palette::kRestingMark))
+                     : m_accent.isValid() ? QBrush(m_accent)
+                                          : QBrush(mint));
     painter.drawRoundedRect(filled, kGroove / 2.0, kGroove / 2.0);
 }
 
@@ -198,7 +199,9 @@ void NoWheelSlider::drawHandle(QPainter &painter) const
 
 void NoWheelSlider::drawRing(QPainter &painter, const QRect &handle) const
 {
-    QColor ring = !isEnabled() || m_unknown ? kDisabled : m_accent.isValid() ? m_accent : kMint;
+    QColor ring = !isEnabled() ? Palette::kRestingMark : m_unknown ? Palette::kEdge : Palette::kMint;
+    if (isEnabled() && !m_unknown && m_accent.isValid())
+        ring = m_accent;
     if (isEnabled() && (underMouse() || isSliderDown()))
         ring = ring.lighter(115);
     painter.setPen(QPen(ring, m_unknown ? 1.5 : 3.0));

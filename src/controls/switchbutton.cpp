@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include "controls/palette.h"
 #include "controls/pictures.h"
 
 namespace {
@@ -9,8 +10,8 @@ constexpr QSize kSize(120, 38);
 constexpr int kTextPixels = 18;
 constexpr int kTextMargin = 6;
 const QColor kActiveText(0x7f, 0xf7, 0xd4);
-const QColor kOtherText(0xda, 0x67, 0x6d);
-const QColor kDisabledText(0x69, 0x69, 0x69);
+const QColor kOtherText = Palette::kError;
+const QColor kDisabledText = Palette::kDisabled;
 } // namespace
 
 SwitchButton::SwitchButton(QWidget *parent) : PaintedControl(parent), m_leftText(kTextPixels), m_rightText(kTextPixels)
@@ -91,7 +92,7 @@ void SwitchButton::drawBackground(QPainter &painter) const
     const qreal radius = height() / 2.0;
     if (!drawn) {
         painter.setPen(QColor(27, 80, 67));
-        painter.setBrush(QColor(0x0f, 0x15, 0x12));
+        painter.setBrush(QColor(Palette::kWell));
         painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
         painter.setPen(Qt::NoPen);
         painter.setBrush(QColor(0x26, 0x3d, 0x35));

@@ -2,13 +2,15 @@
 
 #include <QPainter>
 
+#include "controls/palette.h"
+
 namespace {
 constexpr QSize kSize(20, 20);
 const QColor kGround(1, 1, 1);
 const QColor kOutline(27, 80, 67);
 const QColor kHoveredOutline(0x7b, 0xfa, 0xdb, 150);
-const QColor kMark(0x7b, 0xfa, 0xdb);
-const QColor kDisabled(0x69, 0x69, 0x69);
+const QColor kMark = Palette::kMint;
+const QColor kDisabled = Palette::kDisabled;
 } // namespace
 
 SwitchButtonRectangle::SwitchButtonRectangle(QWidget *parent) : PaintedControl(parent)

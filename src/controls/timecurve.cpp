@@ -5,14 +5,16 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include "controls/palette.h"
+
 namespace {
 
 constexpr int kTextHeight = 20;
 constexpr int kTopMargin = 18;
 constexpr int kGridLines = 3;
-const QColor kLine(0x7b, 0xfa, 0xdb);
+const QColor kLine = Palette::kMint;
 const QColor kGrid(255, 255, 255, 20);
-const QColor kText(0x8d, 0x9a, 0x94);
+const QColor kText = Palette::kHint;
 
 } // namespace
 

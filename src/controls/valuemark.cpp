@@ -2,11 +2,13 @@
 
 #include <QPainter>
 
+#include "controls/palette.h"
+
 namespace {
 
 const QColor kQuiet(0x7b, 0xfa, 0xdb, 0x90);
-const QColor kDim(0xad, 0xad, 0xad);
-const QColor kRefused(0xda, 0x67, 0x6d);
+const QColor kDim = Palette::kDim;
+const QColor kRefused = Palette::kError;
 
 } // namespace
 

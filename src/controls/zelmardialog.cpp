@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "controls/palette.h"
 #include "controls/pictures.h"
 
 namespace {
@@ -13,12 +14,12 @@ constexpr QSize kFallbackSize(420, 200);
 const QString kStyle =
     QStringLiteral("QLabel#title { color: #FFFFFF; font-size: 18px; }"
                    "QLabel#text { color: #C9C9C9; font-size: 15px; }"
-                   "QPushButton { color: #0c100e; font-size: 15px; border: 1px solid transparent; border-radius: 8px;"
+                   "QPushButton { color: @ink; font-size: 15px; border: 1px solid transparent; border-radius: 8px;"
                    " min-width: 112px; min-height: 34px;"
-                   " background: qlineargradient(x1:0, y1:0, x2:1, y2:0, stop:0 #00c48c, stop:1 #7bfadb); }"
-                   "QPushButton:hover { background: #9cffc8; }"
+                   " background: qlineargradient(x1:0, y1:0, x2:1, y2:0, stop:0 @deep, stop:1 @mint); }"
+                   "QPushButton:hover { background: @bright; }"
                    "QPushButton:focus { border-color: #FFFFFF; }"
-                   "QPushButton:pressed { background: #00c48c; }");
+                   "QPushButton:pressed { background: @deep; }");
 } // namespace
 
 ZelmarDialog::ZelmarDialog(QWidget *parent) : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint)
@@ -27,7 +28,7 @@ ZelmarDialog::ZelmarDialog(QWidget *parent) : QDialog(parent, Qt::Dialog | Qt::F
     setWindowTitle(QObject::tr("Hotkey conflict"));
     const QPixmap background = Pictures::load(kBackground, 1.0);
     setFixedSize(background.isNull() ? kFallbackSize : background.size());
-    setStyleSheet(kStyle);
+    setStyleSheet(Palette::styled(kStyle));
 
     auto *title = new QLabel(windowTitle(), this);
     title->setObjectName(QStringLiteral("title"));
@@ -54,6 +55,6 @@ void ZelmarDialog::paintEvent(QPaintEvent *)
         return;
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QColor(27, 80, 67));
-    painter.setBrush(QColor(0x1b, 0x23, 0x20));
+    painter.setBrush(QColor(Palette::kTip));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 14, 14);
 }

@@ -5,14 +5,16 @@
 #include <QPainter>
 #include <QSignalBlocker>
 
+#include "controls/palette.h"
+
 namespace {
 constexpr QSize kLeastSize(120, 34);
-const QString kStyle = QStringLiteral(
-    "QLineEdit { color: #7bfadb; background: #0f1512; border: 1px solid rgb(27,80,67); border-radius: 8px;"
-    " padding: 0 8px; font-size: 14px; }"
-    "QLineEdit:hover { background: #141c18; }"
-    "QLineEdit:focus { border-color: rgba(123,250,219,178); }"
-    "QLineEdit:disabled { color: #696969; border-color: #2b3631; }");
+const QString kStyle =
+    QStringLiteral("QLineEdit { color: @mint; background: @well; border: 1px solid @edge; border-radius: 8px;"
+                   " padding: 0 8px; font-size: 14px; }"
+                   "QLineEdit:hover { background: #141c18; }"
+                   "QLineEdit:focus { border-color: rgba(123,250,219,178); }"
+                   "QLineEdit:disabled { color: @disabled; border-color: @restingEdge; }");
 
 QString nothingSet()
 {
@@ -76,7 +78,7 @@ ZelmarKeySequenceEdit::ZelmarKeySequenceEdit(QWidget *parent)
 {
     m_lineEdit->setPlaceholderText(nothingSet());
     m_lineEdit->setAlignment(Qt::AlignCenter);
-    m_lineEdit->setStyleSheet(kStyle);
+    m_lineEdit->setStyleSheet(Palette::styled(kStyle));
     m_lineEdit->setMinimumSize(kLeastSize);
     m_lineEdit->installEventFilter(new KeyFieldFilter(this));
 }

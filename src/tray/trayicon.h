@@ -2,7 +2,6 @@
 
 #include <QSystemTrayIcon>
 
-class QMenu;
 class QWidget;
 
 /// The program's place in the system tray, with a menu that shows the window or ends the program. For a system that has
@@ -24,6 +23,3 @@ Q_SIGNALS:
     void showWanted();
     void exitWanted();
 };
-
-/// Gives a menu the look of the tray's.
-void dressTrayMenu(QMenu *menu);

@@ -9,7 +9,6 @@
 
 #include "controls/pictures.h"
 #include "page/engine/labels.h"
-#include "tray/trayicon.h"
 
 static constexpr const char *kPlaceLabels[kTrayPlaces] = {LABEL("First control"), LABEL("Second control")};
 
@@ -25,11 +24,11 @@ TrayPanelFooter::TrayPanelFooter(std::span<const TrayControl> choices, std::span
     m_hint->setObjectName(QStringLiteral("panelHint"));
     m_hint->setWordWrap(true);
     m_chooser = new QToolButton(footer);
+    m_chooser->setObjectName(QStringLiteral("panelChooser"));
     m_chooser->setIcon(QIcon(Pictures::kRoot + QStringLiteral("img/entry/choose_functions.png")));
     m_chooser->setFocusPolicy(Qt::StrongFocus);
     m_chooser->setPopupMode(QToolButton::InstantPopup);
     auto *menu = new QMenu(m_chooser);
-    dressTrayMenu(menu);
     connect(menu, &QMenu::aboutToShow, this, [this, menu] { fillMenu(menu); });
     m_chooser->setMenu(menu);
     row->addWidget(m_hint, 1);

@@ -48,6 +48,16 @@ void pageShortcutKey::fillFunctions()
         m_functions->addItem(QObject::tr(function->name), function->number);
     m_functions->setCurrentIndex(chosen);
     m_functions->setAccessibleName(QObject::tr("Function"));
+    markFunctions();
+}
+
+/// A function has one row: those that have theirs are ticked and cannot be chosen.
+void pageShortcutKey::markFunctions()
+{
+    markListed(m_functions, [this](const QVariant &function) {
+        return std::any_of(m_rows.begin(), m_rows.end(),
+                           [number = function.toInt()](const ShortcutRow *row) { return row->function() == number; });
+    });
 }
 
 void pageShortcutKey::loadRows()
@@ -80,6 +90,7 @@ ShortcutRow *pageShortcutKey::addShortcutRow(const ShortcutEntry &entry)
             [this, row](int direction, const QKeySequence &key) { heardKey(row, direction, key); });
     m_rows.push_back(row);
     addRow(row);
+    markFunctions();
     return row;
 }
 
@@ -164,6 +175,7 @@ void pageShortcutKey::deleteRow(ShortcutRow *row)
         m_applied.reset();
     std::erase(m_rows, row);
     removeRow(row);
+    markFunctions();
     showState();
 }
 

@@ -45,6 +45,7 @@ private Q_SLOTS:
 private:
     void buildTools();
     void fillFunctions();
+    void markFunctions();
     void heardKey(const ShortcutRow *row, int direction, const QKeySequence &key);
     void loadRows();
     ShortcutRow *addShortcutRow(const ShortcutEntry &entry);

@@ -10,7 +10,6 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 
-#include "controls/plaintext.h"
 #include "following/followscenes.h"
 #include "page/engine/dropdown.h"
 #include "page/engine/listpage.h"
@@ -18,6 +17,7 @@
 namespace {
 
 constexpr int kColumnWidth = 220;
+constexpr int kFieldMargin = 8; // what a line edit leaves free on both sides of its text
 
 /// A file may name a program with line breaks and the like; a row is one line.
 QString oneLine(QString text)
@@ -73,12 +73,26 @@ void FollowRow::showNames()
     const QString path = QDir::toNativeSeparators(m_path);
     m_name->ensurePolished(); // for its font
     m_name->setText(m_name->fontMetrics().elidedText(oneLine(program), Qt::ElideMiddle, kColumnWidth));
-    m_name->setToolTip(asItStands(program));
-    m_pathField->setText(oneLine(path));
-    m_pathField->setCursorPosition(0);
-    m_pathField->setToolTip(asItStands(path));
+    m_name->setToolTip(program);
+    m_pathField->setToolTip(path);
+    showPath();
     m_scenes->setAccessibleName(program);
     m_trash->setAccessibleName(QStringLiteral("%1: %2").arg(program, m_trash->toolTip()));
+}
+
+/// As much of the path as there is room for, without what is in its middle.
+void FollowRow::showPath()
+{
+    m_pathField->ensurePolished();
+    const int room = m_pathField->width() - kFieldMargin;
+    m_pathField->setText(m_pathField->fontMetrics().elidedText(oneLine(m_pathField->toolTip()), Qt::ElideMiddle, room));
+    m_pathField->setCursorPosition(0);
+}
+
+void FollowRow::resizeEvent(QResizeEvent *event)
+{
+    QFrame::resizeEvent(event);
+    showPath();
 }
 
 void FollowRow::updateControlText()

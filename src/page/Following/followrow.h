@@ -35,9 +35,13 @@ Q_SIGNALS:
     /// The program at this place of the list is to go.
     void deleteWanted(int index);
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     void layOut();
     void showNames();
+    void showPath();
 
     int m_index = -1;
     QString m_path;

@@ -2,23 +2,44 @@
 
 #include <QComboBox>
 #include <QListView>
+#include <QStandardItemModel>
+#include <QStyledItemDelegate>
 
+#include "controls/palette.h"
 #include "controls/wheeleventfilter.h"
 
 // Added to what the page's style says of every combo box: its arrow without a frame, and the open list.
-static const char *const kStyle =
+static const char16_t *const kStyle =
+    u"QComboBox { combobox-popup: 0; }" // a list of ten rows that scrolls, not a menu as high as the screen
     "QComboBox::drop-down { border: none; width: 28px; }"
     "QComboBox::down-arrow { image: url(:/resource/img/option/drop.png); width: 14px; height: 14px; }"
-    "QListView { background-color: #222d28; color: #c9c9c9; border: 1px solid #31403a; outline: none; font-size: 14px; "
+    "QListView { background-color: @field; color: @soft; border: 1px solid @edge; outline: none; font-size: 14px; "
     "padding: 4px; }"
     "QListView::item { min-height: 32px; }"
-    "QListView::item:selected { background-color: #1b5043; color: #ffffff; }";
+    "QListView::item:disabled { color: @hint; }"
+    "QListView::indicator { width: 14px; height: 14px; }"
+    "QListView::indicator:checked { image: url(:/resource/img/option/tick.png); }"
+    "QListView::indicator:unchecked { image: none; }"
+    "QListView::item:selected { background-color: @selected; color: @text; }";
 
 QComboBox *makeDropDown(QWidget *parent)
 {
     auto *box = new QComboBox(parent);
-    box->setView(new QListView(box)); // the style sheet reaches this view only, not the system's own
-    box->setStyleSheet(QLatin1String(kStyle));
+    box->setView(new QListView(box));                   // the style sheet reaches this view only, not the system's own
+    box->setItemDelegate(new QStyledItemDelegate(box)); // as does this one
+    box->setStyleSheet(Palette::styled(kStyle));
+    box->view()->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded); // a menu has none, and at first it was one
     box->installEventFilter(new WheelEventFilter(box));
     return box;
+}
+
+void markListed(QComboBox *box, const std::function<bool(const QVariant &)> &isListed)
+{
+    const auto *model = static_cast<QStandardItemModel *>(box->model());
+    for (int row = 0; row < model->rowCount(); ++row) {
+        QStandardItem *item = model->item(row);
+        const bool listed = isListed(item->data(Qt::UserRole));
+        item->setEnabled(!listed);
+        item->setData(listed ? Qt::Checked : Qt::Unchecked, Qt::CheckStateRole);
+    }
 }

@@ -1,7 +1,13 @@
 #pragma once
 
+#include <functional>
+
 class QComboBox;
+class QVariant;
 class QWidget;
 
 /// A combo box in the look of the pages: its arrow, its open list, and no changes by the wheel.
 QComboBox *makeDropDown(QWidget *parent);
+
+/// Ticks the entries of a drop-down whose data are listed elsewhere already; they cannot be chosen.
+void markListed(QComboBox *box, const std::function<bool(const QVariant &)> &isListed);

@@ -3,9 +3,19 @@
 #include <QFile>
 #include <QWidget>
 
+#include "controls/dress.h"
+#include "controls/palette.h"
+
+static QString readStyle()
+{
+    QFile file(QStringLiteral(":/resource/css/page_scene_mode.css"));
+    return file.open(QIODevice::ReadOnly) ? surfaceStyle() + Palette::styled(QString::fromUtf8(file.readAll()))
+                                          : QString();
+}
+
 void dressPage(QWidget *page)
 {
-    QFile style(QStringLiteral(":/resource/css/page_scene_mode.css"));
-    if (style.open(QIODevice::ReadOnly))
-        page->setStyleSheet(QString::fromUtf8(style.readAll()));
+    static const QString style = readStyle();
+    if (!style.isEmpty())
+        page->setStyleSheet(style);
 }

@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QPushButton>
 
+#include "controls/palette.h"
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/monitoridentity.h"
 #include "platform/desk.h"
@@ -15,9 +16,9 @@ namespace {
 constexpr platform::milliseconds kTick{100};
 constexpr int kButtonHeight = 34;
 constexpr qreal kRadius = 8;
-const QColor kGround(0x14, 0x1b, 0x18);
-const QColor kEdge(0x24, 0x33, 0x2d);
-const QColor kTime(0x7b, 0xfa, 0xdb);
+const QColor kGround = Palette::kCard;
+const QColor kEdge = Palette::kHairline;
+const QColor kTime = Palette::kMint;
 
 /// An option's value in the words of its group.
 QString wordOf(const OptionGroup &group, int value)

@@ -4,6 +4,7 @@
 
 #include <QPainter>
 
+#include "controls/palette.h"
 #include "usb-hid/accessorylink.h"
 
 namespace {
@@ -17,13 +18,13 @@ constexpr int kCell = 10; // before it is scaled to what fits
 constexpr qreal kLargestScale = 0.8;
 constexpr QSize kSize(900, 460);
 
-const QColor kGround(0x12, 0x18, 0x15);
+const QColor kGround = Palette::kCard;
 const QColor kLine(255, 255, 255, 13);
-const QColor kEmpty(0x23, 0x2d, 0x28);
+const QColor kEmpty = Palette::kUnlit;
 const QColor kFoot(0x1f, 0x8f, 0x74);
-const QColor kMint(0x7b, 0xfa, 0xdb);
-const QColor kTop(0x9c, 0xff, 0xc8);
-const QColor kCaption(0xad, 0xad, 0xad);
+const QColor kMint = Palette::kMint;
+const QColor kTop = Palette::kBright;
+const QColor kCaption = Palette::kDim;
 
 void paintPanel(QPainter &painter, const QRect &area)
 {
@@ -107,9 +108,10 @@ void AudioPicture::paintBars(QPainter &painter, const QRect &area) const
     const qreal full = area.height() - kCaptionHeight;
     for (int bar = 0; bar < count; ++bar) {
         const QRectF column(area.left() + bar * pitch + pitch * 0.2, area.top(), pitch * 0.6, full);
+        painter.setPen(kEmpty); // an outline: a ground would be as light as the foot of what fills it
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(column.adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
         painter.setPen(Qt::NoPen);
-        painter.setBrush(kEmpty);
-        painter.drawRoundedRect(column, 4, 4);
         if (bar < m_heights.size() && m_form) {
             const int highest = kStepsPerLimit * m_form->bars.limits[static_cast<std::size_t>(bar)] + 1;
             QRectF filled = column;

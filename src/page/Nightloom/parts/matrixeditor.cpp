@@ -5,14 +5,15 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "controls/palette.h"
 #include "ledmatrix/animationfile.h"
 
 namespace {
 
-const QColor kDark(0x2a, 0x37, 0x31);
-const QColor kLit(0x7b, 0xfa, 0xdb);
-const QColor kBehind(0x2f, 0x5f, 0x52);
-const QColor kCursor(0xff, 0xff, 0xff);
+const QColor kDark = Palette::kUnlit;
+const QColor kLit = Palette::kMint;
+const QColor kBehind = Palette::kChecked;
+const QColor kCursor = Palette::kText;
 constexpr int kCursorMargin = 2; // the cursor stands this far outside its cell
 
 } // namespace

@@ -1,0 +1,76 @@
+#include "controls/tooltips.h"
+
+#include <QApplication>
+#include <QHelpEvent>
+#include <QPalette>
+#include <QTextDocument>
+#include <QTextLayout>
+#include <QToolTip>
+
+#include "controls/palette.h"
+#include "controls/sharedfonts.h"
+
+namespace {
+
+constexpr int kTipWidth = 360; // points
+
+/// Shows the tool tips of all widgets: left alone, the toolkit breaks no line of a plain text.
+class TipFilter : public QObject
+{
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() != QEvent::ToolTip || !watched->isWidgetType())
+            return false;
+        auto *widget = static_cast<QWidget *>(watched);
+        if (widget->toolTip().isEmpty())
+            return false; // a part of it, or its parent, may have one
+        showTip(static_cast<QHelpEvent *>(event)->globalPos(), widget->toolTip(), widget);
+        return true;
+    }
+};
+
+QString broken(const QString &line)
+{
+    QTextLayout layout(line, QToolTip::font());
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    QStringList lines;
+    for (QTextLine part = layout.createLine(); part.isValid(); part = layout.createLine()) {
+        part.setLineWidth(kTipWidth);
+        lines.append(line.mid(part.textStart(), part.textLength()).trimmed());
+    }
+    layout.endLayout();
+    return lines.join(u'\n');
+}
+
+} // namespace
+
+QString tipText(const QString &text)
+{
+    QStringList lines = text.split(u'\n');
+    for (QString &line : lines)
+        line = broken(line);
+    const QString whole = lines.join(u'\n');
+    return Qt::mightBeRichText(whole) ? Qt::convertFromPlainText(whole) : whole;
+}
+
+void showTip(const QPoint &at, const QString &text, QWidget *owner)
+{
+    QToolTip::showText(at, tipText(text), owner);
+}
+
+void dressToolTips()
+{
+    QPalette palette = QToolTip::palette();
+    palette.setColor(QPalette::ToolTipBase, Palette::kTip);
+    palette.setColor(QPalette::ToolTipText, Palette::kText);
+    QToolTip::setPalette(palette);
+    QToolTip::setFont(noteFont);
+    qApp->installEventFilter(new TipFilter(qApp));
+}
