@@ -78,6 +78,8 @@ void dressApplication()
         palette.setColor(QPalette::Disabled, role.role, role.disabled);
     }
     QApplication::setPalette(palette);
+    palette.setColor(QPalette::Highlight, Palette::kProgress);
+    QApplication::setPalette(palette, "QProgressBar");
     dressToolTips();
 }
 
