@@ -1,12 +1,8 @@
-#include <cmath>
 #include <functional>
 #include <memory>
 
-#include <QFile>
 #include <QHelpEvent>
 #include <QPainter>
-#include <QRegularExpression>
-#include <QTextDocument>
 #include <QToolTip>
 #include <QtTest>
 
@@ -16,12 +12,9 @@
 #include "controls/icontextbutton.h"
 #include "controls/icontextbutton2.h"
 #include "controls/lefttabbutton.h"
-#include "controls/palette.h"
 #include "controls/pictures.h"
-#include "controls/sharedfonts.h"
 #include "controls/switchbutton.h"
 #include "controls/switchbuttonrectangle.h"
-#include "controls/tooltips.h"
 #include "support/controlevents.h"
 #include "support/datarow.h"
 
@@ -66,8 +59,6 @@ private Q_SLOTS:
     void focusOutlineIsForTheKeyboard();
     void captionFits();
     void picturesAreSharp();
-    void coloursCanBeTold();
-    void longTipsAreBroken();
     void assistiveSoftwareSeesAndPresses();
 };
 
@@ -325,98 +316,6 @@ void TestControls::picturesAreSharp()
     QCOMPARE(doubled.size(), QSize(20, 20));
     QCOMPARE(doubled.devicePixelRatio(), 2.0);
     QVERIFY(Pictures::load(folder.filePath(QStringLiteral("b.png")), 2.0).isNull());
-}
-
-/// How far apart two colours are in lightness, from 1 to 21.
-static double contrast(QColor front, QColor behind)
-{
-    const auto light = [](const QColor &color) {
-        const auto linear = [](float part) {
-            return part <= 0.04045f ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-        };
-        return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF()) + 0.05;
-    };
-    const auto [darker, lighter] = std::minmax({light(front), light(behind)});
-    return lighter / darker;
-}
-
-/// The outline of a picture, in the middle of its left side.
-static QRgb outline(const char *name)
-{
-    const QImage image(QFINDTESTDATA(QStringLiteral("../resource/img/%1.png").arg(QLatin1String(name))));
-    return image.isNull() ? 0 : image.pixel(0, image.height() / 2) | 0xff000000;
-}
-
-void TestControls::coloursCanBeTold()
-{
-    using namespace Palette;
-    using Colours = QList<QRgb>;
-    const Colours pages = {kPanel, kPanelEnd, kCard, kRow, kFloating};
-    const Colours grounds = pages + Colours{kGround, kWell, kBox, kTip, kField};
-    const struct
-    {
-        const char *what;
-        Colours fronts;
-        Colours behind;
-        double least;
-    } pairs[] = {
-        {"texts", {kText, kSoft, kDim, kHint, kMint, kBright, kSignal}, grounds, 4.5},
-        {"errors", {kError}, pages + Colours{kGround, kWell}, 4.5},
-        {"on what is chosen", {kText, kBright}, {kSelected}, 4.5},
-        {"on progress", {kText}, {kProgress}, 4.5},
-        {"on mint", {kInk}, {kMint, kBright, kDeep, kSignal}, 4.5},
-        {"outlines", {kEdge, kHoveredEdge}, pages + Colours{kBox, kField}, 3},
-        {"switches", {kTrack}, {kWell, kPanel, kPanelEnd}, 3},
-        {"bars", {kGroove, kScroll}, pages, 3},
-        {"cells", {kUnlit}, {kPanel, kPanelEnd, kCard}, 3},
-        {"progress", {kProgress}, {kCard}, 3},
-        {"lit cells", {kMint}, {kUnlit}, 3},
-        {"pictures",
-         {outline("option/small_normal"), outline("option/big_hover"), outline("option/wide_normal"),
-          outline("option/selector_normal"), outline("icontext/normal"), outline("switch_check"),
-          outline("switch_uncheck"), outline("picker/frame"), outline("basicSetting/shortcutKey/off_normal"),
-          outline("basicSetting/servicesSetting/upgrade_normal")},
-         {kPanel, kPanelEnd, kRow},
-         3},
-    };
-    for (const auto &pair : pairs) {
-        for (const QRgb front : pair.fronts) {
-            for (const QRgb behind : pair.behind)
-                QVERIFY2(
-                    contrast(front, behind) >= pair.least,
-                    qPrintable(
-                        QStringLiteral("%1: %2 on %3").arg(pair.what, QColor(front).name(), QColor(behind).name())));
-        }
-    }
-    QFile sheet(QFINDTESTDATA("../resource/css/page_scene_mode.css"));
-    QVERIFY(sheet.open(QIODevice::ReadOnly));
-    const QString style = QString::fromUtf8(sheet.readAll());
-    QVERIFY(!style.contains(QRegularExpression("#[0-9a-f]{6}"))); // each colour by its name
-    QVERIFY(!styled(style).contains(u'@'));
-    QCOMPARE(styled(u"a@edge;@kEdge@"), QStringLiteral("a#607d71;@kEdge@"));
-}
-
-void TestControls::longTipsAreBroken()
-{
-    setUpSharedFonts();
-    dressToolTips();
-    const QString reason =
-        QStringLiteral("Saturation has no effect while Color Enchance is above zero. ").repeated(3).trimmed();
-    QWidget parent;
-    auto *child = new QWidget(&parent);
-    for (const QString &text : {reason, QStringLiteral("C:/<b>") + QString(90, 'x'),
-                                QStringLiteral("亮度和对比度由显示器决定").repeated(20)}) {
-        child->setToolTip(text);
-        QHelpEvent event(QEvent::ToolTip, {}, {});
-        QApplication::sendEvent(child, &event);
-        QTextDocument shown;
-        Qt::mightBeRichText(QToolTip::text()) ? shown.setHtml(QToolTip::text()) : shown.setPlainText(QToolTip::text());
-        const QStringList lines = shown.toPlainText().split('\n');
-        QCOMPARE(lines.join(QString()).remove(' '), QString(text).remove(' ')); // nothing is lost
-        for (const QString &line : lines)
-            QVERIFY(QFontMetrics(QToolTip::font()).horizontalAdvance(line) <= 360);
-        QVERIFY2(lines.size() > 1, qPrintable(lines.first()));
-    }
 }
 
 void TestControls::assistiveSoftwareSeesAndPresses()

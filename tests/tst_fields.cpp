@@ -1,10 +1,14 @@
+#include <cmath>
 #include <functional>
 #include <memory>
 
 #include <QtTest>
 #include <QtWidgets>
 
+#include "controls/palette.h"
+#include "controls/sharedfonts.h"
 #include "controls/sliderwidget.h"
+#include "controls/tooltips.h"
 #include "controls/wheeleventfilter.h"
 #include "controls/zelmardialog.h"
 #include "controls/zelmarkeysequenceedit.h"
@@ -29,6 +33,26 @@ QPoint pointOf(const QSlider *slider, int value)
 {
     return QPoint(10 + (slider->width() - 20) * value / 100, slider->height() / 2);
 }
+
+/// How far apart two colours are in lightness, from 1 to 21.
+double contrast(QColor front, QColor behind)
+{
+    const auto light = [](const QColor &color) {
+        const auto part = [](float level) {
+            return level <= 0.04045f ? level / 12.92 : std::pow((level + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * part(color.redF()) + 0.7152 * part(color.greenF()) + 0.0722 * part(color.blueF()) + 0.05;
+    };
+    const double ratio = light(front) / light(behind);
+    return std::max(ratio, 1 / ratio);
+}
+
+/// The outline of a picture, in the middle of its left side.
+QRgb outline(const char *name)
+{
+    const QImage image(QFINDTESTDATA(QStringLiteral("../resource/img/%1.png").arg(QLatin1String(name))));
+    return image.isNull() ? 0 : image.pixel(0, image.height() / 2) | 0xff000000;
+}
 } // namespace
 
 class TestFields : public QObject
@@ -45,6 +69,8 @@ private Q_SLOTS:
     void keyFieldEndsAfterOneCombination();
     void emptyKeyFieldSaysSo();
     void dialogIsAcceptedByItsButton();
+    void coloursCanBeTold();
+    void longTipsAreBroken();
 };
 
 void TestFields::sliderReports_data()
@@ -237,6 +263,64 @@ void TestFields::dialogIsAcceptedByItsButton()
     ZelmarDialog dialog;
     dialog.findChild<QPushButton *>()->click();
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
+}
+
+void TestFields::coloursCanBeTold()
+{
+    using namespace Palette;
+    using Colours = QList<QRgb>;
+    const Colours pages = {kPanel, kPanelEnd, kCard, kRow, kFloating};
+    const Colours grounds = pages + Colours{kGround, kWell, kBox, kTip, kField};
+    Colours pictures;
+    for (const char *name : {"option/small_normal", "option/big_hover", "option/wide_normal", "option/selector_normal",
+                             "icontext/normal", "switch_check", "switch_uncheck", "picker/frame",
+                             "basicSetting/shortcutKey/off_normal", "basicSetting/servicesSetting/upgrade_normal"})
+        pictures.append(outline(name));
+    const std::tuple<Colours, Colours, double> pairs[] = {
+        {{kText, kSoft, kDim, kHint, kMint, kBright, kSignal}, grounds, 4.5},
+        {{kError}, pages + Colours{kGround, kWell}, 4.5},
+        {{kText, kBright}, {kSelected}, 4.5},
+        {{kText}, {kProgress}, 4.5},
+        {{kInk}, {kMint, kBright, kDeep, kSignal}, 4.5},
+        {{kEdge, kHoveredEdge}, pages + Colours{kBox, kField}, 3},
+        {{kTrack}, {kWell, kPanel, kPanelEnd}, 3},
+        {{kGroove, kScroll}, pages, 3},
+        {{kUnlit}, {kPanel, kPanelEnd, kCard, kMint}, 3},
+        {{kProgress}, {kCard}, 3},
+        {pictures, {kPanel, kPanelEnd, kRow}, 3},
+    };
+    for (const auto &[fronts, behinds, least] : pairs) {
+        for (const QRgb front : fronts) {
+            for (const QRgb behind : behinds)
+                QVERIFY2(contrast(front, behind) >= least,
+                         qPrintable(QColor(front).name() + " on " + QColor(behind).name()));
+        }
+    }
+    QFile sheet(QFINDTESTDATA("../resource/css/page_scene_mode.css"));
+    QVERIFY(sheet.open(QIODevice::ReadOnly));
+    const QString style = QString::fromUtf8(sheet.readAll());
+    QVERIFY(!style.contains(QRegularExpression("#[0-9a-f]{6}"))); // each colour by its name
+    QVERIFY(!styled(style).contains(u'@'));
+}
+
+void TestFields::longTipsAreBroken()
+{
+    setUpSharedFonts();
+    dressToolTips();
+    QWidget widget;
+    for (const QString &text :
+         {QStringLiteral("Saturation has no effect while Color Enchance is above zero.").repeated(3),
+          "C:/<b>" + QString(90, 'x'), QStringLiteral("亮度和对比度由显示器决定").repeated(20)}) {
+        widget.setToolTip(text);
+        QHelpEvent event(QEvent::ToolTip, {}, {});
+        QApplication::sendEvent(&widget, &event);
+        QTextDocument shown;
+        Qt::mightBeRichText(QToolTip::text()) ? shown.setHtml(QToolTip::text()) : shown.setPlainText(QToolTip::text());
+        const QStringList lines = shown.toPlainText().split('\n');
+        QCOMPARE(lines.join(QString()).remove(' '), QString(text).remove(' ')); // nothing is lost
+        for (const QString &line : lines)
+            QVERIFY(QFontMetrics(QToolTip::font()).horizontalAdvance(line) <= 360 && lines.size() > 1);
+    }
 }
 
 QTEST_MAIN(TestFields)

@@ -4,6 +4,7 @@
 #include <QDialog>
 #include <QMenu>
 #include <QPalette>
+#include <QStyle>
 
 #include "controls/palette.h"
 #include "controls/tooltips.h"
@@ -71,7 +72,9 @@ constexpr char16_t kDialogStyle[] =
 
 void dressApplication()
 {
-    QApplication::setStyle(QStringLiteral("Fusion")); // the same everywhere, and the only one that heeds a palette
+    const QString fusion = QStringLiteral("fusion"); // the same everywhere, and the only one that heeds a palette
+    if (QApplication::style()->name() != fusion)
+        QApplication::setStyle(fusion);
     QPalette palette;
     for (const Role &role : kRoles) {
         palette.setColor(QPalette::All, role.role, role.colour);

@@ -20,12 +20,12 @@ inline constexpr QRgb kField = 0xff222d28;    ///< buttons, combo boxes, fields
 inline constexpr QRgb kSelected = 0xff1b5043; ///< what is chosen in a list; pressed buttons
 inline constexpr QRgb kProgress = 0xff1b7a62; ///< how far something has come, with a text over it
 // Lines, and parts that are off.
-inline constexpr QRgb kHairline = 0xff24332d;   ///< around cards and rows, which are no controls
-inline constexpr QRgb kEdge = 0xff607d71;       ///< around a control
+inline constexpr QRgb kHairline = 0xff24332d; ///< around cards and rows, which are no controls
+inline constexpr QRgb kEdge = 0xff607d71;     ///< around a control
 inline constexpr QRgb kHoveredEdge = 0xff8fb0a3;
-inline constexpr QRgb kTrack = 0xff34856f;      ///< around a switch
+inline constexpr QRgb kTrack = 0xff34856f;       ///< around a switch
 inline constexpr QRgb kRestingEdge = 0xff3a4a43; ///< around a control that cannot be used
-inline constexpr QRgb kGroove = 0xff5d7a6c;     ///< of a slider
+inline constexpr QRgb kGroove = 0xff5d7a6c;      ///< of a slider
 inline constexpr QRgb kRestingGroove = 0xff2b3631;
 inline constexpr QRgb kRestingMark = 0xff4a5550; ///< handle and value of a slider that cannot be used
 inline constexpr QRgb kUnlit = 0xff5d7269;       ///< cells of a matrix
