@@ -42,13 +42,19 @@ void loadInterfaceFont()
     QApplication::setFont(font);
 }
 
+/// Before the first window.
+void dressProgram()
+{
+    loadInterfaceFont();
+    setUpSharedFonts();
+    dressApplication();
+}
+
 int runProgram(SingleApplication &application, void *mutex)
 {
     QApplication::setAttribute(Qt::AA_Use96Dpi); // high-dpi scaling needs no attribute: Qt 6 always scales
     QApplication::setQuitOnLastWindowClosed(false);
-    loadInterfaceFont();
-    setUpSharedFonts();
-    dressApplication();
+    dressProgram();
     deviceState.clear();
 
     SearchDeviceDlg session;
@@ -87,6 +93,7 @@ int main(int argc, char *argv[])
     const platform::NamedMutex mutex = desk->process().createMutex(QStringLiteral("QUORVEL"));
     if (SingleApplication::isNameTaken(mutex)) {
         desk->process().closeHandle(mutex.handle);
+        dressProgram();
         showMessage(QMessageBox::Information, QObject::tr("Information"), QObject::tr("Application is already running"),
                     QObject::tr("OK"));
         return -1;
