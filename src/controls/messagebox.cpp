@@ -2,8 +2,11 @@
 
 #include <algorithm>
 
+#include <QLabel>
 #include <QPointer>
 #include <QPushButton>
+
+#include "controls/pictures.h"
 
 namespace {
 
@@ -11,6 +14,19 @@ const char *const kStyle =
     "QMessageBox {background-color: #101611;}QLabel{ color: white;}"
     "QDialogButtonBox {qproperty-centerButtons: false;alignment: bottom right;}"
     "QMessageBox QPushButton { border: 1px solid #8f8f91; border-radius: 4px; padding: 4px 12px; color: white;}";
+
+/// The sign of a box in the hand of the program's icons, in place of the toolkit's.
+void drawSign(QMessageBox &box)
+{
+    const char *name = box.icon() == QMessageBox::Information ? "information"
+                       : box.icon() == QMessageBox::Question  ? "question"
+                                                              : "warning";
+    const QPixmap sign = Pictures::load(Pictures::kRoot + QStringLiteral("img/message/%1.png").arg(QLatin1String(name)),
+                                        box.devicePixelRatioF());
+    auto *label = box.findChild<QLabel *>(QStringLiteral("qt_msgboxex_icon_label"));
+    if (label && box.icon() != QMessageBox::NoIcon && !sign.isNull())
+        label->setPixmap(sign);
+}
 
 /// A box in the program's look. It belongs to its parent, which may go while it is open.
 class Box
@@ -20,6 +36,7 @@ public:
         : m_box(new QMessageBox(icon, title, text, QMessageBox::NoButton, parent))
     {
         m_box->setStyleSheet(QLatin1String(kStyle));
+        drawSign(*m_box);
         m_box->setTextFormat(Qt::PlainText); // it may name a file of any name
     }
     ~Box() { delete m_box; }
