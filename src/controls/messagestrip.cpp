@@ -7,6 +7,7 @@
 #include <QPushButton>
 
 #include "controls/metrics.h"
+#include "controls/palette.h"
 #include "controls/sharedfonts.h"
 
 namespace {
@@ -20,14 +21,14 @@ struct Colors
 {
     QColor ground;
     QColor sign;
-    const char *text;
+    QColor text;
 };
 
 Colors colorsOf(MessageStrip::Tone tone)
 {
     if (tone == MessageStrip::Tone::Refusal)
-        return {{0x3a, 0x2c, 0x2b}, {0xf0, 0x9a, 0x9d}, "#f4b4b6"};
-    return {{0x1d, 0x30, 0x2a}, {0x7b, 0xfa, 0xdb}, "#c9e8dd"};
+        return {Palette::kRefusal, Palette::kRefusalText, Palette::kRefusalText};
+    return {Palette::kNotice, Palette::kMint, Palette::kNoticeText};
 }
 
 } // namespace
@@ -56,7 +57,7 @@ void MessageStrip::say(const QString &text, Tone tone, const QString &action)
 {
     const bool isNew = text != m_text->text() || isHidden();
     m_tone = tone;
-    m_text->setStyleSheet(QStringLiteral("color: %1;").arg(QLatin1String(colorsOf(tone).text)));
+    m_text->setStyleSheet(QStringLiteral("color: %1;").arg(colorsOf(tone).text.name()));
     m_text->setText(text);
     m_button->setText(action);
     m_button->setVisible(!action.isEmpty());

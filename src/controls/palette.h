@@ -31,6 +31,11 @@ inline constexpr QRgb kRestingMark = 0xff4a5550; ///< handle and value of a slid
 inline constexpr QRgb kUnlit = 0xff5d7269;       ///< cells of a matrix
 inline constexpr QRgb kScroll = 0xff458171;      ///< handle of a scroll bar
 inline constexpr QRgb kHoveredScroll = 0xff58b09c;
+// What is said under a page's title.
+inline constexpr QRgb kRefusal = 0xff3a2c2b;
+inline constexpr QRgb kRefusalText = 0xfff4b4b6;
+inline constexpr QRgb kNotice = 0xff1d302a;
+inline constexpr QRgb kNoticeText = 0xffc9e8dd;
 // Marks.
 inline constexpr QRgb kMint = 0xff7bfadb;
 inline constexpr QRgb kBright = 0xff9cffc8;
