@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QEvent>
 #include <QMenu>
 #include <QPalette>
 #include <QStyle>
@@ -28,7 +29,7 @@ constexpr Role kRoles[] = {
     {QPalette::Button, Palette::kField, Palette::kPanel},
     {QPalette::ButtonText, Palette::kSoft, Palette::kDisabled},
     {QPalette::BrightText, Palette::kText, Palette::kDisabled},
-    {QPalette::Highlight, Palette::kSelected, Palette::kField},
+    {QPalette::Highlight, Palette::kProgress, Palette::kField},
     {QPalette::HighlightedText, Palette::kText, Palette::kDisabled},
     {QPalette::Link, Palette::kMint, Palette::kDisabled},
     {QPalette::LinkVisited, Palette::kBright, Palette::kDisabled},
@@ -41,13 +42,12 @@ constexpr Role kRoles[] = {
     {QPalette::Shadow, Palette::kGround, Palette::kGround},
 };
 
-constexpr char16_t kSurfaceStyle[] =
+constexpr char16_t kMenuStyle[] =
     u"QMenu { color: @soft; background-color: @floating; border: 1px solid @edge; padding: 4px; font-size: 15px; }"
     "QMenu::item { padding: 6px 24px; border-radius: 4px; }"
     "QMenu::item:selected { color: @text; background-color: @selected; }"
     "QMenu::item:disabled { color: @disabled; background-color: transparent; }"
-    "QMenu::separator { height: 1px; background-color: @hairline; margin: 4px 8px; }"
-    "QToolTip { color: @text; background-color: @tip; border: 1px solid @edge; }";
+    "QMenu::separator { height: 1px; background-color: @hairline; margin: 4px 8px; }";
 
 constexpr char16_t kDialogStyle[] =
     u"QDialog { background-color: @floating; }"
@@ -68,6 +68,24 @@ constexpr char16_t kDialogStyle[] =
     "QAbstractItemView { color: @soft; background-color: @card; border: 1px solid @edge; font-size: 14px; }"
     "QHeaderView::section { color: @dim; background-color: @field; border: none; padding: 4px 8px; font-size: 13px; }";
 
+/// Many menus are the toolkit's own, made as they are wanted: each gets its look just before it is shown.
+class MenuFilter : public QObject
+{
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() != QEvent::Polish || !watched->isWidgetType())
+            return false;
+        auto *widget = static_cast<QWidget *>(watched);
+        if (widget->isWindow() && qobject_cast<QMenu *>(widget))
+            widget->setStyleSheet(Palette::styled(kMenuStyle));
+        return false;
+    }
+};
+
 } // namespace
 
 void dressApplication()
@@ -81,22 +99,11 @@ void dressApplication()
         palette.setColor(QPalette::Disabled, role.role, role.disabled);
     }
     QApplication::setPalette(palette);
-    palette.setColor(QPalette::Highlight, Palette::kProgress);
-    QApplication::setPalette(palette, "QProgressBar");
     dressToolTips();
-}
-
-QString surfaceStyle()
-{
-    return Palette::styled(kSurfaceStyle);
-}
-
-void dressMenu(QMenu *menu)
-{
-    menu->setStyleSheet(surfaceStyle());
+    qApp->installEventFilter(new MenuFilter(qApp));
 }
 
 void dressDialog(QDialog *dialog)
 {
-    dialog->setStyleSheet(surfaceStyle() + Palette::styled(kDialogStyle));
+    dialog->setStyleSheet(Palette::styled(kDialogStyle));
 }

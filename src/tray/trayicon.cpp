@@ -2,7 +2,6 @@
 
 #include <QMenu>
 
-#include "controls/dress.h"
 #include "controls/pictures.h"
 
 static constexpr int kBalloonTime = 10000; // ms
@@ -11,7 +10,6 @@ TrayIcon::TrayIcon(QWidget *window) : QSystemTrayIcon(QIcon(Pictures::kRoot + QS
 {
     setToolTip(QStringLiteral("QUORVEL"));
     auto *menu = new QMenu(window);
-    dressMenu(menu);
     menu->addAction(QObject::tr("Show"), this, &TrayIcon::showWanted);
     menu->addAction(QObject::tr("Exit"), this, &TrayIcon::exitWanted);
     setContextMenu(menu);

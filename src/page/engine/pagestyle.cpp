@@ -3,14 +3,12 @@
 #include <QFile>
 #include <QWidget>
 
-#include "controls/dress.h"
 #include "controls/palette.h"
 
 static QString readStyle()
 {
     QFile file(QStringLiteral(":/resource/css/page_scene_mode.css"));
-    return file.open(QIODevice::ReadOnly) ? surfaceStyle() + Palette::styled(QString::fromUtf8(file.readAll()))
-                                          : QString();
+    return file.open(QIODevice::ReadOnly) ? Palette::styled(QString::fromUtf8(file.readAll())) : QString();
 }
 
 void dressPage(QWidget *page)
