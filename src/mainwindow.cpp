@@ -16,7 +16,7 @@
 #include "platform/ending.h"
 #include "searchdevicedlg.h"
 #include "sessionend.h"
-#include "statusline.h"
+#include "statuscard.h"
 #include "toptabframe.h"
 #include "tray/traypanel.h"
 #include "tray/traypanelopener.h"
@@ -28,8 +28,8 @@ MainWindow *s_mainWindow = nullptr;
 constexpr int kTopHeight = 72;
 constexpr int kLeftWidth = 232;
 constexpr int kMargin = 24;
-constexpr int kStatusLeft = 32; // below the entries' icons
-constexpr int kStatusHeight = 40;
+constexpr int kCardMargin = 12; // as the entries above it
+constexpr int kCardBottom = 20;
 constexpr platform::milliseconds kLastValues{1500}; // the system gives the whole program about 5 s
 
 } // namespace
@@ -41,7 +41,7 @@ MainWindow *MainWindow::instance()
 
 MainWindow::MainWindow(SearchDeviceDlg &session)
     : FramelessWindow(QStringLiteral("img/bg.png")), m_session(session), m_queue(new CommandQueue(this)),
-      m_navigator(new Navigator(m_pages, this)), m_status(new StatusLine(this)),
+      m_navigator(new Navigator(m_pages, this)), m_status(new StatusCard(this)),
       m_modes(new InterfaceModes(*m_navigator, this)), m_checks(new MonitorChecks(session, *m_queue, *m_modes, this)),
       m_accessory(new AccessoryPages([this] { warnNotConnected(); }, this))
 {
@@ -76,8 +76,9 @@ void MainWindow::placeParts()
     connect(tabs(), &TopTabFrame::minimiseClicked, this, &QWidget::showMinimized);
     connect(tabs(), &TopTabFrame::closeClicked, this, &QWidget::close);
     tabs()->setGeometry(0, 0, width(), kTopHeight);
-    m_navigator->barStack()->setGeometry(0, kTopHeight, kLeftWidth, height() - kTopHeight - kStatusHeight);
-    m_status->setGeometry(kStatusLeft, height() - kStatusHeight, kLeftWidth - kStatusLeft, kStatusHeight - 8);
+    const int cardTop = height() - kCardBottom - StatusCard::kHeight;
+    m_navigator->barStack()->setGeometry(0, kTopHeight, kLeftWidth, cardTop - kTopHeight);
+    m_status->setGeometry(kCardMargin, cardTop, kLeftWidth - 2 * kCardMargin, StatusCard::kHeight);
     m_navigator->pageStack()->setGeometry(kLeftWidth + kMargin, kTopHeight + kMargin,
                                           width() - kLeftWidth - 2 * kMargin, height() - kTopHeight - 2 * kMargin);
 }
@@ -106,6 +107,8 @@ void MainWindow::createFollowers()
     m_reconciler = new Reconciler(
         *m_queue, m_session, [this] { return pagesInSight(); }, this);
     connect(m_reconciler, &Reconciler::linkChanged, this, &MainWindow::updateInterface);
+    connect(m_status, &StatusCard::retryWanted, m_reconciler,
+            [this] { m_reconciler->systemNoticed(SystemNotice::DisplaysChanged); });
     connect(new SessionEnd(this), &SessionEnd::ends, this, &MainWindow::endWithSession);
 }
 

@@ -17,7 +17,7 @@
 class CommandQueue;
 class HotkeyOverlay;
 class SearchDeviceDlg;
-class StatusLine;
+class StatusCard;
 class TrayPanelOpener;
 class pageSceneSetting;
 
@@ -103,7 +103,7 @@ private:
     PageSet m_pages;
     CommandQueue *m_queue;
     Navigator *m_navigator;
-    StatusLine *m_status;
+    StatusCard *m_status;
     InterfaceModes *m_modes;
     MonitorChecks *m_checks;
     AccessoryPages *m_accessory;

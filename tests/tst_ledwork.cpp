@@ -6,7 +6,6 @@
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
 #include "page/Nightloom/render/audiovisual.h"
-#include "page/Nightloom/system/accessorysettings.h"
 #include "page/Nightloom/system/matrixformsetting.h"
 #include "page/Nightloom/system/pageledsystem.h"
 #include "page/Nightloom/work/ledframesource.h"
@@ -16,6 +15,7 @@
 #include "searchdevicedlg.h"
 #include "support/accessoryfixture.h"
 #include "support/matrixforms.h"
+#include "usb-hid/accessorysettings.h"
 #include "usb-hid/hidtransport.h"
 
 using virtualdesk::kForEver;

@@ -1092,6 +1092,10 @@
         <translation>Localdimming</translation>
     </message>
     <message>
+        <source>Look for the monitor again</source>
+        <translation>Look for the monitor again</translation>
+    </message>
+    <message>
         <source>Lose a reply</source>
         <translation>Lose a reply</translation>
     </message>
@@ -1626,6 +1630,10 @@
     <message>
         <source>Retries</source>
         <translation>Retries</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Retry</translation>
     </message>
     <message>
         <source>Round</source>

@@ -221,7 +221,7 @@
     </message>
     <message>
         <source>A line of text that the matrix shows, standing or scrolling.</source>
-        <translation type="unfinished"></translation>
+        <translation>マトリックスに静止またはスクロールで表示する 1 行のテキスト。</translation>
     </message>
     <message>
         <source>A soft page for long texts.</source>
@@ -669,7 +669,7 @@
     </message>
     <message>
         <source>Draw frames cell by cell; the matrix plays them in a loop.</source>
-        <translation type="unfinished"></translation>
+        <translation>フレームを 1 マスずつ描きます。マトリックスは繰り返し再生します。</translation>
     </message>
     <message>
         <source>Drop a chunk</source>
@@ -1090,6 +1090,10 @@
     <message>
         <source>Localdimming</source>
         <translation>ローカルディミング</translation>
+    </message>
+    <message>
+        <source>Look for the monitor again</source>
+        <translation>モニターをもう一度探す</translation>
     </message>
     <message>
         <source>Lose a reply</source>
@@ -1628,6 +1632,10 @@
         <translation>再試行</translation>
     </message>
     <message>
+        <source>Retry</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
         <source>Round</source>
         <translation>円形</translation>
     </message>
@@ -1993,7 +2001,7 @@
     </message>
     <message>
         <source>The monitor did not take &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>モニターは「%1」を受け付けませんでした。</translation>
     </message>
     <message>
         <source>The monitor did not take the reset.</source>
@@ -2189,7 +2197,7 @@
     </message>
     <message>
         <source>Try again</source>
-        <translation type="unfinished"></translation>
+        <translation>もう一度</translation>
     </message>
     <message>
         <source>Try again; its scene or another setting may forbid it.</source>

@@ -221,7 +221,7 @@
     </message>
     <message>
         <source>A line of text that the matrix shows, standing or scrolling.</source>
-        <translation type="unfinished"></translation>
+        <translation>一行文字，在矩陣上靜止或捲動顯示。</translation>
     </message>
     <message>
         <source>A soft page for long texts.</source>
@@ -669,7 +669,7 @@
     </message>
     <message>
         <source>Draw frames cell by cell; the matrix plays them in a loop.</source>
-        <translation type="unfinished"></translation>
+        <translation>逐格繪製各畫格，矩陣會循環播放。</translation>
     </message>
     <message>
         <source>Drop a chunk</source>
@@ -1090,6 +1090,10 @@
     <message>
         <source>Localdimming</source>
         <translation>區域調光</translation>
+    </message>
+    <message>
+        <source>Look for the monitor again</source>
+        <translation>重新尋找顯示器</translation>
     </message>
     <message>
         <source>Lose a reply</source>
@@ -1628,6 +1632,10 @@
         <translation>重試</translation>
     </message>
     <message>
+        <source>Retry</source>
+        <translation>重試</translation>
+    </message>
+    <message>
         <source>Round</source>
         <translation>圓形</translation>
     </message>
@@ -1993,7 +2001,7 @@
     </message>
     <message>
         <source>The monitor did not take &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>顯示器未接受「%1」。</translation>
     </message>
     <message>
         <source>The monitor did not take the reset.</source>
@@ -2189,7 +2197,7 @@
     </message>
     <message>
         <source>Try again</source>
-        <translation type="unfinished"></translation>
+        <translation>再試一次</translation>
     </message>
     <message>
         <source>Try again; its scene or another setting may forbid it.</source>

@@ -6,7 +6,7 @@ namespace metrics {
 inline constexpr int kControlHeight = 36;
 inline constexpr int kRowPitch = 52; ///< from row to row of controls
 inline constexpr int kRowGap = kRowPitch - kControlHeight;
-inline constexpr int kGap = 8;      ///< between what belongs together
+inline constexpr int kGap = 8;       ///< between what belongs together
 inline constexpr int kBlockGap = 24; ///< between blocks, and from a page's edge
 
 // A page's head, from below the line around the page.

@@ -16,7 +16,7 @@ QLabel *makeLine(const QString &name, const QFont &font, QWidget *parent)
     auto *line = new QLabel(parent);
     line->setObjectName(name);
     line->setFont(font);
-    line->setMinimumHeight(QFontMetrics(font).height());
+    line->setMinimumHeight(line->fontMetrics().height());
     return line;
 }
 
@@ -28,8 +28,11 @@ PageHead::PageHead(QWidget *parent)
       m_strip(new MessageStrip(this))
 {
     m_help->setWordWrap(true);
-    const QFontMetrics title(titleFont);
-    const QFontMetrics help(noteFont);
+    QSizePolicy helpPolicy = m_help->sizePolicy();
+    helpPolicy.setRetainSizeWhenHidden(true); // the rows below do not move
+    m_help->setSizePolicy(helpPolicy);
+    const QFontMetrics title = m_title->fontMetrics();
+    const QFontMetrics help = m_help->fontMetrics();
     const int helpTop = metrics::kHelpBaseline - help.ascent();
     auto *words = new QVBoxLayout;
     words->setContentsMargins(0, metrics::kTitleBaseline - title.ascent(), 0, 0);
@@ -60,4 +63,5 @@ void PageHead::setTitle(const QString &title)
 void PageHead::setHelp(const QString &sentence)
 {
     m_help->setText(sentence);
+    m_help->setVisible(!sentence.isEmpty());
 }

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QLabel>
+
+#include "controls/captions.h"
+#include "monitorstatus.h"
+
+class QPushButton;
+
+/// The monitor's name and state below the left bars, with a button to try again while it does not answer.
+class StatusCard : public QLabel
+{
+    Q_OBJECT
+public:
+    static constexpr int kHeight = 64; ///< points
+
+    explicit StatusCard(QWidget *parent);
+
+    void tell(const MonitorStatus &status);
+
+    QPushButton *retryButton() const { return m_retry; }
+
+Q_SIGNALS:
+    void retryWanted();
+
+protected:
+    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    MonitorStatus m_status;
+    Caption m_name;
+    Caption m_state;
+    QPushButton *m_retry;
+};
