@@ -6,6 +6,8 @@
 #include <QMouseEvent>
 #include <QScreen>
 
+#include "controls/accessiblecontrol.h"
+#include "controls/focusring.h"
 #include "platform/desk.h"
 #include "windowscale.h"
 
@@ -13,6 +15,7 @@ FramelessWindow::FramelessWindow(const QString &picture)
 {
     setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint);
     setAttribute(Qt::WA_TranslucentBackground);
+    describeAs(this, QAccessible::Window);
     setPicture(picture);
     setScaledContents(true);
     QSize size = pixmap(Qt::ReturnByValue).deviceIndependentSize().toSize();
@@ -50,6 +53,12 @@ void FramelessWindow::changeEvent(QEvent *event)
     PictureLabel::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActiveWindow())
         cameToFront();
+}
+
+void FramelessWindow::keyPressEvent(QKeyEvent *event)
+{
+    if (!pressFocused(event, this))
+        PictureLabel::keyPressEvent(event);
 }
 
 void FramelessWindow::mousePressEvent(QMouseEvent *event)

@@ -2,6 +2,8 @@
 
 #include <QVBoxLayout>
 
+#include "controls/accessiblecontrol.h"
+#include "controls/focusgroup.h"
 #include "controls/lefttabbutton.h"
 #include "controls/pictures.h"
 
@@ -9,6 +11,8 @@ static constexpr int kSpacing = 2;
 
 LeftBar::LeftBar(std::vector<NavigationEntry> entries, QWidget *parent) : QWidget(parent), m_entries(std::move(entries))
 {
+    describeAs(this, QAccessible::Grouping);
+    auto *stop = new FocusGroup(this);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(12, 12, 12, 0);
     column->setSpacing(kSpacing);
@@ -23,6 +27,7 @@ LeftBar::LeftBar(std::vector<NavigationEntry> entries, QWidget *parent) : QWidge
         });
         m_buttons.push_back(button);
         column->addWidget(button);
+        stop->add(button);
     }
     column->addStretch(1);
 }

@@ -5,6 +5,7 @@
 #include <QCloseEvent>
 #include <QStackedWidget>
 
+#include "controls/announcer.h"
 #include "controls/messagebox.h"
 #include "controls/pictures.h"
 #include "ddc_protocol/commandqueue.h"
@@ -50,6 +51,7 @@ MainWindow::MainWindow(SearchDeviceDlg &session)
     new WriteKeeper(this);    // behind the queue: it goes after the last values were sent
     m_labelPixmap = Pictures::load(Pictures::kRoot + QStringLiteral("img/lable_img.png"), devicePixelRatioF());
     setWindowTitle(QStringLiteral("QUORVEL"));
+    new Announcer(this);
     placeParts();
     createPages();
     createFollowers();

@@ -120,7 +120,9 @@ Page *Navigator::current() const
 void Navigator::updateControlText()
 {
     m_tabs->updateControlText();
-    for (LeftBar *left : m_bars)
-        left->updateControlText();
+    for (std::size_t family = 0; family < m_bars.size(); ++family) {
+        m_bars[family]->updateControlText();
+        m_bars[family]->setAccessibleName(QObject::tr(navigationFamilies()[family].label));
+    }
     m_emptyPage->updateControlText();
 }

@@ -5,6 +5,7 @@
 #include <QPainterPath>
 #include <QPushButton>
 
+#include "controls/announcer.h"
 #include "controls/palette.h"
 #include "controls/sharedfonts.h"
 
@@ -44,7 +45,10 @@ void StatusCard::tell(const MonitorStatus &status)
     m_status = status;
     m_name.setText(status.name.isEmpty() ? QStringLiteral("–") : status.name);
     m_state.setText(status.state);
-    setAccessibleName(status.name + QLatin1Char(' ') + status.state);
+    const QString said = status.name + QLatin1Char(' ') + status.state;
+    if (said != accessibleName())
+        Announcer::say(said.trimmed());
+    setAccessibleName(said);
     m_retry->setText(QObject::tr("Retry"));
     m_retry->setToolTip(QObject::tr("Look for the monitor again"));
     m_retry->adjustSize();

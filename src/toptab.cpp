@@ -33,7 +33,7 @@ void TopTab::setChecked(bool checked)
         return;
     m_checked = checked;
     update();
-    announceChecked(this);
+    announceState(this);
 }
 
 void TopTab::setCaption(const QString &caption)
@@ -58,16 +58,6 @@ void TopTab::press()
 {
     if (isEnabled())
         Q_EMIT clicked();
-}
-
-void TopTab::keyPressEvent(QKeyEvent *event)
-{
-    if (event->key() == Qt::Key_Left)
-        focusPreviousChild();
-    else if (event->key() == Qt::Key_Right)
-        focusNextChild();
-    else
-        PaintedControl::keyPressEvent(event);
 }
 
 void TopTab::paintEvent(QPaintEvent *)

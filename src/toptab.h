@@ -30,7 +30,6 @@ Q_SIGNALS:
 
 protected:
     const Caption *shownCaption() const override { return &m_caption; }
-    void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:

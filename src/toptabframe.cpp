@@ -3,6 +3,8 @@
 #include <QHBoxLayout>
 #include <QPainter>
 
+#include "controls/accessiblecontrol.h"
+#include "controls/focusgroup.h"
 #include "controls/palette.h"
 #include "controls/pictures.h"
 #include "navigation.h"
@@ -23,14 +25,22 @@ TopTabFrame::TopTabFrame(QWidget *parent) : QFrame(parent)
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(kTabsLeft, 0, 16, 0);
     row->setSpacing(0);
+    m_list = new QWidget(this);
+    describeAs(m_list, QAccessible::PageTabList);
+    auto *stop = new FocusGroup(m_list);
+    auto *tabs = new QHBoxLayout(m_list);
+    tabs->setContentsMargins(0, 0, 0, 0);
+    tabs->setSpacing(0);
+    row->addWidget(m_list);
     for (const NavigationFamily &family : navigationFamilies()) {
         const QString icon = Pictures::kRoot + QLatin1String("img/tab/") + QLatin1String(family.icon);
-        auto *tab = new TopTab(icon, QObject::tr(family.label), this);
+        auto *tab = new TopTab(icon, QObject::tr(family.label), m_list);
         tab->setObjectName(QStringLiteral("tab_") + QLatin1String(family.label));
         connect(tab, &TopTab::clicked, this,
                 [this, index = static_cast<int>(m_tabs.size())] { Q_EMIT tabChosen(index); });
         m_tabs.push_back(tab);
-        row->addWidget(tab);
+        tabs->addWidget(tab);
+        stop->add(tab);
     }
     row->addStretch(1);
     m_minimise = new TopWindowButton(Pictures::kRoot + QStringLiteral("img/top_min"), this);
@@ -67,6 +77,7 @@ void TopTabFrame::explain(const QString &reason)
 
 void TopTabFrame::updateControlText()
 {
+    m_list->setAccessibleName(QObject::tr("Sections"));
     for (std::size_t i = 0; i < m_tabs.size(); ++i)
         m_tabs[i]->setCaption(QObject::tr(navigationFamilies()[i].label));
     shrinkTogether(m_tabs);

@@ -38,6 +38,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    QWidget *m_list; ///< of the tabs
     std::vector<TopTab *> m_tabs;
     TopWindowButton *m_minimise;
     TopWindowButton *m_close;

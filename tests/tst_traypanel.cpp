@@ -287,7 +287,7 @@ void TestTrayPanel::keyboard()
         stops += stop->accessibleName().isEmpty() ? text : stop->accessibleName();
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     }
-    QCOMPARE(stops, (QStringList{"Scene", "Default", "Brightness", "Contrast", "Audio Volume", "Low Blue Light",
+    QCOMPARE(stops, (QStringList{"Scene", "Custom", "Brightness", "Contrast", "Audio Volume", "Low Blue Light",
                                  "Night Vision: Close", "Choose the controls"}));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
     QVERIFY(!m_window->trayPanel()->isOpen());

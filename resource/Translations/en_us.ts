@@ -28,6 +28,10 @@
         <translation>%1 %</translation>
     </message>
     <message>
+        <source>%1 %, from low to high</source>
+        <translation>%1 %, from low to high</translation>
+    </message>
+    <message>
         <source>%1 cannot be written. Nothing was changed.</source>
         <translation>%1 cannot be written. Nothing was changed.</translation>
     </message>
@@ -56,6 +60,10 @@
         <translation>%1 ms</translation>
     </message>
     <message>
+        <source>%1 of %2</source>
+        <translation>%1 of %2</translation>
+    </message>
+    <message>
         <source>%1 of %2 lost</source>
         <translation>%1 of %2 lost</translation>
     </message>
@@ -66,6 +74,10 @@
     <message>
         <source>%1 requests are recorded in %2</source>
         <translation>%1 requests are recorded in %2</translation>
+    </message>
+    <message>
+        <source>%1 rows, %2 cells, %3 on</source>
+        <translation>%1 rows, %2 cells, %3 on</translation>
     </message>
     <message>
         <source>%1 s left</source>
@@ -436,6 +448,10 @@
         <translation>Black and white, like paper.</translation>
     </message>
     <message>
+        <source>Blue</source>
+        <translation>Blue</translation>
+    </message>
+    <message>
         <source>Brightness</source>
         <translation>Brightness</translation>
     </message>
@@ -590,6 +606,10 @@
     <message>
         <source>Custom Size</source>
         <translation>Custom Size</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cyan</translation>
     </message>
     <message>
         <source>DCI-P3</source>
@@ -804,6 +824,10 @@
         <translation>Frame</translation>
     </message>
     <message>
+        <source>Frame %1</source>
+        <translation>Frame %1</translation>
+    </message>
+    <message>
         <source>Frames/s</source>
         <translation>Frames/s</translation>
     </message>
@@ -886,6 +910,10 @@
     <message>
         <source>Gray Response</source>
         <translation>Gray Response</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Green</translation>
     </message>
     <message>
         <source>H-Position</source>
@@ -1140,6 +1168,10 @@
         <translation>Machine Select</translation>
     </message>
     <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
         <source>Matches notebooks with a Display P3 screen.</source>
         <translation>Matches notebooks with a Display P3 screen.</translation>
     </message>
@@ -1230,6 +1262,10 @@
     <message>
         <source>Monitor Health</source>
         <translation>Monitor Health</translation>
+    </message>
+    <message>
+        <source>Motion</source>
+        <translation>Motion</translation>
     </message>
     <message>
         <source>Movie</source>
@@ -1448,6 +1484,10 @@
         <translation>Paper_B6</translation>
     </message>
     <message>
+        <source>Parameters of the mode</source>
+        <translation>Parameters of the mode</translation>
+    </message>
+    <message>
         <source>Photo(P3-D65)</source>
         <translation>Photo(P3-D65)</translation>
     </message>
@@ -1596,6 +1636,10 @@
         <translation>Rectangle</translation>
     </message>
     <message>
+        <source>Red</source>
+        <translation>Red</translation>
+    </message>
+    <message>
         <source>Red, green and blue belong to User1, User2 and User3 of Color Temperature.</source>
         <translation>Red, green and blue belong to User1, User2 and User3 of Color Temperature.</translation>
     </message>
@@ -1732,12 +1776,24 @@
         <translation>Scroll Right</translation>
     </message>
     <message>
+        <source>Scroll down</source>
+        <translation>Scroll down</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Scroll up</translation>
+    </message>
+    <message>
         <source>Second control</source>
         <translation>Second control</translation>
     </message>
     <message>
         <source>Second tone</source>
         <translation>Second tone</translation>
+    </message>
+    <message>
+        <source>Sections</source>
+        <translation>Sections</translation>
     </message>
     <message>
         <source>Select File</source>
@@ -1758,6 +1814,10 @@
     <message>
         <source>Set everything back to how the monitor left the factory? The screen goes dark for a few seconds.</source>
         <translation>Set everything back to how the monitor left the factory? The screen goes dark for a few seconds.</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Settings</translation>
     </message>
     <message>
         <source>Shadow Balance</source>
@@ -1830,6 +1890,10 @@
     <message>
         <source>Sound output</source>
         <translation>Sound output</translation>
+    </message>
+    <message>
+        <source>Spectrum</source>
+        <translation>Spectrum</translation>
     </message>
     <message>
         <source>Standard</source>
@@ -2372,6 +2436,10 @@
         <translation>Y</translation>
     </message>
     <message>
+        <source>Yellow</source>
+        <translation>Yellow</translation>
+    </message>
+    <message>
         <source>Yes</source>
         <translation>Yes</translation>
     </message>
@@ -2522,6 +2590,10 @@
     <message>
         <source>unexpected</source>
         <translation>unexpected</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unknown</translation>
     </message>
     <message>
         <source>unplugged</source>

@@ -28,6 +28,10 @@
         <translation>%1 %</translation>
     </message>
     <message>
+        <source>%1 %, from low to high</source>
+        <translation>%1 %（低音から高音へ）</translation>
+    </message>
+    <message>
         <source>%1 cannot be written. Nothing was changed.</source>
         <translation>%1 に書き込めません。変更はありません。</translation>
     </message>
@@ -56,6 +60,10 @@
         <translation>%1 ミリ秒</translation>
     </message>
     <message>
+        <source>%1 of %2</source>
+        <translation>%1（最大 %2）</translation>
+    </message>
+    <message>
         <source>%1 of %2 lost</source>
         <translation>%2 回中 %1 回失敗</translation>
     </message>
@@ -66,6 +74,10 @@
     <message>
         <source>%1 requests are recorded in %2</source>
         <translation>%1 件の要求を %2 に記録しました</translation>
+    </message>
+    <message>
+        <source>%1 rows, %2 cells, %3 on</source>
+        <translation>%1 行、%2 セル、点灯 %3</translation>
     </message>
     <message>
         <source>%1 s left</source>
@@ -436,6 +448,10 @@
         <translation>紙のような白黒表示です。</translation>
     </message>
     <message>
+        <source>Blue</source>
+        <translation>青</translation>
+    </message>
+    <message>
         <source>Brightness</source>
         <translation>輝度</translation>
     </message>
@@ -590,6 +606,10 @@
     <message>
         <source>Custom Size</source>
         <translation>カスタムサイズ</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>シアン</translation>
     </message>
     <message>
         <source>DCI-P3</source>
@@ -804,6 +824,10 @@
         <translation>枠線</translation>
     </message>
     <message>
+        <source>Frame %1</source>
+        <translation>フレーム %1</translation>
+    </message>
+    <message>
         <source>Frames/s</source>
         <translation>フレーム/秒</translation>
     </message>
@@ -886,6 +910,10 @@
     <message>
         <source>Gray Response</source>
         <translation>応答速度</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>緑</translation>
     </message>
     <message>
         <source>H-Position</source>
@@ -1140,6 +1168,10 @@
         <translation>モニターの選択</translation>
     </message>
     <message>
+        <source>Magenta</source>
+        <translation>マゼンタ</translation>
+    </message>
+    <message>
         <source>Matches notebooks with a Display P3 screen.</source>
         <translation>Display P3 画面のノートパソコンと色を合わせます。</translation>
     </message>
@@ -1230,6 +1262,10 @@
     <message>
         <source>Monitor Health</source>
         <translation>モニターの状態</translation>
+    </message>
+    <message>
+        <source>Motion</source>
+        <translation>動き</translation>
     </message>
     <message>
         <source>Movie</source>
@@ -1448,6 +1484,10 @@
         <translation>B6 用紙</translation>
     </message>
     <message>
+        <source>Parameters of the mode</source>
+        <translation>モードのパラメーター</translation>
+    </message>
+    <message>
         <source>Photo(P3-D65)</source>
         <translation>写真(P3-D65)</translation>
     </message>
@@ -1596,6 +1636,10 @@
         <translation>長方形</translation>
     </message>
     <message>
+        <source>Red</source>
+        <translation>赤</translation>
+    </message>
+    <message>
         <source>Red, green and blue belong to User1, User2 and User3 of Color Temperature.</source>
         <translation>赤・緑・青は、色温がユーザー 1～3 のときに調整できます。</translation>
     </message>
@@ -1732,12 +1776,24 @@
         <translation>右へスクロール</translation>
     </message>
     <message>
+        <source>Scroll down</source>
+        <translation>下へスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>上へスクロール</translation>
+    </message>
+    <message>
         <source>Second control</source>
         <translation>2 つ目の項目</translation>
     </message>
     <message>
         <source>Second tone</source>
         <translation>2 つ目の音</translation>
+    </message>
+    <message>
+        <source>Sections</source>
+        <translation>カテゴリ</translation>
     </message>
     <message>
         <source>Select File</source>
@@ -1758,6 +1814,10 @@
     <message>
         <source>Set everything back to how the monitor left the factory? The screen goes dark for a few seconds.</source>
         <translation>モニターのすべての設定を工場出荷時の状態に戻しますか？画面が数秒間暗くなります。</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
     </message>
     <message>
         <source>Shadow Balance</source>
@@ -1830,6 +1890,10 @@
     <message>
         <source>Sound output</source>
         <translation>音声出力</translation>
+    </message>
+    <message>
+        <source>Spectrum</source>
+        <translation>スペクトラム</translation>
     </message>
     <message>
         <source>Standard</source>
@@ -2372,6 +2436,10 @@
         <translation>Y</translation>
     </message>
     <message>
+        <source>Yellow</source>
+        <translation>黄</translation>
+    </message>
+    <message>
         <source>Yes</source>
         <translation>はい</translation>
     </message>
@@ -2522,6 +2590,10 @@
     <message>
         <source>unexpected</source>
         <translation>想定外</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>不明</translation>
     </message>
     <message>
         <source>unplugged</source>

@@ -28,6 +28,10 @@
         <translation>%1 %</translation>
     </message>
     <message>
+        <source>%1 %, from low to high</source>
+        <translation>%1 %，从低到高</translation>
+    </message>
+    <message>
         <source>%1 cannot be written. Nothing was changed.</source>
         <translation>无法写入 %1，未作任何更改。</translation>
     </message>
@@ -56,6 +60,10 @@
         <translation>%1 毫秒</translation>
     </message>
     <message>
+        <source>%1 of %2</source>
+        <translation>%1（共 %2）</translation>
+    </message>
+    <message>
         <source>%1 of %2 lost</source>
         <translation>%2 次中丢失 %1 次</translation>
     </message>
@@ -66,6 +74,10 @@
     <message>
         <source>%1 requests are recorded in %2</source>
         <translation>已将 %1 次请求记录到 %2</translation>
+    </message>
+    <message>
+        <source>%1 rows, %2 cells, %3 on</source>
+        <translation>%1 行，%2 格，亮 %3 格</translation>
     </message>
     <message>
         <source>%1 s left</source>
@@ -436,6 +448,10 @@
         <translation>黑白显示，如同纸张。</translation>
     </message>
     <message>
+        <source>Blue</source>
+        <translation>蓝色</translation>
+    </message>
+    <message>
         <source>Brightness</source>
         <translation>亮度</translation>
     </message>
@@ -590,6 +606,10 @@
     <message>
         <source>Custom Size</source>
         <translation>自定义尺寸</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>青色</translation>
     </message>
     <message>
         <source>DCI-P3</source>
@@ -804,6 +824,10 @@
         <translation>框线</translation>
     </message>
     <message>
+        <source>Frame %1</source>
+        <translation>第 %1 帧</translation>
+    </message>
+    <message>
         <source>Frames/s</source>
         <translation>帧/秒</translation>
     </message>
@@ -886,6 +910,10 @@
     <message>
         <source>Gray Response</source>
         <translation>灰阶响应</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>绿色</translation>
     </message>
     <message>
         <source>H-Position</source>
@@ -1140,6 +1168,10 @@
         <translation>选择显示器</translation>
     </message>
     <message>
+        <source>Magenta</source>
+        <translation>洋红</translation>
+    </message>
+    <message>
         <source>Matches notebooks with a Display P3 screen.</source>
         <translation>与配备 Display P3 屏幕的笔记本电脑一致。</translation>
     </message>
@@ -1230,6 +1262,10 @@
     <message>
         <source>Monitor Health</source>
         <translation>显示器状况</translation>
+    </message>
+    <message>
+        <source>Motion</source>
+        <translation>滚动方式</translation>
     </message>
     <message>
         <source>Movie</source>
@@ -1448,6 +1484,10 @@
         <translation>B6 纸</translation>
     </message>
     <message>
+        <source>Parameters of the mode</source>
+        <translation>模式的参数</translation>
+    </message>
+    <message>
         <source>Photo(P3-D65)</source>
         <translation>照片(P3-D65)</translation>
     </message>
@@ -1596,6 +1636,10 @@
         <translation>矩形</translation>
     </message>
     <message>
+        <source>Red</source>
+        <translation>红色</translation>
+    </message>
+    <message>
         <source>Red, green and blue belong to User1, User2 and User3 of Color Temperature.</source>
         <translation>红、绿、蓝只用于色温的“用户 1”“用户 2”“用户 3”。</translation>
     </message>
@@ -1732,12 +1776,24 @@
         <translation>向右滚动</translation>
     </message>
     <message>
+        <source>Scroll down</source>
+        <translation>向下滚动</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>向上滚动</translation>
+    </message>
+    <message>
         <source>Second control</source>
         <translation>第二个控件</translation>
     </message>
     <message>
         <source>Second tone</source>
         <translation>第二音</translation>
+    </message>
+    <message>
+        <source>Sections</source>
+        <translation>栏目</translation>
     </message>
     <message>
         <source>Select File</source>
@@ -1758,6 +1814,10 @@
     <message>
         <source>Set everything back to how the monitor left the factory? The screen goes dark for a few seconds.</source>
         <translation>要将显示器的所有设置恢复为出厂状态吗？屏幕会黑屏几秒钟。</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
     </message>
     <message>
         <source>Shadow Balance</source>
@@ -1830,6 +1890,10 @@
     <message>
         <source>Sound output</source>
         <translation>声音输出</translation>
+    </message>
+    <message>
+        <source>Spectrum</source>
+        <translation>频谱</translation>
     </message>
     <message>
         <source>Standard</source>
@@ -2372,6 +2436,10 @@
         <translation>Y</translation>
     </message>
     <message>
+        <source>Yellow</source>
+        <translation>黄色</translation>
+    </message>
+    <message>
         <source>Yes</source>
         <translation>是</translation>
     </message>
@@ -2522,6 +2590,10 @@
     <message>
         <source>unexpected</source>
         <translation>意外数据</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>未知</translation>
     </message>
     <message>
         <source>unplugged</source>

@@ -28,6 +28,10 @@
         <translation>%1 %</translation>
     </message>
     <message>
+        <source>%1 %, from low to high</source>
+        <translation>%1 %，從低到高</translation>
+    </message>
+    <message>
         <source>%1 cannot be written. Nothing was changed.</source>
         <translation>無法寫入 %1，未做任何變更。</translation>
     </message>
@@ -56,6 +60,10 @@
         <translation>%1 毫秒</translation>
     </message>
     <message>
+        <source>%1 of %2</source>
+        <translation>%1（共 %2）</translation>
+    </message>
+    <message>
         <source>%1 of %2 lost</source>
         <translation>%2 次中遺失 %1 次</translation>
     </message>
@@ -66,6 +74,10 @@
     <message>
         <source>%1 requests are recorded in %2</source>
         <translation>已將 %1 次請求記錄到 %2</translation>
+    </message>
+    <message>
+        <source>%1 rows, %2 cells, %3 on</source>
+        <translation>%1 列，%2 格，亮 %3 格</translation>
     </message>
     <message>
         <source>%1 s left</source>
@@ -436,6 +448,10 @@
         <translation>黑白顯示，如同紙張。</translation>
     </message>
     <message>
+        <source>Blue</source>
+        <translation>藍色</translation>
+    </message>
+    <message>
         <source>Brightness</source>
         <translation>亮度</translation>
     </message>
@@ -590,6 +606,10 @@
     <message>
         <source>Custom Size</source>
         <translation>自訂尺寸</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>青色</translation>
     </message>
     <message>
         <source>DCI-P3</source>
@@ -804,6 +824,10 @@
         <translation>框線</translation>
     </message>
     <message>
+        <source>Frame %1</source>
+        <translation>第 %1 個畫格</translation>
+    </message>
+    <message>
         <source>Frames/s</source>
         <translation>畫格/秒</translation>
     </message>
@@ -886,6 +910,10 @@
     <message>
         <source>Gray Response</source>
         <translation>灰階反應</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>綠色</translation>
     </message>
     <message>
         <source>H-Position</source>
@@ -1140,6 +1168,10 @@
         <translation>選擇顯示器</translation>
     </message>
     <message>
+        <source>Magenta</source>
+        <translation>洋紅</translation>
+    </message>
+    <message>
         <source>Matches notebooks with a Display P3 screen.</source>
         <translation>與配備 Display P3 螢幕的筆記型電腦一致。</translation>
     </message>
@@ -1230,6 +1262,10 @@
     <message>
         <source>Monitor Health</source>
         <translation>顯示器狀況</translation>
+    </message>
+    <message>
+        <source>Motion</source>
+        <translation>捲動方式</translation>
     </message>
     <message>
         <source>Movie</source>
@@ -1448,6 +1484,10 @@
         <translation>B6 紙</translation>
     </message>
     <message>
+        <source>Parameters of the mode</source>
+        <translation>模式的參數</translation>
+    </message>
+    <message>
         <source>Photo(P3-D65)</source>
         <translation>相片(P3-D65)</translation>
     </message>
@@ -1596,6 +1636,10 @@
         <translation>矩形</translation>
     </message>
     <message>
+        <source>Red</source>
+        <translation>紅色</translation>
+    </message>
+    <message>
         <source>Red, green and blue belong to User1, User2 and User3 of Color Temperature.</source>
         <translation>紅、綠、藍只用於色溫的「使用者 1」「使用者 2」「使用者 3」。</translation>
     </message>
@@ -1732,12 +1776,24 @@
         <translation>向右捲動</translation>
     </message>
     <message>
+        <source>Scroll down</source>
+        <translation>向下捲動</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>向上捲動</translation>
+    </message>
+    <message>
         <source>Second control</source>
         <translation>第二個控制項</translation>
     </message>
     <message>
         <source>Second tone</source>
         <translation>第二音</translation>
+    </message>
+    <message>
+        <source>Sections</source>
+        <translation>分類</translation>
     </message>
     <message>
         <source>Select File</source>
@@ -1758,6 +1814,10 @@
     <message>
         <source>Set everything back to how the monitor left the factory? The screen goes dark for a few seconds.</source>
         <translation>要將顯示器的所有設定恢復為出廠狀態嗎？螢幕會暫時變黑數秒。</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
     </message>
     <message>
         <source>Shadow Balance</source>
@@ -1830,6 +1890,10 @@
     <message>
         <source>Sound output</source>
         <translation>音訊輸出</translation>
+    </message>
+    <message>
+        <source>Spectrum</source>
+        <translation>頻譜</translation>
     </message>
     <message>
         <source>Standard</source>
@@ -2372,6 +2436,10 @@
         <translation>Y</translation>
     </message>
     <message>
+        <source>Yellow</source>
+        <translation>黃色</translation>
+    </message>
+    <message>
         <source>Yes</source>
         <translation>是</translation>
     </message>
@@ -2522,6 +2590,10 @@
     <message>
         <source>unexpected</source>
         <translation>非預期</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>未知</translation>
     </message>
     <message>
         <source>unplugged</source>

@@ -6,6 +6,7 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include "controls/announcer.h"
 #include "controls/sharedfonts.h"
 
 static constexpr int kDistance = 24; // from the edges of the screen
@@ -34,6 +35,7 @@ void DesktopToast::showNote(const QString &title, const QString &text)
     adjustSize();
     moveToCorner();
     show();
+    Announcer::say(QStringLiteral("%1: %2").arg(title, text));
 }
 
 QString DesktopToast::title() const

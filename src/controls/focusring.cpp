@@ -1,5 +1,6 @@
 #include "controls/focusring.h"
 
+#include <QAbstractButton>
 #include <QFocusEvent>
 #include <QKeyEvent>
 
@@ -32,4 +33,13 @@ bool isPressKey(const QKeyEvent *event)
     const bool pressKey =
         event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     return pressKey && !event->isAutoRepeat() && !(event->modifiers() & ~Qt::KeypadModifier);
+}
+
+bool pressFocused(const QKeyEvent *event, const QWidget *window)
+{
+    auto *button = qobject_cast<QAbstractButton *>(window->focusWidget());
+    if (!button || !button->isEnabled() || !isPressKey(event))
+        return false;
+    button->click();
+    return true;
 }

@@ -5,6 +5,7 @@
 
 class QFocusEvent;
 class QKeyEvent;
+class QWidget;
 
 /// Shows keyboard focus: a thin mint outline that appears when the focus came by Tab or a shortcut, so that mouse
 /// clicks leave no outlines behind.
@@ -26,3 +27,7 @@ private:
 
 /// True for the keys that press a control: Space, Return and Enter without modifiers, not repeated by holding.
 bool isPressKey(const QKeyEvent *event);
+
+/// For a window that gets a key which the control with the focus left: the toolkit's own buttons leave Enter outside of
+/// dialogs. Presses the button; false when the key is none that presses, or no button has the focus.
+bool pressFocused(const QKeyEvent *event, const QWidget *window);

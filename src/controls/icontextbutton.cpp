@@ -30,7 +30,7 @@ void IconTextButton::setChecked(bool checked)
         return;
     m_checked = checked;
     update();
-    announceChecked(this);
+    announceState(this);
 }
 
 void IconTextButton::setCaption(const QString &caption)

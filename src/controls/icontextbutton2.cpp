@@ -36,7 +36,7 @@ void IconTextButton2::setChecked(bool checked)
         return;
     m_checked = checked;
     update();
-    announceChecked(this);
+    announceState(this);
 }
 
 void IconTextButton2::setCaption(const QString &caption)

@@ -1,7 +1,5 @@
 #include "controls/lefttabbutton.h"
 
-#include <algorithm>
-
 #include <QPainter>
 
 #include "controls/palette.h"
@@ -45,15 +43,16 @@ void LeftTabButton::setChecked(bool checked)
         return;
     m_checked = checked;
     update();
-    announceChecked(this);
+    announceState(this);
 }
 
 void LeftTabButton::setSelectable(bool selectable)
 {
+    if (m_selectable == selectable)
+        return;
     m_selectable = selectable;
-    // What cannot be pressed is no stop for the Tab key.
-    setFocusPolicy(selectable ? Qt::StrongFocus : Qt::NoFocus);
     update();
+    announceState(this);
 }
 
 void LeftTabButton::setLock(const QString &reason)
@@ -86,30 +85,6 @@ void LeftTabButton::press()
         return;
     setChecked(true);
     Q_EMIT clicked();
-}
-
-void LeftTabButton::keyPressEvent(QKeyEvent *event)
-{
-    const int step = event->key() == Qt::Key_Down ? 1 : event->key() == Qt::Key_Up ? -1 : 0;
-    if (step == 0 || !focusNeighbour(step))
-        PaintedControl::keyPressEvent(event);
-}
-
-bool LeftTabButton::focusNeighbour(int step)
-{
-    if (!parentWidget())
-        return false;
-    QList<LeftTabButton *> column =
-        parentWidget()->findChildren<LeftTabButton *>(QString(), Qt::FindDirectChildrenOnly);
-    column.removeIf([this](const LeftTabButton *button) {
-        return button != this && (button->isHidden() || !button->isEnabled() || !button->isSelectable());
-    });
-    std::stable_sort(column.begin(), column.end(),
-                     [](const LeftTabButton *a, const LeftTabButton *b) { return a->y() < b->y(); });
-    LeftTabButton *neighbour = column.value(column.indexOf(this) + step, nullptr);
-    if (neighbour)
-        neighbour->setFocus(step > 0 ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-    return neighbour != nullptr;
 }
 
 void LeftTabButton::paintEvent(QPaintEvent *)

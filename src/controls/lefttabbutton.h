@@ -40,6 +40,7 @@ public:
     QSize minimumSizeHint() const override;
     QAccessible::Role accessibleRole() const override { return QAccessible::RadioButton; }
     std::optional<bool> checkedState() const override { return m_checked; }
+    bool isUsable() const override { return m_selectable; }
     void press() override;
 
 Q_SIGNALS:
@@ -47,11 +48,9 @@ Q_SIGNALS:
 
 protected:
     const Caption *shownCaption() const override { return &m_caption; }
-    void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    bool focusNeighbour(int step);
     void drawBackground(QPainter &painter) const;
     void drawIcon(QPainter &painter) const;
 

@@ -1,11 +1,11 @@
 #include "controls/messagestrip.h"
 
-#include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
 
+#include "controls/announcer.h"
 #include "controls/metrics.h"
 #include "controls/palette.h"
 #include "controls/sharedfonts.h"
@@ -64,10 +64,8 @@ void MessageStrip::say(const QString &text, Tone tone, const QString &action)
     setAccessibleName(text);
     setVisible(!text.isEmpty());
     update();
-    if (isNew && !text.isEmpty() && QAccessible::isActive()) {
-        QAccessibleEvent event(this, QAccessible::Alert);
-        QAccessible::updateAccessibility(&event);
-    }
+    if (isNew || tone == Tone::Refusal) // what is refused once more is news
+        Announcer::say(text);
 }
 
 QString MessageStrip::text() const

@@ -7,6 +7,7 @@
 #include <QStyle>
 #include <QWheelEvent>
 
+#include "controls/accessiblecontrol.h"
 #include "controls/palette.h"
 #include "controls/pictures.h"
 
@@ -38,6 +39,7 @@ bool isStepKey(int key)
 
 NoWheelSlider::NoWheelSlider(QWidget *parent) : QSlider(Qt::Horizontal, parent)
 {
+    describeControlsToAssistiveSoftware();
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_Hover);
 }
@@ -52,6 +54,21 @@ void NoWheelSlider::setUnknown(bool unknown)
 {
     m_unknown = unknown;
     update();
+}
+
+QString NoWheelSlider::valueText() const
+{
+    if (m_unknown)
+        return QObject::tr("unknown");
+    return minimum() == 0 && maximum() == 100 ? QObject::tr("%1 %").arg(value())
+                                              : QObject::tr("%1 of %2").arg(value()).arg(maximum());
+}
+
+void NoWheelSlider::moveAtOnce(int value)
+{
+    setSliderDown(true);
+    setValue(value);
+    setSliderDown(false);
 }
 
 QSize NoWheelSlider::sizeHint() const

@@ -24,6 +24,12 @@ public:
     /// Shows a hollow, dimmed handle: the value was not read yet.
     void setUnknown(bool unknown);
 
+    /// The value in words, translated, with its unit.
+    QString valueText() const;
+
+    /// Moves there as by a key: from sliderPressed() to sliderReleased().
+    void moveAtOnce(int value);
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 

@@ -49,11 +49,12 @@ QString SliderWidget::caption() const
     return m_captionLabel->text();
 }
 
-void SliderWidget::setCaption(const QString &caption)
+void SliderWidget::setCaption(const QString &caption, const QString &spoken)
 {
     m_captionLabel->setText(caption);
-    setAccessibleName(caption);
-    m_slider->setAccessibleName(caption);
+    m_slider->setAccessibleName(spoken.isEmpty() ? caption : spoken);
+    setAccessibleName(m_slider->accessibleName());
+    showValue();
 }
 
 void SliderWidget::setCaptionWidth(int width)
@@ -134,12 +135,11 @@ void SliderWidget::wheelEvent(QWheelEvent *event)
     const int wanted = qBound(m_slider->minimum(), value() + notches, m_slider->maximum());
     if (wanted == value())
         return;
-    m_slider->setSliderDown(true);
-    m_slider->setValue(wanted);
-    m_slider->setSliderDown(false);
+    m_slider->moveAtOnce(wanted);
 }
 
 void SliderWidget::showValue()
 {
     m_valueLabel->setText(isUnknown() ? QStringLiteral("–") : QStringLiteral("%1").arg(value()));
+    m_valueLabel->setAccessibleName(m_slider->valueText());
 }

@@ -21,8 +21,8 @@ public:
     QString name() const { return objectName(); }
 
     QString caption() const;
-    /// Sets the caption, which is the accessible name too; the name stays.
-    void setCaption(const QString &caption);
+    /// Sets the caption, which is the accessible name too unless @p spoken says more; the name stays.
+    void setCaption(const QString &caption, const QString &spoken = {});
     /// Fixes where the groove begins: as many pixels from the left as an option does behind a caption of this width.
     void setCaptionWidth(int width);
 

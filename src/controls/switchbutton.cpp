@@ -26,7 +26,7 @@ void SwitchButton::setChecked(bool checked)
         return;
     m_checked = checked;
     update();
-    announceChecked(this);
+    announceState(this);
 }
 
 void SwitchButton::press()

@@ -24,7 +24,7 @@ void SwitchButtonRectangle::setChecked(bool checked)
         return;
     m_checked = checked;
     update();
-    announceChecked(this);
+    announceState(this);
 }
 
 void SwitchButtonRectangle::press()

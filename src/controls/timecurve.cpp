@@ -20,6 +20,7 @@ const QColor kText = Palette::kHint;
 
 TimeCurve::TimeCurve(int steps, QWidget *parent) : QWidget(parent), m_steps(steps)
 {
+    describeControlsToAssistiveSoftware();
     setMinimumHeight(kTopMargin + kTextHeight + 40);
 }
 
@@ -39,6 +40,11 @@ void TimeCurve::setTexts(const QString &begin, const QString &end, const QString
     m_end = end;
     m_top = top;
     update();
+}
+
+QString TimeCurve::valueText() const
+{
+    return m_top.isEmpty() ? QObject::tr("unknown") : QObject::tr("slowest %1").arg(m_top);
 }
 
 QRectF TimeCurve::plot() const

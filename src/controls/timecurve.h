@@ -4,8 +4,10 @@
 
 #include <QWidget>
 
+#include "controls/accessiblecontrol.h"
+
 /// A value over time as a line: the newest at the right end. Where nothing is known for long the line has a gap.
-class TimeCurve : public QWidget
+class TimeCurve : public QWidget, public Described
 {
     Q_OBJECT
 public:
@@ -24,6 +26,9 @@ public:
 
     /// What is written at the left end, at the right end, and at the highest line.
     void setTexts(const QString &begin, const QString &end, const QString &top);
+
+    QAccessible::Role accessibleRole() const override { return QAccessible::Chart; }
+    QString valueText() const override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;

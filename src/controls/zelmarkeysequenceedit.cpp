@@ -76,6 +76,7 @@ bool isModifier(int key)
 ZelmarKeySequenceEdit::ZelmarKeySequenceEdit(QWidget *parent)
     : QKeySequenceEdit(parent), m_lineEdit(findChild<QLineEdit *>())
 {
+    describeControlsToAssistiveSoftware();
     m_lineEdit->setPlaceholderText(nothingSet());
     m_lineEdit->setAlignment(Qt::AlignCenter);
     m_lineEdit->setStyleSheet(Palette::styled(kStyle));
@@ -86,6 +87,11 @@ ZelmarKeySequenceEdit::ZelmarKeySequenceEdit(QWidget *parent)
 QString ZelmarKeySequenceEdit::text() const
 {
     return keySequence().toString(QKeySequence::NativeText);
+}
+
+QString ZelmarKeySequenceEdit::valueText() const
+{
+    return text().isEmpty() ? nothingSet() : text();
 }
 
 void ZelmarKeySequenceEdit::keyPressEvent(QKeyEvent *event)

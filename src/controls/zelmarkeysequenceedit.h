@@ -2,10 +2,12 @@
 
 #include <QKeySequenceEdit>
 
+#include "controls/accessiblecontrol.h"
+
 class QLineEdit;
 
 /// A field that captures one key combination: Control or Alt with a letter or digit. It shows "NA" while empty.
-class ZelmarKeySequenceEdit : public QKeySequenceEdit
+class ZelmarKeySequenceEdit : public QKeySequenceEdit, public Described
 {
     Q_OBJECT
 
@@ -17,6 +19,9 @@ public:
 
     /// Takes a combination as if it had been pressed here.
     void take(const QKeySequence &sequence);
+
+    QAccessible::Role accessibleRole() const override { return QAccessible::EditableText; }
+    QString valueText() const override;
 
 Q_SIGNALS:
     /// A combination was pressed that the field does not take, and why not.

@@ -2,7 +2,9 @@
 
 #include <QVBoxLayout>
 
+#include "controls/accessiblecontrol.h"
 #include "controls/picturelabel.h"
+#include "controls/pictures.h"
 #include "controls/sharedfonts.h"
 #include "page/engine/labels.h"
 #include "page/engine/pagestyle.h"
@@ -10,6 +12,7 @@
 EmptyPage::EmptyPage(QWidget *parent) : QLabel(parent), m_title(new QLabel(this)), m_noteLabel(new QLabel(this))
 {
     setObjectName(QStringLiteral("EmptyPage"));
+    describeAs(this, QAccessible::Pane);
     dressPage(this);
     auto *picture = new PictureLabel(this);
     picture->setPicture(QStringLiteral("img/empty_page.png"));
@@ -51,6 +54,7 @@ void EmptyPage::show(const char *label, const char *note, const char *modeOn)
 void EmptyPage::updateControlText()
 {
     m_title->setText(QObject::tr(m_label));
+    setAccessibleName(m_title->text());
     const QString note = QObject::tr(m_note);
     m_noteLabel->setText(m_modeOn ? note.arg(QObject::tr(m_modeOn)) : note);
 }

@@ -12,7 +12,10 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "controls/accessiblecontrol.h"
 #include "controls/captionlabel.h"
+#include "controls/dash.h"
+#include "controls/focusring.h"
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/devicestate.h"
@@ -46,6 +49,7 @@ TrayPanel::TrayPanel(CommandQueue &queue)
 void TrayPanel::build()
 {
     setObjectName(QStringLiteral("TrayPanel"));
+    describeAs(this, QAccessible::Dialog);
     setWindowTitle(QStringLiteral("QUORVEL"));
     setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::NoDropShadowWindowHint);
     setAttribute(Qt::WA_TranslucentBackground);
@@ -184,7 +188,7 @@ void TrayPanel::choose(std::size_t place, Command command)
 void TrayPanel::showStatus(const MonitorStatus &status)
 {
     m_status = status;
-    m_name->setText(status.name.isEmpty() ? QStringLiteral("–") : status.name);
+    showOrDash(m_name, status.name);
     m_dot->setAccessibleName(status.state);
     m_dot->setStyleSheet(status.isGood ? QStringLiteral("color: #00ff71;") : QStringLiteral("color: #da676d;"));
     showScene();
@@ -271,7 +275,7 @@ void TrayPanel::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Escape)
         Q_EMIT closeWanted();
-    else
+    else if (!pressFocused(event, this))
         SettingsPage::keyPressEvent(event);
 }
 

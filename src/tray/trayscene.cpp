@@ -3,10 +3,11 @@
 #include <QButtonGroup>
 #include <QComboBox>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QPushButton>
 #include <QStandardItemModel>
 
+#include "controls/accessiblecontrol.h"
+#include "controls/focusgroup.h"
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/scenemodes.h"
 #include "navigation.h"
@@ -31,7 +32,6 @@ TrayScene::TrayScene(BoundTexts &texts, QVBoxLayout *column, QWidget *body) : QO
     m_scene->setFixedHeight(kControlHeight);
     m_scene->setPlaceholderText(QStringLiteral("–"));
     m_scene->setMaxVisibleItems(12);
-    m_scene->installEventFilter(this);
     connect(m_scene, &QComboBox::activated, this,
             [this](int index) { Q_EMIT sceneChosen(m_scene->itemData(index).toInt()); });
     column->addWidget(m_scene);
@@ -45,16 +45,19 @@ QWidget *TrayScene::buildHalves(BoundTexts &texts, QWidget *body)
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(8);
     m_halves = new QButtonGroup(halves);
+    describeAs(halves, QAccessible::Grouping);
+    texts.bind(kHalvesLabel, [halves](const QString &text) { halves->setAccessibleName(text); });
+    auto *stop = new FocusGroup(halves);
     m_default = new QPushButton(halves);
     m_custom = new QPushButton(halves);
     for (QPushButton *half : {m_default, m_custom}) {
         half->setProperty("half", true);
         half->setCheckable(true);
-        half->setFocusPolicy(Qt::StrongFocus);
         half->setFixedHeight(kControlHeight);
         texts.bind(half == m_default ? kDefaultLabel : kCustomLabel,
                    [half](const QString &text) { half->setText(text.trimmed()); });
         m_halves->addButton(half);
+        stop->add(half);
         row->addWidget(half, 1);
         connect(half, &QPushButton::clicked, this, [this, half] { Q_EMIT halfChosen(half == m_default); });
     }
@@ -88,14 +91,4 @@ void TrayScene::show(Mark mark)
 void TrayScene::begin()
 {
     m_scene->setFocus(Qt::ActiveWindowFocusReason);
-}
-
-/// Arrows open the list of modes: a held key must not send the monitor through all of them.
-bool TrayScene::eventFilter(QObject *watched, QEvent *event)
-{
-    const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent *>(event)->key() : 0;
-    if (watched != m_scene || (key != Qt::Key_Up && key != Qt::Key_Down))
-        return QObject::eventFilter(watched, event);
-    m_scene->showPopup();
-    return true;
 }

@@ -39,9 +39,6 @@ Q_SIGNALS:
     void sceneChosen(int value);
     void halfChosen(bool defaultView);
 
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
 private:
     QWidget *buildHalves(BoundTexts &texts, QWidget *body);
 

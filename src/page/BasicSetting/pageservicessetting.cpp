@@ -6,6 +6,7 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include "controls/dash.h"
 #include "controls/lefttabbutton.h"
 #include "controls/picturelabel.h"
 #include "controls/pictures.h"
@@ -175,7 +176,7 @@ void pageServicesSetting::updateInterfaceData()
 
 void pageServicesSetting::showVersion()
 {
-    m_version->setText(firmwareVersion());
+    showOrDash(m_version, firmwareVersion());
 }
 
 void pageServicesSetting::onKnowledgeButtonClicked()

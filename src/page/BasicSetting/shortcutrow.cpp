@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "controls/accessiblecontrol.h"
 #include "controls/pictures.h"
 #include "controls/zelmarkeysequenceedit.h"
 #include "page/engine/listpage.h"
@@ -39,6 +40,9 @@ KeyMeaning meaningOf(const ShortcutFunction &function)
 void dressSwitch(QPushButton *button, bool on)
 {
     const QString folder = Pictures::kRoot + QStringLiteral("img/basicSetting/shortcutKey/");
+    describeAs(button, QAccessible::CheckBox);
+    button->setCheckable(true);
+    button->setChecked(on);
     button->setStyleSheet(QString::fromLatin1(kSwitchStyle).arg(folder, QLatin1String(on ? "on" : "off")));
     button->setAccessibleDescription(on ? QObject::tr("On") : QObject::tr("Off"));
 }

@@ -75,6 +75,7 @@ void FollowRow::showNames()
     m_name->setText(m_name->fontMetrics().elidedText(oneLine(program), Qt::ElideMiddle, kColumnWidth));
     m_name->setToolTip(program);
     m_pathField->setToolTip(path);
+    m_pathField->setAccessibleName(program);
     showPath();
     m_scenes->setAccessibleName(program);
     m_trash->setAccessibleName(QStringLiteral("%1: %2").arg(program, m_trash->toolTip()));

@@ -12,7 +12,9 @@
 #include <QSignalBlocker>
 #include <QStyle>
 
+#include "controls/announcer.h"
 #include "controls/captionlabel.h"
+#include "controls/dash.h"
 #include "controls/metrics.h"
 #include "controls/sharedfonts.h"
 #include "controls/timecurve.h"
@@ -240,7 +242,7 @@ void HealthPanel::refresh()
     for (int i = 0; i < kHealthFigures; ++i) {
         const HealthFigure figure = healthFigure(i, index, record);
         const Tile &tile = m_tiles[static_cast<std::size_t>(i)];
-        tile.value->setText(figure.value);
+        showOrDash(tile.value, figure.value);
         tile.detail->setText(figure.detail);
         tile.value->setProperty("bad", figure.isBad);
         tile.value->style()->polish(tile.value); // the style looks at the property only now
@@ -281,7 +283,6 @@ void HealthPanel::fillCurve(const LinkRecord &record, const QDateTime &now)
                       points.empty() ? QString() : QObject::tr("%1 ms").arg(highest));
     m_curve->setPoints(std::move(points), kLongestGap);
     m_curve->setAccessibleName(QObject::tr("Answer times, last ten minutes"));
-    m_curve->setAccessibleDescription(QObject::tr("slowest %1").arg(QObject::tr("%1 ms").arg(highest)));
 }
 
 void HealthPanel::fillErrors(const LinkRecord &record)
@@ -331,6 +332,7 @@ void HealthPanel::fillButtons()
 void HealthPanel::say(const QString &text)
 {
     m_result->setText(text);
+    Announcer::say(text);
 }
 
 void HealthPanel::onReadPressed()

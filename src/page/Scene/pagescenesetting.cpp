@@ -7,6 +7,8 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include "controls/accessiblecontrol.h"
+#include "controls/focusgroup.h"
 #include "controls/metrics.h"
 #include "controls/pictures.h"
 #include "controls/sharedfonts.h"
@@ -49,13 +51,21 @@ pageSceneSetting::~pageSceneSetting()
 void pageSceneSetting::buildHead(QVBoxLayout *column)
 {
     m_head = addHead(column);
-    m_defaultButton = makeHalfButton(kDefaultLabel, texts(), m_head);
-    m_customButton = makeHalfButton(kCustomLabel, texts(), m_head);
-    auto *halves = new QButtonGroup(this);
-    m_head->corner()->setSpacing(0);
+    auto *holder = new QWidget(m_head);
+    describeAs(holder, QAccessible::Grouping);
+    texts().bind(kHalvesLabel, [holder](const QString &text) { holder->setAccessibleName(text); });
+    auto *row = new QHBoxLayout(holder);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    m_defaultButton = makeHalfButton(kDefaultLabel, texts(), holder);
+    m_customButton = makeHalfButton(kCustomLabel, texts(), holder);
+    auto *halves = new QButtonGroup(holder);
+    auto *stop = new FocusGroup(holder);
+    m_head->corner()->addWidget(holder, 0, Qt::AlignTop);
     for (QPushButton *half : {m_defaultButton, m_customButton}) {
         halves->addButton(half);
-        m_head->corner()->addWidget(half, 0, Qt::AlignTop);
+        stop->add(half);
+        row->addWidget(half);
         connect(half, &QPushButton::clicked, this, &pageSceneSetting::onHalfClicked);
     }
 }
@@ -192,7 +202,9 @@ void pageSceneSetting::showModeResult(bool ok)
 void pageSceneSetting::showTitle()
 {
     const SceneMode *mode = sceneModeOf(deviceState.value(Command::SceneMode));
-    m_head->setTitle(mode ? QObject::tr(mode->label) : QObject::tr("Scene"));
+    const QString title = mode ? QObject::tr(mode->label) : QObject::tr("Scene");
+    m_head->setTitle(title);
+    setAccessibleName(title);
     m_head->setHelp(m_defaultView ? QObject::tr("The picture as the factory set it.")
                                   : QObject::tr("Your own picture. Changes are sent to the monitor as you make them."));
     m_defaultText->setText((mode ? QObject::tr(mode->hint) + QLatin1Char('\n') : QString()) +

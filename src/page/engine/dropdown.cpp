@@ -1,7 +1,9 @@
 #include "page/engine/dropdown.h"
 
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QListView>
+#include <QSet>
 #include <QStandardItemModel>
 #include <QStyledItemDelegate>
 
@@ -22,6 +24,28 @@ static const char16_t *const kStyle =
     "QListView::indicator:unchecked { image: none; }"
     "QListView::item:selected { background-color: @selected; color: @text; }";
 
+namespace {
+
+/// Opens the list by the keys that would change the value of a closed box: a held key must not send the monitor, or
+/// ask the user, whatever lies on its way.
+class ListOpener : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        static const QSet<int> kKeys = {Qt::Key_Up,   Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown,
+                                        Qt::Key_Home, Qt::Key_End,  Qt::Key_Return, Qt::Key_Enter};
+        if (event->type() != QEvent::KeyPress || !kKeys.contains(static_cast<QKeyEvent *>(event)->key()))
+            return false;
+        static_cast<QComboBox *>(watched)->showPopup();
+        return true;
+    }
+};
+
+} // namespace
+
 QComboBox *makeDropDown(QWidget *parent)
 {
     auto *box = new QComboBox(parent);
@@ -30,6 +54,7 @@ QComboBox *makeDropDown(QWidget *parent)
     box->setStyleSheet(Palette::styled(kStyle));
     box->view()->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded); // a menu has none, and at first it was one
     box->installEventFilter(new WheelEventFilter(box));
+    box->installEventFilter(new ListOpener(box));
     return box;
 }
 

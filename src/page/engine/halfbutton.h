@@ -10,6 +10,9 @@ class QWidget;
 inline constexpr char kDefaultLabel[] = QT_TRANSLATE_NOOP("QObject", "        Default");
 inline constexpr char kCustomLabel[] = QT_TRANSLATE_NOOP("QObject", "        Custom");
 
+/// What the two are halves of, for who does not see them side by side.
+inline constexpr char kHalvesLabel[] = QT_TRANSLATE_NOOP("QObject", "Parameters of the mode");
+
 /// Gives a button the pictures of one half of a selector or switch; its label's leading blanks are kept.
 void dressHalfButton(QPushButton *button);
 

@@ -7,6 +7,7 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include "controls/accessiblecontrol.h"
 #include "controls/messagestrip.h"
 #include "controls/metrics.h"
 #include "controls/pictures.h"
@@ -31,13 +32,17 @@ ListPage::ListPage(const QString &name, const char *title, const char *descripti
     : QFrame(parent), m_head(new PageHead(this)), m_tools(new QHBoxLayout), m_nothing(new QLabel(this))
 {
     setObjectName(name);
+    describeAs(this, QAccessible::Pane);
     dressPage(this);
     const QPixmap background = Pictures::load(kBackground, 1.0);
     setFixedSize(background.isNull() ? kFallbackSize : background.size());
 
     m_nothing->setObjectName(QStringLiteral("note"));
     m_nothing->setWordWrap(true);
-    m_texts.bind(title, [this](const QString &text) { m_head->setTitle(text); });
+    m_texts.bind(title, [this](const QString &text) {
+        m_head->setTitle(text);
+        setAccessibleName(text);
+    });
     m_texts.bind(nothing, [this](const QString &text) { m_nothing->setText(text); });
     m_texts.bind(description, [this](const QString &text) { m_head->setHelp(text); });
     m_tools->setSpacing(metrics::kGap);

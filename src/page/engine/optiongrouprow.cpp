@@ -4,7 +4,9 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 
+#include "controls/accessiblecontrol.h"
 #include "controls/captionlabel.h"
+#include "controls/focusgroup.h"
 #include "controls/locksign.h"
 #include "controls/metrics.h"
 #include "page/engine/boundtexts.h"
@@ -76,16 +78,20 @@ OptionGroupRow::OptionGroupRow(const OptionGroup &group, BoundTexts &texts, QWid
       m_exclusive(new QButtonGroup(this)), m_mark(new ValueMark(this)), m_sign(new LockSign(this))
 {
     m_caption->setFixedSize(metrics::kCaptionWidth, metrics::kControlHeight);
-    texts.bind(group.label, [this](const QString &text) { m_caption->setText(text); });
+    describeAs(this, QAccessible::Grouping);
+    texts.bind(group.label, [this](const QString &text) {
+        m_caption->setText(text);
+        setAccessibleName(text);
+    });
     m_caption->setStyleSheet(QStringLiteral("QLabel { color: #FFFFFF; }QLabel:disabled { color: #000; }"));
 
     auto *flow = new FlowLayout(metrics::kGap);
+    auto *stop = new FocusGroup(this);
     for (const Option &option : group.options) {
         auto *button = new QPushButton(this);
         button->setObjectName(
             QStringLiteral("%1_%2").arg(QString::fromUtf8(group.label), QString::fromUtf8(option.label)));
         button->setCheckable(true);
-        button->setFocusPolicy(Qt::StrongFocus);
         const auto dress = group.look == GroupLook::Switch ? dressHalfButton : dressOptionButton;
         texts.bind(option.label, [button, dress, label = group.label](const QString &text) {
             button->setText(text);
@@ -93,6 +99,7 @@ OptionGroupRow::OptionGroupRow(const OptionGroup &group, BoundTexts &texts, QWid
             dress(button);
         });
         m_exclusive->addButton(button);
+        stop->add(button);
         connect(button, &QPushButton::clicked, this, [this, button] { Q_EMIT optionClicked(button); });
         m_buttons.push_back(button);
         flow->addWidget(button);
@@ -136,6 +143,8 @@ void OptionGroupRow::showValue(std::optional<int> value)
 {
     QPushButton *chosen = value ? buttonOf(*value) : nullptr;
     checkOnly(*m_exclusive, chosen);
+    m_isUnknown = !value;
+    describe();
 }
 
 void OptionGroupRow::setMark(Mark mark)
@@ -166,4 +175,7 @@ void OptionGroupRow::describe()
         m_buttons[i]->setToolTip(lock);
     }
     setToolTip(text);
+    QStringList said = {m_isUnknown ? QObject::tr("unknown") : QString(), text};
+    said.removeAll(QString());
+    setAccessibleDescription(said.join(QStringLiteral(". ")));
 }

@@ -59,6 +59,7 @@ private:
     std::vector<QPushButton *> m_buttons;
     ValueMark *m_mark;
     LockSign *m_sign;
+    bool m_isUnknown = false;
     QStringList m_locks; ///< of each option: why it is disabled
 };
 

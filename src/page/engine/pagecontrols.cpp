@@ -13,6 +13,7 @@
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/devicestate.h"
 #include "page/engine/boundtexts.h"
+#include "page/engine/labels.h"
 #include "page/engine/optiongrouprow.h"
 
 namespace {
@@ -21,25 +22,33 @@ constexpr int kColumnSpacing = 40;
 constexpr int kHeadingPixels = 15;
 constexpr int kSignSpacing = 4;
 
-QColor colorOf(Accent accent)
+/// What is seen of an accent, and what is said of it where the caption is a single letter.
+struct AccentLook
 {
-    switch (accent) {
-    case Accent::Mint:
-        break;
-    case Accent::Red:
-        return {0xff, 0x6b, 0x6b};
-    case Accent::Yellow:
-        return {0xff, 0xd1, 0x66};
-    case Accent::Green:
-        return {0x4b, 0xe0, 0x8a};
-    case Accent::Cyan:
-        return {0x4b, 0xd6, 0xe0};
-    case Accent::Blue:
-        return {0x5a, 0xa9, 0xff};
-    case Accent::Magenta:
-        return {0xd9, 0x8b, 0xff};
-    }
-    return {};
+    Accent accent;
+    QRgb colour;
+    const char *name;
+};
+constexpr AccentLook kAccents[] = {
+    {Accent::Red, 0xffff6b6b, LABEL("Red")},     {Accent::Yellow, 0xffffd166, LABEL("Yellow")},
+    {Accent::Green, 0xff4be08a, LABEL("Green")}, {Accent::Cyan, 0xff4bd6e0, LABEL("Cyan")},
+    {Accent::Blue, 0xff5aa9ff, LABEL("Blue")},   {Accent::Magenta, 0xffd98bff, LABEL("Magenta")},
+};
+
+/// Null for the look's own accent.
+const AccentLook *lookOf(Accent accent)
+{
+    const auto *found = std::find_if(std::begin(kAccents), std::end(kAccents),
+                                     [accent](const AccentLook &look) { return look.accent == accent; });
+    return found == std::end(kAccents) ? nullptr : found;
+}
+
+/// Sliders under a heading are told apart by it: "Hue: Red".
+QString spokenName(const SliderGrid &grid, const AccentLook *look, const QString &caption)
+{
+    if (!grid.heading)
+        return caption;
+    return QStringLiteral("%1: %2").arg(QObject::tr(grid.heading), look ? QObject::tr(look->name) : caption);
 }
 
 bool isAvailable(const std::optional<Capability> &needs)
@@ -126,8 +135,10 @@ QLayout *PageControls::makeSlider(const SliderSpec &spec, const SliderGrid &grid
     auto *slider = new SliderWidget(QLatin1String(spec.name), spec.minimum, spec.maximum, parent);
     slider->setCaptionWidth(grid.captionWidth);
     slider->setFixedHeight(metrics::kControlHeight);
-    slider->setAccent(colorOf(spec.accent));
-    m_texts.bind(spec.caption, [slider](const QString &text) { slider->setCaption(text); });
+    const AccentLook *look = lookOf(spec.accent);
+    slider->setAccent(look ? QColor(look->colour) : QColor());
+    m_texts.bind(spec.caption,
+                 [slider, grid, look](const QString &text) { slider->setCaption(text, spokenName(grid, look, text)); });
     connect(slider, &SliderWidget::sliderValueChanged, this, &PageControls::sliderChanged);
     m_sliders.push_back(slider);
 

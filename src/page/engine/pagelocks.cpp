@@ -1,7 +1,6 @@
 #include "page/engine/pagelocks.h"
 
-#include <QScrollArea>
-
+#include "controls/focusgroup.h"
 #include "controls/locksign.h"
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/devicestate.h"
@@ -77,9 +76,6 @@ void PageLocks::goTo(const LockRule *rule)
         Q_EMIT settingWanted(rule->target.command);
         return;
     }
-    for (QWidget *around = control->parentWidget(); around; around = around->parentWidget()) {
-        if (auto *area = qobject_cast<QScrollArea *>(around))
-            area->ensureWidgetVisible(control);
-    }
+    bringIntoSight(control);
     control->setFocus(Qt::ShortcutFocusReason); // which shows the keyboard's place
 }

@@ -8,12 +8,15 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include "controls/accessiblecontrol.h"
+#include "controls/focusgroup.h"
 #include "controls/lefttabbutton.h"
 #include "controls/metrics.h"
 #include "controls/pictures.h"
 #include "controls/sharedfonts.h"
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/settingsstore.h"
+#include "page/engine/labels.h"
 #include "page/engine/optiongrouprow.h"
 #include "page/engine/pagehead.h"
 #include "page/engine/pagestyle.h"
@@ -74,11 +77,14 @@ QWidget *PanelPage::buildList()
     bar->setFixedWidth(kListWidth);
     auto *entries = new QFrame(bar);
     entries->setObjectName(QStringLiteral("frameLeftBar2"));
+    describeAs(entries, QAccessible::Grouping);
+    texts().bind(LABEL("Settings"), [entries](const QString &text) { entries->setAccessibleName(text); });
+    auto *stop = new FocusGroup(entries);
     auto *column = new QVBoxLayout(entries);
     column->setContentsMargins(12, 0, 12, 0);
     column->setSpacing(2);
     for (const PanelSpec &panel : m_panels)
-        addEntry(panel, column);
+        stop->add(addEntry(panel, column));
     column->addStretch(1);
 
     m_listArea = new QScrollArea(bar);
@@ -90,6 +96,8 @@ QWidget *PanelPage::buildList()
     m_listArea->setWidget(entries);
     m_upper = makeArrow(QStringLiteral("pushButton_Upper"), QStringLiteral("▲"), bar);
     m_down = makeArrow(QStringLiteral("pushButton_Down"), QStringLiteral("▼"), bar);
+    texts().bind(LABEL("Scroll up"), [this](const QString &text) { m_upper->setAccessibleName(text); });
+    texts().bind(LABEL("Scroll down"), [this](const QString &text) { m_down->setAccessibleName(text); });
     connect(m_upper, &QPushButton::clicked, this, [this] { scrollList(-1); });
     connect(m_down, &QPushButton::clicked, this, [this] { scrollList(1); });
     // The arrows are there only when there is something to scroll to.
@@ -108,22 +116,24 @@ QWidget *PanelPage::buildList()
     return bar;
 }
 
-void PanelPage::addEntry(const PanelSpec &panel, QLayout *column)
+LeftTabButton *PanelPage::addEntry(const PanelSpec &panel, QLayout *column)
 {
     const QString icon = Pictures::kRoot + QLatin1String("img/entry/") + QLatin1String(panel.icon);
-    auto *entry = new LeftTabButton(icon, QString(), this);
+    auto *entry = new LeftTabButton(icon, QString(), column->parentWidget());
     entry->setObjectName(QLatin1String(panel.label));
     texts().bind(panel.label, [entry](const QString &text) { entry->setCaption(text); });
     connect(entry, &LeftTabButton::clicked, this,
             [this, index = static_cast<int>(m_entries.size())] { choose(index); });
     m_entries.push_back(entry);
     column->addWidget(entry);
+    return entry;
 }
 
 QWidget *PanelPage::buildPanel(const PanelSpec &panel)
 {
     auto *content = new QWidget(m_stack);
     content->setObjectName(QLatin1String(panel.widgetName));
+    describeAs(content, QAccessible::Pane);
     auto *column = new QVBoxLayout(content);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(metrics::kRowGap);
@@ -151,7 +161,10 @@ void PanelPage::showTitle()
     if (m_panels.empty())
         return;
     const PanelSpec &panel = m_panels[static_cast<std::size_t>(currentPanel())];
-    m_head->setTitle(QObject::tr(panel.label));
+    const QString title = QObject::tr(panel.label);
+    m_head->setTitle(title);
+    setAccessibleName(title);
+    m_stack->currentWidget()->setAccessibleName(title);
     m_head->setHelp(panel.help ? QObject::tr(panel.help) : QString());
 }
 

@@ -47,7 +47,7 @@ protected:
 private:
     QWidget *buildList();
     QWidget *buildPanel(const PanelSpec &panel);
-    void addEntry(const PanelSpec &panel, QLayout *column);
+    LeftTabButton *addEntry(const PanelSpec &panel, QLayout *column);
     void choose(int index);
     void showTitle();
     void scrollList(int steps);

@@ -6,6 +6,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "controls/accessiblecontrol.h"
+#include "controls/announcer.h"
 #include "controls/messagestrip.h"
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
@@ -24,6 +26,7 @@ static constexpr platform::milliseconds kPatience{300}; // a value on its way fo
 SettingsPage::SettingsPage(CommandQueue &queue, QWidget *parent)
     : QLabel(parent), m_queue(queue), m_controls(m_texts), m_locks(m_controls)
 {
+    describeAs(this, QAccessible::Pane);
     connect(&m_controls, &PageControls::optionClicked, this, &SettingsPage::onOptionClicked);
     connect(&m_controls, &PageControls::ownOptionClicked, this, &SettingsPage::onOwnOptionClicked);
     connect(&m_controls, &PageControls::sliderChanged, this, &SettingsPage::onSliderChanged);
@@ -63,11 +66,13 @@ void SettingsPage::showNotice(const QString &text)
 void SettingsPage::showResult(bool ok, const QString &again, std::function<void()> tryAgain)
 {
     showNotice({});
-    if (ok || !m_head)
+    if (ok)
         return;
-    m_tryAgain = std::move(tryAgain);
     const QString text =
         again.isEmpty() ? markText(Mark::Refused) : QObject::tr("The monitor did not take \"%1\".").arg(again);
+    if (!m_head) // a mark beside the control is all that is seen of it
+        return Announcer::say(text);
+    m_tryAgain = std::move(tryAgain);
     m_head->strip()->say(text, MessageStrip::Tone::Refusal, m_tryAgain ? QObject::tr("Try again") : QString());
 }
 

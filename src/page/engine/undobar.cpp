@@ -1,11 +1,11 @@
 #include "page/engine/undobar.h"
 
-#include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
 
+#include "controls/announcer.h"
 #include "controls/palette.h"
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/monitoridentity.h"
@@ -76,10 +76,7 @@ void UndoBar::retranslate()
     m_button->setAccessibleName(undo);
     m_button->setToolTip(undo);
     setAccessibleName(text);
-    if (QAccessible::isActive()) {
-        QAccessibleEvent event(this, QAccessible::Alert);
-        QAccessible::updateAccessibility(&event);
-    }
+    Announcer::say(text);
 }
 
 /// The time is counted, not read from the clock: somebody may set that back.

@@ -184,6 +184,7 @@ void FrameTabs::addSheet(int index, const AnimationFrame &frame)
     connect(matrixEditor, &MatrixEditor::cursorMoved, m_view,
             [this](const QRect &cell) { m_view->ensureVisible(cell.center().x(), cell.center().y()); });
     insertTab(index, page, QString::number(frame.number));
+    tabBar()->setAccessibleTabName(index, QObject::tr("Frame %1").arg(frame.number));
 }
 
 QByteArrayList FrameTabs::digits() const

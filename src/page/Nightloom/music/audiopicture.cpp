@@ -37,6 +37,7 @@ void paintPanel(QPainter &painter, const QRect &area)
 
 AudioPicture::AudioPicture(QWidget *parent) : QWidget(parent)
 {
+    describeControlsToAssistiveSoftware();
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setMinimumHeight(200);
     followForm();
@@ -98,6 +99,23 @@ void AudioPicture::paintEvent(QPaintEvent *)
     paintMatrix(painter, matrix.adjusted(10, 12, -10, -12));
 }
 
+/// How high a bar is, of what it can be.
+qreal AudioPicture::shareOf(int bar) const
+{
+    if (!m_form || bar >= m_heights.size())
+        return 0;
+    const int highest = kStepsPerLimit * m_form->bars.limits[static_cast<std::size_t>(bar)] + 1;
+    return std::clamp(m_heights[bar], 0, highest) / qreal(highest);
+}
+
+QString AudioPicture::valueText() const
+{
+    QStringList shares;
+    for (int bar = 0; bar < static_cast<int>(kSpectrumBands); ++bar)
+        shares += QString::number(qRound(100 * shareOf(bar)));
+    return QObject::tr("%1 %, from low to high").arg(shares.join(QStringLiteral(", ")));
+}
+
 void AudioPicture::paintBars(QPainter &painter, const QRect &area) const
 {
     QFont font = painter.font();
@@ -113,9 +131,8 @@ void AudioPicture::paintBars(QPainter &painter, const QRect &area) const
         painter.drawRoundedRect(column.adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
         painter.setPen(Qt::NoPen);
         if (bar < m_heights.size() && m_form) {
-            const int highest = kStepsPerLimit * m_form->bars.limits[static_cast<std::size_t>(bar)] + 1;
             QRectF filled = column;
-            filled.setTop(column.bottom() - full * std::clamp(m_heights[bar], 0, highest) / highest);
+            filled.setTop(column.bottom() - full * shareOf(bar));
             QLinearGradient colours(column.bottomLeft(), column.topLeft());
             colours.setColorAt(0, kFoot);
             colours.setColorAt(0.6, kMint);

@@ -6,10 +6,11 @@
 #include <QList>
 #include <QWidget>
 
+#include "controls/accessiblecontrol.h"
 #include "page/Nightloom/render/audioled.h"
 
 /// What is heard: eleven bars, and beside them the matrix as it shows them.
-class AudioPicture : public QWidget
+class AudioPicture : public QWidget, public Described
 {
     Q_OBJECT
 public:
@@ -25,11 +26,15 @@ public:
 
     QSize sizeHint() const override;
 
+    QAccessible::Role accessibleRole() const override { return QAccessible::Chart; }
+    QString valueText() const override;
+
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
     void followForm();
+    qreal shareOf(int bar) const;
     void paintBars(QPainter &painter, const QRect &area) const;
     void paintMatrix(QPainter &painter, const QRect &area) const;
 

@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "PictureAudioCom/soundanalyzer.h"
+#include "controls/announcer.h"
 #include "controls/sharedfonts.h"
 #include "ddc_protocol/settingsstore.h"
 #include "page/Nightloom/music/audiopicture.h"
@@ -82,6 +83,7 @@ QWidget *pageLEDMusic::buildPart(const char *)
 {
     auto *part = new QWidget(this);
     m_picture = new AudioPicture(part);
+    texts().bind(LABEL("Spectrum"), [this](const QString &text) { m_picture->setAccessibleName(text); });
     m_note = new QLabel(part);
     m_note->setObjectName(QStringLiteral("note"));
     m_note->setFont(noteFont);
@@ -271,8 +273,11 @@ void pageLEDMusic::setHearing(Hearing hearing)
     m_hearing = hearing;
     const char *note = kNotes[static_cast<int>(hearing)];
     const QString text = *note ? QObject::tr(note) : QString();
-    if (m_note->text() != text)
-        m_note->setText(text);
+    if (m_note->text() == text)
+        return;
+    m_note->setText(text);
+    if (isVisible())
+        Announcer::say(text);
 }
 
 AudioVisual *pageLEDMusic::audioVisual()

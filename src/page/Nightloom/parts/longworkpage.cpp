@@ -5,7 +5,9 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "controls/accessiblecontrol.h"
 #include "controls/metrics.h"
+#include "controls/sharedfonts.h"
 #include "page/Nightloom/parts/toolcolumn.h"
 #include "page/engine/pagehead.h"
 #include "page/engine/pagestyle.h"
@@ -18,8 +20,12 @@ LongWorkPage::LongWorkPage(const QString &name, const char *title, const char *h
       m_work(new WorkPanel(m_texts, *m_head->strip(), this))
 {
     setObjectName(name);
+    describeAs(this, QAccessible::Pane);
     dressPage(this);
-    m_texts.bind(title, [this](const QString &text) { m_head->setTitle(text); });
+    m_texts.bind(title, [this](const QString &text) {
+        m_head->setTitle(text);
+        setAccessibleName(text);
+    });
     m_texts.bind(help, [this](const QString &text) { m_head->setHelp(text); });
     connect(m_work, &WorkPanel::begins, this, &LongWorkPage::busyBegins);
     connect(m_work, &WorkPanel::cancelled, this, &LongWorkPage::cancelWork);

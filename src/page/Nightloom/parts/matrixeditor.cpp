@@ -21,6 +21,7 @@ constexpr int kCursorMargin = 2; // the cursor stands this far outside its cell
 MatrixEditor::MatrixEditor(const MatrixForm &form, QWidget *parent)
     : QLabel(parent), m_geometry(form, form.cellSize), m_frame(form)
 {
+    describeControlsToAssistiveSoftware();
     setFixedSize(m_geometry.size());
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::CrossCursor);
@@ -170,13 +171,20 @@ void MatrixEditor::keyPressEvent(QKeyEvent *event)
     case Qt::Key_Down:
         return moveCursor(0, 1);
     case Qt::Key_Space:
-        if (!mayDraw() || event->isAutoRepeat() || m_pressed)
-            return;
-        toggle(m_cursor);
-        return finishStroke();
+        if (!event->isAutoRepeat())
+            press();
+        return;
     default:
         QLabel::keyPressEvent(event);
     }
+}
+
+void MatrixEditor::press()
+{
+    if (!mayDraw() || m_pressed)
+        return;
+    toggle(m_cursor);
+    finishStroke();
 }
 
 void MatrixEditor::placeCursor(MatrixCell cell)
@@ -205,6 +213,16 @@ void MatrixEditor::updateControlText()
 {
     setAccessibleName(QObject::tr("LED matrix"));
     describeCursor();
+}
+
+QString MatrixEditor::valueText() const
+{
+    const MatrixForm &form = m_geometry.form();
+    const auto cells = m_frame.flat();
+    return QObject::tr("%1 rows, %2 cells, %3 on")
+        .arg(form.rows.size())
+        .arg(cells.size())
+        .arg(std::count(cells.begin(), cells.end(), 1));
 }
 
 void MatrixEditor::describeCursor()

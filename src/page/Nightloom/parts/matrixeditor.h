@@ -4,12 +4,13 @@
 
 #include <QLabel>
 
+#include "controls/accessiblecontrol.h"
 #include "ledmatrix/matrixframe.h"
 #include "ledmatrix/matrixgeometry.h"
 
 /// Draws a frame of the LED matrix and lets the user draw in it: a press toggles a cell, dragging lights every cell on
 /// the pointer's way. The keyboard moves a cursor from cell to cell with the arrows and toggles with Space.
-class MatrixEditor : public QLabel
+class MatrixEditor : public QLabel, public Pressable
 {
     Q_OBJECT
 public:
@@ -49,6 +50,12 @@ public:
 
     /// Speaks of the cursor's cell in the language of now.
     void updateControlText();
+
+    QAccessible::Role accessibleRole() const override { return QAccessible::Canvas; }
+    /// How big it is, and how much of it is on.
+    QString valueText() const override;
+    /// Toggles the cursor's cell.
+    void press() override;
 
 Q_SIGNALS:
     /// A stroke or a key has changed the frame.

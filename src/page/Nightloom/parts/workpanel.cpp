@@ -1,6 +1,7 @@
 #include "page/Nightloom/parts/workpanel.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -8,6 +9,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "controls/announcer.h"
 #include "controls/messagestrip.h"
 #include "controls/sharedfonts.h"
 #include "page/Nightloom/parts/toolcolumn.h"
@@ -74,6 +76,7 @@ void WorkPanel::begin(std::vector<WorkStep> steps)
     m_stepBegan = platform::desk().clock().now();
     m_failed = false;
     m_cancelled = false;
+    m_told = {m_steps.size(), 0}; // nothing
     showNotice({});
     showProgress(m_steps.front().from);
     takeFocus();
@@ -97,6 +100,19 @@ void WorkPanel::showProgress(int value)
         m_bar->setValue(value); // or the next step would begin where the last one ended
     }
     showStep(timeLeft(m_steps, m_now, value, milliseconds(m_stepBegan.msecsTo(now))));
+    tellProgress();
+}
+
+/// Now and then: who hears it wants to hear other things as well.
+void WorkPanel::tellProgress()
+{
+    constexpr int kQuarter = kProgressEnd / 4;
+    const std::pair now(m_now, m_bar->value() / kQuarter);
+    if (std::exchange(m_told, now) == now)
+        return;
+    QStringList parts = {stepName(), m_bar->text()};
+    parts.removeAll(QString());
+    Announcer::say(parts.join(QLatin1Char(' ')));
 }
 
 void WorkPanel::fail(const QString &notice)
@@ -114,8 +130,10 @@ void WorkPanel::end(bool done)
     m_steps.clear();
     m_cancel->hide();
     m_bar->setVisible(done || !m_cancelled); // else what it showed last is not how far it came
-    if (done)
+    if (done) {
         m_bar->setValue(m_bar->maximum());
+        Announcer::say(m_bar->text());
+    }
     showStep(milliseconds(0));
     Q_EMIT ended();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <span>
+#include <utility>
 #include <vector>
 
 #include <QDateTime>
@@ -84,6 +85,7 @@ private:
     void layOut();
     void cancel();
     void showStep(platform::milliseconds left);
+    void tellProgress();
     void takeFocus();
     void giveFocusBack();
 
@@ -96,6 +98,7 @@ private:
     std::vector<WorkStep> m_steps; ///< none while no work goes on
     std::size_t m_now = 0;         ///< the step that goes on
     QDateTime m_stepBegan;
+    std::pair<std::size_t, int> m_told; ///< the step and the quarter of the whole that were told last
     platform::milliseconds m_left{};
     QPointer<QWidget> m_focusBefore; ///< while nothing can be used
     bool m_failed = false;

@@ -8,6 +8,8 @@
 #include <QPushButton>
 #include <QScrollArea>
 
+#include "controls/accessiblecontrol.h"
+#include "controls/focusgroup.h"
 #include "controls/metrics.h"
 #include "controls/sharedfonts.h"
 #include "page/Nightloom/parts/matrixeditor.h"
@@ -31,13 +33,11 @@ TextWidget::TextWidget(BoundTexts &texts, QWidget *parent)
     texts.bind(LABEL("Text"), [this](const QString &text) { m_input->setAccessibleName(text); });
     texts.bind(LABEL("Type the text for the matrix."),
                [this](const QString &text) { m_input->setPlaceholderText(text); });
-    auto *motions = new QHBoxLayout;
-    buildMotions(texts, motions);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(metrics::kRowGap);
     column->addWidget(m_input);
-    column->addLayout(motions);
+    column->addWidget(buildMotions(texts));
     m_fit->setObjectName(QStringLiteral("notice"));
     m_fit->setFont(noteFont);
     m_fit->setWordWrap(true);
@@ -58,14 +58,21 @@ TextWidget::TextWidget(BoundTexts &texts, QWidget *parent)
 
 TextWidget::~TextWidget() = default;
 
-void TextWidget::buildMotions(BoundTexts &texts, QHBoxLayout *row)
+QWidget *TextWidget::buildMotions(BoundTexts &texts)
 {
-    auto *exclusive = new QButtonGroup(this);
+    auto *motions = new QWidget(this);
+    describeAs(motions, QAccessible::Grouping);
+    texts.bind(LABEL("Motion"), [motions](const QString &text) { motions->setAccessibleName(text); });
+    auto *exclusive = new QButtonGroup(motions);
+    auto *stop = new FocusGroup(motions);
+    auto *row = new QHBoxLayout(motions);
+    row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(metrics::kGap);
     for (const char *label : kMotionLabels) {
-        QPushButton *button = makeToolButton(label, texts, this);
+        QPushButton *button = makeToolButton(label, texts, motions);
         button->setCheckable(true);
         exclusive->addButton(button);
+        stop->add(button);
         const auto motion = static_cast<TextMotion>(m_motions.size());
         connect(button, &QPushButton::clicked, this, [this, motion] { setMotion(motion); });
         row->addWidget(button);
@@ -73,6 +80,7 @@ void TextWidget::buildMotions(BoundTexts &texts, QHBoxLayout *row)
     }
     row->addStretch(1);
     m_motions.front()->setChecked(true);
+    return motions;
 }
 
 void TextWidget::followMatrixForm()

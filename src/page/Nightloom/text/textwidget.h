@@ -62,7 +62,7 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
-    void buildMotions(BoundTexts &texts, QHBoxLayout *row);
+    QWidget *buildMotions(BoundTexts &texts);
     void followMatrixForm();
     void onTextChanged();
     void showFit();

@@ -1,0 +1,274 @@
+#include <QtTest>
+#include <QtWidgets>
+
+#include "controls/messagestrip.h"
+#include "following/followlist.h"
+#include "page/BasicSetting/hotkeyoverlay.h"
+#include "page/Nightloom/parts/workpanel.h"
+#include "page/engine/boundtexts.h"
+#include "page/engine/panelpage.h"
+#include "support/windowfixture.h"
+#include "tray/traypanel.h"
+#include "tray/traypanelopener.h"
+
+using namespace std::chrono_literals;
+
+namespace {
+
+using Interface = QAccessibleInterface;
+
+QString nameOf(const Interface *at)
+{
+    return at->text(QAccessible::Name);
+}
+
+Interface *seen(QObject *object)
+{
+    return QAccessible::queryAccessibleInterface(object);
+}
+
+void walk(Interface *at, const std::function<void(Interface *)> &visit)
+{
+    visit(at);
+    for (int i = 0; i < at->childCount(); ++i) {
+        if (Interface *child = at->child(i); child && !child->state().invisible)
+            walk(child, visit);
+    }
+}
+
+/// What the keyboard or a press reaches; the inner field of a control that takes the focus itself is none.
+bool isControl(const Interface *at)
+{
+    const auto *widget = qobject_cast<QWidget *>(at->object());
+    const bool isInner = widget && widget->focusProxy();
+    const bool isArea = qobject_cast<const QScrollArea *>(widget); // scrolled by keys, and no more
+    return at->state().focusable && !isInner && !isArea;
+}
+
+bool isRole(const Interface *at, std::initializer_list<QAccessible::Role> roles)
+{
+    return std::find(roles.begin(), roles.end(), at->role()) != roles.end();
+}
+
+bool isChoice(const Interface *at)
+{
+    return isRole(at, {QAccessible::RadioButton, QAccessible::PageTab}) && at->object();
+}
+
+/// One that can be used is the only one that Tab finds, and it is the chosen one unless that cannot be used.
+bool isOneStop(const std::vector<Interface *> &choices)
+{
+    int stops = 0;
+    bool chosenWithout = false;
+    bool usable = false;
+    for (const Interface *choice : choices) {
+        const auto *widget = static_cast<QWidget *>(choice->object());
+        const bool isStop = widget->focusPolicy() & Qt::TabFocus;
+        const bool isChosen = choice->state().checked || choice->state().selected;
+        stops += isStop;
+        usable = usable || !choice->state().disabled;
+        chosenWithout = chosenWithout || (isChosen && !choice->state().disabled && !isStop && !widget->hasFocus());
+    }
+    return !usable || (stops == 1 && !chosenWithout);
+}
+
+/// Why a thing cannot be understood by who does not see it; empty when it can.
+QString faultOf(Interface *at, std::map<QString, int> &names)
+{
+    static const QRegularExpression kWord(QStringLiteral("\\w"), QRegularExpression::UseUnicodePropertiesOption);
+    const bool isNamed = nameOf(at).contains(kWord);
+    if (isControl(at) &&
+        !isRole(at, {QAccessible::Button, QAccessible::CheckBox, QAccessible::RadioButton, QAccessible::PageTab,
+                     QAccessible::Slider, QAccessible::SpinBox, QAccessible::ComboBox, QAccessible::EditableText,
+                     QAccessible::Canvas, QAccessible::PageTabList, QAccessible::ButtonMenu}))
+        return QStringLiteral("no role");
+    if ((isControl(at) || isRole(at, {QAccessible::Button, QAccessible::Grouping, QAccessible::Pane, QAccessible::Chart,
+                                      QAccessible::Canvas})) &&
+        !isNamed)
+        return QStringLiteral("no name");
+    if (isRole(at, {QAccessible::Slider, QAccessible::RadioButton}) &&
+        names[QString::number(at->role()) + nameOf(at)]++ > 0)
+        return QStringLiteral("the name of another one");
+    if (isRole(at, {QAccessible::Slider, QAccessible::Chart, QAccessible::Canvas}) &&
+        at->text(QAccessible::Value).isEmpty())
+        return QStringLiteral("no value");
+    std::vector<Interface *> choices;
+    for (int i = 0; i < at->childCount(); ++i) {
+        if (Interface *child = at->child(i); child && isChoice(child) && !child->state().invisible)
+            choices.push_back(child);
+    }
+    if (!choices.empty() && !isRole(at, {QAccessible::Grouping, QAccessible::PageTabList}))
+        return QStringLiteral("no group of its choices");
+    return isOneStop(choices) ? QString() : QStringLiteral("not one stop");
+}
+
+QStringList faultsIn(QWidget *window)
+{
+    QStringList found;
+    std::map<QString, int> names;
+    walk(seen(window), [&](Interface *at) {
+        const QString fault = faultOf(at, names);
+        const QObject *object = at->object();
+        if (!fault.isEmpty())
+            found += QStringLiteral("%1 %2 \"%3\": %4")
+                         .arg(object ? object->metaObject()->className() : "",
+                              object ? object->objectName() : QString(), nameOf(at), fault);
+    });
+    return found;
+}
+
+} // namespace
+
+/// What the keyboard and assistive software reach, and how.
+class TestReach : public WindowFixture
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void everyControlSaysWhatItIs();
+    void arrowsOnlyMove();
+    void assistiveSoftwareMovesSliders();
+    void oneObjectTells();
+
+private:
+    OptionGroupRow *openInputs();
+    /// Opens every page, and of pages with panels each.
+    void onEveryPage(const std::function<void(QWidget *page)> &look);
+};
+
+void TestReach::onEveryPage(const std::function<void(QWidget *page)> &look)
+{
+    const auto *stack = m_window->scenePage()->parentWidget();
+    for (int family = 0; family < kFamilies; ++family) {
+        QTest::mouseClick(m_window->tabs()->tabs()[static_cast<std::size_t>(family)], Qt::LeftButton);
+        for (LeftTabButton *entry : m_window->leftBar(family)->buttons()) {
+            QTest::mouseClick(entry, Qt::LeftButton);
+            auto *page = static_cast<const QStackedWidget *>(stack)->currentWidget();
+            auto *panels = qobject_cast<PanelPage *>(page);
+            for (int i = 0; i < (panels ? panels->panelCount() : 1); ++i) {
+                if (panels && !panels->entries().empty())
+                    panels->showPanel(i);
+                look(page);
+            }
+        }
+    }
+}
+
+void TestReach::everyControlSaysWhatItIs()
+{
+    start(10, 0, [] { saveFollowList({{QStringLiteral("C:/Games/game.exe"), 1}}); });
+    for (const auto &[page, button] :
+         {std::pair(PageId::ShortcutKey, "pushButton_2"), {PageId::LedCanvas, "Add Frame"}})
+        m_window->page(page)->widget()->findChild<QPushButton *>(QLatin1String(button))->click();
+    QSet<QString> faults;
+    onEveryPage([&](QWidget *page) {
+        if (seen(page)->role() != QAccessible::Pane || nameOf(seen(page)).isEmpty())
+            faults.insert(QStringLiteral("%1: no named panel").arg(page->objectName()));
+        for (const QString &fault : faultsIn(m_window.get()))
+            faults.insert(fault);
+    });
+    m_window->trayPanel()->press({});
+    for (const QString &fault : faultsIn(m_window->trayPanel()->panel()))
+        faults.insert(fault);
+    QStringList sorted = faults.values();
+    sorted.sort();
+    QVERIFY2(sorted.isEmpty(), qPrintable(sorted.join(QLatin1Char('\n'))));
+}
+
+OptionGroupRow *TestReach::openInputs()
+{
+    start(10);
+    QTest::mouseClick(m_window->tabs()->tabs().back(), Qt::LeftButton);
+    QTest::mouseClick(entry(kFamilies - 1, "I/O Settings"), Qt::LeftButton);
+    auto *page = static_cast<PanelPage *>(m_window->settingsPage(PageId::IoSetting));
+    page->showPanel("Input Signal");
+    m_window->activateWindow();
+    return page->optionGroup(Command::InputSignal);
+}
+
+/// Nobody switches the input by walking past it; what presses sends what the mouse sends.
+void TestReach::arrowsOnlyMove()
+{
+    const auto buttons = openInputs()->buttons();
+    const auto sent = [this](auto &&act) {
+        m_desk->takeCommands();
+        act();
+        QCoreApplication::processEvents();
+        return m_desk->takeCommands().filter(QStringLiteral("W")).join(QLatin1Char(' '));
+    };
+    const auto key = [this](Qt::Key which) { QTest::keyClick(m_window->focusWidget(), which); };
+    for (int way = 0; way < 4; ++way) {
+        QTest::mouseClick(buttons[1], Qt::LeftButton);
+        buttons[1]->setFocus(Qt::TabFocusReason);
+        QCOMPARE(sent([&] {
+                     for (const Qt::Key walk : {Qt::Key_Right, Qt::Key_End, Qt::Key_Up, Qt::Key_Home, Qt::Key_Down,
+                                                Qt::Key_Down, Qt::Key_Right})
+                         key(walk);
+                 }),
+                 QString());
+        QCOMPARE(m_window->focusWidget(), buttons[3]);
+        QVERIFY(seen(buttons[1])->state().checked);
+        const std::function<void()> presses[] = {
+            [&] { QTest::mouseClick(buttons[3], Qt::LeftButton); }, [&] { key(Qt::Key_Space); },
+            [&] { key(Qt::Key_Enter); },
+            [&] { seen(buttons[3])->actionInterface()->doAction(QAccessibleActionInterface::pressAction()); }};
+        QCOMPARE(sent(presses[way]), QStringLiteral("W 57=3"));
+        QVERIFY(seen(buttons[3])->state().checked && !seen(buttons[1])->state().checked);
+    }
+}
+
+/// Also those that send when they are let go.
+void TestReach::assistiveSoftwareMovesSliders()
+{
+    start(10);
+    for (const auto &[name, code, value, text] :
+         {std::tuple("Brightness", 0x10, 37, "37 %"), {"CR Enhance", 0x41, 4, "4 of 5"}}) {
+        Interface *slider = seen(m_window->scenePage()->slider(name)->slider());
+        slider->valueInterface()->setCurrentValue(value);
+        QTRY_COMPARE(int(m_desk->monitor().value(std::uint8_t(code))), value);
+        QCOMPARE(slider->text(QAccessible::Value), QLatin1String(text));
+        slider->actionInterface()->doAction(QAccessibleActionInterface::decreaseAction());
+        QTRY_COMPARE(int(m_desk->monitor().value(std::uint8_t(code))), value - 1);
+    }
+    SliderWidget *unread = m_window->scenePage()->slider("Contrast");
+    unread->setMark(Mark::Unknown);
+    QCOMPARE(seen(unread->slider())->text(QAccessible::Description), QStringLiteral("unknown"));
+}
+
+void TestReach::oneObjectTells()
+{
+    OptionGroupRow *inputs = openInputs();
+    QWidget *object = nullptr;
+    walk(seen(m_window.get()), [&object](Interface *at) {
+        if (at->role() == QAccessible::StatusBar)
+            object = static_cast<QWidget *>(at->object());
+    });
+    QVERIFY(object);
+    const auto told = [object](auto &&act) {
+        object->setAccessibleName({});
+        act();
+        return object->accessibleName();
+    };
+    m_desk->monitor().refuseWrites(virtualdesk::kForEver);
+    QCOMPARE(told([&] { inputs->buttons()[2]->click(); }),
+             QStringLiteral("The monitor did not take \"Input Signal: DP2\"."));
+    QCOMPARE(told([&] { m_window->overlay()->showNote(QStringLiteral("Brightness"), QStringLiteral("60")); }),
+             QStringLiteral("Brightness: 60"));
+    m_desk->monitor().recover();
+    BoundTexts texts;
+    MessageStrip strip(nullptr);
+    WorkPanel work(texts, strip);
+    work.begin({{"", 0, 100, platform::milliseconds(100)}});
+    QStringList progress;
+    for (int i = 0; i <= 100; ++i)
+        progress += told([&] { work.showProgress(i); });
+    progress.removeAll(QString());
+    QCOMPARE(progress.join(QLatin1Char(' ')), QStringLiteral("25% 50% 75% 100%"));
+    QVERIFY(told([&] {
+                m_desk->desk.unplug(0);
+                m_window->deviceRemoved();
+                m_desk->clock.advance(1s);
+            }).contains(QStringLiteral("no answer")));
+}
+
+QTEST_MAIN(TestReach)
+#include "tst_reach.moc"
