@@ -23,9 +23,17 @@ def spin(seconds: float) -> None:
     loop.run()
 
 
+def attempt(find):
+    """What is looked for, or none: things go while one looks at them."""
+    try:
+        return find()
+    except GLib.GError:
+        return None
+
+
 def wait_for(what: str, find, seconds: float = 15):
     end = time.monotonic() + seconds
-    while not (found := find()):
+    while not (found := attempt(find)):
         if time.monotonic() > end:
             sys.exit(f"reach: waited in vain for {what}")
         spin(0.1)
@@ -55,13 +63,22 @@ def children_of_desktop() -> list:
 
 
 def find(role: str, name: str, top=None):
-    nodes = (node for _, node in tree(top or window()))
+    top = top or window()
+    nodes = (node for _, node in tree(top)) if top else iter(())
     return next((node for node in nodes if node.get_role_name() == role and node.get_name() == name), None)
 
 
 def press(node) -> None:
-    actions = [node.get_action_name(i) for i in range(node.get_n_actions())]
-    node.do_action(actions.index("Press"))
+    """Once it can be pressed: a mode that changes locks the others for a while."""
+    def names() -> list[str]:
+        return [node.get_action_name(i) for i in range(node.get_n_actions())]
+    wait_for(f"{node.get_name()} to be usable", lambda: "Press" in names())
+    node.do_action(names().index("Press"))
+
+
+def hear(event) -> None:
+    if event.source.get_role_name() == "status bar":
+        told.append(event.source.get_name())
 
 
 def expect(right: bool, what: str) -> None:
@@ -92,8 +109,7 @@ def walk_pages(prints: bool) -> None:
 def main() -> int:
     program, folder, prints = sys.argv[1], sys.argv[2], sys.argv[3:] == ["list"]
     Atspi.init()
-    listener = Atspi.EventListener.new(
-        lambda event: told.append(event.source.get_name()) if event.source.get_role_name() == "status bar" else None)
+    listener = Atspi.EventListener.new(lambda event: attempt(lambda: hear(event)))
     listener.register("object:property-change:accessible-name")
     with subprocess.Popen([program], cwd=folder) as process:
         try:
@@ -115,7 +131,11 @@ def main() -> int:
             spin(1)
             expect(any("did not take" in text for text in told), f"a refusal is told by the status object: {told}")
             press(find("push button", "Refuse writes", desk))
+            spin(3)  # the refusal has the program look for the monitor again
             press(find("page tab", "Scene"))
+            press(wait_for("the left bar", lambda: find("radio button", "Movie Mode")))
+            press(wait_for("the halves", lambda: find("radio button", "Custom")))
+            spin(1)
             slider = wait_for("the scene page", lambda: find("slider", "CR Enhance"))
             slider.set_current_value(4)
             spin(1)
