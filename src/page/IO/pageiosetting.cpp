@@ -70,6 +70,7 @@ void pageIOSetting::showInput()
     const std::optional<int> on = deviceState.confirmed(Command::InputSignal);
     const QPushButton *button = on ? optionGroup(Command::InputSignal)->buttonOf(*on) : nullptr;
     m_inputNow->setText(button ? QObject::tr("On now: %1").arg(button->text()) : QString());
+    m_preview->setAccessibleName(m_inputNow->text());
 }
 
 void pageIOSetting::showPreview()
