@@ -27,7 +27,7 @@ Automation::Automation(CommandQueue &queue, PageSet &pages, QStackedWidget *stac
     connect(following->follower(), &SceneFollower::begins, &queue, &CommandQueue::drain);
     connect(following->follower(), &SceneFollower::sceneSent, this, [this] { Q_EMIT sent(Command::SceneMode); });
     connect(m_writer, &AutomaticWriter::dayIsUsedUp, this,
-            [this](const QString &text) { m_overlay->showMessage(QObject::tr("Automatic changes a day"), text); });
+            [this](const QString &text) { m_overlay->showMessage(QObject::tr("Automatic changes"), text); });
     pages.add(PageId::ShortcutKey, keys);
     pages.add(PageId::ScenarioFollowing, following);
 }

@@ -159,7 +159,7 @@ void TestToolPages::overlayAndLimitAreSwitched()
         press(name);
         QVERIFY(hotkeyOverlayOn() == name.endsWith("Yes") && isChecked(name));
     }
-    press("Automatic changes a day_No limit");
+    press("Automatic changes_No limit");
     QVERIFY(!automaticWritesADay() && toolPage().notice().isEmpty());
     QFile::remove(QStringLiteral("config.ini"));
     QVERIFY(QDir().mkpath(QStringLiteral("config.ini/full"))); // nothing can be stored

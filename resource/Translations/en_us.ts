@@ -420,8 +420,8 @@
         <translation>Auto-L2</translation>
     </message>
     <message>
-        <source>Automatic changes a day</source>
-        <translation>Automatic changes a day</translation>
+        <source>Automatic changes</source>
+        <translation>Automatic changes</translation>
     </message>
     <message>
         <source>B</source>

@@ -420,8 +420,8 @@
         <translation>自動 L2</translation>
     </message>
     <message>
-        <source>Automatic changes a day</source>
-        <translation>1 日の自動変更の回数</translation>
+        <source>Automatic changes</source>
+        <translation>自動変更（1 日）</translation>
     </message>
     <message>
         <source>B</source>

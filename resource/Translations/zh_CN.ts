@@ -420,8 +420,8 @@
         <translation>自动 L2</translation>
     </message>
     <message>
-        <source>Automatic changes a day</source>
-        <translation>每天自动更改次数</translation>
+        <source>Automatic changes</source>
+        <translation>每天自动更改</translation>
     </message>
     <message>
         <source>B</source>

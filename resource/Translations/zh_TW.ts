@@ -420,8 +420,8 @@
         <translation>自動 L2</translation>
     </message>
     <message>
-        <source>Automatic changes a day</source>
-        <translation>每天自動變更次數</translation>
+        <source>Automatic changes</source>
+        <translation>每天自動變更</translation>
     </message>
     <message>
         <source>B</source>

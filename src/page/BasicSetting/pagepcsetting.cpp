@@ -26,7 +26,7 @@ namespace {
 constexpr char kStartUp[] = LABEL("Run on startup");
 constexpr char kLanguage[] = LABEL("Tool language settings");
 constexpr char kOverlay[] = LABEL("Shortcut overlay");
-constexpr char kAutomatic[] = LABEL("Automatic changes a day");
+constexpr char kAutomatic[] = LABEL("Automatic changes");
 constexpr char kVersion[] = "version";
 constexpr char kMachine[] = "machine";
 constexpr char kHealth[] = "health";

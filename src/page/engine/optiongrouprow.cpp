@@ -85,7 +85,7 @@ OptionGroupRow::OptionGroupRow(const OptionGroup &group, BoundTexts &texts, QWid
     });
     m_caption->setStyleSheet(QStringLiteral("QLabel { color: #FFFFFF; }QLabel:disabled { color: #000; }"));
 
-    auto *flow = new FlowLayout(metrics::kGap);
+    auto *flow = new FlowLayout(group.look == GroupLook::Switch ? 0 : metrics::kGap); // its halves are one control
     auto *stop = new FocusGroup(this);
     for (const Option &option : group.options) {
         auto *button = new QPushButton(this);
