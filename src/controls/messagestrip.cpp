@@ -16,6 +16,7 @@ constexpr qreal kRadius = 8;
 constexpr int kSign = 18; // the circle before the text
 constexpr int kSignLeft = 13;
 constexpr int kTextLeft = 40;
+constexpr int kBelow = metrics::kGap; // which comes and goes with the strip
 
 struct Colors
 {
@@ -36,7 +37,7 @@ Colors colorsOf(MessageStrip::Tone tone)
 MessageStrip::MessageStrip(QWidget *parent) : QFrame(parent), m_text(new QLabel(this)), m_button(new QPushButton(this))
 {
     setObjectName(QStringLiteral("strip"));
-    setMinimumHeight(metrics::kControlHeight);
+    setMinimumHeight(metrics::kControlHeight + kBelow);
     m_text->setObjectName(QStringLiteral("notice"));
     m_text->setFont(noteFont);
     m_text->setWordWrap(true);
@@ -45,7 +46,7 @@ MessageStrip::MessageStrip(QWidget *parent) : QFrame(parent), m_text(new QLabel(
     m_button->setFocusPolicy(Qt::StrongFocus);
     m_button->setFont(noteFont);
     auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(kTextLeft, 4, metrics::kGap, 4);
+    row->setContentsMargins(kTextLeft, 4, metrics::kGap, 4 + kBelow);
     row->setSpacing(metrics::kGap);
     row->addWidget(m_text, 1);
     row->addWidget(m_button);
@@ -80,8 +81,9 @@ void MessageStrip::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(colors.ground);
-    painter.drawRoundedRect(rect(), kRadius, kRadius);
-    const QRectF sign(kSignLeft, (height() - kSign) / 2.0, kSign, kSign);
+    const QRect strip = rect().adjusted(0, 0, 0, -kBelow);
+    painter.drawRoundedRect(strip, kRadius, kRadius);
+    const QRectF sign(kSignLeft, (strip.height() - kSign) / 2.0, kSign, kSign);
     painter.setPen(QPen(colors.sign, 1.5));
     painter.setBrush(Qt::NoBrush);
     painter.drawEllipse(sign.adjusted(0.75, 0.75, -0.75, -0.75));

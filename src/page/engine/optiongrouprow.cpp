@@ -139,6 +139,11 @@ void OptionGroupRow::hideCaption()
     m_caption->hide();
 }
 
+bool OptionGroupRow::hasCaption() const
+{
+    return !m_caption->isHidden();
+}
+
 void OptionGroupRow::showValue(std::optional<int> value)
 {
     QPushButton *chosen = value ? buttonOf(*value) : nullptr;

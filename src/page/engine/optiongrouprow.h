@@ -32,6 +32,7 @@ public:
 
     /// Leaves the heading away, where what stands above says the same.
     void hideCaption();
+    bool hasCaption() const;
 
     /// Checks the button of a value, or none.
     void showValue(std::optional<int> value);

@@ -220,7 +220,10 @@ QString PageControls::wordsFor(Command command, int value) const
     if (const OptionGroupRow *row = group(command)) {
         const QPushButton *button = row->buttonOf(value);
         const QString name = QObject::tr(row->group().label);
-        return button ? QStringLiteral("%1: %2").arg(name, button->text().trimmed()) : name;
+        if (!button)
+            return name;
+        const QString option = button->text().trimmed();
+        return row->hasCaption() ? QStringLiteral("%1: %2").arg(name, option) : option;
     }
     for (const Slider &entry : m_sliderEntries) {
         if (entry.command() == command)

@@ -49,10 +49,7 @@ PageHead::PageHead(QWidget *parent)
     column->setSpacing(0);
     column->addLayout(line);
     column->addSpacing(metrics::kStripTop - metrics::kHelpBaseline - help.descent());
-    auto *slot = new QVBoxLayout; // with the strip goes the gap below it
-    slot->setContentsMargins(0, 0, 0, metrics::kGap);
-    slot->addWidget(m_strip);
-    column->addLayout(slot);
+    column->addWidget(m_strip);
 }
 
 void PageHead::setTitle(const QString &title)
