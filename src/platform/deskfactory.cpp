@@ -2,7 +2,7 @@
 
 #include <QtGlobal>
 
-#include "platform/virtual/virtualplatform.h"
+#include "platform/virtual/processdesk.h"
 #ifdef Q_OS_WIN
 #include "platform/win32/win32desk.h"
 #endif

@@ -8,18 +8,16 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRegularExpression>
-#include <QScrollArea>
 #include <QSignalBlocker>
-#include <QStyle>
 
 #include "controls/announcer.h"
-#include "controls/captionlabel.h"
-#include "controls/dash.h"
 #include "controls/metrics.h"
-#include "controls/sharedfonts.h"
-#include "controls/timecurve.h"
 #include "ddc_protocol/linkrecorder.h"
 #include "ddc_protocol/linkrecords.h"
+#include "page/Health/healtherrors.h"
+#include "page/Health/healthfigures.h"
+#include "page/Health/healthlabel.h"
+#include "page/Health/healthtexts.h"
 #include "page/engine/boundtexts.h"
 #include "page/engine/dropdown.h"
 #include "page/engine/labels.h"
@@ -29,19 +27,6 @@
 namespace {
 
 constexpr platform::milliseconds kRefreshPause{250};
-constexpr int kLongestGap = 12;    // spans: a minute without a request is a gap in the curve
-constexpr int kErrorsHeight = 136; // three of them; the others scroll
-constexpr int kErrorHeight = 40;
-constexpr int kErrorTimeWidth = 62;
-constexpr int kErrorTextWidth = 250;
-
-QVBoxLayout *makeColumn(QWidget *parent, int spacing)
-{
-    auto *column = new QVBoxLayout(parent);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(spacing);
-    return column;
-}
 
 /// A path that a line may end in, also within a long name: nothing of it is cut off.
 QString breakable(QString path)
@@ -71,11 +56,14 @@ HealthPanel::~HealthPanel()
 void HealthPanel::build()
 {
     m_isBuilt = true;
-    auto *column = makeColumn(this, 12);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(12);
     auto *heading = new QHBoxLayout;
-    heading->addWidget(makeLabel(QStringLiteral("note"), 0,
-                                 LABEL("How the link to the monitor has been since the "
-                                       "program started.")),
+    heading->addWidget(makeHealthLabel(QStringLiteral("note"), 0,
+                                       LABEL("How the link to the monitor has been since the "
+                                             "program started."),
+                                       m_texts, this),
                        1);
     m_monitors = makeDropDown(this);
     m_monitors->setObjectName(QStringLiteral("healthMonitors"));
@@ -84,95 +72,16 @@ void HealthPanel::build()
     connect(m_monitors, &QComboBox::currentIndexChanged, this, &HealthPanel::refresh);
     heading->addWidget(m_monitors);
     column->addLayout(heading);
-    column->addWidget(buildTiles());
-    column->addWidget(buildCurve());
-    column->addWidget(makeLabel(QStringLiteral("healthHeading"), 0, LABEL("Last errors")));
-    column->addWidget(buildErrors());
-    m_facts = makeLabel(QStringLiteral("note"), 0);
+    m_figures = new HealthFigures(m_texts, this);
+    column->addWidget(m_figures);
+    column->addWidget(makeHealthLabel(QStringLiteral("healthHeading"), 0, LABEL("Last errors"), m_texts, this));
+    m_errors = new HealthErrors(m_texts, this);
+    column->addWidget(m_errors);
+    m_facts = makeHealthLabel(QStringLiteral("note"), 0, this);
     column->addWidget(m_facts);
     column->addWidget(buildButtons());
-    m_result = makeLabel(QStringLiteral("healthResult"), 0);
+    m_result = makeHealthLabel(QStringLiteral("healthResult"), 0, this);
     column->addWidget(m_result);
-}
-
-QLabel *HealthPanel::makeLabel(const QString &name, int pixels, const char *text)
-{
-    auto *label = new QLabel(this);
-    label->setObjectName(name);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(pixels == 0);
-    QFont font = noteFont;
-    if (pixels > 0)
-        font.setPixelSize(pixels);
-    label->setFont(font);
-    if (text)
-        m_texts.bind(text, [label](const QString &translated) { label->setText(translated); });
-    return label;
-}
-
-QWidget *HealthPanel::buildTiles()
-{
-    auto *part = new QWidget(this);
-    auto *row = new QHBoxLayout(part);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(8);
-    for (int i = 0; i < kHealthFigures; ++i)
-        row->addWidget(buildTile(m_tiles[static_cast<std::size_t>(i)], figureCaption(i)), 1);
-    return part;
-}
-
-QWidget *HealthPanel::buildTile(Tile &tile, const char *caption)
-{
-    auto *frame = new QFrame(this);
-    frame->setObjectName(QStringLiteral("healthTile"));
-    frame->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // all of one width, whatever they say
-    auto *column = new QVBoxLayout(frame);
-    column->setContentsMargins(16, 10, 8, 10);
-    column->setSpacing(2);
-    QLabel *const title = makeLabel(QStringLiteral("note"), 13, caption);
-    tile.value = makeLabel(QStringLiteral("healthValue"), 26);
-    tile.detail = new CaptionLabel(QString(), 13, frame);
-    tile.detail->setObjectName(QStringLiteral("note"));
-    tile.detail->setFont(noteFont);
-    for (QLabel *label : {title, tile.value, tile.detail})
-        column->addWidget(label);
-    return frame;
-}
-
-QWidget *HealthPanel::buildCurve()
-{
-    auto *frame = new QFrame(this);
-    frame->setObjectName(QStringLiteral("healthTile"));
-    auto *column = new QVBoxLayout(frame);
-    column->setContentsMargins(16, 8, 16, 8);
-    column->setSpacing(0);
-    column->addWidget(makeLabel(QStringLiteral("note"), 13, LABEL("Answer times, last ten minutes")));
-    m_curve = new TimeCurve(LinkRecord::kSpans, frame);
-    m_curve->setFont(noteFont);
-    column->addWidget(m_curve, 1);
-    frame->setFixedHeight(116);
-    return frame;
-}
-
-QWidget *HealthPanel::buildErrors()
-{
-    auto *area = new QScrollArea(this);
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setFixedHeight(kErrorsHeight);
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_texts.bind(LABEL("Last errors"), [area](const QString &text) { area->setAccessibleName(text); });
-    auto *content = new QWidget(area);
-    content->setObjectName(QStringLiteral("customArea"));
-    m_errors = makeColumn(content, 4);
-    m_errors->setAlignment(Qt::AlignTop);
-    area->setWidget(content);
-    return area;
-}
-
-QPushButton *HealthPanel::makeButton(const char *label, const QString &name)
-{
-    return makePlainButton(label, name, m_texts, this);
 }
 
 QWidget *HealthPanel::buildButtons()
@@ -181,12 +90,12 @@ QWidget *HealthPanel::buildButtons()
     auto *row = new QHBoxLayout(part);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(8);
-    m_read = makeButton(LABEL("Read everything once"), QStringLiteral("readEverything"));
+    m_read = makePlainButton(LABEL("Read everything once"), QStringLiteral("readEverything"), m_texts, part);
     m_read->setProperty("waiting", true);
     connect(m_read, &QPushButton::clicked, this, &HealthPanel::onReadPressed);
-    QPushButton *const copy = makeButton(LABEL("Copy report"), QStringLiteral("copyReport"));
+    QPushButton *const copy = makePlainButton(LABEL("Copy report"), QStringLiteral("copyReport"), m_texts, part);
     connect(copy, &QPushButton::clicked, this, &HealthPanel::onCopyPressed);
-    m_record = makeButton(LABEL("Record"), QStringLiteral("record"));
+    m_record = makePlainButton(LABEL("Record"), QStringLiteral("record"), m_texts, part);
     m_record->setCheckable(true);
     connect(m_record, &QPushButton::toggled, this, &HealthPanel::onRecordToggled);
     for (QPushButton *button : {m_read, copy, m_record})
@@ -238,17 +147,8 @@ void HealthPanel::refresh()
     const std::size_t index = chosen();
     const bool isThere = index < monitorList.size();
     const LinkRecord record = isThere ? linkRecords.recordOf(monitorList[index].identity) : LinkRecord();
-    const QDateTime now = platform::desk().clock().now();
-    for (int i = 0; i < kHealthFigures; ++i) {
-        const HealthFigure figure = healthFigure(i, index, record);
-        const Tile &tile = m_tiles[static_cast<std::size_t>(i)];
-        showOrDash(tile.value, figure.value);
-        tile.detail->setText(figure.detail);
-        tile.value->setProperty("bad", figure.isBad);
-        tile.value->style()->polish(tile.value); // the style looks at the property only now
-    }
-    fillCurve(record, now);
-    fillErrors(record);
+    m_figures->fill(index, record, platform::desk().clock().now());
+    m_errors->fill(record);
     m_facts->setText(isThere ? monitorFacts(index) : QObject::tr("no monitor"));
     fillButtons();
 }
@@ -269,53 +169,6 @@ void HealthPanel::fillMonitors()
         m_monitors->setCurrentIndex(currentMonitorIndex);
     }
     m_monitors->setVisible(titles.size() > 1);
-}
-
-void HealthPanel::fillCurve(const LinkRecord &record, const QDateTime &now)
-{
-    std::vector<TimeCurve::Point> points;
-    int highest = 0;
-    for (const LatencySpan &span : record.latencies(now)) {
-        points.push_back({static_cast<int>(LinkRecord::spanOf(now) - span.number), span.worst});
-        highest = std::max(highest, span.worst);
-    }
-    m_curve->setTexts(QObject::tr("10 min"), QObject::tr("now"),
-                      points.empty() ? QString() : QObject::tr("%1 ms").arg(highest));
-    m_curve->setPoints(std::move(points), kLongestGap);
-    m_curve->setAccessibleName(QObject::tr("Answer times, last ten minutes"));
-}
-
-void HealthPanel::fillErrors(const LinkRecord &record)
-{
-    while (QLayoutItem *item = m_errors->takeAt(0)) {
-        delete item->widget();
-        delete item;
-    }
-    for (const LinkError &error : record.errors()) {
-        auto *row = new QFrame;
-        row->setObjectName(QStringLiteral("healthError"));
-        row->setMinimumHeight(kErrorHeight);
-        auto *cells = new QHBoxLayout(row);
-        cells->setContentsMargins(16, 2, 8, 2);
-        cells->setSpacing(16);
-        QLabel *const time = makeLabel(QStringLiteral("note"), 13);
-        time->setText(error.until.toString(QStringLiteral("hh:mm:ss")));
-        time->setFixedWidth(kErrorTimeWidth);
-        QLabel *const text = makeLabel(QStringLiteral("healthHeading"), 0);
-        text->setText(errorText(error));
-        text->setFixedWidth(kErrorTextWidth);
-        QLabel *const advice = makeLabel(QStringLiteral("note"), 0);
-        advice->setText(errorAdvice(error));
-        cells->addWidget(time);
-        cells->addWidget(text);
-        cells->addWidget(advice, 1);
-        m_errors->addWidget(row);
-    }
-    if (!record.errors().empty())
-        return;
-    QLabel *const none = makeLabel(QStringLiteral("note"), 0);
-    none->setText(QObject::tr("None."));
-    m_errors->addWidget(none);
 }
 
 void HealthPanel::fillButtons()

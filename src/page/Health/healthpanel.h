@@ -1,18 +1,17 @@
 #pragma once
 
-#include <array>
+#include <atomic>
 
 #include <QWidget>
 
 #include "page/Health/everythingread.h"
-#include "page/Health/healthtexts.h"
 
 class BoundTexts;
+class HealthErrors;
+class HealthFigures;
 class QComboBox;
 class QLabel;
 class QPushButton;
-class QVBoxLayout;
-class TimeCurve;
 
 /// How the link to each monitor has been since the program started. Built when it is first shown, and refreshed only
 /// while it is: after a request, at most four times a second.
@@ -37,25 +36,11 @@ private Q_SLOTS:
     void onRecordToggled(bool on);
 
 private:
-    struct Tile
-    {
-        QLabel *value = nullptr;
-        QLabel *detail = nullptr;
-    };
-
     void build();
-    QLabel *makeLabel(const QString &name, int pixels, const char *text = nullptr);
-    QWidget *buildTiles();
-    QWidget *buildTile(Tile &tile, const char *caption);
-    QWidget *buildCurve();
-    QWidget *buildErrors();
     QWidget *buildButtons();
-    QPushButton *makeButton(const char *label, const QString &name);
     void noteRequest();
     void refreshSoon();
     void fillMonitors();
-    void fillCurve(const LinkRecord &record, const QDateTime &now);
-    void fillErrors(const LinkRecord &record);
     void fillButtons();
     void say(const QString &text);
     std::size_t chosen() const;
@@ -64,10 +49,9 @@ private:
     EverythingRead m_reading;
     std::atomic<bool> m_isNoted = false; ///< a refresh is on its way
     bool m_isBuilt = false;
-    std::array<Tile, kHealthFigures> m_tiles;
     QComboBox *m_monitors = nullptr;
-    TimeCurve *m_curve = nullptr;
-    QVBoxLayout *m_errors = nullptr;
+    HealthFigures *m_figures = nullptr;
+    HealthErrors *m_errors = nullptr;
     QLabel *m_facts = nullptr;
     QLabel *m_result = nullptr;
     QPushButton *m_read = nullptr;

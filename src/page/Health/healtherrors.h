@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QScrollArea>
+
+class BoundTexts;
+class LinkRecord;
+class QVBoxLayout;
+
+/// The health page's list of last errors, each with what it means or what to try.
+class HealthErrors : public QScrollArea
+{
+public:
+    HealthErrors(BoundTexts &texts, QWidget *parent);
+
+    /// Shows those of a record, in the language of now.
+    void fill(const LinkRecord &record);
+
+private:
+    QVBoxLayout *m_rows;
+};
