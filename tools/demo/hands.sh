@@ -11,10 +11,21 @@ place_of() {
 }
 
 ask_place() {
+    ask "$1" && grep -q '[0-9]' "$places/place.txt"
+}
+
+# Prints the names of the controls to be seen whose own name or class begins so, a line each.
+names_of() {
+    ask "$1*" || die "the program does not tell what is to be seen"
+    cat "$places/place.txt"
+}
+
+# Puts a question to the program and waits for the answer.
+ask() {
     rm -f "$places/place.txt"
     printf '%s\n' "$1" >"$places/question"
     mv "$places/question" "$places/where.txt"
-    wait_for 5 test -e "$places/place.txt" && grep -q '[0-9]' "$places/place.txt"
+    wait_for 5 test -e "$places/place.txt"
 }
 
 point_at() {

@@ -28,18 +28,24 @@ wait_for() {
 
 # Starts a display of WIDTHxHEIGHT pixels. It and all that is started on it end with the tool, however that ends, or
 # when close_screen is called.
-open_screen() {
+open_display() {
     scratch=$(mktemp -d)
     places=$scratch
     trap close_screen EXIT
     trap 'exit 130' INT
     trap 'exit 143' TERM HUP
     # The server looks for a free number itself, so two tools at a time are no trouble.
-    Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp 3>"$scratch/number" >"$scratch/screen.log" 2>&1 &
+    Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp -noreset 3>"$scratch/number" >"$scratch/screen.log" 2>&1 &
     started+=($!)
     wait_for 15 test -s "$scratch/number" || die "no virtual display: $(<"$scratch/screen.log")"
     DISPLAY=":$(<"$scratch/number")"
-    export DISPLAY QT_QPA_PLATFORM=xcb
+    export DISPLAY
+}
+
+# The same with a window manager and a ground.
+open_screen() {
+    open_display "$1"
+    export QT_QPA_PLATFORM=xcb
     openbox --config-file "$PWD/tools/demo/openbox.xml" >/dev/null 2>&1 &
     started+=($!)
     wait_for 10 timeout 5 xdotool get_desktop || die "the window manager does not start"
