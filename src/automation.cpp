@@ -35,8 +35,9 @@ Automation::Automation(CommandQueue &queue, PageSet &pages, QStackedWidget *stac
 void Automation::showResult(int function, Command command, int value, bool ok)
 {
     const QString name = QObject::tr(shortcutFunction(function)->name);
-    m_overlay->showNote(name, ok ? valueText(function, command, value)
-                                 : QObject::tr("The monitor did not take this setting."));
+    m_overlay->showNote(
+        name, ok ? valueText(function, command, value) : QObject::tr("The monitor did not take this setting."),
+        ok ? m_pages.levelOf(command, value) : std::nullopt);
     Q_EMIT sent(command);
 }
 

@@ -84,22 +84,34 @@ void TestWindowLinks::hotKeysAndFollowingShow()
 
 void TestWindowLinks::overlayNamesValues()
 {
-    for (const auto &[function, key, code, before, text] :
-         {std::tuple(28, 'B', 0x63, 0, "HawkEye Vision: On"),
-          {28, 'C', 0x63, 1, "HawkEye Vision: Off"},
-          {23, 'B', 0xF7, 0, "Audio Mute: Open"}, // as its page says
-          {25, 'B', 0x34, 6, "Game Crosshair: Off"},
-          {25, 'B', 0x34, 2, "Game Crosshair: 3"},
-          {4, 'B', 0x22, 10, "Movie Mode: With the factory parameters"},
-          {4, 'C', 0x22, 9, "Movie Mode: With your own parameters"}}) {
+    for (const auto &[function, key, code, before, text, level] :
+         {std::tuple(28, 'B', 0x63, 0, "HawkEye Vision: On", -1.0),
+          {12, 'B', 0x10, 30, "Brightness: 40", 0.4},
+          {28, 'C', 0x63, 1, "HawkEye Vision: Off", -1},
+          {23, 'B', 0xF7, 0, "Audio Mute: Open", -1}, // as its page says
+          {25, 'B', 0x34, 6, "Game Crosshair: Off", -1},
+          {25, 'B', 0x34, 2, "Game Crosshair: 3", -1},
+          {4, 'B', 0x22, 10, "Movie Mode: With the factory parameters", -1},
+          {4, 'C', 0x22, 9, "Movie Mode: With your own parameters", -1}}) {
         start(10, 0, [function] { saveShortcuts({true, {{function, true, "Ctrl+B", "Ctrl+C"}}}); });
         m_desk->clock.advance(200ms);
         m_desk->monitor().setValue(0x3D, 1); // the crosshair is shown
         m_desk->monitor().setValue(static_cast<std::uint8_t>(code), static_cast<std::uint16_t>(before));
         m_desk->desk.pressKey(platform::kModifierControl, static_cast<std::uint32_t>(key));
         QCOMPARE(m_window->overlay()->text(), QString(text));
+        QCOMPARE(m_window->overlay()->level().value_or(-1), level);
         cleanup();
     }
+}
+
+/// The note on the desktop that can be seen.
+static QWidget *toast()
+{
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        if (window->inherits("DesktopToast") && window->isVisible())
+            return window;
+    }
+    return nullptr;
 }
 
 void TestWindowLinks::overlayGoesByItself()
@@ -108,7 +120,9 @@ void TestWindowLinks::overlayGoesByItself()
     HotkeyOverlay overlay;
     overlay.showNote(QStringLiteral("Brightness"), QStringLiteral("50"));
     m_desk->clock.advance(1000ms);
-    overlay.showNote(QStringLiteral("Brightness"), QStringLiteral("60"));
+    const QRect shape = toast()->frameGeometry();
+    overlay.showNote(QStringLiteral("Brightness, named at more length than a note is wide"), QStringLiteral("60"), 0.6);
+    QCOMPARE(toast()->frameGeometry(), shape); // it does not jump
     m_desk->clock.advance(1000ms);
     QVERIFY(overlay.isShown()); // the second note has its own time
     m_desk->clock.advance(500ms);

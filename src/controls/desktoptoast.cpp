@@ -1,5 +1,6 @@
 #include "controls/desktoptoast.h"
 
+#include <QFontInfo>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QPainter>
@@ -7,35 +8,48 @@
 #include <QVBoxLayout>
 
 #include "controls/announcer.h"
+#include "controls/captionlabel.h"
+#include "controls/palette.h"
 #include "controls/sharedfonts.h"
 
 static constexpr int kDistance = 24; // from the edges of the screen
 static constexpr int kRadius = 12;
+static constexpr int kWidth = 320;
+static constexpr int kSide = 20;
+static constexpr int kEdge = 14;    // above the title
+static constexpr int kBarRoom = 16; // for the bar below the text; a note without one has it around its text
+static constexpr int kBarHeight = 6;
 
 DesktopToast::DesktopToast(QWidget *parent)
     : QWidget(parent, Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::WindowDoesNotAcceptFocus |
                           Qt::WindowTransparentForInput),
-      m_title(new QLabel(this)), m_text(new QLabel(this))
+      m_title(new CaptionLabel(QString(), QFontInfo(noteFont).pixelSize(), this)), m_text(new QLabel(this))
 {
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_TranslucentBackground);
     m_title->setFont(noteFont);
     m_title->setStyleSheet(QStringLiteral("color: #7bfadb;"));
     m_text->setStyleSheet(QStringLiteral("color: #ffffff;"));
+    m_text->setTextFormat(Qt::PlainText);
+    m_text->setWordWrap(true);
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(20, 14, 20, 14);
     column->addWidget(m_title);
     column->addWidget(m_text);
+    setFixedWidth(kWidth);
 }
 
-void DesktopToast::showNote(const QString &title, const QString &text)
+void DesktopToast::showNote(const QString &title, const QString &text, std::optional<double> level)
 {
+    m_level = level;
+    const int below = level ? kBarRoom : kBarRoom / 2;
+    layout()->setContentsMargins(kSide, kEdge + kBarRoom - below, kSide, kEdge + below);
     m_title->setText(title);
     m_text->setText(text);
     adjustSize();
     moveToCorner();
     show();
     Announcer::say(QStringLiteral("%1: %2").arg(title, text));
+    update();
 }
 
 QString DesktopToast::title() const
@@ -61,4 +75,17 @@ void DesktopToast::paintEvent(QPaintEvent *)
     painter.setPen(QColor(27, 80, 67));
     painter.setBrush(QColor(0x16, 0x1d, 0x1a, 240));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
+    if (m_level)
+        drawBar(painter);
+}
+
+void DesktopToast::drawBar(QPainter &painter) const
+{
+    QRectF bar(kSide, height() - kEdge - kBarHeight, width() - 2 * kSide, kBarHeight);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(Palette::kGroove));
+    painter.drawRoundedRect(bar, kBarHeight / 2.0, kBarHeight / 2.0);
+    bar.setWidth(bar.width() * *m_level);
+    painter.setBrush(QColor(Palette::kMint));
+    painter.drawRoundedRect(bar, kBarHeight / 2.0, kBarHeight / 2.0);
 }

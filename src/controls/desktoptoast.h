@@ -1,21 +1,27 @@
 #pragma once
 
+#include <optional>
+
 #include <QWidget>
 
+class CaptionLabel;
 class QLabel;
+class QPainter;
 
-/// A small note in the corner of the desktop. It never takes the focus and lets clicks through; the owner hides it.
+/// A small note in the corner of the desktop, of one shape whatever it says: only a text of several lines makes it
+/// taller. It never takes the focus and lets clicks through; the owner hides it.
 class DesktopToast : public QWidget
 {
     Q_OBJECT
 public:
     explicit DesktopToast(QWidget *parent = nullptr);
 
-    /// Shows a note, in place of the one before.
-    void showNote(const QString &title, const QString &text);
+    /// Shows a note, in place of the one before; a level, 0 to 1, as a bar below it.
+    void showNote(const QString &title, const QString &text, std::optional<double> level = {});
 
     QString title() const;
     QString text() const;
+    std::optional<double> level() const { return m_level; }
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -23,6 +29,9 @@ protected:
 private:
     void moveToCorner();
 
-    QLabel *m_title;
+    void drawBar(QPainter &painter) const;
+
+    CaptionLabel *m_title;
     QLabel *m_text;
+    std::optional<double> m_level;
 };

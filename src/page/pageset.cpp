@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QScopedValueRollback>
 
+#include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/transport.h"
 #include "page/engine/optiongrouprow.h"
@@ -68,6 +69,18 @@ QString PageSet::optionText(Command command, int value) const
         const OptionGroupRow *row = settings ? settings->optionGroup(command) : nullptr;
         if (const QPushButton *option = row ? row->buttonOf(value) : nullptr)
             return option->text().trimmed();
+    }
+    return {};
+}
+
+std::optional<double> PageSet::levelOf(Command command, int value) const
+{
+    for (const auto &[id, page] : m_pages) {
+        const auto *settings = dynamic_cast<SettingsPage *>(page);
+        if (const SliderWidget *owner = settings ? settings->slider(command) : nullptr) {
+            const QSlider *range = owner->slider();
+            return std::clamp(double(value - range->minimum()) / (range->maximum() - range->minimum()), 0.0, 1.0);
+        }
     }
     return {};
 }

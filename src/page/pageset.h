@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <vector>
 
 #include <QString>
@@ -37,6 +38,9 @@ public:
 
     /// A value as the page names it that offers it; empty where none does.
     QString optionText(Command command, int value) const;
+
+    /// Where a value lies in the range of the slider that sets it, 0 to 1; nothing where no page has one.
+    std::optional<double> levelOf(Command command, int value) const;
 
 private:
     std::map<PageId, Page *> m_pages;

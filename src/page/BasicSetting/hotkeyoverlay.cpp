@@ -29,20 +29,21 @@ HotkeyOverlay::HotkeyOverlay(QObject *parent) : QObject(parent), m_toast(std::ma
 
 HotkeyOverlay::~HotkeyOverlay() = default;
 
-void HotkeyOverlay::showNote(const QString &function, const QString &value)
+void HotkeyOverlay::showNote(const QString &function, const QString &value, std::optional<double> level)
 {
     if (hotkeyOverlayOn())
-        show(function, value, kNoteShown);
+        show(function, value, level, kNoteShown);
 }
 
 void HotkeyOverlay::showMessage(const QString &title, const QString &text)
 {
-    show(title, text, kMessageShown);
+    show(title, text, {}, kMessageShown);
 }
 
-void HotkeyOverlay::show(const QString &title, const QString &text, platform::milliseconds shown)
+void HotkeyOverlay::show(const QString &title, const QString &text, std::optional<double> level,
+                         platform::milliseconds shown)
 {
-    m_toast->showNote(title, text);
+    m_toast->showNote(title, text, level);
     platform::desk().clock().callLater(shown, this, [this, note = ++m_notes] {
         if (note == m_notes)
             m_toast->hide();
@@ -52,6 +53,11 @@ void HotkeyOverlay::show(const QString &title, const QString &text, platform::mi
 QString HotkeyOverlay::text() const
 {
     return QStringLiteral("%1: %2").arg(m_toast->title(), m_toast->text());
+}
+
+std::optional<double> HotkeyOverlay::level() const
+{
+    return m_toast->level();
 }
 
 bool HotkeyOverlay::isShown() const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include <QObject>
 
@@ -22,8 +23,8 @@ public:
     explicit HotkeyOverlay(QObject *parent = nullptr);
     ~HotkeyOverlay() override;
 
-    /// Shows a note in place of the one before, unless the user has switched that off.
-    void showNote(const QString &function, const QString &value);
+    /// Shows a note in place of the one before, unless the user has switched that off. A level, 0 to 1, is a bar.
+    void showNote(const QString &function, const QString &value, std::optional<double> level = {});
 
     /// Shows what the program has to say by itself, for 8 s, also when the user has switched the notes off.
     void showMessage(const QString &title, const QString &text);
@@ -32,9 +33,11 @@ public:
 
     /// What the last note said, as "function: value".
     QString text() const;
+    /// The level of its bar; nothing when it has none.
+    std::optional<double> level() const;
 
 private:
-    void show(const QString &title, const QString &text, platform::milliseconds shown);
+    void show(const QString &title, const QString &text, std::optional<double> level, platform::milliseconds shown);
 
     std::unique_ptr<DesktopToast> m_toast;
     int m_notes = 0; ///< a note does not end with the time of the one before

@@ -190,6 +190,13 @@ const PageControls::Slider *PageControls::sliderEntry(const QString &name) const
 {
     const auto entry = std::find_if(m_sliderEntries.begin(), m_sliderEntries.end(),
                                     [&name](const Slider &slider) { return slider.widget->name() == name; });
+SliderWidget *PageControls::slider(Command command) const
+{
+    const auto entry = std::find_if(m_sliderEntries.begin(), m_sliderEntries.end(),
+                                    [command](const Slider &slider) { return slider.command() == command; });
+    return entry == m_sliderEntries.end() ? nullptr : entry->widget;
+}
+
     return entry == m_sliderEntries.end() ? nullptr : &*entry;
 }
 

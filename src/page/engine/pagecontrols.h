@@ -64,6 +64,7 @@ public:
     OptionGroupRow *ownGroup(const char *label) const;
     SliderWidget *slider(const char *name) const;
     const Slider *sliderEntry(const QString &name) const;
+    SliderWidget *slider(Command command) const; ///< whose value goes to it now
 
     /// What the controls stand for that are in sight when the page is: groups first.
     std::vector<Command> commandsInSight(const QWidget *page) const;

@@ -46,6 +46,7 @@ public:
     /// Options without a command, by their label.
     OptionGroupRow *ownGroup(const char *label) const { return m_controls.ownGroup(label); }
     SliderWidget *slider(const char *name) const { return m_controls.slider(name); }
+    SliderWidget *slider(Command command) const { return m_controls.slider(command); }
 
     /// What is said under the title, such as why something was not done; empty when there is nothing to say.
     QString notice() const;
