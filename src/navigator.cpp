@@ -23,7 +23,7 @@ Navigator::Navigator(const PageSet &pages, QWidget *window)
         m_barStack->addWidget(bar);
         connect(bar, &LeftBar::entryChosen, this, [this, family](int index) { chooseEntry(family, index); });
     }
-    connect(m_tabs, &TopTabFrame::tabChosen, this, &Navigator::showFamily);
+    connect(m_tabs, &TopTabFrame::tabChosen, this, &Navigator::openFamily);
 }
 
 void Navigator::start()
@@ -44,6 +44,24 @@ void Navigator::showFamily(int family)
     m_tabs->setCurrent(family);
     m_barStack->setCurrentIndex(family);
     showEntryPage(family);
+}
+
+/// Who opens a family comes for something to set: what leads to none gives way to the first entry that does.
+void Navigator::openFamily(int family)
+{
+    LeftBar *left = bar(family);
+    const auto &entries = left->entries();
+    const auto leads = [this](const NavigationEntry &entry) {
+        return m_pages.page(entry.page) && (entry.needsAny == 0 || deviceState.hasAny(entry.needsAny));
+    };
+    const auto first = std::find_if(entries.begin(), entries.end(), leads);
+    const bool isChosen = left->current() >= 0 && leads(entries[static_cast<std::size_t>(left->current())]);
+    if (family >= kSceneFamilies && !isChosen && first != entries.end()) {
+        const auto index = first - entries.begin();
+        if (left->buttons()[static_cast<std::size_t>(index)]->isEnabled())
+            left->setCurrent(static_cast<int>(index));
+    }
+    showFamily(family);
 }
 
 void Navigator::showEntryPage(int family)

@@ -52,6 +52,7 @@ Q_SIGNALS:
 
 private:
     void chooseEntry(int family, int index);
+    void openFamily(int family);
     void showEntryPage(int family);
     void showSceneFamily(int family);
 
