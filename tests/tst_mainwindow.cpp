@@ -6,6 +6,7 @@
 #include "ddc_protocol/scenemodes.h"
 #include "page/Office/pageoffice.h"
 #include "page/emptypage.h"
+#include "page/engine/panelpage.h"
 #include "support/windowfixture.h"
 #include "support/wirevalues.h"
 
@@ -17,6 +18,20 @@ QStringList shownTexts(const QWidget *page)
     for (const QLabel *label : page->findChildren<QLabel *>())
         texts.append(label->text());
     return texts;
+}
+
+/// Panels that do not say what they are for.
+QStringList unexplainedPanels(PanelPage &page)
+{
+    QStringList found;
+    const int shown = page.currentPanel();
+    for (int panel = page.panelCount() - 1; panel >= 0; --panel) {
+        page.showPanel(panel);
+        if (page.findChild<QLabel *>("help")->text().isEmpty())
+            found.append(page.findChild<QLabel *>("title")->text());
+    }
+    page.showPanel(shown);
+    return found;
 }
 
 /// Captions by what is drawn above them; the icons of tabs have a narrower border than those of entries.
@@ -211,6 +226,7 @@ void TestMainWindow::otherEntriesNameThemselves()
         addMeaning(meanings, tab->icon(), tab->accessibleName());
     for (const QStringList &captions : std::as_const(meanings))
         QVERIFY2(captions.size() == 1, qPrintable("one icon means: " + captions.join(", ")));
+    QCOMPARE(unexplained, QStringList());
     QVERIFY(meanings.size() > 80); // pages' own entries among them
 }
 

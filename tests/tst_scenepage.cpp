@@ -187,6 +187,16 @@ void TestScenePage::motionOptionsByScene()
 
 void TestScenePage::halves()
 {
+    start(10);
+    QMap<QRgb, QStringList> dots;
+    for (SliderWidget *slider : m_page->sliders()) {
+        if (slider->name().contains('_'))
+            dots[slider->grab().toImage().pixel(4, slider->height() / 2)].append(slider->name());
+    }
+    QCOMPARE(dots.size(), 6); // a colour's two sliders have one dot
+    for (const QStringList &names : std::as_const(dots))
+        QVERIFY(names.size() == 2 && names.front().section('_', 1) == names.back().section('_', 1));
+    cleanup();
     const auto rows = {std::tuple(10, "        Default", QStringList{"W 22=9"}),
                        {10, "        Custom", QStringList()}, // is on already
                        {9, "        Default", QStringList()}};
@@ -213,8 +223,12 @@ void TestScenePage::halfWithUnreadBlock()
         m_desk->monitor().dropChunks(readable ? 0 : virtualdesk::kForEver);
         {
             const auto busy = lockTransport(); // before the worker's first request
-            QTest::mouseClick(half("        Custom"), Qt::LeftButton);
-            deviceState.told(Command::SceneMode, 9); // as a reconnection meanwhile finds it
+            half("Make it your own")->setFocus();
+            if (readable)
+                QTest::mouseClick(half("        Custom"), Qt::LeftButton);
+            else
+                QTest::keyClick(half("Make it your own"), Qt::Key_Space); // does the same
+            deviceState.told(Command::SceneMode, 9);                      // as a reconnection meanwhile finds it
         }
         QCOMPARE(begins.count(), 1);
         QTRY_COMPARE(ended.count(), 1);
@@ -222,6 +236,8 @@ void TestScenePage::halfWithUnreadBlock()
         if (readable)
             QCOMPARE(sent, QStringList({"R 22", "R 0a"}) + QStringList(10, "R fe") + QStringList("W 22=10"));
         QVERIFY(sent.contains("W 22=10")); // what cannot be read is asked for once more in the background
+        QVERIFY(m_page->focusWidget() && m_page->focusWidget()->isVisible()); // it went with the half
+        QVERIFY(half("        Custom")->isChecked() && m_page->slider("Brightness")->isVisible());
         QCOMPARE(m_page->slider("Brightness")->value(), readable ? 77 : before);
         QCOMPARE(deviceState.sceneBlockValid(), readable);
         QCOMPARE(deviceState.value(Command::SceneMode), 10);

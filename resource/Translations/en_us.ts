@@ -120,6 +120,10 @@
         <translation>%1, frames: %2</translation>
     </message>
     <message>
+        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
+        <translation>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</translation>
+    </message>
+    <message>
         <source>1 Hour</source>
         <translation>1 Hour</translation>
     </message>
@@ -214,10 +218,6 @@
     <message>
         <source>9300K</source>
         <translation>9300K</translation>
-    </message>
-    <message>
-        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
-        <translation>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</translation>
     </message>
     <message>
         <source>A WAV file</source>
@@ -452,6 +452,10 @@
         <translation>Blue</translation>
     </message>
     <message>
+        <source>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = as the picture needs it.</source>
+        <translation>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = as the picture needs it.</translation>
+    </message>
+    <message>
         <source>Brightness</source>
         <translation>Brightness</translation>
     </message>
@@ -514,10 +518,6 @@
     <message>
         <source>Channels</source>
         <translation>Channels</translation>
-    </message>
-    <message>
-        <source>Choose Custom to make it your own.</source>
-        <translation>Choose Custom to make it your own.</translation>
     </message>
     <message>
         <source>Choose a mode on the left. On now: %1</source>
@@ -672,6 +672,10 @@
         <translation>Desktop</translation>
     </message>
     <message>
+        <source>Dims the light behind dark parts, so that black is deeper. Close = off; the others are stronger in turn.</source>
+        <translation>Dims the light behind dark parts, so that black is deeper. Close = off; the others are stronger in turn.</translation>
+    </message>
+    <message>
         <source>Display P3</source>
         <translation>Display P3</translation>
     </message>
@@ -690,6 +694,18 @@
     <message>
         <source>Draw frames cell by cell; the matrix plays them in a loop.</source>
         <translation>Draw frames cell by cell; the matrix plays them in a loop.</translation>
+    </message>
+    <message>
+        <source>Draws guide lines for composing a picture. Close = none, Trichotomy = into thirds, Round = a circle.</source>
+        <translation>Draws guide lines for composing a picture. Close = none, Trichotomy = into thirds, Round = a circle.</translation>
+    </message>
+    <message>
+        <source>Draws lines that divide the screen. Close = none; Alignment_4, Alignment_6 and Alignment_9 = into 4, 6 or 9 parts.</source>
+        <translation>Draws lines that divide the screen. Close = none; Alignment_4, Alignment_6 and Alignment_9 = into 4, 6 or 9 parts.</translation>
+    </message>
+    <message>
+        <source>Draws the outline of a sheet on the screen. Close = none, Custom Size = as large as you set it.</source>
+        <translation>Draws the outline of a sheet on the screen. Close = none, Custom Size = as large as you set it.</translation>
     </message>
     <message>
         <source>Drop a chunk</source>
@@ -814,6 +830,10 @@
     <message>
         <source>For code on a light ground.</source>
         <translation>For code on a light ground.</translation>
+    </message>
+    <message>
+        <source>For finding out why a monitor does not answer as it should.</source>
+        <translation>For finding out why a monitor does not answer as it should.</translation>
     </message>
     <message>
         <source>Four bytes of the next scene-mode block get lost</source>
@@ -972,6 +992,34 @@
         <translation>Hotkey conflict</translation>
     </message>
     <message>
+        <source>How and where the monitor&apos;s own menu is shown. No Signal Timer = how soon the monitor sleeps without a signal.</source>
+        <translation>How and where the monitor&apos;s own menu is shown. No Signal Timer = how soon the monitor sleeps without a signal.</translation>
+    </message>
+    <message>
+        <source>How bright the lamp shines that tells that the monitor is on. Close = dark, Level3 = brightest.</source>
+        <translation>How bright the lamp shines that tells that the monitor is on. Close = dark, Level3 = brightest.</translation>
+    </message>
+    <message>
+        <source>How bright the middle tones are. The higher the value, the darker.</source>
+        <translation>How bright the middle tones are. The higher the value, the darker.</translation>
+    </message>
+    <message>
+        <source>How long the monitor waits without a signal before it sleeps.</source>
+        <translation>How long the monitor waits without a signal before it sleeps.</translation>
+    </message>
+    <message>
+        <source>How often a day the tool may change the monitor without your doing.</source>
+        <translation>How often a day the tool may change the monitor without your doing.</translation>
+    </message>
+    <message>
+        <source>How pictures with a high dynamic range are shown. Close = off, Auto = when the signal has it.</source>
+        <translation>How pictures with a high dynamic range are shown. Close = off, Auto = when the signal has it.</translation>
+    </message>
+    <message>
+        <source>How the LED matrix behind the monitor shines. Matrix Lamp and Clock: Close = off, Open = on.</source>
+        <translation>How the LED matrix behind the monitor shines. Matrix Lamp and Clock: Close = off, Open = on.</translation>
+    </message>
+    <message>
         <source>How the link to the monitor has been since the program started.</source>
         <translation>How the link to the monitor has been since the program started.</translation>
     </message>
@@ -986,6 +1034,14 @@
     <message>
         <source>How the print will look.</source>
         <translation>How the print will look.</translation>
+    </message>
+    <message>
+        <source>How this tool starts, which language it speaks and what it may do by itself.</source>
+        <translation>How this tool starts, which language it speaks and what it may do by itself.</translation>
+    </message>
+    <message>
+        <source>How warm white looks. 5000K = warmest, 9300K = coldest, User1 to User3 = your own mixtures.</source>
+        <translation>How warm white looks. 5000K = warmest, 9300K = coldest, User1 to User3 = your own mixtures.</translation>
     </message>
     <message>
         <source>Hue</source>
@@ -1088,6 +1144,10 @@
         <translation>Less blue light for long days.</translation>
     </message>
     <message>
+        <source>Lets the monitor switch between its two modes by itself. Close = off, Open = on.</source>
+        <translation>Lets the monitor switch between its two modes by itself. Close = off, Open = on.</translation>
+    </message>
+    <message>
         <source>Level1</source>
         <translation>Level1</translation>
     </message>
@@ -1118,6 +1178,10 @@
     <message>
         <source>Localdimming</source>
         <translation>Localdimming</translation>
+    </message>
+    <message>
+        <source>Locks the monitor&apos;s own menu, so that nobody changes it by accident.</source>
+        <translation>Locks the monitor&apos;s own menu, so that nobody changes it by accident.</translation>
     </message>
     <message>
         <source>Look for the monitor again</source>
@@ -1170,6 +1234,22 @@
     <message>
         <source>Magenta</source>
         <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Make it your own</source>
+        <translation>Make it your own</translation>
+    </message>
+    <message>
+        <source>Makes colours stronger. 0 = off.</source>
+        <translation>Makes colours stronger. 0 = off.</translation>
+    </message>
+    <message>
+        <source>Makes dark parts lighter or darker, so that you see what is in the shadows.</source>
+        <translation>Makes dark parts lighter or darker, so that you see what is in the shadows.</translation>
+    </message>
+    <message>
+        <source>Makes what moves look sharper. Close = off; Low to High and Ull-Level1 to 3 are stronger in turn.</source>
+        <translation>Makes what moves look sharper. Close = off; Low to High and Ull-Level1 to 3 are stronger in turn.</translation>
     </message>
     <message>
         <source>Matches notebooks with a Display P3 screen.</source>
@@ -1278,6 +1358,10 @@
     <message>
         <source>Music Mode</source>
         <translation>Music Mode</translation>
+    </message>
+    <message>
+        <source>Must match the computer&apos;s signal. RGB Auto = found out by itself, RGB Limit = 16 to 235, RGB Full = 0 to 255.</source>
+        <translation>Must match the computer&apos;s signal. RGB Auto = found out by itself, RGB Limit = 16 to 235, RGB Full = 0 to 255.</translation>
     </message>
     <message>
         <source>NA</source>
@@ -1500,6 +1584,10 @@
         <translation>Picture Enhance</translation>
     </message>
     <message>
+        <source>Pixels change faster and motion smears less. Close = off, Topspeed = fastest, which may leave bright edges.</source>
+        <translation>Pixels change faster and motion smears less. Close = off, Topspeed = fastest, which may leave bright edges.</translation>
+    </message>
+    <message>
         <source>Plain, floating point</source>
         <translation>Plain, floating point</translation>
     </message>
@@ -1522,6 +1610,10 @@
     <message>
         <source>Power Saving</source>
         <translation>Power Saving</translation>
+    </message>
+    <message>
+        <source>Power for devices at the monitor&apos;s USB sockets, and the picture through the Type-C socket (DP Alt Mode).</source>
+        <translation>Power for devices at the monitor&apos;s USB sockets, and the picture through the Type-C socket (DP Alt Mode).</translation>
     </message>
     <message>
         <source>Press</source>
@@ -1592,6 +1684,10 @@
         <translation>RGB Limit</translation>
     </message>
     <message>
+        <source>Raises the contrast between light and dark parts. 0 = off.</source>
+        <translation>Raises the contrast between light and dark parts. 0 = off.</translation>
+    </message>
+    <message>
         <source>Rate</source>
         <translation>Rate</translation>
     </message>
@@ -1648,6 +1744,10 @@
         <translation>Redo</translation>
     </message>
     <message>
+        <source>Reduces the glow around bright things on a dark ground.</source>
+        <translation>Reduces the glow around bright things on a dark ground.</translation>
+    </message>
+    <message>
         <source>Refresh Rate</source>
         <translation>Refresh Rate</translation>
     </message>
@@ -1658,6 +1758,10 @@
     <message>
         <source>Refuse writes</source>
         <translation>Refuse writes</translation>
+    </message>
+    <message>
+        <source>Reminds you to rest your eyes each time the chosen span has passed. Close = off.</source>
+        <translation>Reminds you to rest your eyes each time the chosen span has passed. Close = off.</translation>
     </message>
     <message>
         <source>Rendering</source>
@@ -1816,6 +1920,10 @@
         <translation>Set everything back to how the monitor left the factory? The screen goes dark for a few seconds.</translation>
     </message>
     <message>
+        <source>Sets everything in the monitor back to how it left the factory.</source>
+        <translation>Sets everything in the monitor back to how it left the factory.</translation>
+    </message>
+    <message>
         <source>Settings</source>
         <translation>Settings</translation>
     </message>
@@ -1840,6 +1948,10 @@
         <translation>Shortcut overlay</translation>
     </message>
     <message>
+        <source>Shortens the delay between your hand and the picture in fast games. Adaptive-Sync cannot be chosen meanwhile.</source>
+        <translation>Shortens the delay between your hand and the picture in fast games. Adaptive-Sync cannot be chosen meanwhile.</translation>
+    </message>
+    <message>
         <source>Show</source>
         <translation>Show</translation>
     </message>
@@ -1850,6 +1962,18 @@
     <message>
         <source>Shown</source>
         <translation>Shown</translation>
+    </message>
+    <message>
+        <source>Shows a ruler on the screen. Angle close = off, Ruler = for lengths, Angle Ruler = for angles.</source>
+        <translation>Shows a ruler on the screen. Angle close = off, Ruler = for lengths, Angle Ruler = for angles.</translation>
+    </message>
+    <message>
+        <source>Shows guide lines that help to line things up. Close = off, Open = on.</source>
+        <translation>Shows guide lines that help to line things up. Close = off, Open = on.</translation>
+    </message>
+    <message>
+        <source>Shows on the desktop what a shortcut has just changed.</source>
+        <translation>Shows on the desktop what a shortcut has just changed.</translation>
     </message>
     <message>
         <source>Silence</source>
@@ -1928,6 +2052,10 @@
         <translation>Super Resolution</translation>
     </message>
     <message>
+        <source>Super Resolution: makes blurred or enlarged pictures look sharper. 0 = off.</source>
+        <translation>Super Resolution: makes blurred or enlarged pictures look sharper. 0 = off.</translation>
+    </message>
+    <message>
         <source>Switch off</source>
         <translation>Switch off</translation>
     </message>
@@ -1946,6 +2074,10 @@
     <message>
         <source>Taken by another</source>
         <translation>Taken by another</translation>
+    </message>
+    <message>
+        <source>Takes blue out of the picture, which is easier on the eyes. 0 = off.</source>
+        <translation>Takes blue out of the picture, which is easier on the eyes. 0 = off.</translation>
     </message>
     <message>
         <source>Tapering</source>
@@ -1970,6 +2102,10 @@
     <message>
         <source>The APP will restart automatically when switching languages.</source>
         <translation>The APP will restart automatically when switching languages.</translation>
+    </message>
+    <message>
+        <source>The LED matrix moves with the sound that this computer plays. Close = off, Open = on.</source>
+        <translation>The LED matrix moves with the sound that this computer plays. Close = off, Open = on.</translation>
     </message>
     <message>
         <source>The accessory becomes the next of its models; the button is up while it is the first</source>
@@ -1998,6 +2134,10 @@
     <message>
         <source>The answer to the next read never arrives</source>
         <translation>The answer to the next read never arrives</translation>
+    </message>
+    <message>
+        <source>The brightness follows the light in the room. Close = off, Open = on.</source>
+        <translation>The brightness follows the light in the room. Close = off, Open = on.</translation>
     </message>
     <message>
         <source>The cable is pulled out at the eighth report from now</source>
@@ -2044,6 +2184,10 @@
         <translation>The file holds no whole frame.</translation>
     </message>
     <message>
+        <source>The form of the matrix that you have: what is shown is drawn for it.</source>
+        <translation>The form of the matrix that you have: what is shown is drawn for it.</translation>
+    </message>
+    <message>
         <source>The grey scale of medical pictures.</source>
         <translation>The grey scale of medical pictures.</translation>
     </message>
@@ -2052,12 +2196,28 @@
         <translation>The hotkey you set is occupied,please reset it again!</translation>
     </message>
     <message>
+        <source>The language of the monitor&apos;s own menu, not of this tool.</source>
+        <translation>The language of the monitor&apos;s own menu, not of this tool.</translation>
+    </message>
+    <message>
         <source>The maker&apos;s own tuning.</source>
         <translation>The maker&apos;s own tuning.</translation>
     </message>
     <message>
+        <source>The matrix shows the time of day. Close = off, Open = on.</source>
+        <translation>The matrix shows the time of day. Close = off, Open = on.</translation>
+    </message>
+    <message>
+        <source>The monitor and devices at its HDMI sockets switch each other on and off.</source>
+        <translation>The monitor and devices at its HDMI sockets switch each other on and off.</translation>
+    </message>
+    <message>
         <source>The monitor answers nothing until the button is released</source>
         <translation>The monitor answers nothing until the button is released</translation>
+    </message>
+    <message>
+        <source>The monitor comes on faster, but needs more power while it is off.</source>
+        <translation>The monitor comes on faster, but needs more power while it is off.</translation>
     </message>
     <message>
         <source>The monitor did not confirm this value.</source>
@@ -2092,8 +2252,20 @@
         <translation>The monitor is changing its scene mode.</translation>
     </message>
     <message>
+        <source>The monitor keeps pace with the game: no torn or jerky pictures. Game Rush must be off.</source>
+        <translation>The monitor keeps pace with the game: no torn or jerky pictures. Game Rush must be off.</translation>
+    </message>
+    <message>
+        <source>The monitor notices when its screen is turned upright. Close = off, Open = on.</source>
+        <translation>The monitor notices when its screen is turned upright. Close = off, Open = on.</translation>
+    </message>
+    <message>
         <source>The monitor takes no value until the button is released</source>
         <translation>The monitor takes no value until the button is released</translation>
+    </message>
+    <message>
+        <source>The monitor uses less power. Close = off, Level2 saves the most.</source>
+        <translation>The monitor uses less power. Close = off, Level2 saves the most.</translation>
     </message>
     <message>
         <source>The next client is not initialised</source>
@@ -2152,6 +2324,10 @@
         <translation>The simulated monitor that is shown here</translation>
     </message>
     <message>
+        <source>The sound of the monitor. Audio Mute: Close = sound, Open = silence. Convo = for voices.</source>
+        <translation>The sound of the monitor. Audio Mute: Close = sound, Open = silence. Convo = for voices.</translation>
+    </message>
+    <message>
         <source>The sound output cannot be listened to. It is tried again every few seconds.</source>
         <translation>The sound output cannot be listened to. It is tried again every few seconds.</translation>
     </message>
@@ -2178,6 +2354,10 @@
     <message>
         <source>The upgrade program is running already.</source>
         <translation>The upgrade program is running already.</translation>
+    </message>
+    <message>
+        <source>The version of your monitor&apos;s firmware.</source>
+        <translation>The version of your monitor&apos;s firmware.</translation>
     </message>
     <message>
         <source>The white of printed paper.</source>
@@ -2406,6 +2586,18 @@
     <message>
         <source>Wheel: one step · Tab, arrows · Esc closes</source>
         <translation>Wheel: one step · Tab, arrows · Esc closes</translation>
+    </message>
+    <message>
+        <source>Which cable the monitor&apos;s USB sockets go to, and how fast the picture comes through DP or Type-C.</source>
+        <translation>Which cable the monitor&apos;s USB sockets go to, and how fast the picture comes through DP or Type-C.</translation>
+    </message>
+    <message>
+        <source>Which of your monitors this tool sets.</source>
+        <translation>Which of your monitors this tool sets.</translation>
+    </message>
+    <message>
+        <source>Which socket the picture comes from. Auto = the one that has a signal.</source>
+        <translation>Which socket the picture comes from. Auto = the one that has a signal.</translation>
     </message>
     <message>
         <source>Width</source>

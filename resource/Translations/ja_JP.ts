@@ -120,6 +120,10 @@
         <translation>%1、フレーム数: %2</translation>
     </message>
     <message>
+        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
+        <translation>&lt;font color=white&gt;ディスプレイ情報を取得しています...&lt;/font&gt;</translation>
+    </message>
+    <message>
         <source>1 Hour</source>
         <translation>1 時間</translation>
     </message>
@@ -214,10 +218,6 @@
     <message>
         <source>9300K</source>
         <translation>9300K</translation>
-    </message>
-    <message>
-        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
-        <translation>&lt;font color=white&gt;ディスプレイ情報を取得しています...&lt;/font&gt;</translation>
     </message>
     <message>
         <source>A WAV file</source>
@@ -452,6 +452,10 @@
         <translation>青</translation>
     </message>
     <message>
+        <source>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = as the picture needs it.</source>
+        <translation>暗い場面を明るくします。「レベル 1」と「レベル 2」は常に、「自動 L1」と「自動 L2」は映像に応じて働きます。</translation>
+    </message>
+    <message>
         <source>Brightness</source>
         <translation>輝度</translation>
     </message>
@@ -514,10 +518,6 @@
     <message>
         <source>Channels</source>
         <translation>チャンネル</translation>
-    </message>
-    <message>
-        <source>Choose Custom to make it your own.</source>
-        <translation>「カスタム」を選ぶと好みに合わせて調整できます。</translation>
     </message>
     <message>
         <source>Choose a mode on the left. On now: %1</source>
@@ -672,6 +672,10 @@
         <translation>デスクトップ</translation>
     </message>
     <message>
+        <source>Dims the light behind dark parts, so that black is deeper. Close = off; the others are stronger in turn.</source>
+        <translation>暗い部分のバックライトを弱め、黒を深くします。右の項目ほど強くなります。</translation>
+    </message>
+    <message>
         <source>Display P3</source>
         <translation>Display P3</translation>
     </message>
@@ -690,6 +694,18 @@
     <message>
         <source>Draw frames cell by cell; the matrix plays them in a loop.</source>
         <translation>フレームを 1 マスずつ描きます。マトリックスは繰り返し再生します。</translation>
+    </message>
+    <message>
+        <source>Draws guide lines for composing a picture. Close = none, Trichotomy = into thirds, Round = a circle.</source>
+        <translation>構図の目安になる線を表示します。「三分割」は画面を三等分します。</translation>
+    </message>
+    <message>
+        <source>Draws lines that divide the screen. Close = none; Alignment_4, Alignment_6 and Alignment_9 = into 4, 6 or 9 parts.</source>
+        <translation>画面を 4、6、9 つに分ける線を表示します。</translation>
+    </message>
+    <message>
+        <source>Draws the outline of a sheet on the screen. Close = none, Custom Size = as large as you set it.</source>
+        <translation>画面に用紙の枠を表示します。「カスタムサイズ」では大きさを決められます。</translation>
     </message>
     <message>
         <source>Drop a chunk</source>
@@ -814,6 +830,10 @@
     <message>
         <source>For code on a light ground.</source>
         <translation>明るい背景のコード向けです。</translation>
+    </message>
+    <message>
+        <source>For finding out why a monitor does not answer as it should.</source>
+        <translation>モニターが正しく応答しない原因を調べるときに使います。</translation>
     </message>
     <message>
         <source>Four bytes of the next scene-mode block get lost</source>
@@ -972,6 +992,34 @@
         <translation>ショートカットキーの競合</translation>
     </message>
     <message>
+        <source>How and where the monitor&apos;s own menu is shown. No Signal Timer = how soon the monitor sleeps without a signal.</source>
+        <translation>モニターのメニューの表示方法と位置です。「無信号タイマー」は信号がないときにスリープするまでの時間です。</translation>
+    </message>
+    <message>
+        <source>How bright the lamp shines that tells that the monitor is on. Close = dark, Level3 = brightest.</source>
+        <translation>モニターの電源ランプの明るさです。「レベル 3」が最も明るくなります。</translation>
+    </message>
+    <message>
+        <source>How bright the middle tones are. The higher the value, the darker.</source>
+        <translation>中間の明るさの見え方です。値が大きいほど暗くなります。</translation>
+    </message>
+    <message>
+        <source>How long the monitor waits without a signal before it sleeps.</source>
+        <translation>信号がないとき、モニターがスリープするまでの時間です。</translation>
+    </message>
+    <message>
+        <source>How often a day the tool may change the monitor without your doing.</source>
+        <translation>ツールが 1 日に自動でモニターを変更してよい回数です。</translation>
+    </message>
+    <message>
+        <source>How pictures with a high dynamic range are shown. Close = off, Auto = when the signal has it.</source>
+        <translation>ハイダイナミックレンジ映像の表示方法です。「自動」は HDR 信号のときだけ有効になります。</translation>
+    </message>
+    <message>
+        <source>How the LED matrix behind the monitor shines. Matrix Lamp and Clock: Close = off, Open = on.</source>
+        <translation>モニターの背面にある LED マトリクスの光り方です。</translation>
+    </message>
+    <message>
         <source>How the link to the monitor has been since the program started.</source>
         <translation>アプリ起動後のモニターとの通信状況です。</translation>
     </message>
@@ -986,6 +1034,14 @@
     <message>
         <source>How the print will look.</source>
         <translation>印刷物の見え方です。</translation>
+    </message>
+    <message>
+        <source>How this tool starts, which language it speaks and what it may do by itself.</source>
+        <translation>このツールの起動方法、言語、自動で行う操作を決めます。</translation>
+    </message>
+    <message>
+        <source>How warm white looks. 5000K = warmest, 9300K = coldest, User1 to User3 = your own mixtures.</source>
+        <translation>白の色合いです。5000K が最も暖かく、9300K が最も冷たい色で、ユーザー 1～3 は自由に調整できます。</translation>
     </message>
     <message>
         <source>Hue</source>
@@ -1088,6 +1144,10 @@
         <translation>長時間の作業に適したブルーライト低減です。</translation>
     </message>
     <message>
+        <source>Lets the monitor switch between its two modes by itself. Close = off, Open = on.</source>
+        <translation>モニターが 2 つのモードを自動で切り替えます。</translation>
+    </message>
+    <message>
         <source>Level1</source>
         <translation>レベル 1</translation>
     </message>
@@ -1118,6 +1178,10 @@
     <message>
         <source>Localdimming</source>
         <translation>ローカルディミング</translation>
+    </message>
+    <message>
+        <source>Locks the monitor&apos;s own menu, so that nobody changes it by accident.</source>
+        <translation>モニターのメニューをロックし、誤って変更されるのを防ぎます。</translation>
     </message>
     <message>
         <source>Look for the monitor again</source>
@@ -1170,6 +1234,22 @@
     <message>
         <source>Magenta</source>
         <translation>マゼンタ</translation>
+    </message>
+    <message>
+        <source>Make it your own</source>
+        <translation>好みに合わせる</translation>
+    </message>
+    <message>
+        <source>Makes colours stronger. 0 = off.</source>
+        <translation>色を鮮やかにします。0 でオフです。</translation>
+    </message>
+    <message>
+        <source>Makes dark parts lighter or darker, so that you see what is in the shadows.</source>
+        <translation>暗い部分の明るさを変え、影の中を見やすくします。</translation>
+    </message>
+    <message>
+        <source>Makes what moves look sharper. Close = off; Low to High and Ull-Level1 to 3 are stronger in turn.</source>
+        <translation>動きのある映像をくっきり見せます。「低」から「高」、「Ull レベル 1」から「Ull レベル 3」の順に強くなります。</translation>
     </message>
     <message>
         <source>Matches notebooks with a Display P3 screen.</source>
@@ -1278,6 +1358,10 @@
     <message>
         <source>Music Mode</source>
         <translation>音楽モード</translation>
+    </message>
+    <message>
+        <source>Must match the computer&apos;s signal. RGB Auto = found out by itself, RGB Limit = 16 to 235, RGB Full = 0 to 255.</source>
+        <translation>パソコンの信号に合わせます。「RGB 自動」は自動判別、リミテッドは 16～235、フルは 0～255 です。</translation>
     </message>
     <message>
         <source>NA</source>
@@ -1500,6 +1584,10 @@
         <translation>画質強化</translation>
     </message>
     <message>
+        <source>Pixels change faster and motion smears less. Close = off, Topspeed = fastest, which may leave bright edges.</source>
+        <translation>画素の変化を速め、残像を減らします。「最速」では輪郭に明るい縁が出ることがあります。</translation>
+    </message>
+    <message>
         <source>Plain, floating point</source>
         <translation>標準形式、浮動小数点</translation>
     </message>
@@ -1522,6 +1610,10 @@
     <message>
         <source>Power Saving</source>
         <translation>省電力</translation>
+    </message>
+    <message>
+        <source>Power for devices at the monitor&apos;s USB sockets, and the picture through the Type-C socket (DP Alt Mode).</source>
+        <translation>モニターの USB 端子につないだ機器への給電と、Type-C 端子からの映像（DP Alt モード）です。</translation>
     </message>
     <message>
         <source>Press</source>
@@ -1592,6 +1684,10 @@
         <translation>RGB リミテッド</translation>
     </message>
     <message>
+        <source>Raises the contrast between light and dark parts. 0 = off.</source>
+        <translation>明るい部分と暗い部分の差を強めます。0 でオフです。</translation>
+    </message>
+    <message>
         <source>Rate</source>
         <translation>レート</translation>
     </message>
@@ -1648,6 +1744,10 @@
         <translation>やり直す</translation>
     </message>
     <message>
+        <source>Reduces the glow around bright things on a dark ground.</source>
+        <translation>暗い背景にある明るいものの周りのにじみを抑えます。</translation>
+    </message>
+    <message>
         <source>Refresh Rate</source>
         <translation>リフレッシュレート</translation>
     </message>
@@ -1658,6 +1758,10 @@
     <message>
         <source>Refuse writes</source>
         <translation>書き込み拒否</translation>
+    </message>
+    <message>
+        <source>Reminds you to rest your eyes each time the chosen span has passed. Close = off.</source>
+        <translation>選んだ時間がたつたびに、目の休憩をお知らせします。</translation>
     </message>
     <message>
         <source>Rendering</source>
@@ -1816,6 +1920,10 @@
         <translation>モニターのすべての設定を工場出荷時の状態に戻しますか？画面が数秒間暗くなります。</translation>
     </message>
     <message>
+        <source>Sets everything in the monitor back to how it left the factory.</source>
+        <translation>モニターのすべての設定を出荷時の状態に戻します。</translation>
+    </message>
+    <message>
         <source>Settings</source>
         <translation>設定</translation>
     </message>
@@ -1840,6 +1948,10 @@
         <translation>ショートカットキー表示</translation>
     </message>
     <message>
+        <source>Shortens the delay between your hand and the picture in fast games. Adaptive-Sync cannot be chosen meanwhile.</source>
+        <translation>動きの速いゲームで操作から表示までの遅れを減らします。オンの間は Adaptive-Sync を選べません。</translation>
+    </message>
+    <message>
         <source>Show</source>
         <translation>表示</translation>
     </message>
@@ -1850,6 +1962,18 @@
     <message>
         <source>Shown</source>
         <translation>表示内容</translation>
+    </message>
+    <message>
+        <source>Shows a ruler on the screen. Angle close = off, Ruler = for lengths, Angle Ruler = for angles.</source>
+        <translation>画面に定規を表示します。「定規」は長さ、「角度定規」は角度を測ります。</translation>
+    </message>
+    <message>
+        <source>Shows guide lines that help to line things up. Close = off, Open = on.</source>
+        <translation>位置をそろえるための補助線を表示します。</translation>
+    </message>
+    <message>
+        <source>Shows on the desktop what a shortcut has just changed.</source>
+        <translation>ショートカットキーで変えた内容をデスクトップに表示します。</translation>
     </message>
     <message>
         <source>Silence</source>
@@ -1928,6 +2052,10 @@
         <translation>超解像</translation>
     </message>
     <message>
+        <source>Super Resolution: makes blurred or enlarged pictures look sharper. 0 = off.</source>
+        <translation>超解像: ぼやけた映像や拡大した映像をくっきり見せます。0 でオフです。</translation>
+    </message>
+    <message>
         <source>Switch off</source>
         <translation>オフにする</translation>
     </message>
@@ -1946,6 +2074,10 @@
     <message>
         <source>Taken by another</source>
         <translation>他で使用</translation>
+    </message>
+    <message>
+        <source>Takes blue out of the picture, which is easier on the eyes. 0 = off.</source>
+        <translation>映像の青い光を減らし、目の負担を和らげます。0 でオフです。</translation>
     </message>
     <message>
         <source>Tapering</source>
@@ -1970,6 +2102,10 @@
     <message>
         <source>The APP will restart automatically when switching languages.</source>
         <translation>言語を切り替えると、アプリは自動的に再起動します。</translation>
+    </message>
+    <message>
+        <source>The LED matrix moves with the sound that this computer plays. Close = off, Open = on.</source>
+        <translation>LED マトリクスがパソコンの音に合わせて動きます。</translation>
     </message>
     <message>
         <source>The accessory becomes the next of its models; the button is up while it is the first</source>
@@ -1998,6 +2134,10 @@
     <message>
         <source>The answer to the next read never arrives</source>
         <translation>次の読み取りの応答が届きません</translation>
+    </message>
+    <message>
+        <source>The brightness follows the light in the room. Close = off, Open = on.</source>
+        <translation>明るさが部屋の明るさに合わせて変わります。</translation>
     </message>
     <message>
         <source>The cable is pulled out at the eighth report from now</source>
@@ -2044,6 +2184,10 @@
         <translation>ファイルに完全なフレームがありません。</translation>
     </message>
     <message>
+        <source>The form of the matrix that you have: what is shown is drawn for it.</source>
+        <translation>お使いのマトリクスの形です。表示はこの形に合わせて描かれます。</translation>
+    </message>
+    <message>
         <source>The grey scale of medical pictures.</source>
         <translation>医用画像のグレースケールです。</translation>
     </message>
@@ -2052,12 +2196,28 @@
         <translation>設定したショートカットキーは既に使用されています。設定し直してください。</translation>
     </message>
     <message>
+        <source>The language of the monitor&apos;s own menu, not of this tool.</source>
+        <translation>モニターのメニューの言語です。このツールの言語ではありません。</translation>
+    </message>
+    <message>
         <source>The maker&apos;s own tuning.</source>
         <translation>メーカー独自のチューニングです。</translation>
     </message>
     <message>
+        <source>The matrix shows the time of day. Close = off, Open = on.</source>
+        <translation>マトリクスに時刻を表示します。</translation>
+    </message>
+    <message>
+        <source>The monitor and devices at its HDMI sockets switch each other on and off.</source>
+        <translation>モニターと HDMI 端子の機器の電源を連動させます。</translation>
+    </message>
+    <message>
         <source>The monitor answers nothing until the button is released</source>
         <translation>ボタンを戻すまでモニターは応答しません</translation>
+    </message>
+    <message>
+        <source>The monitor comes on faster, but needs more power while it is off.</source>
+        <translation>モニターが早くつきますが、オフの間の消費電力が増えます。</translation>
     </message>
     <message>
         <source>The monitor did not confirm this value.</source>
@@ -2092,8 +2252,20 @@
         <translation>モニターがシーンモードを切り替えています。</translation>
     </message>
     <message>
+        <source>The monitor keeps pace with the game: no torn or jerky pictures. Game Rush must be off.</source>
+        <translation>モニターがゲームの描画に合わせ、映像の乱れやカクつきを防ぎます。「ゲームラッシュ」はオフにしてください。</translation>
+    </message>
+    <message>
+        <source>The monitor notices when its screen is turned upright. Close = off, Open = on.</source>
+        <translation>画面が縦向きにされたことをモニターが検知します。</translation>
+    </message>
+    <message>
         <source>The monitor takes no value until the button is released</source>
         <translation>ボタンを戻すまでモニターは値を受け付けません</translation>
+    </message>
+    <message>
+        <source>The monitor uses less power. Close = off, Level2 saves the most.</source>
+        <translation>モニターの消費電力を減らします。「レベル 2」が最も節電になります。</translation>
     </message>
     <message>
         <source>The next client is not initialised</source>
@@ -2152,6 +2324,10 @@
         <translation>ここに表示するモニター</translation>
     </message>
     <message>
+        <source>The sound of the monitor. Audio Mute: Close = sound, Open = silence. Convo = for voices.</source>
+        <translation>モニターの音声です。「ミュート」がオンのときは音が出ません。「会話」は人の声に向いています。</translation>
+    </message>
+    <message>
         <source>The sound output cannot be listened to. It is tried again every few seconds.</source>
         <translation>音声出力を取得できません。数秒ごとに再試行します。</translation>
     </message>
@@ -2178,6 +2354,10 @@
     <message>
         <source>The upgrade program is running already.</source>
         <translation>更新アプリは既に実行中です。</translation>
+    </message>
+    <message>
+        <source>The version of your monitor&apos;s firmware.</source>
+        <translation>お使いのモニターのファームウェアのバージョンです。</translation>
     </message>
     <message>
         <source>The white of printed paper.</source>
@@ -2406,6 +2586,18 @@
     <message>
         <source>Wheel: one step · Tab, arrows · Esc closes</source>
         <translation>ホイールで 1 段階 · Tab・矢印キー · Esc で閉じる</translation>
+    </message>
+    <message>
+        <source>Which cable the monitor&apos;s USB sockets go to, and how fast the picture comes through DP or Type-C.</source>
+        <translation>モニターの USB 端子をどのケーブルにつなぐかと、DP または Type-C の映像の速さです。</translation>
+    </message>
+    <message>
+        <source>Which of your monitors this tool sets.</source>
+        <translation>このツールで設定するモニターを選びます。</translation>
+    </message>
+    <message>
+        <source>Which socket the picture comes from. Auto = the one that has a signal.</source>
+        <translation>映像を受け取る端子です。「自動」は信号のある端子を選びます。</translation>
     </message>
     <message>
         <source>Width</source>

@@ -120,6 +120,10 @@
         <translation>%1，帧数：%2</translation>
     </message>
     <message>
+        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
+        <translation>&lt;font color=white&gt;正在获取显示设备信息...&lt;/font&gt;</translation>
+    </message>
+    <message>
         <source>1 Hour</source>
         <translation>1 小时</translation>
     </message>
@@ -214,10 +218,6 @@
     <message>
         <source>9300K</source>
         <translation>9300K</translation>
-    </message>
-    <message>
-        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
-        <translation>&lt;font color=white&gt;正在获取显示设备信息...&lt;/font&gt;</translation>
     </message>
     <message>
         <source>A WAV file</source>
@@ -452,6 +452,10 @@
         <translation>蓝色</translation>
     </message>
     <message>
+        <source>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = as the picture needs it.</source>
+        <translation>提亮昏暗的场景。“等级 1”和“等级 2”始终生效，“自动 L1”和“自动 L2”随画面调整。</translation>
+    </message>
+    <message>
         <source>Brightness</source>
         <translation>亮度</translation>
     </message>
@@ -514,10 +518,6 @@
     <message>
         <source>Channels</source>
         <translation>声道</translation>
-    </message>
-    <message>
-        <source>Choose Custom to make it your own.</source>
-        <translation>选择“自定义”即可按喜好调整。</translation>
     </message>
     <message>
         <source>Choose a mode on the left. On now: %1</source>
@@ -672,6 +672,10 @@
         <translation>桌面</translation>
     </message>
     <message>
+        <source>Dims the light behind dark parts, so that black is deeper. Close = off; the others are stronger in turn.</source>
+        <translation>调暗画面暗部的背光，让黑色更深。各选项的效果依次增强。</translation>
+    </message>
+    <message>
         <source>Display P3</source>
         <translation>Display P3</translation>
     </message>
@@ -690,6 +694,18 @@
     <message>
         <source>Draw frames cell by cell; the matrix plays them in a loop.</source>
         <translation>逐格绘制各帧，矩阵会循环播放。</translation>
+    </message>
+    <message>
+        <source>Draws guide lines for composing a picture. Close = none, Trichotomy = into thirds, Round = a circle.</source>
+        <translation>显示构图参考线。“三分法”将画面分成三等份。</translation>
+    </message>
+    <message>
+        <source>Draws lines that divide the screen. Close = none; Alignment_4, Alignment_6 and Alignment_9 = into 4, 6 or 9 parts.</source>
+        <translation>在屏幕上显示分格线，将画面分成 4、6 或 9 格。</translation>
+    </message>
+    <message>
+        <source>Draws the outline of a sheet on the screen. Close = none, Custom Size = as large as you set it.</source>
+        <translation>在屏幕上显示纸张的轮廓。“自定义尺寸”按您设定的大小显示。</translation>
     </message>
     <message>
         <source>Drop a chunk</source>
@@ -814,6 +830,10 @@
     <message>
         <source>For code on a light ground.</source>
         <translation>适合浅色背景的代码。</translation>
+    </message>
+    <message>
+        <source>For finding out why a monitor does not answer as it should.</source>
+        <translation>帮助查明显示器为何没有正常应答。</translation>
     </message>
     <message>
         <source>Four bytes of the next scene-mode block get lost</source>
@@ -972,6 +992,34 @@
         <translation>快捷键冲突</translation>
     </message>
     <message>
+        <source>How and where the monitor&apos;s own menu is shown. No Signal Timer = how soon the monitor sleeps without a signal.</source>
+        <translation>显示器自身菜单的显示方式和位置。“无信号定时器”设定无信号多久后休眠。</translation>
+    </message>
+    <message>
+        <source>How bright the lamp shines that tells that the monitor is on. Close = dark, Level3 = brightest.</source>
+        <translation>显示器开启时指示灯的亮度。“等级 3”最亮。</translation>
+    </message>
+    <message>
+        <source>How bright the middle tones are. The higher the value, the darker.</source>
+        <translation>中间色调的亮度。数值越大，画面越暗。</translation>
+    </message>
+    <message>
+        <source>How long the monitor waits without a signal before it sleeps.</source>
+        <translation>无信号时，显示器等待多久后休眠。</translation>
+    </message>
+    <message>
+        <source>How often a day the tool may change the monitor without your doing.</source>
+        <translation>每天最多允许工具自动更改显示器多少次。</translation>
+    </message>
+    <message>
+        <source>How pictures with a high dynamic range are shown. Close = off, Auto = when the signal has it.</source>
+        <translation>高动态范围画面的显示方式。“自动”在信号为 HDR 时启用。</translation>
+    </message>
+    <message>
+        <source>How the LED matrix behind the monitor shines. Matrix Lamp and Clock: Close = off, Open = on.</source>
+        <translation>显示器背后的 LED 矩阵的显示方式。</translation>
+    </message>
+    <message>
         <source>How the link to the monitor has been since the program started.</source>
         <translation>程序启动以来与显示器的连接状况。</translation>
     </message>
@@ -986,6 +1034,14 @@
     <message>
         <source>How the print will look.</source>
         <translation>印刷品的最终效果。</translation>
+    </message>
+    <message>
+        <source>How this tool starts, which language it speaks and what it may do by itself.</source>
+        <translation>本工具的启动方式、语言，以及可以自动执行的操作。</translation>
+    </message>
+    <message>
+        <source>How warm white looks. 5000K = warmest, 9300K = coldest, User1 to User3 = your own mixtures.</source>
+        <translation>白色的冷暖。5000K 最暖，9300K 最冷，用户 1 至用户 3 由您自行调配。</translation>
     </message>
     <message>
         <source>Hue</source>
@@ -1088,6 +1144,10 @@
         <translation>减少蓝光，适合长时间工作。</translation>
     </message>
     <message>
+        <source>Lets the monitor switch between its two modes by itself. Close = off, Open = on.</source>
+        <translation>让显示器在两种模式之间自动切换。</translation>
+    </message>
+    <message>
         <source>Level1</source>
         <translation>等级 1</translation>
     </message>
@@ -1118,6 +1178,10 @@
     <message>
         <source>Localdimming</source>
         <translation>区域调光</translation>
+    </message>
+    <message>
+        <source>Locks the monitor&apos;s own menu, so that nobody changes it by accident.</source>
+        <translation>锁定显示器自身的菜单，避免误操作。</translation>
     </message>
     <message>
         <source>Look for the monitor again</source>
@@ -1170,6 +1234,22 @@
     <message>
         <source>Magenta</source>
         <translation>洋红</translation>
+    </message>
+    <message>
+        <source>Make it your own</source>
+        <translation>按喜好调整</translation>
+    </message>
+    <message>
+        <source>Makes colours stronger. 0 = off.</source>
+        <translation>让色彩更鲜艳。0 为关闭。</translation>
+    </message>
+    <message>
+        <source>Makes dark parts lighter or darker, so that you see what is in the shadows.</source>
+        <translation>调整暗部的明暗，让阴影中的细节清晰可见。</translation>
+    </message>
+    <message>
+        <source>Makes what moves look sharper. Close = off; Low to High and Ull-Level1 to 3 are stronger in turn.</source>
+        <translation>让运动画面更清晰。从“低”到“高”以及“Ull 等级 1”到“Ull 等级 3”，效果依次增强。</translation>
     </message>
     <message>
         <source>Matches notebooks with a Display P3 screen.</source>
@@ -1278,6 +1358,10 @@
     <message>
         <source>Music Mode</source>
         <translation>音乐模式</translation>
+    </message>
+    <message>
+        <source>Must match the computer&apos;s signal. RGB Auto = found out by itself, RGB Limit = 16 to 235, RGB Full = 0 to 255.</source>
+        <translation>需与电脑的信号一致。“RGB 自动”自动识别，有限范围为 16 至 235，全范围为 0 至 255。</translation>
     </message>
     <message>
         <source>NA</source>
@@ -1500,6 +1584,10 @@
         <translation>画质增强</translation>
     </message>
     <message>
+        <source>Pixels change faster and motion smears less. Close = off, Topspeed = fastest, which may leave bright edges.</source>
+        <translation>加快像素变化，减少拖影。“极速”最快，但可能出现亮边。</translation>
+    </message>
+    <message>
         <source>Plain, floating point</source>
         <translation>普通格式，浮点</translation>
     </message>
@@ -1522,6 +1610,10 @@
     <message>
         <source>Power Saving</source>
         <translation>节能</translation>
+    </message>
+    <message>
+        <source>Power for devices at the monitor&apos;s USB sockets, and the picture through the Type-C socket (DP Alt Mode).</source>
+        <translation>为接在显示器 USB 接口上的设备供电，以及通过 Type-C 接口传输画面（DP Alt 模式）。</translation>
     </message>
     <message>
         <source>Press</source>
@@ -1592,6 +1684,10 @@
         <translation>RGB 有限范围</translation>
     </message>
     <message>
+        <source>Raises the contrast between light and dark parts. 0 = off.</source>
+        <translation>增强明暗部分的对比。0 为关闭。</translation>
+    </message>
+    <message>
         <source>Rate</source>
         <translation>采样率</translation>
     </message>
@@ -1648,6 +1744,10 @@
         <translation>重做</translation>
     </message>
     <message>
+        <source>Reduces the glow around bright things on a dark ground.</source>
+        <translation>减弱深色背景上明亮物体周围的光晕。</translation>
+    </message>
+    <message>
         <source>Refresh Rate</source>
         <translation>刷新率</translation>
     </message>
@@ -1658,6 +1758,10 @@
     <message>
         <source>Refuse writes</source>
         <translation>拒绝写入</translation>
+    </message>
+    <message>
+        <source>Reminds you to rest your eyes each time the chosen span has passed. Close = off.</source>
+        <translation>每过所选的时间，提醒您让眼睛休息。</translation>
     </message>
     <message>
         <source>Rendering</source>
@@ -1816,6 +1920,10 @@
         <translation>要将显示器的所有设置恢复为出厂状态吗？屏幕会黑屏几秒钟。</translation>
     </message>
     <message>
+        <source>Sets everything in the monitor back to how it left the factory.</source>
+        <translation>将显示器的所有设置恢复到出厂状态。</translation>
+    </message>
+    <message>
         <source>Settings</source>
         <translation>设置</translation>
     </message>
@@ -1840,6 +1948,10 @@
         <translation>快捷键提示</translation>
     </message>
     <message>
+        <source>Shortens the delay between your hand and the picture in fast games. Adaptive-Sync cannot be chosen meanwhile.</source>
+        <translation>缩短快节奏游戏中操作到画面的延迟。开启期间无法选择 Adaptive-Sync。</translation>
+    </message>
+    <message>
         <source>Show</source>
         <translation>显示</translation>
     </message>
@@ -1850,6 +1962,18 @@
     <message>
         <source>Shown</source>
         <translation>显示内容</translation>
+    </message>
+    <message>
+        <source>Shows a ruler on the screen. Angle close = off, Ruler = for lengths, Angle Ruler = for angles.</source>
+        <translation>在屏幕上显示标尺。“标尺”用于量长度，“角度尺”用于量角度。</translation>
+    </message>
+    <message>
+        <source>Shows guide lines that help to line things up. Close = off, Open = on.</source>
+        <translation>显示参考线，帮助您对齐内容。</translation>
+    </message>
+    <message>
+        <source>Shows on the desktop what a shortcut has just changed.</source>
+        <translation>在桌面上显示快捷键刚刚更改的内容。</translation>
     </message>
     <message>
         <source>Silence</source>
@@ -1928,6 +2052,10 @@
         <translation>超分辨率</translation>
     </message>
     <message>
+        <source>Super Resolution: makes blurred or enlarged pictures look sharper. 0 = off.</source>
+        <translation>超分辨率：让模糊或放大的画面更清晰。0 为关闭。</translation>
+    </message>
+    <message>
         <source>Switch off</source>
         <translation>关闭</translation>
     </message>
@@ -1946,6 +2074,10 @@
     <message>
         <source>Taken by another</source>
         <translation>被占用</translation>
+    </message>
+    <message>
+        <source>Takes blue out of the picture, which is easier on the eyes. 0 = off.</source>
+        <translation>减少画面中的蓝光，让眼睛更舒适。0 为关闭。</translation>
     </message>
     <message>
         <source>Tapering</source>
@@ -1970,6 +2102,10 @@
     <message>
         <source>The APP will restart automatically when switching languages.</source>
         <translation>切换语言时，程序将自动重新启动。</translation>
+    </message>
+    <message>
+        <source>The LED matrix moves with the sound that this computer plays. Close = off, Open = on.</source>
+        <translation>LED 矩阵随电脑播放的声音变化。</translation>
     </message>
     <message>
         <source>The accessory becomes the next of its models; the button is up while it is the first</source>
@@ -1998,6 +2134,10 @@
     <message>
         <source>The answer to the next read never arrives</source>
         <translation>下一次读取收不到应答</translation>
+    </message>
+    <message>
+        <source>The brightness follows the light in the room. Close = off, Open = on.</source>
+        <translation>亮度随室内光线变化。</translation>
     </message>
     <message>
         <source>The cable is pulled out at the eighth report from now</source>
@@ -2044,6 +2184,10 @@
         <translation>文件中没有完整的帧。</translation>
     </message>
     <message>
+        <source>The form of the matrix that you have: what is shown is drawn for it.</source>
+        <translation>请选择您的矩阵的形状，画面会按此绘制。</translation>
+    </message>
+    <message>
         <source>The grey scale of medical pictures.</source>
         <translation>医学影像的灰阶。</translation>
     </message>
@@ -2052,12 +2196,28 @@
         <translation>您设置的快捷键已被占用，请重新设置！</translation>
     </message>
     <message>
+        <source>The language of the monitor&apos;s own menu, not of this tool.</source>
+        <translation>显示器自身菜单的语言，而不是本工具的语言。</translation>
+    </message>
+    <message>
         <source>The maker&apos;s own tuning.</source>
         <translation>厂商专属调校。</translation>
     </message>
     <message>
+        <source>The matrix shows the time of day. Close = off, Open = on.</source>
+        <translation>在矩阵上显示当前时间。</translation>
+    </message>
+    <message>
+        <source>The monitor and devices at its HDMI sockets switch each other on and off.</source>
+        <translation>让显示器与接在 HDMI 接口上的设备一同开启和关闭。</translation>
+    </message>
+    <message>
         <source>The monitor answers nothing until the button is released</source>
         <translation>显示器不再应答，直到松开按钮</translation>
+    </message>
+    <message>
+        <source>The monitor comes on faster, but needs more power while it is off.</source>
+        <translation>显示器开启更快，但关闭时耗电略多。</translation>
     </message>
     <message>
         <source>The monitor did not confirm this value.</source>
@@ -2092,8 +2252,20 @@
         <translation>显示器正在切换情景模式。</translation>
     </message>
     <message>
+        <source>The monitor keeps pace with the game: no torn or jerky pictures. Game Rush must be off.</source>
+        <translation>显示器与游戏帧率同步，画面不撕裂、不卡顿。需先关闭“游戏冲刺”。</translation>
+    </message>
+    <message>
+        <source>The monitor notices when its screen is turned upright. Close = off, Open = on.</source>
+        <translation>显示器感应屏幕是否转为竖放。</translation>
+    </message>
+    <message>
         <source>The monitor takes no value until the button is released</source>
         <translation>显示器不接受任何值，直到松开按钮</translation>
+    </message>
+    <message>
+        <source>The monitor uses less power. Close = off, Level2 saves the most.</source>
+        <translation>让显示器更省电。“等级 2”最省电。</translation>
     </message>
     <message>
         <source>The next client is not initialised</source>
@@ -2152,6 +2324,10 @@
         <translation>此处显示的模拟显示器</translation>
     </message>
     <message>
+        <source>The sound of the monitor. Audio Mute: Close = sound, Open = silence. Convo = for voices.</source>
+        <translation>显示器的声音。“静音”开启时没有声音，“对话”适合人声。</translation>
+    </message>
+    <message>
         <source>The sound output cannot be listened to. It is tried again every few seconds.</source>
         <translation>无法获取声音输出，每隔几秒会重试。</translation>
     </message>
@@ -2178,6 +2354,10 @@
     <message>
         <source>The upgrade program is running already.</source>
         <translation>升级程序已在运行。</translation>
+    </message>
+    <message>
+        <source>The version of your monitor&apos;s firmware.</source>
+        <translation>您的显示器的固件版本。</translation>
     </message>
     <message>
         <source>The white of printed paper.</source>
@@ -2406,6 +2586,18 @@
     <message>
         <source>Wheel: one step · Tab, arrows · Esc closes</source>
         <translation>滚轮：一格一步 · Tab 和方向键 · Esc 关闭</translation>
+    </message>
+    <message>
+        <source>Which cable the monitor&apos;s USB sockets go to, and how fast the picture comes through DP or Type-C.</source>
+        <translation>显示器的 USB 接口连到哪条线缆，以及 DP 或 Type-C 传输画面的速度。</translation>
+    </message>
+    <message>
+        <source>Which of your monitors this tool sets.</source>
+        <translation>本工具设置您的哪一台显示器。</translation>
+    </message>
+    <message>
+        <source>Which socket the picture comes from. Auto = the one that has a signal.</source>
+        <translation>画面来自哪个接口。“自动”选择有信号的接口。</translation>
     </message>
     <message>
         <source>Width</source>

@@ -120,6 +120,10 @@
         <translation>%1，畫格數：%2</translation>
     </message>
     <message>
+        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
+        <translation>&lt;font color=white&gt;正在取得顯示裝置資訊...&lt;/font&gt;</translation>
+    </message>
+    <message>
         <source>1 Hour</source>
         <translation>1 小時</translation>
     </message>
@@ -214,10 +218,6 @@
     <message>
         <source>9300K</source>
         <translation>9300K</translation>
-    </message>
-    <message>
-        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
-        <translation>&lt;font color=white&gt;正在取得顯示裝置資訊...&lt;/font&gt;</translation>
     </message>
     <message>
         <source>A WAV file</source>
@@ -452,6 +452,10 @@
         <translation>藍色</translation>
     </message>
     <message>
+        <source>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = as the picture needs it.</source>
+        <translation>提亮昏暗的場景。「等級 1」和「等級 2」持續生效，「自動 L1」和「自動 L2」隨畫面調整。</translation>
+    </message>
+    <message>
         <source>Brightness</source>
         <translation>亮度</translation>
     </message>
@@ -514,10 +518,6 @@
     <message>
         <source>Channels</source>
         <translation>聲道</translation>
-    </message>
-    <message>
-        <source>Choose Custom to make it your own.</source>
-        <translation>選擇「自訂」即可依喜好調整。</translation>
     </message>
     <message>
         <source>Choose a mode on the left. On now: %1</source>
@@ -672,6 +672,10 @@
         <translation>桌面</translation>
     </message>
     <message>
+        <source>Dims the light behind dark parts, so that black is deeper. Close = off; the others are stronger in turn.</source>
+        <translation>調暗畫面暗部的背光，讓黑色更深。各選項的效果依序增強。</translation>
+    </message>
+    <message>
         <source>Display P3</source>
         <translation>Display P3</translation>
     </message>
@@ -690,6 +694,18 @@
     <message>
         <source>Draw frames cell by cell; the matrix plays them in a loop.</source>
         <translation>逐格繪製各畫格，矩陣會循環播放。</translation>
+    </message>
+    <message>
+        <source>Draws guide lines for composing a picture. Close = none, Trichotomy = into thirds, Round = a circle.</source>
+        <translation>顯示構圖參考線。「三分法」將畫面分成三等份。</translation>
+    </message>
+    <message>
+        <source>Draws lines that divide the screen. Close = none; Alignment_4, Alignment_6 and Alignment_9 = into 4, 6 or 9 parts.</source>
+        <translation>在螢幕上顯示分格線，將畫面分成 4、6 或 9 格。</translation>
+    </message>
+    <message>
+        <source>Draws the outline of a sheet on the screen. Close = none, Custom Size = as large as you set it.</source>
+        <translation>在螢幕上顯示紙張的輪廓。「自訂尺寸」依您設定的大小顯示。</translation>
     </message>
     <message>
         <source>Drop a chunk</source>
@@ -814,6 +830,10 @@
     <message>
         <source>For code on a light ground.</source>
         <translation>適合淺色背景的程式碼。</translation>
+    </message>
+    <message>
+        <source>For finding out why a monitor does not answer as it should.</source>
+        <translation>協助查明顯示器為何沒有正常回應。</translation>
     </message>
     <message>
         <source>Four bytes of the next scene-mode block get lost</source>
@@ -972,6 +992,34 @@
         <translation>快速鍵衝突</translation>
     </message>
     <message>
+        <source>How and where the monitor&apos;s own menu is shown. No Signal Timer = how soon the monitor sleeps without a signal.</source>
+        <translation>顯示器本身選單的顯示方式和位置。「無訊號計時器」設定無訊號多久後休眠。</translation>
+    </message>
+    <message>
+        <source>How bright the lamp shines that tells that the monitor is on. Close = dark, Level3 = brightest.</source>
+        <translation>顯示器開啟時指示燈的亮度。「等級 3」最亮。</translation>
+    </message>
+    <message>
+        <source>How bright the middle tones are. The higher the value, the darker.</source>
+        <translation>中間色調的亮度。數值越大，畫面越暗。</translation>
+    </message>
+    <message>
+        <source>How long the monitor waits without a signal before it sleeps.</source>
+        <translation>無訊號時，顯示器等待多久後休眠。</translation>
+    </message>
+    <message>
+        <source>How often a day the tool may change the monitor without your doing.</source>
+        <translation>每天最多允許工具自動變更顯示器多少次。</translation>
+    </message>
+    <message>
+        <source>How pictures with a high dynamic range are shown. Close = off, Auto = when the signal has it.</source>
+        <translation>高動態範圍畫面的顯示方式。「自動」在訊號為 HDR 時啟用。</translation>
+    </message>
+    <message>
+        <source>How the LED matrix behind the monitor shines. Matrix Lamp and Clock: Close = off, Open = on.</source>
+        <translation>顯示器背後的 LED 矩陣的顯示方式。</translation>
+    </message>
+    <message>
         <source>How the link to the monitor has been since the program started.</source>
         <translation>應用程式啟動以來與顯示器的連線狀況。</translation>
     </message>
@@ -986,6 +1034,14 @@
     <message>
         <source>How the print will look.</source>
         <translation>印刷品的最終效果。</translation>
+    </message>
+    <message>
+        <source>How this tool starts, which language it speaks and what it may do by itself.</source>
+        <translation>本工具的啟動方式、語言，以及可以自動執行的操作。</translation>
+    </message>
+    <message>
+        <source>How warm white looks. 5000K = warmest, 9300K = coldest, User1 to User3 = your own mixtures.</source>
+        <translation>白色的冷暖。5000K 最暖，9300K 最冷，使用者 1 至使用者 3 由您自行調配。</translation>
     </message>
     <message>
         <source>Hue</source>
@@ -1088,6 +1144,10 @@
         <translation>減少藍光，適合長時間工作。</translation>
     </message>
     <message>
+        <source>Lets the monitor switch between its two modes by itself. Close = off, Open = on.</source>
+        <translation>讓顯示器在兩種模式之間自動切換。</translation>
+    </message>
+    <message>
         <source>Level1</source>
         <translation>等級 1</translation>
     </message>
@@ -1118,6 +1178,10 @@
     <message>
         <source>Localdimming</source>
         <translation>區域調光</translation>
+    </message>
+    <message>
+        <source>Locks the monitor&apos;s own menu, so that nobody changes it by accident.</source>
+        <translation>鎖定顯示器本身的選單，避免誤觸。</translation>
     </message>
     <message>
         <source>Look for the monitor again</source>
@@ -1170,6 +1234,22 @@
     <message>
         <source>Magenta</source>
         <translation>洋紅</translation>
+    </message>
+    <message>
+        <source>Make it your own</source>
+        <translation>依喜好調整</translation>
+    </message>
+    <message>
+        <source>Makes colours stronger. 0 = off.</source>
+        <translation>讓色彩更鮮豔。0 為關閉。</translation>
+    </message>
+    <message>
+        <source>Makes dark parts lighter or darker, so that you see what is in the shadows.</source>
+        <translation>調整暗部的明暗，讓陰影中的細節清晰可見。</translation>
+    </message>
+    <message>
+        <source>Makes what moves look sharper. Close = off; Low to High and Ull-Level1 to 3 are stronger in turn.</source>
+        <translation>讓動態畫面更清晰。從「低」到「高」以及「Ull 等級 1」到「Ull 等級 3」，效果依序增強。</translation>
     </message>
     <message>
         <source>Matches notebooks with a Display P3 screen.</source>
@@ -1278,6 +1358,10 @@
     <message>
         <source>Music Mode</source>
         <translation>音樂模式</translation>
+    </message>
+    <message>
+        <source>Must match the computer&apos;s signal. RGB Auto = found out by itself, RGB Limit = 16 to 235, RGB Full = 0 to 255.</source>
+        <translation>需與電腦的訊號一致。「RGB 自動」自動識別，有限範圍為 16 至 235，全範圍為 0 至 255。</translation>
     </message>
     <message>
         <source>NA</source>
@@ -1500,6 +1584,10 @@
         <translation>畫質增強</translation>
     </message>
     <message>
+        <source>Pixels change faster and motion smears less. Close = off, Topspeed = fastest, which may leave bright edges.</source>
+        <translation>加快像素變化，減少殘影。「極速」最快，但可能出現亮邊。</translation>
+    </message>
+    <message>
         <source>Plain, floating point</source>
         <translation>一般格式，浮點</translation>
     </message>
@@ -1522,6 +1610,10 @@
     <message>
         <source>Power Saving</source>
         <translation>省電</translation>
+    </message>
+    <message>
+        <source>Power for devices at the monitor&apos;s USB sockets, and the picture through the Type-C socket (DP Alt Mode).</source>
+        <translation>為接在顯示器 USB 連接埠上的裝置供電，以及透過 Type-C 連接埠傳輸畫面（DP Alt 模式）。</translation>
     </message>
     <message>
         <source>Press</source>
@@ -1592,6 +1684,10 @@
         <translation>RGB 有限範圍</translation>
     </message>
     <message>
+        <source>Raises the contrast between light and dark parts. 0 = off.</source>
+        <translation>增強明暗部分的對比。0 為關閉。</translation>
+    </message>
+    <message>
         <source>Rate</source>
         <translation>取樣率</translation>
     </message>
@@ -1648,6 +1744,10 @@
         <translation>重做</translation>
     </message>
     <message>
+        <source>Reduces the glow around bright things on a dark ground.</source>
+        <translation>減弱深色背景上明亮物體周圍的光暈。</translation>
+    </message>
+    <message>
         <source>Refresh Rate</source>
         <translation>更新率</translation>
     </message>
@@ -1658,6 +1758,10 @@
     <message>
         <source>Refuse writes</source>
         <translation>拒絕寫入</translation>
+    </message>
+    <message>
+        <source>Reminds you to rest your eyes each time the chosen span has passed. Close = off.</source>
+        <translation>每過所選的時間，提醒您讓眼睛休息。</translation>
     </message>
     <message>
         <source>Rendering</source>
@@ -1816,6 +1920,10 @@
         <translation>要將顯示器的所有設定恢復為出廠狀態嗎？螢幕會暫時變黑數秒。</translation>
     </message>
     <message>
+        <source>Sets everything in the monitor back to how it left the factory.</source>
+        <translation>將顯示器的所有設定恢復到原廠狀態。</translation>
+    </message>
+    <message>
         <source>Settings</source>
         <translation>設定</translation>
     </message>
@@ -1840,6 +1948,10 @@
         <translation>快速鍵提示</translation>
     </message>
     <message>
+        <source>Shortens the delay between your hand and the picture in fast games. Adaptive-Sync cannot be chosen meanwhile.</source>
+        <translation>縮短快節奏遊戲中操作到畫面的延遲。開啟期間無法選擇 Adaptive-Sync。</translation>
+    </message>
+    <message>
         <source>Show</source>
         <translation>顯示</translation>
     </message>
@@ -1850,6 +1962,18 @@
     <message>
         <source>Shown</source>
         <translation>顯示內容</translation>
+    </message>
+    <message>
+        <source>Shows a ruler on the screen. Angle close = off, Ruler = for lengths, Angle Ruler = for angles.</source>
+        <translation>在螢幕上顯示標尺。「標尺」用於量長度，「角度尺」用於量角度。</translation>
+    </message>
+    <message>
+        <source>Shows guide lines that help to line things up. Close = off, Open = on.</source>
+        <translation>顯示參考線，協助您對齊內容。</translation>
+    </message>
+    <message>
+        <source>Shows on the desktop what a shortcut has just changed.</source>
+        <translation>在桌面上顯示快速鍵剛剛變更的內容。</translation>
     </message>
     <message>
         <source>Silence</source>
@@ -1928,6 +2052,10 @@
         <translation>超解析度</translation>
     </message>
     <message>
+        <source>Super Resolution: makes blurred or enlarged pictures look sharper. 0 = off.</source>
+        <translation>超解析度：讓模糊或放大的畫面更清晰。0 為關閉。</translation>
+    </message>
+    <message>
         <source>Switch off</source>
         <translation>關閉</translation>
     </message>
@@ -1946,6 +2074,10 @@
     <message>
         <source>Taken by another</source>
         <translation>被佔用</translation>
+    </message>
+    <message>
+        <source>Takes blue out of the picture, which is easier on the eyes. 0 = off.</source>
+        <translation>減少畫面中的藍光，讓眼睛更舒適。0 為關閉。</translation>
     </message>
     <message>
         <source>Tapering</source>
@@ -1970,6 +2102,10 @@
     <message>
         <source>The APP will restart automatically when switching languages.</source>
         <translation>切換語言時，應用程式將自動重新啟動。</translation>
+    </message>
+    <message>
+        <source>The LED matrix moves with the sound that this computer plays. Close = off, Open = on.</source>
+        <translation>LED 矩陣隨電腦播放的聲音變化。</translation>
     </message>
     <message>
         <source>The accessory becomes the next of its models; the button is up while it is the first</source>
@@ -1998,6 +2134,10 @@
     <message>
         <source>The answer to the next read never arrives</source>
         <translation>下一次讀取收不到回應</translation>
+    </message>
+    <message>
+        <source>The brightness follows the light in the room. Close = off, Open = on.</source>
+        <translation>亮度隨室內光線變化。</translation>
     </message>
     <message>
         <source>The cable is pulled out at the eighth report from now</source>
@@ -2044,6 +2184,10 @@
         <translation>檔案中沒有完整的畫格。</translation>
     </message>
     <message>
+        <source>The form of the matrix that you have: what is shown is drawn for it.</source>
+        <translation>請選擇您的矩陣的形狀，畫面會依此繪製。</translation>
+    </message>
+    <message>
         <source>The grey scale of medical pictures.</source>
         <translation>醫學影像的灰階。</translation>
     </message>
@@ -2052,12 +2196,28 @@
         <translation>您設定的快速鍵已被佔用，請重新設定！</translation>
     </message>
     <message>
+        <source>The language of the monitor&apos;s own menu, not of this tool.</source>
+        <translation>顯示器本身選單的語言，而不是本工具的語言。</translation>
+    </message>
+    <message>
         <source>The maker&apos;s own tuning.</source>
         <translation>原廠專屬調校。</translation>
     </message>
     <message>
+        <source>The matrix shows the time of day. Close = off, Open = on.</source>
+        <translation>在矩陣上顯示目前時間。</translation>
+    </message>
+    <message>
+        <source>The monitor and devices at its HDMI sockets switch each other on and off.</source>
+        <translation>讓顯示器與接在 HDMI 連接埠上的裝置一同開啟和關閉。</translation>
+    </message>
+    <message>
         <source>The monitor answers nothing until the button is released</source>
         <translation>顯示器不再回應，直到放開按鈕</translation>
+    </message>
+    <message>
+        <source>The monitor comes on faster, but needs more power while it is off.</source>
+        <translation>顯示器開啟更快，但關閉時耗電略多。</translation>
     </message>
     <message>
         <source>The monitor did not confirm this value.</source>
@@ -2092,8 +2252,20 @@
         <translation>顯示器正在切換情境模式。</translation>
     </message>
     <message>
+        <source>The monitor keeps pace with the game: no torn or jerky pictures. Game Rush must be off.</source>
+        <translation>顯示器與遊戲的更新率同步，畫面不撕裂、不卡頓。需先關閉「遊戲衝刺」。</translation>
+    </message>
+    <message>
+        <source>The monitor notices when its screen is turned upright. Close = off, Open = on.</source>
+        <translation>顯示器感應螢幕是否轉為直立。</translation>
+    </message>
+    <message>
         <source>The monitor takes no value until the button is released</source>
         <translation>顯示器不接受任何值，直到放開按鈕</translation>
+    </message>
+    <message>
+        <source>The monitor uses less power. Close = off, Level2 saves the most.</source>
+        <translation>讓顯示器更省電。「等級 2」最省電。</translation>
     </message>
     <message>
         <source>The next client is not initialised</source>
@@ -2152,6 +2324,10 @@
         <translation>此處顯示的模擬顯示器</translation>
     </message>
     <message>
+        <source>The sound of the monitor. Audio Mute: Close = sound, Open = silence. Convo = for voices.</source>
+        <translation>顯示器的聲音。「靜音」開啟時沒有聲音，「對話」適合人聲。</translation>
+    </message>
+    <message>
         <source>The sound output cannot be listened to. It is tried again every few seconds.</source>
         <translation>無法取得音訊輸出，每隔幾秒會重試。</translation>
     </message>
@@ -2178,6 +2354,10 @@
     <message>
         <source>The upgrade program is running already.</source>
         <translation>升級應用程式已在執行中。</translation>
+    </message>
+    <message>
+        <source>The version of your monitor&apos;s firmware.</source>
+        <translation>您的顯示器的韌體版本。</translation>
     </message>
     <message>
         <source>The white of printed paper.</source>
@@ -2406,6 +2586,18 @@
     <message>
         <source>Wheel: one step · Tab, arrows · Esc closes</source>
         <translation>滾輪：一格一步 · Tab 與方向鍵 · Esc 關閉</translation>
+    </message>
+    <message>
+        <source>Which cable the monitor&apos;s USB sockets go to, and how fast the picture comes through DP or Type-C.</source>
+        <translation>顯示器的 USB 連接埠連到哪條纜線，以及 DP 或 Type-C 傳輸畫面的速度。</translation>
+    </message>
+    <message>
+        <source>Which of your monitors this tool sets.</source>
+        <translation>本工具設定您的哪一台顯示器。</translation>
+    </message>
+    <message>
+        <source>Which socket the picture comes from. Auto = the one that has a signal.</source>
+        <translation>畫面來自哪個連接埠。「自動」選擇有訊號的連接埠。</translation>
     </message>
     <message>
         <source>Width</source>

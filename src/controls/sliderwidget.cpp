@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QWheelEvent>
 
 #include "controls/captionlabel.h"
@@ -10,6 +11,8 @@ namespace {
 constexpr int kCaptionPixels = 15;
 constexpr int kValueWidth = 40;
 constexpr int kSpacing = 8;
+constexpr int kDot = 8;
+constexpr qreal kDimmed = 0.35;
 const QString kCaptionStyle = QStringLiteral("QLabel { color: #FFFFFF; }QLabel:disabled { color: #000; }");
 const QString kValueStyle = QStringLiteral("QLabel { color: #FFFFFF; }QLabel:disabled { color: #444; }");
 } // namespace
@@ -70,7 +73,39 @@ void SliderWidget::resizeEvent(QResizeEvent *event)
 
 void SliderWidget::setAccent(const QColor &accent)
 {
+    m_accent = accent;
     m_slider->setAccent(accent);
+    update();
+}
+
+void SliderWidget::showAccent()
+{
+    m_showsAccent = true;
+    m_captionLabel->setContentsMargins(kDot + kSpacing, 0, 0, 0);
+    update();
+}
+
+void SliderWidget::hideCaption()
+{
+    m_captionLabel->hide();
+}
+
+void SliderWidget::setHelp(const QString &sentence)
+{
+    m_help = sentence;
+    describe();
+}
+
+void SliderWidget::paintEvent(QPaintEvent *)
+{
+    if (!m_showsAccent)
+        return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setOpacity(isEnabled() ? 1 : kDimmed);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(m_accent);
+    painter.drawEllipse(0, (height() - kDot) / 2, kDot, kDot);
 }
 
 void SliderWidget::setValue(int value)
@@ -103,7 +138,7 @@ void SliderWidget::setLock(const QString &reason)
 /// Why it cannot be used matters more than what is known about its value.
 void SliderWidget::describe()
 {
-    const QString text = m_lock.isEmpty() ? markText(mark()) : m_lock;
+    const QString text = m_lock.isEmpty() ? withHelp(markText(mark()), m_help) : m_lock;
     m_slider->setAccessibleDescription(text);
     setToolTip(text);
 }

@@ -25,9 +25,16 @@ public:
     void setCaption(const QString &caption, const QString &spoken = {});
     /// Fixes where the groove begins: as many pixels from the left as an option does behind a caption of this width.
     void setCaptionWidth(int width);
+    /// Leaves the caption away, where what stands above says the same. It stays the accessible name.
+    void hideCaption();
+
+    /// What it is for: a sentence for the tooltip and the accessible description.
+    void setHelp(const QString &sentence);
 
     /// Colour of the slider; an invalid colour means the mint gradient.
     void setAccent(const QColor &accent);
+    /// Shows the accent as a dot before the caption, where colours share a heading.
+    void showAccent();
 
     int value() const { return m_slider->value(); }
     /// Moves the slider, bounded by its range, and so emits sliderValueChanged(name, value, false) when it changed.
@@ -66,6 +73,7 @@ Q_SIGNALS:
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
 
 private:
@@ -76,6 +84,9 @@ private:
     NoWheelSlider *m_slider;
     QLabel *m_valueLabel;
     ValueMark *m_mark;
+    QColor m_accent;
+    bool m_showsAccent = false;
+    QString m_help;
     QString m_lock; ///< why it is disabled
     bool m_wheelSteps = false;
     int m_wheelTurn = 0; ///< less than a notch yet, in the wheel's own unit

@@ -29,6 +29,11 @@ QString markText(Mark mark)
     return {};
 }
 
+QString withHelp(const QString &mark, const QString &help)
+{
+    return mark.isEmpty() || help.isEmpty() ? mark + help : mark + QLatin1Char('\n') + help;
+}
+
 ValueMark::ValueMark(QWidget *parent) : QWidget(parent)
 {
     setFixedSize(kSize, kSize);

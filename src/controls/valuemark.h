@@ -14,6 +14,9 @@ enum class Mark {
 /// The sentence for a mark, translated; empty for none.
 QString markText(Mark mark);
 
+/// Such a sentence and the one that says what the control is for, line by line; either may be empty.
+QString withHelp(const QString &mark, const QString &help);
+
 /// A small painted sign; takes no room while there is nothing to say.
 class ValueMark : public QWidget
 {

@@ -23,6 +23,14 @@
 
 namespace {
 
+// What they are for.
+constexpr char kGeneralSettingsHelp[] =
+    LABEL("How this tool starts, which language it speaks and what it may do by itself.");
+constexpr char kMachineSelectHelp[] = LABEL("Which of your monitors this tool sets.");
+constexpr char kMonitorHealthHelp[] = LABEL("For finding out why a monitor does not answer as it should.");
+constexpr char kOverlayHelp[] = LABEL("Shows on the desktop what a shortcut has just changed.");
+constexpr char kAutomaticHelp[] = LABEL("How often a day the tool may change the monitor without your doing.");
+
 constexpr char kStartUp[] = LABEL("Run on startup");
 constexpr char kLanguage[] = LABEL("Tool language settings");
 constexpr char kOverlay[] = LABEL("Shortcut overlay");
@@ -50,14 +58,15 @@ std::span<const Option> languageOptions()
 std::span<const PanelSpec> panels()
 {
     static const Section general[] = {OptionGroup{kStartUp, {}, kYesNo}, OptionGroup{kLanguage, {}, languageOptions()},
-                                      OptionGroup{kOverlay, {}, kYesNo}, OptionGroup{kAutomatic, {}, kADay},
+                                      OptionGroup{kOverlay, {}, kYesNo, {}, GroupLook::Buttons, kOverlayHelp},
+                                      OptionGroup{kAutomatic, {}, kADay, {}, GroupLook::Buttons, kAutomaticHelp},
                                       CustomPart{kVersion}};
     static const Section machineSelect[] = {CustomPart{kMachine}};
     static const Section healthPanel[] = {CustomPart{kHealth}};
     static const PanelSpec all[] = {
-        {LABEL("General Settings"), "general_settings", "pageGeneralSettings", general},
-        {LABEL("Machine Select"), "machine_select", "pageMachineSelect", machineSelect},
-        {LABEL("Monitor Health"), "monitor_health", "pageMonitorHealth", healthPanel},
+        {LABEL("General Settings"), "general_settings", "pageGeneralSettings", general, {}, kGeneralSettingsHelp},
+        {LABEL("Machine Select"), "machine_select", "pageMachineSelect", machineSelect, {}, kMachineSelectHelp},
+        {LABEL("Monitor Health"), "monitor_health", "pageMonitorHealth", healthPanel, {}, kMonitorHealthHelp},
     };
     return all;
 }

@@ -10,7 +10,6 @@
 #include "controls/lefttabbutton.h"
 #include "controls/picturelabel.h"
 #include "controls/pictures.h"
-#include "controls/sharedfonts.h"
 #include "ddc_protocol/devicestate.h"
 #include "page/Health/healthtexts.h"
 #include "page/engine/labels.h"
@@ -18,6 +17,13 @@
 #include "toollanguage.h"
 
 namespace {
+
+// What they are for.
+constexpr char kDisplayVersionHelp[] = LABEL("The version of your monitor's firmware.");
+constexpr char kQrCodeHelp[] = LABEL("Scan it with a phone to read more about your monitor.");
+constexpr char kKnowledgeHelp[] = LABEL("Questions and answers about your monitor, in your web browser.");
+constexpr char kUpgradeHelp[] = LABEL("Starts the program that brings the monitor's firmware up to date. Leave the "
+                                      "monitor switched on until it has finished.");
 
 constexpr char kVersion[] = LABEL("Display Version");
 constexpr char kQrCode[] = LABEL("QR Code");
@@ -29,10 +35,10 @@ const Section kQrCodePanel[] = {CustomPart{kQrCode}};
 const Section kKnowledgePanel[] = {CustomPart{kKnowledge}};
 const Section kUpgradePanel[] = {CustomPart{kUpgrade}};
 const PanelSpec kPanels[] = {
-    {kVersion, "display_version", "pageDisplayVersion", kVersionPanel},
-    {kQrCode, "qr_code", "pageQrCode", kQrCodePanel},
-    {kKnowledge, "knowledge", "pageKnowledge", kKnowledgePanel},
-    {kUpgrade, "upgrade", "pageUpgrade", kUpgradePanel},
+    {kVersion, "display_version", "pageDisplayVersion", kVersionPanel, {}, kDisplayVersionHelp},
+    {kQrCode, "qr_code", "pageQrCode", kQrCodePanel, {}, kQrCodeHelp},
+    {kKnowledge, "knowledge", "pageKnowledge", kKnowledgePanel, {}, kKnowledgeHelp},
+    {kUpgrade, "upgrade", "pageUpgrade", kUpgradePanel, {}, kUpgradeHelp},
 };
 
 constexpr char kPictures[] = "img/basicSetting/servicesSetting/";
@@ -91,11 +97,8 @@ QWidget *pageServicesSetting::buildPart(const char *name)
     if (qstrcmp(name, kQrCode) == 0)
         return buildQrCode();
     if (qstrcmp(name, kKnowledge) == 0)
-        return buildAction(LABEL("Questions and answers about your monitor, in your web browser."),
-                           LABEL("Open the page"), "knowledge", &pageServicesSetting::onKnowledgeButtonClicked);
-    return buildAction(LABEL("Starts the program that brings the monitor's firmware up to date. Leave the monitor "
-                             "switched on until it has finished."),
-                       kUpgrade, "upgrade", &pageServicesSetting::onUpgradeButtonClicked);
+        return buildAction(LABEL("Open the page"), "knowledge", &pageServicesSetting::onKnowledgeButtonClicked);
+    return buildAction(kUpgrade, "upgrade", &pageServicesSetting::onUpgradeButtonClicked);
 }
 
 QWidget *pageServicesSetting::buildVersion()
@@ -109,21 +112,15 @@ QWidget *pageServicesSetting::buildVersion()
 
 QWidget *pageServicesSetting::buildQrCode()
 {
-    auto *part = new QWidget(this);
-    auto *picture = new PictureLabel(part);
+    auto *picture = new PictureLabel(this);
     picture->setObjectName(QStringLiteral("qrCode"));
     picture->setPicture(QLatin1String(kPictures) + QLatin1String("qr_code.png"));
     texts().bind(kQrCode, [picture](const QString &text) { picture->setAccessibleName(text); });
-    auto *column = new QVBoxLayout(part);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(12);
-    column->addWidget(picture);
-    column->addWidget(makeNote(LABEL("Scan it with a phone to read more about your monitor."), part));
-    return part;
+    return picture;
 }
 
-/// A note and the button that does what it says; the pictures are "<pictures>_normal.png" and "<pictures>_check.png".
-QWidget *pageServicesSetting::buildAction(const char *note, const char *label, const char *pictures,
+/// The button that does what the panel says; the pictures are "<pictures>_normal.png" and "<pictures>_check.png".
+QWidget *pageServicesSetting::buildAction(const char *label, const char *pictures,
                                           void (pageServicesSetting::*pressed)())
 {
     auto *part = new QWidget(this);
@@ -141,20 +138,8 @@ QWidget *pageServicesSetting::buildAction(const char *note, const char *label, c
     connect(button, &QPushButton::clicked, this, pressed);
     auto *column = new QVBoxLayout(part);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(20);
-    column->addWidget(makeNote(note, part));
     column->addWidget(button);
     return part;
-}
-
-QLabel *pageServicesSetting::makeNote(const char *text, QWidget *parent)
-{
-    auto *note = new QLabel(parent);
-    note->setObjectName(QStringLiteral("note"));
-    note->setFont(noteFont);
-    note->setWordWrap(true);
-    texts().bind(text, [note](const QString &translated) { note->setText(translated); });
-    return note;
 }
 
 bool pageServicesSetting::mayShow(const PanelSpec &panel)

@@ -24,9 +24,7 @@ private Q_SLOTS:
 private:
     QWidget *buildVersion();
     QWidget *buildQrCode();
-    QWidget *buildAction(const char *note, const char *label, const char *pictures,
-                         void (pageServicesSetting::*pressed)());
-    QLabel *makeNote(const char *text, QWidget *parent);
+    QWidget *buildAction(const char *label, const char *pictures, void (pageServicesSetting::*pressed)());
     void showVersion();
     void startUpgrade(const QStringList &arguments);
     void upgradeFailed();

@@ -1,9 +1,25 @@
 #include "page/BasicSetting/systemtable.h"
 
 #include "controls/metrics.h"
+#include "page/engine/commonhelp.h"
 #include "page/engine/commonoptions.h"
 
 namespace {
+
+// What they are for.
+constexpr char kOSDSettingHelp[] = LABEL(
+    "How and where the monitor's own menu is shown. No Signal Timer = how soon the monitor sleeps without a signal.");
+constexpr char kPowerSavingHelp[] = LABEL("The monitor uses less power. Close = off, Level2 saves the most.");
+constexpr char kAudioSettingsHelp[] =
+    LABEL("The sound of the monitor. Audio Mute: Close = sound, Open = silence. Convo = for voices.");
+constexpr char kPowerLEDHelp[] =
+    LABEL("How bright the lamp shines that tells that the monitor is on. Close = dark, Level3 = brightest.");
+constexpr char kGravitySensorHelp[] =
+    LABEL("The monitor notices when its screen is turned upright. Close = off, Open = on.");
+constexpr char kResetFactoryHelp[] = LABEL("Sets everything in the monitor back to how it left the factory.");
+constexpr char kLanguageHelp[] = LABEL("The language of the monitor's own menu, not of this tool.");
+constexpr char kMenuLockHelp[] = LABEL("Locks the monitor's own menu, so that nobody changes it by accident.");
+constexpr char kNoSignalTimerHelp[] = LABEL("How long the monitor waits without a signal before it sleeps.");
 
 constexpr int kCaption = metrics::kCaptionWidth;
 
@@ -12,7 +28,15 @@ constexpr SliderSpec kOsd[] = {
     {"H-Position", LABEL("H-Position"), Command::OsdHPosition, 0, 100},
     {"V-Position", LABEL("V-Position"), Command::OsdVPosition, 0, 100},
     {"Transparency", LABEL("Transparency"), Command::OsdTransparency, 0, 100},
-    {"No Signal Timer", LABEL("No Signal Timer"), Command::NoSignalTimer, 0, 100},
+    {"No Signal Timer",
+     LABEL("No Signal Timer"),
+     Command::NoSignalTimer,
+     0,
+     100,
+     SendOn::Move,
+     Accent::Mint,
+     {},
+     kNoSignalTimerHelp},
 };
 constexpr SliderSpec kVolume[] = {{"Audio Volume", LABEL("Audio Volume"), Command::AudioVolume, 0, 100}};
 constexpr Option kAudioMode[] = {{LABEL("Standard"), 0}, {LABEL("Movie"), 1}, {LABEL("Convo"), 2}};
@@ -62,15 +86,16 @@ const Section kOsdLanguage[] = {OptionGroup{LABEL("OSD Language"), Command::OsdL
 const Section kMenuLock[] = {OptionGroup{LABEL("Menu Lock"), Command::MenuLock, kSwitchOptions, {}, GroupLook::Switch}};
 
 const PanelSpec kPanels[] = {
-    {LABEL("Output Range"), "output_range", "pageOutputRange", kOutputRange},
-    {LABEL("OSD Setting"), "osd_setting", "pageOSDSetting", kOsdSetting},
-    {LABEL("Power Saving"), "power_saving", "pagePowerSaving", kPowerSavingPanel},
-    {LABEL("Audio Settings"), "audio_settings", "pageAduioSettings", kAudioSettings}, // spelled so
-    {LABEL("Power LED"), "power_led", "pagePowerLED", kPowerLedPanel},
-    {LABEL("Gravity Sensor"), "gravity_sensor", "pageGravitySensor", kGravitySensor},
-    {LABEL("Reset Factory"), "reset_factory", "pageRestFactorySettings", kResetFactory},
-    {LABEL("OSD Language"), "osd_language", "pageLanguage", kOsdLanguage},
-    {LABEL("Menu Lock"), "menu_lock", "pageMenuLock", kMenuLock},
+    {LABEL("Output Range"), "output_range", "pageOutputRange", kOutputRange, {}, kRangeHelp},
+    {LABEL("OSD Setting"), "osd_setting", "pageOSDSetting", kOsdSetting, {}, kOSDSettingHelp},
+    {LABEL("Power Saving"), "power_saving", "pagePowerSaving", kPowerSavingPanel, {}, kPowerSavingHelp},
+    // "Aduio" is spelled so.
+    {LABEL("Audio Settings"), "audio_settings", "pageAduioSettings", kAudioSettings, {}, kAudioSettingsHelp},
+    {LABEL("Power LED"), "power_led", "pagePowerLED", kPowerLedPanel, {}, kPowerLEDHelp},
+    {LABEL("Gravity Sensor"), "gravity_sensor", "pageGravitySensor", kGravitySensor, {}, kGravitySensorHelp},
+    {LABEL("Reset Factory"), "reset_factory", "pageRestFactorySettings", kResetFactory, {}, kResetFactoryHelp},
+    {LABEL("OSD Language"), "osd_language", "pageLanguage", kOsdLanguage, {}, kLanguageHelp},
+    {LABEL("Menu Lock"), "menu_lock", "pageMenuLock", kMenuLock, {}, kMenuLockHelp},
 };
 
 } // namespace

@@ -2,9 +2,20 @@
 #include "ddc_protocol/devicestate.h"
 
 #include "controls/metrics.h"
+#include "page/engine/commonhelp.h"
 #include "page/engine/commonoptions.h"
 
 namespace {
+
+// What they are for.
+constexpr char kGameRushHelp[] = LABEL(
+    "Shortens the delay between your hand and the picture in fast games. Adaptive-Sync cannot be chosen meanwhile.");
+constexpr char kNightVisionHelp[] = LABEL(
+    "Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = as the picture needs it.");
+constexpr char kHDRHelp[] =
+    LABEL("How pictures with a high dynamic range are shown. Close = off, Auto = when the signal has it.");
+constexpr char kAdaptiveSyncHelp[] =
+    LABEL("The monitor keeps pace with the game: no torn or jerky pictures. Game Rush must be off.");
 
 constexpr int kCaption = metrics::kCaptionWidth;
 
@@ -58,20 +69,22 @@ const Section kAdaptiveSync[] = {makeSwitch(LABEL("Adaptive-Sync"), Command::Ada
 std::vector<PanelSpec> picturePanels(const DeviceState &state)
 {
     const PanelSpec motion = state.has(Capability::MpcsMotion)
-                                 ? PanelSpec{LABEL("MPCS"), "motion", "pageMotion", kMpcs}
-                                 : PanelSpec{LABEL("DyDs"), "motion", "pageMotion", kDyds};
+                                 ? PanelSpec{LABEL("MPCS"), "motion", "pageMotion", kMpcs, {}, kMotionHelp}
+                                 : PanelSpec{LABEL("DyDs"), "motion", "pageMotion", kDyds, {}, kMotionHelp};
     return {
-        {LABEL("Game Rush"), "game_rush", "pageGameRush", kGameRush},
+        {LABEL("Game Rush"), "game_rush", "pageGameRush", kGameRush, {}, kGameRushHelp},
         motion,
-        {LABEL("Night Vision"), "night_vision", "pageNightVision", kNightVisionPanel},
-        {LABEL("Dynamic OD"), "dynamic_od", "pageDynamicOD", kDynamicOd},
-        {LABEL("HDR"), "hdr", "pageHDR", kHdrPanel},
-        {LABEL("Color Enhance"), "color_enhance", "pageColorEnhance", kColorEnhancePanel},
-        {LABEL("CR Enhance"), "cr_enhance", "pageCREnhance", kContrastEnhancePanel},
-        {LABEL("Shadow Balance"), "shadow_balance", "pageShadowBalance", kShadowBalancePanel},
-        {LABEL("SR"), "super_resolution", "pageSR", kSuperResolutionPanel},
-        {LABEL("Localdimming"), "local_dimming", "pageLocaldimming", kLocalDimmingPanel, Capability::LocalDimming},
-        {LABEL("Halo Control"), "halo_control", "pageHaloControl", kHaloControlPanel, Capability::HaloControl},
-        {LABEL("Adaptive-Sync"), "adaptive_sync", "pageAdaptiveSync", kAdaptiveSync},
+        {LABEL("Night Vision"), "night_vision", "pageNightVision", kNightVisionPanel, {}, kNightVisionHelp},
+        {LABEL("Dynamic OD"), "dynamic_od", "pageDynamicOD", kDynamicOd, {}, kResponseHelp},
+        {LABEL("HDR"), "hdr", "pageHDR", kHdrPanel, {}, kHDRHelp},
+        {LABEL("Color Enhance"), "color_enhance", "pageColorEnhance", kColorEnhancePanel, {}, kColorHelp},
+        {LABEL("CR Enhance"), "cr_enhance", "pageCREnhance", kContrastEnhancePanel, {}, kContrastHelp},
+        {LABEL("Shadow Balance"), "shadow_balance", "pageShadowBalance", kShadowBalancePanel, {}, kShadowHelp},
+        {LABEL("SR"), "super_resolution", "pageSR", kSuperResolutionPanel, {}, kResolutionHelp},
+        {LABEL("Localdimming"), "local_dimming", "pageLocaldimming", kLocalDimmingPanel, Capability::LocalDimming,
+         kDimmingHelp},
+        {LABEL("Halo Control"), "halo_control", "pageHaloControl", kHaloControlPanel, Capability::HaloControl,
+         kHaloHelp},
+        {LABEL("Adaptive-Sync"), "adaptive_sync", "pageAdaptiveSync", kAdaptiveSync, {}, kAdaptiveSyncHelp},
     };
 }

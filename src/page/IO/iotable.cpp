@@ -1,8 +1,18 @@
 #include "page/IO/iotable.h"
 
+#include "page/engine/commonhelp.h"
 #include "page/engine/commonoptions.h"
 
 namespace {
+
+// What they are for.
+constexpr char kQuickBootHelp[] = LABEL("The monitor comes on faster, but needs more power while it is off.");
+constexpr char kUSBPowerHelp[] =
+    LABEL("Power for devices at the monitor's USB sockets, and the picture through the Type-C socket (DP Alt Mode).");
+constexpr char kUSBSwitchHelp[] =
+    LABEL("Which cable the monitor's USB sockets go to, and how fast the picture comes through DP or Type-C.");
+constexpr char kInputSignalHelp[] = LABEL("Which socket the picture comes from. Auto = the one that has a signal.");
+constexpr char kCECHelp[] = LABEL("The monitor and devices at its HDMI sockets switch each other on and off.");
 
 constexpr Option kUsbSwitch[] = {{LABEL("Type-C"), 0}, {LABEL("Type-B"), 1}};
 constexpr Option kDpTypeC[] = {{LABEL("5.4G"), 0}, {LABEL("8.1G"), 1}};
@@ -26,12 +36,12 @@ const Section kInputSignalPanel[] = {CustomPart{kInputNowPart},
 const Section kCec[] = {makeSwitch(LABEL("CEC"), Command::Cec)};
 
 const PanelSpec kPanels[] = {
-    {LABEL("Output Range"), "output_range", "pageOutputRange", kOutputRange},
-    {LABEL("Quick Boot"), "quick_boot", "pageQuickBoot", kQuickBoot},
-    {LABEL("USB Power"), "usb_power", "pageUSBPower", kUsbPower},
-    {LABEL("USB Switch"), "usb_switch", "pageUSBSwitch", kUsbSwitchPanel},
-    {LABEL("Input Signal"), "input_signal", "pageInputSignal", kInputSignalPanel},
-    {LABEL("CEC"), "cec", "pageCEC", kCec},
+    {LABEL("Output Range"), "output_range", "pageOutputRange", kOutputRange, {}, kRangeHelp},
+    {LABEL("Quick Boot"), "quick_boot", "pageQuickBoot", kQuickBoot, {}, kQuickBootHelp},
+    {LABEL("USB Power"), "usb_power", "pageUSBPower", kUsbPower, {}, kUSBPowerHelp},
+    {LABEL("USB Switch"), "usb_switch", "pageUSBSwitch", kUsbSwitchPanel, {}, kUSBSwitchHelp},
+    {LABEL("Input Signal"), "input_signal", "pageInputSignal", kInputSignalPanel, {}, kInputSignalHelp},
+    {LABEL("CEC"), "cec", "pageCEC", kCec, {}, kCECHelp},
 };
 
 } // namespace

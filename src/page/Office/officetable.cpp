@@ -4,6 +4,21 @@
 
 namespace {
 
+// What they are for.
+constexpr char kPaperHelp[] =
+    LABEL("Draws the outline of a sheet on the screen. Close = none, Custom Size = as large as you set it.");
+constexpr char kAlignmentHelp[] = LABEL("Draws lines that divide the screen. Close = none; Alignment_4, Alignment_6 "
+                                        "and Alignment_9 = into 4, 6 or 9 parts.");
+constexpr char kRulerHelp[] =
+    LABEL("Shows a ruler on the screen. Angle close = off, Ruler = for lengths, Angle Ruler = for angles.");
+constexpr char kAlignmentAidHelp[] = LABEL("Shows guide lines that help to line things up. Close = off, Open = on.");
+constexpr char kCompositionHelp[] =
+    LABEL("Draws guide lines for composing a picture. Close = none, Trichotomy = into thirds, Round = a circle.");
+constexpr char kEyeshieldRemindHelp[] =
+    LABEL("Reminds you to rest your eyes each time the chosen span has passed. Close = off.");
+constexpr char kAIDualModeHelp[] =
+    LABEL("Lets the monitor switch between its two modes by itself. Close = off, Open = on.");
+
 constexpr Option kEyeshield[] = {{LABEL("Close"), 0},    {LABEL("30s"), 1},      {LABEL("1 Hour"), 2},
                                  {LABEL("1.5 Hour"), 3}, {LABEL("2 Hour"), 4},   {LABEL("2.5 Hour"), 5},
                                  {LABEL("3 Hour"), 6},   {LABEL("3.5 Hour"), 7}, {LABEL("4 Hour"), 8}};
@@ -29,13 +44,13 @@ const Section kEyeshieldPanel[] = {OptionGroup{LABEL("Eyeshield Remind"), Comman
 const Section kAiDualMode[] = {OptionGroup{LABEL("AI Dual Mode"), Command::AiDualMode, kCloseOpen}};
 
 const PanelSpec kPanels[] = {
-    {LABEL("Paper"), "office_paper", "pagePaper", kPaperPanel},
-    {LABEL("Alignment"), "alignment", "pageAlignment", kAlignmentPanel},
-    {LABEL("Ruler"), "ruler", "pageRuler", kRulerPanel},
-    {LABEL("Alignment Aid"), "alignment_aid", "pageAlignmentAid", kAlignmentAid},
-    {LABEL("Composition"), "composition", "pageComposition", kCompositionPanel},
-    {LABEL("Eyeshield Remind"), "eyeshield_remind", "pageEyeshieldRemind", kEyeshieldPanel},
-    {LABEL("AI Dual Mode"), "ai_dual_mode", "pageAIDualMode", kAiDualMode},
+    {LABEL("Paper"), "office_paper", "pagePaper", kPaperPanel, {}, kPaperHelp},
+    {LABEL("Alignment"), "alignment", "pageAlignment", kAlignmentPanel, {}, kAlignmentHelp},
+    {LABEL("Ruler"), "ruler", "pageRuler", kRulerPanel, {}, kRulerHelp},
+    {LABEL("Alignment Aid"), "alignment_aid", "pageAlignmentAid", kAlignmentAid, {}, kAlignmentAidHelp},
+    {LABEL("Composition"), "composition", "pageComposition", kCompositionPanel, {}, kCompositionHelp},
+    {LABEL("Eyeshield Remind"), "eyeshield_remind", "pageEyeshieldRemind", kEyeshieldPanel, {}, kEyeshieldRemindHelp},
+    {LABEL("AI Dual Mode"), "ai_dual_mode", "pageAIDualMode", kAiDualMode, {}, kAIDualModeHelp},
 };
 
 } // namespace

@@ -19,8 +19,10 @@
 #include "page/Scene/scenetable.h"
 #include "page/Scene/workthread.h"
 #include "page/engine/halfbutton.h"
+#include "page/engine/labels.h"
 #include "page/engine/pagehead.h"
 #include "page/engine/pagestyle.h"
+#include "page/engine/plainbutton.h"
 
 pageSceneSetting::pageSceneSetting(SearchDeviceDlg &session, CommandQueue &queue, QWidget *parent)
     : SettingsPage(queue, parent), m_worker(new WorkThread(session, this)), m_areas(new QStackedWidget(this))
@@ -83,6 +85,9 @@ QWidget *pageSceneSetting::buildDefaultArea()
     column->addStretch(2);
     column->addWidget(m_defaultIcon, 0, Qt::AlignHCenter);
     column->addWidget(m_defaultText);
+    auto *own = makePlainButton(LABEL("Make it your own"), QStringLiteral("makeOwn"), texts(), area);
+    connect(own, &QPushButton::clicked, m_customButton, &QPushButton::click);
+    column->addWidget(own, 0, Qt::AlignHCenter);
     column->addStretch(3);
     return area;
 }
@@ -207,8 +212,7 @@ void pageSceneSetting::showTitle()
     setAccessibleName(title);
     m_head->setHelp(m_defaultView ? QObject::tr("The picture as the factory set it.")
                                   : QObject::tr("Your own picture. Changes are sent to the monitor as you make them."));
-    m_defaultText->setText((mode ? QObject::tr(mode->hint) + QLatin1Char('\n') : QString()) +
-                           QObject::tr("Choose Custom to make it your own."));
+    m_defaultText->setText(mode ? QObject::tr(mode->hint) : QString());
     const QString icon = QStringLiteral("img/entry/%1_checked.png").arg(QLatin1String(mode ? mode->icon : "standard"));
     const QPixmap picture = Pictures::load(Pictures::kRoot + icon, 2.0);
     m_defaultIcon->setPixmap(picture.scaled(picture.size() * 2, Qt::KeepAspectRatio, Qt::SmoothTransformation));

@@ -1,24 +1,64 @@
 #include "page/Scene/scenetable.h"
 
 #include "controls/metrics.h"
+#include "page/engine/commonhelp.h"
 #include "page/engine/commonoptions.h"
 
 namespace {
+
+// What they are for.
+constexpr char kGamaHelp[] = LABEL("How bright the middle tones are. The higher the value, the darker.");
+constexpr char kLightSensorHelp[] = LABEL("The brightness follows the light in the room. Close = off, Open = on.");
+constexpr char kColorTemperatureHelp[] =
+    LABEL("How warm white looks. 5000K = warmest, 9300K = coldest, User1 to User3 = your own mixtures.");
+constexpr char kLowBlueLightHelp[] = LABEL("Takes blue out of the picture, which is easier on the eyes. 0 = off.");
 
 constexpr int kWideCaption = metrics::kCaptionWidth;
 constexpr int kNarrowCaption = 52;
 
 constexpr SliderSpec kPictureSliders[] = {
     {"Brightness", LABEL("Brightness"), Command::Brightness, 0, 100},
-    {"CR Enhance", LABEL("CR Enhance"), Command::ContrastEnhance, 0, 5, SendOn::Release},
+    {"CR Enhance",
+     LABEL("CR Enhance"),
+     Command::ContrastEnhance,
+     0,
+     5,
+     SendOn::Release,
+     Accent::Mint,
+     {},
+     kContrastHelp},
     {"Contrast", LABEL("Contrast"), Command::Contrast, 0, 100},
-    {"Super Resolution", LABEL("Super Resolution"), Command::SuperResolution, 0, 5, SendOn::Release},
+    {"Super Resolution",
+     LABEL("Super Resolution"),
+     Command::SuperResolution,
+     0,
+     5,
+     SendOn::Release,
+     Accent::Mint,
+     {},
+     kResolutionHelp},
     {"Sharpness", LABEL("Sharpness"), Command::Sharpness, 0, 8},
-    {"Black Level", LABEL("Black Level"), Command::BlackLevel, 0, 100, SendOn::Release},
-    {"Color Enchance", LABEL("Color Enchance"), Command::ColorEnhance, 0, 10, SendOn::Release},
-    {"Low Blue Light", LABEL("Low Blue Light"), Command::LowBlueLight, 0, 4},
+    {"Black Level", LABEL("Black Level"), Command::BlackLevel, 0, 100, SendOn::Release, Accent::Mint, {}, kShadowHelp},
+    {"Color Enchance",
+     LABEL("Color Enchance"),
+     Command::ColorEnhance,
+     0,
+     10,
+     SendOn::Release,
+     Accent::Mint,
+     {},
+     kColorHelp},
+    {"Low Blue Light",
+     LABEL("Low Blue Light"),
+     Command::LowBlueLight,
+     0,
+     4,
+     SendOn::Move,
+     Accent::Mint,
+     {},
+     kLowBlueLightHelp},
     {"Halo Control", LABEL("Halo Control"), Command::HaloControl, 0, 100, SendOn::Release, Accent::Mint,
-     Capability::HaloControl},
+     Capability::HaloControl, kHaloHelp},
 };
 
 constexpr Option kGamma[] = {
@@ -66,16 +106,23 @@ constexpr SliderSpec kHue[] = {
 
 const Section kSections[] = {
     SliderGrid{nullptr, 2, kWideCaption, kPictureSliders},
-    OptionGroup{LABEL("Gama"), Command::Gamma, kGamma},
-    OptionGroup{LABEL("Gray Response"), Command::GrayResponse, kGrayResponseOptions},
-    OptionGroup{LABEL("Light Sensor"), Command::LightSensor, kCloseOpen},
-    OptionGroup{LABEL("Localdimming"), Command::LocalDimming, kLocalDimming, Capability::LocalDimming},
-    OptionGroup{LABEL("DyDs TECH"), Command::MotionTech, kMotionOptions},
-    OptionGroup{LABEL("Color Temperature"), Command::ColorTemperature, kColorTemperature},
+    OptionGroup{LABEL("Gama"), Command::Gamma, kGamma, {}, GroupLook::Buttons, kGamaHelp},
+    OptionGroup{
+        LABEL("Gray Response"), Command::GrayResponse, kGrayResponseOptions, {}, GroupLook::Buttons, kResponseHelp},
+    OptionGroup{LABEL("Light Sensor"), Command::LightSensor, kCloseOpen, {}, GroupLook::Buttons, kLightSensorHelp},
+    OptionGroup{LABEL("Localdimming"), Command::LocalDimming, kLocalDimming, Capability::LocalDimming,
+                GroupLook::Buttons, kDimmingHelp},
+    OptionGroup{LABEL("DyDs TECH"), Command::MotionTech, kMotionOptions, {}, GroupLook::Buttons, kMotionHelp},
+    OptionGroup{LABEL("Color Temperature"),
+                Command::ColorTemperature,
+                kColorTemperature,
+                {},
+                GroupLook::Buttons,
+                kColorTemperatureHelp},
     SliderGrid{nullptr, 2, kWideCaption, kNightView},
     SliderGrid{nullptr, 3, kNarrowCaption, kUserSliders},
-    SliderGrid{LABEL("Color Saturation"), 3, kNarrowCaption, kSaturation},
-    SliderGrid{LABEL("Hue"), 3, kNarrowCaption, kHue},
+    SliderGrid{LABEL("Color Saturation"), 3, kNarrowCaption, kSaturation, true},
+    SliderGrid{LABEL("Hue"), 3, kNarrowCaption, kHue, true},
 };
 
 } // namespace

@@ -83,6 +83,12 @@ OptionGroupRow::OptionGroupRow(const OptionGroup &group, BoundTexts &texts, QWid
         m_caption->setText(text);
         setAccessibleName(text);
     });
+    if (group.help) {
+        texts.bind(group.help, [this](const QString &text) {
+            m_help = text;
+            describe();
+        });
+    }
     m_caption->setStyleSheet(QStringLiteral("QLabel { color: #FFFFFF; }QLabel:disabled { color: #000; }"));
 
     auto *flow = new FlowLayout(group.look == GroupLook::Switch ? 0 : metrics::kGap); // its halves are one control
@@ -179,8 +185,8 @@ void OptionGroupRow::describe()
         m_buttons[i]->setAccessibleDescription(lock.isEmpty() ? text : lock);
         m_buttons[i]->setToolTip(lock);
     }
-    setToolTip(text);
-    QStringList said = {m_isUnknown ? QObject::tr("unknown") : QString(), text};
+    setToolTip(withHelp(text, m_help));
+    QStringList said = {m_isUnknown ? QObject::tr("unknown") : QString(), toolTip()};
     said.removeAll(QString());
     setAccessibleDescription(said.join(QStringLiteral(". ")));
 }

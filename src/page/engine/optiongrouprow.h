@@ -61,6 +61,7 @@ private:
     ValueMark *m_mark;
     LockSign *m_sign;
     bool m_isUnknown = false;
+    QString m_help;
     QStringList m_locks; ///< of each option: why it is disabled
 };
 

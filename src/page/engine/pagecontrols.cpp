@@ -137,6 +137,10 @@ QLayout *PageControls::makeSlider(const SliderSpec &spec, const SliderGrid &grid
     slider->setFixedHeight(metrics::kControlHeight);
     const AccentLook *look = lookOf(spec.accent);
     slider->setAccent(look ? QColor(look->colour) : QColor());
+    if (grid.showsAccents)
+        slider->showAccent();
+    if (spec.help)
+        m_texts.bind(spec.help, [slider](const QString &text) { slider->setHelp(text); });
     m_texts.bind(spec.caption,
                  [slider, grid, look](const QString &text) { slider->setCaption(text, spokenName(grid, look, text)); });
     connect(slider, &SliderWidget::sliderValueChanged, this, &PageControls::sliderChanged);
@@ -186,10 +190,6 @@ SliderWidget *PageControls::slider(const char *name) const
     return entry ? entry->widget : nullptr;
 }
 
-const PageControls::Slider *PageControls::sliderEntry(const QString &name) const
-{
-    const auto entry = std::find_if(m_sliderEntries.begin(), m_sliderEntries.end(),
-                                    [&name](const Slider &slider) { return slider.widget->name() == name; });
 SliderWidget *PageControls::slider(Command command) const
 {
     const auto entry = std::find_if(m_sliderEntries.begin(), m_sliderEntries.end(),
@@ -197,6 +197,10 @@ SliderWidget *PageControls::slider(Command command) const
     return entry == m_sliderEntries.end() ? nullptr : entry->widget;
 }
 
+const PageControls::Slider *PageControls::sliderEntry(const QString &name) const
+{
+    const auto entry = std::find_if(m_sliderEntries.begin(), m_sliderEntries.end(),
+                                    [&name](const Slider &slider) { return slider.widget->name() == name; });
     return entry == m_sliderEntries.end() ? nullptr : &*entry;
 }
 

@@ -28,6 +28,7 @@ struct OptionGroup
     std::span<const Option> options;
     std::optional<Capability> needs = {}; ///< built only for monitors that have it
     GroupLook look = GroupLook::Buttons;
+    const char *help = nullptr; ///< a sentence that says what it is for, where no panel does
 };
 
 /// The two options of every switch; the blanks are part of the labels.
@@ -52,6 +53,7 @@ struct SliderSpec
     SendOn sendOn = SendOn::Move;
     Accent accent = Accent::Mint;
     std::optional<Capability> needs = {};
+    const char *help = nullptr; ///< as a group's
 };
 
 /// Sliders in columns, filled row by row, under a heading if there is one.
@@ -61,6 +63,7 @@ struct SliderGrid
     int columns;
     int captionWidth; ///< pixels
     std::span<const SliderSpec> sliders;
+    bool showsAccents = false; ///< each slider's colour as a dot before its caption
 };
 
 /// Something that the page builds itself, by its name.

@@ -14,6 +14,7 @@
 #include "controls/metrics.h"
 #include "controls/pictures.h"
 #include "controls/sharedfonts.h"
+#include "controls/sliderwidget.h"
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/settingsstore.h"
 #include "page/engine/labels.h"
@@ -137,14 +138,20 @@ QWidget *PanelPage::buildPanel(const PanelSpec &panel)
     auto *column = new QVBoxLayout(content);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(metrics::kRowGap);
-    const std::size_t before = optionGroups().size();
+    const std::size_t groupsBefore = optionGroups().size();
+    const std::size_t slidersBefore = sliders().size();
     buildSections(panel.sections, column);
-    const std::span rows = std::span(optionGroups()).subspan(before);
-    const auto repeatsTitle = [&panel](const OptionGroupRow *row) {
-        return qstrcmp(row->group().label, panel.label) == 0;
-    };
-    if (std::all_of(rows.begin(), rows.end(), repeatsTitle)) // else the buttons would not line up
-        std::for_each(rows.begin(), rows.end(), [](OptionGroupRow *row) { row->hideCaption(); });
+    const std::span rows = std::span(optionGroups()).subspan(groupsBefore);
+    const std::span ownSliders = std::span(sliders()).subspan(slidersBefore);
+    const bool repeatTitle =
+        std::ranges::all_of(
+            rows, [&panel](const OptionGroupRow *row) { return qstrcmp(row->group().label, panel.label) == 0; }) &&
+        std::ranges::all_of(
+            ownSliders, [&panel](const SliderWidget *slider) { return slider->name() == QLatin1String(panel.label); });
+    if (repeatTitle) { // else the controls would not line up
+        std::ranges::for_each(rows, &OptionGroupRow::hideCaption);
+        std::ranges::for_each(ownSliders, &SliderWidget::hideCaption);
+    }
     column->addStretch(1);
     return content;
 }

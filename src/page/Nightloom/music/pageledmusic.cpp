@@ -18,6 +18,10 @@
 
 namespace {
 
+// What they are for.
+constexpr char kMusicHelp[] =
+    LABEL("The LED matrix moves with the sound that this computer plays. Close = off, Open = on.");
+
 constexpr platform::milliseconds kLookAfter{1000};
 constexpr int kQuietLooks = 5; // then it is listened anew: another device may have become the default one
 constexpr platform::milliseconds kRetryAfter{3000};
@@ -34,7 +38,7 @@ static_assert(std::size(kTemplates) == kAudioTemplates);
 
 const Section kSections[] = {OptionGroup{kMusic, {}, kCloseOpen}, OptionGroup{kTemplate, {}, kTemplates},
                              CustomPart{kPicture}};
-const PanelSpec kPanels[] = {{kMusic, "led_music", "pageLEDMusicPanel", kSections}};
+const PanelSpec kPanels[] = {{kMusic, "led_music", "pageLEDMusicPanel", kSections, {}, kMusicHelp}};
 
 // In the order of Hearing.
 constexpr const char *kNotes[] = {

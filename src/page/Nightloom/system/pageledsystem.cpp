@@ -15,6 +15,12 @@
 
 namespace {
 
+// What they are for.
+constexpr char kSystemHelp[] =
+    LABEL("How the LED matrix behind the monitor shines. Matrix Lamp and Clock: Close = off, Open = on.");
+constexpr char kFormHelp[] = LABEL("The form of the matrix that you have: what is shown is drawn for it.");
+constexpr char kClockHelp[] = LABEL("The matrix shows the time of day. Close = off, Open = on.");
+
 constexpr char kSliders[] = "sliders";
 constexpr char kLevel[] = LABEL("Playback Level");
 constexpr char kBrightness[] = LABEL("Brightness");
@@ -36,8 +42,10 @@ std::span<const Option> matrixOptions()
 std::span<const PanelSpec> panels()
 {
     static const Section settings[] = {CustomPart{kSliders}, OptionGroup{kLamp, {}, kCloseOpen},
-                                       OptionGroup{kForm, {}, matrixOptions()}, OptionGroup{kClock, {}, kCloseOpen}};
-    static const PanelSpec all[] = {{LABEL("System Settings"), "led_system", "pageLEDSystemPanel", settings}};
+                                       OptionGroup{kForm, {}, matrixOptions(), {}, GroupLook::Buttons, kFormHelp},
+                                       OptionGroup{kClock, {}, kCloseOpen, {}, GroupLook::Buttons, kClockHelp}};
+    static const PanelSpec all[] = {
+        {LABEL("System Settings"), "led_system", "pageLEDSystemPanel", settings, {}, kSystemHelp}};
     return all;
 }
 
