@@ -452,8 +452,8 @@
         <translation>Blue</translation>
     </message>
     <message>
-        <source>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = as the picture needs it.</source>
-        <translation>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = as the picture needs it.</translation>
+        <source>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = when needed.</source>
+        <translation>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = when needed.</translation>
     </message>
     <message>
         <source>Brightness</source>
@@ -462,6 +462,10 @@
     <message>
         <source>Bring to the front</source>
         <translation>Bring to the front</translation>
+    </message>
+    <message>
+        <source>Brings the monitor&apos;s firmware up to date. Leave the monitor switched on until it has finished.</source>
+        <translation>Brings the monitor&apos;s firmware up to date. Leave the monitor switched on until it has finished.</translation>
     </message>
     <message>
         <source>Buffer error</source>
@@ -992,8 +996,8 @@
         <translation>Hotkey conflict</translation>
     </message>
     <message>
-        <source>How and where the monitor&apos;s own menu is shown. No Signal Timer = how soon the monitor sleeps without a signal.</source>
-        <translation>How and where the monitor&apos;s own menu is shown. No Signal Timer = how soon the monitor sleeps without a signal.</translation>
+        <source>How and where the monitor shows its menu, and how soon it sleeps without a signal (No Signal Timer).</source>
+        <translation>How and where the monitor shows its menu, and how soon it sleeps without a signal (No Signal Timer).</translation>
     </message>
     <message>
         <source>How bright the lamp shines that tells that the monitor is on. Close = dark, Level3 = brightest.</source>
@@ -2030,10 +2034,6 @@
     <message>
         <source>Standing</source>
         <translation>Standing</translation>
-    </message>
-    <message>
-        <source>Starts the program that brings the monitor&apos;s firmware up to date. Leave the monitor switched on until it has finished.</source>
-        <translation>Starts the program that brings the monitor&apos;s firmware up to date. Leave the monitor switched on until it has finished.</translation>
     </message>
     <message>
         <source>Stop service</source>

@@ -452,7 +452,7 @@
         <translation>青</translation>
     </message>
     <message>
-        <source>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = as the picture needs it.</source>
+        <source>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = when needed.</source>
         <translation>暗い場面を明るくします。「レベル 1」と「レベル 2」は常に、「自動 L1」と「自動 L2」は映像に応じて働きます。</translation>
     </message>
     <message>
@@ -462,6 +462,10 @@
     <message>
         <source>Bring to the front</source>
         <translation>前面に出す</translation>
+    </message>
+    <message>
+        <source>Brings the monitor&apos;s firmware up to date. Leave the monitor switched on until it has finished.</source>
+        <translation>モニターのファームウェアを更新するアプリを起動します。完了するまでモニターの電源を切らないでください。</translation>
     </message>
     <message>
         <source>Buffer error</source>
@@ -992,7 +996,7 @@
         <translation>ショートカットキーの競合</translation>
     </message>
     <message>
-        <source>How and where the monitor&apos;s own menu is shown. No Signal Timer = how soon the monitor sleeps without a signal.</source>
+        <source>How and where the monitor shows its menu, and how soon it sleeps without a signal (No Signal Timer).</source>
         <translation>モニターのメニューの表示方法と位置です。「無信号タイマー」は信号がないときにスリープするまでの時間です。</translation>
     </message>
     <message>
@@ -2030,10 +2034,6 @@
     <message>
         <source>Standing</source>
         <translation>固定表示</translation>
-    </message>
-    <message>
-        <source>Starts the program that brings the monitor&apos;s firmware up to date. Leave the monitor switched on until it has finished.</source>
-        <translation>モニターのファームウェアを更新するアプリを起動します。完了するまでモニターの電源を切らないでください。</translation>
     </message>
     <message>
         <source>Stop service</source>

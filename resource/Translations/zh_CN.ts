@@ -452,7 +452,7 @@
         <translation>蓝色</translation>
     </message>
     <message>
-        <source>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = as the picture needs it.</source>
+        <source>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = when needed.</source>
         <translation>提亮昏暗的场景。“等级 1”和“等级 2”始终生效，“自动 L1”和“自动 L2”随画面调整。</translation>
     </message>
     <message>
@@ -462,6 +462,10 @@
     <message>
         <source>Bring to the front</source>
         <translation>切换到前台</translation>
+    </message>
+    <message>
+        <source>Brings the monitor&apos;s firmware up to date. Leave the monitor switched on until it has finished.</source>
+        <translation>启动显示器固件升级程序。升级完成前请勿关闭显示器。</translation>
     </message>
     <message>
         <source>Buffer error</source>
@@ -992,7 +996,7 @@
         <translation>快捷键冲突</translation>
     </message>
     <message>
-        <source>How and where the monitor&apos;s own menu is shown. No Signal Timer = how soon the monitor sleeps without a signal.</source>
+        <source>How and where the monitor shows its menu, and how soon it sleeps without a signal (No Signal Timer).</source>
         <translation>显示器自身菜单的显示方式和位置。“无信号定时器”设定无信号多久后休眠。</translation>
     </message>
     <message>
@@ -2030,10 +2034,6 @@
     <message>
         <source>Standing</source>
         <translation>静止</translation>
-    </message>
-    <message>
-        <source>Starts the program that brings the monitor&apos;s firmware up to date. Leave the monitor switched on until it has finished.</source>
-        <translation>启动显示器固件升级程序。升级完成前请勿关闭显示器。</translation>
     </message>
     <message>
         <source>Stop service</source>

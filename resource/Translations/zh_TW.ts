@@ -452,7 +452,7 @@
         <translation>藍色</translation>
     </message>
     <message>
-        <source>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = as the picture needs it.</source>
+        <source>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = when needed.</source>
         <translation>提亮昏暗的場景。「等級 1」和「等級 2」持續生效，「自動 L1」和「自動 L2」隨畫面調整。</translation>
     </message>
     <message>
@@ -462,6 +462,10 @@
     <message>
         <source>Bring to the front</source>
         <translation>切換到前景</translation>
+    </message>
+    <message>
+        <source>Brings the monitor&apos;s firmware up to date. Leave the monitor switched on until it has finished.</source>
+        <translation>啟動顯示器韌體升級應用程式。升級完成前請勿關閉顯示器。</translation>
     </message>
     <message>
         <source>Buffer error</source>
@@ -992,7 +996,7 @@
         <translation>快速鍵衝突</translation>
     </message>
     <message>
-        <source>How and where the monitor&apos;s own menu is shown. No Signal Timer = how soon the monitor sleeps without a signal.</source>
+        <source>How and where the monitor shows its menu, and how soon it sleeps without a signal (No Signal Timer).</source>
         <translation>顯示器本身選單的顯示方式和位置。「無訊號計時器」設定無訊號多久後休眠。</translation>
     </message>
     <message>
@@ -2030,10 +2034,6 @@
     <message>
         <source>Standing</source>
         <translation>靜止</translation>
-    </message>
-    <message>
-        <source>Starts the program that brings the monitor&apos;s firmware up to date. Leave the monitor switched on until it has finished.</source>
-        <translation>啟動顯示器韌體升級應用程式。升級完成前請勿關閉顯示器。</translation>
     </message>
     <message>
         <source>Stop service</source>

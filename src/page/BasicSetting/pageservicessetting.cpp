@@ -22,8 +22,8 @@ namespace {
 constexpr char kDisplayVersionHelp[] = LABEL("The version of your monitor's firmware.");
 constexpr char kQrCodeHelp[] = LABEL("Scan it with a phone to read more about your monitor.");
 constexpr char kKnowledgeHelp[] = LABEL("Questions and answers about your monitor, in your web browser.");
-constexpr char kUpgradeHelp[] = LABEL("Starts the program that brings the monitor's firmware up to date. Leave the "
-                                      "monitor switched on until it has finished.");
+constexpr char kUpgradeHelp[] =
+    LABEL("Brings the monitor's firmware up to date. Leave the monitor switched on until it has finished.");
 
 constexpr char kVersion[] = LABEL("Display Version");
 constexpr char kQrCode[] = LABEL("QR Code");

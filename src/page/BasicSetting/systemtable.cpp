@@ -7,8 +7,8 @@
 namespace {
 
 // What they are for.
-constexpr char kOSDSettingHelp[] = LABEL(
-    "How and where the monitor's own menu is shown. No Signal Timer = how soon the monitor sleeps without a signal.");
+constexpr char kOSDSettingHelp[] =
+    LABEL("How and where the monitor shows its menu, and how soon it sleeps without a signal (No Signal Timer).");
 constexpr char kPowerSavingHelp[] = LABEL("The monitor uses less power. Close = off, Level2 saves the most.");
 constexpr char kAudioSettingsHelp[] =
     LABEL("The sound of the monitor. Audio Mute: Close = sound, Open = silence. Convo = for voices.");

@@ -10,8 +10,8 @@ namespace {
 // What they are for.
 constexpr char kGameRushHelp[] = LABEL(
     "Shortens the delay between your hand and the picture in fast games. Adaptive-Sync cannot be chosen meanwhile.");
-constexpr char kNightVisionHelp[] = LABEL(
-    "Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = as the picture needs it.");
+constexpr char kNightVisionHelp[] =
+    LABEL("Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = when needed.");
 constexpr char kHDRHelp[] =
     LABEL("How pictures with a high dynamic range are shown. Close = off, Auto = when the signal has it.");
 constexpr char kAdaptiveSyncHelp[] =

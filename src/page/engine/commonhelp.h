@@ -6,19 +6,16 @@
 
 inline constexpr char kMotionHelp[] =
     LABEL("Makes what moves look sharper. Close = off; Low to High and Ull-Level1 to 3 are stronger in turn.");
-inline constexpr char kResponseHelp[] =
-    LABEL("Pixels change faster and motion smears less. Close = off, Topspeed = fastest, which may leave bright edges.");
+inline constexpr char kResponseHelp[] = LABEL(
+    "Pixels change faster and motion smears less. Close = off, Topspeed = fastest, which may leave bright edges.");
 inline constexpr char kDimmingHelp[] =
     LABEL("Dims the light behind dark parts, so that black is deeper. Close = off; the others are stronger in turn.");
-inline constexpr char kColorHelp[] =
-    LABEL("Makes colours stronger. 0 = off.");
-inline constexpr char kContrastHelp[] =
-    LABEL("Raises the contrast between light and dark parts. 0 = off.");
+inline constexpr char kColorHelp[] = LABEL("Makes colours stronger. 0 = off.");
+inline constexpr char kContrastHelp[] = LABEL("Raises the contrast between light and dark parts. 0 = off.");
 inline constexpr char kShadowHelp[] =
     LABEL("Makes dark parts lighter or darker, so that you see what is in the shadows.");
 inline constexpr char kResolutionHelp[] =
     LABEL("Super Resolution: makes blurred or enlarged pictures look sharper. 0 = off.");
-inline constexpr char kHaloHelp[] =
-    LABEL("Reduces the glow around bright things on a dark ground.");
-inline constexpr char kRangeHelp[] =
-    LABEL("Must match the computer's signal. RGB Auto = found out by itself, RGB Limit = 16 to 235, RGB Full = 0 to 255.");
+inline constexpr char kHaloHelp[] = LABEL("Reduces the glow around bright things on a dark ground.");
+inline constexpr char kRangeHelp[] = LABEL(
+    "Must match the computer's signal. RGB Auto = found out by itself, RGB Limit = 16 to 235, RGB Full = 0 to 255.");
