@@ -122,6 +122,8 @@ void TestWindowLinks::overlayGoesByItself()
     m_desk->clock.advance(1000ms);
     const QRect shape = toast()->frameGeometry();
     overlay.showNote(QStringLiteral("Brightness, named at more length than a note is wide"), QStringLiteral("60"), 0.6);
+    QCOMPARE(toast()->frameGeometry(), shape);
+    overlay.showNote(QStringLiteral("Movie Mode"), QStringLiteral("With the factory parameters"));
     QCOMPARE(toast()->frameGeometry(), shape); // it does not jump
     m_desk->clock.advance(1000ms);
     QVERIFY(overlay.isShown()); // the second note has its own time

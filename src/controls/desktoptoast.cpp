@@ -45,7 +45,7 @@ void DesktopToast::showNote(const QString &title, const QString &text, std::opti
     layout()->setContentsMargins(kSide, kEdge + kBarRoom - below, kSide, kEdge + below);
     m_title->setText(title);
     m_text->setText(text);
-    adjustSize();
+    resize(kWidth, layout()->totalHeightForWidth(kWidth)); // adjustSize() would break the text at a width of its own
     moveToCorner();
     show();
     Announcer::say(QStringLiteral("%1: %2").arg(title, text));
