@@ -203,6 +203,8 @@ void TestMainWindow::otherEntriesNameThemselves()
             Page *known = m_window->page(bar->entries()[i].page);
             const QWidget *page = known ? known->widget() : m_window->findChild<EmptyPage *>();
             QVERIFY2(bar->isVisible() && page->isVisible(), bar->entries()[i].label);
+            if (auto *panels = dynamic_cast<PanelPage *>(known))
+                unexplained += unexplainedPanels(*panels);
             if (const auto *office = qobject_cast<const PageOffice *>(page)) {
                 QCOMPARE(office->currentPanel(), int(i));
                 m_window->refreshPages(); // which leaves open what is open

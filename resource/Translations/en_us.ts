@@ -120,10 +120,6 @@
         <translation>%1, frames: %2</translation>
     </message>
     <message>
-        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
-        <translation>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</translation>
-    </message>
-    <message>
         <source>1 Hour</source>
         <translation>1 Hour</translation>
     </message>
@@ -218,6 +214,10 @@
     <message>
         <source>9300K</source>
         <translation>9300K</translation>
+    </message>
+    <message>
+        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
+        <translation>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</translation>
     </message>
     <message>
         <source>A WAV file</source>

@@ -120,10 +120,6 @@
         <translation>%1，帧数：%2</translation>
     </message>
     <message>
-        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
-        <translation>&lt;font color=white&gt;正在获取显示设备信息...&lt;/font&gt;</translation>
-    </message>
-    <message>
         <source>1 Hour</source>
         <translation>1 小时</translation>
     </message>
@@ -218,6 +214,10 @@
     <message>
         <source>9300K</source>
         <translation>9300K</translation>
+    </message>
+    <message>
+        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
+        <translation>&lt;font color=white&gt;正在获取显示设备信息...&lt;/font&gt;</translation>
     </message>
     <message>
         <source>A WAV file</source>
