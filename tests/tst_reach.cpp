@@ -249,8 +249,7 @@ void TestReach::oneObjectTells()
         return object->accessibleName();
     };
     m_desk->monitor().refuseWrites(virtualdesk::kForEver);
-    QCOMPARE(told([&] { inputs->buttons()[2]->click(); }),
-             QStringLiteral("The monitor did not take \"Input Signal: DP2\"."));
+    QCOMPARE(told([&] { inputs->buttons()[2]->click(); }), QStringLiteral("The monitor did not take \"DP2\"."));
     QCOMPARE(told([&] { m_window->overlay()->showNote(QStringLiteral("Brightness"), QStringLiteral("60")); }),
              QStringLiteral("Brightness: 60"));
     m_desk->monitor().recover();
