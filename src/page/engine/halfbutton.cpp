@@ -8,7 +8,7 @@
 namespace {
 
 constexpr int kPixels = 15;
-constexpr int kWidth = 112;
+constexpr int kWidth = 128;
 
 const char *const kStyle = "QPushButton { border-image: url(%1normal.png); color: #adadad; padding-right: %2px; }"
                            "QPushButton:hover { border-image: url(%1hover.png); }"
