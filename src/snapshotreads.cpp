@@ -6,11 +6,11 @@ constexpr SnapshotRead kAudioReads[] = {
     {Command::AudioVolume, true}, {Command::AudioMute, true, true}, {Command::AudioMode, false}};
 
 constexpr SnapshotRead kCareReads[] = {
-    {Command::PixelShift, false},   {Command::CareFunction2, true},    {Command::DetectionRate, false},
-    {Command::StaticIcon, false},   {Command::CareState5, true, true}, {Command::Taskbar, false},
-    {Command::Boundary, false},     {Command::CareState8, true, true}, {Command::CareSwitch9, true, true},
-    {Command::CareMode, false},     {Command::CareIsp, false},         {Command::CareFunctionB, true},
-    {Command::CareFunctionE, true},
+    {Command::PixelShift, false}, {Command::StillPicture, true},      {Command::DetectionRate, false},
+    {Command::StaticIcon, false}, {Command::CareRunning, true, true}, {Command::Taskbar, false},
+    {Command::Boundary, false},   {Command::CareDue, true, true},     {Command::CareReminder, true, true},
+    {Command::CareMode, false},   {Command::CareIsp, false},          {Command::CareInterval, true},
+    {Command::CareNow, true},
 };
 
 constexpr SnapshotRead kModelReads[] = {

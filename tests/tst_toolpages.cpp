@@ -206,7 +206,7 @@ void TestToolPages::everythingIsReadOnce()
     QStringList asked = m_desk->takeCommands().replaceInStrings("!", ""); // answered or not
     for (const Command command : readableCommands())
         QCOMPARE(asked.removeAll(QStringLiteral("R %1").arg(static_cast<int>(command), 2, 16, QLatin1Char('0'))),
-                 command == Command::SceneMode || command == Command::CareFunction2 ? 2 : 1); // with the block
+                 command == Command::SceneMode || command == Command::StillPicture ? 2 : 1); // with the block
     QCOMPARE(asked, QStringList(10, "R fe"));
 
     m_desk->monitor().goDeaf(); // given up at once, rather than for each

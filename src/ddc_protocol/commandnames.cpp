@@ -19,18 +19,18 @@ constexpr char kSaturation[] = LABEL("Saturation");
 
 constexpr CommandName kNames[] = {
     {Command::PixelShift, kCare, Capability::OledPanel},
-    {Command::CareFunction2, kCare, Capability::OledPanel},
+    {Command::StillPicture, kCare, Capability::OledPanel},
     {Command::DetectionRate, kCare, Capability::OledPanel},
     {Command::StaticIcon, kCare, Capability::OledPanel},
-    {Command::CareState5, kCare, Capability::OledPanel},
+    {Command::CareRunning, kCare, Capability::OledPanel},
     {Command::Taskbar, kCare, Capability::OledPanel},
     {Command::Boundary, kCare, Capability::OledPanel},
-    {Command::CareState8, kCare, Capability::OledPanel},
-    {Command::CareSwitch9, kCare, Capability::OledPanel},
+    {Command::CareDue, kCare, Capability::OledPanel},
+    {Command::CareReminder, kCare, Capability::OledPanel},
     {Command::CareMode, kCare, Capability::OledPanel},
-    {Command::CareFunctionB, kCare, Capability::OledPanel},
+    {Command::CareInterval, kCare, Capability::OledPanel},
     {Command::CareIsp, kCare, Capability::OledPanel},
-    {Command::CareFunctionE, kCare, Capability::OledPanel},
+    {Command::CareNow, kCare, Capability::OledPanel},
     {Command::Brightness, LABEL("Brightness")},
     {Command::Contrast, LABEL("Contrast")},
     {Command::ColorTemperature, LABEL("Color Temperature")},
@@ -126,12 +126,18 @@ std::span<const CommandName> commandNames()
     return kNames;
 }
 
+const CommandName &nameOf(Command command)
+{
+    static constexpr CommandName kNone{Command{}, ""};
+    const auto found = std::ranges::find(kNames, command, &CommandName::command);
+    return found == std::end(kNames) ? kNone : *found;
+}
+
 QString commandName(Command command)
 {
-    const auto found = std::find_if(std::begin(kNames), std::end(kNames),
-                                    [command](const CommandName &name) { return name.command == command; });
-    if (found != std::end(kNames))
-        return QObject::tr(found->label);
+    const char *const label = nameOf(command).label;
+    if (*label != '\0')
+        return QObject::tr(label);
     return QStringLiteral("0x%1").arg(static_cast<int>(command), 2, 16, QLatin1Char('0'));
 }
 

@@ -8,7 +8,7 @@
 
 #include "ddc_protocol/command.h"
 
-/// What a command is called where no page stands for it, such as in a list of errors.
+/// What a command is called, in rows of the pages as in a list of errors, and which monitors have it.
 struct CommandName
 {
     Command command;
@@ -19,6 +19,9 @@ struct CommandName
 
 /// All commands that the program uses, by code.
 std::span<const CommandName> commandNames();
+
+/// The row of a command; an empty name where the program has none.
+const CommandName &nameOf(Command command);
 
 /// The translated name of a command; one that the program does not use is told by its code.
 QString commandName(Command command);

@@ -15,5 +15,10 @@ enum class PageId {
     ScenarioFollowing,
     LedMusic,
     LedSystem,
+    GameAssistant,
+    MultiWindow,
+    OledCare,
+    Emberline,
+    Splitter,
     Empty
 };

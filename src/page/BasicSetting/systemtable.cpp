@@ -1,6 +1,7 @@
 #include "page/BasicSetting/systemtable.h"
 
 #include "controls/metrics.h"
+#include "page/engine/commandrows.h"
 #include "page/engine/commonhelp.h"
 #include "page/engine/commonoptions.h"
 
@@ -23,22 +24,14 @@ constexpr char kNoSignalTimerHelp[] = LABEL("How long the monitor waits without 
 
 constexpr int kCaption = metrics::kCaptionWidth;
 
-constexpr SliderSpec kOsd[] = {
-    {"Show Time(s)", LABEL("Show Time(s)"), Command::OsdShowTime, 5, 100},
-    {"H-Position", LABEL("H-Position"), Command::OsdHPosition, 0, 100},
-    {"V-Position", LABEL("V-Position"), Command::OsdVPosition, 0, 100},
-    {"Transparency", LABEL("Transparency"), Command::OsdTransparency, 0, 100},
-    {"No Signal Timer",
-     LABEL("No Signal Timer"),
-     Command::NoSignalTimer,
-     0,
-     100,
-     SendOn::Move,
-     Accent::Mint,
-     {},
-     kNoSignalTimerHelp},
+const SliderSpec kOsd[] = {
+    sliderOf(Command::OsdShowTime, 5, 100),
+    sliderOf(Command::OsdHPosition, 0, 100),
+    sliderOf(Command::OsdVPosition, 0, 100),
+    sliderOf(Command::OsdTransparency, 0, 100),
+    sliderOf(Command::NoSignalTimer, 0, 100, SendOn::Move, kNoSignalTimerHelp),
 };
-constexpr SliderSpec kVolume[] = {{"Audio Volume", LABEL("Audio Volume"), Command::AudioVolume, 0, 100}};
+const SliderSpec kVolume[] = {sliderOf(Command::AudioVolume, 0, 100)};
 constexpr Option kAudioMode[] = {{LABEL("Standard"), 0}, {LABEL("Movie"), 1}, {LABEL("Convo"), 2}};
 constexpr Option kPowerSaving[] = {{LABEL("Close"), 0}, {LABEL("Level1"), 1}, {LABEL("Level2"), 2}};
 
@@ -73,29 +66,28 @@ constexpr Option kLanguages[] = {
     {"Portugues do Brasilazil", 5},
 };
 
-const Section kOutputRange[] = {OptionGroup{LABEL("Output Range"), Command::OutputRange, kOutputRangeOptions}};
+const Section kOutputRange[] = {groupOf(Command::OutputRange, kOutputRangeOptions)};
 const Section kOsdSetting[] = {SliderGrid{nullptr, 1, kCaption, kOsd}};
-const Section kPowerSavingPanel[] = {OptionGroup{LABEL("Power Saving"), Command::PowerSaving, kPowerSaving}};
-const Section kAudioSettings[] = {SliderGrid{nullptr, 1, kCaption, kVolume},
-                                  OptionGroup{LABEL("Audio Mute"), Command::AudioMute, kCloseOpen},
-                                  OptionGroup{LABEL("Audio Mode"), Command::AudioMode, kAudioMode}};
-const Section kPowerLedPanel[] = {OptionGroup{LABEL("Power LED"), Command::PowerLed, kPowerLed}};
-const Section kGravitySensor[] = {OptionGroup{LABEL("Gravity Sensor"), Command::GravitySensor, kCloseOpen}};
+const Section kPowerSavingPanel[] = {groupOf(Command::PowerSaving, kPowerSaving)};
+const Section kAudioSettings[] = {SliderGrid{nullptr, 1, kCaption, kVolume}, groupOf(Command::AudioMute, kCloseOpen),
+                                  groupOf(Command::AudioMode, kAudioMode)};
+const Section kPowerLedPanel[] = {groupOf(Command::PowerLed, kPowerLed)};
+const Section kGravitySensor[] = {groupOf(Command::GravitySensor, kCloseOpen)};
 const Section kResetFactory[] = {CustomPart{kResetPart}};
-const Section kOsdLanguage[] = {OptionGroup{LABEL("OSD Language"), Command::OsdLanguage, kLanguages}};
-const Section kMenuLock[] = {OptionGroup{LABEL("Menu Lock"), Command::MenuLock, kSwitchOptions, {}, GroupLook::Switch}};
+const Section kOsdLanguage[] = {groupOf(Command::OsdLanguage, kLanguages)};
+const Section kMenuLock[] = {switchOf(Command::MenuLock)};
 
 const PanelSpec kPanels[] = {
-    {LABEL("Output Range"), "output_range", "pageOutputRange", kOutputRange, {}, kRangeHelp},
+    panelOf(Command::OutputRange, "output_range", "pageOutputRange", kOutputRange, kRangeHelp),
     {LABEL("OSD Setting"), "osd_setting", "pageOSDSetting", kOsdSetting, {}, kOSDSettingHelp},
-    {LABEL("Power Saving"), "power_saving", "pagePowerSaving", kPowerSavingPanel, {}, kPowerSavingHelp},
-    // "Aduio" is spelled so.
-    {LABEL("Audio Settings"), "audio_settings", "pageAduioSettings", kAudioSettings, {}, kAudioSettingsHelp},
-    {LABEL("Power LED"), "power_led", "pagePowerLED", kPowerLedPanel, {}, kPowerLEDHelp},
-    {LABEL("Gravity Sensor"), "gravity_sensor", "pageGravitySensor", kGravitySensor, {}, kGravitySensorHelp},
-    {LABEL("Reset Factory"), "reset_factory", "pageRestFactorySettings", kResetFactory, {}, kResetFactoryHelp},
-    {LABEL("OSD Language"), "osd_language", "pageLanguage", kOsdLanguage, {}, kLanguageHelp},
-    {LABEL("Menu Lock"), "menu_lock", "pageMenuLock", kMenuLock, {}, kMenuLockHelp},
+    panelOf(Command::PowerSaving, "power_saving", "pagePowerSaving", kPowerSavingPanel, kPowerSavingHelp),
+    {LABEL("Audio Settings"), "audio_settings", "pageAduioSettings", kAudioSettings, {}, kAudioSettingsHelp}, // spelled
+                                                                                                              // so
+    panelOf(Command::PowerLed, "power_led", "pagePowerLED", kPowerLedPanel, kPowerLEDHelp),
+    panelOf(Command::GravitySensor, "gravity_sensor", "pageGravitySensor", kGravitySensor, kGravitySensorHelp),
+    panelOf(Command::ResetFactory, "reset_factory", "pageRestFactorySettings", kResetFactory, kResetFactoryHelp),
+    panelOf(Command::OsdLanguage, "osd_language", "pageLanguage", kOsdLanguage, kLanguageHelp),
+    panelOf(Command::MenuLock, "menu_lock", "pageMenuLock", kMenuLock, kMenuLockHelp),
 };
 
 } // namespace

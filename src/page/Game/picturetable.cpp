@@ -2,6 +2,7 @@
 #include "ddc_protocol/devicestate.h"
 
 #include "controls/metrics.h"
+#include "page/engine/commandrows.h"
 #include "page/engine/commonhelp.h"
 #include "page/engine/commonoptions.h"
 
@@ -31,38 +32,36 @@ constexpr Option kHdr[] = {{LABEL("Close"), 0}, {LABEL("Auto"), 1}, {LABEL("Game
 constexpr Option kLocalDimming[] = {
     {LABEL("Close"), 2}, {LABEL("Low"), 3}, {LABEL("Smooth"), 4}, {LABEL("Medium"), 5}, {LABEL("High"), 6}};
 
-constexpr SliderSpec kColorEnhance[] = {
-    {"Color Enhance", LABEL("Color Enhance"), Command::ColorEnhance, 0, 10, SendOn::ReleaseWithStore}};
-constexpr SliderSpec kContrastEnhance[] = {
-    {"CR Enhance", LABEL("CR Enhance"), Command::ContrastEnhance, 0, 5, SendOn::ReleaseWithStore}};
+const SliderSpec kColorEnhance[] = {sliderOf(Command::ColorEnhance, 0, 10, SendOn::ReleaseWithStore)};
+const SliderSpec kContrastEnhance[] = {sliderOf(Command::ContrastEnhance, 0, 5, SendOn::ReleaseWithStore)};
 constexpr SliderSpec kShadowBalance[] = {
     {"Shadow Balance", LABEL("Shadow Balance"), Command::BlackLevel, 0, 100, SendOn::ReleaseWithStore}};
 constexpr SliderSpec kSuperResolution[] = {
     {"SR", LABEL("SR"), Command::SuperResolution, 0, 5, SendOn::ReleaseWithStore}};
-constexpr SliderSpec kHaloControl[] = {
-    {"Halo Control", LABEL("Halo Control"), Command::HaloControl, 0, 100, SendOn::ReleaseWithStore}};
+const SliderSpec kHaloControl[] = {sliderOf(Command::HaloControl, 0, 100, SendOn::ReleaseWithStore)};
 
 constexpr OptionGroup makeSwitch(const char *label, Command command, std::span<const Option> halves = kSwitchOptions)
 {
     return {label, command, halves, {}, GroupLook::Switch};
 }
 
+// Its panel, unlike its value in the list of all, is there for every monitor that has this page.
 const Section kGameRush[] = {makeSwitch(LABEL("Game Rush"), Command::GameRush)};
 const Section kDyds[] = {makeSwitch(LABEL("DyDs"), Command::MotionTech, kAlwaysOff),
                          OptionGroup{LABEL("DyDs"), Command::MotionTech, kMotionOptions}};
 const Section kMpcs[] = {makeSwitch(LABEL("MPCS"), Command::MotionTech, kAlwaysOff),
                          OptionGroup{LABEL("MPCS"), Command::MotionTech, kMotionOptions}};
-const Section kNightVisionPanel[] = {OptionGroup{LABEL("Night Vision"), Command::NightVision, kNightVision}};
+const Section kNightVisionPanel[] = {groupOf(Command::NightVision, kNightVision)};
 const Section kDynamicOd[] = {OptionGroup{LABEL("Dynamic OD"), Command::GrayResponse, kGrayResponseOptions}};
-const Section kHdrPanel[] = {OptionGroup{LABEL("HDR"), Command::Hdr, kHdr}};
+const Section kHdrPanel[] = {groupOf(Command::Hdr, kHdr)};
 const Section kColorEnhancePanel[] = {SliderGrid{nullptr, 1, kCaption, kColorEnhance}};
 const Section kContrastEnhancePanel[] = {SliderGrid{nullptr, 1, kCaption, kContrastEnhance}};
 const Section kShadowBalancePanel[] = {SliderGrid{nullptr, 1, kCaption, kShadowBalance}};
 const Section kSuperResolutionPanel[] = {SliderGrid{nullptr, 1, kCaption, kSuperResolution}};
-const Section kLocalDimmingPanel[] = {makeSwitch(LABEL("Localdimming"), Command::LocalDimming, kAlwaysOff),
-                                      OptionGroup{LABEL("Localdimming"), Command::LocalDimming, kLocalDimming}};
+const Section kLocalDimmingPanel[] = {switchOf(Command::LocalDimming, kAlwaysOff),
+                                      groupOf(Command::LocalDimming, kLocalDimming)};
 const Section kHaloControlPanel[] = {SliderGrid{nullptr, 1, kCaption, kHaloControl}};
-const Section kAdaptiveSync[] = {makeSwitch(LABEL("Adaptive-Sync"), Command::AdaptiveSync)};
+const Section kAdaptiveSync[] = {switchOf(Command::AdaptiveSync)};
 
 } // namespace
 
@@ -74,17 +73,15 @@ std::vector<PanelSpec> picturePanels(const DeviceState &state)
     return {
         {LABEL("Game Rush"), "game_rush", "pageGameRush", kGameRush, {}, kGameRushHelp},
         motion,
-        {LABEL("Night Vision"), "night_vision", "pageNightVision", kNightVisionPanel, {}, kNightVisionHelp},
+        panelOf(Command::NightVision, "night_vision", "pageNightVision", kNightVisionPanel, kNightVisionHelp),
         {LABEL("Dynamic OD"), "dynamic_od", "pageDynamicOD", kDynamicOd, {}, kResponseHelp},
-        {LABEL("HDR"), "hdr", "pageHDR", kHdrPanel, {}, kHDRHelp},
-        {LABEL("Color Enhance"), "color_enhance", "pageColorEnhance", kColorEnhancePanel, {}, kColorHelp},
-        {LABEL("CR Enhance"), "cr_enhance", "pageCREnhance", kContrastEnhancePanel, {}, kContrastHelp},
+        panelOf(Command::Hdr, "hdr", "pageHDR", kHdrPanel, kHDRHelp),
+        panelOf(Command::ColorEnhance, "color_enhance", "pageColorEnhance", kColorEnhancePanel, kColorHelp),
+        panelOf(Command::ContrastEnhance, "cr_enhance", "pageCREnhance", kContrastEnhancePanel, kContrastHelp),
         {LABEL("Shadow Balance"), "shadow_balance", "pageShadowBalance", kShadowBalancePanel, {}, kShadowHelp},
         {LABEL("SR"), "super_resolution", "pageSR", kSuperResolutionPanel, {}, kResolutionHelp},
-        {LABEL("Localdimming"), "local_dimming", "pageLocaldimming", kLocalDimmingPanel, Capability::LocalDimming,
-         kDimmingHelp},
-        {LABEL("Halo Control"), "halo_control", "pageHaloControl", kHaloControlPanel, Capability::HaloControl,
-         kHaloHelp},
-        {LABEL("Adaptive-Sync"), "adaptive_sync", "pageAdaptiveSync", kAdaptiveSync, {}, kAdaptiveSyncHelp},
+        panelOf(Command::LocalDimming, "local_dimming", "pageLocaldimming", kLocalDimmingPanel, kDimmingHelp),
+        panelOf(Command::HaloControl, "halo_control", "pageHaloControl", kHaloControlPanel, kHaloHelp),
+        panelOf(Command::AdaptiveSync, "adaptive_sync", "pageAdaptiveSync", kAdaptiveSync, kAdaptiveSyncHelp),
     };
 }

@@ -1,5 +1,6 @@
 #include "page/IO/iotable.h"
 
+#include "page/engine/commandrows.h"
 #include "page/engine/commonhelp.h"
 #include "page/engine/commonoptions.h"
 
@@ -19,29 +20,21 @@ constexpr Option kDpTypeC[] = {{LABEL("5.4G"), 0}, {LABEL("8.1G"), 1}};
 constexpr Option kInputSignal[] = {{LABEL("Auto"), 0},   {LABEL("DP1"), 1},   {LABEL("DP2"), 2},
                                    {LABEL("Type-C"), 3}, {LABEL("HDMI1"), 4}, {LABEL("HDMI2"), 5}};
 
-constexpr OptionGroup makeSwitch(const char *label, Command command)
-{
-    return {label, command, kSwitchOptions, {}, GroupLook::Switch};
-}
-
-const Section kOutputRange[] = {OptionGroup{LABEL("Output Range"), Command::OutputRange, kOutputRangeOptions}};
-const Section kQuickBoot[] = {makeSwitch(LABEL("Quick Boot"), Command::QuickBoot)};
-const Section kUsbPower[] = {makeSwitch(LABEL("USB Power"), Command::UsbPower),
-                             makeSwitch(LABEL("DP Alt Mode"), Command::DpAltMode)};
-const Section kUsbSwitchPanel[] = {OptionGroup{LABEL("USB Switch"), Command::UsbSwitch, kUsbSwitch},
-                                   OptionGroup{LABEL("DP/Type-C"), Command::DpTypeC, kDpTypeC}};
-const Section kInputSignalPanel[] = {CustomPart{kInputNowPart},
-                                     OptionGroup{LABEL("Input Signal"), Command::InputSignal, kInputSignal},
+const Section kOutputRange[] = {groupOf(Command::OutputRange, kOutputRangeOptions)};
+const Section kQuickBoot[] = {switchOf(Command::QuickBoot)};
+const Section kUsbPower[] = {switchOf(Command::UsbPower), switchOf(Command::DpAltMode)};
+const Section kUsbSwitchPanel[] = {groupOf(Command::UsbSwitch, kUsbSwitch), groupOf(Command::DpTypeC, kDpTypeC)};
+const Section kInputSignalPanel[] = {CustomPart{kInputNowPart}, groupOf(Command::InputSignal, kInputSignal),
                                      CustomPart{kPreviewPart}};
-const Section kCec[] = {makeSwitch(LABEL("CEC"), Command::Cec)};
+const Section kCec[] = {switchOf(Command::Cec)};
 
 const PanelSpec kPanels[] = {
-    {LABEL("Output Range"), "output_range", "pageOutputRange", kOutputRange, {}, kRangeHelp},
-    {LABEL("Quick Boot"), "quick_boot", "pageQuickBoot", kQuickBoot, {}, kQuickBootHelp},
-    {LABEL("USB Power"), "usb_power", "pageUSBPower", kUsbPower, {}, kUSBPowerHelp},
-    {LABEL("USB Switch"), "usb_switch", "pageUSBSwitch", kUsbSwitchPanel, {}, kUSBSwitchHelp},
-    {LABEL("Input Signal"), "input_signal", "pageInputSignal", kInputSignalPanel, {}, kInputSignalHelp},
-    {LABEL("CEC"), "cec", "pageCEC", kCec, {}, kCECHelp},
+    panelOf(Command::OutputRange, "output_range", "pageOutputRange", kOutputRange, kRangeHelp),
+    panelOf(Command::QuickBoot, "quick_boot", "pageQuickBoot", kQuickBoot, kQuickBootHelp),
+    panelOf(Command::UsbPower, "usb_power", "pageUSBPower", kUsbPower, kUSBPowerHelp),
+    panelOf(Command::UsbSwitch, "usb_switch", "pageUSBSwitch", kUsbSwitchPanel, kUSBSwitchHelp),
+    panelOf(Command::InputSignal, "input_signal", "pageInputSignal", kInputSignalPanel, kInputSignalHelp),
+    panelOf(Command::Cec, "cec", "pageCEC", kCec, kCECHelp),
 };
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "page/Office/officetable.h"
 
+#include "page/engine/commandrows.h"
 #include "page/engine/commonoptions.h"
 
 namespace {
@@ -35,22 +36,22 @@ constexpr Option kRuler[] = {{LABEL("Angle close"), 0}, {LABEL("Ruler"), 1}, {LA
 constexpr Option kComposition[] = {{LABEL("Close"), 0},          {LABEL("Triangle"), 1},   {LABEL("Frame"), 2},
                                    {LABEL("Golden Section"), 3}, {LABEL("Trichotomy"), 4}, {LABEL("Round"), 5}};
 
-const Section kPaperPanel[] = {OptionGroup{LABEL("Paper"), Command::Paper, kPaper}, CustomPart{kPaperSizePart}};
-const Section kAlignmentPanel[] = {OptionGroup{LABEL("Alignment"), Command::Alignment, kAlignment}};
-const Section kRulerPanel[] = {OptionGroup{LABEL("Ruler"), Command::Ruler, kRuler}};
-const Section kAlignmentAid[] = {OptionGroup{LABEL("Alignment Aid"), Command::AlignmentAid, kCloseOpen}};
-const Section kCompositionPanel[] = {OptionGroup{LABEL("Composition"), Command::Composition, kComposition}};
-const Section kEyeshieldPanel[] = {OptionGroup{LABEL("Eyeshield Remind"), Command::RestTimer, kEyeshield}};
-const Section kAiDualMode[] = {OptionGroup{LABEL("AI Dual Mode"), Command::AiDualMode, kCloseOpen}};
+const Section kPaperPanel[] = {groupOf(Command::Paper, kPaper), CustomPart{kPaperSizePart}};
+const Section kAlignmentPanel[] = {groupOf(Command::Alignment, kAlignment)};
+const Section kRulerPanel[] = {groupOf(Command::Ruler, kRuler)};
+const Section kAlignmentAid[] = {groupOf(Command::AlignmentAid, kCloseOpen)};
+const Section kCompositionPanel[] = {groupOf(Command::Composition, kComposition)};
+const Section kEyeshieldPanel[] = {groupOf(Command::RestTimer, kEyeshield)};
+const Section kAiDualMode[] = {groupOf(Command::AiDualMode, kCloseOpen)};
 
 const PanelSpec kPanels[] = {
-    {LABEL("Paper"), "office_paper", "pagePaper", kPaperPanel, {}, kPaperHelp},
-    {LABEL("Alignment"), "alignment", "pageAlignment", kAlignmentPanel, {}, kAlignmentHelp},
-    {LABEL("Ruler"), "ruler", "pageRuler", kRulerPanel, {}, kRulerHelp},
-    {LABEL("Alignment Aid"), "alignment_aid", "pageAlignmentAid", kAlignmentAid, {}, kAlignmentAidHelp},
-    {LABEL("Composition"), "composition", "pageComposition", kCompositionPanel, {}, kCompositionHelp},
-    {LABEL("Eyeshield Remind"), "eyeshield_remind", "pageEyeshieldRemind", kEyeshieldPanel, {}, kEyeshieldRemindHelp},
-    {LABEL("AI Dual Mode"), "ai_dual_mode", "pageAIDualMode", kAiDualMode, {}, kAIDualModeHelp},
+    panelOf(Command::Paper, "office_paper", "pagePaper", kPaperPanel, kPaperHelp),
+    panelOf(Command::Alignment, "alignment", "pageAlignment", kAlignmentPanel, kAlignmentHelp),
+    panelOf(Command::Ruler, "ruler", "pageRuler", kRulerPanel, kRulerHelp),
+    panelOf(Command::AlignmentAid, "alignment_aid", "pageAlignmentAid", kAlignmentAid, kAlignmentAidHelp),
+    panelOf(Command::Composition, "composition", "pageComposition", kCompositionPanel, kCompositionHelp),
+    panelOf(Command::RestTimer, "eyeshield_remind", "pageEyeshieldRemind", kEyeshieldPanel, kEyeshieldRemindHelp),
+    panelOf(Command::AiDualMode, "ai_dual_mode", "pageAIDualMode", kAiDualMode, kAIDualModeHelp),
 };
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "page/Scene/scenetable.h"
 
 #include "controls/metrics.h"
+#include "page/engine/commandrows.h"
 #include "page/engine/commonhelp.h"
 #include "page/engine/commonoptions.h"
 
@@ -16,29 +17,13 @@ constexpr char kLowBlueLightHelp[] = LABEL("Takes blue out of the picture, which
 constexpr int kWideCaption = metrics::kCaptionWidth;
 constexpr int kNarrowCaption = 52;
 
-constexpr SliderSpec kPictureSliders[] = {
-    {"Brightness", LABEL("Brightness"), Command::Brightness, 0, 100},
-    {"CR Enhance",
-     LABEL("CR Enhance"),
-     Command::ContrastEnhance,
-     0,
-     5,
-     SendOn::Release,
-     Accent::Mint,
-     {},
-     kContrastHelp},
-    {"Contrast", LABEL("Contrast"), Command::Contrast, 0, 100},
-    {"Super Resolution",
-     LABEL("Super Resolution"),
-     Command::SuperResolution,
-     0,
-     5,
-     SendOn::Release,
-     Accent::Mint,
-     {},
-     kResolutionHelp},
-    {"Sharpness", LABEL("Sharpness"), Command::Sharpness, 0, 8},
-    {"Black Level", LABEL("Black Level"), Command::BlackLevel, 0, 100, SendOn::Release, Accent::Mint, {}, kShadowHelp},
+const SliderSpec kPictureSliders[] = {
+    sliderOf(Command::Brightness, 0, 100),
+    sliderOf(Command::ContrastEnhance, 0, 5, SendOn::Release, kContrastHelp),
+    sliderOf(Command::Contrast, 0, 100),
+    sliderOf(Command::SuperResolution, 0, 5, SendOn::Release, kResolutionHelp),
+    sliderOf(Command::Sharpness, 0, 8),
+    sliderOf(Command::BlackLevel, 0, 100, SendOn::Release, kShadowHelp),
     {"Color Enchance",
      LABEL("Color Enchance"),
      Command::ColorEnhance,
@@ -48,17 +33,8 @@ constexpr SliderSpec kPictureSliders[] = {
      Accent::Mint,
      {},
      kColorHelp},
-    {"Low Blue Light",
-     LABEL("Low Blue Light"),
-     Command::LowBlueLight,
-     0,
-     4,
-     SendOn::Move,
-     Accent::Mint,
-     {},
-     kLowBlueLightHelp},
-    {"Halo Control", LABEL("Halo Control"), Command::HaloControl, 0, 100, SendOn::Release, Accent::Mint,
-     Capability::HaloControl, kHaloHelp},
+    sliderOf(Command::LowBlueLight, 0, 4, SendOn::Move, kLowBlueLightHelp),
+    sliderOf(Command::HaloControl, 0, 100, SendOn::Release, kHaloHelp),
 };
 
 constexpr Option kGamma[] = {
@@ -106,19 +82,12 @@ constexpr SliderSpec kHue[] = {
 
 const Section kSections[] = {
     SliderGrid{nullptr, 2, kWideCaption, kPictureSliders},
-    OptionGroup{LABEL("Gama"), Command::Gamma, kGamma, {}, GroupLook::Buttons, kGamaHelp},
-    OptionGroup{
-        LABEL("Gray Response"), Command::GrayResponse, kGrayResponseOptions, {}, GroupLook::Buttons, kResponseHelp},
-    OptionGroup{LABEL("Light Sensor"), Command::LightSensor, kCloseOpen, {}, GroupLook::Buttons, kLightSensorHelp},
-    OptionGroup{LABEL("Localdimming"), Command::LocalDimming, kLocalDimming, Capability::LocalDimming,
-                GroupLook::Buttons, kDimmingHelp},
-    OptionGroup{LABEL("DyDs TECH"), Command::MotionTech, kMotionOptions, {}, GroupLook::Buttons, kMotionHelp},
-    OptionGroup{LABEL("Color Temperature"),
-                Command::ColorTemperature,
-                kColorTemperature,
-                {},
-                GroupLook::Buttons,
-                kColorTemperatureHelp},
+    groupOf(Command::Gamma, kGamma, kGamaHelp),
+    groupOf(Command::GrayResponse, kGrayResponseOptions, kResponseHelp),
+    groupOf(Command::LightSensor, kCloseOpen, kLightSensorHelp),
+    groupOf(Command::LocalDimming, kLocalDimming, kDimmingHelp),
+    groupOf(Command::MotionTech, kMotionOptions, kMotionHelp),
+    groupOf(Command::ColorTemperature, kColorTemperature, kColorTemperatureHelp),
     SliderGrid{nullptr, 2, kWideCaption, kNightView},
     SliderGrid{nullptr, 3, kNarrowCaption, kUserSliders},
     SliderGrid{LABEL("Color Saturation"), 3, kNarrowCaption, kSaturation, true},

@@ -15,10 +15,13 @@ struct Option
 {
     const char *label;
     int value;
+    const char *words = nullptr;   ///< one or two sentences: what it does, and when to use it
+    const char *picture = nullptr; ///< of looks that show one: its name under img/
 };
 
-/// How a group looks: a row of option buttons, or the two halves of a switch.
-enum class GroupLook { Buttons, Switch };
+/// How a group looks: a row of option buttons, the two halves of a switch, buttons that show a picture each, or colour
+/// swatches.
+enum class GroupLook { Buttons, Switch, Pictures, Swatches };
 
 /// Buttons of which one is chosen. A button's object name is "<group label>_<option label>".
 struct OptionGroup
@@ -28,7 +31,8 @@ struct OptionGroup
     std::span<const Option> options;
     std::optional<Capability> needs = {}; ///< built only for monitors that have it
     GroupLook look = GroupLook::Buttons;
-    const char *help = nullptr; ///< a sentence that says what it is for, where no panel does
+    const char *help = nullptr;    ///< a sentence that says what it is for, where no panel does
+    const char *caption = nullptr; ///< what stands before the options, where the label says more than is needed there
 };
 
 /// The two options of every switch; the blanks are part of the labels.
@@ -74,6 +78,8 @@ struct CustomPart
 
 using Section = std::variant<SliderGrid, OptionGroup, CustomPart>;
 
+struct PanelPicture;
+
 /// One entry of a page's own list, and what its panel holds. The panel's object name is the widget name.
 struct PanelSpec
 {
@@ -82,5 +88,6 @@ struct PanelSpec
     const char *widgetName;
     std::span<const Section> sections;
     std::optional<Capability> needs = {};
-    const char *help = nullptr; ///< a sentence that says what it is for
+    const char *help = nullptr;            ///< a sentence that says what it is for
+    const PanelPicture *picture = nullptr; ///< what its settings do, on the drawn monitor: see panelpicture.h
 };

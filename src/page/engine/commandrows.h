@@ -1,0 +1,15 @@
+#pragma once
+
+#include "page/engine/pagetable.h"
+
+// Rows of a page's table that take from the table of commands what a command is called, and which monitors have it. A
+// row that has to say otherwise is written out. Help is a sentence that says what the setting is for.
+
+OptionGroup groupOf(Command command, std::span<const Option> options, const char *help = nullptr);
+OptionGroup switchOf(Command command, std::span<const Option> halves = kSwitchOptions);
+SliderSpec sliderOf(Command command, int minimum, int maximum, SendOn sendOn = SendOn::Move,
+                    const char *help = nullptr);
+
+/// The panel of one setting, called as that is, for the monitors that have it.
+PanelSpec panelOf(Command command, const char *icon, const char *widgetName, std::span<const Section> sections,
+                  const char *help = nullptr);
