@@ -58,6 +58,7 @@ configure_preset() {
     shift
     local log="build/$preset-configure.log"
     mkdir -p build
+    export CCACHE_SLOPPINESS=pch_defines,time_macros # else nothing that reads the common headers is kept
     cmake --preset "$preset" -DCMAKE_CXX_COMPILER_LAUNCHER=ccache -DQUORVEL_WERROR=ON "$@" >"$log" 2>&1 || { cat "$log" >&2; die "configuring $preset failed"; }
 }
 
