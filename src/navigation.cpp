@@ -34,7 +34,7 @@ constexpr NavigationEntry kOfficeAid[] = {
     {LABEL("AI Dual Mode"), "ai_dual_mode", PageId::Office},
 };
 constexpr NavigationEntry kGameAid[] = {
-    {LABEL("Game Aid"), "game_aid"},
+    {LABEL("Game Aid"), "game_aid", PageId::GameAssistant},
     {LABEL("Picture Enhance"), "picture_enhance", PageId::PictureEnhance, 0, kPictureFunctions},
     {LABEL("Emberline"), "emberline", PageId::Empty, 0, bit(Capability::GameFunctions)},
 };

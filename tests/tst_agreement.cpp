@@ -10,6 +10,7 @@
 #include "following/followscenes.h"
 #include "globalapplication.h"
 #include "page/BasicSetting/systemtable.h"
+#include "page/Game/gametable.h"
 #include "page/Game/picturetable.h"
 #include "page/IO/iotable.h"
 #include "page/Office/officetable.h"
@@ -25,6 +26,7 @@ using namespace virtualdesk;
 /// Differences that are meant, and why; as the one before where nothing is said.
 static const std::pair<const char *, const char *> kMeant[] = {
     {"CR Enhance (41): the slider ends at 5, the monitor at 10", "keys go up to 10"},
+    {"Game Time (37): the monitor does not take 4", "while the aid is off, keys leave it to the monitor to refuse"},
     {"Gama (26): nothing offers its option 6", "sRGB comes with a scene mode"},
     {"Matrix Brightness (72): nothing of the program reaches it", "the accessory's page is built by itself"},
     {"Playback Level (73): nothing of the program reaches it", ""},
@@ -99,7 +101,7 @@ class TestAgreement : public DeskSuite
     {
         const std::vector<PanelSpec> picture = picturePanels(deviceState);
         for (const std::span<const PanelSpec> panels :
-             {std::span(picture), officePanels(), ioPanels(), systemPanels()}) {
+             {std::span(picture), gamePanels(), officePanels(), ioPanels(), systemPanels()}) {
             for (const PanelSpec &panel : panels) {
                 if (isOffered(panel))
                     walkSections(panel.sections);

@@ -8,6 +8,7 @@
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/devicestate.h"
 #include "page/BasicSetting/pagesystemsetting.h"
+#include "page/Game/pagegameassistant.h"
 #include "page/Game/pagepictureenhanc.h"
 #include "page/IO/iotable.h"
 #include "page/IO/pageiosetting.h"
@@ -78,12 +79,16 @@ SettingsPage *TestPages::anyPage(int which)
         page = std::make_unique<pageSceneSetting>(m_desk->session(), *m_queue);
     else if (!page && which == Picture)
         page = std::make_unique<pagePictureEnhanc>(*m_queue);
+    else if (!page && which == Game)
+        page = std::make_unique<pageGameAssistant>(*m_queue);
     else if (!page && which == Office)
         page = std::make_unique<PageOffice>(*m_queue);
     else if (!page && which == Io)
         page = std::make_unique<pageIOSetting>(*m_queue);
     else if (!page)
         page = std::make_unique<pageSystemSetting>(m_desk->session(), *m_queue);
+    if (auto *panels = qobject_cast<PanelPage *>(page.get()))
+        panels->build();
     return page.get();
 }
 
@@ -106,7 +111,8 @@ void TestPages::optionsSend()
     }
     for (int which = 0; which < kPageNames; ++which) {
         for (const OptionGroupRow *row : anyPage(which)->optionGroups()) {
-            QCOMPARE(row->findChild<CaptionLabel *>()->text(), QString::fromUtf8(row->group().label));
+            QCOMPARE(row->findChild<CaptionLabel *>()->text(),
+                     QString::fromUtf8(row->group().caption ? row->group().caption : row->group().label));
             for (QPushButton *offered : row->buttons())
                 QVERIFY2(pressed.contains(offered), qPrintable(offered->objectName()));
         }

@@ -77,10 +77,10 @@ QString faultOf(Interface *at, std::map<QString, int> &names)
 {
     static const QRegularExpression kWord(QStringLiteral("\\w"), QRegularExpression::UseUnicodePropertiesOption);
     const bool isNamed = nameOf(at).contains(kWord);
-    if (isControl(at) &&
-        !isRole(at, {QAccessible::Button, QAccessible::CheckBox, QAccessible::RadioButton, QAccessible::PageTab,
-                     QAccessible::Slider, QAccessible::SpinBox, QAccessible::ComboBox, QAccessible::EditableText,
-                     QAccessible::Canvas, QAccessible::PageTabList, QAccessible::ButtonMenu}))
+    if (isControl(at) && !isRole(at, {QAccessible::Button, QAccessible::CheckBox, QAccessible::RadioButton,
+                                      QAccessible::PageTab, QAccessible::Slider, QAccessible::SpinBox,
+                                      QAccessible::ComboBox, QAccessible::EditableText, QAccessible::Canvas,
+                                      QAccessible::PageTabList, QAccessible::ButtonMenu, QAccessible::ColorChooser}))
         return QStringLiteral("no role");
     if ((isControl(at) || isRole(at, {QAccessible::Button, QAccessible::Grouping, QAccessible::Pane, QAccessible::Chart,
                                       QAccessible::Canvas})) &&

@@ -90,7 +90,7 @@ void TestWindowLinks::overlayNamesValues()
           {28, 'C', 0x63, 1, "HawkEye Vision: Off", -1},
           {23, 'B', 0xF7, 0, "Audio Mute: Open", -1}, // as its page says
           {25, 'B', 0x34, 6, "Game Crosshair: Off", -1},
-          {25, 'B', 0x34, 2, "Game Crosshair: 3", -1},
+          {25, 'B', 0x34, 2, "Game Crosshair: Dotted cross", -1},
           {4, 'B', 0x22, 10, "Movie Mode: With the factory parameters", -1},
           {4, 'C', 0x22, 9, "Movie Mode: With your own parameters", -1}}) {
         start(10, 0, [function] { saveShortcuts({true, {{function, true, "Ctrl+B", "Ctrl+C"}}}); });

@@ -140,6 +140,10 @@
         <translation>10 min</translation>
     </message>
     <message>
+        <source>15 min</source>
+        <translation>15 min</translation>
+    </message>
+    <message>
         <source>2 Hour</source>
         <translation>2 Hour</translation>
     </message>
@@ -172,6 +176,10 @@
         <translation>3.5 Hour</translation>
     </message>
     <message>
+        <source>30 min</source>
+        <translation>30 min</translation>
+    </message>
+    <message>
         <source>30s</source>
         <translation>30s</translation>
     </message>
@@ -180,8 +188,16 @@
         <translation>4 Hour</translation>
     </message>
     <message>
+        <source>40 min</source>
+        <translation>40 min</translation>
+    </message>
+    <message>
         <source>5.4G</source>
         <translation>5.4G</translation>
+    </message>
+    <message>
+        <source>50 min</source>
+        <translation>50 min</translation>
     </message>
     <message>
         <source>5000K</source>
@@ -190,6 +206,10 @@
     <message>
         <source>5500K</source>
         <translation>5500K</translation>
+    </message>
+    <message>
+        <source>60 min</source>
+        <translation>60 min</translation>
     </message>
     <message>
         <source>6300K</source>
@@ -212,6 +232,10 @@
         <translation>8.1G</translation>
     </message>
     <message>
+        <source>90 min</source>
+        <translation>90 min</translation>
+    </message>
+    <message>
         <source>9300K</source>
         <translation>9300K</translation>
     </message>
@@ -226,6 +250,10 @@
     <message>
         <source>A balanced picture for every day.</source>
         <translation>A balanced picture for every day.</translation>
+    </message>
+    <message>
+        <source>A crosshair that takes the colour that stands out and opens while the picture moves.</source>
+        <translation>A crosshair that takes the colour that stands out and opens while the picture moves.</translation>
     </message>
     <message>
         <source>A dim picture for dark rooms.</source>
@@ -318,6 +346,10 @@
     <message>
         <source>All shortcuts rest while the switch above is off.</source>
         <translation>All shortcuts rest while the switch above is off.</translation>
+    </message>
+    <message>
+        <source>Always the opposite of what lies behind it.</source>
+        <translation>Always the opposite of what lies behind it.</translation>
     </message>
     <message>
         <source>American broadcasting primaries.</source>
@@ -452,6 +484,18 @@
         <translation>Blue</translation>
     </message>
     <message>
+        <source>Bottom</source>
+        <translation>Bottom</translation>
+    </message>
+    <message>
+        <source>Bottom Left</source>
+        <translation>Bottom Left</translation>
+    </message>
+    <message>
+        <source>Bottom Right</source>
+        <translation>Bottom Right</translation>
+    </message>
+    <message>
         <source>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = when needed.</source>
         <translation>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = when needed.</translation>
     </message>
@@ -512,6 +556,10 @@
         <translation>Care Content</translation>
     </message>
     <message>
+        <source>Caret</source>
+        <translation>Caret</translation>
+    </message>
+    <message>
         <source>Cell Size</source>
         <translation>Cell Size</translation>
     </message>
@@ -540,6 +588,10 @@
         <translation>Choose the scene again, or read everything once.</translation>
     </message>
     <message>
+        <source>Chosen, and switched off now.</source>
+        <translation>Chosen, and switched off now.</translation>
+    </message>
+    <message>
         <source>Cinema colours at a D65 white.</source>
         <translation>Cinema colours at a D65 white.</translation>
     </message>
@@ -558,6 +610,10 @@
     <message>
         <source>Close window</source>
         <translation>Close window</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Color</translation>
     </message>
     <message>
         <source>Color Enchance</source>
@@ -598,6 +654,30 @@
     <message>
         <source>Copy report</source>
         <translation>Copy report</translation>
+    </message>
+    <message>
+        <source>Counts down in a corner, so that you notice how long you have played.</source>
+        <translation>Counts down in a corner, so that you notice how long you have played.</translation>
+    </message>
+    <message>
+        <source>Counts up in a corner, to the time that you choose, and begins again.</source>
+        <translation>Counts up in a corner, to the time that you choose, and begins again.</translation>
+    </message>
+    <message>
+        <source>Cross</source>
+        <translation>Cross</translation>
+    </message>
+    <message>
+        <source>Crosshair Color</source>
+        <translation>Crosshair Color</translation>
+    </message>
+    <message>
+        <source>Crosshair Place</source>
+        <translation>Crosshair Place</translation>
+    </message>
+    <message>
+        <source>Crosshair Shape</source>
+        <translation>Crosshair Shape</translation>
     </message>
     <message>
         <source>Custom</source>
@@ -656,6 +736,10 @@
         <translation>Dark Programme</translation>
     </message>
     <message>
+        <source>Darkens the rim of the screen, so that the middle draws the eye.</source>
+        <translation>Darkens the rim of the screen, so that the middle draws the eye.</translation>
+    </message>
+    <message>
         <source>Deep contrast for films.</source>
         <translation>Deep contrast for films.</translation>
     </message>
@@ -696,8 +780,20 @@
         <translation>Do not save</translation>
     </message>
     <message>
+        <source>Dot</source>
+        <translation>Dot</translation>
+    </message>
+    <message>
+        <source>Dotted cross</source>
+        <translation>Dotted cross</translation>
+    </message>
+    <message>
         <source>Draw frames cell by cell; the matrix plays them in a loop.</source>
         <translation>Draw frames cell by cell; the matrix plays them in a loop.</translation>
+    </message>
+    <message>
+        <source>Drawn by the monitor itself, so it works in every game and is no program that a game could see.</source>
+        <translation>Drawn by the monitor itself, so it works in every game and is no program that a game could see.</translation>
     </message>
     <message>
         <source>Draws guide lines for composing a picture. Close = none, Trichotomy = into thirds, Round = a circle.</source>
@@ -728,6 +824,18 @@
         <translation>DyDs TECH</translation>
     </message>
     <message>
+        <source>Dynamic Crosshair</source>
+        <translation>Dynamic Crosshair</translation>
+    </message>
+    <message>
+        <source>Dynamic Crosshair Color</source>
+        <translation>Dynamic Crosshair Color</translation>
+    </message>
+    <message>
+        <source>Dynamic Crosshair Size</source>
+        <translation>Dynamic Crosshair Size</translation>
+    </message>
+    <message>
         <source>Dynamic OD</source>
         <translation>Dynamic OD</translation>
     </message>
@@ -752,8 +860,16 @@
         <translation>EBU Mode</translation>
     </message>
     <message>
+        <source>Easy to find, and covers what it points at.</source>
+        <translation>Easy to find, and covers what it points at.</translation>
+    </message>
+    <message>
         <source>Emberline</source>
         <translation>Emberline</translation>
+    </message>
+    <message>
+        <source>Enlarges the middle of the screen, so that what is far away is seen.</source>
+        <translation>Enlarges the middle of the screen, so that what is far away is seen.</translation>
     </message>
     <message>
         <source>Erase</source>
@@ -820,6 +936,14 @@
         <translation>First control</translation>
     </message>
     <message>
+        <source>Focus Dimming</source>
+        <translation>Focus Dimming</translation>
+    </message>
+    <message>
+        <source>Focus Dimming Level</source>
+        <translation>Focus Dimming Level</translation>
+    </message>
+    <message>
         <source>Follow Desc</source>
         <translation>Pair a program with a scene mode: the monitor switches while the program is in front, and back to the base scene when it is not.</translation>
     </message>
@@ -838,6 +962,22 @@
     <message>
         <source>For finding out why a monitor does not answer as it should.</source>
         <translation>For finding out why a monitor does not answer as it should.</translation>
+    </message>
+    <message>
+        <source>For most games.</source>
+        <translation>For most games.</translation>
+    </message>
+    <message>
+        <source>For scenes that are near.</source>
+        <translation>For scenes that are near.</translation>
+    </message>
+    <message>
+        <source>For targets that move: what is in the ring is near enough.</source>
+        <translation>For targets that move: what is in the ring is near enough.</translation>
+    </message>
+    <message>
+        <source>For wide landscapes; coarse.</source>
+        <translation>For wide landscapes; coarse.</translation>
     </message>
     <message>
         <source>Four bytes of the next scene-mode block get lost</source>
@@ -904,6 +1044,14 @@
         <translation>Game Time</translation>
     </message>
     <message>
+        <source>Game Time Length</source>
+        <translation>Game Time Length</translation>
+    </message>
+    <message>
+        <source>Game Time Place</source>
+        <translation>Game Time Place</translation>
+    </message>
+    <message>
         <source>Game VS</source>
         <translation>Game VS</translation>
     </message>
@@ -968,8 +1116,24 @@
         <translation>Hanging</translation>
     </message>
     <message>
+        <source>HawkEye Brightness</source>
+        <translation>HawkEye Brightness</translation>
+    </message>
+    <message>
+        <source>HawkEye Contrast</source>
+        <translation>HawkEye Contrast</translation>
+    </message>
+    <message>
+        <source>HawkEye Sharpness</source>
+        <translation>HawkEye Sharpness</translation>
+    </message>
+    <message>
         <source>HawkEye Vision</source>
         <translation>HawkEye Vision</translation>
+    </message>
+    <message>
+        <source>HawkEye Zoom</source>
+        <translation>HawkEye Zoom</translation>
     </message>
     <message>
         <source>Height</source>
@@ -1136,6 +1300,10 @@
         <translation>Language</translation>
     </message>
     <message>
+        <source>Large</source>
+        <translation>Large</translation>
+    </message>
+    <message>
         <source>Last errors</source>
         <translation>Last errors</translation>
     </message>
@@ -1144,12 +1312,24 @@
         <translation>Last requests to the monitor</translation>
     </message>
     <message>
+        <source>Leaves the target free but for its very middle.</source>
+        <translation>Leaves the target free but for its very middle.</translation>
+    </message>
+    <message>
+        <source>Leaves the target free.</source>
+        <translation>Leaves the target free.</translation>
+    </message>
+    <message>
         <source>Less blue light for long days.</source>
         <translation>Less blue light for long days.</translation>
     </message>
     <message>
         <source>Lets the monitor switch between its two modes by itself. Close = off, Open = on.</source>
         <translation>Lets the monitor switch between its two modes by itself. Close = off, Open = on.</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Level</translation>
     </message>
     <message>
         <source>Level1</source>
@@ -1162,6 +1342,14 @@
     <message>
         <source>Level3</source>
         <translation>Level3</translation>
+    </message>
+    <message>
+        <source>Level4</source>
+        <translation>Level4</translation>
+    </message>
+    <message>
+        <source>Level5</source>
+        <translation>Level5</translation>
     </message>
     <message>
         <source>Light Programme</source>
@@ -1294,6 +1482,18 @@
     <message>
         <source>Menu lock already opened!</source>
         <translation>Menu lock already opened!</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Middle</translation>
+    </message>
+    <message>
+        <source>Middle+</source>
+        <translation>Middle+</translation>
+    </message>
+    <message>
+        <source>Middle-</source>
+        <translation>Middle-</translation>
     </message>
     <message>
         <source>Minimise</source>
@@ -1472,6 +1672,10 @@
         <translation>Not told: %1</translation>
     </message>
     <message>
+        <source>Nothing above the point: for shots that fall.</source>
+        <translation>Nothing above the point: for shots that fall.</translation>
+    </message>
+    <message>
         <source>Nothing is heard: no program plays, or the sound output is gone.</source>
         <translation>Nothing is heard: no program plays, or the sound output is gone.</translation>
     </message>
@@ -1516,6 +1720,10 @@
         <translation>On its way to the monitor.</translation>
     </message>
     <message>
+        <source>On now.</source>
+        <translation>On now.</translation>
+    </message>
+    <message>
         <source>On now: %1</source>
         <translation>On now: %1</translation>
     </message>
@@ -1530,6 +1738,10 @@
     <message>
         <source>Open</source>
         <translation>Open</translation>
+    </message>
+    <message>
+        <source>Open cross</source>
+        <translation>Open cross</translation>
     </message>
     <message>
         <source>Open the page</source>
@@ -1590,6 +1802,10 @@
     <message>
         <source>Pixels change faster and motion smears less. Close = off, Topspeed = fastest, which may leave bright edges.</source>
         <translation>Pixels change faster and motion smears less. Close = off, Topspeed = fastest, which may leave bright edges.</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Place</translation>
     </message>
     <message>
         <source>Plain, floating point</source>
@@ -1654,6 +1870,10 @@
     <message>
         <source>Pull out in mid-transfer</source>
         <translation>Pull out in mid-transfer</translation>
+    </message>
+    <message>
+        <source>Purple</source>
+        <translation>Purple</translation>
     </message>
     <message>
         <source>QR Code</source>
@@ -1756,6 +1976,10 @@
         <translation>Refresh Rate</translation>
     </message>
     <message>
+        <source>Refresh Rate Place</source>
+        <translation>Refresh Rate Place</translation>
+    </message>
+    <message>
         <source>Refuse format</source>
         <translation>Refuse format</translation>
     </message>
@@ -1786,6 +2010,10 @@
     <message>
         <source>Retry</source>
         <translation>Retry</translation>
+    </message>
+    <message>
+        <source>Ring</source>
+        <translation>Ring</translation>
     </message>
     <message>
         <source>Round</source>
@@ -1936,6 +2164,10 @@
         <translation>Shadow Balance</translation>
     </message>
     <message>
+        <source>Shape</source>
+        <translation>Shape</translation>
+    </message>
+    <message>
         <source>Sharp motion with local dimming.</source>
         <translation>Sharp motion with local dimming.</translation>
     </message>
@@ -1976,6 +2208,10 @@
         <translation>Shows guide lines that help to line things up. Close = off, Open = on.</translation>
     </message>
     <message>
+        <source>Shows in a corner how many pictures a second the monitor gets.</source>
+        <translation>Shows in a corner how many pictures a second the monitor gets.</translation>
+    </message>
+    <message>
         <source>Shows on the desktop what a shortcut has just changed.</source>
         <translation>Shows on the desktop what a shortcut has just changed.</translation>
     </message>
@@ -1988,12 +2224,20 @@
         <translation>Simulated monitor</translation>
     </message>
     <message>
+        <source>Size</source>
+        <translation>Size</translation>
+    </message>
+    <message>
         <source>Sleep</source>
         <translation>Sleep</translation>
     </message>
     <message>
         <source>Slow</source>
         <translation>Slow</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Small</translation>
     </message>
     <message>
         <source>Smooth</source>
@@ -2042,6 +2286,14 @@
     <message>
         <source>Stopwatch</source>
         <translation>Stopwatch</translation>
+    </message>
+    <message>
+        <source>Stopwatch Place</source>
+        <translation>Stopwatch Place</translation>
+    </message>
+    <message>
+        <source>Stopwatch Time</source>
+        <translation>Stopwatch Time</translation>
     </message>
     <message>
         <source>Strong</source>
@@ -2324,6 +2576,10 @@
         <translation>The simulated monitor that is shown here</translation>
     </message>
     <message>
+        <source>The smallest one. Covers least.</source>
+        <translation>The smallest one. Covers least.</translation>
+    </message>
+    <message>
         <source>The sound of the monitor. Audio Mute: Close = sound, Open = silence. Convo = for voices.</source>
         <translation>The sound of the monitor. Audio Mute: Close = sound, Open = silence. Convo = for voices.</translation>
     </message>
@@ -2396,6 +2652,10 @@
         <translation>This slider counts while Color Temperature is Night View C.T.</translation>
     </message>
     <message>
+        <source>Time</source>
+        <translation>Time</translation>
+    </message>
+    <message>
         <source>Time to rest your eyes for a while.</source>
         <translation>Time to rest your eyes for a while.</translation>
     </message>
@@ -2418,6 +2678,18 @@
     <message>
         <source>Tool language settings</source>
         <translation>Tool language settings</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Top</translation>
+    </message>
+    <message>
+        <source>Top Left</source>
+        <translation>Top Left</translation>
+    </message>
+    <message>
+        <source>Top Right</source>
+        <translation>Top Right</translation>
     </message>
     <message>
         <source>Topspeed</source>
@@ -2576,6 +2848,10 @@
         <translation>What is asked and answered is recorded in %1</translation>
     </message>
     <message>
+        <source>What it looks like</source>
+        <translation>What it looks like</translation>
+    </message>
+    <message>
         <source>What most visitors of a page see.</source>
         <translation>What most visitors of a page see.</translation>
     </message>
@@ -2598,6 +2874,10 @@
     <message>
         <source>Which socket the picture comes from. Auto = the one that has a signal.</source>
         <translation>Which socket the picture comes from. Auto = the one that has a signal.</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>White</translation>
     </message>
     <message>
         <source>Width</source>
@@ -2646,6 +2926,10 @@
     <message>
         <source>Zelmar Mode</source>
         <translation>Zelmar Mode</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
     </message>
     <message>
         <source>adjusted</source>
@@ -2794,6 +3078,18 @@
     <message>
         <source>upload</source>
         <translation>upload</translation>
+    </message>
+    <message>
+        <source>x1.5</source>
+        <translation>x1.5</translation>
+    </message>
+    <message>
+        <source>x2</source>
+        <translation>x2</translation>
+    </message>
+    <message>
+        <source>x4</source>
+        <translation>x4</translation>
     </message>
 </context>
 <context>

@@ -140,6 +140,10 @@
         <translation>10 分前</translation>
     </message>
     <message>
+        <source>15 min</source>
+        <translation>15 分</translation>
+    </message>
+    <message>
         <source>2 Hour</source>
         <translation>2 時間</translation>
     </message>
@@ -172,6 +176,10 @@
         <translation>3.5 時間</translation>
     </message>
     <message>
+        <source>30 min</source>
+        <translation>30 分</translation>
+    </message>
+    <message>
         <source>30s</source>
         <translation>30 秒</translation>
     </message>
@@ -180,8 +188,16 @@
         <translation>4 時間</translation>
     </message>
     <message>
+        <source>40 min</source>
+        <translation>40 分</translation>
+    </message>
+    <message>
         <source>5.4G</source>
         <translation>5.4G</translation>
+    </message>
+    <message>
+        <source>50 min</source>
+        <translation>50 分</translation>
     </message>
     <message>
         <source>5000K</source>
@@ -190,6 +206,10 @@
     <message>
         <source>5500K</source>
         <translation>5500K</translation>
+    </message>
+    <message>
+        <source>60 min</source>
+        <translation>60 分</translation>
     </message>
     <message>
         <source>6300K</source>
@@ -212,6 +232,10 @@
         <translation>8.1G</translation>
     </message>
     <message>
+        <source>90 min</source>
+        <translation>90 分</translation>
+    </message>
+    <message>
         <source>9300K</source>
         <translation>9300K</translation>
     </message>
@@ -226,6 +250,10 @@
     <message>
         <source>A balanced picture for every day.</source>
         <translation>日常使いに適したバランスのよい画質です。</translation>
+    </message>
+    <message>
+        <source>A crosshair that takes the colour that stands out and opens while the picture moves.</source>
+        <translation>目立つ色になり、画面が動くと開く照準です。</translation>
     </message>
     <message>
         <source>A dim picture for dark rooms.</source>
@@ -318,6 +346,10 @@
     <message>
         <source>All shortcuts rest while the switch above is off.</source>
         <translation>上のスイッチがオフの間、ショートカットキーはすべて働きません。</translation>
+    </message>
+    <message>
+        <source>Always the opposite of what lies behind it.</source>
+        <translation>常に背景の反対の色になります。</translation>
     </message>
     <message>
         <source>American broadcasting primaries.</source>
@@ -452,6 +484,18 @@
         <translation>青</translation>
     </message>
     <message>
+        <source>Bottom</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>Bottom Left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>Bottom Right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
         <source>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = when needed.</source>
         <translation>暗い場面を明るくします。「レベル 1」と「レベル 2」は常に、「自動 L1」と「自動 L2」は映像に応じて働きます。</translation>
     </message>
@@ -512,6 +556,10 @@
         <translation>ケア項目</translation>
     </message>
     <message>
+        <source>Caret</source>
+        <translation>山形</translation>
+    </message>
+    <message>
         <source>Cell Size</source>
         <translation>セルの大きさ</translation>
     </message>
@@ -540,6 +588,10 @@
         <translation>シーンの再選択か再読み取りをお試しください。</translation>
     </message>
     <message>
+        <source>Chosen, and switched off now.</source>
+        <translation>選択済み。現在はオフです。</translation>
+    </message>
+    <message>
         <source>Cinema colours at a D65 white.</source>
         <translation>D65 白色点での映画の色です。</translation>
     </message>
@@ -558,6 +610,10 @@
     <message>
         <source>Close window</source>
         <translation>ウィンドウを閉じる</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>色</translation>
     </message>
     <message>
         <source>Color Enchance</source>
@@ -598,6 +654,30 @@
     <message>
         <source>Copy report</source>
         <translation>レポートをコピー</translation>
+    </message>
+    <message>
+        <source>Counts down in a corner, so that you notice how long you have played.</source>
+        <translation>画面の隅でカウントダウンし、プレイ時間がわかります。</translation>
+    </message>
+    <message>
+        <source>Counts up in a corner, to the time that you choose, and begins again.</source>
+        <translation>画面の隅で計時し、選んだ時間になると最初に戻ります。</translation>
+    </message>
+    <message>
+        <source>Cross</source>
+        <translation>十字</translation>
+    </message>
+    <message>
+        <source>Crosshair Color</source>
+        <translation>照準の色</translation>
+    </message>
+    <message>
+        <source>Crosshair Place</source>
+        <translation>照準の位置</translation>
+    </message>
+    <message>
+        <source>Crosshair Shape</source>
+        <translation>照準の形</translation>
     </message>
     <message>
         <source>Custom</source>
@@ -656,6 +736,10 @@
         <translation>プログラミング(暗)</translation>
     </message>
     <message>
+        <source>Darkens the rim of the screen, so that the middle draws the eye.</source>
+        <translation>画面の縁を暗くして、中央に視線を集めます。</translation>
+    </message>
+    <message>
         <source>Deep contrast for films.</source>
         <translation>映画に適した深みのあるコントラストです。</translation>
     </message>
@@ -696,8 +780,20 @@
         <translation>保存しない</translation>
     </message>
     <message>
+        <source>Dot</source>
+        <translation>点</translation>
+    </message>
+    <message>
+        <source>Dotted cross</source>
+        <translation>点付き十字</translation>
+    </message>
+    <message>
         <source>Draw frames cell by cell; the matrix plays them in a loop.</source>
         <translation>フレームを 1 マスずつ描きます。マトリックスは繰り返し再生します。</translation>
+    </message>
+    <message>
+        <source>Drawn by the monitor itself, so it works in every game and is no program that a game could see.</source>
+        <translation>モニター自身が描くため、どのゲームでも使え、アプリとして検出されません。</translation>
     </message>
     <message>
         <source>Draws guide lines for composing a picture. Close = none, Trichotomy = into thirds, Round = a circle.</source>
@@ -728,6 +824,18 @@
         <translation>DyDs TECH</translation>
     </message>
     <message>
+        <source>Dynamic Crosshair</source>
+        <translation>ダイナミック照準</translation>
+    </message>
+    <message>
+        <source>Dynamic Crosshair Color</source>
+        <translation>ダイナミック照準の色</translation>
+    </message>
+    <message>
+        <source>Dynamic Crosshair Size</source>
+        <translation>ダイナミック照準の大きさ</translation>
+    </message>
+    <message>
         <source>Dynamic OD</source>
         <translation>動的 OD</translation>
     </message>
@@ -752,8 +860,16 @@
         <translation>EBU モード</translation>
     </message>
     <message>
+        <source>Easy to find, and covers what it points at.</source>
+        <translation>見つけやすい反面、狙う先が隠れます。</translation>
+    </message>
+    <message>
         <source>Emberline</source>
         <translation>Emberline</translation>
+    </message>
+    <message>
+        <source>Enlarges the middle of the screen, so that what is far away is seen.</source>
+        <translation>画面の中央を拡大し、遠くを見やすくします。</translation>
     </message>
     <message>
         <source>Erase</source>
@@ -820,6 +936,14 @@
         <translation>1 つ目の項目</translation>
     </message>
     <message>
+        <source>Focus Dimming</source>
+        <translation>フォーカス減光</translation>
+    </message>
+    <message>
+        <source>Focus Dimming Level</source>
+        <translation>フォーカス減光の強さ</translation>
+    </message>
+    <message>
         <source>Follow Desc</source>
         <translation>アプリごとにシーンモードを指定します。アプリが前面にある間だけモニターが切り替わり、離れると基本のシーンに戻ります。</translation>
     </message>
@@ -838,6 +962,22 @@
     <message>
         <source>For finding out why a monitor does not answer as it should.</source>
         <translation>モニターが正しく応答しない原因を調べるときに使います。</translation>
+    </message>
+    <message>
+        <source>For most games.</source>
+        <translation>多くのゲームに向いています。</translation>
+    </message>
+    <message>
+        <source>For scenes that are near.</source>
+        <translation>近い場面に向いています。</translation>
+    </message>
+    <message>
+        <source>For targets that move: what is in the ring is near enough.</source>
+        <translation>動く標的に向いています。輪に入れば十分です。</translation>
+    </message>
+    <message>
+        <source>For wide landscapes; coarse.</source>
+        <translation>広い風景に向いています。画像は粗くなります。</translation>
     </message>
     <message>
         <source>Four bytes of the next scene-mode block get lost</source>
@@ -904,6 +1044,14 @@
         <translation>ゲームタイマー</translation>
     </message>
     <message>
+        <source>Game Time Length</source>
+        <translation>ゲームタイマーの長さ</translation>
+    </message>
+    <message>
+        <source>Game Time Place</source>
+        <translation>ゲームタイマーの位置</translation>
+    </message>
+    <message>
         <source>Game VS</source>
         <translation>ゲーム対戦</translation>
     </message>
@@ -968,8 +1116,24 @@
         <translation>吊り下げ</translation>
     </message>
     <message>
+        <source>HawkEye Brightness</source>
+        <translation>ホークアイの明るさ</translation>
+    </message>
+    <message>
+        <source>HawkEye Contrast</source>
+        <translation>ホークアイのコントラスト</translation>
+    </message>
+    <message>
+        <source>HawkEye Sharpness</source>
+        <translation>ホークアイのシャープネス</translation>
+    </message>
+    <message>
         <source>HawkEye Vision</source>
         <translation>ホークアイ</translation>
+    </message>
+    <message>
+        <source>HawkEye Zoom</source>
+        <translation>ホークアイの倍率</translation>
     </message>
     <message>
         <source>Height</source>
@@ -1136,6 +1300,10 @@
         <translation>言語</translation>
     </message>
     <message>
+        <source>Large</source>
+        <translation>大</translation>
+    </message>
+    <message>
         <source>Last errors</source>
         <translation>最近のエラー</translation>
     </message>
@@ -1144,12 +1312,24 @@
         <translation>モニターへの最近の要求</translation>
     </message>
     <message>
+        <source>Leaves the target free but for its very middle.</source>
+        <translation>真ん中だけを残して標的を隠しません。</translation>
+    </message>
+    <message>
+        <source>Leaves the target free.</source>
+        <translation>標的を隠しません。</translation>
+    </message>
+    <message>
         <source>Less blue light for long days.</source>
         <translation>長時間の作業に適したブルーライト低減です。</translation>
     </message>
     <message>
         <source>Lets the monitor switch between its two modes by itself. Close = off, Open = on.</source>
         <translation>モニターが 2 つのモードを自動で切り替えます。</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>強さ</translation>
     </message>
     <message>
         <source>Level1</source>
@@ -1162,6 +1342,14 @@
     <message>
         <source>Level3</source>
         <translation>レベル 3</translation>
+    </message>
+    <message>
+        <source>Level4</source>
+        <translation>レベル 4</translation>
+    </message>
+    <message>
+        <source>Level5</source>
+        <translation>レベル 5</translation>
     </message>
     <message>
         <source>Light Programme</source>
@@ -1294,6 +1482,18 @@
     <message>
         <source>Menu lock already opened!</source>
         <translation>メニューロックは既に有効です！</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>中央</translation>
+    </message>
+    <message>
+        <source>Middle+</source>
+        <translation>中央+</translation>
+    </message>
+    <message>
+        <source>Middle-</source>
+        <translation>中央-</translation>
     </message>
     <message>
         <source>Minimise</source>
@@ -1472,6 +1672,10 @@
         <translation>読み取れなかった値: %1</translation>
     </message>
     <message>
+        <source>Nothing above the point: for shots that fall.</source>
+        <translation>狙点の上が空くため、落ちる弾道に向いています。</translation>
+    </message>
+    <message>
         <source>Nothing is heard: no program plays, or the sound output is gone.</source>
         <translation>音が聞こえません。再生中のアプリがないか、音声出力がなくなりました。</translation>
     </message>
@@ -1516,6 +1720,10 @@
         <translation>モニターへ送信中です。</translation>
     </message>
     <message>
+        <source>On now.</source>
+        <translation>現在オンです。</translation>
+    </message>
+    <message>
         <source>On now: %1</source>
         <translation>現在: %1</translation>
     </message>
@@ -1530,6 +1738,10 @@
     <message>
         <source>Open</source>
         <translation>オン</translation>
+    </message>
+    <message>
+        <source>Open cross</source>
+        <translation>中抜き十字</translation>
     </message>
     <message>
         <source>Open the page</source>
@@ -1590,6 +1802,10 @@
     <message>
         <source>Pixels change faster and motion smears less. Close = off, Topspeed = fastest, which may leave bright edges.</source>
         <translation>画素の変化を速め、残像を減らします。「最速」では輪郭に明るい縁が出ることがあります。</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>位置</translation>
     </message>
     <message>
         <source>Plain, floating point</source>
@@ -1654,6 +1870,10 @@
     <message>
         <source>Pull out in mid-transfer</source>
         <translation>転送中に抜く</translation>
+    </message>
+    <message>
+        <source>Purple</source>
+        <translation>紫</translation>
     </message>
     <message>
         <source>QR Code</source>
@@ -1756,6 +1976,10 @@
         <translation>リフレッシュレート</translation>
     </message>
     <message>
+        <source>Refresh Rate Place</source>
+        <translation>リフレッシュレートの位置</translation>
+    </message>
+    <message>
         <source>Refuse format</source>
         <translation>形式を拒否</translation>
     </message>
@@ -1786,6 +2010,10 @@
     <message>
         <source>Retry</source>
         <translation>再試行</translation>
+    </message>
+    <message>
+        <source>Ring</source>
+        <translation>輪</translation>
     </message>
     <message>
         <source>Round</source>
@@ -1936,6 +2164,10 @@
         <translation>シャドウバランス</translation>
     </message>
     <message>
+        <source>Shape</source>
+        <translation>形</translation>
+    </message>
+    <message>
         <source>Sharp motion with local dimming.</source>
         <translation>ローカルディミングとくっきりした動きを両立します。</translation>
     </message>
@@ -1976,6 +2208,10 @@
         <translation>位置をそろえるための補助線を表示します。</translation>
     </message>
     <message>
+        <source>Shows in a corner how many pictures a second the monitor gets.</source>
+        <translation>モニターが 1 秒間に受け取る画面の数を隅に表示します。</translation>
+    </message>
+    <message>
         <source>Shows on the desktop what a shortcut has just changed.</source>
         <translation>ショートカットキーで変えた内容をデスクトップに表示します。</translation>
     </message>
@@ -1988,12 +2224,20 @@
         <translation>シミュレートされたモニター</translation>
     </message>
     <message>
+        <source>Size</source>
+        <translation>サイズ</translation>
+    </message>
+    <message>
         <source>Sleep</source>
         <translation>スリープ</translation>
     </message>
     <message>
         <source>Slow</source>
         <translation>低速</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>小</translation>
     </message>
     <message>
         <source>Smooth</source>
@@ -2042,6 +2286,14 @@
     <message>
         <source>Stopwatch</source>
         <translation>ストップウォッチ</translation>
+    </message>
+    <message>
+        <source>Stopwatch Place</source>
+        <translation>ストップウォッチの位置</translation>
+    </message>
+    <message>
+        <source>Stopwatch Time</source>
+        <translation>ストップウォッチの時間</translation>
     </message>
     <message>
         <source>Strong</source>
@@ -2324,6 +2576,10 @@
         <translation>ここに表示するモニター</translation>
     </message>
     <message>
+        <source>The smallest one. Covers least.</source>
+        <translation>最小で、最も隠しません。</translation>
+    </message>
+    <message>
         <source>The sound of the monitor. Audio Mute: Close = sound, Open = silence. Convo = for voices.</source>
         <translation>モニターの音声です。「ミュート」がオンのときは音が出ません。「会話」は人の声に向いています。</translation>
     </message>
@@ -2396,6 +2652,10 @@
         <translation>このスライダーは、色温が「夜間色温」のときに働きます。</translation>
     </message>
     <message>
+        <source>Time</source>
+        <translation>時間</translation>
+    </message>
+    <message>
         <source>Time to rest your eyes for a while.</source>
         <translation>少し目を休めましょう。</translation>
     </message>
@@ -2418,6 +2678,18 @@
     <message>
         <source>Tool language settings</source>
         <translation>ツールの言語設定</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>Top Left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Top Right</source>
+        <translation>右上</translation>
     </message>
     <message>
         <source>Topspeed</source>
@@ -2576,6 +2848,10 @@
         <translation>要求と応答を %1 に記録しています</translation>
     </message>
     <message>
+        <source>What it looks like</source>
+        <translation>見え方</translation>
+    </message>
+    <message>
         <source>What most visitors of a page see.</source>
         <translation>多くの閲覧者が目にする色です。</translation>
     </message>
@@ -2598,6 +2874,10 @@
     <message>
         <source>Which socket the picture comes from. Auto = the one that has a signal.</source>
         <translation>映像を受け取る端子です。「自動」は信号のある端子を選びます。</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>白</translation>
     </message>
     <message>
         <source>Width</source>
@@ -2646,6 +2926,10 @@
     <message>
         <source>Zelmar Mode</source>
         <translation>Zelmar モード</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>倍率</translation>
     </message>
     <message>
         <source>adjusted</source>
@@ -2794,6 +3078,18 @@
     <message>
         <source>upload</source>
         <translation>アップロード済み</translation>
+    </message>
+    <message>
+        <source>x1.5</source>
+        <translation>1.5 倍</translation>
+    </message>
+    <message>
+        <source>x2</source>
+        <translation>2 倍</translation>
+    </message>
+    <message>
+        <source>x4</source>
+        <translation>4 倍</translation>
     </message>
 </context>
 <context>

@@ -140,6 +140,10 @@
         <translation>10 分钟前</translation>
     </message>
     <message>
+        <source>15 min</source>
+        <translation>15 分钟</translation>
+    </message>
+    <message>
         <source>2 Hour</source>
         <translation>2 小时</translation>
     </message>
@@ -172,6 +176,10 @@
         <translation>3.5 小时</translation>
     </message>
     <message>
+        <source>30 min</source>
+        <translation>30 分钟</translation>
+    </message>
+    <message>
         <source>30s</source>
         <translation>30 秒</translation>
     </message>
@@ -180,8 +188,16 @@
         <translation>4 小时</translation>
     </message>
     <message>
+        <source>40 min</source>
+        <translation>40 分钟</translation>
+    </message>
+    <message>
         <source>5.4G</source>
         <translation>5.4G</translation>
+    </message>
+    <message>
+        <source>50 min</source>
+        <translation>50 分钟</translation>
     </message>
     <message>
         <source>5000K</source>
@@ -190,6 +206,10 @@
     <message>
         <source>5500K</source>
         <translation>5500K</translation>
+    </message>
+    <message>
+        <source>60 min</source>
+        <translation>60 分钟</translation>
     </message>
     <message>
         <source>6300K</source>
@@ -212,6 +232,10 @@
         <translation>8.1G</translation>
     </message>
     <message>
+        <source>90 min</source>
+        <translation>90 分钟</translation>
+    </message>
+    <message>
         <source>9300K</source>
         <translation>9300K</translation>
     </message>
@@ -226,6 +250,10 @@
     <message>
         <source>A balanced picture for every day.</source>
         <translation>均衡的画面，适合日常使用。</translation>
+    </message>
+    <message>
+        <source>A crosshair that takes the colour that stands out and opens while the picture moves.</source>
+        <translation>准星会采用醒目的颜色，并在画面移动时张开。</translation>
     </message>
     <message>
         <source>A dim picture for dark rooms.</source>
@@ -318,6 +346,10 @@
     <message>
         <source>All shortcuts rest while the switch above is off.</source>
         <translation>上方开关关闭时，所有快捷键均不起作用。</translation>
+    </message>
+    <message>
+        <source>Always the opposite of what lies behind it.</source>
+        <translation>始终与背景颜色相反。</translation>
     </message>
     <message>
         <source>American broadcasting primaries.</source>
@@ -452,6 +484,18 @@
         <translation>蓝色</translation>
     </message>
     <message>
+        <source>Bottom</source>
+        <translation>底部</translation>
+    </message>
+    <message>
+        <source>Bottom Left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>Bottom Right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
         <source>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = when needed.</source>
         <translation>提亮昏暗的场景。“等级 1”和“等级 2”始终生效，“自动 L1”和“自动 L2”随画面调整。</translation>
     </message>
@@ -512,6 +556,10 @@
         <translation>护理内容</translation>
     </message>
     <message>
+        <source>Caret</source>
+        <translation>箭头</translation>
+    </message>
+    <message>
         <source>Cell Size</source>
         <translation>格子大小</translation>
     </message>
@@ -540,6 +588,10 @@
         <translation>请重新选择情景，或全部读取一次。</translation>
     </message>
     <message>
+        <source>Chosen, and switched off now.</source>
+        <translation>已选择，当前已关闭。</translation>
+    </message>
+    <message>
         <source>Cinema colours at a D65 white.</source>
         <translation>D65 白点下的影院色彩。</translation>
     </message>
@@ -558,6 +610,10 @@
     <message>
         <source>Close window</source>
         <translation>关闭窗口</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>颜色</translation>
     </message>
     <message>
         <source>Color Enchance</source>
@@ -598,6 +654,30 @@
     <message>
         <source>Copy report</source>
         <translation>复制报告</translation>
+    </message>
+    <message>
+        <source>Counts down in a corner, so that you notice how long you have played.</source>
+        <translation>在屏幕一角倒计时，提醒您已经玩了多久。</translation>
+    </message>
+    <message>
+        <source>Counts up in a corner, to the time that you choose, and begins again.</source>
+        <translation>在屏幕一角计时，到所选时间后重新开始。</translation>
+    </message>
+    <message>
+        <source>Cross</source>
+        <translation>十字</translation>
+    </message>
+    <message>
+        <source>Crosshair Color</source>
+        <translation>准星颜色</translation>
+    </message>
+    <message>
+        <source>Crosshair Place</source>
+        <translation>准星位置</translation>
+    </message>
+    <message>
+        <source>Crosshair Shape</source>
+        <translation>准星形状</translation>
     </message>
     <message>
         <source>Custom</source>
@@ -656,6 +736,10 @@
         <translation>编程(深色)</translation>
     </message>
     <message>
+        <source>Darkens the rim of the screen, so that the middle draws the eye.</source>
+        <translation>调暗屏幕边缘，让视线集中在中央。</translation>
+    </message>
+    <message>
         <source>Deep contrast for films.</source>
         <translation>深邃对比，适合观看电影。</translation>
     </message>
@@ -696,8 +780,20 @@
         <translation>不保存</translation>
     </message>
     <message>
+        <source>Dot</source>
+        <translation>圆点</translation>
+    </message>
+    <message>
+        <source>Dotted cross</source>
+        <translation>带点十字</translation>
+    </message>
+    <message>
         <source>Draw frames cell by cell; the matrix plays them in a loop.</source>
         <translation>逐格绘制各帧，矩阵会循环播放。</translation>
+    </message>
+    <message>
+        <source>Drawn by the monitor itself, so it works in every game and is no program that a game could see.</source>
+        <translation>由显示器自身绘制，适用于所有游戏，游戏不会检测到任何程序。</translation>
     </message>
     <message>
         <source>Draws guide lines for composing a picture. Close = none, Trichotomy = into thirds, Round = a circle.</source>
@@ -728,6 +824,18 @@
         <translation>DyDs TECH</translation>
     </message>
     <message>
+        <source>Dynamic Crosshair</source>
+        <translation>动态准星</translation>
+    </message>
+    <message>
+        <source>Dynamic Crosshair Color</source>
+        <translation>动态准星颜色</translation>
+    </message>
+    <message>
+        <source>Dynamic Crosshair Size</source>
+        <translation>动态准星大小</translation>
+    </message>
+    <message>
         <source>Dynamic OD</source>
         <translation>动态 OD</translation>
     </message>
@@ -752,8 +860,16 @@
         <translation>EBU 模式</translation>
     </message>
     <message>
+        <source>Easy to find, and covers what it points at.</source>
+        <translation>容易看到，但会遮住目标。</translation>
+    </message>
+    <message>
         <source>Emberline</source>
         <translation>Emberline</translation>
+    </message>
+    <message>
+        <source>Enlarges the middle of the screen, so that what is far away is seen.</source>
+        <translation>放大屏幕中央，看清远处的目标。</translation>
     </message>
     <message>
         <source>Erase</source>
@@ -820,6 +936,14 @@
         <translation>第一个控件</translation>
     </message>
     <message>
+        <source>Focus Dimming</source>
+        <translation>聚焦调暗</translation>
+    </message>
+    <message>
+        <source>Focus Dimming Level</source>
+        <translation>聚焦调暗强度</translation>
+    </message>
+    <message>
         <source>Follow Desc</source>
         <translation>为程序指定情景模式：该程序位于前台时显示器自动切换，离开后恢复基础情景。</translation>
     </message>
@@ -838,6 +962,22 @@
     <message>
         <source>For finding out why a monitor does not answer as it should.</source>
         <translation>帮助查明显示器为何没有正常应答。</translation>
+    </message>
+    <message>
+        <source>For most games.</source>
+        <translation>适合大多数游戏。</translation>
+    </message>
+    <message>
+        <source>For scenes that are near.</source>
+        <translation>适合近处的场景。</translation>
+    </message>
+    <message>
+        <source>For targets that move: what is in the ring is near enough.</source>
+        <translation>适合移动的目标：在圆环内即可。</translation>
+    </message>
+    <message>
+        <source>For wide landscapes; coarse.</source>
+        <translation>适合开阔的场景，画面较粗糙。</translation>
     </message>
     <message>
         <source>Four bytes of the next scene-mode block get lost</source>
@@ -904,6 +1044,14 @@
         <translation>游戏计时</translation>
     </message>
     <message>
+        <source>Game Time Length</source>
+        <translation>游戏计时时长</translation>
+    </message>
+    <message>
+        <source>Game Time Place</source>
+        <translation>游戏计时位置</translation>
+    </message>
+    <message>
         <source>Game VS</source>
         <translation>游戏对战</translation>
     </message>
@@ -968,8 +1116,24 @@
         <translation>倒挂</translation>
     </message>
     <message>
+        <source>HawkEye Brightness</source>
+        <translation>鹰眼亮度</translation>
+    </message>
+    <message>
+        <source>HawkEye Contrast</source>
+        <translation>鹰眼对比度</translation>
+    </message>
+    <message>
+        <source>HawkEye Sharpness</source>
+        <translation>鹰眼锐度</translation>
+    </message>
+    <message>
         <source>HawkEye Vision</source>
         <translation>鹰眼视野</translation>
+    </message>
+    <message>
+        <source>HawkEye Zoom</source>
+        <translation>鹰眼放大倍数</translation>
     </message>
     <message>
         <source>Height</source>
@@ -1136,6 +1300,10 @@
         <translation>语言</translation>
     </message>
     <message>
+        <source>Large</source>
+        <translation>大</translation>
+    </message>
+    <message>
         <source>Last errors</source>
         <translation>最近的错误</translation>
     </message>
@@ -1144,12 +1312,24 @@
         <translation>最近发给显示器的请求</translation>
     </message>
     <message>
+        <source>Leaves the target free but for its very middle.</source>
+        <translation>除正中心外不遮挡目标。</translation>
+    </message>
+    <message>
+        <source>Leaves the target free.</source>
+        <translation>不遮挡目标。</translation>
+    </message>
+    <message>
         <source>Less blue light for long days.</source>
         <translation>减少蓝光，适合长时间工作。</translation>
     </message>
     <message>
         <source>Lets the monitor switch between its two modes by itself. Close = off, Open = on.</source>
         <translation>让显示器在两种模式之间自动切换。</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>强度</translation>
     </message>
     <message>
         <source>Level1</source>
@@ -1162,6 +1342,14 @@
     <message>
         <source>Level3</source>
         <translation>等级 3</translation>
+    </message>
+    <message>
+        <source>Level4</source>
+        <translation>等级 4</translation>
+    </message>
+    <message>
+        <source>Level5</source>
+        <translation>等级 5</translation>
     </message>
     <message>
         <source>Light Programme</source>
@@ -1294,6 +1482,18 @@
     <message>
         <source>Menu lock already opened!</source>
         <translation>菜单锁定已开启！</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>中间</translation>
+    </message>
+    <message>
+        <source>Middle+</source>
+        <translation>中间偏上</translation>
+    </message>
+    <message>
+        <source>Middle-</source>
+        <translation>中间偏下</translation>
     </message>
     <message>
         <source>Minimise</source>
@@ -1472,6 +1672,10 @@
         <translation>未读到：%1</translation>
     </message>
     <message>
+        <source>Nothing above the point: for shots that fall.</source>
+        <translation>瞄准点上方没有遮挡，适合有下坠的弹道。</translation>
+    </message>
+    <message>
         <source>Nothing is heard: no program plays, or the sound output is gone.</source>
         <translation>没有声音：没有程序在播放，或声音输出已断开。</translation>
     </message>
@@ -1516,6 +1720,10 @@
         <translation>正在发送到显示器。</translation>
     </message>
     <message>
+        <source>On now.</source>
+        <translation>当前已启用。</translation>
+    </message>
+    <message>
         <source>On now: %1</source>
         <translation>当前：%1</translation>
     </message>
@@ -1530,6 +1738,10 @@
     <message>
         <source>Open</source>
         <translation>开启</translation>
+    </message>
+    <message>
+        <source>Open cross</source>
+        <translation>开口十字</translation>
     </message>
     <message>
         <source>Open the page</source>
@@ -1590,6 +1802,10 @@
     <message>
         <source>Pixels change faster and motion smears less. Close = off, Topspeed = fastest, which may leave bright edges.</source>
         <translation>加快像素变化，减少拖影。“极速”最快，但可能出现亮边。</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>位置</translation>
     </message>
     <message>
         <source>Plain, floating point</source>
@@ -1654,6 +1870,10 @@
     <message>
         <source>Pull out in mid-transfer</source>
         <translation>传输中拔出</translation>
+    </message>
+    <message>
+        <source>Purple</source>
+        <translation>紫色</translation>
     </message>
     <message>
         <source>QR Code</source>
@@ -1756,6 +1976,10 @@
         <translation>刷新率</translation>
     </message>
     <message>
+        <source>Refresh Rate Place</source>
+        <translation>刷新率位置</translation>
+    </message>
+    <message>
         <source>Refuse format</source>
         <translation>拒绝格式</translation>
     </message>
@@ -1786,6 +2010,10 @@
     <message>
         <source>Retry</source>
         <translation>重试</translation>
+    </message>
+    <message>
+        <source>Ring</source>
+        <translation>圆环</translation>
     </message>
     <message>
         <source>Round</source>
@@ -1936,6 +2164,10 @@
         <translation>暗部平衡</translation>
     </message>
     <message>
+        <source>Shape</source>
+        <translation>形状</translation>
+    </message>
+    <message>
         <source>Sharp motion with local dimming.</source>
         <translation>动态清晰，并支持区域调光。</translation>
     </message>
@@ -1976,6 +2208,10 @@
         <translation>显示参考线，帮助您对齐内容。</translation>
     </message>
     <message>
+        <source>Shows in a corner how many pictures a second the monitor gets.</source>
+        <translation>在屏幕一角显示显示器每秒收到的画面数。</translation>
+    </message>
+    <message>
         <source>Shows on the desktop what a shortcut has just changed.</source>
         <translation>在桌面上显示快捷键刚刚更改的内容。</translation>
     </message>
@@ -1988,12 +2224,20 @@
         <translation>模拟显示器</translation>
     </message>
     <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
         <source>Sleep</source>
         <translation>睡眠</translation>
     </message>
     <message>
         <source>Slow</source>
         <translation>迟缓</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>小</translation>
     </message>
     <message>
         <source>Smooth</source>
@@ -2042,6 +2286,14 @@
     <message>
         <source>Stopwatch</source>
         <translation>秒表</translation>
+    </message>
+    <message>
+        <source>Stopwatch Place</source>
+        <translation>秒表位置</translation>
+    </message>
+    <message>
+        <source>Stopwatch Time</source>
+        <translation>秒表时间</translation>
     </message>
     <message>
         <source>Strong</source>
@@ -2324,6 +2576,10 @@
         <translation>此处显示的模拟显示器</translation>
     </message>
     <message>
+        <source>The smallest one. Covers least.</source>
+        <translation>最小，遮挡最少。</translation>
+    </message>
+    <message>
         <source>The sound of the monitor. Audio Mute: Close = sound, Open = silence. Convo = for voices.</source>
         <translation>显示器的声音。“静音”开启时没有声音，“对话”适合人声。</translation>
     </message>
@@ -2396,6 +2652,10 @@
         <translation>色温选为“夜间色温”时，此滑块才起作用。</translation>
     </message>
     <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
         <source>Time to rest your eyes for a while.</source>
         <translation>该让眼睛休息一下了。</translation>
     </message>
@@ -2418,6 +2678,18 @@
     <message>
         <source>Tool language settings</source>
         <translation>工具语言设置</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>顶部</translation>
+    </message>
+    <message>
+        <source>Top Left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Top Right</source>
+        <translation>右上</translation>
     </message>
     <message>
         <source>Topspeed</source>
@@ -2576,6 +2848,10 @@
         <translation>请求与应答正在记录到 %1</translation>
     </message>
     <message>
+        <source>What it looks like</source>
+        <translation>效果预览</translation>
+    </message>
+    <message>
         <source>What most visitors of a page see.</source>
         <translation>大多数网页访客看到的色彩。</translation>
     </message>
@@ -2598,6 +2874,10 @@
     <message>
         <source>Which socket the picture comes from. Auto = the one that has a signal.</source>
         <translation>画面来自哪个接口。“自动”选择有信号的接口。</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>白色</translation>
     </message>
     <message>
         <source>Width</source>
@@ -2646,6 +2926,10 @@
     <message>
         <source>Zelmar Mode</source>
         <translation>Zelmar 模式</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>放大倍数</translation>
     </message>
     <message>
         <source>adjusted</source>
@@ -2794,6 +3078,18 @@
     <message>
         <source>upload</source>
         <translation>已上传内容</translation>
+    </message>
+    <message>
+        <source>x1.5</source>
+        <translation>1.5 倍</translation>
+    </message>
+    <message>
+        <source>x2</source>
+        <translation>2 倍</translation>
+    </message>
+    <message>
+        <source>x4</source>
+        <translation>4 倍</translation>
     </message>
 </context>
 <context>

@@ -140,6 +140,10 @@
         <translation>10 分鐘前</translation>
     </message>
     <message>
+        <source>15 min</source>
+        <translation>15 分鐘</translation>
+    </message>
+    <message>
         <source>2 Hour</source>
         <translation>2 小時</translation>
     </message>
@@ -172,6 +176,10 @@
         <translation>3.5 小時</translation>
     </message>
     <message>
+        <source>30 min</source>
+        <translation>30 分鐘</translation>
+    </message>
+    <message>
         <source>30s</source>
         <translation>30 秒</translation>
     </message>
@@ -180,8 +188,16 @@
         <translation>4 小時</translation>
     </message>
     <message>
+        <source>40 min</source>
+        <translation>40 分鐘</translation>
+    </message>
+    <message>
         <source>5.4G</source>
         <translation>5.4G</translation>
+    </message>
+    <message>
+        <source>50 min</source>
+        <translation>50 分鐘</translation>
     </message>
     <message>
         <source>5000K</source>
@@ -190,6 +206,10 @@
     <message>
         <source>5500K</source>
         <translation>5500K</translation>
+    </message>
+    <message>
+        <source>60 min</source>
+        <translation>60 分鐘</translation>
     </message>
     <message>
         <source>6300K</source>
@@ -212,6 +232,10 @@
         <translation>8.1G</translation>
     </message>
     <message>
+        <source>90 min</source>
+        <translation>90 分鐘</translation>
+    </message>
+    <message>
         <source>9300K</source>
         <translation>9300K</translation>
     </message>
@@ -226,6 +250,10 @@
     <message>
         <source>A balanced picture for every day.</source>
         <translation>均衡的畫面，適合日常使用。</translation>
+    </message>
+    <message>
+        <source>A crosshair that takes the colour that stands out and opens while the picture moves.</source>
+        <translation>準心會採用醒目的顏色，並在畫面移動時張開。</translation>
     </message>
     <message>
         <source>A dim picture for dark rooms.</source>
@@ -318,6 +346,10 @@
     <message>
         <source>All shortcuts rest while the switch above is off.</source>
         <translation>上方開關關閉時，所有快速鍵均不起作用。</translation>
+    </message>
+    <message>
+        <source>Always the opposite of what lies behind it.</source>
+        <translation>始終與背景顏色相反。</translation>
     </message>
     <message>
         <source>American broadcasting primaries.</source>
@@ -452,6 +484,18 @@
         <translation>藍色</translation>
     </message>
     <message>
+        <source>Bottom</source>
+        <translation>底部</translation>
+    </message>
+    <message>
+        <source>Bottom Left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>Bottom Right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
         <source>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = when needed.</source>
         <translation>提亮昏暗的場景。「等級 1」和「等級 2」持續生效，「自動 L1」和「自動 L2」隨畫面調整。</translation>
     </message>
@@ -512,6 +556,10 @@
         <translation>保養內容</translation>
     </message>
     <message>
+        <source>Caret</source>
+        <translation>箭頭</translation>
+    </message>
+    <message>
         <source>Cell Size</source>
         <translation>格子大小</translation>
     </message>
@@ -540,6 +588,10 @@
         <translation>請重新選擇情境，或全部讀取一次。</translation>
     </message>
     <message>
+        <source>Chosen, and switched off now.</source>
+        <translation>已選擇，目前已關閉。</translation>
+    </message>
+    <message>
         <source>Cinema colours at a D65 white.</source>
         <translation>D65 白點下的電影院色彩。</translation>
     </message>
@@ -558,6 +610,10 @@
     <message>
         <source>Close window</source>
         <translation>關閉視窗</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>顏色</translation>
     </message>
     <message>
         <source>Color Enchance</source>
@@ -598,6 +654,30 @@
     <message>
         <source>Copy report</source>
         <translation>複製報告</translation>
+    </message>
+    <message>
+        <source>Counts down in a corner, so that you notice how long you have played.</source>
+        <translation>在螢幕一角倒數計時，提醒您已經玩了多久。</translation>
+    </message>
+    <message>
+        <source>Counts up in a corner, to the time that you choose, and begins again.</source>
+        <translation>在螢幕一角計時，到所選時間後重新開始。</translation>
+    </message>
+    <message>
+        <source>Cross</source>
+        <translation>十字</translation>
+    </message>
+    <message>
+        <source>Crosshair Color</source>
+        <translation>準心顏色</translation>
+    </message>
+    <message>
+        <source>Crosshair Place</source>
+        <translation>準心位置</translation>
+    </message>
+    <message>
+        <source>Crosshair Shape</source>
+        <translation>準心形狀</translation>
     </message>
     <message>
         <source>Custom</source>
@@ -656,6 +736,10 @@
         <translation>程式設計(深色)</translation>
     </message>
     <message>
+        <source>Darkens the rim of the screen, so that the middle draws the eye.</source>
+        <translation>調暗螢幕邊緣，讓視線集中在中央。</translation>
+    </message>
+    <message>
         <source>Deep contrast for films.</source>
         <translation>深邃對比，適合觀賞電影。</translation>
     </message>
@@ -696,8 +780,20 @@
         <translation>不儲存</translation>
     </message>
     <message>
+        <source>Dot</source>
+        <translation>圓點</translation>
+    </message>
+    <message>
+        <source>Dotted cross</source>
+        <translation>帶點十字</translation>
+    </message>
+    <message>
         <source>Draw frames cell by cell; the matrix plays them in a loop.</source>
         <translation>逐格繪製各畫格，矩陣會循環播放。</translation>
+    </message>
+    <message>
+        <source>Drawn by the monitor itself, so it works in every game and is no program that a game could see.</source>
+        <translation>由顯示器自身繪製，適用於所有遊戲，遊戲不會偵測到任何應用程式。</translation>
     </message>
     <message>
         <source>Draws guide lines for composing a picture. Close = none, Trichotomy = into thirds, Round = a circle.</source>
@@ -728,6 +824,18 @@
         <translation>DyDs TECH</translation>
     </message>
     <message>
+        <source>Dynamic Crosshair</source>
+        <translation>動態準心</translation>
+    </message>
+    <message>
+        <source>Dynamic Crosshair Color</source>
+        <translation>動態準心顏色</translation>
+    </message>
+    <message>
+        <source>Dynamic Crosshair Size</source>
+        <translation>動態準心大小</translation>
+    </message>
+    <message>
         <source>Dynamic OD</source>
         <translation>動態 OD</translation>
     </message>
@@ -752,8 +860,16 @@
         <translation>EBU 模式</translation>
     </message>
     <message>
+        <source>Easy to find, and covers what it points at.</source>
+        <translation>容易看到，但會遮住目標。</translation>
+    </message>
+    <message>
         <source>Emberline</source>
         <translation>Emberline</translation>
+    </message>
+    <message>
+        <source>Enlarges the middle of the screen, so that what is far away is seen.</source>
+        <translation>放大螢幕中央，看清遠處的目標。</translation>
     </message>
     <message>
         <source>Erase</source>
@@ -820,6 +936,14 @@
         <translation>第一個控制項</translation>
     </message>
     <message>
+        <source>Focus Dimming</source>
+        <translation>聚焦調暗</translation>
+    </message>
+    <message>
+        <source>Focus Dimming Level</source>
+        <translation>聚焦調暗強度</translation>
+    </message>
+    <message>
         <source>Follow Desc</source>
         <translation>為應用程式指定情境模式：該應用程式位於前景時，顯示器會自動切換，離開後恢復基礎情境。</translation>
     </message>
@@ -838,6 +962,22 @@
     <message>
         <source>For finding out why a monitor does not answer as it should.</source>
         <translation>協助查明顯示器為何沒有正常回應。</translation>
+    </message>
+    <message>
+        <source>For most games.</source>
+        <translation>適合大多數遊戲。</translation>
+    </message>
+    <message>
+        <source>For scenes that are near.</source>
+        <translation>適合近處的場景。</translation>
+    </message>
+    <message>
+        <source>For targets that move: what is in the ring is near enough.</source>
+        <translation>適合移動的目標：在圓環內即可。</translation>
+    </message>
+    <message>
+        <source>For wide landscapes; coarse.</source>
+        <translation>適合開闊的場景，畫面較粗糙。</translation>
     </message>
     <message>
         <source>Four bytes of the next scene-mode block get lost</source>
@@ -904,6 +1044,14 @@
         <translation>遊戲計時</translation>
     </message>
     <message>
+        <source>Game Time Length</source>
+        <translation>遊戲計時時長</translation>
+    </message>
+    <message>
+        <source>Game Time Place</source>
+        <translation>遊戲計時位置</translation>
+    </message>
+    <message>
         <source>Game VS</source>
         <translation>遊戲對戰</translation>
     </message>
@@ -968,8 +1116,24 @@
         <translation>倒掛</translation>
     </message>
     <message>
+        <source>HawkEye Brightness</source>
+        <translation>鷹眼亮度</translation>
+    </message>
+    <message>
+        <source>HawkEye Contrast</source>
+        <translation>鷹眼對比度</translation>
+    </message>
+    <message>
+        <source>HawkEye Sharpness</source>
+        <translation>鷹眼銳利度</translation>
+    </message>
+    <message>
         <source>HawkEye Vision</source>
         <translation>鷹眼視野</translation>
+    </message>
+    <message>
+        <source>HawkEye Zoom</source>
+        <translation>鷹眼放大倍率</translation>
     </message>
     <message>
         <source>Height</source>
@@ -1136,6 +1300,10 @@
         <translation>語言</translation>
     </message>
     <message>
+        <source>Large</source>
+        <translation>大</translation>
+    </message>
+    <message>
         <source>Last errors</source>
         <translation>最近的錯誤</translation>
     </message>
@@ -1144,12 +1312,24 @@
         <translation>最近傳給顯示器的要求</translation>
     </message>
     <message>
+        <source>Leaves the target free but for its very middle.</source>
+        <translation>除正中心外不遮擋目標。</translation>
+    </message>
+    <message>
+        <source>Leaves the target free.</source>
+        <translation>不遮擋目標。</translation>
+    </message>
+    <message>
         <source>Less blue light for long days.</source>
         <translation>減少藍光，適合長時間工作。</translation>
     </message>
     <message>
         <source>Lets the monitor switch between its two modes by itself. Close = off, Open = on.</source>
         <translation>讓顯示器在兩種模式之間自動切換。</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>強度</translation>
     </message>
     <message>
         <source>Level1</source>
@@ -1162,6 +1342,14 @@
     <message>
         <source>Level3</source>
         <translation>等級 3</translation>
+    </message>
+    <message>
+        <source>Level4</source>
+        <translation>等級 4</translation>
+    </message>
+    <message>
+        <source>Level5</source>
+        <translation>等級 5</translation>
     </message>
     <message>
         <source>Light Programme</source>
@@ -1294,6 +1482,18 @@
     <message>
         <source>Menu lock already opened!</source>
         <translation>選單鎖定已開啟！</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>中間</translation>
+    </message>
+    <message>
+        <source>Middle+</source>
+        <translation>中間偏上</translation>
+    </message>
+    <message>
+        <source>Middle-</source>
+        <translation>中間偏下</translation>
     </message>
     <message>
         <source>Minimise</source>
@@ -1472,6 +1672,10 @@
         <translation>未讀到：%1</translation>
     </message>
     <message>
+        <source>Nothing above the point: for shots that fall.</source>
+        <translation>瞄準點上方沒有遮擋，適合有下墜的彈道。</translation>
+    </message>
+    <message>
         <source>Nothing is heard: no program plays, or the sound output is gone.</source>
         <translation>沒有聲音：沒有應用程式在播放，或音訊輸出已中斷。</translation>
     </message>
@@ -1516,6 +1720,10 @@
         <translation>正在傳送到顯示器。</translation>
     </message>
     <message>
+        <source>On now.</source>
+        <translation>目前已啟用。</translation>
+    </message>
+    <message>
         <source>On now: %1</source>
         <translation>目前：%1</translation>
     </message>
@@ -1530,6 +1738,10 @@
     <message>
         <source>Open</source>
         <translation>開啟</translation>
+    </message>
+    <message>
+        <source>Open cross</source>
+        <translation>開口十字</translation>
     </message>
     <message>
         <source>Open the page</source>
@@ -1590,6 +1802,10 @@
     <message>
         <source>Pixels change faster and motion smears less. Close = off, Topspeed = fastest, which may leave bright edges.</source>
         <translation>加快像素變化，減少殘影。「極速」最快，但可能出現亮邊。</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>位置</translation>
     </message>
     <message>
         <source>Plain, floating point</source>
@@ -1654,6 +1870,10 @@
     <message>
         <source>Pull out in mid-transfer</source>
         <translation>傳輸中拔出</translation>
+    </message>
+    <message>
+        <source>Purple</source>
+        <translation>紫色</translation>
     </message>
     <message>
         <source>QR Code</source>
@@ -1756,6 +1976,10 @@
         <translation>更新率</translation>
     </message>
     <message>
+        <source>Refresh Rate Place</source>
+        <translation>更新率位置</translation>
+    </message>
+    <message>
         <source>Refuse format</source>
         <translation>拒絕格式</translation>
     </message>
@@ -1786,6 +2010,10 @@
     <message>
         <source>Retry</source>
         <translation>重試</translation>
+    </message>
+    <message>
+        <source>Ring</source>
+        <translation>圓環</translation>
     </message>
     <message>
         <source>Round</source>
@@ -1936,6 +2164,10 @@
         <translation>暗部平衡</translation>
     </message>
     <message>
+        <source>Shape</source>
+        <translation>形狀</translation>
+    </message>
+    <message>
         <source>Sharp motion with local dimming.</source>
         <translation>動態清晰，並支援區域調光。</translation>
     </message>
@@ -1976,6 +2208,10 @@
         <translation>顯示參考線，協助您對齊內容。</translation>
     </message>
     <message>
+        <source>Shows in a corner how many pictures a second the monitor gets.</source>
+        <translation>在螢幕一角顯示顯示器每秒收到的畫面數。</translation>
+    </message>
+    <message>
         <source>Shows on the desktop what a shortcut has just changed.</source>
         <translation>在桌面上顯示快速鍵剛剛變更的內容。</translation>
     </message>
@@ -1988,12 +2224,20 @@
         <translation>模擬顯示器</translation>
     </message>
     <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
         <source>Sleep</source>
         <translation>睡眠</translation>
     </message>
     <message>
         <source>Slow</source>
         <translation>遲緩</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>小</translation>
     </message>
     <message>
         <source>Smooth</source>
@@ -2042,6 +2286,14 @@
     <message>
         <source>Stopwatch</source>
         <translation>碼錶</translation>
+    </message>
+    <message>
+        <source>Stopwatch Place</source>
+        <translation>碼錶位置</translation>
+    </message>
+    <message>
+        <source>Stopwatch Time</source>
+        <translation>碼錶時間</translation>
     </message>
     <message>
         <source>Strong</source>
@@ -2324,6 +2576,10 @@
         <translation>此處顯示的模擬顯示器</translation>
     </message>
     <message>
+        <source>The smallest one. Covers least.</source>
+        <translation>最小，遮擋最少。</translation>
+    </message>
+    <message>
         <source>The sound of the monitor. Audio Mute: Close = sound, Open = silence. Convo = for voices.</source>
         <translation>顯示器的聲音。「靜音」開啟時沒有聲音，「對話」適合人聲。</translation>
     </message>
@@ -2396,6 +2652,10 @@
         <translation>色溫選為「夜間色溫」時，此滑桿才有作用。</translation>
     </message>
     <message>
+        <source>Time</source>
+        <translation>時間</translation>
+    </message>
+    <message>
         <source>Time to rest your eyes for a while.</source>
         <translation>該讓眼睛休息一下了。</translation>
     </message>
@@ -2418,6 +2678,18 @@
     <message>
         <source>Tool language settings</source>
         <translation>工具語言設定</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>頂部</translation>
+    </message>
+    <message>
+        <source>Top Left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Top Right</source>
+        <translation>右上</translation>
     </message>
     <message>
         <source>Topspeed</source>
@@ -2576,6 +2848,10 @@
         <translation>請求與回應正在記錄到 %1</translation>
     </message>
     <message>
+        <source>What it looks like</source>
+        <translation>效果預覽</translation>
+    </message>
+    <message>
         <source>What most visitors of a page see.</source>
         <translation>多數網頁訪客看到的色彩。</translation>
     </message>
@@ -2598,6 +2874,10 @@
     <message>
         <source>Which socket the picture comes from. Auto = the one that has a signal.</source>
         <translation>畫面來自哪個連接埠。「自動」選擇有訊號的連接埠。</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>白色</translation>
     </message>
     <message>
         <source>Width</source>
@@ -2646,6 +2926,10 @@
     <message>
         <source>Zelmar Mode</source>
         <translation>Zelmar 模式</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>放大倍率</translation>
     </message>
     <message>
         <source>adjusted</source>
@@ -2794,6 +3078,18 @@
     <message>
         <source>upload</source>
         <translation>已上傳內容</translation>
+    </message>
+    <message>
+        <source>x1.5</source>
+        <translation>1.5 倍</translation>
+    </message>
+    <message>
+        <source>x2</source>
+        <translation>2 倍</translation>
+    </message>
+    <message>
+        <source>x4</source>
+        <translation>4 倍</translation>
     </message>
 </context>
 <context>

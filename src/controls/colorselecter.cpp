@@ -61,6 +61,7 @@ void ColorSelecter::setHoveredIndex(int index)
     m_hoveredIndex = index;
     setAccessibleDescription(m_names.value(index));
     update();
+    Q_EMIT sigHovered(index);
 }
 
 void ColorSelecter::select(int index)

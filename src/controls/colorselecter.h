@@ -41,6 +41,9 @@ public:
 Q_SIGNALS:
     void sigClicked(int index);
 
+    /// Another swatch is under the pointer or the arrow keys; -1 for none.
+    void sigHovered(int index);
+
 protected:
     bool event(QEvent *event) override;
     void pressAt(const QPoint &position) override;

@@ -12,7 +12,6 @@
 namespace {
 
 constexpr char kCare[] = LABEL("Oled Care");
-constexpr char kGameAid[] = LABEL("Game Aid");
 constexpr char kUser[] = LABEL("Color Temperature");
 constexpr char kHue[] = LABEL("Hue");
 constexpr char kSaturation[] = LABEL("Saturation");
@@ -46,17 +45,20 @@ constexpr CommandName kNames[] = {
     {Command::User3Blue, kUser},
     {Command::SceneMode, LABEL("Scene")},
     {Command::Gamma, LABEL("Gama")},
-    {Command::RefreshRate, kGameAid, Capability::GameFunctions},
-    {Command::RefreshRatePlace, kGameAid, Capability::GameFunctions},
-    {Command::CrosshairColor, kGameAid, Capability::GameFunctions},
-    {Command::StopwatchTime, kGameAid, Capability::GameFunctions},
-    {Command::CrosshairShape, kGameAid, Capability::GameFunctions},
-    {Command::StopwatchPlace, kGameAid, Capability::GameFunctions},
-    {Command::GameTimeLength, kGameAid, Capability::GameFunctions},
-    {Command::GameTimePlace, kGameAid, Capability::GameFunctions},
-    {Command::Crosshair, kGameAid, Capability::GameFunctions},
-    {Command::Stopwatch, kGameAid, Capability::GameFunctions},
-    {Command::GameTime, kGameAid, Capability::GameFunctions},
+    {Command::RefreshRate, LABEL("Refresh Rate"), Capability::GameFunctions},
+    {Command::RefreshRatePlace, LABEL("Refresh Rate Place"), Capability::GameFunctions},
+    {Command::CrosshairColor, LABEL("Crosshair Color"), Capability::GameFunctions},
+    {Command::StopwatchTime, LABEL("Stopwatch Time"), Capability::GameFunctions},
+    {Command::CrosshairShape, LABEL("Crosshair Shape"), Capability::GameFunctions},
+    {Command::StopwatchPlace, LABEL("Stopwatch Place"), Capability::GameFunctions},
+    {Command::GameTimeLength, LABEL("Game Time Length"), Capability::GameFunctions},
+    {Command::GameTimePlace, LABEL("Game Time Place"), Capability::GameFunctions},
+    {Command::Crosshair, LABEL("Game Crosshair"), Capability::GameFunctions},
+    {Command::Stopwatch, LABEL("Stopwatch"), Capability::GameFunctions},
+    {Command::GameTime, LABEL("Game Time"), Capability::GameFunctions},
+    {Command::MovingCrosshairColor, LABEL("Dynamic Crosshair Color"), Capability::GameFunctions},
+    {Command::MovingCrosshair, LABEL("Dynamic Crosshair"), Capability::GameFunctions},
+    {Command::MovingCrosshairSize, LABEL("Dynamic Crosshair Size"), Capability::GameFunctions},
     {Command::AlignmentAid, LABEL("Alignment Aid")},
     {Command::ColorEnhance, LABEL("Color Enhance")},
     {Command::ContrastEnhance, LABEL("CR Enhance")},
@@ -69,6 +71,9 @@ constexpr CommandName kNames[] = {
     {Command::MotionTech, LABEL("DyDs TECH")},
     {Command::GrayResponse, LABEL("Gray Response")},
     {Command::Hdr, LABEL("HDR")},
+    {Command::FocusDimming, LABEL("Focus Dimming"), Capability::GameFunctions},
+    {Command::FocusDimmingLevel, LABEL("Focus Dimming Level"), Capability::GameFunctions},
+    {Command::HawkEyeZoom, LABEL("HawkEye Zoom"), Capability::GameFunctions},
     {Command::InputSignal, LABEL("Input Signal")},
     {Command::SaturationRed, kSaturation},
     {Command::SaturationYellow, kSaturation},
@@ -80,6 +85,9 @@ constexpr CommandName kNames[] = {
     {Command::OutputRange, LABEL("Output Range")},
     {Command::QuickBoot, LABEL("Quick Boot")},
     {Command::HawkEyeVision, LABEL("HawkEye Vision"), Capability::GameFunctions},
+    {Command::HawkEyeBrightness, LABEL("HawkEye Brightness"), Capability::GameFunctions},
+    {Command::HawkEyeContrast, LABEL("HawkEye Contrast"), Capability::GameFunctions},
+    {Command::HawkEyeSharpness, LABEL("HawkEye Sharpness"), Capability::GameFunctions},
     {Command::Sharpness, LABEL("Sharpness")},
     {Command::HueRed, kHue},
     {Command::HueYellow, kHue},
@@ -117,6 +125,7 @@ constexpr CommandName kNames[] = {
     {Command::AudioMute, LABEL("Audio Mute")},
     {Command::Composition, LABEL("Composition")},
     {Command::RestTimer, LABEL("Eyeshield Remind")},
+    {Command::CrosshairPlace, LABEL("Crosshair Place"), Capability::GameFunctions},
 };
 
 } // namespace

@@ -2,9 +2,11 @@
 
 #include <QStackedWidget>
 
+#include "ddc_protocol/devicestate.h"
 #include "page/BasicSetting/pagepcsetting.h"
 #include "page/BasicSetting/pageservicessetting.h"
 #include "page/BasicSetting/pagesystemsetting.h"
+#include "page/Game/pagegameassistant.h"
 #include "page/Game/pagepictureenhanc.h"
 #include "page/IO/pageiosetting.h"
 #include "page/Office/pageoffice.h"
@@ -18,6 +20,8 @@ MonitorPages::MonitorPages(SearchDeviceDlg &session, CommandQueue &queue, PageSe
     connect(system, &pageSystemSetting::resetBegins, this, &MonitorPages::resetBegins);
     pages.add(PageId::Scene, m_scene);
     pages.add(PageId::Office, new PageOffice(queue, stack));
+    if (deviceState.has(Capability::GameFunctions))
+        pages.add(PageId::GameAssistant, new pageGameAssistant(queue, stack));
     pages.add(PageId::PictureEnhance, new pagePictureEnhanc(queue, stack));
     pages.add(PageId::SystemSetting, system);
     pages.add(PageId::ToolSetting, new pagePCSetting(session, queue, stack));

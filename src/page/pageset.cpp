@@ -2,13 +2,11 @@
 
 #include <algorithm>
 
-#include <QPushButton>
 #include <QScopedValueRollback>
 
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/transport.h"
-#include "page/engine/optiongrouprow.h"
 #include "page/engine/page.h"
 #include "page/engine/settingspage.h"
 
@@ -66,9 +64,8 @@ QString PageSet::optionText(Command command, int value) const
 {
     for (const auto &[id, page] : m_pages) {
         const auto *settings = dynamic_cast<SettingsPage *>(page);
-        const OptionGroupRow *row = settings ? settings->optionGroup(command) : nullptr;
-        if (const QPushButton *option = row ? row->buttonOf(value) : nullptr)
-            return option->text().trimmed();
+        if (const QString text = settings ? settings->optionText(command, value) : QString(); !text.isEmpty())
+            return text;
     }
     return {};
 }

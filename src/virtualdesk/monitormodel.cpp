@@ -51,11 +51,7 @@ struct BoundCodes
     std::uint8_t first, last;
     Capability capability;
 };
-constexpr BoundCodes kBoundCodes[] = {{0x01, 0x0B, OledPanel},
-                                      {0x0D, 0x0E, OledPanel},
-                                      {0x30, 0x37, GameFunctions},
-                                      {0x3D, 0x3F, GameFunctions},
-                                      {0x63, 0x63, GameFunctions}};
+constexpr BoundCodes kBoundCodes[] = {{0x01, 0x0B, OledPanel}, {0x0D, 0x0E, OledPanel}};
 constexpr std::uint8_t kSystemCodes[] = {kSceneCode, kResetCode, kCapabilityCode, kFirmwareCode, kOfficeSizeCode};
 
 int byteOf(std::uint8_t code)

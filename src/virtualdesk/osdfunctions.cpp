@@ -48,10 +48,28 @@ constexpr OsdOption kRest[] = {{0, NAME("Close")},    {1, NAME("30s")},      {2,
                                {3, NAME("1.5 Hour")}, {4, NAME("2 Hour")},   {5, NAME("2.5 Hour")},
                                {6, NAME("3 Hour")},   {7, NAME("3.5 Hour")}, {8, NAME("4 Hour")}};
 
+constexpr OsdOption kCorner[] = {
+    {0, NAME("Top Left")}, {1, NAME("Top Right")}, {2, NAME("Bottom Left")}, {3, NAME("Bottom Right")}};
+constexpr OsdOption kColor[] = {{0, NAME("Red")},  {1, NAME("Yellow")}, {2, NAME("Green")}, {3, NAME("Cyan")},
+                                {4, NAME("Blue")}, {5, NAME("Purple")}, {6, NAME("White")}, {7, NAME("Auto")}};
+constexpr OsdOption kShape[] = {{1, NAME("Cross")}, {2, NAME("Open cross")}, {3, NAME("Dotted cross")},
+                                {4, NAME("Ring")},  {5, NAME("Caret")},      {6, NAME("Dot")}};
+constexpr OsdOption kHeight[] = {
+    {0, NAME("Top")}, {1, NAME("Middle+")}, {2, NAME("Middle")}, {3, NAME("Middle-")}, {4, NAME("Bottom")}};
+constexpr OsdOption kCountUp[] = {{1, NAME("15 min")}, {2, NAME("30 min")}, {3, NAME("60 min")}, {4, NAME("90 min")}};
+constexpr OsdOption kCountDown[] = {{1, NAME("30 min")}, {2, NAME("40 min")}, {3, NAME("50 min")}, {4, NAME("60 min")}};
+constexpr OsdOption kZoom[] = {{0, NAME("x1.5")}, {1, NAME("x2")}, {2, NAME("x4")}};
+constexpr OsdOption kFive[] = {
+    {0, NAME("Level1")}, {1, NAME("Level2")}, {2, NAME("Level3")}, {3, NAME("Level4")}, {4, NAME("Level5")}};
+constexpr OsdOption kStrength[] = {{0, NAME("Low")}, {1, NAME("Medium")}, {2, NAME("High")}};
+constexpr OsdOption kSize[] = {{0, NAME("Small")}, {1, NAME("Medium")}, {2, NAME("Large")}};
+
 constexpr std::uint16_t bit(int number)
 {
     return static_cast<std::uint16_t>(1u << number);
 }
+
+constexpr std::uint16_t kGame = bit(10);
 
 // In the order of the OSD; picture first, since the scene changes most of it.
 constexpr OsdFunction kMenu[] = {
@@ -75,6 +93,28 @@ constexpr OsdFunction kMenu[] = {
     {0x45, NAME("Night Vision"), 0, 4, kNightVision},
     {0x43, NAME("Adaptive-Sync"), 1, 1, kSwitch},
     {0xE4, NAME("Game Rush"), 0, 1, kSwitch},
+    {0x3D, NAME("Game Crosshair"), 0, 1, kSwitch, kGame},
+    {0x34, NAME("Crosshair Shape"), 1, 6, kShape, kGame},
+    {0x32, NAME("Crosshair Color"), 0, 7, kColor, kGame},
+    {0xFA, NAME("Crosshair Place"), 2, 4, kHeight, kGame},
+    {0x39, NAME("Dynamic Crosshair"), 0, 1, kSwitch, kGame},
+    {0x38, NAME("Dynamic Crosshair Color"), 7, 7, kColor, kGame},
+    {0x3A, NAME("Dynamic Crosshair Size"), 1, 2, kSize, kGame},
+    {0x63, NAME("HawkEye Vision"), 0, 1, kSwitch, kGame},
+    {0x4D, NAME("HawkEye Zoom"), 1, 2, kZoom, kGame},
+    {0x64, NAME("HawkEye Brightness"), 2, 4, kFive, kGame},
+    {0x65, NAME("HawkEye Contrast"), 2, 4, kFive, kGame},
+    {0x66, NAME("HawkEye Sharpness"), 2, 4, kFive, kGame},
+    {0x30, NAME("Refresh Rate"), 0, 1, kSwitch, kGame},
+    {0x31, NAME("Refresh Rate Place"), 0, 3, kCorner, kGame},
+    {0x3E, NAME("Stopwatch"), 0, 1, kSwitch, kGame},
+    {0x33, NAME("Stopwatch Time"), 1, 4, kCountUp, kGame},
+    {0x35, NAME("Stopwatch Place"), 0, 3, kCorner, kGame},
+    {0x3F, NAME("Game Time"), 0, 1, kSwitch, kGame},
+    {0x36, NAME("Game Time Length"), 1, 4, kCountDown, kGame},
+    {0x37, NAME("Game Time Place"), 0, 3, kCorner, kGame},
+    {0x4B, NAME("Focus Dimming"), 0, 1, kSwitch, kGame},
+    {0x4C, NAME("Focus Dimming Level"), 0, 2, kStrength, kGame},
     {0x57, NAME("Input Signal"), 1, 5, kInput},
     {0x60, NAME("Output Range"), 0, 2, kRange},
     {0x5F, NAME("USB Switch"), 0, 1, kUsb},

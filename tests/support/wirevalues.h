@@ -4,7 +4,7 @@
 
 // What the controls of every page of monitor settings make of the monitor, written down by hand.
 
-enum PageName { Scene, Picture, Office, Io, System, kPageNames };
+enum PageName { Scene, Picture, Game, Office, Io, System, kPageNames };
 
 /// The entries of the four scene families: "label=value|label=value". No monitor has all.
 inline const char *const kScenes[] = {
@@ -29,6 +29,9 @@ inline const char *const kAlwaysOff = "         Enable=0|         Disable=0";
 inline const char *const kGrey = "Close=0|Level1=1|Level2=2|Level3=3|Topspeed=4";
 inline const char *const kMotion = "Close=2|Low=3|Medium=4|High=5|Ull-Level1=6|Ull-Level2=7|Ull-Level3=8";
 inline const char *const kRange = "RGB Auto=0|RGB Limit=1|RGB Full=2";
+inline const char *const kCorner = "Top Left=0|Top Right=1|Bottom Left=2|Bottom Right=3";
+inline const char *const kColor = "Red=0|Yellow=1|Green=2|Cyan=3|Blue=4|Purple=5|White=6|Auto=7";
+inline const char *const kFive = "Level1=0|Level2=1|Level3=2|Level4=3|Level5=4";
 inline const Options kOptions[] = {
     {Scene, "Gama", "26", "1.6=0|1.8=1|2.0=2|2.2=3|2.4=4|2.6=5|CAD/CAM=7"},
     {Scene, "Gray Response", "49", kGrey},
@@ -46,6 +49,31 @@ inline const Options kOptions[] = {
     {Picture, "Localdimming", "47", kAlwaysOff},
     {Picture, "Localdimming", "47", "Close=2|Low=3|Smooth=4|Medium=5|High=6"},
     {Picture, "Adaptive-Sync", "43", kSwitch},
+    {Game, "Game Rush", "e4", kSwitch},
+    {Game, "Game Crosshair", "3d", kSwitch},
+    {Game, "Crosshair Shape", "34", "Cross=1|Open cross=2|Dotted cross=3|Ring=4|Caret=5|Dot=6"},
+    {Game, "Crosshair Color", "32", kColor},
+    {Game, "Crosshair Place", "fa", "Top=0|Middle+=1|Middle=2|Middle-=3|Bottom=4"},
+    {Game, "HawkEye Vision", "63", kSwitch},
+    {Game, "HawkEye Zoom", "4d", "x1.5=0|x2=1|x4=2"},
+    {Game, "HawkEye Brightness", "64", kFive},
+    {Game, "HawkEye Contrast", "65", kFive},
+    {Game, "HawkEye Sharpness", "66", kFive},
+    {Game, "Night Vision", "45", "Close=0|Level1=1|Level2=2|Auto-L1=3|Auto-L2=4"},
+    {Game, "Refresh Rate", "30", kSwitch},
+    {Game, "Refresh Rate Place", "31", kCorner},
+    {Game, "Stopwatch", "3e", kSwitch},
+    {Game, "Stopwatch Time", "33", "15 min=1|30 min=2|60 min=3|90 min=4"},
+    {Game, "Stopwatch Place", "35", kCorner},
+    {Game, "Game Time", "3f", kSwitch},
+    {Game, "Game Time Length", "36", "30 min=1|40 min=2|50 min=3|60 min=4"},
+    {Game, "Game Time Place", "37", kCorner},
+    {Game, "Dynamic Crosshair", "39", kSwitch},
+    {Game, "Dynamic Crosshair Color", "38", kColor},
+    {Game, "Dynamic Crosshair Size", "3a", "Small=0|Medium=1|Large=2"},
+    {Game, "Focus Dimming", "4b", kSwitch},
+    {Game, "Focus Dimming Level", "4c", "Low=0|Medium=1|High=2"},
+    {Game, "AI Dual Mode", "e0", "Close=0|Open=1"},
     {Office, "Paper", "ec", "Close=0|Paper_A4=1|Paper_B5=2|Paper_B6=3|Custom Size=4"},
     {Office, "Alignment", "f1", "Close=0|Alignment_4=1|Alignment_6=2|Alignment_9=3"},
     {Office, "Ruler", "f2", "Angle close=0|Ruler=1|Angle Ruler=2"},

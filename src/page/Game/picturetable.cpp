@@ -9,10 +9,6 @@
 namespace {
 
 // What they are for.
-constexpr char kGameRushHelp[] = LABEL(
-    "Shortens the delay between your hand and the picture in fast games. Adaptive-Sync cannot be chosen meanwhile.");
-constexpr char kNightVisionHelp[] =
-    LABEL("Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = when needed.");
 constexpr char kHDRHelp[] =
     LABEL("How pictures with a high dynamic range are shown. Close = off, Auto = when the signal has it.");
 constexpr char kAdaptiveSyncHelp[] =
@@ -24,8 +20,6 @@ constexpr int kCaption = metrics::kCaptionWidth;
 // groups sends 2. Both are meant.
 constexpr Option kAlwaysOff[] = {{LABEL("         Enable"), 0}, {LABEL("         Disable"), 0}};
 
-constexpr Option kNightVision[] = {
-    {LABEL("Close"), 0}, {LABEL("Level1"), 1}, {LABEL("Level2"), 2}, {LABEL("Auto-L1"), 3}, {LABEL("Auto-L2"), 4}};
 constexpr Option kHdr[] = {{LABEL("Close"), 0}, {LABEL("Auto"), 1}, {LABEL("Game"), 2}, {LABEL("Movie"), 3}};
 
 // The last option is "High" here and "Strong" on the scene page; the value is the same.
@@ -51,7 +45,7 @@ const Section kDyds[] = {makeSwitch(LABEL("DyDs"), Command::MotionTech, kAlwaysO
                          OptionGroup{LABEL("DyDs"), Command::MotionTech, kMotionOptions}};
 const Section kMpcs[] = {makeSwitch(LABEL("MPCS"), Command::MotionTech, kAlwaysOff),
                          OptionGroup{LABEL("MPCS"), Command::MotionTech, kMotionOptions}};
-const Section kNightVisionPanel[] = {groupOf(Command::NightVision, kNightVision)};
+const Section kNightVisionPanel[] = {groupOf(Command::NightVision, kNightVisionOptions)};
 const Section kDynamicOd[] = {OptionGroup{LABEL("Dynamic OD"), Command::GrayResponse, kGrayResponseOptions}};
 const Section kHdrPanel[] = {groupOf(Command::Hdr, kHdr)};
 const Section kColorEnhancePanel[] = {SliderGrid{nullptr, 1, kCaption, kColorEnhance}};

@@ -1,6 +1,7 @@
 #include "page/Office/officetable.h"
 
 #include "page/engine/commandrows.h"
+#include "page/engine/commonhelp.h"
 #include "page/engine/commonoptions.h"
 
 namespace {
@@ -17,8 +18,6 @@ constexpr char kCompositionHelp[] =
     LABEL("Draws guide lines for composing a picture. Close = none, Trichotomy = into thirds, Round = a circle.");
 constexpr char kEyeshieldRemindHelp[] =
     LABEL("Reminds you to rest your eyes each time the chosen span has passed. Close = off.");
-constexpr char kAIDualModeHelp[] =
-    LABEL("Lets the monitor switch between its two modes by itself. Close = off, Open = on.");
 
 constexpr Option kEyeshield[] = {{LABEL("Close"), 0},    {LABEL("30s"), 1},      {LABEL("1 Hour"), 2},
                                  {LABEL("1.5 Hour"), 3}, {LABEL("2 Hour"), 4},   {LABEL("2.5 Hour"), 5},
@@ -51,7 +50,7 @@ const PanelSpec kPanels[] = {
     panelOf(Command::AlignmentAid, "alignment_aid", "pageAlignmentAid", kAlignmentAid, kAlignmentAidHelp),
     panelOf(Command::Composition, "composition", "pageComposition", kCompositionPanel, kCompositionHelp),
     panelOf(Command::RestTimer, "eyeshield_remind", "pageEyeshieldRemind", kEyeshieldPanel, kEyeshieldRemindHelp),
-    panelOf(Command::AiDualMode, "ai_dual_mode", "pageAIDualMode", kAiDualMode, kAIDualModeHelp),
+    panelOf(Command::AiDualMode, "ai_dual_mode", "pageAIDualMode", kAiDualMode, kAiDualModeHelp),
 };
 
 } // namespace

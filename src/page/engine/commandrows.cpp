@@ -2,10 +2,22 @@
 
 #include "ddc_protocol/commandnames.h"
 
-OptionGroup groupOf(Command command, std::span<const Option> options, const char *help)
+OptionGroup groupOf(Command command, std::span<const Option> options, const char *help, const char *caption)
 {
     const CommandName &name = nameOf(command);
-    return {name.label, command, options, name.needs, GroupLook::Buttons, help};
+    return {name.label, command, options, name.needs, GroupLook::Buttons, help, nullptr, caption};
+}
+
+OptionGroup picturesOf(Command command, std::span<const Option> options, DrawOption draw, const char *caption)
+{
+    const CommandName &name = nameOf(command);
+    return {name.label, command, options, name.needs, GroupLook::Pictures, nullptr, draw, caption};
+}
+
+OptionGroup swatchesOf(Command command, std::span<const Option> options, const char *caption)
+{
+    const CommandName &name = nameOf(command);
+    return {name.label, command, options, name.needs, GroupLook::Swatches, nullptr, nullptr, caption};
 }
 
 OptionGroup switchOf(Command command, std::span<const Option> halves)

@@ -5,7 +5,13 @@
 // Rows of a page's table that take from the table of commands what a command is called, and which monitors have it. A
 // row that has to say otherwise is written out. Help is a sentence that says what the setting is for.
 
-OptionGroup groupOf(Command command, std::span<const Option> options, const char *help = nullptr);
+OptionGroup groupOf(Command command, std::span<const Option> options, const char *help = nullptr,
+                    const char *caption = nullptr);
+
+/// Options that are chosen from drawings, or from colour swatches. The caption is what stands before them.
+OptionGroup picturesOf(Command command, std::span<const Option> options, DrawOption draw, const char *caption);
+OptionGroup swatchesOf(Command command, std::span<const Option> options, const char *caption);
+
 OptionGroup switchOf(Command command, std::span<const Option> halves = kSwitchOptions);
 SliderSpec sliderOf(Command command, int minimum, int maximum, SendOn sendOn = SendOn::Move,
                     const char *help = nullptr);

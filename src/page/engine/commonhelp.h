@@ -19,3 +19,9 @@ inline constexpr char kResolutionHelp[] =
 inline constexpr char kHaloHelp[] = LABEL("Reduces the glow around bright things on a dark ground.");
 inline constexpr char kRangeHelp[] = LABEL(
     "Must match the computer's signal. RGB Auto = found out by itself, RGB Limit = 16 to 235, RGB Full = 0 to 255.");
+inline constexpr char kGameRushHelp[] = LABEL(
+    "Shortens the delay between your hand and the picture in fast games. Adaptive-Sync cannot be chosen meanwhile.");
+inline constexpr char kNightVisionHelp[] =
+    LABEL("Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = when needed.");
+inline constexpr char kAiDualModeHelp[] =
+    LABEL("Lets the monitor switch between its two modes by itself. Close = off, Open = on.");

@@ -17,3 +17,10 @@ inline constexpr Option kMotionOptions[] = {{LABEL("Close"), 2},     {LABEL("Low
 
 inline constexpr Option kOutputRangeOptions[] = {
     {LABEL("RGB Auto"), 0}, {LABEL("RGB Limit"), 1}, {LABEL("RGB Full"), 2}};
+
+inline constexpr Option kNightVisionOptions[] = {
+    {LABEL("Close"), 0}, {LABEL("Level1"), 1}, {LABEL("Level2"), 2}, {LABEL("Auto-L1"), 3}, {LABEL("Auto-L2"), 4}};
+
+// A corner of the screen.
+inline constexpr Option kCornerOptions[] = {
+    {LABEL("Top Left"), 0}, {LABEL("Top Right"), 1}, {LABEL("Bottom Left"), 2}, {LABEL("Bottom Right"), 3}};

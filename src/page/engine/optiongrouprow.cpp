@@ -1,17 +1,22 @@
 #include "page/engine/optiongrouprow.h"
 
+#include <algorithm>
+
 #include <QButtonGroup>
 #include <QHBoxLayout>
 #include <QPushButton>
 
 #include "controls/accessiblecontrol.h"
 #include "controls/captionlabel.h"
+#include "controls/colorselecter.h"
 #include "controls/focusgroup.h"
 #include "controls/locksign.h"
 #include "controls/metrics.h"
+#include "controls/pictures.h"
 #include "page/engine/boundtexts.h"
 #include "page/engine/flowlayout.h"
 #include "page/engine/halfbutton.h"
+#include "page/engine/picturebutton.h"
 
 namespace {
 
@@ -78,38 +83,97 @@ OptionGroupRow::OptionGroupRow(const OptionGroup &group, BoundTexts &texts, QWid
       m_exclusive(new QButtonGroup(this)), m_mark(new ValueMark(this)), m_sign(new LockSign(this))
 {
     m_caption->setFixedSize(metrics::kCaptionWidth, metrics::kControlHeight);
+    m_caption->setStyleSheet(QStringLiteral("QLabel { color: #FFFFFF; }QLabel:disabled { color: #000; }"));
     describeAs(this, QAccessible::Grouping);
-    texts.bind(group.label, [this](const QString &text) {
-        m_caption->setText(text);
+    bindTexts(texts);
+    auto *flow = new FlowLayout(group.look == GroupLook::Switch ? 0 : metrics::kGap); // its halves are one control
+    addButtons(texts, flow);
+    if (group.look == GroupLook::Swatches)
+        addSwatches(texts, flow);
+    addMarks(flow);
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(metrics::kGap);
+    row->addWidget(m_caption, 0, Qt::AlignTop);
+    row->addLayout(flow, 1);
+}
+
+void OptionGroupRow::bindTexts(BoundTexts &texts)
+{
+    texts.bind(m_group.label, [this](const QString &text) {
         setAccessibleName(text);
+        m_caption->setText(m_group.caption ? QObject::tr(m_group.caption) : text);
     });
-    if (group.help) {
-        texts.bind(group.help, [this](const QString &text) {
+    if (m_group.help) {
+        texts.bind(m_group.help, [this](const QString &text) {
             m_help = text;
             describe();
         });
     }
-    m_caption->setStyleSheet(QStringLiteral("QLabel { color: #FFFFFF; }QLabel:disabled { color: #000; }"));
+}
 
-    auto *flow = new FlowLayout(group.look == GroupLook::Switch ? 0 : metrics::kGap); // its halves are one control
+void OptionGroupRow::addButtons(BoundTexts &texts, FlowLayout *flow)
+{
     auto *stop = new FocusGroup(this);
-    for (const Option &option : group.options) {
-        auto *button = new QPushButton(this);
-        button->setObjectName(
-            QStringLiteral("%1_%2").arg(QString::fromUtf8(group.label), QString::fromUtf8(option.label)));
-        button->setCheckable(true);
-        const auto dress = group.look == GroupLook::Switch ? dressHalfButton : dressOptionButton;
-        texts.bind(option.label, [button, dress, label = group.label](const QString &text) {
-            button->setText(text);
-            button->setAccessibleName(QStringLiteral("%1: %2").arg(QObject::tr(label), text.trimmed()));
-            dress(button);
-        });
-        m_exclusive->addButton(button);
+    for (const Option &option : m_group.options) {
+        QPushButton *button = addButton(option, texts);
+        if (m_group.look == GroupLook::Swatches) {
+            button->hide();
+            continue;
+        }
         stop->add(button);
-        connect(button, &QPushButton::clicked, this, [this, button] { Q_EMIT optionClicked(button); });
-        m_buttons.push_back(button);
         flow->addWidget(button);
     }
+}
+
+QPushButton *OptionGroupRow::addButton(const Option &option, BoundTexts &texts)
+{
+    auto *button = new QPushButton(this);
+    button->setObjectName(
+        QStringLiteral("%1_%2").arg(QString::fromUtf8(m_group.label), QString::fromUtf8(option.label)));
+    button->setCheckable(true);
+    if (m_group.look == GroupLook::Pictures)
+        dressPictureButton(button, m_group.draw, option.value);
+    texts.bind(option.label, [this, button](const QString &text) {
+        button->setAccessibleName(QStringLiteral("%1: %2").arg(QObject::tr(m_group.label), text.trimmed()));
+        if (m_group.look == GroupLook::Pictures)
+            return button->setToolTip(text);
+        button->setText(text);
+        if (m_group.look != GroupLook::Swatches)
+            (m_group.look == GroupLook::Switch ? dressHalfButton : dressOptionButton)(button);
+    });
+    m_exclusive->addButton(button);
+    button->installEventFilter(this);
+    connect(button, &QPushButton::clicked, this, [this, button] { Q_EMIT optionClicked(button); });
+    m_buttons.push_back(button);
+    return button;
+}
+
+void OptionGroupRow::addSwatches(BoundTexts &texts, FlowLayout *flow)
+{
+    QStringList pictures;
+    for (const Option &option : m_group.options)
+        pictures.append(Pictures::kRoot + QStringLiteral("img/") + QLatin1String(option.picture));
+    m_swatches = new ColorSelecter(pictures, this);
+    m_swatches->setFixedHeight(metrics::kControlHeight);
+    flow->addWidget(m_swatches);
+    texts.bind(m_group.label, [this](const QString &text) {
+        QStringList names;
+        for (const Option &option : m_group.options)
+            names.append(QObject::tr(option.label));
+        m_swatches->setSwatchNames(names);
+        m_swatches->setAccessibleName(text);
+    });
+    connect(m_swatches, &ColorSelecter::sigClicked, this,
+            [this](int index) { Q_EMIT optionClicked(m_buttons[static_cast<std::size_t>(index)]); });
+    connect(m_swatches, &ColorSelecter::sigHovered, this, [this](int index) {
+        Q_EMIT optionPointed(index < 0 ? std::nullopt
+                                       : std::optional(m_group.options[static_cast<std::size_t>(index)].value));
+    });
+}
+
+void OptionGroupRow::addMarks(FlowLayout *flow)
+{
     m_mark->setFixedHeight(m_caption->height());
     QSizePolicy markPolicy = m_mark->sizePolicy();
     markPolicy.setRetainSizeWhenHidden(true); // the buttons must not jump when it comes
@@ -118,11 +182,22 @@ OptionGroupRow::OptionGroupRow(const OptionGroup &group, BoundTexts &texts, QWid
     m_sign->setFixedHeight(m_caption->height());
     flow->addWidget(m_sign);
     connect(m_sign, &LockSign::pressed, this, &OptionGroupRow::lockPressed);
-    auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(metrics::kGap);
-    row->addWidget(m_caption, 0, Qt::AlignTop);
-    row->addLayout(flow, 1);
+}
+
+bool OptionGroupRow::eventFilter(QObject *watched, QEvent *event)
+{
+    const int index = indexOf(watched);
+    if (index >= 0 && (event->type() == QEvent::Enter || event->type() == QEvent::FocusIn))
+        Q_EMIT optionPointed(m_group.options[static_cast<std::size_t>(index)].value);
+    else if (index >= 0 && (event->type() == QEvent::Leave || event->type() == QEvent::FocusOut))
+        Q_EMIT optionPointed(std::nullopt);
+    return QWidget::eventFilter(watched, event);
+}
+
+int OptionGroupRow::indexOf(const QObject *button) const
+{
+    const auto found = std::find(m_buttons.begin(), m_buttons.end(), button);
+    return found == m_buttons.end() ? -1 : static_cast<int>(found - m_buttons.begin());
 }
 
 QPushButton *OptionGroupRow::buttonOf(int value) const
@@ -154,6 +229,8 @@ void OptionGroupRow::showValue(std::optional<int> value)
 {
     QPushButton *chosen = value ? buttonOf(*value) : nullptr;
     checkOnly(*m_exclusive, chosen);
+    if (m_swatches)
+        m_swatches->setSelectedIndex(indexOf(chosen));
     m_isUnknown = !value;
     describe();
 }
@@ -173,6 +250,8 @@ void OptionGroupRow::setLocks(const QStringList &reasons)
     m_sign->setReason(said.join(QLatin1Char('\n')));
     for (std::size_t i = 0; i < m_buttons.size(); ++i)
         m_buttons[i]->setEnabled(m_locks.value(static_cast<qsizetype>(i)).isEmpty());
+    if (m_swatches)
+        m_swatches->setEnabled(said.isEmpty());
     describe();
 }
 
@@ -183,7 +262,8 @@ void OptionGroupRow::describe()
     for (std::size_t i = 0; i < m_buttons.size(); ++i) {
         const QString lock = m_locks.value(static_cast<qsizetype>(i));
         m_buttons[i]->setAccessibleDescription(lock.isEmpty() ? text : lock);
-        m_buttons[i]->setToolTip(lock);
+        if (m_group.look != GroupLook::Pictures)
+            m_buttons[i]->setToolTip(lock);
     }
     setToolTip(withHelp(text, m_help));
     QStringList said = {m_isUnknown ? QObject::tr("unknown") : QString(), toolTip()};

@@ -11,10 +11,13 @@
 
 class BoundTexts;
 class CaptionLabel;
+class ColorSelecter;
+class FlowLayout;
 class LockSign;
 class QButtonGroup;
 
-/// The heading of an option group and its buttons, one of which is checked, or none while the value is not known.
+/// The heading of an option group and its buttons or swatches, one of which is checked, or none while the value is not
+/// known.
 class OptionGroupRow : public QWidget
 {
     Q_OBJECT
@@ -48,16 +51,29 @@ Q_SIGNALS:
     /// The user chose the button, by mouse or keyboard.
     void optionClicked(QPushButton *button);
 
+    /// The pointer or the keyboard is on an option that is not chosen by that; nothing when it left them.
+    void optionPointed(std::optional<int> value);
+
     /// The user wants to go to what locks the first locked option.
     void lockPressed();
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
+    void bindTexts(BoundTexts &texts);
+    void addButtons(BoundTexts &texts, FlowLayout *flow);
+    QPushButton *addButton(const Option &option, BoundTexts &texts);
+    void addSwatches(BoundTexts &texts, FlowLayout *flow);
+    void addMarks(FlowLayout *flow);
+    int indexOf(const QObject *button) const;
     void describe();
 
     OptionGroup m_group;
     CaptionLabel *m_caption;
     QButtonGroup *m_exclusive;
-    std::vector<QPushButton *> m_buttons;
+    std::vector<QPushButton *> m_buttons; ///< of swatches hidden: these are one control
+    ColorSelecter *m_swatches = nullptr;
     ValueMark *m_mark;
     LockSign *m_sign;
     bool m_isUnknown = false;

@@ -6,6 +6,9 @@
 
 #include <QtGlobal>
 
+class QPainter;
+class QRectF;
+
 #include "ddc_protocol/command.h"
 
 // A settings page is a table of these. Labels are source texts, marked by QT_TRANSLATE_NOOP("QObject", ...).
@@ -16,12 +19,15 @@ struct Option
     const char *label;
     int value;
     const char *words = nullptr;   ///< one or two sentences: what it does, and when to use it
-    const char *picture = nullptr; ///< of looks that show one: its name under img/
+    const char *picture = nullptr; ///< of a swatch: its name under img/
 };
 
 /// How a group looks: a row of option buttons, the two halves of a switch, buttons that show a picture each, or colour
 /// swatches.
 enum class GroupLook { Buttons, Switch, Pictures, Swatches };
+
+/// Draws an option on its button.
+using DrawOption = void (*)(QPainter &painter, const QRectF &button, int value);
 
 /// Buttons of which one is chosen. A button's object name is "<group label>_<option label>".
 struct OptionGroup
@@ -32,6 +38,7 @@ struct OptionGroup
     std::optional<Capability> needs = {}; ///< built only for monitors that have it
     GroupLook look = GroupLook::Buttons;
     const char *help = nullptr;    ///< a sentence that says what it is for, where no panel does
+    DrawOption draw = nullptr;     ///< of buttons that show a picture each
     const char *caption = nullptr; ///< what stands before the options, where the label says more than is needed there
 };
 

@@ -15,12 +15,14 @@
 #include "controls/pictures.h"
 #include "controls/sharedfonts.h"
 #include "controls/sliderwidget.h"
+#include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/settingsstore.h"
 #include "page/engine/labels.h"
 #include "page/engine/optiongrouprow.h"
 #include "page/engine/pagehead.h"
 #include "page/engine/pagestyle.h"
+#include "page/engine/picturestage.h"
 
 namespace {
 
@@ -46,17 +48,35 @@ PanelPage::PanelPage(const QString &name, OwnList list, CommandQueue &queue, QWi
     dressPage(this);
     m_stack->setObjectName(QStringLiteral("rightStackedWidget"));
     askWhenShown();
+    connect(&queue.values(), &ValueWatch::changed, this, &PanelPage::refreshPicture);
 }
 
-void PanelPage::buildPanels(std::span<const PanelSpec> panels)
+void PanelPage::takePanels(std::span<const PanelSpec> panels)
 {
-    auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(m_list == OwnList::Shown ? 0 : metrics::kBlockGap, 0, metrics::kBlockGap, kBottom);
-    row->setSpacing(metrics::kBlockGap);
     for (const PanelSpec &panel : panels) {
         if (!panel.needs || deviceState.has(*panel.needs))
             m_panels.push_back(panel);
     }
+}
+
+void PanelPage::buildPanels(std::span<const PanelSpec> panels)
+{
+    takePanels(panels);
+    build();
+}
+
+void PanelPage::buildPanelsWhenShown(std::span<const PanelSpec> panels)
+{
+    takePanels(panels);
+}
+
+void PanelPage::build()
+{
+    if (m_head)
+        return;
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(m_list == OwnList::Shown ? 0 : metrics::kBlockGap, 0, metrics::kBlockGap, kBottom);
+    row->setSpacing(metrics::kBlockGap);
     if (m_list == OwnList::Shown)
         row->addWidget(buildList());
     auto *column = new QVBoxLayout;
@@ -69,6 +89,12 @@ void PanelPage::buildPanels(std::span<const PanelSpec> panels)
         m_stack->addWidget(buildPanel(panel));
     showPanel(0);
     updateInterfaceData();
+}
+
+void PanelPage::showEvent(QShowEvent *event)
+{
+    build();
+    SettingsPage::showEvent(event);
 }
 
 QWidget *PanelPage::buildList()
@@ -138,6 +164,12 @@ QWidget *PanelPage::buildPanel(const PanelSpec &panel)
     auto *column = new QVBoxLayout(content);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(metrics::kRowGap);
+    fillPanel(panel, column);
+    return content;
+}
+
+void PanelPage::fillPanel(const PanelSpec &panel, QVBoxLayout *column)
+{
     const std::size_t groupsBefore = optionGroups().size();
     const std::size_t slidersBefore = sliders().size();
     buildSections(panel.sections, column);
@@ -152,8 +184,17 @@ QWidget *PanelPage::buildPanel(const PanelSpec &panel)
         std::ranges::for_each(rows, &OptionGroupRow::hideCaption);
         std::ranges::for_each(ownSliders, &SliderWidget::hideCaption);
     }
-    column->addStretch(1);
-    return content;
+    if (!panel.picture)
+        return column->addStretch(1);
+    auto *stage = new PictureStage(*panel.picture, {rows.begin(), rows.end()}, column->parentWidget());
+    m_pictures[m_stack->count()] = stage;
+    column->addWidget(stage, 1);
+}
+
+void PanelPage::refreshPicture()
+{
+    if (const auto stage = m_pictures.find(currentPanel()); stage != m_pictures.end() && isVisible())
+        stage->second->refresh();
 }
 
 void PanelPage::updateControlText()
@@ -161,11 +202,13 @@ void PanelPage::updateControlText()
     SettingsPage::updateControlText();
     shrinkTogether(m_entries);
     showTitle();
+    for (const auto &[panel, stage] : m_pictures)
+        stage->refresh();
 }
 
 void PanelPage::showTitle()
 {
-    if (m_panels.empty())
+    if (m_panels.empty() || !m_head)
         return;
     const PanelSpec &panel = m_panels[static_cast<std::size_t>(currentPanel())];
     const QString title = QObject::tr(panel.label);
@@ -196,10 +239,12 @@ void PanelPage::choose(int index)
     for (std::size_t i = 0; i < m_entries.size(); ++i)
         m_entries[i]->setChecked(static_cast<int>(i) == index);
     reconcile();
+    refreshPicture();
 }
 
 void PanelPage::showPanel(int index)
 {
+    build();
     if (index >= 0 && index < panelCount())
         choose(index);
 }
@@ -216,6 +261,22 @@ void PanelPage::scrollList(int steps)
 {
     QScrollBar *bar = m_listArea->verticalScrollBar();
     bar->setValue(bar->value() + steps * kEntryPitch);
+}
+
+/// From the tables: what is not built yet has its names as well.
+QString PanelPage::optionText(Command command, int value) const
+{
+    for (const PanelSpec &panel : m_panels) {
+        for (const Section &section : panel.sections) {
+            const auto *group = std::get_if<OptionGroup>(&section);
+            if (!group || group->command != command || group->look == GroupLook::Switch)
+                continue; // that a switch is on has words of its own
+            const auto option = std::ranges::find(group->options, value, &Option::value);
+            if (option != group->options.end())
+                return QObject::tr(option->label).trimmed();
+        }
+    }
+    return {};
 }
 
 QString PanelPage::alreadyEnabled(const char *label)

@@ -7,6 +7,7 @@ class LeftTabButton;
 class QPushButton;
 class QScrollArea;
 class QStackedWidget;
+class PictureStage;
 
 /// A settings page of several panels, of which one is shown. The user chooses it in the page's own list, or, on pages
 /// without one, in the window's left bar.
@@ -20,6 +21,10 @@ public:
     PanelPage(const QString &name, OwnList list, CommandQueue &queue, QWidget *parent = nullptr);
 
     void updateControlText() override;
+    QString optionText(Command command, int value) const override;
+
+    /// Builds what is to be built when the page is first shown; further calls do nothing.
+    void build();
 
     int panelCount() const;
     int currentPanel() const;
@@ -35,6 +40,11 @@ protected:
     /// To be called once by the page's constructor, when its own members stand.
     void buildPanels(std::span<const PanelSpec> panels);
 
+    /// As buildPanels, when the page is first to be shown: until then it costs next to nothing.
+    void buildPanelsWhenShown(std::span<const PanelSpec> panels);
+
+    void showEvent(QShowEvent *event) override;
+
     /// Whether a panel may be chosen now; a page that says no shows why.
     virtual bool mayShow(const PanelSpec &) { return true; }
 
@@ -45,8 +55,11 @@ protected:
     bool showStored(bool stored, Unstored otherwise);
 
 private:
+    void takePanels(std::span<const PanelSpec> panels);
     QWidget *buildList();
     QWidget *buildPanel(const PanelSpec &panel);
+    void fillPanel(const PanelSpec &panel, QVBoxLayout *column);
+    void refreshPicture();
     LeftTabButton *addEntry(const PanelSpec &panel, QLayout *column);
     void choose(int index);
     void showTitle();
@@ -60,4 +73,5 @@ private:
     QPushButton *m_down = nullptr;
     QStackedWidget *m_stack;
     PageHead *m_head = nullptr;
+    std::map<int, PictureStage *> m_pictures; ///< by panel
 };

@@ -53,7 +53,14 @@ PageHead *SettingsPage::addHead(QVBoxLayout *column)
 
 QString SettingsPage::notice() const
 {
-    return m_head->strip()->text();
+    return m_head ? m_head->strip()->text() : QString();
+}
+
+QString SettingsPage::optionText(Command command, int value) const
+{
+    const OptionGroupRow *row = optionGroup(command);
+    const QPushButton *option = row ? row->buttonOf(value) : nullptr;
+    return option ? option->text().trimmed() : QString();
 }
 
 void SettingsPage::showNotice(const QString &text)

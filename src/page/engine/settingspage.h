@@ -48,6 +48,9 @@ public:
     SliderWidget *slider(const char *name) const { return m_controls.slider(name); }
     SliderWidget *slider(Command command) const { return m_controls.slider(command); }
 
+    /// A value as the page names it that offers it; empty where it offers none.
+    virtual QString optionText(Command command, int value) const;
+
     /// What is said under the title, such as why something was not done; empty when there is nothing to say.
     QString notice() const;
 

@@ -1,0 +1,148 @@
+#include "page/Game/gamepictures.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <QPainter>
+
+#include "controls/gameoverlays.h"
+#include "controls/testpicture.h"
+
+using namespace gameoverlays;
+
+namespace gamepictures {
+
+namespace {
+
+constexpr int kRed = 0;
+
+void drawGame(QPainter &painter, const QRectF &screen, const PictureLook &look = {})
+{
+    painter.drawImage(screen.topLeft(), testPicture(screen.size().toSize(), look));
+}
+
+void paintRush(QPainter &painter, const QRectF &screen, const PictureValues &values)
+{
+    drawGame(painter, screen);
+    // What moves: with the delay of before behind it, and without.
+    const bool isFast = values.is(Command::GameRush, 1);
+    const QPointF hand = screen.center() + QPointF(screen.width() * 0.18, 0);
+    for (int step = isFast ? 0 : 3; step >= 0; --step) {
+        painter.setOpacity(step == 0 ? 1.0 : 0.12 + 0.1 * (3 - step));
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(Qt::white);
+        painter.drawEllipse(hand - QPointF(step * screen.width() * 0.05, 0), 9, 9);
+    }
+    painter.setOpacity(1);
+    drawReadout(painter, screen, 1, isFast ? QStringLiteral("1 ms") : QStringLiteral("8 ms"));
+}
+
+void paintCrosshair(QPainter &painter, const QRectF &screen, const PictureValues &values)
+{
+    drawGame(painter, screen);
+    if (values.is(Command::Crosshair, 1) || values.isPreview)
+        drawCrosshair(painter, crosshairCentre(screen, values(Command::CrosshairPlace, 2)),
+                      values(Command::CrosshairShape, 1), values(Command::CrosshairColor, kRed));
+}
+
+void paintMovingCrosshair(QPainter &painter, const QRectF &screen, const PictureValues &values)
+{
+    drawGame(painter, screen);
+    if (!values.is(Command::MovingCrosshair, 1) && !values.isPreview)
+        return;
+    // It opens while the picture moves: at rest, and around it as it is then.
+    const QPointF centre = crosshairCentre(screen, 2);
+    const int size = values(Command::MovingCrosshairSize, 1);
+    const int colour = values(Command::MovingCrosshairColor, kRed);
+    drawCrosshair(painter, centre, 2, colour, size + 1);
+    drawCrosshair(painter, centre, 6, colour);
+}
+
+/// Three levels that begin with 0, of five, as parts of the whole around the middle.
+double level(const PictureValues &values, Command command)
+{
+    return 0.3 + 0.1 * values(command, 2);
+}
+
+void paintHawkEye(QPainter &painter, const QRectF &screen, const PictureValues &values)
+{
+    drawGame(painter, screen);
+    if (!values.is(Command::HawkEyeVision, 1) && !values.isPreview)
+        return;
+    static constexpr double kZooms[] = {1.5, 2, 4};
+    const double zoom = kZooms[std::clamp(values(Command::HawkEyeZoom, 0), 0, 2)];
+    const QImage image = testPicture(screen.size().toSize(), {.brightness = level(values, Command::HawkEyeBrightness),
+                                                              .contrast = level(values, Command::HawkEyeContrast)});
+    QRectF lens(0, 0, screen.height() * 0.5, screen.height() * 0.5);
+    lens.moveCenter(screen.center());
+    painter.save();
+    painter.setClipRect(lens);
+    painter.translate(screen.center());
+    painter.scale(zoom, zoom);
+    // Sharper means that what is enlarged is not smoothed.
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, values(Command::HawkEyeSharpness, 2) < 3);
+    painter.drawImage(-QPointF(image.width() / 2.0, image.height() / 2.0), image);
+    painter.restore();
+    painter.setPen(QPen(QColor(255, 255, 255, 170), 1));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(lens);
+}
+
+void paintNightVision(QPainter &painter, const QRectF &screen, const PictureValues &values)
+{
+    static constexpr double kLifts[] = {0, 0.45, 0.9, 0.45, 0.9};
+    const int option = std::clamp(values(Command::NightVision, 0), 0, 4);
+    drawGame(painter, screen, {.shadows = kLifts[option], .gamma = 2.2 - kLifts[option], .day = 0.25 + 0.3 * kLifts[option]});
+}
+
+void paintRefreshRate(QPainter &painter, const QRectF &screen, const PictureValues &values)
+{
+    drawGame(painter, screen);
+    if (values.is(Command::RefreshRate, 1) || values.isPreview)
+        drawReadout(painter, screen, values(Command::RefreshRatePlace, 1), QStringLiteral("165 Hz"));
+}
+
+void paintStopwatch(QPainter &painter, const QRectF &screen, const PictureValues &values)
+{
+    drawGame(painter, screen);
+    static constexpr int kMinutes[] = {15, 30, 60, 90};
+    const int minutes = kMinutes[std::clamp(values(Command::StopwatchTime, 1), 1, 4) - 1];
+    if (values.is(Command::Stopwatch, 1) || values.isPreview)
+        drawReadout(painter, screen, values(Command::StopwatchPlace, 0),
+                    QStringLiteral("00:12 / %1:00").arg(minutes, 2, 10, QLatin1Char('0')));
+}
+
+void paintGameTime(QPainter &painter, const QRectF &screen, const PictureValues &values)
+{
+    drawGame(painter, screen);
+    const int minutes = 20 + 10 * std::clamp(values(Command::GameTimeLength, 1), 1, 4);
+    if (values.is(Command::GameTime, 1) || values.isPreview)
+        drawReadout(painter, screen, values(Command::GameTimePlace, 0), QStringLiteral("%1:00").arg(minutes));
+}
+
+void paintFocusDimming(QPainter &painter, const QRectF &screen, const PictureValues &values)
+{
+    drawGame(painter, screen);
+    if (values.is(Command::FocusDimming, 1) || values.isPreview)
+        drawFocusDimming(painter, screen, values(Command::FocusDimmingLevel, 0));
+}
+
+} // namespace
+
+const PanelPicture kRush{paintRush};
+const PanelPicture kCrosshair{paintCrosshair};
+const PanelPicture kHawkEye{paintHawkEye};
+const PanelPicture kNightVision{paintNightVision};
+const PanelPicture kRefreshRate{paintRefreshRate};
+const PanelPicture kStopwatch{paintStopwatch};
+const PanelPicture kGameTime{paintGameTime};
+const PanelPicture kMovingCrosshair{paintMovingCrosshair};
+const PanelPicture kFocusDimming{paintFocusDimming};
+
+void drawShape(QPainter &painter, const QRectF &button, int shape)
+{
+    const QPointF centre = button.center();
+    drawCrosshair(painter, QPointF(std::round(centre.x()), std::round(centre.y())), shape, kRed);
+}
+
+} // namespace gamepictures

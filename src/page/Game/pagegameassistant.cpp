@@ -1,0 +1,9 @@
+#include "page/Game/pagegameassistant.h"
+
+#include "page/Game/gametable.h"
+
+pageGameAssistant::pageGameAssistant(CommandQueue &queue, QWidget *parent)
+    : PanelPage(QStringLiteral("pageGameAssistant"), OwnList::Shown, queue, parent)
+{
+    buildPanelsWhenShown(gamePanels());
+}

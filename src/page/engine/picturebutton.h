@@ -1,0 +1,8 @@
+#pragma once
+
+#include "page/engine/pagetable.h"
+
+class QPushButton;
+
+/// Gives a button the look of a tile with a drawing of what the option is.
+void dressPictureButton(QPushButton *button, DrawOption draw, int value);

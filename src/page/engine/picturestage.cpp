@@ -1,0 +1,163 @@
+#include "page/engine/picturestage.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+
+#include "controls/metrics.h"
+#include "controls/monitorpicture.h"
+#include "controls/palette.h"
+#include "ddc_protocol/devicestate.h"
+#include "page/engine/optiongrouprow.h"
+
+namespace {
+
+constexpr int kWordsWidth = 200;
+constexpr int kNamePixels = 18;
+constexpr int kWordsPixels = 14;
+
+QLabel *makeLabel(int pixels, const char *colour, QWidget *parent)
+{
+    auto *label = new QLabel(parent);
+    label->setStyleSheet(Palette::styled(
+        QStringLiteral("color: @%1; font-size: %2px; background: transparent;").arg(QLatin1String(colour)).arg(pixels)));
+    label->setWordWrap(true);
+    return label;
+}
+
+/// The option of a row for a value; null when it has none.
+const Option *optionOf(const OptionGroupRow *row, std::optional<int> value)
+{
+    if (!row || !value)
+        return nullptr;
+    const auto options = row->group().options;
+    const auto found = std::find_if(options.begin(), options.end(),
+                                    [value](const Option &option) { return option.value == *value; });
+    return found == options.end() ? nullptr : &*found;
+}
+
+QString nameOf(const Option &option)
+{
+    return QObject::tr(option.label).trimmed();
+}
+
+/// Rows with something to say of their options come first.
+const OptionGroupRow *rowWithWords(const std::vector<OptionGroupRow *> &rows)
+{
+    const auto found = std::find_if(rows.begin(), rows.end(), [](const OptionGroupRow *row) {
+        return std::ranges::any_of(row->group().options, [](const Option &option) { return option.words; });
+    });
+    return found == rows.end() ? nullptr : *found;
+}
+
+/// Whether a switch of the panel is off, so that what is chosen below it does nothing.
+bool isSwitchedOff(const std::vector<OptionGroupRow *> &rows)
+{
+    return std::ranges::any_of(rows, [](const OptionGroupRow *row) {
+        return row->group().look == GroupLook::Switch && deviceState.confirmed(*row->group().command) == 0;
+    });
+}
+
+QString wordsOf(const Option &option)
+{
+    return option.words ? QObject::tr(option.words) : QString();
+}
+
+} // namespace
+
+PictureStage::PictureStage(const PanelPicture &picture, std::vector<OptionGroupRow *> rows, QWidget *parent)
+    : QWidget(parent), m_spec(picture), m_rows(std::move(rows)), m_told(rowWithWords(m_rows)),
+      m_picture(new MonitorPicture(this)), m_onName(makeLabel(kNamePixels, "text", this)),
+      m_onNow(makeLabel(kWordsPixels, "signal", this)), m_onWords(makeLabel(kWordsPixels, "soft", this)),
+      m_line(new QFrame(this)), m_pointedName(makeLabel(kNamePixels, "dim", this)),
+      m_pointedWords(makeLabel(kWordsPixels, "dim", this))
+{
+    m_picture->setPainter([this](QPainter &painter, const QRectF &screen) { paint(painter, screen); });
+    m_line->setFixedHeight(1);
+    m_line->setStyleSheet(Palette::styled(u"background: @hairline;"));
+    auto *words = new QVBoxLayout;
+    words->setSpacing(metrics::kGap);
+    for (QWidget *part : std::initializer_list<QWidget *>{m_onName, m_onNow, m_onWords, m_line, m_pointedName,
+                                                          m_pointedWords})
+        words->addWidget(part);
+    words->addStretch(1);
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(0, metrics::kGap, 0, 0);
+    row->setSpacing(metrics::kBlockGap);
+    row->addWidget(m_picture, 3);
+    row->addLayout(words, 1);
+    for (QLabel *label : {m_onName, m_onWords, m_pointedName, m_pointedWords})
+        label->setMinimumWidth(kWordsWidth);
+    for (const OptionGroupRow *options : m_rows)
+        connect(options, &OptionGroupRow::optionPointed, this,
+                [this, options](std::optional<int> value) { point(options, value); });
+    refresh();
+}
+
+PictureValues PictureStage::values(bool withPreview) const
+{
+    const auto preview = withPreview ? m_preview : std::nullopt;
+    return {[preview](Command command) -> std::optional<int> {
+                if (preview && preview->first == command)
+                    return preview->second;
+                return deviceState.isKnown(command) ? std::optional(deviceState.value(command)) : std::nullopt;
+            },
+            preview.has_value()};
+}
+
+void PictureStage::paint(QPainter &painter, const QRectF &screen) const
+{
+    m_spec.screen(painter, screen, values(true));
+    if (!m_spec.overlay)
+        return;
+    m_spec.overlay(painter, screen, values(false));
+    if (m_preview)
+        m_spec.overlay(painter, screen, values(true));
+}
+
+void PictureStage::point(const OptionGroupRow *row, std::optional<int> value)
+{
+    if (const auto command = row->group().command; value && command) {
+        m_told = row;
+        m_preview = deviceState.isKnown(*command) && deviceState.value(*command) == *value
+                        ? std::nullopt
+                        : std::optional(std::pair(*command, *value));
+    } else {
+        m_preview.reset();
+    }
+    refresh();
+}
+
+void PictureStage::refresh()
+{
+    if (m_preview && deviceState.isKnown(m_preview->first) && deviceState.value(m_preview->first) == m_preview->second)
+        m_preview.reset(); // it has been chosen
+    showWords();
+    m_picture->update();
+}
+
+void PictureStage::showWords()
+{
+    const auto command = m_told ? m_told->group().command : std::nullopt;
+    const bool isKnown = command && deviceState.isKnown(*command);
+    const Option *on = optionOf(m_told, isKnown ? std::optional(deviceState.value(*command)) : std::nullopt);
+    const Option *pointed = m_preview ? optionOf(m_told, m_preview->second) : nullptr;
+    const auto show = [](QLabel *label, const QString &text) {
+        label->setText(text);
+        label->setVisible(!text.isEmpty());
+    };
+    show(m_onName, on ? nameOf(*on) : QString());
+    const bool isOn = !isSwitchedOff(m_rows);
+    show(m_onNow, !on ? QString() : isOn ? QObject::tr("On now.") : QObject::tr("Chosen, and switched off now."));
+    show(m_onWords, on ? wordsOf(*on) : QString());
+    m_line->setVisible(on && pointed);
+    show(m_pointedName, pointed ? nameOf(*pointed) : QString());
+    show(m_pointedWords, pointed ? wordsOf(*pointed) : QString());
+    const Option *told = pointed ? pointed : on;
+    m_picture->setAccessibleName(QObject::tr("What it looks like"));
+    m_picture->setAccessibleDescription(told ? QStringLiteral("%1. %2").arg(nameOf(*told), wordsOf(*told)) : QString());
+}
