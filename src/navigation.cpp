@@ -54,6 +54,7 @@ constexpr NavigationEntry kBasic[] = {
     {LABEL("Service Settings"), "service_settings", PageId::ServicesSetting},
     {LABEL("Tool Settings"), "tool_settings", PageId::ToolSetting},
     {LABEL("I/O Settings"), "io_settings", PageId::IoSetting},
+    {LABEL("Multi-window"), "multi_window", PageId::MultiWindow},
 };
 
 constexpr std::span<const NavigationEntry> kPlainFamilies[] = {kOfficeAid, kGameAid, kOledCare, kNightLoom, kBasic};

@@ -13,6 +13,7 @@
 #include "page/Game/gametable.h"
 #include "page/Game/picturetable.h"
 #include "page/IO/iotable.h"
+#include "page/MultiWindow/multiwindowtable.h"
 #include "page/Office/officetable.h"
 #include "page/Scene/scenetable.h"
 #include "shortcut/shortcutfunctions.h"
@@ -101,7 +102,7 @@ class TestAgreement : public DeskSuite
     {
         const std::vector<PanelSpec> picture = picturePanels(deviceState);
         for (const std::span<const PanelSpec> panels :
-             {std::span(picture), gamePanels(), officePanels(), ioPanels(), systemPanels()}) {
+             {std::span(picture), gamePanels(), officePanels(), ioPanels(), systemPanels(), multiWindowPanels()}) {
             for (const PanelSpec &panel : panels) {
                 if (isOffered(panel))
                     walkSections(panel.sections);

@@ -12,6 +12,8 @@
 #include "page/Game/pagepictureenhanc.h"
 #include "page/IO/iotable.h"
 #include "page/IO/pageiosetting.h"
+#include "page/MultiWindow/pagemultiwindow.h"
+#include "page/MultiWindow/windowarranger.h"
 #include "page/Office/pageoffice.h"
 #include "page/Scene/pagescenesetting.h"
 #include "page/engine/optiongrouprow.h"
@@ -20,7 +22,7 @@
 
 using virtualdesk::kForEver;
 
-/// The pages that are a table and its exceptions: scene, picture enhancement, office, I/O and system settings.
+/// The pages that are a table and its exceptions: scene, picture enhancement, office, I/O, system settings, windows.
 class TestPages : public QObject
 {
     Q_OBJECT
@@ -40,6 +42,8 @@ private Q_SLOTS:
     void resetFactory();
     void customPaper();
     void restReminder();
+    void smallWindowIsArranged_data();
+    void smallWindowIsArranged();
 
 private:
     SettingsPage *anyPage(int which);
@@ -85,6 +89,8 @@ SettingsPage *TestPages::anyPage(int which)
         page = std::make_unique<PageOffice>(*m_queue);
     else if (!page && which == Io)
         page = std::make_unique<pageIOSetting>(*m_queue);
+    else if (!page && which == Windows)
+        page = std::make_unique<pageMultiWindow>(*m_queue);
     else if (!page)
         page = std::make_unique<pageSystemSetting>(m_desk->session(), *m_queue);
     if (auto *panels = qobject_cast<PanelPage *>(page.get()))
@@ -345,6 +351,70 @@ void TestPages::restReminder()
     office->updateInterfaceData();
     m_desk->clock.advance(platform::milliseconds(30000));
     QVERIFY(office->toast()->isVisible());
+}
+
+using Arrange = std::function<void(WindowArranger &)>;
+Q_DECLARE_METATYPE(Arrange)
+
+/// Takes hold of the small window at a part of it, -1 to 1 from its middle, and lets go at a part of the screen.
+static Arrange drag(QPointF at, QPointF to, bool letGo = true)
+{
+    return [=](WindowArranger &windows) {
+        const auto point = [](const QRectF &rect, QPointF part) {
+            return rect.center() + QPointF(part.x() * rect.width() / 2, part.y() * rect.height() / 2);
+        };
+        const QPoint end = point(windows.screen(), to).toPoint();
+        QTest::mousePress(&windows, Qt::LeftButton, {}, point(windows.insetNow(), at).toPoint());
+        for (const QPoint &way : {QPoint(0, 0), end / 2, end}) // right across the other corners
+            QTest::mouseMove(&windows, way);
+        letGo ? QTest::mouseRelease(&windows, Qt::LeftButton, {}, end) : QTest::keyClick(&windows, Qt::Key_Escape);
+    };
+}
+
+static Arrange keys(std::initializer_list<Qt::Key> pressed)
+{
+    return [pressed = std::vector(pressed)](WindowArranger &windows) {
+        for (const Qt::Key key : pressed)
+            QTest::keyClick(&windows, key);
+    };
+}
+
+void TestPages::smallWindowIsArranged_data()
+{
+    columns<Arrange, int, QString>("act", "mode", "sent");
+    // It begins in the upper right corner, in the middle size: its free corner is the lower left one.
+    const QPointF middle(0, 0);
+    row("to a corner", drag(middle, {-0.9, 0.9}), 1, "W 55=2");
+    row("back where it was", drag(middle, {0.3, -0.3}), 1, "");
+    row("and not let go of", drag(middle, {-0.9, 0.9}, false), 1, "");
+    row("free corner outwards", drag({-1, 1}, {-0.5, 0.5}), 1, "W 54=2");
+    row("lower edge inwards", drag({0, 1}, {0, -0.9}), 1, "W 54=0");
+    row("left edge, hardly", drag({-1, 0}, {0.25, 0}), 1, "");
+    row("an edge that does not move", drag({0.9, 0.2}, {0.95, -0.6}), 1, "");
+    row("beside it", drag({-2, 2}, {-0.9, 0.9}), 1, "");
+    row("keys", keys({Qt::Key_Right, Qt::Key_Left, Qt::Key_Down, Qt::Key_Plus, Qt::Key_Plus, Qt::Key_Minus}), 1,
+        "W 55=0 W 55=2 W 54=2 W 54=1");
+    row("round the corners", keys({Qt::Key_Space, Qt::Key_Space, Qt::Key_Space, Qt::Key_Space}), 1,
+        "W 55=3 W 55=2 W 55=0 W 55=1");
+    for (const int mode : {0, 2}) {
+        row(mode == 0 ? "one window" : "side by side", keys({Qt::Key_Left, Qt::Key_Plus, Qt::Key_Space}), mode, "");
+        row(mode == 0 ? "dragged in one" : "dragged side by side", drag({0.6, -0.6}, {-0.9, 0.9}), mode, "");
+    }
+}
+
+void TestPages::smallWindowIsArranged()
+{
+    const auto [act, mode, sent] = fetch<Arrange, int, QString>();
+    for (const auto &[code, value] : {std::pair(0x50, mode), {0x54, 1}, {0x55, 1}})
+        deviceState.told(Command(code), value);
+    auto *windows = static_cast<pageMultiWindow *>(page(Windows))->arranger();
+    windows->resize(500, 330);
+    act(*windows);
+    QCOMPARE(m_desk->takeCommands().join(' '), sent);
+    QCOMPARE(windows->isUsable(), mode == 1);
+    QCOMPARE(windows->toolTip().isEmpty(), mode == 1);
+    QCOMPARE(button(Windows, "Place_Top Left")->isEnabled(), mode == 1);
+    QVERIFY(!windows->valueText().isEmpty());
 }
 
 QTEST_MAIN(TestPages)

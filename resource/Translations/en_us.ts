@@ -120,6 +120,10 @@
         <translation>%1, frames: %2</translation>
     </message>
     <message>
+        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
+        <translation>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</translation>
+    </message>
+    <message>
         <source>1 Hour</source>
         <translation>1 Hour</translation>
     </message>
@@ -240,10 +244,6 @@
         <translation>9300K</translation>
     </message>
     <message>
-        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
-        <translation>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</translation>
-    </message>
-    <message>
         <source>A WAV file</source>
         <translation>A WAV file</translation>
     </message>
@@ -264,12 +264,20 @@
         <translation>A line of text that the matrix shows, standing or scrolling.</translation>
     </message>
     <message>
+        <source>A quarter of the screen&apos;s width: hides least of the first input.</source>
+        <translation>A quarter of the screen&apos;s width: hides least of the first input.</translation>
+    </message>
+    <message>
         <source>A soft page for long texts.</source>
         <translation>A soft page for long texts.</translation>
     </message>
     <message>
         <source>A sweep</source>
         <translation>A sweep</translation>
+    </message>
+    <message>
+        <source>A third of the screen&apos;s width.</source>
+        <translation>A third of the screen&apos;s width.</translation>
     </message>
     <message>
         <source>A tone</source>
@@ -406,6 +414,10 @@
     <message>
         <source>Apply</source>
         <translation>Apply</translation>
+    </message>
+    <message>
+        <source>Arrangement of the windows</source>
+        <translation>Arrangement of the windows</translation>
     </message>
     <message>
         <source>Art Design</source>
@@ -1244,6 +1256,14 @@
         <translation>Input Signal</translation>
     </message>
     <message>
+        <source>Inset Place</source>
+        <translation>Inset Place</translation>
+    </message>
+    <message>
+        <source>Inset Size</source>
+        <translation>Inset Size</translation>
+    </message>
+    <message>
         <source>Is it on, its cable plugged in, and DDC/CI on in its menu?</source>
         <translation>Is it on, its cable plugged in, and DDC/CI on in its menu?</translation>
     </message>
@@ -1548,6 +1568,10 @@
         <translation>Monitor Health</translation>
     </message>
     <message>
+        <source>More than two fifths of the screen&apos;s width: small text stays readable.</source>
+        <translation>More than two fifths of the screen&apos;s width: small text stays readable.</translation>
+    </message>
+    <message>
         <source>Motion</source>
         <translation>Motion</translation>
     </message>
@@ -1558,6 +1582,10 @@
     <message>
         <source>Movie Mode</source>
         <translation>Movie Mode</translation>
+    </message>
+    <message>
+        <source>Multi-window</source>
+        <translation>Multi-window</translation>
     </message>
     <message>
         <source>Music Mode</source>
@@ -1732,8 +1760,16 @@
         <translation>On-screen menu</translation>
     </message>
     <message>
+        <source>One input fills the screen.</source>
+        <translation>One input fills the screen.</translation>
+    </message>
+    <message>
         <source>Onion Skin</source>
         <translation>Onion Skin</translation>
+    </message>
+    <message>
+        <source>Only the small window of PIP has a size and a place.</source>
+        <translation>Only the small window of PIP has a size and a place.</translation>
     </message>
     <message>
         <source>Open</source>
@@ -1762,6 +1798,14 @@
     <message>
         <source>PAL and SECAM television.</source>
         <translation>PAL and SECAM television.</translation>
+    </message>
+    <message>
+        <source>PBP</source>
+        <translation>PBP</translation>
+    </message>
+    <message>
+        <source>PIP</source>
+        <translation>PIP</translation>
     </message>
     <message>
         <source>Paper</source>
@@ -1798,6 +1842,14 @@
     <message>
         <source>Picture Enhance</source>
         <translation>Picture Enhance</translation>
+    </message>
+    <message>
+        <source>Picture by picture: two inputs side by side, each on half of the screen, to work on both.</source>
+        <translation>Picture by picture: two inputs side by side, each on half of the screen, to work on both.</translation>
+    </message>
+    <message>
+        <source>Picture in picture: a second input in a small window over the first, to keep an eye on another computer.</source>
+        <translation>Picture in picture: a second input in a small window over the first, to keep an eye on another computer.</translation>
     </message>
     <message>
         <source>Pixels change faster and motion smears less. Close = off, Topspeed = fastest, which may leave bright edges.</source>
@@ -2216,6 +2268,10 @@
         <translation>Shows on the desktop what a shortcut has just changed.</translation>
     </message>
     <message>
+        <source>Shows two inputs at once. Close = one, PIP = the second in a small window, PBP = side by side.</source>
+        <translation>Shows two inputs at once. Close = one, PIP = the second in a small window, PBP = side by side.</translation>
+    </message>
+    <message>
         <source>Silence</source>
         <translation>Silence</translation>
     </message>
@@ -2562,6 +2618,22 @@
     <message>
         <source>The report is on the clipboard. It names no files, programs or users.</source>
         <translation>The report is on the clipboard. It names no files, programs or users.</translation>
+    </message>
+    <message>
+        <source>The second input lies in the lower left corner.</source>
+        <translation>The second input lies in the lower left corner.</translation>
+    </message>
+    <message>
+        <source>The second input lies in the lower right corner.</source>
+        <translation>The second input lies in the lower right corner.</translation>
+    </message>
+    <message>
+        <source>The second input lies in the upper left corner.</source>
+        <translation>The second input lies in the upper left corner.</translation>
+    </message>
+    <message>
+        <source>The second input lies in the upper right corner.</source>
+        <translation>The second input lies in the upper right corner.</translation>
     </message>
     <message>
         <source>The selected display is unsupported or the signal line is disconnected.</source>

@@ -120,6 +120,10 @@
         <translation>%1、フレーム数: %2</translation>
     </message>
     <message>
+        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
+        <translation>&lt;font color=white&gt;ディスプレイ情報を取得しています...&lt;/font&gt;</translation>
+    </message>
+    <message>
         <source>1 Hour</source>
         <translation>1 時間</translation>
     </message>
@@ -240,10 +244,6 @@
         <translation>9300K</translation>
     </message>
     <message>
-        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
-        <translation>&lt;font color=white&gt;ディスプレイ情報を取得しています...&lt;/font&gt;</translation>
-    </message>
-    <message>
         <source>A WAV file</source>
         <translation>WAV ファイル</translation>
     </message>
@@ -264,12 +264,20 @@
         <translation>マトリックスに静止またはスクロールで表示する 1 行のテキスト。</translation>
     </message>
     <message>
+        <source>A quarter of the screen&apos;s width: hides least of the first input.</source>
+        <translation>画面の幅の 4 分の 1。1 つ目の入力を隠す部分が最も少なくなります。</translation>
+    </message>
+    <message>
         <source>A soft page for long texts.</source>
         <translation>長文を読むのに適したやわらかな画質です。</translation>
     </message>
     <message>
         <source>A sweep</source>
         <translation>スイープ</translation>
+    </message>
+    <message>
+        <source>A third of the screen&apos;s width.</source>
+        <translation>画面の幅の 3 分の 1。</translation>
     </message>
     <message>
         <source>A tone</source>
@@ -406,6 +414,10 @@
     <message>
         <source>Apply</source>
         <translation>適用</translation>
+    </message>
+    <message>
+        <source>Arrangement of the windows</source>
+        <translation>ウィンドウの配置</translation>
     </message>
     <message>
         <source>Art Design</source>
@@ -1244,6 +1256,14 @@
         <translation>入力信号</translation>
     </message>
     <message>
+        <source>Inset Place</source>
+        <translation>子画面の位置</translation>
+    </message>
+    <message>
+        <source>Inset Size</source>
+        <translation>子画面のサイズ</translation>
+    </message>
+    <message>
         <source>Is it on, its cable plugged in, and DDC/CI on in its menu?</source>
         <translation>電源、ケーブル、メニューの DDC/CI を確認してください。</translation>
     </message>
@@ -1548,6 +1568,10 @@
         <translation>モニターの状態</translation>
     </message>
     <message>
+        <source>More than two fifths of the screen&apos;s width: small text stays readable.</source>
+        <translation>画面の幅の 5 分の 2 以上。小さな文字も読めます。</translation>
+    </message>
+    <message>
         <source>Motion</source>
         <translation>動き</translation>
     </message>
@@ -1558,6 +1582,10 @@
     <message>
         <source>Movie Mode</source>
         <translation>映画モード</translation>
+    </message>
+    <message>
+        <source>Multi-window</source>
+        <translation>マルチウィンドウ</translation>
     </message>
     <message>
         <source>Music Mode</source>
@@ -1732,8 +1760,16 @@
         <translation>オンスクリーンメニュー</translation>
     </message>
     <message>
+        <source>One input fills the screen.</source>
+        <translation>1 つの入力を画面全体に表示します。</translation>
+    </message>
+    <message>
         <source>Onion Skin</source>
         <translation>オニオンスキン</translation>
+    </message>
+    <message>
+        <source>Only the small window of PIP has a size and a place.</source>
+        <translation>サイズと位置があるのは PIP の子画面だけです。</translation>
     </message>
     <message>
         <source>Open</source>
@@ -1762,6 +1798,14 @@
     <message>
         <source>PAL and SECAM television.</source>
         <translation>PAL・SECAM 方式のテレビ向けです。</translation>
+    </message>
+    <message>
+        <source>PBP</source>
+        <translation>PBP</translation>
+    </message>
+    <message>
+        <source>PIP</source>
+        <translation>PIP</translation>
     </message>
     <message>
         <source>Paper</source>
@@ -1798,6 +1842,14 @@
     <message>
         <source>Picture Enhance</source>
         <translation>画質強化</translation>
+    </message>
+    <message>
+        <source>Picture by picture: two inputs side by side, each on half of the screen, to work on both.</source>
+        <translation>ピクチャーバイピクチャー: 2 つの入力を左右半分ずつに並べ、両方で作業できます。</translation>
+    </message>
+    <message>
+        <source>Picture in picture: a second input in a small window over the first, to keep an eye on another computer.</source>
+        <translation>ピクチャーインピクチャー: 2 つ目の入力を小さな子画面で重ねます。別のコンピューターの様子を見ておけます。</translation>
     </message>
     <message>
         <source>Pixels change faster and motion smears less. Close = off, Topspeed = fastest, which may leave bright edges.</source>
@@ -2216,6 +2268,10 @@
         <translation>ショートカットキーで変えた内容をデスクトップに表示します。</translation>
     </message>
     <message>
+        <source>Shows two inputs at once. Close = one, PIP = the second in a small window, PBP = side by side.</source>
+        <translation>2 つの入力を同時に表示します。オフ = 1 つだけ、PIP = 2 つ目を子画面に、PBP = 左右に並べる。</translation>
+    </message>
+    <message>
         <source>Silence</source>
         <translation>無音</translation>
     </message>
@@ -2562,6 +2618,22 @@
     <message>
         <source>The report is on the clipboard. It names no files, programs or users.</source>
         <translation>レポートをクリップボードにコピーしました。ファイル、アプリ、ユーザーの名前は含まれません。</translation>
+    </message>
+    <message>
+        <source>The second input lies in the lower left corner.</source>
+        <translation>2 つ目の入力を左下の隅に表示します。</translation>
+    </message>
+    <message>
+        <source>The second input lies in the lower right corner.</source>
+        <translation>2 つ目の入力を右下の隅に表示します。</translation>
+    </message>
+    <message>
+        <source>The second input lies in the upper left corner.</source>
+        <translation>2 つ目の入力を左上の隅に表示します。</translation>
+    </message>
+    <message>
+        <source>The second input lies in the upper right corner.</source>
+        <translation>2 つ目の入力を右上の隅に表示します。</translation>
     </message>
     <message>
         <source>The selected display is unsupported or the signal line is disconnected.</source>

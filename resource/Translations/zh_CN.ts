@@ -120,6 +120,10 @@
         <translation>%1，帧数：%2</translation>
     </message>
     <message>
+        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
+        <translation>&lt;font color=white&gt;正在获取显示设备信息...&lt;/font&gt;</translation>
+    </message>
+    <message>
         <source>1 Hour</source>
         <translation>1 小时</translation>
     </message>
@@ -240,10 +244,6 @@
         <translation>9300K</translation>
     </message>
     <message>
-        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
-        <translation>&lt;font color=white&gt;正在获取显示设备信息...&lt;/font&gt;</translation>
-    </message>
-    <message>
         <source>A WAV file</source>
         <translation>WAV 文件</translation>
     </message>
@@ -264,12 +264,20 @@
         <translation>一行文字，在矩阵上静止或滚动显示。</translation>
     </message>
     <message>
+        <source>A quarter of the screen&apos;s width: hides least of the first input.</source>
+        <translation>屏幕宽度的四分之一：遮住第一路输入最少。</translation>
+    </message>
+    <message>
         <source>A soft page for long texts.</source>
         <translation>画面柔和，适合长时间阅读。</translation>
     </message>
     <message>
         <source>A sweep</source>
         <translation>扫频</translation>
+    </message>
+    <message>
+        <source>A third of the screen&apos;s width.</source>
+        <translation>屏幕宽度的三分之一。</translation>
     </message>
     <message>
         <source>A tone</source>
@@ -406,6 +414,10 @@
     <message>
         <source>Apply</source>
         <translation>应用</translation>
+    </message>
+    <message>
+        <source>Arrangement of the windows</source>
+        <translation>窗口的排列</translation>
     </message>
     <message>
         <source>Art Design</source>
@@ -1244,6 +1256,14 @@
         <translation>输入信号</translation>
     </message>
     <message>
+        <source>Inset Place</source>
+        <translation>子窗口位置</translation>
+    </message>
+    <message>
+        <source>Inset Size</source>
+        <translation>子窗口大小</translation>
+    </message>
+    <message>
         <source>Is it on, its cable plugged in, and DDC/CI on in its menu?</source>
         <translation>请检查显示器是否开机、线缆是否接好、菜单中 DDC/CI 是否开启。</translation>
     </message>
@@ -1548,6 +1568,10 @@
         <translation>显示器状况</translation>
     </message>
     <message>
+        <source>More than two fifths of the screen&apos;s width: small text stays readable.</source>
+        <translation>超过屏幕宽度的五分之二：小字也能看清。</translation>
+    </message>
+    <message>
         <source>Motion</source>
         <translation>滚动方式</translation>
     </message>
@@ -1558,6 +1582,10 @@
     <message>
         <source>Movie Mode</source>
         <translation>电影模式</translation>
+    </message>
+    <message>
+        <source>Multi-window</source>
+        <translation>多窗口</translation>
     </message>
     <message>
         <source>Music Mode</source>
@@ -1732,8 +1760,16 @@
         <translation>屏幕菜单</translation>
     </message>
     <message>
+        <source>One input fills the screen.</source>
+        <translation>一路输入占满整个屏幕。</translation>
+    </message>
+    <message>
         <source>Onion Skin</source>
         <translation>洋葱皮</translation>
+    </message>
+    <message>
+        <source>Only the small window of PIP has a size and a place.</source>
+        <translation>只有 PIP 的小窗口才有大小和位置。</translation>
     </message>
     <message>
         <source>Open</source>
@@ -1762,6 +1798,14 @@
     <message>
         <source>PAL and SECAM television.</source>
         <translation>PAL 和 SECAM 制式电视。</translation>
+    </message>
+    <message>
+        <source>PBP</source>
+        <translation>PBP</translation>
+    </message>
+    <message>
+        <source>PIP</source>
+        <translation>PIP</translation>
     </message>
     <message>
         <source>Paper</source>
@@ -1798,6 +1842,14 @@
     <message>
         <source>Picture Enhance</source>
         <translation>画质增强</translation>
+    </message>
+    <message>
+        <source>Picture by picture: two inputs side by side, each on half of the screen, to work on both.</source>
+        <translation>画面并排：两路输入左右各占半屏，便于同时处理。</translation>
+    </message>
+    <message>
+        <source>Picture in picture: a second input in a small window over the first, to keep an eye on another computer.</source>
+        <translation>画中画：第二路输入显示在小窗口里，叠在第一路之上，便于留意另一台电脑。</translation>
     </message>
     <message>
         <source>Pixels change faster and motion smears less. Close = off, Topspeed = fastest, which may leave bright edges.</source>
@@ -2216,6 +2268,10 @@
         <translation>在桌面上显示快捷键刚刚更改的内容。</translation>
     </message>
     <message>
+        <source>Shows two inputs at once. Close = one, PIP = the second in a small window, PBP = side by side.</source>
+        <translation>同时显示两路输入。关闭 = 一路，PIP = 第二路在小窗口里，PBP = 左右并排。</translation>
+    </message>
+    <message>
         <source>Silence</source>
         <translation>无声</translation>
     </message>
@@ -2562,6 +2618,22 @@
     <message>
         <source>The report is on the clipboard. It names no files, programs or users.</source>
         <translation>报告已复制到剪贴板，其中不含文件、程序或用户的名称。</translation>
+    </message>
+    <message>
+        <source>The second input lies in the lower left corner.</source>
+        <translation>第二路输入位于左下角。</translation>
+    </message>
+    <message>
+        <source>The second input lies in the lower right corner.</source>
+        <translation>第二路输入位于右下角。</translation>
+    </message>
+    <message>
+        <source>The second input lies in the upper left corner.</source>
+        <translation>第二路输入位于左上角。</translation>
+    </message>
+    <message>
+        <source>The second input lies in the upper right corner.</source>
+        <translation>第二路输入位于右上角。</translation>
     </message>
     <message>
         <source>The selected display is unsupported or the signal line is disconnected.</source>

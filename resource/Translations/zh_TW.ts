@@ -120,6 +120,10 @@
         <translation>%1，畫格數：%2</translation>
     </message>
     <message>
+        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
+        <translation>&lt;font color=white&gt;正在取得顯示裝置資訊...&lt;/font&gt;</translation>
+    </message>
+    <message>
         <source>1 Hour</source>
         <translation>1 小時</translation>
     </message>
@@ -240,10 +244,6 @@
         <translation>9300K</translation>
     </message>
     <message>
-        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
-        <translation>&lt;font color=white&gt;正在取得顯示裝置資訊...&lt;/font&gt;</translation>
-    </message>
-    <message>
         <source>A WAV file</source>
         <translation>WAV 檔案</translation>
     </message>
@@ -264,12 +264,20 @@
         <translation>一行文字，在矩陣上靜止或捲動顯示。</translation>
     </message>
     <message>
+        <source>A quarter of the screen&apos;s width: hides least of the first input.</source>
+        <translation>螢幕寬度的四分之一：遮住第一路輸入最少。</translation>
+    </message>
+    <message>
         <source>A soft page for long texts.</source>
         <translation>畫面柔和，適合長時間閱讀。</translation>
     </message>
     <message>
         <source>A sweep</source>
         <translation>掃頻</translation>
+    </message>
+    <message>
+        <source>A third of the screen&apos;s width.</source>
+        <translation>螢幕寬度的三分之一。</translation>
     </message>
     <message>
         <source>A tone</source>
@@ -406,6 +414,10 @@
     <message>
         <source>Apply</source>
         <translation>套用</translation>
+    </message>
+    <message>
+        <source>Arrangement of the windows</source>
+        <translation>視窗的排列</translation>
     </message>
     <message>
         <source>Art Design</source>
@@ -1244,6 +1256,14 @@
         <translation>輸入訊號</translation>
     </message>
     <message>
+        <source>Inset Place</source>
+        <translation>子視窗位置</translation>
+    </message>
+    <message>
+        <source>Inset Size</source>
+        <translation>子視窗大小</translation>
+    </message>
+    <message>
         <source>Is it on, its cable plugged in, and DDC/CI on in its menu?</source>
         <translation>請檢查顯示器是否開機、纜線是否接好、選單中 DDC/CI 是否開啟。</translation>
     </message>
@@ -1548,6 +1568,10 @@
         <translation>顯示器狀況</translation>
     </message>
     <message>
+        <source>More than two fifths of the screen&apos;s width: small text stays readable.</source>
+        <translation>超過螢幕寬度的五分之二：小字也能看清。</translation>
+    </message>
+    <message>
         <source>Motion</source>
         <translation>捲動方式</translation>
     </message>
@@ -1558,6 +1582,10 @@
     <message>
         <source>Movie Mode</source>
         <translation>電影模式</translation>
+    </message>
+    <message>
+        <source>Multi-window</source>
+        <translation>多視窗</translation>
     </message>
     <message>
         <source>Music Mode</source>
@@ -1732,8 +1760,16 @@
         <translation>螢幕選單</translation>
     </message>
     <message>
+        <source>One input fills the screen.</source>
+        <translation>一路輸入占滿整個螢幕。</translation>
+    </message>
+    <message>
         <source>Onion Skin</source>
         <translation>洋蔥皮</translation>
+    </message>
+    <message>
+        <source>Only the small window of PIP has a size and a place.</source>
+        <translation>只有 PIP 的小視窗才有大小和位置。</translation>
     </message>
     <message>
         <source>Open</source>
@@ -1762,6 +1798,14 @@
     <message>
         <source>PAL and SECAM television.</source>
         <translation>PAL 與 SECAM 制式電視。</translation>
+    </message>
+    <message>
+        <source>PBP</source>
+        <translation>PBP</translation>
+    </message>
+    <message>
+        <source>PIP</source>
+        <translation>PIP</translation>
     </message>
     <message>
         <source>Paper</source>
@@ -1798,6 +1842,14 @@
     <message>
         <source>Picture Enhance</source>
         <translation>畫質增強</translation>
+    </message>
+    <message>
+        <source>Picture by picture: two inputs side by side, each on half of the screen, to work on both.</source>
+        <translation>畫面並排：兩路輸入左右各占半個螢幕，便於同時處理。</translation>
+    </message>
+    <message>
+        <source>Picture in picture: a second input in a small window over the first, to keep an eye on another computer.</source>
+        <translation>子母畫面：第二路輸入顯示在小視窗裡，疊在第一路之上，便於留意另一台電腦。</translation>
     </message>
     <message>
         <source>Pixels change faster and motion smears less. Close = off, Topspeed = fastest, which may leave bright edges.</source>
@@ -2216,6 +2268,10 @@
         <translation>在桌面上顯示快速鍵剛剛變更的內容。</translation>
     </message>
     <message>
+        <source>Shows two inputs at once. Close = one, PIP = the second in a small window, PBP = side by side.</source>
+        <translation>同時顯示兩路輸入。關閉 = 一路，PIP = 第二路在小視窗裡，PBP = 左右並排。</translation>
+    </message>
+    <message>
         <source>Silence</source>
         <translation>無聲</translation>
     </message>
@@ -2562,6 +2618,22 @@
     <message>
         <source>The report is on the clipboard. It names no files, programs or users.</source>
         <translation>報告已複製到剪貼簿，其中不含檔案、應用程式或使用者的名稱。</translation>
+    </message>
+    <message>
+        <source>The second input lies in the lower left corner.</source>
+        <translation>第二路輸入位於左下角。</translation>
+    </message>
+    <message>
+        <source>The second input lies in the lower right corner.</source>
+        <translation>第二路輸入位於右下角。</translation>
+    </message>
+    <message>
+        <source>The second input lies in the upper left corner.</source>
+        <translation>第二路輸入位於左上角。</translation>
+    </message>
+    <message>
+        <source>The second input lies in the upper right corner.</source>
+        <translation>第二路輸入位於右上角。</translation>
     </message>
     <message>
         <source>The selected display is unsupported or the signal line is disconnected.</source>

@@ -9,6 +9,7 @@
 #include "page/Game/pagegameassistant.h"
 #include "page/Game/pagepictureenhanc.h"
 #include "page/IO/pageiosetting.h"
+#include "page/MultiWindow/pagemultiwindow.h"
 #include "page/Office/pageoffice.h"
 #include "page/Scene/pagescenesetting.h"
 #include "page/pageset.h"
@@ -27,4 +28,5 @@ MonitorPages::MonitorPages(SearchDeviceDlg &session, CommandQueue &queue, PageSe
     pages.add(PageId::ToolSetting, new pagePCSetting(session, queue, stack));
     pages.add(PageId::ServicesSetting, new pageServicesSetting(queue, stack));
     pages.add(PageId::IoSetting, new pageIOSetting(queue, stack));
+    pages.add(PageId::MultiWindow, new pageMultiWindow(queue, stack));
 }

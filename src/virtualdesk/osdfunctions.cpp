@@ -29,6 +29,10 @@ constexpr OsdOption kResponse[] = {
 constexpr OsdOption kHdr[] = {{0, NAME("Close")}, {1, NAME("Auto")}, {2, NAME("Game")}, {3, NAME("Movie")}};
 constexpr OsdOption kNightVision[] = {
     {0, NAME("Close")}, {1, NAME("Level1")}, {2, NAME("Level2")}, {3, NAME("Auto-L1")}, {4, NAME("Auto-L2")}};
+constexpr OsdOption kWindows[] = {{0, NAME("Close")}, {1, NAME("PIP")}, {2, NAME("PBP")}};
+constexpr OsdOption kInsetSize[] = {{0, NAME("Small")}, {1, NAME("Medium")}, {2, NAME("Large")}};
+constexpr OsdOption kInsetPlace[] = {
+    {0, NAME("Top Left")}, {1, NAME("Top Right")}, {2, NAME("Bottom Left")}, {3, NAME("Bottom Right")}};
 constexpr OsdOption kInput[] = {{0, NAME("Auto")},   {1, NAME("DP1")},   {2, NAME("DP2")},
                                 {3, NAME("Type-C")}, {4, NAME("HDMI1")}, {5, NAME("HDMI2")}};
 constexpr OsdOption kUsb[] = {{0, NAME("Type-C")}, {1, NAME("Type-B")}};
@@ -115,6 +119,9 @@ constexpr OsdFunction kMenu[] = {
     {0x37, NAME("Game Time Place"), 0, 3, kCorner, kGame},
     {0x4B, NAME("Focus Dimming"), 0, 1, kSwitch, kGame},
     {0x4C, NAME("Focus Dimming Level"), 0, 2, kStrength, kGame},
+    {0x50, NAME("Multi-window"), 0, 2, kWindows},
+    {0x54, NAME("Inset Size"), 1, 2, kInsetSize},
+    {0x55, NAME("Inset Place"), 1, 3, kInsetPlace},
     {0x57, NAME("Input Signal"), 1, 5, kInput},
     {0x60, NAME("Output Range"), 0, 2, kRange},
     {0x5F, NAME("USB Switch"), 0, 1, kUsb},

@@ -4,7 +4,7 @@
 
 // What the controls of every page of monitor settings make of the monitor, written down by hand.
 
-enum PageName { Scene, Picture, Game, Office, Io, System, kPageNames };
+enum PageName { Scene, Picture, Game, Office, Io, System, Windows, kPageNames };
 
 /// The entries of the four scene families: "label=value|label=value". No monitor has all.
 inline const char *const kScenes[] = {
@@ -101,6 +101,9 @@ inline const Options kOptions[] = {
      "Italiano=12|日本語=13|Malaysia=14|Polskie=15|Português=16|Pусский=17|Español=18|ไทย=19|Українська=20|"
      "Tiếng Việt=21|繁體中文=22|Portugues do Brasilazil=5"},
     {System, "Menu Lock", "c4", kSwitch},
+    {Windows, "Multi-window", "50", "Close=0|PBP=2|PIP=1"},
+    {Windows, "Size", "54", "Small=0|Medium=1|Large=2"}, // of PIP, which is on by then
+    {Windows, "Place", "55", "Top Left=0|Top Right=1|Bottom Left=2|Bottom Right=3"},
 };
 
 /// The sliders of each page: "name code lowest-highest", and behind it when a value is sent and stored: on every move,

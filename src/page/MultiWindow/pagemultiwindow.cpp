@@ -1,0 +1,74 @@
+#include "page/MultiWindow/pagemultiwindow.h"
+
+#include "ddc_protocol/devicestate.h"
+#include "page/MultiWindow/multiwindowtable.h"
+#include "page/MultiWindow/windowarranger.h"
+#include "page/engine/labels.h"
+#include "page/engine/listed.h"
+#include "page/engine/optiongrouprow.h"
+
+namespace {
+
+constexpr Command kCommands[] = {Command::MultiWindow, Command::InsetSize, Command::InsetPlace};
+
+} // namespace
+
+pageMultiWindow::pageMultiWindow(CommandQueue &queue, QWidget *parent)
+    : PanelPage(QStringLiteral("pageMultiWindow"), OwnList::None, queue, parent)
+{
+    setLocks(multiWindowLocks());
+    buildPanels(multiWindowPanels());
+    for (const Command command : kCommands) { // what is wished is seen before the monitor has it
+        beforeSending(command, [this](int) { showWindows(); });
+        afterSending(command, [this](int) { showWindows(); });
+    }
+}
+
+/// What is dragged goes the way of the option that is pressed: with its locks, its marks and its refusal.
+QWidget *pageMultiWindow::buildPart(const char *)
+{
+    m_arranger = new WindowArranger(this);
+    const auto choose = [this](Command command) {
+        return [this, command](int value) { optionGroup(command)->buttonOf(value)->click(); };
+    };
+    connect(m_arranger, &WindowArranger::placeWanted, this, choose(Command::InsetPlace));
+    connect(m_arranger, &WindowArranger::sizeWanted, this, choose(Command::InsetSize));
+    texts().bind(LABEL("Arrangement of the windows"),
+                 [this](const QString &text) { m_arranger->setAccessibleName(text); });
+    return m_arranger;
+}
+
+void pageMultiWindow::updateInterfaceData()
+{
+    PanelPage::updateInterfaceData();
+    showWindows();
+}
+
+void pageMultiWindow::updateControlText()
+{
+    PanelPage::updateControlText();
+    showWindows();
+}
+
+void pageMultiWindow::followValue(Command)
+{
+    showWindows();
+}
+
+void pageMultiWindow::showWindows()
+{
+    const auto words = [this](Command command, std::optional<int> value) {
+        const QPushButton *button = value ? optionGroup(command)->buttonOf(*value) : nullptr;
+        return button ? button->text() : QObject::tr("unknown");
+    };
+    const WindowsShown shown{shownValue(deviceState, Command::MultiWindow),
+                             shownValue(deviceState, Command::InsetPlace),
+                             shownValue(deviceState, Command::InsetSize)};
+    m_arranger->showWindows(shown);
+    const LockRule *lock = lockOf(multiWindowLocks(), Command::InsetPlace, 0, deviceState);
+    m_arranger->setLock(lock ? QObject::tr(lock->reason) : QString());
+    const QString mode = words(Command::MultiWindow, shown.mode);
+    m_arranger->setValueText(shown.mode == kPictureInPicture
+                                 ? listed({mode, words(Command::InsetPlace, shown.place), words(Command::InsetSize, shown.size)})
+                                 : mode);
+}

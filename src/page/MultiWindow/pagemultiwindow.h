@@ -1,0 +1,29 @@
+#pragma once
+
+#include "page/engine/panelpage.h"
+
+class WindowArranger;
+struct WindowsShown;
+
+/// Two inputs at once: the second in a small window over the first, or both side by side. The input itself is not set
+/// here.
+class pageMultiWindow : public PanelPage
+{
+    Q_OBJECT
+public:
+    explicit pageMultiWindow(CommandQueue &queue, QWidget *parent = nullptr);
+
+    void updateInterfaceData() override;
+    void updateControlText() override;
+
+    WindowArranger *arranger() const { return m_arranger; }
+
+protected:
+    QWidget *buildPart(const char *name) override;
+    void followValue(Command command) override;
+
+private:
+    void showWindows();
+
+    WindowArranger *m_arranger = nullptr;
+};
