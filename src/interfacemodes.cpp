@@ -80,17 +80,18 @@ void InterfaceModes::enableAccessoryEntries()
         bar->buttons()[i]->setEnabled(!m_locked && (!m_accessoryBusy || static_cast<int>(i) == bar->current()));
 }
 
-/// Why an entry cannot be chosen now, as a source text; null when it can.
-const char *InterfaceModes::lockOf(int family, int entry) const
+/// Why an entry cannot be chosen now; empty when it can.
+QString InterfaceModes::lockOf(int family, int entry) const
 {
     const LeftBar *bar = m_navigator.bar(family);
     if (m_locked)
-        return kSceneChanges;
+        return QObject::tr(kSceneChanges);
     if (family == kAccessoryFamily && m_accessoryBusy && entry != bar->current())
-        return LABEL("The accessory is at work: wait until it has finished, or cancel the work on its page.");
-    if (!bar->buttons()[static_cast<std::size_t>(entry)]->isSelectable())
-        return LABEL("This monitor does not have these functions.");
-    return nullptr;
+        return QObject::tr("The accessory is at work: wait until it has finished, or cancel the work on its page.");
+    if (bar->buttons()[static_cast<std::size_t>(entry)]->isSelectable())
+        return {};
+    const QString lack = lackOf(bar->entries()[static_cast<std::size_t>(entry)], deviceState);
+    return lack.isEmpty() ? QObject::tr("This monitor does not have these functions.") : lack;
 }
 
 void InterfaceModes::explain()
@@ -99,8 +100,7 @@ void InterfaceModes::explain()
     for (int family = 0; family < kFamilies; ++family) {
         const auto &buttons = m_navigator.bar(family)->buttons();
         for (std::size_t i = 0; i < buttons.size(); ++i) {
-            const char *lock = lockOf(family, static_cast<int>(i));
-            buttons[i]->setLock(lock ? QObject::tr(lock) : QString());
+            buttons[i]->setLock(lockOf(family, static_cast<int>(i)));
         }
     }
 }

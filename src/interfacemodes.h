@@ -39,7 +39,7 @@ private:
     void decideEntriesByModel();
     void setAccessoryBusy(bool busy);
     void enableAccessoryEntries();
-    const char *lockOf(int family, int entry) const;
+    QString lockOf(int family, int entry) const;
 
     Navigator &m_navigator;
     QWidget &m_window;

@@ -1,5 +1,7 @@
 #include "navigation.h"
 
+#include "ddc_protocol/devicestate.h"
+#include "ddc_protocol/monitoridentity.h"
 #include "ddc_protocol/scenemodes.h"
 #include "page/engine/labels.h"
 
@@ -24,6 +26,9 @@ constexpr std::uint16_t bit(Capability capability)
 constexpr std::uint16_t kPictureFunctions =
     bit(Capability::LocalDimming) | bit(Capability::MpcsMotion) | bit(Capability::GameFunctions);
 
+constexpr std::uint16_t kGame = bit(Capability::GameFunctions);
+constexpr char kNoGame[] = LABEL("%1 has no game functions.");
+
 constexpr NavigationEntry kOfficeAid[] = {
     {LABEL("Paper"), "office_paper", PageId::Office},
     {LABEL("Alignment"), "alignment", PageId::Office},
@@ -34,11 +39,12 @@ constexpr NavigationEntry kOfficeAid[] = {
     {LABEL("AI Dual Mode"), "ai_dual_mode", PageId::Office},
 };
 constexpr NavigationEntry kGameAid[] = {
-    {LABEL("Game Aid"), "game_aid", PageId::GameAssistant},
+    {LABEL("Game Aid"), "game_aid", PageId::GameAssistant, 0, 0, kGame, kNoGame},
     {LABEL("Picture Enhance"), "picture_enhance", PageId::PictureEnhance, 0, kPictureFunctions},
-    {LABEL("Emberline"), "emberline", PageId::Empty, 0, bit(Capability::GameFunctions)},
+    {LABEL("Emberline"), "emberline", PageId::Empty, 0, kGame, kGame, kNoGame},
 };
-constexpr NavigationEntry kOledCare[] = {{LABEL("Care Content"), "care_content"}};
+constexpr NavigationEntry kOledCare[] = {{LABEL("Care Content"), "care_content", PageId::Empty, 0, 0,
+                                          bit(Capability::OledPanel), LABEL("%1 has no OLED panel to care for.")}};
 constexpr NavigationEntry kNightLoom[] = {
     {LABEL("Animate Mode"), "led_animate"},
     {LABEL("Text Mode"), "led_text", PageId::LedText},
@@ -64,6 +70,15 @@ constexpr std::span<const NavigationEntry> kPlainFamilies[] = {kOfficeAid, kGame
 std::span<const NavigationFamily, kFamilies> navigationFamilies()
 {
     return kFamilyTable;
+}
+
+QString lackOf(const NavigationEntry &entry, const DeviceState &state)
+{
+    if (entry.pageNeeds == 0 || state.hasAny(entry.pageNeeds))
+        return {};
+    if (!state.isKnown(Command::Capability))
+        return QObject::tr("The monitor has not told yet which functions it has.");
+    return QObject::tr(entry.lacking).arg(monitorName());
 }
 
 std::vector<NavigationEntry> navigationEntries(int family, const DeviceState &state)

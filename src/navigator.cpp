@@ -52,7 +52,8 @@ void Navigator::openFamily(int family)
     LeftBar *left = bar(family);
     const auto &entries = left->entries();
     const auto leads = [this](const NavigationEntry &entry) {
-        return m_pages.page(entry.page) && (entry.needsAny == 0 || deviceState.hasAny(entry.needsAny));
+        return m_pages.page(entry.page) && lackOf(entry, deviceState).isEmpty() &&
+               (entry.needsAny == 0 || deviceState.hasAny(entry.needsAny));
     };
     const auto first = std::find_if(entries.begin(), entries.end(), leads);
     const bool isChosen = left->current() >= 0 && leads(entries[static_cast<std::size_t>(left->current())]);
@@ -77,8 +78,9 @@ void Navigator::showEntryPage(int family)
     }
     const NavigationEntry &entry = left->entries()[static_cast<std::size_t>(left->current())];
     Page *const chosen = m_pages.page(entry.page);
-    if (!chosen) {
-        m_emptyPage->showEntry(entry.label);
+    const QString lack = lackOf(entry, deviceState);
+    if (!chosen || !lack.isEmpty()) {
+        m_emptyPage->showEntry(entry.label, lack);
         return m_pageStack->setCurrentWidget(m_emptyPage);
     }
     chosen->showEntry(entry.label);
@@ -143,4 +145,16 @@ void Navigator::updateControlText()
         m_bars[family]->setAccessibleName(QObject::tr(navigationFamilies()[family].label));
     }
     m_emptyPage->updateControlText();
+    followLack();
+}
+
+/// What the open entry's page needs may have been told by now, or the monitor be another one.
+void Navigator::followLack()
+{
+    const LeftBar *left = bar(m_family);
+    if (m_family < kSceneFamilies || left->current() < 0)
+        return;
+    const bool isEmpty = m_pageStack->currentWidget() == m_emptyPage;
+    if (isEmpty || !lackOf(left->entries()[static_cast<std::size_t>(left->current())], deviceState).isEmpty())
+        showEntryPage(m_family);
 }

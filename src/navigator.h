@@ -55,6 +55,7 @@ private:
     void openFamily(int family);
     void showEntryPage(int family);
     void showSceneFamily(int family);
+    void followLack();
 
     const PageSet &m_pages;
     TopTabFrame *m_tabs;

@@ -140,6 +140,14 @@ void TestMainWindow::entriesByModel()
         m_window->setInterfaceMode(kByModel);
         QVERIFY(entry(5, "Picture Enhance")->isSelectable());
         QCOMPARE(entry(5, "Emberline")->isSelectable(), first);
+        const auto *empty = m_window->findChild<EmptyPage *>();
+        for (const auto &[family, label, lack] : {std::tuple(5, "Game Aid", "Q32-MPCS has no game functions."),
+                                                  {6, "Care Content", "Q32-MPCS has no OLED panel to care for."}}) {
+            QTest::mouseClick(m_window->tabs()->tabs()[static_cast<std::size_t>(family)], Qt::LeftButton);
+            QTest::mouseClick(entry(family, label), Qt::LeftButton);
+            QCOMPARE(empty->isVisible() && shownTexts(empty).contains(lack), !first);
+        }
+        QCOMPARE(entry(5, "Emberline")->toolTip(), first ? QString() : "Q32-MPCS has no game functions.");
         m_window->setInterfaceMode(kUnlocked);
         if (first)
             cleanup();

@@ -40,6 +40,14 @@
         <translation>%1 cannot be written: what is set here lasts until the program ends.</translation>
     </message>
     <message>
+        <source>%1 has no OLED panel to care for.</source>
+        <translation>%1 has no OLED panel to care for.</translation>
+    </message>
+    <message>
+        <source>%1 has no game functions.</source>
+        <translation>%1 has no game functions.</translation>
+    </message>
+    <message>
         <source>%1 holds no saved drawing. It stays as it is until you save.</source>
         <translation>%1 holds no saved drawing. It stays as it is until you save.</translation>
     </message>
@@ -2556,6 +2564,10 @@
         <translation>The monitor has not told this value yet.</translation>
     </message>
     <message>
+        <source>The monitor has not told yet which functions it has.</source>
+        <translation>The monitor has not told yet which functions it has.</translation>
+    </message>
+    <message>
         <source>The monitor is changing its scene mode.</source>
         <translation>The monitor is changing its scene mode.</translation>
     </message>
@@ -2710,6 +2722,10 @@
     <message>
         <source>This function has its row already.</source>
         <translation>This function has its row already.</translation>
+    </message>
+    <message>
+        <source>This monitor</source>
+        <translation>This monitor</translation>
     </message>
     <message>
         <source>This monitor does not have these functions.</source>

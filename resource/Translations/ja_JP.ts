@@ -40,6 +40,14 @@
         <translation>%1 に書き込めません。ここでの設定はアプリの終了まで有効です。</translation>
     </message>
     <message>
+        <source>%1 has no OLED panel to care for.</source>
+        <translation>%1 にはケアの対象となる OLED パネルがありません。</translation>
+    </message>
+    <message>
+        <source>%1 has no game functions.</source>
+        <translation>%1 にはゲーム機能がありません。</translation>
+    </message>
+    <message>
         <source>%1 holds no saved drawing. It stays as it is until you save.</source>
         <translation>%1 には保存された描画がありません。保存するまでファイルはそのまま残ります。</translation>
     </message>
@@ -2556,6 +2564,10 @@
         <translation>この値はまだモニターから読み取れていません。</translation>
     </message>
     <message>
+        <source>The monitor has not told yet which functions it has.</source>
+        <translation>モニターはまだ機能の一覧を伝えていません。</translation>
+    </message>
+    <message>
         <source>The monitor is changing its scene mode.</source>
         <translation>モニターがシーンモードを切り替えています。</translation>
     </message>
@@ -2710,6 +2722,10 @@
     <message>
         <source>This function has its row already.</source>
         <translation>この機能は既にリストにあります。</translation>
+    </message>
+    <message>
+        <source>This monitor</source>
+        <translation>このモニター</translation>
     </message>
     <message>
         <source>This monitor does not have these functions.</source>

@@ -40,6 +40,14 @@
         <translation>无法写入 %1：此处的设置在程序结束前有效。</translation>
     </message>
     <message>
+        <source>%1 has no OLED panel to care for.</source>
+        <translation>%1 没有需要保养的 OLED 面板。</translation>
+    </message>
+    <message>
+        <source>%1 has no game functions.</source>
+        <translation>%1 没有游戏功能。</translation>
+    </message>
+    <message>
         <source>%1 holds no saved drawing. It stays as it is until you save.</source>
         <translation>%1 中没有已保存的绘图。在您保存之前，该文件保持不变。</translation>
     </message>
@@ -2556,6 +2564,10 @@
         <translation>尚未从显示器读取此值。</translation>
     </message>
     <message>
+        <source>The monitor has not told yet which functions it has.</source>
+        <translation>显示器尚未告知它有哪些功能。</translation>
+    </message>
+    <message>
         <source>The monitor is changing its scene mode.</source>
         <translation>显示器正在切换情景模式。</translation>
     </message>
@@ -2710,6 +2722,10 @@
     <message>
         <source>This function has its row already.</source>
         <translation>该功能已在列表中。</translation>
+    </message>
+    <message>
+        <source>This monitor</source>
+        <translation>此显示器</translation>
     </message>
     <message>
         <source>This monitor does not have these functions.</source>

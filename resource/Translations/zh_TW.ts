@@ -40,6 +40,14 @@
         <translation>無法寫入 %1：此處的設定在應用程式結束前有效。</translation>
     </message>
     <message>
+        <source>%1 has no OLED panel to care for.</source>
+        <translation>%1 沒有需要保養的 OLED 面板。</translation>
+    </message>
+    <message>
+        <source>%1 has no game functions.</source>
+        <translation>%1 沒有遊戲功能。</translation>
+    </message>
+    <message>
         <source>%1 holds no saved drawing. It stays as it is until you save.</source>
         <translation>%1 中沒有已儲存的繪圖。在您儲存之前，該檔案維持不變。</translation>
     </message>
@@ -2556,6 +2564,10 @@
         <translation>尚未從顯示器讀取此值。</translation>
     </message>
     <message>
+        <source>The monitor has not told yet which functions it has.</source>
+        <translation>顯示器尚未告知它有哪些功能。</translation>
+    </message>
+    <message>
         <source>The monitor is changing its scene mode.</source>
         <translation>顯示器正在切換情境模式。</translation>
     </message>
@@ -2710,6 +2722,10 @@
     <message>
         <source>This function has its row already.</source>
         <translation>該功能已在清單中。</translation>
+    </message>
+    <message>
+        <source>This monitor</source>
+        <translation>此顯示器</translation>
     </message>
     <message>
         <source>This monitor does not have these functions.</source>

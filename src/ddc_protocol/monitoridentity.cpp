@@ -1,5 +1,7 @@
 #include "ddc_protocol/monitoridentity.h"
 
+#include <QObject>
+
 #include "ddc_protocol/displayenumeration.h"
 
 QString identityText(const MonitorIdentity &identity)
@@ -10,8 +12,20 @@ QString identityText(const MonitorIdentity &identity)
     return text;
 }
 
-QString monitorIdentity()
+static const MonitorIdentity *identityInUse()
 {
     const std::size_t index = currentMonitorIndex;
-    return index < monitorList.size() ? identityText(monitorList[index].identity) : QString();
+    return index < monitorList.size() ? &monitorList[index].identity : nullptr;
+}
+
+QString monitorIdentity()
+{
+    const MonitorIdentity *identity = identityInUse();
+    return identity ? identityText(*identity) : QString();
+}
+
+QString monitorName()
+{
+    const MonitorIdentity *identity = identityInUse();
+    return identity && !identity->name.isEmpty() ? identity->name : QObject::tr("This monitor");
 }

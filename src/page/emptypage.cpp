@@ -28,18 +28,21 @@ EmptyPage::EmptyPage(QWidget *parent) : QLabel(parent), m_title(new QLabel(this)
     column->setSpacing(12);
 }
 
-void EmptyPage::showEntry(const char *label)
+void EmptyPage::showEntry(const char *label, const QString &why)
 {
+    m_why = why;
     show(label, LABEL("There is nothing to set here yet."));
 }
 
 void EmptyPage::showFamily(const char *label, const char *modeOn)
 {
+    m_why.clear();
     show(label, LABEL("Choose a mode on the left. On now: %1"), modeOn);
 }
 
 void EmptyPage::showUnchosen(const char *label)
 {
+    m_why.clear();
     show(label, LABEL("Choose an entry on the left."));
 }
 
@@ -56,5 +59,5 @@ void EmptyPage::updateControlText()
     m_title->setText(QObject::tr(m_label));
     setAccessibleName(m_title->text());
     const QString note = QObject::tr(m_note);
-    m_noteLabel->setText(m_modeOn ? note.arg(QObject::tr(m_modeOn)) : note);
+    m_noteLabel->setText(!m_why.isEmpty() ? m_why : m_modeOn ? note.arg(QObject::tr(m_modeOn)) : note);
 }

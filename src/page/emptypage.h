@@ -10,8 +10,8 @@ class EmptyPage : public QLabel
 public:
     explicit EmptyPage(QWidget *parent = nullptr);
 
-    /// An entry that has no page; its label as a source text.
-    void showEntry(const char *label);
+    /// An entry that has no page, or none for the monitor in use; its label as a source text, and why, translated.
+    void showEntry(const char *label, const QString &why);
 
     /// A family of scene modes of which none is on; its label, and the label of the mode that is on.
     void showFamily(const char *label, const char *modeOn);
@@ -28,6 +28,7 @@ private:
     const char *m_label = "";
     const char *m_note = "";
     const char *m_modeOn = nullptr; ///< what the note names; null for nothing
+    QString m_why;                  ///< instead of the note
     QLabel *m_title;
     QLabel *m_noteLabel;
 };

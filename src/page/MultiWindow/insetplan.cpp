@@ -58,9 +58,7 @@ QRectF stretched(const Inset &inset, const QRectF &screen, int grip, QPointF poi
     const double shape = screen.width() / screen.height();
     const double across = inset.place & kRight ? rect.right() - point.x() : point.x() - rect.left();
     const double along = (inset.place & kBottom ? rect.bottom() - point.y() : point.y() - rect.top()) * shape;
-    const double width = grip == kWidthEdge    ? across
-                         : grip == kHeightEdge ? along
-                                               : std::max(across, along);
+    const double width = grip == kWidthEdge ? across : grip == kHeightEdge ? along : std::max(across, along);
     return inCorner(inset.place, std::clamp(width, screen.width() * kShares[0], screen.width() * *std::rbegin(kShares)),
                     screen);
 }

@@ -6,7 +6,8 @@
 
 namespace {
 
-constexpr char kHelp[] = LABEL("Shows two inputs at once. Close = one, PIP = the second in a small window, PBP = side by side.");
+constexpr char kHelp[] =
+    LABEL("Shows two inputs at once. Close = one, PIP = the second in a small window, PBP = side by side.");
 
 constexpr Option kModes[] = {
     {LABEL("Close"), kOneWindow, LABEL("One input fills the screen.")},

@@ -62,13 +62,12 @@ void pageMultiWindow::showWindows()
         return button ? button->text() : QObject::tr("unknown");
     };
     const WindowsShown shown{shownValue(deviceState, Command::MultiWindow),
-                             shownValue(deviceState, Command::InsetPlace),
-                             shownValue(deviceState, Command::InsetSize)};
+                             shownValue(deviceState, Command::InsetPlace), shownValue(deviceState, Command::InsetSize)};
     m_arranger->showWindows(shown);
     const LockRule *lock = lockOf(multiWindowLocks(), Command::InsetPlace, 0, deviceState);
     m_arranger->setLock(lock ? QObject::tr(lock->reason) : QString());
     const QString mode = words(Command::MultiWindow, shown.mode);
-    m_arranger->setValueText(shown.mode == kPictureInPicture
-                                 ? listed({mode, words(Command::InsetPlace, shown.place), words(Command::InsetSize, shown.size)})
-                                 : mode);
+    m_arranger->setValueText(shown.mode == kPictureInPicture ? listed({mode, words(Command::InsetPlace, shown.place),
+                                                                       words(Command::InsetSize, shown.size)})
+                                                             : mode);
 }

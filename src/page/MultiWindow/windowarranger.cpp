@@ -50,8 +50,8 @@ std::optional<Inset> WindowArranger::inset() const
 
 QRectF WindowArranger::screen() const
 {
-    const double width = std::min({kLargest.width() - 2 * kFrame, this->width() - 2 * kFrame - 2,
-                                   (height() - kStand - 2 * kFrame - 2) * kShape});
+    const double width = std::min(
+        {kLargest.width() - 2 * kFrame, this->width() - 2 * kFrame - 2, (height() - kStand - 2 * kFrame - 2) * kShape});
     return {kFrame + 1, kFrame + 1, width, width / kShape};
 }
 
@@ -167,7 +167,8 @@ void WindowArranger::followPointer(QPointF at)
 {
     const std::optional<Inset> now = inset();
     const int grip = now && isUsable() ? gripAt(*now, screen(), at, kReach) : int(kNoGrip);
-    const bool isFalling = now && (now->place == 0 || now->place == 3); // its free corner lies right below, or left above
+    const bool isFalling =
+        now && (now->place == 0 || now->place == 3); // its free corner lies right below, or left above
     switch (grip) {
     case kNoGrip:
         return unsetCursor();
