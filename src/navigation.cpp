@@ -43,7 +43,7 @@ constexpr NavigationEntry kGameAid[] = {
     {LABEL("Picture Enhance"), "picture_enhance", PageId::PictureEnhance, 0, kPictureFunctions},
     {LABEL("Emberline"), "emberline", PageId::Empty, 0, kGame, kGame, kNoGame},
 };
-constexpr NavigationEntry kOledCare[] = {{LABEL("Care Content"), "care_content", PageId::Empty, 0, 0,
+constexpr NavigationEntry kOledCare[] = {{LABEL("Care Content"), "care_content", PageId::OledCare, 0, 0,
                                           bit(Capability::OledPanel), LABEL("%1 has no OLED panel to care for.")}};
 constexpr NavigationEntry kNightLoom[] = {
     {LABEL("Animate Mode"), "led_animate"},

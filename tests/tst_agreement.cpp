@@ -15,6 +15,7 @@
 #include "page/IO/iotable.h"
 #include "page/MultiWindow/multiwindowtable.h"
 #include "page/Office/officetable.h"
+#include "page/OledCare/caretable.h"
 #include "page/Scene/scenetable.h"
 #include "shortcut/shortcutfunctions.h"
 #include "support/deskfixture.h"
@@ -102,7 +103,7 @@ class TestAgreement : public DeskSuite
     {
         const std::vector<PanelSpec> picture = picturePanels(deviceState);
         for (const std::span<const PanelSpec> panels :
-             {std::span(picture), gamePanels(), officePanels(), ioPanels(), systemPanels(), multiWindowPanels()}) {
+             {std::span(picture), gamePanels(), officePanels(), ioPanels(), systemPanels(), multiWindowPanels(), carePanels()}) {
             for (const PanelSpec &panel : panels) {
                 if (isOffered(panel))
                     walkSections(panel.sections);

@@ -15,6 +15,7 @@
 #include "page/MultiWindow/pagemultiwindow.h"
 #include "page/MultiWindow/windowarranger.h"
 #include "page/Office/pageoffice.h"
+#include "page/OledCare/pageoledcare.h"
 #include "page/Scene/pagescenesetting.h"
 #include "page/engine/optiongrouprow.h"
 #include "support/sessiondesk.h"
@@ -89,6 +90,8 @@ SettingsPage *TestPages::anyPage(int which)
         page = std::make_unique<PageOffice>(*m_queue);
     else if (!page && which == Io)
         page = std::make_unique<pageIOSetting>(*m_queue);
+    else if (!page && which == Care)
+        page = std::make_unique<pageOledCare>(*m_queue);
     else if (!page && which == Windows)
         page = std::make_unique<pageMultiWindow>(*m_queue);
     else if (!page)

@@ -52,6 +52,14 @@
         <translation>%1 holds no saved drawing. It stays as it is until you save.</translation>
     </message>
     <message>
+        <source>%1 hours of use counted</source>
+        <translation>%1 hours of use counted</translation>
+    </message>
+    <message>
+        <source>%1 hours of use since the last care</source>
+        <translation>%1 hours of use since the last care</translation>
+    </message>
+    <message>
         <source>%1 in all, %2 by itself today</source>
         <translation>%1 in all, %2 by itself today</translation>
     </message>
@@ -152,6 +160,10 @@
         <translation>10 min</translation>
     </message>
     <message>
+        <source>12 Hour</source>
+        <translation>12 Hour</translation>
+    </message>
+    <message>
         <source>15 min</source>
         <translation>15 min</translation>
     </message>
@@ -178,6 +190,10 @@
     <message>
         <source>2.6</source>
         <translation>2.6</translation>
+    </message>
+    <message>
+        <source>24 Hour</source>
+        <translation>24 Hour</translation>
     </message>
     <message>
         <source>3 Hour</source>
@@ -240,6 +256,10 @@
         <translation>7500K</translation>
     </message>
     <message>
+        <source>8 Hour</source>
+        <translation>8 Hour</translation>
+    </message>
+    <message>
         <source>8.1G</source>
         <translation>8.1G</translation>
     </message>
@@ -270,6 +290,10 @@
     <message>
         <source>A line of text that the matrix shows, standing or scrolling.</source>
         <translation>A line of text that the matrix shows, standing or scrolling.</translation>
+    </message>
+    <message>
+        <source>A little darker: hardly to be seen, for normal work.</source>
+        <translation>A little darker: hardly to be seen, for normal work.</translation>
     </message>
     <message>
         <source>A quarter of the screen&apos;s width: hides least of the first input.</source>
@@ -334,6 +358,10 @@
     <message>
         <source>AdobeRGB(D50)</source>
         <translation>AdobeRGB(D50)</translation>
+    </message>
+    <message>
+        <source>After how many hours of use the next care is due.</source>
+        <translation>After how many hours of use the next care is due.</translation>
     </message>
     <message>
         <source>Alignment</source>
@@ -516,6 +544,10 @@
         <translation>Bottom Right</translation>
     </message>
     <message>
+        <source>Boundary</source>
+        <translation>Boundary</translation>
+    </message>
+    <message>
         <source>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = when needed.</source>
         <translation>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = when needed.</translation>
     </message>
@@ -574,6 +606,58 @@
     <message>
         <source>Care Content</source>
         <translation>Care Content</translation>
+    </message>
+    <message>
+        <source>Care Due</source>
+        <translation>Care Due</translation>
+    </message>
+    <message>
+        <source>Care Interval</source>
+        <translation>Care Interval</translation>
+    </message>
+    <message>
+        <source>Care Mode</source>
+        <translation>Care Mode</translation>
+    </message>
+    <message>
+        <source>Care Plan</source>
+        <translation>Care Plan</translation>
+    </message>
+    <message>
+        <source>Care Reminder</source>
+        <translation>Care Reminder</translation>
+    </message>
+    <message>
+        <source>Care Running</source>
+        <translation>Care Running</translation>
+    </message>
+    <message>
+        <source>Care begins only when you start it.</source>
+        <translation>Care begins only when you start it.</translation>
+    </message>
+    <message>
+        <source>Care evens out how the pixels have aged, so that no picture stays visible. It takes about 6 minutes.</source>
+        <translation>Care evens out how the pixels have aged, so that no picture stays visible. It takes about 6 minutes.</translation>
+    </message>
+    <message>
+        <source>Care is due.</source>
+        <translation>Care is due.</translation>
+    </message>
+    <message>
+        <source>Care is due. The picture goes black for about 6 minutes.</source>
+        <translation>Care is due. The picture goes black for about 6 minutes.</translation>
+    </message>
+    <message>
+        <source>Care is due: the monitor begins when it goes to standby.</source>
+        <translation>Care is due: the monitor begins when it goes to standby.</translation>
+    </message>
+    <message>
+        <source>Care is running. Leave the monitor on until the picture is back.</source>
+        <translation>Care is running. Leave the monitor on until the picture is back.</translation>
+    </message>
+    <message>
+        <source>Care takes about 6 minutes, in which the picture is black. It evens out how the pixels have aged; nothing that is open is lost.</source>
+        <translation>Care takes about 6 minutes, in which the picture is black. It evens out how the pixels have aged; nothing that is open is lost.</translation>
     </message>
     <message>
         <source>Caret</source>
@@ -780,8 +864,40 @@
         <translation>Desktop</translation>
     </message>
     <message>
+        <source>Desktop Reminder</source>
+        <translation>Desktop Reminder</translation>
+    </message>
+    <message>
+        <source>Detection Rate</source>
+        <translation>Detection Rate</translation>
+    </message>
+    <message>
+        <source>Dims after a few minutes without a change.</source>
+        <translation>Dims after a few minutes without a change.</translation>
+    </message>
+    <message>
+        <source>Dims signs that stand still, such as a station&apos;s logo. Close = off; Low to High are stronger in turn.</source>
+        <translation>Dims signs that stand still, such as a station&apos;s logo. Close = off; Low to High are stronger in turn.</translation>
+    </message>
+    <message>
+        <source>Dims soon: spares the panel most.</source>
+        <translation>Dims soon: spares the panel most.</translation>
+    </message>
+    <message>
+        <source>Dims the border between bright and dark, as beside black bars. Close = off; Low to High are stronger in turn.</source>
+        <translation>Dims the border between bright and dark, as beside black bars. Close = off; Low to High are stronger in turn.</translation>
+    </message>
+    <message>
         <source>Dims the light behind dark parts, so that black is deeper. Close = off; the others are stronger in turn.</source>
         <translation>Dims the light behind dark parts, so that black is deeper. Close = off; the others are stronger in turn.</translation>
+    </message>
+    <message>
+        <source>Dims the screen while nothing moves. Detection Rate is how soon it notices that.</source>
+        <translation>Dims the screen while nothing moves. Detection Rate is how soon it notices that.</translation>
+    </message>
+    <message>
+        <source>Dims the taskbar, which always stands in one place. Close = off; Low to High are stronger in turn.</source>
+        <translation>Dims the taskbar, which always stands in one place. Close = off; Low to High are stronger in turn.</translation>
     </message>
     <message>
         <source>Display P3</source>
@@ -942,6 +1058,10 @@
     <message>
         <source>Falling Peaks</source>
         <translation>Falling Peaks</translation>
+    </message>
+    <message>
+        <source>Fast</source>
+        <translation>Fast</translation>
     </message>
     <message>
         <source>File is null.</source>
@@ -1248,6 +1368,14 @@
         <translation>I/O Settings</translation>
     </message>
     <message>
+        <source>ISP</source>
+        <translation>ISP</translation>
+    </message>
+    <message>
+        <source>Image sticking protection: clears what a picture leaves behind as soon as it is gone.</source>
+        <translation>Image sticking protection: clears what a picture leaves behind as soon as it is gone.</translation>
+    </message>
+    <message>
         <source>Import Aligned</source>
         <translation>Import Aligned</translation>
     </message>
@@ -1332,12 +1460,20 @@
         <translation>Large</translation>
     </message>
     <message>
+        <source>Last care: %1</source>
+        <translation>Last care: %1</translation>
+    </message>
+    <message>
         <source>Last errors</source>
         <translation>Last errors</translation>
     </message>
     <message>
         <source>Last requests to the monitor</source>
         <translation>Last requests to the monitor</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Later</translation>
     </message>
     <message>
         <source>Leaves the target free but for its very middle.</source>
@@ -1386,6 +1522,10 @@
     <message>
         <source>Light Sensor</source>
         <translation>Light Sensor</translation>
+    </message>
+    <message>
+        <source>Lighter = used longer that day, ring = cared for.</source>
+        <translation>Lighter = used longer that day, ring = cared for.</translation>
     </message>
     <message>
         <source>Listening…</source>
@@ -1470,6 +1610,10 @@
     <message>
         <source>Makes what moves look sharper. Close = off; Low to High and Ull-Level1 to 3 are stronger in turn.</source>
         <translation>Makes what moves look sharper. Close = off; Low to High and Ull-Level1 to 3 are stronger in turn.</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Manual</translation>
     </message>
     <message>
         <source>Matches notebooks with a Display P3 screen.</source>
@@ -1584,12 +1728,32 @@
         <translation>Motion</translation>
     </message>
     <message>
+        <source>Moves now and then, for everyday work.</source>
+        <translation>Moves now and then, for everyday work.</translation>
+    </message>
+    <message>
+        <source>Moves often: for menus and maps that stand still for hours.</source>
+        <translation>Moves often: for menus and maps that stand still for hours.</translation>
+    </message>
+    <message>
+        <source>Moves seldom: nobody notices it.</source>
+        <translation>Moves seldom: nobody notices it.</translation>
+    </message>
+    <message>
+        <source>Moves the whole picture by a few pixels now and then, so that edges do not burn in. Close = off.</source>
+        <translation>Moves the whole picture by a few pixels now and then, so that edges do not burn in. Close = off.</translation>
+    </message>
+    <message>
         <source>Movie</source>
         <translation>Movie</translation>
     </message>
     <message>
         <source>Movie Mode</source>
         <translation>Movie Mode</translation>
+    </message>
+    <message>
+        <source>Much darker: the best protection where the same picture stands for hours.</source>
+        <translation>Much darker: the best protection where the same picture stands for hours.</translation>
     </message>
     <message>
         <source>Multi-window</source>
@@ -1676,6 +1840,10 @@
         <translation>No answer for %1 s</translation>
     </message>
     <message>
+        <source>No care has been seen yet: hours count from the first start of this tool.</source>
+        <translation>No care has been seen yet: hours count from the first start of this tool.</translation>
+    </message>
+    <message>
         <source>No file path selected.</source>
         <translation>No file path selected.</translation>
     </message>
@@ -1704,12 +1872,20 @@
         <translation>None.</translation>
     </message>
     <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
         <source>Not told: %1</source>
         <translation>Not told: %1</translation>
     </message>
     <message>
         <source>Nothing above the point: for shots that fall.</source>
         <translation>Nothing above the point: for shots that fall.</translation>
+    </message>
+    <message>
+        <source>Nothing is dimmed.</source>
+        <translation>Nothing is dimmed.</translation>
     </message>
     <message>
         <source>Nothing is heard: no program plays, or the sound output is gone.</source>
@@ -1858,6 +2034,10 @@
     <message>
         <source>Picture in picture: a second input in a small window over the first, to keep an eye on another computer.</source>
         <translation>Picture in picture: a second input in a small window over the first, to keep an eye on another computer.</translation>
+    </message>
+    <message>
+        <source>Pixel Shift</source>
+        <translation>Pixel Shift</translation>
     </message>
     <message>
         <source>Pixels change faster and motion smears less. Close = off, Topspeed = fastest, which may leave bright edges.</source>
@@ -2344,6 +2524,18 @@
         <translation>Standing</translation>
     </message>
     <message>
+        <source>Start care</source>
+        <translation>Start care</translation>
+    </message>
+    <message>
+        <source>Static Icon</source>
+        <translation>Static Icon</translation>
+    </message>
+    <message>
+        <source>Still Picture</source>
+        <translation>Still Picture</translation>
+    </message>
+    <message>
         <source>Stop service</source>
         <translation>Stop service</translation>
     </message>
@@ -2398,6 +2590,10 @@
     <message>
         <source>Tapering</source>
         <translation>Tapering</translation>
+    </message>
+    <message>
+        <source>Taskbar</source>
+        <translation>Taskbar</translation>
     </message>
     <message>
         <source>Template</source>
@@ -2532,6 +2728,10 @@
         <translation>The monitor answers nothing until the button is released</translation>
     </message>
     <message>
+        <source>The monitor begins by itself when it goes to standby.</source>
+        <translation>The monitor begins by itself when it goes to standby.</translation>
+    </message>
+    <message>
         <source>The monitor comes on faster, but needs more power while it is off.</source>
         <translation>The monitor comes on faster, but needs more power while it is off.</translation>
     </message>
@@ -2564,12 +2764,20 @@
         <translation>The monitor has not told this value yet.</translation>
     </message>
     <message>
+        <source>The monitor has not told when the next care is due.</source>
+        <translation>The monitor has not told when the next care is due.</translation>
+    </message>
+    <message>
         <source>The monitor has not told yet which functions it has.</source>
         <translation>The monitor has not told yet which functions it has.</translation>
     </message>
     <message>
         <source>The monitor is changing its scene mode.</source>
         <translation>The monitor is changing its scene mode.</translation>
+    </message>
+    <message>
+        <source>The monitor itself says on the screen that care is due.</source>
+        <translation>The monitor itself says on the screen that care is due.</translation>
     </message>
     <message>
         <source>The monitor keeps pace with the game: no torn or jerky pictures. Game Rush must be off.</source>
@@ -2586,6 +2794,10 @@
     <message>
         <source>The monitor uses less power. Close = off, Level2 saves the most.</source>
         <translation>The monitor uses less power. Close = off, Level2 saves the most.</translation>
+    </message>
+    <message>
+        <source>The next care is due after %1 more hours of use.</source>
+        <translation>The next care is due after %1 more hours of use.</translation>
     </message>
     <message>
         <source>The next client is not initialised</source>
@@ -2606,6 +2818,14 @@
     <message>
         <source>The picture as the factory set it.</source>
         <translation>The picture as the factory set it.</translation>
+    </message>
+    <message>
+        <source>The picture goes black for about 6 minutes, and the monitor must stay on. Begin now?</source>
+        <translation>The picture goes black for about 6 minutes, and the monitor must stay on. Begin now?</translation>
+    </message>
+    <message>
+        <source>The picture stays where it is.</source>
+        <translation>The picture stays where it is.</translation>
     </message>
     <message>
         <source>The program could not be restarted. It goes on as it was.</source>
@@ -2740,6 +2960,10 @@
         <translation>This slider counts while Color Temperature is Night View C.T.</translation>
     </message>
     <message>
+        <source>This tool says on the desktop that care is due: never over a program that fills the screen.</source>
+        <translation>This tool says on the desktop that care is due: never over a program that fills the screen.</translation>
+    </message>
+    <message>
         <source>Time</source>
         <translation>Time</translation>
     </message>
@@ -2868,6 +3092,10 @@
         <translation>Upload</translation>
     </message>
     <message>
+        <source>Use and care of the last five weeks</source>
+        <translation>Use and care of the last five weeks</translation>
+    </message>
+    <message>
         <source>User1</source>
         <translation>User1</translation>
     </message>
@@ -2912,12 +3140,20 @@
         <translation>Value before</translation>
     </message>
     <message>
+        <source>Visibly darker, for long days with the same windows.</source>
+        <translation>Visibly darker, for long days with the same windows.</translation>
+    </message>
+    <message>
         <source>Vivid colours for animation.</source>
         <translation>Vivid colours for animation.</translation>
     </message>
     <message>
         <source>Volume</source>
         <translation>Volume</translation>
+    </message>
+    <message>
+        <source>Waits long before it dims: good for reading.</source>
+        <translation>Waits long before it dims: good for reading.</translation>
     </message>
     <message>
         <source>Warning</source>

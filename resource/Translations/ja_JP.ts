@@ -52,6 +52,14 @@
         <translation>%1 には保存された描画がありません。保存するまでファイルはそのまま残ります。</translation>
     </message>
     <message>
+        <source>%1 hours of use counted</source>
+        <translation>使用時間の累計: %1 時間</translation>
+    </message>
+    <message>
+        <source>%1 hours of use since the last care</source>
+        <translation>前回のケアから %1 時間使用</translation>
+    </message>
+    <message>
         <source>%1 in all, %2 by itself today</source>
         <translation>計 %1 回、本日自動 %2 回</translation>
     </message>
@@ -152,6 +160,10 @@
         <translation>10 分前</translation>
     </message>
     <message>
+        <source>12 Hour</source>
+        <translation>12 時間</translation>
+    </message>
+    <message>
         <source>15 min</source>
         <translation>15 分</translation>
     </message>
@@ -178,6 +190,10 @@
     <message>
         <source>2.6</source>
         <translation>2.6</translation>
+    </message>
+    <message>
+        <source>24 Hour</source>
+        <translation>24 時間</translation>
     </message>
     <message>
         <source>3 Hour</source>
@@ -240,6 +256,10 @@
         <translation>7500K</translation>
     </message>
     <message>
+        <source>8 Hour</source>
+        <translation>8 時間</translation>
+    </message>
+    <message>
         <source>8.1G</source>
         <translation>8.1G</translation>
     </message>
@@ -270,6 +290,10 @@
     <message>
         <source>A line of text that the matrix shows, standing or scrolling.</source>
         <translation>マトリックスに静止またはスクロールで表示する 1 行のテキスト。</translation>
+    </message>
+    <message>
+        <source>A little darker: hardly to be seen, for normal work.</source>
+        <translation>わずかに暗くします。ほとんど気づかないので、普段の作業に向いています。</translation>
     </message>
     <message>
         <source>A quarter of the screen&apos;s width: hides least of the first input.</source>
@@ -334,6 +358,10 @@
     <message>
         <source>AdobeRGB(D50)</source>
         <translation>AdobeRGB(D50)</translation>
+    </message>
+    <message>
+        <source>After how many hours of use the next care is due.</source>
+        <translation>何時間使ったら次のケアをするかを決めます。</translation>
     </message>
     <message>
         <source>Alignment</source>
@@ -516,6 +544,10 @@
         <translation>右下</translation>
     </message>
     <message>
+        <source>Boundary</source>
+        <translation>境界</translation>
+    </message>
+    <message>
         <source>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = when needed.</source>
         <translation>暗い場面を明るくします。「レベル 1」と「レベル 2」は常に、「自動 L1」と「自動 L2」は映像に応じて働きます。</translation>
     </message>
@@ -574,6 +606,58 @@
     <message>
         <source>Care Content</source>
         <translation>ケア項目</translation>
+    </message>
+    <message>
+        <source>Care Due</source>
+        <translation>ケアの時期</translation>
+    </message>
+    <message>
+        <source>Care Interval</source>
+        <translation>ケアの間隔</translation>
+    </message>
+    <message>
+        <source>Care Mode</source>
+        <translation>ケアモード</translation>
+    </message>
+    <message>
+        <source>Care Plan</source>
+        <translation>ケアの予定</translation>
+    </message>
+    <message>
+        <source>Care Reminder</source>
+        <translation>ケアの通知</translation>
+    </message>
+    <message>
+        <source>Care Running</source>
+        <translation>ケアの実行中</translation>
+    </message>
+    <message>
+        <source>Care begins only when you start it.</source>
+        <translation>ケアは自分で始めたときだけ行われます。</translation>
+    </message>
+    <message>
+        <source>Care evens out how the pixels have aged, so that no picture stays visible. It takes about 6 minutes.</source>
+        <translation>ケアは画素の劣化をそろえ、焼き付きを防ぎます。約 6 分かかります。</translation>
+    </message>
+    <message>
+        <source>Care is due.</source>
+        <translation>ケアの時期です。</translation>
+    </message>
+    <message>
+        <source>Care is due. The picture goes black for about 6 minutes.</source>
+        <translation>ケアの時期です。画面が約 6 分間黒くなります。</translation>
+    </message>
+    <message>
+        <source>Care is due: the monitor begins when it goes to standby.</source>
+        <translation>ケアの時期です。モニターがスタンバイに入ると自動で始まります。</translation>
+    </message>
+    <message>
+        <source>Care is running. Leave the monitor on until the picture is back.</source>
+        <translation>ケアを実行中です。画面が戻るまでモニターの電源を切らないでください。</translation>
+    </message>
+    <message>
+        <source>Care takes about 6 minutes, in which the picture is black. It evens out how the pixels have aged; nothing that is open is lost.</source>
+        <translation>ケアは約 6 分で、その間は画面が黒くなります。画素の劣化をそろえます。開いているものは失われません。</translation>
     </message>
     <message>
         <source>Caret</source>
@@ -780,8 +864,40 @@
         <translation>デスクトップ</translation>
     </message>
     <message>
+        <source>Desktop Reminder</source>
+        <translation>デスクトップ通知</translation>
+    </message>
+    <message>
+        <source>Detection Rate</source>
+        <translation>検出の速さ</translation>
+    </message>
+    <message>
+        <source>Dims after a few minutes without a change.</source>
+        <translation>数分間変化がないと暗くします。</translation>
+    </message>
+    <message>
+        <source>Dims signs that stand still, such as a station&apos;s logo. Close = off; Low to High are stronger in turn.</source>
+        <translation>テレビ局のロゴなど、動かないマークを暗くします。オフ = 使わない、低から高へ順に強くなります。</translation>
+    </message>
+    <message>
+        <source>Dims soon: spares the panel most.</source>
+        <translation>すぐに暗くします。パネルの負担が最も軽くなります。</translation>
+    </message>
+    <message>
+        <source>Dims the border between bright and dark, as beside black bars. Close = off; Low to High are stronger in turn.</source>
+        <translation>黒帯の脇など、明暗の境目を暗くします。オフ = 使わない、低から高へ順に強くなります。</translation>
+    </message>
+    <message>
         <source>Dims the light behind dark parts, so that black is deeper. Close = off; the others are stronger in turn.</source>
         <translation>暗い部分のバックライトを弱め、黒を深くします。右の項目ほど強くなります。</translation>
+    </message>
+    <message>
+        <source>Dims the screen while nothing moves. Detection Rate is how soon it notices that.</source>
+        <translation>動きがない間、画面を暗くします。検出の速さは、それに気づく早さです。</translation>
+    </message>
+    <message>
+        <source>Dims the taskbar, which always stands in one place. Close = off; Low to High are stronger in turn.</source>
+        <translation>いつも同じ場所にあるタスクバーを暗くします。オフ = 使わない、低から高へ順に強くなります。</translation>
     </message>
     <message>
         <source>Display P3</source>
@@ -942,6 +1058,10 @@
     <message>
         <source>Falling Peaks</source>
         <translation>ピークの落下</translation>
+    </message>
+    <message>
+        <source>Fast</source>
+        <translation>速い</translation>
     </message>
     <message>
         <source>File is null.</source>
@@ -1248,6 +1368,14 @@
         <translation>入出力設定</translation>
     </message>
     <message>
+        <source>ISP</source>
+        <translation>ISP</translation>
+    </message>
+    <message>
+        <source>Image sticking protection: clears what a picture leaves behind as soon as it is gone.</source>
+        <translation>残像防止: 画面が消えたあとに残る像をすぐに消します。</translation>
+    </message>
+    <message>
         <source>Import Aligned</source>
         <translation>整列読み込み</translation>
     </message>
@@ -1332,12 +1460,20 @@
         <translation>大</translation>
     </message>
     <message>
+        <source>Last care: %1</source>
+        <translation>前回のケア: %1</translation>
+    </message>
+    <message>
         <source>Last errors</source>
         <translation>最近のエラー</translation>
     </message>
     <message>
         <source>Last requests to the monitor</source>
         <translation>モニターへの最近の要求</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>あとで</translation>
     </message>
     <message>
         <source>Leaves the target free but for its very middle.</source>
@@ -1386,6 +1522,10 @@
     <message>
         <source>Light Sensor</source>
         <translation>光センサー</translation>
+    </message>
+    <message>
+        <source>Lighter = used longer that day, ring = cared for.</source>
+        <translation>明るいほど長く使った日、輪 = ケアをした日。</translation>
     </message>
     <message>
         <source>Listening…</source>
@@ -1470,6 +1610,10 @@
     <message>
         <source>Makes what moves look sharper. Close = off; Low to High and Ull-Level1 to 3 are stronger in turn.</source>
         <translation>動きのある映像をくっきり見せます。「低」から「高」、「Ull レベル 1」から「Ull レベル 3」の順に強くなります。</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>手動</translation>
     </message>
     <message>
         <source>Matches notebooks with a Display P3 screen.</source>
@@ -1584,12 +1728,32 @@
         <translation>動き</translation>
     </message>
     <message>
+        <source>Moves now and then, for everyday work.</source>
+        <translation>ときどき動かします。普段の作業に向いています。</translation>
+    </message>
+    <message>
+        <source>Moves often: for menus and maps that stand still for hours.</source>
+        <translation>頻繁に動かします。メニューや地図が何時間も動かない画面に向いています。</translation>
+    </message>
+    <message>
+        <source>Moves seldom: nobody notices it.</source>
+        <translation>まれに動かします。気づくことはありません。</translation>
+    </message>
+    <message>
+        <source>Moves the whole picture by a few pixels now and then, so that edges do not burn in. Close = off.</source>
+        <translation>ときどき画面全体を数画素ずらし、輪郭の焼き付きを防ぎます。オフ = 使わない。</translation>
+    </message>
+    <message>
         <source>Movie</source>
         <translation>映画</translation>
     </message>
     <message>
         <source>Movie Mode</source>
         <translation>映画モード</translation>
+    </message>
+    <message>
+        <source>Much darker: the best protection where the same picture stands for hours.</source>
+        <translation>大きく暗くします。同じ画面が何時間も続くときに最も効果があります。</translation>
     </message>
     <message>
         <source>Multi-window</source>
@@ -1676,6 +1840,10 @@
         <translation>%1 秒間応答なし</translation>
     </message>
     <message>
+        <source>No care has been seen yet: hours count from the first start of this tool.</source>
+        <translation>ケアの記録はまだありません。時間はこのツールを初めて起動した時からの累計です。</translation>
+    </message>
+    <message>
         <source>No file path selected.</source>
         <translation>ファイルが選択されていません。</translation>
     </message>
@@ -1704,12 +1872,20 @@
         <translation>ありません。</translation>
     </message>
     <message>
+        <source>Normal</source>
+        <translation>標準</translation>
+    </message>
+    <message>
         <source>Not told: %1</source>
         <translation>読み取れなかった値: %1</translation>
     </message>
     <message>
         <source>Nothing above the point: for shots that fall.</source>
         <translation>狙点の上が空くため、落ちる弾道に向いています。</translation>
+    </message>
+    <message>
+        <source>Nothing is dimmed.</source>
+        <translation>暗くしません。</translation>
     </message>
     <message>
         <source>Nothing is heard: no program plays, or the sound output is gone.</source>
@@ -1858,6 +2034,10 @@
     <message>
         <source>Picture in picture: a second input in a small window over the first, to keep an eye on another computer.</source>
         <translation>ピクチャーインピクチャー: 2 つ目の入力を小さな子画面で重ねます。別のコンピューターの様子を見ておけます。</translation>
+    </message>
+    <message>
+        <source>Pixel Shift</source>
+        <translation>ピクセルシフト</translation>
     </message>
     <message>
         <source>Pixels change faster and motion smears less. Close = off, Topspeed = fastest, which may leave bright edges.</source>
@@ -2344,6 +2524,18 @@
         <translation>固定表示</translation>
     </message>
     <message>
+        <source>Start care</source>
+        <translation>ケアを開始</translation>
+    </message>
+    <message>
+        <source>Static Icon</source>
+        <translation>静止アイコン</translation>
+    </message>
+    <message>
+        <source>Still Picture</source>
+        <translation>静止画面</translation>
+    </message>
+    <message>
         <source>Stop service</source>
         <translation>サービス停止</translation>
     </message>
@@ -2398,6 +2590,10 @@
     <message>
         <source>Tapering</source>
         <translation>先細り</translation>
+    </message>
+    <message>
+        <source>Taskbar</source>
+        <translation>タスクバー</translation>
     </message>
     <message>
         <source>Template</source>
@@ -2532,6 +2728,10 @@
         <translation>ボタンを戻すまでモニターは応答しません</translation>
     </message>
     <message>
+        <source>The monitor begins by itself when it goes to standby.</source>
+        <translation>モニターがスタンバイに入ると自動で始まります。</translation>
+    </message>
+    <message>
         <source>The monitor comes on faster, but needs more power while it is off.</source>
         <translation>モニターが早くつきますが、オフの間の消費電力が増えます。</translation>
     </message>
@@ -2564,12 +2764,20 @@
         <translation>この値はまだモニターから読み取れていません。</translation>
     </message>
     <message>
+        <source>The monitor has not told when the next care is due.</source>
+        <translation>次のケアの時期はモニターからまだ伝えられていません。</translation>
+    </message>
+    <message>
         <source>The monitor has not told yet which functions it has.</source>
         <translation>モニターはまだ機能の一覧を伝えていません。</translation>
     </message>
     <message>
         <source>The monitor is changing its scene mode.</source>
         <translation>モニターがシーンモードを切り替えています。</translation>
+    </message>
+    <message>
+        <source>The monitor itself says on the screen that care is due.</source>
+        <translation>ケアの時期になると、モニター自身が画面で知らせます。</translation>
     </message>
     <message>
         <source>The monitor keeps pace with the game: no torn or jerky pictures. Game Rush must be off.</source>
@@ -2586,6 +2794,10 @@
     <message>
         <source>The monitor uses less power. Close = off, Level2 saves the most.</source>
         <translation>モニターの消費電力を減らします。「レベル 2」が最も節電になります。</translation>
+    </message>
+    <message>
+        <source>The next care is due after %1 more hours of use.</source>
+        <translation>あと %1 時間使うと次のケアの時期です。</translation>
     </message>
     <message>
         <source>The next client is not initialised</source>
@@ -2606,6 +2818,14 @@
     <message>
         <source>The picture as the factory set it.</source>
         <translation>工場出荷時の画質です。</translation>
+    </message>
+    <message>
+        <source>The picture goes black for about 6 minutes, and the monitor must stay on. Begin now?</source>
+        <translation>画面が約 6 分間黒くなります。その間モニターの電源は切らないでください。今すぐ始めますか?</translation>
+    </message>
+    <message>
+        <source>The picture stays where it is.</source>
+        <translation>画面は動きません。</translation>
     </message>
     <message>
         <source>The program could not be restarted. It goes on as it was.</source>
@@ -2740,6 +2960,10 @@
         <translation>このスライダーは、色温が「夜間色温」のときに働きます。</translation>
     </message>
     <message>
+        <source>This tool says on the desktop that care is due: never over a program that fills the screen.</source>
+        <translation>ケアの時期をこのツールがデスクトップで知らせます。全画面のアプリの上には表示しません。</translation>
+    </message>
+    <message>
         <source>Time</source>
         <translation>時間</translation>
     </message>
@@ -2868,6 +3092,10 @@
         <translation>アップロード</translation>
     </message>
     <message>
+        <source>Use and care of the last five weeks</source>
+        <translation>最近 5 週間の使用とケア</translation>
+    </message>
+    <message>
         <source>User1</source>
         <translation>ユーザー 1</translation>
     </message>
@@ -2912,12 +3140,20 @@
         <translation>前の値</translation>
     </message>
     <message>
+        <source>Visibly darker, for long days with the same windows.</source>
+        <translation>はっきり暗くします。一日中同じウィンドウを使うときに向いています。</translation>
+    </message>
+    <message>
         <source>Vivid colours for animation.</source>
         <translation>アニメーションに適した鮮やかな色です。</translation>
     </message>
     <message>
         <source>Volume</source>
         <translation>音量</translation>
+    </message>
+    <message>
+        <source>Waits long before it dims: good for reading.</source>
+        <translation>暗くするまで長く待ちます。読書に向いています。</translation>
     </message>
     <message>
         <source>Warning</source>

@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>%1 has no OLED panel to care for.</source>
-        <translation>%1 没有需要保养的 OLED 面板。</translation>
+        <translation>%1 没有需要护理的 OLED 面板。</translation>
     </message>
     <message>
         <source>%1 has no game functions.</source>
@@ -50,6 +50,14 @@
     <message>
         <source>%1 holds no saved drawing. It stays as it is until you save.</source>
         <translation>%1 中没有已保存的绘图。在您保存之前，该文件保持不变。</translation>
+    </message>
+    <message>
+        <source>%1 hours of use counted</source>
+        <translation>已累计使用 %1 小时</translation>
+    </message>
+    <message>
+        <source>%1 hours of use since the last care</source>
+        <translation>上次护理后已使用 %1 小时</translation>
     </message>
     <message>
         <source>%1 in all, %2 by itself today</source>
@@ -152,6 +160,10 @@
         <translation>10 分钟前</translation>
     </message>
     <message>
+        <source>12 Hour</source>
+        <translation>12 小时</translation>
+    </message>
+    <message>
         <source>15 min</source>
         <translation>15 分钟</translation>
     </message>
@@ -178,6 +190,10 @@
     <message>
         <source>2.6</source>
         <translation>2.6</translation>
+    </message>
+    <message>
+        <source>24 Hour</source>
+        <translation>24 小时</translation>
     </message>
     <message>
         <source>3 Hour</source>
@@ -240,6 +256,10 @@
         <translation>7500K</translation>
     </message>
     <message>
+        <source>8 Hour</source>
+        <translation>8 小时</translation>
+    </message>
+    <message>
         <source>8.1G</source>
         <translation>8.1G</translation>
     </message>
@@ -270,6 +290,10 @@
     <message>
         <source>A line of text that the matrix shows, standing or scrolling.</source>
         <translation>一行文字，在矩阵上静止或滚动显示。</translation>
+    </message>
+    <message>
+        <source>A little darker: hardly to be seen, for normal work.</source>
+        <translation>略微变暗：几乎看不出来，适合日常工作。</translation>
     </message>
     <message>
         <source>A quarter of the screen&apos;s width: hides least of the first input.</source>
@@ -334,6 +358,10 @@
     <message>
         <source>AdobeRGB(D50)</source>
         <translation>AdobeRGB(D50)</translation>
+    </message>
+    <message>
+        <source>After how many hours of use the next care is due.</source>
+        <translation>使用多少小时后需要下一次护理。</translation>
     </message>
     <message>
         <source>Alignment</source>
@@ -516,6 +544,10 @@
         <translation>右下</translation>
     </message>
     <message>
+        <source>Boundary</source>
+        <translation>边界</translation>
+    </message>
+    <message>
         <source>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = when needed.</source>
         <translation>提亮昏暗的场景。“等级 1”和“等级 2”始终生效，“自动 L1”和“自动 L2”随画面调整。</translation>
     </message>
@@ -574,6 +606,58 @@
     <message>
         <source>Care Content</source>
         <translation>护理内容</translation>
+    </message>
+    <message>
+        <source>Care Due</source>
+        <translation>需要护理</translation>
+    </message>
+    <message>
+        <source>Care Interval</source>
+        <translation>护理间隔</translation>
+    </message>
+    <message>
+        <source>Care Mode</source>
+        <translation>护理模式</translation>
+    </message>
+    <message>
+        <source>Care Plan</source>
+        <translation>护理计划</translation>
+    </message>
+    <message>
+        <source>Care Reminder</source>
+        <translation>护理提醒</translation>
+    </message>
+    <message>
+        <source>Care Running</source>
+        <translation>正在护理</translation>
+    </message>
+    <message>
+        <source>Care begins only when you start it.</source>
+        <translation>只有您启动时才会护理。</translation>
+    </message>
+    <message>
+        <source>Care evens out how the pixels have aged, so that no picture stays visible. It takes about 6 minutes.</source>
+        <translation>护理使像素的老化趋于一致，不留残影。约需 6 分钟。</translation>
+    </message>
+    <message>
+        <source>Care is due.</source>
+        <translation>需要护理了。</translation>
+    </message>
+    <message>
+        <source>Care is due. The picture goes black for about 6 minutes.</source>
+        <translation>需要护理了。画面会变黑约 6 分钟。</translation>
+    </message>
+    <message>
+        <source>Care is due: the monitor begins when it goes to standby.</source>
+        <translation>需要护理了：显示器进入待机时会自动开始。</translation>
+    </message>
+    <message>
+        <source>Care is running. Leave the monitor on until the picture is back.</source>
+        <translation>正在护理。画面恢复前请勿关闭显示器。</translation>
+    </message>
+    <message>
+        <source>Care takes about 6 minutes, in which the picture is black. It evens out how the pixels have aged; nothing that is open is lost.</source>
+        <translation>护理约需 6 分钟，其间画面为黑色。它使像素的老化趋于一致；已打开的内容不会丢失。</translation>
     </message>
     <message>
         <source>Caret</source>
@@ -780,8 +864,40 @@
         <translation>桌面</translation>
     </message>
     <message>
+        <source>Desktop Reminder</source>
+        <translation>桌面提醒</translation>
+    </message>
+    <message>
+        <source>Detection Rate</source>
+        <translation>检测速度</translation>
+    </message>
+    <message>
+        <source>Dims after a few minutes without a change.</source>
+        <translation>画面几分钟没有变化后变暗。</translation>
+    </message>
+    <message>
+        <source>Dims signs that stand still, such as a station&apos;s logo. Close = off; Low to High are stronger in turn.</source>
+        <translation>使静止的图标变暗，例如电视台的台标。关闭 = 不启用；从低到高依次增强。</translation>
+    </message>
+    <message>
+        <source>Dims soon: spares the panel most.</source>
+        <translation>很快变暗：最能保护面板。</translation>
+    </message>
+    <message>
+        <source>Dims the border between bright and dark, as beside black bars. Close = off; Low to High are stronger in turn.</source>
+        <translation>使明暗交界处变暗，例如黑边旁。关闭 = 不启用；从低到高依次增强。</translation>
+    </message>
+    <message>
         <source>Dims the light behind dark parts, so that black is deeper. Close = off; the others are stronger in turn.</source>
         <translation>调暗画面暗部的背光，让黑色更深。各选项的效果依次增强。</translation>
+    </message>
+    <message>
+        <source>Dims the screen while nothing moves. Detection Rate is how soon it notices that.</source>
+        <translation>画面静止时使屏幕变暗。检测速度决定多快察觉。</translation>
+    </message>
+    <message>
+        <source>Dims the taskbar, which always stands in one place. Close = off; Low to High are stronger in turn.</source>
+        <translation>使始终停在一处的任务栏变暗。关闭 = 不启用；从低到高依次增强。</translation>
     </message>
     <message>
         <source>Display P3</source>
@@ -942,6 +1058,10 @@
     <message>
         <source>Falling Peaks</source>
         <translation>峰值回落</translation>
+    </message>
+    <message>
+        <source>Fast</source>
+        <translation>快</translation>
     </message>
     <message>
         <source>File is null.</source>
@@ -1248,6 +1368,14 @@
         <translation>I/O 设置</translation>
     </message>
     <message>
+        <source>ISP</source>
+        <translation>ISP</translation>
+    </message>
+    <message>
+        <source>Image sticking protection: clears what a picture leaves behind as soon as it is gone.</source>
+        <translation>残影防护：画面消失后立即清除其残留。</translation>
+    </message>
+    <message>
         <source>Import Aligned</source>
         <translation>对齐导入</translation>
     </message>
@@ -1332,12 +1460,20 @@
         <translation>大</translation>
     </message>
     <message>
+        <source>Last care: %1</source>
+        <translation>上次护理：%1</translation>
+    </message>
+    <message>
         <source>Last errors</source>
         <translation>最近的错误</translation>
     </message>
     <message>
         <source>Last requests to the monitor</source>
         <translation>最近发给显示器的请求</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>稍后</translation>
     </message>
     <message>
         <source>Leaves the target free but for its very middle.</source>
@@ -1386,6 +1522,10 @@
     <message>
         <source>Light Sensor</source>
         <translation>光线感应</translation>
+    </message>
+    <message>
+        <source>Lighter = used longer that day, ring = cared for.</source>
+        <translation>越亮 = 当天使用越久，圆环 = 做过护理。</translation>
     </message>
     <message>
         <source>Listening…</source>
@@ -1470,6 +1610,10 @@
     <message>
         <source>Makes what moves look sharper. Close = off; Low to High and Ull-Level1 to 3 are stronger in turn.</source>
         <translation>让运动画面更清晰。从“低”到“高”以及“Ull 等级 1”到“Ull 等级 3”，效果依次增强。</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>手动</translation>
     </message>
     <message>
         <source>Matches notebooks with a Display P3 screen.</source>
@@ -1584,12 +1728,32 @@
         <translation>滚动方式</translation>
     </message>
     <message>
+        <source>Moves now and then, for everyday work.</source>
+        <translation>偶尔移动，适合日常工作。</translation>
+    </message>
+    <message>
+        <source>Moves often: for menus and maps that stand still for hours.</source>
+        <translation>经常移动：适合菜单、地图等长时间静止的画面。</translation>
+    </message>
+    <message>
+        <source>Moves seldom: nobody notices it.</source>
+        <translation>很少移动：不会被察觉。</translation>
+    </message>
+    <message>
+        <source>Moves the whole picture by a few pixels now and then, so that edges do not burn in. Close = off.</source>
+        <translation>不时将整个画面移动几个像素，避免边缘烧屏。关闭 = 不启用。</translation>
+    </message>
+    <message>
         <source>Movie</source>
         <translation>电影</translation>
     </message>
     <message>
         <source>Movie Mode</source>
         <translation>电影模式</translation>
+    </message>
+    <message>
+        <source>Much darker: the best protection where the same picture stands for hours.</source>
+        <translation>明显变暗：同一画面停留数小时时保护效果最好。</translation>
     </message>
     <message>
         <source>Multi-window</source>
@@ -1676,6 +1840,10 @@
         <translation>%1 秒无应答</translation>
     </message>
     <message>
+        <source>No care has been seen yet: hours count from the first start of this tool.</source>
+        <translation>尚未见到护理：小时数从首次启动本工具起计算。</translation>
+    </message>
+    <message>
         <source>No file path selected.</source>
         <translation>未选择文件路径。</translation>
     </message>
@@ -1704,12 +1872,20 @@
         <translation>无。</translation>
     </message>
     <message>
+        <source>Normal</source>
+        <translation>标准</translation>
+    </message>
+    <message>
         <source>Not told: %1</source>
         <translation>未读到：%1</translation>
     </message>
     <message>
         <source>Nothing above the point: for shots that fall.</source>
         <translation>瞄准点上方没有遮挡，适合有下坠的弹道。</translation>
+    </message>
+    <message>
+        <source>Nothing is dimmed.</source>
+        <translation>不会变暗。</translation>
     </message>
     <message>
         <source>Nothing is heard: no program plays, or the sound output is gone.</source>
@@ -1858,6 +2034,10 @@
     <message>
         <source>Picture in picture: a second input in a small window over the first, to keep an eye on another computer.</source>
         <translation>画中画：第二路输入显示在小窗口里，叠在第一路之上，便于留意另一台电脑。</translation>
+    </message>
+    <message>
+        <source>Pixel Shift</source>
+        <translation>像素移位</translation>
     </message>
     <message>
         <source>Pixels change faster and motion smears less. Close = off, Topspeed = fastest, which may leave bright edges.</source>
@@ -2344,6 +2524,18 @@
         <translation>静止</translation>
     </message>
     <message>
+        <source>Start care</source>
+        <translation>开始护理</translation>
+    </message>
+    <message>
+        <source>Static Icon</source>
+        <translation>静态图标</translation>
+    </message>
+    <message>
+        <source>Still Picture</source>
+        <translation>静止画面</translation>
+    </message>
+    <message>
         <source>Stop service</source>
         <translation>停止服务</translation>
     </message>
@@ -2398,6 +2590,10 @@
     <message>
         <source>Tapering</source>
         <translation>锥形</translation>
+    </message>
+    <message>
+        <source>Taskbar</source>
+        <translation>任务栏</translation>
     </message>
     <message>
         <source>Template</source>
@@ -2532,6 +2728,10 @@
         <translation>显示器不再应答，直到松开按钮</translation>
     </message>
     <message>
+        <source>The monitor begins by itself when it goes to standby.</source>
+        <translation>显示器进入待机时自动开始。</translation>
+    </message>
+    <message>
         <source>The monitor comes on faster, but needs more power while it is off.</source>
         <translation>显示器开启更快，但关闭时耗电略多。</translation>
     </message>
@@ -2564,12 +2764,20 @@
         <translation>尚未从显示器读取此值。</translation>
     </message>
     <message>
+        <source>The monitor has not told when the next care is due.</source>
+        <translation>显示器尚未告知下次护理的时间。</translation>
+    </message>
+    <message>
         <source>The monitor has not told yet which functions it has.</source>
         <translation>显示器尚未告知它有哪些功能。</translation>
     </message>
     <message>
         <source>The monitor is changing its scene mode.</source>
         <translation>显示器正在切换情景模式。</translation>
+    </message>
+    <message>
+        <source>The monitor itself says on the screen that care is due.</source>
+        <translation>需要护理时，由显示器自己在屏幕上提示。</translation>
     </message>
     <message>
         <source>The monitor keeps pace with the game: no torn or jerky pictures. Game Rush must be off.</source>
@@ -2586,6 +2794,10 @@
     <message>
         <source>The monitor uses less power. Close = off, Level2 saves the most.</source>
         <translation>让显示器更省电。“等级 2”最省电。</translation>
+    </message>
+    <message>
+        <source>The next care is due after %1 more hours of use.</source>
+        <translation>再使用 %1 小时后需要下一次护理。</translation>
     </message>
     <message>
         <source>The next client is not initialised</source>
@@ -2606,6 +2818,14 @@
     <message>
         <source>The picture as the factory set it.</source>
         <translation>出厂设定的画面。</translation>
+    </message>
+    <message>
+        <source>The picture goes black for about 6 minutes, and the monitor must stay on. Begin now?</source>
+        <translation>画面会变黑约 6 分钟，其间请勿关闭显示器。现在开始吗？</translation>
+    </message>
+    <message>
+        <source>The picture stays where it is.</source>
+        <translation>画面保持不动。</translation>
     </message>
     <message>
         <source>The program could not be restarted. It goes on as it was.</source>
@@ -2740,6 +2960,10 @@
         <translation>色温选为“夜间色温”时，此滑块才起作用。</translation>
     </message>
     <message>
+        <source>This tool says on the desktop that care is due: never over a program that fills the screen.</source>
+        <translation>需要护理时，由本工具在桌面上提示；绝不遮挡全屏程序。</translation>
+    </message>
+    <message>
         <source>Time</source>
         <translation>时间</translation>
     </message>
@@ -2868,6 +3092,10 @@
         <translation>上传</translation>
     </message>
     <message>
+        <source>Use and care of the last five weeks</source>
+        <translation>最近五周的使用与护理</translation>
+    </message>
+    <message>
         <source>User1</source>
         <translation>用户 1</translation>
     </message>
@@ -2912,12 +3140,20 @@
         <translation>上一个值</translation>
     </message>
     <message>
+        <source>Visibly darker, for long days with the same windows.</source>
+        <translation>明显变暗，适合整天使用相同的窗口。</translation>
+    </message>
+    <message>
         <source>Vivid colours for animation.</source>
         <translation>色彩鲜艳，适合动画。</translation>
     </message>
     <message>
         <source>Volume</source>
         <translation>音量</translation>
+    </message>
+    <message>
+        <source>Waits long before it dims: good for reading.</source>
+        <translation>等待较久才变暗：适合阅读。</translation>
     </message>
     <message>
         <source>Warning</source>

@@ -52,6 +52,14 @@
         <translation>%1 中沒有已儲存的繪圖。在您儲存之前，該檔案維持不變。</translation>
     </message>
     <message>
+        <source>%1 hours of use counted</source>
+        <translation>已累計使用 %1 小時</translation>
+    </message>
+    <message>
+        <source>%1 hours of use since the last care</source>
+        <translation>上次保養後已使用 %1 小時</translation>
+    </message>
+    <message>
         <source>%1 in all, %2 by itself today</source>
         <translation>共 %1 次，今日自動 %2 次</translation>
     </message>
@@ -152,6 +160,10 @@
         <translation>10 分鐘前</translation>
     </message>
     <message>
+        <source>12 Hour</source>
+        <translation>12 小時</translation>
+    </message>
+    <message>
         <source>15 min</source>
         <translation>15 分鐘</translation>
     </message>
@@ -178,6 +190,10 @@
     <message>
         <source>2.6</source>
         <translation>2.6</translation>
+    </message>
+    <message>
+        <source>24 Hour</source>
+        <translation>24 小時</translation>
     </message>
     <message>
         <source>3 Hour</source>
@@ -240,6 +256,10 @@
         <translation>7500K</translation>
     </message>
     <message>
+        <source>8 Hour</source>
+        <translation>8 小時</translation>
+    </message>
+    <message>
         <source>8.1G</source>
         <translation>8.1G</translation>
     </message>
@@ -270,6 +290,10 @@
     <message>
         <source>A line of text that the matrix shows, standing or scrolling.</source>
         <translation>一行文字，在矩陣上靜止或捲動顯示。</translation>
+    </message>
+    <message>
+        <source>A little darker: hardly to be seen, for normal work.</source>
+        <translation>略微變暗：幾乎看不出來，適合日常工作。</translation>
     </message>
     <message>
         <source>A quarter of the screen&apos;s width: hides least of the first input.</source>
@@ -334,6 +358,10 @@
     <message>
         <source>AdobeRGB(D50)</source>
         <translation>AdobeRGB(D50)</translation>
+    </message>
+    <message>
+        <source>After how many hours of use the next care is due.</source>
+        <translation>使用多少小時後需要下一次保養。</translation>
     </message>
     <message>
         <source>Alignment</source>
@@ -516,6 +544,10 @@
         <translation>右下</translation>
     </message>
     <message>
+        <source>Boundary</source>
+        <translation>邊界</translation>
+    </message>
+    <message>
         <source>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = when needed.</source>
         <translation>提亮昏暗的場景。「等級 1」和「等級 2」持續生效，「自動 L1」和「自動 L2」隨畫面調整。</translation>
     </message>
@@ -574,6 +606,58 @@
     <message>
         <source>Care Content</source>
         <translation>保養內容</translation>
+    </message>
+    <message>
+        <source>Care Due</source>
+        <translation>需要保養</translation>
+    </message>
+    <message>
+        <source>Care Interval</source>
+        <translation>保養間隔</translation>
+    </message>
+    <message>
+        <source>Care Mode</source>
+        <translation>保養模式</translation>
+    </message>
+    <message>
+        <source>Care Plan</source>
+        <translation>保養計畫</translation>
+    </message>
+    <message>
+        <source>Care Reminder</source>
+        <translation>保養提醒</translation>
+    </message>
+    <message>
+        <source>Care Running</source>
+        <translation>正在保養</translation>
+    </message>
+    <message>
+        <source>Care begins only when you start it.</source>
+        <translation>只有您啟動時才會保養。</translation>
+    </message>
+    <message>
+        <source>Care evens out how the pixels have aged, so that no picture stays visible. It takes about 6 minutes.</source>
+        <translation>保養使像素的老化趨於一致，不留殘影。約需 6 分鐘。</translation>
+    </message>
+    <message>
+        <source>Care is due.</source>
+        <translation>需要保養了。</translation>
+    </message>
+    <message>
+        <source>Care is due. The picture goes black for about 6 minutes.</source>
+        <translation>需要保養了。畫面會變黑約 6 分鐘。</translation>
+    </message>
+    <message>
+        <source>Care is due: the monitor begins when it goes to standby.</source>
+        <translation>需要保養了：顯示器進入待機時會自動開始。</translation>
+    </message>
+    <message>
+        <source>Care is running. Leave the monitor on until the picture is back.</source>
+        <translation>正在保養。畫面恢復前請勿關閉顯示器。</translation>
+    </message>
+    <message>
+        <source>Care takes about 6 minutes, in which the picture is black. It evens out how the pixels have aged; nothing that is open is lost.</source>
+        <translation>保養約需 6 分鐘，其間畫面為黑色。它使像素的老化趨於一致；已開啟的內容不會遺失。</translation>
     </message>
     <message>
         <source>Caret</source>
@@ -780,8 +864,40 @@
         <translation>桌面</translation>
     </message>
     <message>
+        <source>Desktop Reminder</source>
+        <translation>桌面提醒</translation>
+    </message>
+    <message>
+        <source>Detection Rate</source>
+        <translation>偵測速度</translation>
+    </message>
+    <message>
+        <source>Dims after a few minutes without a change.</source>
+        <translation>畫面幾分鐘沒有變化後變暗。</translation>
+    </message>
+    <message>
+        <source>Dims signs that stand still, such as a station&apos;s logo. Close = off; Low to High are stronger in turn.</source>
+        <translation>使靜止的圖示變暗，例如電視台的台標。關閉 = 不啟用；從低到高依次增強。</translation>
+    </message>
+    <message>
+        <source>Dims soon: spares the panel most.</source>
+        <translation>很快變暗：最能保護面板。</translation>
+    </message>
+    <message>
+        <source>Dims the border between bright and dark, as beside black bars. Close = off; Low to High are stronger in turn.</source>
+        <translation>使明暗交界處變暗，例如黑邊旁。關閉 = 不啟用；從低到高依次增強。</translation>
+    </message>
+    <message>
         <source>Dims the light behind dark parts, so that black is deeper. Close = off; the others are stronger in turn.</source>
         <translation>調暗畫面暗部的背光，讓黑色更深。各選項的效果依序增強。</translation>
+    </message>
+    <message>
+        <source>Dims the screen while nothing moves. Detection Rate is how soon it notices that.</source>
+        <translation>畫面靜止時使螢幕變暗。偵測速度決定多快察覺。</translation>
+    </message>
+    <message>
+        <source>Dims the taskbar, which always stands in one place. Close = off; Low to High are stronger in turn.</source>
+        <translation>使始終停在一處的工作列變暗。關閉 = 不啟用；從低到高依次增強。</translation>
     </message>
     <message>
         <source>Display P3</source>
@@ -942,6 +1058,10 @@
     <message>
         <source>Falling Peaks</source>
         <translation>峰值回落</translation>
+    </message>
+    <message>
+        <source>Fast</source>
+        <translation>快</translation>
     </message>
     <message>
         <source>File is null.</source>
@@ -1248,6 +1368,14 @@
         <translation>I/O 設定</translation>
     </message>
     <message>
+        <source>ISP</source>
+        <translation>ISP</translation>
+    </message>
+    <message>
+        <source>Image sticking protection: clears what a picture leaves behind as soon as it is gone.</source>
+        <translation>殘影防護：畫面消失後立即清除其殘留。</translation>
+    </message>
+    <message>
         <source>Import Aligned</source>
         <translation>對齊匯入</translation>
     </message>
@@ -1332,12 +1460,20 @@
         <translation>大</translation>
     </message>
     <message>
+        <source>Last care: %1</source>
+        <translation>上次保養：%1</translation>
+    </message>
+    <message>
         <source>Last errors</source>
         <translation>最近的錯誤</translation>
     </message>
     <message>
         <source>Last requests to the monitor</source>
         <translation>最近傳給顯示器的要求</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>稍後</translation>
     </message>
     <message>
         <source>Leaves the target free but for its very middle.</source>
@@ -1386,6 +1522,10 @@
     <message>
         <source>Light Sensor</source>
         <translation>光線感應</translation>
+    </message>
+    <message>
+        <source>Lighter = used longer that day, ring = cared for.</source>
+        <translation>越亮 = 當天使用越久，圓環 = 做過保養。</translation>
     </message>
     <message>
         <source>Listening…</source>
@@ -1470,6 +1610,10 @@
     <message>
         <source>Makes what moves look sharper. Close = off; Low to High and Ull-Level1 to 3 are stronger in turn.</source>
         <translation>讓動態畫面更清晰。從「低」到「高」以及「Ull 等級 1」到「Ull 等級 3」，效果依序增強。</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>手動</translation>
     </message>
     <message>
         <source>Matches notebooks with a Display P3 screen.</source>
@@ -1584,12 +1728,32 @@
         <translation>捲動方式</translation>
     </message>
     <message>
+        <source>Moves now and then, for everyday work.</source>
+        <translation>偶爾移動，適合日常工作。</translation>
+    </message>
+    <message>
+        <source>Moves often: for menus and maps that stand still for hours.</source>
+        <translation>經常移動：適合選單、地圖等長時間靜止的畫面。</translation>
+    </message>
+    <message>
+        <source>Moves seldom: nobody notices it.</source>
+        <translation>很少移動：不會被察覺。</translation>
+    </message>
+    <message>
+        <source>Moves the whole picture by a few pixels now and then, so that edges do not burn in. Close = off.</source>
+        <translation>不時將整個畫面移動幾個像素，避免邊緣烙印。關閉 = 不啟用。</translation>
+    </message>
+    <message>
         <source>Movie</source>
         <translation>電影</translation>
     </message>
     <message>
         <source>Movie Mode</source>
         <translation>電影模式</translation>
+    </message>
+    <message>
+        <source>Much darker: the best protection where the same picture stands for hours.</source>
+        <translation>明顯變暗：同一畫面停留數小時時保護效果最好。</translation>
     </message>
     <message>
         <source>Multi-window</source>
@@ -1676,6 +1840,10 @@
         <translation>%1 秒無回應</translation>
     </message>
     <message>
+        <source>No care has been seen yet: hours count from the first start of this tool.</source>
+        <translation>尚未見到保養：小時數從首次啟動本工具起計算。</translation>
+    </message>
+    <message>
         <source>No file path selected.</source>
         <translation>未選擇檔案路徑。</translation>
     </message>
@@ -1704,12 +1872,20 @@
         <translation>無。</translation>
     </message>
     <message>
+        <source>Normal</source>
+        <translation>標準</translation>
+    </message>
+    <message>
         <source>Not told: %1</source>
         <translation>未讀到：%1</translation>
     </message>
     <message>
         <source>Nothing above the point: for shots that fall.</source>
         <translation>瞄準點上方沒有遮擋，適合有下墜的彈道。</translation>
+    </message>
+    <message>
+        <source>Nothing is dimmed.</source>
+        <translation>不會變暗。</translation>
     </message>
     <message>
         <source>Nothing is heard: no program plays, or the sound output is gone.</source>
@@ -1858,6 +2034,10 @@
     <message>
         <source>Picture in picture: a second input in a small window over the first, to keep an eye on another computer.</source>
         <translation>子母畫面：第二路輸入顯示在小視窗裡，疊在第一路之上，便於留意另一台電腦。</translation>
+    </message>
+    <message>
+        <source>Pixel Shift</source>
+        <translation>像素位移</translation>
     </message>
     <message>
         <source>Pixels change faster and motion smears less. Close = off, Topspeed = fastest, which may leave bright edges.</source>
@@ -2344,6 +2524,18 @@
         <translation>靜止</translation>
     </message>
     <message>
+        <source>Start care</source>
+        <translation>開始保養</translation>
+    </message>
+    <message>
+        <source>Static Icon</source>
+        <translation>靜態圖示</translation>
+    </message>
+    <message>
+        <source>Still Picture</source>
+        <translation>靜止畫面</translation>
+    </message>
+    <message>
         <source>Stop service</source>
         <translation>停止服務</translation>
     </message>
@@ -2398,6 +2590,10 @@
     <message>
         <source>Tapering</source>
         <translation>錐形</translation>
+    </message>
+    <message>
+        <source>Taskbar</source>
+        <translation>工作列</translation>
     </message>
     <message>
         <source>Template</source>
@@ -2532,6 +2728,10 @@
         <translation>顯示器不再回應，直到放開按鈕</translation>
     </message>
     <message>
+        <source>The monitor begins by itself when it goes to standby.</source>
+        <translation>顯示器進入待機時自動開始。</translation>
+    </message>
+    <message>
         <source>The monitor comes on faster, but needs more power while it is off.</source>
         <translation>顯示器開啟更快，但關閉時耗電略多。</translation>
     </message>
@@ -2564,12 +2764,20 @@
         <translation>尚未從顯示器讀取此值。</translation>
     </message>
     <message>
+        <source>The monitor has not told when the next care is due.</source>
+        <translation>顯示器尚未告知下次保養的時間。</translation>
+    </message>
+    <message>
         <source>The monitor has not told yet which functions it has.</source>
         <translation>顯示器尚未告知它有哪些功能。</translation>
     </message>
     <message>
         <source>The monitor is changing its scene mode.</source>
         <translation>顯示器正在切換情境模式。</translation>
+    </message>
+    <message>
+        <source>The monitor itself says on the screen that care is due.</source>
+        <translation>需要保養時，由顯示器自己在螢幕上提示。</translation>
     </message>
     <message>
         <source>The monitor keeps pace with the game: no torn or jerky pictures. Game Rush must be off.</source>
@@ -2586,6 +2794,10 @@
     <message>
         <source>The monitor uses less power. Close = off, Level2 saves the most.</source>
         <translation>讓顯示器更省電。「等級 2」最省電。</translation>
+    </message>
+    <message>
+        <source>The next care is due after %1 more hours of use.</source>
+        <translation>再使用 %1 小時後需要下一次保養。</translation>
     </message>
     <message>
         <source>The next client is not initialised</source>
@@ -2606,6 +2818,14 @@
     <message>
         <source>The picture as the factory set it.</source>
         <translation>原廠設定的畫面。</translation>
+    </message>
+    <message>
+        <source>The picture goes black for about 6 minutes, and the monitor must stay on. Begin now?</source>
+        <translation>畫面會變黑約 6 分鐘，其間請勿關閉顯示器。現在開始嗎？</translation>
+    </message>
+    <message>
+        <source>The picture stays where it is.</source>
+        <translation>畫面保持不動。</translation>
     </message>
     <message>
         <source>The program could not be restarted. It goes on as it was.</source>
@@ -2740,6 +2960,10 @@
         <translation>色溫選為「夜間色溫」時，此滑桿才有作用。</translation>
     </message>
     <message>
+        <source>This tool says on the desktop that care is due: never over a program that fills the screen.</source>
+        <translation>需要保養時，由本工具在桌面上提示；絕不遮住全螢幕的應用程式。</translation>
+    </message>
+    <message>
         <source>Time</source>
         <translation>時間</translation>
     </message>
@@ -2868,6 +3092,10 @@
         <translation>上傳</translation>
     </message>
     <message>
+        <source>Use and care of the last five weeks</source>
+        <translation>最近五週的使用與保養</translation>
+    </message>
+    <message>
         <source>User1</source>
         <translation>使用者 1</translation>
     </message>
@@ -2912,12 +3140,20 @@
         <translation>上一個值</translation>
     </message>
     <message>
+        <source>Visibly darker, for long days with the same windows.</source>
+        <translation>明顯變暗，適合整天使用相同的視窗。</translation>
+    </message>
+    <message>
         <source>Vivid colours for animation.</source>
         <translation>色彩鮮豔，適合動畫。</translation>
     </message>
     <message>
         <source>Volume</source>
         <translation>音量</translation>
+    </message>
+    <message>
+        <source>Waits long before it dims: good for reading.</source>
+        <translation>等待較久才變暗：適合閱讀。</translation>
     </message>
     <message>
         <source>Warning</source>

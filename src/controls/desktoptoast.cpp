@@ -21,9 +21,14 @@ static constexpr int kBarRoom = 16; // for the bar below the text; a note withou
 static constexpr int kBarHeight = 6;
 
 DesktopToast::DesktopToast(QWidget *parent)
-    : QWidget(parent, Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::WindowDoesNotAcceptFocus |
-                          Qt::WindowTransparentForInput),
-      m_title(new CaptionLabel(QString(), QFontInfo(noteFont).pixelSize(), this)), m_text(new QLabel(this))
+    : DesktopToast(parent, Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
+                               Qt::WindowDoesNotAcceptFocus | Qt::WindowTransparentForInput)
+{
+}
+
+DesktopToast::DesktopToast(QWidget *parent, Qt::WindowFlags flags)
+    : QWidget(parent, flags), m_title(new CaptionLabel(QString(), QFontInfo(noteFont).pixelSize(), this)),
+      m_text(new QLabel(this))
 {
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_TranslucentBackground);
@@ -36,6 +41,11 @@ DesktopToast::DesktopToast(QWidget *parent)
     column->addWidget(m_title);
     column->addWidget(m_text);
     setFixedWidth(kWidth);
+}
+
+void DesktopToast::addBelow(QLayout *part)
+{
+    static_cast<QVBoxLayout *>(layout())->addLayout(part);
 }
 
 void DesktopToast::showNote(const QString &title, const QString &text, std::optional<double> level)

@@ -6,6 +6,7 @@
 
 class CaptionLabel;
 class QLabel;
+class QLayout;
 class QPainter;
 
 /// A small note in the corner of the desktop, of one shape whatever it says: only a text of several lines makes it
@@ -24,6 +25,12 @@ public:
     std::optional<double> level() const { return m_level; }
 
 protected:
+    /// For notes that are more than looked at.
+    DesktopToast(QWidget *parent, Qt::WindowFlags flags);
+
+    /// Puts something below the text.
+    void addBelow(QLayout *part);
+
     void paintEvent(QPaintEvent *event) override;
 
 private:

@@ -11,25 +11,24 @@
 
 namespace {
 
-constexpr char kCare[] = LABEL("Oled Care");
 constexpr char kUser[] = LABEL("Color Temperature");
 constexpr char kHue[] = LABEL("Hue");
 constexpr char kSaturation[] = LABEL("Saturation");
 
 constexpr CommandName kNames[] = {
-    {Command::PixelShift, kCare, Capability::OledPanel},
-    {Command::StillPicture, kCare, Capability::OledPanel},
-    {Command::DetectionRate, kCare, Capability::OledPanel},
-    {Command::StaticIcon, kCare, Capability::OledPanel},
-    {Command::CareRunning, kCare, Capability::OledPanel},
-    {Command::Taskbar, kCare, Capability::OledPanel},
-    {Command::Boundary, kCare, Capability::OledPanel},
-    {Command::CareDue, kCare, Capability::OledPanel},
-    {Command::CareReminder, kCare, Capability::OledPanel},
-    {Command::CareMode, kCare, Capability::OledPanel},
-    {Command::CareInterval, kCare, Capability::OledPanel},
-    {Command::CareIsp, kCare, Capability::OledPanel},
-    {Command::CareNow, kCare, Capability::OledPanel},
+    {Command::PixelShift, LABEL("Pixel Shift"), Capability::OledPanel},
+    {Command::StillPicture, LABEL("Still Picture"), Capability::OledPanel},
+    {Command::DetectionRate, LABEL("Detection Rate"), Capability::OledPanel},
+    {Command::StaticIcon, LABEL("Static Icon"), Capability::OledPanel},
+    {Command::CareRunning, LABEL("Care Running"), Capability::OledPanel},
+    {Command::Taskbar, LABEL("Taskbar"), Capability::OledPanel},
+    {Command::Boundary, LABEL("Boundary"), Capability::OledPanel},
+    {Command::CareDue, LABEL("Care Due"), Capability::OledPanel},
+    {Command::CareReminder, LABEL("Care Reminder"), Capability::OledPanel},
+    {Command::CareMode, LABEL("Care Mode"), Capability::OledPanel},
+    {Command::CareInterval, LABEL("Care Interval"), Capability::OledPanel},
+    {Command::CareIsp, LABEL("ISP"), Capability::OledPanel},
+    {Command::CareNow, LABEL("Start care"), Capability::OledPanel},
     {Command::Brightness, LABEL("Brightness")},
     {Command::Contrast, LABEL("Contrast")},
     {Command::ColorTemperature, LABEL("Color Temperature")},

@@ -2,7 +2,6 @@
 
 #include <QStackedWidget>
 
-#include "ddc_protocol/devicestate.h"
 #include "page/BasicSetting/pagepcsetting.h"
 #include "page/BasicSetting/pageservicessetting.h"
 #include "page/BasicSetting/pagesystemsetting.h"
@@ -11,6 +10,7 @@
 #include "page/IO/pageiosetting.h"
 #include "page/MultiWindow/pagemultiwindow.h"
 #include "page/Office/pageoffice.h"
+#include "page/OledCare/pageoledcare.h"
 #include "page/Scene/pagescenesetting.h"
 #include "page/pageset.h"
 
@@ -21,12 +21,12 @@ MonitorPages::MonitorPages(SearchDeviceDlg &session, CommandQueue &queue, PageSe
     connect(system, &pageSystemSetting::resetBegins, this, &MonitorPages::resetBegins);
     pages.add(PageId::Scene, m_scene);
     pages.add(PageId::Office, new PageOffice(queue, stack));
-    if (deviceState.has(Capability::GameFunctions))
-        pages.add(PageId::GameAssistant, new pageGameAssistant(queue, stack));
+    pages.add(PageId::GameAssistant, new pageGameAssistant(queue, stack));
     pages.add(PageId::PictureEnhance, new pagePictureEnhanc(queue, stack));
     pages.add(PageId::SystemSetting, system);
     pages.add(PageId::ToolSetting, new pagePCSetting(session, queue, stack));
     pages.add(PageId::ServicesSetting, new pageServicesSetting(queue, stack));
     pages.add(PageId::IoSetting, new pageIOSetting(queue, stack));
+    pages.add(PageId::OledCare, new pageOledCare(queue, stack));
     pages.add(PageId::MultiWindow, new pageMultiWindow(queue, stack));
 }

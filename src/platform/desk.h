@@ -9,6 +9,7 @@
 #include "platform/globalkeys.h"
 #include "platform/hid.h"
 #include "platform/monitorconfiguration.h"
+#include "platform/presence.h"
 #include "platform/process.h"
 #include "platform/startup.h"
 
@@ -28,6 +29,7 @@ public:
     virtual DeviceNotifications &deviceNotifications() = 0;
     virtual GlobalKeys &globalKeys() = 0;
     virtual Foreground &foreground() = 0;
+    virtual Presence &presence() = 0;
     virtual Hid &hid() = 0;
     virtual AudioCapture &audio() = 0;
     virtual Clock &clock() = 0;

@@ -41,8 +41,9 @@ void Applications::setList(std::vector<Application> list)
 
 void Applications::bringToFront(std::size_t index)
 {
+    m_front = token(kWindow, index);
     if (kForegroundEvent >= m_first && kForegroundEvent <= m_last)
-        raiseEvent(kForegroundEvent, token(kWindow, index));
+        raiseEvent(kForegroundEvent, m_front);
 }
 
 void Applications::raiseEvent(std::uint32_t event, void *window) const

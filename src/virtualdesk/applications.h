@@ -32,6 +32,9 @@ public:
     /// Brings a program to the front, also one that is there already: whoever hooked the event is called.
     void bringToFront(std::size_t index);
 
+    /// The window in front; null before any was.
+    void *frontWindow() const { return m_front; }
+
     /// An event of any kind and window, as the system might send it.
     void raiseEvent(std::uint32_t event, void *window) const;
 
@@ -58,6 +61,7 @@ private:
     std::uint32_t m_first = 0;
     std::uint32_t m_last = 0;
     Hook m_hook = nullptr;
+    void *m_front = nullptr;
     int m_processesOpen = 0;
     int m_titlesRead = 0;
 };

@@ -54,6 +54,15 @@ AccessorySetup readAccessory(ScriptObject object)
     return accessory;
 }
 
+UserSetup readUser(ScriptObject object)
+{
+    UserSetup user;
+    user.idle = object.wait("idle_ms");
+    object.number("notification_state", user.notificationState, 1, 7);
+    object.finish();
+    return user;
+}
+
 Topology readTopology(ScriptObject &root)
 {
     const QJsonValue value = root.take("topology");
@@ -106,6 +115,8 @@ DeskSetup readSetup(ScriptObject root)
     readEvents(root, setup);
     if (root.has("accessory"))
         setup.accessory = readAccessory(root.inside(root.take("accessory")));
+    if (root.has("user"))
+        setup.user = readUser(root.inside(root.take("user")));
     setup.topology = readTopology(root);
     readLatency(root, setup.readLatency, setup.writeLatency);
     root.flag("administrator", setup.administrator);

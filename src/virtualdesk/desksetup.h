@@ -61,6 +61,13 @@ struct AccessorySetup
     int unplugAtWrite = 0;
 };
 
+/// Who sits at the desk, as the system tells it.
+struct UserSetup
+{
+    std::chrono::milliseconds idle{0}; ///< since the last key or movement
+    int notificationState = 5;         ///< as Windows counts them: 2 and 3 a program fills the screen, 5 nothing does
+};
+
 /// How the active display paths follow from the plugged monitors.
 enum class Topology {
     Natural, ///< one path a monitor; those of one display share its source
@@ -81,6 +88,7 @@ struct DeskSetup
     bool administrator = true;
     bool startUpWritable = true; ///< whether what starts at log-on may be changed
     int runasResult = 42;        ///< above 32: the elevated process was started
+    UserSetup user;
     EndpointSetup sound;
     std::vector<AudioFault> audioFaults;
 };

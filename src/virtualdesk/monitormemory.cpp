@@ -9,9 +9,17 @@ namespace virtualdesk {
 
 namespace {
 
+constexpr int kCareSeconds = 6 * 60;
+
 bool isReadOnly(std::uint8_t code)
 {
     return code == kCapabilityCode || code == kFirmwareCode || code == kOfficeSizeCode;
+}
+
+/// What the monitor alone sets, though it has a value from the factory.
+bool isState(std::uint8_t code)
+{
+    return code == kCareRunningCode || code == kCareDueCode;
 }
 
 bool isCustom(int mode)
@@ -58,11 +66,12 @@ bool MonitorMemory::take(std::uint8_t code, std::uint32_t value)
                            : std::any_of(function.options.begin(), function.options.end(), isOption);
     const bool isNumber = function.options.empty() && code != kSceneCode;
     const bool inRange = !isNumber || value <= function.maximum;
-    if (known && !isReadOnly(code)) {
+    const bool isTaken = known && !isReadOnly(code) && !isState(code);
+    if (isTaken) {
         const std::uint32_t limit = isNumber ? function.maximum : 0xFFFF;
         set(code, static_cast<std::uint16_t>(std::min(value, limit)));
     }
-    return known && inRange && !isReadOnly(code);
+    return isTaken && inRange;
 }
 
 void MonitorMemory::set(std::uint8_t code, std::uint16_t value)
@@ -72,6 +81,10 @@ void MonitorMemory::set(std::uint8_t code, std::uint16_t value)
     if (code == kResetCode)
         return resetToFactory();
     m_values[code] = value;
+    if (code == kCareNowCode && value != 0 && !m_careEnds.isValid()) {
+        m_values[kCareRunningCode] = 1;
+        m_careEnds = m_now.addSecs(kCareSeconds);
+    }
     const int mode = m_values[kSceneCode];
     const auto codes = blockCodes();
     const auto found = std::find(codes.begin(), codes.end(), code);
@@ -79,6 +92,16 @@ void MonitorMemory::set(std::uint8_t code, std::uint16_t value)
     if (found != codes.end() && isCustom(mode))
         m_blocks[static_cast<std::size_t>(mode)][static_cast<std::size_t>(found - codes.begin())] =
             static_cast<std::uint8_t>(value);
+}
+
+void MonitorMemory::passTime(const QDateTime &now)
+{
+    m_now = now;
+    if (!m_careEnds.isValid() || now < m_careEnds)
+        return;
+    m_careEnds = {};
+    for (const std::uint8_t code : {kCareRunningCode, kCareDueCode, kCareNowCode})
+        m_values[code] = 0;
 }
 
 void MonitorMemory::changeScene(int mode)

@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include <QDateTime>
+
 #include "virtualdesk/monitormodel.h"
 #include "virtualdesk/request.h"
 
@@ -16,6 +18,9 @@ public:
     explicit MonitorMemory(const MonitorModel &model);
 
     std::uint16_t value(std::uint8_t code) const { return m_values[code]; }
+
+    /// What time brings: care that was begun is over after six minutes.
+    void passTime(const QDateTime &now);
 
     /// What a read is answered.
     Reply answer(std::uint8_t code) const;
@@ -38,6 +43,8 @@ private:
 
     const MonitorModel &m_model;
     std::array<std::uint16_t, 256> m_values{};
+    QDateTime m_now;
+    QDateTime m_careEnds; ///< invalid while none runs
     std::array<SceneBlock, kLastMode + 1> m_blocks{};
 };
 

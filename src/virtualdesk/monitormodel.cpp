@@ -45,13 +45,6 @@ constexpr SceneTaste kTastes[] = {
     {25, 80, 55, 6, 5, 2, 60, 0}, {27, 72, 55, 6, 5, 3, 60, 0}, {59, 40, 42, 3, 0, 3, 45, 1}};
 constexpr SceneTaste kColorManaged = {0, 48, 50, 4, 3, 3, 50, 0}; // every other mode: a calibrated space
 
-// What only some models have, and the capability that tells so.
-struct BoundCodes
-{
-    std::uint8_t first, last;
-    Capability capability;
-};
-constexpr BoundCodes kBoundCodes[] = {{0x01, 0x0B, OledPanel}, {0x0D, 0x0E, OledPanel}};
 constexpr std::uint8_t kSystemCodes[] = {kSceneCode, kResetCode, kCapabilityCode, kFirmwareCode, kOfficeSizeCode};
 
 int byteOf(std::uint8_t code)
@@ -114,10 +107,6 @@ SceneBlock factoryBlock(int mode)
 
 bool hasFunction(const MonitorModel &model, std::uint8_t code)
 {
-    for (const BoundCodes &bound : kBoundCodes) {
-        if (code >= bound.first && code <= bound.last)
-            return (model.capabilities & bound.capability) != 0;
-    }
     const auto isIn = [code](std::span<const std::uint8_t> codes) {
         return std::find(codes.begin(), codes.end(), code) != codes.end();
     };

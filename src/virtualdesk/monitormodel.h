@@ -46,6 +46,11 @@ inline constexpr std::uint8_t kFirmwareCode = 0xEE;
 /// Its maximum is the office area's horizontal size, its current value the vertical one.
 inline constexpr std::uint8_t kOfficeSizeCode = 0xEF;
 
+// Care of the panel. While it runs the screen is black; when it is over none is due.
+inline constexpr std::uint8_t kCareRunningCode = 0x05;
+inline constexpr std::uint8_t kCareDueCode = 0x08;
+inline constexpr std::uint8_t kCareNowCode = 0x0E;
+
 inline constexpr int kFirstMode = 1;
 inline constexpr int kLastMode = 90;
 inline constexpr int kBlockSize = 40;

@@ -29,6 +29,12 @@ constexpr OsdOption kResponse[] = {
 constexpr OsdOption kHdr[] = {{0, NAME("Close")}, {1, NAME("Auto")}, {2, NAME("Game")}, {3, NAME("Movie")}};
 constexpr OsdOption kNightVision[] = {
     {0, NAME("Close")}, {1, NAME("Level1")}, {2, NAME("Level2")}, {3, NAME("Auto-L1")}, {4, NAME("Auto-L2")}};
+constexpr OsdOption kPixelShift[] = {{0, NAME("Close")}, {1, NAME("Slow")}, {2, NAME("Normal")}, {3, NAME("Fast")}};
+constexpr OsdOption kDetection[] = {{0, NAME("Slow")}, {1, NAME("Normal")}, {2, NAME("Fast")}};
+constexpr OsdOption kDimming[] = {{0, NAME("Close")}, {1, NAME("Low")}, {2, NAME("Medium")}, {3, NAME("High")}};
+constexpr OsdOption kCareMode[] = {{0, NAME("Auto")}, {1, NAME("Manual")}};
+constexpr OsdOption kCareInterval[] = {
+    {0, NAME("4 Hour")}, {1, NAME("8 Hour")}, {2, NAME("12 Hour")}, {3, NAME("24 Hour")}};
 constexpr OsdOption kWindows[] = {{0, NAME("Close")}, {1, NAME("PIP")}, {2, NAME("PBP")}};
 constexpr OsdOption kInsetSize[] = {{0, NAME("Small")}, {1, NAME("Medium")}, {2, NAME("Large")}};
 constexpr OsdOption kInsetPlace[] = {
@@ -152,6 +158,19 @@ constexpr OsdFunction kMenu[] = {
     {0x73, NAME("Playback Level"), 5, 10, {}},
     {0xF8, NAME("Composition"), 0, 5, kComposition},
     {0xF9, NAME("Eyeshield Remind"), 0, 8, kRest},
+    {0x01, NAME("Pixel Shift"), 2, 3, kPixelShift, bit(2)},
+    {0x02, NAME("Still Picture"), 1, 1, kSwitch, bit(2)},
+    {0x03, NAME("Detection Rate"), 1, 2, kDetection, bit(2)},
+    {0x04, NAME("Static Icon"), 1, 3, kDimming, bit(2)},
+    {0x05, NAME("Care Running"), 0, 1, {}, bit(2)},
+    {0x06, NAME("Taskbar"), 1, 3, kDimming, bit(2)},
+    {0x07, NAME("Boundary"), 0, 3, kDimming, bit(2)},
+    {0x08, NAME("Care Due"), 0, 1, {}, bit(2)},
+    {0x09, NAME("Care Reminder"), 1, 1, kSwitch, bit(2)},
+    {0x0A, NAME("Care Mode"), 1, 1, kCareMode, bit(2)},
+    {0x0B, NAME("Care Interval"), 0, 3, kCareInterval, bit(2)},
+    {0x0D, NAME("ISP"), 1, 1, kSwitch, bit(2)},
+    {0x0E, NAME("Start care"), 0, 1, {}, bit(2)},
 };
 
 // Odd value of each mode; the next even one is the same mode with the user's own picture.

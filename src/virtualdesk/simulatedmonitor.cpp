@@ -30,6 +30,7 @@ Reply SimulatedMonitor::request(RequestKind kind, std::uint8_t code, std::uint32
         const std::lock_guard lock(m_mutex);
         if (overlaps)
             m_conversation.countInterleaved();
+        m_memory.passTime(made.time);
         reply = serve(made);
         m_history.push_back(made);
         if (m_history.size() > kHistorySize)
@@ -83,6 +84,7 @@ Reply SimulatedMonitor::serve(Request &request)
 std::uint16_t SimulatedMonitor::value(std::uint8_t code) const
 {
     const std::lock_guard lock(m_mutex);
+    m_memory.passTime(m_clock.now());
     return m_memory.value(code);
 }
 

@@ -133,8 +133,8 @@ private:
     std::atomic<std::int64_t> m_writeLatency = 0;
     std::atomic<std::int64_t> m_delay = 0;
 
-    mutable std::mutex m_mutex; // guards everything down to the listeners
-    MonitorMemory m_memory;
+    mutable std::mutex m_mutex;     // guards everything down to the listeners
+    mutable MonitorMemory m_memory; // which moves on with the time
     Conversation m_conversation;
     bool m_plugged = true;
     std::atomic<bool> m_asleep = false;

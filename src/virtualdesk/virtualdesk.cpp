@@ -15,6 +15,7 @@ VirtualDesk::VirtualDesk(platform::Clock &clock, const DeskSetup &setup)
       m_sound(clock, setup.sound)
 {
     connect(&m_displays, &SimulatedDisplays::changed, this, &VirtualDesk::monitorsChanged);
+    user = setup.user;
     m_process.administrator = setup.administrator;
     m_process.runasResult = setup.runasResult;
     m_process.startUp().writable = setup.startUpWritable;

@@ -58,6 +58,7 @@ public:
     MonitorHandles &handles() { return m_handles; }
     SimulatedProcess &process() { return m_process; }
     FileFaults fileFaults;
+    UserSetup user;
     SimulatedEndpoint &sound() { return m_sound; }
     DeviceRegistrations &registrations() { return m_registrations; }
     HotKeys &hotKeys() { return m_hotKeys; }

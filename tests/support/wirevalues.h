@@ -4,7 +4,7 @@
 
 // What the controls of every page of monitor settings make of the monitor, written down by hand.
 
-enum PageName { Scene, Picture, Game, Office, Io, System, Windows, kPageNames };
+enum PageName { Scene, Picture, Game, Office, Io, System, Windows, Care, kPageNames };
 
 /// The entries of the four scene families: "label=value|label=value". No monitor has all.
 inline const char *const kScenes[] = {
@@ -28,6 +28,7 @@ inline const char *const kSwitch = "         Enable=1|         Disable=0";
 inline const char *const kAlwaysOff = "         Enable=0|         Disable=0";
 inline const char *const kGrey = "Close=0|Level1=1|Level2=2|Level3=3|Topspeed=4";
 inline const char *const kMotion = "Close=2|Low=3|Medium=4|High=5|Ull-Level1=6|Ull-Level2=7|Ull-Level3=8";
+inline const char *const kLevels = "Close=0|Low=1|Medium=2|High=3";
 inline const char *const kRange = "RGB Auto=0|RGB Limit=1|RGB Full=2";
 inline const char *const kCorner = "Top Left=0|Top Right=1|Bottom Left=2|Bottom Right=3";
 inline const char *const kColor = "Red=0|Yellow=1|Green=2|Cyan=3|Blue=4|Purple=5|White=6|Auto=7";
@@ -103,6 +104,16 @@ inline const Options kOptions[] = {
     {System, "Menu Lock", "c4", kSwitch},
     {Windows, "Multi-window", "50", "Close=0|PBP=2|PIP=1"},
     {Windows, "Size", "54", "Small=0|Medium=1|Large=2"}, // of PIP, which is on by then
+    {Care, "Pixel Shift", "01", "Close=0|Slow=1|Normal=2|Fast=3"},
+    {Care, "Still Picture", "02", kSwitch},
+    {Care, "Detection Rate", "03", "Slow=0|Normal=1|Fast=2"},
+    {Care, "Static Icon", "04", kLevels},
+    {Care, "Taskbar", "06", kLevels},
+    {Care, "Boundary", "07", kLevels},
+    {Care, "Care Reminder", "09", kSwitch},
+    {Care, "Care Mode", "0a", "Auto=0|Manual=1"},
+    {Care, "Care Interval", "0b", "4 Hour=0|8 Hour=1|12 Hour=2|24 Hour=3"},
+    {Care, "ISP", "0d", kSwitch},
     {Windows, "Place", "55", "Top Left=0|Top Right=1|Bottom Left=2|Bottom Right=3"},
 };
 

@@ -12,6 +12,7 @@
 #include "platform/virtual/virtualfiles.h"
 #include "platform/virtual/virtualforeground.h"
 #include "platform/virtual/virtualhid.h"
+#include "platform/virtual/virtualpresence.h"
 #include "virtualdesk/virtualdesk.h"
 
 namespace platform {
@@ -137,7 +138,8 @@ VirtualPlatform::VirtualPlatform(VirtualDesk &desk, Clock &clock)
       m_startUp(std::make_unique<VirtualStartUp>(desk)),
       m_deviceNotifications(std::make_unique<VirtualNotifications>(desk)),
       m_globalKeys(std::make_unique<VirtualGlobalKeys>(desk)),
-      m_foreground(std::make_unique<VirtualForeground>(desk.applications())), m_hid(std::make_unique<VirtualHid>(desk)),
+      m_foreground(std::make_unique<VirtualForeground>(desk.applications())),
+      m_presence(std::make_unique<VirtualPresence>(desk)), m_hid(std::make_unique<VirtualHid>(desk)),
       m_audio(std::make_unique<VirtualAudio>(desk.sound())), m_files(std::make_unique<VirtualFiles>(desk.fileFaults))
 {
 }
@@ -177,6 +179,11 @@ GlobalKeys &VirtualPlatform::globalKeys()
 Foreground &VirtualPlatform::foreground()
 {
     return *m_foreground;
+}
+
+Presence &VirtualPlatform::presence()
+{
+    return *m_presence;
 }
 
 Hid &VirtualPlatform::hid()

@@ -24,6 +24,7 @@ public:
     DeviceNotifications &deviceNotifications() override;
     GlobalKeys &globalKeys() override;
     Foreground &foreground() override;
+    Presence &presence() override;
     Hid &hid() override;
     AudioCapture &audio() override;
     Clock &clock() override;
@@ -45,6 +46,7 @@ private:
     std::unique_ptr<DeviceNotifications> m_deviceNotifications;
     std::unique_ptr<GlobalKeys> m_globalKeys;
     std::unique_ptr<Foreground> m_foreground;
+    std::unique_ptr<Presence> m_presence;
     std::unique_ptr<Hid> m_hid;
     std::unique_ptr<AudioCapture> m_audio;
     std::unique_ptr<Files> m_files;

@@ -8,6 +8,7 @@
 #include "platform/win32/win32globalkeys.h"
 #include "platform/win32/win32hid.h"
 #include "platform/win32/win32monitorconfiguration.h"
+#include "platform/win32/win32presence.h"
 #include "platform/win32/win32process.h"
 #include "platform/win32/win32startup.h"
 
@@ -25,6 +26,7 @@ public:
     DeviceNotifications &deviceNotifications() override { return m_deviceNotifications; }
     GlobalKeys &globalKeys() override { return m_globalKeys; }
     Foreground &foreground() override { return m_foreground; }
+    Presence &presence() override { return m_presence; }
     Hid &hid() override { return m_hid; }
     AudioCapture &audio() override { return m_audio; }
     Clock &clock() override { return m_clock; }
@@ -38,6 +40,7 @@ private:
     Win32DeviceNotifications m_deviceNotifications;
     Win32GlobalKeys m_globalKeys;
     Win32Foreground m_foreground;
+    Win32Presence m_presence;
     Win32Hid m_hid;
     Win32Audio m_audio;
     SystemClock m_clock;

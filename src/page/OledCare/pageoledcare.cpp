@@ -1,0 +1,100 @@
+#include "page/OledCare/pageoledcare.h"
+
+#include "controls/desktopquestion.h"
+#include "controls/messagebox.h"
+#include "ddc_protocol/commandqueue.h"
+#include "ddc_protocol/devicestate.h"
+#include "page/OledCare/carepanel.h"
+#include "page/OledCare/caretable.h"
+#include "platform/desk.h"
+
+pageOledCare::pageOledCare(CommandQueue &queue, QWidget *parent)
+    : PanelPage(QStringLiteral("pageOledCare"), OwnList::Shown, queue, parent), m_keeper(queue)
+{
+    buildPanels(carePanels());
+    connect(&m_keeper, &CareKeeper::changed, this, [this] {
+        if (isVisible())
+            showCare();
+    });
+    connect(&m_keeper, &CareKeeper::reminderWanted, this, &pageOledCare::remind);
+    connect(&m_keeper, &CareKeeper::reminderGone, this, [this] {
+        if (m_reminder)
+            m_reminder->hide();
+    });
+}
+
+pageOledCare::~pageOledCare() = default;
+
+QWidget *pageOledCare::buildPart(const char *)
+{
+    m_care = new CarePanel(texts(), this);
+    connect(m_care->startButton(), &QPushButton::clicked, this, &pageOledCare::startCare);
+    return m_care;
+}
+
+std::optional<int> pageOledCare::ownValue(const char *)
+{
+    return m_keeper.reminds() ? 1 : 0;
+}
+
+void pageOledCare::onButtonClicked(const char *, int value)
+{
+    showStored(m_keeper.setReminds(value != 0), Unstored::HoldsUntilExit);
+}
+
+void pageOledCare::updateInterfaceData()
+{
+    PanelPage::updateInterfaceData();
+    showCare();
+}
+
+void pageOledCare::updateControlText()
+{
+    PanelPage::updateControlText();
+    showCare();
+}
+
+void pageOledCare::showCare()
+{
+    if (m_care)
+        m_care->show(m_keeper.history(), m_keeper.facts(), platform::desk().clock().now());
+}
+
+bool pageOledCare::mayBegin()
+{
+    return askYesNo(QObject::tr("Start care"),
+                    QObject::tr("The picture goes black for about 6 minutes, and the monitor must stay on. Begin now?"),
+                    isVisible() ? window() : nullptr);
+}
+
+/// Asked from the page as from the reminder. What runs already is not begun again.
+void pageOledCare::startCare()
+{
+    if (monitorHas(Command::CareRunning, 1))
+        return showNotice(QObject::tr("Care is running. Leave the monitor on until the picture is back."));
+    if (mayBegin())
+        begin();
+}
+
+void pageOledCare::begin()
+{
+    const bool ok = send(Command::CareNow, 1);
+    showResult(ok, QObject::tr("Start care"), [this] { begin(); });
+    if (ok)
+        m_keeper.begun();
+}
+
+void pageOledCare::remind()
+{
+    if (!m_reminder) {
+        m_reminder = std::make_unique<DesktopQuestion>();
+        connect(m_reminder->laterButton(), &QPushButton::clicked, &m_keeper, &CareKeeper::putOff);
+        connect(m_reminder->yesButton(), &QPushButton::clicked, this, [this] {
+            m_keeper.putOff(); // whatever becomes of it, it need not be said again at once
+            startCare();
+        });
+    }
+    m_reminder->ask(QObject::tr("Oled Care"),
+                    QObject::tr("Care is due. The picture goes black for about 6 minutes."), QObject::tr("Start care"),
+                    QObject::tr("Later"));
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/presence.h"
+
+namespace platform {
+
+/// user32's last input and front window, and the shell's opinion of notes on the desktop.
+class Win32Presence final : public Presence
+{
+public:
+    std::optional<milliseconds> sinceInput() override;
+    std::optional<NotificationState> notificationState() override;
+    WindowHandle frontWindow() override;
+};
+
+} // namespace platform
