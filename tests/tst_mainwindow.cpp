@@ -264,6 +264,7 @@ void TestMainWindow::interfaceModes()
 void TestMainWindow::unreadableBlockIsTriedOnce()
 {
     start(9);
+    m_desk->clock.advance(platform::milliseconds(1000));
     const std::size_t tasks = m_desk->clock.tasksWaiting(); // the look at the panel's use
     m_desk->monitor().setValue(0x22, 10);                   // by the monitor's own buttons
     m_desk->monitor().dropChunks(virtualdesk::kForEver);

@@ -81,8 +81,10 @@ void TestOledCare::init()
 {
     m_desk = std::make_unique<SessionDesk>(10);
     m_queue = std::make_unique<CommandQueue>();
-    for (const auto &[command, value] : {std::pair(Command::CareDue, 0), {Command::CareRunning, 0},
-                                         {Command::CareMode, 1}, {Command::CareInterval, 0}})
+    for (const auto &[command, value] : {std::pair(Command::CareDue, 0),
+                                         {Command::CareRunning, 0},
+                                         {Command::CareMode, 1},
+                                         {Command::CareInterval, 0}})
         deviceState.told(command, value);
     m_page = std::make_unique<AskedPage>(*m_queue);
     m_desk->takeCommands();
@@ -202,9 +204,12 @@ void TestOledCare::fromUseToCare()
     pass(3min);
     QCOMPARE(m_desk->takeCommands(), (QStringList{"R 05", "R 08"}));
     programs.bringToFront(0);
-    for (const auto &[state, idle, front, shown] :
-         {std::tuple(5, 0ms, 0, false), {3, milliseconds(1h), 1, false}, {5, 0ms, 2, true}, {2, 0ms, 1, false},
-          {5, 0ms, 1, false}, {5, milliseconds(1h), 1, true}}) {
+    for (const auto &[state, idle, front, shown] : {std::tuple(5, 0ms, 0, false),
+                                                    {3, milliseconds(1h), 1, false},
+                                                    {5, 0ms, 2, true},
+                                                    {2, 0ms, 1, false},
+                                                    {5, 0ms, 1, false},
+                                                    {5, milliseconds(1h), 1, true}}) {
         user = {idle, state};
         programs.bringToFront(std::size_t(front));
         pass(20s);

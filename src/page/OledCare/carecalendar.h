@@ -7,8 +7,8 @@
 #include "controls/accessiblecontrol.h"
 #include "page/OledCare/carehistory.h"
 
-/// The last five weeks, a square a day: the longer the panel was used, the lighter it is; a ring where it was cared for,
-/// an outline around today.
+/// The last five weeks, a square a day: the longer the panel was used, the lighter it is; a ring where it was cared
+/// for, an outline around today.
 class CareCalendar : public QWidget, public Described
 {
     Q_OBJECT

@@ -82,8 +82,9 @@ void CareKeeper::chooseMonitor()
         store();
     }
     m_monitor = monitor;
-    m_history = monitor.isEmpty() ? CareHistory() : CareHistory::fromText(settingsString(
-                                                        keyOf(monitor), {}, false, QLatin1String(kConfigFile)));
+    m_history = monitor.isEmpty()
+                    ? CareHistory()
+                    : CareHistory::fromText(settingsString(keyOf(monitor), {}, false, QLatin1String(kConfigFile)));
     m_stored = m_history.used;
     m_counted = timeNow();
     m_asked.reset();

@@ -51,10 +51,10 @@ private:
     void store();
 
     CommandQueue &m_queue;
-    QString m_monitor;         ///< whose history it is; empty for none
+    QString m_monitor; ///< whose history it is; empty for none
     CareHistory m_history;
-    qint64 m_stored = 0;       ///< what the file has of its use
-    QDateTime m_counted;       ///< up to when its use is counted
+    qint64 m_stored = 0; ///< what the file has of its use
+    QDateTime m_counted; ///< up to when its use is counted
     std::optional<QDateTime> m_asked;
     std::optional<QDateTime> m_shown; ///< the reminder
     platform::WindowHandle m_front = nullptr;

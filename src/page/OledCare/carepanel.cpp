@@ -44,8 +44,8 @@ QString nextCare(const CareFacts &facts)
 } // namespace
 
 CarePanel::CarePanel(BoundTexts &texts, QWidget *parent)
-    : QFrame(parent), m_calendar(new CareCalendar(this)),
-      m_used(makeLine("color: #ffffff; font-size: 17px;", this)), m_last(makeLine("color: #c9c9c9; font-size: 14px;", this)),
+    : QFrame(parent), m_calendar(new CareCalendar(this)), m_used(makeLine("color: #ffffff; font-size: 17px;", this)),
+      m_last(makeLine("color: #c9c9c9; font-size: 14px;", this)),
       m_next(makeLine("color: #9cffc8; font-size: 15px;", this)),
       m_start(makePlainButton(LABEL("Start care"), QStringLiteral("startCare"), texts, this))
 {
@@ -53,9 +53,10 @@ CarePanel::CarePanel(BoundTexts &texts, QWidget *parent)
     auto *effect = makeLine("color: #adadad; font-size: 14px;", this);
     texts.bind(LABEL("Lighter = used longer that day, ring = cared for."),
                [legend](const QString &text) { legend->setText(text); });
-    texts.bind(LABEL("Care takes about 6 minutes, in which the picture is black. It evens out how the pixels have aged; "
-                     "nothing that is open is lost."),
-               [effect](const QString &text) { effect->setText(text); });
+    texts.bind(
+        LABEL("Care takes about 6 minutes, in which the picture is black. It evens out how the pixels have aged; "
+              "nothing that is open is lost."),
+        [effect](const QString &text) { effect->setText(text); });
     texts.bind(LABEL("Use and care of the last five weeks"),
                [this](const QString &text) { m_calendar->setAccessibleName(text); });
     legend->setFixedWidth(m_calendar->width());
@@ -81,8 +82,9 @@ void CarePanel::show(const CareHistory &history, const CareFacts &facts, const Q
 {
     m_used->setText(history.last ? QObject::tr("%1 hours of use since the last care").arg(hours(history.used))
                                  : QObject::tr("%1 hours of use counted").arg(hours(history.used)));
-    m_last->setText(history.last ? QObject::tr("Last care: %1").arg(history.last->toString(QStringLiteral("yyyy-MM-dd hh:mm")))
-                                 : QObject::tr("No care has been seen yet: hours count from the first start of this tool."));
+    m_last->setText(history.last
+                        ? QObject::tr("Last care: %1").arg(history.last->toString(QStringLiteral("yyyy-MM-dd hh:mm")))
+                        : QObject::tr("No care has been seen yet: hours count from the first start of this tool."));
     m_next->setText(nextCare(facts));
     m_calendar->setDays(now.date(), history.days);
     m_calendar->setValueText(lines().join(QLatin1Char(' ')));

@@ -7,7 +7,7 @@ using platform::milliseconds;
 
 namespace {
 
-constexpr qint64 kHour = 3600; // s
+constexpr qint64 kHour = 3600;         // s
 constexpr milliseconds kPatience = 1h; ///< between questions whether care is due
 constexpr milliseconds kRunningLook = 30s;
 constexpr milliseconds kReminderLook = 10s;

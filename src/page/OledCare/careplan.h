@@ -18,12 +18,12 @@ inline constexpr platform::milliseconds kCarePutOff = std::chrono::hours(1);
 /// What the decision rests on.
 struct CareFacts
 {
-    std::optional<bool> isDue; ///< as the monitor told last
-    bool isRunning = false;    ///< as above
-    std::optional<int> interval; ///< hours of use from care to care
-    bool isByItself = false;   ///< the monitor begins when it goes to standby
-    qint64 used = 0;           ///< seconds since the last care
-    bool reminds = true;       ///< the user wants that
+    std::optional<bool> isDue;       ///< as the monitor told last
+    bool isRunning = false;          ///< as above
+    std::optional<int> interval;     ///< hours of use from care to care
+    bool isByItself = false;         ///< the monitor begins when it goes to standby
+    qint64 used = 0;                 ///< seconds since the last care
+    bool reminds = true;             ///< the user wants that
     std::optional<QDateTime> asked;  ///< when the monitor was asked last whether care is due or running
     std::optional<QDateTime> putOff; ///< until when the user wants no reminder
 };
@@ -51,8 +51,8 @@ CareStep planCare(const CareFacts &facts, const QDateTime &now);
 struct CarePresence
 {
     platform::milliseconds sinceInput{0};
-    bool isFullScreen = false;      ///< a program fills the screen, or nobody is logged on to see anything
-    bool isElsewhere = false;       ///< another window came to the front since the last look
+    bool isFullScreen = false;           ///< a program fills the screen, or nobody is logged on to see anything
+    bool isElsewhere = false;            ///< another window came to the front since the last look
     std::optional<QDateTime> shown = {}; ///< since when the reminder has been there for somebody to see
 };
 

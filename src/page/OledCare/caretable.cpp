@@ -10,15 +10,15 @@ constexpr char kPlanHelp[] =
     LABEL("Care evens out how the pixels have aged, so that no picture stays visible. It takes about 6 minutes.");
 constexpr char kShiftHelp[] =
     LABEL("Moves the whole picture by a few pixels now and then, so that edges do not burn in. Close = off.");
-constexpr char kStillHelp[] =
-    LABEL("Dims the screen while nothing moves. Detection Rate is how soon it notices that.");
+constexpr char kStillHelp[] = LABEL("Dims the screen while nothing moves. Detection Rate is how soon it notices that.");
 constexpr char kIconHelp[] =
     LABEL("Dims signs that stand still, such as a station's logo. Close = off; Low to High are stronger in turn.");
 constexpr char kTaskbarHelp[] =
     LABEL("Dims the taskbar, which always stands in one place. Close = off; Low to High are stronger in turn.");
-constexpr char kBoundaryHelp[] =
-    LABEL("Dims the border between bright and dark, as beside black bars. Close = off; Low to High are stronger in turn.");
-constexpr char kIspHelp[] = LABEL("Image sticking protection: clears what a picture leaves behind as soon as it is gone.");
+constexpr char kBoundaryHelp[] = LABEL(
+    "Dims the border between bright and dark, as beside black bars. Close = off; Low to High are stronger in turn.");
+constexpr char kIspHelp[] =
+    LABEL("Image sticking protection: clears what a picture leaves behind as soon as it is gone.");
 
 constexpr char kLow[] = LABEL("A little darker: hardly to be seen, for normal work.");
 constexpr char kMedium[] = LABEL("Visibly darker, for long days with the same windows.");

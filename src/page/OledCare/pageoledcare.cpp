@@ -94,7 +94,6 @@ void pageOledCare::remind()
             startCare();
         });
     }
-    m_reminder->ask(QObject::tr("Oled Care"),
-                    QObject::tr("Care is due. The picture goes black for about 6 minutes."), QObject::tr("Start care"),
-                    QObject::tr("Later"));
+    m_reminder->ask(QObject::tr("Oled Care"), QObject::tr("Care is due. The picture goes black for about 6 minutes."),
+                    QObject::tr("Start care"), QObject::tr("Later"));
 }

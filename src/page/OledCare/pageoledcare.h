@@ -6,7 +6,8 @@
 class CarePanel;
 class DesktopQuestion;
 
-/// What spares an OLED panel, when it was cared for and when it is to be again, and the reminder of that on the desktop.
+/// What spares an OLED panel, when it was cared for and when it is to be again, and the reminder of that on the
+/// desktop.
 class pageOledCare : public PanelPage
 {
     Q_OBJECT
