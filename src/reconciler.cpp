@@ -26,7 +26,7 @@ void Reconciler::systemNoticed(SystemNotice notice)
 {
     if (notice == SystemNotice::Woke || notice == SystemNotice::DisplaysChanged)
         handlesMayBeStale();
-    else
+    else if (notice != SystemNotice::Locked) // nobody looks
         want();
 }
 

@@ -24,6 +24,13 @@ std::optional<SystemNotice> powerNotice(const platform::NativeMessage &message)
     return {};
 }
 
+std::optional<SystemNotice> sessionNotice(std::uint64_t event)
+{
+    if (event == platform::kSessionLock)
+        return SystemNotice::Locked;
+    return event == platform::kSessionUnlock ? std::optional(SystemNotice::Unlocked) : std::nullopt;
+}
+
 } // namespace
 
 std::optional<SystemNotice> systemNoticeOf(const platform::NativeMessage &message)
@@ -34,7 +41,7 @@ std::optional<SystemNotice> systemNoticeOf(const platform::NativeMessage &messag
     case platform::kMessageDisplayChange:
         return SystemNotice::DisplaysChanged;
     case platform::kMessageSessionChange:
-        return message.wParam == platform::kSessionUnlock ? std::optional(SystemNotice::Unlocked) : std::nullopt;
+        return sessionNotice(message.wParam);
     default:
         return {};
     }

@@ -11,6 +11,7 @@
 #include "platform/monitorconfiguration.h"
 #include "platform/presence.h"
 #include "platform/process.h"
+#include "platform/screencapture.h"
 #include "platform/startup.h"
 
 namespace platform {
@@ -32,6 +33,7 @@ public:
     virtual Presence &presence() = 0;
     virtual Hid &hid() = 0;
     virtual AudioCapture &audio() = 0;
+    virtual ScreenCapture &screen() = 0;
     virtual Clock &clock() = 0;
     virtual Files &files() = 0;
 

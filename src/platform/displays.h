@@ -87,6 +87,9 @@ public:
     /// The primary screen's work area, on which the program opens (SystemParametersInfoW, GetDpiForSystem). May be
     /// asked before the toolkit has begun; nothing when it is not known.
     virtual std::optional<WorkArea> workArea() = 0;
+
+    /// Whether the user lets what is shown move by itself (SystemParametersInfoW, client area animation).
+    virtual bool animatesControls() = 0;
 };
 
 } // namespace platform

@@ -42,6 +42,7 @@ inline constexpr std::uint64_t kPowerResumeSuspend = 0x0007;    ///< PBT_APMRESU
 inline constexpr std::uint64_t kPowerResumeAutomatic = 0x0012;  ///< PBT_APMRESUMEAUTOMATIC: by whatever
 inline constexpr std::uint64_t kPowerSettingChange = 0x8013;    ///< PBT_POWERSETTINGCHANGE, with a PowerSetting
 inline constexpr std::uint32_t kMessageSessionChange = 0x02B1;  ///< WM_WTSSESSION_CHANGE
+inline constexpr std::uint64_t kSessionLock = 0x0007;           ///< WTS_SESSION_LOCK
 inline constexpr std::uint64_t kSessionUnlock = 0x0008;         ///< WTS_SESSION_UNLOCK
 
 /// The power setting that tells whether the console's display is off (0), on (1) or dimmed (2).

@@ -63,6 +63,24 @@ UserSetup readUser(ScriptObject object)
     return user;
 }
 
+ScreenSetup readScreen(ScriptObject object)
+{
+    ScreenSetup screen;
+    const QString fileName = object.take("picture").toString();
+    if (!fileName.isEmpty() && !screen.picture.load(fileName))
+        object.fail(QStringLiteral("\"picture\" %1 cannot be read").arg(fileName));
+    object.each("faults", [&screen](ScriptObject fault) {
+        const QString word = fault.take("event").toString();
+        if (word != QLatin1String("fail_copies"))
+            fault.fail(QStringLiteral("unknown \"event\" of the screen: \"%1\"").arg(word));
+        screen.failures = 1;
+        fault.times(screen.failures, kForEver);
+        fault.finish();
+    });
+    object.finish();
+    return screen;
+}
+
 Topology readTopology(ScriptObject &root)
 {
     const QJsonValue value = root.take("topology");
@@ -117,6 +135,8 @@ DeskSetup readSetup(ScriptObject root)
         setup.accessory = readAccessory(root.inside(root.take("accessory")));
     if (root.has("user"))
         setup.user = readUser(root.inside(root.take("user")));
+    if (root.has("screen"))
+        setup.screen = readScreen(root.inside(root.take("screen")));
     setup.topology = readTopology(root);
     readLatency(root, setup.readLatency, setup.writeLatency);
     root.flag("administrator", setup.administrator);

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include <QByteArray>
+#include <QImage>
 #include <QRect>
 #include <QString>
 
@@ -68,6 +69,13 @@ struct UserSetup
     int notificationState = 5;         ///< as Windows counts them: 2 and 3 a program fills the screen, 5 nothing does
 };
 
+/// What the screens show.
+struct ScreenSetup
+{
+    QImage picture;   ///< null: what the real one shows
+    int failures = 0; ///< copies that fail, or kForEver
+};
+
 /// How the active display paths follow from the plugged monitors.
 enum class Topology {
     Natural, ///< one path a monitor; those of one display share its source
@@ -82,6 +90,7 @@ struct DeskSetup
     std::vector<MonitorSetup> monitors;
     std::vector<TimedEvent> events;
     AccessorySetup accessory;
+    ScreenSetup screen;
     Topology topology = Topology::Natural;
     std::chrono::milliseconds readLatency{0};
     std::chrono::milliseconds writeLatency{0};

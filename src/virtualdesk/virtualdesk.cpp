@@ -34,6 +34,8 @@ VirtualDesk::VirtualDesk(platform::Clock &clock, const DeskSetup &setup)
             apply(monitorCount() - 1, fault);
     }
     setUpAccessory(setup.accessory);
+    m_screen.setPicture(setup.screen.picture);
+    m_screen.failCopies(setup.screen.failures);
 }
 
 VirtualDesk::~VirtualDesk() = default;

@@ -16,6 +16,7 @@
 #include "virtualdesk/simulateddisplays.h"
 #include "virtualdesk/simulatedendpoint.h"
 #include "virtualdesk/simulatedprocess.h"
+#include "virtualdesk/simulatedscreen.h"
 
 namespace virtualdesk {
 
@@ -60,6 +61,7 @@ public:
     FileFaults fileFaults;
     UserSetup user;
     SimulatedEndpoint &sound() { return m_sound; }
+    SimulatedScreen &screen() { return m_screen; }
     DeviceRegistrations &registrations() { return m_registrations; }
     HotKeys &hotKeys() { return m_hotKeys; }
     /// The other programs.
@@ -67,6 +69,9 @@ public:
 
     /// Plugging it in and out changes the HID enumeration and tells the windows that registered for HID devices.
     SimulatedAccessory &accessory() { return m_accessory; }
+    /// Whether the user lets what is shown move.
+    bool animatesControls = true;
+
     /// Whether there are HID devices beside it.
     bool hasHidDevices = true;
     /// Entries of HID enumerations that were not released.
@@ -92,6 +97,7 @@ private:
     Applications m_applications;
     SimulatedAccessory m_accessory;
     SimulatedEndpoint m_sound;
+    SimulatedScreen m_screen;
 };
 
 } // namespace virtualdesk

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <cstdint>
+#include <memory>
 #include <optional>
+#include <span>
 
 #include "platform/displays.h"
 
@@ -9,5 +12,20 @@ namespace platform {
 /// The work area of the real screen on which the simulated desk is shown; nothing where there is none, or it cannot be
 /// asked.
 std::optional<WorkArea> rootWorkArea();
+
+/// Reads what that screen shows. Keeps its way to it, once it has found one.
+class RootPixels
+{
+public:
+    RootPixels();
+    ~RootPixels();
+
+    /// As ScreenCapture::copy.
+    bool copy(const QRect &area, std::span<std::uint32_t> pixels);
+
+private:
+    struct Way;
+    std::unique_ptr<Way> m_way;
+};
 
 } // namespace platform

@@ -1,6 +1,22 @@
 #include "platform/virtual/rootscreen.h"
 
-std::optional<platform::WorkArea> platform::rootWorkArea()
+namespace platform {
+
+struct RootPixels::Way
+{
+};
+
+std::optional<WorkArea> rootWorkArea()
 {
     return std::nullopt;
 }
+
+RootPixels::RootPixels() = default;
+RootPixels::~RootPixels() = default;
+
+bool RootPixels::copy(const QRect &, std::span<std::uint32_t>)
+{
+    return false;
+}
+
+} // namespace platform

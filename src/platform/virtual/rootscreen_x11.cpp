@@ -83,18 +83,62 @@ double scaleOf(const QByteArray &resources)
     return 1;
 }
 
-} // namespace
-
-std::optional<WorkArea> rootWorkArea()
+/// Null where the desk is shown on no such screen.
+Connection connectToRoot()
 {
     const QByteArray toolkit = qgetenv("QT_QPA_PLATFORM");
     if (!qEnvironmentVariableIsSet("DISPLAY") || !(toolkit.isEmpty() || toolkit.startsWith("xcb")))
-        return std::nullopt;
-    const Connection connection(xcb_connect(nullptr, nullptr));
+        return {};
+    Connection connection(xcb_connect(nullptr, nullptr));
+    if (xcb_connection_has_error(connection.get()))
+        return {};
+    return connection;
+}
+
+const xcb_screen_t &screenOf(xcb_connection_t *x)
+{
+    return *xcb_setup_roots_iterator(xcb_get_setup(x)).data;
+}
+
+} // namespace
+
+struct RootPixels::Way
+{
+    Connection connection;
+};
+
+RootPixels::RootPixels() = default;
+RootPixels::~RootPixels() = default;
+
+bool RootPixels::copy(const QRect &area, std::span<std::uint32_t> pixels)
+{
+    if (!m_way)
+        m_way = std::make_unique<Way>(connectToRoot());
+    xcb_connection_t *x = m_way->connection.get();
+    if (x == nullptr)
+        return false;
+    const auto asked =
+        xcb_get_image(x, XCB_IMAGE_FORMAT_Z_PIXMAP, screenOf(x).root, static_cast<std::int16_t>(area.x()),
+                      static_cast<std::int16_t>(area.y()), static_cast<std::uint16_t>(area.width()),
+                      static_cast<std::uint16_t>(area.height()), ~0u);
+    const Reply<xcb_get_image_reply_t> reply(xcb_get_image_reply(x, asked, nullptr));
+    const auto length = reply ? static_cast<std::size_t>(xcb_get_image_data_length(reply.get())) : 0;
+    if (length == 0 || length != pixels.size_bytes()) { // not on the screen, or of fewer colours
+        if (xcb_connection_has_error(x))
+            m_way.reset();
+        return false;
+    }
+    std::memcpy(pixels.data(), xcb_get_image_data(reply.get()), length);
+    return true;
+}
+
+std::optional<WorkArea> rootWorkArea()
+{
+    const Connection connection = connectToRoot();
     xcb_connection_t *x = connection.get();
-    if (xcb_connection_has_error(x))
+    if (x == nullptr)
         return std::nullopt;
-    const xcb_screen_t &screen = *xcb_setup_roots_iterator(xcb_get_setup(x)).data;
+    const xcb_screen_t &screen = screenOf(x);
     QRect area = primaryMonitor(x, screen);
     const QRect desktop = desktopArea(property(x, screen.root, "_NET_WORKAREA"));
     if (desktop.intersects(area))

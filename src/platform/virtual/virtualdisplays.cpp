@@ -52,6 +52,11 @@ std::optional<WorkArea> VirtualDisplays::workArea()
     return rootWorkArea();
 }
 
+bool VirtualDisplays::animatesControls()
+{
+    return m_desk.animatesControls;
+}
+
 std::optional<std::uint32_t> VirtualMonitors::count(DisplayHandle display)
 {
     const auto monitors = m_desk.displays().monitorsOf(display);

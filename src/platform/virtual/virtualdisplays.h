@@ -23,6 +23,7 @@ public:
     std::optional<RegistryValue> localMachineValue(const QString &keyPath, const QString &valueName) override;
     std::vector<Screen> screens() override;
     std::optional<WorkArea> workArea() override;
+    bool animatesControls() override;
 
 private:
     virtualdesk::VirtualDesk &m_desk;

@@ -13,6 +13,7 @@
 #include "platform/virtual/virtualforeground.h"
 #include "platform/virtual/virtualhid.h"
 #include "platform/virtual/virtualpresence.h"
+#include "platform/virtual/virtualscreencapture.h"
 #include "virtualdesk/virtualdesk.h"
 
 namespace platform {
@@ -140,7 +141,9 @@ VirtualPlatform::VirtualPlatform(VirtualDesk &desk, Clock &clock)
       m_globalKeys(std::make_unique<VirtualGlobalKeys>(desk)),
       m_foreground(std::make_unique<VirtualForeground>(desk.applications())),
       m_presence(std::make_unique<VirtualPresence>(desk)), m_hid(std::make_unique<VirtualHid>(desk)),
-      m_audio(std::make_unique<VirtualAudio>(desk.sound())), m_files(std::make_unique<VirtualFiles>(desk.fileFaults))
+      m_audio(std::make_unique<VirtualAudio>(desk.sound())),
+      m_screen(std::make_unique<VirtualScreenCapture>(desk.screen())),
+      m_files(std::make_unique<VirtualFiles>(desk.fileFaults))
 {
 }
 
@@ -194,6 +197,11 @@ Hid &VirtualPlatform::hid()
 AudioCapture &VirtualPlatform::audio()
 {
     return *m_audio;
+}
+
+ScreenCapture &VirtualPlatform::screen()
+{
+    return *m_screen;
 }
 
 Clock &VirtualPlatform::clock()

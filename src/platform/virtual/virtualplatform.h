@@ -27,6 +27,7 @@ public:
     Presence &presence() override;
     Hid &hid() override;
     AudioCapture &audio() override;
+    ScreenCapture &screen() override;
     Clock &clock() override;
     Files &files() override;
 
@@ -49,6 +50,7 @@ private:
     std::unique_ptr<Presence> m_presence;
     std::unique_ptr<Hid> m_hid;
     std::unique_ptr<AudioCapture> m_audio;
+    std::unique_ptr<ScreenCapture> m_screen;
     std::unique_ptr<Files> m_files;
 };
 

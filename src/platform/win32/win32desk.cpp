@@ -10,6 +10,7 @@
 #include "platform/win32/win32monitorconfiguration.h"
 #include "platform/win32/win32presence.h"
 #include "platform/win32/win32process.h"
+#include "platform/win32/win32screencapture.h"
 #include "platform/win32/win32startup.h"
 
 namespace platform {
@@ -29,6 +30,7 @@ public:
     Presence &presence() override { return m_presence; }
     Hid &hid() override { return m_hid; }
     AudioCapture &audio() override { return m_audio; }
+    ScreenCapture &screen() override { return m_screen; }
     Clock &clock() override { return m_clock; }
     Files &files() override { return *m_files; }
 
@@ -43,6 +45,7 @@ private:
     Win32Presence m_presence;
     Win32Hid m_hid;
     Win32Audio m_audio;
+    Win32ScreenCapture m_screen;
     SystemClock m_clock;
     std::unique_ptr<Files> m_files = createSystemFiles();
 };

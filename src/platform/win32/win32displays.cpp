@@ -139,4 +139,10 @@ std::optional<WorkArea> Win32Displays::workArea()
     return WorkArea{{area.right - area.left, area.bottom - area.top}, dpi / double(USER_DEFAULT_SCREEN_DPI)};
 }
 
+bool Win32Displays::animatesControls()
+{
+    BOOL animates = TRUE;
+    return !SystemParametersInfoW(SPI_GETCLIENTAREAANIMATION, 0, &animates, 0) || animates;
+}
+
 } // namespace platform

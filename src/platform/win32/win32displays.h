@@ -16,6 +16,7 @@ public:
     std::optional<RegistryValue> localMachineValue(const QString &keyPath, const QString &valueName) override;
     std::vector<Screen> screens() override;
     std::optional<WorkArea> workArea() override;
+    bool animatesControls() override;
 };
 
 } // namespace platform
