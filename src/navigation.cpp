@@ -41,7 +41,7 @@ constexpr NavigationEntry kOfficeAid[] = {
 constexpr NavigationEntry kGameAid[] = {
     {LABEL("Game Aid"), "game_aid", PageId::GameAssistant, 0, 0, kGame, kNoGame},
     {LABEL("Picture Enhance"), "picture_enhance", PageId::PictureEnhance, 0, kPictureFunctions},
-    {LABEL("Emberline"), "emberline", PageId::Empty, 0, kGame, kGame, kNoGame},
+    {LABEL("Emberline"), "emberline", PageId::Emberline, 0, kGame, kGame, kNoGame},
 };
 constexpr NavigationEntry kOledCare[] = {{LABEL("Care Content"), "care_content", PageId::OledCare, 0, 0,
                                           bit(Capability::OledPanel), LABEL("%1 has no OLED panel to care for.")}};

@@ -10,6 +10,7 @@
 #include "following/followscenes.h"
 #include "globalapplication.h"
 #include "page/BasicSetting/systemtable.h"
+#include "page/Emberline/lighttable.h"
 #include "page/Game/gametable.h"
 #include "page/Game/picturetable.h"
 #include "page/IO/iotable.h"
@@ -103,7 +104,8 @@ class TestAgreement : public DeskSuite
     {
         const std::vector<PanelSpec> picture = picturePanels(deviceState);
         for (const std::span<const PanelSpec> panels :
-             {std::span(picture), gamePanels(), officePanels(), ioPanels(), systemPanels(), multiWindowPanels(), carePanels()}) {
+             {std::span(picture), gamePanels(), officePanels(), ioPanels(), systemPanels(), multiWindowPanels(), carePanels(),
+              deviceState.has(::Capability::GameFunctions) ? lightPanels() : std::span<const PanelSpec>()}) {
             for (const PanelSpec &panel : panels) {
                 if (isOffered(panel))
                     walkSections(panel.sections);

@@ -2,6 +2,7 @@
 #include <QtWidgets>
 
 #include "controls/captionlabel.h"
+#include "controls/colorpicker.h"
 #include "controls/desktoptoast.h"
 #include "controls/lefttabbutton.h"
 #include "controls/sliderwidget.h"
@@ -9,6 +10,8 @@
 #include "ddc_protocol/devicestate.h"
 #include "page/BasicSetting/pagesystemsetting.h"
 #include "page/Game/pagegameassistant.h"
+#include "page/Emberline/lightview.h"
+#include "page/Emberline/pageemberline.h"
 #include "page/Game/pagepictureenhanc.h"
 #include "page/IO/iotable.h"
 #include "page/IO/pageiosetting.h"
@@ -45,6 +48,8 @@ private Q_SLOTS:
     void restReminder();
     void smallWindowIsArranged_data();
     void smallWindowIsArranged();
+    void ownLightColor();
+    void lightIsPlayed();
 
 private:
     SettingsPage *anyPage(int which);
@@ -88,6 +93,8 @@ SettingsPage *TestPages::anyPage(int which)
         page = std::make_unique<pageGameAssistant>(*m_queue);
     else if (!page && which == Office)
         page = std::make_unique<PageOffice>(*m_queue);
+    else if (!page && which == Lighting)
+        page = std::make_unique<pageEmberline>(*m_queue);
     else if (!page && which == Io)
         page = std::make_unique<pageIOSetting>(*m_queue);
     else if (!page && which == Care)
@@ -418,6 +425,69 @@ void TestPages::smallWindowIsArranged()
     QCOMPARE(windows->toolTip().isEmpty(), mode == 1);
     QCOMPARE(button(Windows, "Place_Top Left")->isEnabled(), mode == 1);
     QVERIFY(!windows->valueText().isEmpty());
+/// Three values that are told as one, and what is known of the lamps then.
+void TestPages::ownLightColor()
+{
+    auto *lighting = static_cast<pageEmberline *>(page(Lighting));
+    deviceState.told(Command::LightMode, 1);
+    for (const int color : {6, 8}) {
+        button(Lighting, color == 8 ? "Light Color_Custom" : "Light Color_White")->click();
+        lighting->updateInterfaceData();
+        QCOMPARE(!lighting->ownColor()->parentWidget()->isHidden(), color == 8);
+    }
+    for (const auto &[refused, said] :
+         {std::pair(std::vector<std::uint8_t>(), ""), {{0x7B}, "only a part"}, {{0x7A, 0x7B, 0x7C}, "did not take"}}) {
+        m_desk->takeCommands();
+        for (const std::uint8_t code : refused)
+            m_desk->monitor().refuse(code, kForEver);
+        Q_EMIT lighting->ownColor()->sigColorChanged(QColor(250, 128, 7));
+        const QStringList sent = m_desk->takeCommands().filter("W");
+        for (const char *part : {"W 7a=250", "W 7b=128", "W 7c=7"})
+            QVERIFY2(!sent.filter(part).isEmpty(), part);
+        QVERIFY2(*said ? lighting->notice().contains(said) : lighting->notice().isEmpty(), said);
+        m_desk->monitor().recover();
+    }
+}
+
+/// While somebody can see it, something moves and the user lets it; each lamp as it is set.
+void TestPages::lightIsPlayed()
+{
+    for (const auto &[command, value] : {std::pair(Command::LightMode, 1),
+                                         {Command::LightColor, 0},
+                                         {Command::LightBrightness, 100},
+                                         {Command::LampBeltBrightness, 0},
+                                         {Command::LampBeltColor, 1},
+                                         {Command::LampBeltFrontColor, 1},
+                                         {Command::LampBeltRearColor, 1},
+                                         {Command::LampBeltEffect, 0},
+                                         {Command::LightFrontBrightness, 0},
+                                         {Command::LightRearBrightness, 0}}) {
+        deviceState.told(command, value);
+        m_desk->monitor().setValue(static_cast<std::uint8_t>(command), static_cast<std::uint16_t>(value));
+    }
+    page(Lighting)->show();
+    auto *view = page(Lighting)->findChild<QWidget *>("pageLightMode")->findChild<LightView *>();
+    QCOMPARE(view->isVisible() && !view->isPlaying(), true);
+    const QRgb red = view->frame().ring[0];
+    QVERIFY(qRed(red) == 255 && qGreen(red) < 60 && view->frame().ring[31] == red);
+    deviceState.told(Command::LightMode, 2); // it breathes
+    page(Lighting)->updateInterfaceData();
+    QVERIFY(view->isPlaying());
+    std::set<QRgb> seen;
+    for (int frame = 0; frame < 100; ++frame) {
+        m_desk->clock.advance(platform::milliseconds(50));
+        seen.insert(view->frame().ring[0]);
+    }
+    QVERIFY(seen.size() > 20);
+    QVERIFY(settle());
+    for (const bool isHidden : {true, false}) {
+        m_desk->desk.animatesControls = isHidden;
+        page(Lighting)->setVisible(!isHidden);
+        QVERIFY(settle());
+        QVERIFY(!view->isPlaying());
+        m_desk->clock.advance(platform::milliseconds(50));
+        QCOMPARE(m_desk->clock.tasksWaiting(), std::size_t(0)); // nothing runs on
+    }
 }
 
 QTEST_MAIN(TestPages)

@@ -172,6 +172,10 @@
         <translation>2 Hour</translation>
     </message>
     <message>
+        <source>2 Zone Rhythm</source>
+        <translation>2 Zone Rhythm</translation>
+    </message>
+    <message>
         <source>2.0</source>
         <translation>2.0</translation>
     </message>
@@ -314,6 +318,10 @@
     <message>
         <source>A tone</source>
         <translation>A tone</translation>
+    </message>
+    <message>
+        <source>A white behind the screen that spares the eyes. Warm in the evening, cold by day.</source>
+        <translation>A white behind the screen that spares the eyes. Warm in the evening, cold by day.</translation>
     </message>
     <message>
         <source>A wide gamut for photographs.</source>
@@ -548,6 +556,10 @@
         <translation>Boundary</translation>
     </message>
     <message>
+        <source>Breathe</source>
+        <translation>Breathe</translation>
+    </message>
+    <message>
         <source>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = when needed.</source>
         <translation>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = when needed.</translation>
     </message>
@@ -708,12 +720,24 @@
         <translation>Clock</translation>
     </message>
     <message>
+        <source>Clockwise</source>
+        <translation>Clockwise</translation>
+    </message>
+    <message>
         <source>Close</source>
         <translation>Close</translation>
     </message>
     <message>
+        <source>Close = dark, Normal = one colour, Effect = it moves, Rhythm = follows sound or screen, Eye Care = calm white.</source>
+        <translation>Close = dark, Normal = one colour, Effect = it moves, Rhythm = follows sound or screen, Eye Care = calm white.</translation>
+    </message>
+    <message>
         <source>Close window</source>
         <translation>Close window</translation>
+    </message>
+    <message>
+        <source>Cold</source>
+        <translation>Cold</translation>
     </message>
     <message>
         <source>Color</source>
@@ -760,6 +784,10 @@
         <translation>Copy report</translation>
     </message>
     <message>
+        <source>Counterclockwise</source>
+        <translation>Counterclockwise</translation>
+    </message>
+    <message>
         <source>Counts down in a corner, so that you notice how long you have played.</source>
         <translation>Counts down in a corner, so that you notice how long you have played.</translation>
     </message>
@@ -786,6 +814,10 @@
     <message>
         <source>Custom</source>
         <translation>Custom</translation>
+    </message>
+    <message>
+        <source>Custom Color</source>
+        <translation>Custom Color</translation>
     </message>
     <message>
         <source>Custom Mode</source>
@@ -838,6 +870,10 @@
     <message>
         <source>Dark Programme</source>
         <translation>Dark Programme</translation>
+    </message>
+    <message>
+        <source>Dark with the Screen</source>
+        <translation>Dark with the Screen</translation>
     </message>
     <message>
         <source>Darkens the rim of the screen, so that the middle draws the eye.</source>
@@ -898,6 +934,10 @@
     <message>
         <source>Dims the taskbar, which always stands in one place. Close = off; Low to High are stronger in turn.</source>
         <translation>Dims the taskbar, which always stands in one place. Close = off; Low to High are stronger in turn.</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Direction</translation>
     </message>
     <message>
         <source>Display P3</source>
@@ -1000,6 +1040,10 @@
         <translation>Easy to find, and covers what it points at.</translation>
     </message>
     <message>
+        <source>Effect</source>
+        <translation>Effect</translation>
+    </message>
+    <message>
         <source>Emberline</source>
         <translation>Emberline</translation>
     </message>
@@ -1074,6 +1118,14 @@
     <message>
         <source>First control</source>
         <translation>First control</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Flicker</translation>
+    </message>
+    <message>
+        <source>Flow</source>
+        <translation>Flow</translation>
     </message>
     <message>
         <source>Focus Dimming</source>
@@ -1152,6 +1204,18 @@
         <translation>From now on another program has it.</translation>
     </message>
     <message>
+        <source>Front Brightness</source>
+        <translation>Front Brightness</translation>
+    </message>
+    <message>
+        <source>Front Color</source>
+        <translation>Front Color</translation>
+    </message>
+    <message>
+        <source>Front and Rear</source>
+        <translation>Front and Rear</translation>
+    </message>
+    <message>
         <source>Function</source>
         <translation>Function</translation>
     </message>
@@ -1206,6 +1270,10 @@
     <message>
         <source>General Settings</source>
         <translation>General Settings</translation>
+    </message>
+    <message>
+        <source>Global Rhythm</source>
+        <translation>Global Rhythm</translation>
     </message>
     <message>
         <source>Go deaf</source>
@@ -1292,6 +1360,10 @@
         <translation>High-definition video work.</translation>
     </message>
     <message>
+        <source>Highlight</source>
+        <translation>Highlight</translation>
+    </message>
+    <message>
         <source>Hold Ctrl or Alt and press a letter or a digit.</source>
         <translation>Hold Ctrl or Alt and press a letter or a digit.</translation>
     </message>
@@ -1326,6 +1398,10 @@
     <message>
         <source>How the LED matrix behind the monitor shines. Matrix Lamp and Clock: Close = off, Open = on.</source>
         <translation>How the LED matrix behind the monitor shines. Matrix Lamp and Clock: Close = off, Open = on.</translation>
+    </message>
+    <message>
+        <source>How the lamps move in the mode &quot;Effect&quot;. The picture plays it as it will look.</source>
+        <translation>How the lamps move in the mode &quot;Effect&quot;. The picture plays it as it will look.</translation>
     </message>
     <message>
         <source>How the link to the monitor has been since the program started.</source>
@@ -1452,6 +1528,30 @@
         <translation>Lamp</translation>
     </message>
     <message>
+        <source>Lamp Belt</source>
+        <translation>Lamp Belt</translation>
+    </message>
+    <message>
+        <source>Lamp Belt Brightness</source>
+        <translation>Lamp Belt Brightness</translation>
+    </message>
+    <message>
+        <source>Lamp Belt Color</source>
+        <translation>Lamp Belt Color</translation>
+    </message>
+    <message>
+        <source>Lamp Belt Effect</source>
+        <translation>Lamp Belt Effect</translation>
+    </message>
+    <message>
+        <source>Lamp Belt Front Color</source>
+        <translation>Lamp Belt Front Color</translation>
+    </message>
+    <message>
+        <source>Lamp Belt Rear Color</source>
+        <translation>Lamp Belt Rear Color</translation>
+    </message>
+    <message>
         <source>Language</source>
         <translation>Language</translation>
     </message>
@@ -1516,6 +1616,42 @@
         <translation>Level5</translation>
     </message>
     <message>
+        <source>Light Brightness</source>
+        <translation>Light Brightness</translation>
+    </message>
+    <message>
+        <source>Light Color</source>
+        <translation>Light Color</translation>
+    </message>
+    <message>
+        <source>Light Color B</source>
+        <translation>Light Color B</translation>
+    </message>
+    <message>
+        <source>Light Color G</source>
+        <translation>Light Color G</translation>
+    </message>
+    <message>
+        <source>Light Color R</source>
+        <translation>Light Color R</translation>
+    </message>
+    <message>
+        <source>Light Direction</source>
+        <translation>Light Direction</translation>
+    </message>
+    <message>
+        <source>Light Effect</source>
+        <translation>Light Effect</translation>
+    </message>
+    <message>
+        <source>Light Level</source>
+        <translation>Light Level</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>Light Mode</translation>
+    </message>
+    <message>
         <source>Light Programme</source>
         <translation>Light Programme</translation>
     </message>
@@ -1524,8 +1660,28 @@
         <translation>Light Sensor</translation>
     </message>
     <message>
+        <source>Light Speed</source>
+        <translation>Light Speed</translation>
+    </message>
+    <message>
+        <source>Light Temperature</source>
+        <translation>Light Temperature</translation>
+    </message>
+    <message>
+        <source>Light Timer</source>
+        <translation>Light Timer</translation>
+    </message>
+    <message>
+        <source>Light in Standby</source>
+        <translation>Light in Standby</translation>
+    </message>
+    <message>
         <source>Lighter = used longer that day, ring = cared for.</source>
         <translation>Lighter = used longer that day, ring = cared for.</translation>
+    </message>
+    <message>
+        <source>Lighting</source>
+        <translation>Lighting</translation>
     </message>
     <message>
         <source>Listening…</source>
@@ -1888,8 +2044,16 @@
         <translation>Nothing is dimmed.</translation>
     </message>
     <message>
+        <source>Nothing is followed but in one of the two rhythm modes.</source>
+        <translation>Nothing is followed but in one of the two rhythm modes.</translation>
+    </message>
+    <message>
         <source>Nothing is heard: no program plays, or the sound output is gone.</source>
         <translation>Nothing is heard: no program plays, or the sound output is gone.</translation>
+    </message>
+    <message>
+        <source>Nothing moves but in the mode &quot;Effect&quot;.</source>
+        <translation>Nothing moves but in the mode &quot;Effect&quot;.</translation>
     </message>
     <message>
         <source>Nothing plays</source>
@@ -1950,6 +2114,10 @@
     <message>
         <source>Onion Skin</source>
         <translation>Onion Skin</translation>
+    </message>
+    <message>
+        <source>Only the modes &quot;Normal&quot; and &quot;Effect&quot; have a colour of their own.</source>
+        <translation>Only the modes &quot;Normal&quot; and &quot;Effect&quot; have a colour of their own.</translation>
     </message>
     <message>
         <source>Only the small window of PIP has a size and a place.</source>
@@ -2014,6 +2182,10 @@
     <message>
         <source>Parameters of the mode</source>
         <translation>Parameters of the mode</translation>
+    </message>
+    <message>
+        <source>Pearl</source>
+        <translation>Pearl</translation>
     </message>
     <message>
         <source>Photo(P3-D65)</source>
@@ -2148,6 +2320,10 @@
         <translation>RGB Limit</translation>
     </message>
     <message>
+        <source>Rainbow</source>
+        <translation>Rainbow</translation>
+    </message>
+    <message>
         <source>Raises the contrast between light and dark parts. 0 = off.</source>
         <translation>Raises the contrast between light and dark parts. 0 = off.</translation>
     </message>
@@ -2174,6 +2350,14 @@
     <message>
         <source>Reading: %1 of %2</source>
         <translation>Reading: %1 of %2</translation>
+    </message>
+    <message>
+        <source>Rear Brightness</source>
+        <translation>Rear Brightness</translation>
+    </message>
+    <message>
+        <source>Rear Color</source>
+        <translation>Rear Color</translation>
     </message>
     <message>
         <source>Rec.709</source>
@@ -2250,6 +2434,30 @@
     <message>
         <source>Retry</source>
         <translation>Retry</translation>
+    </message>
+    <message>
+        <source>Rhythm</source>
+        <translation>Rhythm</translation>
+    </message>
+    <message>
+        <source>Rhythm Color</source>
+        <translation>Rhythm Color</translation>
+    </message>
+    <message>
+        <source>Rhythm Color L</source>
+        <translation>Rhythm Color L</translation>
+    </message>
+    <message>
+        <source>Rhythm Color R</source>
+        <translation>Rhythm Color R</translation>
+    </message>
+    <message>
+        <source>Rhythm Level</source>
+        <translation>Rhythm Level</translation>
+    </message>
+    <message>
+        <source>Rhythm Source</source>
+        <translation>Rhythm Source</translation>
     </message>
     <message>
         <source>Ring</source>
@@ -2338,6 +2546,10 @@
     <message>
         <source>Scene mode</source>
         <translation>Scene mode</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>Screen</translation>
     </message>
     <message>
         <source>Screen of the simulated monitor</source>
@@ -2488,6 +2700,14 @@
         <translation>Smooth</translation>
     </message>
     <message>
+        <source>Soft</source>
+        <translation>Soft</translation>
+    </message>
+    <message>
+        <source>Soft Changes</source>
+        <translation>Soft Changes</translation>
+    </message>
+    <message>
         <source>Softproof</source>
         <translation>Softproof</translation>
     </message>
@@ -2504,12 +2724,20 @@
         <translation>Sound</translation>
     </message>
     <message>
+        <source>Sound = what this computer plays, Screen = the picture&apos;s edges. Higher levels follow smaller changes.</source>
+        <translation>Sound = what this computer plays, Screen = the picture&apos;s edges. Higher levels follow smaller changes.</translation>
+    </message>
+    <message>
         <source>Sound output</source>
         <translation>Sound output</translation>
     </message>
     <message>
         <source>Spectrum</source>
         <translation>Spectrum</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Speed</translation>
     </message>
     <message>
         <source>Standard</source>
@@ -2522,6 +2750,10 @@
     <message>
         <source>Standing</source>
         <translation>Standing</translation>
+    </message>
+    <message>
+        <source>Star</source>
+        <translation>Star</translation>
     </message>
     <message>
         <source>Start care</source>
@@ -2660,6 +2892,10 @@
         <translation>The cable is pulled out until the button is released</translation>
     </message>
     <message>
+        <source>The colour of the steady light and of the effects. Auto = runs through all colours.</source>
+        <translation>The colour of the steady light and of the effects. Auto = runs through all colours.</translation>
+    </message>
+    <message>
         <source>The colours of the cinema.</source>
         <translation>The colours of the cinema.</translation>
     </message>
@@ -2706,6 +2942,14 @@
     <message>
         <source>The hotkey you set is occupied,please reset it again!</source>
         <translation>The hotkey you set is occupied,please reset it again!</translation>
+    </message>
+    <message>
+        <source>The lamp belt along the lower edge and around the foot has a light of its own.</source>
+        <translation>The lamp belt along the lower edge and around the foot has a light of its own.</translation>
+    </message>
+    <message>
+        <source>The lamp in front lights the desk, the one at the rear the wall: less contrast for tired eyes.</source>
+        <translation>The lamp in front lights the desk, the one at the rear the wall: less contrast for tired eyes.</translation>
     </message>
     <message>
         <source>The language of the monitor&apos;s own menu, not of this tool.</source>
@@ -2760,6 +3004,10 @@
         <translation>The monitor does not answer; the reading was given up.</translation>
     </message>
     <message>
+        <source>The monitor from behind, with its lamps</source>
+        <translation>The monitor from behind, with its lamps</translation>
+    </message>
+    <message>
         <source>The monitor has not told this value yet.</source>
         <translation>The monitor has not told this value yet.</translation>
     </message>
@@ -2790,6 +3038,10 @@
     <message>
         <source>The monitor takes no value until the button is released</source>
         <translation>The monitor takes no value until the button is released</translation>
+    </message>
+    <message>
+        <source>The monitor took only a part of the colour: its lamps now show another one.</source>
+        <translation>The monitor took only a part of the colour: its lamps now show another one.</translation>
     </message>
     <message>
         <source>The monitor uses less power. Close = off, Level2 saves the most.</source>
@@ -2944,6 +3196,10 @@
         <translation>This function has its row already.</translation>
     </message>
     <message>
+        <source>This is the light of the mode &quot;Eye Care&quot;.</source>
+        <translation>This is the light of the mode &quot;Eye Care&quot;.</translation>
+    </message>
+    <message>
         <source>This monitor</source>
         <translation>This monitor</translation>
     </message>
@@ -2974,6 +3230,10 @@
     <message>
         <source>Time, read or write, code, value and what became of it</source>
         <translation>Time, read or write, code, value and what became of it</translation>
+    </message>
+    <message>
+        <source>Times</source>
+        <translation>Times</translation>
     </message>
     <message>
         <source>Today&apos;s automatic changes of this monitor are used up (%1). They go on tomorrow; what you set yourself is not limited.</source>
@@ -3156,8 +3416,20 @@
         <translation>Waits long before it dims: good for reading.</translation>
     </message>
     <message>
+        <source>Warm</source>
+        <translation>Warm</translation>
+    </message>
+    <message>
         <source>Warning</source>
         <translation>Warning</translation>
+    </message>
+    <message>
+        <source>Water</source>
+        <translation>Water</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>Wave</translation>
     </message>
     <message>
         <source>Web(sRGB)</source>
@@ -3186,6 +3458,10 @@
     <message>
         <source>Wheel: one step · Tab, arrows · Esc closes</source>
         <translation>Wheel: one step · Tab, arrows · Esc closes</translation>
+    </message>
+    <message>
+        <source>When the lighting goes out by itself, and whether it stays on in standby.</source>
+        <translation>When the lighting goes out by itself, and whether it stays on in standby.</translation>
     </message>
     <message>
         <source>Which cable the monitor&apos;s USB sockets go to, and how fast the picture comes through DP or Type-C.</source>

@@ -172,6 +172,10 @@
         <translation>2 時間</translation>
     </message>
     <message>
+        <source>2 Zone Rhythm</source>
+        <translation>2 ゾーン連動</translation>
+    </message>
+    <message>
         <source>2.0</source>
         <translation>2.0</translation>
     </message>
@@ -314,6 +318,10 @@
     <message>
         <source>A tone</source>
         <translation>単音</translation>
+    </message>
+    <message>
+        <source>A white behind the screen that spares the eyes. Warm in the evening, cold by day.</source>
+        <translation>画面の後ろの目にやさしい白い光です。夜は暖色、昼は寒色が適しています。</translation>
     </message>
     <message>
         <source>A wide gamut for photographs.</source>
@@ -548,6 +556,10 @@
         <translation>境界</translation>
     </message>
     <message>
+        <source>Breathe</source>
+        <translation>呼吸</translation>
+    </message>
+    <message>
         <source>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = when needed.</source>
         <translation>暗い場面を明るくします。「レベル 1」と「レベル 2」は常に、「自動 L1」と「自動 L2」は映像に応じて働きます。</translation>
     </message>
@@ -708,12 +720,24 @@
         <translation>時計</translation>
     </message>
     <message>
+        <source>Clockwise</source>
+        <translation>時計回り</translation>
+    </message>
+    <message>
         <source>Close</source>
         <translation>オフ</translation>
     </message>
     <message>
+        <source>Close = dark, Normal = one colour, Effect = it moves, Rhythm = follows sound or screen, Eye Care = calm white.</source>
+        <translation>閉じる = 消灯、通常 = 一色、エフェクト = 動く光、連動 = 音や画面に合わせる、アイケア = 白い光。</translation>
+    </message>
+    <message>
         <source>Close window</source>
         <translation>ウィンドウを閉じる</translation>
+    </message>
+    <message>
+        <source>Cold</source>
+        <translation>寒色</translation>
     </message>
     <message>
         <source>Color</source>
@@ -760,6 +784,10 @@
         <translation>レポートをコピー</translation>
     </message>
     <message>
+        <source>Counterclockwise</source>
+        <translation>反時計回り</translation>
+    </message>
+    <message>
         <source>Counts down in a corner, so that you notice how long you have played.</source>
         <translation>画面の隅でカウントダウンし、プレイ時間がわかります。</translation>
     </message>
@@ -786,6 +814,10 @@
     <message>
         <source>Custom</source>
         <translation>カスタム</translation>
+    </message>
+    <message>
+        <source>Custom Color</source>
+        <translation>カスタム色</translation>
     </message>
     <message>
         <source>Custom Mode</source>
@@ -838,6 +870,10 @@
     <message>
         <source>Dark Programme</source>
         <translation>プログラミング(暗)</translation>
+    </message>
+    <message>
+        <source>Dark with the Screen</source>
+        <translation>画面と消灯</translation>
     </message>
     <message>
         <source>Darkens the rim of the screen, so that the middle draws the eye.</source>
@@ -898,6 +934,10 @@
     <message>
         <source>Dims the taskbar, which always stands in one place. Close = off; Low to High are stronger in turn.</source>
         <translation>いつも同じ場所にあるタスクバーを暗くします。オフ = 使わない、低から高へ順に強くなります。</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>方向</translation>
     </message>
     <message>
         <source>Display P3</source>
@@ -1000,6 +1040,10 @@
         <translation>見つけやすい反面、狙う先が隠れます。</translation>
     </message>
     <message>
+        <source>Effect</source>
+        <translation>エフェクト</translation>
+    </message>
+    <message>
         <source>Emberline</source>
         <translation>Emberline</translation>
     </message>
@@ -1074,6 +1118,14 @@
     <message>
         <source>First control</source>
         <translation>1 つ目の項目</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>点滅</translation>
+    </message>
+    <message>
+        <source>Flow</source>
+        <translation>フロー</translation>
     </message>
     <message>
         <source>Focus Dimming</source>
@@ -1152,6 +1204,18 @@
         <translation>これ以降、別のアプリが使用します。</translation>
     </message>
     <message>
+        <source>Front Brightness</source>
+        <translation>前面の明るさ</translation>
+    </message>
+    <message>
+        <source>Front Color</source>
+        <translation>前面の色</translation>
+    </message>
+    <message>
+        <source>Front and Rear</source>
+        <translation>前面と背面</translation>
+    </message>
+    <message>
         <source>Function</source>
         <translation>機能</translation>
     </message>
@@ -1206,6 +1270,10 @@
     <message>
         <source>General Settings</source>
         <translation>一般設定</translation>
+    </message>
+    <message>
+        <source>Global Rhythm</source>
+        <translation>全体連動</translation>
     </message>
     <message>
         <source>Go deaf</source>
@@ -1292,6 +1360,10 @@
         <translation>ハイビジョン映像の制作向けです。</translation>
     </message>
     <message>
+        <source>Highlight</source>
+        <translation>明るい</translation>
+    </message>
+    <message>
         <source>Hold Ctrl or Alt and press a letter or a digit.</source>
         <translation>Ctrl または Alt を押しながら、英字か数字を押してください。</translation>
     </message>
@@ -1326,6 +1398,10 @@
     <message>
         <source>How the LED matrix behind the monitor shines. Matrix Lamp and Clock: Close = off, Open = on.</source>
         <translation>モニターの背面にある LED マトリクスの光り方です。</translation>
+    </message>
+    <message>
+        <source>How the lamps move in the mode &quot;Effect&quot;. The picture plays it as it will look.</source>
+        <translation>モード「エフェクト」での光の動きです。図が実際の見え方を再生します。</translation>
     </message>
     <message>
         <source>How the link to the monitor has been since the program started.</source>
@@ -1452,6 +1528,30 @@
         <translation>ランプ</translation>
     </message>
     <message>
+        <source>Lamp Belt</source>
+        <translation>ライトバー</translation>
+    </message>
+    <message>
+        <source>Lamp Belt Brightness</source>
+        <translation>バーの明るさ</translation>
+    </message>
+    <message>
+        <source>Lamp Belt Color</source>
+        <translation>バーの色</translation>
+    </message>
+    <message>
+        <source>Lamp Belt Effect</source>
+        <translation>バーの効果</translation>
+    </message>
+    <message>
+        <source>Lamp Belt Front Color</source>
+        <translation>バー前面の色</translation>
+    </message>
+    <message>
+        <source>Lamp Belt Rear Color</source>
+        <translation>バー背面の色</translation>
+    </message>
+    <message>
         <source>Language</source>
         <translation>言語</translation>
     </message>
@@ -1516,6 +1616,42 @@
         <translation>レベル 5</translation>
     </message>
     <message>
+        <source>Light Brightness</source>
+        <translation>ライトの明るさ</translation>
+    </message>
+    <message>
+        <source>Light Color</source>
+        <translation>ライトの色</translation>
+    </message>
+    <message>
+        <source>Light Color B</source>
+        <translation>ライトの色 B</translation>
+    </message>
+    <message>
+        <source>Light Color G</source>
+        <translation>ライトの色 G</translation>
+    </message>
+    <message>
+        <source>Light Color R</source>
+        <translation>ライトの色 R</translation>
+    </message>
+    <message>
+        <source>Light Direction</source>
+        <translation>ライトの方向</translation>
+    </message>
+    <message>
+        <source>Light Effect</source>
+        <translation>ライトの効果</translation>
+    </message>
+    <message>
+        <source>Light Level</source>
+        <translation>ライトの強さ</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>ライトモード</translation>
+    </message>
+    <message>
         <source>Light Programme</source>
         <translation>プログラミング(明)</translation>
     </message>
@@ -1524,8 +1660,28 @@
         <translation>光センサー</translation>
     </message>
     <message>
+        <source>Light Speed</source>
+        <translation>ライトの速さ</translation>
+    </message>
+    <message>
+        <source>Light Temperature</source>
+        <translation>ライトの色温度</translation>
+    </message>
+    <message>
+        <source>Light Timer</source>
+        <translation>消灯タイマー</translation>
+    </message>
+    <message>
+        <source>Light in Standby</source>
+        <translation>待機中も点灯</translation>
+    </message>
+    <message>
         <source>Lighter = used longer that day, ring = cared for.</source>
         <translation>明るいほど長く使った日、輪 = ケアをした日。</translation>
+    </message>
+    <message>
+        <source>Lighting</source>
+        <translation>ライト</translation>
     </message>
     <message>
         <source>Listening…</source>
@@ -1873,7 +2029,7 @@
     </message>
     <message>
         <source>Normal</source>
-        <translation>標準</translation>
+        <translation>通常</translation>
     </message>
     <message>
         <source>Not told: %1</source>
@@ -1888,8 +2044,16 @@
         <translation>暗くしません。</translation>
     </message>
     <message>
+        <source>Nothing is followed but in one of the two rhythm modes.</source>
+        <translation>連動するのは 2 つの連動モードのときだけです。</translation>
+    </message>
+    <message>
         <source>Nothing is heard: no program plays, or the sound output is gone.</source>
         <translation>音が聞こえません。再生中のアプリがないか、音声出力がなくなりました。</translation>
+    </message>
+    <message>
+        <source>Nothing moves but in the mode &quot;Effect&quot;.</source>
+        <translation>動くのはモード「エフェクト」のときだけです。</translation>
     </message>
     <message>
         <source>Nothing plays</source>
@@ -1950,6 +2114,10 @@
     <message>
         <source>Onion Skin</source>
         <translation>オニオンスキン</translation>
+    </message>
+    <message>
+        <source>Only the modes &quot;Normal&quot; and &quot;Effect&quot; have a colour of their own.</source>
+        <translation>色を選べるのはモード「通常」と「エフェクト」だけです。</translation>
     </message>
     <message>
         <source>Only the small window of PIP has a size and a place.</source>
@@ -2014,6 +2182,10 @@
     <message>
         <source>Parameters of the mode</source>
         <translation>モードのパラメーター</translation>
+    </message>
+    <message>
+        <source>Pearl</source>
+        <translation>パール</translation>
     </message>
     <message>
         <source>Photo(P3-D65)</source>
@@ -2148,6 +2320,10 @@
         <translation>RGB リミテッド</translation>
     </message>
     <message>
+        <source>Rainbow</source>
+        <translation>レインボー</translation>
+    </message>
+    <message>
         <source>Raises the contrast between light and dark parts. 0 = off.</source>
         <translation>明るい部分と暗い部分の差を強めます。0 でオフです。</translation>
     </message>
@@ -2174,6 +2350,14 @@
     <message>
         <source>Reading: %1 of %2</source>
         <translation>読み取り中: %1 / %2</translation>
+    </message>
+    <message>
+        <source>Rear Brightness</source>
+        <translation>背面の明るさ</translation>
+    </message>
+    <message>
+        <source>Rear Color</source>
+        <translation>背面の色</translation>
     </message>
     <message>
         <source>Rec.709</source>
@@ -2250,6 +2434,30 @@
     <message>
         <source>Retry</source>
         <translation>再試行</translation>
+    </message>
+    <message>
+        <source>Rhythm</source>
+        <translation>連動</translation>
+    </message>
+    <message>
+        <source>Rhythm Color</source>
+        <translation>連動の色</translation>
+    </message>
+    <message>
+        <source>Rhythm Color L</source>
+        <translation>連動の色 左</translation>
+    </message>
+    <message>
+        <source>Rhythm Color R</source>
+        <translation>連動の色 右</translation>
+    </message>
+    <message>
+        <source>Rhythm Level</source>
+        <translation>連動レベル</translation>
+    </message>
+    <message>
+        <source>Rhythm Source</source>
+        <translation>連動の元</translation>
     </message>
     <message>
         <source>Ring</source>
@@ -2338,6 +2546,10 @@
     <message>
         <source>Scene mode</source>
         <translation>シーンモード</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>画面</translation>
     </message>
     <message>
         <source>Screen of the simulated monitor</source>
@@ -2488,6 +2700,14 @@
         <translation>なめらか</translation>
     </message>
     <message>
+        <source>Soft</source>
+        <translation>やわらか</translation>
+    </message>
+    <message>
+        <source>Soft Changes</source>
+        <translation>なめらか変化</translation>
+    </message>
+    <message>
         <source>Softproof</source>
         <translation>Softproof</translation>
     </message>
@@ -2504,12 +2724,20 @@
         <translation>サウンド</translation>
     </message>
     <message>
+        <source>Sound = what this computer plays, Screen = the picture&apos;s edges. Higher levels follow smaller changes.</source>
+        <translation>サウンド = この PC の再生音、画面 = 画面の縁の色。レベルが高いほど細かい変化に連動します。</translation>
+    </message>
+    <message>
         <source>Sound output</source>
         <translation>音声出力</translation>
     </message>
     <message>
         <source>Spectrum</source>
         <translation>スペクトラム</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>速さ</translation>
     </message>
     <message>
         <source>Standard</source>
@@ -2522,6 +2750,10 @@
     <message>
         <source>Standing</source>
         <translation>固定表示</translation>
+    </message>
+    <message>
+        <source>Star</source>
+        <translation>スター</translation>
     </message>
     <message>
         <source>Start care</source>
@@ -2660,6 +2892,10 @@
         <translation>ボタンを戻すまでケーブルを抜いた状態にします</translation>
     </message>
     <message>
+        <source>The colour of the steady light and of the effects. Auto = runs through all colours.</source>
+        <translation>通常とエフェクトの色です。自動 = すべての色を順に巡ります。</translation>
+    </message>
+    <message>
         <source>The colours of the cinema.</source>
         <translation>映画館の色です。</translation>
     </message>
@@ -2706,6 +2942,14 @@
     <message>
         <source>The hotkey you set is occupied,please reset it again!</source>
         <translation>設定したショートカットキーは既に使用されています。設定し直してください。</translation>
+    </message>
+    <message>
+        <source>The lamp belt along the lower edge and around the foot has a light of its own.</source>
+        <translation>下縁とスタンドの周りのライトバーは別に光ります。</translation>
+    </message>
+    <message>
+        <source>The lamp in front lights the desk, the one at the rear the wall: less contrast for tired eyes.</source>
+        <translation>前面は机を、背面は壁を照らします。明暗の差が減り、目の疲れを和らげます。</translation>
     </message>
     <message>
         <source>The language of the monitor&apos;s own menu, not of this tool.</source>
@@ -2760,6 +3004,10 @@
         <translation>モニターが応答しないため、読み取りを中止しました。</translation>
     </message>
     <message>
+        <source>The monitor from behind, with its lamps</source>
+        <translation>モニターの背面とライト</translation>
+    </message>
+    <message>
         <source>The monitor has not told this value yet.</source>
         <translation>この値はまだモニターから読み取れていません。</translation>
     </message>
@@ -2790,6 +3038,10 @@
     <message>
         <source>The monitor takes no value until the button is released</source>
         <translation>ボタンを戻すまでモニターは値を受け付けません</translation>
+    </message>
+    <message>
+        <source>The monitor took only a part of the colour: its lamps now show another one.</source>
+        <translation>モニターは色の一部だけを受け付けました。いまは別の色で光っています。</translation>
     </message>
     <message>
         <source>The monitor uses less power. Close = off, Level2 saves the most.</source>
@@ -2944,6 +3196,10 @@
         <translation>この機能は既にリストにあります。</translation>
     </message>
     <message>
+        <source>This is the light of the mode &quot;Eye Care&quot;.</source>
+        <translation>これはモード「アイケア」の光です。</translation>
+    </message>
+    <message>
         <source>This monitor</source>
         <translation>このモニター</translation>
     </message>
@@ -2974,6 +3230,10 @@
     <message>
         <source>Time, read or write, code, value and what became of it</source>
         <translation>時刻、読み書きの別、コード、値、結果</translation>
+    </message>
+    <message>
+        <source>Times</source>
+        <translation>時間</translation>
     </message>
     <message>
         <source>Today&apos;s automatic changes of this monitor are used up (%1). They go on tomorrow; what you set yourself is not limited.</source>
@@ -3156,8 +3416,20 @@
         <translation>暗くするまで長く待ちます。読書に向いています。</translation>
     </message>
     <message>
+        <source>Warm</source>
+        <translation>暖色</translation>
+    </message>
+    <message>
         <source>Warning</source>
         <translation>警告</translation>
+    </message>
+    <message>
+        <source>Water</source>
+        <translation>水流</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>ウェーブ</translation>
     </message>
     <message>
         <source>Web(sRGB)</source>
@@ -3186,6 +3458,10 @@
     <message>
         <source>Wheel: one step · Tab, arrows · Esc closes</source>
         <translation>ホイールで 1 段階 · Tab・矢印キー · Esc で閉じる</translation>
+    </message>
+    <message>
+        <source>When the lighting goes out by itself, and whether it stays on in standby.</source>
+        <translation>ライトが自動で消える時間と、待機中も点灯するかどうか。</translation>
     </message>
     <message>
         <source>Which cable the monitor&apos;s USB sockets go to, and how fast the picture comes through DP or Type-C.</source>

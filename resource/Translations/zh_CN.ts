@@ -172,6 +172,10 @@
         <translation>2 小时</translation>
     </message>
     <message>
+        <source>2 Zone Rhythm</source>
+        <translation>双区律动</translation>
+    </message>
+    <message>
         <source>2.0</source>
         <translation>2.0</translation>
     </message>
@@ -314,6 +318,10 @@
     <message>
         <source>A tone</source>
         <translation>单音</translation>
+    </message>
+    <message>
+        <source>A white behind the screen that spares the eyes. Warm in the evening, cold by day.</source>
+        <translation>屏幕后方的护眼白光。晚上宜用暖光，白天宜用冷光。</translation>
     </message>
     <message>
         <source>A wide gamut for photographs.</source>
@@ -548,6 +556,10 @@
         <translation>边界</translation>
     </message>
     <message>
+        <source>Breathe</source>
+        <translation>呼吸</translation>
+    </message>
+    <message>
         <source>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = when needed.</source>
         <translation>提亮昏暗的场景。“等级 1”和“等级 2”始终生效，“自动 L1”和“自动 L2”随画面调整。</translation>
     </message>
@@ -708,12 +720,24 @@
         <translation>时钟</translation>
     </message>
     <message>
+        <source>Clockwise</source>
+        <translation>顺时针</translation>
+    </message>
+    <message>
         <source>Close</source>
         <translation>关闭</translation>
     </message>
     <message>
+        <source>Close = dark, Normal = one colour, Effect = it moves, Rhythm = follows sound or screen, Eye Care = calm white.</source>
+        <translation>关闭 = 熄灯，常亮 = 单色，灯效 = 动态，律动 = 跟随声音或屏幕，护眼 = 柔和白光。</translation>
+    </message>
+    <message>
         <source>Close window</source>
         <translation>关闭窗口</translation>
+    </message>
+    <message>
+        <source>Cold</source>
+        <translation>冷</translation>
     </message>
     <message>
         <source>Color</source>
@@ -760,6 +784,10 @@
         <translation>复制报告</translation>
     </message>
     <message>
+        <source>Counterclockwise</source>
+        <translation>逆时针</translation>
+    </message>
+    <message>
         <source>Counts down in a corner, so that you notice how long you have played.</source>
         <translation>在屏幕一角倒计时，提醒您已经玩了多久。</translation>
     </message>
@@ -786,6 +814,10 @@
     <message>
         <source>Custom</source>
         <translation>自定义</translation>
+    </message>
+    <message>
+        <source>Custom Color</source>
+        <translation>自定义颜色</translation>
     </message>
     <message>
         <source>Custom Mode</source>
@@ -838,6 +870,10 @@
     <message>
         <source>Dark Programme</source>
         <translation>编程(深色)</translation>
+    </message>
+    <message>
+        <source>Dark with the Screen</source>
+        <translation>随屏熄灯</translation>
     </message>
     <message>
         <source>Darkens the rim of the screen, so that the middle draws the eye.</source>
@@ -898,6 +934,10 @@
     <message>
         <source>Dims the taskbar, which always stands in one place. Close = off; Low to High are stronger in turn.</source>
         <translation>使始终停在一处的任务栏变暗。关闭 = 不启用；从低到高依次增强。</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>方向</translation>
     </message>
     <message>
         <source>Display P3</source>
@@ -1000,6 +1040,10 @@
         <translation>容易看到，但会遮住目标。</translation>
     </message>
     <message>
+        <source>Effect</source>
+        <translation>灯效</translation>
+    </message>
+    <message>
         <source>Emberline</source>
         <translation>Emberline</translation>
     </message>
@@ -1074,6 +1118,14 @@
     <message>
         <source>First control</source>
         <translation>第一个控件</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>闪烁</translation>
+    </message>
+    <message>
+        <source>Flow</source>
+        <translation>流动</translation>
     </message>
     <message>
         <source>Focus Dimming</source>
@@ -1152,6 +1204,18 @@
         <translation>从现在起由另一个程序占用。</translation>
     </message>
     <message>
+        <source>Front Brightness</source>
+        <translation>前灯亮度</translation>
+    </message>
+    <message>
+        <source>Front Color</source>
+        <translation>前灯颜色</translation>
+    </message>
+    <message>
+        <source>Front and Rear</source>
+        <translation>前灯与后灯</translation>
+    </message>
+    <message>
         <source>Function</source>
         <translation>功能</translation>
     </message>
@@ -1206,6 +1270,10 @@
     <message>
         <source>General Settings</source>
         <translation>常规设置</translation>
+    </message>
+    <message>
+        <source>Global Rhythm</source>
+        <translation>全局律动</translation>
     </message>
     <message>
         <source>Go deaf</source>
@@ -1292,6 +1360,10 @@
         <translation>高清视频制作。</translation>
     </message>
     <message>
+        <source>Highlight</source>
+        <translation>高亮</translation>
+    </message>
+    <message>
         <source>Hold Ctrl or Alt and press a letter or a digit.</source>
         <translation>请按住 Ctrl 或 Alt 再按字母或数字。</translation>
     </message>
@@ -1326,6 +1398,10 @@
     <message>
         <source>How the LED matrix behind the monitor shines. Matrix Lamp and Clock: Close = off, Open = on.</source>
         <translation>显示器背后的 LED 矩阵的显示方式。</translation>
+    </message>
+    <message>
+        <source>How the lamps move in the mode &quot;Effect&quot;. The picture plays it as it will look.</source>
+        <translation>“灯效”模式下灯光的变化方式。图中会播放实际效果。</translation>
     </message>
     <message>
         <source>How the link to the monitor has been since the program started.</source>
@@ -1452,6 +1528,30 @@
         <translation>灯</translation>
     </message>
     <message>
+        <source>Lamp Belt</source>
+        <translation>灯带</translation>
+    </message>
+    <message>
+        <source>Lamp Belt Brightness</source>
+        <translation>灯带亮度</translation>
+    </message>
+    <message>
+        <source>Lamp Belt Color</source>
+        <translation>灯带颜色</translation>
+    </message>
+    <message>
+        <source>Lamp Belt Effect</source>
+        <translation>灯带灯效</translation>
+    </message>
+    <message>
+        <source>Lamp Belt Front Color</source>
+        <translation>灯带前部颜色</translation>
+    </message>
+    <message>
+        <source>Lamp Belt Rear Color</source>
+        <translation>灯带后部颜色</translation>
+    </message>
+    <message>
         <source>Language</source>
         <translation>语言</translation>
     </message>
@@ -1516,6 +1616,42 @@
         <translation>等级 5</translation>
     </message>
     <message>
+        <source>Light Brightness</source>
+        <translation>灯光亮度</translation>
+    </message>
+    <message>
+        <source>Light Color</source>
+        <translation>灯光颜色</translation>
+    </message>
+    <message>
+        <source>Light Color B</source>
+        <translation>灯光颜色 蓝</translation>
+    </message>
+    <message>
+        <source>Light Color G</source>
+        <translation>灯光颜色 绿</translation>
+    </message>
+    <message>
+        <source>Light Color R</source>
+        <translation>灯光颜色 红</translation>
+    </message>
+    <message>
+        <source>Light Direction</source>
+        <translation>灯光方向</translation>
+    </message>
+    <message>
+        <source>Light Effect</source>
+        <translation>灯光效果</translation>
+    </message>
+    <message>
+        <source>Light Level</source>
+        <translation>灯光等级</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>灯光模式</translation>
+    </message>
+    <message>
         <source>Light Programme</source>
         <translation>编程(浅色)</translation>
     </message>
@@ -1524,8 +1660,28 @@
         <translation>光线感应</translation>
     </message>
     <message>
+        <source>Light Speed</source>
+        <translation>灯光速度</translation>
+    </message>
+    <message>
+        <source>Light Temperature</source>
+        <translation>灯光色温</translation>
+    </message>
+    <message>
+        <source>Light Timer</source>
+        <translation>灯光定时</translation>
+    </message>
+    <message>
+        <source>Light in Standby</source>
+        <translation>待机亮灯</translation>
+    </message>
+    <message>
         <source>Lighter = used longer that day, ring = cared for.</source>
         <translation>越亮 = 当天使用越久，圆环 = 做过护理。</translation>
+    </message>
+    <message>
+        <source>Lighting</source>
+        <translation>灯光</translation>
     </message>
     <message>
         <source>Listening…</source>
@@ -1873,7 +2029,7 @@
     </message>
     <message>
         <source>Normal</source>
-        <translation>标准</translation>
+        <translation>常亮</translation>
     </message>
     <message>
         <source>Not told: %1</source>
@@ -1888,8 +2044,16 @@
         <translation>不会变暗。</translation>
     </message>
     <message>
+        <source>Nothing is followed but in one of the two rhythm modes.</source>
+        <translation>仅在两种律动模式下才会跟随。</translation>
+    </message>
+    <message>
         <source>Nothing is heard: no program plays, or the sound output is gone.</source>
         <translation>没有声音：没有程序在播放，或声音输出已断开。</translation>
+    </message>
+    <message>
+        <source>Nothing moves but in the mode &quot;Effect&quot;.</source>
+        <translation>仅在“灯效”模式下才有变化。</translation>
     </message>
     <message>
         <source>Nothing plays</source>
@@ -1950,6 +2114,10 @@
     <message>
         <source>Onion Skin</source>
         <translation>洋葱皮</translation>
+    </message>
+    <message>
+        <source>Only the modes &quot;Normal&quot; and &quot;Effect&quot; have a colour of their own.</source>
+        <translation>仅“常亮”和“灯效”模式可以设置颜色。</translation>
     </message>
     <message>
         <source>Only the small window of PIP has a size and a place.</source>
@@ -2014,6 +2182,10 @@
     <message>
         <source>Parameters of the mode</source>
         <translation>模式的参数</translation>
+    </message>
+    <message>
+        <source>Pearl</source>
+        <translation>流珠</translation>
     </message>
     <message>
         <source>Photo(P3-D65)</source>
@@ -2148,6 +2320,10 @@
         <translation>RGB 有限范围</translation>
     </message>
     <message>
+        <source>Rainbow</source>
+        <translation>彩虹</translation>
+    </message>
+    <message>
         <source>Raises the contrast between light and dark parts. 0 = off.</source>
         <translation>增强明暗部分的对比。0 为关闭。</translation>
     </message>
@@ -2174,6 +2350,14 @@
     <message>
         <source>Reading: %1 of %2</source>
         <translation>正在读取：%1 / %2</translation>
+    </message>
+    <message>
+        <source>Rear Brightness</source>
+        <translation>后灯亮度</translation>
+    </message>
+    <message>
+        <source>Rear Color</source>
+        <translation>后灯颜色</translation>
     </message>
     <message>
         <source>Rec.709</source>
@@ -2250,6 +2434,30 @@
     <message>
         <source>Retry</source>
         <translation>重试</translation>
+    </message>
+    <message>
+        <source>Rhythm</source>
+        <translation>律动</translation>
+    </message>
+    <message>
+        <source>Rhythm Color</source>
+        <translation>律动颜色</translation>
+    </message>
+    <message>
+        <source>Rhythm Color L</source>
+        <translation>律动颜色 左</translation>
+    </message>
+    <message>
+        <source>Rhythm Color R</source>
+        <translation>律动颜色 右</translation>
+    </message>
+    <message>
+        <source>Rhythm Level</source>
+        <translation>律动等级</translation>
+    </message>
+    <message>
+        <source>Rhythm Source</source>
+        <translation>律动来源</translation>
     </message>
     <message>
         <source>Ring</source>
@@ -2338,6 +2546,10 @@
     <message>
         <source>Scene mode</source>
         <translation>情景模式</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>屏幕</translation>
     </message>
     <message>
         <source>Screen of the simulated monitor</source>
@@ -2488,6 +2700,14 @@
         <translation>平滑</translation>
     </message>
     <message>
+        <source>Soft</source>
+        <translation>柔和</translation>
+    </message>
+    <message>
+        <source>Soft Changes</source>
+        <translation>柔和过渡</translation>
+    </message>
+    <message>
         <source>Softproof</source>
         <translation>Softproof</translation>
     </message>
@@ -2504,12 +2724,20 @@
         <translation>声音</translation>
     </message>
     <message>
+        <source>Sound = what this computer plays, Screen = the picture&apos;s edges. Higher levels follow smaller changes.</source>
+        <translation>声音 = 本机播放的声音，屏幕 = 画面边缘的颜色。等级越高，跟随的变化越细微。</translation>
+    </message>
+    <message>
         <source>Sound output</source>
         <translation>声音输出</translation>
     </message>
     <message>
         <source>Spectrum</source>
         <translation>频谱</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>速度</translation>
     </message>
     <message>
         <source>Standard</source>
@@ -2522,6 +2750,10 @@
     <message>
         <source>Standing</source>
         <translation>静止</translation>
+    </message>
+    <message>
+        <source>Star</source>
+        <translation>星光</translation>
     </message>
     <message>
         <source>Start care</source>
@@ -2660,6 +2892,10 @@
         <translation>线缆保持拔出，直到松开按钮</translation>
     </message>
     <message>
+        <source>The colour of the steady light and of the effects. Auto = runs through all colours.</source>
+        <translation>常亮与灯效的颜色。自动 = 依次变换所有颜色。</translation>
+    </message>
+    <message>
         <source>The colours of the cinema.</source>
         <translation>影院的色彩。</translation>
     </message>
@@ -2706,6 +2942,14 @@
     <message>
         <source>The hotkey you set is occupied,please reset it again!</source>
         <translation>您设置的快捷键已被占用，请重新设置！</translation>
+    </message>
+    <message>
+        <source>The lamp belt along the lower edge and around the foot has a light of its own.</source>
+        <translation>底边和底座四周的灯带有独立的灯光。</translation>
+    </message>
+    <message>
+        <source>The lamp in front lights the desk, the one at the rear the wall: less contrast for tired eyes.</source>
+        <translation>前灯照亮桌面，后灯照亮墙面：减小明暗反差，缓解眼睛疲劳。</translation>
     </message>
     <message>
         <source>The language of the monitor&apos;s own menu, not of this tool.</source>
@@ -2760,6 +3004,10 @@
         <translation>显示器没有应答，读取已放弃。</translation>
     </message>
     <message>
+        <source>The monitor from behind, with its lamps</source>
+        <translation>显示器背面及其灯光</translation>
+    </message>
+    <message>
         <source>The monitor has not told this value yet.</source>
         <translation>尚未从显示器读取此值。</translation>
     </message>
@@ -2790,6 +3038,10 @@
     <message>
         <source>The monitor takes no value until the button is released</source>
         <translation>显示器不接受任何值，直到松开按钮</translation>
+    </message>
+    <message>
+        <source>The monitor took only a part of the colour: its lamps now show another one.</source>
+        <translation>显示器只接受了颜色的一部分：灯光现在显示的是另一种颜色。</translation>
     </message>
     <message>
         <source>The monitor uses less power. Close = off, Level2 saves the most.</source>
@@ -2944,6 +3196,10 @@
         <translation>该功能已在列表中。</translation>
     </message>
     <message>
+        <source>This is the light of the mode &quot;Eye Care&quot;.</source>
+        <translation>这是“护眼”模式的灯光。</translation>
+    </message>
+    <message>
         <source>This monitor</source>
         <translation>此显示器</translation>
     </message>
@@ -2974,6 +3230,10 @@
     <message>
         <source>Time, read or write, code, value and what became of it</source>
         <translation>时间、读取或写入、代码、值及结果</translation>
+    </message>
+    <message>
+        <source>Times</source>
+        <translation>定时</translation>
     </message>
     <message>
         <source>Today&apos;s automatic changes of this monitor are used up (%1). They go on tomorrow; what you set yourself is not limited.</source>
@@ -3156,8 +3416,20 @@
         <translation>等待较久才变暗：适合阅读。</translation>
     </message>
     <message>
+        <source>Warm</source>
+        <translation>暖</translation>
+    </message>
+    <message>
         <source>Warning</source>
         <translation>警告</translation>
+    </message>
+    <message>
+        <source>Water</source>
+        <translation>流水</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>波浪</translation>
     </message>
     <message>
         <source>Web(sRGB)</source>
@@ -3186,6 +3458,10 @@
     <message>
         <source>Wheel: one step · Tab, arrows · Esc closes</source>
         <translation>滚轮：一格一步 · Tab 和方向键 · Esc 关闭</translation>
+    </message>
+    <message>
+        <source>When the lighting goes out by itself, and whether it stays on in standby.</source>
+        <translation>灯光何时自动熄灭，以及待机时是否保持亮灯。</translation>
     </message>
     <message>
         <source>Which cable the monitor&apos;s USB sockets go to, and how fast the picture comes through DP or Type-C.</source>

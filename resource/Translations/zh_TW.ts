@@ -172,6 +172,10 @@
         <translation>2 小時</translation>
     </message>
     <message>
+        <source>2 Zone Rhythm</source>
+        <translation>雙區律動</translation>
+    </message>
+    <message>
         <source>2.0</source>
         <translation>2.0</translation>
     </message>
@@ -314,6 +318,10 @@
     <message>
         <source>A tone</source>
         <translation>單音</translation>
+    </message>
+    <message>
+        <source>A white behind the screen that spares the eyes. Warm in the evening, cold by day.</source>
+        <translation>螢幕後方的護眼白光。晚上宜用暖光，白天宜用冷光。</translation>
     </message>
     <message>
         <source>A wide gamut for photographs.</source>
@@ -548,6 +556,10 @@
         <translation>邊界</translation>
     </message>
     <message>
+        <source>Breathe</source>
+        <translation>呼吸</translation>
+    </message>
+    <message>
         <source>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = when needed.</source>
         <translation>提亮昏暗的場景。「等級 1」和「等級 2」持續生效，「自動 L1」和「自動 L2」隨畫面調整。</translation>
     </message>
@@ -708,12 +720,24 @@
         <translation>時鐘</translation>
     </message>
     <message>
+        <source>Clockwise</source>
+        <translation>順時針</translation>
+    </message>
+    <message>
         <source>Close</source>
         <translation>關閉</translation>
     </message>
     <message>
+        <source>Close = dark, Normal = one colour, Effect = it moves, Rhythm = follows sound or screen, Eye Care = calm white.</source>
+        <translation>關閉 = 熄燈，恆亮 = 單色，燈效 = 動態，律動 = 跟隨聲音或螢幕，護眼 = 柔和白光。</translation>
+    </message>
+    <message>
         <source>Close window</source>
         <translation>關閉視窗</translation>
+    </message>
+    <message>
+        <source>Cold</source>
+        <translation>冷</translation>
     </message>
     <message>
         <source>Color</source>
@@ -760,6 +784,10 @@
         <translation>複製報告</translation>
     </message>
     <message>
+        <source>Counterclockwise</source>
+        <translation>逆時針</translation>
+    </message>
+    <message>
         <source>Counts down in a corner, so that you notice how long you have played.</source>
         <translation>在螢幕一角倒數計時，提醒您已經玩了多久。</translation>
     </message>
@@ -786,6 +814,10 @@
     <message>
         <source>Custom</source>
         <translation>自訂</translation>
+    </message>
+    <message>
+        <source>Custom Color</source>
+        <translation>自訂顏色</translation>
     </message>
     <message>
         <source>Custom Mode</source>
@@ -838,6 +870,10 @@
     <message>
         <source>Dark Programme</source>
         <translation>程式設計(深色)</translation>
+    </message>
+    <message>
+        <source>Dark with the Screen</source>
+        <translation>隨螢幕熄燈</translation>
     </message>
     <message>
         <source>Darkens the rim of the screen, so that the middle draws the eye.</source>
@@ -898,6 +934,10 @@
     <message>
         <source>Dims the taskbar, which always stands in one place. Close = off; Low to High are stronger in turn.</source>
         <translation>使始終停在一處的工作列變暗。關閉 = 不啟用；從低到高依次增強。</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>方向</translation>
     </message>
     <message>
         <source>Display P3</source>
@@ -1000,6 +1040,10 @@
         <translation>容易看到，但會遮住目標。</translation>
     </message>
     <message>
+        <source>Effect</source>
+        <translation>燈效</translation>
+    </message>
+    <message>
         <source>Emberline</source>
         <translation>Emberline</translation>
     </message>
@@ -1074,6 +1118,14 @@
     <message>
         <source>First control</source>
         <translation>第一個控制項</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>閃爍</translation>
+    </message>
+    <message>
+        <source>Flow</source>
+        <translation>流動</translation>
     </message>
     <message>
         <source>Focus Dimming</source>
@@ -1152,6 +1204,18 @@
         <translation>從現在起由另一個應用程式佔用。</translation>
     </message>
     <message>
+        <source>Front Brightness</source>
+        <translation>前燈亮度</translation>
+    </message>
+    <message>
+        <source>Front Color</source>
+        <translation>前燈顏色</translation>
+    </message>
+    <message>
+        <source>Front and Rear</source>
+        <translation>前燈與後燈</translation>
+    </message>
+    <message>
         <source>Function</source>
         <translation>功能</translation>
     </message>
@@ -1206,6 +1270,10 @@
     <message>
         <source>General Settings</source>
         <translation>一般設定</translation>
+    </message>
+    <message>
+        <source>Global Rhythm</source>
+        <translation>全域律動</translation>
     </message>
     <message>
         <source>Go deaf</source>
@@ -1292,6 +1360,10 @@
         <translation>高畫質視訊製作。</translation>
     </message>
     <message>
+        <source>Highlight</source>
+        <translation>高亮</translation>
+    </message>
+    <message>
         <source>Hold Ctrl or Alt and press a letter or a digit.</source>
         <translation>請按住 Ctrl 或 Alt 再按字母或數字。</translation>
     </message>
@@ -1326,6 +1398,10 @@
     <message>
         <source>How the LED matrix behind the monitor shines. Matrix Lamp and Clock: Close = off, Open = on.</source>
         <translation>顯示器背後的 LED 矩陣的顯示方式。</translation>
+    </message>
+    <message>
+        <source>How the lamps move in the mode &quot;Effect&quot;. The picture plays it as it will look.</source>
+        <translation>「燈效」模式下燈光的變化方式。圖中會播放實際效果。</translation>
     </message>
     <message>
         <source>How the link to the monitor has been since the program started.</source>
@@ -1452,6 +1528,30 @@
         <translation>燈</translation>
     </message>
     <message>
+        <source>Lamp Belt</source>
+        <translation>燈帶</translation>
+    </message>
+    <message>
+        <source>Lamp Belt Brightness</source>
+        <translation>燈帶亮度</translation>
+    </message>
+    <message>
+        <source>Lamp Belt Color</source>
+        <translation>燈帶顏色</translation>
+    </message>
+    <message>
+        <source>Lamp Belt Effect</source>
+        <translation>燈帶燈效</translation>
+    </message>
+    <message>
+        <source>Lamp Belt Front Color</source>
+        <translation>燈帶前部顏色</translation>
+    </message>
+    <message>
+        <source>Lamp Belt Rear Color</source>
+        <translation>燈帶後部顏色</translation>
+    </message>
+    <message>
         <source>Language</source>
         <translation>語言</translation>
     </message>
@@ -1516,6 +1616,42 @@
         <translation>等級 5</translation>
     </message>
     <message>
+        <source>Light Brightness</source>
+        <translation>燈光亮度</translation>
+    </message>
+    <message>
+        <source>Light Color</source>
+        <translation>燈光顏色</translation>
+    </message>
+    <message>
+        <source>Light Color B</source>
+        <translation>燈光顏色 藍</translation>
+    </message>
+    <message>
+        <source>Light Color G</source>
+        <translation>燈光顏色 綠</translation>
+    </message>
+    <message>
+        <source>Light Color R</source>
+        <translation>燈光顏色 紅</translation>
+    </message>
+    <message>
+        <source>Light Direction</source>
+        <translation>燈光方向</translation>
+    </message>
+    <message>
+        <source>Light Effect</source>
+        <translation>燈光效果</translation>
+    </message>
+    <message>
+        <source>Light Level</source>
+        <translation>燈光等級</translation>
+    </message>
+    <message>
+        <source>Light Mode</source>
+        <translation>燈光模式</translation>
+    </message>
+    <message>
         <source>Light Programme</source>
         <translation>程式設計(淺色)</translation>
     </message>
@@ -1524,8 +1660,28 @@
         <translation>光線感應</translation>
     </message>
     <message>
+        <source>Light Speed</source>
+        <translation>燈光速度</translation>
+    </message>
+    <message>
+        <source>Light Temperature</source>
+        <translation>燈光色溫</translation>
+    </message>
+    <message>
+        <source>Light Timer</source>
+        <translation>燈光定時</translation>
+    </message>
+    <message>
+        <source>Light in Standby</source>
+        <translation>待機亮燈</translation>
+    </message>
+    <message>
         <source>Lighter = used longer that day, ring = cared for.</source>
         <translation>越亮 = 當天使用越久，圓環 = 做過保養。</translation>
+    </message>
+    <message>
+        <source>Lighting</source>
+        <translation>燈光</translation>
     </message>
     <message>
         <source>Listening…</source>
@@ -1873,7 +2029,7 @@
     </message>
     <message>
         <source>Normal</source>
-        <translation>標準</translation>
+        <translation>恆亮</translation>
     </message>
     <message>
         <source>Not told: %1</source>
@@ -1888,8 +2044,16 @@
         <translation>不會變暗。</translation>
     </message>
     <message>
+        <source>Nothing is followed but in one of the two rhythm modes.</source>
+        <translation>僅在兩種律動模式下才會跟隨。</translation>
+    </message>
+    <message>
         <source>Nothing is heard: no program plays, or the sound output is gone.</source>
         <translation>沒有聲音：沒有應用程式在播放，或音訊輸出已中斷。</translation>
+    </message>
+    <message>
+        <source>Nothing moves but in the mode &quot;Effect&quot;.</source>
+        <translation>僅在「燈效」模式下才有變化。</translation>
     </message>
     <message>
         <source>Nothing plays</source>
@@ -1950,6 +2114,10 @@
     <message>
         <source>Onion Skin</source>
         <translation>洋蔥皮</translation>
+    </message>
+    <message>
+        <source>Only the modes &quot;Normal&quot; and &quot;Effect&quot; have a colour of their own.</source>
+        <translation>僅「恆亮」和「燈效」模式可以設定顏色。</translation>
     </message>
     <message>
         <source>Only the small window of PIP has a size and a place.</source>
@@ -2014,6 +2182,10 @@
     <message>
         <source>Parameters of the mode</source>
         <translation>模式的參數</translation>
+    </message>
+    <message>
+        <source>Pearl</source>
+        <translation>流珠</translation>
     </message>
     <message>
         <source>Photo(P3-D65)</source>
@@ -2148,6 +2320,10 @@
         <translation>RGB 有限範圍</translation>
     </message>
     <message>
+        <source>Rainbow</source>
+        <translation>彩虹</translation>
+    </message>
+    <message>
         <source>Raises the contrast between light and dark parts. 0 = off.</source>
         <translation>增強明暗部分的對比。0 為關閉。</translation>
     </message>
@@ -2174,6 +2350,14 @@
     <message>
         <source>Reading: %1 of %2</source>
         <translation>正在讀取：%1 / %2</translation>
+    </message>
+    <message>
+        <source>Rear Brightness</source>
+        <translation>後燈亮度</translation>
+    </message>
+    <message>
+        <source>Rear Color</source>
+        <translation>後燈顏色</translation>
     </message>
     <message>
         <source>Rec.709</source>
@@ -2250,6 +2434,30 @@
     <message>
         <source>Retry</source>
         <translation>重試</translation>
+    </message>
+    <message>
+        <source>Rhythm</source>
+        <translation>律動</translation>
+    </message>
+    <message>
+        <source>Rhythm Color</source>
+        <translation>律動顏色</translation>
+    </message>
+    <message>
+        <source>Rhythm Color L</source>
+        <translation>律動顏色 左</translation>
+    </message>
+    <message>
+        <source>Rhythm Color R</source>
+        <translation>律動顏色 右</translation>
+    </message>
+    <message>
+        <source>Rhythm Level</source>
+        <translation>律動等級</translation>
+    </message>
+    <message>
+        <source>Rhythm Source</source>
+        <translation>律動來源</translation>
     </message>
     <message>
         <source>Ring</source>
@@ -2338,6 +2546,10 @@
     <message>
         <source>Scene mode</source>
         <translation>情境模式</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>螢幕</translation>
     </message>
     <message>
         <source>Screen of the simulated monitor</source>
@@ -2488,6 +2700,14 @@
         <translation>平滑</translation>
     </message>
     <message>
+        <source>Soft</source>
+        <translation>柔和</translation>
+    </message>
+    <message>
+        <source>Soft Changes</source>
+        <translation>柔和過渡</translation>
+    </message>
+    <message>
         <source>Softproof</source>
         <translation>Softproof</translation>
     </message>
@@ -2504,12 +2724,20 @@
         <translation>聲音</translation>
     </message>
     <message>
+        <source>Sound = what this computer plays, Screen = the picture&apos;s edges. Higher levels follow smaller changes.</source>
+        <translation>聲音 = 本機播放的聲音，螢幕 = 畫面邊緣的顏色。等級越高，跟隨的變化越細微。</translation>
+    </message>
+    <message>
         <source>Sound output</source>
         <translation>音訊輸出</translation>
     </message>
     <message>
         <source>Spectrum</source>
         <translation>頻譜</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>速度</translation>
     </message>
     <message>
         <source>Standard</source>
@@ -2522,6 +2750,10 @@
     <message>
         <source>Standing</source>
         <translation>靜止</translation>
+    </message>
+    <message>
+        <source>Star</source>
+        <translation>星光</translation>
     </message>
     <message>
         <source>Start care</source>
@@ -2660,6 +2892,10 @@
         <translation>纜線保持拔出，直到放開按鈕</translation>
     </message>
     <message>
+        <source>The colour of the steady light and of the effects. Auto = runs through all colours.</source>
+        <translation>恆亮與燈效的顏色。自動 = 依序變換所有顏色。</translation>
+    </message>
+    <message>
         <source>The colours of the cinema.</source>
         <translation>電影院的色彩。</translation>
     </message>
@@ -2706,6 +2942,14 @@
     <message>
         <source>The hotkey you set is occupied,please reset it again!</source>
         <translation>您設定的快速鍵已被佔用，請重新設定！</translation>
+    </message>
+    <message>
+        <source>The lamp belt along the lower edge and around the foot has a light of its own.</source>
+        <translation>底邊和底座四周的燈帶有獨立的燈光。</translation>
+    </message>
+    <message>
+        <source>The lamp in front lights the desk, the one at the rear the wall: less contrast for tired eyes.</source>
+        <translation>前燈照亮桌面，後燈照亮牆面：減小明暗反差，緩解眼睛疲勞。</translation>
     </message>
     <message>
         <source>The language of the monitor&apos;s own menu, not of this tool.</source>
@@ -2760,6 +3004,10 @@
         <translation>顯示器沒有回應，讀取已放棄。</translation>
     </message>
     <message>
+        <source>The monitor from behind, with its lamps</source>
+        <translation>顯示器背面及其燈光</translation>
+    </message>
+    <message>
         <source>The monitor has not told this value yet.</source>
         <translation>尚未從顯示器讀取此值。</translation>
     </message>
@@ -2790,6 +3038,10 @@
     <message>
         <source>The monitor takes no value until the button is released</source>
         <translation>顯示器不接受任何值，直到放開按鈕</translation>
+    </message>
+    <message>
+        <source>The monitor took only a part of the colour: its lamps now show another one.</source>
+        <translation>顯示器只接受了顏色的一部分：燈光現在顯示的是另一種顏色。</translation>
     </message>
     <message>
         <source>The monitor uses less power. Close = off, Level2 saves the most.</source>
@@ -2944,6 +3196,10 @@
         <translation>該功能已在清單中。</translation>
     </message>
     <message>
+        <source>This is the light of the mode &quot;Eye Care&quot;.</source>
+        <translation>這是「護眼」模式的燈光。</translation>
+    </message>
+    <message>
         <source>This monitor</source>
         <translation>此顯示器</translation>
     </message>
@@ -2974,6 +3230,10 @@
     <message>
         <source>Time, read or write, code, value and what became of it</source>
         <translation>時間、讀取或寫入、代碼、值及結果</translation>
+    </message>
+    <message>
+        <source>Times</source>
+        <translation>定時</translation>
     </message>
     <message>
         <source>Today&apos;s automatic changes of this monitor are used up (%1). They go on tomorrow; what you set yourself is not limited.</source>
@@ -3156,8 +3416,20 @@
         <translation>等待較久才變暗：適合閱讀。</translation>
     </message>
     <message>
+        <source>Warm</source>
+        <translation>暖</translation>
+    </message>
+    <message>
         <source>Warning</source>
         <translation>警告</translation>
+    </message>
+    <message>
+        <source>Water</source>
+        <translation>流水</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>波浪</translation>
     </message>
     <message>
         <source>Web(sRGB)</source>
@@ -3186,6 +3458,10 @@
     <message>
         <source>Wheel: one step · Tab, arrows · Esc closes</source>
         <translation>滾輪：一格一步 · Tab 與方向鍵 · Esc 關閉</translation>
+    </message>
+    <message>
+        <source>When the lighting goes out by itself, and whether it stays on in standby.</source>
+        <translation>燈光何時自動熄滅，以及待機時是否保持亮燈。</translation>
     </message>
     <message>
         <source>Which cable the monitor&apos;s USB sockets go to, and how fast the picture comes through DP or Type-C.</source>

@@ -11,6 +11,8 @@
 
 namespace {
 
+constexpr char kLightColor[] = LABEL("Light Color");
+constexpr char kRhythmColor[] = LABEL("Rhythm Color");
 constexpr char kUser[] = LABEL("Color Temperature");
 constexpr char kHue[] = LABEL("Hue");
 constexpr char kSaturation[] = LABEL("Saturation");
@@ -90,7 +92,31 @@ constexpr CommandName kNames[] = {
     {Command::HawkEyeBrightness, LABEL("HawkEye Brightness"), Capability::GameFunctions},
     {Command::HawkEyeContrast, LABEL("HawkEye Contrast"), Capability::GameFunctions},
     {Command::HawkEyeSharpness, LABEL("HawkEye Sharpness"), Capability::GameFunctions},
+    {Command::LightMode, LABEL("Light Mode"), Capability::GameFunctions},
+    {Command::LightEffect, LABEL("Light Effect"), Capability::GameFunctions},
+    {Command::LightBrightness, LABEL("Light Brightness"), Capability::GameFunctions},
+    {Command::LightSpeed, LABEL("Light Speed"), Capability::GameFunctions},
+    {Command::LightColor, kLightColor, Capability::GameFunctions},
+    {Command::LightRed, kLightColor, Capability::GameFunctions},
+    {Command::LightGreen, kLightColor, Capability::GameFunctions},
+    {Command::LightBlue, kLightColor, Capability::GameFunctions},
+    {Command::LightTemperature, LABEL("Light Temperature"), Capability::GameFunctions},
+    {Command::LightEyeCare, LABEL("Light Level"), Capability::GameFunctions},
+    {Command::LightFrontColor, LABEL("Front Color"), Capability::GameFunctions},
+    {Command::LightRearColor, LABEL("Rear Color"), Capability::GameFunctions},
+    {Command::LightFrontBrightness, LABEL("Front Brightness"), Capability::GameFunctions},
+    {Command::LightRearBrightness, LABEL("Rear Brightness"), Capability::GameFunctions},
+    {Command::LightRhythmSource, LABEL("Rhythm Source"), Capability::GameFunctions},
+    {Command::LightRhythmLevel, LABEL("Rhythm Level"), Capability::GameFunctions},
+    {Command::LightDirection, LABEL("Light Direction"), Capability::GameFunctions},
+    {Command::LightGlobalTone, kRhythmColor, Capability::GameFunctions},
     {Command::Sharpness, LABEL("Sharpness")},
+    {Command::LightLeftTone, kRhythmColor, Capability::GameFunctions},
+    {Command::LightRightTone, kRhythmColor, Capability::GameFunctions},
+    {Command::LightInStandby, LABEL("Light in Standby"), Capability::GameFunctions},
+    {Command::LightWithScreen, LABEL("Dark with the Screen"), Capability::GameFunctions},
+    {Command::LightTimer, LABEL("Light Timer"), Capability::GameFunctions},
+    {Command::LightFade, LABEL("Soft Changes"), Capability::GameFunctions},
     {Command::HueRed, kHue},
     {Command::HueYellow, kHue},
     {Command::HueGreen, kHue},
@@ -115,6 +141,11 @@ constexpr CommandName kNames[] = {
     {Command::AiDualMode, LABEL("AI Dual Mode")},
     {Command::NoSignalTimer, LABEL("No Signal Timer")},
     {Command::GameRush, LABEL("Game Rush"), Capability::GameFunctions},
+    {Command::LampBeltColor, LABEL("Lamp Belt Color"), Capability::GameFunctions},
+    {Command::LampBeltBrightness, LABEL("Lamp Belt Brightness"), Capability::GameFunctions},
+    {Command::LampBeltEffect, LABEL("Lamp Belt Effect"), Capability::GameFunctions},
+    {Command::LampBeltFrontColor, LABEL("Lamp Belt Front Color"), Capability::GameFunctions},
+    {Command::LampBeltRearColor, LABEL("Lamp Belt Rear Color"), Capability::GameFunctions},
     {Command::AudioMode, LABEL("Audio Mode")},
     {Command::GravitySensor, LABEL("Gravity Sensor")},
     {Command::Paper, LABEL("Paper")},

@@ -6,6 +6,7 @@
 #include "page/BasicSetting/pageservicessetting.h"
 #include "page/BasicSetting/pagesystemsetting.h"
 #include "page/Game/pagegameassistant.h"
+#include "page/Emberline/pageemberline.h"
 #include "page/Game/pagepictureenhanc.h"
 #include "page/IO/pageiosetting.h"
 #include "page/MultiWindow/pagemultiwindow.h"
@@ -23,6 +24,7 @@ MonitorPages::MonitorPages(SearchDeviceDlg &session, CommandQueue &queue, PageSe
     pages.add(PageId::Office, new PageOffice(queue, stack));
     pages.add(PageId::GameAssistant, new pageGameAssistant(queue, stack));
     pages.add(PageId::PictureEnhance, new pagePictureEnhanc(queue, stack));
+    pages.add(PageId::Emberline, new pageEmberline(queue, stack));
     pages.add(PageId::SystemSetting, system);
     pages.add(PageId::ToolSetting, new pagePCSetting(session, queue, stack));
     pages.add(PageId::ServicesSetting, new pageServicesSetting(queue, stack));

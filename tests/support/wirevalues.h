@@ -4,7 +4,7 @@
 
 // What the controls of every page of monitor settings make of the monitor, written down by hand.
 
-enum PageName { Scene, Picture, Game, Office, Io, System, Windows, Care, kPageNames };
+enum PageName { Scene, Picture, Game, Office, Io, System, Windows, Care, Lighting, kPageNames };
 
 /// The entries of the four scene families: "label=value|label=value". No monitor has all.
 inline const char *const kScenes[] = {
@@ -33,6 +33,8 @@ inline const char *const kRange = "RGB Auto=0|RGB Limit=1|RGB Full=2";
 inline const char *const kCorner = "Top Left=0|Top Right=1|Bottom Left=2|Bottom Right=3";
 inline const char *const kColor = "Red=0|Yellow=1|Green=2|Cyan=3|Blue=4|Purple=5|White=6|Auto=7";
 inline const char *const kFive = "Level1=0|Level2=1|Level3=2|Level4=3|Level5=4";
+inline const char *const kColors = "Red=0|Yellow=1|Green=2|Cyan=3|Blue=4|Purple=5|White=6|Auto=7";
+inline const char *const kLampLevels = "Soft=0|Standard=1|Highlight=2";
 inline const Options kOptions[] = {
     {Scene, "Gama", "26", "1.6=0|1.8=1|2.0=2|2.2=3|2.4=4|2.6=5|CAD/CAM=7"},
     {Scene, "Gray Response", "49", kGrey},
@@ -115,6 +117,26 @@ inline const Options kOptions[] = {
     {Care, "Care Interval", "0b", "4 Hour=0|8 Hour=1|12 Hour=2|24 Hour=3"},
     {Care, "ISP", "0d", kSwitch},
     {Windows, "Place", "55", "Top Left=0|Top Right=1|Bottom Left=2|Bottom Right=3"},
+    {Lighting, "Light Mode", "75", "Close=0|Normal=1|Global Rhythm=3|Eye Care=5"},
+    {Lighting, "Light Level", "7e", kLampLevels}, // each works in its modes only
+    {Lighting, "Light Mode", "75", "2 Zone Rhythm=4"},
+    {Lighting, "Rhythm Source", "83", "Sound=0|Screen=1"},
+    {Lighting, "Rhythm Level", "84", "Level1=0|Level2=1|Level3=2|Level4=3|Level5=4"},
+    {Lighting, "Light Mode", "75", "Effect=2"},
+    {Lighting, "Light Effect", "76", "Breathe=0|Flow=1|Rainbow=2|Wave=3|Flicker=4"},
+    {Lighting, "Light Direction", "85", "Clockwise=0|Counterclockwise=1"},
+    {Lighting, "Soft Changes", "8d", kSwitch},
+    {Lighting, "Light Color", "79", "Red=0|Yellow=1|Green=2|Cyan=3|Blue=4|Purple=5|White=6|Auto=7|Custom=8"},
+    {Lighting, "Front Color", "7f", kColors},
+    {Lighting, "Rear Color", "80", kColors},
+    {Lighting, "Light Timer", "8c", "Close=0|30 min=1|1 Hour=2|2 Hour=3"},
+    {Lighting, "Dark with the Screen", "8b", kSwitch},
+    {Lighting, "Light in Standby", "8a", kSwitch},
+    {Lighting, "Lamp Belt Color", "e5", kColors},
+    {Lighting, "Lamp Belt Brightness", "e6", kLampLevels},
+    {Lighting, "Lamp Belt Effect", "e7", "Normal=0|Breathe=1|Flicker=2|Water=3|Star=4|Pearl=5"},
+    {Lighting, "Lamp Belt Front Color", "e8", kColors},
+    {Lighting, "Lamp Belt Rear Color", "e9", kColors},
 };
 
 /// The sliders of each page: "name code lowest-highest", and behind it when a value is sent and stored: on every move,
@@ -130,4 +152,6 @@ inline const std::pair<PageName, const char *> kSliders[] = {
      "Color Enhance 40 0-10 s|CR Enhance 41 0-5 s|Shadow Balance 42 0-100 s|SR 44 0-5 s|Halo Control 46 0-100 s"},
     {System, "Show Time(s) c0 5-100|H-Position c1 0-100|V-Position c2 0-100|Transparency c3 0-100|"
              "No Signal Timer e3 0-100|Audio Volume f6 0-100"},
+    {Lighting, "Light Brightness 77 0-100|Light Speed 78 0-10|Light Temperature 7d 0-100|Front Brightness 81 0-100|"
+               "Rear Brightness 82 0-100"},
 };

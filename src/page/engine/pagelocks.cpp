@@ -72,7 +72,7 @@ void PageLocks::goTo(const LockRule *rule)
     if (!rule)
         return;
     QWidget *control = controlOf(rule->target);
-    if (!control) {
+    if (!control || !control->isVisible()) { // it may stand on another panel
         Q_EMIT settingWanted(rule->target.command);
         return;
     }

@@ -23,7 +23,7 @@ public:
     void apply();
 
 Q_SIGNALS:
-    /// The user wants to go to a setting that the page does not have.
+    /// The user wants to go to a setting that is not in sight.
     void settingWanted(Command command);
 
 private:

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <optional>
+
+#include "ddc_protocol/command.h"
+#include "page/Emberline/lightframe.h"
+
+class DeviceState;
+
+/// A value that nobody has set yet: an option that is pointed at.
+struct LightPreview
+{
+    Command command;
+    int value;
+    bool operator==(const LightPreview &) const = default;
+};
+
+/// How the lamps are set, as far as the monitor told; with one value as if it were set.
+LightLook lightLook(const DeviceState &state, const std::optional<LightPreview> &preview = {});
+
+/// The colours of the lamp options, in their order; none for those that are not fixed.
+LightLook::Color lampColor(int option);
+
+/// A colour of the rhythm as it goes over the wire, 5 bits red, 6 green, 5 blue.
+int toneOf(QRgb color);
+QRgb colorOfTone(int tone);

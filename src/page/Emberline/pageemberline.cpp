@@ -1,0 +1,167 @@
+#include "page/Emberline/pageemberline.h"
+
+#include <algorithm>
+
+#include <QHBoxLayout>
+
+#include "controls/captionlabel.h"
+#include "controls/colorpicker.h"
+#include "controls/metrics.h"
+#include "ddc_protocol/commandqueue.h"
+#include "ddc_protocol/devicestate.h"
+#include "page/Emberline/lighttable.h"
+#include "page/Emberline/lightview.h"
+#include "page/engine/labels.h"
+#include "page/engine/optiongrouprow.h"
+
+namespace {
+
+constexpr int kCaptionPixels = 15;
+constexpr int kValueWidth = 96; // behind a slider: its value and the room for a lock
+
+/// What the picture shows, beyond the panel that is in sight.
+constexpr Command kLooks[] = {
+    Command::LightMode,         Command::LightEffect,          Command::LightBrightness,     Command::LightSpeed,
+    Command::LightColor,        Command::LightRed,             Command::LightGreen,          Command::LightBlue,
+    Command::LightTemperature,  Command::LightEyeCare,         Command::LightFrontColor,     Command::LightRearColor,
+    Command::LightDirection,    Command::LightFrontBrightness, Command::LightRearBrightness, Command::LampBeltColor,
+    Command::LampBeltEffect,    Command::LampBeltBrightness,   Command::LampBeltFrontColor,  Command::LampBeltRearColor,
+    Command::LightGlobalTone,   Command::LightLeftTone,        Command::LightRightTone,
+};
+
+QLabel *makeCaption(QWidget *parent)
+{
+    auto *label = new CaptionLabel(QString(), kCaptionPixels, parent);
+    label->setFixedHeight(metrics::kControlHeight);
+    label->setStyleSheet(QStringLiteral("color: #FFFFFF;"));
+    return label;
+}
+
+} // namespace
+
+pageEmberline::pageEmberline(CommandQueue &queue, QWidget *parent)
+    : PanelPage(QStringLiteral("pageEmberline"), OwnList::Shown, queue, parent)
+{
+    setLocks(lightLocks());
+    paceSliders();
+    buildPanels(lightPanels());
+    connect(this, &SettingsPage::settingWanted, this, &pageEmberline::goToMode);
+}
+
+QWidget *pageEmberline::buildPart(const char *name)
+{
+    if (qstrcmp(name, kOwnColorPart) == 0)
+        return buildOwnColor();
+    return qstrcmp(name, kTemperatureEndsPart) == 0 ? buildTemperatureEnds() : buildView();
+}
+
+QWidget *pageEmberline::buildView()
+{
+    auto *view = new LightView(this);
+    texts().bind(LABEL("The monitor from behind, with its lamps"),
+                 [view](const QString &text) { view->setAccessibleName(text); });
+    view->setLook(lightLook(deviceState));
+    m_views.push_back(view);
+    return view;
+}
+
+QWidget *pageEmberline::buildOwnColor()
+{
+    m_ownColorRow = new QWidget(this);
+    m_ownColor = new ColorPicker(m_ownColorRow);
+    m_ownColor->setObjectName(QStringLiteral("ownLightColor"));
+    QLabel *caption = makeCaption(m_ownColorRow);
+    caption->setFixedWidth(metrics::kCaptionWidth);
+    texts().bind(LABEL("Custom Color"), [this, caption](const QString &text) {
+        caption->setText(text);
+        m_ownColor->setAccessibleName(text);
+    });
+    auto *row = new QHBoxLayout(m_ownColorRow);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(metrics::kGap);
+    row->addWidget(caption);
+    row->addWidget(m_ownColor);
+    row->addStretch(1);
+    connect(m_ownColor, &ColorPicker::sigColorChanged, this, &pageEmberline::sendOwnColor);
+    return m_ownColorRow;
+}
+
+/// What the two ends of the slider above are called.
+QWidget *pageEmberline::buildTemperatureEnds()
+{
+    auto *ends = new QWidget(this);
+    auto *row = new QHBoxLayout(ends);
+    row->setContentsMargins(metrics::kCaptionWidth + metrics::kGap, 0, kValueWidth, 0);
+    for (const char *label : {LABEL("Warm"), LABEL("Cold")}) {
+        QLabel *caption = makeCaption(ends);
+        caption->setStyleSheet(QStringLiteral("color: #adadad;"));
+        texts().bind(label, [caption](const QString &text) { caption->setText(text); });
+        if (row->count() != 0)
+            row->addStretch(1);
+        row->addWidget(caption);
+    }
+    return ends;
+}
+
+/// Three values make one colour: what becomes of them is told as one.
+void pageEmberline::sendOwnColor(const QColor &color)
+{
+    int taken = 0;
+    for (const auto &[command, part] : {std::pair(Command::LightRed, color.red()),
+                                        {Command::LightGreen, color.green()},
+                                        {Command::LightBlue, color.blue()}})
+        taken += send(command, part) ? 1 : 0;
+    showResult(taken == 3, QObject::tr("Custom Color"), [this, color] { sendOwnColor(color); });
+    if (taken == 1 || taken == 2)
+        showNotice(QObject::tr("The monitor took only a part of the colour: its lamps now show another one."));
+    showLight();
+}
+
+void pageEmberline::showLight()
+{
+    const LightLook look = lightLook(deviceState);
+    for (LightView *view : m_views)
+        view->setLook(look);
+    if (!m_ownColorRow)
+        return;
+    m_ownColorRow->setVisible(deviceState.value(Command::LightColor) == kOwnLightColor);
+    const bool isKnown = std::ranges::all_of(std::initializer_list{Command::LightRed, Command::LightGreen, Command::LightBlue},
+                                             [](Command part) { return deviceState.isKnown(part); });
+    if (isKnown)
+        m_ownColor->setColor(QColor(deviceState.value(Command::LightRed), deviceState.value(Command::LightGreen),
+                                    deviceState.value(Command::LightBlue)));
+}
+
+void pageEmberline::updateInterfaceData()
+{
+    PanelPage::updateInterfaceData();
+    showLight();
+}
+
+void pageEmberline::followValue(Command command)
+{
+    if (std::ranges::find(kLooks, command) != std::end(kLooks))
+        showLight();
+}
+
+/// What the picture shows is asked for behind what stands beside it.
+void pageEmberline::reconcile()
+{
+    PanelPage::reconcile();
+    if (!isVisible())
+        return;
+    std::vector<Command> looks;
+    std::ranges::copy_if(kLooks, std::back_inserter(looks), [](Command look) { return !deviceState.isFresh(look); });
+    queue().askAll(looks, {});
+}
+
+void pageEmberline::goToMode(Command command)
+{
+    if (command != Command::LightMode)
+        return;
+    showPanel(kLightModePanel);
+    if (const OptionGroupRow *row = optionGroup(command); row && !row->buttons().empty()) {
+        QPushButton *chosen = row->buttonOf(deviceState.value(command));
+        (chosen ? chosen : row->buttons().front())->setFocus(Qt::ShortcutFocusReason);
+    }
+}

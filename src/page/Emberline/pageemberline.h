@@ -1,0 +1,38 @@
+#pragma once
+
+#include <vector>
+
+#include "page/Emberline/lightlook.h"
+#include "page/engine/panelpage.h"
+
+class ColorPicker;
+class LightView;
+
+/// The lighting at the monitor's back and foot: its settings, and how it will look with them.
+class pageEmberline : public PanelPage
+{
+    Q_OBJECT
+public:
+    explicit pageEmberline(CommandQueue &queue, QWidget *parent = nullptr);
+
+    void updateInterfaceData() override;
+    void reconcile() override;
+
+    ColorPicker *ownColor() const { return m_ownColor; }
+
+protected:
+    QWidget *buildPart(const char *name) override;
+    void followValue(Command command) override;
+
+private:
+    QWidget *buildView();
+    QWidget *buildOwnColor();
+    QWidget *buildTemperatureEnds();
+    void sendOwnColor(const QColor &color);
+    void showLight();
+    void goToMode(Command command);
+
+    std::vector<LightView *> m_views; ///< one a panel
+    QWidget *m_ownColorRow = nullptr;
+    ColorPicker *m_ownColor = nullptr;
+};
