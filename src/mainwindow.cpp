@@ -12,6 +12,8 @@
 #include "ddc_protocol/transport.h"
 #include "ddc_protocol/writecounts.h"
 #include "ddc_protocol/writekeeper.h"
+#include "page/Emberline/pageemberline.h"
+#include "page/Emberline/rhythmlight.h"
 #include "page/Scene/pagescenesetting.h"
 #include "page/monitorpages.h"
 #include "platform/ending.h"
@@ -91,6 +93,8 @@ void MainWindow::createPages()
     auto *monitor = new MonitorPages(m_session, *m_queue, m_pages, stack);
     m_scenePage = monitor->scene();
     m_automation = new Automation(*m_queue, m_pages, stack, this);
+    m_rhythm = new RhythmLight(*m_queue, *m_automation->writer(), this);
+    monitor->lighting()->follow(*m_rhythm);
     m_accessory->build(*m_queue, m_pages, stack);
     connect(monitor, &MonitorPages::resetBegins, this, &MainWindow::hideWindow);
     for (Page *page : m_pages.all()) {
@@ -109,6 +113,7 @@ void MainWindow::createFollowers()
     m_reconciler = new Reconciler(
         *m_queue, m_session, [this] { return pagesInSight(); }, this);
     connect(m_reconciler, &Reconciler::linkChanged, this, &MainWindow::updateInterface);
+    connect(m_reconciler, &Reconciler::linkChanged, m_rhythm, &RhythmLight::followLink);
     connect(m_status, &StatusCard::retryWanted, m_reconciler,
             [this] { m_reconciler->systemNoticed(SystemNotice::DisplaysChanged); });
     connect(new SessionEnd(this), &SessionEnd::ends, this, &MainWindow::endWithSession);
@@ -153,8 +158,15 @@ void MainWindow::reconnectPages()
 {
     m_checks->askAfterReconnection();
     refreshPages();
+    m_rhythm->followLink();
     m_checks->readMissingBlock(true);
     QMetaObject::invokeMethod(m_reconciler, &Reconciler::want, Qt::QueuedConnection); // when the search has ended
+}
+
+void MainWindow::systemNoticed(SystemNotice notice)
+{
+    m_rhythm->systemNoticed(notice); // first: it makes dark, and the reconciliation may have much to ask
+    m_reconciler->systemNoticed(notice);
 }
 
 void MainWindow::updateControlText()

@@ -16,6 +16,7 @@
 
 class CommandQueue;
 class HotkeyOverlay;
+class RhythmLight;
 class SearchDeviceDlg;
 class StatusCard;
 class TrayPanelOpener;
@@ -50,7 +51,7 @@ public:
     bool mayLeave() override { return m_pages.mayLeave(); }
     void deviceArrived() override { updateInterface(); }
     void deviceRemoved() override { m_checks->deviceRemoved(); }
-    void systemNoticed(SystemNotice notice) override { m_reconciler->systemNoticed(notice); }
+    void systemNoticed(SystemNotice notice) override;
 
     /// Closes the accessory's handle and opens the accessory anew, unless the flags say that it is open.
     void reopenHidDevice() override { reopenHid(); }
@@ -109,6 +110,7 @@ private:
     AccessoryPages *m_accessory;
     pageSceneSetting *m_scenePage = nullptr;
     Automation *m_automation = nullptr;
+    RhythmLight *m_rhythm = nullptr;
     Reconciler *m_reconciler = nullptr;
     Tray *m_tray = nullptr;
     bool m_wasInFront = false;

@@ -284,6 +284,10 @@
         <translation>A balanced picture for every day.</translation>
     </message>
     <message>
+        <source>A colour that can be seen to change is sent, at most one a second.</source>
+        <translation>A colour that can be seen to change is sent, at most one a second.</translation>
+    </message>
+    <message>
         <source>A crosshair that takes the colour that stands out and opens while the picture moves.</source>
         <translation>A crosshair that takes the colour that stands out and opens while the picture moves.</translation>
     </message>
@@ -2038,6 +2042,10 @@
     <message>
         <source>Nothing above the point: for shots that fall.</source>
         <translation>Nothing above the point: for shots that fall.</translation>
+    </message>
+    <message>
+        <source>Nothing can be heard or seen: the lamps keep their last colour.</source>
+        <translation>Nothing can be heard or seen: the lamps keep their last colour.</translation>
     </message>
     <message>
         <source>Nothing is dimmed.</source>

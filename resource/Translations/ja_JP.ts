@@ -284,6 +284,10 @@
         <translation>日常使いに適したバランスのよい画質です。</translation>
     </message>
     <message>
+        <source>A colour that can be seen to change is sent, at most one a second.</source>
+        <translation>見て分かる色の変化だけを、1 秒に 1 回まで送ります。</translation>
+    </message>
+    <message>
         <source>A crosshair that takes the colour that stands out and opens while the picture moves.</source>
         <translation>目立つ色になり、画面が動くと開く照準です。</translation>
     </message>
@@ -2038,6 +2042,10 @@
     <message>
         <source>Nothing above the point: for shots that fall.</source>
         <translation>狙点の上が空くため、落ちる弾道に向いています。</translation>
+    </message>
+    <message>
+        <source>Nothing can be heard or seen: the lamps keep their last colour.</source>
+        <translation>音も画面も取得できません。ライトは最後の色を保ちます。</translation>
     </message>
     <message>
         <source>Nothing is dimmed.</source>

@@ -284,6 +284,10 @@
         <translation>均衡的画面，适合日常使用。</translation>
     </message>
     <message>
+        <source>A colour that can be seen to change is sent, at most one a second.</source>
+        <translation>仅在颜色明显变化时发送，每秒最多一次。</translation>
+    </message>
+    <message>
         <source>A crosshair that takes the colour that stands out and opens while the picture moves.</source>
         <translation>准星会采用醒目的颜色，并在画面移动时张开。</translation>
     </message>
@@ -2038,6 +2042,10 @@
     <message>
         <source>Nothing above the point: for shots that fall.</source>
         <translation>瞄准点上方没有遮挡，适合有下坠的弹道。</translation>
+    </message>
+    <message>
+        <source>Nothing can be heard or seen: the lamps keep their last colour.</source>
+        <translation>听不到声音或看不到画面：灯光保持最后的颜色。</translation>
     </message>
     <message>
         <source>Nothing is dimmed.</source>

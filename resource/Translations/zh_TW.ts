@@ -284,6 +284,10 @@
         <translation>均衡的畫面，適合日常使用。</translation>
     </message>
     <message>
+        <source>A colour that can be seen to change is sent, at most one a second.</source>
+        <translation>僅在顏色明顯變化時傳送，每秒最多一次。</translation>
+    </message>
+    <message>
         <source>A crosshair that takes the colour that stands out and opens while the picture moves.</source>
         <translation>準心會採用醒目的顏色，並在畫面移動時張開。</translation>
     </message>
@@ -2038,6 +2042,10 @@
     <message>
         <source>Nothing above the point: for shots that fall.</source>
         <translation>瞄準點上方沒有遮擋，適合有下墜的彈道。</translation>
+    </message>
+    <message>
+        <source>Nothing can be heard or seen: the lamps keep their last colour.</source>
+        <translation>聽不到聲音或看不到畫面：燈光保持最後的顏色。</translation>
     </message>
     <message>
         <source>Nothing is dimmed.</source>

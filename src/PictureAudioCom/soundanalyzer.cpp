@@ -1,5 +1,7 @@
 #include "PictureAudioCom/soundanalyzer.h"
 
+#include <utility>
+
 #include <QDebug>
 
 #include "platform/desk.h"
@@ -54,6 +56,18 @@ SoundAnalyzer &SoundAnalyzer::instance()
 {
     static SoundAnalyzer analyzer;
     return analyzer;
+}
+
+void SoundAnalyzer::Use::begin()
+{
+    if (!std::exchange(m_isOn, true))
+        ++instance().m_uses;
+}
+
+void SoundAnalyzer::Use::end()
+{
+    if (std::exchange(m_isOn, false) && --instance().m_uses == 0)
+        instance().stop();
 }
 
 void SoundAnalyzer::stop()

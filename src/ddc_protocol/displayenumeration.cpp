@@ -104,17 +104,19 @@ MonitorInfo firstPhysicalMonitor(platform::DisplayHandle display)
     if (count == 0 || !monitors.fetch(display, records))
         return {};
     monitors.destroy(std::span(records).subspan(1));
-    return {records.front(), true, {}, {}};
+    return {records.front(), true, {}, {}, {}};
 }
 
-void appendMonitor(const EnumerationEntry &entry, int number, const QString &screenName, QByteArrayList &labels)
+void appendMonitor(const EnumerationEntry &entry, int number, const platform::Screen &screen, const QRect &bounds,
+                   QByteArrayList &labels)
 {
     const QString &model = entry.identity.name;
-    const QString &name = model.isEmpty() ? screenName : model;
+    const QString &name = model.isEmpty() ? screen.name : model;
     labels += QStringLiteral("%1. %2").arg(number).arg(name).toUtf8();
     MonitorInfo record = firstPhysicalMonitor(entry.display);
     record.identity = entry.identity;
     record.facts = entry.facts;
+    record.bounds = bounds;
     qDebug().noquote() << "hMonitor " << entry.display << "deviceName " << entry.deviceName << "model " << model
                        << "Monitor.hPhysicalMonitor" << record.handle;
     monitorList.push_back(record);
@@ -163,7 +165,7 @@ QByteArrayList findDevices()
             ++number;
             const auto info = displays.info(entry.display);
             if (info && info->bounds.contains(screen.geometry.center()))
-                appendMonitor(entry, number, screen.name, labels);
+                appendMonitor(entry, number, screen, info->bounds, labels);
         }
     }
     return labels;

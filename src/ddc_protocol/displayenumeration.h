@@ -6,6 +6,7 @@
 #include <vector>
 
 #include <QByteArrayList>
+#include <QRect>
 #include <QString>
 
 #include "ddc_protocol/edid.h"
@@ -27,6 +28,7 @@ struct MonitorInfo : platform::PhysicalMonitor
     bool fetched = false; ///< off: the platform gave none, the record is empty, and every command to it fails
     MonitorIdentity identity;
     EdidFacts facts;
+    QRect bounds; ///< of the display that it shows, in desktop pixels
 
     /// What requests go to; nothing when it was not fetched.
     std::optional<platform::PhysicalMonitorHandle> target() const

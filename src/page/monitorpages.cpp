@@ -16,7 +16,7 @@
 #include "page/pageset.h"
 
 MonitorPages::MonitorPages(SearchDeviceDlg &session, CommandQueue &queue, PageSet &pages, QStackedWidget *stack)
-    : QObject(stack), m_scene(new pageSceneSetting(session, queue, stack))
+    : QObject(stack), m_scene(new pageSceneSetting(session, queue, stack)), m_lighting(new pageEmberline(queue, stack))
 {
     auto *system = new pageSystemSetting(session, queue, stack);
     connect(system, &pageSystemSetting::resetBegins, this, &MonitorPages::resetBegins);
@@ -24,7 +24,7 @@ MonitorPages::MonitorPages(SearchDeviceDlg &session, CommandQueue &queue, PageSe
     pages.add(PageId::Office, new PageOffice(queue, stack));
     pages.add(PageId::GameAssistant, new pageGameAssistant(queue, stack));
     pages.add(PageId::PictureEnhance, new pagePictureEnhanc(queue, stack));
-    pages.add(PageId::Emberline, new pageEmberline(queue, stack));
+    pages.add(PageId::Emberline, m_lighting);
     pages.add(PageId::SystemSetting, system);
     pages.add(PageId::ToolSetting, new pagePCSetting(session, queue, stack));
     pages.add(PageId::ServicesSetting, new pageServicesSetting(queue, stack));

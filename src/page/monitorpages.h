@@ -6,6 +6,7 @@ class CommandQueue;
 class PageSet;
 class QStackedWidget;
 class SearchDeviceDlg;
+class pageEmberline;
 class pageSceneSetting;
 
 /// The pages of the monitor's own settings and of the program's.
@@ -17,6 +18,7 @@ public:
     MonitorPages(SearchDeviceDlg &session, CommandQueue &queue, PageSet &pages, QStackedWidget *stack);
 
     pageSceneSetting *scene() const { return m_scene; }
+    pageEmberline *lighting() const { return m_lighting; }
 
 Q_SIGNALS:
     /// The monitor is about to be set back, which takes it away for some seconds.
@@ -24,4 +26,5 @@ Q_SIGNALS:
 
 private:
     pageSceneSetting *m_scene;
+    pageEmberline *m_lighting;
 };

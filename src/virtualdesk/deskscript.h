@@ -27,6 +27,7 @@ namespace virtualdesk {
 ///                 "plays": "nothing" | "silence" | "tone" | "two_tones" | "sweep" | "noise" | "wave",
 ///                 "frequency": 440, "second_frequency": 2500, "volume": 50, "file": "x.wav",
 ///                 "faults": [{"call": "get_buffer", "result": "0x88890018", "times": 1}]},
+///       "screen": {"picture": "film.png", "faults": [{"event": "fail_copies", "times": 1}]},
 ///       "accessory": {"plugged": true, "form": 0, "faults": [...]}
 ///     }
 ///

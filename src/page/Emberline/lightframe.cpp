@@ -12,11 +12,11 @@ namespace {
 using std::chrono::milliseconds;
 
 constexpr double kTurn = 2 * std::numbers::pi;
-constexpr double kHueRound = 8000;                    // ms in which a colour of its own accord is all hues
-constexpr double kSlowest = 6000, kFastest = 1000;    // ms of one round of an effect
-constexpr double kDarkest = 0.12;                     // what a breath leaves
-constexpr double kFlickerStep = 140;                  // ms
-constexpr double kBeltRound = 3200;                   // ms: the lamp belt has no speed of its own
+constexpr double kHueRound = 8000;                 // ms in which a colour of its own accord is all hues
+constexpr double kSlowest = 6000, kFastest = 1000; // ms of one round of an effect
+constexpr double kDarkest = 0.12;                  // what a breath leaves
+constexpr double kFlickerStep = 140;               // ms
+constexpr double kBeltRound = 3200;                // ms: the lamp belt has no speed of its own
 constexpr double kDisplayGamma = 2.2;
 constexpr QRgb kWarm = 0xffff9a3c, kCold = 0xffdbe9ff;
 
@@ -74,7 +74,8 @@ QRgb effectLamp(const LightLook &look, int lamp, double place, double time)
     case LightLook::Effect::Wave:
         return dimmed(color, breath(2 * along));
     case LightLook::Effect::Flicker:
-        return dimmed(color, 0.25 + 0.75 * chance(lamp, static_cast<std::int64_t>(time * (1 + look.speed) / kFlickerStep)));
+        return dimmed(color,
+                      0.25 + 0.75 * chance(lamp, static_cast<std::int64_t>(time * (1 + look.speed) / kFlickerStep)));
     }
     return color;
 }
@@ -125,7 +126,8 @@ double beltLevel(const LightLook &look, int lamp, double place, double time)
 QRgb dimmed(QRgb color, double share)
 {
     const double factor = std::pow(std::clamp(share, 0.0, 1.0), 1 / kDisplayGamma);
-    return qRgb(static_cast<int>(std::lround(qRed(color) * factor)), static_cast<int>(std::lround(qGreen(color) * factor)),
+    return qRgb(static_cast<int>(std::lround(qRed(color) * factor)),
+                static_cast<int>(std::lround(qGreen(color) * factor)),
                 static_cast<int>(std::lround(qBlue(color) * factor)));
 }
 
@@ -155,7 +157,8 @@ bool lightMoves(const LightLook &look)
 {
     const bool isLit = look.mode != LightLook::Mode::Dark;
     const bool usesColor = look.mode == LightLook::Mode::Steady && look.brightness > 0;
-    const bool barsMove = isLit && ((!look.front && look.frontBrightness > 0) || (!look.rear && look.rearBrightness > 0));
+    const bool barsMove =
+        isLit && ((!look.front && look.frontBrightness > 0) || (!look.rear && look.rearBrightness > 0));
     const bool beltMoves = look.beltBrightness > 0 && (look.beltEffect != LightLook::BeltEffect::Steady || !look.belt ||
                                                        !look.beltFront || !look.beltRear);
     return look.mode == LightLook::Mode::Effect || (usesColor && !look.color) || barsMove || beltMoves;

@@ -72,7 +72,8 @@ void glow(QPainter &painter, const QPointF &center, double across, double down, 
 /// What the lamps throw onto the wall and the desk.
 QImage lightOnRoom(const Stage &stage, const LightFrame &frame)
 {
-    const QSize small(std::max(1, int(stage.room.width()) / kGlowScale), std::max(1, int(stage.room.height()) / kGlowScale));
+    const QSize small(std::max(1, int(stage.room.width()) / kGlowScale),
+                      std::max(1, int(stage.room.height()) / kGlowScale));
     QImage image(small, QImage::Format_RGB32);
     image.fill(kWall);
     QPainter painter(&image);
@@ -84,7 +85,8 @@ QImage lightOnRoom(const Stage &stage, const LightFrame &frame)
     const std::size_t half = frame.ring.size() / 2;
     const QPointF aside(width * 0.28, 0);
     glow(painter, stage.ring.center() + aside, width * 0.62, height * 0.95, average(frame, 0, half), 0.75);
-    glow(painter, stage.ring.center() - aside, width * 0.62, height * 0.95, average(frame, half, frame.ring.size()), 0.75);
+    glow(painter, stage.ring.center() - aside, width * 0.62, height * 0.95, average(frame, half, frame.ring.size()),
+         0.75);
     glow(painter, {stage.back.center().x(), stage.back.top()}, width * 0.62, height * 0.42, frame.rear, 0.9);
     glow(painter, {stage.back.center().x(), stage.deskTop + height * 0.1}, width * 0.6, height * 0.2, frame.front, 0.9);
     const QRgb belt = frame.belt[frame.belt.size() / 2];

@@ -8,13 +8,16 @@
 namespace {
 
 // What they are for.
-constexpr char kModeHelp[] =
-    LABEL("Close = dark, Normal = one colour, Effect = it moves, Rhythm = follows sound or screen, Eye Care = calm white.");
-constexpr char kEffectHelp[] = LABEL("How the lamps move in the mode \"Effect\". The picture plays it as it will look.");
-constexpr char kColorHelp[] = LABEL("The colour of the steady light and of the effects. Auto = runs through all colours.");
+constexpr char kModeHelp[] = LABEL(
+    "Close = dark, Normal = one colour, Effect = it moves, Rhythm = follows sound or screen, Eye Care = calm white.");
+constexpr char kEffectHelp[] =
+    LABEL("How the lamps move in the mode \"Effect\". The picture plays it as it will look.");
+constexpr char kColorHelp[] =
+    LABEL("The colour of the steady light and of the effects. Auto = runs through all colours.");
 constexpr char kPlacesHelp[] =
     LABEL("The lamp in front lights the desk, the one at the rear the wall: less contrast for tired eyes.");
-constexpr char kEyeCareHelp[] = LABEL("A white behind the screen that spares the eyes. Warm in the evening, cold by day.");
+constexpr char kEyeCareHelp[] =
+    LABEL("A white behind the screen that spares the eyes. Warm in the evening, cold by day.");
 constexpr char kRhythmHelp[] =
     LABEL("Sound = what this computer plays, Screen = the picture's edges. Higher levels follow smaller changes.");
 constexpr char kBeltHelp[] = LABEL("The lamp belt along the lower edge and around the foot has a light of its own.");
@@ -93,12 +96,14 @@ const Section kPlacesPanel[] = {swatches(Command::LightFrontColor, nullptr), row
 const Section kEyeCarePanel[] = {options(Command::LightEyeCare, kLampLevels, LABEL("Brightness")), row(kTemperature),
                                  CustomPart{kTemperatureEndsPart}, kPicture};
 const Section kRhythmPanel[] = {options(Command::LightRhythmSource, kSources, nullptr),
-                                options(Command::LightRhythmLevel, kRhythmLevels, nullptr), kPicture};
+                                options(Command::LightRhythmLevel, kRhythmLevels, nullptr), CustomPart{kRhythmNotePart},
+                                kPicture};
 const Section kBeltPanel[] = {swatches(Command::LampBeltColor, LABEL("Color")),
                               options(Command::LampBeltBrightness, kLampLevels, LABEL("Brightness")),
                               options(Command::LampBeltEffect, kBeltEffects, LABEL("Effect")),
                               swatches(Command::LampBeltFrontColor, LABEL("Front Color")),
-                              swatches(Command::LampBeltRearColor, LABEL("Rear Color")), kPicture};
+                              swatches(Command::LampBeltRearColor, LABEL("Rear Color")),
+                              kPicture};
 const Section kTimesPanel[] = {options(Command::LightTimer, kTimers, nullptr), onOff(Command::LightWithScreen),
                                onOff(Command::LightInStandby), kPicture};
 

@@ -14,6 +14,7 @@ std::span<const LockRule> lightLocks();
 /// The parts that the page builds itself.
 inline constexpr char kLightPicturePart[] = "lightPicture";
 inline constexpr char kOwnColorPart[] = "ownColor";
+inline constexpr char kRhythmNotePart[] = "rhythmNote";
 inline constexpr char kTemperatureEndsPart[] = "temperatureEnds";
 
 inline constexpr char kLightModePanel[] = "Lighting";

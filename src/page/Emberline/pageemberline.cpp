@@ -7,10 +7,12 @@
 #include "controls/captionlabel.h"
 #include "controls/colorpicker.h"
 #include "controls/metrics.h"
+#include "controls/sharedfonts.h"
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/devicestate.h"
 #include "page/Emberline/lighttable.h"
 #include "page/Emberline/lightview.h"
+#include "page/Emberline/rhythmlight.h"
 #include "page/engine/labels.h"
 #include "page/engine/optiongrouprow.h"
 
@@ -21,12 +23,18 @@ constexpr int kValueWidth = 96; // behind a slider: its value and the room for a
 
 /// What the picture shows, beyond the panel that is in sight.
 constexpr Command kLooks[] = {
-    Command::LightMode,         Command::LightEffect,          Command::LightBrightness,     Command::LightSpeed,
-    Command::LightColor,        Command::LightRed,             Command::LightGreen,          Command::LightBlue,
-    Command::LightTemperature,  Command::LightEyeCare,         Command::LightFrontColor,     Command::LightRearColor,
-    Command::LightDirection,    Command::LightFrontBrightness, Command::LightRearBrightness, Command::LampBeltColor,
-    Command::LampBeltEffect,    Command::LampBeltBrightness,   Command::LampBeltFrontColor,  Command::LampBeltRearColor,
-    Command::LightGlobalTone,   Command::LightLeftTone,        Command::LightRightTone,
+    Command::LightMode,           Command::LightEffect,
+    Command::LightBrightness,     Command::LightSpeed,
+    Command::LightColor,          Command::LightRed,
+    Command::LightGreen,          Command::LightBlue,
+    Command::LightTemperature,    Command::LightEyeCare,
+    Command::LightFrontColor,     Command::LightRearColor,
+    Command::LightDirection,      Command::LightFrontBrightness,
+    Command::LightRearBrightness, Command::LampBeltColor,
+    Command::LampBeltEffect,      Command::LampBeltBrightness,
+    Command::LampBeltFrontColor,  Command::LampBeltRearColor,
+    Command::LightGlobalTone,     Command::LightLeftTone,
+    Command::LightRightTone,
 };
 
 QLabel *makeCaption(QWidget *parent)
@@ -52,6 +60,8 @@ QWidget *pageEmberline::buildPart(const char *name)
 {
     if (qstrcmp(name, kOwnColorPart) == 0)
         return buildOwnColor();
+    if (qstrcmp(name, kRhythmNotePart) == 0)
+        return buildRhythmNote();
     return qstrcmp(name, kTemperatureEndsPart) == 0 ? buildTemperatureEnds() : buildView();
 }
 
@@ -84,6 +94,32 @@ QWidget *pageEmberline::buildOwnColor()
     row->addStretch(1);
     connect(m_ownColor, &ColorPicker::sigColorChanged, this, &pageEmberline::sendOwnColor);
     return m_ownColorRow;
+}
+
+QWidget *pageEmberline::buildRhythmNote()
+{
+    m_rhythmNote = new QLabel(this);
+    m_rhythmNote->setObjectName(QStringLiteral("note"));
+    m_rhythmNote->setFont(noteFont);
+    m_rhythmNote->setWordWrap(true);
+    showRhythm();
+    return m_rhythmNote;
+}
+
+void pageEmberline::follow(const RhythmLight &rhythm)
+{
+    m_rhythm = &rhythm;
+    connect(&rhythm, &RhythmLight::stateChanged, this, &pageEmberline::showRhythm);
+    showRhythm();
+}
+
+void pageEmberline::showRhythm()
+{
+    if (!m_rhythmNote)
+        return;
+    const bool isHeld = m_rhythm && m_rhythm->state() == RhythmLight::State::Holds;
+    m_rhythmNote->setText(isHeld ? QObject::tr("Nothing can be heard or seen: the lamps keep their last colour.")
+                                 : QObject::tr("A colour that can be seen to change is sent, at most one a second."));
 }
 
 /// What the two ends of the slider above are called.
@@ -125,8 +161,9 @@ void pageEmberline::showLight()
     if (!m_ownColorRow)
         return;
     m_ownColorRow->setVisible(deviceState.value(Command::LightColor) == kOwnLightColor);
-    const bool isKnown = std::ranges::all_of(std::initializer_list{Command::LightRed, Command::LightGreen, Command::LightBlue},
-                                             [](Command part) { return deviceState.isKnown(part); });
+    const bool isKnown =
+        std::ranges::all_of(std::initializer_list{Command::LightRed, Command::LightGreen, Command::LightBlue},
+                            [](Command part) { return deviceState.isKnown(part); });
     if (isKnown)
         m_ownColor->setColor(QColor(deviceState.value(Command::LightRed), deviceState.value(Command::LightGreen),
                                     deviceState.value(Command::LightBlue)));
@@ -136,6 +173,12 @@ void pageEmberline::updateInterfaceData()
 {
     PanelPage::updateInterfaceData();
     showLight();
+}
+
+void pageEmberline::updateControlText()
+{
+    PanelPage::updateControlText();
+    showRhythm();
 }
 
 void pageEmberline::followValue(Command command)

@@ -7,6 +7,7 @@
 
 class ColorPicker;
 class LightView;
+class RhythmLight;
 
 /// The lighting at the monitor's back and foot: its settings, and how it will look with them.
 class pageEmberline : public PanelPage
@@ -15,7 +16,11 @@ class pageEmberline : public PanelPage
 public:
     explicit pageEmberline(CommandQueue &queue, QWidget *parent = nullptr);
 
+    /// From now on says what becomes of the rhythm.
+    void follow(const RhythmLight &rhythm);
+
     void updateInterfaceData() override;
+    void updateControlText() override;
     void reconcile() override;
 
     ColorPicker *ownColor() const { return m_ownColor; }
@@ -27,12 +32,16 @@ protected:
 private:
     QWidget *buildView();
     QWidget *buildOwnColor();
+    QWidget *buildRhythmNote();
     QWidget *buildTemperatureEnds();
     void sendOwnColor(const QColor &color);
     void showLight();
+    void showRhythm();
     void goToMode(Command command);
 
     std::vector<LightView *> m_views; ///< one a panel
     QWidget *m_ownColorRow = nullptr;
     ColorPicker *m_ownColor = nullptr;
+    QLabel *m_rhythmNote = nullptr;
+    const RhythmLight *m_rhythm = nullptr;
 };

@@ -49,7 +49,8 @@ bool Win32ScreenCapture::copy(const QRect &area, std::span<std::uint32_t> pixels
     if (!bitmap)
         return false;
     const HGDIOBJ before = SelectObject(memory.get(), bitmap.get());
-    const bool isCopied = BitBlt(memory.get(), 0, 0, area.width(), area.height(), screen.get(), area.x(), area.y(), SRCCOPY);
+    const bool isCopied =
+        BitBlt(memory.get(), 0, 0, area.width(), area.height(), screen.get(), area.x(), area.y(), SRCCOPY);
     GdiFlush();
     if (isCopied)
         std::memcpy(pixels.data(), bits, pixels.size_bytes());

@@ -4,7 +4,6 @@
 
 #include <QVBoxLayout>
 
-#include "PictureAudioCom/soundanalyzer.h"
 #include "controls/announcer.h"
 #include "controls/sharedfonts.h"
 #include "ddc_protocol/settingsstore.h"
@@ -174,6 +173,7 @@ void pageLEDMusic::startCapture()
     setHearing(Hearing::Waiting);
     ledWorkThread::instance()->setSource(this);
     m_streams = true;
+    m_use.begin();
     m_startAgain = m_analyzer.isRunning(); // a start would be lost now
     if (!m_startAgain)
         m_analyzer.start();
@@ -187,7 +187,7 @@ void pageLEDMusic::stopCapture()
 {
     m_startAgain = false;
     ++m_lookRun;
-    m_analyzer.stop();
+    m_use.end();
     m_picture->showHeights({});
     freeAccessory(false);
 }

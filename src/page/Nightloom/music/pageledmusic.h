@@ -4,6 +4,7 @@
 #include <map>
 #include <memory>
 
+#include "PictureAudioCom/soundanalyzer.h"
 #include "page/Nightloom/parts/accessorycheck.h"
 #include "page/Nightloom/render/audioled.h"
 #include "page/Nightloom/work/ledframesource.h"
@@ -11,7 +12,6 @@
 
 class AudioPicture;
 class LiveDisplay;
-class SoundAnalyzer;
 
 inline constexpr char kMusicTemplateKey[] = "SystemMode/MusicTemplate";
 
@@ -71,6 +71,7 @@ private:
     AccessoryCheck m_ensureConnected;
     LiveDisplay &m_display;
     SoundAnalyzer &m_analyzer;
+    SoundAnalyzer::Use m_use;
     AudioPicture *m_picture = nullptr;
     QLabel *m_note = nullptr;
     bool m_startAgain = false; ///< as soon as the capture that was stopped has ended

@@ -1,0 +1,167 @@
+#include "PictureAudioCom/screencolours.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "PictureAudioCom/lightcolour.h"
+
+namespace {
+
+constexpr int kThinness = 120;        // a strip is so much thinner than the screen is high
+constexpr int kThinnest = 4;          // pixels
+constexpr int kDarkest = 16;          // what a bar still is, of 255: films are not quite black there
+constexpr double kWidestBar = 0.4;    // of the screen, on either side; beyond it is the picture that is dark
+constexpr int kSoftEdge = 2;          // pixels in which a scaled picture goes over into its bar
+
+bool isDarkPixel(std::uint32_t pixel)
+{
+    return qRed(pixel) <= kDarkest && qGreen(pixel) <= kDarkest && qBlue(pixel) <= kDarkest;
+}
+
+/// Light, added up.
+struct Sum
+{
+    double red = 0, green = 0, blue = 0;
+    std::size_t pixels = 0;
+
+    void add(std::uint32_t pixel)
+    {
+        red += kLinearLight[pixel >> 16 & 0xff];
+        green += kLinearLight[pixel >> 8 & 0xff];
+        blue += kLinearLight[pixel & 0xff];
+        ++pixels;
+    }
+
+    Sum operator+(const Sum &other) const
+    {
+        return {red + other.red, green + other.green, blue + other.blue, pixels + other.pixels};
+    }
+
+    QRgb colour() const
+    {
+        const auto count = static_cast<double>(std::max<std::size_t>(pixels, 1));
+        return qRgb(stepOfLight(red / count), stepOfLight(green / count), stepOfLight(blue / count));
+    }
+};
+
+int thicknessOf(const QRect &screen)
+{
+    return std::clamp(screen.height() / kThinness, std::min(kThinnest, screen.height()), screen.height());
+}
+
+/// A bar as it is left out: not one that would leave nothing, and with the soft edge behind it.
+int barOf(int dark, int extent)
+{
+    if (dark == 0 || dark > extent * kWidestBar)
+        return 0;
+    return dark + kSoftEdge;
+}
+
+} // namespace
+
+bool ScreenColours::Strip::isDark(int x, int y, int width, int height) const
+{
+    for (int row = y; row < y + height; ++row) {
+        const auto begin = pixels.begin() + std::ptrdiff_t{row} * area.width() + x;
+        if (!std::all_of(begin, begin + width, isDarkPixel))
+            return false;
+    }
+    return true;
+}
+
+bool ScreenColours::Strip::isDark() const
+{
+    return isDark(0, 0, area.width(), area.height());
+}
+
+int ScreenColours::Strip::darkRows(bool fromEnd) const
+{
+    int dark = 0;
+    while (dark < area.height() && isDark(0, fromEnd ? area.height() - 1 - dark : dark, area.width(), 1))
+        ++dark;
+    return dark;
+}
+
+int ScreenColours::Strip::darkColumns(bool fromEnd) const
+{
+    int dark = 0;
+    while (dark < area.width() && isDark(fromEnd ? area.width() - 1 - dark : dark, 0, 1, area.height()))
+        ++dark;
+    return dark;
+}
+
+bool ScreenColours::take(Strip &strip, const QRect &area, const Copy &copy)
+{
+    strip.area = area;
+    strip.pixels.resize(static_cast<std::size_t>(area.width()) * static_cast<std::size_t>(area.height()));
+    return copy(area, strip.pixels);
+}
+
+/// Top and bottom go from edge to edge; left and right lie between them, so that no pixel counts twice.
+bool ScreenColours::takeEdges(const QRect &picture, const Copy &copy)
+{
+    const int thick = std::min({thicknessOf(picture), picture.width(), std::max(1, picture.height() / 3)});
+    const QRect between = picture.adjusted(0, thick, 0, -thick);
+    return take(m_edges[Top], {picture.left(), picture.top(), picture.width(), thick}, copy) &&
+           take(m_edges[Bottom], {picture.left(), between.bottom() + 1, picture.width(), thick}, copy) &&
+           take(m_edges[Left], {picture.left(), between.top(), thick, between.height()}, copy) &&
+           take(m_edges[Right], {picture.right() + 1 - thick, between.top(), thick, between.height()}, copy);
+}
+
+/// The screen without its bars, as the edges that were taken tell: how wide a bar is, is seen where the edges beside it
+/// leave it. Where all edges are dark, the middle tells. Nothing when a copy failed.
+std::optional<QRect> ScreenColours::findPicture(const QRect &screen, const Copy &copy)
+{
+    bool isDark[kSides];
+    for (int side = 0; side < kSides; ++side)
+        isDark[side] = m_edges[side].isDark();
+    const auto rows = [&](bool fromEnd) {
+        const int thick = m_edges[Top].area.height(); // which the sides leave to it
+        return thick + std::min(m_edges[Left].darkRows(fromEnd), m_edges[Right].darkRows(fromEnd));
+    };
+    const auto columns = [&](bool fromEnd) {
+        return std::min(m_edges[Top].darkColumns(fromEnd), m_edges[Bottom].darkColumns(fromEnd));
+    };
+    int top = isDark[Top] ? rows(false) : 0;
+    int bottom = isDark[Bottom] ? rows(true) : 0;
+    int left = isDark[Left] ? columns(false) : 0;
+    int right = isDark[Right] ? columns(true) : 0;
+    if (std::ranges::all_of(isDark, std::identity())) {
+        const int thick = m_edges[Top].area.height();
+        if (!take(m_middle, {screen.center().x(), screen.top(), thick, screen.height()}, copy))
+            return std::nullopt;
+        top = m_middle.darkRows(false);
+        bottom = m_middle.darkRows(true);
+        if (!take(m_middle, {screen.left(), screen.center().y(), screen.width(), thick}, copy))
+            return std::nullopt;
+        left = m_middle.darkColumns(false);
+        right = m_middle.darkColumns(true);
+    }
+    return screen.adjusted(barOf(left, screen.width()), barOf(top, screen.height()), -barOf(right, screen.width()),
+                           -barOf(bottom, screen.height()));
+}
+
+ZoneColours ScreenColours::average() const
+{
+    Sum halves[2]; // left, right
+    for (const Strip &edge : m_edges) {
+        const int middle = m_edges[Top].area.center().x() - edge.area.left(); // a column of the strip
+        for (int row = 0; row < edge.area.height(); ++row) {
+            const std::uint32_t *pixel = edge.pixels.data() + std::ptrdiff_t{row} * edge.area.width();
+            for (int column = 0; column < edge.area.width(); ++column)
+                halves[column > middle ? 1 : 0].add(pixel[column]);
+        }
+    }
+    return {halves[0].colour(), halves[1].colour(), (halves[0] + halves[1]).colour()};
+}
+
+bool ScreenColours::look(const QRect &screen, const Copy &copy)
+{
+    if (screen.width() < kThinnest || screen.height() < kThinnest || !takeEdges(screen, copy))
+        return false;
+    const std::optional<QRect> picture = findPicture(screen, copy);
+    if (!picture || (*picture != screen && !takeEdges(*picture, copy)))
+        return false;
+    m_colours = average();
+    return true;
+}

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <span>
+#include <vector>
+
+#include <QRect>
+#include <QRgb>
+
+/// What lamps behind a screen shine in to go on from its picture: its left half, its right half, and all of it.
+struct ZoneColours
+{
+    QRgb left = 0xff000000;
+    QRgb right = 0xff000000;
+    QRgb global = 0xff000000;
+
+    bool operator==(const ZoneColours &) const = default;
+};
+
+/// Finds the colours along the edges of a screen's picture. It looks at thin strips only: along the screen's edges and,
+/// where those lie in black bars, along the picture's own. Knows no device, thread or time.
+class ScreenColours
+{
+public:
+    /// Copies an area, as platform::ScreenCapture does.
+    using Copy = std::function<bool(const QRect &area, std::span<std::uint32_t> pixels)>;
+
+    /// Looks once. False when a copy failed: the colours are then those of before.
+    bool look(const QRect &screen, const Copy &copy);
+
+    /// Those of the last look that succeeded; nothing before the first.
+    const std::optional<ZoneColours> &colours() const { return m_colours; }
+
+private:
+    enum Side { Left, Right, Top, Bottom, kSides };
+
+    struct Strip
+    {
+        QRect area;
+        std::vector<std::uint32_t> pixels;
+
+        bool isDark() const;
+        /// How many of its rows, or columns, are dark from the begin on, or from the end.
+        int darkRows(bool fromEnd) const;
+        int darkColumns(bool fromEnd) const;
+        bool isDark(int x, int y, int width, int height) const;
+    };
+
+    static bool take(Strip &strip, const QRect &area, const Copy &copy);
+    bool takeEdges(const QRect &picture, const Copy &copy);
+    std::optional<QRect> findPicture(const QRect &screen, const Copy &copy);
+    ZoneColours average() const;
+
+    Strip m_edges[kSides];
+    Strip m_middle; ///< of what lies in bars on all sides
+    std::optional<ZoneColours> m_colours;
+};

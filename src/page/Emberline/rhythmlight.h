@@ -1,0 +1,71 @@
+#pragma once
+
+#include <map>
+#include <optional>
+
+#include <QObject>
+#include <QRgb>
+
+#include "PictureAudioCom/screensampler.h"
+#include "PictureAudioCom/soundanalyzer.h"
+#include "ddc_protocol/command.h"
+#include "systemnotices.h"
+
+class AutomaticWriter;
+class CommandQueue;
+
+/// Lets the lamps follow the sound or the screen while the monitor is known to be in a rhythm mode and answers: a colour
+/// is wished of the automatic writer when it has changed enough to be seen. Dark while the session is locked. Looks at
+/// nothing otherwise.
+class RhythmLight : public QObject
+{
+    Q_OBJECT
+public:
+    enum class State {
+        Off,     ///< nothing is to be followed
+        Follows, ///< what comes is shown
+        Holds,   ///< nothing can be seen or heard: the last colour stays
+        Locked,  ///< dark
+    };
+
+    /// The queue and the writer outlive it.
+    RhythmLight(CommandQueue &queue, AutomaticWriter &writer, QObject *parent);
+
+    State state() const { return m_state; }
+
+    /// The session is locked, or somebody is back.
+    void systemNoticed(SystemNotice notice);
+
+    /// The monitor fell silent, or answers again; it may be another one.
+    void followLink();
+
+Q_SIGNALS:
+    void stateChanged();
+
+private:
+    enum class Source { None, Sound, Screen };
+
+    void onValueChanged(Command command);
+    void follow();
+    Source wantedSource();
+    void askOnce(Command command);
+    void setSource(Source source);
+    void listen();
+    void lookLater();
+    void show(const ZoneColours &colours);
+    void wish(Command tone, QRgb color);
+    void goDark();
+    void setState(State state);
+
+    CommandQueue &m_queue;
+    AutomaticWriter &m_writer;
+    ScreenSampler m_sampler;
+    SoundAnalyzer::Use m_sound;
+    Source m_source = Source::None;
+    State m_state = State::Off;
+    bool m_isLocked = false;
+    bool m_heard = false; ///< since the last look
+    std::map<Command, bool> m_asked;  ///< what the monitor was asked for since it was found
+    std::map<Command, QRgb> m_wished; ///< the newest colour of each tone
+    int m_run = 0;                    ///< what was to come in an earlier one does not any more
+};
