@@ -30,8 +30,8 @@ struct Light
     std::array<double, 3> lab() const
     {
         const auto f = [](double t) { return t > 0.008856 ? std::cbrt(t) : 7.787 * t + 16 / 116.0; };
-        const double x = f((0.4124 * r + 0.3576 * g + 0.1805 * b) / 0.9505), y = f(0.2126 * r + 0.7152 * g + 0.0722 * b),
-                     z = f((0.0193 * r + 0.1192 * g + 0.9505 * b) / 1.089);
+        const double x = f((0.4124 * r + 0.3576 * g + 0.1805 * b) / 0.9505),
+                     y = f(0.2126 * r + 0.7152 * g + 0.0722 * b), z = f((0.0193 * r + 0.1192 * g + 0.9505 * b) / 1.089);
         return {116 * y - 16, 500 * (x - y), 200 * (y - z)};
     }
     double deltaE(QRgb other) const
@@ -118,7 +118,8 @@ class TestRhythm : public TruthFixture
     void startIn(int mode, int source, QRgb left, QRgb right)
     {
         start(10, 0, [=, this] {
-            for (const auto &[code, value] : {std::pair(0x75, mode), {0x83, source}, {0x84, 4}, {0x86, 1}, {0x88, 1}, {0x89, 1}})
+            for (const auto &[code, value] :
+                 {std::pair(0x75, mode), {0x83, source}, {0x84, 4}, {0x86, 1}, {0x88, 1}, {0x89, 1}})
                 m_desk->monitor().setValue(static_cast<std::uint8_t>(code), static_cast<std::uint16_t>(value));
             m_desk->desk.sound().fail({virtualdesk::AudioCall::CreateEnumerator, platform::kAudioFailed, kForEver});
             showHalves(left, right);

@@ -1,35 +1,53 @@
 #include "PictureAudioCom/screencolours.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "PictureAudioCom/lightcolour.h"
 
 namespace {
 
-constexpr int kThinness = 120;        // a strip is so much thinner than the screen is high
-constexpr int kThinnest = 4;          // pixels
-constexpr int kDarkest = 16;          // what a bar still is, of 255: films are not quite black there
-constexpr double kWidestBar = 0.4;    // of the screen, on either side; beyond it is the picture that is dark
-constexpr int kSoftEdge = 2;          // pixels in which a scaled picture goes over into its bar
+constexpr int kThinness = 180;     // a strip is so much thinner than the screen is high
+constexpr int kThinnest = 4;       // pixels
+constexpr int kDarkest = 16;       // what a bar still is, of 255: films are not quite black there
+constexpr double kWidestBar = 0.4; // of the screen, on either side; beyond it is the picture that is dark
+constexpr int kSoftEdge = 2;       // pixels in which a scaled picture goes over into its bar
 
 bool isDarkPixel(std::uint32_t pixel)
 {
     return qRed(pixel) <= kDarkest && qGreen(pixel) <= kDarkest && qBlue(pixel) <= kDarkest;
 }
 
+constexpr double kUnit = 65535; // of light: whole numbers add up faster
+
+std::array<std::uint32_t, 256> makeUnits()
+{
+    std::array<std::uint32_t, 256> units{};
+    std::ranges::transform(kLinearLight, units.begin(),
+                           [](double light) { return static_cast<std::uint32_t>(std::lround(light * kUnit)); });
+    return units;
+}
+
 /// Light, added up.
 struct Sum
 {
-    double red = 0, green = 0, blue = 0;
+    std::uint64_t red = 0, green = 0, blue = 0;
     std::size_t pixels = 0;
 
-    void add(std::uint32_t pixel)
+    void add(std::span<const std::uint32_t> row)
     {
-        red += kLinearLight[pixel >> 16 & 0xff];
-        green += kLinearLight[pixel >> 8 & 0xff];
-        blue += kLinearLight[pixel & 0xff];
-        ++pixels;
+        static const std::array<std::uint32_t, 256> kUnits = makeUnits();
+        std::uint32_t r = 0, g = 0, b = 0; // enough for the 65536 pixels that no row has
+        for (const std::uint32_t pixel : row) {
+            r += kUnits[pixel >> 16 & 0xff];
+            g += kUnits[pixel >> 8 & 0xff];
+            b += kUnits[pixel & 0xff];
+        }
+        red += r;
+        green += g;
+        blue += b;
+        pixels += row.size();
     }
 
     Sum operator+(const Sum &other) const
@@ -39,8 +57,9 @@ struct Sum
 
     QRgb colour() const
     {
-        const auto count = static_cast<double>(std::max<std::size_t>(pixels, 1));
-        return qRgb(stepOfLight(red / count), stepOfLight(green / count), stepOfLight(blue / count));
+        const double all = kUnit * static_cast<double>(std::max<std::size_t>(pixels, 1));
+        const auto step = [all](std::uint64_t sum) { return stepOfLight(static_cast<double>(sum) / all); };
+        return qRgb(step(red), step(green), step(blue));
     }
 };
 
@@ -145,11 +164,13 @@ ZoneColours ScreenColours::average() const
 {
     Sum halves[2]; // left, right
     for (const Strip &edge : m_edges) {
-        const int middle = m_edges[Top].area.center().x() - edge.area.left(); // a column of the strip
+        const int width = edge.area.width();
+        const int middle =
+            std::clamp(m_edges[Top].area.center().x() + 1 - edge.area.left(), 0, width); // a column of it
         for (int row = 0; row < edge.area.height(); ++row) {
-            const std::uint32_t *pixel = edge.pixels.data() + std::ptrdiff_t{row} * edge.area.width();
-            for (int column = 0; column < edge.area.width(); ++column)
-                halves[column > middle ? 1 : 0].add(pixel[column]);
+            const std::span pixels(edge.pixels.data() + std::ptrdiff_t{row} * width, static_cast<std::size_t>(width));
+            halves[0].add(pixels.first(static_cast<std::size_t>(middle)));
+            halves[1].add(pixels.subspan(static_cast<std::size_t>(middle)));
         }
     }
     return {halves[0].colour(), halves[1].colour(), (halves[0] + halves[1]).colour()};

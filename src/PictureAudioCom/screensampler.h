@@ -17,7 +17,8 @@ public:
     void request(const QRect &screen);
 
 Q_SIGNALS:
-    /// A look has ended; when it failed these are the colours of the last one that did not. Comes to the owner's thread.
+    /// A look has ended; when it failed these are the colours of the last one that did not. Comes to the owner's
+    /// thread.
     void looked(bool ok, const ZoneColours &colours);
 
 protected:

@@ -22,7 +22,8 @@ QRgb colourOf(const QList<int> &heights, qsizetype first, qsizetype last, int hi
         return qRgb(0, 0, 0);
     const double tone = moment / sum / static_cast<double>(std::max<qsizetype>(heights.size() - 1, 1));
     const double fill = sum / static_cast<double>(last - first);
-    return QColor::fromHsvF(static_cast<float>(tone * kLastHue), 1.0f, static_cast<float>(kDarkest + (1 - kDarkest) * fill))
+    return QColor::fromHsvF(static_cast<float>(tone * kLastHue), 1.0f,
+                            static_cast<float>(kDarkest + (1 - kDarkest) * fill))
         .rgb();
 }
 

@@ -20,7 +20,8 @@ namespace {
 constexpr platform::milliseconds kLookEvery{100};
 constexpr platform::milliseconds kListenEvery{3000};
 
-/// How far a colour must be from the last one, by the level that is set. The highest follows what is just seen on a wall.
+/// How far a colour must be from the last one, by the level that is set. The highest follows what is just seen on a
+/// wall.
 constexpr double kSeen[] = {24, 16, 11, 8, 5};
 constexpr int kUsualLevel = 2;
 

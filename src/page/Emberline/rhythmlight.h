@@ -14,9 +14,9 @@
 class AutomaticWriter;
 class CommandQueue;
 
-/// Lets the lamps follow the sound or the screen while the monitor is known to be in a rhythm mode and answers: a colour
-/// is wished of the automatic writer when it has changed enough to be seen. Dark while the session is locked. Looks at
-/// nothing otherwise.
+/// Lets the lamps follow the sound or the screen while the monitor is known to be in a rhythm mode and answers: a
+/// colour is wished of the automatic writer when it has changed enough to be seen. Dark while the session is locked.
+/// Looks at nothing otherwise.
 class RhythmLight : public QObject
 {
     Q_OBJECT
@@ -64,7 +64,7 @@ private:
     Source m_source = Source::None;
     State m_state = State::Off;
     bool m_isLocked = false;
-    bool m_heard = false; ///< since the last look
+    bool m_heard = false;             ///< since the last look
     std::map<Command, bool> m_asked;  ///< what the monitor was asked for since it was found
     std::map<Command, QRgb> m_wished; ///< the newest colour of each tone
     int m_run = 0;                    ///< what was to come in an earlier one does not any more
