@@ -108,6 +108,7 @@ void TestVirtualDesk::readsScripts()
             {"model": "Q27-OLED", "plugged": false, "edid": {"random": 64}, "latency": "none"}],
         "accessory": {"form": 1, "faults": [{"event": "fail_open", "times": 2}, {"event": "unplug", "at_write": 1}]},
         "events": [{"at_ms": 700, "event": "plug", "monitor": 1}, {"at_ms": 900, "event": "deaf", "times": 2}],
+        "programs": [{"path": "C:\\a.exe", "window": {"rect": [1, 2, 30, 40], "frame": 7, "shape": "maximised"}}],
         "audio": {"rate": 44100, "channels": 8, "mix": "float", "plays": "tone", "volume": 5, "packet_frames": 33,
                   "present": false, "faults": [{"call": "reset", "result": "0x88890004", "times": "always"}]}
     })",
@@ -121,6 +122,7 @@ void TestVirtualDesk::readsScripts()
     VirtualDesk desk(m_clock, *setup);
     QCOMPARE(desk.process().administrator, false);
     QCOMPARE(desk.displays().screens().at(0).geometry, QRect(0, 0, 800, 600));
+    QCOMPARE(desk.windows().visibleRect(desk.applications().windowOf(0)), QRect(0, 0, 800, 552)); // above a taskbar
     QCOMPARE(desk.monitor(0).readLatency().count(), 4);
     QCOMPARE(desk.monitor(1).readLatency().count(), 0);
     QCOMPARE(readPair(desk.monitor(0), 0x10).current, 12u);
@@ -169,6 +171,9 @@ void TestVirtualDesk::namesScriptFaults()
         {R"({"accessory": {"faults": [{"event": "unplug", "at": 1}]}})", "\"at\""},
         {R"({"events": [{"event": "refuse"}]})", "\"code\""},
         {R"({"administrator": 1})", "\"administrator\""},
+        {R"({"programs": [{}]})", "\"path\""},
+        {R"({"programs": [{"path": "x", "window": {"rect": [1, 2, 3]}}]})", "\"rect\""},
+        {R"({"programs": [{"path": "x", "window": {"shape": "round"}}]})", "\"round\""},
         {R"({"audio": []})", "\"audio\""},
         {R"({"audio": {"plays": "jazz"}})", "\"jazz\""},
         {R"({"audio": {"plays": "wave", "file": "none.wav"}})", "none.wav"},

@@ -1324,6 +1324,10 @@
         <translation>Halo Control</translation>
     </message>
     <message>
+        <source>Halves</source>
+        <translation>Halves</translation>
+    </message>
+    <message>
         <source>Hanging</source>
         <translation>Hanging</translation>
     </message>
@@ -1754,6 +1758,10 @@
     <message>
         <source>Magenta</source>
         <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Main and side</source>
+        <translation>Main and side</translation>
     </message>
     <message>
         <source>Make it your own</source>
@@ -2302,6 +2310,10 @@
     <message>
         <source>QUORVEL desk</source>
         <translation>QUORVEL desk</translation>
+    </message>
+    <message>
+        <source>Quarters</source>
+        <translation>Quarters</translation>
     </message>
     <message>
         <source>Questions and answers about your monitor, in your web browser.</source>
@@ -3198,6 +3210,10 @@
     <message>
         <source>There is nothing to set here yet.</source>
         <translation>There is nothing to set here yet.</translation>
+    </message>
+    <message>
+        <source>Thirds</source>
+        <translation>Thirds</translation>
     </message>
     <message>
         <source>This function has its row already.</source>

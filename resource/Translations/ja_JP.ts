@@ -1324,6 +1324,10 @@
         <translation>ハロー制御</translation>
     </message>
     <message>
+        <source>Halves</source>
+        <translation>2 分割</translation>
+    </message>
+    <message>
         <source>Hanging</source>
         <translation>吊り下げ</translation>
     </message>
@@ -1754,6 +1758,10 @@
     <message>
         <source>Magenta</source>
         <translation>マゼンタ</translation>
+    </message>
+    <message>
+        <source>Main and side</source>
+        <translation>メインとサイド</translation>
     </message>
     <message>
         <source>Make it your own</source>
@@ -2302,6 +2310,10 @@
     <message>
         <source>QUORVEL desk</source>
         <translation>QUORVEL シミュレーター</translation>
+    </message>
+    <message>
+        <source>Quarters</source>
+        <translation>4 分割</translation>
     </message>
     <message>
         <source>Questions and answers about your monitor, in your web browser.</source>
@@ -3198,6 +3210,10 @@
     <message>
         <source>There is nothing to set here yet.</source>
         <translation>ここにはまだ設定できる項目がありません。</translation>
+    </message>
+    <message>
+        <source>Thirds</source>
+        <translation>3 分割</translation>
     </message>
     <message>
         <source>This function has its row already.</source>

@@ -1324,6 +1324,10 @@
         <translation>光晕控制</translation>
     </message>
     <message>
+        <source>Halves</source>
+        <translation>二等分</translation>
+    </message>
+    <message>
         <source>Hanging</source>
         <translation>倒挂</translation>
     </message>
@@ -1754,6 +1758,10 @@
     <message>
         <source>Magenta</source>
         <translation>洋红</translation>
+    </message>
+    <message>
+        <source>Main and side</source>
+        <translation>主区和侧区</translation>
     </message>
     <message>
         <source>Make it your own</source>
@@ -2302,6 +2310,10 @@
     <message>
         <source>QUORVEL desk</source>
         <translation>QUORVEL 模拟台</translation>
+    </message>
+    <message>
+        <source>Quarters</source>
+        <translation>四等分</translation>
     </message>
     <message>
         <source>Questions and answers about your monitor, in your web browser.</source>
@@ -3198,6 +3210,10 @@
     <message>
         <source>There is nothing to set here yet.</source>
         <translation>这里暂时没有可设置的内容。</translation>
+    </message>
+    <message>
+        <source>Thirds</source>
+        <translation>三等分</translation>
     </message>
     <message>
         <source>This function has its row already.</source>

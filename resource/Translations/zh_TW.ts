@@ -1324,6 +1324,10 @@
         <translation>光暈控制</translation>
     </message>
     <message>
+        <source>Halves</source>
+        <translation>二等分</translation>
+    </message>
+    <message>
         <source>Hanging</source>
         <translation>倒掛</translation>
     </message>
@@ -1754,6 +1758,10 @@
     <message>
         <source>Magenta</source>
         <translation>洋紅</translation>
+    </message>
+    <message>
+        <source>Main and side</source>
+        <translation>主區與側區</translation>
     </message>
     <message>
         <source>Make it your own</source>
@@ -2302,6 +2310,10 @@
     <message>
         <source>QUORVEL desk</source>
         <translation>QUORVEL 模擬台</translation>
+    </message>
+    <message>
+        <source>Quarters</source>
+        <translation>四等分</translation>
     </message>
     <message>
         <source>Questions and answers about your monitor, in your web browser.</source>
@@ -3198,6 +3210,10 @@
     <message>
         <source>There is nothing to set here yet.</source>
         <translation>這裡暫時沒有可設定的內容。</translation>
+    </message>
+    <message>
+        <source>Thirds</source>
+        <translation>三等分</translation>
     </message>
     <message>
         <source>This function has its row already.</source>

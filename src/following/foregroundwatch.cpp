@@ -65,6 +65,7 @@ void ForegroundWatch::windowEvent(std::uint32_t event, void *window)
 {
     if (!s_watch || event != platform::kEventForeground || !window)
         return;
+    Q_EMIT s_watch->windowInFront(window);
     const auto path = programOf(window);
     if (!path)
         return;

@@ -12,6 +12,9 @@ public:
     ~ForegroundWatch() override;
 
 Q_SIGNALS:
+    /// A window came to the front, of whatever program; told before its program is.
+    void windowInFront(void *window);
+
     /// A window of this program came to the front; its path with forward slashes, empty when it has 260 characters or
     /// more. Programs that may not be looked at are not told.
     void programInFront(const QString &path);

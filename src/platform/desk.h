@@ -2,6 +2,7 @@
 
 #include "platform/audiocapture.h"
 #include "platform/clock.h"
+#include "platform/desktopwindows.h"
 #include "platform/devicenotifications.h"
 #include "platform/displays.h"
 #include "platform/files.h"
@@ -31,6 +32,7 @@ public:
     virtual GlobalKeys &globalKeys() = 0;
     virtual Foreground &foreground() = 0;
     virtual Presence &presence() = 0;
+    virtual DesktopWindows &windows() = 0;
     virtual Hid &hid() = 0;
     virtual AudioCapture &audio() = 0;
     virtual ScreenCapture &screen() = 0;

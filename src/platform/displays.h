@@ -25,8 +25,9 @@ struct DisplayPath
 /// What GetMonitorInfoW tells of a display.
 struct DisplayInfo
 {
-    QRect bounds;       ///< in desktop pixels
-    QString deviceName; ///< ends in DISPLAY and the display number, such as "\\.\DISPLAY1"
+    QRect bounds;        ///< in desktop pixels
+    QString deviceName;  ///< ends in DISPLAY and the display number, such as "\\.\DISPLAY1"
+    QRect workArea = {}; ///< what windows may fill of it: all but the taskbar and its like
 };
 
 /// One record of EnumDisplayDevicesW.

@@ -6,13 +6,15 @@ namespace virtualdesk {
 
 namespace {
 
+using Shape = ApplicationWindow::Shape;
+
 constexpr std::uint32_t kForegroundEvent = 3;
 constexpr std::size_t kLongestPath = 259; // without its end
 
 // What stands for a window and for an open process: the program's place, from 1, behind a mark.
 constexpr std::uintptr_t kWindow = 0x20000;
 constexpr std::uintptr_t kProcess = 0x30000;
-constexpr std::uint32_t kProcessId = 1000;
+constexpr std::uint32_t kProcessId = 0x10000000; // beyond those of this machine
 
 void *token(std::uintptr_t mark, std::size_t index)
 {
@@ -27,23 +29,40 @@ std::uintptr_t placeOf(std::uintptr_t mark, const void *handle)
 } // namespace
 
 Applications::Applications()
-    : m_list{{QStringLiteral("C:\\Program Files\\Surf\\surf.exe")},
-             {QStringLiteral("D:\\Games\\Night Race\\NightRace.exe")},
-             {QStringLiteral("C:\\Program Files\\Movie Time\\movietime.exe")},
-             {QStringLiteral("C:\\Windows\\System32\\Taskmgr.exe"), true}}
+    : m_list{{QStringLiteral("C:\\Program Files\\Surf\\surf.exe"), false, true, {{112, 80, 916, 608}, 8}},
+             {QStringLiteral("D:\\Games\\Night Race\\NightRace.exe"), false, true, {{}, 0, Shape::FullScreen}},
+             {QStringLiteral("C:\\Program Files\\Movie Time\\movietime.exe"),
+              false,
+              true,
+              {{300, 200, 640, 400}, 0, Shape::Normal, false}},
+             {QStringLiteral("C:\\Windows\\System32\\Taskmgr.exe"),
+              true,
+              true,
+              {{500, 120, 616, 508}, 8, Shape::Normal, true, false, true}}}
 {
 }
 
 void Applications::setList(std::vector<Application> list)
 {
     m_list = std::move(list);
+    m_front.reset();
 }
 
 void Applications::bringToFront(std::size_t index)
 {
-    m_front = token(kWindow, index);
+    m_front = index;
     if (kForegroundEvent >= m_first && kForegroundEvent <= m_last)
-        raiseEvent(kForegroundEvent, m_front);
+        raiseEvent(kForegroundEvent, windowOf(index));
+}
+
+void *Applications::windowOf(std::size_t index)
+{
+    return token(kWindow, index);
+}
+
+Application *Applications::ofWindow(void *window)
+{
+    return const_cast<Application *>(applicationOf(placeOf(kWindow, window)));
 }
 
 void Applications::raiseEvent(std::uint32_t event, void *window) const

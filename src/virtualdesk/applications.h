@@ -4,9 +4,24 @@
 #include <optional>
 #include <vector>
 
+#include <QRect>
 #include <QString>
 
 namespace virtualdesk {
+
+/// The window of a program.
+struct ApplicationWindow
+{
+    enum class Shape { Normal, Maximised, Minimised, FullScreen };
+
+    QRect rect = {80, 60, 800, 560}; ///< in pixels of the desktop, the frame that cannot be seen included
+    int frame = 0;                   ///< pixels of it at the left, at the right and below
+    Shape shape = Shape::Normal;
+    bool isSizable = true;
+    bool isHung = false;
+    bool hasMoreRights = false; ///< it cannot be moved from here
+    QSize least = {};           ///< the smallest size that it takes
+};
 
 /// A program that runs on the desk.
 struct Application
@@ -14,6 +29,7 @@ struct Application
     QString path;             ///< as the system names it, with backslashes
     bool isProtected = false; ///< its process cannot be opened
     bool hasProcess = true;   ///< off: its window is gone by the time somebody asks
+    ApplicationWindow window = {};
 };
 
 /// The other programs of the desk, one of which is in front, and who wants to hear when that changes. Interface thread
@@ -32,8 +48,15 @@ public:
     /// Brings a program to the front, also one that is there already: whoever hooked the event is called.
     void bringToFront(std::size_t index);
 
+    /// The place in the list of the one in front; nothing until one was brought there.
+    std::optional<std::size_t> front() const { return m_front; }
+    /// The program that the desk is for came to the front.
+    void leaveFront() { m_front.reset(); }
+    /// What stands for the window of a program, and the program of such a window; null for any other.
+    static void *windowOf(std::size_t index);
+    Application *ofWindow(void *window);
     /// The window in front; null before any was.
-    void *frontWindow() const { return m_front; }
+    void *frontWindow() const { return m_front ? windowOf(*m_front) : nullptr; }
 
     /// An event of any kind and window, as the system might send it.
     void raiseEvent(std::uint32_t event, void *window) const;
@@ -61,9 +84,9 @@ private:
     std::uint32_t m_first = 0;
     std::uint32_t m_last = 0;
     Hook m_hook = nullptr;
-    void *m_front = nullptr;
     int m_processesOpen = 0;
     int m_titlesRead = 0;
+    std::optional<std::size_t> m_front;
 };
 
 } // namespace virtualdesk

@@ -5,6 +5,7 @@
 
 #include "virtualdesk/accessoryforms.h"
 #include "virtualdesk/monitorscript.h"
+#include "virtualdesk/programscript.h"
 #include "virtualdesk/soundscript.h"
 
 namespace virtualdesk {
@@ -142,6 +143,8 @@ DeskSetup readSetup(ScriptObject root)
     root.flag("administrator", setup.administrator);
     root.flag("startup_writable", setup.startUpWritable);
     root.number("runas_result", setup.runasResult, 0, 1000);
+    if (root.has("programs"))
+        setup.programs = readPrograms(root);
     if (root.has("audio"))
         readSoundScript(root, setup.sound, setup.audioFaults);
     root.finish();

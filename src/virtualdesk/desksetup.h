@@ -11,6 +11,7 @@
 #include <QRect>
 #include <QString>
 
+#include "virtualdesk/applications.h"
 #include "virtualdesk/monitormodel.h"
 #include "virtualdesk/simulatedendpoint.h"
 #include "virtualdesk/simulatedmonitor.h"
@@ -95,8 +96,9 @@ struct DeskSetup
     std::chrono::milliseconds readLatency{0};
     std::chrono::milliseconds writeLatency{0};
     bool administrator = true;
-    bool startUpWritable = true; ///< whether what starts at log-on may be changed
-    int runasResult = 42;        ///< above 32: the elevated process was started
+    bool startUpWritable = true;                      ///< whether what starts at log-on may be changed
+    int runasResult = 42;                             ///< above 32: the elevated process was started
+    std::optional<std::vector<Application>> programs; ///< instead of the usual ones
     UserSetup user;
     EndpointSetup sound;
     std::vector<AudioFault> audioFaults;

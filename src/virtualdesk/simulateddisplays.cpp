@@ -10,6 +10,7 @@ namespace {
 constexpr std::uint64_t kAdapterId = 0x10001;
 constexpr QSize kPlainScreen(1920, 1080);
 constexpr QSize kSecondScreen(2560, 1440);
+constexpr int kTaskbar = 48; // pixels at the lower edge of each display
 constexpr QLatin1String kMonitorClassText("{e6f07b5f-ee97-4a90-b076-33f57bf4eaa7}");
 
 } // namespace
@@ -75,7 +76,8 @@ std::optional<platform::DisplayInfo> SimulatedDisplays::info(platform::DisplayHa
     const auto index = displayOf(display);
     if (!index)
         return std::nullopt;
-    return platform::DisplayInfo{boundsOf(*index), m_displays[*index].deviceName};
+    const QRect bounds = boundsOf(*index);
+    return platform::DisplayInfo{bounds, m_displays[*index].deviceName, bounds.adjusted(0, 0, 0, -kTaskbar)};
 }
 
 /// The first display is what the program is really shown on, as soon as there is a toolkit to ask.

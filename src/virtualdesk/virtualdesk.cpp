@@ -33,6 +33,8 @@ VirtualDesk::VirtualDesk(platform::Clock &clock, const DeskSetup &setup)
         for (const MonitorEvent &fault : each.faults)
             apply(monitorCount() - 1, fault);
     }
+    if (setup.programs)
+        m_applications.setList(*setup.programs);
     setUpAccessory(setup.accessory);
     m_screen.setPicture(setup.screen.picture);
     m_screen.failCopies(setup.screen.failures);

@@ -7,6 +7,7 @@
 
 #include "platform/clock.h"
 #include "virtualdesk/applications.h"
+#include "virtualdesk/applicationwindows.h"
 #include "virtualdesk/desksetup.h"
 #include "virtualdesk/devicemessages.h"
 #include "virtualdesk/filefaults.h"
@@ -66,6 +67,8 @@ public:
     HotKeys &hotKeys() { return m_hotKeys; }
     /// The other programs.
     Applications &applications() { return m_applications; }
+    /// Their windows.
+    ApplicationWindows &windows() { return m_windows; }
 
     /// Plugging it in and out changes the HID enumeration and tells the windows that registered for HID devices.
     SimulatedAccessory &accessory() { return m_accessory; }
@@ -95,6 +98,7 @@ private:
     DeviceRegistrations m_registrations;
     HotKeys m_hotKeys;
     Applications m_applications;
+    ApplicationWindows m_windows{m_applications, m_displays};
     SimulatedAccessory m_accessory;
     SimulatedEndpoint m_sound;
     SimulatedScreen m_screen;

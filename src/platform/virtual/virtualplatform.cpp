@@ -8,6 +8,7 @@
 #include <QStandardPaths>
 
 #include "platform/virtual/virtualaudio.h"
+#include "platform/virtual/virtualdesktopwindows.h"
 #include "platform/virtual/virtualdisplays.h"
 #include "platform/virtual/virtualfiles.h"
 #include "platform/virtual/virtualforeground.h"
@@ -140,6 +141,7 @@ VirtualPlatform::VirtualPlatform(VirtualDesk &desk, Clock &clock)
       m_deviceNotifications(std::make_unique<VirtualNotifications>(desk)),
       m_globalKeys(std::make_unique<VirtualGlobalKeys>(desk)),
       m_foreground(std::make_unique<VirtualForeground>(desk.applications())),
+      m_windows(std::make_unique<VirtualDesktopWindows>(desk.windows())),
       m_presence(std::make_unique<VirtualPresence>(desk)), m_hid(std::make_unique<VirtualHid>(desk)),
       m_audio(std::make_unique<VirtualAudio>(desk.sound())),
       m_screen(std::make_unique<VirtualScreenCapture>(desk.screen())),
@@ -187,6 +189,11 @@ Foreground &VirtualPlatform::foreground()
 Presence &VirtualPlatform::presence()
 {
     return *m_presence;
+}
+
+DesktopWindows &VirtualPlatform::windows()
+{
+    return *m_windows;
 }
 
 Hid &VirtualPlatform::hid()

@@ -25,6 +25,7 @@ public:
     GlobalKeys &globalKeys() override;
     Foreground &foreground() override;
     Presence &presence() override;
+    DesktopWindows &windows() override;
     Hid &hid() override;
     AudioCapture &audio() override;
     ScreenCapture &screen() override;
@@ -48,6 +49,7 @@ private:
     std::unique_ptr<GlobalKeys> m_globalKeys;
     std::unique_ptr<Foreground> m_foreground;
     std::unique_ptr<Presence> m_presence;
+    std::unique_ptr<DesktopWindows> m_windows;
     std::unique_ptr<Hid> m_hid;
     std::unique_ptr<AudioCapture> m_audio;
     std::unique_ptr<ScreenCapture> m_screen;

@@ -2,6 +2,7 @@
 
 #include "platform/systemclock.h"
 #include "platform/win32/win32audio.h"
+#include "platform/win32/win32desktopwindows.h"
 #include "platform/win32/win32devicenotifications.h"
 #include "platform/win32/win32displays.h"
 #include "platform/win32/win32foreground.h"
@@ -28,6 +29,7 @@ public:
     GlobalKeys &globalKeys() override { return m_globalKeys; }
     Foreground &foreground() override { return m_foreground; }
     Presence &presence() override { return m_presence; }
+    DesktopWindows &windows() override { return m_windows; }
     Hid &hid() override { return m_hid; }
     AudioCapture &audio() override { return m_audio; }
     ScreenCapture &screen() override { return m_screen; }
@@ -43,6 +45,7 @@ private:
     Win32GlobalKeys m_globalKeys;
     Win32Foreground m_foreground;
     Win32Presence m_presence;
+    Win32DesktopWindows m_windows;
     Win32Hid m_hid;
     Win32Audio m_audio;
     Win32ScreenCapture m_screen;

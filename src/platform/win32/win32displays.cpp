@@ -44,6 +44,11 @@ std::optional<DisplayDevice> displayDevice(const wchar_t *adapterName, std::uint
     return DisplayDevice{QString::fromWCharArray(device.DeviceName), QString::fromWCharArray(device.DeviceID)};
 }
 
+QRect rectOf(const RECT &rect)
+{
+    return {rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top};
+}
+
 BOOL CALLBACK visitDisplay(HMONITOR display, HDC, LPRECT, LPARAM visit)
 {
     return (*reinterpret_cast<const std::function<bool(DisplayHandle)> *>(visit))(display);
@@ -85,9 +90,7 @@ std::optional<DisplayInfo> Win32Displays::info(DisplayHandle display)
     static_assert(sizeof(info) == 104);
     if (!GetMonitorInfoW(static_cast<HMONITOR>(display), &info))
         return std::nullopt;
-    const RECT &bounds = info.rcMonitor;
-    return DisplayInfo{QRect(bounds.left, bounds.top, bounds.right - bounds.left, bounds.bottom - bounds.top),
-                       QString::fromWCharArray(info.szDevice)};
+    return DisplayInfo{rectOf(info.rcMonitor), QString::fromWCharArray(info.szDevice), rectOf(info.rcWork)};
 }
 
 std::optional<DisplayDevice> Win32Displays::adapter(std::uint32_t index)

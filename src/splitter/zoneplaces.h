@@ -1,0 +1,15 @@
+#pragma once
+
+#include <vector>
+
+#include <QMargins>
+#include <QRect>
+
+#include "splitter/splitlayout.h"
+
+/// Where the zones are on a screen whose windows may fill @p workArea, in its pixels. A shared edge is rounded once, so
+/// that the zones meet without a gap and without an overlap.
+std::vector<QRect> zoneRects(std::span<const Zone> zones, const QRect &workArea);
+
+/// What of a window's rectangle cannot be seen, at each side: the rest of its frame. Never negative.
+QMargins invisibleFrame(const QRect &window, const QRect &visible);
