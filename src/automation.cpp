@@ -7,6 +7,7 @@
 #include "page/BasicSetting/hotkeyoverlay.h"
 #include "page/BasicSetting/pageshortcutkey.h"
 #include "page/Following/pagescenariofollowing.h"
+#include "page/engine/keyfields.h"
 #include "page/pageset.h"
 #include "shortcut/shortcutfunctions.h"
 
@@ -18,12 +19,14 @@ static bool isAidSwitch(Command command)
 }
 
 Automation::Automation(CommandQueue &queue, PageSet &pages, QStackedWidget *stack, QObject *parent)
-    : QObject(parent), m_pages(pages), m_overlay(new HotkeyOverlay(this)), m_writer(new AutomaticWriter(queue, this))
+    : QObject(parent), m_pages(pages), m_keyFields(std::make_unique<KeyFields>()), m_overlay(new HotkeyOverlay(this)),
+      m_writer(new AutomaticWriter(queue, this))
 {
-    auto *keys = new pageShortcutKey(stack);
+    auto *keys = new pageShortcutKey(*m_keyFields, stack);
     connect(keys->runner(), &ShortcutRunner::begins, &queue, &CommandQueue::drain);
     connect(keys->runner(), &ShortcutRunner::sent, this, &Automation::showResult);
     auto *following = new pageScenarioFollowing(stack);
+    m_watch = following->watch();
     connect(following->follower(), &SceneFollower::begins, &queue, &CommandQueue::drain);
     connect(following->follower(), &SceneFollower::sceneSent, this, [this] { Q_EMIT sent(Command::SceneMode); });
     connect(m_writer, &AutomaticWriter::dayIsUsedUp, this,
@@ -31,6 +34,8 @@ Automation::Automation(CommandQueue &queue, PageSet &pages, QStackedWidget *stac
     pages.add(PageId::ShortcutKey, keys);
     pages.add(PageId::ScenarioFollowing, following);
 }
+
+Automation::~Automation() = default;
 
 void Automation::showResult(int function, Command command, int value, bool ok)
 {

@@ -1,12 +1,16 @@
 #pragma once
 
+#include <memory>
+
 #include <QObject>
 
 #include "ddc_protocol/command.h"
 
 class AutomaticWriter;
 class CommandQueue;
+class ForegroundWatch;
 class HotkeyOverlay;
+class KeyFields;
 class PageSet;
 class QStackedWidget;
 
@@ -18,12 +22,19 @@ class Automation : public QObject
 public:
     /// Makes the pages on the stack and adds them to the set.
     Automation(CommandQueue &queue, PageSet &pages, QStackedWidget *stack, QObject *parent);
+    ~Automation() override;
 
     /// Tells on the desktop what a hot key did.
     HotkeyOverlay *overlay() const { return m_overlay; }
 
     /// Sends what no user asked for just now; that a day's writes are used up is told on the desktop.
     AutomaticWriter *writer() const { return m_writer; }
+
+    /// The fields for hot keys of all pages.
+    KeyFields &keyFields() const { return *m_keyFields; }
+
+    /// Hears which window comes to the front.
+    ForegroundWatch &foregroundWatch() const { return *m_watch; }
 
 Q_SIGNALS:
     /// A key or a followed program has sent something, which the pages are to show.
@@ -34,6 +45,8 @@ private:
     QString valueText(int function, Command command, int value) const;
 
     const PageSet &m_pages;
+    std::unique_ptr<KeyFields> m_keyFields;
     HotkeyOverlay *m_overlay;
     AutomaticWriter *m_writer;
+    ForegroundWatch *m_watch = nullptr;
 };

@@ -15,6 +15,7 @@
 #include "page/Emberline/pageemberline.h"
 #include "page/Emberline/rhythmlight.h"
 #include "page/Scene/pagescenesetting.h"
+#include "page/Splitter/splitting.h"
 #include "page/monitorpages.h"
 #include "platform/ending.h"
 #include "searchdevicedlg.h"
@@ -95,6 +96,8 @@ void MainWindow::createPages()
     m_automation = new Automation(*m_queue, m_pages, stack, this);
     m_rhythm = new RhythmLight(*m_queue, *m_automation->writer(), this);
     monitor->lighting()->follow(*m_rhythm);
+    m_splitting = new Splitting({m_automation->keyFields(), m_automation->foregroundWatch(), *m_automation->overlay()},
+                                m_pages, stack, this);
     m_accessory->build(*m_queue, m_pages, stack);
     connect(monitor, &MonitorPages::resetBegins, this, &MainWindow::hideWindow);
     for (Page *page : m_pages.all()) {
@@ -125,6 +128,7 @@ void MainWindow::createTray()
     connect(m_tray, &Tray::showWanted, this, &MainWindow::showWindow);
     connect(m_tray, &Tray::exitWanted, this, &MainWindow::leave);
     connect(m_modes, &InterfaceModes::usableChanged, trayPanel(), &TrayPanelOpener::setUsable);
+    connect(trayPanel(), &TrayPanelOpener::zonesWanted, this, &MainWindow::onSpliter);
     connect(trayPanel(), &TrayPanelOpener::opened, m_reconciler, &Reconciler::look);
 }
 
@@ -146,6 +150,16 @@ void MainWindow::connectScene()
         m_navigator->followSceneMode();
         m_checks->readMissingBlock();
     });
+}
+
+void MainWindow::onSpliter()
+{
+    m_splitting->openZones();
+}
+
+void MainWindow::onSpliterFixed()
+{
+    m_splitting->openZones(true);
 }
 
 void MainWindow::refreshPages()

@@ -18,6 +18,7 @@ class CommandQueue;
 class HotkeyOverlay;
 class RhythmLight;
 class SearchDeviceDlg;
+class Splitting;
 class StatusCard;
 class TrayPanelOpener;
 class pageSceneSetting;
@@ -66,6 +67,7 @@ public:
     SettingsPage *settingsPage(PageId id) const { return m_pages.settings(id); }
     Page *page(PageId id) const { return m_pages.page(id); }
     TrayPanelOpener *trayPanel() const { return m_tray->panel(); }
+    Splitting *splitting() const { return m_splitting; }
     HotkeyOverlay *overlay() const { return m_automation->overlay(); }
 
     /// Ends the program, unless the user is asked and wants to stay.
@@ -89,6 +91,10 @@ public Q_SLOTS:
     void onAudioRhyShortcut() { qDebug() << "MainWindow::onAudioRhyShortcut"; }
     void onScreenRhyShortcut() { qDebug() << "MainWindow::onScreenRhyShortcut"; }
 
+    // The screen splitter: the zones of the layout that is chosen, or of one that every screen has.
+    void onSpliter();
+    void onSpliterFixed();
+
 private:
     void createPages();
     void createFollowers();
@@ -111,6 +117,7 @@ private:
     pageSceneSetting *m_scenePage = nullptr;
     Automation *m_automation = nullptr;
     RhythmLight *m_rhythm = nullptr;
+    Splitting *m_splitting = nullptr;
     Reconciler *m_reconciler = nullptr;
     Tray *m_tray = nullptr;
     bool m_wasInFront = false;

@@ -60,6 +60,7 @@ constexpr NavigationEntry kBasic[] = {
     {LABEL("Service Settings"), "service_settings", PageId::ServicesSetting},
     {LABEL("Tool Settings"), "tool_settings", PageId::ToolSetting},
     {LABEL("I/O Settings"), "io_settings", PageId::IoSetting},
+    {LABEL("Screen Splitter"), "screen_splitter", PageId::Splitter},
     {LABEL("Multi-window"), "multi_window", PageId::MultiWindow},
 };
 

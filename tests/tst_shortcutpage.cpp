@@ -5,6 +5,7 @@
 #include "ddc_protocol/devicestate.h"
 #include "page/BasicSetting/pageshortcutkey.h"
 #include "page/BasicSetting/shortcutrow.h"
+#include "page/engine/keyfields.h"
 #include "platform/nativemessage.h"
 #include "shortcut/shortcutlist.h"
 #include "support/deskfixture.h"
@@ -23,6 +24,7 @@ const QString kFile = QStringLiteral("basicMode.ini");
 class TestedPage : public pageShortcutKey
 {
 public:
+    using pageShortcutKey::pageShortcutKey;
     int conflicts = 0;
     std::function<void()> whileShown = [] {};
 
@@ -87,6 +89,7 @@ private:
     QPushButton *button(const char *name) const { return m_page->findChild<QPushButton *>(QLatin1String(name)); }
     QStringList press(std::uint32_t modifiers, char key);
 
+    KeyFields m_fields;
     std::unique_ptr<TestedPage> m_page;
 };
 
@@ -106,7 +109,7 @@ void TestShortcutPage::cleanup()
 void TestShortcutPage::start()
 {
     m_page.reset();
-    m_page = std::make_unique<TestedPage>();
+    m_page = std::make_unique<TestedPage>(m_fields);
     m_desk->clock.advance(200ms);
 }
 

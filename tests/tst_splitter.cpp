@@ -21,8 +21,8 @@ std::pair<int, int> cover(const std::vector<QRect> &rects, const QRect &area)
     std::pair<int, int> found(1000, 0);
     for (int y = area.top(); y <= area.bottom(); ++y) {
         for (int x = area.left(); x <= area.right(); ++x) {
-            const auto count = static_cast<int>(std::count_if(
-                rects.begin(), rects.end(), [x, y](const QRect &rect) { return rect.contains(x, y); }));
+            const auto count = static_cast<int>(
+                std::count_if(rects.begin(), rects.end(), [x, y](const QRect &rect) { return rect.contains(x, y); }));
             found = {std::min(found.first, count), std::max(found.second, count)};
         }
     }
@@ -75,7 +75,9 @@ QString TestSplitter::press(const SplitRequest &request)
         .arg(seen.y())
         .arg(seen.width())
         .arg(seen.height())
-        .arg(maximised ? " max" : "", result.refusal != SplitRefusal::None ? " refused" : result.keptSize ? " own" : "");
+        .arg(maximised ? " max" : "", result.refusal != SplitRefusal::None ? " refused"
+                                      : result.keptSize                    ? " own"
+                                                                           : "");
 }
 
 void TestSplitter::zonesMeet_data()
@@ -110,8 +112,11 @@ void TestSplitter::layoutsOfTheUser()
     };
     const Zones halves = fixedLayouts()[0].zones;
     const Zones quarters = fixedLayouts()[2].zones;
-    const Zones wheel{{0, 0, 3360, 1680}, {3360, 0, 5040, 3360}, {0, 1680, 1680, 5040}, // no zone can go
-                      {1680, 1680, 3360, 3360}, {1680, 3360, 5040, 5040}};
+    const Zones wheel{{0, 0, 3360, 1680},
+                      {3360, 0, 5040, 3360},
+                      {0, 1680, 1680, 5040}, // no zone can go
+                      {1680, 1680, 3360, 3360},
+                      {1680, 3360, 5040, 5040}};
     QVERIFY(coversScreen(wheel));
     for (const auto &[zones, expected] : std::initializer_list<std::pair<std::optional<Zones>, const char *>>{
              {cutZone(halves, 1, Cut::Across, 1680), "0-0-2520-5040+2520-0-5040-1680+2520-1680-5040-5040"},
@@ -123,7 +128,8 @@ void TestSplitter::layoutsOfTheUser()
              {joinZone({Zone()}, 0), "-"},
              {moveEdge(kCorner, {Cut::Upright, 2520, 10}, 1000), "0-0-1000-5040+1000-0-5040-2520+1000-2520-5040-5040"},
              {moveEdge(kCorner, {Cut::Across, 2520, 3000}, 9000), "0-0-2520-5040+2520-0-5040-4536+2520-4536-5040-5040"},
-             {moveEdge(quarters, {Cut::Upright, 2520, 0}, 0), "0-0-504-2520+504-0-5040-2520+0-2520-2520-5040+2520-2520-5040-5040"},
+             {moveEdge(quarters, {Cut::Upright, 2520, 0}, 0),
+              "0-0-504-2520+504-0-5040-2520+0-2520-2520-5040+2520-2520-5040-5040"},
              {moveEdge(kCorner, {Cut::Upright, 2520, 10}, 2520), "-"}})
         QCOMPARE(text(zones), QLatin1String(expected));
     QCOMPARE(edgeNear(kCorner, {2500, 4000}, 50)->at, 2520);
@@ -131,7 +137,8 @@ void TestSplitter::layoutsOfTheUser()
     QVERIFY(!edgeNear(kCorner, {10, 10}, 50));     // the screen's own
     QCOMPARE(zoneAt(kCorner, {2520, 2519}), std::size_t(1));
     Zones most{Zone()};
-    while (const auto more = cutZone(most, 0, most.size() % 2 ? Cut::Upright : Cut::Across, (most[0].left + (most.size() % 2 ? most[0].right : most[0].bottom)) / 2))
+    while (const auto more = cutZone(most, 0, most.size() % 2 ? Cut::Upright : Cut::Across,
+                                     (most[0].left + (most.size() % 2 ? most[0].right : most[0].bottom)) / 2))
         most = *more;
     QVERIFY(most.size() <= kMostZones);
 }
@@ -178,8 +185,10 @@ void TestSplitter::presses_data()
     row("maximised", maximised, QList<int>{1, 1, -1}, QStringList{halves[1], filled, halves[0]});
     row("no such zone", plain, QList<int>{7}, QStringList{before + " refused"});
     row("a size of its own", large, QList<int>{1, -1, 0},
-        QStringList{QStringLiteral("683,0 800x720 own"), QStringLiteral("0,0 800x720 own"), before.left(7) + "800x400"});
-    row("the old place is a maximised one's normal one", maximised, QList<int>{0, 9}, QStringList{halves[0], halves[0] + " refused"});
+        QStringList{QStringLiteral("683,0 800x720 own"), QStringLiteral("0,0 800x720 own"),
+                    before.left(7) + "800x400"});
+    row("the old place is a maximised one's normal one", maximised, QList<int>{0, 9},
+        QStringList{halves[0], halves[0] + " refused"});
 }
 
 void TestSplitter::presses()

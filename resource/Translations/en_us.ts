@@ -136,6 +136,10 @@
         <translation>%1, frames: %2</translation>
     </message>
     <message>
+        <source>%1. The window keeps a size of its own.</source>
+        <translation>%1. The window keeps a size of its own.</translation>
+    </message>
+    <message>
         <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
         <translation>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</translation>
     </message>
@@ -464,6 +468,10 @@
         <translation>Apply</translation>
     </message>
     <message>
+        <source>Arrange the window</source>
+        <translation>Arrange the window</translation>
+    </message>
+    <message>
         <source>Arrangement of the windows</source>
         <translation>Arrangement of the windows</translation>
     </message>
@@ -518,6 +526,10 @@
     <message>
         <source>B</source>
         <translation>B</translation>
+    </message>
+    <message>
+        <source>Back at its old place</source>
+        <translation>Back at its old place</translation>
     </message>
     <message>
         <source>Background running</source>
@@ -832,6 +844,14 @@
         <translation>Custom Size</translation>
     </message>
     <message>
+        <source>Cut across</source>
+        <translation>Cut across</translation>
+    </message>
+    <message>
+        <source>Cut upright</source>
+        <translation>Cut upright</translation>
+    </message>
+    <message>
         <source>Cyan</source>
         <translation>Cyan</translation>
     </message>
@@ -900,6 +920,10 @@
         <translation>Delete Frame</translation>
     </message>
     <message>
+        <source>Delete layout</source>
+        <translation>Delete layout</translation>
+    </message>
+    <message>
         <source>Desktop</source>
         <translation>Desktop</translation>
     </message>
@@ -966,6 +990,10 @@
     <message>
         <source>Dotted cross</source>
         <translation>Dotted cross</translation>
+    </message>
+    <message>
+        <source>Draw a line through a zone to cut it, or drag an edge. With the keyboard: the arrows choose a zone, Ctrl and an arrow moves its edge.</source>
+        <translation>Draw a line through a zone to cut it, or drag an edge. With the keyboard: the arrows choose a zone, Ctrl and an arrow moves its edge.</translation>
     </message>
     <message>
         <source>Draw frames cell by cell; the matrix plays them in a loop.</source>
@@ -1276,6 +1304,10 @@
         <translation>General Settings</translation>
     </message>
     <message>
+        <source>Give the zone away</source>
+        <translation>Give the zone away</translation>
+    </message>
+    <message>
         <source>Global Rhythm</source>
         <translation>Global Rhythm</translation>
     </message>
@@ -1582,6 +1614,10 @@
     <message>
         <source>Later</source>
         <translation>Later</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>Layouts</translation>
     </message>
     <message>
         <source>Leaves the target free but for its very middle.</source>
@@ -1936,6 +1972,10 @@
         <translation>Must match the computer&apos;s signal. RGB Auto = found out by itself, RGB Limit = 16 to 235, RGB Full = 0 to 255.</translation>
     </message>
     <message>
+        <source>My layout</source>
+        <translation>My layout</translation>
+    </message>
+    <message>
         <source>NA</source>
         <translation>NA</translation>
     </message>
@@ -1946,6 +1986,10 @@
     <message>
         <source>NTSC television.</source>
         <translation>NTSC television.</translation>
+    </message>
+    <message>
+        <source>Name of the layout</source>
+        <translation>Name of the layout</translation>
     </message>
     <message>
         <source>Native</source>
@@ -1960,12 +2004,20 @@
         <translation>New device</translation>
     </message>
     <message>
+        <source>New layout</source>
+        <translation>New layout</translation>
+    </message>
+    <message>
         <source>Next form</source>
         <translation>Next form</translation>
     </message>
     <message>
         <source>Next value</source>
         <translation>Next value</translation>
+    </message>
+    <message>
+        <source>Next zone</source>
+        <translation>Next zone</translation>
     </message>
     <message>
         <source>Night</source>
@@ -2026,6 +2078,10 @@
     <message>
         <source>No shortcuts yet: choose a function above and add it.</source>
         <translation>No shortcuts yet: choose a function above and add it.</translation>
+    </message>
+    <message>
+        <source>No window is in front: press on the one that you mean first.</source>
+        <translation>No window is in front: press on the one that you mean first.</translation>
     </message>
     <message>
         <source>Noise</source>
@@ -2098,6 +2154,10 @@
     <message>
         <source>Ok</source>
         <translation>Ok</translation>
+    </message>
+    <message>
+        <source>Old place</source>
+        <translation>Old place</translation>
     </message>
     <message>
         <source>Oled Care</source>
@@ -2268,6 +2328,10 @@
         <translation>Press</translation>
     </message>
     <message>
+        <source>Press a number. That of the window&apos;s own zone gives it its old place back. Esc closes.</source>
+        <translation>Press a number. That of the window&apos;s own zone gives it its old place back. Esc closes.</translation>
+    </message>
+    <message>
         <source>Preview</source>
         <translation>Preview</translation>
     </message>
@@ -2302,6 +2366,10 @@
     <message>
         <source>Purple</source>
         <translation>Purple</translation>
+    </message>
+    <message>
+        <source>Puts the window in front into a part of the screen. Here you choose how the screen is divided.</source>
+        <translation>Puts the window in front into a part of the screen. Here you choose how the screen is divided.</translation>
     </message>
     <message>
         <source>QR Code</source>
@@ -2572,6 +2640,10 @@
         <translation>Screen</translation>
     </message>
     <message>
+        <source>Screen Splitter</source>
+        <translation>Screen Splitter</translation>
+    </message>
+    <message>
         <source>Screen of the simulated monitor</source>
         <translation>Screen of the simulated monitor</translation>
     </message>
@@ -2666,6 +2738,10 @@
     <message>
         <source>Show Time(s)</source>
         <translation>Show Time(s)</translation>
+    </message>
+    <message>
+        <source>Show the zones</source>
+        <translation>Show the zones</translation>
     </message>
     <message>
         <source>Shown</source>
@@ -2976,6 +3052,10 @@
         <translation>The language of the monitor&apos;s own menu, not of this tool.</translation>
     </message>
     <message>
+        <source>The layout has no such zone.</source>
+        <translation>The layout has no such zone.</translation>
+    </message>
+    <message>
         <source>The maker&apos;s own tuning.</source>
         <translation>The maker&apos;s own tuning.</translation>
     </message>
@@ -3172,6 +3252,14 @@
         <translation>The system did not allow &quot;%1&quot; to be changed.</translation>
     </message>
     <message>
+        <source>The system did not move the window.</source>
+        <translation>The system did not move the window.</translation>
+    </message>
+    <message>
+        <source>The system does not tell which screen the window is on.</source>
+        <translation>The system does not tell which screen the window is on.</translation>
+    </message>
+    <message>
         <source>The system&apos;s audio service is down until the button is released</source>
         <translation>The system&apos;s audio service is down until the button is released</translation>
     </message>
@@ -3194,6 +3282,30 @@
     <message>
         <source>The white of printed paper.</source>
         <translation>The white of printed paper.</translation>
+    </message>
+    <message>
+        <source>The window cannot be resized.</source>
+        <translation>The window cannot be resized.</translation>
+    </message>
+    <message>
+        <source>The window fills the whole screen: end its full screen first.</source>
+        <translation>The window fills the whole screen: end its full screen first.</translation>
+    </message>
+    <message>
+        <source>The window is minimised.</source>
+        <translation>The window is minimised.</translation>
+    </message>
+    <message>
+        <source>The window was not put into a zone, so it has no old place.</source>
+        <translation>The window was not put into a zone, so it has no old place.</translation>
+    </message>
+    <message>
+        <source>The window&apos;s program does not answer.</source>
+        <translation>The window&apos;s program does not answer.</translation>
+    </message>
+    <message>
+        <source>The window&apos;s program has more rights than this one and cannot be moved.</source>
+        <translation>The window&apos;s program has more rights than this one and cannot be moved.</translation>
     </message>
     <message>
         <source>There is no sound output until the button is released</source>
@@ -3222,6 +3334,10 @@
     <message>
         <source>This is the light of the mode &quot;Eye Care&quot;.</source>
         <translation>This is the light of the mode &quot;Eye Care&quot;.</translation>
+    </message>
+    <message>
+        <source>This layout stays as it is. &quot;New layout&quot; makes one of your own of it.</source>
+        <translation>This layout stays as it is. &quot;New layout&quot; makes one of your own of it.</translation>
     </message>
     <message>
         <source>This monitor</source>
@@ -3508,6 +3624,10 @@
         <translation>Width</translation>
     </message>
     <message>
+        <source>Windows</source>
+        <translation>Windows</translation>
+    </message>
+    <message>
         <source>With the factory parameters</source>
         <translation>With the factory parameters</translation>
     </message>
@@ -3550,6 +3670,18 @@
     <message>
         <source>Zelmar Mode</source>
         <translation>Zelmar Mode</translation>
+    </message>
+    <message>
+        <source>Zone %1 of %2</source>
+        <translation>Zone %1 of %2</translation>
+    </message>
+    <message>
+        <source>Zone before</source>
+        <translation>Zone before</translation>
+    </message>
+    <message>
+        <source>Zones for %1</source>
+        <translation>Zones for %1</translation>
     </message>
     <message>
         <source>Zoom</source>

@@ -136,6 +136,10 @@
         <translation>%1、フレーム数: %2</translation>
     </message>
     <message>
+        <source>%1. The window keeps a size of its own.</source>
+        <translation>%1。ウィンドウは独自のサイズのままです。</translation>
+    </message>
+    <message>
         <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
         <translation>&lt;font color=white&gt;ディスプレイ情報を取得しています...&lt;/font&gt;</translation>
     </message>
@@ -464,6 +468,10 @@
         <translation>適用</translation>
     </message>
     <message>
+        <source>Arrange the window</source>
+        <translation>ウィンドウを配置</translation>
+    </message>
+    <message>
         <source>Arrangement of the windows</source>
         <translation>ウィンドウの配置</translation>
     </message>
@@ -518,6 +526,10 @@
     <message>
         <source>B</source>
         <translation>B</translation>
+    </message>
+    <message>
+        <source>Back at its old place</source>
+        <translation>元の位置に戻しました</translation>
     </message>
     <message>
         <source>Background running</source>
@@ -832,6 +844,14 @@
         <translation>カスタムサイズ</translation>
     </message>
     <message>
+        <source>Cut across</source>
+        <translation>横に分割</translation>
+    </message>
+    <message>
+        <source>Cut upright</source>
+        <translation>縦に分割</translation>
+    </message>
+    <message>
         <source>Cyan</source>
         <translation>シアン</translation>
     </message>
@@ -900,6 +920,10 @@
         <translation>フレーム削除</translation>
     </message>
     <message>
+        <source>Delete layout</source>
+        <translation>レイアウトを削除</translation>
+    </message>
+    <message>
         <source>Desktop</source>
         <translation>デスクトップ</translation>
     </message>
@@ -966,6 +990,10 @@
     <message>
         <source>Dotted cross</source>
         <translation>点付き十字</translation>
+    </message>
+    <message>
+        <source>Draw a line through a zone to cut it, or drag an edge. With the keyboard: the arrows choose a zone, Ctrl and an arrow moves its edge.</source>
+        <translation>領域に線を引くと分割され、境界線はドラッグで動かせます。キーボードでは矢印キーで領域を選び、Ctrl+矢印キーで境界線を動かします。</translation>
     </message>
     <message>
         <source>Draw frames cell by cell; the matrix plays them in a loop.</source>
@@ -1276,6 +1304,10 @@
         <translation>一般設定</translation>
     </message>
     <message>
+        <source>Give the zone away</source>
+        <translation>隣の領域に統合</translation>
+    </message>
+    <message>
         <source>Global Rhythm</source>
         <translation>全体連動</translation>
     </message>
@@ -1582,6 +1614,10 @@
     <message>
         <source>Later</source>
         <translation>あとで</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>レイアウト</translation>
     </message>
     <message>
         <source>Leaves the target free but for its very middle.</source>
@@ -1936,6 +1972,10 @@
         <translation>パソコンの信号に合わせます。「RGB 自動」は自動判別、リミテッドは 16～235、フルは 0～255 です。</translation>
     </message>
     <message>
+        <source>My layout</source>
+        <translation>マイレイアウト</translation>
+    </message>
+    <message>
         <source>NA</source>
         <translation>なし</translation>
     </message>
@@ -1946,6 +1986,10 @@
     <message>
         <source>NTSC television.</source>
         <translation>NTSC 方式のテレビ向けです。</translation>
+    </message>
+    <message>
+        <source>Name of the layout</source>
+        <translation>レイアウトの名前</translation>
     </message>
     <message>
         <source>Native</source>
@@ -1960,12 +2004,20 @@
         <translation>新しいデバイス</translation>
     </message>
     <message>
+        <source>New layout</source>
+        <translation>新しいレイアウト</translation>
+    </message>
+    <message>
         <source>Next form</source>
         <translation>次のタイプ</translation>
     </message>
     <message>
         <source>Next value</source>
         <translation>次の値</translation>
+    </message>
+    <message>
+        <source>Next zone</source>
+        <translation>次の領域</translation>
     </message>
     <message>
         <source>Night</source>
@@ -2026,6 +2078,10 @@
     <message>
         <source>No shortcuts yet: choose a function above and add it.</source>
         <translation>ショートカットキーはまだありません。上で機能を選んで追加してください。</translation>
+    </message>
+    <message>
+        <source>No window is in front: press on the one that you mean first.</source>
+        <translation>前面にウィンドウがありません。先に目的のウィンドウをクリックしてください。</translation>
     </message>
     <message>
         <source>Noise</source>
@@ -2098,6 +2154,10 @@
     <message>
         <source>Ok</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Old place</source>
+        <translation>元の位置</translation>
     </message>
     <message>
         <source>Oled Care</source>
@@ -2268,6 +2328,10 @@
         <translation>押す</translation>
     </message>
     <message>
+        <source>Press a number. That of the window&apos;s own zone gives it its old place back. Esc closes.</source>
+        <translation>数字キーを押してください。今の領域の数字をもう一度押すと元の位置に戻ります。Esc で閉じます。</translation>
+    </message>
+    <message>
         <source>Preview</source>
         <translation>プレビュー</translation>
     </message>
@@ -2302,6 +2366,10 @@
     <message>
         <source>Purple</source>
         <translation>紫</translation>
+    </message>
+    <message>
+        <source>Puts the window in front into a part of the screen. Here you choose how the screen is divided.</source>
+        <translation>最前面のウィンドウを画面の一部に配置します。画面の分け方はここで選びます。</translation>
     </message>
     <message>
         <source>QR Code</source>
@@ -2572,6 +2640,10 @@
         <translation>画面</translation>
     </message>
     <message>
+        <source>Screen Splitter</source>
+        <translation>画面分割</translation>
+    </message>
+    <message>
         <source>Screen of the simulated monitor</source>
         <translation>シミュレートされたモニターの画面</translation>
     </message>
@@ -2666,6 +2738,10 @@
     <message>
         <source>Show Time(s)</source>
         <translation>表示時間(秒)</translation>
+    </message>
+    <message>
+        <source>Show the zones</source>
+        <translation>領域を表示</translation>
     </message>
     <message>
         <source>Shown</source>
@@ -2976,6 +3052,10 @@
         <translation>モニターのメニューの言語です。このツールの言語ではありません。</translation>
     </message>
     <message>
+        <source>The layout has no such zone.</source>
+        <translation>レイアウトにその領域はありません。</translation>
+    </message>
+    <message>
         <source>The maker&apos;s own tuning.</source>
         <translation>メーカー独自のチューニングです。</translation>
     </message>
@@ -3172,6 +3252,14 @@
         <translation>システムにより「%1」の変更が許可されませんでした。</translation>
     </message>
     <message>
+        <source>The system did not move the window.</source>
+        <translation>システムがウィンドウを移動しませんでした。</translation>
+    </message>
+    <message>
+        <source>The system does not tell which screen the window is on.</source>
+        <translation>ウィンドウがどの画面にあるか、システムから取得できません。</translation>
+    </message>
+    <message>
         <source>The system&apos;s audio service is down until the button is released</source>
         <translation>ボタンを戻すまで、システムの音声サービスは停止します</translation>
     </message>
@@ -3194,6 +3282,30 @@
     <message>
         <source>The white of printed paper.</source>
         <translation>印刷用紙の白です。</translation>
+    </message>
+    <message>
+        <source>The window cannot be resized.</source>
+        <translation>このウィンドウはサイズを変更できません。</translation>
+    </message>
+    <message>
+        <source>The window fills the whole screen: end its full screen first.</source>
+        <translation>このウィンドウは全画面表示です。先に全画面表示を終了してください。</translation>
+    </message>
+    <message>
+        <source>The window is minimised.</source>
+        <translation>このウィンドウは最小化されています。</translation>
+    </message>
+    <message>
+        <source>The window was not put into a zone, so it has no old place.</source>
+        <translation>このウィンドウは領域に配置されていないため、元の位置がありません。</translation>
+    </message>
+    <message>
+        <source>The window&apos;s program does not answer.</source>
+        <translation>このウィンドウのアプリが応答しません。</translation>
+    </message>
+    <message>
+        <source>The window&apos;s program has more rights than this one and cannot be moved.</source>
+        <translation>このウィンドウのアプリはより高い権限で動いているため、移動できません。</translation>
     </message>
     <message>
         <source>There is no sound output until the button is released</source>
@@ -3222,6 +3334,10 @@
     <message>
         <source>This is the light of the mode &quot;Eye Care&quot;.</source>
         <translation>これはモード「アイケア」の光です。</translation>
+    </message>
+    <message>
+        <source>This layout stays as it is. &quot;New layout&quot; makes one of your own of it.</source>
+        <translation>このレイアウトは変更できません。「新しいレイアウト」でこれを元に自分用のものを作れます。</translation>
     </message>
     <message>
         <source>This monitor</source>
@@ -3508,6 +3624,10 @@
         <translation>幅</translation>
     </message>
     <message>
+        <source>Windows</source>
+        <translation>ウィンドウ</translation>
+    </message>
+    <message>
         <source>With the factory parameters</source>
         <translation>工場出荷時の設定</translation>
     </message>
@@ -3550,6 +3670,18 @@
     <message>
         <source>Zelmar Mode</source>
         <translation>Zelmar モード</translation>
+    </message>
+    <message>
+        <source>Zone %1 of %2</source>
+        <translation>領域 %1/%2</translation>
+    </message>
+    <message>
+        <source>Zone before</source>
+        <translation>前の領域</translation>
+    </message>
+    <message>
+        <source>Zones for %1</source>
+        <translation>%1 の領域</translation>
     </message>
     <message>
         <source>Zoom</source>

@@ -136,6 +136,10 @@
         <translation>%1，帧数：%2</translation>
     </message>
     <message>
+        <source>%1. The window keeps a size of its own.</source>
+        <translation>%1。该窗口保持自己的大小。</translation>
+    </message>
+    <message>
         <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
         <translation>&lt;font color=white&gt;正在获取显示设备信息...&lt;/font&gt;</translation>
     </message>
@@ -464,6 +468,10 @@
         <translation>应用</translation>
     </message>
     <message>
+        <source>Arrange the window</source>
+        <translation>排列窗口</translation>
+    </message>
+    <message>
         <source>Arrangement of the windows</source>
         <translation>窗口的排列</translation>
     </message>
@@ -518,6 +526,10 @@
     <message>
         <source>B</source>
         <translation>B</translation>
+    </message>
+    <message>
+        <source>Back at its old place</source>
+        <translation>已回到原位置</translation>
     </message>
     <message>
         <source>Background running</source>
@@ -832,6 +844,14 @@
         <translation>自定义尺寸</translation>
     </message>
     <message>
+        <source>Cut across</source>
+        <translation>横切</translation>
+    </message>
+    <message>
+        <source>Cut upright</source>
+        <translation>竖切</translation>
+    </message>
+    <message>
         <source>Cyan</source>
         <translation>青色</translation>
     </message>
@@ -900,6 +920,10 @@
         <translation>删除帧</translation>
     </message>
     <message>
+        <source>Delete layout</source>
+        <translation>删除布局</translation>
+    </message>
+    <message>
         <source>Desktop</source>
         <translation>桌面</translation>
     </message>
@@ -966,6 +990,10 @@
     <message>
         <source>Dotted cross</source>
         <translation>带点十字</translation>
+    </message>
+    <message>
+        <source>Draw a line through a zone to cut it, or drag an edge. With the keyboard: the arrows choose a zone, Ctrl and an arrow moves its edge.</source>
+        <translation>在区域中画一条线即可切开，也可以拖动边线。使用键盘时：方向键选择区域，Ctrl 加方向键移动其边线。</translation>
     </message>
     <message>
         <source>Draw frames cell by cell; the matrix plays them in a loop.</source>
@@ -1276,6 +1304,10 @@
         <translation>常规设置</translation>
     </message>
     <message>
+        <source>Give the zone away</source>
+        <translation>并入相邻区域</translation>
+    </message>
+    <message>
         <source>Global Rhythm</source>
         <translation>全局律动</translation>
     </message>
@@ -1582,6 +1614,10 @@
     <message>
         <source>Later</source>
         <translation>稍后</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>布局</translation>
     </message>
     <message>
         <source>Leaves the target free but for its very middle.</source>
@@ -1936,6 +1972,10 @@
         <translation>需与电脑的信号一致。“RGB 自动”自动识别，有限范围为 16 至 235，全范围为 0 至 255。</translation>
     </message>
     <message>
+        <source>My layout</source>
+        <translation>我的布局</translation>
+    </message>
+    <message>
         <source>NA</source>
         <translation>无</translation>
     </message>
@@ -1946,6 +1986,10 @@
     <message>
         <source>NTSC television.</source>
         <translation>NTSC 制式电视。</translation>
+    </message>
+    <message>
+        <source>Name of the layout</source>
+        <translation>布局名称</translation>
     </message>
     <message>
         <source>Native</source>
@@ -1960,12 +2004,20 @@
         <translation>新设备</translation>
     </message>
     <message>
+        <source>New layout</source>
+        <translation>新建布局</translation>
+    </message>
+    <message>
         <source>Next form</source>
         <translation>下一款</translation>
     </message>
     <message>
         <source>Next value</source>
         <translation>下一个值</translation>
+    </message>
+    <message>
+        <source>Next zone</source>
+        <translation>下一区域</translation>
     </message>
     <message>
         <source>Night</source>
@@ -2026,6 +2078,10 @@
     <message>
         <source>No shortcuts yet: choose a function above and add it.</source>
         <translation>还没有快捷键：请在上方选择功能并添加。</translation>
+    </message>
+    <message>
+        <source>No window is in front: press on the one that you mean first.</source>
+        <translation>前面没有窗口：请先点击要排列的窗口。</translation>
     </message>
     <message>
         <source>Noise</source>
@@ -2098,6 +2154,10 @@
     <message>
         <source>Ok</source>
         <translation>确定</translation>
+    </message>
+    <message>
+        <source>Old place</source>
+        <translation>原位置</translation>
     </message>
     <message>
         <source>Oled Care</source>
@@ -2268,6 +2328,10 @@
         <translation>按下</translation>
     </message>
     <message>
+        <source>Press a number. That of the window&apos;s own zone gives it its old place back. Esc closes.</source>
+        <translation>按数字键选择。再按窗口所在区域的数字，窗口回到原位置。Esc 关闭。</translation>
+    </message>
+    <message>
         <source>Preview</source>
         <translation>预览</translation>
     </message>
@@ -2302,6 +2366,10 @@
     <message>
         <source>Purple</source>
         <translation>紫色</translation>
+    </message>
+    <message>
+        <source>Puts the window in front into a part of the screen. Here you choose how the screen is divided.</source>
+        <translation>把最前面的窗口放到屏幕的一部分。在这里选择屏幕如何划分。</translation>
     </message>
     <message>
         <source>QR Code</source>
@@ -2572,6 +2640,10 @@
         <translation>屏幕</translation>
     </message>
     <message>
+        <source>Screen Splitter</source>
+        <translation>分屏</translation>
+    </message>
+    <message>
         <source>Screen of the simulated monitor</source>
         <translation>模拟显示器的屏幕</translation>
     </message>
@@ -2666,6 +2738,10 @@
     <message>
         <source>Show Time(s)</source>
         <translation>显示时间(秒)</translation>
+    </message>
+    <message>
+        <source>Show the zones</source>
+        <translation>显示区域</translation>
     </message>
     <message>
         <source>Shown</source>
@@ -2976,6 +3052,10 @@
         <translation>显示器自身菜单的语言，而不是本工具的语言。</translation>
     </message>
     <message>
+        <source>The layout has no such zone.</source>
+        <translation>布局中没有这个区域。</translation>
+    </message>
+    <message>
         <source>The maker&apos;s own tuning.</source>
         <translation>厂商专属调校。</translation>
     </message>
@@ -3172,6 +3252,14 @@
         <translation>系统不允许更改“%1”。</translation>
     </message>
     <message>
+        <source>The system did not move the window.</source>
+        <translation>系统未移动该窗口。</translation>
+    </message>
+    <message>
+        <source>The system does not tell which screen the window is on.</source>
+        <translation>系统未告知窗口位于哪个屏幕。</translation>
+    </message>
+    <message>
         <source>The system&apos;s audio service is down until the button is released</source>
         <translation>松开按钮前，系统音频服务停止</translation>
     </message>
@@ -3194,6 +3282,30 @@
     <message>
         <source>The white of printed paper.</source>
         <translation>印刷纸张的白色。</translation>
+    </message>
+    <message>
+        <source>The window cannot be resized.</source>
+        <translation>该窗口不能调整大小。</translation>
+    </message>
+    <message>
+        <source>The window fills the whole screen: end its full screen first.</source>
+        <translation>该窗口处于全屏状态：请先退出全屏。</translation>
+    </message>
+    <message>
+        <source>The window is minimised.</source>
+        <translation>该窗口已最小化。</translation>
+    </message>
+    <message>
+        <source>The window was not put into a zone, so it has no old place.</source>
+        <translation>该窗口未放入过区域，因此没有原位置。</translation>
+    </message>
+    <message>
+        <source>The window&apos;s program does not answer.</source>
+        <translation>该窗口的程序没有响应。</translation>
+    </message>
+    <message>
+        <source>The window&apos;s program has more rights than this one and cannot be moved.</source>
+        <translation>该窗口的程序权限高于本程序，无法移动。</translation>
     </message>
     <message>
         <source>There is no sound output until the button is released</source>
@@ -3222,6 +3334,10 @@
     <message>
         <source>This is the light of the mode &quot;Eye Care&quot;.</source>
         <translation>这是“护眼”模式的灯光。</translation>
+    </message>
+    <message>
+        <source>This layout stays as it is. &quot;New layout&quot; makes one of your own of it.</source>
+        <translation>此布局不可更改。“新建布局”会以它为基础创建您自己的布局。</translation>
     </message>
     <message>
         <source>This monitor</source>
@@ -3508,6 +3624,10 @@
         <translation>宽度</translation>
     </message>
     <message>
+        <source>Windows</source>
+        <translation>窗口</translation>
+    </message>
+    <message>
         <source>With the factory parameters</source>
         <translation>出厂参数</translation>
     </message>
@@ -3550,6 +3670,18 @@
     <message>
         <source>Zelmar Mode</source>
         <translation>Zelmar 模式</translation>
+    </message>
+    <message>
+        <source>Zone %1 of %2</source>
+        <translation>区域 %1/%2</translation>
+    </message>
+    <message>
+        <source>Zone before</source>
+        <translation>上一区域</translation>
+    </message>
+    <message>
+        <source>Zones for %1</source>
+        <translation>%1 的区域</translation>
     </message>
     <message>
         <source>Zoom</source>

@@ -136,6 +136,10 @@
         <translation>%1，畫格數：%2</translation>
     </message>
     <message>
+        <source>%1. The window keeps a size of its own.</source>
+        <translation>%1。該視窗保持自己的大小。</translation>
+    </message>
+    <message>
         <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
         <translation>&lt;font color=white&gt;正在取得顯示裝置資訊...&lt;/font&gt;</translation>
     </message>
@@ -464,6 +468,10 @@
         <translation>套用</translation>
     </message>
     <message>
+        <source>Arrange the window</source>
+        <translation>排列視窗</translation>
+    </message>
+    <message>
         <source>Arrangement of the windows</source>
         <translation>視窗的排列</translation>
     </message>
@@ -518,6 +526,10 @@
     <message>
         <source>B</source>
         <translation>B</translation>
+    </message>
+    <message>
+        <source>Back at its old place</source>
+        <translation>已回到原位置</translation>
     </message>
     <message>
         <source>Background running</source>
@@ -832,6 +844,14 @@
         <translation>自訂尺寸</translation>
     </message>
     <message>
+        <source>Cut across</source>
+        <translation>水平切分</translation>
+    </message>
+    <message>
+        <source>Cut upright</source>
+        <translation>垂直切分</translation>
+    </message>
+    <message>
         <source>Cyan</source>
         <translation>青色</translation>
     </message>
@@ -900,6 +920,10 @@
         <translation>刪除畫格</translation>
     </message>
     <message>
+        <source>Delete layout</source>
+        <translation>刪除版面</translation>
+    </message>
+    <message>
         <source>Desktop</source>
         <translation>桌面</translation>
     </message>
@@ -966,6 +990,10 @@
     <message>
         <source>Dotted cross</source>
         <translation>帶點十字</translation>
+    </message>
+    <message>
+        <source>Draw a line through a zone to cut it, or drag an edge. With the keyboard: the arrows choose a zone, Ctrl and an arrow moves its edge.</source>
+        <translation>在區域中畫一條線即可切開，也可以拖曳邊線。使用鍵盤時：方向鍵選擇區域，Ctrl 加方向鍵移動其邊線。</translation>
     </message>
     <message>
         <source>Draw frames cell by cell; the matrix plays them in a loop.</source>
@@ -1276,6 +1304,10 @@
         <translation>一般設定</translation>
     </message>
     <message>
+        <source>Give the zone away</source>
+        <translation>併入相鄰區域</translation>
+    </message>
+    <message>
         <source>Global Rhythm</source>
         <translation>全域律動</translation>
     </message>
@@ -1582,6 +1614,10 @@
     <message>
         <source>Later</source>
         <translation>稍後</translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation>版面配置</translation>
     </message>
     <message>
         <source>Leaves the target free but for its very middle.</source>
@@ -1936,6 +1972,10 @@
         <translation>需與電腦的訊號一致。「RGB 自動」自動識別，有限範圍為 16 至 235，全範圍為 0 至 255。</translation>
     </message>
     <message>
+        <source>My layout</source>
+        <translation>我的版面</translation>
+    </message>
+    <message>
         <source>NA</source>
         <translation>無</translation>
     </message>
@@ -1946,6 +1986,10 @@
     <message>
         <source>NTSC television.</source>
         <translation>NTSC 制式電視。</translation>
+    </message>
+    <message>
+        <source>Name of the layout</source>
+        <translation>版面名稱</translation>
     </message>
     <message>
         <source>Native</source>
@@ -1960,12 +2004,20 @@
         <translation>新裝置</translation>
     </message>
     <message>
+        <source>New layout</source>
+        <translation>新增版面</translation>
+    </message>
+    <message>
         <source>Next form</source>
         <translation>下一款</translation>
     </message>
     <message>
         <source>Next value</source>
         <translation>下一個值</translation>
+    </message>
+    <message>
+        <source>Next zone</source>
+        <translation>下一個區域</translation>
     </message>
     <message>
         <source>Night</source>
@@ -2026,6 +2078,10 @@
     <message>
         <source>No shortcuts yet: choose a function above and add it.</source>
         <translation>尚無快速鍵：請在上方選擇功能並新增。</translation>
+    </message>
+    <message>
+        <source>No window is in front: press on the one that you mean first.</source>
+        <translation>前面沒有視窗：請先點選要排列的視窗。</translation>
     </message>
     <message>
         <source>Noise</source>
@@ -2098,6 +2154,10 @@
     <message>
         <source>Ok</source>
         <translation>確定</translation>
+    </message>
+    <message>
+        <source>Old place</source>
+        <translation>原位置</translation>
     </message>
     <message>
         <source>Oled Care</source>
@@ -2268,6 +2328,10 @@
         <translation>按下</translation>
     </message>
     <message>
+        <source>Press a number. That of the window&apos;s own zone gives it its old place back. Esc closes.</source>
+        <translation>按數字鍵選擇。再按視窗所在區域的數字，視窗回到原位置。Esc 關閉。</translation>
+    </message>
+    <message>
         <source>Preview</source>
         <translation>預覽</translation>
     </message>
@@ -2302,6 +2366,10 @@
     <message>
         <source>Purple</source>
         <translation>紫色</translation>
+    </message>
+    <message>
+        <source>Puts the window in front into a part of the screen. Here you choose how the screen is divided.</source>
+        <translation>將最前面的視窗放到螢幕的一部分。在這裡選擇螢幕如何劃分。</translation>
     </message>
     <message>
         <source>QR Code</source>
@@ -2572,6 +2640,10 @@
         <translation>螢幕</translation>
     </message>
     <message>
+        <source>Screen Splitter</source>
+        <translation>螢幕分割</translation>
+    </message>
+    <message>
         <source>Screen of the simulated monitor</source>
         <translation>模擬顯示器的螢幕</translation>
     </message>
@@ -2666,6 +2738,10 @@
     <message>
         <source>Show Time(s)</source>
         <translation>顯示時間(秒)</translation>
+    </message>
+    <message>
+        <source>Show the zones</source>
+        <translation>顯示區域</translation>
     </message>
     <message>
         <source>Shown</source>
@@ -2976,6 +3052,10 @@
         <translation>顯示器本身選單的語言，而不是本工具的語言。</translation>
     </message>
     <message>
+        <source>The layout has no such zone.</source>
+        <translation>版面中沒有這個區域。</translation>
+    </message>
+    <message>
         <source>The maker&apos;s own tuning.</source>
         <translation>原廠專屬調校。</translation>
     </message>
@@ -3172,6 +3252,14 @@
         <translation>系統不允許變更「%1」。</translation>
     </message>
     <message>
+        <source>The system did not move the window.</source>
+        <translation>系統未移動該視窗。</translation>
+    </message>
+    <message>
+        <source>The system does not tell which screen the window is on.</source>
+        <translation>系統未告知視窗位於哪個螢幕。</translation>
+    </message>
+    <message>
         <source>The system&apos;s audio service is down until the button is released</source>
         <translation>放開按鈕前，系統音訊服務停止</translation>
     </message>
@@ -3194,6 +3282,30 @@
     <message>
         <source>The white of printed paper.</source>
         <translation>印刷紙張的白色。</translation>
+    </message>
+    <message>
+        <source>The window cannot be resized.</source>
+        <translation>該視窗無法調整大小。</translation>
+    </message>
+    <message>
+        <source>The window fills the whole screen: end its full screen first.</source>
+        <translation>該視窗處於全螢幕狀態：請先結束全螢幕。</translation>
+    </message>
+    <message>
+        <source>The window is minimised.</source>
+        <translation>該視窗已最小化。</translation>
+    </message>
+    <message>
+        <source>The window was not put into a zone, so it has no old place.</source>
+        <translation>該視窗未放入過區域，因此沒有原位置。</translation>
+    </message>
+    <message>
+        <source>The window&apos;s program does not answer.</source>
+        <translation>該視窗的應用程式沒有回應。</translation>
+    </message>
+    <message>
+        <source>The window&apos;s program has more rights than this one and cannot be moved.</source>
+        <translation>該視窗的應用程式權限高於本工具，無法移動。</translation>
     </message>
     <message>
         <source>There is no sound output until the button is released</source>
@@ -3222,6 +3334,10 @@
     <message>
         <source>This is the light of the mode &quot;Eye Care&quot;.</source>
         <translation>這是「護眼」模式的燈光。</translation>
+    </message>
+    <message>
+        <source>This layout stays as it is. &quot;New layout&quot; makes one of your own of it.</source>
+        <translation>此版面無法變更。「新增版面」會以它為基礎建立您自己的版面。</translation>
     </message>
     <message>
         <source>This monitor</source>
@@ -3508,6 +3624,10 @@
         <translation>寬度</translation>
     </message>
     <message>
+        <source>Windows</source>
+        <translation>視窗</translation>
+    </message>
+    <message>
         <source>With the factory parameters</source>
         <translation>原廠參數</translation>
     </message>
@@ -3550,6 +3670,18 @@
     <message>
         <source>Zelmar Mode</source>
         <translation>Zelmar 模式</translation>
+    </message>
+    <message>
+        <source>Zone %1 of %2</source>
+        <translation>區域 %1/%2</translation>
+    </message>
+    <message>
+        <source>Zone before</source>
+        <translation>上一個區域</translation>
+    </message>
+    <message>
+        <source>Zones for %1</source>
+        <translation>%1 的區域</translation>
     </message>
     <message>
         <source>Zoom</source>

@@ -6,7 +6,7 @@
 
 #include "splitter/splitlayout.h"
 
-inline constexpr std::size_t kMostOwnLayouts = 8; ///< of a screen
+inline constexpr std::size_t kMostOwnLayouts = 5; ///< of a screen: with the fixed ones a row on the page
 inline constexpr int kLongestLayoutName = 24;     ///< characters
 
 /// The layouts of one screen at one resolution.

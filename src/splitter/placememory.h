@@ -19,10 +19,10 @@ struct WindowId
 struct RememberedPlace
 {
     WindowId window;
-    QRect before;             ///< its whole rectangle
+    QRect before; ///< its whole rectangle
     bool wasMaximised = false;
-    QRect zone;               ///< that it was put into, in pixels
-    QRect placed;             ///< its whole rectangle then: a window may have a size of its own
+    QRect zone;   ///< that it was put into, in pixels
+    QRect placed; ///< its whole rectangle then: a window may have a size of its own
 };
 
 /// The old places of the windows that were moved last.

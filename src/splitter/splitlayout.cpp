@@ -17,15 +17,15 @@ std::array<SplitLayout, 4> makeFixed()
     const auto named = [](const char *name, std::vector<Zone> zones) {
         return SplitLayout{QString::fromLatin1(name), std::move(zones)};
     };
-    return {named(QT_TRANSLATE_NOOP("QObject", "Halves"), {column(0, kHalf), column(kHalf, kWholeSide)}),
-            named(QT_TRANSLATE_NOOP("QObject", "Thirds"),
-                  {column(0, kThird), column(kThird, 2 * kThird), column(2 * kThird, kWholeSide)}),
-            named(QT_TRANSLATE_NOOP("QObject", "Quarters"), {{0, 0, kHalf, kHalf},
-                                                             {kHalf, 0, kWholeSide, kHalf},
-                                                             {0, kHalf, kHalf, kWholeSide},
-                                                             {kHalf, kHalf, kWholeSide, kWholeSide}}),
-            named(QT_TRANSLATE_NOOP("QObject", "Main and side"),
-                  {column(0, 2 * kThird), column(2 * kThird, kWholeSide)})};
+    return {
+        named(QT_TRANSLATE_NOOP("QObject", "Halves"), {column(0, kHalf), column(kHalf, kWholeSide)}),
+        named(QT_TRANSLATE_NOOP("QObject", "Thirds"),
+              {column(0, kThird), column(kThird, 2 * kThird), column(2 * kThird, kWholeSide)}),
+        named(QT_TRANSLATE_NOOP("QObject", "Quarters"), {{0, 0, kHalf, kHalf},
+                                                         {kHalf, 0, kWholeSide, kHalf},
+                                                         {0, kHalf, kHalf, kWholeSide},
+                                                         {kHalf, kHalf, kWholeSide, kWholeSide}}),
+        named(QT_TRANSLATE_NOOP("QObject", "Main and side"), {column(0, 2 * kThird), column(2 * kThird, kWholeSide)})};
 }
 
 bool isWithinScreen(const Zone &zone)

@@ -122,8 +122,8 @@ SplitWish planSplit(const WindowFacts &window, std::span<const QRect> zones, con
         return oldPlace(memory);
     SplitWish wish;
     wish.zone = asked;
-    wish.rect = zones[static_cast<std::size_t>(asked)] +
-                invisibleFrame(window.rect, window.visible.value_or(window.rect));
+    wish.rect =
+        zones[static_cast<std::size_t>(asked)] + invisibleFrame(window.rect, window.visible.value_or(window.rect));
     return wish;
 }
 

@@ -7,14 +7,15 @@
 
 #include "splitter/placememory.h"
 
-// What becomes of a window when the user wants it in a zone. Facts go in, a wish comes out; nothing here moves anything.
+// What becomes of a window when the user wants it in a zone. Facts go in, a wish comes out; nothing here moves
+// anything.
 
 /// Why a window stays where it is.
 enum class SplitRefusal {
     None,
-    NoWindow,   ///< none is in front, or only the desktop and the taskbar
-    NoScreen,   ///< the screen that it is on cannot be told
-    Hung,       ///< it does not answer
+    NoWindow, ///< none is in front, or only the desktop and the taskbar
+    NoScreen, ///< the screen that it is on cannot be told
+    Hung,     ///< it does not answer
     Minimised,
     FullScreen,
     FixedSize,

@@ -110,6 +110,7 @@ SplitRefusal WindowSplitter::carryOut(const SplitWish &wish, const WindowFacts &
     }
     const QRect placed = windows().windowRect(window.id.handle).value_or(wish.rect);
     result.keptSize = placed != wish.rect;
-    m_memory.remember(placeBefore(window, m_memory.find(window.id), zones[static_cast<std::size_t>(*wish.zone)], placed));
+    m_memory.remember(
+        placeBefore(window, m_memory.find(window.id), zones[static_cast<std::size_t>(*wish.zone)], placed));
     return SplitRefusal::None;
 }

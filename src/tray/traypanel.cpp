@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QStyleOption>
 #include <QToolButton>
@@ -20,8 +21,10 @@
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/settingsstore.h"
+#include "page/engine/labels.h"
 #include "page/engine/optiongrouprow.h"
 #include "page/engine/pagestyle.h"
+#include "page/engine/plainbutton.h"
 #include "page/engine/storenotice.h"
 #include "tray/traypanelfooter.h"
 #include "tray/trayscene.h"
@@ -115,6 +118,9 @@ QWidget *TrayPanel::buildBody()
     m_places->setSpacing(kRowSpacing);
     column->addSpacing(4);
     column->addLayout(m_places);
+    m_arrange = makePlainButton(LABEL("Arrange the window"), QStringLiteral("arrangeWindow"), texts(), m_body);
+    connect(m_arrange, &QPushButton::clicked, this, &TrayPanel::zonesWanted);
+    column->addWidget(m_arrange);
     column->addStretch(1);
     return m_body;
 }
@@ -169,6 +175,7 @@ void TrayPanel::orderKeyboard()
                 append(widget);
         }
     }
+    append(m_arrange);
     append(m_footer->chooser());
 }
 

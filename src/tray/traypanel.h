@@ -47,6 +47,9 @@ Q_SIGNALS:
     /// Other controls are shown now, which may need another size.
     void contentChanged();
 
+    /// The window that was in front before the panel is to be arranged.
+    void zonesWanted();
+
     /// Escape.
     void closeWanted();
 
@@ -84,6 +87,7 @@ private:
     QWidget *m_body = nullptr;
     TrayScene *m_scene = nullptr;
     QVBoxLayout *m_places = nullptr;
+    QPushButton *m_arrange = nullptr;
     TrayPanelFooter *m_footer = nullptr;
     QPointer<QWidget> m_focusBefore; ///< while nothing can be chosen
 };

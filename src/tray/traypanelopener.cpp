@@ -71,6 +71,10 @@ void TrayPanelOpener::make()
     connect(m_panel.get(), &TrayPanel::sceneChosen, this, &TrayPanelOpener::sceneChosen);
     connect(m_panel.get(), &TrayPanel::halfChosen, this, &TrayPanelOpener::halfChosen);
     connect(m_panel.get(), &TrayPanel::closeWanted, this, &TrayPanelOpener::close);
+    connect(m_panel.get(), &TrayPanel::zonesWanted, this, [this] {
+        close();
+        Q_EMIT zonesWanted();
+    });
     connect(m_panel.get(), &TrayPanel::contentChanged, this, &TrayPanelOpener::place);
     m_panel->showStatus(m_status);
     m_panel->setUsable(m_usable);

@@ -42,6 +42,9 @@ Q_SIGNALS:
     void halfChosen(bool defaultView);
 
     void opened();
+
+    /// The window that was in front is to be arranged; the panel is closed.
+    void zonesWanted();
     void windowWanted();
 
 private:

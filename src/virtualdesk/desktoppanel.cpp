@@ -12,6 +12,7 @@
 
 #include "platform/nativekeys.h"
 #include "virtualdesk/virtualdesk.h"
+#include "virtualdesk/windowsview.h"
 
 namespace virtualdesk {
 
@@ -43,8 +44,8 @@ QLabel *makeTitle(QWidget *parent)
 DesktopPanel::DesktopPanel(VirtualDesk &desk, QWidget *parent)
     : QWidget(parent), m_desk(desk), m_keyTitle(makeTitle(this)), m_key(new QKeySequenceEdit(this)),
       m_press(new QPushButton(this)), m_take(new QPushButton(this)), m_keyResult(new QLabel(this)),
-      m_programTitle(makeTitle(this)), m_programs(new QListWidget(this)), m_front(new QPushButton(this)),
-      m_add(new QPushButton(this))
+      m_programTitle(makeTitle(this)), m_programs(new QListWidget(this)), m_windows(new WindowsView(desk, this)),
+      m_front(new QPushButton(this)), m_add(new QPushButton(this))
 {
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 8, 0, 0);
@@ -55,6 +56,7 @@ DesktopPanel::DesktopPanel(VirtualDesk &desk, QWidget *parent)
     column->addSpacing(12);
     column->addWidget(m_programTitle);
     column->addWidget(m_programs, 1);
+    column->addWidget(m_windows);
     column->addWidget(buildPrograms());
     m_keyResult->setObjectName(QStringLiteral("state"));
     m_keyResult->setWordWrap(true);
@@ -125,6 +127,7 @@ void DesktopPanel::bringToFront()
 {
     if (m_programs->currentRow() >= 0)
         m_desk.applications().bringToFront(static_cast<std::size_t>(m_programs->currentRow()));
+    m_windows->update();
 }
 
 void DesktopPanel::fillPrograms()
@@ -147,6 +150,7 @@ void DesktopPanel::retranslate()
     m_take->setToolTip(QObject::tr("Another program registers the combination first"));
     m_programTitle->setText(QObject::tr("Programs"));
     m_programs->setAccessibleName(m_programTitle->text());
+    m_windows->setAccessibleName(QObject::tr("Windows"));
     m_front->setText(QObject::tr("Bring to the front"));
     m_add->setText(QObject::tr("Another program…"));
 }

@@ -10,6 +10,7 @@ class QPushButton;
 namespace virtualdesk {
 
 class VirtualDesk;
+class WindowsView;
 
 /// The rest of the desktop: a keyboard on which any combination can be pressed or taken by another program, and the
 /// programs that can be brought to the front.
@@ -40,6 +41,7 @@ private:
     QLabel *m_keyResult;
     QLabel *m_programTitle;
     QListWidget *m_programs;
+    WindowsView *m_windows;
     QPushButton *m_front;
     QPushButton *m_add;
 };

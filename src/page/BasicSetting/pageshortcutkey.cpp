@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include <QApplication>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -12,12 +11,14 @@
 #include "ddc_protocol/devicestate.h"
 #include "page/BasicSetting/shortcutrow.h"
 #include "page/engine/dropdown.h"
+#include "page/engine/keyfields.h"
 #include "page/engine/labels.h"
 
-pageShortcutKey::pageShortcutKey(QWidget *parent)
+pageShortcutKey::pageShortcutKey(KeyFields &fields, QWidget *parent)
     : ListPage(QStringLiteral("pageShortcutKey"), LABEL("LANGUAGE_SHORTCUTKEY"), LABEL("LANGUAGE_SHORTCUTKEY_DESC"),
                LABEL("No shortcuts yet: choose a function above and add it."), parent),
-      m_available(shortcutFunctionsOf(deviceState)), m_master(new QPushButton(this)), m_functions(makeDropDown(this))
+      m_fields(fields), m_available(shortcutFunctionsOf(deviceState)), m_master(new QPushButton(this)),
+      m_functions(makeDropDown(this))
 {
     m_master->setObjectName(QStringLiteral("pushButton"));
     m_master->setFixedSize(64, 32);
@@ -76,6 +77,7 @@ ShortcutRow *pageShortcutKey::addShortcutRow(const ShortcutEntry &entry)
 {
     auto *row = new ShortcutRow(entry, this);
     for (ZelmarKeySequenceEdit *edit : {row->plusEdit(), row->minusEdit()}) {
+        m_fields.add(edit);
         connect(edit, &QKeySequenceEdit::editingFinished, this, &pageShortcutKey::on_editFinish);
         connect(edit, &QKeySequenceEdit::keySequenceChanged, this, [this, row] {
             row->takeFields();
@@ -94,39 +96,16 @@ ShortcutRow *pageShortcutKey::addShortcutRow(const ShortcutEntry &entry)
     return row;
 }
 
-/// The system keeps a registered combination from the field that wants to capture it, so it is handed on here. While a
-/// conflict is asked about, its key may be held down still, and comes again and again.
 void pageShortcutKey::heardKey(const ShortcutRow *row, int direction, const QKeySequence &key)
 {
-    if (m_isAsking)
-        return;
-    auto *field = qobject_cast<ZelmarKeySequenceEdit *>(QApplication::focusWidget());
-    if (field && isAncestorOf(field))
-        field->take(key);
-    else
+    if (!m_fields.take(key))
         shortcutKeyCommand(row->function(), direction);
-}
-
-bool pageShortcutKey::isUsedElsewhere(const ZelmarKeySequenceEdit *edit) const
-{
-    const QString text = edit->text();
-    return std::any_of(m_rows.begin(), m_rows.end(), [edit, &text](const ShortcutRow *row) {
-        return (row->plusEdit() != edit && row->plusEdit()->text() == text) ||
-               (row->minusEdit() != edit && row->minusEdit()->text() == text);
-    });
 }
 
 void pageShortcutKey::on_editFinish()
 {
-    auto *edit = qobject_cast<ZelmarKeySequenceEdit *>(sender());
-    if (!edit || edit->text().isEmpty())
-        return;
-    if (!isUsedElsewhere(edit))
-        return;
-    m_isAsking = true;
-    showConflict();
-    m_isAsking = false;
-    edit->clear();
+    if (auto *edit = qobject_cast<ZelmarKeySequenceEdit *>(sender()))
+        m_fields.settle(edit, [this] { showConflict(); });
 }
 
 void pageShortcutKey::showConflict()
@@ -170,6 +149,8 @@ void pageShortcutKey::toggleRow(ShortcutRow *row)
 void pageShortcutKey::deleteRow(ShortcutRow *row)
 {
     row->releaseKeys();
+    for (ZelmarKeySequenceEdit *edit : {row->plusEdit(), row->minusEdit()})
+        m_fields.remove(edit);
     const auto sameFunction = [row](const ShortcutEntry &entry) { return entry.function == row->function(); };
     if (m_applied && std::any_of(m_applied->entries.begin(), m_applied->entries.end(), sameFunction))
         m_applied.reset();

@@ -8,16 +8,17 @@
 #include "shortcut/shortcutlist.h"
 #include "shortcut/shortcutrunner.h"
 
+class KeyFields;
 class QComboBox;
 class ShortcutRow;
-class ZelmarKeySequenceEdit;
 
 /// Binds key combinations that work anywhere on the desktop to functions of the monitor, and runs them.
 class pageShortcutKey : public ListPage
 {
     Q_OBJECT
 public:
-    explicit pageShortcutKey(QWidget *parent = nullptr);
+    /// The key fields of all pages outlive it.
+    explicit pageShortcutKey(KeyFields &fields, QWidget *parent = nullptr);
 
     void updateInterfaceData() override {} ///< nothing here comes from the monitor
     void updateControlText() override;
@@ -33,7 +34,7 @@ public:
     QComboBox *functionBox() const { return m_functions; }
 
 protected:
-    /// Tells that a key is used twice on this page; returns when the user has read it.
+    /// Tells that a key is used twice; returns when the user has read it.
     virtual void showConflict();
 
 private Q_SLOTS:
@@ -53,18 +54,17 @@ private:
     void deleteRow(ShortcutRow *row);
     void refreshState();
     void save();
-    bool isUsedElsewhere(const ZelmarKeySequenceEdit *edit) const;
     ShortcutList currentList() const;
     void showState(); ///< what waits to be applied
     void showResting();
 
+    KeyFields &m_fields;
     ShortcutRunner m_runner;
     const std::vector<const ShortcutFunction *> m_available; ///< of the monitor that the page was built for
     bool m_masterOn = true;
     std::vector<ShortcutRow *> m_rows;
     std::vector<ShortcutEntry> m_otherEntries; ///< functions that this monitor lacks, kept for the one that has them
     std::optional<ShortcutList> m_applied;     ///< stored and registered; nothing when it is in part only
-    bool m_isAsking = false;                   ///< about a conflict
     QPushButton *m_master;
     QComboBox *m_functions;
 };

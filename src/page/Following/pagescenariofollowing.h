@@ -23,6 +23,9 @@ public:
     /// What following does is reported by its signals.
     SceneFollower *follower() { return &m_follower; }
 
+    /// Hears which window comes to the front.
+    ForegroundWatch *watch() { return &m_watch; }
+
     /// What the rows show, in their order.
     const std::vector<FollowEntry> &programs() const { return m_programs; }
 

@@ -43,7 +43,8 @@ ListPage::ListPage(const QString &name, const char *title, const char *descripti
         m_head->setTitle(text);
         setAccessibleName(text);
     });
-    m_texts.bind(nothing, [this](const QString &text) { m_nothing->setText(text); });
+    if (nothing)
+        m_texts.bind(nothing, [this](const QString &text) { m_nothing->setText(text); });
     m_texts.bind(description, [this](const QString &text) { m_head->setHelp(text); });
     m_tools->setSpacing(metrics::kGap);
 

@@ -18,7 +18,8 @@ class ListPage : public QFrame, public Page
 {
     Q_OBJECT
 public:
-    /// The object name is what the page's style goes by; the texts are source texts, the last one for an empty list.
+    /// The object name is what the page's style goes by; the texts are source texts, the last one for an empty list;
+    /// null where showList() is always used.
     ListPage(const QString &name, const char *title, const char *description, const char *nothing,
              QWidget *parent = nullptr);
 

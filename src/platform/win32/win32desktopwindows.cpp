@@ -33,8 +33,7 @@ std::optional<QRect> Win32DesktopWindows::windowRect(WindowHandle window)
 std::optional<QRect> Win32DesktopWindows::visibleRect(WindowHandle window)
 {
     RECT rect = {};
-    if (FAILED(
-            DwmGetWindowAttribute(static_cast<HWND>(window), DWMWA_EXTENDED_FRAME_BOUNDS, &rect, sizeof rect)))
+    if (FAILED(DwmGetWindowAttribute(static_cast<HWND>(window), DWMWA_EXTENDED_FRAME_BOUNDS, &rect, sizeof rect)))
         return std::nullopt;
     return rectOf(rect);
 }
