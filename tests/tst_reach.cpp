@@ -5,6 +5,8 @@
 #include "following/followlist.h"
 #include "page/BasicSetting/hotkeyoverlay.h"
 #include "page/Nightloom/parts/workpanel.h"
+#include "page/Splitter/splitting.h"
+#include "page/Splitter/zoneoverlay.h"
 #include "page/engine/boundtexts.h"
 #include "page/engine/panelpage.h"
 #include "support/windowfixture.h"
@@ -167,8 +169,13 @@ void TestReach::everyControlSaysWhatItIs()
             faults.insert(fault);
     });
     m_window->trayPanel()->press({});
-    for (const QString &fault : faultsIn(m_window->trayPanel()->panel()))
-        faults.insert(fault);
+    m_desk->desk.applications().bringToFront(0);
+    m_window->onSpliter();
+    for (QWidget *other : {static_cast<QWidget *>(m_window->trayPanel()->panel()),
+                           static_cast<QWidget *>(m_window->splitting()->overlay())}) {
+        for (const QString &fault : faultsIn(other))
+            faults.insert(fault);
+    }
     QStringList sorted = faults.values();
     sorted.sort();
     QVERIFY2(sorted.isEmpty(), qPrintable(sorted.join(QLatin1Char('\n'))));

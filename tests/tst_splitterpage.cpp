@@ -60,9 +60,8 @@ void TestSplitterPage::startWith(const std::function<void()> &prepare)
         m_desk->desk.displays().setDisplays({{QStringLiteral("\\\\.\\DISPLAY1"), kScreen}});
         virtualdesk::ApplicationWindow fixed{{10, 20, 300, 200}};
         fixed.isSizable = false;
-        m_desk->desk.applications().setList(
-            {{QStringLiteral("C:\\a\\notes.exe"), false, true, {{92, 90, 516, 408}, 8}},
-             {QStringLiteral("C:\\a\\fixed.exe"), false, true, fixed}});
+        m_desk->desk.applications().setList({{QStringLiteral("C:\\a\\notes.exe"), false, true, {{92, 90, 516, 408}, 8}},
+                                             {QStringLiteral("C:\\a\\fixed.exe"), false, true, fixed}});
         prepare();
     });
     m_desk->desk.applications().bringToFront(0);

@@ -10,6 +10,8 @@ namespace virtualdesk {
 
 namespace {
 
+constexpr int kLetters = 10; // pixels
+
 /// From pixels of the desktop to points of the view.
 QTransform fitted(const QRectF &desktop, const QSizeF &view)
 {
@@ -46,6 +48,9 @@ void WindowsView::paintEvent(QPaintEvent *)
         desktop |= bounds.back();
     }
     QPainter painter(this);
+    QFont small = font();
+    small.setPixelSize(kLetters);
+    painter.setFont(small);
     const QTransform place = fitted(desktop, size());
     painter.setPen(QColor(27, 80, 67));
     painter.setBrush(QColor(0x0d, 0x12, 0x10));

@@ -70,7 +70,7 @@ QRectF LayoutEditor::screenRect() const
 {
     QSizeF size(m_screen);
     size.scale(QSizeF(rect().size()) - QSizeF(2 * kBezel, 2 * kBezel), Qt::KeepAspectRatio);
-    return {QPointF((width() - size.width()) / 2, (height() - size.height()) / 2), size};
+    return {QPointF(kBezel, (height() - size.height()) / 2), size};
 }
 
 QPoint LayoutEditor::partsAt(const QPointF &place) const
@@ -167,9 +167,7 @@ void LayoutEditor::showCursor(const QPointF &place)
         return unsetCursor();
     const int reach = static_cast<int>(kReach * kWholeSide / screenRect().width());
     const auto edge = edgeNear(m_layout.zones, partsAt(place), reach);
-    setCursor(!edge                       ? Qt::CrossCursor
-              : edge->runs == Cut::Upright ? Qt::SplitHCursor
-                                           : Qt::SplitVCursor);
+    setCursor(!edge ? Qt::CrossCursor : edge->runs == Cut::Upright ? Qt::SplitHCursor : Qt::SplitVCursor);
 }
 
 void LayoutEditor::chooseZone(std::size_t zone)

@@ -1,9 +1,11 @@
 #include "page/Splitter/layouttools.h"
 
+#include <algorithm>
+
+#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 #include "controls/metrics.h"
 #include "controls/sharedfonts.h"
@@ -19,25 +21,28 @@ struct LayoutTools::Tool
     const char *name;
     bool (*canBeDone)(const LayoutModel &model, const LayoutEditor &editor);
     void (*act)(LayoutModel &model, LayoutEditor &editor);
+    int row;
+    int column = 0;
+    int columns = 1;
 };
 
 const LayoutTools::Tool LayoutTools::kTools[] = {
     {LABEL("New layout"), "layoutNew", [](const LayoutModel &model, const LayoutEditor &) { return model.canAdd(); },
-     [](LayoutModel &model, LayoutEditor &) { model.add(QObject::tr("My layout")); }},
+     [](LayoutModel &model, LayoutEditor &) { model.add(QObject::tr("My layout")); }, 1, 0, 2},
     {LABEL("Cut upright"), "layoutCutUpright",
      [](const LayoutModel &, const LayoutEditor &editor) { return editor.canCut(Cut::Upright); },
-     [](LayoutModel &, LayoutEditor &editor) { editor.cut(Cut::Upright); }},
+     [](LayoutModel &, LayoutEditor &editor) { editor.cut(Cut::Upright); }, 2},
     {LABEL("Cut across"), "layoutCutAcross",
      [](const LayoutModel &, const LayoutEditor &editor) { return editor.canCut(Cut::Across); },
-     [](LayoutModel &, LayoutEditor &editor) { editor.cut(Cut::Across); }},
+     [](LayoutModel &, LayoutEditor &editor) { editor.cut(Cut::Across); }, 2, 1},
     {LABEL("Give the zone away"), "layoutJoin",
      [](const LayoutModel &, const LayoutEditor &editor) { return editor.canJoin(); },
-     [](LayoutModel &, LayoutEditor &editor) { editor.join(); }},
+     [](LayoutModel &, LayoutEditor &editor) { editor.join(); }, 3, 0, 2},
     {LABEL("Undo"), "layoutUndo", [](const LayoutModel &model, const LayoutEditor &) { return model.canUndo(); },
-     [](LayoutModel &model, LayoutEditor &) { model.undo(); }},
+     [](LayoutModel &model, LayoutEditor &) { model.undo(); }, 4},
     {LABEL("Delete layout"), "layoutDelete",
      [](const LayoutModel &model, const LayoutEditor &) { return model.chosen().isOwn; },
-     [](LayoutModel &model, LayoutEditor &) { model.remove(); }},
+     [](LayoutModel &model, LayoutEditor &) { model.remove(); }, 4, 1},
 };
 
 LayoutTools::LayoutTools(LayoutModel &model, LayoutEditor &editor, BoundTexts &texts, QWidget *parent)
@@ -51,20 +56,23 @@ LayoutTools::LayoutTools(LayoutModel &model, LayoutEditor &editor, BoundTexts &t
         showLayout(); // with its old name where the new one was not taken
     });
     texts.bind(LABEL("Name of the layout"), [this](const QString &text) { m_name->setAccessibleName(text); });
-    auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(metrics::kGap);
-    column->addWidget(m_name);
+    auto *grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setSpacing(metrics::kGap);
+    grid->addWidget(m_name, 0, 0, 1, 2);
     for (const Tool &tool : kTools) {
         auto *button = makePlainButton(tool.label, QLatin1String(tool.name), texts, this);
         connect(button, &QPushButton::clicked, this, [this, &tool] { tool.act(m_model, m_editor); });
-        column->addWidget(button);
+        button->setStyleSheet(QStringLiteral("padding: 0 4px;")); // two stand side by side
+        grid->addWidget(button, tool.row, tool.column, 1, tool.columns);
         m_buttons.push_back(button);
     }
     m_hint->setObjectName(QStringLiteral("help"));
     m_hint->setFont(noteFont);
     m_hint->setWordWrap(true);
-    column->addStretch(1);
+    grid->setRowStretch(grid->rowCount(), 1);
+    for (const int column : {0, 1})
+        grid->setColumnStretch(column, 1);
     connect(&m_editor, &LayoutEditor::zoneChanged, this, &LayoutTools::showPossible);
 }
 
@@ -82,8 +90,16 @@ void LayoutTools::showLayout()
     showPossible();
 }
 
+/// The keyboard leaves a button that cannot be pressed any more for the picture.
 void LayoutTools::showPossible()
 {
-    for (std::size_t i = 0; i < m_buttons.size(); ++i)
+    bool hadFocus = false;
+    for (std::size_t i = 0; i < m_buttons.size(); ++i) {
+        hadFocus = hadFocus || m_buttons[i]->hasFocus();
         m_buttons[i]->setEnabled(kTools[i].canBeDone(m_model, m_editor));
+    }
+    const bool isLeft =
+        std::none_of(m_buttons.begin(), m_buttons.end(), [](const auto *each) { return each->hasFocus(); });
+    if (hadFocus && isLeft)
+        m_editor.setFocus(Qt::OtherFocusReason);
 }

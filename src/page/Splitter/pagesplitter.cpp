@@ -22,7 +22,7 @@
 namespace {
 
 constexpr int kScreenWidth = 320;
-constexpr int kToolsWidth = 260;
+constexpr int kToolsWidth = 300;
 const QString kTileGroup = QStringLiteral("tileGroup");
 
 QString screenText(const SplitScreen &screen)
@@ -104,9 +104,8 @@ void pageSplitter::fillScreens()
     const std::vector<SplitScreen> screens = splitScreens();
     if (screens == m_known || screens.empty())
         return;
-    const auto same = std::find_if(screens.begin(), screens.end(), [this](const SplitScreen &screen) {
-        return screen.name == m_model.screen().name;
-    });
+    const auto same = std::find_if(screens.begin(), screens.end(),
+                                   [this](const SplitScreen &screen) { return screen.name == m_model.screen().name; });
     const auto chosen = same == screens.end() ? screens.begin() : same;
     m_known = screens;
     {

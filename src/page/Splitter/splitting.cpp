@@ -38,6 +38,7 @@ void Splitting::openZones(bool fixed)
     const auto screen = m_splitter.screenOf(m_window);
     if (!screen)
         return tell({m_window ? SplitRefusal::NoScreen : SplitRefusal::NoWindow, {}, {}, 0, false});
+    m_page->tell({}, false);
     m_layout = loadLayouts(screen->key()).chosen;
     if (fixed && m_layout.isOwn)
         m_layout = fixedLayouts().front();
@@ -68,5 +69,5 @@ void Splitting::tell(const SplitResult &result)
     else
         m_notes.showNote(title, words);
     if (m_page->isVisible())
-        m_page->tell(QStringLiteral("%1: %2").arg(title, words), isRefusal);
+        m_page->tell(result.window.isEmpty() ? words : QStringLiteral("%1: %2").arg(title, words), isRefusal);
 }

@@ -77,7 +77,8 @@ void ZoneOverlay::open(const QString &title, const SplitLayout &layout, const QR
 {
     const QString name = shownName(layout);
     m_title->setText(title.isEmpty() ? name : title);
-    m_hint->setText(QObject::tr("Press a number. That of the window's own zone gives it its old place back. Esc closes."));
+    m_hint->setText(
+        QObject::tr("Press a number. That of the window's own zone gives it its old place back. Esc closes."));
     setAccessibleName(QObject::tr("Zones for %1").arg(m_title->text()));
     m_picture->setAccessibleName(name);
     m_picture->setFixedSize(screen.size().scaled(kTallest, Qt::KeepAspectRatio));
@@ -107,9 +108,8 @@ void ZoneOverlay::makeZones(const SplitLayout &layout, std::optional<int> curren
         button->setCheckable(true);
         button->setChecked(zone == current);
         constexpr int kHalf = kGap / 2;
-        button->setGeometry(zoneOnPicture(layout.zones[i], m_picture->rect())
-                                .toRect()
-                                .adjusted(kHalf, kHalf, -kHalf, -kHalf));
+        button->setGeometry(
+            zoneOnPicture(layout.zones[i], m_picture->rect()).toRect().adjusted(kHalf, kHalf, -kHalf, -kHalf));
         connect(button, &QPushButton::clicked, this, [this, zone] { choose(zone); });
         button->show();
         group->add(button);

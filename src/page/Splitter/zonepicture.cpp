@@ -24,7 +24,9 @@ void drawZones(QPainter &painter, const QRectF &screen, std::span<const Zone> zo
         const qreal half = look.gap / 2;
         const QRectF rect = zoneOnPicture(zones[i], screen).adjusted(half, half, -half, -half);
         const bool isMarked = look.marked == i;
-        painter.setPen(QPen(QColor(isMarked ? Palette::kMint : look.isLit ? Palette::kChecked : Palette::kEdge),
+        painter.setPen(QPen(QColor(isMarked     ? Palette::kMint
+                                   : look.isLit ? Palette::kChecked
+                                                : Palette::kEdge),
                             isMarked ? 2 : 1));
         painter.setBrush(QColor(isMarked || look.isLit ? Palette::kSelected : Palette::kField));
         painter.drawRoundedRect(rect, kRadius, kRadius);
