@@ -104,7 +104,8 @@ class TestAgreement : public DeskSuite
     {
         const std::vector<PanelSpec> picture = picturePanels(deviceState);
         for (const std::span<const PanelSpec> panels :
-             {std::span(picture), gamePanels(), officePanels(), ioPanels(), systemPanels(), multiWindowPanels(), carePanels(),
+             {std::span(picture), gamePanels(), officePanels(), ioPanels(), systemPanels(), multiWindowPanels(),
+              carePanels(),
               deviceState.has(::Capability::GameFunctions) ? lightPanels() : std::span<const PanelSpec>()}) {
             for (const PanelSpec &panel : panels) {
                 if (isOffered(panel))

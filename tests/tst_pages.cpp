@@ -425,6 +425,8 @@ void TestPages::smallWindowIsArranged()
     QCOMPARE(windows->toolTip().isEmpty(), mode == 1);
     QCOMPARE(button(Windows, "Place_Top Left")->isEnabled(), mode == 1);
     QVERIFY(!windows->valueText().isEmpty());
+}
+
 /// Three values that are told as one, and what is known of the lamps then.
 void TestPages::ownLightColor()
 {

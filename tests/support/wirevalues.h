@@ -33,7 +33,6 @@ inline const char *const kRange = "RGB Auto=0|RGB Limit=1|RGB Full=2";
 inline const char *const kCorner = "Top Left=0|Top Right=1|Bottom Left=2|Bottom Right=3";
 inline const char *const kColor = "Red=0|Yellow=1|Green=2|Cyan=3|Blue=4|Purple=5|White=6|Auto=7";
 inline const char *const kFive = "Level1=0|Level2=1|Level3=2|Level4=3|Level5=4";
-inline const char *const kColors = "Red=0|Yellow=1|Green=2|Cyan=3|Blue=4|Purple=5|White=6|Auto=7";
 inline const char *const kLampLevels = "Soft=0|Standard=1|Highlight=2";
 inline const Options kOptions[] = {
     {Scene, "Gama", "26", "1.6=0|1.8=1|2.0=2|2.2=3|2.4=4|2.6=5|CAD/CAM=7"},
@@ -127,16 +126,16 @@ inline const Options kOptions[] = {
     {Lighting, "Light Direction", "85", "Clockwise=0|Counterclockwise=1"},
     {Lighting, "Soft Changes", "8d", kSwitch},
     {Lighting, "Light Color", "79", "Red=0|Yellow=1|Green=2|Cyan=3|Blue=4|Purple=5|White=6|Auto=7|Custom=8"},
-    {Lighting, "Front Color", "7f", kColors},
-    {Lighting, "Rear Color", "80", kColors},
+    {Lighting, "Front Color", "7f", kColor},
+    {Lighting, "Rear Color", "80", kColor},
     {Lighting, "Light Timer", "8c", "Close=0|30 min=1|1 Hour=2|2 Hour=3"},
     {Lighting, "Dark with the Screen", "8b", kSwitch},
     {Lighting, "Light in Standby", "8a", kSwitch},
-    {Lighting, "Lamp Belt Color", "e5", kColors},
+    {Lighting, "Lamp Belt Color", "e5", kColor},
     {Lighting, "Lamp Belt Brightness", "e6", kLampLevels},
     {Lighting, "Lamp Belt Effect", "e7", "Normal=0|Breathe=1|Flicker=2|Water=3|Star=4|Pearl=5"},
-    {Lighting, "Lamp Belt Front Color", "e8", kColors},
-    {Lighting, "Lamp Belt Rear Color", "e9", kColors},
+    {Lighting, "Lamp Belt Front Color", "e8", kColor},
+    {Lighting, "Lamp Belt Rear Color", "e9", kColor},
 };
 
 /// The sliders of each page: "name code lowest-highest", and behind it when a value is sent and stored: on every move,

@@ -41,21 +41,21 @@ constexpr Option kBeltEffects[] = {{LABEL("Normal"), 0}, {LABEL("Breathe"), 1}, 
                                    {LABEL("Water"), 3},  {LABEL("Star"), 4},    {LABEL("Pearl"), 5}};
 
 // The steady light and the effects have a colour of the user's own as well.
-constexpr Option kOwnColors[] = {{LABEL("Red"), 0, nullptr, "swatch/red"},
-                                 {LABEL("Yellow"), 1, nullptr, "swatch/yellow"},
-                                 {LABEL("Green"), 2, nullptr, "swatch/green"},
-                                 {LABEL("Cyan"), 3, nullptr, "swatch/cyan"},
-                                 {LABEL("Blue"), 4, nullptr, "swatch/blue"},
-                                 {LABEL("Purple"), 5, nullptr, "swatch/purple"},
-                                 {LABEL("White"), 6, nullptr, "swatch/white"},
-                                 {LABEL("Auto"), 7, nullptr, "swatch/auto"},
-                                 {LABEL("Custom"), kOwnLightColor, nullptr, "swatch/custom"}};
+constexpr Option kOwnColors[] = {{LABEL("Red"), 0, nullptr, "swatch/red.png"},
+                                 {LABEL("Yellow"), 1, nullptr, "swatch/yellow.png"},
+                                 {LABEL("Green"), 2, nullptr, "swatch/green.png"},
+                                 {LABEL("Cyan"), 3, nullptr, "swatch/cyan.png"},
+                                 {LABEL("Blue"), 4, nullptr, "swatch/blue.png"},
+                                 {LABEL("Purple"), 5, nullptr, "swatch/purple.png"},
+                                 {LABEL("White"), 6, nullptr, "swatch/white.png"},
+                                 {LABEL("Auto"), 7, nullptr, "swatch/auto.png"},
+                                 {LABEL("Custom"), kOwnLightColor, nullptr, "swatch/custom.png"}};
 constexpr std::span kColors = std::span(kOwnColors).first<8>();
 
 OptionGroup options(Command command, std::span<const Option> options, const char *caption,
                     GroupLook look = GroupLook::Buttons)
 {
-    return {nameOf(command).label, command, options, {}, look, nullptr, caption};
+    return {nameOf(command).label, command, options, {}, look, nullptr, nullptr, caption};
 }
 
 OptionGroup swatches(Command command, const char *caption, std::span<const Option> colors = kColors)

@@ -52,7 +52,7 @@ pageEmberline::pageEmberline(CommandQueue &queue, QWidget *parent)
 {
     setLocks(lightLocks());
     paceSliders();
-    buildPanels(lightPanels());
+    buildPanelsWhenShown(lightPanels());
     connect(this, &SettingsPage::settingWanted, this, &pageEmberline::goToMode);
 }
 

@@ -141,8 +141,8 @@ VirtualPlatform::VirtualPlatform(VirtualDesk &desk, Clock &clock)
       m_deviceNotifications(std::make_unique<VirtualNotifications>(desk)),
       m_globalKeys(std::make_unique<VirtualGlobalKeys>(desk)),
       m_foreground(std::make_unique<VirtualForeground>(desk.applications())),
-      m_windows(std::make_unique<VirtualDesktopWindows>(desk.windows())),
-      m_presence(std::make_unique<VirtualPresence>(desk)), m_hid(std::make_unique<VirtualHid>(desk)),
+      m_presence(std::make_unique<VirtualPresence>(desk)),
+      m_windows(std::make_unique<VirtualDesktopWindows>(desk.windows())), m_hid(std::make_unique<VirtualHid>(desk)),
       m_audio(std::make_unique<VirtualAudio>(desk.sound())),
       m_screen(std::make_unique<VirtualScreenCapture>(desk.screen())),
       m_files(std::make_unique<VirtualFiles>(desk.fileFaults))
