@@ -40,9 +40,7 @@ void oneLook(benchmark::State &state)
     screen.setPicture(film());
     ScreenColours colours;
     for ([[maybe_unused]] auto _ : state)
-        colours.look(kScreen, [&screen](const QRect &area, std::span<std::uint32_t> pixels) {
-            return screen.copy(area, pixels);
-        });
+        colours.look(kScreen, [&screen](std::span<const platform::ScreenPart> parts) { return screen.copy(parts); });
 }
 
 /// Ten looks a second for ten seconds: at the film, or at the real screen.

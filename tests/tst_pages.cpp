@@ -9,9 +9,9 @@
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/devicestate.h"
 #include "page/BasicSetting/pagesystemsetting.h"
-#include "page/Game/pagegameassistant.h"
 #include "page/Emberline/lightview.h"
 #include "page/Emberline/pageemberline.h"
+#include "page/Game/pagegameassistant.h"
 #include "page/Game/pagepictureenhanc.h"
 #include "page/IO/iotable.h"
 #include "page/IO/pageiosetting.h"
@@ -472,6 +472,13 @@ void TestPages::lightIsPlayed()
     QCOMPARE(view->isVisible() && !view->isPlaying(), true);
     const QRgb red = view->frame().ring[0];
     QVERIFY(qRed(red) == 255 && qGreen(red) < 60 && view->frame().ring[31] == red);
+    for (const auto &[event, color] : {std::pair(QEvent::Enter, qRgb(0, 0, 0)), {QEvent::Leave, red}}) {
+        QEnterEvent enter({}, {}, {});
+        QEvent leave(QEvent::Leave);
+        QCoreApplication::sendEvent(button(Lighting, "Light Mode_Close"), event == QEvent::Enter ? &enter : &leave);
+        QCOMPARE(view->frame().ring[0], color); // tried out, and nothing is sent
+    }
+    QVERIFY(settle() && m_desk->takeCommands().filter("W").isEmpty());
     deviceState.told(Command::LightMode, 2); // it breathes
     page(Lighting)->updateInterfaceData();
     QVERIFY(view->isPlaying());

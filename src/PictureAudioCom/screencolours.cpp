@@ -109,11 +109,11 @@ int ScreenColours::Strip::darkColumns(bool fromEnd) const
     return dark;
 }
 
-bool ScreenColours::take(Strip &strip, const QRect &area, const Copy &copy)
+platform::ScreenPart ScreenColours::Strip::part(const QRect &wanted)
 {
-    strip.area = area;
-    strip.pixels.resize(static_cast<std::size_t>(area.width()) * static_cast<std::size_t>(area.height()));
-    return copy(area, strip.pixels);
+    area = wanted;
+    pixels.resize(static_cast<std::size_t>(area.width()) * static_cast<std::size_t>(area.height()));
+    return {area, pixels};
 }
 
 /// Top and bottom go from edge to edge; left and right lie between them, so that no pixel counts twice.
@@ -121,10 +121,12 @@ bool ScreenColours::takeEdges(const QRect &picture, const Copy &copy)
 {
     const int thick = std::min({thicknessOf(picture), picture.width(), std::max(1, picture.height() / 3)});
     const QRect between = picture.adjusted(0, thick, 0, -thick);
-    return take(m_edges[Top], {picture.left(), picture.top(), picture.width(), thick}, copy) &&
-           take(m_edges[Bottom], {picture.left(), between.bottom() + 1, picture.width(), thick}, copy) &&
-           take(m_edges[Left], {picture.left(), between.top(), thick, between.height()}, copy) &&
-           take(m_edges[Right], {picture.right() + 1 - thick, between.top(), thick, between.height()}, copy);
+    const platform::ScreenPart parts[] = {
+        m_edges[Top].part({picture.left(), picture.top(), picture.width(), thick}),
+        m_edges[Bottom].part({picture.left(), between.bottom() + 1, picture.width(), thick}),
+        m_edges[Left].part({picture.left(), between.top(), thick, between.height()}),
+        m_edges[Right].part({picture.right() + 1 - thick, between.top(), thick, between.height()})};
+    return copy(parts);
 }
 
 /// The screen without its bars, as the edges that were taken tell: how wide a bar is, is seen where the edges beside it
@@ -147,14 +149,15 @@ std::optional<QRect> ScreenColours::findPicture(const QRect &screen, const Copy 
     int right = isDark[Right] ? columns(true) : 0;
     if (std::ranges::all_of(isDark, std::identity())) {
         const int thick = m_edges[Top].area.height();
-        if (!take(m_middle, {screen.center().x(), screen.top(), thick, screen.height()}, copy))
+        const platform::ScreenPart parts[] = {
+            m_down.part({screen.center().x(), screen.top(), thick, screen.height()}),
+            m_across.part({screen.left(), screen.center().y(), screen.width(), thick})};
+        if (!copy(parts))
             return std::nullopt;
-        top = m_middle.darkRows(false);
-        bottom = m_middle.darkRows(true);
-        if (!take(m_middle, {screen.left(), screen.center().y(), screen.width(), thick}, copy))
-            return std::nullopt;
-        left = m_middle.darkColumns(false);
-        right = m_middle.darkColumns(true);
+        top = m_down.darkRows(false);
+        bottom = m_down.darkRows(true);
+        left = m_across.darkColumns(false);
+        right = m_across.darkColumns(true);
     }
     return screen.adjusted(barOf(left, screen.width()), barOf(top, screen.height()), -barOf(right, screen.width()),
                            -barOf(bottom, screen.height()));

@@ -1,13 +1,13 @@
 #pragma once
 
-#include <cstdint>
 #include <functional>
 #include <optional>
 #include <span>
 #include <vector>
 
-#include <QRect>
 #include <QRgb>
+
+#include "platform/screencapture.h"
 
 /// What lamps behind a screen shine in to go on from its picture: its left half, its right half, and all of it.
 struct ZoneColours
@@ -24,8 +24,8 @@ struct ZoneColours
 class ScreenColours
 {
 public:
-    /// Copies an area, as platform::ScreenCapture does.
-    using Copy = std::function<bool(const QRect &area, std::span<std::uint32_t> pixels)>;
+    /// Copies parts of the desktop, as platform::ScreenCapture does.
+    using Copy = std::function<bool(std::span<const platform::ScreenPart> parts)>;
 
     /// Looks once. False when a copy failed: the colours are then those of before.
     bool look(const QRect &screen, const Copy &copy);
@@ -41,6 +41,8 @@ private:
         QRect area;
         std::vector<std::uint32_t> pixels;
 
+        /// Makes room for an area.
+        platform::ScreenPart part(const QRect &wanted);
         bool isDark() const;
         /// How many of its rows, or columns, are dark from the begin on, or from the end.
         int darkRows(bool fromEnd) const;
@@ -48,12 +50,12 @@ private:
         bool isDark(int x, int y, int width, int height) const;
     };
 
-    static bool take(Strip &strip, const QRect &area, const Copy &copy);
     bool takeEdges(const QRect &picture, const Copy &copy);
     std::optional<QRect> findPicture(const QRect &screen, const Copy &copy);
     ZoneColours average() const;
 
     Strip m_edges[kSides];
-    Strip m_middle; ///< of what lies in bars on all sides
+    Strip m_across; ///< the middle of what lies in bars on all sides
+    Strip m_down;
     std::optional<ZoneColours> m_colours;
 };

@@ -14,8 +14,7 @@ void ScreenSampler::request(const QRect &screen)
 void ScreenSampler::run()
 {
     platform::ScreenCapture &capture = platform::desk().screen();
-    const bool ok = m_colours.look(m_screen, [&capture](const QRect &area, std::span<std::uint32_t> pixels) {
-        return capture.copy(area, pixels);
-    });
+    const bool ok = m_colours.look(
+        m_screen, [&capture](std::span<const platform::ScreenPart> parts) { return capture.copy(parts); });
     tell([this, ok, colours = m_colours.colours().value_or(ZoneColours())] { Q_EMIT looked(ok, colours); });
 }

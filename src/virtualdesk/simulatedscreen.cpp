@@ -41,14 +41,17 @@ bool SimulatedScreen::mayCopy()
     return false;
 }
 
-bool SimulatedScreen::copy(const QRect &area, std::span<std::uint32_t> pixels) const
+bool SimulatedScreen::copy(std::span<const platform::ScreenPart> parts) const
 {
     const std::lock_guard lock(m_mutex);
-    if (!m_picture.rect().contains(area))
-        return false;
-    for (int y = 0; y < area.height(); ++y) {
-        const auto *line = reinterpret_cast<const std::uint32_t *>(m_picture.constScanLine(area.y() + y)) + area.x();
-        std::copy_n(line, area.width(), pixels.begin() + std::ptrdiff_t{y} * area.width());
+    for (const auto &[area, pixels] : parts) {
+        if (!m_picture.rect().contains(area))
+            return false;
+        for (int y = 0; y < area.height(); ++y) {
+            const auto *line =
+                reinterpret_cast<const std::uint32_t *>(m_picture.constScanLine(area.y() + y)) + area.x();
+            std::copy_n(line, area.width(), pixels.begin() + std::ptrdiff_t{y} * area.width());
+        }
     }
     return true;
 }

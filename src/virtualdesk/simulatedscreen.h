@@ -1,11 +1,11 @@
 #pragma once
 
-#include <cstdint>
 #include <mutex>
 #include <span>
 
 #include <QImage>
-#include <QRect>
+
+#include "platform/screencapture.h"
 
 namespace virtualdesk {
 
@@ -27,8 +27,8 @@ public:
     /// Counts a copy; false for one that is to fail.
     bool mayCopy();
 
-    /// The picture's pixels of an area; false for one that is not all on it.
-    bool copy(const QRect &area, std::span<std::uint32_t> pixels) const;
+    /// The picture's pixels of some parts; false when one of them is not all on it.
+    bool copy(std::span<const platform::ScreenPart> parts) const;
 
 private:
     mutable std::mutex m_mutex; // guards all

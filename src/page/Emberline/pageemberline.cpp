@@ -72,6 +72,7 @@ QWidget *pageEmberline::buildView()
                  [view](const QString &text) { view->setAccessibleName(text); });
     view->setLook(lightLook(deviceState));
     m_views.push_back(view);
+    followPointing(); // of what stands above it
     return view;
 }
 
@@ -155,7 +156,7 @@ void pageEmberline::sendOwnColor(const QColor &color)
 
 void pageEmberline::showLight()
 {
-    const LightLook look = lightLook(deviceState);
+    const LightLook look = lightLook(deviceState, m_preview);
     for (LightView *view : m_views)
         view->setLook(look);
     if (!m_ownColorRow)
@@ -179,6 +180,20 @@ void pageEmberline::updateControlText()
 {
     PanelPage::updateControlText();
     showRhythm();
+}
+
+/// What is pointed at is played before it is chosen, and nothing is sent.
+void pageEmberline::followPointing()
+{
+    for (; m_followed < optionGroups().size(); ++m_followed) {
+        const OptionGroupRow *row = optionGroups()[m_followed];
+        connect(row, &OptionGroupRow::optionPointed, this, [this, row](std::optional<int> value) {
+            m_preview.reset();
+            if (value)
+                m_preview = LightPreview{*row->group().command, *value};
+            showLight();
+        });
+    }
 }
 
 void pageEmberline::followValue(Command command)

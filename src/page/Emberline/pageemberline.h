@@ -37,9 +37,12 @@ private:
     void sendOwnColor(const QColor &color);
     void showLight();
     void showRhythm();
+    void followPointing();
     void goToMode(Command command);
 
-    std::vector<LightView *> m_views; ///< one a panel
+    std::vector<LightView *> m_views;      ///< one a panel
+    std::size_t m_followed = 0;            ///< so many groups tell what is pointed at
+    std::optional<LightPreview> m_preview; ///< the option that is pointed at
     QWidget *m_ownColorRow = nullptr;
     ColorPicker *m_ownColor = nullptr;
     QLabel *m_rhythmNote = nullptr;

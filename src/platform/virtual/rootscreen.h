@@ -1,11 +1,11 @@
 #pragma once
 
-#include <cstdint>
 #include <memory>
 #include <optional>
 #include <span>
 
 #include "platform/displays.h"
+#include "platform/screencapture.h"
 
 namespace platform {
 
@@ -21,7 +21,7 @@ public:
     ~RootPixels();
 
     /// As ScreenCapture::copy.
-    bool copy(const QRect &area, std::span<std::uint32_t> pixels);
+    bool copy(std::span<const ScreenPart> parts);
 
 private:
     struct Way;

@@ -14,7 +14,7 @@ std::optional<WorkArea> rootWorkArea()
 RootPixels::RootPixels() = default;
 RootPixels::~RootPixels() = default;
 
-bool RootPixels::copy(const QRect &, std::span<std::uint32_t>)
+bool RootPixels::copy(std::span<const ScreenPart>)
 {
     return false;
 }

@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <memory>
+#include <vector>
 
 #include <xcb/randr.h>
 #include <xcb/xcb.h>
@@ -110,26 +111,32 @@ struct RootPixels::Way
 RootPixels::RootPixels() = default;
 RootPixels::~RootPixels() = default;
 
-bool RootPixels::copy(const QRect &area, std::span<std::uint32_t> pixels)
+/// All are asked for before the first is waited for.
+bool RootPixels::copy(std::span<const ScreenPart> parts)
 {
     if (!m_way)
         m_way = std::make_unique<Way>(connectToRoot());
     xcb_connection_t *x = m_way->connection.get();
     if (x == nullptr)
         return false;
-    const auto asked =
-        xcb_get_image(x, XCB_IMAGE_FORMAT_Z_PIXMAP, screenOf(x).root, static_cast<std::int16_t>(area.x()),
-                      static_cast<std::int16_t>(area.y()), static_cast<std::uint16_t>(area.width()),
-                      static_cast<std::uint16_t>(area.height()), ~0u);
-    const Reply<xcb_get_image_reply_t> reply(xcb_get_image_reply(x, asked, nullptr));
-    const auto length = reply ? static_cast<std::size_t>(xcb_get_image_data_length(reply.get())) : 0;
-    if (length == 0 || length != pixels.size_bytes()) { // not on the screen, or of fewer colours
-        if (xcb_connection_has_error(x))
-            m_way.reset();
-        return false;
+    std::vector<xcb_get_image_cookie_t> asked;
+    for (const ScreenPart &part : parts)
+        asked.push_back(
+            xcb_get_image(x, XCB_IMAGE_FORMAT_Z_PIXMAP, screenOf(x).root, static_cast<std::int16_t>(part.area.x()),
+                          static_cast<std::int16_t>(part.area.y()), static_cast<std::uint16_t>(part.area.width()),
+                          static_cast<std::uint16_t>(part.area.height()), ~0u));
+    bool areCopied = true;
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        const Reply<xcb_get_image_reply_t> reply(xcb_get_image_reply(x, asked[i], nullptr));
+        const auto length = reply ? static_cast<std::size_t>(xcb_get_image_data_length(reply.get())) : 0;
+        if (length != 0 && length == parts[i].pixels.size_bytes())
+            std::memcpy(parts[i].pixels.data(), xcb_get_image_data(reply.get()), length);
+        else // not on the screen, or of fewer colours
+            areCopied = false;
     }
-    std::memcpy(pixels.data(), xcb_get_image_data(reply.get()), length);
-    return true;
+    if (xcb_connection_has_error(x))
+        m_way.reset();
+    return areCopied;
 }
 
 std::optional<WorkArea> rootWorkArea()

@@ -4,11 +4,11 @@
 
 namespace platform {
 
-bool VirtualScreenCapture::copy(const QRect &area, std::span<std::uint32_t> pixels)
+bool VirtualScreenCapture::copy(std::span<const ScreenPart> parts)
 {
     if (!m_screen.mayCopy())
         return false;
-    return m_screen.hasPicture() ? m_screen.copy(area, pixels) : m_root.copy(area, pixels);
+    return m_screen.hasPicture() ? m_screen.copy(parts) : m_root.copy(parts);
 }
 
 } // namespace platform

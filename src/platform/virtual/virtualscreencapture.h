@@ -15,7 +15,7 @@ class VirtualScreenCapture final : public ScreenCapture
 public:
     explicit VirtualScreenCapture(virtualdesk::SimulatedScreen &screen) : m_screen(screen) {}
 
-    bool copy(const QRect &area, std::span<std::uint32_t> pixels) override;
+    bool copy(std::span<const ScreenPart> parts) override;
 
 private:
     virtualdesk::SimulatedScreen &m_screen;

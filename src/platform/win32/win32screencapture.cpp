@@ -1,5 +1,6 @@
 #include "platform/win32/win32screencapture.h"
 
+#include <algorithm>
 #include <cstring>
 #include <memory>
 
@@ -37,25 +38,31 @@ BITMAPINFO describe(const QRect &area)
     return info;
 }
 
+bool copyPart(HDC screen, HDC memory, const ScreenPart &part)
+{
+    const QRect &area = part.area;
+    const BITMAPINFO info = describe(area);
+    void *bits = nullptr;
+    const Bitmap bitmap(CreateDIBSection(memory, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+    if (!bitmap)
+        return false;
+    const HGDIOBJ before = SelectObject(memory, bitmap.get());
+    const bool isCopied = BitBlt(memory, 0, 0, area.width(), area.height(), screen, area.x(), area.y(), SRCCOPY);
+    GdiFlush();
+    if (isCopied)
+        std::memcpy(part.pixels.data(), bits, part.pixels.size_bytes());
+    SelectObject(memory, before);
+    return isCopied;
+}
+
 } // namespace
 
-bool Win32ScreenCapture::copy(const QRect &area, std::span<std::uint32_t> pixels)
+bool Win32ScreenCapture::copy(std::span<const ScreenPart> parts)
 {
     const Screen screen(GetDC(nullptr));
     const Memory memory(screen ? CreateCompatibleDC(screen.get()) : nullptr);
-    const BITMAPINFO info = describe(area);
-    void *bits = nullptr;
-    const Bitmap bitmap(memory ? CreateDIBSection(memory.get(), &info, DIB_RGB_COLORS, &bits, nullptr, 0) : nullptr);
-    if (!bitmap)
-        return false;
-    const HGDIOBJ before = SelectObject(memory.get(), bitmap.get());
-    const bool isCopied =
-        BitBlt(memory.get(), 0, 0, area.width(), area.height(), screen.get(), area.x(), area.y(), SRCCOPY);
-    GdiFlush();
-    if (isCopied)
-        std::memcpy(pixels.data(), bits, pixels.size_bytes());
-    SelectObject(memory.get(), before);
-    return isCopied;
+    return memory && std::all_of(parts.begin(), parts.end(),
+                                 [&](const ScreenPart &part) { return copyPart(screen.get(), memory.get(), part); });
 }
 
 } // namespace platform

@@ -7,7 +7,7 @@ namespace platform {
 class Win32ScreenCapture final : public ScreenCapture
 {
 public:
-    bool copy(const QRect &area, std::span<std::uint32_t> pixels) override;
+    bool copy(std::span<const ScreenPart> parts) override;
 };
 
 } // namespace platform
