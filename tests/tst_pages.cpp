@@ -418,7 +418,8 @@ void TestPages::smallWindowIsArranged()
     for (const auto &[code, value] : {std::pair(0x50, mode), {0x54, 1}, {0x55, 1}})
         deviceState.told(Command(code), value);
     auto *windows = static_cast<pageMultiWindow *>(page(Windows))->arranger();
-    windows->resize(500, 330);
+    for (QWidget *each : {windows->parentWidget(), static_cast<QWidget *>(windows)})
+        each->resize(500, 330);
     act(*windows);
     QCOMPARE(m_desk->takeCommands().join(' '), sent);
     QCOMPARE(windows->isUsable(), mode == 1);
