@@ -101,6 +101,7 @@ void TestVirtualDesk::readsScripts()
     QString error;
     const auto setup = parseDeskScript(R"({
         "latency": {"read_ms": 4, "write_ms": 5}, "topology": "clone", "administrator": false,
+        "user": {"idle_ms": 60000, "notification_state": 3},
         "displays": [{"bounds": [0, 0, 800, 600]}],
         "monitors": [
             {"model": "Q32-MPCS", "edid": "00 ff", "values": {"0x10": 12},
@@ -121,6 +122,7 @@ void TestVirtualDesk::readsScripts()
     QVERIFY(fault.call == AudioCall::Reset && fault.times == kForEver && fault.result == 0x88890004);
     VirtualDesk desk(m_clock, *setup);
     QCOMPARE(desk.process().administrator, false);
+    QVERIFY(desk.user.idle == std::chrono::minutes(1) && desk.user.notificationState == 3);
     QCOMPARE(desk.displays().screens().at(0).geometry, QRect(0, 0, 800, 600));
     QCOMPARE(desk.windows().visibleRect(desk.applications().windowOf(0)), QRect(0, 0, 800, 552)); // above a taskbar
     QCOMPARE(desk.monitor(0).readLatency().count(), 4);
@@ -174,6 +176,7 @@ void TestVirtualDesk::namesScriptFaults()
         {R"({"programs": [{}]})", "\"path\""},
         {R"({"programs": [{"path": "x", "window": {"rect": [1, 2, 3]}}]})", "\"rect\""},
         {R"({"programs": [{"path": "x", "window": {"shape": "round"}}]})", "\"round\""},
+        {R"({"user": {"notification_state": 8}})", "\"notification_state\""},
         {R"({"audio": []})", "\"audio\""},
         {R"({"audio": {"plays": "jazz"}})", "\"jazz\""},
         {R"({"audio": {"plays": "wave", "file": "none.wav"}})", "none.wav"},

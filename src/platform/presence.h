@@ -3,7 +3,6 @@
 #include <optional>
 
 #include "platform/clock.h"
-#include "platform/foreground.h"
 
 namespace platform {
 
@@ -29,9 +28,6 @@ public:
 
     /// SHQueryUserNotificationState; nothing when the call fails.
     virtual std::optional<NotificationState> notificationState() = 0;
-
-    /// GetForegroundWindow; null while no window has the focus.
-    virtual WindowHandle frontWindow() = 0;
 };
 
 } // namespace platform

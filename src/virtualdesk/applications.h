@@ -55,8 +55,6 @@ public:
     /// What stands for the window of a program, and the program of such a window; null for any other.
     static void *windowOf(std::size_t index);
     Application *ofWindow(void *window);
-    /// The window in front; null before any was.
-    void *frontWindow() const { return m_front ? windowOf(*m_front) : nullptr; }
 
     /// An event of any kind and window, as the system might send it.
     void raiseEvent(std::uint32_t event, void *window) const;

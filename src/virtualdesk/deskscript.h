@@ -17,6 +17,7 @@ namespace virtualdesk {
 ///       "latency": "realistic" | "none" | {"read_ms": 40, "write_ms": 50},
 ///       "topology": "extend" | "clone" | "single",
 ///       "administrator": true, "runas_result": 42, "startup_writable": true,
+///       "user": {"idle_ms": 0, "notification_state": 5},
 ///       "displays": [{"name": "\\\\.\\DISPLAY1", "bounds": [0, 0, 1920, 1080]}],
 ///       "monitors": [{"model": "Q27-OLED" | "Q32-MPCS" | "Q34-MINI", "display": 0, "plugged": true,
 ///                     "edid": "00ff..." | {"random": 64}, "values": {"0x10": 30}, "latency": ..., "faults": [event],

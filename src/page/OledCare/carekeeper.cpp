@@ -142,7 +142,7 @@ void CareKeeper::remind(const QDateTime &now)
     CarePresence presence;
     presence.sinceInput = system.sinceInput().value_or(platform::milliseconds(0));
     presence.isFullScreen = state < NotificationState::Accepts;
-    const platform::WindowHandle front = system.frontWindow();
+    const platform::WindowHandle front = platform::desk().windows().foregroundWindow();
     const platform::WindowHandle before = std::exchange(m_front, front);
     presence.isElsewhere = before && front && before != front;
     if (m_shown && isAway(presence))

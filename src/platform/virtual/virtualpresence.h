@@ -16,7 +16,6 @@ public:
     {
         return static_cast<NotificationState>(m_desk.user.notificationState);
     }
-    WindowHandle frontWindow() override { return m_desk.applications().frontWindow(); }
 
 private:
     virtualdesk::VirtualDesk &m_desk;

@@ -25,9 +25,4 @@ std::optional<NotificationState> Win32Presence::notificationState()
     return static_cast<NotificationState>(state);
 }
 
-WindowHandle Win32Presence::frontWindow()
-{
-    return GetForegroundWindow();
-}
-
 } // namespace platform

@@ -10,7 +10,6 @@ class Win32Presence final : public Presence
 public:
     std::optional<milliseconds> sinceInput() override;
     std::optional<NotificationState> notificationState() override;
-    WindowHandle frontWindow() override;
 };
 
 } // namespace platform
