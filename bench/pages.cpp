@@ -25,7 +25,7 @@ using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
 constexpr std::uint16_t kCustomScene = 10;
-constexpr std::size_t kTabWithoutSettings = 6; // where each tab's way begins
+constexpr std::size_t kTabWithoutSettings = 1; // where each tab's way begins: none of its modes is on
 constexpr auto kPatience = 2s;
 
 /// Runs the window until nothing is left to be done for a while: answers have come and have been shown.
