@@ -226,6 +226,7 @@ void TestOledCare::fromUseToCare()
     m_page->reminder()->yesButton()->click();
     QVERIFY(m_page->asked == 1 && !isReminded());
     QCOMPARE(m_desk->takeCommands(), QStringList());
+    m_page->build(); // not needed before
     m_page->answer = true;
     m_page->carePanel()->startButton()->click();
     pass(1min);
@@ -248,6 +249,7 @@ void TestOledCare::fromUseToCare()
 
 void TestOledCare::careIsRefused()
 {
+    m_page->show();
     m_page->answer = true;
     m_desk->monitor().refuse(0x0E, 2);
     m_page->carePanel()->startButton()->click();

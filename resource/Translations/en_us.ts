@@ -140,10 +140,6 @@
         <translation>%1. The window keeps a size of its own.</translation>
     </message>
     <message>
-        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
-        <translation>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</translation>
-    </message>
-    <message>
         <source>1 Hour</source>
         <translation>1 Hour</translation>
     </message>
@@ -278,6 +274,10 @@
     <message>
         <source>9300K</source>
         <translation>9300K</translation>
+    </message>
+    <message>
+        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
+        <translation>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</translation>
     </message>
     <message>
         <source>A WAV file</source>
@@ -2764,8 +2764,8 @@
         <translation>Shows on the desktop what a shortcut has just changed.</translation>
     </message>
     <message>
-        <source>Shows two inputs at once. Close = one, PIP = the second in a small window, PBP = side by side.</source>
-        <translation>Shows two inputs at once. Close = one, PIP = the second in a small window, PBP = side by side.</translation>
+        <source>Shows two inputs at once. Drag the small window of PIP to a corner, or one of its edges to a size.</source>
+        <translation>Shows two inputs at once. Drag the small window of PIP to a corner, or one of its edges to a size.</translation>
     </message>
     <message>
         <source>Silence</source>
@@ -3202,22 +3202,6 @@
     <message>
         <source>The report is on the clipboard. It names no files, programs or users.</source>
         <translation>The report is on the clipboard. It names no files, programs or users.</translation>
-    </message>
-    <message>
-        <source>The second input lies in the lower left corner.</source>
-        <translation>The second input lies in the lower left corner.</translation>
-    </message>
-    <message>
-        <source>The second input lies in the lower right corner.</source>
-        <translation>The second input lies in the lower right corner.</translation>
-    </message>
-    <message>
-        <source>The second input lies in the upper left corner.</source>
-        <translation>The second input lies in the upper left corner.</translation>
-    </message>
-    <message>
-        <source>The second input lies in the upper right corner.</source>
-        <translation>The second input lies in the upper right corner.</translation>
     </message>
     <message>
         <source>The selected display is unsupported or the signal line is disconnected.</source>

@@ -140,10 +140,6 @@
         <translation>%1。ウィンドウは独自のサイズのままです。</translation>
     </message>
     <message>
-        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
-        <translation>&lt;font color=white&gt;ディスプレイ情報を取得しています...&lt;/font&gt;</translation>
-    </message>
-    <message>
         <source>1 Hour</source>
         <translation>1 時間</translation>
     </message>
@@ -278,6 +274,10 @@
     <message>
         <source>9300K</source>
         <translation>9300K</translation>
+    </message>
+    <message>
+        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
+        <translation>&lt;font color=white&gt;ディスプレイ情報を取得しています...&lt;/font&gt;</translation>
     </message>
     <message>
         <source>A WAV file</source>
@@ -2764,8 +2764,8 @@
         <translation>ショートカットキーで変えた内容をデスクトップに表示します。</translation>
     </message>
     <message>
-        <source>Shows two inputs at once. Close = one, PIP = the second in a small window, PBP = side by side.</source>
-        <translation>2 つの入力を同時に表示します。オフ = 1 つだけ、PIP = 2 つ目を子画面に、PBP = 左右に並べる。</translation>
+        <source>Shows two inputs at once. Drag the small window of PIP to a corner, or one of its edges to a size.</source>
+        <translation>2 つの入力を同時に表示します。PIP の子画面は隅までドラッグでき、端をドラッグするとサイズが変わります。</translation>
     </message>
     <message>
         <source>Silence</source>
@@ -3202,22 +3202,6 @@
     <message>
         <source>The report is on the clipboard. It names no files, programs or users.</source>
         <translation>レポートをクリップボードにコピーしました。ファイル、アプリ、ユーザーの名前は含まれません。</translation>
-    </message>
-    <message>
-        <source>The second input lies in the lower left corner.</source>
-        <translation>2 つ目の入力を左下の隅に表示します。</translation>
-    </message>
-    <message>
-        <source>The second input lies in the lower right corner.</source>
-        <translation>2 つ目の入力を右下の隅に表示します。</translation>
-    </message>
-    <message>
-        <source>The second input lies in the upper left corner.</source>
-        <translation>2 つ目の入力を左上の隅に表示します。</translation>
-    </message>
-    <message>
-        <source>The second input lies in the upper right corner.</source>
-        <translation>2 つ目の入力を右上の隅に表示します。</translation>
     </message>
     <message>
         <source>The selected display is unsupported or the signal line is disconnected.</source>

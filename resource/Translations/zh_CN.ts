@@ -140,10 +140,6 @@
         <translation>%1。该窗口保持自己的大小。</translation>
     </message>
     <message>
-        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
-        <translation>&lt;font color=white&gt;正在获取显示设备信息...&lt;/font&gt;</translation>
-    </message>
-    <message>
         <source>1 Hour</source>
         <translation>1 小时</translation>
     </message>
@@ -278,6 +274,10 @@
     <message>
         <source>9300K</source>
         <translation>9300K</translation>
+    </message>
+    <message>
+        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
+        <translation>&lt;font color=white&gt;正在获取显示设备信息...&lt;/font&gt;</translation>
     </message>
     <message>
         <source>A WAV file</source>
@@ -2764,8 +2764,8 @@
         <translation>在桌面上显示快捷键刚刚更改的内容。</translation>
     </message>
     <message>
-        <source>Shows two inputs at once. Close = one, PIP = the second in a small window, PBP = side by side.</source>
-        <translation>同时显示两路输入。关闭 = 一路，PIP = 第二路在小窗口里，PBP = 左右并排。</translation>
+        <source>Shows two inputs at once. Drag the small window of PIP to a corner, or one of its edges to a size.</source>
+        <translation>同时显示两路输入。可将 PIP 的小窗口拖到角落，或拖动其边缘改变大小。</translation>
     </message>
     <message>
         <source>Silence</source>
@@ -3202,22 +3202,6 @@
     <message>
         <source>The report is on the clipboard. It names no files, programs or users.</source>
         <translation>报告已复制到剪贴板，其中不含文件、程序或用户的名称。</translation>
-    </message>
-    <message>
-        <source>The second input lies in the lower left corner.</source>
-        <translation>第二路输入位于左下角。</translation>
-    </message>
-    <message>
-        <source>The second input lies in the lower right corner.</source>
-        <translation>第二路输入位于右下角。</translation>
-    </message>
-    <message>
-        <source>The second input lies in the upper left corner.</source>
-        <translation>第二路输入位于左上角。</translation>
-    </message>
-    <message>
-        <source>The second input lies in the upper right corner.</source>
-        <translation>第二路输入位于右上角。</translation>
     </message>
     <message>
         <source>The selected display is unsupported or the signal line is disconnected.</source>

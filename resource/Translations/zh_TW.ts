@@ -140,10 +140,6 @@
         <translation>%1。該視窗保持自己的大小。</translation>
     </message>
     <message>
-        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
-        <translation>&lt;font color=white&gt;正在取得顯示裝置資訊...&lt;/font&gt;</translation>
-    </message>
-    <message>
         <source>1 Hour</source>
         <translation>1 小時</translation>
     </message>
@@ -278,6 +274,10 @@
     <message>
         <source>9300K</source>
         <translation>9300K</translation>
+    </message>
+    <message>
+        <source>&lt;font color=white&gt;Getting Disp Dev Infor...&lt;/font&gt;</source>
+        <translation>&lt;font color=white&gt;正在取得顯示裝置資訊...&lt;/font&gt;</translation>
     </message>
     <message>
         <source>A WAV file</source>
@@ -2764,8 +2764,8 @@
         <translation>在桌面上顯示快速鍵剛剛變更的內容。</translation>
     </message>
     <message>
-        <source>Shows two inputs at once. Close = one, PIP = the second in a small window, PBP = side by side.</source>
-        <translation>同時顯示兩路輸入。關閉 = 一路，PIP = 第二路在小視窗裡，PBP = 左右並排。</translation>
+        <source>Shows two inputs at once. Drag the small window of PIP to a corner, or one of its edges to a size.</source>
+        <translation>同時顯示兩路輸入。可將 PIP 的小視窗拖到角落，或拖動其邊緣改變大小。</translation>
     </message>
     <message>
         <source>Silence</source>
@@ -3202,22 +3202,6 @@
     <message>
         <source>The report is on the clipboard. It names no files, programs or users.</source>
         <translation>報告已複製到剪貼簿，其中不含檔案、應用程式或使用者的名稱。</translation>
-    </message>
-    <message>
-        <source>The second input lies in the lower left corner.</source>
-        <translation>第二路輸入位於左下角。</translation>
-    </message>
-    <message>
-        <source>The second input lies in the lower right corner.</source>
-        <translation>第二路輸入位於右下角。</translation>
-    </message>
-    <message>
-        <source>The second input lies in the upper left corner.</source>
-        <translation>第二路輸入位於左上角。</translation>
-    </message>
-    <message>
-        <source>The second input lies in the upper right corner.</source>
-        <translation>第二路輸入位於右上角。</translation>
     </message>
     <message>
         <source>The selected display is unsupported or the signal line is disconnected.</source>

@@ -1,13 +1,15 @@
 #include "page/MultiWindow/multiwindowtable.h"
 
 #include "ddc_protocol/devicestate.h"
+#include "page/MultiWindow/windowspicture.h"
 #include "page/engine/commandrows.h"
+#include "page/engine/commonoptions.h"
 #include "page/engine/labels.h"
 
 namespace {
 
 constexpr char kHelp[] =
-    LABEL("Shows two inputs at once. Close = one, PIP = the second in a small window, PBP = side by side.");
+    LABEL("Shows two inputs at once. Drag the small window of PIP to a corner, or one of its edges to a size.");
 
 constexpr Option kModes[] = {
     {LABEL("Close"), kOneWindow, LABEL("One input fills the screen.")},
@@ -20,12 +22,6 @@ constexpr Option kSizes[] = {
     {LABEL("Small"), 0, LABEL("A quarter of the screen's width: hides least of the first input.")},
     {LABEL("Medium"), 1, LABEL("A third of the screen's width.")},
     {LABEL("Large"), 2, LABEL("More than two fifths of the screen's width: small text stays readable.")},
-};
-constexpr Option kPlaces[] = {
-    {LABEL("Top Left"), 0, LABEL("The second input lies in the upper left corner.")},
-    {LABEL("Top Right"), 1, LABEL("The second input lies in the upper right corner.")},
-    {LABEL("Bottom Left"), 2, LABEL("The second input lies in the lower left corner.")},
-    {LABEL("Bottom Right"), 3, LABEL("The second input lies in the lower right corner.")},
 };
 
 bool hasNoInset(const DeviceState &state)
@@ -42,10 +38,10 @@ constexpr LockRule kLocks[] = {
 const Section kSections[] = {
     groupOf(Command::MultiWindow, kModes),
     OptionGroup{LABEL("Size"), Command::InsetSize, kSizes}, // short, where the page says whose
-    OptionGroup{LABEL("Place"), Command::InsetPlace, kPlaces},
-    CustomPart{kArrangementPart},
+    OptionGroup{LABEL("Place"), Command::InsetPlace, kCornerOptions},
 };
-const PanelSpec kPanels[] = {panelOf(Command::MultiWindow, "multi_window", "panelMultiWindow", kSections, kHelp)};
+const PanelSpec kPanels[] = {
+    panelOf(Command::MultiWindow, "multi_window", "panelMultiWindow", kSections, kHelp, &kWindowsPicture)};
 
 } // namespace
 
@@ -57,14 +53,4 @@ std::span<const PanelSpec> multiWindowPanels()
 std::span<const LockRule> multiWindowLocks()
 {
     return kLocks;
-}
-
-std::span<const Option> insetSizes()
-{
-    return kSizes;
-}
-
-std::span<const Option> insetPlaces()
-{
-    return kPlaces;
 }

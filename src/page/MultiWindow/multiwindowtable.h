@@ -10,13 +10,7 @@ std::span<const PanelSpec> multiWindowPanels();
 /// What picture-in-picture alone has cannot be set without it.
 std::span<const LockRule> multiWindowLocks();
 
-inline constexpr char kArrangementPart[] = "Arrangement";
-
 // The options of the mode.
 inline constexpr int kOneWindow = 0;
 inline constexpr int kPictureInPicture = 1;
 inline constexpr int kPictureByPicture = 2;
-
-// Options of size and place, for who puts them into words.
-std::span<const Option> insetSizes();
-std::span<const Option> insetPlaces();

@@ -17,7 +17,7 @@ pageMultiWindow::pageMultiWindow(CommandQueue &queue, QWidget *parent)
     : PanelPage(QStringLiteral("pageMultiWindow"), OwnList::None, queue, parent)
 {
     setLocks(multiWindowLocks());
-    buildPanels(multiWindowPanels());
+    buildPanelsWhenShown(multiWindowPanels());
     for (const Command command : kCommands) { // what is wished is seen before the monitor has it
         beforeSending(command, [this](int) { showWindows(); });
         afterSending(command, [this](int) { showWindows(); });
@@ -25,9 +25,9 @@ pageMultiWindow::pageMultiWindow(CommandQueue &queue, QWidget *parent)
 }
 
 /// What is dragged goes the way of the option that is pressed: with its locks, its marks and its refusal.
-QWidget *pageMultiWindow::buildPart(const char *)
+void pageMultiWindow::pictureBuilt(MonitorPicture *picture)
 {
-    m_arranger = new WindowArranger(this);
+    m_arranger = new WindowArranger(picture);
     const auto choose = [this](Command command) {
         return [this, command](int value) { optionGroup(command)->buttonOf(value)->click(); };
     };
@@ -35,7 +35,6 @@ QWidget *pageMultiWindow::buildPart(const char *)
     connect(m_arranger, &WindowArranger::sizeWanted, this, choose(Command::InsetSize));
     texts().bind(LABEL("Arrangement of the windows"),
                  [this](const QString &text) { m_arranger->setAccessibleName(text); });
-    return m_arranger;
 }
 
 void pageMultiWindow::updateInterfaceData()
@@ -57,6 +56,8 @@ void pageMultiWindow::followValue(Command)
 
 void pageMultiWindow::showWindows()
 {
+    if (!m_arranger) // before the page is first shown
+        return;
     const auto words = [this](Command command, std::optional<int> value) {
         const QPushButton *button = value ? optionGroup(command)->buttonOf(*value) : nullptr;
         return button ? button->text() : QObject::tr("unknown");

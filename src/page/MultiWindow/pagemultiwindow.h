@@ -16,10 +16,11 @@ public:
     void updateInterfaceData() override;
     void updateControlText() override;
 
+    /// Null before the page is first shown.
     WindowArranger *arranger() const { return m_arranger; }
 
 protected:
-    QWidget *buildPart(const char *name) override;
+    void pictureBuilt(MonitorPicture *picture) override;
     void followValue(Command command) override;
 
 private:

@@ -5,21 +5,14 @@
 
 #include <QPainter>
 
-#include "controls/dash.h"
-#include "controls/palette.h"
+#include "controls/monitorpicture.h"
 #include "page/MultiWindow/multiwindowtable.h"
+#include "page/MultiWindow/windowspicture.h"
 
 namespace {
 
 constexpr double kReach = 8; // of an edge, around it
-constexpr double kFrame = 12;
-constexpr double kStand = 34; // below the frame
-constexpr double kShape = 16.0 / 9;
-constexpr QSize kLargest(568, 364);
 constexpr int kLargestSize = 2;
-
-/// By the number of a window: what tells the inputs apart.
-constexpr QRgb kGrounds[] = {0xff18232c, 0xff1f3a33};
 
 std::optional<Inset> insetOf(const WindowsShown &windows)
 {
@@ -30,17 +23,19 @@ std::optional<Inset> insetOf(const WindowsShown &windows)
 
 } // namespace
 
-WindowArranger::WindowArranger(QWidget *parent) : PaintedControl(parent)
+WindowArranger::WindowArranger(MonitorPicture *picture) : PaintedControl(picture), m_picture(picture)
 {
     setObjectName(QStringLiteral("windowArranger"));
     setMouseTracking(true);
-    setMinimumHeight(220);
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    picture->installEventFilter(this);
+    resize(picture->size());
 }
 
-QSize WindowArranger::sizeHint() const
+bool WindowArranger::eventFilter(QObject *picture, QEvent *event)
 {
-    return kLargest;
+    if (event->type() == QEvent::Resize)
+        resize(m_picture->size());
+    return PaintedControl::eventFilter(picture, event);
 }
 
 std::optional<Inset> WindowArranger::inset() const
@@ -50,9 +45,7 @@ std::optional<Inset> WindowArranger::inset() const
 
 QRectF WindowArranger::screen() const
 {
-    const double width = std::min(
-        {kLargest.width() - 2 * kFrame, this->width() - 2 * kFrame - 2, (height() - kStand - 2 * kFrame - 2) * kShape});
-    return {kFrame + 1, kFrame + 1, width, width / kShape};
+    return m_picture->screenRect();
 }
 
 QRectF WindowArranger::insetNow() const
@@ -67,12 +60,6 @@ void WindowArranger::showWindows(const WindowsShown &windows)
         return;
     m_windows = windows;
     m_drag.reset();
-    update();
-}
-
-void WindowArranger::preview(const std::optional<WindowsShown> &windows)
-{
-    m_preview = windows;
     update();
 }
 
@@ -205,55 +192,15 @@ void WindowArranger::hideEvent(QHideEvent *event)
     PaintedControl::hideEvent(event);
 }
 
-void WindowArranger::drawWindow(QPainter &painter, const QRectF &rect, int number) const
-{
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(kGrounds[number - 1]));
-    painter.drawRect(rect);
-    QFont font = painter.font();
-    font.setPixelSize(std::max(14, static_cast<int>(rect.height() / 4)));
-    painter.setFont(font);
-    painter.setPen(QColor(number == 1 ? Palette::kHint : Palette::kMint));
-    painter.drawText(rect, Qt::AlignCenter, QString::number(number));
-}
-
-void WindowArranger::drawOutline(QPainter &painter, const QRectF &rect) const
-{
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(QColor(Palette::kBright), 1.5, Qt::DashLine));
-    painter.drawRect(rect);
-}
-
-void WindowArranger::drawPreview(QPainter &painter) const
-{
-    const QRectF room = screen();
-    if (const std::optional<Inset> end = m_drag ? wanted() : m_preview ? insetOf(*m_preview) : std::nullopt)
-        drawOutline(painter, insetRect(*end, room));
-    else if (m_preview && m_preview->mode == kPictureByPicture && m_windows.mode != kPictureByPicture)
-        drawOutline(painter, room.adjusted(room.width() / 2, 1, -1, -1));
-}
-
+/// What is set stays to be seen in the picture below: the drag is not written yet.
 void WindowArranger::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF room = screen();
-    const QRectF frame = room.adjusted(-kFrame, -kFrame, kFrame, kFrame);
-    painter.setPen(QPen(QColor(Palette::kHairline), 1));
-    painter.setBrush(QColor(Palette::kGround));
-    painter.drawRoundedRect(frame, 12, 12);
-    const double half = m_windows.mode == kPictureByPicture ? room.width() / 2 : 0;
-    drawWindow(painter, room.adjusted(0, 0, -half, 0), 1);
-    if (!m_windows.mode)
-        painter.drawText(room, Qt::AlignHCenter | Qt::AlignBottom, kDash);
-    if (half > 0)
-        drawWindow(painter, room.adjusted(half, 0, 0, 0), 2);
-    if (const QRectF small = m_drag ? m_drag->rect : insetNow(); !small.isEmpty()) {
-        drawWindow(painter, small, 2);
-        painter.setPen(QPen(QColor(Palette::kMint), 2));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawRect(small);
+    if (const std::optional<Inset> end = wanted()) {
+        drawWindow(painter, m_drag->rect, 2);
+        drawWindowEdge(painter, m_drag->rect, false);
+        drawWindowEdge(painter, insetRect(*end, screen()), true);
     }
-    drawPreview(painter);
-    drawFocus(painter, frame.toAlignedRect().adjusted(-1, -1, 1, 1), 12);
+    drawFocus(painter, screen().toAlignedRect().adjusted(-8, -8, 8, 8), 10);
 }

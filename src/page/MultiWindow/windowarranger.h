@@ -8,6 +8,8 @@
 #include "controls/paintedcontrol.h"
 #include "page/MultiWindow/insetplan.h"
 
+class MonitorPicture;
+
 /// What is shown of the windows: options of the monitor, nothing for what is not known.
 struct WindowsShown
 {
@@ -17,20 +19,18 @@ struct WindowsShown
     bool operator==(const WindowsShown &) const = default;
 };
 
-/// A drawn monitor with its windows. The small one of picture-in-picture is dragged to a corner, and its edges to a
-/// size; arrow keys, plus and minus do the same, and a press moves it on to the next corner. It sends nothing itself,
+/// The hand that lies on a drawn monitor: it drags the small window of picture-in-picture to a corner, and its edges to
+/// a size; arrow keys, plus and minus do the same, and a press moves it on to the next corner. It sends nothing itself,
 /// and says only at the end of a drag what is wanted, unless that is so already.
 class WindowArranger : public PaintedControl<QWidget>
 {
     Q_OBJECT
 public:
-    explicit WindowArranger(QWidget *parent = nullptr);
+    /// Covers the picture, which owns it.
+    explicit WindowArranger(MonitorPicture *picture);
 
     /// Shows what is set. A drag that this makes pointless ends without a wish.
     void showWindows(const WindowsShown &windows);
-
-    /// Shows, dashed, what would be if this were set as well; nothing to show only what is.
-    void preview(const std::optional<WindowsShown> &windows);
 
     /// Why nothing can be dragged now; empty when it can.
     void setLock(const QString &reason);
@@ -42,7 +42,6 @@ public:
     QRectF screen() const;
     QRectF insetNow() const;
 
-    QSize sizeHint() const override;
     QAccessible::Role accessibleRole() const override { return QAccessible::Canvas; }
     QString valueText() const override { return m_valueText; }
     bool isUsable() const override { return m_lock.isEmpty(); }
@@ -59,6 +58,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void hideEvent(QHideEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    bool eventFilter(QObject *picture, QEvent *event) override;
 
 private:
     struct Drag
@@ -73,12 +73,9 @@ private:
     void want(const Inset &inset);
     void endDrag();
     void followPointer(QPointF at);
-    void drawWindow(QPainter &painter, const QRectF &rect, int number) const;
-    void drawOutline(QPainter &painter, const QRectF &rect) const;
-    void drawPreview(QPainter &painter) const;
 
+    MonitorPicture *m_picture;
     WindowsShown m_windows;
-    std::optional<WindowsShown> m_preview;
     std::optional<Drag> m_drag;
     QString m_lock;
     QString m_valueText;

@@ -1,5 +1,6 @@
 #include "page/OledCare/caretable.h"
 
+#include "page/OledCare/carepictures.h"
 #include "page/engine/commandrows.h"
 #include "page/engine/labels.h"
 
@@ -76,12 +77,13 @@ const Section kIspPanel[] = {switchOf(Command::CareIsp)};
 
 const PanelSpec kPanels[] = {
     {LABEL("Care Plan"), "care_plan", "panelCarePlan", kPlan, Capability::OledPanel, kPlanHelp},
-    panelOf(Command::PixelShift, "pixel_shift", "panelPixelShift", kShiftPanel, kShiftHelp),
-    panelOf(Command::StillPicture, "still_picture", "panelStillPicture", kStillPanel, kStillHelp),
-    panelOf(Command::StaticIcon, "static_icon", "panelStaticIcon", kIconPanel, kIconHelp),
-    panelOf(Command::Taskbar, "taskbar", "panelTaskbar", kTaskbarPanel, kTaskbarHelp),
-    panelOf(Command::Boundary, "boundary", "panelBoundary", kBoundaryPanel, kBoundaryHelp),
-    panelOf(Command::CareIsp, "isp", "panelIsp", kIspPanel, kIspHelp),
+    panelOf(Command::PixelShift, "pixel_shift", "panelPixelShift", kShiftPanel, kShiftHelp, &carepictures::kPixelShift),
+    panelOf(Command::StillPicture, "still_picture", "panelStillPicture", kStillPanel, kStillHelp,
+            &carepictures::kStillPicture),
+    panelOf(Command::StaticIcon, "static_icon", "panelStaticIcon", kIconPanel, kIconHelp, &carepictures::kStaticIcon),
+    panelOf(Command::Taskbar, "taskbar", "panelTaskbar", kTaskbarPanel, kTaskbarHelp, &carepictures::kTaskbar),
+    panelOf(Command::Boundary, "boundary", "panelBoundary", kBoundaryPanel, kBoundaryHelp, &carepictures::kBoundary),
+    panelOf(Command::CareIsp, "isp", "panelIsp", kIspPanel, kIspHelp, &carepictures::kIsp),
 };
 
 } // namespace

@@ -11,7 +11,7 @@
 pageOledCare::pageOledCare(CommandQueue &queue, QWidget *parent)
     : PanelPage(QStringLiteral("pageOledCare"), OwnList::Shown, queue, parent), m_keeper(queue)
 {
-    buildPanels(carePanels());
+    buildPanelsWhenShown(carePanels());
     connect(&m_keeper, &CareKeeper::changed, this, [this] {
         if (isVisible())
             showCare();
@@ -82,6 +82,8 @@ void pageOledCare::begin()
     showResult(ok, QObject::tr("Start care"), [this] { begin(); });
     if (ok)
         m_keeper.begun();
+    else if (!isVisible()) // begun from the desktop
+        showMessage(QMessageBox::Warning, QObject::tr("Oled Care"), markText(Mark::Refused), QObject::tr("OK"));
 }
 
 void pageOledCare::remind()

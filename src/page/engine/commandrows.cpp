@@ -33,8 +33,8 @@ SliderSpec sliderOf(Command command, int minimum, int maximum, SendOn sendOn, co
 }
 
 PanelSpec panelOf(Command command, const char *icon, const char *widgetName, std::span<const Section> sections,
-                  const char *help)
+                  const char *help, const PanelPicture *picture)
 {
     const CommandName &name = nameOf(command);
-    return {name.label, icon, widgetName, sections, name.needs, help};
+    return {name.label, icon, widgetName, sections, name.needs, help, picture};
 }

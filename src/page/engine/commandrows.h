@@ -18,4 +18,4 @@ SliderSpec sliderOf(Command command, int minimum, int maximum, SendOn sendOn = S
 
 /// The panel of one setting, called as that is, for the monitors that have it.
 PanelSpec panelOf(Command command, const char *icon, const char *widgetName, std::span<const Section> sections,
-                  const char *help = nullptr);
+                  const char *help = nullptr, const PanelPicture *picture = nullptr);

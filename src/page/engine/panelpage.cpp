@@ -188,6 +188,7 @@ void PanelPage::fillPanel(const PanelSpec &panel, QVBoxLayout *column)
         return column->addStretch(1);
     auto *stage = new PictureStage(*panel.picture, {rows.begin(), rows.end()}, column->parentWidget());
     m_pictures[m_stack->count()] = stage;
+    pictureBuilt(stage->picture());
     column->addWidget(stage, 1);
 }
 

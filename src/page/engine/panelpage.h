@@ -7,6 +7,7 @@ class LeftTabButton;
 class QPushButton;
 class QScrollArea;
 class QStackedWidget;
+class MonitorPicture;
 class PictureStage;
 
 /// A settings page of several panels, of which one is shown. The user chooses it in the page's own list, or, on pages
@@ -44,6 +45,9 @@ protected:
     void buildPanelsWhenShown(std::span<const PanelSpec> panels);
 
     void showEvent(QShowEvent *event) override;
+
+    /// A panel's drawn monitor has been made: a page may lay something of its own on it.
+    virtual void pictureBuilt(MonitorPicture *) {}
 
     /// Whether a panel may be chosen now; a page that says no shows why.
     virtual bool mayShow(const PanelSpec &) { return true; }
