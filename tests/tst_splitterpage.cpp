@@ -21,6 +21,8 @@
 #include "tray/traypanel.h"
 #include "tray/traypanelopener.h"
 
+using namespace std::chrono_literals;
+
 namespace {
 
 constexpr std::uint32_t kControl = platform::kModifierControl;
@@ -38,6 +40,7 @@ private Q_SLOTS:
     void refusalIsTold();
     void overlayByNumbers();
     void openedFromElsewhere();
+    void goesWithTheFront();
     void drawingByMouseAndKeys();
     void unwritableFile();
     void screensChange();
@@ -188,7 +191,8 @@ void TestSplitterPage::overlayByNumbers()
              {[this] { QTest::mouseClick(overlay()->zones()[0], Qt::LeftButton); }, "0,0 683x720"},
              {[this] { QTest::keyClick(overlay()->zones()[0], Qt::Key_Return); }, "100,90 500x400"},
              {[this] { QTest::keyClick(overlay(), Qt::Key_3); }, "100,90 500x400"}}) {
-        m_window->onSpliter();
+        if (!overlay() || !overlay()->isVisible())
+            m_window->onSpliter();
         QVERIFY(overlay()->isVisible());
         m_desk->desk.applications().leaveFront(); // it takes the front itself
         const QString before = place();
@@ -226,6 +230,25 @@ void TestSplitterPage::openedFromElsewhere()
         QCOMPARE(overlay()->zones().size(), count);
         QVERIFY(overlay()->isVisible() && overlay()->accessibleName().contains(QLatin1String("notes.exe")));
         overlay()->hide();
+    }
+}
+
+/// While it opens the front may come and go.
+void TestSplitterPage::goesWithTheFront()
+{
+    startWith();
+    m_window->onSpliter();
+    for (const auto age : {0ms, 500ms}) {
+        overlay()->activateWindow();
+        QTRY_VERIFY(overlay()->isActiveWindow());
+        m_desk->clock.advance(age);
+        m_window->activateWindow();
+        QTRY_VERIFY(m_window->isActiveWindow());
+        QCOMPARE(overlay()->isVisible(), age == 0ms);
+    }
+    for (const bool shown : {true, false}) { // opening once more closes it
+        m_window->onSpliter();
+        QCOMPARE(overlay()->isVisible(), shown);
     }
 }
 

@@ -8,6 +8,7 @@ from casekit import REGISTERS, open_page, started
 from rig import START_SECONDS, wait_for, windows_path
 
 PROBLEM_COLOUR = "#da676d"
+SCREEN = "1600x1000"  # the rig's display
 BRIGHTNESS = 0x10
 KEYS = "[basicMode]\nswitchStatus=on\n\n[12]\nswitchStatus=on\nplusKey=Ctrl+B\nsubKey=Ctrl+Alt+D\n"
 MOD_CONTROL = "2"
@@ -126,6 +127,47 @@ def case_following(rig):
         switched("Painter", MOVIE_MODE)
         time.sleep(0.4)  # no flip
         switched("Reader", STANDARD_MODE)
+
+
+def place_of(run, name):
+    """Where a program's window is and where windows may be, each as left, top, right, bottom."""
+    numbers = [int(number) for number in (run.folder / f"{name}.place").read_text().splitlines()[-1].split()]
+    return numbers[:4], numbers[4:]
+
+
+def in_zone(run, name, zone):
+    """Whether the window's edges are those of a zone, in parts of 5040, within one pixel."""
+    found, (left, top, right, bottom) = place_of(run, name)
+    wanted = [begin + side * (end - begin) / 5040
+              for side, begin, end in zip(zone, (left, top) * 2, (right, bottom) * 2)]
+    return all(abs(is_at - should) <= 1 for is_at, should in zip(found, wanted))
+
+
+def case_splitter(rig):
+    """Keys put the window of another program into every zone of an own layout, within one pixel, and back where it was;
+    so does a number on the overlay, and the number pressed once more gives the old place back."""
+    zones = [(0, 0, 720, 5040), (720, 0, 5040, 1680), (720, 1680, 2891, 5040), (2891, 1680, 5040, 5040)]
+    own = "Work:" + "+".join("-".join(map(str, zone)) for zone in zones)
+    screen = f"QRV SIM 27 {SCREEN}"
+    keys = "KeyNext=Ctrl+1\nKeyPrevious=Ctrl+2\nKeyRestore=Ctrl+3\nKeyZones=Ctrl+4\n"
+    with started(rig, "splitter") as run:
+        with (run.folder / "config.ini").open("a") as file:
+            file.write(f"[Splitter]\n{keys}Layouts%20{screen}={own}\nChosen%20{screen}=own Work\n".replace(
+                screen, screen.replace(" ", "%20")))
+        run.start_and_show()
+        in_front(run, "Painter")
+        wait_for(lambda: run.active_title() == "Painter.exe", "the keyboard of the other program")
+        before = place_of(run, "Painter")[0]
+        for key, zone in (("ctrl+1", 0), ("ctrl+1", 1), ("ctrl+1", 2), ("ctrl+1", 3), ("ctrl+1", 0), ("ctrl+2", 3)):
+            run.press(key)
+            wait_for(lambda: in_zone(run, "Painter", zones[zone]), f"zone {zone + 1}")
+        run.press("ctrl+3")
+        wait_for(lambda: place_of(run, "Painter")[0] == before, "the old place")
+        for number, zone in ((3, zones[2]), (2, zones[1]), (2, None)):
+            run.press("ctrl+4")
+            run.click(f"zone_{number}")
+            wait_for(lambda: in_zone(run, "Painter", zone) if zone else place_of(run, "Painter")[0] == before,
+                     f"what number {number} does")
 
 
 def case_settings_file(rig):

@@ -1,7 +1,8 @@
 // A program that comes to the front when it is told to: it shows a window with the file's own name, <name>.exe, as its
 // title, and each time a file <name>.come lies in the working folder it removes that file and announces its window as
 // the one in front. Wine does not announce that by itself. <name>.came tells when, in milliseconds, a line each time.
-// It runs until it is killed.
+// <name>.place tells each place that the window had, and what windows may fill of the screen, a line each: left, top,
+// right and bottom of both. It runs until it is killed.
 
 #include <array>
 #include <chrono>
@@ -29,6 +30,26 @@ long long nowMs()
     return duration_cast<milliseconds>(system_clock::now().time_since_epoch()).count();
 }
 
+/// Where a window is and where windows may be.
+struct Place
+{
+    RECT window = {};
+    RECT work = {};
+
+    explicit Place(HWND of)
+    {
+        GetWindowRect(of, &window);
+        SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+    }
+};
+
+void tell(std::ofstream &file, const Place &place)
+{
+    for (const RECT &rect : {place.window, place.work})
+        file << rect.left << ' ' << rect.top << ' ' << rect.right << ' ' << rect.bottom << ' ';
+    file << std::endl;
+}
+
 void handleMessages()
 {
     MSG message;
@@ -46,9 +67,15 @@ int wmain()
     if (!window)
         return 1;
     std::ofstream came(fs::path(name) += L".came", std::ios::binary);
+    std::ofstream places(fs::path(name) += L".place", std::ios::binary);
+    RECT told = {};
     const fs::path order = fs::path(name) += L".come";
     for (;;) {
         handleMessages();
+        if (const Place place(window); !EqualRect(&place.window, &told)) {
+            tell(places, place);
+            told = place.window;
+        }
         std::error_code error;
         if (fs::remove(order, error)) {
             came << nowMs() << std::endl;

@@ -34,6 +34,8 @@ void Splitting::act(SplitAction action)
 
 void Splitting::openZones(bool fixed)
 {
+    if (m_overlay && m_overlay->isVisible())
+        return m_overlay->hide();
     m_window = m_splitter.windowMeant();
     const auto screen = m_splitter.screenOf(m_window);
     if (!screen)

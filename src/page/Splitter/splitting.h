@@ -33,7 +33,7 @@ public:
     ~Splitting() override;
 
     /// Shows the zones of the layout that is chosen for the screen of the window that the user means; with @p fixed
-    /// halves where that layout is the user's own.
+    /// halves where that layout is the user's own. Closes them when they are shown.
     void openZones(bool fixed = false);
 
     /// Null until it was first opened.

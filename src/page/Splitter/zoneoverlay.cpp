@@ -18,9 +18,11 @@
 #include "controls/palette.h"
 #include "controls/sharedfonts.h"
 #include "page/Splitter/zonepicture.h"
+#include "platform/desk.h"
 
 namespace {
 
+constexpr platform::milliseconds kSettles{500}; // while it opens the front may come and go
 constexpr int kWidth = 420;
 constexpr int kSide = 20;
 constexpr int kTitlePixels = 18;
@@ -86,7 +88,7 @@ void ZoneOverlay::open(const QString &title, const SplitLayout &layout, const QR
     const QRect area = toolkitScreen(screen)->availableGeometry();
     resize(kWidth, QWidget::layout()->totalHeightForWidth(kWidth));
     move(area.center() - rect().center());
-    m_hadFocus = false;
+    m_opened = platform::desk().clock().now();
     show();
     raise();
     activateWindow();
@@ -137,11 +139,9 @@ void ZoneOverlay::keyPressEvent(QKeyEvent *event)
 void ZoneOverlay::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
-    if (event->type() != QEvent::ActivationChange)
+    if (event->type() != QEvent::ActivationChange || isActiveWindow())
         return;
-    if (isActiveWindow())
-        m_hadFocus = true;
-    else if (m_hadFocus)
+    if (m_opened.msecsTo(platform::desk().clock().now()) >= kSettles.count())
         hide();
 }
 

@@ -3,6 +3,7 @@
 #include <optional>
 #include <vector>
 
+#include <QDateTime>
 #include <QWidget>
 
 #include "splitter/splitlayout.h"
@@ -46,5 +47,5 @@ private:
     QWidget *m_picture; ///< of the screen
     QLabel *m_hint;
     std::vector<QPushButton *> m_zones;
-    bool m_hadFocus = false; ///< since it was opened
+    QDateTime m_opened;
 };
