@@ -123,6 +123,7 @@ void TestSplitter::layoutsOfTheUser()
              {cutZone(halves, 0, Cut::Upright, 100), "-"}, // too small
              {cutZone(halves, 2, Cut::Upright, 2520), "-"},
              {joinZone(kCorner, 2), "0-0-2520-5040+2520-0-5040-5040"},
+             {joinZone(quarters, 0), "0-0-5040-2520+0-2520-2520-5040+2520-2520-5040-5040"}, // not to all at that line
              {joinZone(kCorner, 0), "0-0-5040-2520+0-2520-5040-5040"},
              {joinZone(wheel, 3), "-"},
              {joinZone({Zone()}, 0), "-"},

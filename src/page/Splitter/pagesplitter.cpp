@@ -36,23 +36,30 @@ pageSplitter::pageSplitter(KeyFields &fields, QWidget *parent)
     : ListPage(QStringLiteral("pageSplitter"), LABEL("Screen Splitter"),
                LABEL("Puts the window in front into a part of the screen. Here you choose how the screen is divided."),
                nullptr, parent),
-      m_screens(makeDropDown(this))
+      m_keys(new SplitterKeys(fields, texts(), this))
 {
-    buildTools();
-    auto *body = buildBody();
-    m_keys = new SplitterKeys(fields, texts(), body);
-    body->layout()->addWidget(m_keys);
-    showList(body, false);
+    m_keys->hide(); // until there is something to stand below
     connect(m_keys, &SplitterKeys::noticed, this, [this](const QString &text) { tell(text, true); });
     connect(m_keys, &SplitterKeys::unstored, this,
             [this] { tell(storeNotice(Unstored::HoldsUntilExit, QLatin1String(kConfigFile)), true); });
-    connect(&m_model, &LayoutModel::changed, this, &pageSplitter::showLayouts);
     connect(&m_model, &LayoutModel::unstored, this,
             [this] { tell(storeNotice(Unstored::Undone, QLatin1String(kConfigFile)), true); });
 }
 
+/// The keys begin with the program; the rest is made when it is first looked at.
+void pageSplitter::build()
+{
+    buildTools();
+    auto *body = buildBody();
+    body->layout()->addWidget(m_keys);
+    m_keys->show();
+    showList(body, false);
+    connect(&m_model, &LayoutModel::changed, this, &pageSplitter::showLayouts);
+}
+
 void pageSplitter::buildTools()
 {
+    m_screens = makeDropDown(this);
     m_screens->setObjectName(QStringLiteral("screenBox"));
     m_screens->setFixedSize(kScreenWidth, metrics::kControlHeight);
     connect(m_screens, &QComboBox::currentIndexChanged, this, [this](int index) {
@@ -95,6 +102,8 @@ QWidget *pageSplitter::buildBody()
 void pageSplitter::showEvent(QShowEvent *event)
 {
     ListPage::showEvent(event);
+    if (!m_editor)
+        build();
     fillScreens();
 }
 

@@ -24,6 +24,7 @@ public:
     void updateControlText() override;
 
     SplitterKeys *keys() const { return m_keys; }
+    /// Null until the page was first shown.
     LayoutEditor *editor() const { return m_editor; }
     LayoutModel &model() { return m_model; }
     QComboBox *screenBox() const { return m_screens; }
@@ -41,6 +42,7 @@ protected:
 
 private:
     void buildTools();
+    void build();
     QWidget *buildBody();
     void fillScreens();
     void showLayouts();
@@ -48,9 +50,9 @@ private:
 
     LayoutModel m_model;
     std::vector<SplitScreen> m_known; ///< in the order of the box
-    QComboBox *m_screens;
+    SplitterKeys *m_keys;
+    QComboBox *m_screens = nullptr;
     QWidget *m_tileRoom = nullptr;
     LayoutEditor *m_editor = nullptr;
     LayoutTools *m_layoutTools = nullptr;
-    SplitterKeys *m_keys = nullptr;
 };
