@@ -5,6 +5,7 @@
 #include "controls/colorpicker.h"
 #include "controls/desktoptoast.h"
 #include "controls/lefttabbutton.h"
+#include "controls/monitorpicture.h"
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/devicestate.h"
@@ -21,6 +22,7 @@
 #include "page/OledCare/pageoledcare.h"
 #include "page/Scene/pagescenesetting.h"
 #include "page/engine/optiongrouprow.h"
+#include "page/engine/picturestage.h"
 #include "support/sessiondesk.h"
 #include "support/wirevalues.h"
 
@@ -39,6 +41,7 @@ private Q_SLOTS:
     void answersDoNotOverwriteTheUser();
     void refusedSettingIsTold();
     void valuesOutOfRange();
+    void pointingShowsAndSendsNothing();
     void listByModel();
     void gameRushExcludesAdaptiveSync();
     void functionsThatAreOnAlready();
@@ -230,6 +233,43 @@ void TestPages::valuesOutOfRange()
     for (const QPushButton *option : page(System)->optionGroup(Command::PowerLed)->buttons())
         QVERIFY(!option->isChecked());
     QCOMPARE(m_desk->takeCommands(), QStringList());
+}
+
+void TestPages::pointingShowsAndSendsNothing()
+{
+    PanelPage *office = page(Office);
+    office->resize(1000, 680);
+    office->show();
+    QVERIFY(settle());
+    m_desk->takeCommands();
+    auto *stage = button(Office, "Paper_Paper_B5")->window()->findChild<PictureStage *>();
+    const auto seen = [stage] { return stage->picture()->grab().toImage(); };
+    const QImage before = seen();
+    const QPointF inside(5, 5);
+    QEnterEvent enter(inside, inside, inside);
+    QCoreApplication::sendEvent(button(Office, "Paper_Paper_B5"), &enter);
+    QCOMPARE(stage->preview(), std::optional(std::pair(Command::Paper, 2)));
+    QVERIFY(seen() != before);
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(button(Office, "Paper_Paper_B5"), &leave);
+    QVERIFY(!stage->preview() && seen() == before);
+    QCOMPARE(m_desk->takeCommands(), QStringList());
+
+    // What the monitor lays over a game is shown to the pixel: a green cross of 25 pixels in the middle.
+    PanelPage *game = page(Game);
+    game->resize(1000, 680);
+    for (const auto &[command, value] :
+         {std::pair(Command::Crosshair, 1), {Command::CrosshairShape, 1}, {Command::CrosshairColor, 2}, {Command::CrosshairPlace, 2}})
+        deviceState.told(command, value);
+    game->showPanel("Game Crosshair");
+    game->show();
+    auto *shown = game->findChild<QWidget *>("gameCrosshair")->findChild<PictureStage *>()->picture();
+    const QRectF screen = shown->screenRect();
+    const QPoint middle(qRound(screen.center().x()), qRound(screen.center().y()));
+    const QImage image = shown->grab().toImage();
+    constexpr QRgb kGreen = 0xff4bff7d;
+    for (const auto &[x, isOn] : {std::pair(-13, false), {-12, true}, {0, true}, {12, true}, {13, false}})
+        QCOMPARE(image.pixel(middle + QPoint(x, 0)) == kGreen, isOn);
 }
 
 void TestPages::listByModel()

@@ -1,6 +1,7 @@
 #include "page/BasicSetting/systemtable.h"
 
 #include "controls/metrics.h"
+#include "page/BasicSetting/systempictures.h"
 #include "page/engine/commandrows.h"
 #include "page/engine/commonhelp.h"
 #include "page/engine/commonoptions.h"
@@ -33,7 +34,9 @@ const SliderSpec kOsd[] = {
 };
 const SliderSpec kVolume[] = {sliderOf(Command::AudioVolume, 0, 100)};
 constexpr Option kAudioMode[] = {{LABEL("Standard"), 0}, {LABEL("Movie"), 1}, {LABEL("Convo"), 2}};
-constexpr Option kPowerSaving[] = {{LABEL("Close"), 0}, {LABEL("Level1"), 1}, {LABEL("Level2"), 2}};
+constexpr Option kPowerSaving[] = {{LABEL("Close"), 0, LABEL("As bright as you set it.")},
+                                   {LABEL("Level1"), 1, LABEL("A little darker, and a little cheaper.")},
+                                   {LABEL("Level2"), 2, LABEL("Clearly darker: for texts, not for pictures.")}};
 
 // Unlike Power Saving these start at 1.
 constexpr Option kPowerLed[] = {{LABEL("Close"), 1}, {LABEL("Level1"), 2}, {LABEL("Level2"), 3}, {LABEL("Level3"), 4}};
@@ -78,16 +81,16 @@ const Section kOsdLanguage[] = {groupOf(Command::OsdLanguage, kLanguages)};
 const Section kMenuLock[] = {switchOf(Command::MenuLock)};
 
 const PanelSpec kPanels[] = {
-    panelOf(Command::OutputRange, "output_range", "pageOutputRange", kOutputRange, kRangeHelp),
-    {LABEL("OSD Setting"), "osd_setting", "pageOSDSetting", kOsdSetting, {}, kOSDSettingHelp},
-    panelOf(Command::PowerSaving, "power_saving", "pagePowerSaving", kPowerSavingPanel, kPowerSavingHelp),
+    panelOf(Command::OutputRange, "output_range", "pageOutputRange", kOutputRange, kRangeHelp, &systempictures::kRange),
+    {LABEL("OSD Setting"), "osd_setting", "pageOSDSetting", kOsdSetting, {}, kOSDSettingHelp, &systempictures::kOsd},
+    panelOf(Command::PowerSaving, "power_saving", "pagePowerSaving", kPowerSavingPanel, kPowerSavingHelp, &systempictures::kPowerSaving),
     {LABEL("Audio Settings"), "audio_settings", "pageAduioSettings", kAudioSettings, {}, kAudioSettingsHelp}, // spelled
                                                                                                               // so
-    panelOf(Command::PowerLed, "power_led", "pagePowerLED", kPowerLedPanel, kPowerLEDHelp),
-    panelOf(Command::GravitySensor, "gravity_sensor", "pageGravitySensor", kGravitySensor, kGravitySensorHelp),
+    panelOf(Command::PowerLed, "power_led", "pagePowerLED", kPowerLedPanel, kPowerLEDHelp, &systempictures::kPowerLed),
+    panelOf(Command::GravitySensor, "gravity_sensor", "pageGravitySensor", kGravitySensor, kGravitySensorHelp, &systempictures::kGravity),
     panelOf(Command::ResetFactory, "reset_factory", "pageRestFactorySettings", kResetFactory, kResetFactoryHelp),
     panelOf(Command::OsdLanguage, "osd_language", "pageLanguage", kOsdLanguage, kLanguageHelp),
-    panelOf(Command::MenuLock, "menu_lock", "pageMenuLock", kMenuLock, kMenuLockHelp),
+    panelOf(Command::MenuLock, "menu_lock", "pageMenuLock", kMenuLock, kMenuLockHelp, &systempictures::kMenuLock),
 };
 
 } // namespace

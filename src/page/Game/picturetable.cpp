@@ -2,6 +2,8 @@
 #include "ddc_protocol/devicestate.h"
 
 #include "controls/metrics.h"
+#include "page/Game/enhancepictures.h"
+#include "page/Game/gamepictures.h"
 #include "page/engine/commandrows.h"
 #include "page/engine/commonhelp.h"
 #include "page/engine/commonoptions.h"
@@ -20,7 +22,10 @@ constexpr int kCaption = metrics::kCaptionWidth;
 // groups sends 2. Both are meant.
 constexpr Option kAlwaysOff[] = {{LABEL("         Enable"), 0}, {LABEL("         Disable"), 0}};
 
-constexpr Option kHdr[] = {{LABEL("Close"), 0}, {LABEL("Auto"), 1}, {LABEL("Game"), 2}, {LABEL("Movie"), 3}};
+constexpr Option kHdr[] = {{LABEL("Close"), 0, LABEL("Every picture is shown with the usual range.")},
+                           {LABEL("Auto"), 1, LABEL("Bright parts shine when the signal has the range for it.")},
+                           {LABEL("Game"), 2, LABEL("As Auto, with dark parts that stay readable.")},
+                           {LABEL("Movie"), 3, LABEL("As Auto, with deep shadows as a film wants them.")}};
 
 // The last option is "High" here and "Strong" on the scene page; the value is the same.
 constexpr Option kLocalDimming[] = {
@@ -62,20 +67,20 @@ const Section kAdaptiveSync[] = {switchOf(Command::AdaptiveSync)};
 std::vector<PanelSpec> picturePanels(const DeviceState &state)
 {
     const PanelSpec motion = state.has(Capability::MpcsMotion)
-                                 ? PanelSpec{LABEL("MPCS"), "motion", "pageMotion", kMpcs, {}, kMotionHelp}
-                                 : PanelSpec{LABEL("DyDs"), "motion", "pageMotion", kDyds, {}, kMotionHelp};
+                                 ? PanelSpec{LABEL("MPCS"), "motion", "pageMotion", kMpcs, {}, kMotionHelp, &enhancepictures::kMotion}
+                                 : PanelSpec{LABEL("DyDs"), "motion", "pageMotion", kDyds, {}, kMotionHelp, &enhancepictures::kMotion};
     return {
-        {LABEL("Game Rush"), "game_rush", "pageGameRush", kGameRush, {}, kGameRushHelp},
+        {LABEL("Game Rush"), "game_rush", "pageGameRush", kGameRush, {}, kGameRushHelp, &gamepictures::kRush},
         motion,
-        panelOf(Command::NightVision, "night_vision", "pageNightVision", kNightVisionPanel, kNightVisionHelp),
-        {LABEL("Dynamic OD"), "dynamic_od", "pageDynamicOD", kDynamicOd, {}, kResponseHelp},
-        panelOf(Command::Hdr, "hdr", "pageHDR", kHdrPanel, kHDRHelp),
-        panelOf(Command::ColorEnhance, "color_enhance", "pageColorEnhance", kColorEnhancePanel, kColorHelp),
-        panelOf(Command::ContrastEnhance, "cr_enhance", "pageCREnhance", kContrastEnhancePanel, kContrastHelp),
-        {LABEL("Shadow Balance"), "shadow_balance", "pageShadowBalance", kShadowBalancePanel, {}, kShadowHelp},
-        {LABEL("SR"), "super_resolution", "pageSR", kSuperResolutionPanel, {}, kResolutionHelp},
-        panelOf(Command::LocalDimming, "local_dimming", "pageLocaldimming", kLocalDimmingPanel, kDimmingHelp),
-        panelOf(Command::HaloControl, "halo_control", "pageHaloControl", kHaloControlPanel, kHaloHelp),
-        panelOf(Command::AdaptiveSync, "adaptive_sync", "pageAdaptiveSync", kAdaptiveSync, kAdaptiveSyncHelp),
+        panelOf(Command::NightVision, "night_vision", "pageNightVision", kNightVisionPanel, kNightVisionHelp, &gamepictures::kNightVision),
+        {LABEL("Dynamic OD"), "dynamic_od", "pageDynamicOD", kDynamicOd, {}, kResponseHelp, &enhancepictures::kResponse},
+        panelOf(Command::Hdr, "hdr", "pageHDR", kHdrPanel, kHDRHelp, &enhancepictures::kHdr),
+        panelOf(Command::ColorEnhance, "color_enhance", "pageColorEnhance", kColorEnhancePanel, kColorHelp, &enhancepictures::kColor),
+        panelOf(Command::ContrastEnhance, "cr_enhance", "pageCREnhance", kContrastEnhancePanel, kContrastHelp, &enhancepictures::kContrast),
+        {LABEL("Shadow Balance"), "shadow_balance", "pageShadowBalance", kShadowBalancePanel, {}, kShadowHelp, &enhancepictures::kShadows},
+        {LABEL("SR"), "super_resolution", "pageSR", kSuperResolutionPanel, {}, kResolutionHelp, &enhancepictures::kResolution},
+        panelOf(Command::LocalDimming, "local_dimming", "pageLocaldimming", kLocalDimmingPanel, kDimmingHelp, &enhancepictures::kDimming),
+        panelOf(Command::HaloControl, "halo_control", "pageHaloControl", kHaloControlPanel, kHaloHelp, &enhancepictures::kHalo),
+        panelOf(Command::AdaptiveSync, "adaptive_sync", "pageAdaptiveSync", kAdaptiveSync, kAdaptiveSyncHelp, &enhancepictures::kSync),
     };
 }

@@ -1,5 +1,6 @@
 #include "page/IO/iotable.h"
 
+#include "page/IO/iopictures.h"
 #include "page/engine/commandrows.h"
 #include "page/engine/commonhelp.h"
 #include "page/engine/commonoptions.h"
@@ -32,8 +33,8 @@ const PanelSpec kPanels[] = {
     panelOf(Command::OutputRange, "output_range", "pageOutputRange", kOutputRange, kRangeHelp),
     panelOf(Command::QuickBoot, "quick_boot", "pageQuickBoot", kQuickBoot, kQuickBootHelp),
     panelOf(Command::UsbPower, "usb_power", "pageUSBPower", kUsbPower, kUSBPowerHelp),
-    panelOf(Command::UsbSwitch, "usb_switch", "pageUSBSwitch", kUsbSwitchPanel, kUSBSwitchHelp),
-    panelOf(Command::InputSignal, "input_signal", "pageInputSignal", kInputSignalPanel, kInputSignalHelp),
+    panelOf(Command::UsbSwitch, "usb_switch", "pageUSBSwitch", kUsbSwitchPanel, kUSBSwitchHelp, &iopictures::kUsb),
+    panelOf(Command::InputSignal, "input_signal", "pageInputSignal", kInputSignalPanel, kInputSignalHelp, &iopictures::kInput),
     panelOf(Command::Cec, "cec", "pageCEC", kCec, kCECHelp),
 };
 

@@ -2,6 +2,7 @@
 
 #include <QButtonGroup>
 #include <QHBoxLayout>
+#include <QPainter>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QStackedWidget>
@@ -10,12 +11,13 @@
 #include "controls/accessiblecontrol.h"
 #include "controls/focusgroup.h"
 #include "controls/metrics.h"
-#include "controls/pictures.h"
+#include "controls/monitorpicture.h"
 #include "controls/sharedfonts.h"
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/scenemodes.h"
 #include "page/Scene/scenelocks.h"
+#include "page/Scene/scenelooks.h"
 #include "page/Scene/scenetable.h"
 #include "page/Scene/workthread.h"
 #include "page/engine/halfbutton.h"
@@ -23,6 +25,8 @@
 #include "page/engine/pagehead.h"
 #include "page/engine/pagestyle.h"
 #include "page/engine/plainbutton.h"
+
+static constexpr QSize kLook(420, 280); // of the drawn monitor
 
 pageSceneSetting::pageSceneSetting(SearchDeviceDlg &session, CommandQueue &queue, QWidget *parent)
     : SettingsPage(queue, parent), m_worker(new WorkThread(session, this)), m_areas(new QStackedWidget(this))
@@ -75,7 +79,12 @@ void pageSceneSetting::buildHead(QVBoxLayout *column)
 QWidget *pageSceneSetting::buildDefaultArea()
 {
     auto *area = new QWidget(m_areas);
-    m_defaultIcon = new QLabel(area);
+    m_look = new MonitorPicture(area);
+    m_look->setFixedSize(kLook);
+    m_look->setPainter([](QPainter &painter, const QRectF &screen) {
+        painter.drawImage(screen.topLeft(),
+                          testPicture(screen.size().toSize(), sceneLook(deviceState.value(Command::SceneMode))));
+    });
     m_defaultText = new QLabel(area);
     m_defaultText->setObjectName(QStringLiteral("note"));
     m_defaultText->setFont(noteFont);
@@ -83,7 +92,7 @@ QWidget *pageSceneSetting::buildDefaultArea()
     auto *column = new QVBoxLayout(area);
     column->setSpacing(16);
     column->addStretch(2);
-    column->addWidget(m_defaultIcon, 0, Qt::AlignHCenter);
+    column->addWidget(m_look, 0, Qt::AlignHCenter);
     column->addWidget(m_defaultText);
     auto *own = makePlainButton(LABEL("Make it your own"), QStringLiteral("makeOwn"), texts(), area);
     connect(own, &QPushButton::clicked, m_customButton, &QPushButton::click);
@@ -213,9 +222,9 @@ void pageSceneSetting::showTitle()
     m_head->setHelp(m_defaultView ? QObject::tr("The picture as the factory set it.")
                                   : QObject::tr("Your own picture. Changes are sent to the monitor as you make them."));
     m_defaultText->setText(mode ? QObject::tr(mode->hint) : QString());
-    const QString icon = QStringLiteral("img/entry/%1_checked.png").arg(QLatin1String(mode ? mode->icon : "standard"));
-    const QPixmap picture = Pictures::load(Pictures::kRoot + icon, 2.0);
-    m_defaultIcon->setPixmap(picture.scaled(picture.size() * 2, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    m_look->setAccessibleName(QObject::tr("What it looks like"));
+    m_look->setAccessibleDescription(m_defaultText->text());
+    m_look->update();
 }
 
 /// Whoever comes back, or looks at another monitor, begins anew.

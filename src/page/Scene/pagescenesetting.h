@@ -2,6 +2,7 @@
 
 #include "page/engine/settingspage.h"
 
+class MonitorPicture;
 class QPushButton;
 class QScrollArea;
 class QStackedWidget;
@@ -67,7 +68,7 @@ private:
 
     WorkThread *m_worker;
     PageHead *m_head = nullptr;
-    QLabel *m_defaultIcon = nullptr;
+    MonitorPicture *m_look = nullptr; ///< how the mode shows a picture
     QLabel *m_defaultText = nullptr;
     QPushButton *m_defaultButton = nullptr;
     QPushButton *m_customButton = nullptr;

@@ -1,0 +1,133 @@
+#include "page/BasicSetting/systempictures.h"
+
+#include <algorithm>
+
+#include <QPainter>
+#include <QRadialGradient>
+
+#include "controls/palette.h"
+#include "controls/screenguides.h"
+#include "controls/testpicture.h"
+
+namespace systempictures {
+
+namespace {
+
+void drawPicture(QPainter &painter, const QRectF &screen, const PictureLook &look)
+{
+    painter.drawImage(screen.topLeft(), testPicture(screen.size().toSize(), look));
+}
+
+void paintRange(QPainter &painter, const QRectF &screen, const PictureValues &values)
+{
+    // A signal of the other range looks washed out.
+    drawPicture(painter, screen, values.is(Command::OutputRange, 1) ? PictureLook{.contrast = 0.36, .shadows = 0.3}
+                                                                    : PictureLook{});
+}
+
+/// The monitor's menu, as large as it is on a screen of this size.
+QRectF menuOn(const QRectF &screen, const PictureValues &values)
+{
+    QRectF menu(0, 0, screen.width() * 0.36, screen.height() * 0.44);
+    const QSizeF room = screen.size() - menu.size();
+    menu.moveTopLeft(screen.topLeft() + QPointF(room.width() * values(Command::OsdHPosition, 50) / 100,
+                                                room.height() * values(Command::OsdVPosition, 50) / 100));
+    return menu;
+}
+
+void drawMenu(QPainter &painter, const QRectF &menu, double opacity)
+{
+    painter.save();
+    painter.setOpacity(opacity);
+    painter.setPen(QPen(QColor(Palette::kEdge), 1));
+    painter.setBrush(QColor(Palette::kGround));
+    painter.drawRoundedRect(menu, 6, 6);
+    painter.setPen(Qt::NoPen);
+    for (int row = 0; row < 5; ++row) {
+        painter.setBrush(QColor(row == 1 ? Palette::kMint : Palette::kRestingEdge));
+        painter.drawRoundedRect(QRectF(menu.left() + 12, menu.top() + menu.height() * (0.12 + 0.17 * row),
+                                       menu.width() * (0.7 - 0.08 * (row % 3)), menu.height() * 0.07),
+                                2, 2);
+    }
+    painter.restore();
+}
+
+void paintOsd(QPainter &painter, const QRectF &screen, const PictureValues &values)
+{
+    screenguides::drawDesktop(painter, screen);
+    const QRectF menu = menuOn(screen, values);
+    drawMenu(painter, menu, 1 - 0.8 * values(Command::OsdTransparency, 0) / 100.0);
+    painter.setPen(QColor(Palette::kText));
+    painter.drawText(menu.adjusted(0, 0, -10, -6), Qt::AlignRight | Qt::AlignBottom,
+                     QObject::tr("%1 s").arg(values(Command::OsdShowTime, 20)));
+}
+
+void paintPowerSaving(QPainter &painter, const QRectF &screen, const PictureValues &values)
+{
+    drawPicture(painter, screen, {.brightness = 0.5 - 0.13 * std::clamp(values(Command::PowerSaving, 0), 0, 2)});
+}
+
+void paintPowerLed(QPainter &painter, const QRectF &screen, const PictureValues &values)
+{
+    // The lamp and what is around it, seen from near.
+    painter.fillRect(screen, QColor(0xff060807));
+    QRectF edge(screen.left(), screen.center().y(), screen.width(), screen.height() / 2);
+    painter.fillRect(edge, QColor(0xff1a1f1d));
+    const double level = (std::clamp(values(Command::PowerLed, 1), 1, 4) - 1) / 3.0;
+    const QPointF lamp(screen.center().x(), edge.center().y());
+    QRadialGradient glow(lamp, screen.height() * (0.1 + 0.35 * level));
+    glow.setColorAt(0, QColor(0, 255, 113, int(200 * level)));
+    glow.setColorAt(1, QColor(0, 255, 113, 0));
+    painter.fillRect(screen, glow);
+    painter.setPen(QPen(QColor(Palette::kRestingEdge), 1));
+    painter.setBrush(level > 0 ? QColor::fromRgbF(0.2F, 1.0F, 0.55F, float(0.4 + 0.6 * level))
+                               : QColor(0xff0c100e));
+    painter.drawEllipse(lamp, 9, 9);
+}
+
+/// The screen, standing upright when it notices that it is.
+void paintGravity(QPainter &painter, const QRectF &screen, const PictureValues &values)
+{
+    painter.fillRect(screen, QColor(0xff0b0f0d));
+    QRectF upright(0, 0, screen.height() * 0.5, screen.height() * 0.88);
+    upright.moveCenter(screen.center());
+    painter.setPen(QPen(QColor(Palette::kEdge), 2));
+    painter.setBrush(QColor(0xff18242e));
+    painter.drawRoundedRect(upright, 6, 6);
+    painter.save();
+    painter.translate(upright.center());
+    if (values(Command::GravitySensor, 0) == 0)
+        painter.rotate(90); // the menu lies on its side
+    QRectF menu(0, 0, upright.width() * 0.8, upright.width() * 0.6);
+    menu.moveCenter(QPointF());
+    drawMenu(painter, menu, 1);
+    painter.restore();
+}
+
+void paintMenuLock(QPainter &painter, const QRectF &screen, const PictureValues &values)
+{
+    screenguides::drawDesktop(painter, screen);
+    const QRectF menu = menuOn(screen, values);
+    const bool isLocked = values(Command::MenuLock, 0) != 0;
+    drawMenu(painter, menu, isLocked ? 0.45 : 1);
+    if (!isLocked)
+        return;
+    const QPointF middle = menu.center();
+    painter.setPen(QPen(QColor(Palette::kMint), 4));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawArc(QRectF(middle.x() - 12, middle.y() - 28, 24, 30), 0, 180 * 16);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(Palette::kMint));
+    painter.drawRoundedRect(QRectF(middle.x() - 19, middle.y() - 12, 38, 30), 4, 4);
+}
+
+} // namespace
+
+const PanelPicture kRange{paintRange};
+const PanelPicture kOsd{paintOsd};
+const PanelPicture kPowerSaving{paintPowerSaving};
+const PanelPicture kPowerLed{paintPowerLed};
+const PanelPicture kGravity{paintGravity};
+const PanelPicture kMenuLock{paintMenuLock};
+
+} // namespace systempictures

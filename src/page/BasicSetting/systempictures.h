@@ -1,0 +1,10 @@
+#pragma once
+
+#include "page/engine/panelpicture.h"
+
+// What the monitor's own settings look like.
+namespace systempictures {
+
+extern const PanelPicture kRange, kOsd, kPowerSaving, kPowerLed, kGravity, kMenuLock;
+
+} // namespace systempictures
