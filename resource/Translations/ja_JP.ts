@@ -745,7 +745,7 @@
     </message>
     <message>
         <source>Close = dark, Normal = one colour, Effect = it moves, Rhythm = follows sound or screen, Eye Care = calm white.</source>
-        <translation>閉じる = 消灯、通常 = 一色、エフェクト = 動く光、連動 = 音や画面に合わせる、アイケア = 白い光。</translation>
+        <translation>オフ = 消灯、通常 = 一色、エフェクト = 動く光、連動 = 音や画面に合わせる、アイケア = 白い光。</translation>
     </message>
     <message>
         <source>Close window</source>

@@ -19,6 +19,7 @@
 namespace {
 
 constexpr int kCaptionPixels = 15;
+constexpr int kEndsHeight = 20;
 constexpr int kValueWidth = 96; // behind a slider: its value and the room for a lock
 
 /// What the picture shows, beyond the panel that is in sight.
@@ -132,6 +133,7 @@ QWidget *pageEmberline::buildTemperatureEnds()
     for (const char *label : {LABEL("Warm"), LABEL("Cold")}) {
         QLabel *caption = makeCaption(ends);
         caption->setStyleSheet(QStringLiteral("color: #adadad;"));
+        caption->setFixedHeight(kEndsHeight); // which keeps it close to its slider
         texts().bind(label, [caption](const QString &text) { caption->setText(text); });
         if (row->count() != 0)
             row->addStretch(1);

@@ -17,6 +17,7 @@
 
 namespace {
 
+constexpr platform::milliseconds kAskAfter{2000}; // what is in sight comes first
 constexpr platform::milliseconds kLookEvery{100};
 constexpr platform::milliseconds kListenEvery{3000};
 
@@ -68,7 +69,7 @@ RhythmLight::RhythmLight(CommandQueue &queue, AutomaticWriter &writer, QObject *
         setState(State::Follows);
         show(soundColours(heights));
     });
-    follow();
+    followLink();
 }
 
 void RhythmLight::systemNoticed(SystemNotice notice)
@@ -84,6 +85,11 @@ void RhythmLight::systemNoticed(SystemNotice notice)
 void RhythmLight::followLink()
 {
     m_asked.clear();
+    m_mayAsk = false;
+    platform::desk().clock().callLater(kAskAfter, this, [this, found = ++m_found] {
+        m_mayAsk = m_mayAsk || found == m_found;
+        follow();
+    });
     follow();
 }
 
@@ -121,7 +127,7 @@ RhythmLight::Source RhythmLight::wantedSource()
 /// What is not known is asked for once: whoever does not answer that may not have it.
 void RhythmLight::askOnce(Command command)
 {
-    if (deviceState.confirmed(command) || std::exchange(m_asked[command], true))
+    if (!m_mayAsk || deviceState.confirmed(command) || std::exchange(m_asked[command], true))
         return;
     m_queue.ask(command);
 }

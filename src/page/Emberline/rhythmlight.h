@@ -65,6 +65,8 @@ private:
     State m_state = State::Off;
     bool m_isLocked = false;
     bool m_heard = false;             ///< since the last look
+    bool m_mayAsk = false;            ///< the monitor was not found just now
+    int m_found = 0;                  ///< how often it was
     std::map<Command, bool> m_asked;  ///< what the monitor was asked for since it was found
     std::map<Command, QRgb> m_wished; ///< the newest colour of each tone
     int m_run = 0;                    ///< what was to come in an earlier one does not any more
