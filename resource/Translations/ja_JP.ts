@@ -2785,7 +2785,7 @@
     </message>
     <message>
         <source>Slow</source>
-        <translation>低速</translation>
+        <translation>遅い</translation>
     </message>
     <message>
         <source>Small</source>

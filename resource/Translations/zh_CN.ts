@@ -2097,7 +2097,7 @@
     </message>
     <message>
         <source>Normal</source>
-        <translation>常亮</translation>
+        <translation>普通</translation>
     </message>
     <message>
         <source>Not told: %1</source>
@@ -2785,7 +2785,7 @@
     </message>
     <message>
         <source>Slow</source>
-        <translation>迟缓</translation>
+        <translation>慢</translation>
     </message>
     <message>
         <source>Small</source>

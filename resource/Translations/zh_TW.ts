@@ -2097,7 +2097,7 @@
     </message>
     <message>
         <source>Normal</source>
-        <translation>恆亮</translation>
+        <translation>一般</translation>
     </message>
     <message>
         <source>Not told: %1</source>
@@ -2785,7 +2785,7 @@
     </message>
     <message>
         <source>Slow</source>
-        <translation>遲緩</translation>
+        <translation>慢</translation>
     </message>
     <message>
         <source>Small</source>
