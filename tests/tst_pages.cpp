@@ -258,8 +258,10 @@ void TestPages::pointingShowsAndSendsNothing()
     // What the monitor lays over a game is shown to the pixel: a green cross of 25 pixels in the middle.
     PanelPage *game = page(Game);
     game->resize(1000, 680);
-    for (const auto &[command, value] :
-         {std::pair(Command::Crosshair, 1), {Command::CrosshairShape, 1}, {Command::CrosshairColor, 2}, {Command::CrosshairPlace, 2}})
+    for (const auto &[command, value] : {std::pair(Command::Crosshair, 1),
+                                         {Command::CrosshairShape, 1},
+                                         {Command::CrosshairColor, 2},
+                                         {Command::CrosshairPlace, 2}})
         deviceState.told(command, value);
     game->showPanel("Game Crosshair");
     game->show();

@@ -184,7 +184,7 @@ private Q_SLOTS:
         startIn(3, 1, qRgb(255, 0, 0), qRgb(255, 0, 0));
         look();
         QCOMPARE(m_desk->takeCommands().filter("W"), QStringList{"W 86=63488"}); // 31 of 31 red
-        showHalves(qRgb(248, 6, 4), qRgb(248, 6, 4)); // other bits of the tone
+        showHalves(qRgb(248, 6, 4), qRgb(248, 6, 4));                            // other bits of the tone
         look();
         QCOMPARE(nextWrites(3s), QStringList()); // nobody sees that
         const QDateTime begin = m_desk->clock.now();

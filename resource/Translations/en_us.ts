@@ -96,6 +96,10 @@
         <translation>%1 rows, %2 cells, %3 on</translation>
     </message>
     <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
         <source>%1 s left</source>
         <translation>%1 s left</translation>
     </message>
@@ -288,12 +292,20 @@
         <translation>A balanced picture for every day.</translation>
     </message>
     <message>
+        <source>A circle, for what is in the middle.</source>
+        <translation>A circle, for what is in the middle.</translation>
+    </message>
+    <message>
         <source>A colour that can be seen to change is sent, at most one a second.</source>
         <translation>A colour that can be seen to change is sent, at most one a second.</translation>
     </message>
     <message>
         <source>A crosshair that takes the colour that stands out and opens while the picture moves.</source>
         <translation>A crosshair that takes the colour that stands out and opens while the picture moves.</translation>
+    </message>
+    <message>
+        <source>A diagonal and the lines that meet it: for pictures with a slant.</source>
+        <translation>A diagonal and the lines that meet it: for pictures with a slant.</translation>
     </message>
     <message>
         <source>A dim picture for dark rooms.</source>
@@ -304,12 +316,36 @@
         <translation>A line of text that the matrix shows, standing or scrolling.</translation>
     </message>
     <message>
+        <source>A little darker, and a little cheaper.</source>
+        <translation>A little darker, and a little cheaper.</translation>
+    </message>
+    <message>
         <source>A little darker: hardly to be seen, for normal work.</source>
         <translation>A little darker: hardly to be seen, for normal work.</translation>
     </message>
     <message>
+        <source>A protractor around the middle, to measure angles.</source>
+        <translation>A protractor around the middle, to measure angles.</translation>
+    </message>
+    <message>
         <source>A quarter of the screen&apos;s width: hides least of the first input.</source>
         <translation>A quarter of the screen&apos;s width: hides least of the first input.</translation>
+    </message>
+    <message>
+        <source>A sheet as large as you set it below.</source>
+        <translation>A sheet as large as you set it below.</translation>
+    </message>
+    <message>
+        <source>A sheet of 125 × 176 mm, as of a paperback.</source>
+        <translation>A sheet of 125 × 176 mm, as of a paperback.</translation>
+    </message>
+    <message>
+        <source>A sheet of 176 × 250 mm, for books and brochures.</source>
+        <translation>A sheet of 176 × 250 mm, for books and brochures.</translation>
+    </message>
+    <message>
+        <source>A sheet of 210 × 297 mm, upright, in the middle of the screen.</source>
+        <translation>A sheet of 210 × 297 mm, upright, in the middle of the screen.</translation>
     </message>
     <message>
         <source>A soft page for long texts.</source>
@@ -484,6 +520,18 @@
         <translation>Art Design Mode</translation>
     </message>
     <message>
+        <source>As Auto, with dark parts that stay readable.</source>
+        <translation>As Auto, with dark parts that stay readable.</translation>
+    </message>
+    <message>
+        <source>As Auto, with deep shadows as a film wants them.</source>
+        <translation>As Auto, with deep shadows as a film wants them.</translation>
+    </message>
+    <message>
+        <source>As bright as you set it.</source>
+        <translation>As bright as you set it.</translation>
+    </message>
+    <message>
         <source>Asked again and told; nothing to do.</source>
         <translation>Asked again and told; nothing to do.</translation>
     </message>
@@ -574,6 +622,10 @@
     <message>
         <source>Breathe</source>
         <translation>Breathe</translation>
+    </message>
+    <message>
+        <source>Bright parts shine when the signal has the range for it.</source>
+        <translation>Bright parts shine when the signal has the range for it.</translation>
     </message>
     <message>
         <source>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = when needed.</source>
@@ -730,6 +782,10 @@
     <message>
         <source>Clean Frame</source>
         <translation>Clean Frame</translation>
+    </message>
+    <message>
+        <source>Clearly darker: for texts, not for pictures.</source>
+        <translation>Clearly darker: for texts, not for pictures.</translation>
     </message>
     <message>
         <source>Clock</source>
@@ -1094,6 +1150,10 @@
     <message>
         <source>Every packet holds 7001 frames until the button is released</source>
         <translation>Every packet holds 7001 frames until the button is released</translation>
+    </message>
+    <message>
+        <source>Every picture is shown with the usual range.</source>
+        <translation>Every picture is shown with the usual range.</translation>
     </message>
     <message>
         <source>Every request takes 400 ms longer</source>
@@ -1536,6 +1596,10 @@
         <translation>It may not be changed.</translation>
     </message>
     <message>
+        <source>Keeps what matters away from the edges.</source>
+        <translation>Keeps what matters away from the edges.</translation>
+    </message>
+    <message>
         <source>Keyboard</source>
         <translation>Keyboard</translation>
     </message>
@@ -1728,6 +1792,14 @@
         <translation>Lighting</translation>
     </message>
     <message>
+        <source>Lines at 38 and 62 per cent: balanced, and less rigid than thirds.</source>
+        <translation>Lines at 38 and 62 per cent: balanced, and less rigid than thirds.</translation>
+    </message>
+    <message>
+        <source>Lines at thirds: put what matters where they cross.</source>
+        <translation>Lines at thirds: put what matters where they cross.</translation>
+    </message>
+    <message>
         <source>Listening…</source>
         <translation>Listening…</translation>
     </message>
@@ -1818,6 +1890,10 @@
     <message>
         <source>Manual</source>
         <translation>Manual</translation>
+    </message>
+    <message>
+        <source>Marks along two edges, to measure and compare lengths.</source>
+        <translation>Marks along two edges, to measure and compare lengths.</translation>
     </message>
     <message>
         <source>Matches notebooks with a Display P3 screen.</source>
@@ -3344,6 +3420,14 @@
         <translation>This tool says on the desktop that care is due: never over a program that fills the screen.</translation>
     </message>
     <message>
+        <source>Three columns and three rows.</source>
+        <translation>Three columns and three rows.</translation>
+    </message>
+    <message>
+        <source>Three columns and two rows.</source>
+        <translation>Three columns and two rows.</translation>
+    </message>
+    <message>
         <source>Time</source>
         <translation>Time</translation>
     </message>
@@ -3414,6 +3498,10 @@
     <message>
         <source>Try again; its scene or another setting may forbid it.</source>
         <translation>Try again; its scene or another setting may forbid it.</translation>
+    </message>
+    <message>
+        <source>Two columns and two rows.</source>
+        <translation>Two columns and two rows.</translation>
     </message>
     <message>
         <source>Two tones</source>

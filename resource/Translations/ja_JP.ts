@@ -96,6 +96,10 @@
         <translation>%1 行、%2 セル、点灯 %3</translation>
     </message>
     <message>
+        <source>%1 s</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
         <source>%1 s left</source>
         <translation>残り %1 秒</translation>
     </message>
@@ -288,12 +292,20 @@
         <translation>日常使いに適したバランスのよい画質です。</translation>
     </message>
     <message>
+        <source>A circle, for what is in the middle.</source>
+        <translation>円。中央の主題に向いています。</translation>
+    </message>
+    <message>
         <source>A colour that can be seen to change is sent, at most one a second.</source>
         <translation>見て分かる色の変化だけを、1 秒に 1 回まで送ります。</translation>
     </message>
     <message>
         <source>A crosshair that takes the colour that stands out and opens while the picture moves.</source>
         <translation>目立つ色になり、画面が動くと開く照準です。</translation>
+    </message>
+    <message>
+        <source>A diagonal and the lines that meet it: for pictures with a slant.</source>
+        <translation>対角線とそれに交わる線。斜めの構図に向いています。</translation>
     </message>
     <message>
         <source>A dim picture for dark rooms.</source>
@@ -304,12 +316,36 @@
         <translation>マトリックスに静止またはスクロールで表示する 1 行のテキスト。</translation>
     </message>
     <message>
+        <source>A little darker, and a little cheaper.</source>
+        <translation>少し暗く、少し省電力です。</translation>
+    </message>
+    <message>
         <source>A little darker: hardly to be seen, for normal work.</source>
         <translation>わずかに暗くします。ほとんど気づかないので、普段の作業に向いています。</translation>
     </message>
     <message>
+        <source>A protractor around the middle, to measure angles.</source>
+        <translation>中央に分度器を表示し、角度を測れます。</translation>
+    </message>
+    <message>
         <source>A quarter of the screen&apos;s width: hides least of the first input.</source>
         <translation>画面の幅の 4 分の 1。1 つ目の入力を隠す部分が最も少なくなります。</translation>
+    </message>
+    <message>
+        <source>A sheet as large as you set it below.</source>
+        <translation>下で設定した大きさの用紙です。</translation>
+    </message>
+    <message>
+        <source>A sheet of 125 × 176 mm, as of a paperback.</source>
+        <translation>125 × 176 mm の用紙。文庫ほどの大きさです。</translation>
+    </message>
+    <message>
+        <source>A sheet of 176 × 250 mm, for books and brochures.</source>
+        <translation>176 × 250 mm の用紙。本や冊子に向いています。</translation>
+    </message>
+    <message>
+        <source>A sheet of 210 × 297 mm, upright, in the middle of the screen.</source>
+        <translation>210 × 297 mm の用紙を、画面中央に縦置きで示します。</translation>
     </message>
     <message>
         <source>A soft page for long texts.</source>
@@ -484,6 +520,18 @@
         <translation>アートデザイン</translation>
     </message>
     <message>
+        <source>As Auto, with dark parts that stay readable.</source>
+        <translation>「自動」と同じで、暗い部分も見やすく保ちます。</translation>
+    </message>
+    <message>
+        <source>As Auto, with deep shadows as a film wants them.</source>
+        <translation>「自動」と同じで、映画らしい深い影にします。</translation>
+    </message>
+    <message>
+        <source>As bright as you set it.</source>
+        <translation>設定した明るさのままです。</translation>
+    </message>
+    <message>
         <source>Asked again and told; nothing to do.</source>
         <translation>再読み取りできました。操作は不要です。</translation>
     </message>
@@ -574,6 +622,10 @@
     <message>
         <source>Breathe</source>
         <translation>呼吸</translation>
+    </message>
+    <message>
+        <source>Bright parts shine when the signal has the range for it.</source>
+        <translation>信号が対応していれば、明るい部分が輝きます。</translation>
     </message>
     <message>
         <source>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = when needed.</source>
@@ -730,6 +782,10 @@
     <message>
         <source>Clean Frame</source>
         <translation>フレーム消去</translation>
+    </message>
+    <message>
+        <source>Clearly darker: for texts, not for pictures.</source>
+        <translation>はっきり暗くなります。文字向きで、画像には不向きです。</translation>
     </message>
     <message>
         <source>Clock</source>
@@ -1094,6 +1150,10 @@
     <message>
         <source>Every packet holds 7001 frames until the button is released</source>
         <translation>ボタンを戻すまで、各パケットは 7001 フレームになります</translation>
+    </message>
+    <message>
+        <source>Every picture is shown with the usual range.</source>
+        <translation>すべて通常のダイナミックレンジで表示します。</translation>
     </message>
     <message>
         <source>Every request takes 400 ms longer</source>
@@ -1536,6 +1596,10 @@
         <translation>変更が許可されていません。</translation>
     </message>
     <message>
+        <source>Keeps what matters away from the edges.</source>
+        <translation>大切なものを端から離せます。</translation>
+    </message>
+    <message>
         <source>Keyboard</source>
         <translation>キーボード</translation>
     </message>
@@ -1728,6 +1792,14 @@
         <translation>ライト</translation>
     </message>
     <message>
+        <source>Lines at 38 and 62 per cent: balanced, and less rigid than thirds.</source>
+        <translation>38 % と 62 % の線。三分割より自然な均衡です。</translation>
+    </message>
+    <message>
+        <source>Lines at thirds: put what matters where they cross.</source>
+        <translation>三等分の線。交点に主題を置きます。</translation>
+    </message>
+    <message>
         <source>Listening…</source>
         <translation>音声を取得中…</translation>
     </message>
@@ -1818,6 +1890,10 @@
     <message>
         <source>Manual</source>
         <translation>手動</translation>
+    </message>
+    <message>
+        <source>Marks along two edges, to measure and compare lengths.</source>
+        <translation>2 辺に目盛りを表示し、長さを測れます。</translation>
     </message>
     <message>
         <source>Matches notebooks with a Display P3 screen.</source>
@@ -3344,6 +3420,14 @@
         <translation>ケアの時期をこのツールがデスクトップで知らせます。全画面のアプリの上には表示しません。</translation>
     </message>
     <message>
+        <source>Three columns and three rows.</source>
+        <translation>3 列 3 行。</translation>
+    </message>
+    <message>
+        <source>Three columns and two rows.</source>
+        <translation>3 列 2 行。</translation>
+    </message>
+    <message>
         <source>Time</source>
         <translation>時間</translation>
     </message>
@@ -3414,6 +3498,10 @@
     <message>
         <source>Try again; its scene or another setting may forbid it.</source>
         <translation>シーンや他の設定を確認して再操作してください。</translation>
+    </message>
+    <message>
+        <source>Two columns and two rows.</source>
+        <translation>2 列 2 行。</translation>
     </message>
     <message>
         <source>Two tones</source>

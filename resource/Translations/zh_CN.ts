@@ -96,6 +96,10 @@
         <translation>%1 行，%2 格，亮 %3 格</translation>
     </message>
     <message>
+        <source>%1 s</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
         <source>%1 s left</source>
         <translation>剩余 %1 秒</translation>
     </message>
@@ -288,12 +292,20 @@
         <translation>均衡的画面，适合日常使用。</translation>
     </message>
     <message>
+        <source>A circle, for what is in the middle.</source>
+        <translation>圆形，适合位于中央的主体。</translation>
+    </message>
+    <message>
         <source>A colour that can be seen to change is sent, at most one a second.</source>
         <translation>仅在颜色明显变化时发送，每秒最多一次。</translation>
     </message>
     <message>
         <source>A crosshair that takes the colour that stands out and opens while the picture moves.</source>
         <translation>准星会采用醒目的颜色，并在画面移动时张开。</translation>
+    </message>
+    <message>
+        <source>A diagonal and the lines that meet it: for pictures with a slant.</source>
+        <translation>一条对角线及与之相交的线，适合有倾斜感的画面。</translation>
     </message>
     <message>
         <source>A dim picture for dark rooms.</source>
@@ -304,12 +316,36 @@
         <translation>一行文字，在矩阵上静止或滚动显示。</translation>
     </message>
     <message>
+        <source>A little darker, and a little cheaper.</source>
+        <translation>稍暗，略微省电。</translation>
+    </message>
+    <message>
         <source>A little darker: hardly to be seen, for normal work.</source>
         <translation>略微变暗：几乎看不出来，适合日常工作。</translation>
     </message>
     <message>
+        <source>A protractor around the middle, to measure angles.</source>
+        <translation>以屏幕中央为圆心的量角器，用来测量角度。</translation>
+    </message>
+    <message>
         <source>A quarter of the screen&apos;s width: hides least of the first input.</source>
         <translation>屏幕宽度的四分之一：遮住第一路输入最少。</translation>
+    </message>
+    <message>
+        <source>A sheet as large as you set it below.</source>
+        <translation>按下方设置的尺寸显示纸张。</translation>
+    </message>
+    <message>
+        <source>A sheet of 125 × 176 mm, as of a paperback.</source>
+        <translation>一张 125 × 176 mm 的纸，与平装小开本相同。</translation>
+    </message>
+    <message>
+        <source>A sheet of 176 × 250 mm, for books and brochures.</source>
+        <translation>一张 176 × 250 mm 的纸，适合书籍和小册子。</translation>
+    </message>
+    <message>
+        <source>A sheet of 210 × 297 mm, upright, in the middle of the screen.</source>
+        <translation>一张 210 × 297 mm 的纸，竖放在屏幕中央。</translation>
     </message>
     <message>
         <source>A soft page for long texts.</source>
@@ -484,6 +520,18 @@
         <translation>艺术设计模式</translation>
     </message>
     <message>
+        <source>As Auto, with dark parts that stay readable.</source>
+        <translation>与“自动”相同，且暗部仍清晰可见。</translation>
+    </message>
+    <message>
+        <source>As Auto, with deep shadows as a film wants them.</source>
+        <translation>与“自动”相同，并保留电影般深沉的阴影。</translation>
+    </message>
+    <message>
+        <source>As bright as you set it.</source>
+        <translation>保持您设置的亮度。</translation>
+    </message>
+    <message>
         <source>Asked again and told; nothing to do.</source>
         <translation>重新读取成功，无需处理。</translation>
     </message>
@@ -574,6 +622,10 @@
     <message>
         <source>Breathe</source>
         <translation>呼吸</translation>
+    </message>
+    <message>
+        <source>Bright parts shine when the signal has the range for it.</source>
+        <translation>信号支持时，亮部更加明亮。</translation>
     </message>
     <message>
         <source>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = when needed.</source>
@@ -730,6 +782,10 @@
     <message>
         <source>Clean Frame</source>
         <translation>清空帧</translation>
+    </message>
+    <message>
+        <source>Clearly darker: for texts, not for pictures.</source>
+        <translation>明显变暗，适合文字，不适合图片。</translation>
     </message>
     <message>
         <source>Clock</source>
@@ -1094,6 +1150,10 @@
     <message>
         <source>Every packet holds 7001 frames until the button is released</source>
         <translation>松开按钮前，每个数据包都含 7001 帧</translation>
+    </message>
+    <message>
+        <source>Every picture is shown with the usual range.</source>
+        <translation>所有画面都以普通动态范围显示。</translation>
     </message>
     <message>
         <source>Every request takes 400 ms longer</source>
@@ -1536,6 +1596,10 @@
         <translation>不允许修改。</translation>
     </message>
     <message>
+        <source>Keeps what matters away from the edges.</source>
+        <translation>让重要的内容远离边缘。</translation>
+    </message>
+    <message>
         <source>Keyboard</source>
         <translation>键盘</translation>
     </message>
@@ -1728,6 +1792,14 @@
         <translation>灯光</translation>
     </message>
     <message>
+        <source>Lines at 38 and 62 per cent: balanced, and less rigid than thirds.</source>
+        <translation>线位于 38% 和 62% 处，比三分法更自然均衡。</translation>
+    </message>
+    <message>
+        <source>Lines at thirds: put what matters where they cross.</source>
+        <translation>三等分线，将重点放在交点上。</translation>
+    </message>
+    <message>
         <source>Listening…</source>
         <translation>正在获取声音…</translation>
     </message>
@@ -1818,6 +1890,10 @@
     <message>
         <source>Manual</source>
         <translation>手动</translation>
+    </message>
+    <message>
+        <source>Marks along two edges, to measure and compare lengths.</source>
+        <translation>沿两条边显示刻度，用来测量和比较长度。</translation>
     </message>
     <message>
         <source>Matches notebooks with a Display P3 screen.</source>
@@ -3344,6 +3420,14 @@
         <translation>需要护理时，由本工具在桌面上提示；绝不遮挡全屏程序。</translation>
     </message>
     <message>
+        <source>Three columns and three rows.</source>
+        <translation>三列三行。</translation>
+    </message>
+    <message>
+        <source>Three columns and two rows.</source>
+        <translation>三列两行。</translation>
+    </message>
+    <message>
         <source>Time</source>
         <translation>时间</translation>
     </message>
@@ -3414,6 +3498,10 @@
     <message>
         <source>Try again; its scene or another setting may forbid it.</source>
         <translation>请重试；当前情景或其他设置可能不允许。</translation>
+    </message>
+    <message>
+        <source>Two columns and two rows.</source>
+        <translation>两列两行。</translation>
     </message>
     <message>
         <source>Two tones</source>

@@ -96,6 +96,10 @@
         <translation>%1 列，%2 格，亮 %3 格</translation>
     </message>
     <message>
+        <source>%1 s</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
         <source>%1 s left</source>
         <translation>剩餘 %1 秒</translation>
     </message>
@@ -288,12 +292,20 @@
         <translation>均衡的畫面，適合日常使用。</translation>
     </message>
     <message>
+        <source>A circle, for what is in the middle.</source>
+        <translation>圓形，適合位於中央的主體。</translation>
+    </message>
+    <message>
         <source>A colour that can be seen to change is sent, at most one a second.</source>
         <translation>僅在顏色明顯變化時傳送，每秒最多一次。</translation>
     </message>
     <message>
         <source>A crosshair that takes the colour that stands out and opens while the picture moves.</source>
         <translation>準心會採用醒目的顏色，並在畫面移動時張開。</translation>
+    </message>
+    <message>
+        <source>A diagonal and the lines that meet it: for pictures with a slant.</source>
+        <translation>一條對角線及與之相交的線，適合有傾斜感的畫面。</translation>
     </message>
     <message>
         <source>A dim picture for dark rooms.</source>
@@ -304,12 +316,36 @@
         <translation>一行文字，在矩陣上靜止或捲動顯示。</translation>
     </message>
     <message>
+        <source>A little darker, and a little cheaper.</source>
+        <translation>稍暗，略微省電。</translation>
+    </message>
+    <message>
         <source>A little darker: hardly to be seen, for normal work.</source>
         <translation>略微變暗：幾乎看不出來，適合日常工作。</translation>
     </message>
     <message>
+        <source>A protractor around the middle, to measure angles.</source>
+        <translation>以螢幕中央為圓心的量角器，用來測量角度。</translation>
+    </message>
+    <message>
         <source>A quarter of the screen&apos;s width: hides least of the first input.</source>
         <translation>螢幕寬度的四分之一：遮住第一路輸入最少。</translation>
+    </message>
+    <message>
+        <source>A sheet as large as you set it below.</source>
+        <translation>依下方設定的尺寸顯示紙張。</translation>
+    </message>
+    <message>
+        <source>A sheet of 125 × 176 mm, as of a paperback.</source>
+        <translation>一張 125 × 176 mm 的紙，與平裝小開本相同。</translation>
+    </message>
+    <message>
+        <source>A sheet of 176 × 250 mm, for books and brochures.</source>
+        <translation>一張 176 × 250 mm 的紙，適合書籍和小冊子。</translation>
+    </message>
+    <message>
+        <source>A sheet of 210 × 297 mm, upright, in the middle of the screen.</source>
+        <translation>一張 210 × 297 mm 的紙，直放在螢幕中央。</translation>
     </message>
     <message>
         <source>A soft page for long texts.</source>
@@ -484,6 +520,18 @@
         <translation>藝術設計模式</translation>
     </message>
     <message>
+        <source>As Auto, with dark parts that stay readable.</source>
+        <translation>與「自動」相同，且暗部仍清晰可見。</translation>
+    </message>
+    <message>
+        <source>As Auto, with deep shadows as a film wants them.</source>
+        <translation>與「自動」相同，並保留電影般深沉的陰影。</translation>
+    </message>
+    <message>
+        <source>As bright as you set it.</source>
+        <translation>保持您設定的亮度。</translation>
+    </message>
+    <message>
         <source>Asked again and told; nothing to do.</source>
         <translation>重新讀取成功，無需處理。</translation>
     </message>
@@ -574,6 +622,10 @@
     <message>
         <source>Breathe</source>
         <translation>呼吸</translation>
+    </message>
+    <message>
+        <source>Bright parts shine when the signal has the range for it.</source>
+        <translation>訊號支援時，亮部更加明亮。</translation>
     </message>
     <message>
         <source>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = when needed.</source>
@@ -730,6 +782,10 @@
     <message>
         <source>Clean Frame</source>
         <translation>清空畫格</translation>
+    </message>
+    <message>
+        <source>Clearly darker: for texts, not for pictures.</source>
+        <translation>明顯變暗，適合文字，不適合圖片。</translation>
     </message>
     <message>
         <source>Clock</source>
@@ -1094,6 +1150,10 @@
     <message>
         <source>Every packet holds 7001 frames until the button is released</source>
         <translation>放開按鈕前，每個封包都含 7001 個音框</translation>
+    </message>
+    <message>
+        <source>Every picture is shown with the usual range.</source>
+        <translation>所有畫面都以一般動態範圍顯示。</translation>
     </message>
     <message>
         <source>Every request takes 400 ms longer</source>
@@ -1536,6 +1596,10 @@
         <translation>不允許修改。</translation>
     </message>
     <message>
+        <source>Keeps what matters away from the edges.</source>
+        <translation>讓重要的內容遠離邊緣。</translation>
+    </message>
+    <message>
         <source>Keyboard</source>
         <translation>鍵盤</translation>
     </message>
@@ -1728,6 +1792,14 @@
         <translation>燈光</translation>
     </message>
     <message>
+        <source>Lines at 38 and 62 per cent: balanced, and less rigid than thirds.</source>
+        <translation>線位於 38% 和 62% 處，比三分法更自然均衡。</translation>
+    </message>
+    <message>
+        <source>Lines at thirds: put what matters where they cross.</source>
+        <translation>三等分線，將重點放在交點上。</translation>
+    </message>
+    <message>
         <source>Listening…</source>
         <translation>正在取得聲音…</translation>
     </message>
@@ -1818,6 +1890,10 @@
     <message>
         <source>Manual</source>
         <translation>手動</translation>
+    </message>
+    <message>
+        <source>Marks along two edges, to measure and compare lengths.</source>
+        <translation>沿兩條邊顯示刻度，用來測量和比較長度。</translation>
     </message>
     <message>
         <source>Matches notebooks with a Display P3 screen.</source>
@@ -3344,6 +3420,14 @@
         <translation>需要保養時，由本工具在桌面上提示；絕不遮住全螢幕的應用程式。</translation>
     </message>
     <message>
+        <source>Three columns and three rows.</source>
+        <translation>三欄三列。</translation>
+    </message>
+    <message>
+        <source>Three columns and two rows.</source>
+        <translation>三欄兩列。</translation>
+    </message>
+    <message>
         <source>Time</source>
         <translation>時間</translation>
     </message>
@@ -3414,6 +3498,10 @@
     <message>
         <source>Try again; its scene or another setting may forbid it.</source>
         <translation>請重試；目前情境或其他設定可能不允許。</translation>
+    </message>
+    <message>
+        <source>Two columns and two rows.</source>
+        <translation>兩欄兩列。</translation>
     </message>
     <message>
         <source>Two tones</source>

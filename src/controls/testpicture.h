@@ -10,10 +10,10 @@ struct PictureLook
     double brightness = 0.5; ///< 0 to 1, as all without a unit
     double contrast = 0.5;
     double saturation = 0.5;
-    double shadows = 0;  ///< how far dark parts are lifted
-    double gamma = 2.2;  ///< of the display; 2.2 shows the picture as it is
+    double shadows = 0;   ///< how far dark parts are lifted
+    double gamma = 2.2;   ///< of the display; 2.2 shows the picture as it is
     double kelvin = 6500; ///< white point
-    double day = 1;      ///< 0 for a scene at night
+    double day = 1;       ///< 0 for a scene at night
 };
 
 /// A landscape with dark and bright parts and full colours, as such a monitor shows it.

@@ -21,8 +21,8 @@ void drawPicture(QPainter &painter, const QRectF &screen, const PictureLook &loo
 void paintRange(QPainter &painter, const QRectF &screen, const PictureValues &values)
 {
     // A signal of the other range looks washed out.
-    drawPicture(painter, screen, values.is(Command::OutputRange, 1) ? PictureLook{.contrast = 0.36, .shadows = 0.3}
-                                                                    : PictureLook{});
+    drawPicture(painter, screen,
+                values.is(Command::OutputRange, 1) ? PictureLook{.contrast = 0.36, .shadows = 0.3} : PictureLook{});
 }
 
 /// The monitor's menu, as large as it is on a screen of this size.
@@ -80,8 +80,7 @@ void paintPowerLed(QPainter &painter, const QRectF &screen, const PictureValues 
     glow.setColorAt(1, QColor(0, 255, 113, 0));
     painter.fillRect(screen, glow);
     painter.setPen(QPen(QColor(Palette::kRestingEdge), 1));
-    painter.setBrush(level > 0 ? QColor::fromRgbF(0.2F, 1.0F, 0.55F, float(0.4 + 0.6 * level))
-                               : QColor(0xff0c100e));
+    painter.setBrush(level > 0 ? QColor::fromRgbF(0.2F, 1.0F, 0.55F, float(0.4 + 0.6 * level)) : QColor(0xff0c100e));
     painter.drawEllipse(lamp, 9, 9);
 }
 

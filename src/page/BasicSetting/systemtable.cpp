@@ -83,11 +83,13 @@ const Section kMenuLock[] = {switchOf(Command::MenuLock)};
 const PanelSpec kPanels[] = {
     panelOf(Command::OutputRange, "output_range", "pageOutputRange", kOutputRange, kRangeHelp, &systempictures::kRange),
     {LABEL("OSD Setting"), "osd_setting", "pageOSDSetting", kOsdSetting, {}, kOSDSettingHelp, &systempictures::kOsd},
-    panelOf(Command::PowerSaving, "power_saving", "pagePowerSaving", kPowerSavingPanel, kPowerSavingHelp, &systempictures::kPowerSaving),
+    panelOf(Command::PowerSaving, "power_saving", "pagePowerSaving", kPowerSavingPanel, kPowerSavingHelp,
+            &systempictures::kPowerSaving),
     {LABEL("Audio Settings"), "audio_settings", "pageAduioSettings", kAudioSettings, {}, kAudioSettingsHelp}, // spelled
                                                                                                               // so
     panelOf(Command::PowerLed, "power_led", "pagePowerLED", kPowerLedPanel, kPowerLEDHelp, &systempictures::kPowerLed),
-    panelOf(Command::GravitySensor, "gravity_sensor", "pageGravitySensor", kGravitySensor, kGravitySensorHelp, &systempictures::kGravity),
+    panelOf(Command::GravitySensor, "gravity_sensor", "pageGravitySensor", kGravitySensor, kGravitySensorHelp,
+            &systempictures::kGravity),
     panelOf(Command::ResetFactory, "reset_factory", "pageRestFactorySettings", kResetFactory, kResetFactoryHelp),
     panelOf(Command::OsdLanguage, "osd_language", "pageLanguage", kOsdLanguage, kLanguageHelp),
     panelOf(Command::MenuLock, "menu_lock", "pageMenuLock", kMenuLock, kMenuLockHelp, &systempictures::kMenuLock),

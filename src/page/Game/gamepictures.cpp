@@ -92,7 +92,8 @@ void paintNightVision(QPainter &painter, const QRectF &screen, const PictureValu
 {
     static constexpr double kLifts[] = {0, 0.45, 0.9, 0.45, 0.9};
     const int option = std::clamp(values(Command::NightVision, 0), 0, 4);
-    drawGame(painter, screen, {.shadows = kLifts[option], .gamma = 2.2 - kLifts[option], .day = 0.25 + 0.3 * kLifts[option]});
+    drawGame(painter, screen,
+             {.shadows = kLifts[option], .gamma = 2.2 - kLifts[option], .day = 0.25 + 0.3 * kLifts[option]});
 }
 
 void paintRefreshRate(QPainter &painter, const QRectF &screen, const PictureValues &values)

@@ -33,9 +33,12 @@ constexpr Option kShapes[] = {{LABEL("Cross"), 1, LABEL("Easy to find, and cover
                               {LABEL("Caret"), 5, LABEL("Nothing above the point: for shots that fall.")},
                               {LABEL("Dot"), 6, LABEL("The smallest one. Covers least.")}};
 constexpr Option kColors[] = {
-    {LABEL("Red"), 0, nullptr, "swatch/red.png"},       {LABEL("Yellow"), 1, nullptr, "swatch/yellow.png"},
-    {LABEL("Green"), 2, nullptr, "swatch/green.png"},   {LABEL("Cyan"), 3, nullptr, "swatch/cyan.png"},
-    {LABEL("Blue"), 4, nullptr, "swatch/blue.png"},     {LABEL("Purple"), 5, nullptr, "swatch/purple.png"},
+    {LABEL("Red"), 0, nullptr, "swatch/red.png"},
+    {LABEL("Yellow"), 1, nullptr, "swatch/yellow.png"},
+    {LABEL("Green"), 2, nullptr, "swatch/green.png"},
+    {LABEL("Cyan"), 3, nullptr, "swatch/cyan.png"},
+    {LABEL("Blue"), 4, nullptr, "swatch/blue.png"},
+    {LABEL("Purple"), 5, nullptr, "swatch/purple.png"},
     {LABEL("White"), 6, nullptr, "swatch/white.png"},
     {LABEL("Auto"), 7, LABEL("Always the opposite of what lies behind it."), "swatch/auto.png"}};
 constexpr Option kPlaces[] = {

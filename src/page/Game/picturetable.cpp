@@ -66,21 +66,46 @@ const Section kAdaptiveSync[] = {switchOf(Command::AdaptiveSync)};
 
 std::vector<PanelSpec> picturePanels(const DeviceState &state)
 {
-    const PanelSpec motion = state.has(Capability::MpcsMotion)
-                                 ? PanelSpec{LABEL("MPCS"), "motion", "pageMotion", kMpcs, {}, kMotionHelp, &enhancepictures::kMotion}
-                                 : PanelSpec{LABEL("DyDs"), "motion", "pageMotion", kDyds, {}, kMotionHelp, &enhancepictures::kMotion};
+    const PanelSpec motion =
+        state.has(Capability::MpcsMotion)
+            ? PanelSpec{LABEL("MPCS"), "motion", "pageMotion", kMpcs, {}, kMotionHelp, &enhancepictures::kMotion}
+            : PanelSpec{LABEL("DyDs"), "motion", "pageMotion", kDyds, {}, kMotionHelp, &enhancepictures::kMotion};
     return {
         {LABEL("Game Rush"), "game_rush", "pageGameRush", kGameRush, {}, kGameRushHelp, &gamepictures::kRush},
         motion,
-        panelOf(Command::NightVision, "night_vision", "pageNightVision", kNightVisionPanel, kNightVisionHelp, &gamepictures::kNightVision),
-        {LABEL("Dynamic OD"), "dynamic_od", "pageDynamicOD", kDynamicOd, {}, kResponseHelp, &enhancepictures::kResponse},
+        panelOf(Command::NightVision, "night_vision", "pageNightVision", kNightVisionPanel, kNightVisionHelp,
+                &gamepictures::kNightVision),
+        {LABEL("Dynamic OD"),
+         "dynamic_od",
+         "pageDynamicOD",
+         kDynamicOd,
+         {},
+         kResponseHelp,
+         &enhancepictures::kResponse},
         panelOf(Command::Hdr, "hdr", "pageHDR", kHdrPanel, kHDRHelp, &enhancepictures::kHdr),
-        panelOf(Command::ColorEnhance, "color_enhance", "pageColorEnhance", kColorEnhancePanel, kColorHelp, &enhancepictures::kColor),
-        panelOf(Command::ContrastEnhance, "cr_enhance", "pageCREnhance", kContrastEnhancePanel, kContrastHelp, &enhancepictures::kContrast),
-        {LABEL("Shadow Balance"), "shadow_balance", "pageShadowBalance", kShadowBalancePanel, {}, kShadowHelp, &enhancepictures::kShadows},
-        {LABEL("SR"), "super_resolution", "pageSR", kSuperResolutionPanel, {}, kResolutionHelp, &enhancepictures::kResolution},
-        panelOf(Command::LocalDimming, "local_dimming", "pageLocaldimming", kLocalDimmingPanel, kDimmingHelp, &enhancepictures::kDimming),
-        panelOf(Command::HaloControl, "halo_control", "pageHaloControl", kHaloControlPanel, kHaloHelp, &enhancepictures::kHalo),
-        panelOf(Command::AdaptiveSync, "adaptive_sync", "pageAdaptiveSync", kAdaptiveSync, kAdaptiveSyncHelp, &enhancepictures::kSync),
+        panelOf(Command::ColorEnhance, "color_enhance", "pageColorEnhance", kColorEnhancePanel, kColorHelp,
+                &enhancepictures::kColor),
+        panelOf(Command::ContrastEnhance, "cr_enhance", "pageCREnhance", kContrastEnhancePanel, kContrastHelp,
+                &enhancepictures::kContrast),
+        {LABEL("Shadow Balance"),
+         "shadow_balance",
+         "pageShadowBalance",
+         kShadowBalancePanel,
+         {},
+         kShadowHelp,
+         &enhancepictures::kShadows},
+        {LABEL("SR"),
+         "super_resolution",
+         "pageSR",
+         kSuperResolutionPanel,
+         {},
+         kResolutionHelp,
+         &enhancepictures::kResolution},
+        panelOf(Command::LocalDimming, "local_dimming", "pageLocaldimming", kLocalDimmingPanel, kDimmingHelp,
+                &enhancepictures::kDimming),
+        panelOf(Command::HaloControl, "halo_control", "pageHaloControl", kHaloControlPanel, kHaloHelp,
+                &enhancepictures::kHalo),
+        panelOf(Command::AdaptiveSync, "adaptive_sync", "pageAdaptiveSync", kAdaptiveSync, kAdaptiveSyncHelp,
+                &enhancepictures::kSync),
     };
 }

@@ -34,7 +34,8 @@ const PanelSpec kPanels[] = {
     panelOf(Command::QuickBoot, "quick_boot", "pageQuickBoot", kQuickBoot, kQuickBootHelp),
     panelOf(Command::UsbPower, "usb_power", "pageUSBPower", kUsbPower, kUSBPowerHelp),
     panelOf(Command::UsbSwitch, "usb_switch", "pageUSBSwitch", kUsbSwitchPanel, kUSBSwitchHelp, &iopictures::kUsb),
-    panelOf(Command::InputSignal, "input_signal", "pageInputSignal", kInputSignalPanel, kInputSignalHelp, &iopictures::kInput),
+    panelOf(Command::InputSignal, "input_signal", "pageInputSignal", kInputSignalPanel, kInputSignalHelp,
+            &iopictures::kInput),
     panelOf(Command::Cec, "cec", "pageCEC", kCec, kCECHelp),
 };
 

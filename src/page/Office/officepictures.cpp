@@ -16,7 +16,8 @@ namespace {
 /// What is on is drawn through, what is only pointed at is dashed.
 void takePen(QPainter &painter, const PictureValues &values)
 {
-    painter.setPen(QPen(QColor(Palette::kMint), values.isPreview ? 1.5 : 2, values.isPreview ? Qt::DashLine : Qt::SolidLine));
+    painter.setPen(
+        QPen(QColor(Palette::kMint), values.isPreview ? 1.5 : 2, values.isPreview ? Qt::DashLine : Qt::SolidLine));
     painter.setBrush(Qt::NoBrush);
 }
 
@@ -33,8 +34,9 @@ void paintPaper(QPainter &painter, const QRectF &screen, const PictureValues &va
     if (option >= 1 && option <= 3)
         drawSheet(painter, screen, kSheets[option - 1]);
     else if (option == 4)
-        drawSheet(painter, screen, QSizeF(settingsInt(QStringLiteral("Office/PaperWidth"), 210, false),
-                                          settingsInt(QStringLiteral("Office/PaperHeight"), 297, false)));
+        drawSheet(painter, screen,
+                  QSizeF(settingsInt(QStringLiteral("Office/PaperWidth"), 210, false),
+                         settingsInt(QStringLiteral("Office/PaperHeight"), 297, false)));
 }
 
 void paintAlignment(QPainter &painter, const QRectF &screen, const PictureValues &values)
@@ -68,8 +70,8 @@ void paintComposition(QPainter &painter, const QRectF &screen, const PictureValu
     const int option = values(Command::Composition, 0);
     if (option == 4)
         return drawGrid(painter, screen, 3, 3);
-    static constexpr void (*kDraw[])(QPainter &, const QRectF &) = {nullptr, drawTriangle, drawFrame, drawGoldenSection,
-                                                                     nullptr, drawRound};
+    static constexpr void (*kDraw[])(QPainter &, const QRectF &) = {nullptr,           drawTriangle, drawFrame,
+                                                                    drawGoldenSection, nullptr,      drawRound};
     if (option >= 0 && option <= 5 && kDraw[option])
         kDraw[option](painter, screen);
 }

@@ -23,18 +23,28 @@ constexpr char kEyeshieldRemindHelp[] =
 constexpr Option kEyeshield[] = {{LABEL("Close"), 0},    {LABEL("30s"), 1},      {LABEL("1 Hour"), 2},
                                  {LABEL("1.5 Hour"), 3}, {LABEL("2 Hour"), 4},   {LABEL("2.5 Hour"), 5},
                                  {LABEL("3 Hour"), 6},   {LABEL("3.5 Hour"), 7}, {LABEL("4 Hour"), 8}};
-constexpr Option kPaper[] = {{LABEL("Close"), 0},
-                             {LABEL("Paper_A4"), 1, LABEL("A sheet of 210 × 297 mm, upright, in the middle of the screen.")},
-                             {LABEL("Paper_B5"), 2, LABEL("A sheet of 176 × 250 mm, for books and brochures.")},
-                             {LABEL("Paper_B6"), 3, LABEL("A sheet of 125 × 176 mm, as of a paperback.")},
-                             {LABEL("Custom Size"), 4, LABEL("A sheet as large as you set it below.")}};
-constexpr Option kAlignment[] = {
-    {LABEL("Close"), 0}, {LABEL("Alignment_4"), 1, LABEL("Two columns and two rows.")}, {LABEL("Alignment_6"), 2, LABEL("Three columns and two rows.")}, {LABEL("Alignment_9"), 3, LABEL("Three columns and three rows.")}};
+constexpr Option kPaper[] = {
+    {LABEL("Close"), 0},
+    {LABEL("Paper_A4"), 1, LABEL("A sheet of 210 × 297 mm, upright, in the middle of the screen.")},
+    {LABEL("Paper_B5"), 2, LABEL("A sheet of 176 × 250 mm, for books and brochures.")},
+    {LABEL("Paper_B6"), 3, LABEL("A sheet of 125 × 176 mm, as of a paperback.")},
+    {LABEL("Custom Size"), 4, LABEL("A sheet as large as you set it below.")}};
+constexpr Option kAlignment[] = {{LABEL("Close"), 0},
+                                 {LABEL("Alignment_4"), 1, LABEL("Two columns and two rows.")},
+                                 {LABEL("Alignment_6"), 2, LABEL("Three columns and two rows.")},
+                                 {LABEL("Alignment_9"), 3, LABEL("Three columns and three rows.")}};
 
 // The off option of this group has a label of its own.
-constexpr Option kRuler[] = {{LABEL("Angle close"), 0}, {LABEL("Ruler"), 1, LABEL("Marks along two edges, to measure and compare lengths.")}, {LABEL("Angle Ruler"), 2, LABEL("A protractor around the middle, to measure angles.")}};
-constexpr Option kComposition[] = {{LABEL("Close"), 0},          {LABEL("Triangle"), 1, LABEL("A diagonal and the lines that meet it: for pictures with a slant.")},   {LABEL("Frame"), 2, LABEL("Keeps what matters away from the edges.")},
-                                   {LABEL("Golden Section"), 3, LABEL("Lines at 38 and 62 per cent: balanced, and less rigid than thirds.")}, {LABEL("Trichotomy"), 4, LABEL("Lines at thirds: put what matters where they cross.")}, {LABEL("Round"), 5, LABEL("A circle, for what is in the middle.")}};
+constexpr Option kRuler[] = {{LABEL("Angle close"), 0},
+                             {LABEL("Ruler"), 1, LABEL("Marks along two edges, to measure and compare lengths.")},
+                             {LABEL("Angle Ruler"), 2, LABEL("A protractor around the middle, to measure angles.")}};
+constexpr Option kComposition[] = {
+    {LABEL("Close"), 0},
+    {LABEL("Triangle"), 1, LABEL("A diagonal and the lines that meet it: for pictures with a slant.")},
+    {LABEL("Frame"), 2, LABEL("Keeps what matters away from the edges.")},
+    {LABEL("Golden Section"), 3, LABEL("Lines at 38 and 62 per cent: balanced, and less rigid than thirds.")},
+    {LABEL("Trichotomy"), 4, LABEL("Lines at thirds: put what matters where they cross.")},
+    {LABEL("Round"), 5, LABEL("A circle, for what is in the middle.")}};
 
 const Section kPaperPanel[] = {groupOf(Command::Paper, kPaper), CustomPart{kPaperSizePart}};
 const Section kAlignmentPanel[] = {groupOf(Command::Alignment, kAlignment)};
@@ -45,12 +55,10 @@ const Section kEyeshieldPanel[] = {groupOf(Command::RestTimer, kEyeshield)};
 const Section kAiDualMode[] = {groupOf(Command::AiDualMode, kCloseOpen)};
 
 const PanelSpec kPanels[] = {
-    panelOf(Command::Paper, "office_paper", "pagePaper", kPaperPanel, kPaperHelp,
-            &officepictures::kPaper),
+    panelOf(Command::Paper, "office_paper", "pagePaper", kPaperPanel, kPaperHelp, &officepictures::kPaper),
     panelOf(Command::Alignment, "alignment", "pageAlignment", kAlignmentPanel, kAlignmentHelp,
             &officepictures::kAlignment),
-    panelOf(Command::Ruler, "ruler", "pageRuler", kRulerPanel, kRulerHelp,
-            &officepictures::kRuler),
+    panelOf(Command::Ruler, "ruler", "pageRuler", kRulerPanel, kRulerHelp, &officepictures::kRuler),
     panelOf(Command::AlignmentAid, "alignment_aid", "pageAlignmentAid", kAlignmentAid, kAlignmentAidHelp,
             &officepictures::kAlignmentAid),
     panelOf(Command::Composition, "composition", "pageComposition", kCompositionPanel, kCompositionHelp,

@@ -23,8 +23,9 @@ constexpr int kWordsPixels = 14;
 QLabel *makeLabel(int pixels, const char *colour, QWidget *parent)
 {
     auto *label = new QLabel(parent);
-    label->setStyleSheet(Palette::styled(
-        QStringLiteral("color: @%1; font-size: %2px; background: transparent;").arg(QLatin1String(colour)).arg(pixels)));
+    label->setStyleSheet(Palette::styled(QStringLiteral("color: @%1; font-size: %2px; background: transparent;")
+                                             .arg(QLatin1String(colour))
+                                             .arg(pixels)));
     label->setWordWrap(true);
     return label;
 }
@@ -35,8 +36,8 @@ const Option *optionOf(const OptionGroupRow *row, std::optional<int> value)
     if (!row || !value)
         return nullptr;
     const auto options = row->group().options;
-    const auto found = std::find_if(options.begin(), options.end(),
-                                    [value](const Option &option) { return option.value == *value; });
+    const auto found =
+        std::find_if(options.begin(), options.end(), [value](const Option &option) { return option.value == *value; });
     return found == options.end() ? nullptr : &*found;
 }
 
@@ -81,8 +82,8 @@ PictureStage::PictureStage(const PanelPicture &picture, std::vector<OptionGroupR
     m_line->setStyleSheet(Palette::styled(u"background: @hairline;"));
     auto *words = new QVBoxLayout;
     words->setSpacing(metrics::kGap);
-    for (QWidget *part : std::initializer_list<QWidget *>{m_onName, m_onNow, m_onWords, m_line, m_pointedName,
-                                                          m_pointedWords})
+    for (QWidget *part :
+         std::initializer_list<QWidget *>{m_onName, m_onNow, m_onWords, m_line, m_pointedName, m_pointedWords})
         words->addWidget(part);
     words->addStretch(1);
     auto *row = new QHBoxLayout(this);
