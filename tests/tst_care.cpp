@@ -176,7 +176,8 @@ void TestCare::undoOfRiskyChanges()
     looked.set_value();
     QVERIFY(isFree.get()); // the window did not wait for it
     QTest::keyClick(bar->button(), Qt::Key_Space);
-    QCOMPARE(m_desk->takeCommands(), QStringList{QStringLiteral("W %1=%2").arg(command, 0, 16).arg(before)});
+    QCOMPARE(m_desk->takeCommands().filter("W"),
+             QStringList{QStringLiteral("W %1=%2").arg(command, 0, 16).arg(before)});
     QVERIFY(bar->isHidden() && deviceState.confirmed(Command(command)) == before);
 
     QVERIFY(change());

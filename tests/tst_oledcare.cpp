@@ -127,7 +127,7 @@ void TestOledCare::plan_data()
     row("and could not", with(due, [](CareFacts &facts) { facts.isByItself = true, facts.used = 8 * kHour; }),
         "reminds", 0);
     row("running", with(due, [](CareFacts &facts) { facts.isRunning = true; }), "asks", 0);
-    row("nothing is known", unknown, "", 30);
+    row("nothing is known", unknown, "asks", 30);
 }
 
 void TestOledCare::plan()
@@ -242,9 +242,12 @@ void TestOledCare::fromUseToCare()
     const QString said = m_page->carePanel()->lines().join('|');
     QVERIFY2(said.contains("0.0 hours of use since") && said.contains("after 4.0 more"), qPrintable(said));
     const QDateTime last = *history.last;
+    deviceState.forgetSettings(); // as when the program starts
+    m_desk->monitor().setValue(0x08, 1);
     m_page = std::make_unique<AskedPage>(*m_queue);
     pass(2s, 1s);
     QCOMPARE(m_page->keeper().history().last, std::optional(last));
+    QVERIFY(m_page->keeper().facts().isDue == true && m_page->keeper().facts().interval == 4);
 }
 
 void TestOledCare::careIsRefused()

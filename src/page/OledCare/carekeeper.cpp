@@ -126,10 +126,9 @@ void CareKeeper::look()
         if (looks == m_looks)
             look();
     });
-    if (step.asks) {
+    if (step.asks && monitorAnswers()) { // whoever tries a silent one counts the pauses between
         m_asked = now;
-        m_queue.ask(Command::CareRunning);
-        m_queue.ask(Command::CareDue);
+        ask();
     }
     step.reminds ? remind(now) : endReminder();
     Q_EMIT changed();
@@ -181,9 +180,19 @@ void CareKeeper::putOff()
 void CareKeeper::begun()
 {
     m_asked = timeNow();
+    ask();
+    endReminder();
+}
+
+/// What has no control of the page, and what the plan needs that nobody has told yet.
+void CareKeeper::ask()
+{
+    for (const Command command : {Command::CareMode, Command::CareInterval}) {
+        if (!deviceState.confirmed(command))
+            m_queue.ask(command);
+    }
     m_queue.ask(Command::CareRunning);
     m_queue.ask(Command::CareDue);
-    endReminder();
 }
 
 bool CareKeeper::setReminds(bool reminds)

@@ -23,6 +23,9 @@ public:
     /// What is known now.
     CareFacts facts() const;
 
+    /// Asks the monitor, in the background, whether care is due or running.
+    void ask();
+
     /// Care has just been begun: how it goes on is asked for.
     void begun();
 

@@ -54,7 +54,8 @@ CareStep planCare(const CareFacts &facts, const QDateTime &now)
     const std::optional<qint64> left = secondsLeft(facts);
     if (left && *left > 0)
         step.lookAgain = std::min(step.lookAgain, now.addSecs(*left));
-    step.asks = left == 0 && facts.isDue != true && isTime(facts.asked, kPatience, now);
+    const bool isOpen = !facts.isDue || (left == 0 && !*facts.isDue);
+    step.asks = isOpen && isTime(facts.asked, kPatience, now);
     if (!facts.reminds || !isCareDue(facts) || !hadItsChance(facts))
         return step;
     step.reminds = !facts.putOff || *facts.putOff <= now;

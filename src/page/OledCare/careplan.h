@@ -42,9 +42,9 @@ std::optional<qint64> secondsLeft(const CareFacts &facts);
 /// What the monitor told goes before what was counted.
 bool isCareDue(const CareFacts &facts);
 
-/// While care runs the monitor is asked every half minute. It is asked once an hour while the hours are over and it has
-/// not said that care is due, for it counts by itself. The user is reminded of a care that is due; where the monitor
-/// begins by itself, only when it found no chance for the hours of a second interval.
+/// While care runs the monitor is asked every half minute. It is asked once an hour while it has not told whether care
+/// is due, or said no though the hours are over, for it counts by itself. The user is reminded of a care that is due;
+/// where the monitor begins by itself, only when it found no chance for the hours of a second interval.
 CareStep planCare(const CareFacts &facts, const QDateTime &now);
 
 /// Somebody at the computer, or nobody.

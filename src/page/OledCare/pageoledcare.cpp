@@ -54,6 +54,14 @@ void pageOledCare::updateControlText()
     showCare();
 }
 
+/// Whether care is due or runs is shown by no control.
+void pageOledCare::reconcile()
+{
+    PanelPage::reconcile();
+    if (isVisible() && !deviceState.isFresh(Command::CareDue))
+        m_keeper.ask();
+}
+
 void pageOledCare::showCare()
 {
     if (m_care)

@@ -17,6 +17,7 @@ public:
 
     void updateInterfaceData() override;
     void updateControlText() override;
+    void reconcile() override;
 
     CareKeeper &keeper() { return m_keeper; }
     CarePanel *carePanel() const { return m_care; }
