@@ -242,7 +242,7 @@ void TestPages::pointingShowsAndSendsNothing()
     office->show();
     QVERIFY(settle());
     m_desk->takeCommands();
-    auto *stage = button(Office, "Paper_Paper_B5")->window()->findChild<PictureStage *>();
+    auto *stage = office->findChild<QWidget *>("pagePaper")->findChild<PictureStage *>();
     const auto seen = [stage] { return stage->picture()->grab().toImage(); };
     const QImage before = seen();
     const QPointF inside(5, 5);

@@ -33,6 +33,7 @@ QSize sizeFor(qreal width)
 MonitorPicture::MonitorPicture(QWidget *parent) : QWidget(parent)
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setMaximumWidth(int(kWidest)); // what stands beside it follows at once
     describeAs(this, QAccessible::Graphic);
 }
 
