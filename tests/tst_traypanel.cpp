@@ -133,6 +133,7 @@ void TestTrayPanel::opensTrue()
     m_desk->monitor().setValue(0xF6, 33);
     m_desk->monitor().setValue(0x45, 2);
     m_desk->clock.advance(5s);
+    settle(); // what lamps and care ask for a while after the start
     m_desk->takeCommands();
     TrayIcon icon(m_window.get());
     connect(&icon, &TrayIcon::pressed, this, [this] { m_window->trayPanel()->press({}); });
