@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <QObject>
 #include <QPainter>
 #include <QRadialGradient>
 

@@ -1,5 +1,6 @@
 #include "page/Office/officepictures.h"
 
+#include <QObject>
 #include <QPainter>
 
 #include "controls/gameoverlays.h"
