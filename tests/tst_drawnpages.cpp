@@ -1,0 +1,207 @@
+#include <QtTest>
+#include <QtWidgets>
+
+#include "controls/colorpicker.h"
+#include "controls/monitorpicture.h"
+#include "controls/sliderwidget.h"
+#include "ddc_protocol/devicestate.h"
+#include "page/Emberline/lightview.h"
+#include "page/Emberline/pageemberline.h"
+#include "page/MultiWindow/pagemultiwindow.h"
+#include "page/MultiWindow/windowarranger.h"
+#include "page/engine/optiongrouprow.h"
+#include "page/engine/picturestage.h"
+#include "support/pagessuite.h"
+
+using virtualdesk::kForEver;
+
+/// What pages draw of the monitor: pictures of what options do, windows that are arranged, lamps.
+class TestDrawnPages : public PagesSuite
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void pointingShowsAndSendsNothing();
+    void smallWindowIsArranged_data();
+    void smallWindowIsArranged();
+    void ownLightColor();
+    void lightIsPlayed();
+};
+
+void TestDrawnPages::pointingShowsAndSendsNothing()
+{
+    PanelPage *office = page(Office);
+    office->resize(1000, 680);
+    office->show();
+    QVERIFY(settle());
+    m_desk->takeCommands();
+    auto *stage = office->findChild<QWidget *>("pagePaper")->findChild<PictureStage *>();
+    const auto seen = [stage] { return stage->picture()->grab().toImage(); };
+    const QImage before = seen();
+    const QPointF inside(5, 5);
+    QEnterEvent enter(inside, inside, inside);
+    QCoreApplication::sendEvent(button(Office, "Paper_Paper_B5"), &enter);
+    QCOMPARE(stage->preview(), std::optional(std::pair(Command::Paper, 2)));
+    QVERIFY(seen() != before);
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(button(Office, "Paper_Paper_B5"), &leave);
+    QVERIFY(!stage->preview() && seen() == before);
+    QCOMPARE(m_desk->takeCommands(), QStringList());
+
+    // What the monitor lays over a game is shown to the pixel: a green cross of 25 pixels in the middle.
+    PanelPage *game = page(Game);
+    game->resize(1000, 680);
+    for (const auto &[command, value] : {std::pair(Command::Crosshair, 1),
+                                         {Command::CrosshairShape, 1},
+                                         {Command::CrosshairColor, 2},
+                                         {Command::CrosshairPlace, 2}})
+        deviceState.told(command, value);
+    game->showPanel("Game Crosshair");
+    game->show();
+    auto *shown = game->findChild<QWidget *>("gameCrosshair")->findChild<PictureStage *>()->picture();
+    const QRectF screen = shown->screenRect();
+    const QPoint middle(qRound(screen.center().x()), qRound(screen.center().y()));
+    const QImage image = shown->grab().toImage();
+    constexpr QRgb kGreen = 0xff4bff7d;
+    for (const auto &[x, isOn] : {std::pair(-13, false), {-12, true}, {0, true}, {12, true}, {13, false}})
+        QCOMPARE(image.pixel(middle + QPoint(x, 0)) == kGreen, isOn);
+}
+
+using Arrange = std::function<void(WindowArranger &)>;
+Q_DECLARE_METATYPE(Arrange)
+
+/// Takes hold of the small window at a part of it, -1 to 1 from its middle, and lets go at a part of the screen.
+static Arrange drag(QPointF at, QPointF to, bool letGo = true)
+{
+    return [=](WindowArranger &windows) {
+        const auto point = [](const QRectF &rect, QPointF part) {
+            return rect.center() + QPointF(part.x() * rect.width() / 2, part.y() * rect.height() / 2);
+        };
+        const QPoint end = point(windows.screen(), to).toPoint();
+        QTest::mousePress(&windows, Qt::LeftButton, {}, point(windows.insetNow(), at).toPoint());
+        for (const QPoint &way : {QPoint(0, 0), end / 2, end}) // right across the other corners
+            QTest::mouseMove(&windows, way);
+        letGo ? QTest::mouseRelease(&windows, Qt::LeftButton, {}, end) : QTest::keyClick(&windows, Qt::Key_Escape);
+    };
+}
+
+static Arrange keys(std::initializer_list<Qt::Key> pressed)
+{
+    return [pressed = std::vector(pressed)](WindowArranger &windows) {
+        for (const Qt::Key key : pressed)
+            QTest::keyClick(&windows, key);
+    };
+}
+
+void TestDrawnPages::smallWindowIsArranged_data()
+{
+    columns<Arrange, int, QString>("act", "mode", "sent");
+    // It begins in the upper right corner, in the middle size: its free corner is the lower left one.
+    const QPointF middle(0, 0);
+    row("to a corner", drag(middle, {-0.9, 0.9}), 1, "W 55=2");
+    row("back where it was", drag(middle, {0.3, -0.3}), 1, "");
+    row("and not let go of", drag(middle, {-0.9, 0.9}, false), 1, "");
+    row("free corner outwards", drag({-1, 1}, {-0.5, 0.5}), 1, "W 54=2");
+    row("lower edge inwards", drag({0, 1}, {0, -0.9}), 1, "W 54=0");
+    row("left edge, hardly", drag({-1, 0}, {0.25, 0}), 1, "");
+    row("an edge that does not move", drag({0.9, 0.2}, {0.95, -0.6}), 1, "");
+    row("beside it", drag({-2, 2}, {-0.9, 0.9}), 1, "");
+    row("keys", keys({Qt::Key_Right, Qt::Key_Left, Qt::Key_Down, Qt::Key_Plus, Qt::Key_Plus, Qt::Key_Minus}), 1,
+        "W 55=0 W 55=2 W 54=2 W 54=1");
+    row("round the corners", keys({Qt::Key_Space, Qt::Key_Space, Qt::Key_Space, Qt::Key_Space}), 1,
+        "W 55=3 W 55=2 W 55=0 W 55=1");
+    for (const int mode : {0, 2}) {
+        row(mode == 0 ? "one window" : "side by side", keys({Qt::Key_Left, Qt::Key_Plus, Qt::Key_Space}), mode, "");
+        row(mode == 0 ? "dragged in one" : "dragged side by side", drag({0.6, -0.6}, {-0.9, 0.9}), mode, "");
+    }
+}
+
+void TestDrawnPages::smallWindowIsArranged()
+{
+    const auto [act, mode, sent] = fetch<Arrange, int, QString>();
+    for (const auto &[code, value] : {std::pair(0x50, mode), {0x54, 1}, {0x55, 1}})
+        deviceState.told(Command(code), value);
+    auto *windows = static_cast<pageMultiWindow *>(page(Windows))->arranger();
+    for (QWidget *each : {windows->parentWidget(), static_cast<QWidget *>(windows)})
+        each->resize(500, 330);
+    act(*windows);
+    QCOMPARE(m_desk->takeCommands().join(' '), sent);
+    QCOMPARE(windows->isUsable(), mode == 1);
+    QCOMPARE(windows->toolTip().isEmpty(), mode == 1);
+    QCOMPARE(button(Windows, "Place_Top Left")->isEnabled(), mode == 1);
+    QVERIFY(!windows->valueText().isEmpty());
+}
+
+/// Three values that are told as one, and what is known of the lamps then.
+void TestDrawnPages::ownLightColor()
+{
+    auto *lighting = static_cast<pageEmberline *>(page(Lighting));
+    deviceState.told(Command::LightMode, 1);
+    for (const int color : {6, 8}) {
+        button(Lighting, color == 8 ? "Light Color_Custom" : "Light Color_White")->click();
+        lighting->updateInterfaceData();
+        QCOMPARE(!lighting->ownColor()->parentWidget()->isHidden(), color == 8);
+    }
+    for (const auto &[refused, said] :
+         {std::pair(std::vector<std::uint8_t>(), ""), {{0x7B}, "only a part"}, {{0x7A, 0x7B, 0x7C}, "did not take"}}) {
+        m_desk->takeCommands();
+        for (const std::uint8_t code : refused)
+            m_desk->monitor().refuse(code, kForEver);
+        Q_EMIT lighting->ownColor()->sigColorChanged(QColor(250, 128, 7));
+        const QStringList sent = m_desk->takeCommands().filter("W");
+        for (const char *part : {"W 7a=250", "W 7b=128", "W 7c=7"})
+            QVERIFY2(!sent.filter(part).isEmpty(), part);
+        QVERIFY2(*said ? lighting->notice().contains(said) : lighting->notice().isEmpty(), said);
+        m_desk->monitor().recover();
+    }
+}
+
+/// While somebody can see it, something moves and the user lets it; each lamp as it is set.
+void TestDrawnPages::lightIsPlayed()
+{
+    for (const auto &[command, value] : {std::pair(Command::LightMode, 1),
+                                         {Command::LightColor, 0},
+                                         {Command::LightBrightness, 100},
+                                         {Command::LampBeltBrightness, 0},
+                                         {Command::LampBeltColor, 1},
+                                         {Command::LampBeltFrontColor, 1},
+                                         {Command::LampBeltRearColor, 1},
+                                         {Command::LampBeltEffect, 0},
+                                         {Command::LightFrontBrightness, 0},
+                                         {Command::LightRearBrightness, 0}}) {
+        deviceState.told(command, value);
+        m_desk->monitor().setValue(static_cast<std::uint8_t>(command), static_cast<std::uint16_t>(value));
+    }
+    page(Lighting)->show();
+    auto *view = page(Lighting)->findChild<QWidget *>("pageLightMode")->findChild<LightView *>();
+    QCOMPARE(view->isVisible() && !view->isPlaying(), true);
+    const QRgb red = view->frame().ring[0];
+    QVERIFY(qRed(red) == 255 && qGreen(red) < 60 && view->frame().ring[31] == red);
+    for (const auto &[event, color] : {std::pair(QEvent::Enter, qRgb(0, 0, 0)), {QEvent::Leave, red}}) {
+        QEnterEvent enter({}, {}, {});
+        QEvent leave(QEvent::Leave);
+        QCoreApplication::sendEvent(button(Lighting, "Light Mode_Close"), event == QEvent::Enter ? &enter : &leave);
+        QCOMPARE(view->frame().ring[0], color); // tried out, and nothing is sent
+    }
+    QVERIFY(settle() && m_desk->takeCommands().filter("W").isEmpty());
+    deviceState.told(Command::LightMode, 2); // it breathes
+    page(Lighting)->updateInterfaceData();
+    QVERIFY(view->isPlaying());
+    std::set<QRgb> seen;
+    for (int frame = 0; frame < 100; ++frame) {
+        m_desk->clock.advance(platform::milliseconds(50));
+        seen.insert(view->frame().ring[0]);
+    }
+    QVERIFY(seen.size() > 20);
+    QVERIFY(settle());
+    for (const bool isHidden : {true, false}) {
+        m_desk->desk.animatesControls = isHidden;
+        page(Lighting)->setVisible(!isHidden);
+        QVERIFY(settle());
+        QVERIFY(!view->isPlaying());
+        m_desk->clock.advance(platform::milliseconds(50));
+        QCOMPARE(m_desk->clock.tasksWaiting(), std::size_t(0)); // nothing runs on
+    }
+}
+
+QTEST_MAIN(TestDrawnPages)
+#include "tst_drawnpages.moc"
