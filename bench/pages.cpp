@@ -131,6 +131,8 @@ private:
         if (!panels)
             return;
         for (LeftTabButton *entry : panels->entries()) {
+            if (entry->isHidden())
+                continue; // there is nothing behind it on this computer
             const std::string panel = name + ", " + entry->objectName().toStdString();
             if (!entry->isChecked())
                 open(*entry, *page, panel);

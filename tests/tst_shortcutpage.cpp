@@ -128,10 +128,8 @@ void TestShortcutPage::roundTripIsExact()
                             "[basicMode]\nswitchStatus=off\n";
     writeText(kFile, text);
     start();
-    QCOMPARE(readText(kFile), text); // the page has stored it once by now
-    QCOMPARE(m_page->shortcutRows().size(), std::size_t(2));
-    QVERIFY(!m_page->isMasterOn());
-    QVERIFY(row(0)->plusEdit()->isEnabled());
+    QVERIFY(readText(kFile) == text && m_page->shortcutRows().size() == 2); // the page has stored it once by now
+    QVERIFY(!m_page->isMasterOn() && row(0)->plusEdit()->isEnabled());
     QVERIFY(!row(1)->minusEdit()->isEnabled() && !row(1)->minusEdit()->accessibleDescription().isEmpty());
 }
 
@@ -399,5 +397,4 @@ int main(int argc, char *argv[])
     TestShortcutPage test;
     return QTest::qExec(&test, argc, argv);
 }
-
 #include "tst_shortcutpage.moc"
