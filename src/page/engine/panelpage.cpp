@@ -62,6 +62,7 @@ void PanelPage::takePanels(std::span<const PanelSpec> panels)
 void PanelPage::buildPanels(std::span<const PanelSpec> panels)
 {
     takePanels(panels);
+    m_drawsLater = true; // what a page needs at the start it has: the pictures come when they are looked at
     build();
 }
 
@@ -95,6 +96,7 @@ void PanelPage::showEvent(QShowEvent *event)
 {
     build();
     SettingsPage::showEvent(event);
+    refreshPicture();
 }
 
 QWidget *PanelPage::buildList()
@@ -184,17 +186,30 @@ void PanelPage::fillPanel(const PanelSpec &panel, QVBoxLayout *column)
         std::ranges::for_each(rows, &OptionGroupRow::hideCaption);
         std::ranges::for_each(ownSliders, &SliderWidget::hideCaption);
     }
-    if (!panel.picture)
-        return column->addStretch(1);
+    column->addStretch(1);
+    if (panel.picture && !m_drawsLater)
+        addPicture(m_stack->count(), panel, column);
+}
+
+/// In place of the stretch below the controls.
+void PanelPage::addPicture(int index, const PanelSpec &panel, QVBoxLayout *column)
+{
+    delete column->takeAt(column->count() - 1);
+    const QList<OptionGroupRow *> rows = column->parentWidget()->findChildren<OptionGroupRow *>();
     auto *stage = new PictureStage(*panel.picture, {rows.begin(), rows.end()}, column->parentWidget());
-    m_pictures[m_stack->count()] = stage;
+    m_pictures[index] = stage;
     pictureBuilt(stage->picture());
     column->addWidget(stage, 1);
 }
 
 void PanelPage::refreshPicture()
 {
-    if (const auto stage = m_pictures.find(currentPanel()); stage != m_pictures.end() && isVisible())
+    if (!isVisible())
+        return;
+    const PanelSpec &panel = m_panels[static_cast<std::size_t>(currentPanel())];
+    if (panel.picture && !m_pictures.contains(currentPanel()))
+        addPicture(currentPanel(), panel, static_cast<QVBoxLayout *>(m_stack->currentWidget()->layout()));
+    if (const auto stage = m_pictures.find(currentPanel()); stage != m_pictures.end())
         stage->second->refresh();
 }
 

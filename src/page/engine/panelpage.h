@@ -63,6 +63,7 @@ private:
     QWidget *buildList();
     QWidget *buildPanel(const PanelSpec &panel);
     void fillPanel(const PanelSpec &panel, QVBoxLayout *column);
+    void addPicture(int index, const PanelSpec &panel, QVBoxLayout *column);
     void refreshPicture();
     LeftTabButton *addEntry(const PanelSpec &panel, QLayout *column);
     void choose(int index);
@@ -77,5 +78,6 @@ private:
     QPushButton *m_down = nullptr;
     QStackedWidget *m_stack;
     PageHead *m_head = nullptr;
+    bool m_drawsLater = false;                ///< the panels stand before their pictures
     std::map<int, PictureStage *> m_pictures; ///< by panel
 };
