@@ -76,30 +76,20 @@ const Section kFocus[] = {switchOf(Command::FocusDimming),
                           groupOf(Command::FocusDimmingLevel, kStrengths, nullptr, kLevel)};
 const Section kDual[] = {groupOf(Command::AiDualMode, kCloseOpen)};
 
-/// A panel with its picture.
-PanelSpec drawn(PanelSpec panel, const PanelPicture &picture)
-{
-    panel.picture = &picture;
-    return panel;
-}
-
 const PanelSpec kPanels[] = {
-    drawn(panelOf(Command::GameRush, "game_rush", "gameRush", kRush, kGameRushHelp), gamepictures::kRush),
-    drawn(panelOf(Command::Crosshair, "crosshair", "gameCrosshair", kCrosshair, kCrosshairHelp),
-          gamepictures::kCrosshair),
-    drawn(panelOf(Command::HawkEyeVision, "hawkeye_vision", "gameHawkEye", kHawkEye, kHawkEyeHelp),
-          gamepictures::kHawkEye),
-    drawn(panelOf(Command::NightVision, "night_vision", "gameNightVision", kNightVision, kNightVisionHelp),
-          gamepictures::kNightVision),
-    drawn(panelOf(Command::RefreshRate, "refresh_rate", "gameRefreshRate", kRefreshRate, kRefreshRateHelp),
-          gamepictures::kRefreshRate),
-    drawn(panelOf(Command::Stopwatch, "stopwatch", "gameStopwatch", kStopwatch, kStopwatchHelp),
-          gamepictures::kStopwatch),
-    drawn(panelOf(Command::GameTime, "game_time", "gameTime", kGameTime, kGameTimeHelp), gamepictures::kGameTime),
-    drawn(panelOf(Command::MovingCrosshair, "dynamic_crosshair", "gameMovingCrosshair", kMoving, kMovingHelp),
-          gamepictures::kMovingCrosshair),
-    drawn(panelOf(Command::FocusDimming, "focus_dimming", "gameFocusDimming", kFocus, kFocusHelp),
-          gamepictures::kFocusDimming),
+    panelOf(Command::GameRush, "game_rush", "gameRush", kRush, kGameRushHelp, &gamepictures::kRush),
+    panelOf(Command::Crosshair, "crosshair", "gameCrosshair", kCrosshair, kCrosshairHelp, &gamepictures::kCrosshair),
+    panelOf(Command::HawkEyeVision, "hawkeye_vision", "gameHawkEye", kHawkEye, kHawkEyeHelp, &gamepictures::kHawkEye),
+    panelOf(Command::NightVision, "night_vision", "gameNightVision", kNightVision, kNightVisionHelp,
+            &gamepictures::kNightVision),
+    panelOf(Command::RefreshRate, "refresh_rate", "gameRefreshRate", kRefreshRate, kRefreshRateHelp,
+            &gamepictures::kRefreshRate),
+    panelOf(Command::Stopwatch, "stopwatch", "gameStopwatch", kStopwatch, kStopwatchHelp, &gamepictures::kStopwatch),
+    panelOf(Command::GameTime, "game_time", "gameTime", kGameTime, kGameTimeHelp, &gamepictures::kGameTime),
+    panelOf(Command::MovingCrosshair, "dynamic_crosshair", "gameMovingCrosshair", kMoving, kMovingHelp,
+            &gamepictures::kMovingCrosshair),
+    panelOf(Command::FocusDimming, "focus_dimming", "gameFocusDimming", kFocus, kFocusHelp,
+            &gamepictures::kFocusDimming),
     panelOf(Command::AiDualMode, "ai_dual_mode", "gameDualMode", kDual, kAiDualModeHelp),
 };
 
