@@ -1,8 +1,12 @@
 #include "platform/virtual/processdesk.h"
 
+#include <functional>
 #include <optional>
+#include <utility>
 
 #include <QCoreApplication>
+#include <QEvent>
+#include <QMetaObject>
 
 #include "platform/systemclock.h"
 #include "platform/virtual/virtualplatform.h"
@@ -26,6 +30,31 @@ struct OwnDesk
     VirtualDesk ownDesk{deskClock, virtualdesk::setupFromEnvironment()};
 };
 
+/// Calls once, after the first window of the program has been painted: what only a desk's user sees does not hold up
+/// what everybody sees.
+class FirstPaint : public QObject
+{
+public:
+    explicit FirstPaint(std::function<void()> then) : QObject(qApp), m_then(std::move(then))
+    {
+        qApp->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint && watched->isWidgetType()) {
+            qApp->removeEventFilter(this);
+            QMetaObject::invokeMethod(qApp, m_then, Qt::QueuedConnection);
+            deleteLater();
+        }
+        return false;
+    }
+
+private:
+    std::function<void()> m_then;
+};
+
 class ProcessDesk final : private OwnDesk, public VirtualPlatform
 {
 public:
@@ -43,15 +72,19 @@ public:
         const QString places = qEnvironmentVariable("QUORVEL_DESK_PLACES");
         if (!places.isEmpty())
             new virtualdesk::Whereabouts(places, qApp);
-        if (m_window != nullptr || qEnvironmentVariable("QUORVEL_DESK_WINDOW") == QLatin1String("0"))
-            return;
+        if (m_window == nullptr && qEnvironmentVariable("QUORVEL_DESK_WINDOW") != QLatin1String("0"))
+            new FirstPaint([this] { showWindow(); });
+    }
+
+private:
+    void showWindow()
+    {
         m_window = std::make_unique<virtualdesk::DeskWindow>(ownDesk);
         // The desk outlives the application object, which a widget must not.
         QObject::connect(qApp, &QCoreApplication::aboutToQuit, m_window.get(), [this] { m_window.reset(); });
         m_window->show();
     }
 
-private:
     std::optional<virtualdesk::RequestLog> m_requestLog;
     std::unique_ptr<virtualdesk::DeskWindow> m_window;
 };
