@@ -64,6 +64,15 @@ void TestDrawnPages::pointingShowsAndSendsNothing()
     constexpr QRgb kGreen = 0xff4bff7d;
     for (const auto &[x, isOn] : {std::pair(-13, false), {-12, true}, {0, true}, {12, true}, {13, false}})
         QCOMPARE(image.pixel(middle + QPoint(x, 0)) == kGreen, isOn);
+
+    // Beside it stands which keys do the same, as the list of shortcuts is now.
+    for (const char *switched : {"on", "off"}) {
+        QVERIFY(writeText("basicMode.ini", QByteArray("[25]\nplusKey=Ctrl+Alt+C\nsubKey=\nswitchStatus=") + switched));
+        game->showPanel("Game Crosshair");
+        const QList<QLabel *> labels = shown->parentWidget()->findChildren<QLabel *>();
+        QCOMPARE(std::ranges::any_of(labels, [](const QLabel *label) { return label->text().contains("Ctrl+Alt+C"); }),
+                 qstrcmp(switched, "on") == 0);
+    }
 }
 
 using Arrange = std::function<void(WindowArranger &)>;

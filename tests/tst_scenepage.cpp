@@ -1,6 +1,7 @@
 #include <QPushButton>
 #include <QtTest>
 
+#include "controls/monitorpicture.h"
 #include "controls/nowheelslider.h"
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
@@ -8,6 +9,7 @@
 #include "page/Scene/pagescenesetting.h"
 #include "page/Scene/scenetable.h"
 #include "page/engine/optiongrouprow.h"
+#include "page/engine/picturestage.h"
 #include "support/sessiondesk.h"
 
 class TestScenePage : public QObject
@@ -25,6 +27,7 @@ private Q_SLOTS:
     void halfWithUnreadBlock();
     void chooseScene();
     void factoryEditsAreNotTheUsers();
+    void customHalfIsPictured();
 
 private:
     void start(int scene);
@@ -266,6 +269,33 @@ void TestScenePage::factoryEditsAreNotTheUsers()
     deviceState.wish(Command::BlackLevel, 3); // on another page, while the factory mode is on
     QTest::mouseClick(half("        Custom"), Qt::LeftButton);
     QCOMPARE(m_page->slider("Black Level")->value(), int(m_desk->monitor().block(10).at(5)));
+}
+
+/// Each setting shows at once, and an option before it is chosen; what is not in sight is not even built.
+void TestScenePage::customHalfIsPictured()
+{
+    start(1);
+    QVERIFY(!m_page->findChild<PictureStage *>());
+    cleanup();
+    start(2);
+    auto *stage = m_page->findChild<PictureStage *>();
+    const auto seen = [stage] { return stage->picture()->grab().toImage(); };
+    QCoreApplication::processEvents();
+    QVERIFY(stage->isVisible());
+    QList<QImage> pictures{seen()};
+    for (const auto &[command, value] :
+         {std::pair(Command::Gamma, 0), {Command::ColorTemperature, 6}, {Command::GrayResponse, 4}}) {
+        QEnterEvent enter({}, {}, {});
+        QEvent leave(QEvent::Leave);
+        QCoreApplication::sendEvent(option(command, value), &enter);
+        QVERIFY(!pictures.contains(seen()));
+        pictures.append(seen());
+        QCoreApplication::sendEvent(option(command, value), &leave);
+        QCOMPARE(seen(), pictures.first());
+    }
+    QCOMPARE(m_desk->takeCommands().filter("W"), QStringList());
+    deviceState.told(Command::Brightness, 5);
+    QVERIFY(seen() != pictures.first());
 }
 
 QTEST_MAIN(TestScenePage)

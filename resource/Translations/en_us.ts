@@ -40,6 +40,14 @@
         <translation>%1 cannot be written: what is set here lasts until the program ends.</translation>
     </message>
     <message>
+        <source>%1 goes to the level before.</source>
+        <translation>%1 goes to the level before.</translation>
+    </message>
+    <message>
+        <source>%1 goes to the next level.</source>
+        <translation>%1 goes to the next level.</translation>
+    </message>
+    <message>
         <source>%1 has no OLED panel to care for.</source>
         <translation>%1 has no OLED panel to care for.</translation>
     </message>
@@ -70,6 +78,14 @@
     <message>
         <source>%1 is taken by another program or function and does nothing here.</source>
         <translation>%1 is taken by another program or function and does nothing here.</translation>
+    </message>
+    <message>
+        <source>%1 moves it to the corner before.</source>
+        <translation>%1 moves it to the corner before.</translation>
+    </message>
+    <message>
+        <source>%1 moves it to the next corner.</source>
+        <translation>%1 moves it to the next corner.</translation>
     </message>
     <message>
         <source>%1 ms</source>
@@ -104,8 +120,36 @@
         <translation>%1 s left</translation>
     </message>
     <message>
+        <source>%1 steps the colour.</source>
+        <translation>%1 steps the colour.</translation>
+    </message>
+    <message>
+        <source>%1 steps the corner.</source>
+        <translation>%1 steps the corner.</translation>
+    </message>
+    <message>
+        <source>%1 steps the length.</source>
+        <translation>%1 steps the length.</translation>
+    </message>
+    <message>
+        <source>%1 steps the shape.</source>
+        <translation>%1 steps the shape.</translation>
+    </message>
+    <message>
+        <source>%1 steps the time.</source>
+        <translation>%1 steps the time.</translation>
+    </message>
+    <message>
         <source>%1 succeeded</source>
         <translation>%1 succeeded</translation>
+    </message>
+    <message>
+        <source>%1 switches it off.</source>
+        <translation>%1 switches it off.</translation>
+    </message>
+    <message>
+        <source>%1 switches it on.</source>
+        <translation>%1 switches it on.</translation>
     </message>
     <message>
         <source>%1 was changed to &quot;%2&quot;.</source>
@@ -316,12 +360,28 @@
         <translation>A line of text that the matrix shows, standing or scrolling.</translation>
     </message>
     <message>
+        <source>A little cooler than usual.</source>
+        <translation>A little cooler than usual.</translation>
+    </message>
+    <message>
         <source>A little darker, and a little cheaper.</source>
         <translation>A little darker, and a little cheaper.</translation>
     </message>
     <message>
         <source>A little darker: hardly to be seen, for normal work.</source>
         <translation>A little darker: hardly to be seen, for normal work.</translation>
+    </message>
+    <message>
+        <source>A little faster, without side effects.</source>
+        <translation>A little faster, without side effects.</translation>
+    </message>
+    <message>
+        <source>A little warm, as light at noon.</source>
+        <translation>A little warm, as light at noon.</translation>
+    </message>
+    <message>
+        <source>A mixture of your own: set its red, green and blue with the sliders below.</source>
+        <translation>A mixture of your own: set its red, green and blue with the sliders below.</translation>
     </message>
     <message>
         <source>A protractor around the middle, to measure angles.</source>
@@ -532,6 +592,10 @@
         <translation>As bright as you set it.</translation>
     </message>
     <message>
+        <source>As fast as it goes. Bright rims may follow what moves.</source>
+        <translation>As fast as it goes. Bright rims may follow what moves.</translation>
+    </message>
+    <message>
         <source>Asked again and told; nothing to do.</source>
         <translation>Asked again and told; nothing to do.</translation>
     </message>
@@ -622,6 +686,10 @@
     <message>
         <source>Breathe</source>
         <translation>Breathe</translation>
+    </message>
+    <message>
+        <source>Bright middle tones, for a bright room.</source>
+        <translation>Bright middle tones, for a bright room.</translation>
     </message>
     <message>
         <source>Bright parts shine when the signal has the range for it.</source>
@@ -852,6 +920,10 @@
         <translation>Convo</translation>
     </message>
     <message>
+        <source>Cool white: text looks crisp.</source>
+        <translation>Cool white: text looks crisp.</translation>
+    </message>
+    <message>
         <source>Copy report</source>
         <translation>Copy report</translation>
     </message>
@@ -952,12 +1024,44 @@
         <translation>Dark Programme</translation>
     </message>
     <message>
+        <source>Dark and rich in contrast, as films look in a cinema.</source>
+        <translation>Dark and rich in contrast, as films look in a cinema.</translation>
+    </message>
+    <message>
+        <source>Dark parts become a little darker.</source>
+        <translation>Dark parts become a little darker.</translation>
+    </message>
+    <message>
+        <source>Dark places are always a little brighter.</source>
+        <translation>Dark places are always a little brighter.</translation>
+    </message>
+    <message>
+        <source>Dark places are always much brighter.</source>
+        <translation>Dark places are always much brighter.</translation>
+    </message>
+    <message>
+        <source>Dark places stay dark.</source>
+        <translation>Dark places stay dark.</translation>
+    </message>
+    <message>
+        <source>Dark scenes become a little brighter, bright ones stay as they are.</source>
+        <translation>Dark scenes become a little brighter, bright ones stay as they are.</translation>
+    </message>
+    <message>
+        <source>Dark scenes become much brighter, bright ones stay as they are.</source>
+        <translation>Dark scenes become much brighter, bright ones stay as they are.</translation>
+    </message>
+    <message>
         <source>Dark with the Screen</source>
         <translation>Dark with the Screen</translation>
     </message>
     <message>
         <source>Darkens the rim of the screen, so that the middle draws the eye.</source>
         <translation>Darkens the rim of the screen, so that the middle draws the eye.</translation>
+    </message>
+    <message>
+        <source>Darker black, for films and games.</source>
+        <translation>Darker black, for films and games.</translation>
     </message>
     <message>
         <source>Deep contrast for films.</source>
@@ -994,6 +1098,10 @@
     <message>
         <source>Dims after a few minutes without a change.</source>
         <translation>Dims after a few minutes without a change.</translation>
+    </message>
+    <message>
+        <source>Dims gently, so that changes are hardly noticed.</source>
+        <translation>Dims gently, so that changes are hardly noticed.</translation>
     </message>
     <message>
         <source>Dims signs that stand still, such as a station&apos;s logo. Close = off; Low to High are stronger in turn.</source>
@@ -1198,6 +1306,14 @@
     <message>
         <source>Fast</source>
         <translation>Fast</translation>
+    </message>
+    <message>
+        <source>Fast, for games. Light edges may be seen on some grey tones.</source>
+        <translation>Fast, for games. Light edges may be seen on some grey tones.</translation>
+    </message>
+    <message>
+        <source>Faster: less smear behind what moves.</source>
+        <translation>Faster: less smear behind what moves.</translation>
     </message>
     <message>
         <source>File is null.</source>
@@ -1724,6 +1840,10 @@
         <translation>Level5</translation>
     </message>
     <message>
+        <source>Lifts thin lines and dark surfaces of drawings.</source>
+        <translation>Lifts thin lines and dark surfaces of drawings.</translation>
+    </message>
+    <message>
         <source>Light Brightness</source>
         <translation>Light Brightness</translation>
     </message>
@@ -1940,6 +2060,14 @@
         <translation>Middle</translation>
     </message>
     <message>
+        <source>Middle tones a little brighter than usual.</source>
+        <translation>Middle tones a little brighter than usual.</translation>
+    </message>
+    <message>
+        <source>Middle tones a little darker, for films in a dim room.</source>
+        <translation>Middle tones a little darker, for films in a dim room.</translation>
+    </message>
+    <message>
         <source>Middle+</source>
         <translation>Middle+</translation>
     </message>
@@ -2074,6 +2202,10 @@
     <message>
         <source>Native Mode</source>
         <translation>Native Mode</translation>
+    </message>
+    <message>
+        <source>Nearly the usual white, a touch warmer.</source>
+        <translation>Nearly the usual white, a touch warmer.</translation>
     </message>
     <message>
         <source>New device</source>
@@ -2360,8 +2492,16 @@
         <translation>Picture in picture: a second input in a small window over the first, to keep an eye on another computer.</translation>
     </message>
     <message>
+        <source>Pictures are shown as they come.</source>
+        <translation>Pictures are shown as they come.</translation>
+    </message>
+    <message>
         <source>Pixel Shift</source>
         <translation>Pixel Shift</translation>
+    </message>
+    <message>
+        <source>Pixels change as fast as the panel does by itself. Nothing is driven harder.</source>
+        <translation>Pixels change as fast as the panel does by itself. Nothing is driven harder.</translation>
     </message>
     <message>
         <source>Pixels change faster and motion smears less. Close = off, Topspeed = fastest, which may leave bright edges.</source>
@@ -2792,6 +2932,18 @@
         <translation>Sharp motion with local dimming.</translation>
     </message>
     <message>
+        <source>Sharp movement for games.</source>
+        <translation>Sharp movement for games.</translation>
+    </message>
+    <message>
+        <source>Sharp movement with a short delay, for fast games.</source>
+        <translation>Sharp movement with a short delay, for fast games.</translation>
+    </message>
+    <message>
+        <source>Sharper still, with a short delay.</source>
+        <translation>Sharper still, with a short delay.</translation>
+    </message>
+    <message>
         <source>Sharpness</source>
         <translation>Sharpness</translation>
     </message>
@@ -3076,6 +3228,10 @@
         <translation>The computer and its monitors sleep until the button is released</translation>
     </message>
     <message>
+        <source>The deepest black. A glow may show around bright things.</source>
+        <translation>The deepest black. A glow may show around bright things.</translation>
+    </message>
+    <message>
         <source>The disk did not take everything.</source>
         <translation>The disk did not take everything.</translation>
     </message>
@@ -3130,6 +3286,10 @@
     <message>
         <source>The layout has no such zone.</source>
         <translation>The layout has no such zone.</translation>
+    </message>
+    <message>
+        <source>The light behind the picture is even. Best for text.</source>
+        <translation>The light behind the picture is even. Best for text.</translation>
     </message>
     <message>
         <source>The maker&apos;s own tuning.</source>
@@ -3288,6 +3448,10 @@
         <translation>The sharpest motion for shooters.</translation>
     </message>
     <message>
+        <source>The sharpest movement, for the fastest games.</source>
+        <translation>The sharpest movement, for the fastest games.</translation>
+    </message>
+    <message>
         <source>The simulated monitor that is shown here</source>
         <translation>The simulated monitor that is shown here</translation>
     </message>
@@ -3334,6 +3498,14 @@
     <message>
         <source>The upgrade program is running already.</source>
         <translation>The upgrade program is running already.</translation>
+    </message>
+    <message>
+        <source>The usual for web, office, photos and most games.</source>
+        <translation>The usual for web, office, photos and most games.</translation>
+    </message>
+    <message>
+        <source>The usual white for web, photos and films.</source>
+        <translation>The usual white for web, photos and films.</translation>
     </message>
     <message>
         <source>The version of your monitor&apos;s firmware.</source>
@@ -3612,6 +3784,14 @@
         <translation>Value before</translation>
     </message>
     <message>
+        <source>Very bright middle tones: shows what hides in the dark.</source>
+        <translation>Very bright middle tones: shows what hides in the dark.</translation>
+    </message>
+    <message>
+        <source>Very cool, bluish white, as on old screens.</source>
+        <translation>Very cool, bluish white, as on old screens.</translation>
+    </message>
+    <message>
         <source>Visibly darker, for long days with the same windows.</source>
         <translation>Visibly darker, for long days with the same windows.</translation>
     </message>
@@ -3630,6 +3810,14 @@
     <message>
         <source>Warm</source>
         <translation>Warm</translation>
+    </message>
+    <message>
+        <source>Warm white for the evening. The slider below says how warm.</source>
+        <translation>Warm white for the evening. The slider below says how warm.</translation>
+    </message>
+    <message>
+        <source>Warm white, as paper under the lamps of a print shop.</source>
+        <translation>Warm white, as paper under the lamps of a print shop.</translation>
     </message>
     <message>
         <source>Warning</source>
@@ -3662,6 +3850,14 @@
     <message>
         <source>What most visitors of a page see.</source>
         <translation>What most visitors of a page see.</translation>
+    </message>
+    <message>
+        <source>What moves looks a little sharper. Good for films.</source>
+        <translation>What moves looks a little sharper. Good for films.</translation>
+    </message>
+    <message>
+        <source>What moves looks clearly sharper. Good for sport.</source>
+        <translation>What moves looks clearly sharper. Good for sport.</translation>
     </message>
     <message>
         <source>What plays</source>

@@ -40,6 +40,14 @@
         <translation>%1 に書き込めません。ここでの設定はアプリの終了まで有効です。</translation>
     </message>
     <message>
+        <source>%1 goes to the level before.</source>
+        <translation>%1 で前のレベルにします。</translation>
+    </message>
+    <message>
+        <source>%1 goes to the next level.</source>
+        <translation>%1 で次のレベルにします。</translation>
+    </message>
+    <message>
         <source>%1 has no OLED panel to care for.</source>
         <translation>%1 にはケアの対象となる OLED パネルがありません。</translation>
     </message>
@@ -70,6 +78,14 @@
     <message>
         <source>%1 is taken by another program or function and does nothing here.</source>
         <translation>%1 は他のアプリまたは機能が使用中のため、ここでは動作しません。</translation>
+    </message>
+    <message>
+        <source>%1 moves it to the corner before.</source>
+        <translation>%1 で前の隅へ移動します。</translation>
+    </message>
+    <message>
+        <source>%1 moves it to the next corner.</source>
+        <translation>%1 で次の隅へ移動します。</translation>
     </message>
     <message>
         <source>%1 ms</source>
@@ -104,8 +120,36 @@
         <translation>残り %1 秒</translation>
     </message>
     <message>
+        <source>%1 steps the colour.</source>
+        <translation>%1 で色を切り替えます。</translation>
+    </message>
+    <message>
+        <source>%1 steps the corner.</source>
+        <translation>%1 で隅を切り替えます。</translation>
+    </message>
+    <message>
+        <source>%1 steps the length.</source>
+        <translation>%1 で長さを切り替えます。</translation>
+    </message>
+    <message>
+        <source>%1 steps the shape.</source>
+        <translation>%1 で形を切り替えます。</translation>
+    </message>
+    <message>
+        <source>%1 steps the time.</source>
+        <translation>%1 で時間を切り替えます。</translation>
+    </message>
+    <message>
         <source>%1 succeeded</source>
         <translation>%1 回成功</translation>
+    </message>
+    <message>
+        <source>%1 switches it off.</source>
+        <translation>%1 でオフにします。</translation>
+    </message>
+    <message>
+        <source>%1 switches it on.</source>
+        <translation>%1 でオンにします。</translation>
     </message>
     <message>
         <source>%1 was changed to &quot;%2&quot;.</source>
@@ -316,12 +360,28 @@
         <translation>マトリックスに静止またはスクロールで表示する 1 行のテキスト。</translation>
     </message>
     <message>
+        <source>A little cooler than usual.</source>
+        <translation>標準より少し冷たい白です。</translation>
+    </message>
+    <message>
         <source>A little darker, and a little cheaper.</source>
         <translation>少し暗く、少し省電力です。</translation>
     </message>
     <message>
         <source>A little darker: hardly to be seen, for normal work.</source>
         <translation>わずかに暗くします。ほとんど気づかないので、普段の作業に向いています。</translation>
+    </message>
+    <message>
+        <source>A little faster, without side effects.</source>
+        <translation>少しだけ速くなります。副作用はありません。</translation>
+    </message>
+    <message>
+        <source>A little warm, as light at noon.</source>
+        <translation>正午の光のような、少し暖かい白です。</translation>
+    </message>
+    <message>
+        <source>A mixture of your own: set its red, green and blue with the sliders below.</source>
+        <translation>自分だけの配合です。赤・緑・青を下のスライダーで設定します。</translation>
     </message>
     <message>
         <source>A protractor around the middle, to measure angles.</source>
@@ -532,6 +592,10 @@
         <translation>設定した明るさのままです。</translation>
     </message>
     <message>
+        <source>As fast as it goes. Bright rims may follow what moves.</source>
+        <translation>最速です。動くものに明るい縁が付くことがあります。</translation>
+    </message>
+    <message>
         <source>Asked again and told; nothing to do.</source>
         <translation>再読み取りできました。操作は不要です。</translation>
     </message>
@@ -622,6 +686,10 @@
     <message>
         <source>Breathe</source>
         <translation>呼吸</translation>
+    </message>
+    <message>
+        <source>Bright middle tones, for a bright room.</source>
+        <translation>中間の階調が明るめです。明るい部屋に向いています。</translation>
     </message>
     <message>
         <source>Bright parts shine when the signal has the range for it.</source>
@@ -852,6 +920,10 @@
         <translation>会話</translation>
     </message>
     <message>
+        <source>Cool white: text looks crisp.</source>
+        <translation>冷たい白で、文字がくっきり見えます。</translation>
+    </message>
+    <message>
         <source>Copy report</source>
         <translation>レポートをコピー</translation>
     </message>
@@ -952,12 +1024,44 @@
         <translation>プログラミング(暗)</translation>
     </message>
     <message>
+        <source>Dark and rich in contrast, as films look in a cinema.</source>
+        <translation>暗めでコントラストが強く、映画館のような見え方です。</translation>
+    </message>
+    <message>
+        <source>Dark parts become a little darker.</source>
+        <translation>暗い部分が少し暗くなります。</translation>
+    </message>
+    <message>
+        <source>Dark places are always a little brighter.</source>
+        <translation>暗い場所を常に少し明るくします。</translation>
+    </message>
+    <message>
+        <source>Dark places are always much brighter.</source>
+        <translation>暗い場所を常に大きく明るくします。</translation>
+    </message>
+    <message>
+        <source>Dark places stay dark.</source>
+        <translation>暗い場所は暗いままです。</translation>
+    </message>
+    <message>
+        <source>Dark scenes become a little brighter, bright ones stay as they are.</source>
+        <translation>暗い場面を少し明るくし、明るい場面はそのままにします。</translation>
+    </message>
+    <message>
+        <source>Dark scenes become much brighter, bright ones stay as they are.</source>
+        <translation>暗い場面を大きく明るくし、明るい場面はそのままにします。</translation>
+    </message>
+    <message>
         <source>Dark with the Screen</source>
         <translation>画面と消灯</translation>
     </message>
     <message>
         <source>Darkens the rim of the screen, so that the middle draws the eye.</source>
         <translation>画面の縁を暗くして、中央に視線を集めます。</translation>
+    </message>
+    <message>
+        <source>Darker black, for films and games.</source>
+        <translation>黒がより深くなります。映画やゲームに向いています。</translation>
     </message>
     <message>
         <source>Deep contrast for films.</source>
@@ -994,6 +1098,10 @@
     <message>
         <source>Dims after a few minutes without a change.</source>
         <translation>数分間変化がないと暗くします。</translation>
+    </message>
+    <message>
+        <source>Dims gently, so that changes are hardly noticed.</source>
+        <translation>変化が気にならないよう、穏やかに暗くします。</translation>
     </message>
     <message>
         <source>Dims signs that stand still, such as a station&apos;s logo. Close = off; Low to High are stronger in turn.</source>
@@ -1198,6 +1306,14 @@
     <message>
         <source>Fast</source>
         <translation>速い</translation>
+    </message>
+    <message>
+        <source>Fast, for games. Light edges may be seen on some grey tones.</source>
+        <translation>ゲーム向けの速さです。一部の階調で明るい縁が見えることがあります。</translation>
+    </message>
+    <message>
+        <source>Faster: less smear behind what moves.</source>
+        <translation>より速くなり、動くものの残像が減ります。</translation>
     </message>
     <message>
         <source>File is null.</source>
@@ -1724,6 +1840,10 @@
         <translation>レベル 5</translation>
     </message>
     <message>
+        <source>Lifts thin lines and dark surfaces of drawings.</source>
+        <translation>図面の細い線や暗い面を見やすくします。</translation>
+    </message>
+    <message>
         <source>Light Brightness</source>
         <translation>ライトの明るさ</translation>
     </message>
@@ -1940,6 +2060,14 @@
         <translation>中央</translation>
     </message>
     <message>
+        <source>Middle tones a little brighter than usual.</source>
+        <translation>中間の階調が標準より少し明るくなります。</translation>
+    </message>
+    <message>
+        <source>Middle tones a little darker, for films in a dim room.</source>
+        <translation>中間の階調が少し暗くなります。薄暗い部屋での映画に向いています。</translation>
+    </message>
+    <message>
         <source>Middle+</source>
         <translation>中央+</translation>
     </message>
@@ -2074,6 +2202,10 @@
     <message>
         <source>Native Mode</source>
         <translation>ネイティブモード</translation>
+    </message>
+    <message>
+        <source>Nearly the usual white, a touch warmer.</source>
+        <translation>標準に近く、ほんの少し暖かい白です。</translation>
     </message>
     <message>
         <source>New device</source>
@@ -2360,8 +2492,16 @@
         <translation>ピクチャーインピクチャー: 2 つ目の入力を小さな子画面で重ねます。別のコンピューターの様子を見ておけます。</translation>
     </message>
     <message>
+        <source>Pictures are shown as they come.</source>
+        <translation>映像をそのまま表示します。</translation>
+    </message>
+    <message>
         <source>Pixel Shift</source>
         <translation>ピクセルシフト</translation>
+    </message>
+    <message>
+        <source>Pixels change as fast as the panel does by itself. Nothing is driven harder.</source>
+        <translation>画素はパネル本来の速さで変わります。加速はしません。</translation>
     </message>
     <message>
         <source>Pixels change faster and motion smears less. Close = off, Topspeed = fastest, which may leave bright edges.</source>
@@ -2792,6 +2932,18 @@
         <translation>ローカルディミングとくっきりした動きを両立します。</translation>
     </message>
     <message>
+        <source>Sharp movement for games.</source>
+        <translation>ゲーム向けのくっきりした動きです。</translation>
+    </message>
+    <message>
+        <source>Sharp movement with a short delay, for fast games.</source>
+        <translation>遅延を抑えたくっきりした動きです。速いゲームに向いています。</translation>
+    </message>
+    <message>
+        <source>Sharper still, with a short delay.</source>
+        <translation>さらにくっきり、遅延は短いままです。</translation>
+    </message>
+    <message>
         <source>Sharpness</source>
         <translation>シャープネス</translation>
     </message>
@@ -3076,6 +3228,10 @@
         <translation>ボタンを戻すまで、コンピューターとモニターはスリープします</translation>
     </message>
     <message>
+        <source>The deepest black. A glow may show around bright things.</source>
+        <translation>最も深い黒です。明るいものの周りに光のにじみが出ることがあります。</translation>
+    </message>
+    <message>
         <source>The disk did not take everything.</source>
         <translation>ディスクにすべてを書き込めませんでした。</translation>
     </message>
@@ -3130,6 +3286,10 @@
     <message>
         <source>The layout has no such zone.</source>
         <translation>レイアウトにその領域はありません。</translation>
+    </message>
+    <message>
+        <source>The light behind the picture is even. Best for text.</source>
+        <translation>バックライトが均一になります。文字に最適です。</translation>
     </message>
     <message>
         <source>The maker&apos;s own tuning.</source>
@@ -3288,6 +3448,10 @@
         <translation>シューティングゲームに適した最もくっきりした動きです。</translation>
     </message>
     <message>
+        <source>The sharpest movement, for the fastest games.</source>
+        <translation>最もくっきりした動きです。最も速いゲームに向いています。</translation>
+    </message>
+    <message>
         <source>The simulated monitor that is shown here</source>
         <translation>ここに表示するモニター</translation>
     </message>
@@ -3334,6 +3498,14 @@
     <message>
         <source>The upgrade program is running already.</source>
         <translation>更新アプリは既に実行中です。</translation>
+    </message>
+    <message>
+        <source>The usual for web, office, photos and most games.</source>
+        <translation>Web、オフィス、写真、多くのゲームの標準です。</translation>
+    </message>
+    <message>
+        <source>The usual white for web, photos and films.</source>
+        <translation>Web、写真、映画の標準の白です。</translation>
     </message>
     <message>
         <source>The version of your monitor&apos;s firmware.</source>
@@ -3612,6 +3784,14 @@
         <translation>前の値</translation>
     </message>
     <message>
+        <source>Very bright middle tones: shows what hides in the dark.</source>
+        <translation>中間の階調がとても明るく、暗がりに隠れたものが見えます。</translation>
+    </message>
+    <message>
+        <source>Very cool, bluish white, as on old screens.</source>
+        <translation>古い画面のような、青みがかったとても冷たい白です。</translation>
+    </message>
+    <message>
         <source>Visibly darker, for long days with the same windows.</source>
         <translation>はっきり暗くします。一日中同じウィンドウを使うときに向いています。</translation>
     </message>
@@ -3630,6 +3810,14 @@
     <message>
         <source>Warm</source>
         <translation>暖色</translation>
+    </message>
+    <message>
+        <source>Warm white for the evening. The slider below says how warm.</source>
+        <translation>夜向けの暖かい白です。どのくらい暖かいかは下のスライダーで決めます。</translation>
+    </message>
+    <message>
+        <source>Warm white, as paper under the lamps of a print shop.</source>
+        <translation>印刷所の照明で見る紙のような、暖かい白です。</translation>
     </message>
     <message>
         <source>Warning</source>
@@ -3662,6 +3850,14 @@
     <message>
         <source>What most visitors of a page see.</source>
         <translation>多くの閲覧者が目にする色です。</translation>
+    </message>
+    <message>
+        <source>What moves looks a little sharper. Good for films.</source>
+        <translation>動くものが少しくっきりします。映画に向いています。</translation>
+    </message>
+    <message>
+        <source>What moves looks clearly sharper. Good for sport.</source>
+        <translation>動くものがはっきりくっきりします。スポーツに向いています。</translation>
     </message>
     <message>
         <source>What plays</source>

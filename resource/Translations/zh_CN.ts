@@ -40,6 +40,14 @@
         <translation>无法写入 %1：此处的设置在程序结束前有效。</translation>
     </message>
     <message>
+        <source>%1 goes to the level before.</source>
+        <translation>%1：切换到上一级。</translation>
+    </message>
+    <message>
+        <source>%1 goes to the next level.</source>
+        <translation>%1：切换到下一级。</translation>
+    </message>
+    <message>
         <source>%1 has no OLED panel to care for.</source>
         <translation>%1 没有需要护理的 OLED 面板。</translation>
     </message>
@@ -70,6 +78,14 @@
     <message>
         <source>%1 is taken by another program or function and does nothing here.</source>
         <translation>%1 已被其他程序或功能占用，在此不起作用。</translation>
+    </message>
+    <message>
+        <source>%1 moves it to the corner before.</source>
+        <translation>%1：移到上一个角落。</translation>
+    </message>
+    <message>
+        <source>%1 moves it to the next corner.</source>
+        <translation>%1：移到下一个角落。</translation>
     </message>
     <message>
         <source>%1 ms</source>
@@ -104,8 +120,36 @@
         <translation>剩余 %1 秒</translation>
     </message>
     <message>
+        <source>%1 steps the colour.</source>
+        <translation>%1：切换颜色。</translation>
+    </message>
+    <message>
+        <source>%1 steps the corner.</source>
+        <translation>%1：切换角落。</translation>
+    </message>
+    <message>
+        <source>%1 steps the length.</source>
+        <translation>%1：切换时长。</translation>
+    </message>
+    <message>
+        <source>%1 steps the shape.</source>
+        <translation>%1：切换形状。</translation>
+    </message>
+    <message>
+        <source>%1 steps the time.</source>
+        <translation>%1：切换时间。</translation>
+    </message>
+    <message>
         <source>%1 succeeded</source>
         <translation>%1 次成功</translation>
+    </message>
+    <message>
+        <source>%1 switches it off.</source>
+        <translation>%1：关闭。</translation>
+    </message>
+    <message>
+        <source>%1 switches it on.</source>
+        <translation>%1：开启。</translation>
     </message>
     <message>
         <source>%1 was changed to &quot;%2&quot;.</source>
@@ -316,12 +360,28 @@
         <translation>一行文字，在矩阵上静止或滚动显示。</translation>
     </message>
     <message>
+        <source>A little cooler than usual.</source>
+        <translation>比通常略冷。</translation>
+    </message>
+    <message>
         <source>A little darker, and a little cheaper.</source>
         <translation>稍暗，略微省电。</translation>
     </message>
     <message>
         <source>A little darker: hardly to be seen, for normal work.</source>
         <translation>略微变暗：几乎看不出来，适合日常工作。</translation>
+    </message>
+    <message>
+        <source>A little faster, without side effects.</source>
+        <translation>略微加快，没有副作用。</translation>
+    </message>
+    <message>
+        <source>A little warm, as light at noon.</source>
+        <translation>略微偏暖，如同正午的阳光。</translation>
+    </message>
+    <message>
+        <source>A mixture of your own: set its red, green and blue with the sliders below.</source>
+        <translation>您自己的配色：用下方的滑块设置红、绿、蓝。</translation>
     </message>
     <message>
         <source>A protractor around the middle, to measure angles.</source>
@@ -532,6 +592,10 @@
         <translation>保持您设置的亮度。</translation>
     </message>
     <message>
+        <source>As fast as it goes. Bright rims may follow what moves.</source>
+        <translation>最快。移动物体后可能出现亮边。</translation>
+    </message>
+    <message>
         <source>Asked again and told; nothing to do.</source>
         <translation>重新读取成功，无需处理。</translation>
     </message>
@@ -622,6 +686,10 @@
     <message>
         <source>Breathe</source>
         <translation>呼吸</translation>
+    </message>
+    <message>
+        <source>Bright middle tones, for a bright room.</source>
+        <translation>中间调较亮，适合明亮的房间。</translation>
     </message>
     <message>
         <source>Bright parts shine when the signal has the range for it.</source>
@@ -852,6 +920,10 @@
         <translation>对话</translation>
     </message>
     <message>
+        <source>Cool white: text looks crisp.</source>
+        <translation>冷白：文字显得清晰。</translation>
+    </message>
+    <message>
         <source>Copy report</source>
         <translation>复制报告</translation>
     </message>
@@ -952,12 +1024,44 @@
         <translation>编程(深色)</translation>
     </message>
     <message>
+        <source>Dark and rich in contrast, as films look in a cinema.</source>
+        <translation>偏暗且对比强烈，如同影院效果。</translation>
+    </message>
+    <message>
+        <source>Dark parts become a little darker.</source>
+        <translation>暗部略微变暗。</translation>
+    </message>
+    <message>
+        <source>Dark places are always a little brighter.</source>
+        <translation>暗处始终略微提亮。</translation>
+    </message>
+    <message>
+        <source>Dark places are always much brighter.</source>
+        <translation>暗处始终大幅提亮。</translation>
+    </message>
+    <message>
+        <source>Dark places stay dark.</source>
+        <translation>暗处保持原样。</translation>
+    </message>
+    <message>
+        <source>Dark scenes become a little brighter, bright ones stay as they are.</source>
+        <translation>暗场景略微提亮，亮场景保持不变。</translation>
+    </message>
+    <message>
+        <source>Dark scenes become much brighter, bright ones stay as they are.</source>
+        <translation>暗场景大幅提亮，亮场景保持不变。</translation>
+    </message>
+    <message>
         <source>Dark with the Screen</source>
         <translation>随屏熄灯</translation>
     </message>
     <message>
         <source>Darkens the rim of the screen, so that the middle draws the eye.</source>
         <translation>调暗屏幕边缘，让视线集中在中央。</translation>
+    </message>
+    <message>
+        <source>Darker black, for films and games.</source>
+        <translation>黑色更深，适合电影和游戏。</translation>
     </message>
     <message>
         <source>Deep contrast for films.</source>
@@ -994,6 +1098,10 @@
     <message>
         <source>Dims after a few minutes without a change.</source>
         <translation>画面几分钟没有变化后变暗。</translation>
+    </message>
+    <message>
+        <source>Dims gently, so that changes are hardly noticed.</source>
+        <translation>柔和调光，几乎察觉不到变化。</translation>
     </message>
     <message>
         <source>Dims signs that stand still, such as a station&apos;s logo. Close = off; Low to High are stronger in turn.</source>
@@ -1198,6 +1306,14 @@
     <message>
         <source>Fast</source>
         <translation>快</translation>
+    </message>
+    <message>
+        <source>Fast, for games. Light edges may be seen on some grey tones.</source>
+        <translation>快速，适合游戏。部分灰阶可能出现亮边。</translation>
+    </message>
+    <message>
+        <source>Faster: less smear behind what moves.</source>
+        <translation>更快：移动物体的拖影更少。</translation>
     </message>
     <message>
         <source>File is null.</source>
@@ -1724,6 +1840,10 @@
         <translation>等级 5</translation>
     </message>
     <message>
+        <source>Lifts thin lines and dark surfaces of drawings.</source>
+        <translation>让图纸的细线和暗面更清楚。</translation>
+    </message>
+    <message>
         <source>Light Brightness</source>
         <translation>灯光亮度</translation>
     </message>
@@ -1940,6 +2060,14 @@
         <translation>中间</translation>
     </message>
     <message>
+        <source>Middle tones a little brighter than usual.</source>
+        <translation>中间调比通常略亮。</translation>
+    </message>
+    <message>
+        <source>Middle tones a little darker, for films in a dim room.</source>
+        <translation>中间调略暗，适合在昏暗的房间看电影。</translation>
+    </message>
+    <message>
         <source>Middle+</source>
         <translation>中间偏上</translation>
     </message>
@@ -2074,6 +2202,10 @@
     <message>
         <source>Native Mode</source>
         <translation>原生模式</translation>
+    </message>
+    <message>
+        <source>Nearly the usual white, a touch warmer.</source>
+        <translation>接近通用的白色，稍暖一点。</translation>
     </message>
     <message>
         <source>New device</source>
@@ -2360,8 +2492,16 @@
         <translation>画中画：第二路输入显示在小窗口里，叠在第一路之上，便于留意另一台电脑。</translation>
     </message>
     <message>
+        <source>Pictures are shown as they come.</source>
+        <translation>画面原样显示。</translation>
+    </message>
+    <message>
         <source>Pixel Shift</source>
         <translation>像素移位</translation>
+    </message>
+    <message>
+        <source>Pixels change as fast as the panel does by itself. Nothing is driven harder.</source>
+        <translation>像素按面板本身的速度变化，不额外加速。</translation>
     </message>
     <message>
         <source>Pixels change faster and motion smears less. Close = off, Topspeed = fastest, which may leave bright edges.</source>
@@ -2792,6 +2932,18 @@
         <translation>动态清晰，并支持区域调光。</translation>
     </message>
     <message>
+        <source>Sharp movement for games.</source>
+        <translation>运动画面清晰，适合游戏。</translation>
+    </message>
+    <message>
+        <source>Sharp movement with a short delay, for fast games.</source>
+        <translation>运动画面清晰且延迟低，适合快节奏游戏。</translation>
+    </message>
+    <message>
+        <source>Sharper still, with a short delay.</source>
+        <translation>更加清晰，延迟低。</translation>
+    </message>
+    <message>
         <source>Sharpness</source>
         <translation>锐度</translation>
     </message>
@@ -3076,6 +3228,10 @@
         <translation>松开按钮前，电脑及其显示器处于睡眠状态</translation>
     </message>
     <message>
+        <source>The deepest black. A glow may show around bright things.</source>
+        <translation>黑色最深。明亮物体周围可能出现光晕。</translation>
+    </message>
+    <message>
         <source>The disk did not take everything.</source>
         <translation>磁盘未能写入全部内容。</translation>
     </message>
@@ -3130,6 +3286,10 @@
     <message>
         <source>The layout has no such zone.</source>
         <translation>布局中没有这个区域。</translation>
+    </message>
+    <message>
+        <source>The light behind the picture is even. Best for text.</source>
+        <translation>背光均匀，最适合阅读文字。</translation>
     </message>
     <message>
         <source>The maker&apos;s own tuning.</source>
@@ -3288,6 +3448,10 @@
         <translation>最清晰的动态画面，适合射击游戏。</translation>
     </message>
     <message>
+        <source>The sharpest movement, for the fastest games.</source>
+        <translation>运动画面最清晰，适合节奏最快的游戏。</translation>
+    </message>
+    <message>
         <source>The simulated monitor that is shown here</source>
         <translation>此处显示的模拟显示器</translation>
     </message>
@@ -3334,6 +3498,14 @@
     <message>
         <source>The upgrade program is running already.</source>
         <translation>升级程序已在运行。</translation>
+    </message>
+    <message>
+        <source>The usual for web, office, photos and most games.</source>
+        <translation>网页、办公、照片和大多数游戏的通用值。</translation>
+    </message>
+    <message>
+        <source>The usual white for web, photos and films.</source>
+        <translation>网页、照片和电影的通用白色。</translation>
     </message>
     <message>
         <source>The version of your monitor&apos;s firmware.</source>
@@ -3612,6 +3784,14 @@
         <translation>上一个值</translation>
     </message>
     <message>
+        <source>Very bright middle tones: shows what hides in the dark.</source>
+        <translation>中间调非常亮：能看清暗处的内容。</translation>
+    </message>
+    <message>
+        <source>Very cool, bluish white, as on old screens.</source>
+        <translation>非常冷的偏蓝白色，如同旧式屏幕。</translation>
+    </message>
+    <message>
         <source>Visibly darker, for long days with the same windows.</source>
         <translation>明显变暗，适合整天使用相同的窗口。</translation>
     </message>
@@ -3630,6 +3810,14 @@
     <message>
         <source>Warm</source>
         <translation>暖</translation>
+    </message>
+    <message>
+        <source>Warm white for the evening. The slider below says how warm.</source>
+        <translation>适合晚间的暖白。下方的滑块决定暖度。</translation>
+    </message>
+    <message>
+        <source>Warm white, as paper under the lamps of a print shop.</source>
+        <translation>暖白，如同印刷厂灯光下的纸张。</translation>
     </message>
     <message>
         <source>Warning</source>
@@ -3662,6 +3850,14 @@
     <message>
         <source>What most visitors of a page see.</source>
         <translation>大多数网页访客看到的色彩。</translation>
+    </message>
+    <message>
+        <source>What moves looks a little sharper. Good for films.</source>
+        <translation>移动物体略微清晰，适合看电影。</translation>
+    </message>
+    <message>
+        <source>What moves looks clearly sharper. Good for sport.</source>
+        <translation>移动物体明显清晰，适合看体育节目。</translation>
     </message>
     <message>
         <source>What plays</source>

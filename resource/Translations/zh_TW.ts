@@ -40,6 +40,14 @@
         <translation>無法寫入 %1：此處的設定在應用程式結束前有效。</translation>
     </message>
     <message>
+        <source>%1 goes to the level before.</source>
+        <translation>%1：切換到上一級。</translation>
+    </message>
+    <message>
+        <source>%1 goes to the next level.</source>
+        <translation>%1：切換到下一級。</translation>
+    </message>
+    <message>
         <source>%1 has no OLED panel to care for.</source>
         <translation>%1 沒有需要保養的 OLED 面板。</translation>
     </message>
@@ -70,6 +78,14 @@
     <message>
         <source>%1 is taken by another program or function and does nothing here.</source>
         <translation>%1 已被其他應用程式或功能佔用，在此不起作用。</translation>
+    </message>
+    <message>
+        <source>%1 moves it to the corner before.</source>
+        <translation>%1：移到上一個角落。</translation>
+    </message>
+    <message>
+        <source>%1 moves it to the next corner.</source>
+        <translation>%1：移到下一個角落。</translation>
     </message>
     <message>
         <source>%1 ms</source>
@@ -104,8 +120,36 @@
         <translation>剩餘 %1 秒</translation>
     </message>
     <message>
+        <source>%1 steps the colour.</source>
+        <translation>%1：切換顏色。</translation>
+    </message>
+    <message>
+        <source>%1 steps the corner.</source>
+        <translation>%1：切換角落。</translation>
+    </message>
+    <message>
+        <source>%1 steps the length.</source>
+        <translation>%1：切換時長。</translation>
+    </message>
+    <message>
+        <source>%1 steps the shape.</source>
+        <translation>%1：切換形狀。</translation>
+    </message>
+    <message>
+        <source>%1 steps the time.</source>
+        <translation>%1：切換時間。</translation>
+    </message>
+    <message>
         <source>%1 succeeded</source>
         <translation>%1 次成功</translation>
+    </message>
+    <message>
+        <source>%1 switches it off.</source>
+        <translation>%1：關閉。</translation>
+    </message>
+    <message>
+        <source>%1 switches it on.</source>
+        <translation>%1：開啟。</translation>
     </message>
     <message>
         <source>%1 was changed to &quot;%2&quot;.</source>
@@ -316,12 +360,28 @@
         <translation>一行文字，在矩陣上靜止或捲動顯示。</translation>
     </message>
     <message>
+        <source>A little cooler than usual.</source>
+        <translation>比通常略冷。</translation>
+    </message>
+    <message>
         <source>A little darker, and a little cheaper.</source>
         <translation>稍暗，略微省電。</translation>
     </message>
     <message>
         <source>A little darker: hardly to be seen, for normal work.</source>
         <translation>略微變暗：幾乎看不出來，適合日常工作。</translation>
+    </message>
+    <message>
+        <source>A little faster, without side effects.</source>
+        <translation>略微加快，沒有副作用。</translation>
+    </message>
+    <message>
+        <source>A little warm, as light at noon.</source>
+        <translation>略微偏暖，如同正午的陽光。</translation>
+    </message>
+    <message>
+        <source>A mixture of your own: set its red, green and blue with the sliders below.</source>
+        <translation>您自己的配色：用下方的滑桿設定紅、綠、藍。</translation>
     </message>
     <message>
         <source>A protractor around the middle, to measure angles.</source>
@@ -532,6 +592,10 @@
         <translation>保持您設定的亮度。</translation>
     </message>
     <message>
+        <source>As fast as it goes. Bright rims may follow what moves.</source>
+        <translation>最快。移動物體後方可能出現亮邊。</translation>
+    </message>
+    <message>
         <source>Asked again and told; nothing to do.</source>
         <translation>重新讀取成功，無需處理。</translation>
     </message>
@@ -622,6 +686,10 @@
     <message>
         <source>Breathe</source>
         <translation>呼吸</translation>
+    </message>
+    <message>
+        <source>Bright middle tones, for a bright room.</source>
+        <translation>中間調較亮，適合明亮的房間。</translation>
     </message>
     <message>
         <source>Bright parts shine when the signal has the range for it.</source>
@@ -852,6 +920,10 @@
         <translation>對話</translation>
     </message>
     <message>
+        <source>Cool white: text looks crisp.</source>
+        <translation>冷白：文字顯得清晰。</translation>
+    </message>
+    <message>
         <source>Copy report</source>
         <translation>複製報告</translation>
     </message>
@@ -952,12 +1024,44 @@
         <translation>程式設計(深色)</translation>
     </message>
     <message>
+        <source>Dark and rich in contrast, as films look in a cinema.</source>
+        <translation>偏暗且對比強烈，如同電影院效果。</translation>
+    </message>
+    <message>
+        <source>Dark parts become a little darker.</source>
+        <translation>暗部略微變暗。</translation>
+    </message>
+    <message>
+        <source>Dark places are always a little brighter.</source>
+        <translation>暗處始終略微提亮。</translation>
+    </message>
+    <message>
+        <source>Dark places are always much brighter.</source>
+        <translation>暗處始終大幅提亮。</translation>
+    </message>
+    <message>
+        <source>Dark places stay dark.</source>
+        <translation>暗處保持原樣。</translation>
+    </message>
+    <message>
+        <source>Dark scenes become a little brighter, bright ones stay as they are.</source>
+        <translation>暗場景略微提亮，亮場景保持不變。</translation>
+    </message>
+    <message>
+        <source>Dark scenes become much brighter, bright ones stay as they are.</source>
+        <translation>暗場景大幅提亮，亮場景保持不變。</translation>
+    </message>
+    <message>
         <source>Dark with the Screen</source>
         <translation>隨螢幕熄燈</translation>
     </message>
     <message>
         <source>Darkens the rim of the screen, so that the middle draws the eye.</source>
         <translation>調暗螢幕邊緣，讓視線集中在中央。</translation>
+    </message>
+    <message>
+        <source>Darker black, for films and games.</source>
+        <translation>黑色更深，適合電影和遊戲。</translation>
     </message>
     <message>
         <source>Deep contrast for films.</source>
@@ -994,6 +1098,10 @@
     <message>
         <source>Dims after a few minutes without a change.</source>
         <translation>畫面幾分鐘沒有變化後變暗。</translation>
+    </message>
+    <message>
+        <source>Dims gently, so that changes are hardly noticed.</source>
+        <translation>柔和調光，幾乎察覺不到變化。</translation>
     </message>
     <message>
         <source>Dims signs that stand still, such as a station&apos;s logo. Close = off; Low to High are stronger in turn.</source>
@@ -1198,6 +1306,14 @@
     <message>
         <source>Fast</source>
         <translation>快</translation>
+    </message>
+    <message>
+        <source>Fast, for games. Light edges may be seen on some grey tones.</source>
+        <translation>快速，適合遊戲。部分灰階可能出現亮邊。</translation>
+    </message>
+    <message>
+        <source>Faster: less smear behind what moves.</source>
+        <translation>更快：移動物體的殘影更少。</translation>
     </message>
     <message>
         <source>File is null.</source>
@@ -1724,6 +1840,10 @@
         <translation>等級 5</translation>
     </message>
     <message>
+        <source>Lifts thin lines and dark surfaces of drawings.</source>
+        <translation>讓圖面的細線和暗面更清楚。</translation>
+    </message>
+    <message>
         <source>Light Brightness</source>
         <translation>燈光亮度</translation>
     </message>
@@ -1940,6 +2060,14 @@
         <translation>中間</translation>
     </message>
     <message>
+        <source>Middle tones a little brighter than usual.</source>
+        <translation>中間調比通常略亮。</translation>
+    </message>
+    <message>
+        <source>Middle tones a little darker, for films in a dim room.</source>
+        <translation>中間調略暗，適合在昏暗的房間看電影。</translation>
+    </message>
+    <message>
         <source>Middle+</source>
         <translation>中間偏上</translation>
     </message>
@@ -2074,6 +2202,10 @@
     <message>
         <source>Native Mode</source>
         <translation>原生模式</translation>
+    </message>
+    <message>
+        <source>Nearly the usual white, a touch warmer.</source>
+        <translation>接近通用的白色，稍暖一點。</translation>
     </message>
     <message>
         <source>New device</source>
@@ -2360,8 +2492,16 @@
         <translation>子母畫面：第二路輸入顯示在小視窗裡，疊在第一路之上，便於留意另一台電腦。</translation>
     </message>
     <message>
+        <source>Pictures are shown as they come.</source>
+        <translation>畫面原樣顯示。</translation>
+    </message>
+    <message>
         <source>Pixel Shift</source>
         <translation>像素位移</translation>
+    </message>
+    <message>
+        <source>Pixels change as fast as the panel does by itself. Nothing is driven harder.</source>
+        <translation>像素依面板本身的速度變化，不額外加速。</translation>
     </message>
     <message>
         <source>Pixels change faster and motion smears less. Close = off, Topspeed = fastest, which may leave bright edges.</source>
@@ -2792,6 +2932,18 @@
         <translation>動態清晰，並支援區域調光。</translation>
     </message>
     <message>
+        <source>Sharp movement for games.</source>
+        <translation>動態畫面清晰，適合遊戲。</translation>
+    </message>
+    <message>
+        <source>Sharp movement with a short delay, for fast games.</source>
+        <translation>動態畫面清晰且延遲低，適合快節奏遊戲。</translation>
+    </message>
+    <message>
+        <source>Sharper still, with a short delay.</source>
+        <translation>更加清晰，延遲低。</translation>
+    </message>
+    <message>
         <source>Sharpness</source>
         <translation>銳利度</translation>
     </message>
@@ -3076,6 +3228,10 @@
         <translation>放開按鈕前，電腦及其顯示器處於睡眠狀態</translation>
     </message>
     <message>
+        <source>The deepest black. A glow may show around bright things.</source>
+        <translation>黑色最深。明亮物體周圍可能出現光暈。</translation>
+    </message>
+    <message>
         <source>The disk did not take everything.</source>
         <translation>磁碟未能寫入全部內容。</translation>
     </message>
@@ -3130,6 +3286,10 @@
     <message>
         <source>The layout has no such zone.</source>
         <translation>版面中沒有這個區域。</translation>
+    </message>
+    <message>
+        <source>The light behind the picture is even. Best for text.</source>
+        <translation>背光均勻，最適合閱讀文字。</translation>
     </message>
     <message>
         <source>The maker&apos;s own tuning.</source>
@@ -3288,6 +3448,10 @@
         <translation>最清晰的動態畫面，適合射擊遊戲。</translation>
     </message>
     <message>
+        <source>The sharpest movement, for the fastest games.</source>
+        <translation>動態畫面最清晰，適合節奏最快的遊戲。</translation>
+    </message>
+    <message>
         <source>The simulated monitor that is shown here</source>
         <translation>此處顯示的模擬顯示器</translation>
     </message>
@@ -3334,6 +3498,14 @@
     <message>
         <source>The upgrade program is running already.</source>
         <translation>升級應用程式已在執行中。</translation>
+    </message>
+    <message>
+        <source>The usual for web, office, photos and most games.</source>
+        <translation>網頁、辦公、相片和大多數遊戲的通用值。</translation>
+    </message>
+    <message>
+        <source>The usual white for web, photos and films.</source>
+        <translation>網頁、相片和電影的通用白色。</translation>
     </message>
     <message>
         <source>The version of your monitor&apos;s firmware.</source>
@@ -3612,6 +3784,14 @@
         <translation>上一個值</translation>
     </message>
     <message>
+        <source>Very bright middle tones: shows what hides in the dark.</source>
+        <translation>中間調非常亮：能看清暗處的內容。</translation>
+    </message>
+    <message>
+        <source>Very cool, bluish white, as on old screens.</source>
+        <translation>非常冷的偏藍白色，如同舊式螢幕。</translation>
+    </message>
+    <message>
         <source>Visibly darker, for long days with the same windows.</source>
         <translation>明顯變暗，適合整天使用相同的視窗。</translation>
     </message>
@@ -3630,6 +3810,14 @@
     <message>
         <source>Warm</source>
         <translation>暖</translation>
+    </message>
+    <message>
+        <source>Warm white for the evening. The slider below says how warm.</source>
+        <translation>適合晚間的暖白。下方的滑桿決定暖度。</translation>
+    </message>
+    <message>
+        <source>Warm white, as paper under the lamps of a print shop.</source>
+        <translation>暖白，如同印刷廠燈光下的紙張。</translation>
     </message>
     <message>
         <source>Warning</source>
@@ -3662,6 +3850,14 @@
     <message>
         <source>What most visitors of a page see.</source>
         <translation>多數網頁訪客看到的色彩。</translation>
+    </message>
+    <message>
+        <source>What moves looks a little sharper. Good for films.</source>
+        <translation>移動物體略微清晰，適合看電影。</translation>
+    </message>
+    <message>
+        <source>What moves looks clearly sharper. Good for sport.</source>
+        <translation>移動物體明顯清晰，適合看體育節目。</translation>
     </message>
     <message>
         <source>What plays</source>

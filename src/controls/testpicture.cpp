@@ -25,7 +25,7 @@ constexpr QRgb kCard[] = {0xffe5484d, 0xfff0c419, 0xff3fb950, 0xff2fc6d6, 0xff3b
 
 using Channel = std::array<uchar, 256>;
 
-/// The white of a black body, roughly: red, green and blue for 5000 to 9300 K.
+/// The white of a black body, roughly: red, green and blue for 3500 to 9500 K.
 std::array<double, 3> white(double kelvin)
 {
     const double cold = std::clamp((kelvin - 6500) / 3000, -1.0, 1.0);
@@ -83,9 +83,9 @@ QImage testPicture(const QSize &size, const PictureLook &look)
     if (plain.size() != size)
         plain = landscape(size);
     const auto gains = white(look.kelvin);
-    const Channel reds = channel(look, gains[0]);
-    const Channel greens = channel(look, gains[1]);
-    const Channel blues = channel(look, gains[2]);
+    const Channel reds = channel(look, gains[0] * look.red);
+    const Channel greens = channel(look, gains[1] * look.green);
+    const Channel blues = channel(look, gains[2] * look.blue);
     const double strength = 0.2 + 1.6 * look.saturation;
     QImage image(size, QImage::Format_RGB32);
     for (int y = 0; y < size.height(); ++y) {

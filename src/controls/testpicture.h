@@ -14,6 +14,9 @@ struct PictureLook
     double gamma = 2.2;   ///< of the display; 2.2 shows the picture as it is
     double kelvin = 6500; ///< white point
     double day = 1;       ///< 0 for a scene at night
+    double red = 1;       ///< how much of each colour white has, beside the white point
+    double green = 1;
+    double blue = 1;
 };
 
 /// A landscape with dark and bright parts and full colours, as such a monitor shows it.

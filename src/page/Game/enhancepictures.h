@@ -2,9 +2,9 @@
 
 #include "page/engine/panelpicture.h"
 
-// What each picture enhancement does to a picture.
+// What the picture enhancements that only one page has do to a picture.
 namespace enhancepictures {
 
-extern const PanelPicture kMotion, kResponse, kHdr, kColor, kContrast, kShadows, kResolution, kDimming, kHalo, kSync;
+extern const PanelPicture kHdr, kColor, kContrast, kShadows, kResolution, kSync;
 
 } // namespace enhancepictures

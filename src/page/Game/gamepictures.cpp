@@ -40,7 +40,7 @@ void paintRush(QPainter &painter, const QRectF &screen, const PictureValues &val
 void paintCrosshair(QPainter &painter, const QRectF &screen, const PictureValues &values)
 {
     drawGame(painter, screen);
-    if (values.is(Command::Crosshair, 1) || values.isPreview)
+    if (values.is(Command::Crosshair, 1) || values.isPreview())
         drawCrosshair(painter, crosshairCentre(screen, values(Command::CrosshairPlace, 2)),
                       values(Command::CrosshairShape, 1), values(Command::CrosshairColor, kRed));
 }
@@ -48,7 +48,7 @@ void paintCrosshair(QPainter &painter, const QRectF &screen, const PictureValues
 void paintMovingCrosshair(QPainter &painter, const QRectF &screen, const PictureValues &values)
 {
     drawGame(painter, screen);
-    if (!values.is(Command::MovingCrosshair, 1) && !values.isPreview)
+    if (!values.is(Command::MovingCrosshair, 1) && !values.isPreview())
         return;
     // It opens while the picture moves: at rest, and around it as it is then.
     const QPointF centre = crosshairCentre(screen, 2);
@@ -67,7 +67,7 @@ double level(const PictureValues &values, Command command)
 void paintHawkEye(QPainter &painter, const QRectF &screen, const PictureValues &values)
 {
     drawGame(painter, screen);
-    if (!values.is(Command::HawkEyeVision, 1) && !values.isPreview)
+    if (!values.is(Command::HawkEyeVision, 1) && !values.isPreview())
         return;
     static constexpr double kZooms[] = {1.5, 2, 4};
     const double zoom = kZooms[std::clamp(values(Command::HawkEyeZoom, 0), 0, 2)];
@@ -99,7 +99,7 @@ void paintNightVision(QPainter &painter, const QRectF &screen, const PictureValu
 void paintRefreshRate(QPainter &painter, const QRectF &screen, const PictureValues &values)
 {
     drawGame(painter, screen);
-    if (values.is(Command::RefreshRate, 1) || values.isPreview)
+    if (values.is(Command::RefreshRate, 1) || values.isPreview())
         drawReadout(painter, screen, values(Command::RefreshRatePlace, 1), QStringLiteral("165 Hz"));
 }
 
@@ -108,7 +108,7 @@ void paintStopwatch(QPainter &painter, const QRectF &screen, const PictureValues
     drawGame(painter, screen);
     static constexpr int kMinutes[] = {15, 30, 60, 90};
     const int minutes = kMinutes[std::clamp(values(Command::StopwatchTime, 1), 1, 4) - 1];
-    if (values.is(Command::Stopwatch, 1) || values.isPreview)
+    if (values.is(Command::Stopwatch, 1) || values.isPreview())
         drawReadout(painter, screen, values(Command::StopwatchPlace, 0),
                     QStringLiteral("00:12 / %1:00").arg(minutes, 2, 10, QLatin1Char('0')));
 }
@@ -117,14 +117,14 @@ void paintGameTime(QPainter &painter, const QRectF &screen, const PictureValues 
 {
     drawGame(painter, screen);
     const int minutes = 20 + 10 * std::clamp(values(Command::GameTimeLength, 1), 1, 4);
-    if (values.is(Command::GameTime, 1) || values.isPreview)
+    if (values.is(Command::GameTime, 1) || values.isPreview())
         drawReadout(painter, screen, values(Command::GameTimePlace, 0), QStringLiteral("%1:00").arg(minutes));
 }
 
 void paintFocusDimming(QPainter &painter, const QRectF &screen, const PictureValues &values)
 {
     drawGame(painter, screen);
-    if (values.is(Command::FocusDimming, 1) || values.isPreview)
+    if (values.is(Command::FocusDimming, 1) || values.isPreview())
         drawFocusDimming(painter, screen, values(Command::FocusDimmingLevel, 0));
 }
 

@@ -9,4 +9,7 @@ class pageGameAssistant : public PanelPage
     Q_OBJECT
 public:
     explicit pageGameAssistant(CommandQueue &queue, QWidget *parent = nullptr);
+
+protected:
+    QString keysOf(const PanelSpec &panel) override;
 };

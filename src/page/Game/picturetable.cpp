@@ -7,6 +7,7 @@
 #include "page/engine/commandrows.h"
 #include "page/engine/commonhelp.h"
 #include "page/engine/commonoptions.h"
+#include "page/engine/commonpictures.h"
 
 namespace {
 
@@ -28,8 +29,11 @@ constexpr Option kHdr[] = {{LABEL("Close"), 0, LABEL("Every picture is shown wit
                            {LABEL("Movie"), 3, LABEL("As Auto, with deep shadows as a film wants them.")}};
 
 // The last option is "High" here and "Strong" on the scene page; the value is the same.
-constexpr Option kLocalDimming[] = {
-    {LABEL("Close"), 2}, {LABEL("Low"), 3}, {LABEL("Smooth"), 4}, {LABEL("Medium"), 5}, {LABEL("High"), 6}};
+constexpr Option kLocalDimming[] = {{LABEL("Close"), 2, kDimmingCloseWords},
+                                    {LABEL("Low"), 3, kDimmingLowWords},
+                                    {LABEL("Smooth"), 4, kDimmingSmoothWords},
+                                    {LABEL("Medium"), 5, kDimmingMediumWords},
+                                    {LABEL("High"), 6, kDimmingHighWords}};
 
 const SliderSpec kColorEnhance[] = {sliderOf(Command::ColorEnhance, 0, 10, SendOn::ReleaseWithStore)};
 const SliderSpec kContrastEnhance[] = {sliderOf(Command::ContrastEnhance, 0, 5, SendOn::ReleaseWithStore)};
@@ -68,20 +72,14 @@ std::vector<PanelSpec> picturePanels(const DeviceState &state)
 {
     const PanelSpec motion =
         state.has(Capability::MpcsMotion)
-            ? PanelSpec{LABEL("MPCS"), "motion", "pageMotion", kMpcs, {}, kMotionHelp, &enhancepictures::kMotion}
-            : PanelSpec{LABEL("DyDs"), "motion", "pageMotion", kDyds, {}, kMotionHelp, &enhancepictures::kMotion};
+            ? PanelSpec{LABEL("MPCS"), "motion", "pageMotion", kMpcs, {}, kMotionHelp, &commonpictures::kMotion}
+            : PanelSpec{LABEL("DyDs"), "motion", "pageMotion", kDyds, {}, kMotionHelp, &commonpictures::kMotion};
     return {
         {LABEL("Game Rush"), "game_rush", "pageGameRush", kGameRush, {}, kGameRushHelp, &gamepictures::kRush},
         motion,
         panelOf(Command::NightVision, "night_vision", "pageNightVision", kNightVisionPanel, kNightVisionHelp,
                 &gamepictures::kNightVision),
-        {LABEL("Dynamic OD"),
-         "dynamic_od",
-         "pageDynamicOD",
-         kDynamicOd,
-         {},
-         kResponseHelp,
-         &enhancepictures::kResponse},
+        {LABEL("Dynamic OD"), "dynamic_od", "pageDynamicOD", kDynamicOd, {}, kResponseHelp, &commonpictures::kResponse},
         panelOf(Command::Hdr, "hdr", "pageHDR", kHdrPanel, kHDRHelp, &enhancepictures::kHdr),
         panelOf(Command::ColorEnhance, "color_enhance", "pageColorEnhance", kColorEnhancePanel, kColorHelp,
                 &enhancepictures::kColor),
@@ -102,9 +100,9 @@ std::vector<PanelSpec> picturePanels(const DeviceState &state)
          kResolutionHelp,
          &enhancepictures::kResolution},
         panelOf(Command::LocalDimming, "local_dimming", "pageLocaldimming", kLocalDimmingPanel, kDimmingHelp,
-                &enhancepictures::kDimming),
+                &commonpictures::kDimming),
         panelOf(Command::HaloControl, "halo_control", "pageHaloControl", kHaloControlPanel, kHaloHelp,
-                &enhancepictures::kHalo),
+                &commonpictures::kHalo),
         panelOf(Command::AdaptiveSync, "adaptive_sync", "pageAdaptiveSync", kAdaptiveSync, kAdaptiveSyncHelp,
                 &enhancepictures::kSync),
     };

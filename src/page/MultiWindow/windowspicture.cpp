@@ -28,7 +28,7 @@ void paintWindows(QPainter &painter, const QRectF &screen, const PictureValues &
         return;
     const QRectF small = insetRect({*place, *size}, screen);
     drawWindow(painter, small, 2);
-    drawWindowEdge(painter, small, values.isPreview);
+    drawWindowEdge(painter, small, values.isPreview());
 }
 
 } // namespace

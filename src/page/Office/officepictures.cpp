@@ -18,7 +18,7 @@ namespace {
 void takePen(QPainter &painter, const PictureValues &values)
 {
     painter.setPen(
-        QPen(QColor(Palette::kMint), values.isPreview ? 1.5 : 2, values.isPreview ? Qt::DashLine : Qt::SolidLine));
+        QPen(QColor(Palette::kMint), values.isPreview() ? 1.5 : 2, values.isPreview() ? Qt::DashLine : Qt::SolidLine));
     painter.setBrush(Qt::NoBrush);
 }
 

@@ -16,14 +16,18 @@
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/scenemodes.h"
+#include "ddc_protocol/valuewatch.h"
 #include "page/Scene/scenelocks.h"
 #include "page/Scene/scenelooks.h"
+#include "page/Scene/scenepicture.h"
 #include "page/Scene/scenetable.h"
 #include "page/Scene/workthread.h"
 #include "page/engine/halfbutton.h"
 #include "page/engine/labels.h"
+#include "page/engine/optiongrouprow.h"
 #include "page/engine/pagehead.h"
 #include "page/engine/pagestyle.h"
+#include "page/engine/picturestage.h"
 #include "page/engine/plainbutton.h"
 
 static constexpr QSize kLook(420, 280); // of the drawn monitor
@@ -103,7 +107,17 @@ QWidget *pageSceneSetting::buildDefaultArea()
 
 QWidget *pageSceneSetting::buildCustomArea()
 {
-    auto *scroll = new QScrollArea(m_areas);
+    auto *area = new QWidget(m_areas);
+    auto *column = new QVBoxLayout(area);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(metrics::kGap);
+    column->addWidget(buildControls(area), 1);
+    return area;
+}
+
+QScrollArea *pageSceneSetting::buildControls(QWidget *parent)
+{
+    auto *scroll = new QScrollArea(parent);
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -120,8 +134,23 @@ QWidget *pageSceneSetting::buildCustomArea()
     return scroll;
 }
 
+/// What is not in sight is neither built nor drawn.
+void pageSceneSetting::refreshStage()
+{
+    if (!isVisible() || m_defaultView)
+        return;
+    if (!m_stage) {
+        std::vector<OptionGroupRow *> rows = optionGroups();
+        std::erase_if(rows, [](const OptionGroupRow *row) { return row->group().options.front().words == nullptr; });
+        m_stage = new PictureStage(kScenePicture, std::move(rows), m_areas->widget(1), PictureStage::Shape::Strip);
+        m_areas->widget(1)->layout()->addWidget(m_stage);
+    }
+    m_stage->refresh();
+}
+
 void pageSceneSetting::addRules()
 {
+    connect(&queue().values(), &ValueWatch::changed, this, &pageSceneSetting::refreshStage);
     beforeSending(Command::ColorTemperature, [this](int value) { fillUserColours(value); });
     for (int channel = 0; channel < 3; ++channel) {
         chooseCommand(kUserColourSliders[channel], [this, channel]() -> std::optional<Command> {
@@ -148,6 +177,7 @@ void pageSceneSetting::showHalf(bool defaultView)
     m_customButton->setChecked(!defaultView);
     m_areas->setCurrentIndex(defaultView ? 0 : 1);
     showTitle();
+    refreshStage();
     Q_EMIT viewShown(defaultView);
 }
 
@@ -227,6 +257,12 @@ void pageSceneSetting::showTitle()
     m_look->update();
 }
 
+void pageSceneSetting::showEvent(QShowEvent *event)
+{
+    SettingsPage::showEvent(event);
+    refreshStage();
+}
+
 /// Whoever comes back, or looks at another monitor, begins anew.
 void pageSceneSetting::hideEvent(QHideEvent *event)
 {
@@ -256,6 +292,7 @@ void pageSceneSetting::updateControlText()
 {
     SettingsPage::updateControlText();
     showTitle();
+    refreshStage();
 }
 
 void pageSceneSetting::reconcile()

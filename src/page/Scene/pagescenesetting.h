@@ -3,6 +3,7 @@
 #include "page/engine/settingspage.h"
 
 class MonitorPicture;
+class PictureStage;
 class QPushButton;
 class QScrollArea;
 class QStackedWidget;
@@ -41,6 +42,7 @@ Q_SIGNALS:
 
 protected:
     void followValue(Command command) override;
+    void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
 
     /// In the factory half the snapshot holds that half's values, which the custom area never shows.
@@ -58,6 +60,8 @@ private:
     void showModeResult(bool ok);
     QWidget *buildDefaultArea();
     QWidget *buildCustomArea();
+    QScrollArea *buildControls(QWidget *parent);
+    void refreshStage();
     void addRules();
 
     void showHalf(bool defaultView);
@@ -74,6 +78,7 @@ private:
     QPushButton *m_customButton = nullptr;
     QStackedWidget *m_areas = nullptr;
     QWidget *m_customArea = nullptr;
+    PictureStage *m_stage = nullptr; ///< how the custom half shows a picture; built when it is looked at
     bool m_defaultView = true;
     bool m_filled = false;    ///< a block of this session was shown
     int m_userColourSlot = 0; ///< which user preset the R, G, B sliders edit; 0 none

@@ -37,19 +37,36 @@ const SliderSpec kPictureSliders[] = {
     sliderOf(Command::HaloControl, 0, 100, SendOn::Release, kHaloHelp),
 };
 
-constexpr Option kGamma[] = {
-    {LABEL("1.6"), 0}, {LABEL("1.8"), 1}, {LABEL("2.0"), 2},     {LABEL("2.2"), 3},
-    {LABEL("2.4"), 4}, {LABEL("2.6"), 5}, {LABEL("CAD/CAM"), 7}, // 6 is sRGB, which has no button
-};
+// 6 is sRGB, which has no button.
+constexpr Option kGamma[] = {{LABEL("1.6"), 0, LABEL("Very bright middle tones: shows what hides in the dark.")},
+                             {LABEL("1.8"), 1, LABEL("Bright middle tones, for a bright room.")},
+                             {LABEL("2.0"), 2, LABEL("Middle tones a little brighter than usual.")},
+                             {LABEL("2.2"), 3, LABEL("The usual for web, office, photos and most games.")},
+                             {LABEL("2.4"), 4, LABEL("Middle tones a little darker, for films in a dim room.")},
+                             {LABEL("2.6"), 5, LABEL("Dark and rich in contrast, as films look in a cinema.")},
+                             {LABEL("CAD/CAM"), 7, LABEL("Lifts thin lines and dark surfaces of drawings.")}};
 
 // The monitor numbers these from 2: 0 and 1 belong to other models.
-constexpr Option kLocalDimming[] = {
-    {LABEL("Close"), 2}, {LABEL("Low"), 3}, {LABEL("Smooth"), 4}, {LABEL("Medium"), 5}, {LABEL("Strong"), 6}};
+constexpr Option kLocalDimming[] = {{LABEL("Close"), 2, kDimmingCloseWords},
+                                    {LABEL("Low"), 3, kDimmingLowWords},
+                                    {LABEL("Smooth"), 4, kDimmingSmoothWords},
+                                    {LABEL("Medium"), 5, kDimmingMediumWords},
+                                    {LABEL("Strong"), 6, kDimmingHighWords}};
+
+constexpr char kMixtureWords[] = LABEL("A mixture of your own: set its red, green and blue with the sliders below.");
 
 constexpr Option kColorTemperature[] = {
-    {LABEL("5000K"), 0}, {LABEL("5500K"), 1}, {LABEL("6300K"), 2},  {LABEL("6500K"), 3},
-    {LABEL("7000K"), 4}, {LABEL("7500K"), 5}, {LABEL("9300K"), 6},  {LABEL("Night View C.T"), 7},
-    {LABEL("User1"), 8}, {LABEL("User2"), 9}, {LABEL("User3"), 10},
+    {LABEL("5000K"), 0, LABEL("Warm white, as paper under the lamps of a print shop.")},
+    {LABEL("5500K"), 1, LABEL("A little warm, as light at noon.")},
+    {LABEL("6300K"), 2, LABEL("Nearly the usual white, a touch warmer.")},
+    {LABEL("6500K"), 3, LABEL("The usual white for web, photos and films.")},
+    {LABEL("7000K"), 4, LABEL("A little cooler than usual.")},
+    {LABEL("7500K"), 5, LABEL("Cool white: text looks crisp.")},
+    {LABEL("9300K"), 6, LABEL("Very cool, bluish white, as on old screens.")},
+    {LABEL("Night View C.T"), 7, LABEL("Warm white for the evening. The slider below says how warm.")},
+    {LABEL("User1"), 8, kMixtureWords},
+    {LABEL("User2"), 9, kMixtureWords},
+    {LABEL("User3"), 10, kMixtureWords},
 };
 
 constexpr SliderSpec kNightView[] = {

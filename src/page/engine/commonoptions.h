@@ -8,18 +8,38 @@
 inline constexpr Option kCloseOpen[] = {{LABEL("Close"), 0}, {LABEL("Open"), 1}};
 
 inline constexpr Option kGrayResponseOptions[] = {
-    {LABEL("Close"), 0}, {LABEL("Level1"), 1}, {LABEL("Level2"), 2}, {LABEL("Level3"), 3}, {LABEL("Topspeed"), 4}};
+    {LABEL("Close"), 0, LABEL("Pixels change as fast as the panel does by itself. Nothing is driven harder.")},
+    {LABEL("Level1"), 1, LABEL("A little faster, without side effects.")},
+    {LABEL("Level2"), 2, LABEL("Faster: less smear behind what moves.")},
+    {LABEL("Level3"), 3, LABEL("Fast, for games. Light edges may be seen on some grey tones.")},
+    {LABEL("Topspeed"), 4, LABEL("As fast as it goes. Bright rims may follow what moves.")}};
 
 // The monitor numbers these from 2: 0 and 1 belong to other models.
-inline constexpr Option kMotionOptions[] = {{LABEL("Close"), 2},     {LABEL("Low"), 3},        {LABEL("Medium"), 4},
-                                            {LABEL("High"), 5},      {LABEL("Ull-Level1"), 6}, {LABEL("Ull-Level2"), 7},
-                                            {LABEL("Ull-Level3"), 8}};
+inline constexpr Option kMotionOptions[] = {
+    {LABEL("Close"), 2, LABEL("Pictures are shown as they come.")},
+    {LABEL("Low"), 3, LABEL("What moves looks a little sharper. Good for films.")},
+    {LABEL("Medium"), 4, LABEL("What moves looks clearly sharper. Good for sport.")},
+    {LABEL("High"), 5, LABEL("Sharp movement for games.")},
+    {LABEL("Ull-Level1"), 6, LABEL("Sharp movement with a short delay, for fast games.")},
+    {LABEL("Ull-Level2"), 7, LABEL("Sharper still, with a short delay.")},
+    {LABEL("Ull-Level3"), 8, LABEL("The sharpest movement, for the fastest games.")}};
+
+// What local dimming does, whatever a page calls its options.
+inline constexpr char kDimmingCloseWords[] = LABEL("The light behind the picture is even. Best for text.");
+inline constexpr char kDimmingLowWords[] = LABEL("Dark parts become a little darker.");
+inline constexpr char kDimmingSmoothWords[] = LABEL("Dims gently, so that changes are hardly noticed.");
+inline constexpr char kDimmingMediumWords[] = LABEL("Darker black, for films and games.");
+inline constexpr char kDimmingHighWords[] = LABEL("The deepest black. A glow may show around bright things.");
 
 inline constexpr Option kOutputRangeOptions[] = {
     {LABEL("RGB Auto"), 0}, {LABEL("RGB Limit"), 1}, {LABEL("RGB Full"), 2}};
 
 inline constexpr Option kNightVisionOptions[] = {
-    {LABEL("Close"), 0}, {LABEL("Level1"), 1}, {LABEL("Level2"), 2}, {LABEL("Auto-L1"), 3}, {LABEL("Auto-L2"), 4}};
+    {LABEL("Close"), 0, LABEL("Dark places stay dark.")},
+    {LABEL("Level1"), 1, LABEL("Dark places are always a little brighter.")},
+    {LABEL("Level2"), 2, LABEL("Dark places are always much brighter.")},
+    {LABEL("Auto-L1"), 3, LABEL("Dark scenes become a little brighter, bright ones stay as they are.")},
+    {LABEL("Auto-L2"), 4, LABEL("Dark scenes become much brighter, bright ones stay as they are.")}};
 
 // A corner of the screen.
 inline constexpr Option kCornerOptions[] = {

@@ -97,6 +97,7 @@ void PanelPage::showEvent(QShowEvent *event)
     build();
     SettingsPage::showEvent(event);
     refreshPicture();
+    showKeys();
 }
 
 QWidget *PanelPage::buildList()
@@ -213,6 +214,13 @@ void PanelPage::refreshPicture()
         stage->second->refresh();
 }
 
+/// Keys may have been given anew on another page meanwhile.
+void PanelPage::showKeys()
+{
+    if (const auto stage = m_pictures.find(currentPanel()); isVisible() && stage != m_pictures.end())
+        stage->second->setKeys(keysOf(m_panels[static_cast<std::size_t>(currentPanel())]));
+}
+
 void PanelPage::updateControlText()
 {
     SettingsPage::updateControlText();
@@ -220,6 +228,7 @@ void PanelPage::updateControlText()
     showTitle();
     for (const auto &[panel, stage] : m_pictures)
         stage->refresh();
+    showKeys();
 }
 
 void PanelPage::showTitle()
@@ -256,6 +265,7 @@ void PanelPage::choose(int index)
         m_entries[i]->setChecked(static_cast<int>(i) == index);
     reconcile();
     refreshPicture();
+    showKeys();
 }
 
 void PanelPage::showPanel(int index)

@@ -49,6 +49,9 @@ protected:
     /// A panel's drawn monitor has been made: a page may lay something of its own on it.
     virtual void pictureBuilt(MonitorPicture *) {}
 
+    /// The keys that do from everywhere what a panel does, in rich text for beside its picture; empty for none.
+    virtual QString keysOf(const PanelSpec &) { return {}; }
+
     /// Whether a panel may be chosen now; a page that says no shows why.
     virtual bool mayShow(const PanelSpec &) { return true; }
 
@@ -65,6 +68,7 @@ private:
     void fillPanel(const PanelSpec &panel, QVBoxLayout *column);
     void addPicture(int index, const PanelSpec &panel, QVBoxLayout *column);
     void refreshPicture();
+    void showKeys();
     LeftTabButton *addEntry(const PanelSpec &panel, QLayout *column);
     void choose(int index);
     void showTitle();

@@ -13,8 +13,9 @@ struct PictureValues
 {
     /// Nothing while a value is not known.
     std::function<std::optional<int>(Command)> valueOf;
-    bool isPreview = false; ///< one of them is pointed at and not set
+    std::optional<Command> pointed = {}; ///< whose value is pointed at and not set
 
+    bool isPreview() const { return pointed.has_value(); }
     int operator()(Command command, int otherwise) const { return valueOf(command).value_or(otherwise); }
     bool is(Command command, int value) const { return valueOf(command) == value; }
 };

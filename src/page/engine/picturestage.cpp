@@ -17,6 +17,8 @@
 namespace {
 
 constexpr int kWordsWidth = 200;
+constexpr int kStripHeight = 196;
+constexpr int kStripPicture = 256; ///< as wide as a monitor of that height is
 constexpr int kNamePixels = 18;
 constexpr int kWordsPixels = 14;
 
@@ -41,9 +43,11 @@ const Option *optionOf(const OptionGroupRow *row, std::optional<int> value)
     return found == options.end() ? nullptr : &*found;
 }
 
-QString nameOf(const Option &option)
+/// What an option is called; beside a list of many settings, also whose option it is.
+QString nameOf(const OptionGroupRow *row, const Option &option, bool isOneOfMany)
 {
-    return QObject::tr(option.label).trimmed();
+    const QString name = QObject::tr(option.label).trimmed();
+    return isOneOfMany ? QObject::tr(row->group().label) + QStringLiteral(" · ") + name : name;
 }
 
 /// Rows with something to say of their options come first.
@@ -70,33 +74,56 @@ QString wordsOf(const Option &option)
 
 } // namespace
 
-PictureStage::PictureStage(const PanelPicture &picture, std::vector<OptionGroupRow *> rows, QWidget *parent)
-    : QWidget(parent), m_spec(picture), m_rows(std::move(rows)), m_told(rowWithWords(m_rows)),
-      m_picture(new MonitorPicture(this)), m_onName(makeLabel(kNamePixels, "text", this)),
+PictureStage::PictureStage(const PanelPicture &picture, std::vector<OptionGroupRow *> rows, QWidget *parent,
+                           Shape shape)
+    : QWidget(parent), m_spec(picture), m_isStrip(shape == Shape::Strip), m_rows(std::move(rows)),
+      m_told(rowWithWords(m_rows)), m_picture(new MonitorPicture(this)), m_onName(makeLabel(kNamePixels, "text", this)),
       m_onNow(makeLabel(kWordsPixels, "signal", this)), m_onWords(makeLabel(kWordsPixels, "soft", this)),
       m_line(new QFrame(this)), m_pointedName(makeLabel(kNamePixels, "dim", this)),
-      m_pointedWords(makeLabel(kWordsPixels, "dim", this))
+      m_pointedWords(makeLabel(kWordsPixels, "dim", this)), m_keys(makeLabel(kWordsPixels, "soft", this))
 {
     m_picture->setPainter([this](QPainter &painter, const QRectF &screen) { paint(painter, screen); });
-    m_line->setFixedHeight(1);
-    m_line->setStyleSheet(Palette::styled(u"background: @hairline;"));
-    auto *words = new QVBoxLayout;
-    words->setSpacing(metrics::kGap);
-    for (QWidget *part :
-         std::initializer_list<QWidget *>{m_onName, m_onNow, m_onWords, m_line, m_pointedName, m_pointedWords})
-        words->addWidget(part);
-    words->addStretch(1);
-    auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(0, metrics::kGap, 0, 0);
-    row->setSpacing(metrics::kBlockGap);
-    row->addWidget(m_picture, 3);
-    row->addLayout(words, 1);
-    for (QLabel *label : {m_onName, m_onWords, m_pointedName, m_pointedWords})
-        label->setMinimumWidth(kWordsWidth);
+    layOut();
     for (const OptionGroupRow *options : m_rows)
         connect(options, &OptionGroupRow::optionPointed, this,
                 [this, options](std::optional<int> value) { point(options, value); });
     refresh();
+}
+
+void PictureStage::layOut()
+{
+    m_line->setFixedHeight(1);
+    m_line->setStyleSheet(Palette::styled(u"background: @hairline;"));
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(0, metrics::kGap, 0, 0);
+    row->setSpacing(metrics::kBlockGap);
+    row->addWidget(m_picture, 3);
+    if (m_isStrip) {
+        setFixedHeight(kStripHeight);
+        m_picture->setFixedWidth(kStripPicture);
+        m_line->setFixedWidth(0); // the words stand side by side
+    }
+    QVBoxLayout *words = nullptr;
+    const auto addColumn = [&] {
+        words = new QVBoxLayout;
+        words->setSpacing(metrics::kGap);
+        row->addLayout(words, 1);
+    };
+    addColumn();
+    for (QWidget *part : std::initializer_list<QWidget *>{m_onName, m_onNow, m_onWords})
+        words->addWidget(part);
+    if (m_isStrip) {
+        words->addStretch(1);
+        addColumn();
+    }
+    for (QWidget *part : std::initializer_list<QWidget *>{m_line, m_pointedName, m_pointedWords})
+        words->addWidget(part);
+    words->addStretch(1);
+    words->addWidget(m_keys);
+    m_keys->setTextFormat(Qt::RichText);
+    m_keys->hide();
+    for (QLabel *label : {m_onName, m_onWords, m_pointedName, m_pointedWords, m_keys})
+        label->setMinimumWidth(kWordsWidth);
 }
 
 PictureValues PictureStage::values(bool withPreview) const
@@ -107,7 +134,7 @@ PictureValues PictureStage::values(bool withPreview) const
                     return preview->second;
                 return deviceState.isKnown(command) ? std::optional(deviceState.value(command)) : std::nullopt;
             },
-            preview.has_value()};
+            preview ? std::optional(preview->first) : std::nullopt};
 }
 
 void PictureStage::paint(QPainter &painter, const QRectF &screen) const
@@ -141,6 +168,12 @@ void PictureStage::refresh()
     m_picture->update();
 }
 
+void PictureStage::setKeys(const QString &keys)
+{
+    m_keys->setText(keys);
+    m_keys->setVisible(!keys.isEmpty());
+}
+
 void PictureStage::showWords()
 {
     const auto command = m_told ? m_told->group().command : std::nullopt;
@@ -151,14 +184,15 @@ void PictureStage::showWords()
         label->setText(text);
         label->setVisible(!text.isEmpty());
     };
-    show(m_onName, on ? nameOf(*on) : QString());
+    show(m_onName, on ? nameOf(m_told, *on, m_isStrip) : QString());
     const bool isOn = !isSwitchedOff(m_rows);
     show(m_onNow, !on ? QString() : isOn ? QObject::tr("On now.") : QObject::tr("Chosen, and switched off now."));
     show(m_onWords, on ? wordsOf(*on) : QString());
     m_line->setVisible(on && pointed);
-    show(m_pointedName, pointed ? nameOf(*pointed) : QString());
+    show(m_pointedName, pointed ? nameOf(m_told, *pointed, m_isStrip) : QString());
     show(m_pointedWords, pointed ? wordsOf(*pointed) : QString());
     const Option *told = pointed ? pointed : on;
     m_picture->setAccessibleName(QObject::tr("What it looks like"));
-    m_picture->setAccessibleDescription(told ? QStringLiteral("%1. %2").arg(nameOf(*told), wordsOf(*told)) : QString());
+    m_picture->setAccessibleDescription(
+        told ? QStringLiteral("%1. %2").arg(nameOf(m_told, *told, m_isStrip), wordsOf(*told)) : QString());
 }
