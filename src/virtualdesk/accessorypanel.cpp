@@ -9,6 +9,7 @@
 
 #include "virtualdesk/accessoryforms.h"
 #include "virtualdesk/labeltext.h"
+#include "virtualdesk/marked.h"
 #include "virtualdesk/matrixview.h"
 #include "virtualdesk/virtualdesk.h"
 
@@ -40,8 +41,6 @@ QPushButton:checked { color: #ffffff; background-color: #5a2a2d; border-color: #
 QPushButton#form:checked { background-color: #1b5043; border-color: #7bfadb; }
 )";
 
-#define NAME(text) QT_TRANSLATE_NOOP("QObject", text)
-
 /// What can be done to the accessory. A button is down while that lasts.
 struct ActionSpec
 {
@@ -71,8 +70,6 @@ constexpr ActionSpec kActions[] = {
 constexpr const char *kValueNames[] = {NAME("Shown"),      NAME("Live frames"),    NAME("Upload"),
                                        NAME("Lamp"),       NAME("Playback Level"), NAME("Brightness"),
                                        NAME("Animations"), NAME("Game report")};
-
-#undef NAME
 
 QString dashOr(bool known, const QString &text)
 {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "virtualdesk/faults.h"
+#include "virtualdesk/marked.h"
 #include "virtualdesk/simulatedmonitor.h"
 #include "virtualdesk/virtualdesk.h"
 
@@ -11,8 +12,6 @@ namespace virtualdesk {
 namespace {
 
 using enum WireFault::Moment;
-
-#define NAME(text) QT_TRANSLATE_NOOP("QObject", text)
 
 constexpr std::uint32_t kGarble = 0x55; // what a garbled reply has flipped
 
@@ -156,8 +155,6 @@ constexpr MonitorFault kFaults[] = {
     {"latency", DeskEvent{setLatency}},
     {"recover", DeskEvent{recover}}, // ends every fault of the wire
 };
-
-#undef NAME
 
 } // namespace
 

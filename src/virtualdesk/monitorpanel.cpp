@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "virtualdesk/labeltext.h"
+#include "virtualdesk/marked.h"
 #include "virtualdesk/osdfunctions.h"
 #include "virtualdesk/osdlist.h"
 #include "virtualdesk/screenview.h"
@@ -24,14 +25,10 @@ constexpr int kKeptLines = 400;
 constexpr std::size_t kShownAtOnce = 100;
 constexpr std::chrono::milliseconds kRefreshDelay{60};
 
-#define NAME(text) QT_TRANSLATE_NOOP("QObject", text)
-
 constexpr int kFaultColumns = 3;
 
 constexpr const char *kOutcomes[] = {NAME("ok"),      NAME("adjusted"), NAME("garbled"), NAME("unexpected"),
                                      NAME("refused"), NAME("lost"),     NAME("deaf"),    NAME("unplugged")};
-
-#undef NAME
 
 QString requestLine(const Request &request)
 {

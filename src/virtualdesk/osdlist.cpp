@@ -5,14 +5,13 @@
 #include <QPushButton>
 
 #include "virtualdesk/labeltext.h"
+#include "virtualdesk/marked.h"
 #include "virtualdesk/osdfunctions.h"
 #include "virtualdesk/simulatedmonitor.h"
 
 namespace virtualdesk {
 
 namespace {
-
-#define NAME(text) QT_TRANSLATE_NOOP("QObject", text)
 
 // Rows of the OSD that gather several codes each, below those of the menu.
 struct GatheredRow
@@ -26,8 +25,6 @@ constexpr GatheredRow kGatheredRows[] = {
     {NAME("User3 R G B"), 0x1C, 3},     {NAME("Saturation R Y G C B M"), 0x59, 6},
     {NAME("Hue R Y G C B M"), 0x9B, 6},
 };
-
-#undef NAME
 
 constexpr std::uint8_t kMotionCode = 0x48;
 

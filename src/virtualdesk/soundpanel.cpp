@@ -10,14 +10,13 @@
 #include <QSlider>
 #include <QVBoxLayout>
 
+#include "virtualdesk/marked.h"
 #include "virtualdesk/selector.h"
 #include "virtualdesk/virtualdesk.h"
 
 namespace virtualdesk {
 
 namespace {
-
-#define NAME(text) QT_TRANSLATE_NOOP("QObject", text)
 
 // In the order of their enumerations.
 constexpr const char *kSounds[] = {NAME("Nothing plays"), NAME("Silence"), NAME("A tone"),    NAME("Two tones"),
@@ -69,8 +68,6 @@ constexpr FaultSpec kFaults[] = {
      nullptr},
 };
 constexpr int kFaultColumns = 3;
-
-#undef NAME
 
 constexpr double kLowestTone = 55; // Hz
 constexpr int kStepsPerOctave = 10;
