@@ -7,7 +7,7 @@
 #include "usb-hid/livesender.h"
 #include "virtualdesk/accessoryforms.h"
 #include "virtualdesk/accessorypanel.h"
-#include "virtualdesk/matrixview.h"
+#include "virtualdesk/accessoryscreen.h"
 
 using virtualdesk::kForEver;
 

@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include "platform/nativekeys.h"
+#include "virtualdesk/labels.h"
 #include "virtualdesk/virtualdesk.h"
 #include "virtualdesk/windowsview.h"
 
@@ -30,13 +31,6 @@ KeyPress keyPressOf(const QKeySequence &sequence)
     if (sequence.isEmpty())
         return {};
     return {nativeModifiers(sequence[0].keyboardModifiers()), nativeKey(static_cast<std::uint32_t>(sequence[0].key()))};
-}
-
-QLabel *makeTitle(QWidget *parent)
-{
-    auto *title = new QLabel(parent);
-    title->setObjectName(QStringLiteral("title"));
-    return title;
 }
 
 } // namespace

@@ -2,14 +2,14 @@
 
 #include <QComboBox>
 #include <QFontDatabase>
-#include <QGridLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QVBoxLayout>
 
-#include "virtualdesk/labeltext.h"
+#include "virtualdesk/actionbuttons.h"
+#include "virtualdesk/labels.h"
 #include "virtualdesk/marked.h"
 #include "virtualdesk/osdfunctions.h"
 #include "virtualdesk/osdlist.h"
@@ -42,7 +42,8 @@ QString requestLine(const Request &request)
 
 } // namespace
 
-MonitorPanel::MonitorPanel(VirtualDesk &desk, QWidget *parent) : QWidget(parent), m_desk(desk)
+MonitorPanel::MonitorPanel(VirtualDesk &desk, QWidget *parent)
+    : QWidget(parent), m_desk(desk), m_faults(new ActionButtons(kFaultColumns, this))
 {
     layOut();
     m_refreshTimer.setSingleShot(true);
@@ -74,10 +75,8 @@ void MonitorPanel::layOut()
         monitor().setValue(function.code, osdStep(function, monitor().value(function.code), direction));
         askForRefresh();
     });
-    m_osdTitle = new QLabel(this);
-    m_requestsTitle = new QLabel(this);
-    for (QLabel *title : {m_osdTitle, m_requestsTitle})
-        title->setObjectName(QStringLiteral("title"));
+    m_osdTitle = makeTitle(this);
+    m_requestsTitle = makeTitle(this);
     m_requests = new QPlainTextEdit(this);
     m_requests->setReadOnly(true);
     m_requests->setTabChangesFocus(true);
@@ -93,7 +92,8 @@ void MonitorPanel::layOut()
     layout->setSpacing(8);
     layout->addWidget(m_selector);
     layout->addWidget(m_screen);
-    layout->addLayout(buildFaults());
+    buildFaults();
+    layout->addLayout(m_faults->layout());
     layout->addWidget(m_state);
     layout->addWidget(m_osdTitle);
     layout->addWidget(m_osd, 3);
@@ -106,28 +106,22 @@ SimulatedMonitor &MonitorPanel::monitor() const
     return m_desk.monitor(m_index);
 }
 
-QLayout *MonitorPanel::buildFaults()
+void MonitorPanel::buildFaults()
 {
-    auto *grid = new QGridLayout;
-    grid->setSpacing(8);
     for (const MonitorFault &fault : monitorFaults()) {
-        if (fault.button.label == nullptr)
+        const FaultButton &button = fault.button;
+        if (button.label == nullptr)
             continue;
-        auto *button = new QPushButton(this);
-        button->setObjectName(QStringLiteral("fault_") + QLatin1String(fault.word));
-        button->setCheckable(true);
-        button->setEnabled(m_desk.monitorCount() > 0);
-        connect(button, &QPushButton::clicked, this, [this, &fault](bool on) {
-            const FaultButton &press = fault.button;
+        const auto press = [this, &fault, &button](bool on) {
             m_desk.apply(m_index,
-                         on ? MonitorEvent{&fault, press.times, kAnyCommand, press.wait} : MonitorEvent{&fault, 0});
+                         on ? MonitorEvent{&fault, button.times, kAnyCommand, button.wait} : MonitorEvent{&fault, 0});
             askForRefresh();
-        });
-        const int place = static_cast<int>(m_faultButtons.size());
-        grid->addWidget(button, place / kFaultColumns, place % kFaultColumns);
-        m_faultButtons.emplace_back(button, &fault);
+        };
+        m_faults->add({QStringLiteral("fault_") + QLatin1String(fault.word), button.label, button.tip, press,
+                       [this, &fault] { return monitor().isOn(fault); }});
     }
-    return grid;
+    for (QPushButton *button : m_faults->buttons())
+        button->setEnabled(m_desk.monitorCount() > 0);
 }
 
 void MonitorPanel::retranslate()
@@ -139,12 +133,7 @@ void MonitorPanel::retranslate()
     m_screen->setAccessibleName(QObject::tr("Screen of the simulated monitor"));
     m_requests->setAccessibleName(QObject::tr("Last requests to the monitor"));
     m_requests->setToolTip(QObject::tr("Time, read or write, code, value and what became of it"));
-    for (const auto &[button, fault] : m_faultButtons) {
-        const QString tip = QObject::tr(fault->button.tip);
-        button->setText(QObject::tr(fault->button.label));
-        button->setToolTip(tip);
-        button->setAccessibleDescription(tip);
-    }
+    m_faults->retranslate();
     m_osd->retranslate();
     askForRefresh();
 }
@@ -216,8 +205,7 @@ void MonitorPanel::appendRequests(const std::vector<Request> &requests)
 
 void MonitorPanel::refreshState()
 {
-    for (const auto &[button, fault] : m_faultButtons)
-        button->setChecked(monitor().isOn(*fault));
+    m_faults->showStates();
     const QString plugged = monitor().isPlugged() ? QObject::tr("Plugged in") : QObject::tr("Unplugged");
     setTextOf(m_state, QObject::tr("%1 · protocol faults: %2 · open handles: %3")
                            .arg(plugged)

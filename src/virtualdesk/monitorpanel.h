@@ -10,16 +10,14 @@
 
 class QComboBox;
 class QLabel;
-class QLayout;
 class QPlainTextEdit;
-class QPushButton;
 
 namespace virtualdesk {
 
+class ActionButtons;
 class OsdList;
 class ScreenView;
 class SimulatedMonitor;
-struct MonitorFault;
 class VirtualDesk;
 
 /// What a person in front of the simulated monitor would see, what the monitor was asked, and
@@ -37,7 +35,7 @@ public:
 
 private:
     void layOut();
-    QLayout *buildFaults();
+    void buildFaults();
     void selectMonitor(int index);
     void requestArrived(const Request &request);
     void refresh();
@@ -47,6 +45,7 @@ private:
     SimulatedMonitor &monitor() const;
 
     VirtualDesk &m_desk;
+    ActionButtons *m_faults;
     std::size_t m_index = 0;
     int m_listener = 0;
 
@@ -62,7 +61,6 @@ private:
     QLabel *m_requestsTitle = nullptr;
     QLabel *m_state = nullptr;
     QPlainTextEdit *m_requests = nullptr;
-    std::vector<std::pair<QPushButton *, const MonitorFault *>> m_faultButtons;
 };
 
 } // namespace virtualdesk

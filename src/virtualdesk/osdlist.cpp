@@ -4,7 +4,7 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "virtualdesk/labeltext.h"
+#include "virtualdesk/labels.h"
 #include "virtualdesk/marked.h"
 #include "virtualdesk/osdfunctions.h"
 #include "virtualdesk/simulatedmonitor.h"
@@ -43,12 +43,7 @@ OsdList::OsdList(QWidget *parent) : QScrollArea(parent)
     grid->setColumnStretch(0, 1);
     const int rows = 1 + static_cast<int>(osdMenu().size() + std::size(kGatheredRows));
     for (int row = 0; row < rows; ++row) {
-        auto *name = new QLabel(content);
-        auto *value = new QLabel(content);
-        value->setObjectName(QStringLiteral("value"));
-        grid->addWidget(name, row, 0);
-        grid->addWidget(value, row, 1, Qt::AlignRight);
-        m_rows.emplace_back(name, value);
+        m_rows.push_back(addValueLine(grid, row, content));
         if (row > 0 && row <= static_cast<int>(osdMenu().size()))
             addButtons(osdMenu()[static_cast<std::size_t>(row) - 1], grid, row);
     }

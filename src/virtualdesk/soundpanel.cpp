@@ -2,16 +2,18 @@
 
 #include <cmath>
 
+#include <QComboBox>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QGridLayout>
 #include <QLabel>
-#include <QPushButton>
 #include <QSlider>
 #include <QVBoxLayout>
 
+#include "virtualdesk/actionbuttons.h"
+#include "virtualdesk/labels.h"
 #include "virtualdesk/marked.h"
-#include "virtualdesk/selector.h"
+#include "virtualdesk/panelrows.h"
+#include "virtualdesk/soundfaults.h"
 #include "virtualdesk/virtualdesk.h"
 
 namespace virtualdesk {
@@ -27,46 +29,6 @@ constexpr const char *kMixes[] = {NAME("Extensible, floating point"), NAME("Plai
 constexpr int kRates[] = {44100, 48000, 96000, 192000};
 constexpr int kChannels[] = {1, 2, 6, 8};
 
-/// One thing that can go wrong. Without isSet it happens once; else the button is down while it lasts.
-struct FaultSpec
-{
-    const char *text;
-    const char *tip;
-    void (*set)(SimulatedEndpoint &endpoint, bool on);
-    bool (*isSet)(const SimulatedEndpoint &endpoint);
-};
-
-constexpr FaultSpec kFaults[] = {
-    {NAME("Pull out"), NAME("There is no sound output until the button is released"),
-     [](SimulatedEndpoint &endpoint, bool on) { endpoint.setPresent(!on); },
-     [](const SimulatedEndpoint &endpoint) { return !endpoint.setup().present; }},
-    {NAME("Stop service"), NAME("The system's audio service is down until the button is released"),
-     [](SimulatedEndpoint &endpoint, bool on) { endpoint.setServiceRunning(!on); },
-     [](const SimulatedEndpoint &endpoint) { return !endpoint.serviceRunning(); }},
-    {NAME("Huge packets"), NAME("Every packet holds 7001 frames until the button is released"),
-     [](SimulatedEndpoint &endpoint, bool on) {
-         endpoint.change([on](EndpointSetup &setup) { setup.packetFrames = on ? 7001 : 0; });
-     },
-     [](const SimulatedEndpoint &endpoint) { return endpoint.setup().packetFrames != 0; }},
-    {NAME("New device"), NAME("Another device becomes the default one"),
-     [](SimulatedEndpoint &endpoint, bool) { endpoint.moveDefault(); }, nullptr},
-    {NAME("Buffer error"), NAME("The next packet cannot be fetched"),
-     [](SimulatedEndpoint &endpoint, bool) {
-         endpoint.fail({AudioCall::GetBuffer, platform::kAudioBufferError, 1});
-     },
-     nullptr},
-    {NAME("Out of order"), NAME("The next packet is refused, as if the one before were still held"),
-     [](SimulatedEndpoint &endpoint, bool) {
-         endpoint.fail({AudioCall::GetBuffer, platform::kAudioOutOfOrder, 1});
-     },
-     nullptr},
-    {NAME("Refuse format"), NAME("The next client is not initialised"),
-     [](SimulatedEndpoint &endpoint, bool) {
-         endpoint.fail({AudioCall::Initialize, platform::kAudioUnsupportedFormat, 1});
-         endpoint.change([](EndpointSetup &) {}); // so that there is a next one
-     },
-     nullptr},
-};
 constexpr int kFaultColumns = 3;
 
 constexpr double kLowestTone = 55; // Hz
@@ -93,13 +55,6 @@ void choose(QComboBox *box, int value, const char *text)
     box->setCurrentIndex(box->findData(value));
 }
 
-QLabel *makeTitle(QWidget *parent)
-{
-    auto *title = new QLabel(parent);
-    title->setObjectName(QStringLiteral("title"));
-    return title;
-}
-
 constexpr char kStyle[] = R"(
 QSlider::groove:horizontal { height: 4px; background: #2c3a34; border-radius: 2px; }
 QSlider::sub-page:horizontal { background: #1f8f74; border-radius: 2px; }
@@ -112,20 +67,21 @@ QSlider::handle:horizontal:disabled, QSlider::sub-page:horizontal:disabled { bac
 
 SoundPanel::SoundPanel(VirtualDesk &desk, QWidget *parent)
     : QWidget(parent), m_endpoint(desk.sound()), m_wave(m_endpoint.setup().sound.wave), m_soundTitle(makeTitle(this)),
-      m_deviceTitle(makeTitle(this)), m_faultTitle(makeTitle(this)), m_state(new QLabel(this))
+      m_deviceTitle(makeTitle(this)), m_faultTitle(makeTitle(this)), m_state(new QLabel(this)),
+      m_column(new QVBoxLayout(this)), m_rows(new PanelRows(m_column, this)),
+      m_faults(new ActionButtons(kFaultColumns, this))
 {
     setStyleSheet(QLatin1String(kStyle));
-    auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 8, 0, 0);
-    column->setSpacing(8);
+    m_column->setContentsMargins(0, 8, 0, 0);
+    m_column->setSpacing(8);
     buildSound();
     buildDevice();
     buildFaults();
     m_state->setObjectName(QStringLiteral("state"));
     m_state->setWordWrap(true);
     m_state->setTextFormat(Qt::PlainText); // it may name a file of any name
-    column->addWidget(m_state);
-    column->addStretch(1);
+    m_column->addWidget(m_state);
+    m_column->addStretch(1);
     retranslate();
     // The endpoint may be changed by whoever uses it, on any thread.
     m_endpoint.setListener([this] { QMetaObject::invokeMethod(this, &SoundPanel::showWhatIs, Qt::QueuedConnection); });
@@ -139,13 +95,13 @@ SoundPanel::~SoundPanel()
 
 void SoundPanel::buildSound()
 {
-    static_cast<QVBoxLayout *>(layout())->addWidget(m_soundTitle);
-    m_sound = addBox(m_soundRow);
+    m_column->addWidget(m_soundTitle);
+    m_sound = m_rows->addBox(NAME("Sound"));
     for (std::size_t i = 0; i < std::size(kSounds); ++i)
         m_sound->addItem(QString());
-    m_frequency = addSlider(kHighestStep, m_frequencyRow);
-    m_second = addSlider(kHighestStep, m_secondRow);
-    m_volume = addSlider(100, m_volumeRow);
+    m_frequency = m_rows->addSlider(NAME("Frequency"), kHighestStep);
+    m_second = m_rows->addSlider(NAME("Second tone"), kHighestStep);
+    m_volume = m_rows->addSlider(NAME("Volume"), 100);
     connect(m_sound, &QComboBox::activated, this, [this](int index) {
         if (index == static_cast<int>(Sound::Wave) && !chooseFile())
             return showWhatIs();
@@ -165,15 +121,15 @@ void SoundPanel::buildSound()
 
 void SoundPanel::buildDevice()
 {
-    static_cast<QVBoxLayout *>(layout())->addSpacing(12);
-    static_cast<QVBoxLayout *>(layout())->addWidget(m_deviceTitle);
-    m_rate = addBox(m_rateRow);
+    m_column->addSpacing(12);
+    m_column->addWidget(m_deviceTitle);
+    m_rate = m_rows->addBox(NAME("Rate"));
     for (const int rate : kRates)
         m_rate->addItem(QString::fromLatin1(kHertz).arg(rate), rate);
-    m_channels = addBox(m_channelRow);
+    m_channels = m_rows->addBox(NAME("Channels"));
     for (const int channels : kChannels)
         m_channels->addItem(QString::number(channels), channels);
-    m_mix = addBox(m_mixRow);
+    m_mix = m_rows->addBox(NAME("Mix format"));
     for (std::size_t i = 0; i < std::size(kMixes); ++i)
         m_mix->addItem(QString());
     connect(m_rate, &QComboBox::activated, this, [this] {
@@ -189,49 +145,15 @@ void SoundPanel::buildDevice()
 
 void SoundPanel::buildFaults()
 {
-    auto *column = static_cast<QVBoxLayout *>(layout());
-    column->addSpacing(12);
-    column->addWidget(m_faultTitle);
-    auto *grid = new QGridLayout;
-    grid->setSpacing(8);
-    for (const FaultSpec &fault : kFaults) {
-        auto *button = new QPushButton(this);
-        button->setCheckable(fault.isSet != nullptr);
-        connect(button, &QPushButton::clicked, this, [this, &fault](bool on) { fault.set(m_endpoint, on); });
-        const int place = static_cast<int>(m_faultButtons.size());
-        grid->addWidget(button, place / kFaultColumns, place % kFaultColumns);
-        m_faultButtons.push_back(button);
+    m_column->addSpacing(12);
+    m_column->addWidget(m_faultTitle);
+    for (const SoundFault &fault : soundFaults()) {
+        PanelAction action{{}, fault.text, fault.tip, [this, &fault](bool on) { fault.set(m_endpoint, on); }, {}};
+        if (fault.isSet)
+            action.isOn = [this, &fault] { return fault.isSet(m_endpoint); };
+        m_faults->add(std::move(action));
     }
-    column->addLayout(grid);
-}
-
-QSlider *SoundPanel::addSlider(int maximum, Row &row)
-{
-    auto *slider = new QSlider(Qt::Horizontal, this);
-    slider->setRange(0, maximum);
-    row = {new QLabel(this), new QLabel(this)};
-    row.name->setFixedWidth(110);
-    row.value->setObjectName(QStringLiteral("value"));
-    row.value->setFixedWidth(72);
-    row.value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    auto *line = new QHBoxLayout;
-    line->addWidget(row.name);
-    line->addWidget(slider, 1);
-    line->addWidget(row.value);
-    static_cast<QVBoxLayout *>(layout())->addLayout(line);
-    return slider;
-}
-
-QComboBox *SoundPanel::addBox(Row &row)
-{
-    auto *box = new Selector(this);
-    row = {new QLabel(this), nullptr};
-    row.name->setFixedWidth(110);
-    auto *line = new QHBoxLayout;
-    line->addWidget(row.name);
-    line->addWidget(box, 1);
-    static_cast<QVBoxLayout *>(layout())->addLayout(line);
-    return box;
+    m_column->addLayout(m_faults->layout());
 }
 
 bool SoundPanel::chooseFile()
@@ -271,16 +193,13 @@ void SoundPanel::showWhatIs()
     m_frequency->setEnabled(sound == Sound::Tone || sound == Sound::TwoTones);
     m_second->setEnabled(sound == Sound::TwoTones);
     m_volume->setEnabled(sound != Sound::Nothing && sound != Sound::Silence);
-    m_frequencyRow.value->setText(QStringLiteral("%1 Hz").arg(setup.sound.frequency));
-    m_secondRow.value->setText(QStringLiteral("%1 Hz").arg(setup.sound.secondFrequency));
-    m_volumeRow.value->setText(QStringLiteral("%1 %").arg(setup.sound.volume));
+    m_rows->showValue(m_frequency, QString::fromLatin1(kHertz).arg(setup.sound.frequency));
+    m_rows->showValue(m_second, QString::fromLatin1(kHertz).arg(setup.sound.secondFrequency));
+    m_rows->showValue(m_volume, QStringLiteral("%1 %").arg(setup.sound.volume));
     choose(m_rate, setup.sampleRate, kHertz);
     choose(m_channels, setup.channels, "%1");
     m_mix->setCurrentIndex(static_cast<int>(setup.mix));
-    for (std::size_t i = 0; i < m_faultButtons.size(); ++i) {
-        if (kFaults[i].isSet)
-            m_faultButtons[i]->setChecked(kFaults[i].isSet(m_endpoint));
-    }
+    m_faults->showStates();
     m_state->setText(sound == Sound::Wave ? m_waveName : QString());
 }
 
@@ -289,25 +208,12 @@ void SoundPanel::retranslate()
     m_soundTitle->setText(QObject::tr("What plays"));
     m_deviceTitle->setText(QObject::tr("Sound output"));
     m_faultTitle->setText(QObject::tr("What goes wrong"));
-    const std::pair<QWidget *, Row *> rows[] = {
-        {m_sound, &m_soundRow}, {m_frequency, &m_frequencyRow}, {m_second, &m_secondRow}, {m_volume, &m_volumeRow},
-        {m_rate, &m_rateRow},   {m_channels, &m_channelRow},    {m_mix, &m_mixRow}};
-    const QString names[] = {QObject::tr("Sound"),     QObject::tr("Frequency"), QObject::tr("Second tone"),
-                             QObject::tr("Volume"),    QObject::tr("Rate"),      QObject::tr("Channels"),
-                             QObject::tr("Mix format")};
-    for (std::size_t i = 0; i < std::size(rows); ++i) {
-        rows[i].second->name->setText(names[i]);
-        rows[i].first->setAccessibleName(names[i]);
-    }
+    m_rows->retranslate();
+    m_faults->retranslate();
     for (std::size_t i = 0; i < std::size(kSounds); ++i)
         m_sound->setItemText(static_cast<int>(i), QObject::tr(kSounds[i]));
     for (std::size_t i = 0; i < std::size(kMixes); ++i)
         m_mix->setItemText(static_cast<int>(i), QObject::tr(kMixes[i]));
-    for (std::size_t i = 0; i < m_faultButtons.size(); ++i) {
-        m_faultButtons[i]->setText(QObject::tr(kFaults[i].text));
-        m_faultButtons[i]->setToolTip(QObject::tr(kFaults[i].tip));
-        m_faultButtons[i]->setAccessibleDescription(QObject::tr(kFaults[i].tip));
-    }
 }
 
 } // namespace virtualdesk

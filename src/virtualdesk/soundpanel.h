@@ -2,7 +2,6 @@
 
 #include <functional>
 #include <memory>
-#include <vector>
 
 #include <QWidget>
 
@@ -10,11 +9,13 @@
 
 class QComboBox;
 class QLabel;
-class QPushButton;
 class QSlider;
+class QVBoxLayout;
 
 namespace virtualdesk {
 
+class ActionButtons;
+class PanelRows;
 class SimulatedEndpoint;
 class VirtualDesk;
 
@@ -31,17 +32,9 @@ public:
     void retranslate();
 
 private:
-    struct Row
-    {
-        QLabel *name;
-        QLabel *value; // null beside a box
-    };
-
     void buildSound();
     void buildDevice();
     void buildFaults();
-    QSlider *addSlider(int maximum, Row &row);
-    QComboBox *addBox(Row &row);
     void change(const std::function<void(SoundSetup &)> &edit);
     bool chooseFile();
     void showWhatIs();
@@ -53,7 +46,9 @@ private:
     QLabel *m_deviceTitle;
     QLabel *m_faultTitle;
     QLabel *m_state;
-    Row m_soundRow, m_frequencyRow, m_secondRow, m_volumeRow, m_rateRow, m_channelRow, m_mixRow;
+    QVBoxLayout *m_column;
+    PanelRows *m_rows;
+    ActionButtons *m_faults;
     QComboBox *m_sound = nullptr;
     QSlider *m_frequency = nullptr; // tenths of an octave above the lowest tone
     QSlider *m_second = nullptr;
@@ -61,7 +56,6 @@ private:
     QComboBox *m_rate = nullptr;
     QComboBox *m_channels = nullptr;
     QComboBox *m_mix = nullptr;
-    std::vector<QPushButton *> m_faultButtons; // in the order of the fault table
 };
 
 } // namespace virtualdesk
