@@ -3,43 +3,24 @@
 #include <algorithm>
 
 #include <QHBoxLayout>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
 #include "controls/accessiblecontrol.h"
-#include "controls/focusgroup.h"
+#include "controls/captions.h"
 #include "controls/lefttabbutton.h"
 #include "controls/metrics.h"
-#include "controls/pictures.h"
-#include "controls/sharedfonts.h"
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/settingsstore.h"
-#include "page/engine/labels.h"
 #include "page/engine/optiongrouprow.h"
 #include "page/engine/pagehead.h"
 #include "page/engine/pagestyle.h"
+#include "page/engine/panellist.h"
 #include "page/engine/picturestage.h"
 
-namespace {
-
-constexpr int kListWidth = 232;
-constexpr int kEntryPitch = 48;
-constexpr int kBottom = 16;
-
-QPushButton *makeArrow(const QString &name, const QString &arrow, QWidget *parent)
-{
-    auto *button = new QPushButton(arrow, parent);
-    button->setObjectName(name);
-    button->setFixedHeight(24);
-    button->setFocusPolicy(Qt::NoFocus); // the keyboard walks the entries themselves
-    return button;
-}
-
-} // namespace
+static constexpr int kBottom = 16;
 
 PanelPage::PanelPage(const QString &name, OwnList list, CommandQueue &queue, QWidget *parent)
     : SettingsPage(queue, parent), m_list(list), m_stack(new QStackedWidget(this))
@@ -100,63 +81,19 @@ void PanelPage::showEvent(QShowEvent *event)
     showKeys();
 }
 
-QWidget *PanelPage::buildList()
+PanelList *PanelPage::buildList()
 {
-    auto *bar = new QFrame(this);
-    bar->setObjectName(QStringLiteral("frameLeftBar"));
-    bar->setFixedWidth(kListWidth);
-    auto *entries = new QFrame(bar);
-    entries->setObjectName(QStringLiteral("frameLeftBar2"));
-    describeAs(entries, QAccessible::Grouping);
-    texts().bind(LABEL("Settings"), [entries](const QString &text) { entries->setAccessibleName(text); });
-    auto *stop = new FocusGroup(entries);
-    auto *column = new QVBoxLayout(entries);
-    column->setContentsMargins(12, 0, 12, 0);
-    column->setSpacing(2);
+    m_entries = new PanelList(texts(), this);
     for (const PanelSpec &panel : m_panels)
-        stop->add(addEntry(panel, column));
-    column->addStretch(1);
-
-    m_listArea = new QScrollArea(bar);
-    m_listArea->setWidgetResizable(true);
-    m_listArea->setFrameShape(QFrame::NoFrame);
-    m_listArea->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_listArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_listArea->setFocusPolicy(Qt::NoFocus);
-    m_listArea->setWidget(entries);
-    m_upper = makeArrow(QStringLiteral("pushButton_Upper"), QStringLiteral("▲"), bar);
-    m_down = makeArrow(QStringLiteral("pushButton_Down"), QStringLiteral("▼"), bar);
-    texts().bind(LABEL("Scroll up"), [this](const QString &text) { m_upper->setAccessibleName(text); });
-    texts().bind(LABEL("Scroll down"), [this](const QString &text) { m_down->setAccessibleName(text); });
-    connect(m_upper, &QPushButton::clicked, this, [this] { scrollList(-1); });
-    connect(m_down, &QPushButton::clicked, this, [this] { scrollList(1); });
-    // The arrows are there only when there is something to scroll to.
-    connect(m_listArea->verticalScrollBar(), &QScrollBar::rangeChanged, this, [this](int minimum, int maximum) {
-        m_upper->setVisible(maximum > minimum);
-        m_down->setVisible(maximum > minimum);
-    });
-    m_upper->hide();
-    m_down->hide();
-
-    auto *layout = new QVBoxLayout(bar);
-    layout->setContentsMargins(0, kBottom, 0, 0);
-    layout->addWidget(m_upper);
-    layout->addWidget(m_listArea, 1);
-    layout->addWidget(m_down);
-    return bar;
+        m_entries->add(panel);
+    connect(m_entries, &PanelList::chosen, this, &PanelPage::choose);
+    return m_entries;
 }
 
-LeftTabButton *PanelPage::addEntry(const PanelSpec &panel, QLayout *column)
+const std::vector<LeftTabButton *> &PanelPage::entries() const
 {
-    const QString icon = Pictures::kRoot + QLatin1String("img/entry/") + QLatin1String(panel.icon);
-    auto *entry = new LeftTabButton(icon, QString(), column->parentWidget());
-    entry->setObjectName(QLatin1String(panel.label));
-    texts().bind(panel.label, [entry](const QString &text) { entry->setCaption(text); });
-    connect(entry, &LeftTabButton::clicked, this,
-            [this, index = static_cast<int>(m_entries.size())] { choose(index); });
-    m_entries.push_back(entry);
-    column->addWidget(entry);
-    return entry;
+    static const std::vector<LeftTabButton *> kNone;
+    return m_entries ? m_entries->entries() : kNone;
 }
 
 QWidget *PanelPage::buildPanel(const PanelSpec &panel)
@@ -224,7 +161,7 @@ void PanelPage::showKeys()
 void PanelPage::updateControlText()
 {
     SettingsPage::updateControlText();
-    shrinkTogether(m_entries);
+    shrinkTogether(entries());
     showTitle();
     for (const auto &[panel, stage] : m_pictures)
         stage->refresh();
@@ -261,8 +198,8 @@ void PanelPage::choose(int index)
         showNotice({});
     m_stack->setCurrentIndex(index);
     showTitle();
-    for (std::size_t i = 0; i < m_entries.size(); ++i)
-        m_entries[i]->setChecked(static_cast<int>(i) == index);
+    if (m_entries)
+        m_entries->mark(index);
     reconcile();
     refreshPicture();
     showKeys();
@@ -281,12 +218,6 @@ void PanelPage::showPanel(const char *label)
         if (qstrcmp(m_panels[i].label, label) == 0)
             showPanel(static_cast<int>(i));
     }
-}
-
-void PanelPage::scrollList(int steps)
-{
-    QScrollBar *bar = m_listArea->verticalScrollBar();
-    bar->setValue(bar->value() + steps * kEntryPitch);
 }
 
 /// From the tables: what is not built yet has its names as well.

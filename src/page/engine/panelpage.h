@@ -4,11 +4,10 @@
 #include "page/engine/storenotice.h"
 
 class LeftTabButton;
-class QPushButton;
-class QScrollArea;
-class QStackedWidget;
 class MonitorPicture;
+class PanelList;
 class PictureStage;
+class QStackedWidget;
 
 /// A settings page of several panels, of which one is shown. The user chooses it in the page's own list, or, on pages
 /// without one, in the window's left bar.
@@ -18,7 +17,7 @@ class PanelPage : public SettingsPage
 public:
     enum class OwnList { Shown, None };
 
-    /// Builds the panels that the monitor has and shows the first. The page's object name is what its style goes by.
+    /// The page's object name is what its style goes by; its panels come by one of the two functions below.
     PanelPage(const QString &name, OwnList list, CommandQueue &queue, QWidget *parent = nullptr);
 
     void updateControlText() override;
@@ -35,7 +34,7 @@ public:
     void showPanel(const char *label);
 
     /// The entries of the page's own list; empty on pages without one.
-    const std::vector<LeftTabButton *> &entries() const { return m_entries; }
+    const std::vector<LeftTabButton *> &entries() const;
 
 protected:
     /// To be called once by the page's constructor, when its own members stand.
@@ -63,23 +62,18 @@ protected:
 
 private:
     void takePanels(std::span<const PanelSpec> panels);
-    QWidget *buildList();
+    PanelList *buildList();
     QWidget *buildPanel(const PanelSpec &panel);
     void fillPanel(const PanelSpec &panel, QVBoxLayout *column);
     void addPicture(int index, const PanelSpec &panel, QVBoxLayout *column);
     void refreshPicture();
     void showKeys();
-    LeftTabButton *addEntry(const PanelSpec &panel, QLayout *column);
     void choose(int index);
     void showTitle();
-    void scrollList(int steps);
 
     OwnList m_list;
     std::vector<PanelSpec> m_panels;
-    std::vector<LeftTabButton *> m_entries;
-    QScrollArea *m_listArea = nullptr;
-    QPushButton *m_upper = nullptr;
-    QPushButton *m_down = nullptr;
+    PanelList *m_entries = nullptr; ///< on pages with a list of their own
     QStackedWidget *m_stack;
     PageHead *m_head = nullptr;
     bool m_drawsLater = false;                ///< the panels stand before their pictures
