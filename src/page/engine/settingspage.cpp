@@ -7,8 +7,6 @@
 #include <QVBoxLayout>
 
 #include "controls/accessiblecontrol.h"
-#include "controls/announcer.h"
-#include "controls/messagestrip.h"
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/commandtable.h"
@@ -19,12 +17,11 @@
 #include "page/engine/pagehead.h"
 #include "page/engine/riskychanges.h"
 #include "page/engine/undobar.h"
-#include "platform/desk.h"
-
-static constexpr platform::milliseconds kPatience{300}; // a value on its way for longer is marked
 
 SettingsPage::SettingsPage(CommandQueue &queue, QWidget *parent)
-    : QLabel(parent), m_queue(queue), m_controls(m_texts), m_locks(m_controls)
+    : QLabel(parent), m_queue(queue), m_controls(m_texts), m_locks(m_controls),
+      m_values(*this, m_controls,
+               {[this] { return keepsContents(); }, [this](Command command) { onValueChanged(command); }})
 {
     describeAs(this, QAccessible::Pane);
     connect(&m_controls, &PageControls::optionClicked, this, &SettingsPage::onOptionClicked);
@@ -42,18 +39,10 @@ void SettingsPage::buildSections(std::span<const Section> sections, QVBoxLayout 
 
 PageHead *SettingsPage::addHead(QVBoxLayout *column)
 {
-    m_head = new PageHead(this);
-    column->addWidget(m_head);
-    connect(m_head->strip(), &MessageStrip::actionWanted, this, [this] {
-        if (const auto again = m_tryAgain) // it may say anew what is to be tried
-            again();
-    });
-    return m_head;
-}
-
-QString SettingsPage::notice() const
-{
-    return m_head ? m_head->strip()->text() : QString();
+    auto *head = new PageHead(this);
+    column->addWidget(head);
+    m_result.setHead(head);
+    return head;
 }
 
 QString SettingsPage::optionText(Command command, int value) const
@@ -61,26 +50,6 @@ QString SettingsPage::optionText(Command command, int value) const
     const OptionGroupRow *row = optionGroup(command);
     const QPushButton *option = row ? row->buttonOf(value) : nullptr;
     return option ? option->text().trimmed() : QString();
-}
-
-void SettingsPage::showNotice(const QString &text)
-{
-    m_tryAgain = {};
-    if (m_head)
-        m_head->strip()->say(text, MessageStrip::Tone::Refusal);
-}
-
-void SettingsPage::showResult(bool ok, const QString &again, std::function<void()> tryAgain)
-{
-    showNotice({});
-    if (ok)
-        return;
-    const QString text =
-        again.isEmpty() ? markText(Mark::Refused) : QObject::tr("The monitor did not take \"%1\".").arg(again);
-    if (!m_head) // a mark beside the control is all that is seen of it
-        return Announcer::say(text);
-    m_tryAgain = std::move(tryAgain);
-    m_head->strip()->say(text, MessageStrip::Tone::Refusal, m_tryAgain ? QObject::tr("Try again") : QString());
 }
 
 void SettingsPage::addUndoBar(QVBoxLayout *column)
@@ -233,37 +202,7 @@ void SettingsPage::onValueChanged(Command command)
 void SettingsPage::fill(Command command)
 {
     const Updating updating(*this);
-    for (OptionGroupRow *row : m_controls.groups()) {
-        if (row->group().command == command)
-            fillRow(row);
-    }
-    for (const PageControls::Slider &entry : m_controls.sliderEntries()) {
-        if (entry.command() == command)
-            fillSlider(entry.widget, command);
-    }
-}
-
-/// A value on its way says so only when that takes longer than one expects; then it is looked at once more.
-Mark SettingsPage::markOf(Command command)
-{
-    switch (deviceState.state(command)) {
-    case ValueState::Known:
-        break;
-    case ValueState::Unknown:
-        return keepsContents() || deviceState.isDoubted(command) ? Mark::Unconfirmed : Mark::Unknown;
-    case ValueState::Refused:
-        return Mark::Refused;
-    case ValueState::Pending: {
-        platform::Clock &clock = platform::desk().clock();
-        const qint64 since = deviceState.pendingSince(command).value_or(clock.now()).msecsTo(clock.now());
-        if (since >= kPatience.count())
-            return Mark::Waiting;
-        clock.callLater(kPatience - platform::milliseconds(std::max<qint64>(since, 0)), this,
-                        [this, command] { onValueChanged(command); });
-        break;
-    }
-    }
-    return Mark::None;
+    m_values.fill(command);
 }
 
 QWidget *SettingsPage::buildPart(const char *)
@@ -271,34 +210,10 @@ QWidget *SettingsPage::buildPart(const char *)
     return nullptr;
 }
 
-void SettingsPage::fillRow(OptionGroupRow *row)
-{
-    const Command command = *row->group().command;
-    const Mark mark = markOf(command);
-    if (mark != Mark::Unconfirmed)
-        row->showValue(mark != Mark::Unknown ? std::optional(deviceState.value(command)) : std::nullopt);
-    row->setMark(mark);
-}
-
-void SettingsPage::fillSlider(SliderWidget *slider, Command command)
-{
-    if (slider->isHeld())
-        return;
-    const Mark mark = markOf(command);
-    if (mark != Mark::Unknown && mark != Mark::Unconfirmed)
-        slider->setValue(deviceState.value(command));
-    slider->setMark(mark);
-}
-
 void SettingsPage::updateInterfaceData()
 {
     const Updating updating(*this);
-    for (OptionGroupRow *row : m_controls.groups())
-        fillRow(row);
-    for (const PageControls::Slider &entry : m_controls.sliderEntries()) {
-        if (const std::optional<Command> command = entry.command())
-            fillSlider(entry.widget, *command);
-    }
+    m_values.fillAll();
     showOwnValues();
     m_locks.apply();
 }

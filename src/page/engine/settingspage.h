@@ -3,16 +3,18 @@
 #include <functional>
 #include <map>
 #include <set>
+#include <utility>
 #include <vector>
 
 #include <QLabel>
 #include <QPushButton>
 
-#include "controls/valuemark.h"
 #include "page/engine/boundtexts.h"
 #include "page/engine/page.h"
 #include "page/engine/pagecontrols.h"
 #include "page/engine/pagelocks.h"
+#include "page/engine/pageresult.h"
+#include "page/engine/pagevalues.h"
 
 class CommandQueue;
 class PageHead;
@@ -52,7 +54,7 @@ public:
     virtual QString optionText(Command command, int value) const;
 
     /// What is said under the title, such as why something was not done; empty when there is nothing to say.
-    QString notice() const;
+    QString notice() const { return m_result.text(); }
 
     /// The line that offers the way back from a risky change.
     UndoBar *undoBar() const { return m_undoBar; }
@@ -101,12 +103,13 @@ protected:
     /// Shows what is set of the options without a command.
     void showOwnValues();
 
-    /// Tells the user under the title whether the monitor took what was set last on this page. A page without a head
-    /// says so in its own place. What is called @p again may be tried once more by @p tryAgain.
-    virtual void showResult(bool ok, const QString &again = QString(), std::function<void()> tryAgain = {});
+    // What there is to say under the title: see PageResult.
 
-    /// Says under the title why something was not done, until something else is done.
-    void showNotice(const QString &text);
+    void showResult(bool ok, const QString &again = QString(), std::function<void()> tryAgain = {})
+    {
+        m_result.show(ok, again, std::move(tryAgain));
+    }
+    void showNotice(const QString &text) { m_result.tell(text); }
 
     /// A value that the page shows, or what is known about it, has changed; its own controls show it already.
     virtual void followValue(Command) {}
@@ -114,7 +117,7 @@ protected:
     /// Whether what the snapshot holds now is what the controls of this page show.
     virtual bool showsValues() const { return true; }
 
-    /// Whether controls keep what they show when nothing is known any more, marked as unconfirmed, instead of a dash.
+    /// See PageValues::Rules.
     virtual bool keepsContents() const { return false; }
 
     /// From now on, whenever the page is shown, what is in sight is asked for in the background.
@@ -124,7 +127,7 @@ protected:
     void paceSliders() { m_paced = true; }
 
     /// What is to be said beside a value; where time alone changes that, the value is shown again then.
-    Mark markOf(Command command);
+    Mark markOf(Command command) const { return m_values.markOf(command); }
 
     void showEvent(QShowEvent *event) override;
 
@@ -149,7 +152,7 @@ protected:
     bool send(Command command, int value);
 
     /// Sets a slider to what is known of a command, under Updating; one that the user holds is left alone.
-    void fillSlider(SliderWidget *slider, Command command);
+    void fillSlider(SliderWidget *slider, Command command) { m_values.fill(slider, command); }
 
     CommandQueue &queue() { return m_queue; }
     BoundTexts &texts() { return m_texts; }
@@ -169,7 +172,6 @@ private:
     void followMode();
     bool setOption(Command command, int value);
     void offerUndo(Command command, std::optional<int> before, int value);
-    void fillRow(OptionGroupRow *row);
     void fill(Command command);
     void apply(const std::map<Command, Rule> &rules, Command command, int value) const;
 
@@ -177,12 +179,12 @@ private:
     BoundTexts m_texts;
     PageControls m_controls;
     PageLocks m_locks;
+    PageValues m_values;
+    PageResult m_result;
     bool m_updating = false;
     bool m_asksWhenShown = false;
     Mode m_shownMode;
-    PageHead *m_head = nullptr;
     UndoBar *m_undoBar = nullptr;
-    std::function<void()> m_tryAgain; ///< what the monitor did not take
     bool m_paced = false;
     std::map<Command, Rule> m_before;
     std::map<Command, Rule> m_after;

@@ -1,0 +1,42 @@
+#include "page/engine/pageresult.h"
+
+#include <utility>
+
+#include "controls/announcer.h"
+#include "controls/messagestrip.h"
+#include "controls/valuemark.h"
+#include "page/engine/pagehead.h"
+
+void PageResult::setHead(PageHead *head)
+{
+    m_head = head;
+    connect(m_head->strip(), &MessageStrip::actionWanted, this, [this] {
+        if (const auto again = m_tryAgain) // it may say anew what is to be tried
+            again();
+    });
+}
+
+QString PageResult::text() const
+{
+    return m_head ? m_head->strip()->text() : QString();
+}
+
+void PageResult::tell(const QString &why)
+{
+    m_tryAgain = {};
+    if (m_head)
+        m_head->strip()->say(why, MessageStrip::Tone::Refusal);
+}
+
+void PageResult::show(bool ok, const QString &again, std::function<void()> tryAgain)
+{
+    tell({});
+    if (ok)
+        return;
+    const QString text =
+        again.isEmpty() ? markText(Mark::Refused) : QObject::tr("The monitor did not take \"%1\".").arg(again);
+    if (!m_head)
+        return Announcer::say(text);
+    m_tryAgain = std::move(tryAgain);
+    m_head->strip()->say(text, MessageStrip::Tone::Refusal, m_tryAgain ? QObject::tr("Try again") : QString());
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <functional>
+
+#include <QObject>
+
+class PageHead;
+
+/// What a page tells under its title: why something was not done, or that the monitor did not take what was set last.
+class PageResult : public QObject
+{
+    Q_OBJECT
+public:
+    using QObject::QObject;
+
+    /// From now on it is told there. Before, and on pages without a head, only what the monitor did not take is said,
+    /// to assistive software: a mark beside the control is all that is seen of it.
+    void setHead(PageHead *head);
+
+    /// What is said now; empty when there is nothing to say.
+    QString text() const;
+
+    /// Says why something was not done, until something else is done; nothing when it is empty.
+    void tell(const QString &why);
+
+    /// Whether the monitor took what was set last. What is called @p again may be tried once more by @p tryAgain.
+    void show(bool ok, const QString &again, std::function<void()> tryAgain);
+
+private:
+    PageHead *m_head = nullptr;
+    std::function<void()> m_tryAgain; ///< what the monitor did not take
+};
