@@ -2,10 +2,7 @@
 
 #include <algorithm>
 
-#include <QAbstractButton>
-#include <QGridLayout>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QPainter>
 #include <QPushButton>
 #include <QScrollArea>
@@ -14,8 +11,6 @@
 #include <QVBoxLayout>
 
 #include "controls/accessiblecontrol.h"
-#include "controls/captionlabel.h"
-#include "controls/dash.h"
 #include "controls/focusring.h"
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
@@ -27,6 +22,7 @@
 #include "page/engine/plainbutton.h"
 #include "page/engine/storenotice.h"
 #include "tray/traypanelfooter.h"
+#include "tray/traypanelheader.h"
 #include "tray/trayscene.h"
 
 namespace {
@@ -34,13 +30,10 @@ namespace {
 constexpr int kWidth = 360;
 constexpr int kMargin = 20;
 constexpr int kRowSpacing = 14;
-constexpr int kNamePixels = 17;
-constexpr int kStatePixels = 14;
 
 } // namespace
 
-TrayPanel::TrayPanel(CommandQueue &queue)
-    : SettingsPage(queue), m_choices(trayChoices(deviceState)), m_chosen(storedTrayChoices(m_choices))
+TrayPanel::TrayPanel(CommandQueue &queue) : SettingsPage(queue), m_choices(deviceState)
 {
     askWhenShown();
     paceSliders();
@@ -61,11 +54,7 @@ void TrayPanel::build()
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(kMargin, 16, kMargin, 12);
     column->setSpacing(12);
-    column->addWidget(buildHeader());
-    auto *line = new QFrame(this);
-    line->setObjectName(QStringLiteral("line"));
-    line->setFixedHeight(1);
-    column->addWidget(line);
+    m_header = new TrayPanelHeader(column, this);
     m_scroll = new QScrollArea(this);
     m_scroll->setWidgetResizable(true);
     m_scroll->setFrameShape(QFrame::NoFrame);
@@ -73,29 +62,8 @@ void TrayPanel::build()
     m_scroll->setFocusPolicy(Qt::NoFocus);
     m_scroll->setWidget(buildBody());
     column->addWidget(m_scroll);
-    m_footer = new TrayPanelFooter(m_choices, m_chosen, column, this);
+    m_footer = new TrayPanelFooter(m_choices, column, this);
     connect(m_footer, &TrayPanelFooter::chosen, this, &TrayPanel::choose);
-}
-
-QWidget *TrayPanel::buildHeader()
-{
-    auto *header = new QWidget(this);
-    m_name = new CaptionLabel(QString(), kNamePixels, header);
-    m_name->setObjectName(QStringLiteral("title"));
-    m_state = new CaptionLabel(QString(), kStatePixels, header);
-    m_state->setObjectName(QStringLiteral("note"));
-    m_dot = new QLabel(QStringLiteral("●"), header);
-    m_dot->setObjectName(QStringLiteral("panelDot"));
-    m_sceneMark = new ValueMark(header);
-    auto *grid = new QGridLayout(header);
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->setVerticalSpacing(4);
-    grid->addWidget(m_name, 0, 0);
-    grid->addWidget(m_dot, 0, 1, Qt::AlignRight);
-    grid->addWidget(m_state, 1, 0);
-    grid->addWidget(m_sceneMark, 1, 1, Qt::AlignRight | Qt::AlignVCenter);
-    grid->setColumnStretch(0, 1);
-    return header;
 }
 
 QWidget *TrayPanel::buildBody()
@@ -106,14 +74,10 @@ QWidget *TrayPanel::buildBody()
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(12);
     m_scene = new TrayScene(texts(), column, m_body);
-    connect(m_scene, &TrayScene::sceneChosen, this, [this](int value) {
-        Q_EMIT sceneChosen(value);
-        showScene();
-    });
-    connect(m_scene, &TrayScene::halfChosen, this, [this](bool defaultView) {
-        Q_EMIT halfChosen(defaultView);
-        showScene();
-    });
+    connect(m_scene, &TrayScene::sceneChosen, this, &TrayPanel::sceneChosen);
+    connect(m_scene, &TrayScene::halfChosen, this, &TrayPanel::halfChosen);
+    connect(m_scene, &TrayScene::sceneChosen, this, &TrayPanel::showScene);
+    connect(m_scene, &TrayScene::halfChosen, this, &TrayPanel::showScene);
     m_places = new QVBoxLayout;
     m_places->setSpacing(kRowSpacing);
     column->addSpacing(4);
@@ -147,15 +111,10 @@ void TrayPanel::showChosen()
         const std::unique_ptr<QLayoutItem> item(m_places->takeAt(0));
         item->widget()->hide();
     }
-    for (const TrayControl &control : trayFixedControls(deviceState)) {
-        m_places->addWidget(rowOf(control).holder);
-        rowOf(control).holder->show();
-    }
-    for (const Command command : m_chosen) {
-        const auto choice = std::find_if(m_choices.begin(), m_choices.end(),
-                                         [command](const TrayControl &control) { return control.command == command; });
-        m_places->addWidget(rowOf(*choice).holder);
-        rowOf(*choice).holder->show();
+    for (const TrayControl *control : m_choices.shown()) {
+        QWidget *holder = rowOf(*control).holder;
+        m_places->addWidget(holder);
+        holder->show();
     }
     orderKeyboard();
     updateInterfaceData();
@@ -181,11 +140,7 @@ void TrayPanel::orderKeyboard()
 
 void TrayPanel::choose(std::size_t place, Command command)
 {
-    const auto elsewhere = std::find(m_chosen.begin(), m_chosen.end(), command);
-    if (elsewhere != m_chosen.end())
-        *elsewhere = m_chosen[place];
-    m_chosen[place] = command;
-    const bool stored = storeTrayChoices(m_choices, m_chosen);
+    const bool stored = m_choices.choose(place, command);
     m_footer->showHint(stored ? QString() : storeNotice(Unstored::HoldsUntilExit, QLatin1String(kConfigFile)));
     showChosen();
     reconcile();
@@ -194,10 +149,7 @@ void TrayPanel::choose(std::size_t place, Command command)
 
 void TrayPanel::showStatus(const MonitorStatus &status)
 {
-    m_status = status;
-    showOrDash(m_name, status.name);
-    m_dot->setAccessibleName(status.state);
-    m_dot->setStyleSheet(status.isGood ? QStringLiteral("color: #00ff71;") : QStringLiteral("color: #da676d;"));
+    m_header->showStatus(status);
     showScene();
 }
 
@@ -235,9 +187,8 @@ void TrayPanel::showScene()
 {
     const Mark mark = markOf(Command::SceneMode);
     m_scene->show(mark);
-    m_state->setText(QStringLiteral("%1 · %2").arg(m_status.state, m_scene->words()));
-    m_sceneMark->setMark(mark);
-    setAccessibleName(QStringLiteral("%1 %2").arg(m_name->text(), m_state->text()));
+    m_header->showScene(m_scene->words(), mark);
+    setAccessibleName(m_header->text());
 }
 
 /// The first option and one other: the one that is on, or was on last.

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <map>
-#include <vector>
 
 #include <QPointer>
 
@@ -9,9 +8,9 @@
 #include "page/engine/settingspage.h"
 #include "tray/traypanelchoices.h"
 
-class CaptionLabel;
 class QScrollArea;
 class TrayPanelFooter;
+class TrayPanelHeader;
 class TrayScene;
 
 /// The small panel of the tray icon: what is changed most, for whoever does not want the whole window. A page of
@@ -36,7 +35,7 @@ public:
     void updateInterfaceData() override;
     void updateControlText() override;
 
-    /// Puts a control into a place of the user's choice, 0 or 1; where the other place has it, they are exchanged.
+    /// As TrayChoices::choose().
     void choose(std::size_t place, Command command);
 
 Q_SIGNALS:
@@ -67,7 +66,6 @@ private:
     };
 
     void build();
-    QWidget *buildHeader();
     QWidget *buildBody();
     Row &rowOf(const TrayControl &control);
     void showChosen();
@@ -75,14 +73,9 @@ private:
     void showScene();
     void showTwoOptions(Row &row);
 
-    const std::vector<TrayControl> m_choices;
-    std::vector<Command> m_chosen;
+    TrayChoices m_choices;
     std::map<Command, Row> m_rows; ///< each made when it is first shown
-    MonitorStatus m_status;
-    CaptionLabel *m_name = nullptr;
-    CaptionLabel *m_state = nullptr;
-    QLabel *m_dot = nullptr;
-    ValueMark *m_sceneMark = nullptr;
+    TrayPanelHeader *m_header = nullptr;
     QScrollArea *m_scroll = nullptr;
     QWidget *m_body = nullptr;
     TrayScene *m_scene = nullptr;

@@ -68,49 +68,58 @@ std::optional<TrayControl> findOnPages(Command command, const DeviceState &state
     return {};
 }
 
-} // namespace
-
-std::vector<TrayControl> trayFixedControls(const DeviceState &state)
-{
-    std::vector<TrayControl> controls;
-    for (const Command command : kFixed)
-        controls.push_back(*findOnPages(command, state));
-    return controls;
-}
-
-std::vector<TrayControl> trayChoices(const DeviceState &state)
-{
-    std::vector<TrayControl> choices;
-    for (const Offer &offer : kOffers) {
-        if (auto found = findOnPages(offer.command, state)) {
-            found->usual = offer.usual;
-            choices.push_back(*found);
-        }
-    }
-    return choices;
-}
-
-std::vector<Command> storedTrayChoices(std::span<const TrayControl> choices)
+/// The usual choice where a place has none, or where both have the same.
+std::vector<Command> storedChoices(std::span<const TrayControl> offered)
 {
     std::vector<Command> chosen(std::begin(kUsualChoices), std::end(kUsualChoices));
     for (std::size_t place = 0; place < chosen.size(); ++place) {
         const QString stored = settingsString(QLatin1String(kKeys[place]), {}, false, QLatin1String(kConfigFile));
-        const auto found = std::find_if(choices.begin(), choices.end(), [&](const TrayControl &choice) {
-            return stored == QLatin1String(choice.label);
-        });
-        if (found != choices.end())
+        const auto found = std::ranges::find_if(
+            offered, [&](const TrayControl &control) { return stored == QLatin1String(control.label); });
+        if (found != offered.end())
             chosen[place] = found->command;
     }
     return chosen[0] != chosen[1] ? chosen : std::vector(std::begin(kUsualChoices), std::end(kUsualChoices));
 }
 
-bool storeTrayChoices(std::span<const TrayControl> choices, std::span<const Command> chosen)
+} // namespace
+
+TrayChoices::TrayChoices(const DeviceState &state)
 {
-    bool stored = true;
-    for (std::size_t place = 0; place < chosen.size(); ++place) {
-        const auto found = std::find_if(choices.begin(), choices.end(),
-                                        [&](const TrayControl &choice) { return choice.command == chosen[place]; });
-        stored = storeSetting(QLatin1String(kKeys[place]), QLatin1String(found->label)) && stored;
+    for (const Command command : kFixed)
+        m_fixed.push_back(*findOnPages(command, state));
+    for (const Offer &offer : kOffers) {
+        if (auto found = findOnPages(offer.command, state)) {
+            found->usual = offer.usual;
+            m_offered.push_back(*found);
+        }
     }
+    m_chosen = storedChoices(m_offered);
+}
+
+const TrayControl &TrayChoices::offer(Command command) const
+{
+    return *std::ranges::find(m_offered, command, &TrayControl::command);
+}
+
+std::vector<const TrayControl *> TrayChoices::shown() const
+{
+    std::vector<const TrayControl *> controls;
+    for (const TrayControl &control : m_fixed)
+        controls.push_back(&control);
+    for (const Command command : m_chosen)
+        controls.push_back(&offer(command));
+    return controls;
+}
+
+bool TrayChoices::choose(std::size_t place, Command command)
+{
+    const auto elsewhere = std::ranges::find(m_chosen, command);
+    if (elsewhere != m_chosen.end())
+        *elsewhere = m_chosen[place];
+    m_chosen[place] = command;
+    bool stored = true;
+    for (std::size_t i = 0; i < m_chosen.size(); ++i)
+        stored = storeSetting(QLatin1String(kKeys[i]), QLatin1String(offer(m_chosen[i]).label)) && stored;
     return stored;
 }

@@ -12,9 +12,8 @@
 
 static constexpr const char *kPlaceLabels[kTrayPlaces] = {LABEL("First control"), LABEL("Second control")};
 
-TrayPanelFooter::TrayPanelFooter(std::span<const TrayControl> choices, std::span<const Command> chosen,
-                                 QVBoxLayout *column, QWidget *panel)
-    : QObject(panel), m_choices(choices), m_chosen(chosen)
+TrayPanelFooter::TrayPanelFooter(const TrayChoices &choices, QVBoxLayout *column, QWidget *panel)
+    : QObject(panel), m_choices(choices)
 {
     auto *footer = new QWidget(panel);
     auto *row = new QHBoxLayout(footer);
@@ -44,11 +43,11 @@ void TrayPanelFooter::fillMenu(QMenu *menu)
     for (std::size_t place = 0; place < kTrayPlaces; ++place) {
         QMenu *list = menu->addMenu(QObject::tr(kPlaceLabels[place]));
         auto *group = new QActionGroup(list);
-        for (const TrayControl &control : m_choices) {
+        for (const TrayControl &control : m_choices.offered()) {
             QAction *action = list->addAction(QObject::tr(control.label));
             action->setActionGroup(group);
             action->setCheckable(true);
-            action->setChecked(control.command == m_chosen[place]);
+            action->setChecked(control.command == m_choices.chosen()[place]);
             connect(action, &QAction::triggered, this,
                     [this, place, command = control.command] { Q_EMIT this->chosen(place, command); });
         }

@@ -1,8 +1,5 @@
 #pragma once
 
-#include <span>
-#include <vector>
-
 #include <QObject>
 
 #include "tray/traypanelchoices.h"
@@ -18,9 +15,8 @@ class TrayPanelFooter : public QObject
 {
     Q_OBJECT
 public:
-    /// Puts its line into the column, whose parent is @p panel and owns this.
-    TrayPanelFooter(std::span<const TrayControl> choices, std::span<const Command> chosen, QVBoxLayout *column,
-                    QWidget *panel);
+    /// Puts its line into the column, whose parent is @p panel and owns this. The choices outlive it.
+    TrayPanelFooter(const TrayChoices &choices, QVBoxLayout *column, QWidget *panel);
 
     /// Says what went wrong; with nothing to say, what can be pressed.
     void showHint(const QString &notice = {});
@@ -36,8 +32,7 @@ Q_SIGNALS:
 private:
     void fillMenu(QMenu *menu);
 
-    const std::span<const TrayControl> m_choices;
-    const std::span<const Command> m_chosen; ///< at each place, as it changes
+    const TrayChoices &m_choices;
     QLabel *m_hint;
     QToolButton *m_chooser;
 };
