@@ -58,18 +58,6 @@ SoundAnalyzer &SoundAnalyzer::instance()
     return analyzer;
 }
 
-void SoundAnalyzer::Use::begin()
-{
-    if (!std::exchange(m_isOn, true))
-        ++instance().m_uses;
-}
-
-void SoundAnalyzer::Use::end()
-{
-    if (std::exchange(m_isOn, false) && --instance().m_uses == 0)
-        instance().stop();
-}
-
 void SoundAnalyzer::stop()
 {
     m_running = 0;

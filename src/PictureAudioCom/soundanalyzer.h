@@ -26,20 +26,6 @@ public:
     /// Ends the capture at its next turn, 29 ms at most. Any thread.
     void stop();
 
-    /// As long as it has begun, the end of another use does not end the capture. Starts nothing itself. Interface
-    /// thread only.
-    class Use
-    {
-    public:
-        ~Use() { end(); }
-        void begin();
-        /// Stops the capture when nobody else uses it.
-        void end();
-
-    private:
-        bool m_isOn = false;
-    };
-
     /// Whether sound is being captured: not yet while the initialisation runs, and never when it fails. Any thread.
     bool isCapturing() const { return m_running != 0; }
 
@@ -56,6 +42,8 @@ protected:
     void run() override;
 
 private:
+    friend class SoundUse;
+
     bool init();
     bool openClient(platform::AudioClient &client, platform::AudioFormat &format);
     void captureTurns();
@@ -72,7 +60,7 @@ private:
     platform::AudioFormat m_format;                          // of the client
     std::unique_ptr<platform::AudioScope> m_task;
     SpectrumAnalysis m_analysis;
-    int m_uses = 0;
+    int m_uses = 0;              // that have begun
     bool m_failedBefore = false; // the turn before ended in a new initialisation
     std::atomic<bool> m_begun = false;
     std::atomic<std::uint8_t> m_running = 0;

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "PictureAudioCom/lightcolour.h"
+#include "PictureAudioCom/soundanalyzer.h"
 #include "PictureAudioCom/soundcolours.h"
 #include "ddc_protocol/automaticwriter.h"
 #include "ddc_protocol/commandqueue.h"

@@ -7,7 +7,7 @@
 #include <QRgb>
 
 #include "PictureAudioCom/screensampler.h"
-#include "PictureAudioCom/soundanalyzer.h"
+#include "PictureAudioCom/sounduse.h"
 #include "ddc_protocol/command.h"
 #include "systemnotices.h"
 
@@ -60,7 +60,7 @@ private:
     CommandQueue &m_queue;
     AutomaticWriter &m_writer;
     ScreenSampler m_sampler;
-    SoundAnalyzer::Use m_sound;
+    SoundUse m_sound;
     Source m_source = Source::None;
     State m_state = State::Off;
     bool m_isLocked = false;
