@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QPushButton>
+#include <QShortcut>
 
 #include "controls/captionlabel.h"
 #include "controls/sharedfonts.h"
@@ -25,14 +26,15 @@ struct Tool
 {
     const char *label;
     void (pageLEDMatrixCanvas::*press)();
+    const char *keys = nullptr; ///< that do the same anywhere on the page, with a semicolon between them
 };
 constexpr Tool kFrameTools[] = {
     {LABEL("Add Frame"), &pageLEDMatrixCanvas::addFrame},
     {LABEL("Duplicate Frame"), &pageLEDMatrixCanvas::duplicateFrame},
     {LABEL("Delete Frame"), &pageLEDMatrixCanvas::deleteFrame},
     {LABEL("Clean Frame"), &pageLEDMatrixCanvas::cleanFrame},
-    {LABEL("Undo"), &pageLEDMatrixCanvas::undo},
-    {LABEL("Redo"), &pageLEDMatrixCanvas::redo},
+    {LABEL("Undo"), &pageLEDMatrixCanvas::undo, "Ctrl+Z"},
+    {LABEL("Redo"), &pageLEDMatrixCanvas::redo, "Ctrl+Y; Ctrl+Shift+Z"},
 };
 constexpr Tool kFileTools[] = {
     {LABEL("Save Animate"), &pageLEDMatrixCanvas::saveAnimate},
@@ -56,6 +58,15 @@ QGridLayout *makeGrid(std::span<const Tool> tools, BoundTexts &texts, const page
     return grid;
 }
 
+void bindKeys(const Tool &tool, pageLEDMatrixCanvas &page)
+{
+    for (const QKeySequence &keys : QKeySequence::listFromString(QLatin1String(tool.keys))) {
+        auto *shortcut = new QShortcut(keys, &page);
+        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+        QObject::connect(shortcut, &QShortcut::activated, &page, tool.press);
+    }
+}
+
 } // namespace
 
 CanvasTools::CanvasTools(pageLEDMatrixCanvas &page, FramePlayer &player, BoundTexts &texts, QVBoxLayout *column,
@@ -69,6 +80,10 @@ CanvasTools::CanvasTools(pageLEDMatrixCanvas &page, FramePlayer &player, BoundTe
     column->addWidget(buildModeBox());
     column->addLayout(makeGrid(kFileTools, m_texts, page, m_tools));
     column->addWidget(buildAlignedImport(page));
+    for (const Tool &tool : kFrameTools) {
+        if (tool.keys)
+            bindKeys(tool, page);
+    }
 }
 
 void CanvasTools::buildViewTools(const pageLEDMatrixCanvas &page, FramePlayer &player, QVBoxLayout *column)

@@ -4,7 +4,6 @@
 
 #include <QHBoxLayout>
 #include <QPushButton>
-#include <QShortcut>
 
 #include "controls/sharedfonts.h"
 #include "ledmatrix/animationfile.h"
@@ -29,7 +28,6 @@ pageLEDMatrixCanvas::pageLEDMatrixCanvas(AccessoryCheck ensureConnected, QWidget
     m_count->setFont(noteFont);
     head()->corner()->addWidget(m_count, 0, Qt::AlignTop);
     layOut(m_tabs);
-    bindShortcuts();
     connect(&m_files, &CanvasFiles::begins, this, &pageLEDMatrixCanvas::endStrokes);
     connect(&m_files, &CanvasFiles::changed, this, &pageLEDMatrixCanvas::updateButtons);
     connect(&m_files, &CanvasFiles::ended, this, &pageLEDMatrixCanvas::followMatrixForm);
@@ -56,18 +54,6 @@ void pageLEDMatrixCanvas::buildTools(QVBoxLayout *column, QWidget *tools)
             [this](int index) { m_files.setMode(static_cast<std::uint8_t>(kFirstMode + index)); });
     connect(m_tools, &CanvasTools::cellSizeChosen, m_tabs, &FrameTabs::setCellSize);
     connect(m_tools, &CanvasTools::onionSkinSwitched, m_tabs, &FrameTabs::setOnionSkin);
-}
-
-void pageLEDMatrixCanvas::bindShortcuts()
-{
-    const auto bind = [this](const char *keys, void (pageLEDMatrixCanvas::*press)()) {
-        auto *shortcut = new QShortcut(QKeySequence(QLatin1String(keys)), this);
-        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
-        connect(shortcut, &QShortcut::activated, this, press);
-    };
-    bind("Ctrl+Z", &pageLEDMatrixCanvas::undo);
-    bind("Ctrl+Y", &pageLEDMatrixCanvas::redo);
-    bind("Ctrl+Shift+Z", &pageLEDMatrixCanvas::redo);
 }
 
 void pageLEDMatrixCanvas::followMatrixForm()

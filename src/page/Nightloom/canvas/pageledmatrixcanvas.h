@@ -62,7 +62,6 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
-    void bindShortcuts();
     void followMatrixForm();
     void useForm(const MatrixForm *form);
     bool mayChange();

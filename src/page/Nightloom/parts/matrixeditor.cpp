@@ -5,21 +5,14 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-#include "controls/palette.h"
 #include "ledmatrix/animationfile.h"
+#include "page/Nightloom/parts/matrixpicture.h"
 
-namespace {
-
-const QColor kDark = Palette::kUnlit;
-const QColor kLit = Palette::kMint;
-const QColor kBehind = Palette::kChecked;
-const QColor kCursor = Palette::kText;
-constexpr int kCursorMargin = 2; // the cursor stands this far outside its cell
-
-} // namespace
+static constexpr int kCursorMargin = 2; // the cursor stands this far outside its cell
 
 MatrixEditor::MatrixEditor(const MatrixForm &form, QWidget *parent)
-    : QLabel(parent), m_geometry(form, form.cellSize), m_frame(form)
+    : QLabel(parent), m_geometry(form, form.cellSize), m_frame(form),
+      m_stroke(m_frame, [this](MatrixCell cell) { updateCell(cell); })
 {
     describeControlsToAssistiveSoftware();
     setFixedSize(m_geometry.size());
@@ -82,26 +75,10 @@ void MatrixEditor::setShownInstead(const std::optional<MatrixFrame> &shown)
     update();
 }
 
-void MatrixEditor::setCell(MatrixCell cell, std::int32_t value)
-{
-    if (m_frame.cell(cell.row, cell.column) == value)
-        return;
-    m_frame.setCell(cell.row, cell.column, value);
-    m_strokeChanged = true;
-    updateCell(cell);
-}
-
-void MatrixEditor::toggle(MatrixCell cell)
-{
-    setCell(cell, (m_frame.cell(cell.row, cell.column) + 1) % 2);
-}
-
 void MatrixEditor::finishStroke()
 {
-    m_pressed = false;
-    if (!m_strokeChanged)
+    if (!m_stroke.end())
         return;
-    m_strokeChanged = false;
     describeCursor();
     Q_EMIT edited();
 }
@@ -116,39 +93,17 @@ void MatrixEditor::mousePressEvent(QMouseEvent *event)
     const auto cell = m_geometry.cellAt(point);
     if (!cell)
         return;
-    m_pressed = true;
-    m_lastPoint = point;
-    toggle(*cell);
-    m_putOut.reset();
-    if (m_frame.cell(cell->row, cell->column) == 0)
-        m_putOut = cell;
+    m_stroke.begin(*cell, point);
     placeCursor(*cell);
 }
 
 void MatrixEditor::mouseMoveEvent(QMouseEvent *event)
 {
-    if (!mayDraw() || !m_pressed)
+    if (!mayDraw() || !m_stroke.isUnderWay())
         return;
     if (!(event->buttons() & Qt::LeftButton))
         return finishStroke(); // it was released where nobody told
-    const QPoint point = event->position().toPoint();
-    drawBetween(m_lastPoint, point);
-    if (const auto cell = m_geometry.cellAt(point))
-        setCell(*cell, 1);
-    m_lastPoint = point;
-}
-
-/// A fast mouse reports only some points of its way: every cell between two of them is lit as well. The one that the
-/// press put out stays out until the mouse is reported there.
-void MatrixEditor::drawBetween(QPoint from, QPoint to)
-{
-    const QPoint way = to - from;
-    const int steps = std::max(std::abs(way.x()), std::abs(way.y()));
-    for (int step = 1; step < steps; ++step) {
-        const auto cell = m_geometry.cellAt(from + way * step / steps);
-        if (cell && cell != m_putOut)
-            setCell(*cell, 1);
-    }
+    m_stroke.moveTo(event->position().toPoint(), m_geometry);
 }
 
 void MatrixEditor::mouseReleaseEvent(QMouseEvent *event)
@@ -181,9 +136,9 @@ void MatrixEditor::keyPressEvent(QKeyEvent *event)
 
 void MatrixEditor::press()
 {
-    if (!mayDraw() || m_pressed)
+    if (!mayDraw() || m_stroke.isUnderWay())
         return;
-    toggle(m_cursor);
+    m_stroke.toggle(m_cursor);
     finishStroke();
 }
 
@@ -269,39 +224,12 @@ void MatrixEditor::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
     const QRect area = event->rect() & QRect(QPoint(), m_geometry.size());
-    if (area.isEmpty())
-        return;
-    for (int row = area.top() / cellSize(); row <= area.bottom() / cellSize(); ++row)
-        drawRow(painter, row, area);
-    if (hasFocus() && !m_shownInstead)
-        drawCursor(painter);
-}
-
-void MatrixEditor::drawRow(QPainter &painter, int row, const QRect &area) const
-{
-    const MatrixFrame &shown = m_shownInstead ? *m_shownInstead : m_frame;
-    const qreal gap = cellSize() / 10.0;
-    const qreal radius = cellSize() / 4.0;
-    const auto &cells = shown.rows()[static_cast<std::size_t>(row)];
-    for (int column = 0; column < static_cast<int>(cells.size()); ++column) {
-        const QRect rect = m_geometry.cellRect({row, column});
-        if (!rect.intersects(area))
-            continue;
-        const bool behind = m_onionSkin && !m_shownInstead && m_onionSkin->cell(row, column) == 1;
-        const bool lit = cells[static_cast<std::size_t>(column)] == 1;
-        painter.setBrush(lit ? kLit : behind ? kBehind : kDark);
-        painter.drawRoundedRect(QRectF(rect).adjusted(gap, gap, -gap, -gap), radius, radius);
-    }
-}
-
-void MatrixEditor::drawCursor(QPainter &painter) const
-{
-    const qreal radius = cellSize() / 3.0;
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(kCursor, 1.5));
-    painter.drawRoundedRect(QRectF(m_geometry.cellRect(m_cursor)).adjusted(0.25, 0.25, -0.25, -0.25), radius, radius);
+    if (m_shownInstead)
+        return drawMatrix(painter, m_geometry, area, *m_shownInstead, nullptr);
+    drawMatrix(painter, m_geometry, area, m_frame, m_onionSkin ? &*m_onionSkin : nullptr);
+    if (hasFocus() && !area.isEmpty())
+        drawMatrixCursor(painter, m_geometry, m_cursor);
 }
 
 MatrixEditor *createMatrixEditor(const MatrixForm &form, QWidget *parent)

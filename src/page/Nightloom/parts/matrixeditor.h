@@ -7,6 +7,7 @@
 #include "controls/accessiblecontrol.h"
 #include "ledmatrix/matrixframe.h"
 #include "ledmatrix/matrixgeometry.h"
+#include "page/Nightloom/parts/cellstroke.h"
 
 /// Draws a frame of the LED matrix and lets the user draw in it: a press toggles a cell, dragging lights every cell on
 /// the pointer's way. The keyboard moves a cursor from cell to cell with the arrows and toggles with Space.
@@ -79,15 +80,10 @@ protected:
 
 private:
     bool mayDraw() const { return m_editable && !m_shownInstead; }
-    void setCell(MatrixCell cell, std::int32_t value);
-    void toggle(MatrixCell cell);
-    void drawBetween(QPoint from, QPoint to);
     void placeCursor(MatrixCell cell);
     void moveCursor(int columns, int rows);
     void describeCursor();
     void updateCell(MatrixCell cell);
-    void drawRow(QPainter &painter, int row, const QRect &area) const;
-    void drawCursor(QPainter &painter) const;
 
     MatrixGeometry m_geometry;
     MatrixFrame m_frame;
@@ -96,10 +92,7 @@ private:
     MatrixCell m_cursor{0, 0};
     QString m_dataFile;
     bool m_editable = true;
-    bool m_pressed = false;
-    bool m_strokeChanged = false;       ///< whether the stroke has changed a cell yet
-    QPoint m_lastPoint;                 ///< of the stroke
-    std::optional<MatrixCell> m_putOut; ///< by the stroke's press
+    CellStroke m_stroke;
 };
 
 /// The editor of staggered rows.
