@@ -6,6 +6,7 @@
 #include <QPushButton>
 
 #include "controls/announcer.h"
+#include "controls/dash.h"
 #include "controls/palette.h"
 #include "controls/sharedfonts.h"
 
@@ -43,7 +44,7 @@ StatusCard::StatusCard(QWidget *parent)
 void StatusCard::tell(const MonitorStatus &status)
 {
     m_status = status;
-    m_name.setText(status.name.isEmpty() ? QStringLiteral("–") : status.name);
+    m_name.setText(status.name.isEmpty() ? kDash : status.name);
     m_state.setText(status.state);
     const QString said = status.name + QLatin1Char(' ') + status.state;
     if (said != accessibleName())

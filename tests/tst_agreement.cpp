@@ -37,11 +37,6 @@ static const std::pair<const char *, const char *> kMeant[] = {
     {"Scene (22): nothing offers mode 27", ""},
 };
 
-template <typename Row> bool isOffered(const Row &row)
-{
-    return !row.needs || deviceState.has(*row.needs);
-}
-
 /// What the program offers and what the simulated monitors have are written down apart from each other. Here each
 /// model, and one for each single capability bit, is asked by everything that the program offers for it.
 class TestAgreement : public DeskSuite
@@ -89,11 +84,11 @@ class TestAgreement : public DeskSuite
         for (const Section &section : sections) {
             if (const auto *grid = std::get_if<SliderGrid>(&section)) {
                 for (const SliderSpec &slider : grid->sliders) {
-                    if (isOffered(slider))
+                    if (deviceState.has(slider.needs))
                         offerSlider(slider);
                 }
             } else if (const auto *group = std::get_if<OptionGroup>(&section);
-                       group != nullptr && isOffered(*group) && group->command) {
+                       group != nullptr && deviceState.has(group->needs) && group->command) {
                 for (const Option &option : group->options)
                     offer(*group->command, group->label, option.value);
             }
@@ -108,13 +103,13 @@ class TestAgreement : public DeskSuite
               carePanels(),
               deviceState.has(::Capability::GameFunctions) ? lightPanels() : std::span<const PanelSpec>()}) {
             for (const PanelSpec &panel : panels) {
-                if (isOffered(panel))
+                if (deviceState.has(panel.needs))
                     walkSections(panel.sections);
             }
         }
         walkSections(sceneSections());
         for (const SceneMode &mode : sceneModes()) {
-            for (int half = 0; isOffered(mode) && half < 2; ++half)
+            for (int half = 0; deviceState.has(mode.needs) && half < 2; ++half)
                 offer(Command::SceneMode, mode.label, mode.value + half);
         }
     }
@@ -166,7 +161,7 @@ class TestAgreement : public DeskSuite
                 differ(static_cast<std::uint8_t>(code), "", "it has no name");
         }
         for (const CommandName &name : commandNames()) {
-            if (isOffered(name))
+            if (deviceState.has(name.needs))
                 offer(name.command, name.label);
         }
         lookFromTheMonitor();

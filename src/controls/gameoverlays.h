@@ -6,8 +6,7 @@
 class QPainter;
 class QRectF;
 
-// What a monitor lays over a game, pixel by pixel: one point is one pixel of the monitor. The program's drawn monitor
-// and the simulated one's screen both draw by these.
+// What a monitor lays over a game, pixel by pixel: one point is one pixel of the monitor.
 namespace gameoverlays {
 
 /// The middle of a crosshair on a screen: @p place is 0 for the top to 4 for the bottom, 2 is the middle.

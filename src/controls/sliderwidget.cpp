@@ -6,6 +6,7 @@
 #include <QWheelEvent>
 
 #include "controls/captionlabel.h"
+#include "controls/dash.h"
 
 namespace {
 constexpr int kCaptionPixels = 15;
@@ -175,6 +176,6 @@ void SliderWidget::wheelEvent(QWheelEvent *event)
 
 void SliderWidget::showValue()
 {
-    m_valueLabel->setText(isUnknown() ? QStringLiteral("–") : QStringLiteral("%1").arg(value()));
+    m_valueLabel->setText(isUnknown() ? kDash : QStringLiteral("%1").arg(value()));
     m_valueLabel->setAccessibleName(m_slider->valueText());
 }

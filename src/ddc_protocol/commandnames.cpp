@@ -187,7 +187,7 @@ std::vector<Command> readableCommands()
 {
     std::vector<Command> commands;
     for (const CommandName &name : kNames) {
-        if (name.isReadable && (!name.needs || deviceState.has(*name.needs)))
+        if (name.isReadable && deviceState.has(name.needs))
             commands.push_back(name.command);
     }
     return commands;

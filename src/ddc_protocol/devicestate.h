@@ -100,6 +100,9 @@ public:
 
     bool has(Capability capability) const { return hasAny(static_cast<std::uint16_t>(capability)); }
 
+    /// Of what a row needs: nothing is there for every monitor.
+    bool has(std::optional<Capability> needs) const { return !needs || has(*needs); }
+
     /// Whether the monitor has at least one of some capabilities, given as bits of the capability word.
     bool hasAny(std::uint16_t bits) const;
 

@@ -75,7 +75,7 @@ std::vector<const SceneMode *> sceneModesOf(SceneFamily family, const DeviceStat
 {
     std::vector<const SceneMode *> modes;
     for (const SceneMode &mode : kSceneModes) {
-        if (mode.family == family && (!mode.needs || state.has(*mode.needs)))
+        if (mode.family == family && state.has(mode.needs))
             modes.push_back(&mode);
     }
     return modes;

@@ -83,7 +83,7 @@ std::vector<const ShortcutFunction *> shortcutFunctionsOf(const DeviceState &sta
 {
     std::vector<const ShortcutFunction *> functions;
     for (const ShortcutFunction &function : of) {
-        if (!function.needs || state.has(*function.needs))
+        if (state.has(function.needs))
             functions.push_back(&function);
     }
     return functions;

@@ -25,19 +25,14 @@ constexpr Offer kOffers[] = {
     {Command::HaloControl},  {Command::LightSensor, 1}, {Command::Hdr, 1},          {Command::AudioMute, 1},
 };
 
-bool isThere(const std::optional<Capability> &needs, const DeviceState &state)
-{
-    return !needs || state.has(*needs);
-}
-
 std::optional<TrayControl> findIn(const Section &section, Command command, const DeviceState &state)
 {
     if (const auto *group = std::get_if<OptionGroup>(&section)) {
-        if (group->command == command && isThere(group->needs, state))
+        if (group->command == command && state.has(group->needs))
             return TrayControl{command, group->label, *group};
     } else if (const auto *grid = std::get_if<SliderGrid>(&section)) {
         for (const SliderSpec &spec : grid->sliders) {
-            if (spec.command == command && isThere(spec.needs, state))
+            if (spec.command == command && state.has(spec.needs))
                 return TrayControl{command, spec.caption, SliderGrid{nullptr, 1, kTrayCaptionWidth, {&spec, 1}}};
         }
     }
@@ -60,7 +55,7 @@ std::optional<TrayControl> findOnPages(Command command, const DeviceState &state
     std::vector<PanelSpec> panels = picturePanels(state);
     panels.insert(panels.end(), systemPanels().begin(), systemPanels().end());
     for (const PanelSpec &panel : panels) {
-        if (!isThere(panel.needs, state))
+        if (!state.has(panel.needs))
             continue;
         if (auto found = findIn(panel.sections, command, state))
             return found;

@@ -7,7 +7,9 @@
 #include <QStandardItemModel>
 
 #include "controls/accessiblecontrol.h"
+#include "controls/dash.h"
 #include "controls/focusgroup.h"
+#include "controls/metrics.h"
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/scenemodes.h"
 #include "navigation.h"
@@ -16,8 +18,6 @@
 #include "page/engine/halfbutton.h"
 #include "page/engine/listed.h"
 #include "page/engine/optiongrouprow.h"
-
-static constexpr int kControlHeight = 36;
 
 /// A line that cannot be chosen.
 static void addHeading(QComboBox *box, const char *label)
@@ -29,8 +29,8 @@ static void addHeading(QComboBox *box, const char *label)
 
 TrayScene::TrayScene(BoundTexts &texts, QVBoxLayout *column, QWidget *body) : QObject(body), m_scene(makeDropDown(body))
 {
-    m_scene->setFixedHeight(kControlHeight);
-    m_scene->setPlaceholderText(QStringLiteral("–"));
+    m_scene->setFixedHeight(metrics::kControlHeight);
+    m_scene->setPlaceholderText(kDash);
     m_scene->setMaxVisibleItems(12);
     connect(m_scene, &QComboBox::activated, this,
             [this](int index) { Q_EMIT sceneChosen(m_scene->itemData(index).toInt()); });
@@ -53,7 +53,7 @@ QWidget *TrayScene::buildHalves(BoundTexts &texts, QWidget *body)
     for (QPushButton *half : {m_default, m_custom}) {
         half->setProperty("half", true);
         half->setCheckable(true);
-        half->setFixedHeight(kControlHeight);
+        half->setFixedHeight(metrics::kControlHeight);
         texts.bind(half == m_default ? kDefaultLabel : kCustomLabel,
                    [half](const QString &text) { half->setText(text.trimmed()); });
         m_halves->addButton(half);
@@ -84,7 +84,7 @@ void TrayScene::show(Mark mark)
     m_scene->setCurrentIndex(mode ? m_scene->findData(mode->value) : -1);
     QPushButton *half = value % 2 != 0 ? m_default : m_custom;
     checkOnly(*m_halves, mode ? half : nullptr);
-    m_words = mode ? listed({QObject::tr(mode->label), half->text()}) : QStringLiteral("–");
+    m_words = mode ? listed({QObject::tr(mode->label), half->text()}) : kDash;
     m_scene->setAccessibleDescription(markText(mark));
 }
 

@@ -4,13 +4,29 @@
 #include <iterator>
 
 #include "ddc_protocol/devicestate.h"
+#include "page/Emberline/lighttable.h"
 
 namespace {
 
 constexpr QRgb kLampColors[] = {0xffff2f2f, 0xffffd22e, 0xff35ff5c, 0xff2ee9ff, 0xff2f62ff, 0xffb63cff, 0xffffffff};
-constexpr int kOwnColor = 8;
 constexpr double kLevels[] = {0.3, 0.6, 1.0}; // soft, standard, highlight
 constexpr double kSpeeds = 10, kPercent = 100;
+
+// What lightLook() asks for.
+constexpr Command kLookCommands[] = {
+    Command::LightMode,           Command::LightEffect,
+    Command::LightBrightness,     Command::LightSpeed,
+    Command::LightColor,          Command::LightRed,
+    Command::LightGreen,          Command::LightBlue,
+    Command::LightTemperature,    Command::LightEyeCare,
+    Command::LightFrontColor,     Command::LightRearColor,
+    Command::LightDirection,      Command::LightFrontBrightness,
+    Command::LightRearBrightness, Command::LampBeltColor,
+    Command::LampBeltEffect,      Command::LampBeltBrightness,
+    Command::LampBeltFrontColor,  Command::LampBeltRearColor,
+    Command::LightGlobalTone,     Command::LightLeftTone,
+    Command::LightRightTone,
+};
 
 /// The values that are shown on the page, one of them replaced.
 class Values
@@ -68,7 +84,7 @@ LightLook lightLook(const DeviceState &state, const std::optional<LightPreview> 
     look.mode = values.option(Command::LightMode, LightLook::Mode::EyeCare);
     look.effect = values.option(Command::LightEffect, LightLook::Effect::Flicker);
     look.color = values.color(Command::LightColor);
-    if (values.of(Command::LightColor) == kOwnColor)
+    if (values.of(Command::LightColor) == kOwnLightColor)
         look.color = qRgb(values.of(Command::LightRed), values.of(Command::LightGreen), values.of(Command::LightBlue));
     look.brightness = values.share(Command::LightBrightness, kPercent, 100);
     look.speed = values.share(Command::LightSpeed, kSpeeds, 5);
@@ -88,4 +104,9 @@ LightLook lightLook(const DeviceState &state, const std::optional<LightPreview> 
     look.beltRear = values.color(Command::LampBeltRearColor);
     look.beltBrightness = state.isKnown(Command::LampBeltBrightness) ? values.level(Command::LampBeltBrightness) : 0;
     return look;
+}
+
+std::span<const Command> lookCommands()
+{
+    return kLookCommands;
 }

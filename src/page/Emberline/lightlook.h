@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 
 #include "ddc_protocol/command.h"
 #include "page/Emberline/lightframe.h"
@@ -17,6 +18,9 @@ struct LightPreview
 
 /// How the lamps are set, as far as the monitor told; with one value as if it were set.
 LightLook lightLook(const DeviceState &state, const std::optional<LightPreview> &preview = {});
+
+/// The commands whose values it shows.
+std::span<const Command> lookCommands();
 
 /// The colours of the lamp options, in their order; none for those that are not fixed.
 LightLook::Color lampColor(int option);

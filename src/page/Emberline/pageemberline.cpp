@@ -1,6 +1,7 @@
 #include "page/Emberline/pageemberline.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include <QHBoxLayout>
 
@@ -21,22 +22,6 @@ namespace {
 constexpr int kCaptionPixels = 15;
 constexpr int kEndsHeight = 20;
 constexpr int kValueWidth = 96; // behind a slider: its value and the room for a lock
-
-/// What the picture shows, beyond the panel that is in sight.
-constexpr Command kLooks[] = {
-    Command::LightMode,           Command::LightEffect,
-    Command::LightBrightness,     Command::LightSpeed,
-    Command::LightColor,          Command::LightRed,
-    Command::LightGreen,          Command::LightBlue,
-    Command::LightTemperature,    Command::LightEyeCare,
-    Command::LightFrontColor,     Command::LightRearColor,
-    Command::LightDirection,      Command::LightFrontBrightness,
-    Command::LightRearBrightness, Command::LampBeltColor,
-    Command::LampBeltEffect,      Command::LampBeltBrightness,
-    Command::LampBeltFrontColor,  Command::LampBeltRearColor,
-    Command::LightGlobalTone,     Command::LightLeftTone,
-    Command::LightRightTone,
-};
 
 QLabel *makeCaption(QWidget *parent)
 {
@@ -200,7 +185,8 @@ void pageEmberline::followPointing()
 
 void pageEmberline::followValue(Command command)
 {
-    if (std::ranges::find(kLooks, command) != std::end(kLooks))
+    const auto shown = lookCommands();
+    if (std::ranges::find(shown, command) != shown.end())
         showLight();
 }
 
@@ -211,7 +197,8 @@ void pageEmberline::reconcile()
     if (!isVisible())
         return;
     std::vector<Command> looks;
-    std::ranges::copy_if(kLooks, std::back_inserter(looks), [](Command look) { return !deviceState.isFresh(look); });
+    std::ranges::copy_if(lookCommands(), std::back_inserter(looks),
+                         [](Command look) { return !deviceState.isFresh(look); });
     queue().askAll(looks, {});
 }
 

@@ -58,7 +58,7 @@ void paintMovingCrosshair(QPainter &painter, const QRectF &screen, const Picture
     drawCrosshair(painter, centre, 6, colour);
 }
 
-/// Three levels that begin with 0, of five, as parts of the whole around the middle.
+/// A level of 0 to 4 as a part of the whole: the middle one is the picture as it is.
 double level(const PictureValues &values, Command command)
 {
     return 0.3 + 0.1 * values(command, 2);

@@ -1,7 +1,7 @@
 #include "page/Game/picturetable.h"
-#include "ddc_protocol/devicestate.h"
 
 #include "controls/metrics.h"
+#include "ddc_protocol/devicestate.h"
 #include "page/Game/enhancepictures.h"
 #include "page/Game/gamepictures.h"
 #include "page/engine/commandrows.h"

@@ -3,6 +3,7 @@
 #include <QLocale>
 #include <QStringList>
 
+#include "controls/dash.h"
 #include "ddc_protocol/commandnames.h"
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/monitoridentity.h"
@@ -13,7 +14,6 @@ namespace {
 
 constexpr const char *kCaptions[kHealthFigures] = {LABEL("Answers"), LABEL("Median answer"), LABEL("Retries"),
                                                    LABEL("Written today")};
-constexpr char kDash[] = "–";
 
 QString number(std::uint64_t value)
 {
@@ -28,7 +28,7 @@ QString duration(int milliseconds)
 HealthFigure answers(const LinkRecord &record)
 {
     if (record.requests() == 0)
-        return {QString::fromUtf8(kDash), QObject::tr("nothing asked yet")};
+        return {kDash, QObject::tr("nothing asked yet")};
     const std::uint64_t answered = record.requests() - record.failures();
     // Rounded down: a single lost answer must not read as 100 %.
     const double tenths = static_cast<double>(answered * 1000 / record.requests());
@@ -41,7 +41,7 @@ HealthFigure median(const LinkRecord &record)
 {
     const auto median = record.medianLatency();
     if (!median)
-        return {QString::fromUtf8(kDash), {}};
+        return {kDash, {}};
     return {duration(*median), QObject::tr("slowest %1").arg(duration(record.worstLatency()))};
 }
 
@@ -85,7 +85,7 @@ QString errorLine(const LinkError &error)
 QString firmwareVersion()
 {
     if (!deviceState.isKnown(Command::Firmware))
-        return QString::fromUtf8(kDash);
+        return kDash;
     const int firmware = deviceState.value(Command::Firmware);
     return QStringLiteral("v%1.%2").arg(firmware >> 8 & 0xFF, 0, 16).arg(firmware & 0xFF, 0, 16);
 }

@@ -6,8 +6,8 @@
 
 namespace {
 
-constexpr double kShares[] = {0.25, 0.34, 0.43}; // of the screen, in each direction
-constexpr double kMargin = 0.025;                // of its width
+constexpr double kShares[kInsetSizes] = {0.25, 0.34, 0.43}; // of the screen, in each direction
+constexpr double kMargin = 0.025;                           // of its width
 constexpr int kRight = 1;
 constexpr int kBottom = 2;
 
@@ -29,7 +29,7 @@ QRectF inCorner(int place, double width, const QRectF &screen)
 
 QRectF insetRect(const Inset &inset, const QRectF &screen)
 {
-    const int size = std::clamp(inset.size, 0, static_cast<int>(std::size(kShares)) - 1);
+    const int size = std::clamp(inset.size, 0, kInsetSizes - 1);
     return inCorner(inset.place, screen.width() * kShares[size], screen);
 }
 

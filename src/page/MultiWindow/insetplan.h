@@ -14,6 +14,8 @@ struct Inset
     bool operator==(const Inset &) const = default;
 };
 
+inline constexpr int kInsetSizes = 3;
+
 /// What the pointer has hold of: bits of the edges that can be dragged, which are those away from the corner.
 enum Grip { kNoGrip = 0, kBody = 1, kWidthEdge = 2, kHeightEdge = 4 };
 

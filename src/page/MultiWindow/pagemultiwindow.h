@@ -3,7 +3,6 @@
 #include "page/engine/panelpage.h"
 
 class WindowArranger;
-struct WindowsShown;
 
 /// Two inputs at once: the second in a small window over the first, or both side by side. The input itself is not set
 /// here.

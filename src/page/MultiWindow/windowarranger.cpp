@@ -12,7 +12,6 @@
 namespace {
 
 constexpr double kReach = 8; // of an edge, around it
-constexpr int kLargestSize = 2;
 
 std::optional<Inset> insetOf(const WindowsShown &windows)
 {
@@ -183,7 +182,7 @@ void WindowArranger::keyPressEvent(QKeyEvent *event)
     if (isArrow)
         want({placeTowards(now->place, key), now->size});
     else
-        want({now->place, std::clamp(now->size + (isMore ? 1 : -1), 0, kLargestSize)});
+        want({now->place, std::clamp(now->size + (isMore ? 1 : -1), 0, kInsetSizes - 1)});
 }
 
 void WindowArranger::hideEvent(QHideEvent *event)

@@ -30,8 +30,8 @@ struct CareHistory
     /// Counts the time between two looks as use; see kCareLook. A clock that was set back counts nothing.
     void use(const QDateTime &from, const QDateTime &to);
 
-    /// What the monitor told; @p overSince when it was asked after the hours were over, else nothing: one that says
-    /// then that nothing is due has been cared for, whoever saw it. True when a care is over, which is kept.
+    /// What the monitor told. One that was @p askedWhenOver, after the hours were over, and says that nothing is due
+    /// has been cared for, whoever saw it. True when a care is over, which is kept.
     bool note(std::optional<bool> isDue, bool isRunning, bool askedWhenOver, const QDateTime &now);
 
     /// One line for a settings file, and back; what is no such part of it is left out.

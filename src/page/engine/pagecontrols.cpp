@@ -51,11 +51,6 @@ QString spokenName(const SliderGrid &grid, const AccentLook *look, const QString
     return QStringLiteral("%1: %2").arg(QObject::tr(grid.heading), look ? QObject::tr(look->name) : caption);
 }
 
-bool isAvailable(const std::optional<Capability> &needs)
-{
-    return !needs || deviceState.has(*needs);
-}
-
 } // namespace
 
 PageControls::PageControls(BoundTexts &texts) : m_texts(texts)
@@ -78,7 +73,7 @@ void PageControls::build(std::span<const Section> sections, std::span<const Lock
 
 void PageControls::addOptions(const OptionGroup &group, QVBoxLayout *column)
 {
-    if (!isAvailable(group.needs))
+    if (!deviceState.has(group.needs))
         return;
     if (!group.command)
         return addOwnOptions(group, column);
@@ -115,7 +110,7 @@ void PageControls::addSliders(const SliderGrid &grid, std::span<const LockRule> 
     cells->setVerticalSpacing(metrics::kRowGap);
     int cell = 0;
     for (const SliderSpec &spec : grid.sliders) {
-        if (!isAvailable(spec.needs))
+        if (!deviceState.has(spec.needs))
             continue;
         cells->addLayout(makeSlider(spec, grid, locks, column->parentWidget()), cell / grid.columns,
                          cell % grid.columns);

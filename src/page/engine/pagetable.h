@@ -6,10 +6,11 @@
 
 #include <QtGlobal>
 
+#include "ddc_protocol/command.h"
+
 class QPainter;
 class QRectF;
-
-#include "ddc_protocol/command.h"
+struct PanelPicture;
 
 // A settings page is a table of these. Labels are source texts, marked by QT_TRANSLATE_NOOP("QObject", ...).
 
@@ -84,8 +85,6 @@ struct CustomPart
 };
 
 using Section = std::variant<SliderGrid, OptionGroup, CustomPart>;
-
-struct PanelPicture;
 
 /// One entry of a page's own list, and what its panel holds. The panel's object name is the widget name.
 struct PanelSpec

@@ -1,6 +1,7 @@
 #include "page/engine/panelpage.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include <QHBoxLayout>
 #include <QStackedWidget>
@@ -34,10 +35,8 @@ PanelPage::PanelPage(const QString &name, OwnList list, CommandQueue &queue, QWi
 
 void PanelPage::takePanels(std::span<const PanelSpec> panels)
 {
-    for (const PanelSpec &panel : panels) {
-        if (!panel.needs || deviceState.has(*panel.needs))
-            m_panels.push_back(panel);
-    }
+    std::ranges::copy_if(panels, std::back_inserter(m_panels),
+                         [](const PanelSpec &panel) { return deviceState.has(panel.needs); });
 }
 
 void PanelPage::buildPanels(std::span<const PanelSpec> panels)
