@@ -1,8 +1,8 @@
 #include "page/Emberline/lighttable.h"
 
 #include "controls/metrics.h"
-#include "ddc_protocol/commandnames.h"
 #include "ddc_protocol/devicestate.h"
+#include "page/engine/commandrows.h"
 #include "page/engine/commonoptions.h"
 
 namespace {
@@ -33,8 +33,6 @@ constexpr Option kEffects[] = {
     {LABEL("Breathe"), 0}, {LABEL("Flow"), 1}, {LABEL("Rainbow"), 2}, {LABEL("Wave"), 3}, {LABEL("Flicker"), 4}};
 constexpr Option kDirections[] = {{LABEL("Clockwise"), 0}, {LABEL("Counterclockwise"), 1}};
 constexpr Option kSources[] = {{LABEL("Sound"), 0}, {LABEL("Screen"), 1}};
-constexpr Option kRhythmLevels[] = {
-    {LABEL("Level1"), 0}, {LABEL("Level2"), 1}, {LABEL("Level3"), 2}, {LABEL("Level4"), 3}, {LABEL("Level5"), 4}};
 constexpr Option kLampLevels[] = {{LABEL("Soft"), 0}, {LABEL("Standard"), 1}, {LABEL("Highlight"), 2}};
 constexpr Option kTimers[] = {{LABEL("Close"), 0}, {LABEL("30 min"), 1}, {LABEL("1 Hour"), 2}, {LABEL("2 Hour"), 3}};
 constexpr Option kBeltEffects[] = {{LABEL("Normal"), 0}, {LABEL("Breathe"), 1}, {LABEL("Flicker"), 2},
@@ -52,32 +50,16 @@ constexpr Option kOwnColors[] = {{LABEL("Red"), 0, nullptr, "swatch/red.png"},
                                  {LABEL("Custom"), kOwnLightColor, nullptr, "swatch/custom.png"}};
 constexpr std::span kColors = std::span(kOwnColors).first<8>();
 
-OptionGroup options(Command command, std::span<const Option> options, const char *caption,
-                    GroupLook look = GroupLook::Buttons)
+SliderSpec slider(Command command, int maximum, const char *caption)
 {
-    return {nameOf(command).label, command, options, {}, look, nullptr, nullptr, caption};
+    return sliderOf(command, 0, maximum, SendOn::Move, nullptr, caption);
 }
 
-OptionGroup swatches(Command command, const char *caption, std::span<const Option> colors = kColors)
-{
-    return options(command, colors, caption, GroupLook::Swatches);
-}
-
-OptionGroup onOff(Command command)
-{
-    return options(command, kSwitchOptions, nullptr, GroupLook::Switch);
-}
-
-SliderSpec slider(Command command, const char *caption, int maximum)
-{
-    return {nameOf(command).label, caption, command, 0, maximum};
-}
-
-const SliderSpec kBrightness[] = {slider(Command::LightBrightness, LABEL("Brightness"), 100)};
-const SliderSpec kSpeed[] = {slider(Command::LightSpeed, LABEL("Speed"), 10)};
-const SliderSpec kTemperature[] = {slider(Command::LightTemperature, LABEL("Color Temperature"), 100)};
-const SliderSpec kFrontBrightness[] = {slider(Command::LightFrontBrightness, LABEL("Front Brightness"), 100)};
-const SliderSpec kRearBrightness[] = {slider(Command::LightRearBrightness, LABEL("Rear Brightness"), 100)};
+const SliderSpec kBrightness[] = {slider(Command::LightBrightness, 100, LABEL("Brightness"))};
+const SliderSpec kSpeed[] = {slider(Command::LightSpeed, 10, LABEL("Speed"))};
+const SliderSpec kTemperature[] = {slider(Command::LightTemperature, 100, LABEL("Color Temperature"))};
+const SliderSpec kFrontBrightness[] = {sliderOf(Command::LightFrontBrightness, 0, 100)};
+const SliderSpec kRearBrightness[] = {sliderOf(Command::LightRearBrightness, 0, 100)};
 
 SliderGrid row(std::span<const SliderSpec> sliders)
 {
@@ -85,27 +67,26 @@ SliderGrid row(std::span<const SliderSpec> sliders)
 }
 
 constexpr CustomPart kPicture{kLightPicturePart};
-const Section kModePanel[] = {options(Command::LightMode, kModes, LABEL("Mode")), row(kBrightness), kPicture};
-const Section kEffectPanel[] = {options(Command::LightEffect, kEffects, LABEL("Effect")), row(kSpeed),
-                                options(Command::LightDirection, kDirections, LABEL("Direction")),
-                                onOff(Command::LightFade), kPicture};
-const Section kColorPanel[] = {swatches(Command::LightColor, LABEL("Color"), kOwnColors), CustomPart{kOwnColorPart},
+const Section kModePanel[] = {groupOf(Command::LightMode, kModes, nullptr, LABEL("Mode")), row(kBrightness), kPicture};
+const Section kEffectPanel[] = {groupOf(Command::LightEffect, kEffects, nullptr, LABEL("Effect")), row(kSpeed),
+                                groupOf(Command::LightDirection, kDirections, nullptr, LABEL("Direction")),
+                                switchOf(Command::LightFade), kPicture};
+const Section kColorPanel[] = {swatchesOf(Command::LightColor, kOwnColors, LABEL("Color")), CustomPart{kOwnColorPart},
                                kPicture};
-const Section kPlacesPanel[] = {swatches(Command::LightFrontColor, nullptr), row(kFrontBrightness),
-                                swatches(Command::LightRearColor, nullptr), row(kRearBrightness), kPicture};
-const Section kEyeCarePanel[] = {options(Command::LightEyeCare, kLampLevels, LABEL("Brightness")), row(kTemperature),
-                                 CustomPart{kTemperatureEndsPart}, kPicture};
-const Section kRhythmPanel[] = {options(Command::LightRhythmSource, kSources, nullptr),
-                                options(Command::LightRhythmLevel, kRhythmLevels, nullptr), CustomPart{kRhythmNotePart},
-                                kPicture};
-const Section kBeltPanel[] = {swatches(Command::LampBeltColor, LABEL("Color")),
-                              options(Command::LampBeltBrightness, kLampLevels, LABEL("Brightness")),
-                              options(Command::LampBeltEffect, kBeltEffects, LABEL("Effect")),
-                              swatches(Command::LampBeltFrontColor, LABEL("Front Color")),
-                              swatches(Command::LampBeltRearColor, LABEL("Rear Color")),
+const Section kPlacesPanel[] = {swatchesOf(Command::LightFrontColor, kColors), row(kFrontBrightness),
+                                swatchesOf(Command::LightRearColor, kColors), row(kRearBrightness), kPicture};
+const Section kEyeCarePanel[] = {groupOf(Command::LightEyeCare, kLampLevels, nullptr, LABEL("Brightness")),
+                                 row(kTemperature), CustomPart{kTemperatureEndsPart}, kPicture};
+const Section kRhythmPanel[] = {groupOf(Command::LightRhythmSource, kSources),
+                                groupOf(Command::LightRhythmLevel, kFiveLevels), CustomPart{kRhythmNotePart}, kPicture};
+const Section kBeltPanel[] = {swatchesOf(Command::LampBeltColor, kColors, LABEL("Color")),
+                              groupOf(Command::LampBeltBrightness, kLampLevels, nullptr, LABEL("Brightness")),
+                              groupOf(Command::LampBeltEffect, kBeltEffects, nullptr, LABEL("Effect")),
+                              swatchesOf(Command::LampBeltFrontColor, kColors, LABEL("Front Color")),
+                              swatchesOf(Command::LampBeltRearColor, kColors, LABEL("Rear Color")),
                               kPicture};
-const Section kTimesPanel[] = {options(Command::LightTimer, kTimers, nullptr), onOff(Command::LightWithScreen),
-                               onOff(Command::LightInStandby), kPicture};
+const Section kTimesPanel[] = {groupOf(Command::LightTimer, kTimers), switchOf(Command::LightWithScreen),
+                               switchOf(Command::LightInStandby), kPicture};
 
 const PanelSpec kPanels[] = {
     {LABEL("Lighting"), "light_mode", "pageLightMode", kModePanel, {}, kModeHelp},

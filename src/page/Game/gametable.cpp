@@ -48,8 +48,6 @@ constexpr Option kLengths[] = {{LABEL("30 min"), 1}, {LABEL("40 min"), 2}, {LABE
 constexpr Option kZooms[] = {{LABEL("x1.5"), 0, LABEL("For scenes that are near.")},
                              {LABEL("x2"), 1, LABEL("For most games.")},
                              {LABEL("x4"), 2, LABEL("For wide landscapes; coarse.")}};
-constexpr Option kLevels[] = {
-    {LABEL("Level1"), 0}, {LABEL("Level2"), 1}, {LABEL("Level3"), 2}, {LABEL("Level4"), 3}, {LABEL("Level5"), 4}};
 constexpr Option kStrengths[] = {{LABEL("Low"), 0}, {LABEL("Medium"), 1}, {LABEL("High"), 2}};
 constexpr Option kSizes[] = {{LABEL("Small"), 0}, {LABEL("Medium"), 1}, {LABEL("Large"), 2}};
 
@@ -59,9 +57,9 @@ const Section kCrosshair[] = {
     swatchesOf(Command::CrosshairColor, kColors, kColor), groupOf(Command::CrosshairPlace, kPlaces, nullptr, kPlace)};
 const Section kHawkEye[] = {switchOf(Command::HawkEyeVision),
                             groupOf(Command::HawkEyeZoom, kZooms, nullptr, LABEL("Zoom")),
-                            groupOf(Command::HawkEyeBrightness, kLevels, nullptr, LABEL("Brightness")),
-                            groupOf(Command::HawkEyeContrast, kLevels, nullptr, LABEL("Contrast")),
-                            groupOf(Command::HawkEyeSharpness, kLevels, nullptr, LABEL("Sharpness"))};
+                            groupOf(Command::HawkEyeBrightness, kFiveLevels, nullptr, LABEL("Brightness")),
+                            groupOf(Command::HawkEyeContrast, kFiveLevels, nullptr, LABEL("Contrast")),
+                            groupOf(Command::HawkEyeSharpness, kFiveLevels, nullptr, LABEL("Sharpness"))};
 const Section kNightVision[] = {groupOf(Command::NightVision, kNightVisionOptions)};
 const Section kRefreshRate[] = {switchOf(Command::RefreshRate),
                                 groupOf(Command::RefreshRatePlace, kCornerOptions, nullptr, kPlace)};

@@ -55,16 +55,10 @@ constexpr char kReminderHelp[] = LABEL("The monitor itself says on the screen th
 constexpr char kDesktopHelp[] =
     LABEL("This tool says on the desktop that care is due: never over a program that fills the screen.");
 
-OptionGroup helped(OptionGroup group, const char *help)
-{
-    group.help = help;
-    return group;
-}
-
 const Section kPlan[] = {
     groupOf(Command::CareMode, kMode),
     groupOf(Command::CareInterval, kIntervals, kIntervalHelp),
-    helped(switchOf(Command::CareReminder), kReminderHelp),
+    switchOf(Command::CareReminder, kSwitchOptions, kReminderHelp),
     OptionGroup{kDesktopReminder, {}, kSwitchOptions, {}, GroupLook::Switch, kDesktopHelp},
     CustomPart{kCarePart},
 };

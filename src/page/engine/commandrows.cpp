@@ -20,16 +20,17 @@ OptionGroup swatchesOf(Command command, std::span<const Option> options, const c
     return {name.label, command, options, name.needs, GroupLook::Swatches, nullptr, nullptr, caption};
 }
 
-OptionGroup switchOf(Command command, std::span<const Option> halves)
+OptionGroup switchOf(Command command, std::span<const Option> halves, const char *help)
 {
     const CommandName &name = nameOf(command);
-    return {name.label, command, halves, name.needs, GroupLook::Switch};
+    return {name.label, command, halves, name.needs, GroupLook::Switch, help};
 }
 
-SliderSpec sliderOf(Command command, int minimum, int maximum, SendOn sendOn, const char *help)
+SliderSpec sliderOf(Command command, int minimum, int maximum, SendOn sendOn, const char *help, const char *caption)
 {
     const CommandName &name = nameOf(command);
-    return {name.label, name.label, command, minimum, maximum, sendOn, Accent::Mint, name.needs, help};
+    return {name.label, caption ? caption : name.label, command, minimum, maximum, sendOn, Accent::Mint, name.needs,
+            help};
 }
 
 PanelSpec panelOf(Command command, const char *icon, const char *widgetName, std::span<const Section> sections,

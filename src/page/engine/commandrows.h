@@ -3,18 +3,19 @@
 #include "page/engine/pagetable.h"
 
 // Rows of a page's table that take from the table of commands what a command is called, and which monitors have it. A
-// row that has to say otherwise is written out. Help is a sentence that says what the setting is for.
+// row that has to say otherwise is written out. Help is a sentence that says what the setting is for, a caption what
+// stands before it where its name says more than is needed there; both are source texts and may be null.
 
 OptionGroup groupOf(Command command, std::span<const Option> options, const char *help = nullptr,
                     const char *caption = nullptr);
 
-/// Options that are chosen from drawings, or from colour swatches. The caption is what stands before them.
+/// Options that are chosen from drawings, or from colour swatches.
 OptionGroup picturesOf(Command command, std::span<const Option> options, DrawOption draw, const char *caption);
-OptionGroup swatchesOf(Command command, std::span<const Option> options, const char *caption);
+OptionGroup swatchesOf(Command command, std::span<const Option> options, const char *caption = nullptr);
 
-OptionGroup switchOf(Command command, std::span<const Option> halves = kSwitchOptions);
-SliderSpec sliderOf(Command command, int minimum, int maximum, SendOn sendOn = SendOn::Move,
-                    const char *help = nullptr);
+OptionGroup switchOf(Command command, std::span<const Option> halves = kSwitchOptions, const char *help = nullptr);
+SliderSpec sliderOf(Command command, int minimum, int maximum, SendOn sendOn = SendOn::Move, const char *help = nullptr,
+                    const char *caption = nullptr);
 
 /// The panel of one setting, called as that is, for the monitors that have it.
 PanelSpec panelOf(Command command, const char *icon, const char *widgetName, std::span<const Section> sections,

@@ -41,6 +41,9 @@ inline constexpr Option kNightVisionOptions[] = {
     {LABEL("Auto-L1"), 3, LABEL("Dark scenes become a little brighter, bright ones stay as they are.")},
     {LABEL("Auto-L2"), 4, LABEL("Dark scenes become much brighter, bright ones stay as they are.")}};
 
+inline constexpr Option kFiveLevels[] = {
+    {LABEL("Level1"), 0}, {LABEL("Level2"), 1}, {LABEL("Level3"), 2}, {LABEL("Level4"), 3}, {LABEL("Level5"), 4}};
+
 // A corner of the screen.
 inline constexpr Option kCornerOptions[] = {
     {LABEL("Top Left"), 0}, {LABEL("Top Right"), 1}, {LABEL("Bottom Left"), 2}, {LABEL("Bottom Right"), 3}};
