@@ -29,7 +29,7 @@ void *SimulatedAccessory::open()
             m_handles.insert({token, m_plugging});
         }
     }
-    tell();
+    m_listeners.tell();
     return reinterpret_cast<void *>(token);
 }
 
@@ -41,7 +41,7 @@ void SimulatedAccessory::close(void *handle)
         if (std::erase_if(m_handles, [token](const Handle &each) { return each.token == token; }) == 0)
             ++m_handleFaults;
     }
-    tell();
+    m_listeners.tell();
 }
 
 int SimulatedAccessory::write(void *handle, std::span<const std::uint8_t> report)
@@ -64,7 +64,7 @@ int SimulatedAccessory::write(void *handle, std::span<const std::uint8_t> report
         if (m_history.size() > kHistorySize)
             m_history.pop_front();
     }
-    tell();
+    m_listeners.tell();
     return result;
 }
 
@@ -106,7 +106,7 @@ void SimulatedAccessory::setPlugged(bool plugged)
         else
             m_decoder.powerOff();
     }
-    tell();
+    m_listeners.tell();
     if (m_plugTold)
         m_plugTold(plugged);
 }
@@ -124,7 +124,7 @@ void SimulatedAccessory::setForm(int form)
         m_decoder.powerOff();
         m_decoder.setForm(form);
     }
-    tell();
+    m_listeners.tell();
 }
 
 int SimulatedAccessory::form() const
@@ -139,7 +139,7 @@ void SimulatedAccessory::refuseWrites(int times)
         const std::lock_guard lock(m_mutex);
         m_refusals = times;
     }
-    tell();
+    m_listeners.tell();
 }
 
 bool SimulatedAccessory::refusesWrites() const
@@ -154,7 +154,7 @@ void SimulatedAccessory::failOpens(int times)
         const std::lock_guard lock(m_mutex);
         m_openFailures = times;
     }
-    tell();
+    m_listeners.tell();
 }
 
 void SimulatedAccessory::unplugAtWrite(int n)
@@ -163,7 +163,7 @@ void SimulatedAccessory::unplugAtWrite(int n)
         const std::lock_guard lock(m_mutex);
         m_writesToUnplug = n;
     }
-    tell();
+    m_listeners.tell();
 }
 
 bool SimulatedAccessory::unplugsAtWrite() const
@@ -212,27 +212,6 @@ void SimulatedAccessory::clearHistory()
 {
     const std::lock_guard lock(m_mutex);
     m_history.clear();
-}
-
-int SimulatedAccessory::addListener(Listener listener)
-{
-    const std::lock_guard lock(m_listenerMutex);
-    m_listeners.emplace_back(m_nextListener, std::move(listener));
-    return m_nextListener++;
-}
-
-void SimulatedAccessory::removeListener(int id)
-{
-    const std::lock_guard lock(m_listenerMutex);
-    std::erase_if(m_listeners, [id](const auto &entry) { return entry.first == id; });
-}
-
-void SimulatedAccessory::tell()
-{
-    const std::lock_guard lock(m_listenerMutex);
-    const auto listeners = m_listeners; // one may end itself
-    for (const auto &[id, listener] : listeners)
-        listener();
 }
 
 } // namespace virtualdesk

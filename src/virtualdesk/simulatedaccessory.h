@@ -14,6 +14,7 @@
 #include "platform/clock.h"
 #include "virtualdesk/accessorydecoder.h"
 #include "virtualdesk/faults.h"
+#include "virtualdesk/listeners.h"
 
 namespace virtualdesk {
 
@@ -33,7 +34,7 @@ struct AccessoryWrite
 class SimulatedAccessory
 {
 public:
-    using Listener = std::function<void()>;
+    using Listener = Listeners<>::Listener;
 
     static constexpr std::size_t kHistorySize = 4096; ///< more than the longest animation has chunks
     static constexpr std::uint16_t kVendor = 0x0416;
@@ -81,9 +82,9 @@ public:
     void clearHistory();
 
     /// Called after every change, on the thread that made it, with nothing locked that a question needs.
-    int addListener(Listener listener);
+    int addListener(Listener listener) { return m_listeners.add(std::move(listener)); }
     /// When this returns no call is under way in another thread and none comes any more.
-    void removeListener(int id);
+    void removeListener(int id) { m_listeners.remove(id); }
 
     /// Called, as a listener, when the device was plugged in or pulled out. One only: the desk's.
     void onPlugged(std::function<void(bool plugged)> told) { m_plugTold = std::move(told); }
@@ -97,7 +98,6 @@ private:
     };
 
     int serve(void *handle, AccessoryWrite &write);
-    void tell();
 
     platform::Clock &m_clock;
     std::function<void(bool)> m_plugTold;
@@ -116,10 +116,7 @@ private:
     int m_handleFaults = 0;
     std::deque<AccessoryWrite> m_history;
 
-    // Recursive, since a listener may do something to the accessory.
-    std::recursive_mutex m_listenerMutex;
-    std::vector<std::pair<int, Listener>> m_listeners;
-    int m_nextListener = 1;
+    Listeners<> m_listeners; // one may do something to the accessory
 };
 
 } // namespace virtualdesk

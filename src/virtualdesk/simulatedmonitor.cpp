@@ -37,7 +37,7 @@ Reply SimulatedMonitor::request(RequestKind kind, std::uint8_t code, std::uint32
             m_history.pop_front();
     }
     m_inFlight.fetch_sub(1);
-    tell(made);
+    m_listeners.tell(made);
     return reply;
 }
 
@@ -151,27 +151,6 @@ ProtocolFaults SimulatedMonitor::protocolFaults() const
 {
     const std::lock_guard lock(m_mutex);
     return m_conversation.faults();
-}
-
-int SimulatedMonitor::addListener(Listener listener)
-{
-    const std::lock_guard lock(m_listenerMutex);
-    m_listeners.emplace_back(m_nextListener, std::move(listener));
-    return m_nextListener++;
-}
-
-void SimulatedMonitor::removeListener(int id)
-{
-    const std::lock_guard lock(m_listenerMutex);
-    std::erase_if(m_listeners, [id](const auto &listener) { return listener.first == id; });
-}
-
-void SimulatedMonitor::tell(const Request &request)
-{
-    const std::lock_guard lock(m_listenerMutex);
-    const auto listeners = m_listeners; // a listener may take itself away
-    for (const auto &[id, listener] : listeners)
-        listener(request);
 }
 
 } // namespace virtualdesk

@@ -12,6 +12,7 @@
 #include "platform/clock.h"
 #include "virtualdesk/conversation.h"
 #include "virtualdesk/faults.h"
+#include "virtualdesk/listeners.h"
 #include "virtualdesk/monitormemory.h"
 #include "virtualdesk/replay.h"
 #include "virtualdesk/request.h"
@@ -23,7 +24,7 @@ namespace virtualdesk {
 class SimulatedMonitor
 {
 public:
-    using Listener = std::function<void(const Request &)>;
+    using Listener = Listeners<const Request &>::Listener;
 
     static constexpr std::size_t kHistorySize = 2048;
 
@@ -117,14 +118,13 @@ public:
     ProtocolFaults protocolFaults() const;
 
     /// Called after each request, on the thread that made it, with nothing locked that a request or a question needs.
-    int addListener(Listener listener);
+    int addListener(Listener listener) { return m_listeners.add(std::move(listener)); }
     /// When this returns no call is under way in another thread and none comes any more.
-    void removeListener(int id);
+    void removeListener(int id) { m_listeners.remove(id); }
 
 private:
     Reply request(RequestKind kind, std::uint8_t code, std::uint32_t value);
     Reply serve(Request &request);
-    void tell(const Request &request);
 
     const MonitorModel &m_model;
     platform::Clock &m_clock;
@@ -142,10 +142,7 @@ private:
     std::optional<Replay> m_replay;
     std::deque<Request> m_history;
 
-    // Recursive, since a listener may pull the plug, which makes the program send requests from within.
-    std::recursive_mutex m_listenerMutex;
-    std::vector<std::pair<int, Listener>> m_listeners;
-    int m_nextListener = 1;
+    Listeners<const Request &> m_listeners; // one may pull the plug, which makes the program send requests from within
 };
 
 } // namespace virtualdesk
