@@ -1,7 +1,5 @@
 // What the accessory's reports cost by themselves: with a device that takes every write at once, or without any.
 
-#include <QCoreApplication>
-
 #include <benchmark/benchmark.h>
 
 #include "benchdesk.h"
@@ -107,13 +105,3 @@ BENCHMARK(liveFrameChunks)->Apply(repeat);
 BENCHMARK(liveFrameSent)->Apply(repeat);
 
 } // namespace
-
-int main(int argc, char **argv)
-{
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    const QCoreApplication application(argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

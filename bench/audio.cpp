@@ -180,13 +180,3 @@ BENCHMARK(wholeAnalyser)->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(soundToReport)->Iterations(60)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char **argv)
-{
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    const QCoreApplication application(argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -2,8 +2,6 @@
 
 #include <chrono>
 
-#include <QCoreApplication>
-
 #include <benchmark/benchmark.h>
 
 #include "benchdesk.h"
@@ -108,13 +106,3 @@ BENCHMARK(edidName)->Apply(repeat);
 BENCHMARK(logLine)->Apply(repeat);
 
 } // namespace
-
-int main(int argc, char **argv)
-{
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    const QCoreApplication application(argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -70,11 +70,3 @@ BENCHMARK(oneLook)->Repetitions(9)->ReportAggregatesOnly()->Unit(benchmark::kMic
 BENCHMARK(tenASecond)->ArgName("real")->Arg(0)->Arg(1)->Iterations(1)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char **argv)
-{
-    QCoreApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}
