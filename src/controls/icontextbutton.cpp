@@ -16,28 +16,12 @@ const QColor kDisabledText = Palette::kDisabled;
 } // namespace
 
 IconTextButton::IconTextButton(const QString &iconBase, const QString &caption, QWidget *parent)
-    : PaintedControl(parent), m_normalPicture(Pictures::kRoot + QStringLiteral("img/icontext/normal.png")),
-      m_checkedPicture(Pictures::kRoot + QStringLiteral("img/icontext/checked.png")), m_iconBase(iconBase),
-      m_caption(kCaptionPixels)
+    : CaptionedControl(kCaptionPixels, parent),
+      m_normalPicture(Pictures::kRoot + QStringLiteral("img/icontext/normal.png")),
+      m_checkedPicture(Pictures::kRoot + QStringLiteral("img/icontext/checked.png")), m_iconBase(iconBase)
 {
     setFixedSize(kTileSize);
     setCaption(caption);
-}
-
-void IconTextButton::setChecked(bool checked)
-{
-    if (m_checked == checked)
-        return;
-    m_checked = checked;
-    update();
-    announceState(this);
-}
-
-void IconTextButton::setCaption(const QString &caption)
-{
-    m_caption.setText(caption);
-    setAccessibleName(caption);
-    update();
 }
 
 void IconTextButton::setPictures(const QString &normal, const QString &checked)
@@ -49,8 +33,8 @@ void IconTextButton::setPictures(const QString &normal, const QString &checked)
 
 void IconTextButton::press()
 {
-    setChecked(!m_checked);
-    Q_EMIT clicked(m_checked);
+    setChecked(!isChecked());
+    Q_EMIT clicked(isChecked());
 }
 
 void IconTextButton::paintEvent(QPaintEvent *)
@@ -58,16 +42,16 @@ void IconTextButton::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     drawTile(painter);
-    const QColor text = !isEnabled() ? kDisabledText : m_checked ? kCheckedText : kNormalText;
+    const QColor text = !isEnabled() ? kDisabledText : isChecked() ? kCheckedText : kNormalText;
     drawIcon(painter, text);
-    m_caption.draw(painter, kCaptionRect, Qt::AlignCenter, text);
+    drawCaption(painter, kCaptionRect, Qt::AlignCenter, text);
     drawFocus(painter, QRect(QPoint(), kTileSize), 10.0);
 }
 
 void IconTextButton::drawTile(QPainter &painter) const
 {
     const QRect tile(QPoint(), kTileSize);
-    const bool lit = isEnabled() && (m_checked || isHovered());
+    const bool lit = isEnabled() && (isChecked() || isHovered());
     if (Pictures::draw(painter, tile, lit ? m_checkedPicture : m_normalPicture))
         return;
     painter.setPen(lit ? kCheckedText : QColor(27, 80, 67));
@@ -77,7 +61,9 @@ void IconTextButton::drawTile(QPainter &painter) const
 
 void IconTextButton::drawIcon(QPainter &painter, const QColor &plainColor) const
 {
-    const QString state = !isEnabled() ? QStringLiteral("disabled") : m_checked ? QStringLiteral("checked") : QString();
+    const QString state = !isEnabled()  ? QStringLiteral("disabled")
+                          : isChecked() ? QStringLiteral("checked")
+                                        : QString();
     if (Pictures::draw(painter, kIconRect, Pictures::ofState(m_iconBase, state)) ||
         Pictures::draw(painter, kIconRect, Pictures::ofState(m_iconBase)))
         return;

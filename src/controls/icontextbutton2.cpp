@@ -20,30 +20,14 @@ const QColor kDisabledText = Palette::kDisabled;
 
 IconTextButton2::IconTextButton2(const QString &normalPicture, const QString &checkedPicture, const QString &caption,
                                  QWidget *parent)
-    : PaintedControl(parent), m_normalPicture(normalPicture), m_checkedPicture(checkedPicture),
-      m_pictureSize(kFallbackPicture), m_caption(kCaptionPixels)
+    : CaptionedControl(kCaptionPixels, parent), m_normalPicture(normalPicture), m_checkedPicture(checkedPicture),
+      m_pictureSize(kFallbackPicture)
 {
     const QPixmap picture = Pictures::load(normalPicture, 1.0);
     if (!picture.isNull())
         m_pictureSize = picture.size();
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setCaption(caption);
-}
-
-void IconTextButton2::setChecked(bool checked)
-{
-    if (m_checked == checked)
-        return;
-    m_checked = checked;
-    update();
-    announceState(this);
-}
-
-void IconTextButton2::setCaption(const QString &caption)
-{
-    m_caption.setText(caption);
-    setAccessibleName(caption);
-    update();
 }
 
 QSize IconTextButton2::sizeHint() const
@@ -67,15 +51,15 @@ void IconTextButton2::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const bool lit = isEnabled() && (m_checked || isHovered());
+    const bool lit = isEnabled() && (isChecked() || isHovered());
     painter.setPen(lit ? kLitFrame : kFrame);
     painter.setBrush(painter.pen().color());
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 8, 8);
 
     drawPicture(painter, rect().adjusted(0, kPadding, 0, -kCaptionHeight - kPadding));
-    const QColor text = !isEnabled() ? kDisabledText : m_checked ? kCheckedText : kNormalText;
+    const QColor text = !isEnabled() ? kDisabledText : isChecked() ? kCheckedText : kNormalText;
     const QRect captionRect(6, height() - kCaptionHeight - 6, width() - 12, kCaptionHeight);
-    m_caption.draw(painter, captionRect, Qt::AlignCenter, text);
+    drawCaption(painter, captionRect, Qt::AlignCenter, text);
     drawFocus(painter, rect(), 8.0);
 }
 
@@ -85,8 +69,8 @@ void IconTextButton2::drawPicture(QPainter &painter, const QRect &area) const
     target.moveCenter(area.center());
     painter.save();
     painter.setOpacity(isEnabled() ? 1.0 : 0.35);
-    if (!Pictures::draw(painter, target, m_checked ? m_checkedPicture : m_normalPicture)) {
-        painter.setPen(QPen(m_checked ? kCheckedText : kNormalText, 1.6));
+    if (!Pictures::draw(painter, target, isChecked() ? m_checkedPicture : m_normalPicture)) {
+        painter.setPen(QPen(isChecked() ? kCheckedText : kNormalText, 1.6));
         painter.setBrush(Qt::NoBrush);
         painter.drawRoundedRect(QRectF(target).adjusted(2, 2, -2, -2), 4, 4);
     }

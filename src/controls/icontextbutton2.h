@@ -2,10 +2,10 @@
 
 #include <QWidget>
 
-#include "controls/paintedcontrol.h"
+#include "controls/checkedcontrol.h"
 
 /// A framed picture with a caption below it. A press checks it; the owner unchecks its rivals.
-class IconTextButton2 : public PaintedControl<QWidget>
+class IconTextButton2 : public CaptionedControl<QWidget>
 {
     Q_OBJECT
 
@@ -14,26 +14,16 @@ public:
     IconTextButton2(const QString &normalPicture, const QString &checkedPicture, const QString &caption,
                     QWidget *parent = nullptr);
 
-    bool isChecked() const { return m_checked; }
-    /// Sets the checked state without a signal.
-    void setChecked(bool checked);
-
-    QString caption() const { return m_caption.text(); }
-    /// Sets the caption, which is the accessible name too.
-    void setCaption(const QString &caption);
-
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
     QAccessible::Role accessibleRole() const override { return QAccessible::RadioButton; }
-    std::optional<bool> checkedState() const override { return m_checked; }
     void press() override;
 
 Q_SIGNALS:
     void clicked();
 
 protected:
-    const Caption *shownCaption() const override { return &m_caption; }
     void paintEvent(QPaintEvent *event) override;
 
 private:
@@ -42,6 +32,4 @@ private:
     QString m_normalPicture;
     QString m_checkedPicture;
     QSize m_pictureSize;
-    Caption m_caption;
-    bool m_checked = false;
 };

@@ -19,7 +19,7 @@ const QColor kDisabledText = Palette::kDisabled;
 } // namespace
 
 LeftTabButton::LeftTabButton(const QString &iconBase, const QString &caption, QWidget *parent)
-    : PaintedControl(parent), m_iconBase(iconBase), m_caption(kCaptionPixels)
+    : CaptionedControl(kCaptionPixels, parent), m_iconBase(iconBase)
 {
     setFixedWidth(kSize.width());
     setMaximumHeight(kSize.height());
@@ -39,11 +39,8 @@ QSize LeftTabButton::minimumSizeHint() const
 
 void LeftTabButton::setChecked(bool checked)
 {
-    if (!m_selectable || m_checked == checked)
-        return;
-    m_checked = checked;
-    update();
-    announceState(this);
+    if (m_selectable)
+        CaptionedControl::setChecked(checked);
 }
 
 void LeftTabButton::setSelectable(bool selectable)
@@ -61,22 +58,9 @@ void LeftTabButton::setLock(const QString &reason)
     setAccessibleDescription(reason);
 }
 
-void LeftTabButton::setCaption(const QString &caption)
-{
-    m_caption.setText(caption);
-    setAccessibleName(caption);
-    update();
-}
-
 int LeftTabButton::captionSize() const
 {
-    return m_caption.sizeWithin(font(), kSize.width() - kCaptionLeft - kCaptionRightMargin);
-}
-
-void LeftTabButton::setCaptionSize(int pixels)
-{
-    m_caption.setLargest(pixels);
-    update();
+    return captionSizeWithin(kSize.width() - kCaptionLeft - kCaptionRightMargin);
 }
 
 void LeftTabButton::press()
@@ -94,24 +78,24 @@ void LeftTabButton::paintEvent(QPaintEvent *)
     drawBackground(painter);
     drawIcon(painter);
     const bool usable = isEnabled() && m_selectable;
-    const QColor color = !usable ? kDisabledText : m_checked ? kCheckedText : kNormalText;
+    const QColor color = !usable ? kDisabledText : isChecked() ? kCheckedText : kNormalText;
     const QRect textRect = rect().adjusted(kCaptionLeft, 0, -kCaptionRightMargin, 0);
-    m_caption.draw(painter, textRect, Qt::AlignLeft | Qt::AlignVCenter, color);
+    drawCaption(painter, textRect, Qt::AlignLeft | Qt::AlignVCenter, color);
     drawFocus(painter, rect(), 8.0);
 }
 
 void LeftTabButton::drawBackground(QPainter &painter) const
 {
     const bool hovered = isHovered() && isEnabled() && m_selectable;
-    const QString state = m_checked ? QStringLiteral("checked")
-                          : hovered ? QStringLiteral("hover")
-                                    : QStringLiteral("normal");
+    const QString state = isChecked() ? QStringLiteral("checked")
+                          : hovered   ? QStringLiteral("hover")
+                                      : QStringLiteral("normal");
     if (Pictures::draw(painter, rect(), Pictures::ofState(Pictures::kRoot + QStringLiteral("img/left/tab"), state)))
         return;
-    if (!m_checked && !hovered)
+    if (!isChecked() && !hovered)
         return;
     painter.setPen(Qt::NoPen);
-    painter.setBrush(m_checked ? QColor(0x26, 0x3d, 0x35) : QColor(0x1e, 0x28, 0x24));
+    painter.setBrush(isChecked() ? QColor(0x26, 0x3d, 0x35) : QColor(0x1e, 0x28, 0x24));
     painter.drawRoundedRect(rect(), 8, 8);
 }
 
@@ -119,7 +103,7 @@ void LeftTabButton::drawIcon(QPainter &painter) const
 {
     const QRect icon(kIconLeft, (height() - kIconSide) / 2, kIconSide, kIconSide);
     const bool usable = isEnabled() && m_selectable;
-    const QString state = !usable ? QStringLiteral("disabled") : m_checked ? QStringLiteral("checked") : QString();
+    const QString state = !usable ? QStringLiteral("disabled") : isChecked() ? QStringLiteral("checked") : QString();
     if (Pictures::draw(painter, icon, Pictures::ofState(m_iconBase, state)) ||
         Pictures::draw(painter, icon, Pictures::ofState(m_iconBase)))
         return;

@@ -2,11 +2,11 @@
 
 #include <QFrame>
 
-#include "controls/paintedcontrol.h"
+#include "controls/checkedcontrol.h"
 
 /// An entry of the left bar, 208 x 46, lower in a bar that is too full: icon and caption. It takes a press only while
 /// it is enabled for selection.
-class LeftTabButton : public PaintedControl<QFrame>
+class LeftTabButton : public CaptionedControl<QFrame>
 {
     Q_OBJECT
 
@@ -14,7 +14,6 @@ public:
     /// @p iconBase is the path of the icon without suffix: "<base>.png", "<base>_checked.png", "<base>_disabled.png".
     LeftTabButton(const QString &iconBase, const QString &caption, QWidget *parent = nullptr);
 
-    bool isChecked() const { return m_checked; }
     /// Sets the checked state without a signal; ignored while the button is not enabled for selection.
     void setChecked(bool checked);
 
@@ -28,18 +27,12 @@ public:
     /// Its icon: the path without suffix.
     const QString &icon() const { return m_iconBase; }
 
-    QString caption() const { return m_caption.text(); }
-    /// Sets the caption, which is the accessible name too.
-    void setCaption(const QString &caption);
-
     /// See shrinkTogether().
     int captionSize() const;
-    void setCaptionSize(int pixels);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
     QAccessible::Role accessibleRole() const override { return QAccessible::RadioButton; }
-    std::optional<bool> checkedState() const override { return m_checked; }
     bool isUsable() const override { return m_selectable; }
     void press() override;
 
@@ -47,7 +40,6 @@ Q_SIGNALS:
     void clicked();
 
 protected:
-    const Caption *shownCaption() const override { return &m_caption; }
     void paintEvent(QPaintEvent *event) override;
 
 private:
@@ -55,7 +47,5 @@ private:
     void drawIcon(QPainter &painter) const;
 
     QString m_iconBase;
-    Caption m_caption;
     bool m_selectable = true;
-    bool m_checked = false;
 };

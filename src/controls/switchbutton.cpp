@@ -14,24 +14,15 @@ const QColor kOtherText = Palette::kError;
 const QColor kDisabledText = Palette::kDisabled;
 } // namespace
 
-SwitchButton::SwitchButton(QWidget *parent) : PaintedControl(parent), m_leftText(kTextPixels), m_rightText(kTextPixels)
+SwitchButton::SwitchButton(QWidget *parent) : CheckedControl(parent), m_leftText(kTextPixels), m_rightText(kTextPixels)
 {
     setFixedSize(kSize);
     updateTexts();
 }
 
-void SwitchButton::setChecked(bool checked)
-{
-    if (m_checked == checked)
-        return;
-    m_checked = checked;
-    update();
-    announceState(this);
-}
-
 void SwitchButton::press()
 {
-    switchTo(!m_checked);
+    switchTo(!isChecked());
 }
 
 void SwitchButton::pressAt(const QPoint &position)
@@ -43,13 +34,13 @@ void SwitchButton::pressAt(const QPoint &position)
 void SwitchButton::switchTo(bool checked)
 {
     setChecked(checked);
-    Q_EMIT sigChecked(m_checked);
+    Q_EMIT sigChecked(isChecked());
 }
 
 void SwitchButton::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() != Qt::Key_Left && event->key() != Qt::Key_Right)
-        PaintedControl::keyPressEvent(event);
+        CheckedControl::keyPressEvent(event);
     else if (!event->isAutoRepeat())
         switchTo(event->key() == Qt::Key_Right);
 }
@@ -58,7 +49,7 @@ void SwitchButton::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange)
         updateTexts();
-    PaintedControl::changeEvent(event);
+    CheckedControl::changeEvent(event);
 }
 
 void SwitchButton::updateTexts()
@@ -77,16 +68,16 @@ void SwitchButton::paintEvent(QPaintEvent *)
     const QRect left = QRect(0, 0, half, height()).adjusted(kTextMargin, 0, -kTextMargin, 0);
     const QColor active = isEnabled() ? kActiveText : kDisabledText;
     const QColor other = isEnabled() ? kOtherText : kDisabledText;
-    m_leftText.draw(painter, left, Qt::AlignCenter, m_checked ? other : active);
-    m_rightText.draw(painter, left.translated(half, 0), Qt::AlignCenter, m_checked ? active : other);
+    m_leftText.draw(painter, left, Qt::AlignCenter, isChecked() ? other : active);
+    m_rightText.draw(painter, left.translated(half, 0), Qt::AlignCenter, isChecked() ? active : other);
     drawFocus(painter, rect(), height() / 2.0);
 }
 
 void SwitchButton::drawBackground(QPainter &painter) const
 {
-    const QString state = !isEnabled() ? QStringLiteral("disabled")
-                          : m_checked  ? QStringLiteral("check")
-                                       : QStringLiteral("uncheck");
+    const QString state = !isEnabled()  ? QStringLiteral("disabled")
+                          : isChecked() ? QStringLiteral("check")
+                                        : QStringLiteral("uncheck");
     const bool drawn =
         Pictures::draw(painter, rect(), Pictures::ofState(Pictures::kRoot + QStringLiteral("img/switch"), state));
     const qreal radius = height() / 2.0;
@@ -96,7 +87,7 @@ void SwitchButton::drawBackground(QPainter &painter) const
         painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
         painter.setPen(Qt::NoPen);
         painter.setBrush(QColor(0x26, 0x3d, 0x35));
-        const QRectF half(m_checked ? width() / 2.0 : 3.0, 3.0, width() / 2.0 - 3.0, height() - 6.0);
+        const QRectF half(isChecked() ? width() / 2.0 : 3.0, 3.0, width() / 2.0 - 3.0, height() - 6.0);
         painter.drawRoundedRect(half, radius - 3, radius - 3);
     }
     if (isHovered() && isEnabled()) {

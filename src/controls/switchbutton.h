@@ -2,22 +2,17 @@
 
 #include <QWidget>
 
-#include "controls/paintedcontrol.h"
+#include "controls/checkedcontrol.h"
 
 /// A two-part switch, 120 x 38: its left half switches off, its right half on.
-class SwitchButton : public PaintedControl<QWidget>
+class SwitchButton : public CheckedControl<QWidget>
 {
     Q_OBJECT
 
 public:
     explicit SwitchButton(QWidget *parent = nullptr);
 
-    bool isChecked() const { return m_checked; }
-    /// Sets the checked state without a signal.
-    void setChecked(bool checked);
-
     QAccessible::Role accessibleRole() const override { return QAccessible::CheckBox; }
-    std::optional<bool> checkedState() const override { return m_checked; }
     /// Presses the half that is not active now.
     void press() override;
 
@@ -37,5 +32,4 @@ private:
 
     Caption m_leftText;
     Caption m_rightText;
-    bool m_checked = false;
 };

@@ -13,24 +13,15 @@ const QColor kMark = Palette::kMint;
 const QColor kDisabled = Palette::kDisabled;
 } // namespace
 
-SwitchButtonRectangle::SwitchButtonRectangle(QWidget *parent) : PaintedControl(parent)
+SwitchButtonRectangle::SwitchButtonRectangle(QWidget *parent) : CheckedControl(parent)
 {
     setFixedSize(kSize);
 }
 
-void SwitchButtonRectangle::setChecked(bool checked)
-{
-    if (m_checked == checked)
-        return;
-    m_checked = checked;
-    update();
-    announceState(this);
-}
-
 void SwitchButtonRectangle::press()
 {
-    setChecked(!m_checked);
-    Q_EMIT sigClicked(m_checked);
+    setChecked(!isChecked());
+    Q_EMIT sigClicked(isChecked());
 }
 
 void SwitchButtonRectangle::paintEvent(QPaintEvent *)
@@ -41,7 +32,7 @@ void SwitchButtonRectangle::paintEvent(QPaintEvent *)
     painter.fillRect(box, kGround);
     painter.setPen(!isEnabled() ? kDisabled.darker(170) : isHovered() ? kHoveredOutline : kOutline);
     painter.drawRect(box.adjusted(0, 0, -1, -1));
-    if (m_checked) {
+    if (isChecked()) {
         const QRectF inner = QRectF(box).adjusted(1, 1, -1, -1);
         painter.setPen(QPen(isEnabled() ? kMark : kDisabled, 2.0, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
         painter.setBrush(isEnabled() ? kOutline : kGround);
