@@ -10,7 +10,6 @@
 #include "controls/pictures.h"
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/transport.h"
-#include "ddc_protocol/writecounts.h"
 #include "ddc_protocol/writekeeper.h"
 #include "page/Emberline/pageemberline.h"
 #include "page/Emberline/rhythmlight.h"
@@ -28,13 +27,11 @@
 namespace {
 
 MainWindow *s_mainWindow = nullptr;
-
 constexpr int kTopHeight = 72;
 constexpr int kLeftWidth = 232;
 constexpr int kMargin = 24;
 constexpr int kCardMargin = 12; // as the entries above it
 constexpr int kCardBottom = 20;
-constexpr platform::milliseconds kLastValues{1500}; // the system gives the whole program about 5 s
 
 } // namespace
 
@@ -119,7 +116,8 @@ void MainWindow::createFollowers()
     connect(m_reconciler, &Reconciler::linkChanged, m_rhythm, &RhythmLight::followLink);
     connect(m_status, &StatusCard::retryWanted, m_reconciler,
             [this] { m_reconciler->systemNoticed(SystemNotice::DisplaysChanged); });
-    connect(new SessionEnd(this), &SessionEnd::ends, this, &MainWindow::endWithSession);
+    new SessionEnd(
+        *m_queue, [this] { m_accessory->end(); }, this);
 }
 
 void MainWindow::createTray()
@@ -227,15 +225,6 @@ void MainWindow::showWindow()
 {
     trayPanel()->close();
     showInFront();
-}
-
-/// The user logs off: once this returns the process may be gone, so that it cannot wait for the ordinary end.
-void MainWindow::endWithSession()
-{
-    platform::endProgram();
-    m_accessory->end();
-    m_queue->drainFor(kLastValues);
-    writeCounts.store();
 }
 
 void MainWindow::leave()

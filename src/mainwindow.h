@@ -103,7 +103,6 @@ private:
     void placeParts();
     void followSent(Command command);
     std::vector<Page *> pagesInSight() const;
-    void endWithSession();
 
     SearchDeviceDlg &m_session;
     QPixmap m_labelPixmap;

@@ -1,23 +1,31 @@
 #pragma once
 
+#include <functional>
+
 #include <QAbstractNativeEventFilter>
 #include <QObject>
 
-/// Hears that the user logs off or the computer shuts down, which the program never refuses. The messages do not reach
-/// the toolkit: it would close the window, which goes to the tray instead and so would be taken for a refusal.
+class CommandQueue;
+
+/// Hears that the user logs off or the computer shuts down, which the program never refuses, and ends it: as soon as
+/// the message has been answered the process may be gone, so that it cannot wait for the ordinary end. The messages do
+/// not reach the toolkit: it would close the window, which goes to the tray instead and so would be taken for a
+/// refusal.
 class SessionEnd : public QObject, private QAbstractNativeEventFilter
 {
     Q_OBJECT
 public:
-    explicit SessionEnd(QObject *parent);
+    /// What the queue still has to send is sent before, as long as there is time. The queue outlives it.
+    /// @param stopAccessory  ends what goes on with the accessory
+    SessionEnd(CommandQueue &queue, std::function<void()> stopAccessory, QObject *parent);
     ~SessionEnd() override;
-
-Q_SIGNALS:
-    /// It is decided; told once. When the slots return the process may be gone.
-    void ends();
 
 private:
     bool nativeEventFilter(const QByteArray &eventType, void *message, qintptr *result) override;
 
-    bool m_told = false;
+    void end();
+
+    CommandQueue &m_queue;
+    std::function<void()> m_stopAccessory;
+    bool m_hasEnded = false;
 };
