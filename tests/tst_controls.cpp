@@ -174,23 +174,29 @@ void TestControls::leftTabIgnoresWhatItIsNotEnabledFor()
     QCOMPARE(spy.count(), 0);
 }
 
+/// Four members of a group, painted controls or the toolkit's own.
+static std::vector<QWidget *> makeMembers(FocusGroup *group, bool isPainted, QWidget *bar)
+{
+    auto *exclusive = new QButtonGroup(bar);
+    std::vector<QWidget *> members;
+    for (int i = 0; i < 4; ++i) {
+        auto *button = isPainted ? nullptr : new QPushButton(bar);
+        members.push_back(button ? static_cast<QWidget *>(button) : new LeftTabButton(kIcon, {}, bar));
+        if (button) {
+            button->setCheckable(true);
+            exclusive->addButton(button);
+        }
+        group->add(members.back());
+    }
+    return members;
+}
+
 void TestControls::groupIsOneTabStop()
 {
     QWidget window;
-    for (const bool isPainted : {true, false}) { // or of the toolkit's own
+    for (const bool isPainted : {true, false}) {
         auto *bar = new QWidget(&window);
-        auto *group = new FocusGroup(bar);
-        auto *exclusive = new QButtonGroup(bar);
-        std::vector<QWidget *> members;
-        for (int i = 0; i < 4; ++i) {
-            auto *button = isPainted ? nullptr : new QPushButton(bar);
-            members.push_back(button ? static_cast<QWidget *>(button) : new LeftTabButton(kIcon, {}, bar));
-            if (button) {
-                button->setCheckable(true);
-                exclusive->addButton(button);
-            }
-            group->add(members.back());
-        }
+        const std::vector<QWidget *> members = makeMembers(new FocusGroup(bar), isPainted, bar);
         const auto is = [&members](bool (*fits)(const QWidget *)) {
             QString found;
             for (std::size_t i = 0; i < members.size(); ++i)
@@ -199,17 +205,13 @@ void TestControls::groupIsOneTabStop()
         };
         const auto stops = [&is] { return is([](const QWidget *m) { return bool(m->focusPolicy() & Qt::TabFocus); }); };
         const auto chosen = [&is] { return is([](const QWidget *m) { return checkedStateOf(m).value_or(false); }); };
-        const auto choose = [&members](std::size_t i) { QTest::mouseClick(members[i], Qt::LeftButton); };
         window.show();
         bar->show();
         QVERIFY(QTest::qWaitForWindowActive(&window));
         QCOMPARE(stops(), QStringLiteral("0"));
-        choose(2);
+        QTest::mouseClick(members[2], Qt::LeftButton);
         window.setFocus();
-        if (isPainted)
-            static_cast<LeftTabButton *>(members[1])->setSelectable(false);
-        else
-            members[1]->setEnabled(false);
+        isPainted ? static_cast<LeftTabButton *>(members[1])->setSelectable(false) : members[1]->setEnabled(false);
         QCOMPARE(stops(), QStringLiteral("2"));
         members[2]->setFocus(Qt::TabFocusReason);
         for (const auto &[key, focused] : {std::pair(Qt::Key_Down, "3"),

@@ -208,8 +208,7 @@ void TestShortcutPage::refusedKeysAreShown()
     m_desk->desk.hotKeys().take(kControl, 'K');
     const QString key = QStringLiteral("Ctrl+K");
     start({{1, true, key, QStringLiteral("Ctrl+L")}, {2, true, key, key}});
-    QVERIFY(row(0)->isTaken(0));
-    QVERIFY(!row(0)->isTaken(1));
+    QVERIFY(row(0)->isTaken(0) && !row(0)->isTaken(1));
     QCOMPARE(row(1)->findChild<QLabel *>(QStringLiteral("problem"))->text().count(key), 1);
     const auto *problem = row(0)->findChild<QLabel *>(QStringLiteral("problem"));
     QVERIFY(!problem->isHidden());

@@ -208,7 +208,6 @@ void TestToolPages::everythingIsReadOnce()
         QCOMPARE(asked.removeAll(QStringLiteral("R %1").arg(static_cast<int>(command), 2, 16, QLatin1Char('0'))),
                  command == Command::SceneMode || command == Command::StillPicture ? 2 : 1); // with the block
     QCOMPARE(asked, QStringList(10, "R fe"));
-
     m_desk->monitor().goDeaf(); // given up at once, rather than for each
     press("readEverything");
     QTRY_VERIFY(text("healthResult").startsWith("The monitor does not answer"));

@@ -96,24 +96,26 @@ void TestVirtualDesk::tracksHandles()
     QCOMPARE(desk.handles().faults(), 2);
 }
 
+/// A script that says something of everything.
+static const QByteArray kScript = R"({
+    "latency": {"read_ms": 4, "write_ms": 5}, "topology": "clone", "administrator": false,
+    "user": {"idle_ms": 60000, "notification_state": 3},
+    "displays": [{"bounds": [0, 0, 800, 600]}],
+    "monitors": [
+        {"model": "Q32-MPCS", "edid": "00 ff", "values": {"0x10": 12},
+         "faults": [{"event": "refuse", "code": "0x12", "times": "always"}]},
+        {"model": "Q27-OLED", "plugged": false, "edid": {"random": 64}, "latency": "none"}],
+    "accessory": {"form": 1, "faults": [{"event": "fail_open", "times": 2}, {"event": "unplug", "at_write": 1}]},
+    "events": [{"at_ms": 700, "event": "plug", "monitor": 1}, {"at_ms": 900, "event": "deaf", "times": 2}],
+    "programs": [{"path": "C:\\a.exe", "window": {"rect": [1, 2, 30, 40], "frame": 7, "shape": "maximised"}}],
+    "audio": {"rate": 44100, "channels": 8, "mix": "float", "plays": "tone", "volume": 5, "packet_frames": 33,
+              "present": false, "faults": [{"call": "reset", "result": "0x88890004", "times": "always"}]}
+})";
+
 void TestVirtualDesk::readsScripts()
 {
     QString error;
-    const auto setup = parseDeskScript(R"({
-        "latency": {"read_ms": 4, "write_ms": 5}, "topology": "clone", "administrator": false,
-        "user": {"idle_ms": 60000, "notification_state": 3},
-        "displays": [{"bounds": [0, 0, 800, 600]}],
-        "monitors": [
-            {"model": "Q32-MPCS", "edid": "00 ff", "values": {"0x10": 12},
-             "faults": [{"event": "refuse", "code": "0x12", "times": "always"}]},
-            {"model": "Q27-OLED", "plugged": false, "edid": {"random": 64}, "latency": "none"}],
-        "accessory": {"form": 1, "faults": [{"event": "fail_open", "times": 2}, {"event": "unplug", "at_write": 1}]},
-        "events": [{"at_ms": 700, "event": "plug", "monitor": 1}, {"at_ms": 900, "event": "deaf", "times": 2}],
-        "programs": [{"path": "C:\\a.exe", "window": {"rect": [1, 2, 30, 40], "frame": 7, "shape": "maximised"}}],
-        "audio": {"rate": 44100, "channels": 8, "mix": "float", "plays": "tone", "volume": 5, "packet_frames": 33,
-                  "present": false, "faults": [{"call": "reset", "result": "0x88890004", "times": "always"}]}
-    })",
-                                       error);
+    const auto setup = parseDeskScript(kScript, error);
     QVERIFY2(setup, qPrintable(error));
     const EndpointSetup &sound = setup->sound;
     QVERIFY(sound.sampleRate == 44100 && sound.channels == 8 && sound.mix == MixKind::Float && !sound.present);
@@ -149,45 +151,47 @@ void TestVirtualDesk::readsScripts()
         QCOMPARE(desk.monitor(0).read(0x99).ok(), answers);
 }
 
+/// Scripts that cannot be used, and what is said of each.
+static const std::pair<QByteArray, QString> kScriptFaults[] = {
+    {"{\n\"monitors\": [,]\n}", "line 2"},
+    {"[1]", "object"},
+    {R"({"monitors": [{"model": "Q1"}]})", "\"Q1\""},
+    {R"({"monitors": [{"model": "Q27-OLED", "display": 2}]})", "\"display\""},
+    {R"({"displays": [{}]})", "fewer displays"},
+    {R"({"events": [{"at_ms": 1, "event": "dance"}]})", "\"dance\""},
+    {R"({"events": [{"event": "plug", "monitor": 9}]})", "\"monitor\""},
+    {R"({"monitors": [{"model": "Q27-OLED", "edid": "00f"}]})", "\"edid\""},
+    {R"({"latency": {"read_ms": -1}})", "\"read_ms\""},
+    {R"({"accessory": {"form": 99}})", "\"form\""},
+    {R"({"accessory": {"faults": [{"event": "sing"}]}})", "\"sing\""},
+    {R"({"administrater": true})", "\"administrater\""},
+    {R"({"displays": [{"nam": "x"}, {}]})", "\"nam\""},
+    {R"({"monitors": [{"model": "Q27-OLED", "pluged": false}]})", "\"pluged\""},
+    {R"({"monitors": [{"model": "Q27-OLED", "edid": {"random": 1, "sed": 2}}]})", "\"sed\""},
+    {R"({"latency": {"reed_ms": 1}})", "\"reed_ms\""},
+    {R"({"events": [{"event": "deaf", "time": 2}]})", "\"time\""},
+    {R"({"accessory": {"shape": 1}})", "\"shape\""},
+    {R"({"accessory": {"faults": [{"event": "unplug", "at": 1}]}})", "\"at\""},
+    {R"({"events": [{"event": "refuse"}]})", "\"code\""},
+    {R"({"administrator": 1})", "\"administrator\""},
+    {R"({"programs": [{}]})", "\"path\""},
+    {R"({"programs": [{"path": "x", "window": {"rect": [1, 2, 3]}}]})", "\"rect\""},
+    {R"({"programs": [{"path": "x", "window": {"shape": "round"}}]})", "\"round\""},
+    {R"({"user": {"notification_state": 8}})", "\"notification_state\""},
+    {R"({"audio": []})", "\"audio\""},
+    {R"({"audio": {"plays": "jazz"}})", "\"jazz\""},
+    {R"({"audio": {"plays": "wave", "file": "none.wav"}})", "none.wav"},
+    {R"({"audio": {"rat": 48000}})", "\"rat\""},
+    {R"({"audio": {"faults": {}}})", "list"},
+    {R"({"audio": {"faults": [{}]}})", "\"call\""},
+    {R"({"audio": {"faults": [{"call": "stop", "result": 5}]}})", "\"result\""},
+};
+
 void TestVirtualDesk::namesScriptFaults()
 {
-    const std::pair<QByteArray, QString> faults[] = {
-        {"{\n\"monitors\": [,]\n}", "line 2"},
-        {"[1]", "object"},
-        {R"({"monitors": [{"model": "Q1"}]})", "\"Q1\""},
-        {R"({"monitors": [{"model": "Q27-OLED", "display": 2}]})", "\"display\""},
-        {R"({"displays": [{}]})", "fewer displays"},
-        {R"({"events": [{"at_ms": 1, "event": "dance"}]})", "\"dance\""},
-        {R"({"events": [{"event": "plug", "monitor": 9}]})", "\"monitor\""},
-        {R"({"monitors": [{"model": "Q27-OLED", "edid": "00f"}]})", "\"edid\""},
-        {R"({"latency": {"read_ms": -1}})", "\"read_ms\""},
-        {R"({"accessory": {"form": 99}})", "\"form\""},
-        {R"({"accessory": {"faults": [{"event": "sing"}]}})", "\"sing\""},
-        {R"({"administrater": true})", "\"administrater\""},
-        {R"({"displays": [{"nam": "x"}, {}]})", "\"nam\""},
-        {R"({"monitors": [{"model": "Q27-OLED", "pluged": false}]})", "\"pluged\""},
-        {R"({"monitors": [{"model": "Q27-OLED", "edid": {"random": 1, "sed": 2}}]})", "\"sed\""},
-        {R"({"latency": {"reed_ms": 1}})", "\"reed_ms\""},
-        {R"({"events": [{"event": "deaf", "time": 2}]})", "\"time\""},
-        {R"({"accessory": {"shape": 1}})", "\"shape\""},
-        {R"({"accessory": {"faults": [{"event": "unplug", "at": 1}]}})", "\"at\""},
-        {R"({"events": [{"event": "refuse"}]})", "\"code\""},
-        {R"({"administrator": 1})", "\"administrator\""},
-        {R"({"programs": [{}]})", "\"path\""},
-        {R"({"programs": [{"path": "x", "window": {"rect": [1, 2, 3]}}]})", "\"rect\""},
-        {R"({"programs": [{"path": "x", "window": {"shape": "round"}}]})", "\"round\""},
-        {R"({"user": {"notification_state": 8}})", "\"notification_state\""},
-        {R"({"audio": []})", "\"audio\""},
-        {R"({"audio": {"plays": "jazz"}})", "\"jazz\""},
-        {R"({"audio": {"plays": "wave", "file": "none.wav"}})", "none.wav"},
-        {R"({"audio": {"rat": 48000}})", "\"rat\""},
-        {R"({"audio": {"faults": {}}})", "list"},
-        {R"({"audio": {"faults": [{}]}})", "\"call\""},
-        {R"({"audio": {"faults": [{"call": "stop", "result": 5}]}})", "\"result\""},
-    };
     QTemporaryDir folder;
     const QString fileName = folder.filePath("desk.json");
-    for (const auto &[script, complaint] : faults) {
+    for (const auto &[script, complaint] : kScriptFaults) {
         QString error;
         QVERIFY2(!parseDeskScript(script, error), script.constData());
         QVERIFY2(error.contains(complaint), qPrintable(error));
