@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "controls/arrowkeys.h"
 #include "controls/palette.h"
 #include "page/Splitter/zonepicture.h"
 
@@ -26,23 +27,6 @@ int snapped(int part)
 QPoint middle(const Zone &zone)
 {
     return {(zone.left + zone.right) / 2, (zone.top + zone.bottom) / 2};
-}
-
-/// An arrow key as a direction; nothing for another key.
-std::optional<QPoint> directionOf(int key)
-{
-    switch (key) {
-    case Qt::Key_Left:
-        return QPoint(-1, 0);
-    case Qt::Key_Right:
-        return QPoint(1, 0);
-    case Qt::Key_Up:
-        return QPoint(0, -1);
-    case Qt::Key_Down:
-        return QPoint(0, 1);
-    default:
-        return {};
-    }
 }
 
 } // namespace
@@ -183,7 +167,7 @@ void LayoutEditor::chooseZone(std::size_t zone)
 /// To the nearest zone in the direction of an arrow.
 void LayoutEditor::step(int key)
 {
-    const QPoint direction = *directionOf(key);
+    const QPoint direction = *stepOfArrow(key);
     const QPoint from = middle(m_layout.zones[m_zone]);
     std::size_t nearest = m_zone;
     int least = 0;
@@ -203,7 +187,7 @@ void LayoutEditor::step(int key)
 void LayoutEditor::moveEdgeOfZone(int key)
 {
     const Zone zone = m_layout.zones[m_zone];
-    const QPoint direction = *directionOf(key);
+    const QPoint direction = *stepOfArrow(key);
     const bool isUpright = direction.x() != 0;
     const int high = isUpright ? zone.right : zone.bottom;
     const int low = isUpright ? zone.left : zone.top;
@@ -217,7 +201,7 @@ void LayoutEditor::moveEdgeOfZone(int key)
 
 void LayoutEditor::keyPressEvent(QKeyEvent *event)
 {
-    if (!directionOf(event->key()))
+    if (!stepOfArrow(event->key()))
         return QWidget::keyPressEvent(event);
     if (!event->modifiers().testFlag(Qt::ControlModifier))
         step(event->key());

@@ -5,6 +5,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "controls/arrowkeys.h"
 #include "ledmatrix/animationfile.h"
 #include "page/Nightloom/parts/matrixpicture.h"
 
@@ -116,22 +117,12 @@ void MatrixEditor::keyPressEvent(QKeyEvent *event)
 {
     if (event->modifiers() & ~Qt::KeypadModifier)
         return QLabel::keyPressEvent(event);
-    switch (event->key()) {
-    case Qt::Key_Left:
-        return moveCursor(-1, 0);
-    case Qt::Key_Right:
-        return moveCursor(1, 0);
-    case Qt::Key_Up:
-        return moveCursor(0, -1);
-    case Qt::Key_Down:
-        return moveCursor(0, 1);
-    case Qt::Key_Space:
-        if (!event->isAutoRepeat())
-            press();
-        return;
-    default:
+    if (const auto step = stepOfArrow(event->key()))
+        moveCursor(step->x(), step->y());
+    else if (event->key() != Qt::Key_Space)
         QLabel::keyPressEvent(event);
-    }
+    else if (!event->isAutoRepeat())
+        press();
 }
 
 void MatrixEditor::press()
