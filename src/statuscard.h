@@ -18,8 +18,6 @@ public:
 
     void tell(const MonitorStatus &status);
 
-    QPushButton *retryButton() const { return m_retry; }
-
 Q_SIGNALS:
     void retryWanted();
 

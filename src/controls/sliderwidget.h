@@ -59,7 +59,6 @@ public:
     void setLock(const QString &reason);
 
     NoWheelSlider *slider() const { return m_slider; }
-    CaptionLabel *captionLabel() const { return m_captionLabel; }
     QLabel *valueLabel() const { return m_valueLabel; }
 
 public Q_SLOTS:

@@ -208,14 +208,6 @@ bool DeviceState::sceneBlockValid() const
     return m_storage->isBlockRead;
 }
 
-void DeviceState::invalidateSceneBlock()
-{
-    changeBlock([](StateStorage &storage) {
-        storage.forgetBlock();
-        return true;
-    });
-}
-
 void DeviceState::forgetSettings()
 {
     const int capability = value(Command::Capability);

@@ -122,9 +122,6 @@ public:
     /// Something happened after which the monitor may have other values than it told. What is shown stays.
     void mayHaveChanged();
 
-    /// Forgets the values of the custom half.
-    void invalidateSceneBlock();
-
     /// Forgets everything but the model: what is read next belongs to a monitor that may be another one.
     void forgetSettings();
 

@@ -42,7 +42,6 @@ Q_SIGNALS:
 
 private:
     ApplicationWindow *find(void *window) const;
-    platform::DisplayInfo displayBelow(const ApplicationWindow &window) const;
 
     Applications &m_applications;
     SimulatedDisplays &m_displays;

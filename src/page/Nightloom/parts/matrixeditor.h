@@ -30,7 +30,6 @@ public:
     /// Adds the frame to the end of the data file, which is made when there is none. False when it cannot be written.
     bool appendFrameToFile() const;
 
-    bool isEditable() const { return m_editable; }
     void setEditable(bool editable);
 
     /// Width and height of a cell in pixels.

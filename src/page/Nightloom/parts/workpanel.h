@@ -63,7 +63,6 @@ public:
     void tellCancelled();
 
     bool isBusy() const { return !m_steps.empty(); }
-    bool hasFailed() const { return m_failed; }
     bool isCancelled() const { return m_cancelled; }
 
     /// The name of the step that goes on, translated.
