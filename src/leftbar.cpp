@@ -1,5 +1,8 @@
 #include "leftbar.h"
 
+#include <algorithm>
+#include <utility>
+
 #include <QVBoxLayout>
 
 #include "controls/accessiblecontrol.h"
@@ -9,27 +12,47 @@
 
 static constexpr int kSpacing = 2;
 
-LeftBar::LeftBar(std::vector<NavigationEntry> entries, QWidget *parent) : QWidget(parent), m_entries(std::move(entries))
+LeftBar::LeftBar(std::vector<NavigationEntry> entries, QWidget *parent)
+    : QWidget(parent), m_stop(new FocusGroup(this)), m_column(new QVBoxLayout(this))
 {
     describeAs(this, QAccessible::Grouping);
-    auto *stop = new FocusGroup(this);
-    auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(12, 12, 12, 0);
-    column->setSpacing(kSpacing);
-    for (std::size_t i = 0; i < m_entries.size(); ++i) {
-        const NavigationEntry &entry = m_entries[i];
-        const QString icon = Pictures::kRoot + QLatin1String("img/entry/") + QLatin1String(entry.icon);
-        auto *button = new LeftTabButton(icon, QObject::tr(entry.label), this);
-        button->setObjectName(QStringLiteral("entry_") + QLatin1String(entry.label));
-        connect(button, &LeftTabButton::clicked, this, [this, index = static_cast<int>(i)] {
-            setCurrent(index);
-            Q_EMIT entryChosen(index);
-        });
-        m_buttons.push_back(button);
-        column->addWidget(button);
-        stop->add(button);
-    }
-    column->addStretch(1);
+    m_column->setContentsMargins(12, 12, 12, 0);
+    m_column->setSpacing(kSpacing);
+    m_column->addStretch(1);
+    setEntries(std::move(entries));
+}
+
+void LeftBar::setEntries(std::vector<NavigationEntry> entries)
+{
+    const auto isSame = [](const NavigationEntry &one, const NavigationEntry &other) {
+        return one.label == other.label && one.sceneValue == other.sceneValue;
+    };
+    if (std::ranges::equal(m_entries, entries, isSame))
+        return;
+    const bool isUsable = m_buttons.empty() || m_buttons.front()->isEnabled();
+    for (LeftTabButton *button : std::exchange(m_buttons, {}))
+        delete button;
+    m_entries = std::move(entries);
+    m_current = -1;
+    for (const NavigationEntry &entry : m_entries)
+        addButton(entry);
+    for (LeftTabButton *button : m_buttons)
+        button->setEnabled(isUsable);
+}
+
+void LeftBar::addButton(const NavigationEntry &entry)
+{
+    const QString icon = Pictures::kRoot + QLatin1String("img/entry/") + QLatin1String(entry.icon);
+    auto *button = new LeftTabButton(icon, QObject::tr(entry.label), this);
+    button->setObjectName(QStringLiteral("entry_") + QLatin1String(entry.label));
+    const int index = static_cast<int>(m_buttons.size());
+    connect(button, &LeftTabButton::clicked, this, [this, index] {
+        setCurrent(index);
+        Q_EMIT entryChosen(index);
+    });
+    m_buttons.push_back(button);
+    m_column->insertWidget(index, button);
+    m_stop->add(button);
 }
 
 void LeftBar::setCurrent(int index)

@@ -143,6 +143,8 @@ void MainWindow::connectScene()
         m_checks->readMissingBlock();
     });
     connect(&m_queue->values(), &ValueWatch::changed, this, [this](Command command) {
+        if (command == Command::Capability)
+            m_navigator->followMonitor();
         if (command != Command::SceneMode)
             return;
         m_navigator->followSceneMode();

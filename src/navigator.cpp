@@ -148,6 +148,19 @@ void Navigator::updateControlText()
     followLack();
 }
 
+/// Another monitor has other modes, and other functions behind the entries.
+void Navigator::followMonitor()
+{
+    if (!deviceState.isKnown(Command::Capability)) // it is asked, and what stands here is nearly always right
+        return;
+    for (int family = 0; family < kSceneFamilies; ++family) {
+        bar(family)->setEntries(navigationEntries(family, deviceState));
+        bar(family)->updateControlText();
+    }
+    followSceneMode();
+    followLack();
+}
+
 /// What the open entry's page needs may have been told by now, or the monitor be another one.
 void Navigator::followLack()
 {

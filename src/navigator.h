@@ -38,6 +38,9 @@ public:
     /// As above, and opens the family of that mode.
     void openFamilyOfScene();
 
+    /// The monitor has told what it has: offers that.
+    void followMonitor();
+
     /// Goes to where a command is set when no page but a bar sets it: the scene mode's entry.
     void showSetting(Command command);
 

@@ -99,6 +99,8 @@ void Reconciler::ask()
     if (!m_facts.answers)
         return;
     m_facts.isWanted = false;
+    if (!deviceState.isKnown(Command::Capability)) // what the monitor has stands below every page
+        m_queue.ask(Command::Capability);
     for (Page *page : m_pagesInSight())
         page->reconcile();
 }

@@ -97,13 +97,12 @@ class TestAgreement : public DeskSuite
 
     void walkPages()
     {
-        const std::vector<PanelSpec> picture = picturePanels(deviceState);
         for (const std::span<const PanelSpec> panels :
-             {std::span(picture), gamePanels(), officePanels(), ioPanels(), systemPanels(), multiWindowPanels(),
+             {picturePanels(), gamePanels(), officePanels(), ioPanels(), systemPanels(), multiWindowPanels(),
               carePanels(),
               deviceState.has(::Capability::GameFunctions) ? lightPanels() : std::span<const PanelSpec>()}) {
             for (const PanelSpec &panel : panels) {
-                if (deviceState.has(panel.needs))
+                if (isOffered(panel, deviceState))
                     walkSections(panel.sections);
             }
         }

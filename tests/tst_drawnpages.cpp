@@ -47,6 +47,23 @@ void TestDrawnPages::pointingShowsAndSendsNothing()
     QVERIFY(!stage->preview() && seen() == before);
     QCOMPARE(m_desk->takeCommands(), QStringList());
 
+    // What is refused is not drawn as on, and the words do not say so.
+    m_desk->monitor().refuse(0xEC, kForEver);
+    const auto words = [stage] {
+        QStringList shown;
+        for (const QLabel *label : stage->findChildren<QLabel *>())
+            shown.append(label->isHidden() ? QString() : label->text());
+        return shown;
+    };
+    const QStringList wordsBefore = words();
+    button(Office, "Paper_Paper_B5")->click();
+    QVERIFY(settle());
+    QVERIFY(deviceState.state(Command::Paper) == ValueState::Refused);
+    QVERIFY(seen() == before);
+    QCOMPARE(words(), wordsBefore);
+    m_desk->monitor().recover();
+    m_desk->takeCommands();
+
     // What the monitor lays over a game is shown to the pixel: a green cross of 25 pixels in the middle.
     PanelPage *game = page(Game);
     game->resize(1000, 680);

@@ -164,12 +164,21 @@ void TestPages::valuesOutOfRange()
 
 void TestPages::listByModel()
 {
-    for (const auto &[capability, items, motion] : {std::tuple(3, 12, "DyDs"), {0, 10, "DyDs"}, {64, 10, "MPCS"}}) {
-        m_pages.clear();
-        deviceState.store(Command::Capability, capability);
+    m_pages.clear();
+    page(Picture)->show();
+    for (const auto &[capability, items, motion] :
+         {std::tuple(64, 10, "MPCS"), {3, 12, "DyDs"}, {0, 10, "DyDs"}, {64, 10, "MPCS"}}) {
+        page(Picture)->showPanel("Localdimming"); // which not every monitor has
+        const bool isLost = page(Picture)->currentPanel() != 0 && capability != 3;
+        deviceState.told(Command::Capability, capability); // another monitor may have come
+        QVERIFY(settle());
         QCOMPARE(page(Picture)->panelCount(), items);
+        QCOMPARE(page(Picture)->entries().size(), std::size_t(items));
         QCOMPARE(page(Picture)->entries()[1]->caption(), QString(motion));
         QVERIFY(button(Picture, motion + QStringLiteral("_Ull-Level3")));
+        QCOMPARE(page(Picture)->notice().contains("Localdimming"), isLost);
+        QCOMPARE(page(Scene)->slider(Command::HaloControl)->isHidden(), (capability & 2) == 0);
+        page(Picture)->showPanel(0);
     }
 }
 

@@ -52,13 +52,13 @@ std::optional<TrayControl> findOnPages(Command command, const DeviceState &state
 {
     if (auto found = findIn(sceneSections(), command, state))
         return found;
-    std::vector<PanelSpec> panels = picturePanels(state);
-    panels.insert(panels.end(), systemPanels().begin(), systemPanels().end());
-    for (const PanelSpec &panel : panels) {
-        if (!state.has(panel.needs))
-            continue;
-        if (auto found = findIn(panel.sections, command, state))
-            return found;
+    for (const std::span<const PanelSpec> panels : {picturePanels(), systemPanels()}) {
+        for (const PanelSpec &panel : panels) {
+            if (!isOffered(panel, state))
+                continue;
+            if (auto found = findIn(panel.sections, command, state))
+                return found;
+        }
     }
     return {};
 }

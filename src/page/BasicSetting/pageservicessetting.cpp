@@ -75,7 +75,7 @@ QUrl knowledgeAddress()
 }
 
 /// Whether there is anything behind a panel now.
-bool isOffered(const QString &label)
+bool hasContents(const QString &label)
 {
     if (label == QLatin1String(kQrCode))
         return deviceState.productLine() == kLineWithQrCode;
@@ -142,21 +142,16 @@ QWidget *pageServicesSetting::buildAction(const char *label, const char *picture
     return part;
 }
 
-bool pageServicesSetting::mayShow(const PanelSpec &panel)
+bool pageServicesSetting::offers(const PanelSpec &panel) const
 {
-    return isOffered(QLatin1String(panel.label));
+    return hasContents(QLatin1String(panel.label));
 }
 
 void pageServicesSetting::updateInterfaceData()
 {
     PanelPage::updateInterfaceData();
     showVersion();
-    for (std::size_t i = 0; i < entries().size(); ++i) {
-        const bool offered = isOffered(entries()[i]->objectName());
-        entries()[i]->setVisible(offered);
-        if (!offered && currentPanel() == static_cast<int>(i))
-            showPanel(0);
-    }
+    offerPanels();
 }
 
 void pageServicesSetting::showVersion()

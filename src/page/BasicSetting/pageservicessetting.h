@@ -15,7 +15,7 @@ public:
 
 protected:
     QWidget *buildPart(const char *name) override;
-    bool mayShow(const PanelSpec &panel) override;
+    bool offers(const PanelSpec &panel) const override;
 
 private Q_SLOTS:
     void onKnowledgeButtonClicked();

@@ -2,7 +2,6 @@
 
 #include <QDebug>
 
-#include "ddc_protocol/devicestate.h"
 #include "page/Game/picturetable.h"
 #include "page/engine/lockrules.h"
 
@@ -10,7 +9,7 @@ pagePictureEnhanc::pagePictureEnhanc(CommandQueue &queue, QWidget *parent)
     : PanelPage(QStringLiteral("pagePictureEnhanc"), OwnList::Shown, queue, parent)
 {
     setLocks(motionLocks());
-    buildPanels(picturePanels(deviceState));
+    buildPanels(picturePanels());
 }
 
 /// The two cannot be on together, so with the first on the second is not even opened.

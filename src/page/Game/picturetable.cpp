@@ -66,44 +66,51 @@ const Section kLocalDimmingPanel[] = {switchOf(Command::LocalDimming, kAlwaysOff
 const Section kHaloControlPanel[] = {SliderGrid{nullptr, 1, kCaption, kHaloControl}};
 const Section kAdaptiveSync[] = {switchOf(Command::AdaptiveSync)};
 
+// The motion function has another name where it is another one.
+const PanelSpec kPanels[] = {
+    {LABEL("Game Rush"), "game_rush", "pageGameRush", kGameRush, {}, kGameRushHelp, &gamepictures::kRush},
+    {LABEL("DyDs"),
+     "motion",
+     "pageMotion",
+     kDyds,
+     {},
+     kMotionHelp,
+     &commonpictures::kMotion,
+     Capability::MpcsMotion},
+    {LABEL("MPCS"), "motion", "pageMpcs", kMpcs, Capability::MpcsMotion, kMotionHelp, &commonpictures::kMotion},
+    panelOf(Command::NightVision, "night_vision", "pageNightVision", kNightVisionPanel, kNightVisionHelp,
+            &gamepictures::kNightVision),
+    {LABEL("Dynamic OD"), "dynamic_od", "pageDynamicOD", kDynamicOd, {}, kResponseHelp, &commonpictures::kResponse},
+    panelOf(Command::Hdr, "hdr", "pageHDR", kHdrPanel, kHDRHelp, &enhancepictures::kHdr),
+    panelOf(Command::ColorEnhance, "color_enhance", "pageColorEnhance", kColorEnhancePanel, kColorHelp,
+            &enhancepictures::kColor),
+    panelOf(Command::ContrastEnhance, "cr_enhance", "pageCREnhance", kContrastEnhancePanel, kContrastHelp,
+            &enhancepictures::kContrast),
+    {LABEL("Shadow Balance"),
+     "shadow_balance",
+     "pageShadowBalance",
+     kShadowBalancePanel,
+     {},
+     kShadowHelp,
+     &enhancepictures::kShadows},
+    {LABEL("SR"),
+     "super_resolution",
+     "pageSR",
+     kSuperResolutionPanel,
+     {},
+     kResolutionHelp,
+     &enhancepictures::kResolution},
+    panelOf(Command::LocalDimming, "local_dimming", "pageLocaldimming", kLocalDimmingPanel, kDimmingHelp,
+            &commonpictures::kDimming),
+    panelOf(Command::HaloControl, "halo_control", "pageHaloControl", kHaloControlPanel, kHaloHelp,
+            &commonpictures::kHalo),
+    panelOf(Command::AdaptiveSync, "adaptive_sync", "pageAdaptiveSync", kAdaptiveSync, kAdaptiveSyncHelp,
+            &enhancepictures::kSync),
+};
+
 } // namespace
 
-std::vector<PanelSpec> picturePanels(const DeviceState &state)
+std::span<const PanelSpec> picturePanels()
 {
-    const PanelSpec motion =
-        state.has(Capability::MpcsMotion)
-            ? PanelSpec{LABEL("MPCS"), "motion", "pageMotion", kMpcs, {}, kMotionHelp, &commonpictures::kMotion}
-            : PanelSpec{LABEL("DyDs"), "motion", "pageMotion", kDyds, {}, kMotionHelp, &commonpictures::kMotion};
-    return {
-        {LABEL("Game Rush"), "game_rush", "pageGameRush", kGameRush, {}, kGameRushHelp, &gamepictures::kRush},
-        motion,
-        panelOf(Command::NightVision, "night_vision", "pageNightVision", kNightVisionPanel, kNightVisionHelp,
-                &gamepictures::kNightVision),
-        {LABEL("Dynamic OD"), "dynamic_od", "pageDynamicOD", kDynamicOd, {}, kResponseHelp, &commonpictures::kResponse},
-        panelOf(Command::Hdr, "hdr", "pageHDR", kHdrPanel, kHDRHelp, &enhancepictures::kHdr),
-        panelOf(Command::ColorEnhance, "color_enhance", "pageColorEnhance", kColorEnhancePanel, kColorHelp,
-                &enhancepictures::kColor),
-        panelOf(Command::ContrastEnhance, "cr_enhance", "pageCREnhance", kContrastEnhancePanel, kContrastHelp,
-                &enhancepictures::kContrast),
-        {LABEL("Shadow Balance"),
-         "shadow_balance",
-         "pageShadowBalance",
-         kShadowBalancePanel,
-         {},
-         kShadowHelp,
-         &enhancepictures::kShadows},
-        {LABEL("SR"),
-         "super_resolution",
-         "pageSR",
-         kSuperResolutionPanel,
-         {},
-         kResolutionHelp,
-         &enhancepictures::kResolution},
-        panelOf(Command::LocalDimming, "local_dimming", "pageLocaldimming", kLocalDimmingPanel, kDimmingHelp,
-                &commonpictures::kDimming),
-        panelOf(Command::HaloControl, "halo_control", "pageHaloControl", kHaloControlPanel, kHaloHelp,
-                &commonpictures::kHalo),
-        panelOf(Command::AdaptiveSync, "adaptive_sync", "pageAdaptiveSync", kAdaptiveSync, kAdaptiveSyncHelp,
-                &enhancepictures::kSync),
-    };
+    return kPanels;
 }

@@ -29,6 +29,7 @@ void pageSceneSetting::fillCustomArea()
     if (deviceState.isKnown(Command::ColorTemperature))
         fillUserColours(deviceState.value(Command::ColorTemperature));
     if (OptionGroupRow *dimming = optionGroup(Command::LocalDimming))
-        dimming->setVisible(deviceState.value(Command::SceneMode) != kMpcsFpsCustom);
+        dimming->setVisible(deviceState.has(dimming->group().needs) &&
+                            deviceState.value(Command::SceneMode) != kMpcsFpsCustom);
     update();
 }

@@ -73,15 +73,28 @@ void PageControls::build(std::span<const Section> sections, std::span<const Lock
 
 void PageControls::addOptions(const OptionGroup &group, QVBoxLayout *column)
 {
-    if (!deviceState.has(group.needs))
-        return;
     if (!group.command)
         return addOwnOptions(group, column);
     auto *row = new OptionGroupRow(group, m_texts, column->parentWidget());
     connect(row, &OptionGroupRow::optionClicked, this, &PageControls::optionClicked);
     connect(row, &OptionGroupRow::lockPressed, this, [this, row] { Q_EMIT groupLockPressed(row); });
     m_groups.push_back(row);
+    if (!deviceState.has(group.needs))
+        row->hide();
     column->addWidget(row);
+}
+
+/// A slider of another monitor's leaves its place empty.
+void PageControls::followCapability()
+{
+    for (OptionGroupRow *row : m_groups) {
+        if (row->group().needs)
+            row->setVisible(deviceState.has(row->group().needs));
+    }
+    for (const Slider &entry : m_sliderEntries) {
+        if (entry.spec.needs)
+            entry.widget->setVisible(deviceState.has(entry.spec.needs));
+    }
 }
 
 void PageControls::addOwnOptions(const OptionGroup &group, QVBoxLayout *column)
@@ -110,8 +123,6 @@ void PageControls::addSliders(const SliderGrid &grid, std::span<const LockRule> 
     cells->setVerticalSpacing(metrics::kRowGap);
     int cell = 0;
     for (const SliderSpec &spec : grid.sliders) {
-        if (!deviceState.has(spec.needs))
-            continue;
         cells->addLayout(makeSlider(spec, grid, locks, column->parentWidget()), cell / grid.columns,
                          cell % grid.columns);
         ++cell;
@@ -140,6 +151,8 @@ QLayout *PageControls::makeSlider(const SliderSpec &spec, const SliderGrid &grid
                  [slider, grid, look](const QString &text) { slider->setCaption(text, spokenName(grid, look, text)); });
     connect(slider, &SliderWidget::sliderValueChanged, this, &PageControls::sliderChanged);
     m_sliders.push_back(slider);
+    if (!deviceState.has(spec.needs))
+        slider->hide();
 
     auto *cell = new QHBoxLayout;
     cell->setSpacing(kSignSpacing);
@@ -224,11 +237,11 @@ void PageControls::chooseCommand(const char *sliderName, std::function<std::opti
 QString PageControls::wordsFor(Command command, int value) const
 {
     if (const OptionGroupRow *row = group(command)) {
-        const QPushButton *button = row->buttonOf(value);
         const QString name = QObject::tr(row->group().label);
-        if (!button)
+        const auto chosen = std::ranges::find(row->group().options, value, &Option::value);
+        if (chosen == row->group().options.end())
             return name;
-        const QString option = button->text().trimmed();
+        const QString option = QObject::tr(chosen->label).trimmed(); // a button may show a picture instead
         return row->hasCaption() ? QStringLiteral("%1: %2").arg(name, option) : option;
     }
     for (const Slider &entry : m_sliderEntries) {

@@ -46,7 +46,7 @@ public:
     /// The controls' texts are bound to @p texts.
     explicit PageControls(BoundTexts &texts);
 
-    /// Builds the sections, in order, into a column; those that the monitor lacks are left out. Sliders that the rules
+    /// Builds the sections, in order, into a column; those that the monitor lacks are hidden. Sliders that the rules
     /// may lock get a sign.
     void build(std::span<const Section> sections, std::span<const LockRule> locks, QVBoxLayout *column,
                const BuildPart &buildPart);
@@ -68,6 +68,9 @@ public:
 
     /// What the controls stand for that are in sight when the page is: groups first.
     std::vector<Command> commandsInSight(const QWidget *page) const;
+
+    /// Shows what the monitor has, and hides what it lacks.
+    void followCapability();
 
     /// From now on the slider's command is chosen anew each time.
     void chooseCommand(const char *sliderName, std::function<std::optional<Command>()> choose);

@@ -36,7 +36,7 @@ struct OptionGroup
     const char *label;
     std::optional<Command> command; ///< none for options of the page's own, which go to no monitor
     std::span<const Option> options;
-    std::optional<Capability> needs = {}; ///< built only for monitors that have it
+    std::optional<Capability> needs = {}; ///< shown only for monitors that have it
     GroupLook look = GroupLook::Buttons;
     const char *help = nullptr;    ///< a sentence that says what it is for, where no panel does
     DrawOption draw = nullptr;     ///< of buttons that show a picture each
@@ -96,4 +96,10 @@ struct PanelSpec
     std::optional<Capability> needs = {};
     const char *help = nullptr;            ///< a sentence that says what it is for
     const PanelPicture *picture = nullptr; ///< what its settings do, on the drawn monitor: see panelpicture.h
+    std::optional<Capability> lacks = {};  ///< not for monitors that have this
 };
+
+class DeviceState;
+
+/// Whether the monitor has what a panel is for.
+bool isOffered(const PanelSpec &panel, const DeviceState &state);

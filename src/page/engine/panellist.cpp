@@ -83,6 +83,12 @@ void PanelList::add(const PanelSpec &panel)
     m_stop->add(entry);
 }
 
+void PanelList::offer(int index, bool isOffered)
+{
+    m_entries[static_cast<std::size_t>(index)]->setVisible(isOffered);
+    m_stop->settle();
+}
+
 void PanelList::mark(int index)
 {
     for (std::size_t i = 0; i < m_entries.size(); ++i)

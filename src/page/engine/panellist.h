@@ -24,7 +24,10 @@ public:
     /// One more entry, below the others.
     void add(const PanelSpec &panel);
 
-    const std::vector<LeftTabButton *> &entries() const { return m_entries; }
+    const std::vector<LeftTabButton *> &entries() const { return m_entries; } ///< hidden ones as well
+
+    /// Shows an entry, by its place, or hides it.
+    void offer(int index, bool isOffered);
 
     /// Marks one entry, by its place.
     void mark(int index);

@@ -14,6 +14,7 @@
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/devicestate.h"
+#include "ddc_protocol/monitoridentity.h"
 #include "ddc_protocol/settingsstore.h"
 #include "page/engine/optiongrouprow.h"
 #include "page/engine/pagehead.h"
@@ -30,25 +31,23 @@ PanelPage::PanelPage(const QString &name, OwnList list, CommandQueue &queue, QWi
     dressPage(this);
     m_stack->setObjectName(QStringLiteral("rightStackedWidget"));
     askWhenShown();
-    connect(&queue.values(), &ValueWatch::changed, this, &PanelPage::refreshPicture);
-}
-
-void PanelPage::takePanels(std::span<const PanelSpec> panels)
-{
-    std::ranges::copy_if(panels, std::back_inserter(m_panels),
-                         [](const PanelSpec &panel) { return deviceState.has(panel.needs); });
+    connect(&queue.values(), &ValueWatch::changed, this, [this](Command command) {
+        if (command == Command::Capability)
+            followCapability();
+        refreshPicture();
+    });
 }
 
 void PanelPage::buildPanels(std::span<const PanelSpec> panels)
 {
-    takePanels(panels);
+    m_panels = panels;
     m_drawsLater = true; // what a page needs at the start it has: the pictures come when they are looked at
     build();
 }
 
 void PanelPage::buildPanelsWhenShown(std::span<const PanelSpec> panels)
 {
-    takePanels(panels);
+    m_panels = panels;
 }
 
 void PanelPage::build()
@@ -67,7 +66,8 @@ void PanelPage::build()
     addUndoBar(column);
     row->addLayout(column, 1);
     for (const PanelSpec &panel : m_panels)
-        m_stack->addWidget(buildPanel(panel));
+        m_stack->addWidget(makePanel(panel));
+    offerPanels();
     showPanel(0);
     updateInterfaceData();
 }
@@ -89,13 +89,16 @@ PanelList *PanelPage::buildList()
     return m_entries;
 }
 
-const std::vector<LeftTabButton *> &PanelPage::entries() const
+std::vector<LeftTabButton *> PanelPage::entries() const
 {
-    static const std::vector<LeftTabButton *> kNone;
-    return m_entries ? m_entries->entries() : kNone;
+    std::vector<LeftTabButton *> shown;
+    if (m_entries)
+        std::ranges::copy_if(m_entries->entries(), std::back_inserter(shown),
+                             [](const LeftTabButton *entry) { return !entry->isHidden(); });
+    return shown;
 }
 
-QWidget *PanelPage::buildPanel(const PanelSpec &panel)
+QWidget *PanelPage::makePanel(const PanelSpec &panel)
 {
     auto *content = new QWidget(m_stack);
     content->setObjectName(QLatin1String(panel.widgetName));
@@ -103,12 +106,44 @@ QWidget *PanelPage::buildPanel(const PanelSpec &panel)
     auto *column = new QVBoxLayout(content);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(metrics::kRowGap);
-    fillPanel(panel, column);
     return content;
 }
 
-void PanelPage::fillPanel(const PanelSpec &panel, QVBoxLayout *column)
+bool PanelPage::offers(const PanelSpec &panel) const
 {
+    return isOffered(panel, deviceState);
+}
+
+/// The monitor may tell only now what it has, or be another one: what was never offered before is built then.
+void PanelPage::offerPanels()
+{
+    for (int place = 0; place < m_stack->count(); ++place) {
+        const bool isThere = offers(panelAt(place));
+        if (m_entries)
+            m_entries->offer(place, isThere);
+        if (isThere && m_filled.insert(place).second)
+            fillPanel(place);
+    }
+    const PanelSpec &open = panelAt(m_stack->currentIndex());
+    if (offers(open) || panelCount() == 0)
+        return;
+    showPanel(0);
+    if (isVisible())
+        showNotice(QObject::tr("%1 does not have \"%2\".").arg(monitorName(), QObject::tr(open.label)));
+}
+
+void PanelPage::followCapability()
+{
+    if (!m_head || !deviceState.isKnown(Command::Capability)) // a monitor that is asked keeps its page as it is
+        return;
+    offerPanels();
+    updateInterfaceData();
+}
+
+void PanelPage::fillPanel(int place)
+{
+    const PanelSpec &panel = panelAt(place);
+    auto *column = static_cast<QVBoxLayout *>(m_stack->widget(place)->layout());
     const std::size_t groupsBefore = optionGroups().size();
     const std::size_t slidersBefore = sliders().size();
     buildSections(panel.sections, column);
@@ -125,7 +160,7 @@ void PanelPage::fillPanel(const PanelSpec &panel, QVBoxLayout *column)
     }
     column->addStretch(1);
     if (panel.picture && !m_drawsLater)
-        addPicture(m_stack->count(), panel, column);
+        addPicture(place, panel, column);
 }
 
 /// In place of the stretch below the controls.
@@ -137,24 +172,41 @@ void PanelPage::addPicture(int index, const PanelSpec &panel, QVBoxLayout *colum
     m_pictures[index] = stage;
     pictureBuilt(stage->picture());
     column->addWidget(stage, 1);
+    followSliders(panel, stage);
+}
+
+/// Those that are sent when they are let go are seen at work while they are held.
+void PanelPage::followSliders(const PanelSpec &panel, PictureStage *stage)
+{
+    for (const Section &section : panel.sections) {
+        const auto *grid = std::get_if<SliderGrid>(&section);
+        for (const SliderSpec &spec : grid ? grid->sliders : std::span<const SliderSpec>()) {
+            if (const SliderWidget *widget = slider(spec.name))
+                connect(widget, &SliderWidget::sliderValueChanged, stage,
+                        [stage, command = spec.command](const QString &, int value, bool released) {
+                            stage->tryOut(released ? std::nullopt : std::optional(std::pair(command, value)));
+                        });
+        }
+    }
 }
 
 void PanelPage::refreshPicture()
 {
     if (!isVisible())
         return;
-    const PanelSpec &panel = m_panels[static_cast<std::size_t>(currentPanel())];
-    if (panel.picture && !m_pictures.contains(currentPanel()))
-        addPicture(currentPanel(), panel, static_cast<QVBoxLayout *>(m_stack->currentWidget()->layout()));
-    if (const auto stage = m_pictures.find(currentPanel()); stage != m_pictures.end())
+    const int place = m_stack->currentIndex();
+    const PanelSpec &panel = panelAt(place);
+    if (panel.picture && m_filled.contains(place) && !m_pictures.contains(place))
+        addPicture(place, panel, static_cast<QVBoxLayout *>(m_stack->currentWidget()->layout()));
+    if (const auto stage = m_pictures.find(place); stage != m_pictures.end())
         stage->second->refresh();
 }
 
 /// Keys may have been given anew on another page meanwhile.
 void PanelPage::showKeys()
 {
-    if (const auto stage = m_pictures.find(currentPanel()); isVisible() && stage != m_pictures.end())
-        stage->second->setKeys(keysOf(m_panels[static_cast<std::size_t>(currentPanel())]));
+    if (const auto stage = m_pictures.find(m_stack->currentIndex()); isVisible() && stage != m_pictures.end())
+        stage->second->setKeys(keysOf(panelAt(stage->first)));
 }
 
 void PanelPage::updateControlText()
@@ -171,7 +223,7 @@ void PanelPage::showTitle()
 {
     if (m_panels.empty() || !m_head)
         return;
-    const PanelSpec &panel = m_panels[static_cast<std::size_t>(currentPanel())];
+    const PanelSpec &panel = panelAt(m_stack->currentIndex());
     const QString title = QObject::tr(panel.label);
     m_head->setTitle(title);
     setAccessibleName(title);
@@ -181,18 +233,19 @@ void PanelPage::showTitle()
 
 int PanelPage::panelCount() const
 {
-    return m_stack->count();
+    return static_cast<int>(std::ranges::count_if(m_panels, [this](const PanelSpec &panel) { return offers(panel); }));
 }
 
 int PanelPage::currentPanel() const
 {
-    return m_stack->currentIndex();
+    const auto before = m_panels.first(static_cast<std::size_t>(std::max(m_stack->currentIndex(), 0)));
+    return static_cast<int>(std::ranges::count_if(before, [this](const PanelSpec &panel) { return offers(panel); }));
 }
 
 void PanelPage::choose(int index)
 {
-    if (!mayShow(m_panels[static_cast<std::size_t>(index)]))
-        index = currentPanel();
+    if (!mayShow(panelAt(index)))
+        index = m_stack->currentIndex();
     else
         showNotice({});
     m_stack->setCurrentIndex(index);
@@ -207,15 +260,18 @@ void PanelPage::choose(int index)
 void PanelPage::showPanel(int index)
 {
     build();
-    if (index >= 0 && index < panelCount())
-        choose(index);
+    for (int place = 0; place < m_stack->count(); ++place) {
+        if (offers(panelAt(place)) && index-- == 0)
+            return choose(place);
+    }
 }
 
 void PanelPage::showPanel(const char *label)
 {
-    for (std::size_t i = 0; i < m_panels.size(); ++i) {
-        if (qstrcmp(m_panels[i].label, label) == 0)
-            showPanel(static_cast<int>(i));
+    build();
+    for (int place = 0; place < m_stack->count(); ++place) {
+        if (offers(panelAt(place)) && qstrcmp(panelAt(place).label, label) == 0)
+            choose(place);
     }
 }
 
@@ -223,6 +279,8 @@ void PanelPage::showPanel(const char *label)
 QString PanelPage::optionText(Command command, int value) const
 {
     for (const PanelSpec &panel : m_panels) {
+        if (!offers(panel))
+            continue;
         for (const Section &section : panel.sections) {
             const auto *group = std::get_if<OptionGroup>(&section);
             if (!group || group->command != command || group->look == GroupLook::Switch)

@@ -33,11 +33,12 @@ public:
     void showPanel(int index);
     void showPanel(const char *label);
 
-    /// The entries of the page's own list; empty on pages without one.
-    const std::vector<LeftTabButton *> &entries() const;
+    /// What the page's own list offers now; empty on pages without one.
+    std::vector<LeftTabButton *> entries() const;
 
 protected:
-    /// To be called once by the page's constructor, when its own members stand.
+    /// To be called once by the page's constructor, when its own members stand, with the panels of all models, which
+    /// outlive the page. Those that the monitor has are offered, also when another monitor comes.
     void buildPanels(std::span<const PanelSpec> panels);
 
     /// As buildPanels, when the page is first to be shown: until then it costs next to nothing.
@@ -51,6 +52,12 @@ protected:
     /// The keys that do from everywhere what a panel does, in rich text for beside its picture; empty for none.
     virtual QString keysOf(const PanelSpec &) { return {}; }
 
+    /// Whether a panel stands in the list at all.
+    virtual bool offers(const PanelSpec &panel) const;
+
+    /// Shows the entries that are offered now. Who is on another panel comes to the first.
+    void offerPanels();
+
     /// Whether a panel may be chosen now; a page that says no shows why.
     virtual bool mayShow(const PanelSpec &) { return true; }
 
@@ -61,18 +68,21 @@ protected:
     bool showStored(bool stored, Unstored otherwise);
 
 private:
-    void takePanels(std::span<const PanelSpec> panels);
     PanelList *buildList();
-    QWidget *buildPanel(const PanelSpec &panel);
-    void fillPanel(const PanelSpec &panel, QVBoxLayout *column);
+    QWidget *makePanel(const PanelSpec &panel);
+    void fillPanel(int place);
+    void followCapability();
+    const PanelSpec &panelAt(int place) const { return m_panels[static_cast<std::size_t>(place)]; }
     void addPicture(int index, const PanelSpec &panel, QVBoxLayout *column);
+    void followSliders(const PanelSpec &panel, PictureStage *stage);
     void refreshPicture();
     void showKeys();
     void choose(int index);
     void showTitle();
 
     OwnList m_list;
-    std::vector<PanelSpec> m_panels;
+    std::span<const PanelSpec> m_panels; ///< of all models; a place is one in these
+    std::set<int> m_filled;              ///< places whose panels have their controls
     PanelList *m_entries = nullptr; ///< on pages with a list of their own
     QStackedWidget *m_stack;
     PageHead *m_head = nullptr;

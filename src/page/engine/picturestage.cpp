@@ -7,6 +7,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
+#include <QPushButton>
 
 #include "controls/metrics.h"
 #include "controls/monitorpicture.h"
@@ -59,10 +60,26 @@ const OptionGroupRow *rowWithWords(const std::vector<OptionGroupRow *> &rows)
     return found == rows.end() ? nullptr : *found;
 }
 
-/// Whether a switch of the panel is off, so that what is chosen below it does nothing.
-bool isSwitchedOff(const std::vector<OptionGroupRow *> &rows)
+/// What is drawn as on: never what is only wished, and may be refused.
+std::optional<int> monitorValue(Command command)
 {
-    return std::ranges::any_of(rows, [](const OptionGroupRow *row) {
+    return deviceState.isKnown(command) ? deviceState.confirmed(command) : std::nullopt;
+}
+
+/// What the screen is drawn with: a wish is shown at once, until it is refused.
+std::optional<int> wishedValue(Command command)
+{
+    const ValueState state = deviceState.state(command);
+    if (state == ValueState::Unknown || state == ValueState::Refused)
+        return monitorValue(command);
+    return deviceState.value(command);
+}
+
+/// Whether an option does nothing now, as a switch of the panel is off or something else locks it.
+bool isIdle(const OptionGroupRow *told, int value, const std::vector<OptionGroupRow *> &rows)
+{
+    const QPushButton *button = told->buttonOf(value);
+    return !(button && button->isEnabledTo(told)) || std::ranges::any_of(rows, [](const OptionGroupRow *row) {
         return row->group().look == GroupLook::Switch && deviceState.confirmed(*row->group().command) == 0;
     });
 }
@@ -129,10 +146,10 @@ void PictureStage::layOut()
 PictureValues PictureStage::values(bool withPreview) const
 {
     const auto preview = withPreview ? m_preview : std::nullopt;
-    return {[preview](Command command) -> std::optional<int> {
+    return {[preview, withPreview](Command command) -> std::optional<int> {
                 if (preview && preview->first == command)
                     return preview->second;
-                return deviceState.isKnown(command) ? std::optional(deviceState.value(command)) : std::nullopt;
+                return withPreview ? wishedValue(command) : monitorValue(command);
             },
             preview ? std::optional(preview->first) : std::nullopt};
 }
@@ -149,20 +166,21 @@ void PictureStage::paint(QPainter &painter, const QRectF &screen) const
 
 void PictureStage::point(const OptionGroupRow *row, std::optional<int> value)
 {
-    if (const auto command = row->group().command; value && command) {
+    const auto command = row->group().command;
+    if (command && value && row->group().look != GroupLook::Switch) // a switch has no words of its own
         m_told = row;
-        m_preview = deviceState.isKnown(*command) && deviceState.value(*command) == *value
-                        ? std::nullopt
-                        : std::optional(std::pair(*command, *value));
-    } else {
-        m_preview.reset();
-    }
+    tryOut(command && value ? std::optional(std::pair(*command, *value)) : std::nullopt);
+}
+
+void PictureStage::tryOut(std::optional<std::pair<Command, int>> value)
+{
+    m_preview = value;
     refresh();
 }
 
 void PictureStage::refresh()
 {
-    if (m_preview && deviceState.isKnown(m_preview->first) && deviceState.value(m_preview->first) == m_preview->second)
+    if (m_preview && monitorValue(m_preview->first) == m_preview->second)
         m_preview.reset(); // it has been chosen
     showWords();
     m_picture->update();
@@ -177,15 +195,15 @@ void PictureStage::setKeys(const QString &keys)
 void PictureStage::showWords()
 {
     const auto command = m_told ? m_told->group().command : std::nullopt;
-    const bool isKnown = command && deviceState.isKnown(*command);
-    const Option *on = optionOf(m_told, isKnown ? std::optional(deviceState.value(*command)) : std::nullopt);
-    const Option *pointed = m_preview ? optionOf(m_told, m_preview->second) : nullptr;
+    const Option *on = command ? optionOf(m_told, monitorValue(*command)) : nullptr;
+    const bool isTold = m_preview && m_preview->first == command;
+    const Option *pointed = isTold ? optionOf(m_told, m_preview->second) : nullptr;
     const auto show = [](QLabel *label, const QString &text) {
         label->setText(text);
         label->setVisible(!text.isEmpty());
     };
     show(m_onName, on ? nameOf(m_told, *on, m_isStrip) : QString());
-    const bool isOn = !isSwitchedOff(m_rows);
+    const bool isOn = on && !isIdle(m_told, on->value, m_rows);
     show(m_onNow, !on ? QString() : isOn ? QObject::tr("On now.") : QObject::tr("Chosen, and switched off now."));
     show(m_onWords, on ? wordsOf(*on) : QString());
     m_line->setVisible(on && pointed);

@@ -24,6 +24,9 @@ public:
     PictureStage(const PanelPicture &picture, std::vector<OptionGroupRow *> rows, QWidget *parent,
                  Shape shape = Shape::Panel);
 
+    /// Shows the screen as it would look with a value, such as that of a slider that is held; nothing ends it.
+    void tryOut(std::optional<std::pair<Command, int>> value);
+
     /// A value has changed, or the language.
     void refresh();
 

@@ -189,6 +189,8 @@ void SettingsPage::onValueChanged(Command command)
 {
     if (m_undoBar)
         m_undoBar->check();
+    if (command == Command::Capability && deviceState.isKnown(command))
+        m_controls.followCapability();
     if (!isVisible())
         return;
     if (showsValues())

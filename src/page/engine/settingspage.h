@@ -82,7 +82,7 @@ protected:
     /// To be called before the sections are built: by these their controls are enabled and disabled.
     void setLocks(std::span<const LockRule> locks) { m_locks.setRules(locks); }
 
-    /// Builds the sections, in order, into a column; those that the monitor lacks are left out.
+    /// Builds the sections, in order, into a column; those that the monitor lacks are hidden.
     void buildSections(std::span<const Section> sections, QVBoxLayout *column);
 
     /// To be called where a page begins: its title, its sentence, and what there is to say.
