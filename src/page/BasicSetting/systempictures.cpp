@@ -19,13 +19,6 @@ void drawPicture(QPainter &painter, const QRectF &screen, const PictureLook &loo
     painter.drawImage(screen.topLeft(), testPicture(screen.size().toSize(), look));
 }
 
-void paintRange(QPainter &painter, const QRectF &screen, const PictureValues &values)
-{
-    // A signal of the other range looks washed out.
-    drawPicture(painter, screen,
-                values.is(Command::OutputRange, 1) ? PictureLook{.contrast = 0.36, .shadows = 0.3} : PictureLook{});
-}
-
 /// The monitor's menu, as large as it is on a screen of this size.
 QRectF menuOn(const QRectF &screen, const PictureValues &values)
 {
@@ -123,7 +116,6 @@ void paintMenuLock(QPainter &painter, const QRectF &screen, const PictureValues 
 
 } // namespace
 
-const PanelPicture kRange{paintRange};
 const PanelPicture kOsd{paintOsd};
 const PanelPicture kPowerSaving{paintPowerSaving};
 const PanelPicture kPowerLed{paintPowerLed};

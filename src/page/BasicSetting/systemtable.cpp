@@ -5,6 +5,7 @@
 #include "page/engine/commandrows.h"
 #include "page/engine/commonhelp.h"
 #include "page/engine/commonoptions.h"
+#include "page/engine/commonpictures.h"
 
 namespace {
 
@@ -81,7 +82,7 @@ const Section kOsdLanguage[] = {groupOf(Command::OsdLanguage, kLanguages)};
 const Section kMenuLock[] = {switchOf(Command::MenuLock)};
 
 const PanelSpec kPanels[] = {
-    panelOf(Command::OutputRange, "output_range", "pageOutputRange", kOutputRange, kRangeHelp, &systempictures::kRange),
+    panelOf(Command::OutputRange, "output_range", "pageOutputRange", kOutputRange, kRangeHelp, &commonpictures::kRange),
     {LABEL("OSD Setting"), "osd_setting", "pageOSDSetting", kOsdSetting, {}, kOSDSettingHelp, &systempictures::kOsd},
     panelOf(Command::PowerSaving, "power_saving", "pagePowerSaving", kPowerSavingPanel, kPowerSavingHelp,
             &systempictures::kPowerSaving),

@@ -40,9 +40,25 @@ void paintRush(QPainter &painter, const QRectF &screen, const PictureValues &val
 void paintCrosshair(QPainter &painter, const QRectF &screen, const PictureValues &values)
 {
     drawGame(painter, screen);
-    if (values.is(Command::Crosshair, 1) || values.isPreview())
+    const bool isTold = values.valueOf(Command::CrosshairShape) && values.valueOf(Command::CrosshairColor) &&
+                        values.valueOf(Command::CrosshairPlace);
+    if (isTold && (values.is(Command::Crosshair, 1) || values.isPreview()))
         drawCrosshair(painter, crosshairCentre(screen, values(Command::CrosshairPlace, 2)),
                       values(Command::CrosshairShape, 1), values(Command::CrosshairColor, kRed));
+}
+
+/// One half for the game and one, warmer, for what is read.
+void paintDualMode(QPainter &painter, const QRectF &screen, const PictureValues &values)
+{
+    drawGame(painter, screen);
+    if (!values.is(Command::AiDualMode, 1))
+        return;
+    QRectF right = screen;
+    right.setLeft(screen.center().x());
+    painter.save();
+    painter.setClipRect(right, Qt::IntersectClip);
+    drawGame(painter, screen, {.contrast = 0.42, .saturation = 0.4, .kelvin = 4600});
+    painter.restore();
 }
 
 void paintMovingCrosshair(QPainter &painter, const QRectF &screen, const PictureValues &values)
@@ -139,6 +155,7 @@ const PanelPicture kStopwatch{paintStopwatch};
 const PanelPicture kGameTime{paintGameTime};
 const PanelPicture kMovingCrosshair{paintMovingCrosshair};
 const PanelPicture kFocusDimming{paintFocusDimming};
+const PanelPicture kDualMode{paintDualMode};
 
 void drawShape(QPainter &painter, const QRectF &button, int shape)
 {

@@ -6,7 +6,7 @@
 namespace gamepictures {
 
 extern const PanelPicture kRush, kCrosshair, kHawkEye, kNightVision, kRefreshRate, kStopwatch, kGameTime,
-    kMovingCrosshair, kFocusDimming;
+    kMovingCrosshair, kFocusDimming, kDualMode;
 
 /// A crosshair's shape on its button.
 void drawShape(QPainter &painter, const QRectF &button, int shape);

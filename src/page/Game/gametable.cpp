@@ -88,7 +88,8 @@ const PanelSpec kPanels[] = {
             &gamepictures::kMovingCrosshair),
     panelOf(Command::FocusDimming, "focus_dimming", "gameFocusDimming", kFocus, kFocusHelp,
             &gamepictures::kFocusDimming),
-    panelOf(Command::AiDualMode, "ai_dual_mode", "gameDualMode", kDual, kAiDualModeHelp),
+    panelOf(Command::AiDualMode, "ai_dual_mode", "gameDualMode", kDual, kAiDualModeHelp,
+            &gamepictures::kDualMode),
 };
 
 } // namespace

@@ -32,7 +32,9 @@ inline constexpr char kDimmingMediumWords[] = LABEL("Darker black, for films and
 inline constexpr char kDimmingHighWords[] = LABEL("The deepest black. A glow may show around bright things.");
 
 inline constexpr Option kOutputRangeOptions[] = {
-    {LABEL("RGB Auto"), 0}, {LABEL("RGB Limit"), 1}, {LABEL("RGB Full"), 2}};
+    {LABEL("RGB Auto"), 0, LABEL("The monitor finds out which range the computer sends.")},
+    {LABEL("RGB Limit"), 1, LABEL("For players and consoles that send 16 to 235. With a computer black looks grey.")},
+    {LABEL("RGB Full"), 2, LABEL("For computers, which send 0 to 255.")}};
 
 inline constexpr Option kNightVisionOptions[] = {
     {LABEL("Close"), 0, LABEL("Dark places stay dark.")},

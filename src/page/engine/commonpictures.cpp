@@ -5,6 +5,8 @@
 #include <QPainter>
 #include <QRadialGradient>
 
+#include "controls/testpicture.h"
+
 namespace commonpictures {
 
 namespace {
@@ -70,11 +72,20 @@ void paintHalo(QPainter &painter, const QRectF &screen, const PictureValues &val
     drawLamp(painter, screen, 0.02, 0.6 * (1 - values(Command::HaloControl, 40) / 100.0));
 }
 
+void paintRange(QPainter &painter, const QRectF &screen, const PictureValues &values)
+{
+    // A signal of the other range looks washed out.
+    const bool isOther = values.is(Command::OutputRange, 1);
+    const PictureLook look = isOther ? PictureLook{.contrast = 0.36, .shadows = 0.3} : PictureLook{};
+    painter.drawImage(screen.topLeft(), testPicture(screen.size().toSize(), look));
+}
+
 } // namespace
 
 const PanelPicture kMotion{paintMotion};
 const PanelPicture kResponse{paintResponse};
 const PanelPicture kDimming{paintDimming};
 const PanelPicture kHalo{paintHalo};
+const PanelPicture kRange{paintRange};
 
 } // namespace commonpictures

@@ -5,6 +5,6 @@
 // What settings do to a picture that several pages have.
 namespace commonpictures {
 
-extern const PanelPicture kMotion, kResponse, kDimming, kHalo;
+extern const PanelPicture kMotion, kResponse, kDimming, kHalo, kRange;
 
 } // namespace commonpictures
