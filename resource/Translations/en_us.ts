@@ -40,6 +40,10 @@
         <translation>%1 cannot be written: what is set here lasts until the program ends.</translation>
     </message>
     <message>
+        <source>%1 does not have &quot;%2&quot;.</source>
+        <translation>%1 does not have &quot;%2&quot;.</translation>
+    </message>
+    <message>
         <source>%1 goes to the level before.</source>
         <translation>%1 goes to the level before.</translation>
     </message>
@@ -1360,12 +1364,20 @@
         <translation>For code on a light ground.</translation>
     </message>
     <message>
+        <source>For computers, which send 0 to 255.</source>
+        <translation>For computers, which send 0 to 255.</translation>
+    </message>
+    <message>
         <source>For finding out why a monitor does not answer as it should.</source>
         <translation>For finding out why a monitor does not answer as it should.</translation>
     </message>
     <message>
         <source>For most games.</source>
         <translation>For most games.</translation>
+    </message>
+    <message>
+        <source>For players and consoles that send 16 to 235. With a computer black looks grey.</source>
+        <translation>For players and consoles that send 16 to 235. With a computer black looks grey.</translation>
     </message>
     <message>
         <source>For scenes that are near.</source>
@@ -3338,6 +3350,10 @@
     <message>
         <source>The monitor does not answer; the reading was given up.</source>
         <translation>The monitor does not answer; the reading was given up.</translation>
+    </message>
+    <message>
+        <source>The monitor finds out which range the computer sends.</source>
+        <translation>The monitor finds out which range the computer sends.</translation>
     </message>
     <message>
         <source>The monitor from behind, with its lamps</source>

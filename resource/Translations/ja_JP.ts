@@ -40,6 +40,10 @@
         <translation>%1 に書き込めません。ここでの設定はアプリの終了まで有効です。</translation>
     </message>
     <message>
+        <source>%1 does not have &quot;%2&quot;.</source>
+        <translation>%1 には「%2」がありません。</translation>
+    </message>
+    <message>
         <source>%1 goes to the level before.</source>
         <translation>%1 で前のレベルにします。</translation>
     </message>
@@ -1360,12 +1364,20 @@
         <translation>明るい背景のコード向けです。</translation>
     </message>
     <message>
+        <source>For computers, which send 0 to 255.</source>
+        <translation>0 から 255 を送るコンピューター向けです。</translation>
+    </message>
+    <message>
         <source>For finding out why a monitor does not answer as it should.</source>
         <translation>モニターが正しく応答しない原因を調べるときに使います。</translation>
     </message>
     <message>
         <source>For most games.</source>
         <translation>多くのゲームに向いています。</translation>
+    </message>
+    <message>
+        <source>For players and consoles that send 16 to 235. With a computer black looks grey.</source>
+        <translation>16 から 235 を送るプレーヤーやゲーム機向けです。コンピューターでは黒が灰色に見えます。</translation>
     </message>
     <message>
         <source>For scenes that are near.</source>
@@ -3338,6 +3350,10 @@
     <message>
         <source>The monitor does not answer; the reading was given up.</source>
         <translation>モニターが応答しないため、読み取りを中止しました。</translation>
+    </message>
+    <message>
+        <source>The monitor finds out which range the computer sends.</source>
+        <translation>コンピューターが送る範囲をモニターが判別します。</translation>
     </message>
     <message>
         <source>The monitor from behind, with its lamps</source>

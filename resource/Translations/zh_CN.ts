@@ -40,6 +40,10 @@
         <translation>无法写入 %1：此处的设置在程序结束前有效。</translation>
     </message>
     <message>
+        <source>%1 does not have &quot;%2&quot;.</source>
+        <translation>%1 没有“%2”。</translation>
+    </message>
+    <message>
         <source>%1 goes to the level before.</source>
         <translation>%1：切换到上一级。</translation>
     </message>
@@ -1360,12 +1364,20 @@
         <translation>适合浅色背景的代码。</translation>
     </message>
     <message>
+        <source>For computers, which send 0 to 255.</source>
+        <translation>适合发送 0 至 255 的电脑。</translation>
+    </message>
+    <message>
         <source>For finding out why a monitor does not answer as it should.</source>
         <translation>帮助查明显示器为何没有正常应答。</translation>
     </message>
     <message>
         <source>For most games.</source>
         <translation>适合大多数游戏。</translation>
+    </message>
+    <message>
+        <source>For players and consoles that send 16 to 235. With a computer black looks grey.</source>
+        <translation>适合发送 16 至 235 的播放器和游戏机。用于电脑时黑色会发灰。</translation>
     </message>
     <message>
         <source>For scenes that are near.</source>
@@ -3338,6 +3350,10 @@
     <message>
         <source>The monitor does not answer; the reading was given up.</source>
         <translation>显示器没有应答，读取已放弃。</translation>
+    </message>
+    <message>
+        <source>The monitor finds out which range the computer sends.</source>
+        <translation>显示器自动识别电脑发送的范围。</translation>
     </message>
     <message>
         <source>The monitor from behind, with its lamps</source>

@@ -40,6 +40,10 @@
         <translation>無法寫入 %1：此處的設定在應用程式結束前有效。</translation>
     </message>
     <message>
+        <source>%1 does not have &quot;%2&quot;.</source>
+        <translation>%1 沒有「%2」。</translation>
+    </message>
+    <message>
         <source>%1 goes to the level before.</source>
         <translation>%1：切換到上一級。</translation>
     </message>
@@ -1360,12 +1364,20 @@
         <translation>適合淺色背景的程式碼。</translation>
     </message>
     <message>
+        <source>For computers, which send 0 to 255.</source>
+        <translation>適合傳送 0 至 255 的電腦。</translation>
+    </message>
+    <message>
         <source>For finding out why a monitor does not answer as it should.</source>
         <translation>協助查明顯示器為何沒有正常回應。</translation>
     </message>
     <message>
         <source>For most games.</source>
         <translation>適合大多數遊戲。</translation>
+    </message>
+    <message>
+        <source>For players and consoles that send 16 to 235. With a computer black looks grey.</source>
+        <translation>適合傳送 16 至 235 的播放器和遊戲機。用於電腦時黑色會發灰。</translation>
     </message>
     <message>
         <source>For scenes that are near.</source>
@@ -3338,6 +3350,10 @@
     <message>
         <source>The monitor does not answer; the reading was given up.</source>
         <translation>顯示器沒有回應，讀取已放棄。</translation>
+    </message>
+    <message>
+        <source>The monitor finds out which range the computer sends.</source>
+        <translation>顯示器自動辨識電腦傳送的範圍。</translation>
     </message>
     <message>
         <source>The monitor from behind, with its lamps</source>

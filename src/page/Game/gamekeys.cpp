@@ -30,7 +30,8 @@ constexpr KeyWords kWords[] = {
 
 QString line(const QString &key, const char *words)
 {
-    const QString shown = Palette::styled(QStringLiteral("<span style=\"color: @mint;\">%1</span>")).arg(key.toHtmlEscaped());
+    const QString shown =
+        Palette::styled(QStringLiteral("<span style=\"color: @mint;\">%1</span>")).arg(key.toHtmlEscaped());
     return QObject::tr(words).arg(shown);
 }
 

@@ -88,8 +88,7 @@ const PanelSpec kPanels[] = {
             &gamepictures::kMovingCrosshair),
     panelOf(Command::FocusDimming, "focus_dimming", "gameFocusDimming", kFocus, kFocusHelp,
             &gamepictures::kFocusDimming),
-    panelOf(Command::AiDualMode, "ai_dual_mode", "gameDualMode", kDual, kAiDualModeHelp,
-            &gamepictures::kDualMode),
+    panelOf(Command::AiDualMode, "ai_dual_mode", "gameDualMode", kDual, kAiDualModeHelp, &gamepictures::kDualMode),
 };
 
 } // namespace

@@ -69,14 +69,7 @@ const Section kAdaptiveSync[] = {switchOf(Command::AdaptiveSync)};
 // The motion function has another name where it is another one.
 const PanelSpec kPanels[] = {
     {LABEL("Game Rush"), "game_rush", "pageGameRush", kGameRush, {}, kGameRushHelp, &gamepictures::kRush},
-    {LABEL("DyDs"),
-     "motion",
-     "pageMotion",
-     kDyds,
-     {},
-     kMotionHelp,
-     &commonpictures::kMotion,
-     Capability::MpcsMotion},
+    {LABEL("DyDs"), "motion", "pageMotion", kDyds, {}, kMotionHelp, &commonpictures::kMotion, Capability::MpcsMotion},
     {LABEL("MPCS"), "motion", "pageMpcs", kMpcs, Capability::MpcsMotion, kMotionHelp, &commonpictures::kMotion},
     panelOf(Command::NightVision, "night_vision", "pageNightVision", kNightVisionPanel, kNightVisionHelp,
             &gamepictures::kNightVision),

@@ -31,8 +31,7 @@ const Section kInputSignalPanel[] = {CustomPart{kInputNowPart}, groupOf(Command:
 const Section kCec[] = {switchOf(Command::Cec)};
 
 const PanelSpec kPanels[] = {
-    panelOf(Command::OutputRange, "output_range", "pageOutputRange", kOutputRange, kRangeHelp,
-            &commonpictures::kRange),
+    panelOf(Command::OutputRange, "output_range", "pageOutputRange", kOutputRange, kRangeHelp, &commonpictures::kRange),
     panelOf(Command::QuickBoot, "quick_boot", "pageQuickBoot", kQuickBoot, kQuickBootHelp),
     panelOf(Command::UsbPower, "usb_power", "pageUSBPower", kUsbPower, kUSBPowerHelp),
     panelOf(Command::UsbSwitch, "usb_switch", "pageUSBSwitch", kUsbSwitchPanel, kUSBSwitchHelp, &iopictures::kUsb),

@@ -70,9 +70,8 @@ const OwnPicture kOwnPictures[] = {
 
 void paint(QPainter &painter, const QRectF &screen, const PictureValues &values)
 {
-    const auto *own = std::ranges::find(kOwnPictures, values.pointed, [](const OwnPicture &picture) {
-        return std::optional(picture.command);
-    });
+    const auto *own = std::ranges::find(kOwnPictures, values.pointed,
+                                        [](const OwnPicture &picture) { return std::optional(picture.command); });
     if (own != std::end(kOwnPictures))
         own->picture.screen(painter, screen, values);
     else

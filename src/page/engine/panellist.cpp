@@ -86,7 +86,6 @@ void PanelList::add(const PanelSpec &panel)
 void PanelList::offer(int index, bool isOffered)
 {
     m_entries[static_cast<std::size_t>(index)]->setVisible(isOffered);
-    m_stop->settle();
 }
 
 void PanelList::mark(int index)

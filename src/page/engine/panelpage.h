@@ -83,7 +83,7 @@ private:
     OwnList m_list;
     std::span<const PanelSpec> m_panels; ///< of all models; a place is one in these
     std::set<int> m_filled;              ///< places whose panels have their controls
-    PanelList *m_entries = nullptr; ///< on pages with a list of their own
+    PanelList *m_entries = nullptr;      ///< on pages with a list of their own
     QStackedWidget *m_stack;
     PageHead *m_head = nullptr;
     bool m_drawsLater = false;                ///< the panels stand before their pictures
