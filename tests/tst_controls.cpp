@@ -8,6 +8,7 @@
 #include <QToolTip>
 #include <QtTest>
 
+#include "controls/captionlabel.h"
 #include "controls/captions.h"
 #include "controls/colorpicker.h"
 #include "controls/colorselecter.h"
@@ -324,7 +325,7 @@ void TestControls::captionFits()
     font.setPixelSize(20);
     // Room enough; it is made smaller; then cut off as well.
     for (const auto &[percent, least, most, elided] :
-         {std::tuple(100, 20, 20, false), {90, 16, 19, false}, {50, 16, 16, true}, {0, 16, 16, true}}) {
+         {std::tuple(100, 20, 20, false), {90, 15, 19, false}, {50, 15, 15, true}, {0, 15, 15, true}}) {
         const int width = (QFontMetrics(font).horizontalAdvance(text) * percent + 99) / 100;
         const FittedCaption fitted = fitCaption(text, QFont(), 20, width);
         QCOMPARE(fitted.elided, elided);
@@ -333,6 +334,11 @@ void TestControls::captionFits()
             QVERIFY(QFontMetrics(fitted.font).horizontalAdvance(fitted.text) <= width);
         QCOMPARE(fitted.text == text, !elided);
     }
+    CaptionLabel alone(QStringLiteral("Mode"), 20), beside(QStringLiteral("Mode"), 20), longer(text, 20);
+    for (CaptionLabel *label : {&alone, &beside, &longer})
+        label->setFixedSize(90, 30);
+    shrinkTogether(std::vector{&beside, &longer});
+    QVERIFY(beside.grab().toImage() != alone.grab().toImage() && longer.captionSize() == 15);
     QPixmap narrow(60, 20);
     QPainter painter(&narrow);
     Caption caption(20, text);

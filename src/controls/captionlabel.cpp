@@ -1,14 +1,20 @@
 #include "controls/captionlabel.h"
 
+#include <algorithm>
+
 #include <QFontMetrics>
 #include <QHelpEvent>
 #include <QPainter>
 #include <QStyleOption>
 
 #include "controls/captions.h"
+#include "controls/palette.h"
 #include "controls/tooltips.h"
 
 namespace {
+constexpr int kPlateSide = 6; // of the plate, on either side of the text
+constexpr int kPlateRadius = 4;
+
 QFont sized(QFont font, int pixelSize)
 {
     font.setPixelSize(pixelSize);
@@ -17,9 +23,27 @@ QFont sized(QFont font, int pixelSize)
 } // namespace
 
 CaptionLabel::CaptionLabel(const QString &text, int pixelSize, QWidget *parent)
-    : QLabel(text, parent), m_pixelSize(pixelSize)
+    : QLabel(text, parent), m_pixelSize(pixelSize), m_largest(pixelSize)
 {
     setTextFormat(Qt::PlainText);
+}
+
+int CaptionLabel::captionSize() const
+{
+    const QMargins margins = contentsMargins();
+    return fitCaption(text(), font(), m_pixelSize, maximumWidth() - margins.left() - margins.right()).font.pixelSize();
+}
+
+void CaptionLabel::setCaptionSize(int pixels)
+{
+    m_largest = pixels;
+    update();
+}
+
+void CaptionLabel::dressForRow()
+{
+    setStyleSheet(QStringLiteral("QLabel { color: #FFFFFF; }QLabel:disabled { color: #000; }"));
+    m_isForRow = true;
 }
 
 QSize CaptionLabel::sizeHint() const
@@ -51,9 +75,27 @@ void CaptionLabel::paintEvent(QPaintEvent *)
     option.initFrom(this);
     style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
 
-    const FittedCaption fitted = fitCaption(text(), font(), m_pixelSize, contentsRect().width());
+    const QRect room = contentsRect();
+    const FittedCaption fitted = fitCaption(text(), font(), m_pixelSize, room.width(), m_largest);
     m_elided = fitted.elided;
+    const bool isOnPlate = m_isForRow && !isEnabled() && !text().isEmpty();
+    const QRect place =
+        isOnPlate ? drawPlate(painter, room, QFontMetrics(fitted.font).horizontalAdvance(fitted.text)) : room;
     painter.setFont(fitted.font);
     painter.setPen(option.palette.color(foregroundRole()));
-    painter.drawText(contentsRect(), int(alignment()) | Qt::TextSingleLine, fitted.text);
+    painter.drawText(place, int(alignment()) | Qt::TextSingleLine, fitted.text);
+}
+
+QRect CaptionLabel::drawPlate(QPainter &painter, const QRect &room, int width) const
+{
+    QRect plate(0, 0, std::min(width + 2 * kPlateSide, room.width()), m_pixelSize + 2 * kPlateSide);
+    plate.moveCenter(room.center());
+    plate.moveLeft(room.left());
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(Palette::kRestingPlate));
+    painter.drawRoundedRect(plate, kPlateRadius, kPlateRadius);
+    painter.restore();
+    return room.adjusted(std::max(plate.width() - width, 0) / 2, 0, 0, 0);
 }

@@ -1,16 +1,18 @@
 #include "controls/captions.h"
 
+#include <algorithm>
+
 #include <QFontMetrics>
 #include <QHelpEvent>
 #include <QWidget>
 
 #include "controls/tooltips.h"
 
-FittedCaption fitCaption(const QString &text, const QFont &font, int pixelSize, int width)
+FittedCaption fitCaption(const QString &text, const QFont &font, int pixelSize, int width, int largest)
 {
     FittedCaption fitted{font, text, false};
-    const int smallest = (pixelSize * 4 + 4) / 5;
-    for (int size = pixelSize; size >= smallest; --size) {
+    const int smallest = (pixelSize * 3 + 3) / 4;
+    for (int size = std::max(std::min(pixelSize, largest), smallest); size >= smallest; --size) {
         fitted.font.setPixelSize(size);
         if (QFontMetrics(fitted.font).horizontalAdvance(text) <= width)
             return fitted;
@@ -31,7 +33,7 @@ int Caption::sizeWithin(const QFont &font, int width) const
 
 void Caption::draw(QPainter &painter, const QRect &rect, Qt::Alignment flags, const QColor &color)
 {
-    const FittedCaption fitted = fitCaption(m_text, painter.font(), std::min(m_pixelSize, m_largest), rect.width());
+    const FittedCaption fitted = fitCaption(m_text, painter.font(), m_pixelSize, rect.width(), m_largest);
     m_elided = fitted.elided;
     painter.save();
     painter.setFont(fitted.font);

@@ -12,7 +12,7 @@
 class QHelpEvent;
 class QWidget;
 
-/// A text as it fits a width: first the letters shrink, to 80 % at least, then the end is elided.
+/// A text as it fits a width: first the letters shrink, to 75 % at least, then the end is elided.
 struct FittedCaption
 {
     QFont font;
@@ -20,8 +20,9 @@ struct FittedCaption
     bool elided = false;
 };
 
-/// Fits @p text, wished at @p pixelSize, into @p width pixels.
-FittedCaption fitCaption(const QString &text, const QFont &font, int pixelSize, int width);
+/// Fits @p text, wished at @p pixelSize, into @p width pixels, no larger than @p largest.
+FittedCaption fitCaption(const QString &text, const QFont &font, int pixelSize, int width,
+                         int largest = std::numeric_limits<int>::max());
 
 /// Draws the captions of one bar in one size: the smallest that one of them needs. Each control says what it needs by
 /// captionSize() and is told by setCaptionSize(), both in pixels.

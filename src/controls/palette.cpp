@@ -23,9 +23,11 @@ constexpr Named kNames[] = {
     {u"panel", kPanel},
     {u"tip", kTip},
     {u"field", kField},
+    {u"lit", kLit},
     {u"selected", kSelected},
     {u"progress", kProgress},
     {u"hairline", kHairline},
+    {u"rim", kRim},
     {u"edge", kEdge},
     {u"hoveredEdge", kHoveredEdge},
     {u"track", kTrack},
@@ -33,6 +35,7 @@ constexpr Named kNames[] = {
     {u"groove", kGroove},
     {u"restingGroove", kRestingGroove},
     {u"restingMark", kRestingMark},
+    {u"restingPlate", kRestingPlate},
     {u"unlit", kUnlit},
     {u"scroll", kScroll},
     {u"hoveredScroll", kHoveredScroll},
@@ -51,6 +54,13 @@ constexpr Named kNames[] = {
 };
 
 } // namespace
+
+QColor translucent(QRgb colour, int alpha)
+{
+    QColor mixed(colour);
+    mixed.setAlpha(alpha);
+    return mixed;
+}
 
 QString styled(QStringView sheet)
 {

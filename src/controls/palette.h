@@ -17,19 +17,22 @@ inline constexpr QRgb kPanelEnd = 0xff18201c; ///< a page, at its bottom
 inline constexpr QRgb kPanel = 0xff1c2521;    ///< a page, at its top
 inline constexpr QRgb kTip = 0xff1b2320;      ///< tool tips
 inline constexpr QRgb kField = 0xff222d28;    ///< buttons, combo boxes, fields
+inline constexpr QRgb kLit = 0xff263d35;      ///< what is chosen in a bar, under the pointer on a tile
 inline constexpr QRgb kSelected = 0xff1b5043; ///< what is chosen in a list; pressed buttons
 inline constexpr QRgb kProgress = 0xff1b7a62; ///< how far something has come, with a text over it
 // Lines, and parts that are off.
 inline constexpr QRgb kHairline = 0xff24332d; ///< around cards and rows, which are no controls
+inline constexpr QRgb kRim = 0xff1b5043;      ///< around what floats or is cut in: notes, dialogs, wells
 inline constexpr QRgb kEdge = 0xff607d71;     ///< around a control
 inline constexpr QRgb kHoveredEdge = 0xff8fb0a3;
 inline constexpr QRgb kTrack = 0xff34856f;       ///< around a switch
 inline constexpr QRgb kRestingEdge = 0xff3a4a43; ///< around a control that cannot be used
 inline constexpr QRgb kGroove = 0xff5d7a6c;      ///< of a slider
 inline constexpr QRgb kRestingGroove = 0xff2b3631;
-inline constexpr QRgb kRestingMark = 0xff4a5550; ///< handle and value of a slider that cannot be used
-inline constexpr QRgb kUnlit = 0xff5d7269;       ///< cells of a matrix
-inline constexpr QRgb kScroll = 0xff458171;      ///< handle of a scroll bar
+inline constexpr QRgb kRestingMark = 0xff4a5550;  ///< handle and value of a slider that cannot be used
+inline constexpr QRgb kRestingPlate = 0xff5f7c6e; ///< behind the black caption of what cannot be used
+inline constexpr QRgb kUnlit = 0xff5d7269;        ///< cells of a matrix
+inline constexpr QRgb kScroll = 0xff458171;       ///< handle of a scroll bar
 inline constexpr QRgb kHoveredScroll = 0xff58b09c;
 // What is said under a page's title.
 inline constexpr QRgb kRefusal = 0xff3a2c2b;
@@ -50,6 +53,9 @@ inline constexpr QRgb kDim = 0xffadadad;
 inline constexpr QRgb kHint = 0xff8d9a94;
 inline constexpr QRgb kDisabled = 0xff696969;
 inline constexpr QRgb kInk = 0xff0c100e; ///< on mint
+
+/// The colour with so much of what is behind it: 0 lets all through, 255 nothing.
+QColor translucent(QRgb colour, int alpha);
 
 /// A style sheet with its names as colours: "@edge" is kEdge, "@hoveredEdge" kHoveredEdge. Unknown names stay.
 QString styled(QStringView sheet);

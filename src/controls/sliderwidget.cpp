@@ -14,7 +14,6 @@ constexpr int kValueWidth = 40;
 constexpr int kSpacing = 8;
 constexpr int kDot = 8;
 constexpr qreal kDimmed = 0.35;
-const QString kCaptionStyle = QStringLiteral("QLabel { color: #FFFFFF; }QLabel:disabled { color: #000; }");
 const QString kValueStyle = QStringLiteral("QLabel { color: #FFFFFF; }QLabel:disabled { color: #444; }");
 } // namespace
 
@@ -23,7 +22,7 @@ SliderWidget::SliderWidget(const QString &name, int minimum, int maximum, QWidge
       m_valueLabel(new QLabel(this)), m_mark(new ValueMark(m_valueLabel))
 {
     setObjectName(name);
-    m_captionLabel->setStyleSheet(kCaptionStyle);
+    m_captionLabel->dressForRow();
     m_captionLabel->setBuddy(m_slider);
     m_slider->setObjectName(name + QStringLiteral("_slider"));
     m_slider->setRange(minimum, maximum);

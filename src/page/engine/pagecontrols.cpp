@@ -8,8 +8,10 @@
 #include <QVBoxLayout>
 
 #include "controls/captionlabel.h"
+#include "controls/captions.h"
 #include "controls/locksign.h"
 #include "controls/metrics.h"
+#include "controls/palette.h"
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/devicestate.h"
 #include "page/engine/boundtexts.h"
@@ -51,6 +53,13 @@ QString spokenName(const SliderGrid &grid, const AccentLook *look, const QString
     return QStringLiteral("%1: %2").arg(QObject::tr(grid.heading), look ? QObject::tr(look->name) : caption);
 }
 
+void shrinkRowCaptions(const QWidget &panel)
+{
+    QList<CaptionLabel *> captions = panel.findChildren<CaptionLabel *>();
+    captions.removeIf([](const CaptionLabel *caption) { return !caption->isForRow() || caption->isHidden(); });
+    shrinkTogether(captions);
+}
+
 } // namespace
 
 PageControls::PageControls(BoundTexts &texts) : m_texts(texts)
@@ -69,6 +78,14 @@ void PageControls::build(std::span<const Section> sections, std::span<const Lock
         else if (QWidget *part = buildPart(std::get<CustomPart>(section).name))
             column->addWidget(part);
     }
+    m_panels.push_back(column->parentWidget());
+    shrinkRowCaptions(*m_panels.back());
+}
+
+void PageControls::shrinkCaptions() const
+{
+    for (const QWidget *panel : m_panels)
+        shrinkRowCaptions(*panel);
 }
 
 void PageControls::addOptions(const OptionGroup &group, QVBoxLayout *column)
@@ -114,7 +131,7 @@ void PageControls::addSliders(const SliderGrid &grid, std::span<const LockRule> 
 {
     if (grid.heading) {
         auto *heading = new CaptionLabel(QString(), kHeadingPixels, column->parentWidget());
-        heading->setStyleSheet(QStringLiteral("color: #FFFFFF;"));
+        heading->setStyleSheet(Palette::styled(u"color: @text;"));
         m_texts.bind(grid.heading, [heading](const QString &text) { heading->setText(text); });
         column->addWidget(heading);
     }

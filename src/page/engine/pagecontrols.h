@@ -51,6 +51,9 @@ public:
     void build(std::span<const Section> sections, std::span<const LockRule> locks, QVBoxLayout *column,
                const BuildPart &buildPart);
 
+    /// Draws the captions before the settings of one panel in one size, after their texts have changed.
+    void shrinkCaptions() const;
+
     // In the order of their creation.
 
     const std::vector<OptionGroupRow *> &groups() const { return m_groups; }
@@ -101,6 +104,7 @@ private:
     LockSign *makeSign(SliderWidget *slider);
 
     BoundTexts &m_texts;
+    std::vector<const QWidget *> m_panels; ///< what the controls were built on
     std::vector<OptionGroupRow *> m_groups;
     std::vector<OptionGroupRow *> m_ownGroups;
     std::vector<SliderWidget *> m_sliders;

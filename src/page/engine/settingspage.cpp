@@ -223,6 +223,7 @@ void SettingsPage::updateInterfaceData()
 void SettingsPage::updateControlText()
 {
     m_texts.retranslate();
+    m_controls.shrinkCaptions();
     m_locks.apply();
     if (m_undoBar)
         m_undoBar->retranslate();
