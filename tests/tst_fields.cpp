@@ -272,7 +272,7 @@ void TestFields::coloursCanBeTold()
     const Colours pages = {kPanel, kPanelEnd, kCard, kRow, kFloating};
     const Colours grounds = pages + Colours{kGround, kWell, kBox, kTip, kField};
     Colours pictures;
-    for (const char *name : {"option/small_normal", "option/big_hover", "option/wide_normal", "option/selector_normal",
+    for (const char *name : {"option/small_normal", "option/big_hover", "option/wide_normal",
                              "icontext/normal", "switch_check", "switch_uncheck", "picker/frame",
                              "basicSetting/shortcutKey/off_normal", "basicSetting/servicesSetting/upgrade_normal"})
         pictures.append(outline(name));

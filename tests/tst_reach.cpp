@@ -12,6 +12,7 @@
 #include "support/windowfixture.h"
 #include "tray/traypanel.h"
 #include "tray/traypanelopener.h"
+#include "virtualdesk/deskwindow.h"
 
 using namespace std::chrono_literals;
 
@@ -104,6 +105,15 @@ QString faultOf(Interface *at, std::map<QString, int> &names)
     return isOneStop(choices) ? QString() : QStringLiteral("not one stop");
 }
 
+/// Two options of which one is "off", whatever the two are called.
+bool isOnOff(const OptionGroup &group)
+{
+    static const QSet<QByteArray> kOff = {"Disable", "Close", "No", "Off"};
+    return group.options.size() == 2 && std::ranges::any_of(group.options, [](const Option &option) {
+               return option.value == 0 && kOff.contains(QByteArray(option.label).trimmed());
+           });
+}
+
 QStringList faultsIn(QWidget *window)
 {
     QStringList found;
@@ -167,12 +177,18 @@ void TestReach::everyControlSaysWhatItIs()
             faults.insert(QStringLiteral("%1: no named panel").arg(page->objectName()));
         for (const QString &fault : faultsIn(m_window.get()))
             faults.insert(fault);
+        for (const OptionGroupRow *row : page->findChildren<OptionGroupRow *>()) {
+            if (isOnOff(row->group()) != (row->group().look == GroupLook::Switch))
+                faults.insert(QStringLiteral("%1: no switch, or one too many").arg(row->accessibleName()));
+        }
     });
     m_window->trayPanel()->press({});
     m_desk->desk.applications().bringToFront(0);
     m_window->onSpliter();
-    for (QWidget *other : {static_cast<QWidget *>(m_window->trayPanel()->panel()),
-                           static_cast<QWidget *>(m_window->splitting()->overlay())}) {
+    virtualdesk::DeskWindow desk(m_desk->desk);
+    desk.show();
+    for (QWidget *other :
+         std::initializer_list<QWidget *>{m_window->trayPanel()->panel(), m_window->splitting()->overlay(), &desk}) {
         for (const QString &fault : faultsIn(other))
             faults.insert(fault);
     }

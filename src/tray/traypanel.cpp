@@ -99,7 +99,7 @@ TrayPanel::Row &TrayPanel::rowOf(const TrayControl &control)
     column->setSpacing(0);
     buildSections({&control.section, 1}, column);
     if (OptionGroupRow *options = optionGroup(control.command))
-        options->setCaptionWidth(kTrayCaptionWidth);
+        options->makeNarrow(kTrayCaptionWidth);
     else
         sliders().back()->setWheelSteps(true);
     return m_rows.insert({control.command, {control, holder, control.usual}}).first->second;

@@ -13,6 +13,7 @@
 #include "ddc_protocol/settingsstore.h"
 #include "page/BasicSetting/hotkeyoverlay.h"
 #include "page/Health/healthpanel.h"
+#include "page/engine/commandrows.h"
 #include "page/engine/dropdown.h"
 #include "page/engine/labels.h"
 #include "page/engine/optiongrouprow.h"
@@ -41,7 +42,7 @@ constexpr char kHealth[] = "health";
 
 /// What "Care/AutomaticWrites" holds: how many, or -1.
 constexpr Option kADay[] = {{LABEL("None"), 0}, {"500", 500}, {"2000", 2000}, {LABEL("No limit"), -1}};
-constexpr Option kYesNo[] = {{LABEL("Yes"), 1}, {LABEL("No"), 0}};
+constexpr Option kYesNo[] = {{LABEL("No"), 0}, {LABEL("Yes"), 1}};
 
 /// The languages as options, each with its place in the list.
 std::span<const Option> languageOptions()
@@ -57,8 +58,8 @@ std::span<const Option> languageOptions()
 
 std::span<const PanelSpec> panels()
 {
-    static const Section general[] = {OptionGroup{kStartUp, {}, kYesNo}, OptionGroup{kLanguage, {}, languageOptions()},
-                                      OptionGroup{kOverlay, {}, kYesNo, {}, GroupLook::Buttons, kOverlayHelp},
+    static const Section general[] = {ownSwitch(kStartUp, kYesNo), OptionGroup{kLanguage, {}, languageOptions()},
+                                      ownSwitch(kOverlay, kYesNo, kOverlayHelp),
                                       OptionGroup{kAutomatic, {}, kADay, {}, GroupLook::Buttons, kAutomaticHelp},
                                       CustomPart{kVersion}};
     static const Section machineSelect[] = {CustomPart{kMachine}};

@@ -2,12 +2,14 @@
 
 #include <QDebug>
 #include <QGridLayout>
+#include <QPushButton>
 
+#include "controls/palette.h"
 #include "ddc_protocol/settingsstore.h"
 #include "ddc_protocol/transport.h"
 #include "page/BasicSetting/systemtable.h"
-#include "page/engine/halfbutton.h"
 #include "page/engine/labels.h"
+#include "page/engine/plainbutton.h"
 #include "platform/desk.h"
 #include "searchdevicedlg.h"
 #include "usb-hid/accessorysettings.h"
@@ -32,18 +34,14 @@ QWidget *pageSystemSetting::buildPart(const char *)
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setVerticalSpacing(16);
     auto *question = new QLabel(part);
-    question->setStyleSheet(QStringLiteral("color: #c9c9c9; font-size: 14px;"));
+    question->setStyleSheet(Palette::styled(u"color: @soft; font-size: 14px;"));
     question->setWordWrap(true);
     texts().bind(
         LABEL("Set everything back to how the monitor left the factory? The screen goes dark for a few seconds."),
         [question](const QString &text) { question->setText(text); });
     grid->addWidget(question, 0, 0, 1, 3);
-    QPushButton *yes = makeHalfButton(LABEL("Yes"), texts(), part);
-    QPushButton *no = makeHalfButton(LABEL("No"), texts(), part);
-    yes->setObjectName(QStringLiteral("Reset Factory_Yes"));
-    no->setObjectName(QStringLiteral("Reset Factory_No"));
-    for (QPushButton *button : {yes, no})
-        button->setCheckable(false);
+    QPushButton *yes = makePlainButton(LABEL("Yes"), QStringLiteral("Reset Factory_Yes"), texts(), part);
+    QPushButton *no = makePlainButton(LABEL("No"), QStringLiteral("Reset Factory_No"), texts(), part);
     connect(yes, &QPushButton::clicked, this, &pageSystemSetting::resetFactory);
     grid->addWidget(yes, 1, 0);
     grid->addWidget(no, 1, 1);

@@ -73,10 +73,10 @@ constexpr Option kLanguages[] = {
 const Section kOutputRange[] = {groupOf(Command::OutputRange, kOutputRangeOptions)};
 const Section kOsdSetting[] = {SliderGrid{nullptr, 1, kCaption, kOsd}};
 const Section kPowerSavingPanel[] = {groupOf(Command::PowerSaving, kPowerSaving)};
-const Section kAudioSettings[] = {SliderGrid{nullptr, 1, kCaption, kVolume}, groupOf(Command::AudioMute, kCloseOpen),
+const Section kAudioSettings[] = {SliderGrid{nullptr, 1, kCaption, kVolume}, switchOf(Command::AudioMute, kCloseOpen),
                                   groupOf(Command::AudioMode, kAudioMode)};
 const Section kPowerLedPanel[] = {groupOf(Command::PowerLed, kPowerLed)};
-const Section kGravitySensor[] = {groupOf(Command::GravitySensor, kCloseOpen)};
+const Section kGravitySensor[] = {switchOf(Command::GravitySensor, kCloseOpen)};
 const Section kResetFactory[] = {CustomPart{kResetPart}};
 const Section kOsdLanguage[] = {groupOf(Command::OsdLanguage, kLanguages)};
 const Section kMenuLock[] = {switchOf(Command::MenuLock)};

@@ -72,7 +72,7 @@ const Section kMoving[] = {switchOf(Command::MovingCrosshair),
                            groupOf(Command::MovingCrosshairSize, kSizes, nullptr, kSize)};
 const Section kFocus[] = {switchOf(Command::FocusDimming),
                           groupOf(Command::FocusDimmingLevel, kStrengths, nullptr, kLevel)};
-const Section kDual[] = {groupOf(Command::AiDualMode, kCloseOpen)};
+const Section kDual[] = {switchOf(Command::AiDualMode, kCloseOpen)};
 
 const PanelSpec kPanels[] = {
     panelOf(Command::GameRush, "game_rush", "gameRush", kRush, kGameRushHelp, &gamepictures::kRush),

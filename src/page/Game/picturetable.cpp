@@ -21,7 +21,7 @@ constexpr int kCaption = metrics::kCaptionWidth;
 
 // The switches of the motion function and of local dimming always send 0, although the option "Close" of the same
 // groups sends 2. Both are meant.
-constexpr Option kAlwaysOff[] = {{LABEL("         Enable"), 0}, {LABEL("         Disable"), 0}};
+constexpr Option kAlwaysOff[] = {{LABEL("         Disable"), 0}, {LABEL("         Enable"), 0}};
 
 constexpr Option kHdr[] = {{LABEL("Close"), 0, LABEL("Every picture is shown with the usual range.")},
                            {LABEL("Auto"), 1, LABEL("Bright parts shine when the signal has the range for it.")},

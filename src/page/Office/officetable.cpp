@@ -49,10 +49,10 @@ constexpr Option kComposition[] = {
 const Section kPaperPanel[] = {groupOf(Command::Paper, kPaper), CustomPart{kPaperSizePart}};
 const Section kAlignmentPanel[] = {groupOf(Command::Alignment, kAlignment)};
 const Section kRulerPanel[] = {groupOf(Command::Ruler, kRuler)};
-const Section kAlignmentAid[] = {groupOf(Command::AlignmentAid, kCloseOpen)};
+const Section kAlignmentAid[] = {switchOf(Command::AlignmentAid, kCloseOpen)};
 const Section kCompositionPanel[] = {groupOf(Command::Composition, kComposition)};
 const Section kEyeshieldPanel[] = {groupOf(Command::RestTimer, kEyeshield)};
-const Section kAiDualMode[] = {groupOf(Command::AiDualMode, kCloseOpen)};
+const Section kAiDualMode[] = {switchOf(Command::AiDualMode, kCloseOpen)};
 
 const PanelSpec kPanels[] = {
     panelOf(Command::Paper, "office_paper", "pagePaper", kPaperPanel, kPaperHelp, &officepictures::kPaper),

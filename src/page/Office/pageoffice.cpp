@@ -4,13 +4,14 @@
 #include <QSpinBox>
 
 #include "controls/desktoptoast.h"
+#include "controls/palette.h"
 #include "controls/wheeleventfilter.h"
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/settingsstore.h"
 #include "page/Office/officetable.h"
 #include "page/engine/labels.h"
-#include "page/engine/optiongrouprow.h"
+#include "page/engine/optionbutton.h"
 #include "platform/desk.h"
 
 namespace {
@@ -55,7 +56,7 @@ QWidget *PageOffice::buildPart(const char *)
     row->setContentsMargins(0, 0, 0, 0);
     for (const auto &[field, label] : {std::pair(m_width, LABEL("Width")), std::pair(m_height, LABEL("Height"))}) {
         auto *caption = new QLabel(m_paperSize);
-        caption->setStyleSheet(QStringLiteral("color: #c9c9c9; font-size: 15px; margin-right: 8px;"));
+        caption->setStyleSheet(Palette::styled(u"color: @soft; font-size: 15px; margin-right: 8px;"));
         texts().bind(label, [caption, spin = field](const QString &text) {
             caption->setText(text);
             spin->setAccessibleName(text);

@@ -59,7 +59,7 @@ const Section kPlan[] = {
     groupOf(Command::CareMode, kMode),
     groupOf(Command::CareInterval, kIntervals, kIntervalHelp),
     switchOf(Command::CareReminder, kSwitchOptions, kReminderHelp),
-    OptionGroup{kDesktopReminder, {}, kSwitchOptions, {}, GroupLook::Switch, kDesktopHelp},
+    ownSwitch(kDesktopReminder, kSwitchOptions, kDesktopHelp),
     CustomPart{kCarePart},
 };
 const Section kShiftPanel[] = {groupOf(Command::PixelShift, kShift)};

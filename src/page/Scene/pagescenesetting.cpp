@@ -71,6 +71,7 @@ void pageSceneSetting::buildHead(QVBoxLayout *column)
     m_customButton = makeHalfButton(kCustomLabel, texts(), holder);
     auto *halves = new QButtonGroup(holder);
     auto *stop = new FocusGroup(holder);
+    layInTrack(holder, {m_defaultButton, m_customButton});
     m_head->corner()->addWidget(holder, 0, Qt::AlignTop);
     for (QPushButton *half : {m_defaultButton, m_customButton}) {
         halves->addButton(half);

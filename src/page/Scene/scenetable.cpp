@@ -101,7 +101,7 @@ const Section kSections[] = {
     SliderGrid{nullptr, 2, kWideCaption, kPictureSliders},
     groupOf(Command::Gamma, kGamma, kGamaHelp),
     groupOf(Command::GrayResponse, kGrayResponseOptions, kResponseHelp),
-    groupOf(Command::LightSensor, kCloseOpen, kLightSensorHelp),
+    switchOf(Command::LightSensor, kCloseOpen, kLightSensorHelp),
     groupOf(Command::LocalDimming, kLocalDimming, kDimmingHelp),
     groupOf(Command::MotionTech, kMotionOptions, kMotionHelp),
     groupOf(Command::ColorTemperature, kColorTemperature, kColorTemperatureHelp),

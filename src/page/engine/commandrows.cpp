@@ -26,6 +26,11 @@ OptionGroup switchOf(Command command, std::span<const Option> halves, const char
     return {name.label, command, halves, name.needs, GroupLook::Switch, help};
 }
 
+OptionGroup ownSwitch(const char *label, std::span<const Option> halves, const char *help)
+{
+    return {label, {}, halves, {}, GroupLook::Switch, help};
+}
+
 SliderSpec sliderOf(Command command, int minimum, int maximum, SendOn sendOn, const char *help, const char *caption)
 {
     const CommandName &name = nameOf(command);

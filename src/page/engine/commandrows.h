@@ -14,6 +14,10 @@ OptionGroup picturesOf(Command command, std::span<const Option> options, DrawOpt
 OptionGroup swatchesOf(Command command, std::span<const Option> options, const char *caption = nullptr);
 
 OptionGroup switchOf(Command command, std::span<const Option> halves = kSwitchOptions, const char *help = nullptr);
+
+/// A switch of the page's own, which goes to no monitor.
+OptionGroup ownSwitch(const char *label, std::span<const Option> halves, const char *help = nullptr);
+
 SliderSpec sliderOf(Command command, int minimum, int maximum, SendOn sendOn = SendOn::Move, const char *help = nullptr,
                     const char *caption = nullptr);
 

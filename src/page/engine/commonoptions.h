@@ -5,6 +5,7 @@
 
 // Options that several pages offer with the same values.
 
+// The halves of a switch, as those of kSwitchOptions.
 inline constexpr Option kCloseOpen[] = {{LABEL("Close"), 0}, {LABEL("Open"), 1}};
 
 inline constexpr Option kGrayResponseOptions[] = {

@@ -1,34 +1,79 @@
 #include "page/engine/halfbutton.h"
 
+#include <utility>
+
+#include <QEvent>
+#include <QPainter>
 #include <QPushButton>
 
 #include "controls/metrics.h"
+#include "controls/palette.h"
 #include "page/engine/boundtexts.h"
+#include "page/engine/optionbutton.h"
 
 namespace {
 
 constexpr int kPixels = 15;
-constexpr int kWidth = 128;
 
-const char *const kStyle = "QPushButton { border-image: url(%1normal.png); color: #adadad; padding-right: %2px; }"
-                           "QPushButton:hover { border-image: url(%1hover.png); }"
-                           "QPushButton:checked { border-image: url(%1checked.png); color: #0c100e; }"
-                           "QPushButton:focus { border-image: url(%1focus.png); }"
-                           "QPushButton:checked:focus { border-image: url(%1checkedfocus.png); }";
+// As in HalfSize.
+constexpr struct
+{
+    int width;
+    const char *pictures;
+} kSizes[] = {{128, "selector"}, {92, "narrow"}};
+
+/// Paints the track behind the halves, on what holds them.
+class Track : public QObject
+{
+public:
+    Track(QWidget *holder, std::vector<QPushButton *> halves) : QObject(holder), m_halves(std::move(halves))
+    {
+        holder->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            paint(static_cast<QWidget *>(watched));
+        return false;
+    }
+
+private:
+    void paint(QWidget *holder) const
+    {
+        QRect around;
+        bool isUsable = false;
+        for (const QPushButton *half : m_halves) {
+            if (half->isHidden())
+                continue;
+            around |= half->geometry();
+            isUsable = isUsable || half->isEnabled();
+        }
+        const qreal radius = around.height() / 2.0;
+        QPainter painter(holder);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QColor(isUsable ? Palette::kTrack : Palette::kRestingEdge));
+        painter.setBrush(QColor(Palette::kWell));
+        painter.drawRoundedRect(QRectF(around).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    }
+
+    std::vector<QPushButton *> m_halves;
+};
 
 } // namespace
 
-void dressHalfButton(QPushButton *button)
+void dressHalfButton(QPushButton *button, HalfSize size)
 {
-    button->setFixedSize(kWidth, metrics::kControlHeight);
+    const auto &[wide, pictures] = kSizes[static_cast<int>(size)];
+    button->setFixedSize(wide, metrics::kControlHeight);
     QFont font = button->font();
     font.setPixelSize(kPixels);
     button->setFont(font);
     // The blanks before the label are balanced behind it, so that the word stands in the middle.
     const qsizetype blanks = button->text().size() - QStringView(button->text()).trimmed().size();
     const int width = QFontMetrics(font).horizontalAdvance(QString(blanks, QLatin1Char(' ')));
-    const QString style =
-        QString::fromLatin1(kStyle).arg(QStringLiteral(":/resource/img/option/selector_"), QString::number(width));
+    const QString style = optionStyle(pictures) + QStringLiteral("QPushButton { padding-right: %1px; }").arg(width);
     if (button->styleSheet() != style)
         button->setStyleSheet(style);
 }
@@ -45,4 +90,9 @@ QPushButton *makeHalfButton(const char *label, BoundTexts &texts, QWidget *paren
         dressHalfButton(button);
     });
     return button;
+}
+
+void layInTrack(QWidget *holder, const std::vector<QPushButton *> &halves)
+{
+    new Track(holder, halves);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include <QtGlobal>
 
 class BoundTexts;
@@ -13,8 +15,14 @@ inline constexpr char kCustomLabel[] = QT_TRANSLATE_NOOP("QObject", "        Cus
 /// What the two are halves of, for who does not see them side by side.
 inline constexpr char kHalvesLabel[] = QT_TRANSLATE_NOOP("QObject", "Parameters of the mode");
 
+/// The widths of a half: on pages, and where there is little room.
+enum class HalfSize { Wide, Narrow };
+
 /// Gives a button the pictures of one half of a selector or switch; its label's leading blanks are kept.
-void dressHalfButton(QPushButton *button);
+void dressHalfButton(QPushButton *button, HalfSize size = HalfSize::Wide);
+
+/// Makes one control of halves that lie side by side: the track around them is painted by what holds them.
+void layInTrack(QWidget *holder, const std::vector<QPushButton *> &halves);
 
 /// One half of a two-way selector, checkable.
 QPushButton *makeHalfButton(const char *label, BoundTexts &texts, QWidget *parent);

@@ -15,58 +15,14 @@
 #include "controls/pictures.h"
 #include "page/engine/boundtexts.h"
 #include "page/engine/flowlayout.h"
-#include "page/engine/halfbutton.h"
+#include "page/engine/optionbutton.h"
 #include "page/engine/picturebutton.h"
 
 namespace {
 
 constexpr int kCaptionPixels = 15;
-constexpr int kButtonPixels = 14;
-constexpr int kTextMargin = 10; // on either side of a button's text
-
-struct ButtonSize
-{
-    int width;
-    const char *pictures;
-};
-constexpr ButtonSize kButtonSizes[] = {{78, "small"}, {124, "big"}, {196, "wide"}};
-
-// Four states by picture, in the order normal, hover, checked, disabled; then the keyboard focus and the text colours.
-const char *const kPictureStyle = "QPushButton { border-image: url(%1);}QPushButton:hover { border-image: url(%2);}"
-                                  "QPushButton:checked { border-image: url(%3);}"
-                                  "QPushButton:disabled { border-image: url(%4);}";
-const char *const kTextStyle =
-    "QPushButton:focus { border-image: url(%1);}QPushButton:checked:focus { border-image: url(%2);}"
-    "QPushButton { color: #c9c9c9; }QPushButton:checked { color: #0c100e; }"
-    "QPushButton:disabled { color: #696969; }"
-    "QPushButton:checked:disabled { border-image: url(%3); }";
-
-QString picture(const char *size, const char *state)
-{
-    return QStringLiteral(":/resource/img/option/%1_%2.png").arg(QLatin1String(size), QLatin1String(state));
-}
 
 } // namespace
-
-void dressOptionButton(QPushButton *button)
-{
-    QFont font = button->font();
-    font.setPixelSize(kButtonPixels);
-    button->setFont(font);
-    const int needed = QFontMetrics(font).horizontalAdvance(button->text()) + 2 * kTextMargin;
-    const ButtonSize *size = kButtonSizes;
-    while (size != std::end(kButtonSizes) - 1 && size->width < needed)
-        ++size;
-    if (button->width() == size->width && !button->styleSheet().isEmpty())
-        return; // a style sheet is dear, and it would be the same
-    button->setFixedSize(size->width, metrics::kControlHeight);
-    const char *name = size->pictures;
-    button->setStyleSheet(
-        QString::fromLatin1(kPictureStyle)
-            .arg(picture(name, "normal"), picture(name, "hover"), picture(name, "checked"), picture(name, "disabled")) +
-        QString::fromLatin1(kTextStyle)
-            .arg(picture(name, "focus"), picture(name, "checkedfocus"), picture(name, "checkeddisabled")));
-}
 
 void checkOnly(QButtonGroup &group, QAbstractButton *chosen)
 {
@@ -83,7 +39,7 @@ OptionGroupRow::OptionGroupRow(const OptionGroup &group, BoundTexts &texts, QWid
       m_exclusive(new QButtonGroup(this)), m_mark(new ValueMark(this)), m_sign(new LockSign(this))
 {
     m_caption->setFixedSize(metrics::kCaptionWidth, metrics::kControlHeight);
-    m_caption->setStyleSheet(QStringLiteral("QLabel { color: #FFFFFF; }QLabel:disabled { color: #000; }"));
+    m_caption->dressForRow();
     describeAs(this, QAccessible::Grouping);
     bindTexts(texts);
     auto *flow = new FlowLayout(group.look == GroupLook::Switch ? 0 : metrics::kGap); // its halves are one control
@@ -124,6 +80,8 @@ void OptionGroupRow::addButtons(BoundTexts &texts, FlowLayout *flow)
         stop->add(button);
         flow->addWidget(button);
     }
+    if (m_group.look == GroupLook::Switch)
+        layInTrack(this, m_buttons);
 }
 
 QPushButton *OptionGroupRow::addButton(const Option &option, BoundTexts &texts)
@@ -139,8 +97,7 @@ QPushButton *OptionGroupRow::addButton(const Option &option, BoundTexts &texts)
         if (m_group.look == GroupLook::Pictures)
             return button->setToolTip(text);
         button->setText(text);
-        if (m_group.look != GroupLook::Swatches)
-            (m_group.look == GroupLook::Switch ? dressHalfButton : dressOptionButton)(button);
+        dress(button);
     });
     m_exclusive->addButton(button);
     button->installEventFilter(this);
@@ -202,17 +159,26 @@ int OptionGroupRow::indexOf(const QObject *button) const
 
 QPushButton *OptionGroupRow::buttonOf(int value) const
 {
-    QPushButton *found = nullptr;
-    for (std::size_t i = 0; i < m_buttons.size(); ++i) {
-        if (m_group.options[i].value == value)
-            found = m_buttons[i]; // of two with one value the later is the off side
-    }
-    return found;
+    // Of two with one value the first is the off side.
+    const auto option = std::ranges::find(m_group.options, value, &Option::value);
+    const auto place = static_cast<std::size_t>(option - m_group.options.begin());
+    return place < m_buttons.size() ? m_buttons[place] : nullptr;
 }
 
-void OptionGroupRow::setCaptionWidth(int width)
+void OptionGroupRow::makeNarrow(int captionWidth)
 {
-    m_caption->setFixedWidth(width);
+    m_caption->setFixedWidth(captionWidth);
+    m_halfSize = HalfSize::Narrow;
+    for (QPushButton *button : m_buttons)
+        dress(button);
+}
+
+void OptionGroupRow::dress(QPushButton *button) const
+{
+    if (m_group.look == GroupLook::Switch)
+        dressHalfButton(button, m_halfSize);
+    else if (m_group.look == GroupLook::Buttons)
+        dressOptionButton(button);
 }
 
 void OptionGroupRow::hideCaption()
@@ -250,6 +216,7 @@ void OptionGroupRow::setLocks(const QStringList &reasons)
     m_sign->setReason(said.join(QLatin1Char('\n')));
     for (std::size_t i = 0; i < m_buttons.size(); ++i)
         m_buttons[i]->setEnabled(m_locks.value(static_cast<qsizetype>(i)).isEmpty());
+    m_caption->setEnabled(m_locks.isEmpty() || m_locks.contains(QString())); // as that of a slider that is locked
     if (m_swatches)
         m_swatches->setEnabled(said.isEmpty());
     describe();

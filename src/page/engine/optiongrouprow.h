@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include "controls/valuemark.h"
+#include "page/engine/halfbutton.h"
 #include "page/engine/pagetable.h"
 
 class BoundTexts;
@@ -30,8 +31,8 @@ public:
     /// The button of an option's value; null when the group has no such option.
     QPushButton *buttonOf(int value) const;
 
-    /// Fixes the heading's width, in pixels, where it stands below captions of another width.
-    void setCaptionWidth(int width);
+    /// Fixes the heading's width, in pixels, where it stands below captions of another width; a switch is narrow there.
+    void makeNarrow(int captionWidth);
 
     /// Leaves the heading away, where what stands above says the same.
     void hideCaption();
@@ -64,6 +65,7 @@ private:
     void bindTexts(BoundTexts &texts);
     void addButtons(BoundTexts &texts, FlowLayout *flow);
     QPushButton *addButton(const Option &option, BoundTexts &texts);
+    void dress(QPushButton *button) const;
     void addSwatches(BoundTexts &texts, FlowLayout *flow);
     void addMarks(FlowLayout *flow);
     int indexOf(const QObject *button) const;
@@ -77,12 +79,10 @@ private:
     ValueMark *m_mark;
     LockSign *m_sign;
     bool m_isUnknown = false;
+    HalfSize m_halfSize = HalfSize::Wide;
     QString m_help;
     QStringList m_locks; ///< of each option: why it is disabled
 };
-
-/// Gives a button the pictures of an option button, as small as its text allows.
-void dressOptionButton(QPushButton *button);
 
 /// Checks one button of an exclusive group, or none.
 void checkOnly(QButtonGroup &group, QAbstractButton *chosen);

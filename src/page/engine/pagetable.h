@@ -23,8 +23,8 @@ struct Option
     const char *picture = nullptr; ///< of a swatch: its name under img/
 };
 
-/// How a group looks: a row of option buttons, the two halves of a switch, buttons that show a picture each, or colour
-/// swatches.
+/// How a group looks: a row of option buttons, the two halves of a switch (whatever on and off are called, off is the
+/// left one), buttons that show a picture each, or colour swatches.
 enum class GroupLook { Buttons, Switch, Pictures, Swatches };
 
 /// Draws an option on its button.
@@ -43,9 +43,9 @@ struct OptionGroup
     const char *caption = nullptr; ///< what stands before the options, where the label says more than is needed there
 };
 
-/// The two options of every switch; the blanks are part of the labels.
-inline constexpr Option kSwitchOptions[] = {{QT_TRANSLATE_NOOP("QObject", "         Enable"), 1},
-                                            {QT_TRANSLATE_NOOP("QObject", "         Disable"), 0}};
+/// The two options of most switches; the blanks are part of the labels.
+inline constexpr Option kSwitchOptions[] = {{QT_TRANSLATE_NOOP("QObject", "         Disable"), 0},
+                                            {QT_TRANSLATE_NOOP("QObject", "         Enable"), 1}};
 
 /// When a slider's value is sent: on every move, or when it is let go. It is stored on every move, or, by the last,
 /// only when it is sent.

@@ -10,6 +10,7 @@
 #include "ddc_protocol/settingsstore.h"
 #include "page/Nightloom/music/audiopicture.h"
 #include "page/Nightloom/work/livedisplay.h"
+#include "page/engine/commandrows.h"
 #include "page/engine/commonoptions.h"
 #include "page/engine/optiongrouprow.h"
 
@@ -29,7 +30,7 @@ constexpr Option kTemplates[] = {{LABEL("Bars"), static_cast<int>(AudioTemplate:
                                  {LABEL("Hanging"), static_cast<int>(AudioTemplate::Hanging)}};
 static_assert(std::size(kTemplates) == kAudioTemplates);
 
-const Section kSections[] = {OptionGroup{kMusic, {}, kCloseOpen}, OptionGroup{kTemplate, {}, kTemplates},
+const Section kSections[] = {ownSwitch(kMusic, kCloseOpen), OptionGroup{kTemplate, {}, kTemplates},
                              CustomPart{kPicture}};
 const PanelSpec kPanels[] = {{kMusic, "led_music", "pageLEDMusicPanel", kSections, {}, kMusicHelp}};
 

@@ -8,6 +8,7 @@
 #include "ddc_protocol/settingsstore.h"
 #include "page/Nightloom/system/matrixformsetting.h"
 #include "page/Nightloom/work/livedisplay.h"
+#include "page/engine/commandrows.h"
 #include "page/engine/commonoptions.h"
 #include "page/engine/optiongrouprow.h"
 #include "usb-hid/accessorysettings.h"
@@ -41,9 +42,9 @@ std::span<const Option> matrixOptions()
 
 std::span<const PanelSpec> panels()
 {
-    static const Section settings[] = {CustomPart{kSliders}, OptionGroup{kLamp, {}, kCloseOpen},
+    static const Section settings[] = {CustomPart{kSliders}, ownSwitch(kLamp, kCloseOpen),
                                        OptionGroup{kForm, {}, matrixOptions(), {}, GroupLook::Buttons, kFormHelp},
-                                       OptionGroup{kClock, {}, kCloseOpen, {}, GroupLook::Buttons, kClockHelp}};
+                                       ownSwitch(kClock, kCloseOpen, kClockHelp)};
     static const PanelSpec all[] = {
         {LABEL("System Settings"), "led_system", "pageLEDSystemPanel", settings, {}, kSystemHelp}};
     return all;
