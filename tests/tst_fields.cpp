@@ -272,9 +272,9 @@ void TestFields::coloursCanBeTold()
     const Colours pages = {kPanel, kPanelEnd, kCard, kRow, kFloating};
     const Colours grounds = pages + Colours{kGround, kWell, kBox, kTip, kField};
     Colours pictures;
-    for (const char *name : {"option/small_normal", "option/big_hover", "option/wide_normal",
-                             "icontext/normal", "switch_check", "switch_uncheck", "picker/frame",
-                             "basicSetting/shortcutKey/off_normal", "basicSetting/servicesSetting/upgrade_normal"})
+    for (const char *name : {"option/small_normal", "option/big_hover", "option/wide_normal", "icontext/normal",
+                             "switch_check", "switch_uncheck", "picker/frame", "basicSetting/shortcutKey/off_normal",
+                             "basicSetting/servicesSetting/upgrade_normal"})
         pictures.append(outline(name));
     const std::tuple<Colours, Colours, double> pairs[] = {
         {{kText, kSoft, kDim, kHint, kMint, kBright, kSignal}, grounds, 4.5},
@@ -287,6 +287,7 @@ void TestFields::coloursCanBeTold()
         {{kGroove, kScroll}, pages, 3},
         {{kUnlit}, {kPanel, kPanelEnd, kCard, kMint}, 3},
         {{kProgress}, {kCard}, 3},
+        {{0xff000000}, {kRestingPlate}, 4.5},
         {pictures, {kPanel, kPanelEnd, kRow}, 3},
     };
     for (const auto &[fronts, behinds, least] : pairs) {
@@ -301,6 +302,19 @@ void TestFields::coloursCanBeTold()
     const QString style = QString::fromUtf8(sheet.readAll());
     QVERIFY(!style.contains(QRegularExpression("#[0-9a-f]{6}"))); // each colour by its name
     QVERIFY(!styled(style).contains(u'@'));
+    // The texts of captions, values and boxes have always had colours of their own.
+    const QStringList own = {"captionlabel.cpp", "sliderwidget.cpp", "messagebox.cpp"};
+    for (const char *folder : {"controls", "page", "tray"}) {
+        QDirIterator files(QFileInfo(sheet.fileName()).path() + "/../../src/" + folder, {"*.cpp"}, QDir::Files,
+                           QDirIterator::Subdirectories);
+        QVERIFY(files.hasNext());
+        while (files.hasNext()) {
+            QFile source(files.next());
+            QVERIFY(source.open(QIODevice::ReadOnly));
+            const bool isClean = !source.readAll().contains("color: #");
+            QVERIFY2(isClean || own.contains(files.fileName()), qPrintable(files.fileName()));
+        }
+    }
 }
 
 void TestFields::longTipsAreBroken()
@@ -320,6 +334,10 @@ void TestFields::longTipsAreBroken()
         QCOMPARE(lines.join(QString()).remove(' '), QString(text).remove(' ')); // nothing is lost
         for (const QString &line : lines)
             QVERIFY(QFontMetrics(QToolTip::font()).horizontalAdvance(line) <= 360 && lines.size() > 1);
+        for (QWidget *tip : QApplication::topLevelWidgets()) {
+            if (tip->inherits("QTipLabel"))
+                QCOMPARE(tip->grab().toImage().pixel(0, tip->height() / 2), Palette::kEdge); // its frame
+        }
     }
 }
 

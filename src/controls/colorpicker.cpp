@@ -61,7 +61,7 @@ void ColorPicker::paintEvent(QPaintEvent *)
     const QString state = hovered ? QStringLiteral("hover") : QString();
     if (!Pictures::draw(painter, rect(),
                         Pictures::ofState(Pictures::kRoot + QStringLiteral("img/picker/frame"), state))) {
-        painter.setPen(hovered ? QColor(Palette::kMint) : QColor(27, 80, 67));
+        painter.setPen(QColor(hovered ? Palette::kMint : Palette::kRim));
         painter.setBrush(QColor(Palette::kWell));
         painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 8, 8);
     }

@@ -33,8 +33,8 @@ DesktopToast::DesktopToast(QWidget *parent, Qt::WindowFlags flags)
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_TranslucentBackground);
     m_title->setFont(noteFont);
-    m_title->setStyleSheet(QStringLiteral("color: #7bfadb;"));
-    m_text->setStyleSheet(QStringLiteral("color: #ffffff;"));
+    m_title->setStyleSheet(Palette::styled(u"color: @mint;"));
+    m_text->setStyleSheet(Palette::styled(u"color: @text;"));
     m_text->setTextFormat(Qt::PlainText);
     m_text->setWordWrap(true);
     auto *column = new QVBoxLayout(this);
@@ -82,8 +82,8 @@ void DesktopToast::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QColor(27, 80, 67));
-    painter.setBrush(QColor(0x16, 0x1d, 0x1a, 240));
+    painter.setPen(QColor(Palette::kRim));
+    painter.setBrush(Palette::translucent(Palette::kFloating, 240));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
     if (m_level)
         drawBar(painter);

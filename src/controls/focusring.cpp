@@ -4,6 +4,8 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 
+#include "controls/palette.h"
+
 void FocusRing::follow(const QFocusEvent *event)
 {
     const Qt::FocusReason reason = event->reason();
@@ -18,11 +20,9 @@ void FocusRing::draw(QPainter &painter, const QRect &rect, qreal radius) const
 {
     if (!isShown())
         return;
-    QColor mint(0x7b, 0xfa, 0xdb);
-    mint.setAlphaF(0.7F);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(mint, 1.0));
+    painter.setPen(QPen(Palette::translucent(Palette::kMint, 178), 1.0));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
     painter.restore();

@@ -54,8 +54,8 @@ void IconTextButton::drawTile(QPainter &painter) const
     const bool lit = isEnabled() && (isChecked() || isHovered());
     if (Pictures::draw(painter, tile, lit ? m_checkedPicture : m_normalPicture))
         return;
-    painter.setPen(lit ? kCheckedText : QColor(27, 80, 67));
-    painter.setBrush(lit ? QColor(0x26, 0x3d, 0x35) : QColor(Palette::kTip));
+    painter.setPen(lit ? kCheckedText : QColor(Palette::kRim));
+    painter.setBrush(lit ? QColor(Palette::kLit) : QColor(Palette::kTip));
     painter.drawRoundedRect(QRectF(tile).adjusted(0.5, 0.5, -0.5, -0.5), 10, 10);
 }
 

@@ -10,8 +10,8 @@ constexpr QSize kSize(208, 46);
 constexpr int kLeastHeight = 34; // in a bar of many entries on a small screen
 constexpr int kIconLeft = 19;
 constexpr int kIconSide = 24;
-constexpr int kCaptionLeft = 54;
-constexpr int kCaptionRightMargin = 8;
+constexpr int kCaptionLeft = 51;
+constexpr int kCaptionRightMargin = 6;
 constexpr int kCaptionPixels = 19;
 const QColor kNormalText = Palette::kSoft;
 const QColor kCheckedText = Palette::kText;
@@ -95,7 +95,7 @@ void LeftTabButton::drawBackground(QPainter &painter) const
     if (!isChecked() && !hovered)
         return;
     painter.setPen(Qt::NoPen);
-    painter.setBrush(isChecked() ? QColor(0x26, 0x3d, 0x35) : QColor(0x1e, 0x28, 0x24));
+    painter.setBrush(QColor(isChecked() ? Palette::kLit : Palette::kField));
     painter.drawRoundedRect(rect(), 8, 8);
 }
 

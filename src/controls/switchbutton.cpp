@@ -82,11 +82,11 @@ void SwitchButton::drawBackground(QPainter &painter) const
         Pictures::draw(painter, rect(), Pictures::ofState(Pictures::kRoot + QStringLiteral("img/switch"), state));
     const qreal radius = height() / 2.0;
     if (!drawn) {
-        painter.setPen(QColor(27, 80, 67));
+        painter.setPen(QColor(Palette::kRim));
         painter.setBrush(QColor(Palette::kWell));
         painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
         painter.setPen(Qt::NoPen);
-        painter.setBrush(QColor(0x26, 0x3d, 0x35));
+        painter.setBrush(QColor(Palette::kLit));
         const QRectF half(isChecked() ? width() / 2.0 : 3.0, 3.0, width() / 2.0 - 3.0, height() - 6.0);
         painter.drawRoundedRect(half, radius - 3, radius - 3);
     }

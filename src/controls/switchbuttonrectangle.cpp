@@ -7,8 +7,8 @@
 namespace {
 constexpr QSize kSize(20, 20);
 const QColor kGround(1, 1, 1);
-const QColor kOutline(27, 80, 67);
-const QColor kHoveredOutline(0x7b, 0xfa, 0xdb, 150);
+const QColor kOutline = Palette::kRim;
+const QColor kHoveredOutline = Palette::translucent(Palette::kMint, 150);
 const QColor kMark = Palette::kMint;
 const QColor kDisabled = Palette::kDisabled;
 } // namespace

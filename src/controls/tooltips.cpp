@@ -14,7 +14,8 @@ namespace {
 
 constexpr int kTipWidth = 360; // points
 
-/// Shows the tool tips of all widgets: left alone, the toolkit breaks no line of a plain text.
+/// Shows the tool tips of all widgets: left alone, the toolkit breaks no line of a plain text, and frames each in the
+/// colour of its text. A label that shows one takes its text's colour from another role, so that the frame's is free.
 class TipFilter : public QObject
 {
 public:
@@ -23,6 +24,9 @@ public:
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override
     {
+        const bool isTip = event->type() == QEvent::Polish && watched->inherits("QTipLabel");
+        if (isTip)
+            static_cast<QWidget *>(watched)->setForegroundRole(QPalette::BrightText);
         if (event->type() != QEvent::ToolTip || !watched->isWidgetType())
             return false;
         auto *widget = static_cast<QWidget *>(watched);
@@ -69,7 +73,8 @@ void dressToolTips()
 {
     QPalette palette = QToolTip::palette();
     palette.setColor(QPalette::ToolTipBase, Palette::kTip);
-    palette.setColor(QPalette::ToolTipText, Palette::kText);
+    palette.setColor(QPalette::ToolTipText, Palette::kEdge);
+    palette.setColor(QPalette::BrightText, Palette::kText);
     QToolTip::setPalette(palette);
     QToolTip::setFont(noteFont);
     qApp->installEventFilter(new TipFilter(qApp));

@@ -6,7 +6,7 @@
 
 namespace {
 
-const QColor kQuiet(0x7b, 0xfa, 0xdb, 0x90);
+const QColor kQuiet = Palette::translucent(Palette::kMint, 0x90);
 const QColor kDim = Palette::kDim;
 const QColor kRefused = Palette::kError;
 

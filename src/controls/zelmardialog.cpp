@@ -12,13 +12,13 @@ namespace {
 const QString kBackground = Pictures::kRoot + QStringLiteral("img/basicSetting/shortcutKey/dialog.png");
 constexpr QSize kFallbackSize(420, 200);
 const QString kStyle =
-    QStringLiteral("QLabel#title { color: #FFFFFF; font-size: 18px; }"
-                   "QLabel#text { color: #C9C9C9; font-size: 15px; }"
+    QStringLiteral("QLabel#title { color: @text; font-size: 18px; }"
+                   "QLabel#text { color: @soft; font-size: 15px; }"
                    "QPushButton { color: @ink; font-size: 15px; border: 1px solid transparent; border-radius: 8px;"
                    " min-width: 112px; min-height: 34px;"
                    " background: qlineargradient(x1:0, y1:0, x2:1, y2:0, stop:0 @deep, stop:1 @mint); }"
                    "QPushButton:hover { background: @bright; }"
-                   "QPushButton:focus { border-color: #FFFFFF; }"
+                   "QPushButton:focus { border-color: @text; }"
                    "QPushButton:pressed { background: @deep; }");
 } // namespace
 
@@ -54,7 +54,7 @@ void ZelmarDialog::paintEvent(QPaintEvent *)
     if (Pictures::draw(painter, rect(), kBackground))
         return;
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QColor(27, 80, 67));
+    painter.setPen(QColor(Palette::kRim));
     painter.setBrush(QColor(Palette::kTip));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 14, 14);
 }

@@ -12,8 +12,8 @@ constexpr QSize kLeastSize(120, 34);
 const QString kStyle =
     QStringLiteral("QLineEdit { color: @mint; background: @well; border: 1px solid @edge; border-radius: 8px;"
                    " padding: 0 8px; font-size: 14px; }"
-                   "QLineEdit:hover { background: #141c18; }"
-                   "QLineEdit:focus { border-color: rgba(123,250,219,178); }"
+                   "QLineEdit:hover { background: @card; }"
+                   "QLineEdit:focus { border-color: @mint; }"
                    "QLineEdit:disabled { color: @disabled; border-color: @restingEdge; }");
 
 QString nothingSet()

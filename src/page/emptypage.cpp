@@ -3,6 +3,7 @@
 #include <QVBoxLayout>
 
 #include "controls/accessiblecontrol.h"
+#include "controls/palette.h"
 #include "controls/picturelabel.h"
 #include "controls/pictures.h"
 #include "controls/sharedfonts.h"
@@ -18,8 +19,8 @@ EmptyPage::EmptyPage(QWidget *parent) : QLabel(parent), m_title(new QLabel(this)
     picture->setPicture(QStringLiteral("img/empty_page.png"));
     m_title->setFont(titleFont);
     m_noteLabel->setFont(noteFont);
-    m_title->setStyleSheet(QStringLiteral("color: #ffffff;"));
-    m_noteLabel->setStyleSheet(QStringLiteral("color: #8d9a94;"));
+    m_title->setStyleSheet(Palette::styled(u"color: @text;"));
+    m_noteLabel->setStyleSheet(Palette::styled(u"color: @hint;"));
     auto *column = new QVBoxLayout(this);
     column->addStretch(2);
     for (QLabel *label : {static_cast<QLabel *>(picture), m_title, m_noteLabel})

@@ -7,6 +7,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "controls/palette.h"
 #include "controls/pictures.h"
 #include "page/engine/labels.h"
 
@@ -56,7 +57,7 @@ void TrayPanelFooter::fillMenu(QMenu *menu)
 
 void TrayPanelFooter::showHint(const QString &notice)
 {
-    m_hint->setStyleSheet(notice.isEmpty() ? QString() : QStringLiteral("color: #da676d;"));
+    m_hint->setStyleSheet(notice.isEmpty() ? QString() : Palette::styled(u"color: @error;"));
     m_hint->setText(notice.isEmpty() ? QObject::tr("Wheel: one step · Tab, arrows · Esc closes") : notice);
 }
 

@@ -7,6 +7,7 @@
 
 #include "controls/captionlabel.h"
 #include "controls/dash.h"
+#include "controls/palette.h"
 
 namespace {
 
@@ -45,7 +46,7 @@ void TrayPanelHeader::showStatus(const MonitorStatus &status)
     m_status = status;
     showOrDash(m_name, status.name);
     m_dot->setAccessibleName(status.state);
-    m_dot->setStyleSheet(status.isGood ? QStringLiteral("color: #00ff71;") : QStringLiteral("color: #da676d;"));
+    m_dot->setStyleSheet(status.isGood ? Palette::styled(u"color: @signal;") : Palette::styled(u"color: @error;"));
     showState();
 }
 

@@ -8,6 +8,7 @@
 
 #include "controls/dash.h"
 #include "controls/lefttabbutton.h"
+#include "controls/palette.h"
 #include "controls/picturelabel.h"
 #include "controls/pictures.h"
 #include "ddc_protocol/devicestate.h"
@@ -105,7 +106,7 @@ QWidget *pageServicesSetting::buildVersion()
 {
     m_version = new QLabel(this);
     m_version->setObjectName(QStringLiteral("displayVersion"));
-    m_version->setStyleSheet(QStringLiteral("color: #7bfadb; font-size: 28px;"));
+    m_version->setStyleSheet(Palette::styled(u"color: @mint; font-size: 28px;"));
     texts().bind(kVersion, [this](const QString &text) { m_version->setAccessibleDescription(text); });
     return m_version;
 }
@@ -129,10 +130,10 @@ QWidget *pageServicesSetting::buildAction(const char *label, const char *picture
     button->setFixedSize(220, 52);
     const QString base = Pictures::kRoot + QLatin1String(kPictures) + QLatin1String(pictures);
     button->setStyleSheet(
-        QStringLiteral("QPushButton { border-image: url(%1_normal.png); color: #c9c9c9; padding-left: 40px;"
-                       " font-size: 16px; }"
-                       "QPushButton:hover, QPushButton:focus, QPushButton:pressed { border-image: url(%1_check.png);"
-                       " color: #ffffff; }")
+        Palette::styled(u"QPushButton { border-image: url(%1_normal.png); color: @soft; padding-left: 40px;"
+                        " font-size: 16px; }"
+                        "QPushButton:hover, QPushButton:focus, QPushButton:pressed { border-image: url(%1_check.png);"
+                        " color: @text; }")
             .arg(base));
     texts().bind(label, [button](const QString &text) { button->setText(text); });
     connect(button, &QPushButton::clicked, this, pressed);

@@ -8,6 +8,7 @@
 #include "controls/captionlabel.h"
 #include "controls/colorpicker.h"
 #include "controls/metrics.h"
+#include "controls/palette.h"
 #include "controls/sharedfonts.h"
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/devicestate.h"
@@ -27,7 +28,7 @@ QLabel *makeCaption(QWidget *parent)
 {
     auto *label = new CaptionLabel(QString(), kCaptionPixels, parent);
     label->setFixedHeight(metrics::kControlHeight);
-    label->setStyleSheet(QStringLiteral("color: #FFFFFF;"));
+    label->setStyleSheet(Palette::styled(u"color: @text;"));
     return label;
 }
 
@@ -117,7 +118,7 @@ QWidget *pageEmberline::buildTemperatureEnds()
     row->setContentsMargins(metrics::kCaptionWidth + metrics::kGap, 0, kValueWidth, 0);
     for (const char *label : {LABEL("Warm"), LABEL("Cold")}) {
         QLabel *caption = makeCaption(ends);
-        caption->setStyleSheet(QStringLiteral("color: #adadad;"));
+        caption->setStyleSheet(Palette::styled(u"color: @dim;"));
         caption->setFixedHeight(kEndsHeight); // which keeps it close to its slider
         texts().bind(label, [caption](const QString &text) { caption->setText(text); });
         if (row->count() != 0)

@@ -1,4 +1,5 @@
 #include "page/IO/pageiosetting.h"
+#include "controls/palette.h"
 #include "ddc_protocol/devicestate.h"
 
 #include "controls/picturelabel.h"
@@ -39,7 +40,7 @@ QWidget *pageIOSetting::buildPart(const char *name)
         part = m_inputNow = new QLabel(this);
     part->setFont(noteFont);
     part->setObjectName(QLatin1String(name));
-    part->setStyleSheet(QStringLiteral("color: #9cffc8;"));
+    part->setStyleSheet(Palette::styled(u"color: @bright;"));
     return part;
 }
 

@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "controls/metrics.h"
+#include "controls/palette.h"
 #include "page/OledCare/carecalendar.h"
 #include "page/OledCare/carehistory.h"
 #include "page/engine/boundtexts.h"
@@ -13,12 +14,12 @@
 
 namespace {
 
-QLabel *makeLine(const char *style, QWidget *parent)
+QLabel *makeLine(QStringView style, QWidget *parent)
 {
     auto *line = new QLabel(parent);
     line->setWordWrap(true);
     line->setTextFormat(Qt::PlainText);
-    line->setStyleSheet(QLatin1String(style));
+    line->setStyleSheet(Palette::styled(style));
     return line;
 }
 
@@ -44,13 +45,13 @@ QString nextCare(const CareFacts &facts)
 } // namespace
 
 CarePanel::CarePanel(BoundTexts &texts, QWidget *parent)
-    : QFrame(parent), m_calendar(new CareCalendar(this)), m_used(makeLine("color: #ffffff; font-size: 17px;", this)),
-      m_last(makeLine("color: #c9c9c9; font-size: 14px;", this)),
-      m_next(makeLine("color: #9cffc8; font-size: 15px;", this)),
+    : QFrame(parent), m_calendar(new CareCalendar(this)), m_used(makeLine(u"color: @text; font-size: 17px;", this)),
+      m_last(makeLine(u"color: @soft; font-size: 14px;", this)),
+      m_next(makeLine(u"color: @bright; font-size: 15px;", this)),
       m_start(makePlainButton(LABEL("Start care"), QStringLiteral("startCare"), texts, this))
 {
-    auto *legend = makeLine("color: #8d9a94; font-size: 13px;", this);
-    auto *effect = makeLine("color: #adadad; font-size: 14px;", this);
+    auto *legend = makeLine(u"color: @hint; font-size: 13px;", this);
+    auto *effect = makeLine(u"color: @dim; font-size: 14px;", this);
     texts.bind(LABEL("Lighter = used longer that day, ring = cared for."),
                [legend](const QString &text) { legend->setText(text); });
     texts.bind(

@@ -35,7 +35,7 @@ QString wordOf(const OptionGroup &group, int value)
 UndoBar::UndoBar(QWidget *parent) : QFrame(parent), m_text(new QLabel(this)), m_button(new QPushButton(this))
 {
     setObjectName(QStringLiteral("undoBar"));
-    m_text->setStyleSheet(QStringLiteral("color: #c9c9c9; font-size: 14px;"));
+    m_text->setStyleSheet(Palette::styled(u"color: @soft; font-size: 14px;"));
     m_text->setTextFormat(Qt::PlainText);
     m_text->setWordWrap(true);
     m_button->setProperty("plain", true);

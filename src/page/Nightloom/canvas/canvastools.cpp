@@ -8,6 +8,7 @@
 #include <QShortcut>
 
 #include "controls/captionlabel.h"
+#include "controls/palette.h"
 #include "controls/sharedfonts.h"
 #include "controls/sliderwidget.h"
 #include "ledmatrix/animationfile.h"
@@ -136,7 +137,7 @@ QWidget *CanvasTools::buildModeBox()
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(8);
     auto *caption = new CaptionLabel(QString(), 15, part);
-    caption->setStyleSheet(QStringLiteral("QLabel { color: #ffffff; } QLabel:disabled { color: #696969; }"));
+    caption->setStyleSheet(Palette::styled(u"QLabel { color: @text; } QLabel:disabled { color: @disabled; }"));
     caption->setFixedWidth(kToolCaptionWidth);
     QComboBox *modes = makeDropDown(part);
     modes->setObjectName(QStringLiteral("modes"));
