@@ -155,6 +155,11 @@ void TestCanvas::keyboardReachesTheCells()
     page->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(page.get()));
     page->tabs()->tabBar()->setFocus(Qt::TabFocusReason);
+    for (const auto &[key, open] :
+         {std::pair(Qt::Key_Home, 1), {Qt::Key_Space, 0}, {Qt::Key_Right, 0}, {Qt::Key_Enter, 1}}) {
+        QTest::keyClick(page->focusWidget(), key);
+        QCOMPARE(page->tabs()->currentIndex(), open); // arrows only move
+    }
     QTest::keyClick(page->focusWidget(), Qt::Key_Tab);
     MatrixEditor *editor = page->tabs()->currentEditor();
     QCOMPARE(page->focusWidget(), editor);

@@ -6,8 +6,8 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalBlocker>
-#include <QTabBar>
 
+#include "page/Nightloom/canvas/numberbar.h"
 #include "page/Nightloom/parts/matrixeditor.h"
 
 /// What a tab holds: a frame's editor on its sheet. It is light, for there are many; what scrolls is lent to it while
@@ -51,26 +51,6 @@ protected:
 private:
     QScrollArea *m_view = nullptr;
 };
-
-namespace {
-
-/// Numbers need no measuring: the bar asks for every tab's size again whenever one comes.
-class NumberBar : public QTabBar
-{
-public:
-    using QTabBar::QTabBar;
-
-protected:
-    QSize tabSizeHint(int index) const override
-    {
-        constexpr int kMargins = 22;
-        constexpr int kDigit = 9;
-        constexpr int kHeight = 32;
-        return {kMargins + kDigit * std::max(static_cast<int>(tabText(index).size()), 2), kHeight};
-    }
-};
-
-} // namespace
 
 FrameTabs::FrameTabs(QWidget *parent) : QTabWidget(parent), m_view(new QScrollArea(this))
 {
