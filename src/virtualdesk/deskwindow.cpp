@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "virtualdesk/accessorypanel.h"
+#include "virtualdesk/deskroles.h"
 #include "virtualdesk/desktoppanel.h"
 #include "virtualdesk/monitorpanel.h"
 #include "virtualdesk/soundpanel.h"
@@ -61,6 +62,7 @@ QToolTip { color: #ffffff; background-color: #1b2320; border: 1px solid rgb(27,8
 
 DeskWindow::DeskWindow(VirtualDesk &desk) : m_tabs(new QTabWidget(this))
 {
+    describeDeskToAssistiveSoftware();
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_QuitOnClose, false);
     setAttribute(Qt::WA_StyledBackground);
@@ -88,6 +90,7 @@ template <class Panel> void DeskWindow::addPanel(VirtualDesk &desk, const char *
     const int place = m_tabs->addTab(panel, QString());
     m_retranslate.push_back([this, panel, place, title] {
         m_tabs->setTabText(place, QObject::tr(title));
+        panel->setAccessibleName(QObject::tr(title));
         panel->retranslate();
     });
 }

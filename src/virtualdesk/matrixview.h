@@ -11,6 +11,8 @@ namespace virtualdesk {
 /// the even ones.
 class MatrixView : public QWidget
 {
+    Q_OBJECT
+
 public:
     explicit MatrixView(QWidget *parent);
 

@@ -127,6 +127,7 @@ void MonitorPanel::buildFaults()
 void MonitorPanel::retranslate()
 {
     m_osdTitle->setText(QObject::tr("On-screen menu"));
+    m_osd->setAccessibleName(m_osdTitle->text());
     m_requestsTitle->setText(QObject::tr("Requests"));
     m_selector->setAccessibleName(QObject::tr("Simulated monitor"));
     m_selector->setToolTip(QObject::tr("The simulated monitor that is shown here"));

@@ -122,6 +122,7 @@ void ScreenView::show(const SimulatedMonitor &monitor)
     m_picture = picture;
     m_caption = caption;
     m_plugged = plugged;
+    setAccessibleDescription(plugged ? caption : QObject::tr("Unplugged"));
     develop();
 }
 

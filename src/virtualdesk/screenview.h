@@ -12,6 +12,8 @@ class SimulatedMonitor;
 /// The front of a monitor: a test scene as the panel would show it with its current values.
 class ScreenView : public QWidget
 {
+    Q_OBJECT
+
 public:
     explicit ScreenView(QWidget *parent = nullptr);
 
