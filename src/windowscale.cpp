@@ -20,10 +20,14 @@ double factorOf(const QByteArray &text)
 
 double scaleToFit(const platform::WorkArea &area, const QSize &window)
 {
-    const double wide = area.pixels.width() / (window.width() * area.scale);
-    const double high = area.pixels.height() / (window.height() * area.scale);
-    const double fitting = std::floor(std::min(wide, high) * 1000) / 1000; // no pixel too many by rounding
-    return std::clamp(fitting, std::min(1 / area.scale, 1.0), 1.0);
+    const auto share = [&area](int pixels, int points) {
+        return std::floor(pixels / (points * area.scale) * 1000) / 1000; // no pixel too many by rounding
+    };
+    const double wide = share(area.pixels.width(), window.width());
+    const double high = share(area.pixels.height(), window.height());
+    // Pages scroll where the window is lower; sideways nothing does.
+    const double least = std::min({1 / area.scale, 1.0, wide});
+    return std::clamp(std::min(wide, high), least, 1.0);
 }
 
 int heightToFit(const platform::WorkArea &area, double ratio)

@@ -136,7 +136,8 @@ void TestStart::windowFitsTheScreen()
                                                              {QSize(1366, 728), 1.0, "", "", 728},
                                                              {QSize(1366, 728), 1.25, "", "0.8", 728},
                                                              {QSize(1920, 1020), 1.0, "1.5", "1.275", 800},
-                                                             {QSize(1024, 500), 1.0, "junk", "junk", 600},
+                                                             {QSize(1024, 500), 1.0, "junk", "0.8", 625},
+                                                             {QSize(1080, 1880), 1.0, "", "0.843", 800},
                                                              {QSize(3840, 2060), 2.0, "", "", 800}}) {
         if (*own)
             qputenv("QT_SCALE_FACTOR", own);
