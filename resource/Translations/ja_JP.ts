@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>Animate: 1050 cells a frame. Aligned: %1, as this form saves.</source>
-        <translation>アニメーション: 1 フレーム 1050 セル。整列: この形状で保存するときと同じ %1 セル。</translation>
+        <translation>1 フレームは 1050 セル。整列ではこの形状の %1 セル。</translation>
     </message>
     <message>
         <source>Animations</source>
@@ -2393,7 +2393,7 @@
     </message>
     <message>
         <source>On now.</source>
-        <translation>現在オンです。</translation>
+        <translation>現在の設定です。</translation>
     </message>
     <message>
         <source>On now: %1</source>

@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>Animate: 1050 cells a frame. Aligned: %1, as this form saves.</source>
-        <translation>动画：每帧 1050 格。对齐：每帧 %1 格，与此形状的保存格式相同。</translation>
+        <translation>每帧 1050 格；对齐为此形状的 %1 格。</translation>
     </message>
     <message>
         <source>Animations</source>
@@ -2393,7 +2393,7 @@
     </message>
     <message>
         <source>On now.</source>
-        <translation>当前已启用。</translation>
+        <translation>当前设置。</translation>
     </message>
     <message>
         <source>On now: %1</source>

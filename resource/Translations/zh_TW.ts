@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>Animate: 1050 cells a frame. Aligned: %1, as this form saves.</source>
-        <translation>動畫：每個畫格 1050 格。對齊：每個畫格 %1 格，與此形狀的儲存格式相同。</translation>
+        <translation>每個畫格 1050 格；對齊為此形狀的 %1 格。</translation>
     </message>
     <message>
         <source>Animations</source>
@@ -2393,7 +2393,7 @@
     </message>
     <message>
         <source>On now.</source>
-        <translation>目前已啟用。</translation>
+        <translation>目前設定。</translation>
     </message>
     <message>
         <source>On now: %1</source>
