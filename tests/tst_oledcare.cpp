@@ -242,6 +242,7 @@ void TestOledCare::fromUseToCare()
     const QString said = m_page->carePanel()->lines().join('|');
     QVERIFY2(said.contains("0.0 hours of use since") && said.contains("after 4.0 more"), qPrintable(said));
     const QDateTime last = *history.last;
+    pass(1s, 1s);                 // until the page has been told what it asked for
     deviceState.forgetSettings(); // as when the program starts
     m_desk->monitor().setValue(0x08, 1);
     m_page = std::make_unique<AskedPage>(*m_queue);
