@@ -33,6 +33,15 @@ static const std::pair<const char *, const char *> kMeant[] = {
     {"Gama (26): nothing offers its option 6", "sRGB comes with a scene mode"},
     {"Matrix Brightness (72): nothing of the program reaches it", "the accessory's page is built by itself"},
     {"Playback Level (73): nothing of the program reaches it", ""},
+    {"Light Color R (7a): nothing of the program reaches it", "its page builds the choice of a colour by itself"},
+    {"Light Color G (7b): nothing of the program reaches it", ""},
+    {"Light Color B (7c): nothing of the program reaches it", ""},
+    {"Rhythm Color (86): nothing of the program reaches it", "the rhythm sends it"},
+    {"Rhythm Color L (88): nothing of the program reaches it", ""},
+    {"Rhythm Color R (89): nothing of the program reaches it", ""},
+    {"Care Running (05): nothing of the program reaches it", "the care panel asks for it"},
+    {"Care Due (08): nothing of the program reaches it", ""},
+    {"Start care (0e): nothing of the program reaches it", "the care panel's button"},
     {"Scene (22): nothing offers mode 25", "every monitor takes what belongs to its MPCS"},
     {"Scene (22): nothing offers mode 27", ""},
 };
@@ -51,6 +60,8 @@ class TestAgreement : public DeskSuite
         const QString text = QStringLiteral("%1 (%2): %3").arg(name).arg(code, 2, 16, QChar('0')).arg(how);
         m_differences[text].insert(m_monitor->model().name);
     }
+
+    static bool hasName(std::uint8_t code) { return *nameOf(static_cast<Command>(code)).label != '\0'; }
 
     /// The monitor has the function, and takes the value, if there is one, as it is.
     void offer(Command command, const QString &name, std::optional<int> value = {})
@@ -133,7 +144,9 @@ class TestAgreement : public DeskSuite
     {
         for (const std::uint8_t code : commandCodes()) {
             const OsdFunction function = osdFunction(code);
-            if (hasFunction(m_monitor->model(), code) && !m_offered.contains(code))
+            // What has no menu entry is reached by what its name is used for.
+            const bool isReached = *function.name == '\0' ? hasName(code) : m_offered.contains(code);
+            if (hasFunction(m_monitor->model(), code) && !isReached)
                 differ(code, function.name, "nothing of the program reaches it");
             for (const OsdOption &option : function.options) {
                 if (m_offered.contains(code) && !m_offered[code].contains(option.value))
@@ -155,15 +168,14 @@ class TestAgreement : public DeskSuite
         walkPages();
         walkKeys();
         for (const auto &[code, values] : m_offered) {
-            const auto isIts = [code](const CommandName &name) { return static_cast<int>(name.command) == code; };
-            if (std::ranges::none_of(commandNames(), isIts))
+            if (!hasName(static_cast<std::uint8_t>(code)))
                 differ(static_cast<std::uint8_t>(code), "", "it has no name");
         }
-        for (const CommandName &name : commandNames()) {
+        lookFromTheMonitor();
+        for (const CommandName &name : commandNames()) { // also those that no page or key offers
             if (deviceState.has(name.needs))
                 offer(name.command, name.label);
         }
-        lookFromTheMonitor();
     }
 
 private Q_SLOTS:
