@@ -46,12 +46,12 @@ constexpr NavigationEntry kGameAid[] = {
 constexpr NavigationEntry kOledCare[] = {{LABEL("Care Content"), "care_content", PageId::OledCare, 0, 0,
                                           bit(Capability::OledPanel), LABEL("%1 has no OLED panel to care for.")}};
 constexpr NavigationEntry kNightLoom[] = {
-    {LABEL("Animate Mode"), "led_animate"},
+    {LABEL("Animate Mode"), "led_animate", PageId::LedAnimate},
     {LABEL("Text Mode"), "led_text", PageId::LedText},
     {LABEL("Music Mode"), "led_music", PageId::LedMusic},
     {LABEL("System Settings"), "led_system", PageId::LedSystem},
     {LABEL("Custom Mode"), "led_custom", PageId::LedCanvas},
-    {LABEL("Game VS"), "game_vs"},
+    {LABEL("Game VS"), "game_vs", PageId::LedGame},
 };
 constexpr NavigationEntry kBasic[] = {
     {LABEL("System Settings"), "system_settings", PageId::SystemSetting},

@@ -1,6 +1,18 @@
 #include <QPushButton>
+#include <QSpinBox>
 #include <QtTest>
 
+#include "controls/sliderwidget.h"
+#include "ddc_protocol/commandqueue.h"
+#include "page/Nightloom/animate/memorycard.h"
+#include "page/Nightloom/animate/pageledanimate.h"
+#include "page/Nightloom/game/pageledgame.h"
+#include "page/Nightloom/parts/smallmatrix.h"
+#include "page/Nightloom/render/eventpictures.h"
+#include "page/Nightloom/work/ledworkthread.h"
+#include "page/Nightloom/work/livedisplay.h"
+#include "page/engine/optiongrouprow.h"
+#include "searchdevicedlg.h"
 #include "support/accessoryfixture.h"
 #include "support/matrixforms.h"
 #include "usb-hid/hidtransport.h"
@@ -23,12 +35,13 @@ QByteArray hex(const AccessoryReport &report)
 
 } // namespace
 
-/// The reports, what the accessory makes of wrong ones, and finding, opening and closing it, by the program and by hand
-/// on the desk's panel.
+/// The reports, what the accessory makes of wrong ones, finding, opening and closing it, by the program and by hand on
+/// the desk's panel, and the pages on which one only chooses.
 class TestAccessory : public AccessoryFixture
 {
     Q_OBJECT
 private Q_SLOTS:
+    void cleanup();
     void reports_data();
     void reports();
     void deviceRefusesWrongReports();
@@ -36,7 +49,46 @@ private Q_SLOTS:
     void findAndOpen();
     void flagsAreSticky();
     void panelShowsTheAccessory();
+    void animationsAreChosen();
+    void memoriesPlay();
+    void gameEventsAreChosen();
+    void eventPicturesFit();
+
+private:
+    /// The reports since the last call, without the zeros at their end.
+    QStringList takeReports();
+
+    template <typename Page> std::unique_ptr<Page> makePage()
+    {
+        connectDevice();
+        if (!m_queue)
+            m_queue = std::make_unique<CommandQueue>();
+        const auto check = [this] {
+            ++m_checks;
+            if (m_onCheck)
+                std::exchange(m_onCheck, {})();
+            return m_connected;
+        };
+        auto page = std::make_unique<Page>(check, m_display, *m_queue);
+        page->build();
+        page->show();
+        return page;
+    }
+
+    LiveDisplay m_display;
+    std::unique_ptr<CommandQueue> m_queue;
+    bool m_connected = true;
+    int m_checks = 0;
+    std::function<void()> m_onCheck; ///< once, while the user is told
 };
+
+void TestAccessory::cleanup()
+{
+    ledWorkThread::shutDown();
+    m_queue.reset();
+    m_connected = true;
+    AccessoryFixture::cleanup();
+}
 
 void TestAccessory::reports_data()
 {
@@ -178,6 +230,133 @@ void TestAccessory::panelShowsTheAccessory()
         QCOMPARE(writeHid(report), i < 8 ? HidWrite::Done : HidWrite::Failed);
     QTRY_VERIFY(button("unplug")->isChecked());
     QVERIFY(!button("pull")->isChecked());
+}
+
+QStringList TestAccessory::takeReports()
+{
+    static const QRegularExpression kZeros(QStringLiteral("(00)+$"));
+    QStringList reports;
+    for (const auto &write : accessory().history())
+        reports += QString::fromLatin1(write.bytes.toHex()).remove(kZeros);
+    accessory().clearHistory();
+    return reports;
+}
+
+/// The monitor is told as well, even what the accessory did not take.
+void TestAccessory::animationsAreChosen()
+{
+    SearchDeviceDlg().searchDevices();
+    auto page = makePage<pageLEDAnimate>();
+    const auto chosen = [&page] {
+        QList<int> places;
+        const auto &buttons = page->memoryOptions()->buttons();
+        for (int i = 0; i < static_cast<int>(buttons.size()); ++i) {
+            if (buttons[static_cast<std::size_t>(i)]->isChecked())
+                places += i;
+        }
+        return places;
+    };
+    const auto press = [&](std::size_t place) {
+        page->memoryOptions()->buttons()[place]->click();
+        m_queue->drain();
+    };
+    QCOMPARE(chosen(), QList<int>());
+    QCOMPARE(page->memoryOptions()->mark(), Mark::Unchosen); // the accessory does not tell
+    m_desk->takeCommands();
+    for (const std::size_t place : {3u, 0u, 3u, 4u, 4u, 0u})
+        press(place);
+    QCOMPARE(takeReports(), (QStringList{"01b00b270d37", "01b00b24273c0c", "01b00b240c77", "01b00b2428384c",
+                                         "01b00b240c77", "01b00bb735"}));
+    QCOMPARE(m_desk->takeCommands(), (QStringList{"W 70=1", "W 67=1", "W 70=0", "W 71=1", "W 71=0", "W 67=0"}));
+    QVERIFY(chosen().isEmpty() && page->memoryOptions()->mark() == Mark::None); // none is a choice as well
+    press(0);
+    accessory().refuseWrites(1);
+    press(1);
+    m_connected = false;
+    press(2);
+    QCOMPARE(takeReports(), (QStringList{"01b00b240c77", "01b00b2425fd8d"})); // the second in vain
+    QCOMPARE(m_desk->takeCommands(), (QStringList{"W 67=1", "W 68=1"}));
+    QCOMPARE(chosen(), (QList<int>{0, 1}));
+    page = makePage<pageLEDAnimate>();
+    QCOMPARE(chosen(), (QList<int>{0, 1}));
+    m_connected = true;
+    m_desk->desk.fileFaults.flush.failAt(1);
+    press(0);
+    QVERIFY(page->notice().startsWith(QStringLiteral("config.ini cannot be written:")));
+    QVERIFY(chosen() == QList<int>{1} && takeReports().size() == 1);
+}
+
+void TestAccessory::memoriesPlay()
+{
+    useForm(0);
+    const QByteArray lit(949, '1');
+    QVERIFY(writeText("sent.txt", lit + QByteArray(949, 'x') + "11")); // the rest is no frame
+    QCOMPARE(keepUploaded(kAnimationMemories[1], "sent.txt", kTapering), QString());
+    const auto page = makePage<pageLEDAnimate>();
+    const auto shown = [&page](std::size_t card) { return page->cards()[card]->picture()->frame()->digits(); };
+    const MemoryCard *card = page->cards()[1];
+    QCOMPARE(card->note(), QStringLiteral("Frames: 2"));
+    QCOMPARE(shown(1), lit);
+    m_desk->clock.advance(std::chrono::milliseconds(100));
+    QCOMPARE(shown(1), QByteArray(949, '0'));
+    page->hide();
+    QVERIFY(!card->isPlaying());
+    useForm(1);
+    page->show();
+    QCOMPARE(card->note(), QStringLiteral("Uploaded for another form of the matrix."));
+    QVERIFY(page->cards()[3]->note().contains(QStringLiteral("\"Mode4\""))); // nothing was uploaded there
+    QVERIFY(!card->isPlaying() && shown(1) == QByteArray(1050, '0'));
+}
+
+void TestAccessory::gameEventsAreChosen()
+{
+    auto page = makePage<pageLEDGame>();
+    const auto events = [&page](std::size_t place) { return page->eventOptions()->buttons()[place]; };
+    QCOMPARE(page->eventOptions()->mark(), Mark::Unchosen);
+    for (QPushButton *button : {page->findChild<QPushButton *>("Select All"), events(0), events(6),
+                                page->findChild<QPushButton *>("Select None"), events(1), events(7)})
+        button->click();
+    QCOMPARE(takeReports(), (QStringList{"0602fefefefefefefefe", "060200fefefefefefefe", "060200fefefefefe00fe", "0602",
+                                         "060200fe", "060200fe0000000000fe"}));
+    const auto setInterval = [&page](int seconds) {
+        page->intervalField()->setValue(seconds);
+        QTest::keyClick(page->intervalField(), Qt::Key_Return);
+    };
+    setInterval(61);
+    page->brightnessSlider()->setValue(4);
+    page->brightnessSlider()->setValue(3);
+    page->brightnessSlider()->onSliderReleased();
+    QCOMPARE(takeReports(), (QStringList{"06013c0a", "06013c03"}));
+    m_connected = false;
+    m_checks = 0;
+    m_onCheck = [&page] { Q_EMIT page->intervalField()->editingFinished(); }; // the box takes the keyboard
+    setInterval(7);
+    events(2)->click();
+    QVERIFY(m_checks == 2 && takeReports().isEmpty());
+    QVERIFY(page->intervalField()->value() == 60 && !events(2)->isChecked());
+    m_connected = true;
+    page = makePage<pageLEDGame>();
+    QVERIFY(page->intervalField()->value() == 60 && page->brightnessSlider()->value() == 3);
+    QVERIFY(events(1)->isChecked() && events(7)->isChecked() && !events(6)->isChecked());
+    QVERIFY(takeReports().isEmpty()); // filling sends nothing
+    useForm(1);
+    QEvent enter(QEvent::FocusIn);
+    QCoreApplication::sendEvent(events(5), &enter);
+    QVERIFY(page->picture()->frame() == eventPicture(kRectangle, GameEvent::LowHealth));
+}
+
+/// A dot is two cells of the tapering form and four of the rectangle: none is lost on either.
+void TestAccessory::eventPicturesFit()
+{
+    QSet<QByteArray> pictures;
+    for (int event = 0; event < kGameEvents; ++event) {
+        const QByteArray tapering = eventPicture(kTapering, static_cast<GameEvent>(event)).digits();
+        const QByteArray rectangle = eventPicture(kRectangle, static_cast<GameEvent>(event)).digits();
+        QCOMPARE(rectangle.count('1'), 2 * tapering.count('1'));
+        QVERIFY(tapering.count('1') > 80); // to be seen from afar
+        pictures += {tapering, rectangle};
+    }
+    QCOMPARE(pictures.size(), 2 * kGameEvents);
 }
 
 QTEST_MAIN(TestAccessory)

@@ -15,6 +15,7 @@
 #include "page/Game/picturetable.h"
 #include "page/IO/iotable.h"
 #include "page/MultiWindow/multiwindowtable.h"
+#include "page/Nightloom/animate/memorycommands.h"
 #include "page/Office/officetable.h"
 #include "page/OledCare/caretable.h"
 #include "page/Scene/scenetable.h"
@@ -116,6 +117,10 @@ class TestAgreement : public DeskSuite
                 if (isOffered(panel, deviceState))
                     walkSections(panel.sections);
             }
+        }
+        for (const Command memory : kMemoryCommands) {
+            offer(memory, "Played", 0);
+            offer(memory, "Played", 1);
         }
         walkSections(sceneSections());
         for (const SceneMode &mode : sceneModes()) {

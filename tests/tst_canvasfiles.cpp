@@ -14,6 +14,7 @@
 namespace {
 
 constexpr const char *kDataFile = pageLEDMatrixCanvas::kDataFile;
+const QString kKept = QStringLiteral("LEDMatrixMode5.txt");   // what the last memory has
 const QByteArray kTaperingFrame = QByteArray(948, '0') + "1"; // a frame
 
 } // namespace
@@ -264,6 +265,7 @@ void TestCanvasFiles::upload()
     connectDevice();
     const auto page = makePage();
     page->findChild<QComboBox *>()->setCurrentIndex(4);
+    QVERIFY(writeText(kKept, "what was in it before"));
     for (int i = 0; i < 24; ++i) // 425 chunks: its progress passes 100 on its way
         page->addFrame();
     QVERIFY(finish(*page, &AnsweredCanvas::saveAnimate));
@@ -283,6 +285,9 @@ void TestCanvasFiles::upload()
     QCOMPARE(int(upload.mode), connected && pulledAt != 1 ? 0x28 : 0);
     QVERIFY(page->button("Write Animate")->isEnabled());
     QCOMPARE(page->busyEvents.count(), connected ? 4 : 2);
+    QCOMPARE(QFile::exists(kKept), upload.isComplete() || !connected); // nobody knows what is in it now
+    if (upload.isComplete())
+        QCOMPARE(readText(kKept), before.join());
 }
 
 void TestCanvasFiles::cancelledUpload()

@@ -608,6 +608,10 @@
         <translation>Asked again; nothing to do.</translation>
     </message>
     <message>
+        <source>Assist</source>
+        <translation>Assist</translation>
+    </message>
+    <message>
         <source>Audio Mode</source>
         <translation>Audio Mode</translation>
     </message>
@@ -1076,6 +1080,10 @@
         <translation>Default</translation>
     </message>
     <message>
+        <source>Defeat</source>
+        <translation>Defeat</translation>
+    </message>
+    <message>
         <source>Delete</source>
         <translation>Delete</translation>
     </message>
@@ -1158,6 +1166,10 @@
     <message>
         <source>Dotted cross</source>
         <translation>Dotted cross</translation>
+    </message>
+    <message>
+        <source>Double Kill</source>
+        <translation>Double Kill</translation>
     </message>
     <message>
         <source>Draw a line through a zone to cut it, or drag an edge. With the keyboard: the arrows choose a zone, Ctrl and an arrow moves its edge.</source>
@@ -1258,6 +1270,10 @@
     <message>
         <source>European broadcasting primaries.</source>
         <translation>European broadcasting primaries.</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>Events</translation>
     </message>
     <message>
         <source>Every packet holds 7001 frames until the button is released</source>
@@ -1572,6 +1588,10 @@
         <translation>HawkEye Zoom</translation>
     </message>
     <message>
+        <source>Headshot</source>
+        <translation>Headshot</translation>
+    </message>
+    <message>
         <source>Height</source>
         <translation>Height</translation>
     </message>
@@ -1734,6 +1754,10 @@
     <message>
         <source>Keys of the numeric pad cannot be used.</source>
         <translation>Keys of the numeric pad cannot be used.</translation>
+    </message>
+    <message>
+        <source>Kill</source>
+        <translation>Kill</translation>
     </message>
     <message>
         <source>Knowledge</source>
@@ -1964,6 +1988,10 @@
         <translation>Low Blue Light</translation>
     </message>
     <message>
+        <source>Low Health</source>
+        <translation>Low Health</translation>
+    </message>
+    <message>
         <source>M</source>
         <translation>M</translation>
     </message>
@@ -2042,6 +2070,26 @@
     <message>
         <source>Matrix Lamp</source>
         <translation>Matrix Lamp</translation>
+    </message>
+    <message>
+        <source>Matrix Mode1</source>
+        <translation>Matrix Mode1</translation>
+    </message>
+    <message>
+        <source>Matrix Mode2</source>
+        <translation>Matrix Mode2</translation>
+    </message>
+    <message>
+        <source>Matrix Mode3</source>
+        <translation>Matrix Mode3</translation>
+    </message>
+    <message>
+        <source>Matrix Power Off</source>
+        <translation>Matrix Power Off</translation>
+    </message>
+    <message>
+        <source>Matrix Standby</source>
+        <translation>Matrix Standby</translation>
     </message>
     <message>
         <source>Matrix of the simulated accessory</source>
@@ -2320,8 +2368,16 @@
         <translation>Normal</translation>
     </message>
     <message>
+        <source>Not chosen here yet. The accessory does not tell what it has.</source>
+        <translation>Not chosen here yet. The accessory does not tell what it has.</translation>
+    </message>
+    <message>
         <source>Not told: %1</source>
         <translation>Not told: %1</translation>
+    </message>
+    <message>
+        <source>Not uploaded from here. In Custom Mode it is &quot;%1&quot;.</source>
+        <translation>Not uploaded from here. In Custom Mode it is &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Nothing above the point: for shots that fall.</source>
@@ -2536,12 +2592,28 @@
         <translation>Playback Level</translation>
     </message>
     <message>
+        <source>Played</source>
+        <translation>Played</translation>
+    </message>
+    <message>
+        <source>Playing Interval</source>
+        <translation>Playing Interval</translation>
+    </message>
+    <message>
         <source>Plugged in</source>
         <translation>Plugged in</translation>
     </message>
     <message>
+        <source>Point at an event to see its picture.</source>
+        <translation>Point at an event to see its picture.</translation>
+    </message>
+    <message>
         <source>Power LED</source>
         <translation>Power LED</translation>
+    </message>
+    <message>
+        <source>Power Off Mode</source>
+        <translation>Power Off Mode</translation>
     </message>
     <message>
         <source>Power Saving</source>
@@ -2904,8 +2976,16 @@
         <translation>Sections</translation>
     </message>
     <message>
+        <source>Select All</source>
+        <translation>Select All</translation>
+    </message>
+    <message>
         <source>Select File</source>
         <translation>Select File</translation>
+    </message>
+    <message>
+        <source>Select None</source>
+        <translation>Select None</translation>
     </message>
     <message>
         <source>Sent again and taken; nothing to do.</source>
@@ -3084,6 +3164,10 @@
         <translation>Standard Mode</translation>
     </message>
     <message>
+        <source>Standby Mode</source>
+        <translation>Standby Mode</translation>
+    </message>
+    <message>
         <source>Standing</source>
         <translation>Standing</translation>
     </message>
@@ -3194,6 +3278,10 @@
     <message>
         <source>The accessory did not take everything.</source>
         <translation>The accessory did not take everything.</translation>
+    </message>
+    <message>
+        <source>The accessory has it, but Animate Mode cannot show it: %1</source>
+        <translation>The accessory has it, but Animate Mode cannot show it: %1</translation>
     </message>
     <message>
         <source>The accessory is at work: wait until it has finished, or cancel the work on its page.</source>
@@ -3676,6 +3764,10 @@
         <translation>Trichotomy</translation>
     </message>
     <message>
+        <source>Triple Kill</source>
+        <translation>Triple Kill</translation>
+    </message>
+    <message>
         <source>True colours for design work.</source>
         <translation>True colours for design work.</translation>
     </message>
@@ -3752,6 +3844,10 @@
         <translation>Upload</translation>
     </message>
     <message>
+        <source>Uploaded for another form of the matrix.</source>
+        <translation>Uploaded for another form of the matrix.</translation>
+    </message>
+    <message>
         <source>Use and care of the last five weeks</source>
         <translation>Use and care of the last five weeks</translation>
     </message>
@@ -3806,6 +3902,10 @@
     <message>
         <source>Very cool, bluish white, as on old screens.</source>
         <translation>Very cool, bluish white, as on old screens.</translation>
+    </message>
+    <message>
+        <source>Victory</source>
+        <translation>Victory</translation>
     </message>
     <message>
         <source>Visibly darker, for long days with the same windows.</source>
@@ -3890,6 +3990,14 @@
     <message>
         <source>Which cable the monitor&apos;s USB sockets go to, and how fast the picture comes through DP or Type-C.</source>
         <translation>Which cable the monitor&apos;s USB sockets go to, and how fast the picture comes through DP or Type-C.</translation>
+    </message>
+    <message>
+        <source>Which events of a game the matrix celebrates, how often and how bright.</source>
+        <translation>Which events of a game the matrix celebrates, how often and how bright.</translation>
+    </message>
+    <message>
+        <source>Which of the uploaded animations the matrix plays.</source>
+        <translation>Which of the uploaded animations the matrix plays.</translation>
     </message>
     <message>
         <source>Which of your monitors this tool sets.</source>

@@ -608,6 +608,10 @@
         <translation>読み直しました。操作は不要です。</translation>
     </message>
     <message>
+        <source>Assist</source>
+        <translation>アシスト</translation>
+    </message>
+    <message>
         <source>Audio Mode</source>
         <translation>音声モード</translation>
     </message>
@@ -1076,6 +1080,10 @@
         <translation>デフォルト</translation>
     </message>
     <message>
+        <source>Defeat</source>
+        <translation>敗北</translation>
+    </message>
+    <message>
         <source>Delete</source>
         <translation>削除</translation>
     </message>
@@ -1158,6 +1166,10 @@
     <message>
         <source>Dotted cross</source>
         <translation>点付き十字</translation>
+    </message>
+    <message>
+        <source>Double Kill</source>
+        <translation>ダブルキル</translation>
     </message>
     <message>
         <source>Draw a line through a zone to cut it, or drag an edge. With the keyboard: the arrows choose a zone, Ctrl and an arrow moves its edge.</source>
@@ -1258,6 +1270,10 @@
     <message>
         <source>European broadcasting primaries.</source>
         <translation>欧州の放送規格の三原色です。</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>イベント</translation>
     </message>
     <message>
         <source>Every packet holds 7001 frames until the button is released</source>
@@ -1572,6 +1588,10 @@
         <translation>ホークアイの倍率</translation>
     </message>
     <message>
+        <source>Headshot</source>
+        <translation>ヘッドショット</translation>
+    </message>
+    <message>
         <source>Height</source>
         <translation>高さ</translation>
     </message>
@@ -1734,6 +1754,10 @@
     <message>
         <source>Keys of the numeric pad cannot be used.</source>
         <translation>テンキーのキーは使えません。</translation>
+    </message>
+    <message>
+        <source>Kill</source>
+        <translation>キル</translation>
     </message>
     <message>
         <source>Knowledge</source>
@@ -1964,6 +1988,10 @@
         <translation>ブルーライト低減</translation>
     </message>
     <message>
+        <source>Low Health</source>
+        <translation>体力低下</translation>
+    </message>
+    <message>
         <source>M</source>
         <translation>M</translation>
     </message>
@@ -2042,6 +2070,26 @@
     <message>
         <source>Matrix Lamp</source>
         <translation>マトリクスランプ</translation>
+    </message>
+    <message>
+        <source>Matrix Mode1</source>
+        <translation>マトリクスのモード 1</translation>
+    </message>
+    <message>
+        <source>Matrix Mode2</source>
+        <translation>マトリクスのモード 2</translation>
+    </message>
+    <message>
+        <source>Matrix Mode3</source>
+        <translation>マトリクスのモード 3</translation>
+    </message>
+    <message>
+        <source>Matrix Power Off</source>
+        <translation>マトリクスの電源オフ</translation>
+    </message>
+    <message>
+        <source>Matrix Standby</source>
+        <translation>マトリクスの待機</translation>
     </message>
     <message>
         <source>Matrix of the simulated accessory</source>
@@ -2320,8 +2368,16 @@
         <translation>通常</translation>
     </message>
     <message>
+        <source>Not chosen here yet. The accessory does not tell what it has.</source>
+        <translation>まだここで選択されていません。アクセサリは現在の設定を知らせません。</translation>
+    </message>
+    <message>
         <source>Not told: %1</source>
         <translation>読み取れなかった値: %1</translation>
+    </message>
+    <message>
+        <source>Not uploaded from here. In Custom Mode it is &quot;%1&quot;.</source>
+        <translation>ここからはまだ書き込まれていません。カスタムモードでは「%1」です。</translation>
     </message>
     <message>
         <source>Nothing above the point: for shots that fall.</source>
@@ -2536,12 +2592,28 @@
         <translation>再生レベル</translation>
     </message>
     <message>
+        <source>Played</source>
+        <translation>再生</translation>
+    </message>
+    <message>
+        <source>Playing Interval</source>
+        <translation>再生間隔</translation>
+    </message>
+    <message>
         <source>Plugged in</source>
         <translation>接続済み</translation>
     </message>
     <message>
+        <source>Point at an event to see its picture.</source>
+        <translation>イベントにポインターを合わせると絵柄が表示されます。</translation>
+    </message>
+    <message>
         <source>Power LED</source>
         <translation>電源ランプ</translation>
+    </message>
+    <message>
+        <source>Power Off Mode</source>
+        <translation>電源オフモード</translation>
     </message>
     <message>
         <source>Power Saving</source>
@@ -2904,8 +2976,16 @@
         <translation>カテゴリ</translation>
     </message>
     <message>
+        <source>Select All</source>
+        <translation>すべて選択</translation>
+    </message>
+    <message>
         <source>Select File</source>
         <translation>ファイルを選択</translation>
+    </message>
+    <message>
+        <source>Select None</source>
+        <translation>すべて解除</translation>
     </message>
     <message>
         <source>Sent again and taken; nothing to do.</source>
@@ -3084,6 +3164,10 @@
         <translation>標準モード</translation>
     </message>
     <message>
+        <source>Standby Mode</source>
+        <translation>待機モード</translation>
+    </message>
+    <message>
         <source>Standing</source>
         <translation>固定表示</translation>
     </message>
@@ -3194,6 +3278,10 @@
     <message>
         <source>The accessory did not take everything.</source>
         <translation>アクセサリがすべてのデータを受け取れませんでした。</translation>
+    </message>
+    <message>
+        <source>The accessory has it, but Animate Mode cannot show it: %1</source>
+        <translation>アクセサリには書き込まれましたが、「アニメーション」に表示できません: %1</translation>
     </message>
     <message>
         <source>The accessory is at work: wait until it has finished, or cancel the work on its page.</source>
@@ -3676,6 +3764,10 @@
         <translation>三分割</translation>
     </message>
     <message>
+        <source>Triple Kill</source>
+        <translation>トリプルキル</translation>
+    </message>
+    <message>
         <source>True colours for design work.</source>
         <translation>デザイン作業に適した忠実な色です。</translation>
     </message>
@@ -3752,6 +3844,10 @@
         <translation>アップロード</translation>
     </message>
     <message>
+        <source>Uploaded for another form of the matrix.</source>
+        <translation>別の形のマトリクス用に書き込まれています。</translation>
+    </message>
+    <message>
         <source>Use and care of the last five weeks</source>
         <translation>最近 5 週間の使用とケア</translation>
     </message>
@@ -3806,6 +3902,10 @@
     <message>
         <source>Very cool, bluish white, as on old screens.</source>
         <translation>古い画面のような、青みがかったとても冷たい白です。</translation>
+    </message>
+    <message>
+        <source>Victory</source>
+        <translation>勝利</translation>
     </message>
     <message>
         <source>Visibly darker, for long days with the same windows.</source>
@@ -3890,6 +3990,14 @@
     <message>
         <source>Which cable the monitor&apos;s USB sockets go to, and how fast the picture comes through DP or Type-C.</source>
         <translation>モニターの USB 端子をどのケーブルにつなぐかと、DP または Type-C の映像の速さです。</translation>
+    </message>
+    <message>
+        <source>Which events of a game the matrix celebrates, how often and how bright.</source>
+        <translation>マトリクスが祝うゲームのイベントと、その間隔と輝度です。</translation>
+    </message>
+    <message>
+        <source>Which of the uploaded animations the matrix plays.</source>
+        <translation>マトリクスが再生する、書き込み済みのアニメーションを選びます。</translation>
     </message>
     <message>
         <source>Which of your monitors this tool sets.</source>

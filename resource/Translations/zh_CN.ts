@@ -608,6 +608,10 @@
         <translation>已重新读取，无需处理。</translation>
     </message>
     <message>
+        <source>Assist</source>
+        <translation>助攻</translation>
+    </message>
+    <message>
         <source>Audio Mode</source>
         <translation>音频模式</translation>
     </message>
@@ -1076,6 +1080,10 @@
         <translation>默认</translation>
     </message>
     <message>
+        <source>Defeat</source>
+        <translation>失败</translation>
+    </message>
+    <message>
         <source>Delete</source>
         <translation>删除</translation>
     </message>
@@ -1158,6 +1166,10 @@
     <message>
         <source>Dotted cross</source>
         <translation>带点十字</translation>
+    </message>
+    <message>
+        <source>Double Kill</source>
+        <translation>双杀</translation>
     </message>
     <message>
         <source>Draw a line through a zone to cut it, or drag an edge. With the keyboard: the arrows choose a zone, Ctrl and an arrow moves its edge.</source>
@@ -1258,6 +1270,10 @@
     <message>
         <source>European broadcasting primaries.</source>
         <translation>欧洲广播标准的三原色。</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>事件</translation>
     </message>
     <message>
         <source>Every packet holds 7001 frames until the button is released</source>
@@ -1572,6 +1588,10 @@
         <translation>鹰眼放大倍数</translation>
     </message>
     <message>
+        <source>Headshot</source>
+        <translation>爆头</translation>
+    </message>
+    <message>
         <source>Height</source>
         <translation>高度</translation>
     </message>
@@ -1734,6 +1754,10 @@
     <message>
         <source>Keys of the numeric pad cannot be used.</source>
         <translation>不能使用数字小键盘的按键。</translation>
+    </message>
+    <message>
+        <source>Kill</source>
+        <translation>击杀</translation>
     </message>
     <message>
         <source>Knowledge</source>
@@ -1964,6 +1988,10 @@
         <translation>低蓝光</translation>
     </message>
     <message>
+        <source>Low Health</source>
+        <translation>低血量</translation>
+    </message>
+    <message>
         <source>M</source>
         <translation>M</translation>
     </message>
@@ -2042,6 +2070,26 @@
     <message>
         <source>Matrix Lamp</source>
         <translation>矩阵灯</translation>
+    </message>
+    <message>
+        <source>Matrix Mode1</source>
+        <translation>矩阵模式 1</translation>
+    </message>
+    <message>
+        <source>Matrix Mode2</source>
+        <translation>矩阵模式 2</translation>
+    </message>
+    <message>
+        <source>Matrix Mode3</source>
+        <translation>矩阵模式 3</translation>
+    </message>
+    <message>
+        <source>Matrix Power Off</source>
+        <translation>矩阵关机模式</translation>
+    </message>
+    <message>
+        <source>Matrix Standby</source>
+        <translation>矩阵待机模式</translation>
     </message>
     <message>
         <source>Matrix of the simulated accessory</source>
@@ -2320,8 +2368,16 @@
         <translation>普通</translation>
     </message>
     <message>
+        <source>Not chosen here yet. The accessory does not tell what it has.</source>
+        <translation>尚未在此选择，配件不会告知其当前设置。</translation>
+    </message>
+    <message>
         <source>Not told: %1</source>
         <translation>未读到：%1</translation>
+    </message>
+    <message>
+        <source>Not uploaded from here. In Custom Mode it is &quot;%1&quot;.</source>
+        <translation>尚未从此处写入。对应自定义模式中的“%1”。</translation>
     </message>
     <message>
         <source>Nothing above the point: for shots that fall.</source>
@@ -2536,12 +2592,28 @@
         <translation>播放等级</translation>
     </message>
     <message>
+        <source>Played</source>
+        <translation>播放</translation>
+    </message>
+    <message>
+        <source>Playing Interval</source>
+        <translation>播放间隔</translation>
+    </message>
+    <message>
         <source>Plugged in</source>
         <translation>已连接</translation>
     </message>
     <message>
+        <source>Point at an event to see its picture.</source>
+        <translation>指向事件即可查看其图案。</translation>
+    </message>
+    <message>
         <source>Power LED</source>
         <translation>电源指示灯</translation>
+    </message>
+    <message>
+        <source>Power Off Mode</source>
+        <translation>关机模式</translation>
     </message>
     <message>
         <source>Power Saving</source>
@@ -2904,8 +2976,16 @@
         <translation>栏目</translation>
     </message>
     <message>
+        <source>Select All</source>
+        <translation>全选</translation>
+    </message>
+    <message>
         <source>Select File</source>
         <translation>选择文件</translation>
+    </message>
+    <message>
+        <source>Select None</source>
+        <translation>全不选</translation>
     </message>
     <message>
         <source>Sent again and taken; nothing to do.</source>
@@ -3084,6 +3164,10 @@
         <translation>标准模式</translation>
     </message>
     <message>
+        <source>Standby Mode</source>
+        <translation>待机模式</translation>
+    </message>
+    <message>
         <source>Standing</source>
         <translation>静止</translation>
     </message>
@@ -3194,6 +3278,10 @@
     <message>
         <source>The accessory did not take everything.</source>
         <translation>配件没有接收全部数据。</translation>
+    </message>
+    <message>
+        <source>The accessory has it, but Animate Mode cannot show it: %1</source>
+        <translation>配件已接收，但动画模式无法显示：%1</translation>
     </message>
     <message>
         <source>The accessory is at work: wait until it has finished, or cancel the work on its page.</source>
@@ -3676,6 +3764,10 @@
         <translation>三分法</translation>
     </message>
     <message>
+        <source>Triple Kill</source>
+        <translation>三杀</translation>
+    </message>
+    <message>
         <source>True colours for design work.</source>
         <translation>色彩真实，适合设计工作。</translation>
     </message>
@@ -3752,6 +3844,10 @@
         <translation>上传</translation>
     </message>
     <message>
+        <source>Uploaded for another form of the matrix.</source>
+        <translation>为另一种矩阵形状写入。</translation>
+    </message>
+    <message>
         <source>Use and care of the last five weeks</source>
         <translation>最近五周的使用与护理</translation>
     </message>
@@ -3806,6 +3902,10 @@
     <message>
         <source>Very cool, bluish white, as on old screens.</source>
         <translation>非常冷的偏蓝白色，如同旧式屏幕。</translation>
+    </message>
+    <message>
+        <source>Victory</source>
+        <translation>胜利</translation>
     </message>
     <message>
         <source>Visibly darker, for long days with the same windows.</source>
@@ -3890,6 +3990,14 @@
     <message>
         <source>Which cable the monitor&apos;s USB sockets go to, and how fast the picture comes through DP or Type-C.</source>
         <translation>显示器的 USB 接口连到哪条线缆，以及 DP 或 Type-C 传输画面的速度。</translation>
+    </message>
+    <message>
+        <source>Which events of a game the matrix celebrates, how often and how bright.</source>
+        <translation>矩阵为哪些游戏事件庆祝，以及间隔和亮度。</translation>
+    </message>
+    <message>
+        <source>Which of the uploaded animations the matrix plays.</source>
+        <translation>选择矩阵播放哪些已写入的动画。</translation>
     </message>
     <message>
         <source>Which of your monitors this tool sets.</source>

@@ -608,6 +608,10 @@
         <translation>已重新讀取，無需處理。</translation>
     </message>
     <message>
+        <source>Assist</source>
+        <translation>助攻</translation>
+    </message>
+    <message>
         <source>Audio Mode</source>
         <translation>音訊模式</translation>
     </message>
@@ -1076,6 +1080,10 @@
         <translation>預設</translation>
     </message>
     <message>
+        <source>Defeat</source>
+        <translation>落敗</translation>
+    </message>
+    <message>
         <source>Delete</source>
         <translation>刪除</translation>
     </message>
@@ -1158,6 +1166,10 @@
     <message>
         <source>Dotted cross</source>
         <translation>帶點十字</translation>
+    </message>
+    <message>
+        <source>Double Kill</source>
+        <translation>雙殺</translation>
     </message>
     <message>
         <source>Draw a line through a zone to cut it, or drag an edge. With the keyboard: the arrows choose a zone, Ctrl and an arrow moves its edge.</source>
@@ -1258,6 +1270,10 @@
     <message>
         <source>European broadcasting primaries.</source>
         <translation>歐洲廣播標準的三原色。</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>事件</translation>
     </message>
     <message>
         <source>Every packet holds 7001 frames until the button is released</source>
@@ -1572,6 +1588,10 @@
         <translation>鷹眼放大倍率</translation>
     </message>
     <message>
+        <source>Headshot</source>
+        <translation>爆頭</translation>
+    </message>
+    <message>
         <source>Height</source>
         <translation>高度</translation>
     </message>
@@ -1734,6 +1754,10 @@
     <message>
         <source>Keys of the numeric pad cannot be used.</source>
         <translation>不能使用數字鍵盤的按鍵。</translation>
+    </message>
+    <message>
+        <source>Kill</source>
+        <translation>擊殺</translation>
     </message>
     <message>
         <source>Knowledge</source>
@@ -1964,6 +1988,10 @@
         <translation>低藍光</translation>
     </message>
     <message>
+        <source>Low Health</source>
+        <translation>低血量</translation>
+    </message>
+    <message>
         <source>M</source>
         <translation>M</translation>
     </message>
@@ -2042,6 +2070,26 @@
     <message>
         <source>Matrix Lamp</source>
         <translation>矩陣燈</translation>
+    </message>
+    <message>
+        <source>Matrix Mode1</source>
+        <translation>矩陣模式 1</translation>
+    </message>
+    <message>
+        <source>Matrix Mode2</source>
+        <translation>矩陣模式 2</translation>
+    </message>
+    <message>
+        <source>Matrix Mode3</source>
+        <translation>矩陣模式 3</translation>
+    </message>
+    <message>
+        <source>Matrix Power Off</source>
+        <translation>矩陣關機模式</translation>
+    </message>
+    <message>
+        <source>Matrix Standby</source>
+        <translation>矩陣待機模式</translation>
     </message>
     <message>
         <source>Matrix of the simulated accessory</source>
@@ -2320,8 +2368,16 @@
         <translation>一般</translation>
     </message>
     <message>
+        <source>Not chosen here yet. The accessory does not tell what it has.</source>
+        <translation>尚未在此選擇，配件不會告知目前的設定。</translation>
+    </message>
+    <message>
         <source>Not told: %1</source>
         <translation>未讀到：%1</translation>
+    </message>
+    <message>
+        <source>Not uploaded from here. In Custom Mode it is &quot;%1&quot;.</source>
+        <translation>尚未由此寫入。對應自訂模式中的「%1」。</translation>
     </message>
     <message>
         <source>Nothing above the point: for shots that fall.</source>
@@ -2536,12 +2592,28 @@
         <translation>播放等級</translation>
     </message>
     <message>
+        <source>Played</source>
+        <translation>播放</translation>
+    </message>
+    <message>
+        <source>Playing Interval</source>
+        <translation>播放間隔</translation>
+    </message>
+    <message>
         <source>Plugged in</source>
         <translation>已連接</translation>
     </message>
     <message>
+        <source>Point at an event to see its picture.</source>
+        <translation>指向事件即可查看其圖案。</translation>
+    </message>
+    <message>
         <source>Power LED</source>
         <translation>電源指示燈</translation>
+    </message>
+    <message>
+        <source>Power Off Mode</source>
+        <translation>關機模式</translation>
     </message>
     <message>
         <source>Power Saving</source>
@@ -2904,8 +2976,16 @@
         <translation>分類</translation>
     </message>
     <message>
+        <source>Select All</source>
+        <translation>全選</translation>
+    </message>
+    <message>
         <source>Select File</source>
         <translation>選擇檔案</translation>
+    </message>
+    <message>
+        <source>Select None</source>
+        <translation>全不選</translation>
     </message>
     <message>
         <source>Sent again and taken; nothing to do.</source>
@@ -3084,6 +3164,10 @@
         <translation>標準模式</translation>
     </message>
     <message>
+        <source>Standby Mode</source>
+        <translation>待機模式</translation>
+    </message>
+    <message>
         <source>Standing</source>
         <translation>靜止</translation>
     </message>
@@ -3194,6 +3278,10 @@
     <message>
         <source>The accessory did not take everything.</source>
         <translation>配件沒有接收全部資料。</translation>
+    </message>
+    <message>
+        <source>The accessory has it, but Animate Mode cannot show it: %1</source>
+        <translation>配件已接收，但動畫模式無法顯示：%1</translation>
     </message>
     <message>
         <source>The accessory is at work: wait until it has finished, or cancel the work on its page.</source>
@@ -3676,6 +3764,10 @@
         <translation>三分法</translation>
     </message>
     <message>
+        <source>Triple Kill</source>
+        <translation>三殺</translation>
+    </message>
+    <message>
         <source>True colours for design work.</source>
         <translation>色彩真實，適合設計工作。</translation>
     </message>
@@ -3752,6 +3844,10 @@
         <translation>上傳</translation>
     </message>
     <message>
+        <source>Uploaded for another form of the matrix.</source>
+        <translation>為另一種矩陣形狀寫入。</translation>
+    </message>
+    <message>
         <source>Use and care of the last five weeks</source>
         <translation>最近五週的使用與保養</translation>
     </message>
@@ -3806,6 +3902,10 @@
     <message>
         <source>Very cool, bluish white, as on old screens.</source>
         <translation>非常冷的偏藍白色，如同舊式螢幕。</translation>
+    </message>
+    <message>
+        <source>Victory</source>
+        <translation>勝利</translation>
     </message>
     <message>
         <source>Visibly darker, for long days with the same windows.</source>
@@ -3890,6 +3990,14 @@
     <message>
         <source>Which cable the monitor&apos;s USB sockets go to, and how fast the picture comes through DP or Type-C.</source>
         <translation>顯示器的 USB 連接埠連到哪條纜線，以及 DP 或 Type-C 傳輸畫面的速度。</translation>
+    </message>
+    <message>
+        <source>Which events of a game the matrix celebrates, how often and how bright.</source>
+        <translation>矩陣為哪些遊戲事件慶祝，以及間隔和亮度。</translation>
+    </message>
+    <message>
+        <source>Which of the uploaded animations the matrix plays.</source>
+        <translation>選擇矩陣播放哪些已寫入的動畫。</translation>
     </message>
     <message>
         <source>Which of your monitors this tool sets.</source>

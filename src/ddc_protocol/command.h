@@ -79,6 +79,11 @@ enum class Command : std::uint8_t {
     HawkEyeBrightness = 0x64, ///< option 0 to 4, as the two below
     HawkEyeContrast = 0x65,
     HawkEyeSharpness = 0x66,
+    AccessoryMode1 = 0x67, ///< 0 or 1: the LED-matrix accessory plays the animation of its first memory
+    AccessoryMode2 = 0x68,
+    AccessoryMode3 = 0x69,
+    AccessoryStandby = 0x70,
+    AccessoryPowerOff = 0x71,
     AccessoryBrightness = 0x72, ///< 0 to 10, of the LED-matrix accessory
     AccessoryLevel = 0x73,      ///< 0 to 10, how long the accessory plays an animation
     LightMode = 0x75,           ///< option 0 to 5; lighting at the monitor's back, as all of 0x75 to 0x8D but 0x87

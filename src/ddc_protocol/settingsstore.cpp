@@ -163,6 +163,13 @@ int settingsInt(const QString &key, int value, bool write)
     return 0;
 }
 
+std::optional<int> storedInt(const QString &key)
+{
+    bool isNumber = false;
+    const int value = settingsString(key, {}, false, QString::fromLatin1(kConfigFile)).toInt(&isNumber);
+    return isNumber ? std::optional(value) : std::nullopt;
+}
+
 QList<QPair<QString, QString>> readAllSettings(const QString &fileName)
 {
     return readFrom(fileName, [](const QSettings &file) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include <QList>
 #include <QPair>
 #include <QString>
@@ -23,6 +25,9 @@ QString settingsString(const QString &key, const QString &value, bool write, con
 
 /// As settingsString for an integer, always in config.ini. Write returns 0; read the integer, 0 when absent or none.
 int settingsInt(const QString &key, int value, bool write);
+
+/// The integer that config.ini holds; nothing when it holds none under the key.
+std::optional<int> storedInt(const QString &key);
 
 /// Every key of the file with its value, sorted by key.
 QList<QPair<QString, QString>> readAllSettings(const QString &fileName);

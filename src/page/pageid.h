@@ -15,6 +15,8 @@ enum class PageId {
     ScenarioFollowing,
     LedMusic,
     LedSystem,
+    LedAnimate,
+    LedGame,
     GameAssistant,
     MultiWindow,
     OledCare,

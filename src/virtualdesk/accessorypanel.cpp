@@ -21,7 +21,7 @@ constexpr int kButtonColumns = 2;
 constexpr int kMidTransfer = 8; // writes until the device is pulled out
 constexpr std::chrono::milliseconds kRefreshDelay{40};
 constexpr int kTextMode = 0x2F;
-constexpr qsizetype kShownGameBytes = 8;
+constexpr qsizetype kShownGameBytes = 10; // as many as any report uses
 
 constexpr char kStyle[] = R"(
 QLabel, QPushButton { font-size: 13px; }

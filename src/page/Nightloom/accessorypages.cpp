@@ -2,7 +2,9 @@
 
 #include <QStackedWidget>
 
+#include "page/Nightloom/animate/pageledanimate.h"
 #include "page/Nightloom/canvas/pageledmatrixcanvas.h"
+#include "page/Nightloom/game/pageledgame.h"
 #include "page/Nightloom/music/pageledmusic.h"
 #include "page/Nightloom/system/matrixformsetting.h"
 #include "page/Nightloom/system/pageledsystem.h"
@@ -48,6 +50,8 @@ void AccessoryPages::build(CommandQueue &queue, PageSet &pages, QStackedWidget *
     pages.add(PageId::LedCanvas, canvas);
     pages.add(PageId::LedMusic, new pageLEDMusic(check, *m_liveDisplay, queue, stack));
     pages.add(PageId::LedSystem, new pageLEDSystem(check, *m_liveDisplay, queue, stack));
+    pages.add(PageId::LedAnimate, new pageLEDAnimate(check, *m_liveDisplay, queue, stack));
+    pages.add(PageId::LedGame, new pageLEDGame(check, *m_liveDisplay, queue, stack));
 }
 
 void AccessoryPages::setInterrupted(bool interrupted)

@@ -38,6 +38,7 @@ OptionGroupRow::OptionGroupRow(const OptionGroup &group, BoundTexts &texts, QWid
     : QWidget(parent), m_group(group), m_caption(new CaptionLabel(QString(), kCaptionPixels, this)),
       m_exclusive(new QButtonGroup(this)), m_mark(new ValueMark(this)), m_sign(new LockSign(this))
 {
+    m_exclusive->setExclusive(group.look != GroupLook::Several);
     m_caption->setFixedSize(metrics::kCaptionWidth, metrics::kControlHeight);
     m_caption->dressForRow();
     describeAs(this, QAccessible::Grouping);
@@ -90,6 +91,8 @@ QPushButton *OptionGroupRow::addButton(const Option &option, BoundTexts &texts)
     button->setObjectName(
         QStringLiteral("%1_%2").arg(QString::fromUtf8(m_group.label), QString::fromUtf8(option.label)));
     button->setCheckable(true);
+    if (m_group.look == GroupLook::Several)
+        describeAs(button, QAccessible::CheckBox);
     if (m_group.look == GroupLook::Pictures)
         dressPictureButton(button, m_group.draw, option.value);
     texts.bind(option.label, [this, button](const QString &text) {
@@ -193,10 +196,15 @@ bool OptionGroupRow::hasCaption() const
 
 void OptionGroupRow::showValue(std::optional<int> value)
 {
-    QPushButton *chosen = value ? buttonOf(*value) : nullptr;
-    checkOnly(*m_exclusive, chosen);
-    if (m_swatches)
-        m_swatches->setSelectedIndex(indexOf(chosen));
+    if (m_group.look == GroupLook::Several) {
+        for (std::size_t i = 0; i < m_buttons.size(); ++i)
+            m_buttons[i]->setChecked((value.value_or(0) & m_group.options[i].value) != 0);
+    } else {
+        QPushButton *chosen = value ? buttonOf(*value) : nullptr;
+        checkOnly(*m_exclusive, chosen);
+        if (m_swatches)
+            m_swatches->setSelectedIndex(indexOf(chosen));
+    }
     m_isUnknown = !value;
     describe();
 }

@@ -17,8 +17,8 @@ class FlowLayout;
 class LockSign;
 class QButtonGroup;
 
-/// The heading of an option group and its buttons or swatches, one of which is checked, or none while the value is not
-/// known.
+/// The heading of an option group and its buttons or swatches, one of which is checked, in some groups several, or none
+/// while the value is not known.
 class OptionGroupRow : public QWidget
 {
     Q_OBJECT
@@ -38,7 +38,7 @@ public:
     void hideCaption();
     bool hasCaption() const;
 
-    /// Checks the button of a value, or none.
+    /// Checks the button of a value, or those of its bits, or none.
     void showValue(std::optional<int> value);
 
     /// What is to be said about the value.

@@ -24,13 +24,14 @@ struct Option
 };
 
 /// How a group looks: a row of option buttons, the two halves of a switch (whatever on and off are called, off is the
-/// left one), buttons that show a picture each, or colour swatches.
-enum class GroupLook { Buttons, Switch, Pictures, Swatches };
+/// left one), buttons that show a picture each, colour swatches, or option buttons of which several may be chosen. An
+/// option's value is its bit then, and the group's value the bits of those that are chosen.
+enum class GroupLook { Buttons, Switch, Pictures, Swatches, Several };
 
 /// Draws an option on its button.
 using DrawOption = void (*)(QPainter &painter, const QRectF &button, int value);
 
-/// Buttons of which one is chosen. A button's object name is "<group label>_<option label>".
+/// Buttons of which one is chosen, or several. A button's object name is "<group label>_<option label>".
 struct OptionGroup
 {
     const char *label;

@@ -64,8 +64,11 @@ void SettingsPage::addUndoBar(QVBoxLayout *column)
 
 void SettingsPage::showOwnValues()
 {
-    for (OptionGroupRow *row : m_controls.ownGroups())
-        row->showValue(ownValue(row->group().label));
+    for (OptionGroupRow *row : m_controls.ownGroups()) {
+        const std::optional<int> value = ownValue(row->group().label);
+        row->showValue(value);
+        row->setMark(value ? Mark::None : Mark::Unchosen);
+    }
 }
 
 void SettingsPage::apply(const std::map<Command, Rule> &rules, Command command, int value) const

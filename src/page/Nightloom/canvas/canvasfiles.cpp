@@ -101,6 +101,12 @@ void CanvasFiles::tellWhatIsCut()
             QObject::tr("The accessory takes %1 of the %2 frames.").arg(framesWithRoom(form)).arg(frames));
 }
 
+void CanvasFiles::tellWhatIsKept()
+{
+    if (const QString error = m_thread.error(); !error.isEmpty())
+        m_panel.showNotice(QObject::tr("The accessory has it, but Animate Mode cannot show it: %1").arg(error));
+}
+
 void CanvasFiles::beginWork(LEDThread::State state, QString fileName, bool saves)
 {
     if (isBusy())
@@ -110,7 +116,7 @@ void CanvasFiles::beginWork(LEDThread::State state, QString fileName, bool saves
     m_saves = saves;
     m_taken = false;
     m_panel.begin(stepsOf(state, m_dataFile));
-    m_thread.begin(state, {m_tabs.digits(), m_dataFile, m_mode, uploadStop()});
+    m_thread.begin(state, {m_tabs.digits(), m_dataFile, m_memory, m_drawings.form(), uploadStop()});
 }
 
 /// The thread tells when it has ended; an import that has not begun yet does not begin any more.
@@ -144,10 +150,12 @@ void CanvasFiles::endWork(bool complete)
         m_panel.tellCancelled();
     }
     Q_EMIT changed();
-    if (uploads)
+    if (uploads) {
         m_panel.endUpload(complete);
-    else
+        tellWhatIsKept();
+    } else {
         m_panel.end(m_taken);
+    }
     Q_EMIT ended();
 }
 

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <iterator>
+
+#include "ledmatrix/devicememory.h"
 #include "page/Nightloom/parts/accessorycheck.h"
 #include "page/Nightloom/work/ledthread.h"
 
@@ -16,9 +19,6 @@ class CanvasFiles : public QObject
 public:
     /// The file that a save writes, whatever the form; the next start shows it again.
     static constexpr char kDataFile[] = "./LEDMatrixData.txt";
-
-    /// Byte of "Mode1".
-    static constexpr std::uint8_t kFirstMode = 0x24;
 
     /// Whole frames of a form that the accessory has room for; 0 without one.
     static int framesWithRoom(const MatrixForm *form);
@@ -44,9 +44,9 @@ public:
     /// Asks what becomes of drawings that are not kept; false when the program is to go on.
     bool mayLeave();
 
-    /// Of the upload's packets.
-    std::uint8_t modeByte() const { return m_mode; }
-    void setMode(std::uint8_t mode) { m_mode = mode; }
+    /// Which one an upload fills.
+    const AnimationMemory &memory() const { return *m_memory; }
+    void setMemory(const AnimationMemory &memory) { m_memory = &memory; }
 
     /// The file last saved, exported or imported; empty before.
     QString dataFile() const { return m_dataFile; }
@@ -71,6 +71,7 @@ private:
     void tellWhatWasTaken(qint64 framesInFile);
     void fail(const QString &error);
     void tellWhatIsCut();
+    void tellWhatIsKept();
     bool keepInFile(const MatrixForm &form, const QByteArrayList &digits);
 
     Drawings &m_drawings;
@@ -82,7 +83,7 @@ private:
     QString m_dataFile;
     QString m_fileBefore;  ///< the data file again when the work does not get done
     int m_importCells = 0; ///< a frame, in the file that is imported
-    std::uint8_t m_mode = kFirstMode;
+    const AnimationMemory *m_memory = std::begin(kAnimationMemories);
     bool m_saved = false; ///< nothing has been drawn since the last save
     bool m_saves = false; ///< the work that goes on is a save
     bool m_taken = false; ///< what is drawn and the data file are one, by the work that goes on

@@ -12,6 +12,7 @@
 #include "controls/sharedfonts.h"
 #include "controls/sliderwidget.h"
 #include "ledmatrix/animationfile.h"
+#include "ledmatrix/devicememory.h"
 #include "ledmatrix/matrixform.h"
 #include "page/Nightloom/canvas/pageledmatrixcanvas.h"
 #include "page/Nightloom/parts/toolcolumn.h"
@@ -43,8 +44,6 @@ constexpr Tool kFileTools[] = {
     {LABEL("Export Animate"), &pageLEDMatrixCanvas::exportAnimate},
     {LABEL("Import Animate"), &pageLEDMatrixCanvas::importAnimate},
 };
-constexpr const char *kModeLabels[pageLEDMatrixCanvas::kModes] = {LABEL("Mode1"), LABEL("Mode2"), LABEL("Mode3"),
-                                                                  LABEL("Mode4"), LABEL("Mode5")};
 
 QGridLayout *makeGrid(std::span<const Tool> tools, BoundTexts &texts, const pageLEDMatrixCanvas &page, QWidget *parent)
 {
@@ -142,9 +141,10 @@ QWidget *CanvasTools::buildModeBox()
     QComboBox *modes = makeDropDown(part);
     modes->setObjectName(QStringLiteral("modes"));
     modes->setFixedHeight(36);
-    for (int i = 0; i < pageLEDMatrixCanvas::kModes; ++i) {
+    for (const AnimationMemory &memory : kAnimationMemories) {
+        const int place = modes->count();
         modes->addItem(QString());
-        m_texts.bind(kModeLabels[i], [modes, i](const QString &text) { modes->setItemText(i, text); });
+        m_texts.bind(memory.uploadLabel, [modes, place](const QString &text) { modes->setItemText(place, text); });
     }
     m_texts.bind(LABEL("Mode"), [modes, caption](const QString &text) {
         caption->setText(text);

@@ -51,7 +51,7 @@ void pageLEDMatrixCanvas::buildTools(QVBoxLayout *column, QWidget *tools)
 {
     m_tools = new CanvasTools(*this, m_player, texts(), column, tools);
     connect(m_tools, &CanvasTools::modeChosen, this,
-            [this](int index) { m_files.setMode(static_cast<std::uint8_t>(kFirstMode + index)); });
+            [this](int index) { m_files.setMemory(kAnimationMemories[index]); });
     connect(m_tools, &CanvasTools::cellSizeChosen, m_tabs, &FrameTabs::setCellSize);
     connect(m_tools, &CanvasTools::onionSkinSwitched, m_tabs, &FrameTabs::setOnionSkin);
 }
@@ -120,7 +120,7 @@ void pageLEDMatrixCanvas::importAligned()
 
 bool pageLEDMatrixCanvas::sendAnmateData(const LEDJob &job, const std::function<void(int)> &progress)
 {
-    return uploadAnimation(job.fileName, job.mode, progress, job.stop);
+    return uploadAnimation(job.fileName, job.memory->number, progress, job.stop);
 }
 
 QPushButton *pageLEDMatrixCanvas::button(const char *label) const

@@ -15,10 +15,6 @@ class pageLEDMatrixCanvas : public LongWorkPage, public CanvasQuestions
 {
     Q_OBJECT
 public:
-    /// Byte of "Mode1"; the modes follow one another.
-    static constexpr std::uint8_t kFirstMode = CanvasFiles::kFirstMode;
-    static constexpr int kModes = 5;
-
     static constexpr const char *kDataFile = CanvasFiles::kDataFile;
 
     explicit pageLEDMatrixCanvas(AccessoryCheck ensureConnected, QWidget *parent = nullptr);
@@ -33,7 +29,7 @@ public:
 
     /// Counts the frames. It is compared before a frame is added, so one frame more than the maximum finds room.
     int frameCounter() const { return static_cast<int>(m_drawings.state().frames.size()); }
-    std::uint8_t modeByte() const { return m_files.modeByte(); }
+    std::uint8_t modeByte() const { return m_files.memory().number; }
     QString dataFile() const { return m_files.dataFile(); }
 
     /// Uploads the job's file; whether the accessory took it whole. For LEDThread, which runs it: touches nothing of

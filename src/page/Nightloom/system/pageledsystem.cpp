@@ -6,6 +6,7 @@
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/settingsstore.h"
+#include "page/Nightloom/parts/ownslider.h"
 #include "page/Nightloom/system/matrixformsetting.h"
 #include "page/Nightloom/work/livedisplay.h"
 #include "page/engine/commandrows.h"
@@ -52,8 +53,7 @@ std::span<const PanelSpec> panels()
 
 int stored(const char *key, int usual)
 {
-    const bool isStored = !settingsString(QLatin1String(key), {}, false, QLatin1String(kConfigFile)).isEmpty();
-    return isStored ? settingsInt(QLatin1String(key), 0, false) : usual;
+    return storedInt(QLatin1String(key)).value_or(usual);
 }
 
 } // namespace
@@ -85,8 +85,8 @@ OptionGroupRow *pageLEDSystem::clockOptions() const
 QWidget *pageLEDSystem::buildPart(const char *)
 {
     auto *part = new QWidget(this);
-    m_level = makeOwnSlider(kLevel, Command::AccessoryLevel, part);
-    m_brightness = makeOwnSlider(kBrightness, Command::AccessoryBrightness, part);
+    m_level = makeSlider(kLevel, Command::AccessoryLevel, part);
+    m_brightness = makeSlider(kBrightness, Command::AccessoryBrightness, part);
     auto *column = new QVBoxLayout(part);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(metrics::kRowGap);
@@ -96,18 +96,12 @@ QWidget *pageLEDSystem::buildPart(const char *)
 }
 
 /// A slider of the accessory's, whose value the monitor is told as well.
-SliderWidget *pageLEDSystem::makeOwnSlider(const char *name, Command command, QWidget *parent)
+SliderWidget *pageLEDSystem::makeSlider(const char *name, Command command, QWidget *parent)
 {
-    auto *slider = new SliderWidget(QLatin1String(name), 0, kHighestAccessoryValue, parent);
-    slider->setCaptionWidth(metrics::kCaptionWidth);
-    slider->setFixedHeight(metrics::kControlHeight);
-    texts().bind(name, [slider](const QString &text) { slider->setCaption(text); });
-    connect(slider, &SliderWidget::sliderValueChanged, this,
-            [this, slider, command](const QString &, int, bool released) {
-                if (released && !isUpdating())
-                    onSliderReleased(slider, command);
-            });
-    return slider;
+    return makeOwnSlider(name, texts(), parent, [this, name, command] {
+        if (!isUpdating())
+            onSliderReleased(qstrcmp(name, kLevel) == 0 ? m_level : m_brightness, command);
+    });
 }
 
 void pageLEDSystem::updateInterfaceData()

@@ -31,7 +31,7 @@ protected:
     void onButtonClicked(const char *label, int value) override;
 
 private:
-    SliderWidget *makeOwnSlider(const char *name, Command command, QWidget *parent);
+    SliderWidget *makeSlider(const char *name, Command command, QWidget *parent);
     void showWhatIsSet();
     void onSliderReleased(SliderWidget *moved, Command command);
     void switchLamp(int value);

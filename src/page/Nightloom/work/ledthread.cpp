@@ -43,7 +43,7 @@ void LEDThread::run()
         complete = exportFrames();
         break;
     case Upload:
-        complete = m_send(m_job, [this](int value) { Q_EMIT progress(value); });
+        complete = upload();
         break;
     case Import:
         Q_EMIT progress(kImportNow);
@@ -51,6 +51,17 @@ void LEDThread::run()
     }
     Q_EMIT progress(kProgressEnd);
     Q_EMIT workEnded(complete);
+}
+
+/// Of a memory that did not take everything nobody knows what it holds.
+bool LEDThread::upload()
+{
+    const bool complete = m_send(m_job, [this](int value) { Q_EMIT progress(value); });
+    if (complete && m_job.form)
+        fail(keepUploaded(*m_job.memory, m_job.fileName, *m_job.form));
+    else
+        forgetUploaded(*m_job.memory);
+    return complete;
 }
 
 bool LEDThread::exportFrames()

@@ -7,6 +7,7 @@
 
 #include <QByteArrayList>
 
+#include "ledmatrix/memoryfile.h"
 #include "page/Nightloom/work/senderthread.h"
 
 /// What the canvas page hands its thread, taken from the page before the thread starts.
@@ -14,8 +15,9 @@ struct LEDJob
 {
     QByteArrayList frames; ///< digits in tab order
     QString fileName;
-    std::uint8_t mode = 0;  ///< third byte of the upload packets
-    std::stop_token stop{}; ///< ends an upload
+    const AnimationMemory *memory = nullptr; ///< that an upload fills
+    const MatrixForm *form = nullptr;        ///< of what is uploaded
+    std::stop_token stop{};                  ///< ends an upload
 };
 
 /// The canvas page's long work: it writes, asks to read, or uploads an animation. It touches nothing that is shown. An
@@ -40,7 +42,8 @@ public:
 
     State state() const { return m_state; }
 
-    /// Why the last work failed; empty when the reason is not known.
+    /// Why the last work failed, or, of an upload that the accessory took, why it could not be kept here; empty when
+    /// there is nothing to say or the reason is not known.
     QString error() const;
 
 Q_SIGNALS:
@@ -55,6 +58,7 @@ protected:
 
 private:
     bool exportFrames();
+    bool upload();
     void fail(const QString &error);
 
     const Send m_send;

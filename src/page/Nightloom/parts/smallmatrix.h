@@ -1,0 +1,40 @@
+#pragma once
+
+#include <array>
+#include <optional>
+
+#include <QPixmap>
+#include <QWidget>
+
+#include "controls/accessiblecontrol.h"
+#include "ledmatrix/matrixframe.h"
+
+/// A matrix that only shows, as one sees the accessory: round cells, the odd ones of staggered rows between the even.
+class SmallMatrix : public QWidget, public Described
+{
+    Q_OBJECT
+public:
+    explicit SmallMatrix(QWidget *parent);
+
+    /// Shows a frame; without one, as while the form is not known, nothing at all.
+    void showFrame(std::optional<MatrixFrame> frame);
+    const std::optional<MatrixFrame> &frame() const { return m_frame; }
+
+    /// As high as the form is, of this width.
+    int heightForWidth(int width) const override;
+
+    QAccessible::Role accessibleRole() const override { return QAccessible::Canvas; }
+    /// How much of it is on.
+    QString valueText() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void drawSheets();
+
+    std::optional<MatrixFrame> m_frame;
+    const MatrixForm *m_drawnForm = nullptr; ///< of the sheets
+    QPixmap m_dark;                          ///< the matrix while nothing is on
+    std::array<QPixmap, 2> m_lit;            ///< all cells on: of the even rows, and of the odd ones
+};
