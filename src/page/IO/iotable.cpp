@@ -17,10 +17,19 @@ constexpr char kUSBSwitchHelp[] =
 constexpr char kInputSignalHelp[] = LABEL("Which socket the picture comes from. Auto = the one that has a signal.");
 constexpr char kCECHelp[] = LABEL("The monitor and devices at its HDMI sockets switch each other on and off.");
 
-constexpr Option kUsbSwitch[] = {{LABEL("Type-C"), 0}, {LABEL("Type-B"), 1}};
-constexpr Option kDpTypeC[] = {{LABEL("5.4G"), 0}, {LABEL("8.1G"), 1}};
-constexpr Option kInputSignal[] = {{LABEL("Auto"), 0},   {LABEL("DP1"), 1},   {LABEL("DP2"), 2},
-                                   {LABEL("Type-C"), 3}, {LABEL("HDMI1"), 4}, {LABEL("HDMI2"), 5}};
+constexpr Option kUsbSwitch[] = {
+    {LABEL("Type-C"), 0, LABEL("Keyboard and mouse at the monitor belong to the computer at the Type-C socket.")},
+    {LABEL("Type-B"), 1, LABEL("Keyboard and mouse at the monitor belong to the computer at the Type-B socket.")}};
+constexpr Option kDpTypeC[] = {{LABEL("5.4G"), 0, LABEL("Slower, and steadier with long or old cables.")},
+                               {LABEL("8.1G"), 1, LABEL("Fast enough for every resolution and refresh rate.")}};
+constexpr char kSocketWords[] = LABEL("Always this socket. The screen stays dark while nothing comes from there.");
+constexpr Option kInputSignal[] = {
+    {LABEL("Auto"), 0, LABEL("The socket that has a signal. For one computer, or one at a time.")},
+    {LABEL("DP1"), 1, kSocketWords},
+    {LABEL("DP2"), 2, kSocketWords},
+    {LABEL("Type-C"), 3, kSocketWords},
+    {LABEL("HDMI1"), 4, kSocketWords},
+    {LABEL("HDMI2"), 5, kSocketWords}};
 
 const Section kOutputRange[] = {groupOf(Command::OutputRange, kOutputRangeOptions)};
 const Section kQuickBoot[] = {switchOf(Command::QuickBoot)};

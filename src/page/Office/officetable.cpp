@@ -20,9 +20,16 @@ constexpr char kCompositionHelp[] =
 constexpr char kEyeshieldRemindHelp[] =
     LABEL("Reminds you to rest your eyes each time the chosen span has passed. Close = off.");
 
-constexpr Option kEyeshield[] = {{LABEL("Close"), 0},    {LABEL("30s"), 1},      {LABEL("1 Hour"), 2},
-                                 {LABEL("1.5 Hour"), 3}, {LABEL("2 Hour"), 4},   {LABEL("2.5 Hour"), 5},
-                                 {LABEL("3 Hour"), 6},   {LABEL("3.5 Hour"), 7}, {LABEL("4 Hour"), 8}};
+constexpr char kRestWords[] = LABEL("The monitor reminds you each time that this has passed. Look far away for a minute then.");
+constexpr Option kEyeshield[] = {{LABEL("Close"), 0, LABEL("The monitor does not remind you.")},
+                                 {LABEL("30s"), 1, LABEL("To see how the reminder looks.")},
+                                 {LABEL("1 Hour"), 2, kRestWords},
+                                 {LABEL("1.5 Hour"), 3, kRestWords},
+                                 {LABEL("2 Hour"), 4, kRestWords},
+                                 {LABEL("2.5 Hour"), 5, kRestWords},
+                                 {LABEL("3 Hour"), 6, kRestWords},
+                                 {LABEL("3.5 Hour"), 7, kRestWords},
+                                 {LABEL("4 Hour"), 8, kRestWords}};
 constexpr Option kPaper[] = {
     {LABEL("Close"), 0},
     {LABEL("Paper_A4"), 1, LABEL("A sheet of 210 × 297 mm, upright, in the middle of the screen.")},
