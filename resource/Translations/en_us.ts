@@ -360,6 +360,10 @@
         <translation>A dim picture for dark rooms.</translation>
     </message>
     <message>
+        <source>A faint light, for a dark room.</source>
+        <translation>A faint light, for a dark room.</translation>
+    </message>
+    <message>
         <source>A line of text that the matrix shows, standing or scrolling.</source>
         <translation>A line of text that the matrix shows, standing or scrolling.</translation>
     </message>
@@ -510,6 +514,10 @@
     <message>
         <source>Always the opposite of what lies behind it.</source>
         <translation>Always the opposite of what lies behind it.</translation>
+    </message>
+    <message>
+        <source>Always this socket. The screen stays dark while nothing comes from there.</source>
+        <translation>Always this socket. The screen stays dark while nothing comes from there.</translation>
     </message>
     <message>
         <source>American broadcasting primaries.</source>
@@ -1328,6 +1336,10 @@
         <translation>Fast</translation>
     </message>
     <message>
+        <source>Fast enough for every resolution and refresh rate.</source>
+        <translation>Fast enough for every resolution and refresh rate.</translation>
+    </message>
+    <message>
         <source>Fast, for games. Light edges may be seen on some grey tones.</source>
         <translation>Fast, for games. Light edges may be seen on some grey tones.</translation>
     </message>
@@ -1750,6 +1762,14 @@
     <message>
         <source>Keyboard</source>
         <translation>Keyboard</translation>
+    </message>
+    <message>
+        <source>Keyboard and mouse at the monitor belong to the computer at the Type-B socket.</source>
+        <translation>Keyboard and mouse at the monitor belong to the computer at the Type-B socket.</translation>
+    </message>
+    <message>
+        <source>Keyboard and mouse at the monitor belong to the computer at the Type-C socket.</source>
+        <translation>Keyboard and mouse at the monitor belong to the computer at the Type-C socket.</translation>
     </message>
     <message>
         <source>Keys of the numeric pad cannot be used.</source>
@@ -3108,6 +3128,10 @@
         <translation>Slow</translation>
     </message>
     <message>
+        <source>Slower, and steadier with long or old cables.</source>
+        <translation>Slower, and steadier with long or old cables.</translation>
+    </message>
+    <message>
         <source>Small</source>
         <translation>Small</translation>
     </message>
@@ -3304,6 +3328,10 @@
         <translation>The answer to the next read never arrives</translation>
     </message>
     <message>
+        <source>The brightest light, seen across a bright room.</source>
+        <translation>The brightest light, seen across a bright room.</translation>
+    </message>
+    <message>
         <source>The brightness follows the light in the room. Close = off, Open = on.</source>
         <translation>The brightness follows the light in the room. Close = off, Open = on.</translation>
     </message>
@@ -3380,6 +3408,10 @@
         <translation>The lamp in front lights the desk, the one at the rear the wall: less contrast for tired eyes.</translation>
     </message>
     <message>
+        <source>The lamp is dark. Only the picture tells that the monitor is on.</source>
+        <translation>The lamp is dark. Only the picture tells that the monitor is on.</translation>
+    </message>
+    <message>
         <source>The language of the monitor&apos;s own menu, not of this tool.</source>
         <translation>The language of the monitor&apos;s own menu, not of this tool.</translation>
     </message>
@@ -3440,6 +3472,10 @@
         <translation>The monitor does not answer; the reading was given up.</translation>
     </message>
     <message>
+        <source>The monitor does not remind you.</source>
+        <translation>The monitor does not remind you.</translation>
+    </message>
+    <message>
         <source>The monitor finds out which range the computer sends.</source>
         <translation>The monitor finds out which range the computer sends.</translation>
     </message>
@@ -3474,6 +3510,10 @@
     <message>
         <source>The monitor notices when its screen is turned upright. Close = off, Open = on.</source>
         <translation>The monitor notices when its screen is turned upright. Close = off, Open = on.</translation>
+    </message>
+    <message>
+        <source>The monitor reminds you each time that this has passed. Look far away for a minute then.</source>
+        <translation>The monitor reminds you each time that this has passed. Look far away for a minute then.</translation>
     </message>
     <message>
         <source>The monitor takes no value until the button is released</source>
@@ -3564,6 +3604,10 @@
         <translation>The smallest one. Covers least.</translation>
     </message>
     <message>
+        <source>The socket that has a signal. For one computer, or one at a time.</source>
+        <translation>The socket that has a signal. For one computer, or one at a time.</translation>
+    </message>
+    <message>
         <source>The sound of the monitor. Audio Mute: Close = sound, Open = silence. Convo = for voices.</source>
         <translation>The sound of the monitor. Audio Mute: Close = sound, Open = silence. Convo = for voices.</translation>
     </message>
@@ -3606,6 +3650,10 @@
     <message>
         <source>The usual for web, office, photos and most games.</source>
         <translation>The usual for web, office, photos and most games.</translation>
+    </message>
+    <message>
+        <source>The usual light.</source>
+        <translation>The usual light.</translation>
     </message>
     <message>
         <source>The usual white for web, photos and films.</source>
@@ -3718,6 +3766,10 @@
     <message>
         <source>Times</source>
         <translation>Times</translation>
+    </message>
+    <message>
+        <source>To see how the reminder looks.</source>
+        <translation>To see how the reminder looks.</translation>
     </message>
     <message>
         <source>Today&apos;s automatic changes of this monitor are used up (%1). They go on tomorrow; what you set yourself is not limited.</source>

@@ -360,6 +360,10 @@
         <translation>暗い部屋に適した明るさを抑えた画質です。</translation>
     </message>
     <message>
+        <source>A faint light, for a dark room.</source>
+        <translation>暗い部屋向けのかすかな光です。</translation>
+    </message>
+    <message>
         <source>A line of text that the matrix shows, standing or scrolling.</source>
         <translation>マトリックスに静止またはスクロールで表示する 1 行のテキスト。</translation>
     </message>
@@ -510,6 +514,10 @@
     <message>
         <source>Always the opposite of what lies behind it.</source>
         <translation>常に背景の反対の色になります。</translation>
+    </message>
+    <message>
+        <source>Always this socket. The screen stays dark while nothing comes from there.</source>
+        <translation>常にこの端子を使います。信号がない間、画面は暗いままです。</translation>
     </message>
     <message>
         <source>American broadcasting primaries.</source>
@@ -1328,6 +1336,10 @@
         <translation>速い</translation>
     </message>
     <message>
+        <source>Fast enough for every resolution and refresh rate.</source>
+        <translation>すべての解像度とリフレッシュレートに十分な速さです。</translation>
+    </message>
+    <message>
         <source>Fast, for games. Light edges may be seen on some grey tones.</source>
         <translation>ゲーム向けの速さです。一部の階調で明るい縁が見えることがあります。</translation>
     </message>
@@ -1750,6 +1762,14 @@
     <message>
         <source>Keyboard</source>
         <translation>キーボード</translation>
+    </message>
+    <message>
+        <source>Keyboard and mouse at the monitor belong to the computer at the Type-B socket.</source>
+        <translation>モニターにつないだキーボードとマウスは Type-B 端子のコンピューターで使えます。</translation>
+    </message>
+    <message>
+        <source>Keyboard and mouse at the monitor belong to the computer at the Type-C socket.</source>
+        <translation>モニターにつないだキーボードとマウスは Type-C 端子のコンピューターで使えます。</translation>
     </message>
     <message>
         <source>Keys of the numeric pad cannot be used.</source>
@@ -3108,6 +3128,10 @@
         <translation>遅い</translation>
     </message>
     <message>
+        <source>Slower, and steadier with long or old cables.</source>
+        <translation>速度は下がりますが、長いケーブルや古いケーブルで安定します。</translation>
+    </message>
+    <message>
         <source>Small</source>
         <translation>小</translation>
     </message>
@@ -3304,6 +3328,10 @@
         <translation>次の読み取りの応答が届きません</translation>
     </message>
     <message>
+        <source>The brightest light, seen across a bright room.</source>
+        <translation>最も明るい光です。明るい部屋でも見えます。</translation>
+    </message>
+    <message>
         <source>The brightness follows the light in the room. Close = off, Open = on.</source>
         <translation>明るさが部屋の明るさに合わせて変わります。</translation>
     </message>
@@ -3380,6 +3408,10 @@
         <translation>前面は机を、背面は壁を照らします。明暗の差が減り、目の疲れを和らげます。</translation>
     </message>
     <message>
+        <source>The lamp is dark. Only the picture tells that the monitor is on.</source>
+        <translation>ランプは消えます。モニターがオンかどうかは画面だけで分かります。</translation>
+    </message>
+    <message>
         <source>The language of the monitor&apos;s own menu, not of this tool.</source>
         <translation>モニターのメニューの言語です。このツールの言語ではありません。</translation>
     </message>
@@ -3440,6 +3472,10 @@
         <translation>モニターが応答しないため、読み取りを中止しました。</translation>
     </message>
     <message>
+        <source>The monitor does not remind you.</source>
+        <translation>モニターはお知らせしません。</translation>
+    </message>
+    <message>
         <source>The monitor finds out which range the computer sends.</source>
         <translation>コンピューターが送る範囲をモニターが判別します。</translation>
     </message>
@@ -3474,6 +3510,10 @@
     <message>
         <source>The monitor notices when its screen is turned upright. Close = off, Open = on.</source>
         <translation>画面が縦向きにされたことをモニターが検知します。</translation>
+    </message>
+    <message>
+        <source>The monitor reminds you each time that this has passed. Look far away for a minute then.</source>
+        <translation>この時間が過ぎるたびにモニターがお知らせします。1 分ほど遠くを見てください。</translation>
     </message>
     <message>
         <source>The monitor takes no value until the button is released</source>
@@ -3564,6 +3604,10 @@
         <translation>最小で、最も隠しません。</translation>
     </message>
     <message>
+        <source>The socket that has a signal. For one computer, or one at a time.</source>
+        <translation>信号のある端子を使います。コンピューターが 1 台、または 1 台ずつ使うとき向けです。</translation>
+    </message>
+    <message>
         <source>The sound of the monitor. Audio Mute: Close = sound, Open = silence. Convo = for voices.</source>
         <translation>モニターの音声です。「ミュート」がオンのときは音が出ません。「会話」は人の声に向いています。</translation>
     </message>
@@ -3606,6 +3650,10 @@
     <message>
         <source>The usual for web, office, photos and most games.</source>
         <translation>Web、オフィス、写真、多くのゲームの標準です。</translation>
+    </message>
+    <message>
+        <source>The usual light.</source>
+        <translation>標準の光です。</translation>
     </message>
     <message>
         <source>The usual white for web, photos and films.</source>
@@ -3718,6 +3766,10 @@
     <message>
         <source>Times</source>
         <translation>時間</translation>
+    </message>
+    <message>
+        <source>To see how the reminder looks.</source>
+        <translation>お知らせの見え方を確かめるためのものです。</translation>
     </message>
     <message>
         <source>Today&apos;s automatic changes of this monitor are used up (%1). They go on tomorrow; what you set yourself is not limited.</source>

@@ -360,6 +360,10 @@
         <translation>较暗的画面，适合昏暗的房间。</translation>
     </message>
     <message>
+        <source>A faint light, for a dark room.</source>
+        <translation>微弱的灯光，适合黑暗的房间。</translation>
+    </message>
+    <message>
         <source>A line of text that the matrix shows, standing or scrolling.</source>
         <translation>一行文字，在矩阵上静止或滚动显示。</translation>
     </message>
@@ -510,6 +514,10 @@
     <message>
         <source>Always the opposite of what lies behind it.</source>
         <translation>始终与背景颜色相反。</translation>
+    </message>
+    <message>
+        <source>Always this socket. The screen stays dark while nothing comes from there.</source>
+        <translation>始终使用此接口。没有信号时屏幕保持黑暗。</translation>
     </message>
     <message>
         <source>American broadcasting primaries.</source>
@@ -1328,6 +1336,10 @@
         <translation>快</translation>
     </message>
     <message>
+        <source>Fast enough for every resolution and refresh rate.</source>
+        <translation>足以支持所有分辨率和刷新率。</translation>
+    </message>
+    <message>
         <source>Fast, for games. Light edges may be seen on some grey tones.</source>
         <translation>快速，适合游戏。部分灰阶可能出现亮边。</translation>
     </message>
@@ -1750,6 +1762,14 @@
     <message>
         <source>Keyboard</source>
         <translation>键盘</translation>
+    </message>
+    <message>
+        <source>Keyboard and mouse at the monitor belong to the computer at the Type-B socket.</source>
+        <translation>接在显示器上的键盘和鼠标属于 Type-B 接口的电脑。</translation>
+    </message>
+    <message>
+        <source>Keyboard and mouse at the monitor belong to the computer at the Type-C socket.</source>
+        <translation>接在显示器上的键盘和鼠标属于 Type-C 接口的电脑。</translation>
     </message>
     <message>
         <source>Keys of the numeric pad cannot be used.</source>
@@ -3108,6 +3128,10 @@
         <translation>慢</translation>
     </message>
     <message>
+        <source>Slower, and steadier with long or old cables.</source>
+        <translation>较慢，使用长线或旧线时更稳定。</translation>
+    </message>
+    <message>
         <source>Small</source>
         <translation>小</translation>
     </message>
@@ -3304,6 +3328,10 @@
         <translation>下一次读取收不到应答</translation>
     </message>
     <message>
+        <source>The brightest light, seen across a bright room.</source>
+        <translation>最亮的灯光，在明亮的房间里也能看到。</translation>
+    </message>
+    <message>
         <source>The brightness follows the light in the room. Close = off, Open = on.</source>
         <translation>亮度随室内光线变化。</translation>
     </message>
@@ -3380,6 +3408,10 @@
         <translation>前灯照亮桌面，后灯照亮墙面：减小明暗反差，缓解眼睛疲劳。</translation>
     </message>
     <message>
+        <source>The lamp is dark. Only the picture tells that the monitor is on.</source>
+        <translation>指示灯不亮，只有画面表明显示器已开启。</translation>
+    </message>
+    <message>
         <source>The language of the monitor&apos;s own menu, not of this tool.</source>
         <translation>显示器自身菜单的语言，而不是本工具的语言。</translation>
     </message>
@@ -3440,6 +3472,10 @@
         <translation>显示器没有应答，读取已放弃。</translation>
     </message>
     <message>
+        <source>The monitor does not remind you.</source>
+        <translation>显示器不提醒您。</translation>
+    </message>
+    <message>
         <source>The monitor finds out which range the computer sends.</source>
         <translation>显示器自动识别电脑发送的范围。</translation>
     </message>
@@ -3474,6 +3510,10 @@
     <message>
         <source>The monitor notices when its screen is turned upright. Close = off, Open = on.</source>
         <translation>显示器感应屏幕是否转为竖放。</translation>
+    </message>
+    <message>
+        <source>The monitor reminds you each time that this has passed. Look far away for a minute then.</source>
+        <translation>每过这段时间显示器会提醒您。请远眺一分钟。</translation>
     </message>
     <message>
         <source>The monitor takes no value until the button is released</source>
@@ -3564,6 +3604,10 @@
         <translation>最小，遮挡最少。</translation>
     </message>
     <message>
+        <source>The socket that has a signal. For one computer, or one at a time.</source>
+        <translation>自动使用有信号的接口，适合一台电脑或每次一台。</translation>
+    </message>
+    <message>
         <source>The sound of the monitor. Audio Mute: Close = sound, Open = silence. Convo = for voices.</source>
         <translation>显示器的声音。“静音”开启时没有声音，“对话”适合人声。</translation>
     </message>
@@ -3606,6 +3650,10 @@
     <message>
         <source>The usual for web, office, photos and most games.</source>
         <translation>网页、办公、照片和大多数游戏的通用值。</translation>
+    </message>
+    <message>
+        <source>The usual light.</source>
+        <translation>通常的灯光。</translation>
     </message>
     <message>
         <source>The usual white for web, photos and films.</source>
@@ -3718,6 +3766,10 @@
     <message>
         <source>Times</source>
         <translation>定时</translation>
+    </message>
+    <message>
+        <source>To see how the reminder looks.</source>
+        <translation>用于查看提醒的样子。</translation>
     </message>
     <message>
         <source>Today&apos;s automatic changes of this monitor are used up (%1). They go on tomorrow; what you set yourself is not limited.</source>

@@ -360,6 +360,10 @@
         <translation>較暗的畫面，適合昏暗的房間。</translation>
     </message>
     <message>
+        <source>A faint light, for a dark room.</source>
+        <translation>微弱的燈光，適合黑暗的房間。</translation>
+    </message>
+    <message>
         <source>A line of text that the matrix shows, standing or scrolling.</source>
         <translation>一行文字，在矩陣上靜止或捲動顯示。</translation>
     </message>
@@ -510,6 +514,10 @@
     <message>
         <source>Always the opposite of what lies behind it.</source>
         <translation>始終與背景顏色相反。</translation>
+    </message>
+    <message>
+        <source>Always this socket. The screen stays dark while nothing comes from there.</source>
+        <translation>始終使用此連接埠。沒有訊號時螢幕保持黑暗。</translation>
     </message>
     <message>
         <source>American broadcasting primaries.</source>
@@ -1328,6 +1336,10 @@
         <translation>快</translation>
     </message>
     <message>
+        <source>Fast enough for every resolution and refresh rate.</source>
+        <translation>足以支援所有解析度和更新率。</translation>
+    </message>
+    <message>
         <source>Fast, for games. Light edges may be seen on some grey tones.</source>
         <translation>快速，適合遊戲。部分灰階可能出現亮邊。</translation>
     </message>
@@ -1750,6 +1762,14 @@
     <message>
         <source>Keyboard</source>
         <translation>鍵盤</translation>
+    </message>
+    <message>
+        <source>Keyboard and mouse at the monitor belong to the computer at the Type-B socket.</source>
+        <translation>接在顯示器上的鍵盤和滑鼠屬於 Type-B 連接埠的電腦。</translation>
+    </message>
+    <message>
+        <source>Keyboard and mouse at the monitor belong to the computer at the Type-C socket.</source>
+        <translation>接在顯示器上的鍵盤和滑鼠屬於 Type-C 連接埠的電腦。</translation>
     </message>
     <message>
         <source>Keys of the numeric pad cannot be used.</source>
@@ -3108,6 +3128,10 @@
         <translation>慢</translation>
     </message>
     <message>
+        <source>Slower, and steadier with long or old cables.</source>
+        <translation>較慢，使用長纜線或舊纜線時更穩定。</translation>
+    </message>
+    <message>
         <source>Small</source>
         <translation>小</translation>
     </message>
@@ -3304,6 +3328,10 @@
         <translation>下一次讀取收不到回應</translation>
     </message>
     <message>
+        <source>The brightest light, seen across a bright room.</source>
+        <translation>最亮的燈光，在明亮的房間裡也看得到。</translation>
+    </message>
+    <message>
         <source>The brightness follows the light in the room. Close = off, Open = on.</source>
         <translation>亮度隨室內光線變化。</translation>
     </message>
@@ -3380,6 +3408,10 @@
         <translation>前燈照亮桌面，後燈照亮牆面：減小明暗反差，緩解眼睛疲勞。</translation>
     </message>
     <message>
+        <source>The lamp is dark. Only the picture tells that the monitor is on.</source>
+        <translation>指示燈不亮，只有畫面表示顯示器已開啟。</translation>
+    </message>
+    <message>
         <source>The language of the monitor&apos;s own menu, not of this tool.</source>
         <translation>顯示器本身選單的語言，而不是本工具的語言。</translation>
     </message>
@@ -3440,6 +3472,10 @@
         <translation>顯示器沒有回應，讀取已放棄。</translation>
     </message>
     <message>
+        <source>The monitor does not remind you.</source>
+        <translation>顯示器不提醒您。</translation>
+    </message>
+    <message>
         <source>The monitor finds out which range the computer sends.</source>
         <translation>顯示器自動辨識電腦傳送的範圍。</translation>
     </message>
@@ -3474,6 +3510,10 @@
     <message>
         <source>The monitor notices when its screen is turned upright. Close = off, Open = on.</source>
         <translation>顯示器感應螢幕是否轉為直立。</translation>
+    </message>
+    <message>
+        <source>The monitor reminds you each time that this has passed. Look far away for a minute then.</source>
+        <translation>每過這段時間顯示器會提醒您。請遠眺一分鐘。</translation>
     </message>
     <message>
         <source>The monitor takes no value until the button is released</source>
@@ -3564,6 +3604,10 @@
         <translation>最小，遮擋最少。</translation>
     </message>
     <message>
+        <source>The socket that has a signal. For one computer, or one at a time.</source>
+        <translation>自動使用有訊號的連接埠，適合一台電腦或每次一台。</translation>
+    </message>
+    <message>
         <source>The sound of the monitor. Audio Mute: Close = sound, Open = silence. Convo = for voices.</source>
         <translation>顯示器的聲音。「靜音」開啟時沒有聲音，「對話」適合人聲。</translation>
     </message>
@@ -3606,6 +3650,10 @@
     <message>
         <source>The usual for web, office, photos and most games.</source>
         <translation>網頁、辦公、相片和大多數遊戲的通用值。</translation>
+    </message>
+    <message>
+        <source>The usual light.</source>
+        <translation>一般的燈光。</translation>
     </message>
     <message>
         <source>The usual white for web, photos and films.</source>
@@ -3718,6 +3766,10 @@
     <message>
         <source>Times</source>
         <translation>定時</translation>
+    </message>
+    <message>
+        <source>To see how the reminder looks.</source>
+        <translation>用於查看提醒的樣子。</translation>
     </message>
     <message>
         <source>Today&apos;s automatic changes of this monitor are used up (%1). They go on tomorrow; what you set yourself is not limited.</source>
