@@ -1,6 +1,7 @@
 #include "virtualdesk/deskroles.h"
 
 #include <QAccessibleWidget>
+#include <QWidget>
 
 namespace virtualdesk {
 
