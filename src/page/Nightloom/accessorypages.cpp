@@ -51,7 +51,7 @@ void AccessoryPages::build(CommandQueue &queue, PageSet &pages, QStackedWidget *
     pages.add(PageId::LedMusic, new pageLEDMusic(check, *m_liveDisplay, queue, stack));
     pages.add(PageId::LedSystem, new pageLEDSystem(check, *m_liveDisplay, queue, stack));
     pages.add(PageId::LedAnimate, new pageLEDAnimate(check, *m_liveDisplay, queue, stack));
-    pages.add(PageId::LedGame, new pageLEDGame(check, *m_liveDisplay, queue, stack));
+    pages.add(PageId::LedGame, new pageLEDGame(*m_liveDisplay, queue, stack));
 }
 
 void AccessoryPages::setInterrupted(bool interrupted)

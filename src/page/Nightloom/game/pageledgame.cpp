@@ -78,9 +78,8 @@ QHBoxLayout *makeRow(QWidget *part)
 
 } // namespace
 
-pageLEDGame::pageLEDGame(AccessoryCheck ensureConnected, LiveDisplay &display, CommandQueue &queue, QWidget *parent)
-    : PanelPage(QStringLiteral("pageLEDGame"), OwnList::None, queue, parent),
-      m_ensureConnected(std::move(ensureConnected)), m_display(display)
+pageLEDGame::pageLEDGame(LiveDisplay &display, CommandQueue &queue, QWidget *parent)
+    : PanelPage(QStringLiteral("pageLEDGame"), OwnList::None, queue, parent), m_display(display)
 {
     buildPanelsWhenShown(panels());
 }
@@ -218,17 +217,14 @@ void pageLEDGame::onButtonClicked(const char *, int bit)
 
 void pageLEDGame::choose(int events)
 {
-    showNotice({});
-    if (m_ensureConnected()) {
-        m_events = events;
-        std::array<bool, kGameEvents> chosen{};
-        for (int event = 0; event < kGameEvents; ++event)
-            chosen[static_cast<std::size_t>(event)] = (events & 1 << event) != 0;
-        AccessoryReport report;
-        buildGameChoice(report, chosen);
-        sendReport(report);
-        showStored(storeSetting(QLatin1String(kEventsKey), events), Unstored::HoldsUntilExit);
-    }
+    m_events = events;
+    std::array<bool, kGameEvents> chosen{};
+    for (int event = 0; event < kGameEvents; ++event)
+        chosen[static_cast<std::size_t>(event)] = (events & 1 << event) != 0;
+    AccessoryReport report;
+    buildGameChoice(report, chosen);
+    sendReport(report);
+    showStored(storeSetting(QLatin1String(kEventsKey), events), Unstored::HoldsUntilExit);
     showOwnValues();
 }
 
@@ -236,10 +232,6 @@ void pageLEDGame::takeLook()
 {
     const Look wanted{m_interval->value(), m_brightness->value()};
     if (isUpdating() || wanted == m_look)
-        return;
-    showNotice({});
-    showLook(); // or the field would ask once more when a box takes the keyboard from it
-    if (!m_ensureConnected())
         return;
     m_look = wanted;
     AccessoryReport report;
@@ -261,5 +253,7 @@ void pageLEDGame::showLook()
 void pageLEDGame::sendReport(const AccessoryReport &report)
 {
     const LiveDisplay::Pause pause(m_display);
-    writePageReport(report);
+    const bool isTaken = writePageReport(report);
+    showNotice(isTaken ? QString()
+                       : QObject::tr("The accessory cannot be reached. What you choose goes to it with the next change."));
 }

@@ -2,7 +2,6 @@
 
 #include <optional>
 
-#include "page/Nightloom/parts/accessorycheck.h"
 #include "page/engine/panelpage.h"
 
 class CaptionLabel;
@@ -16,8 +15,8 @@ class pageLEDGame : public PanelPage
 {
     Q_OBJECT
 public:
-    /// The check and the display outlive the page.
-    pageLEDGame(AccessoryCheck ensureConnected, LiveDisplay &display, CommandQueue &queue, QWidget *parent = nullptr);
+    /// The display outlives the page. Nobody is kept from choosing while no accessory is there: the page says so.
+    pageLEDGame(LiveDisplay &display, CommandQueue &queue, QWidget *parent = nullptr);
 
     // Null before the page was shown.
 
@@ -51,7 +50,6 @@ private:
     void sendReport(const AccessoryReport &report);
     void showPicture();
 
-    AccessoryCheck m_ensureConnected;
     LiveDisplay &m_display;
     QSpinBox *m_interval = nullptr;
     SliderWidget *m_brightness = nullptr;
