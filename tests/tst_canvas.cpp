@@ -35,6 +35,7 @@ private Q_SLOTS:
     void unfinishedStrokeIsKept();
     void keyboardReachesTheCells();
     void onlyKeysScroll();
+    void toolsFitALowPage();
     void previewAndOnionSkin();
     void eachFormHasItsAnimation();
     void shownAgain();
@@ -189,6 +190,16 @@ void TestCanvas::onlyKeysScroll()
     QTest::keyClick(editor, Qt::Key_Right);
     QVERIFY(editor->x() < 0);
     QTest::mousePress(editor, Qt::LeftButton, {}, pen); // and the page goes before the button is released
+}
+
+/// 768 lines leave the page 648; the buttons lay over each other.
+void TestCanvas::toolsFitALowPage()
+{
+    const auto page = makePage();
+    for (const int height : {680, 648}) {
+        page->resize(1000, height);
+        QTRY_VERIFY(page->button("Add Frame")->geometry().bottom() < page->button("Delete Frame")->geometry().top());
+    }
 }
 
 void TestCanvas::previewAndOnionSkin()

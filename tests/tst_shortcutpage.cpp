@@ -69,6 +69,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void roundTripIsExact();
+    void fitsALowWindow();
     void loading();
     void keysReachTheMonitor();
     void switches();
@@ -119,6 +120,19 @@ QStringList TestShortcutPage::press(std::uint32_t modifiers, char key)
     m_desk->desk.pressKey(modifiers, static_cast<std::uint32_t>(key));
     m_desk->clock.advance(200ms);
     return m_desk->takeCommands();
+}
+
+void TestShortcutPage::fitsALowWindow()
+{
+    start();
+    QWidget window;
+    m_page->setParent(&window);
+    window.show();
+    for (const auto &[room, height] : {std::pair(648, 648), {800, 680}}) {
+        window.resize(1000, room);
+        QTRY_COMPARE(m_page->height(), height);
+    }
+    m_page->setParent(nullptr);
 }
 
 void TestShortcutPage::roundTripIsExact()

@@ -12,10 +12,10 @@ constexpr struct
     const char *className;
     QAccessible::Role role;
 } kRoles[] = {
-    {"virtualdesk::DeskWindow", QAccessible::Window},    {"virtualdesk::MonitorPanel", QAccessible::Pane},
-    {"virtualdesk::DesktopPanel", QAccessible::Pane},    {"virtualdesk::AccessoryPanel", QAccessible::Pane},
-    {"virtualdesk::SoundPanel", QAccessible::Pane},      {"virtualdesk::ScreenView", QAccessible::Graphic},
-    {"virtualdesk::WindowsView", QAccessible::Graphic},  {"virtualdesk::MatrixView", QAccessible::Graphic},
+    {"virtualdesk::DeskWindow", QAccessible::Window},   {"virtualdesk::MonitorPanel", QAccessible::Pane},
+    {"virtualdesk::DesktopPanel", QAccessible::Pane},   {"virtualdesk::AccessoryPanel", QAccessible::Pane},
+    {"virtualdesk::SoundPanel", QAccessible::Pane},     {"virtualdesk::ScreenView", QAccessible::Graphic},
+    {"virtualdesk::WindowsView", QAccessible::Graphic}, {"virtualdesk::MatrixView", QAccessible::Graphic},
 };
 
 QAccessibleInterface *describe(const QString &className, QObject *object)

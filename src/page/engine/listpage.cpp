@@ -1,5 +1,8 @@
 #include "page/engine/listpage.h"
 
+#include <algorithm>
+
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QPushButton>
@@ -25,6 +28,12 @@ constexpr int kFixedItems = 2; // of the rows' column: what an empty list says, 
 const char *const kTrashStyle = "QPushButton { border-image: url(%1trash_normal.png); }"
                                 "QPushButton:hover, QPushButton:focus { border-image: url(%1trash_checked.png); }";
 
+QSize pageSize()
+{
+    static const QSize size = Pictures::load(kBackground, 1.0).size();
+    return size.isEmpty() ? kFallbackSize : size;
+}
+
 } // namespace
 
 ListPage::ListPage(const QString &name, const char *title, const char *description, const char *nothing,
@@ -34,8 +43,9 @@ ListPage::ListPage(const QString &name, const char *title, const char *descripti
     setObjectName(name);
     describeAs(this, QAccessible::Pane);
     dressPage(this);
-    const QPixmap background = Pictures::load(kBackground, 1.0);
-    setFixedSize(background.isNull() ? kFallbackSize : background.size());
+    setFixedSize(pageSize());
+    if (parent)
+        parent->installEventFilter(this);
 
     m_nothing->setObjectName(QStringLiteral("note"));
     m_nothing->setWordWrap(true);
@@ -57,6 +67,28 @@ ListPage::ListPage(const QString &name, const char *title, const char *descripti
     column->addSpacing(metrics::kGap);
     column->addWidget(buildList(), 1);
     showWhetherEmpty();
+}
+
+/// In a window that is lower than it should be, for its screen, the page is as well: what is cut off nobody can reach.
+void ListPage::fitHeight()
+{
+    setFixedHeight(std::min(pageSize().height(), std::max(parentWidget()->height(), 1)));
+}
+
+bool ListPage::event(QEvent *event)
+{
+    if (event->type() == QEvent::ParentAboutToChange && parentWidget())
+        parentWidget()->removeEventFilter(this);
+    else if (event->type() == QEvent::ParentChange && parentWidget())
+        parentWidget()->installEventFilter(this);
+    return QFrame::event(event);
+}
+
+bool ListPage::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == parentWidget() && event->type() == QEvent::Resize)
+        fitHeight();
+    return QFrame::eventFilter(watched, event);
 }
 
 QWidget *ListPage::buildList()

@@ -30,6 +30,8 @@ public:
     QString notice() const;
 
 protected:
+    bool event(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
     QHBoxLayout *heading();
@@ -63,6 +65,7 @@ protected:
 
 private:
     QWidget *buildList();
+    void fitHeight();
     void showWhetherEmpty();
 
     BoundTexts m_texts;

@@ -1,7 +1,9 @@
 #include "page/Nightloom/parts/longworkpage.h"
 
+#include <functional>
 #include <utility>
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -12,7 +14,32 @@
 #include "page/engine/pagehead.h"
 #include "page/engine/pagestyle.h"
 
-static constexpr int kToolColumnWidth = 280;
+namespace {
+
+constexpr int kToolColumnWidth = 280;
+
+/// Tells when what a widget holds takes another size, as a note with another text does.
+class SizeWatch : public QObject
+{
+public:
+    SizeWatch(QWidget *watched, std::function<void()> tell) : QObject(watched), m_tell(std::move(tell))
+    {
+        watched->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::LayoutRequest)
+            m_tell();
+        return false;
+    }
+
+private:
+    std::function<void()> m_tell;
+};
+
+} // namespace
 
 LongWorkPage::LongWorkPage(const QString &name, const char *title, const char *help, AccessoryCheck ensureConnected,
                            QWidget *parent)
@@ -34,21 +61,22 @@ LongWorkPage::LongWorkPage(const QString &name, const char *title, const char *h
 
 void LongWorkPage::layOut(QWidget *worked)
 {
-    auto *side = new QWidget(this);
-    side->setFixedWidth(kToolColumnWidth);
-    auto *tools = new QWidget(side);
-    buildTools(makeToolColumn(tools), tools);
-    m_work->block({tools, worked});
-    auto *column = new QVBoxLayout(side);
+    m_side = new QWidget(this);
+    m_side->setFixedWidth(kToolColumnWidth);
+    m_tools = new QWidget(m_side);
+    buildTools(makeToolColumn(m_tools), m_tools);
+    m_work->block({m_tools, worked});
+    new SizeWatch(m_tools, [this] { fitTools(); });
+    auto *column = new QVBoxLayout(m_side);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(metrics::kRowGap);
-    column->addWidget(tools);
+    column->addWidget(m_tools);
     column->addWidget(m_work);
     column->addStretch(1);
     auto *row = new QHBoxLayout;
     row->setSpacing(metrics::kBlockGap);
     row->addWidget(worked, 1);
-    row->addWidget(side);
+    row->addWidget(m_side);
     auto *page = new QVBoxLayout(this);
     page->setContentsMargins(metrics::kBlockGap, 0, metrics::kBlockGap, 16);
     page->setSpacing(metrics::kGap);
@@ -56,7 +84,28 @@ void LongWorkPage::layOut(QWidget *worked)
     page->addLayout(row, 1);
 }
 
+void LongWorkPage::resizeEvent(QResizeEvent *event)
+{
+    QLabel::resizeEvent(event);
+    fitTools();
+}
+
+/// Where the tools do not fit with the usual gaps, on a low screen or in long words, they move together: else they
+/// would be laid over each other.
+void LongWorkPage::fitTools()
+{
+    if (!m_tools)
+        return;
+    QLayout *tools = m_tools->layout();
+    const int closer = (metrics::kRowGap - tools->spacing()) * (tools->count() - 1);
+    const int needed = m_side->layout()->totalMinimumHeightForWidth(kToolColumnWidth) + closer;
+    const int spacing = needed > m_side->height() ? metrics::kGap : metrics::kRowGap;
+    if (tools->spacing() != spacing)
+        tools->setSpacing(spacing);
+}
+
 void LongWorkPage::updateControlText()
 {
     m_texts.retranslate();
+    fitTools();
 }

@@ -49,9 +49,15 @@ protected:
 
     PageHead *head() const { return m_head; }
 
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
+    void fitTools();
+
     AccessoryCheck m_ensureConnected;
     BoundTexts m_texts;
     PageHead *m_head;
     WorkPanel *m_work;
+    QWidget *m_side = nullptr; ///< holds the tools and how far the work is
+    QWidget *m_tools = nullptr;
 };
