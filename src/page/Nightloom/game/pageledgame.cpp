@@ -13,6 +13,7 @@
 #include "controls/captionlabel.h"
 #include "controls/focusgroup.h"
 #include "controls/metrics.h"
+#include "controls/palette.h"
 #include "controls/sharedfonts.h"
 #include "controls/sliderwidget.h"
 #include "controls/wheeleventfilter.h"
@@ -134,7 +135,7 @@ QWidget *pageLEDGame::makeInterval(QWidget *parent)
     auto *part = new QWidget(parent);
     auto *caption = new CaptionLabel(QString(), 15, part);
     caption->setFixedSize(metrics::kCaptionWidth, metrics::kControlHeight);
-    caption->setStyleSheet(QStringLiteral("color: #ffffff;"));
+    caption->setStyleSheet(Palette::styled(u"color: @text;"));
     m_interval = new QSpinBox(part);
     m_interval->setObjectName(QStringLiteral("playingInterval"));
     m_interval->setFixedSize(110, metrics::kControlHeight);
