@@ -2,17 +2,21 @@
 
 #include <algorithm>
 
+#include "platform/pause.h"
+
 namespace {
 
-constexpr int kSettles = 1000;        // ms
-constexpr int kFirstPause = 1000;     // ms
-constexpr int kLongestPause = 60'000; // ms
-constexpr int kTries = 3;             // of what a monitor that answers does not tell
-constexpr int kDoublings = 6;         // to the longest pause
+using platform::milliseconds;
 
-int pauseAfter(int vainTries)
+constexpr milliseconds kSettles{1000};
+constexpr milliseconds kFirstPause{1000};
+constexpr milliseconds kLongestPause{60'000};
+constexpr int kTries = 3;     // of what a monitor that answers does not tell
+constexpr int kDoublings = 6; // to the longest pause
+
+milliseconds pauseAfter(int vainTries)
 {
-    return std::min(kFirstPause << std::clamp(vainTries - 1, 0, kDoublings), kLongestPause);
+    return std::min(kFirstPause * (1 << std::clamp(vainTries - 1, 0, kDoublings)), kLongestPause);
 }
 
 ReconcileStep at(const QDateTime &due, const QDateTime &now, ReconcileStep::Action action)
@@ -27,12 +31,13 @@ ReconcileStep planReconciliation(const ReconcileFacts &facts, const QDateTime &n
     if (facts.isSearching)
         return {};
     if (facts.stale)
-        return at(facts.stale->addMSecs(kSettles), now, ReconcileStep::Search);
+        return at(platform::endOf(*facts.stale, kSettles, now), now, ReconcileStep::Search);
     if (facts.isAsking || !facts.isSeen)
         return {};
     if (facts.answers && facts.isWanted)
         return {ReconcileStep::Ask};
     const bool triesAgain = !facts.answers || (facts.vainTries > 0 && facts.vainTries <= kTries);
-    return triesAgain && facts.asked ? at(facts.asked->addMSecs(pauseAfter(facts.vainTries)), now, ReconcileStep::Ask)
-                                     : ReconcileStep{};
+    if (!triesAgain || !facts.asked)
+        return {};
+    return at(platform::endOf(*facts.asked, pauseAfter(facts.vainTries), now), now, ReconcileStep::Ask);
 }

@@ -145,6 +145,11 @@ void TestDeviceState::confirmationHasATime()
     m_desk->clock.advance(std::chrono::seconds(5));
     perform("wish 6");
     QCOMPARE(deviceState.confirmedAt(Command::Brightness), std::optional(told));
+    m_desk->clock.setNow(told.addSecs(1));
+    QVERIFY(deviceState.isFresh(Command::Brightness));
+    m_desk->clock.setNow(told.addDays(-1)); // nobody knows how long ago it was
+    QVERIFY(!deviceState.isFresh(Command::Brightness));
+    m_desk->clock.setNow(told.addSecs(5));
     QCOMPARE(deviceState.pendingSince(Command::Brightness), std::optional(told.addSecs(5)));
 }
 

@@ -117,6 +117,7 @@ void TestOledCare::plan_data()
     row("over, by the count", used(4), "asks", 30);
     row("over, just asked", with(used(4), [](CareFacts &facts) { facts.asked = ago(59); }), "", 30);
     row("over, asked long ago", with(used(4), [](CareFacts &facts) { facts.asked = ago(60); }), "asks", 30);
+    row("over, clock set back", with(used(4), [](CareFacts &facts) { facts.asked = ago(-999); }), "asks", 30);
     row("over, nothing told", with(used(4), [](CareFacts &facts) { facts.isDue.reset(); }), "asks reminds", 0);
     row("due", due, "reminds", 0);
     row("due before its hours", with(due, [](CareFacts &facts) { facts.used = 60; }), "reminds", 0);

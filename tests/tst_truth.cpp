@@ -68,6 +68,7 @@ void TestTruth::whenToAsk()
         {silent(1, 99), {Ask}},
         {silent(3, 97), {Nothing, at(101)}},
         {silent(20, 41), {Nothing, at(101)}},
+        {silent(20, 9000), {Ask}}, // the clock was set back
         {with([&](auto &facts) { facts.isWanted = false, facts.vainTries = 3, facts.asked = at(96); }), {Ask}},
         {with([&](auto &facts) { facts.isWanted = false, facts.vainTries = 4, facts.asked = at(0); }), {}},
     };

@@ -6,6 +6,7 @@
 #include "ddc_protocol/commandtable.h"
 #include "ddc_protocol/devicestate.h"
 #include "platform/desk.h"
+#include "platform/pause.h"
 
 // The hue values end in the order C, M, Y and the saturation values in Y, C, M: the monitor packs them so.
 constinit const std::array<Command, kSceneBlockValues> kSceneBlockLayout = {
@@ -26,8 +27,8 @@ constinit const std::array<Command, kSceneBlockValues> kSceneBlockLayout = {
 
 namespace {
 
-constexpr qint64 kRefusalIsRead = 10'000; // ms
-constexpr qint64 kMoment = 2000;          // ms
+constexpr platform::milliseconds kRefusalIsRead{10'000};
+constexpr platform::milliseconds kMoment{2000};
 
 std::size_t placeOf(Command command)
 {
@@ -126,7 +127,7 @@ bool StateStorage::isFresh(const StateEntry &entry) const
 {
     const QDateTime now = platform::desk().clock().now();
     return entry.confirmed && entry.state != ValueState::Unknown && entry.era == m_era &&
-           entry.confirmedAt.msecsTo(now) < kMoment;
+           platform::endOf(entry.confirmedAt, kMoment, now) > now;
 }
 
 void StateStorage::keepConfirmed(StateEntry &entry, int value) const
@@ -142,6 +143,7 @@ void StateStorage::keepTold(StateEntry &entry, int value) const
     if (entry.state == ValueState::Pending)
         return;
     entry.value = value;
-    if (entry.state != ValueState::Refused || entry.refusedAt.msecsTo(entry.confirmedAt) >= kRefusalIsRead)
+    if (entry.state != ValueState::Refused ||
+        platform::endOf(entry.refusedAt, kRefusalIsRead, entry.confirmedAt) <= entry.confirmedAt)
         entry.state = ValueState::Known;
 }

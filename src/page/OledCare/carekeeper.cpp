@@ -144,8 +144,8 @@ void CareKeeper::remind(const QDateTime &now)
     const platform::WindowHandle front = platform::desk().windows().foregroundWindow();
     const platform::WindowHandle before = std::exchange(m_front, front);
     presence.isElsewhere = before && front && before != front;
-    if (m_shown && isAway(presence))
-        m_shown = now; // nobody has seen it yet
+    if (m_shown && (isAway(presence) || *m_shown > now))
+        m_shown = now; // nobody has seen it yet, or the clock was set back
     presence.shown = m_shown;
     switch (planReminder(presence, now)) {
     case ReminderStep::Stay:

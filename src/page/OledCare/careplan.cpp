@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/pause.h"
+
 using namespace std::chrono_literals;
 using platform::milliseconds;
 
@@ -21,7 +23,7 @@ QDateTime after(const QDateTime &from, milliseconds time)
 
 bool isTime(const std::optional<QDateTime> &last, milliseconds pause, const QDateTime &now)
 {
-    return !last || after(*last, pause) <= now;
+    return !last || platform::endOf(*last, pause, now) <= now;
 }
 
 /// Where the monitor begins by itself, it had the hours of a second interval for it.

@@ -19,6 +19,7 @@
 #include "controls/sharedfonts.h"
 #include "page/Splitter/zonepicture.h"
 #include "platform/desk.h"
+#include "platform/pause.h"
 
 namespace {
 
@@ -141,7 +142,8 @@ void ZoneOverlay::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
     if (event->type() != QEvent::ActivationChange || isActiveWindow())
         return;
-    if (m_opened.msecsTo(platform::desk().clock().now()) >= kSettles.count())
+    const QDateTime now = platform::desk().clock().now();
+    if (platform::endOf(m_opened, kSettles, now) <= now)
         hide();
 }
 
