@@ -188,7 +188,12 @@ void TestOledCare::history()
     QCOMPARE(history.text(), kept);
     QCOMPARE(cares, kept.contains("last") ? 1 : 0);
     history.wasRunning = false;
-    QVERIFY(CareHistory::fromText(kept + " 2026-13-01:5:5 last:never x") == history);
+    QVERIFY(CareHistory::fromText(kept + " 2026-13-01:5:5 last:never x", kNow) == history);
+    QString ahead = kept + " last:2099-01-01T00:00:00 later:2027-03-09T12:00:00";
+    for (int day = 1; day <= CareHistory::kDaysKept; ++day)
+        ahead += kNow.addDays(day).toString(" yyyy-MM-dd:9:9");
+    const CareHistory now = CareHistory::fromText(ahead, kNow);
+    QVERIFY(!now.last && !now.putOff && now.days.size() == 2 && now.days.front() == history.days.front());
     for (int day = 0; day < 2 * CareHistory::kDaysKept; ++day)
         history.use(kNow.addDays(day), kNow.addDays(day).addSecs(60));
     QCOMPARE(int(history.days.size()), CareHistory::kDaysKept);

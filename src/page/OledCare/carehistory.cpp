@@ -23,6 +23,11 @@ std::optional<QDateTime> timeOf(const QString &text, const std::optional<QDateTi
     return time.isValid() ? std::optional(time) : otherwise;
 }
 
+bool canBe(const QDate &day, const QDateTime &now)
+{
+    return day <= now.date().addDays(1);
+}
+
 } // namespace
 
 CareDay &CareHistory::dayOf(const QDate &date)
@@ -33,6 +38,15 @@ CareDay &CareHistory::dayOf(const QDate &date)
         return *day;
     days.erase(days.begin());
     return *std::ranges::lower_bound(days, std::max(date, days.front().date), {}, &CareDay::date);
+}
+
+void CareHistory::forgetFuture(const QDateTime &now)
+{
+    if (last && *last > now.addSecs(kDay))
+        last.reset();
+    if (putOff && *putOff > now.addMSecs(kCarePutOff.count()))
+        putOff.reset();
+    std::erase_if(days, [&now](const CareDay &day) { return !canBe(day.date, now); });
 }
 
 void CareHistory::use(const QDateTime &from, const QDateTime &to)
@@ -72,7 +86,7 @@ QString CareHistory::text() const
     return parts.join(QLatin1Char(' '));
 }
 
-CareHistory CareHistory::fromText(const QString &text)
+CareHistory CareHistory::fromText(const QString &text, const QDateTime &now)
 {
     CareHistory history;
     for (const QString &part : text.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
@@ -86,11 +100,12 @@ CareHistory CareHistory::fromText(const QString &text)
             history.putOff = timeOf(value, history.putOff);
         else if (name == kDue)
             history.wasDue = value.toInt() != 0;
-        else if (const QDate date = QDate::fromString(name, Qt::ISODate); date.isValid()) {
+        else if (const QDate date = QDate::fromString(name, Qt::ISODate); date.isValid() && canBe(date, now)) {
             CareDay &day = history.dayOf(date);
             day.used = std::clamp<qint64>(value.section(QLatin1Char(':'), 0, 0).toLongLong(), 0, kDay);
             day.cares = std::clamp(value.section(QLatin1Char(':'), 1).toInt(), 0, 99);
         }
     }
+    history.forgetFuture(now);
     return history;
 }

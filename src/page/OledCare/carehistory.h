@@ -27,6 +27,10 @@ struct CareHistory
     bool wasRunning = false;   ///< not kept in the file
     std::vector<CareDay> days; ///< rising, at most so many
 
+    /// Leaves out what cannot be yet, by a clock that was ahead or a file that somebody wrote: beyond a day, by which
+    /// the clocks of two places differ, and a reminder that was put off for longer than that is done.
+    void forgetFuture(const QDateTime &now);
+
     /// Counts the time between two looks as use; see kCareLook. A clock that was set back counts nothing.
     void use(const QDateTime &from, const QDateTime &to);
 
@@ -34,9 +38,9 @@ struct CareHistory
     /// has been cared for, whoever saw it. True when a care is over, which is kept.
     bool note(std::optional<bool> isDue, bool isRunning, bool askedWhenOver, const QDateTime &now);
 
-    /// One line for a settings file, and back; what is no such part of it is left out.
+    /// One line for a settings file, and back; what is no such part of it is left out, and what cannot be yet.
     QString text() const;
-    static CareHistory fromText(const QString &text);
+    static CareHistory fromText(const QString &text, const QDateTime &now);
 
     bool operator==(const CareHistory &) const = default;
 

@@ -82,11 +82,12 @@ void CareKeeper::chooseMonitor()
         store();
     }
     m_monitor = monitor;
-    m_history = monitor.isEmpty()
-                    ? CareHistory()
-                    : CareHistory::fromText(settingsString(keyOf(monitor), {}, false, QLatin1String(kConfigFile)));
-    m_stored = m_history.used;
     m_counted = timeNow();
+    m_history = {};
+    if (!monitor.isEmpty())
+        m_history =
+            CareHistory::fromText(settingsString(keyOf(monitor), {}, false, QLatin1String(kConfigFile)), m_counted);
+    m_stored = m_history.used;
     m_asked.reset();
     endReminder();
 }
@@ -94,6 +95,7 @@ void CareKeeper::chooseMonitor()
 /// A panel whose monitor is silent is not in use.
 void CareKeeper::count(const QDateTime &now)
 {
+    m_history.forgetFuture(now);
     if (monitorAnswers())
         m_history.use(m_counted, now);
     m_counted = now;
