@@ -92,7 +92,7 @@ void TestSplitter::zonesMeet_data()
 void TestSplitter::zonesMeet()
 {
     const auto [area] = fetch<QRect>();
-    std::vector<Zones> layouts{kCorner, {{0, 0, 720, 5040}, {720, 0, 5040, 1}, {720, 1, 5040, 5040}}};
+    std::vector<Zones> layouts{kCorner, {{0, 0, 720, 5040}, {720, 0, 5040, 504}, {720, 504, 5040, 5040}}};
     for (const SplitLayout &layout : fixedLayouts())
         layouts.push_back(layout.zones);
     for (const Zones &zones : layouts) {
@@ -149,6 +149,8 @@ void TestSplitter::damagedTextIsLeftOut()
     const QString good = QStringLiteral("Two%20rows:0-0-5040-2520+0-2520-5040-5040");
     const QString bad[] = {QStringLiteral("gap:0-0-5040-2520+0-2530-5040-5040"),
                            QStringLiteral("over:0-0-5040-2530+0-2520-5040-5040"),
+                           QStringLiteral("thin:0-0-5040-1+0-1-5040-5040"),
+                           QStringLiteral("backwards:0-5040-5040-0"),
                            QStringLiteral("nan:0-0-x-2520+0-2520-5040-5040"),
                            QStringLiteral(":0-0-5040-5040"),
                            QStringLiteral("0-0-5040-5040"),

@@ -28,10 +28,10 @@ std::array<SplitLayout, 4> makeFixed()
         named(QT_TRANSLATE_NOOP("QObject", "Main and side"), {column(0, 2 * kThird), column(2 * kThird, kWholeSide)})};
 }
 
-bool isWithinScreen(const Zone &zone)
+bool isZone(const Zone &zone)
 {
-    return zone.left >= 0 && zone.top >= 0 && zone.left < zone.right && zone.top < zone.bottom &&
-           zone.right <= kWholeSide && zone.bottom <= kWholeSide;
+    const auto isSide = [](int begin, int end) { return begin >= 0 && end <= kWholeSide && begin <= end - kLeastSide; };
+    return isSide(zone.left, zone.right) && isSide(zone.top, zone.bottom);
 }
 
 bool overlap(const Zone &a, const Zone &b)
@@ -54,7 +54,7 @@ QString shownName(const SplitLayout &layout)
 
 bool coversScreen(std::span<const Zone> zones)
 {
-    if (zones.empty() || zones.size() > kMostZones || !std::all_of(zones.begin(), zones.end(), isWithinScreen))
+    if (zones.empty() || zones.size() > kMostZones || !std::all_of(zones.begin(), zones.end(), isZone))
         return false;
     qint64 area = 0;
     for (auto zone = zones.begin(); zone != zones.end(); ++zone) {

@@ -9,7 +9,7 @@
 // are whole numbers and two zones that share an edge name the same number.
 
 inline constexpr int kWholeSide = 5040;
-inline constexpr int kLeastSide = kWholeSide / 10; ///< of a zone that the user makes
+inline constexpr int kLeastSide = kWholeSide / 10; ///< of a zone
 inline constexpr int kMostZones = 9;               ///< each is chosen by a digit
 
 /// A part of a screen; right and bottom are where the next zone begins.
@@ -37,8 +37,8 @@ std::span<const SplitLayout> fixedLayouts();
 /// The name as the user reads it.
 QString shownName(const SplitLayout &layout);
 
-/// Whether these are zones of a layout: one to nine, none of them empty or beyond the screen, nothing covered twice or
-/// left out.
+/// Whether these are zones of a layout: one to nine, none of them smaller than kLeastSide or beyond the screen, nothing
+/// covered twice or left out.
 bool coversScreen(std::span<const Zone> zones);
 
 /// Sorts zones by rows, from the left in each: so they are numbered.
