@@ -181,6 +181,7 @@ void MainWindow::systemNoticed(SystemNotice notice)
 {
     m_rhythm->systemNoticed(notice); // first: it makes dark, and the reconciliation may have much to ask
     m_reconciler->systemNoticed(notice);
+    m_splitting->systemNoticed(notice);
 }
 
 void MainWindow::updateControlText()

@@ -42,6 +42,7 @@ private Q_SLOTS:
     void presses_data();
     void presses();
     void movedByHandMeanwhile();
+    void oldPlaceIsGone();
     void refusals_data();
     void refusals();
     void whoIsMeant();
@@ -188,7 +189,7 @@ void TestSplitter::presses_data()
     row("maximised", maximised, QList<int>{1, 1, -1}, QStringList{halves[1], filled, halves[0]});
     row("no such zone", plain, QList<int>{7}, QStringList{before + " refused"});
     row("a size of its own", large, QList<int>{1, -1, 0},
-        QStringList{QStringLiteral("683,0 800x720 own"), QStringLiteral("0,0 800x720 own"),
+        QStringList{QStringLiteral("566,0 800x720 own"), QStringLiteral("0,0 800x720 own"),
                     before.left(7) + "800x400"});
     row("the old place is a maximised one's normal one", maximised, QList<int>{0, 9},
         QStringList{halves[0], halves[0] + " refused"});
@@ -238,6 +239,18 @@ void TestSplitter::refusals_data()
     ApplicationWindow maximised = changed(&ApplicationWindow::shape, Shape::Maximised);
     maximised.hasMoreRights = true;
     row("maximised, with rights", maximised, int(SplitRefusal::MoreRights));
+}
+
+/// A window comes back from a screen that is gone to one that is there.
+void TestSplitter::oldPlaceIsGone()
+{
+    open({{100, 90, 500, 400}});
+    const virtualdesk::DisplaySetup first{QStringLiteral("\\\\.\\DISPLAY1"), QRect(0, 0, 1366, 768)};
+    m_desk->desk.displays().setDisplays({first, {QStringLiteral("\\\\.\\DISPLAY2"), QRect(1366, 0, 1800, 600)}});
+    m_desk->desk.windows().move(m_splitter.windowMeant(), {1500, 20, 1500, 500});
+    press({Kind::Zone, 0});
+    m_desk->desk.displays().setDisplays({first});
+    QCOMPARE(press({Kind::Restore}), QStringLiteral("0,20 1366x500"));
 }
 
 /// It stays where it is, and what is said is why.

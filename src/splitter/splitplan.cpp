@@ -8,7 +8,8 @@
 
 namespace {
 
-constexpr int kAsGood = 1; ///< pixels by which the edges of a window may miss its zone's
+constexpr int kHandle = 40; ///< pixels of a title bar
+constexpr int kAsGood = 1;  ///< pixels by which the edges of a window may miss its zone's
 
 constexpr QLatin1String kShellClasses[] = {QLatin1String("Progman"), QLatin1String("WorkerW"),
                                            QLatin1String("Shell_TrayWnd"), QLatin1String("Shell_SecondaryTrayWnd")};
@@ -70,12 +71,25 @@ SplitWish refuse(SplitRefusal why)
     return wish;
 }
 
-SplitWish oldPlace(const RememberedPlace *memory)
+/// Whether enough of a window's upper edge would be in sight to drag it by.
+bool canBeReached(const QRect &rect, std::span<const QRect> workAreas)
+{
+    const QRect handle(rect.topLeft(), QSize(rect.width(), std::min(rect.height(), kHandle)));
+    return std::any_of(workAreas.begin(), workAreas.end(), [&handle](const QRect &area) {
+        const QRect seen = handle & area;
+        return seen.width() >= std::min(handle.width(), kHandle) && seen.height() >= handle.height() / 2;
+    });
+}
+
+SplitWish oldPlace(const WindowFacts &window, const RememberedPlace *memory)
 {
     if (!memory)
         return refuse(SplitRefusal::NoOldPlace);
     SplitWish wish;
     wish.rect = memory->before;
+    if (!canBeReached(wish.rect, window.workAreas))
+        wish.rect =
+            movedInto({wish.rect.topLeft(), wish.rect.size().boundedTo(window.workArea.size())}, window.workArea);
     wish.maximise = memory->wasMaximised;
     return wish;
 }
@@ -119,7 +133,7 @@ SplitWish planSplit(const WindowFacts &window, std::span<const QRect> zones, con
     }
     const bool isSecondPress = request.kind == SplitRequest::Kind::Zone && asked == current && memory;
     if (isSecondPress || request.kind == SplitRequest::Kind::Restore)
-        return oldPlace(memory);
+        return oldPlace(window, memory);
     SplitWish wish;
     wish.zone = asked;
     wish.rect =

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <span>
+#include <vector>
 
 #include <QString>
 
@@ -35,6 +36,8 @@ struct WindowFacts
     QRect rect;                   ///< with the frame that cannot be seen
     std::optional<QRect> visible; ///< without it; nothing where the system does not tell
     QRect screen;                 ///< the one that it is on; empty when that is not known
+    QRect workArea;               ///< what windows may fill of that one
+    std::vector<QRect> workAreas; ///< of all screens
     bool wasMaximised = false;    ///< until just before
 };
 
@@ -62,7 +65,8 @@ bool isShellWindow(const QString &className);
 std::optional<int> zoneHolding(const WindowFacts &window, std::span<const QRect> zones, const RememberedPlace *memory);
 
 /// The zone that was asked for; of a window that is in it already its old place, where that is known. "Next" and
-/// "previous" go round; from outside they begin at the first and at the last.
+/// "previous" go round; from outside they begin at the first and at the last. An old place on a screen that is gone
+/// becomes one on the screen that the window is on.
 SplitWish planSplit(const WindowFacts &window, std::span<const QRect> zones, const RememberedPlace *memory,
                     const SplitRequest &request);
 

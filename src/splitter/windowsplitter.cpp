@@ -73,15 +73,20 @@ SplitResult WindowSplitter::arrange(platform::WindowHandle window, const SplitRe
     std::vector<QRect> zones;
     if (const auto screen = screenOf(window)) {
         facts.screen = screen->bounds;
+        facts.workArea = screen->workArea;
+        for (const SplitScreen &each : splitScreens())
+            facts.workAreas.push_back(each.workArea);
         zones = zoneRects(layout.value_or(loadLayouts(screen->key()).chosen).zones, screen->workArea);
     }
     result.zones = static_cast<int>(zones.size());
     SplitWish wish = planSplit(facts, zones, m_memory.find(facts.id), request);
     if (wish.unmaximise) {
-        const QRect screen = facts.screen;
+        const WindowFacts before = facts;
         windows().showWindow(window, platform::ShowWindowAs::Restored);
         facts = factsOf(window);
-        facts.screen = screen;
+        facts.screen = before.screen;
+        facts.workArea = before.workArea;
+        facts.workAreas = before.workAreas;
         facts.wasMaximised = true;
         wish = planSplit(facts, zones, m_memory.find(facts.id), request);
         if (wish.unmaximise) // it does not let itself be restored, so it cannot be moved either
@@ -91,6 +96,16 @@ SplitResult WindowSplitter::arrange(platform::WindowHandle window, const SplitRe
     if (result.refusal != SplitRefusal::None && facts.wasMaximised)
         windows().showWindow(window, platform::ShowWindowAs::Maximised);
     return result;
+}
+
+/// One that is larger than its zone is not to reach over the next screen. Where it is then.
+QRect WindowSplitter::keepOnScreen(const WindowFacts &window, const QRect &placed) const
+{
+    const QRect seen = placed - invisibleFrame(window.rect, window.visible.value_or(window.rect));
+    const QPoint way = movedInto(seen, window.workArea).topLeft() - seen.topLeft();
+    if (way.isNull() || windows().moveWindow(window.id.handle, placed.translated(way)) != 0)
+        return placed;
+    return windows().windowRect(window.id.handle).value_or(placed.translated(way));
 }
 
 SplitRefusal WindowSplitter::carryOut(const SplitWish &wish, const WindowFacts &window, std::span<const QRect> zones,
@@ -108,8 +123,10 @@ SplitRefusal WindowSplitter::carryOut(const SplitWish &wish, const WindowFacts &
         m_memory.forget(window.id);
         return SplitRefusal::None;
     }
-    const QRect placed = windows().windowRect(window.id.handle).value_or(wish.rect);
+    QRect placed = windows().windowRect(window.id.handle).value_or(wish.rect);
     result.keptSize = placed != wish.rect;
+    if (result.keptSize)
+        placed = keepOnScreen(window, placed);
     m_memory.remember(
         placeBefore(window, m_memory.find(window.id), zones[static_cast<std::size_t>(*wish.zone)], placed));
     return SplitRefusal::None;

@@ -45,6 +45,7 @@ public:
 private:
     bool isForeign(platform::WindowHandle window) const;
     WindowFacts factsOf(platform::WindowHandle window) const;
+    QRect keepOnScreen(const WindowFacts &window, const QRect &placed) const;
     SplitRefusal carryOut(const SplitWish &wish, const WindowFacts &window, std::span<const QRect> zones,
                           SplitResult &result);
 

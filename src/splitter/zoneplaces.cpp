@@ -21,6 +21,16 @@ std::vector<QRect> zoneRects(std::span<const Zone> zones, const QRect &workArea)
     return rects;
 }
 
+QRect movedInto(const QRect &rect, const QRect &area)
+{
+    const auto first = [](int begin, int length, int least, int room) {
+        return std::max(least, std::min(begin, least + room - length));
+    };
+    return {QPoint(first(rect.x(), rect.width(), area.x(), area.width()),
+                   first(rect.y(), rect.height(), area.y(), area.height())),
+            rect.size()};
+}
+
 QMargins invisibleFrame(const QRect &window, const QRect &visible)
 {
     return {std::max(0, visible.left() - window.left()), std::max(0, visible.top() - window.top()),

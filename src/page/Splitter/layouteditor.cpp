@@ -44,8 +44,7 @@ void LayoutEditor::show(const SplitLayout &layout, const QSize &screen)
 {
     m_layout = layout;
     m_screen = screen.isEmpty() ? QSize(16, 9) : screen;
-    m_stroke = Stroke::None;
-    m_seen.reset();
+    endStroke();
     chooseZone(std::min(m_zone, m_layout.zones.size() - 1));
     update();
 }
@@ -133,11 +132,23 @@ void LayoutEditor::mouseReleaseEvent(QMouseEvent *event)
     if (event->button() != Qt::LeftButton)
         return;
     const auto zones = strokeResult(event->position());
+    endStroke();
+    if (zones)
+        Q_EMIT drawn(*zones);
+}
+
+/// What is drawn so far is no longer seen.
+void LayoutEditor::endStroke()
+{
     m_stroke = Stroke::None;
     m_seen.reset();
     update();
-    if (zones)
-        Q_EMIT drawn(*zones);
+}
+
+void LayoutEditor::hideEvent(QHideEvent *event)
+{
+    endStroke();
+    QWidget::hideEvent(event);
 }
 
 void LayoutEditor::leaveEvent(QEvent *)
@@ -201,7 +212,9 @@ void LayoutEditor::moveEdgeOfZone(int key)
 
 void LayoutEditor::keyPressEvent(QKeyEvent *event)
 {
-    if (!stepOfArrow(event->key()))
+    if (event->key() == Qt::Key_Escape && m_stroke != Stroke::None)
+        return endStroke();
+    if (m_stroke != Stroke::None || !stepOfArrow(event->key()))
         return QWidget::keyPressEvent(event);
     if (!event->modifiers().testFlag(Qt::ControlModifier))
         step(event->key());

@@ -7,7 +7,7 @@
 #include "splitter/layoutedit.h"
 
 /// A picture of the screen on which the zones of an own layout are drawn: a line through a zone cuts it, an edge is
-/// dragged. With the keyboard the arrows choose a zone, and with Ctrl they move its edges.
+/// dragged; Escape leaves all as it was. With the keyboard the arrows choose a zone, and with Ctrl they move its edges.
 class LayoutEditor : public QWidget, public Described
 {
     Q_OBJECT
@@ -46,6 +46,7 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void leaveEvent(QEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override { followFocus(event); }
     void focusOutEvent(QFocusEvent *event) override { followFocus(event); }
@@ -57,6 +58,7 @@ private:
     QPoint partsAt(const QPointF &place) const;
     std::optional<Zones> halved(Cut cut) const;
     std::optional<Zones> strokeResult(const QPointF &place) const;
+    void endStroke();
     void showCursor(const QPointF &place);
     void chooseZone(std::size_t zone);
     void step(int key);

@@ -107,7 +107,12 @@ void pageSplitter::showEvent(QShowEvent *event)
     fillScreens();
 }
 
-/// Screens come and go, and change their resolution: they are asked for each time the page is shown.
+void pageSplitter::followScreens()
+{
+    if (isVisible()) // else it asks when it is shown
+        fillScreens();
+}
+
 void pageSplitter::fillScreens()
 {
     const std::vector<SplitScreen> screens = splitScreens();

@@ -30,6 +30,9 @@ public:
     QComboBox *screenBox() const { return m_screens; }
     std::vector<LayoutTile *> tiles() const;
 
+    /// Screens have come, gone or changed their resolution.
+    void followScreens();
+
     /// Says under the title what became of a window.
     void tell(const QString &text, bool isRefusal);
 

@@ -21,6 +21,12 @@ Splitting::Splitting(const Surroundings &around, PageSet &pages, QStackedWidget 
 
 Splitting::~Splitting() = default;
 
+void Splitting::systemNoticed(SystemNotice notice)
+{
+    if (notice == SystemNotice::DisplaysChanged)
+        m_page->followScreens();
+}
+
 void Splitting::act(SplitAction action)
 {
     using Kind = SplitRequest::Kind;

@@ -6,6 +6,7 @@
 
 #include "page/Splitter/splitterkeys.h"
 #include "splitter/windowsplitter.h"
+#include "systemnotices.h"
 
 class ForegroundWatch;
 class HotkeyOverlay;
@@ -35,6 +36,9 @@ public:
     /// Shows the zones of the layout that is chosen for the screen of the window that the user means; with @p fixed
     /// halves where that layout is the user's own. Closes them when they are shown.
     void openZones(bool fixed = false);
+
+    /// The displays may have changed: what is shown of them follows.
+    void systemNoticed(SystemNotice notice);
 
     /// Null until it was first opened.
     ZoneOverlay *overlay() const { return m_overlay.get(); }
