@@ -10,13 +10,33 @@ namespace {
 
 constexpr int kThinness = 180;     // a strip is so much thinner than the screen is high
 constexpr int kThinnest = 4;       // pixels
-constexpr int kDarkest = 16;       // what a bar still is, of 255: films are not quite black there
+constexpr int kDarkest = 24;       // what a bar still is, of 255: the black of video is 16, and encoding adds its noise
+constexpr int kSpecks = 100;       // of so many pixels of a bar one may be bright: a pointer, a word, a broken pixel
 constexpr double kWidestBar = 0.4; // of the screen, on either side; beyond it is the picture that is dark
 constexpr int kSoftEdge = 2;       // pixels in which a scaled picture goes over into its bar
 
 bool isDarkPixel(std::uint32_t pixel)
 {
     return qRed(pixel) <= kDarkest && qGreen(pixel) <= kDarkest && qBlue(pixel) <= kDarkest;
+}
+
+bool isBar(std::ptrdiff_t bright, std::ptrdiff_t pixels)
+{
+    return bright * kSpecks <= pixels;
+}
+
+/// How many lines of so many pixels belong to the bar that begins with the first one.
+template <typename BrightOf> int barLines(int lines, int length, BrightOf brightOf)
+{
+    int found = 0;
+    std::ptrdiff_t bright = 0;
+    for (int line = 0; line < lines && isBar(bright, std::ptrdiff_t{lines} * length); ++line) {
+        const std::ptrdiff_t here = brightOf(line);
+        bright += here;
+        if (isBar(here, length) && isBar(bright, std::ptrdiff_t{line + 1} * length))
+            found = line + 1;
+    }
+    return found;
 }
 
 constexpr double kUnit = 65535; // of light: whole numbers add up faster
@@ -78,35 +98,36 @@ int barOf(int dark, int extent)
 
 } // namespace
 
-bool ScreenColours::Strip::isDark(int x, int y, int width, int height) const
+std::ptrdiff_t ScreenColours::Strip::bright(int x, int y, int width, int height) const
 {
+    std::ptrdiff_t found = 0;
     for (int row = y; row < y + height; ++row) {
         const auto begin = pixels.begin() + std::ptrdiff_t{row} * area.width() + x;
-        if (!std::all_of(begin, begin + width, isDarkPixel))
-            return false;
+        found += width - std::count_if(begin, begin + width, isDarkPixel);
     }
-    return true;
+    return found;
 }
 
 bool ScreenColours::Strip::isDark() const
 {
-    return isDark(0, 0, area.width(), area.height());
+    const std::ptrdiff_t all = std::ptrdiff_t{area.width()} * area.height();
+    std::ptrdiff_t found = 0;
+    for (int row = 0; row < area.height() && isBar(found, all); ++row)
+        found += bright(0, row, area.width(), 1);
+    return isBar(found, all);
 }
 
 int ScreenColours::Strip::darkRows(bool fromEnd) const
 {
-    int dark = 0;
-    while (dark < area.height() && isDark(0, fromEnd ? area.height() - 1 - dark : dark, area.width(), 1))
-        ++dark;
-    return dark;
+    return barLines(area.height(), area.width(),
+                    [=, this](int row) { return bright(0, fromEnd ? area.height() - 1 - row : row, area.width(), 1); });
 }
 
 int ScreenColours::Strip::darkColumns(bool fromEnd) const
 {
-    int dark = 0;
-    while (dark < area.width() && isDark(fromEnd ? area.width() - 1 - dark : dark, 0, 1, area.height()))
-        ++dark;
-    return dark;
+    return barLines(area.width(), area.height(), [=, this](int column) {
+        return bright(fromEnd ? area.width() - 1 - column : column, 0, 1, area.height());
+    });
 }
 
 platform::ScreenPart ScreenColours::Strip::part(const QRect &wanted)
@@ -130,37 +151,44 @@ bool ScreenColours::takeEdges(const QRect &picture, const Copy &copy)
 }
 
 /// The screen without its bars, as the edges that were taken tell: how wide a bar is, is seen where the edges beside it
-/// leave it. Where all edges are dark, the middle tells. Nothing when a copy failed.
+/// leave it. Where both of these are dark as well, the middle tells. Nothing when a copy failed.
 std::optional<QRect> ScreenColours::findPicture(const QRect &screen, const Copy &copy)
 {
     bool isDark[kSides];
     for (int side = 0; side < kSides; ++side)
         isDark[side] = m_edges[side].isDark();
-    const auto rows = [&](bool fromEnd) {
-        const int thick = m_edges[Top].area.height(); // which the sides leave to it
-        return thick + std::min(m_edges[Left].darkRows(fromEnd), m_edges[Right].darkRows(fromEnd));
+    const int thick = m_edges[Top].area.height();
+    QRect picture = screen;
+    const auto leaveOut = [&](Side side, int dark) {
+        const int bar =
+            barOf(isDark[side] ? dark : 0, side == Left || side == Right ? screen.width() : screen.height());
+        picture.adjust(side == Left ? bar : 0, side == Top ? bar : 0, side == Right ? -bar : 0,
+                       side == Bottom ? -bar : 0);
     };
-    const auto columns = [&](bool fromEnd) {
-        return std::min(m_edges[Top].darkColumns(fromEnd), m_edges[Bottom].darkColumns(fromEnd));
-    };
-    int top = isDark[Top] ? rows(false) : 0;
-    int bottom = isDark[Bottom] ? rows(true) : 0;
-    int left = isDark[Left] ? columns(false) : 0;
-    int right = isDark[Right] ? columns(true) : 0;
-    if (std::ranges::all_of(isDark, std::identity())) {
-        const int thick = m_edges[Top].area.height();
-        const platform::ScreenPart parts[] = {
-            m_down.part({screen.center().x(), screen.top(), thick, screen.height()}),
-            m_across.part({screen.left(), screen.center().y(), screen.width(), thick})};
-        if (!copy(parts))
-            return std::nullopt;
-        top = m_down.darkRows(false);
-        bottom = m_down.darkRows(true);
-        left = m_across.darkColumns(false);
-        right = m_across.darkColumns(true);
+    if (!isDark[Left] || !isDark[Right]) {
+        for (const Side side : {Top, Bottom}) // which leave the sides so much less to look at
+            leaveOut(side,
+                     thick + std::min(m_edges[Left].darkRows(side == Bottom), m_edges[Right].darkRows(side == Bottom)));
     }
-    return screen.adjusted(barOf(left, screen.width()), barOf(top, screen.height()), -barOf(right, screen.width()),
-                           -barOf(bottom, screen.height()));
+    if (!isDark[Top] || !isDark[Bottom]) {
+        for (const Side side : {Left, Right})
+            leaveOut(side,
+                     std::min(m_edges[Top].darkColumns(side == Right), m_edges[Bottom].darkColumns(side == Right)));
+    }
+    const bool asksDown = isDark[Left] && isDark[Right] && (isDark[Top] || isDark[Bottom]);
+    const bool asksAcross = isDark[Top] && isDark[Bottom] && (isDark[Left] || isDark[Right]);
+    std::vector<platform::ScreenPart> parts;
+    if (asksDown)
+        parts.push_back(m_down.part({picture.center().x(), screen.top(), thick, screen.height()}));
+    if (asksAcross)
+        parts.push_back(m_across.part({screen.left(), picture.center().y(), screen.width(), thick}));
+    if (!parts.empty() && !copy(parts))
+        return std::nullopt;
+    for (const Side side : {Top, Bottom})
+        leaveOut(side, asksDown ? m_down.darkRows(side == Bottom) : 0);
+    for (const Side side : {Left, Right})
+        leaveOut(side, asksAcross ? m_across.darkColumns(side == Right) : 0);
+    return picture;
 }
 
 ZoneColours ScreenColours::average() const

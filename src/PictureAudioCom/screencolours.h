@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <optional>
 #include <span>
@@ -47,7 +48,7 @@ private:
         /// How many of its rows, or columns, are dark from the begin on, or from the end.
         int darkRows(bool fromEnd) const;
         int darkColumns(bool fromEnd) const;
-        bool isDark(int x, int y, int width, int height) const;
+        std::ptrdiff_t bright(int x, int y, int width, int height) const; ///< so many pixels
     };
 
     bool takeEdges(const QRect &picture, const Copy &copy);
@@ -55,7 +56,7 @@ private:
     ZoneColours average() const;
 
     Strip m_edges[kSides];
-    Strip m_across; ///< the middle of what lies in bars on all sides
+    Strip m_across; ///< the middle, where the edges do not tell
     Strip m_down;
     std::optional<ZoneColours> m_colours;
 };
