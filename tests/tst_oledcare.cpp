@@ -32,11 +32,13 @@ public:
     using pageOledCare::pageOledCare;
     bool answer = false;
     int asked = 0;
+    std::function<void()> meanwhile = [] {};
 
 protected:
     bool mayBegin() override
     {
         ++asked;
+        meanwhile();
         return answer;
     }
 };
@@ -268,6 +270,22 @@ void TestOledCare::careIsRefused()
     m_page->findChild<QAbstractButton *>("stripAction")->click();
     QCOMPARE(int(m_desk->monitor().value(0x05)), 1);
     QVERIFY(m_page->asked == 1 && m_page->notice().isEmpty());
+
+    deviceState.told(Command::CareRunning, 0);
+    m_desk->monitor().setValue(0x05, 0);
+    m_desk->monitor().refuse(0x0E, 2);
+    m_page->carePanel()->startButton()->click();
+    m_desk->takeCommands();
+    for (const char *pressed : {"stripAction", "startCare"}) { // an answer counts for the monitor that was asked about
+        currentMonitorIndex = 0;
+        m_page->meanwhile = [] { currentMonitorIndex = 1; };
+        if (qstrcmp(pressed, "stripAction") == 0)
+            currentMonitorIndex = 1;
+        m_page->findChild<QAbstractButton *>(pressed)->click();
+        QVERIFY(m_page->notice().contains("no longer in use"));
+        QCOMPARE((m_desk->takeCommands() + m_desk->takeCommands(1)).filter("W"), QStringList());
+    }
+    currentMonitorIndex = 0;
 }
 
 /// A monitor without such a panel is left alone, and each that has one keeps its own count.

@@ -3520,6 +3520,10 @@
         <translation>The monitor takes no value until the button is released</translation>
     </message>
     <message>
+        <source>The monitor that this was about is no longer in use. Nothing was sent.</source>
+        <translation>The monitor that this was about is no longer in use. Nothing was sent.</translation>
+    </message>
+    <message>
         <source>The monitor took only a part of the colour: its lamps now show another one.</source>
         <translation>The monitor took only a part of the colour: its lamps now show another one.</translation>
     </message>

@@ -3520,6 +3520,10 @@
         <translation>ボタンを戻すまでモニターは値を受け付けません</translation>
     </message>
     <message>
+        <source>The monitor that this was about is no longer in use. Nothing was sent.</source>
+        <translation>対象だったモニターは現在使用されていません。何も送信していません。</translation>
+    </message>
+    <message>
         <source>The monitor took only a part of the colour: its lamps now show another one.</source>
         <translation>モニターは色の一部だけを受け付けました。いまは別の色で光っています。</translation>
     </message>

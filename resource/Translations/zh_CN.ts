@@ -3520,6 +3520,10 @@
         <translation>显示器不接受任何值，直到松开按钮</translation>
     </message>
     <message>
+        <source>The monitor that this was about is no longer in use. Nothing was sent.</source>
+        <translation>这原本针对的显示器已不在使用，未发送任何内容。</translation>
+    </message>
+    <message>
         <source>The monitor took only a part of the colour: its lamps now show another one.</source>
         <translation>显示器只接受了颜色的一部分：灯光现在显示的是另一种颜色。</translation>
     </message>

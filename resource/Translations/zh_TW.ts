@@ -3520,6 +3520,10 @@
         <translation>顯示器不接受任何值，直到放開按鈕</translation>
     </message>
     <message>
+        <source>The monitor that this was about is no longer in use. Nothing was sent.</source>
+        <translation>這原本針對的顯示器已不在使用，未傳送任何內容。</translation>
+    </message>
+    <message>
         <source>The monitor took only a part of the colour: its lamps now show another one.</source>
         <translation>顯示器只接受了顏色的一部分：燈光現在顯示的是另一種顏色。</translation>
     </message>

@@ -24,6 +24,11 @@ QString monitorIdentity()
     return identity ? identityText(*identity) : QString();
 }
 
+QString otherMonitorText()
+{
+    return QObject::tr("The monitor that this was about is no longer in use. Nothing was sent.");
+}
+
 QString monitorName()
 {
     const MonitorIdentity *identity = identityInUse();

@@ -11,5 +11,18 @@ QString identityText(const MonitorIdentity &identity);
 /// changes the list and need not wait for a slow request, and for whoever holds the transport.
 QString monitorIdentity();
 
+/// The monitor in use when this was made: what the user then answers, or wants once more, counts for no other one.
+class MonitorAskedAbout
+{
+public:
+    bool isInUse() const { return monitorIdentity() == m_identity; }
+
+private:
+    QString m_identity = monitorIdentity();
+};
+
+/// What the user is told of an answer that counts no more.
+QString otherMonitorText();
+
 /// What that one calls itself, for a sentence. Interface thread.
 QString monitorName();

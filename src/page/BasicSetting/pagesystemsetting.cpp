@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "controls/palette.h"
+#include "ddc_protocol/monitoridentity.h"
 #include "ddc_protocol/settingsstore.h"
 #include "ddc_protocol/transport.h"
 #include "page/BasicSetting/systemtable.h"
@@ -51,8 +52,11 @@ QWidget *pageSystemSetting::buildPart(const char *)
 
 void pageSystemSetting::resetFactory()
 {
+    const MonitorAskedAbout monitor;
     if (!m_session.mayLeave()) // it ends in a restart that asks nobody
         return;
+    if (!monitor.isInUse())
+        return showNotice(otherMonitorText());
     if (!send(Command::ResetFactory, 0)) {
         showNotice(QObject::tr("The monitor did not take the reset."));
         return;

@@ -4,6 +4,7 @@
 #include "controls/messagebox.h"
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/devicestate.h"
+#include "ddc_protocol/monitoridentity.h"
 #include "page/OledCare/carepanel.h"
 #include "page/OledCare/caretable.h"
 #include "platform/desk.h"
@@ -80,8 +81,12 @@ void pageOledCare::startCare()
 {
     if (monitorHas(Command::CareRunning, 1))
         return showNotice(QObject::tr("Care is running. Leave the monitor on until the picture is back."));
-    if (mayBegin())
-        begin();
+    const MonitorAskedAbout monitor;
+    if (!mayBegin())
+        return;
+    if (!monitor.isInUse())
+        return showNotice(otherMonitorText());
+    begin();
 }
 
 void pageOledCare::begin()
@@ -91,7 +96,8 @@ void pageOledCare::begin()
     if (ok)
         m_keeper.begun();
     else if (!isVisible()) // begun from the desktop
-        showMessage(QMessageBox::Warning, QObject::tr("Oled Care"), markText(Mark::Refused), QObject::tr("OK"));
+        showMessage(QMessageBox::Warning, QObject::tr("Oled Care"),
+                    QObject::tr("The monitor did not take \"%1\".").arg(QObject::tr("Start care")), QObject::tr("OK"));
 }
 
 void pageOledCare::remind()

@@ -11,6 +11,8 @@ void PageResult::setHead(PageHead *head)
 {
     m_head = head;
     connect(m_head->strip(), &MessageStrip::actionWanted, this, [this] {
+        if (!m_monitor.isInUse())
+            return tell(otherMonitorText());
         if (const auto again = m_tryAgain) // it may say anew what is to be tried
             again();
     });
@@ -21,11 +23,12 @@ QString PageResult::text() const
     return m_head ? m_head->strip()->text() : QString();
 }
 
-void PageResult::tell(const QString &why)
+void PageResult::tell(const QString &why, std::function<void()> tryAgain)
 {
-    m_tryAgain = {};
+    m_tryAgain = std::move(tryAgain);
+    m_monitor = {};
     if (m_head)
-        m_head->strip()->say(why, MessageStrip::Tone::Refusal);
+        m_head->strip()->say(why, MessageStrip::Tone::Refusal, m_tryAgain ? QObject::tr("Try again") : QString());
 }
 
 void PageResult::show(bool ok, const QString &again, std::function<void()> tryAgain)
@@ -37,6 +40,5 @@ void PageResult::show(bool ok, const QString &again, std::function<void()> tryAg
         again.isEmpty() ? markText(Mark::Refused) : QObject::tr("The monitor did not take \"%1\".").arg(again);
     if (!m_head)
         return Announcer::say(text);
-    m_tryAgain = std::move(tryAgain);
-    m_head->strip()->say(text, MessageStrip::Tone::Refusal, m_tryAgain ? QObject::tr("Try again") : QString());
+    tell(text, std::move(tryAgain));
 }

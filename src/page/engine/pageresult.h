@@ -4,6 +4,8 @@
 
 #include <QObject>
 
+#include "ddc_protocol/monitoridentity.h"
+
 class PageHead;
 
 /// What a page tells under its title: why something was not done, or that the monitor did not take what was set last.
@@ -20,8 +22,9 @@ public:
     /// What is said now; empty when there is nothing to say.
     QString text() const;
 
-    /// Says why something was not done, until something else is done; nothing when it is empty.
-    void tell(const QString &why);
+    /// Says why something was not done, until something else is done; nothing when it is empty. It may be tried once
+    /// more by @p tryAgain, while the monitor is the same one.
+    void tell(const QString &why, std::function<void()> tryAgain = {});
 
     /// Whether the monitor took what was set last. What is called @p again may be tried once more by @p tryAgain.
     void show(bool ok, const QString &again, std::function<void()> tryAgain);
@@ -29,4 +32,5 @@ public:
 private:
     PageHead *m_head = nullptr;
     std::function<void()> m_tryAgain; ///< what the monitor did not take
+    MonitorAskedAbout m_monitor;      ///< that did not
 };

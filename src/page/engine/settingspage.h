@@ -109,7 +109,10 @@ protected:
     {
         m_result.show(ok, again, std::move(tryAgain));
     }
-    void showNotice(const QString &text) { m_result.tell(text); }
+    void showNotice(const QString &text, std::function<void()> tryAgain = {})
+    {
+        m_result.tell(text, std::move(tryAgain));
+    }
 
     /// A value that the page shows, or what is known about it, has changed; its own controls show it already.
     virtual void followValue(Command) {}
