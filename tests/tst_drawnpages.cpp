@@ -166,16 +166,21 @@ void TestDrawnPages::ownLightColor()
         lighting->updateInterfaceData();
         QCOMPARE(!lighting->ownColor()->parentWidget()->isHidden(), color == 8);
     }
-    for (const auto &[refused, said] :
-         {std::pair(std::vector<std::uint8_t>(), ""), {{0x7B}, "only a part"}, {{0x7A, 0x7B, 0x7C}, "did not take"}}) {
+    for (const auto &[refused, said, shown] : {std::tuple(std::vector<std::uint8_t>(), "", qRgb(250, 128, 7)),
+                                               {{0x7B}, "only a part", qRgb(0, 128, 9)}, // what the monitor has then
+                                               {{0x7A, 0x7B, 0x7C}, "did not take", qRgb(0, 128, 9)}}) {
         m_desk->takeCommands();
         for (const std::uint8_t code : refused)
             m_desk->monitor().refuse(code, kForEver);
-        Q_EMIT lighting->ownColor()->sigColorChanged(QColor(250, 128, 7));
+        const QColor wished = *said ? QColor(0, 200, 9) : QColor(250, 128, 7);
+        Q_EMIT lighting->ownColor()->sigColorChanged(wished);
         const QStringList sent = m_desk->takeCommands().filter("W");
-        for (const char *part : {"W 7a=250", "W 7b=128", "W 7c=7"})
-            QVERIFY2(!sent.filter(part).isEmpty(), part);
+        for (const auto &[code, part] : {std::pair("7a", wished.red()), {"7b", wished.green()}, {"7c", wished.blue()}})
+            QVERIFY2(!sent.filter(QStringLiteral("W %1=%2").arg(code).arg(part)).isEmpty(), code);
         QVERIFY2(*said ? lighting->notice().contains(said) : lighting->notice().isEmpty(), said);
+        QCOMPARE(lighting->findChild<QAbstractButton *>("stripAction")->isHidden(), !*said);
+        QCOMPARE(lighting->ownColor()->color().rgb(), shown);
+        QCOMPARE(lightLook(deviceState).color, LightLook::Color(shown));
         m_desk->monitor().recover();
     }
 }

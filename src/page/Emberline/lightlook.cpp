@@ -28,7 +28,15 @@ constexpr Command kLookCommands[] = {
     Command::LightRightTone,
 };
 
-/// The values that are shown on the page, one of them replaced.
+/// The value that the monitor has or is to have.
+std::optional<int> valueOf(const DeviceState &state, Command command)
+{
+    if (state.state(command) == ValueState::Refused)
+        return state.confirmed(command);
+    return state.isKnown(command) ? std::optional(state.value(command)) : std::nullopt;
+}
+
+/// Those values, one of them replaced.
 class Values
 {
 public:
@@ -38,7 +46,7 @@ public:
     {
         if (m_preview && m_preview->command == command)
             return m_preview->value;
-        return m_state.isKnown(command) ? m_state.value(command) : unknown;
+        return valueOf(m_state, command).value_or(unknown);
     }
 
     /// An option as an enumerator; the first one for what there is no option of.
@@ -104,6 +112,14 @@ LightLook lightLook(const DeviceState &state, const std::optional<LightPreview> 
     look.beltRear = values.color(Command::LampBeltRearColor);
     look.beltBrightness = state.isKnown(Command::LampBeltBrightness) ? values.level(Command::LampBeltBrightness) : 0;
     return look;
+}
+
+std::optional<QRgb> ownLightColor(const DeviceState &state)
+{
+    const auto red = valueOf(state, Command::LightRed);
+    const auto green = valueOf(state, Command::LightGreen);
+    const auto blue = valueOf(state, Command::LightBlue);
+    return red && green && blue ? std::optional(qRgb(*red, *green, *blue)) : std::nullopt;
 }
 
 std::span<const Command> lookCommands()

@@ -16,8 +16,12 @@ struct LightPreview
     bool operator==(const LightPreview &) const = default;
 };
 
-/// How the lamps are set, as far as the monitor told; with one value as if it were set.
+/// How the lamps are set, as far as the monitor told or is about to be told: what it refused they do not show. With one
+/// value as if it were set.
 LightLook lightLook(const DeviceState &state, const std::optional<LightPreview> &preview = {});
+
+/// The user's own colour, as they have it; nothing while a part of it is not known.
+std::optional<QRgb> ownLightColor(const DeviceState &state);
 
 /// The commands whose values it shows.
 std::span<const Command> lookCommands();

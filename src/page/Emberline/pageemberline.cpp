@@ -136,9 +136,11 @@ void pageEmberline::sendOwnColor(const QColor &color)
                                         {Command::LightGreen, color.green()},
                                         {Command::LightBlue, color.blue()}})
         taken += send(command, part) ? 1 : 0;
-    showResult(taken == 3, QObject::tr("Custom Color"), [this, color] { sendOwnColor(color); });
+    const auto again = [this, color] { sendOwnColor(color); };
     if (taken == 1 || taken == 2)
-        showNotice(QObject::tr("The monitor took only a part of the colour: its lamps now show another one."));
+        showNotice(QObject::tr("The monitor took only a part of the colour: its lamps now show another one."), again);
+    else
+        showResult(taken == 3, QObject::tr("Custom Color"), again);
     showLight();
 }
 
@@ -150,12 +152,8 @@ void pageEmberline::showLight()
     if (!m_ownColorRow)
         return;
     m_ownColorRow->setVisible(deviceState.value(Command::LightColor) == kOwnLightColor);
-    const bool isKnown =
-        std::ranges::all_of(std::initializer_list{Command::LightRed, Command::LightGreen, Command::LightBlue},
-                            [](Command part) { return deviceState.isKnown(part); });
-    if (isKnown)
-        m_ownColor->setColor(QColor(deviceState.value(Command::LightRed), deviceState.value(Command::LightGreen),
-                                    deviceState.value(Command::LightBlue)));
+    if (const std::optional<QRgb> color = ownLightColor(deviceState))
+        m_ownColor->setColor(QColor(*color));
 }
 
 void pageEmberline::updateInterfaceData()
