@@ -293,6 +293,12 @@ void TestCare::automaticWrites()
     QTRY_VERIFY((asked += m_desk->takeCommands()).contains("R c1"));
     QVERIFY(!asked.contains("W c6=1") && !asked.contains("W ea=1"));
     QCOMPARE(int(m_desk->monitor().value(0xF6)), 31);
+    deviceState.mayHaveChanged(); // and somebody asks: it waits its second, and is not given up
+    auto &queue = *m_window->findChild<CommandQueue *>();
+    queue.ask(Command::AudioVolume);
+    QTRY_VERIFY(queue.isIdle());
+    QCoreApplication::processEvents();
+    QVERIFY(settled.count() == 3 && m_desk->takeCommands().filter("W").isEmpty());
     m_desk->clock.advance(1s);
     QTRY_COMPARE(settled.count(), 4);
     QCOMPARE(int(m_desk->monitor().value(0xC1)), 8);

@@ -12,50 +12,81 @@
 namespace {
 
 const QString kKey = QStringLiteral("Care/AutomaticWrites");
+constexpr platform::milliseconds kLookEvery{60'000};
 
 } // namespace
 
 AutomaticWriter::AutomaticWriter(CommandQueue &queue, QObject *parent) : QObject(parent), m_queue(queue)
 {
     connect(&queue, &CommandQueue::sent, this, &AutomaticWriter::onSent);
-    connect(&queue, &CommandQueue::asked, this, [this] {
-        const bool isAsked = !m_wishes.empty() && m_wishes.front().wasAsked && !m_wishes.front().wasSent;
-        if (!isAsked || m_queue.isAsking()) // somebody else's questions; this one's turn comes
-            return;
-        m_waits = false;
-        goOn();
+    connect(&queue, &CommandQueue::answered, this, &AutomaticWriter::onAnswered);
+    connect(&queue, &CommandQueue::gaveUp, this, [this](const QList<Command> &commands) {
+        for (const Command command : commands)
+            onAnswered(command);
+    });
+    connect(&queue, &CommandQueue::asked, this, [this] { // somebody may have dropped the questions
+        if (m_step == Step::Asks && !m_queue.isAsking())
+            onAnswered(m_wishes.front().command);
     });
 }
 
 void AutomaticWriter::want(Command command, int value)
 {
-    const auto isWaiting = [command](const Wish &wish) { return wish.command == command && !wish.wasSent; };
-    if (const auto older = std::find_if(m_wishes.begin(), m_wishes.end(), isWaiting); older != m_wishes.end())
+    dropOthers();
+    const auto begin = m_wishes.begin() + (m_step == Step::Sends ? 1 : 0);
+    const auto older = std::find_if(begin, m_wishes.end(), [=](const Wish &wish) { return wish.command == command; });
+    if (older != m_wishes.end())
         older->value = value;
     else
-        m_wishes.push_back({command, value});
+        m_wishes.push_back({command, value, monitorIdentity()});
     goOn();
+}
+
+void AutomaticWriter::wantNow(Command command, int value)
+{
+    const bool isSending = m_step == Step::Sends;
+    const auto begin = m_wishes.begin() + (isSending ? 1 : 0);
+    m_wishes.erase(std::remove_if(begin, m_wishes.end(), [=](const Wish &wish) { return wish.command == command; }),
+                   m_wishes.end());
+    if (!isSending) { // the first may be another one now
+        setStep(Step::Begins);
+        for (Wish &wish : m_wishes)
+            wish.wasAsked = false;
+    }
+    m_now.insert_or_assign(command, value);
+    m_queue.post(command, value);
+    goOn();
+}
+
+bool AutomaticWriter::isDayUsedUp()
+{
+    const std::optional<qint64> aDay = automaticWritesADay();
+    return aDay && writeCounts.countOf(monitorIdentity(), WriteCounts::kAutomatic).today >= *aDay;
 }
 
 WriteFacts AutomaticWriter::factsOf(const Wish &wish) const
 {
     const auto told = deviceState.isFresh(wish.command) ? deviceState.confirmed(wish.command) : std::nullopt;
-    const qint64 today = writeCounts.countOf(monitorIdentity(), WriteCounts::kAutomatic).today;
+    const qint64 today = writeCounts.countOf(wish.monitor, WriteCounts::kAutomatic).today;
     return {wish.value, told, wish.wasAsked, m_last, today, automaticWritesADay()};
 }
 
 void AutomaticWriter::goOn()
 {
-    if (m_waits || m_wishes.empty())
+    if (m_step != Step::Begins)
+        return;
+    dropOthers();
+    if (m_wishes.empty())
         return;
     Wish &wish = m_wishes.front();
     const WriteDecision decision = planWrite(factsOf(wish), platform::desk().clock().now());
     switch (decision.step) {
     case WriteStep::Ask:
-        m_waits = wish.wasAsked = true;
+        wish.wasAsked = true;
+        setStep(Step::Asks);
         return m_queue.ask(wish.command);
     case WriteStep::Send:
-        m_waits = wish.wasSent = true;
+        setStep(Step::Sends);
         return m_queue.post(wish.command, wish.value);
     case WriteStep::Wait:
         return wait(decision);
@@ -65,41 +96,92 @@ void AutomaticWriter::goOn()
     }
 }
 
-/// What the monitor told is old by then: it is asked once more.
+void AutomaticWriter::setStep(Step step)
+{
+    m_step = step;
+    ++m_steps;
+}
+
+/// What the monitor told is old by then: it is asked once more. A day is not waited for in one piece, for the budget
+/// may be set anew and another monitor come into use.
 void AutomaticWriter::wait(const WriteDecision &decision)
 {
     platform::Clock &clock = platform::desk().clock();
-    m_waits = true;
-    clock.callLater(platform::milliseconds(clock.now().msecsTo(*decision.next)), this, [this] {
-        m_waits = false;
+    setStep(Step::Waits);
+    const platform::milliseconds pause(clock.now().msecsTo(*decision.next));
+    clock.callLater(std::min(pause, kLookEvery), this, [this, steps = m_steps] {
+        if (steps != m_steps)
+            return;
         m_wishes.front().wasAsked = false;
+        setStep(Step::Begins);
         goOn();
     });
     if (!decision.dayIsUsedUp || m_toldOn == clock.now().date())
         return;
     m_toldOn = clock.now().date();
-    Q_EMIT dayIsUsedUp(QObject::tr("Today's automatic changes of this monitor are used up (%1). They go on tomorrow; "
-                                   "what you set yourself is not limited.")
-                           .arg(automaticWritesADay().value_or(0)));
+    Q_EMIT dayIsUsedUp(dayIsUsedUpText());
+}
+
+/// What was meant for another monitor than the one in use, unless it is on its way.
+void AutomaticWriter::dropOthers()
+{
+    const QString monitor = monitorIdentity();
+    while (m_step != Step::Sends && !m_wishes.empty() && m_wishes.front().monitor != monitor) {
+        const Wish wish = m_wishes.front();
+        m_wishes.pop_front();
+        setStep(Step::Begins);
+        Q_EMIT settled(wish.command, wish.value, false);
+    }
+}
+
+/// Or was not answered.
+void AutomaticWriter::onAnswered(Command command)
+{
+    if (m_step != Step::Asks || m_wishes.front().command != command)
+        return;
+    setStep(Step::Begins);
+    goOn();
 }
 
 void AutomaticWriter::onSent(Command command, int value, bool ok)
 {
-    if (m_wishes.empty() || !m_wishes.front().wasSent || m_wishes.front().command != command)
+    onSentNow(command, value, ok);
+    if (m_step != Step::Sends || m_wishes.front().command != command)
         return;
     m_last = platform::desk().clock().now();
     if (ok)
-        writeCounts.note(monitorIdentity(), WriteCounts::kAutomatic);
+        writeCounts.note(m_wishes.front().monitor, WriteCounts::kAutomatic);
     settle(ok && value == m_wishes.front().value); // else the user moved the same control meanwhile, who wins
+}
+
+/// One that follows an older value of the same command is still to come.
+void AutomaticWriter::onSentNow(Command command, int value, bool ok)
+{
+    const auto now = m_now.find(command);
+    if (now == m_now.end())
+        return;
+    const int wanted = now->second;
+    if (value != wanted && deviceState.state(command) == ValueState::Pending)
+        return;
+    m_last = platform::desk().clock().now();
+    m_now.erase(now);
+    Q_EMIT settled(command, wanted, value == wanted ? ok : deviceState.confirmed(command) == wanted);
 }
 
 void AutomaticWriter::settle(bool ok)
 {
     const Wish wish = m_wishes.front();
     m_wishes.pop_front();
-    m_waits = false;
+    setStep(Step::Begins);
     Q_EMIT settled(wish.command, wish.value, ok);
     goOn();
+}
+
+QString dayIsUsedUpText()
+{
+    return QObject::tr("Today's automatic changes of this monitor are used up (%1). They go on tomorrow; "
+                       "what you set yourself is not limited.")
+        .arg(automaticWritesADay().value_or(0));
 }
 
 std::optional<qint64> automaticWritesADay()
