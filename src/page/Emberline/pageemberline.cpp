@@ -10,6 +10,7 @@
 #include "controls/metrics.h"
 #include "controls/palette.h"
 #include "controls/sharedfonts.h"
+#include "ddc_protocol/automaticwriter.h"
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/devicestate.h"
 #include "page/Emberline/lighttable.h"
@@ -105,9 +106,11 @@ void pageEmberline::showRhythm()
 {
     if (!m_rhythmNote)
         return;
-    const bool isHeld = m_rhythm && m_rhythm->state() == RhythmLight::State::Holds;
-    m_rhythmNote->setText(isHeld ? QObject::tr("Nothing can be heard or seen: the lamps keep their last colour.")
-                                 : QObject::tr("A colour that can be seen to change is sent, at most one a second."));
+    const auto state = m_rhythm ? m_rhythm->state() : RhythmLight::State::Off;
+    m_rhythmNote->setText(state == RhythmLight::State::UsedUp ? dayIsUsedUpText()
+                          : state == RhythmLight::State::Holds
+                              ? QObject::tr("Nothing can be heard or seen: the lamps keep their last colour.")
+                              : QObject::tr("A colour that can be seen to change is sent, at most one a second."));
 }
 
 /// What the two ends of the slider above are called.

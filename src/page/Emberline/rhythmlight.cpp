@@ -22,6 +22,10 @@ constexpr platform::milliseconds kAskAfter{2000}; // what is in sight comes firs
 constexpr platform::milliseconds kLookEvery{100};
 constexpr platform::milliseconds kListenEvery{3000};
 
+constexpr int kTries = 10; // of what did not arrive, one a second; then fewer, for the monitor may not have it
+constexpr platform::milliseconds kTryEvery{1000};
+constexpr platform::milliseconds kTryLater{30'000};
+
 /// How far a colour must be from the last one, by the level that is set. The highest follows what is just seen on a
 /// wall.
 constexpr double kSeen[] = {24, 16, 11, 8, 5};
@@ -43,6 +47,11 @@ double seenDifference()
     return kSeen[std::clamp(level, 0, 4)];
 }
 
+platform::milliseconds pauseAfter(int vainTries)
+{
+    return vainTries < kTries ? kTryEvery : kTryLater;
+}
+
 /// The part of the desktop that the monitor shows.
 QRect screenOfMonitor()
 {
@@ -59,17 +68,18 @@ RhythmLight::RhythmLight(CommandQueue &queue, AutomaticWriter &writer, QObject *
     connect(&m_sampler, &ScreenSampler::looked, this, [this](bool ok, const ZoneColours &colours) {
         if (m_source != Source::Screen)
             return;
-        setState(ok ? State::Follows : State::Holds);
         if (ok)
             show(colours);
+        else
+            setState(State::Holds);
     });
     connect(&SoundAnalyzer::instance(), &SoundAnalyzer::heightsReady, this, [this](const QList<int> &heights) {
         if (m_source != Source::Sound)
             return;
         m_heard = true;
-        setState(State::Follows);
         show(soundColours(heights));
     });
+    connect(&writer, &AutomaticWriter::settled, this, &RhythmLight::onSettled);
     followLink();
 }
 
@@ -77,15 +87,18 @@ void RhythmLight::systemNoticed(SystemNotice notice)
 {
     if (notice != SystemNotice::Locked && notice != SystemNotice::Unlocked)
         return;
-    m_isLocked = notice == SystemNotice::Locked;
-    if (m_isLocked && m_source != Source::None)
-        goDark();
+    const bool isLocked = notice == SystemNotice::Locked;
+    if (std::exchange(m_isLocked, isLocked) == isLocked)
+        return;
+    forgetLamps();
     follow();
 }
 
+/// A monitor that comes back may have other colours than it was given.
 void RhythmLight::followLink()
 {
     m_asked.clear();
+    forgetLamps();
     m_mayAsk = false;
     platform::desk().clock().callLater(kAskAfter, this, [this, found = ++m_found] {
         m_mayAsk = m_mayAsk || found == m_found;
@@ -97,9 +110,20 @@ void RhythmLight::followLink()
 void RhythmLight::onValueChanged(Command command)
 {
     if (command == Command::LightMode)
-        m_wished.clear(); // another mode has other tones, and may show another colour by now
+        forgetLamps(); // another mode has other tones, and may show another colour by now
+    const bool isUntold = command == Command::LightMode && !deviceState.confirmed(command);
+    if (m_isLocked && isUntold) // it is asked for again in a moment
+        return;
     if (command == Command::LightMode || command == Command::LightRhythmSource || command == Command::Capability)
         follow();
+}
+
+/// Nobody knows what they show now.
+void RhythmLight::forgetLamps()
+{
+    m_darkTries = 0;
+    for (auto &[tone, lamp] : m_lamps)
+        lamp = {{}, lamp.isByLock};
 }
 
 void RhythmLight::follow()
@@ -107,7 +131,7 @@ void RhythmLight::follow()
     const Source source = wantedSource();
     setSource(m_isLocked ? Source::None : source);
     if (m_isLocked)
-        setState(source == Source::None ? State::Off : State::Locked);
+        keepDark();
 }
 
 RhythmLight::Source RhythmLight::wantedSource()
@@ -139,7 +163,8 @@ void RhythmLight::setSource(Source source)
         return;
     m_source = source;
     ++m_run;
-    m_wished.clear();
+    m_isUsedUp = AutomaticWriter::isDayUsedUp();
+    forgetLamps();
     if (source == Source::Sound)
         m_sound.begin();
     else
@@ -184,25 +209,69 @@ void RhythmLight::show(const ZoneColours &colours)
         wish(tone, tone == Command::LightGlobalTone ? colours.global
                    : tone == Command::LightLeftTone ? colours.left
                                                     : colours.right);
+    setState(m_isUsedUp ? State::UsedUp : State::Follows);
 }
 
+/// The way back from the lock's darkness is the user's own doing as well.
 void RhythmLight::wish(Command tone, QRgb color)
 {
-    const auto last = m_wished.find(tone);
-    if (last != m_wished.end() && visibleDifference(last->second, color) < seenDifference())
+    Lamp &lamp = m_lamps[tone];
+    if (lamp.wished && visibleDifference(*lamp.wished, color) < seenDifference())
         return;
-    m_wished[tone] = color;
-    m_writer.want(tone, toneOf(color));
+    lamp.wished = color;
+    if (lamp.isByLock)
+        m_writer.wantNow(tone, toneOf(color));
+    else
+        m_writer.want(tone, toneOf(color));
 }
 
-/// Locking is the user's own doing: it does not wait for the budget of automatic writes. What still waits there becomes
-/// dark as well, and so does what the monitor did not take at once.
-void RhythmLight::goDark()
+/// Locking is the user's own doing: it does not wait for the budget of automatic writes, nor for what the lamps follow
+/// to be known. Looks again until all of them are dark, or the monitor is silent.
+void RhythmLight::keepDark()
 {
-    for (const Command tone : tonesOf(deviceState.confirmed(Command::LightMode))) {
-        m_queue.post(tone, 0);
-        m_writer.want(tone, 0);
+    const bool canBeDark = monitorAnswers() && deviceState.has(Capability::GameFunctions);
+    const std::optional<int> mode = deviceState.confirmed(Command::LightMode);
+    setState(canBeDark && tonesOf(mode).size() > 0 ? State::Locked : State::Off);
+    ++m_darkLooks;
+    if (!canBeDark)
+        return;
+    bool isDone = mode.has_value();
+    if (!mode)
+        m_queue.ask(Command::LightMode);
+    for (const Command tone : tonesOf(mode)) {
+        Lamp &lamp = m_lamps[tone];
+        lamp.isByLock = true;
+        if (lamp.isDark)
+            continue;
+        isDone = false;
+        m_writer.wantNow(tone, 0);
     }
+    if (isDone)
+        return;
+    platform::desk().clock().callLater(pauseAfter(++m_darkTries), this, [this, looks = m_darkLooks] {
+        if (m_isLocked && looks == m_darkLooks)
+            keepDark();
+    });
+}
+
+/// What did not arrive is wished again, if it is still to be seen then.
+void RhythmLight::onSettled(Command command, int value, bool ok)
+{
+    const auto found = m_lamps.find(command);
+    if (found == m_lamps.end())
+        return;
+    Lamp &lamp = found->second;
+    m_isUsedUp = AutomaticWriter::isDayUsedUp();
+    if (ok) {
+        lamp.vainTries = 0;
+        lamp.isDark = value == 0;
+        lamp.isByLock = lamp.isByLock && (m_isLocked || lamp.isDark);
+        return;
+    }
+    platform::desk().clock().callLater(pauseAfter(++lamp.vainTries), this, [this, command, run = m_run] {
+        if (run == m_run)
+            m_lamps[command].wished.reset();
+    });
 }
 
 void RhythmLight::setState(State state)

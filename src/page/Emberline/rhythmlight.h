@@ -15,8 +15,8 @@ class AutomaticWriter;
 class CommandQueue;
 
 /// Lets the lamps follow the sound or the screen while the monitor is known to be in a rhythm mode and answers: a
-/// colour is wished of the automatic writer when it has changed enough to be seen. Dark while the session is locked.
-/// Looks at nothing otherwise.
+/// colour is wished of the automatic writer when it has changed enough to be seen, and again when it did not arrive.
+/// Dark while the session is locked, whatever the lamps were to follow. Looks at nothing otherwise.
 class RhythmLight : public QObject
 {
     Q_OBJECT
@@ -25,6 +25,7 @@ public:
         Off,     ///< nothing is to be followed
         Follows, ///< what comes is shown
         Holds,   ///< nothing can be seen or heard: the last colour stays
+        UsedUp,  ///< what comes may be shown tomorrow: the last colour stays
         Locked,  ///< dark
     };
 
@@ -45,16 +46,26 @@ Q_SIGNALS:
 private:
     enum class Source { None, Sound, Screen };
 
+    struct Lamp
+    {
+        std::optional<QRgb> wished; ///< the newest colour
+        bool isByLock = false;      ///< what it shows, until a colour has arrived again
+        bool isDark = false;
+        int vainTries = 0; ///< in a row
+    };
+
     void onValueChanged(Command command);
     void follow();
     Source wantedSource();
     void askOnce(Command command);
     void setSource(Source source);
+    void forgetLamps();
     void listen();
     void lookLater();
     void show(const ZoneColours &colours);
     void wish(Command tone, QRgb color);
-    void goDark();
+    void keepDark();
+    void onSettled(Command command, int value, bool ok);
     void setState(State state);
 
     CommandQueue &m_queue;
@@ -64,10 +75,13 @@ private:
     Source m_source = Source::None;
     State m_state = State::Off;
     bool m_isLocked = false;
-    bool m_heard = false;             ///< since the last look
-    bool m_mayAsk = false;            ///< the monitor was not found just now
-    int m_found = 0;                  ///< how often it was
-    std::map<Command, bool> m_asked;  ///< what the monitor was asked for since it was found
-    std::map<Command, QRgb> m_wished; ///< the newest colour of each tone
-    int m_run = 0;                    ///< what was to come in an earlier one does not any more
+    bool m_heard = false;            ///< since the last look
+    bool m_mayAsk = false;           ///< the monitor was not found just now
+    int m_found = 0;                 ///< how often it was
+    std::map<Command, bool> m_asked; ///< what the monitor was asked for since it was found
+    std::map<Command, Lamp> m_lamps; ///< by their tones
+    int m_run = 0;                   ///< what was to come in an earlier one does not any more
+    bool m_isUsedUp = false;         ///< the monitor's budget of today
+    int m_darkTries = 0;             ///< since the session was locked, or the monitor found
+    unsigned m_darkLooks = 0;
 };
