@@ -3300,6 +3300,10 @@
         <translation>The accessory becomes the next of its models; the button is up while it is the first</translation>
     </message>
     <message>
+        <source>The accessory cannot be reached. What you choose goes to it with the next change.</source>
+        <translation>The accessory cannot be reached. What you choose goes to it with the next change.</translation>
+    </message>
+    <message>
         <source>The accessory did not take everything.</source>
         <translation>The accessory did not take everything.</translation>
     </message>

@@ -3300,6 +3300,10 @@
         <translation>アクセサリが次のモデルに変わります。最初のモデルの間、ボタンは押されていない状態です</translation>
     </message>
     <message>
+        <source>The accessory cannot be reached. What you choose goes to it with the next change.</source>
+        <translation>アクセサリに接続できません。選んだ内容は次の変更時に送信されます。</translation>
+    </message>
+    <message>
         <source>The accessory did not take everything.</source>
         <translation>アクセサリがすべてのデータを受け取れませんでした。</translation>
     </message>

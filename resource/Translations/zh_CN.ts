@@ -3300,6 +3300,10 @@
         <translation>配件变为下一个型号；为第一个型号时按钮弹起</translation>
     </message>
     <message>
+        <source>The accessory cannot be reached. What you choose goes to it with the next change.</source>
+        <translation>无法连接配件。您的选择会随下一次更改一起发送。</translation>
+    </message>
+    <message>
         <source>The accessory did not take everything.</source>
         <translation>配件没有接收全部数据。</translation>
     </message>

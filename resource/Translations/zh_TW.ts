@@ -3300,6 +3300,10 @@
         <translation>配件變為下一個型號；為第一個型號時按鈕彈起</translation>
     </message>
     <message>
+        <source>The accessory cannot be reached. What you choose goes to it with the next change.</source>
+        <translation>無法連線至配件。您的選擇會隨下一次變更一起傳送。</translation>
+    </message>
+    <message>
         <source>The accessory did not take everything.</source>
         <translation>配件沒有接收全部資料。</translation>
     </message>

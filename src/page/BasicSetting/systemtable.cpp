@@ -40,10 +40,11 @@ constexpr Option kPowerSaving[] = {{LABEL("Close"), 0, LABEL("As bright as you s
                                    {LABEL("Level2"), 2, LABEL("Clearly darker: for texts, not for pictures.")}};
 
 // Unlike Power Saving these start at 1.
-constexpr Option kPowerLed[] = {{LABEL("Close"), 1, LABEL("The lamp is dark. Only the picture tells that the monitor is on.")},
-                                {LABEL("Level1"), 2, LABEL("A faint light, for a dark room.")},
-                                {LABEL("Level2"), 3, LABEL("The usual light.")},
-                                {LABEL("Level3"), 4, LABEL("The brightest light, seen across a bright room.")}};
+constexpr Option kPowerLed[] = {
+    {LABEL("Close"), 1, LABEL("The lamp is dark. Only the picture tells that the monitor is on.")},
+    {LABEL("Level1"), 2, LABEL("A faint light, for a dark room.")},
+    {LABEL("Level2"), 3, LABEL("The usual light.")},
+    {LABEL("Level3"), 4, LABEL("The brightest light, seen across a bright room.")}};
 
 // The places in the list, counted from 1, but for the fifth and the last, which the monitor has exchanged. The names
 // are shown as they stand in every language; two of them are spelled oddly on purpose.

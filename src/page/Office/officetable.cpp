@@ -20,7 +20,8 @@ constexpr char kCompositionHelp[] =
 constexpr char kEyeshieldRemindHelp[] =
     LABEL("Reminds you to rest your eyes each time the chosen span has passed. Close = off.");
 
-constexpr char kRestWords[] = LABEL("The monitor reminds you each time that this has passed. Look far away for a minute then.");
+constexpr char kRestWords[] =
+    LABEL("The monitor reminds you each time that this has passed. Look far away for a minute then.");
 constexpr Option kEyeshield[] = {{LABEL("Close"), 0, LABEL("The monitor does not remind you.")},
                                  {LABEL("30s"), 1, LABEL("To see how the reminder looks.")},
                                  {LABEL("1 Hour"), 2, kRestWords},

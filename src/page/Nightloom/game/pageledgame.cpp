@@ -255,6 +255,7 @@ void pageLEDGame::sendReport(const AccessoryReport &report)
 {
     const LiveDisplay::Pause pause(m_display);
     const bool isTaken = writePageReport(report);
-    showNotice(isTaken ? QString()
-                       : QObject::tr("The accessory cannot be reached. What you choose goes to it with the next change."));
+    showNotice(isTaken
+                   ? QString()
+                   : QObject::tr("The accessory cannot be reached. What you choose goes to it with the next change."));
 }
