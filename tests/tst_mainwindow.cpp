@@ -133,8 +133,8 @@ void TestMainWindow::entriesByModel()
         const bool first = monitor == 0;
         QCOMPARE(entry(0, "Zelmar Mode") != nullptr, first);
         QCOMPARE(entry(0, "MPCS/LD") == nullptr, first);
-        QCOMPARE(m_window->scenePage()->optionGroup(Command::LocalDimming) != nullptr, first);
-        QCOMPARE(m_window->scenePage()->slider("Halo Control") != nullptr, first);
+        QCOMPARE(m_window->scenePage()->optionGroup(Command::LocalDimming)->isHidden(), !first);
+        QCOMPARE(m_window->scenePage()->slider("Halo Control")->isHidden(), !first);
         QVERIFY(m_window->scenePage()->slider("Brightness"));
         QTest::mouseClick(m_window->tabs()->tabs()[5], Qt::LeftButton);
         m_window->setInterfaceMode(kByModel);

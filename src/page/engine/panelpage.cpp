@@ -283,8 +283,8 @@ QString PanelPage::optionText(Command command, int value) const
             continue;
         for (const Section &section : panel.sections) {
             const auto *group = std::get_if<OptionGroup>(&section);
-            if (!group || group->command != command || group->look == GroupLook::Switch)
-                continue; // that a switch is on has words of its own
+            if (!group || group->command != command || *group->options.front().label == ' ')
+                continue; // "Enable" and "Disable", with their blanks: that a function is on has words of its own
             const auto option = std::ranges::find(group->options, value, &Option::value);
             if (option != group->options.end())
                 return QObject::tr(option->label).trimmed();
