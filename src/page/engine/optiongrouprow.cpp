@@ -180,7 +180,7 @@ void OptionGroupRow::dress(QPushButton *button) const
 {
     if (m_group.look == GroupLook::Switch)
         dressHalfButton(button, m_halfSize);
-    else if (m_group.look == GroupLook::Buttons)
+    else if (m_group.look == GroupLook::Buttons || m_group.look == GroupLook::Several)
         dressOptionButton(button);
 }
 
