@@ -197,6 +197,10 @@ void TestMainWindow::entrySwitchesTheScene()
 void TestMainWindow::otherEntriesNameThemselves()
 {
     start(10);
+    QTest::mouseClick(m_window->tabs()->tabs()[8], Qt::LeftButton);
+    QTest::mouseClick(entry(8, "Multi-window"), Qt::LeftButton); // built only now, and asked for at once
+    QTRY_VERIFY(deviceState.isKnown(Command(0x50)));
+    QTest::mouseClick(entry(8, "System Settings"), Qt::LeftButton);
     QList<int> opened;
     QStringList unexplained;
     for (int family = kSceneFamilies; family < kFamilies; ++family) {

@@ -65,8 +65,11 @@ void PanelPage::build()
     column->addWidget(m_stack, 1);
     addUndoBar(column);
     row->addLayout(column, 1);
-    for (const PanelSpec &panel : m_panels)
-        m_stack->addWidget(makePanel(panel));
+    for (const PanelSpec &panel : m_panels) {
+        QWidget *content = makePanel(panel);
+        fillPanel(m_stack->count(), content); // before it is shown: what it asks for goes by what is in sight
+        m_stack->addWidget(content);
+    }
     offerPanels();
     showPanel(0);
     updateInterfaceData();
@@ -121,8 +124,7 @@ void PanelPage::offerPanels()
         const bool isThere = offers(panelAt(place));
         if (m_entries)
             m_entries->offer(place, isThere);
-        if (isThere && m_filled.insert(place).second)
-            fillPanel(place);
+        fillPanel(place, m_stack->widget(place));
     }
     const PanelSpec &open = panelAt(m_stack->currentIndex());
     if (offers(open) || panelCount() == 0)
@@ -138,12 +140,16 @@ void PanelPage::followCapability()
         return;
     offerPanels();
     updateInterfaceData();
+    QMetaObject::invokeMethod(this, &PanelPage::reconcile, Qt::QueuedConnection); // what is new is in sight by then
 }
 
-void PanelPage::fillPanel(int place)
+/// Once, and only for a monitor that has it.
+void PanelPage::fillPanel(int place, QWidget *content)
 {
     const PanelSpec &panel = panelAt(place);
-    auto *column = static_cast<QVBoxLayout *>(m_stack->widget(place)->layout());
+    if (!offers(panel) || !m_filled.insert(place).second)
+        return;
+    auto *column = static_cast<QVBoxLayout *>(content->layout());
     const std::size_t groupsBefore = optionGroups().size();
     const std::size_t slidersBefore = sliders().size();
     buildSections(panel.sections, column);

@@ -70,7 +70,7 @@ protected:
 private:
     PanelList *buildList();
     QWidget *makePanel(const PanelSpec &panel);
-    void fillPanel(int place);
+    void fillPanel(int place, QWidget *content);
     void followCapability();
     const PanelSpec &panelAt(int place) const { return m_panels[static_cast<std::size_t>(place)]; }
     void addPicture(int index, const PanelSpec &panel, QVBoxLayout *column);
