@@ -186,7 +186,7 @@ void TestCare::undoOfRiskyChanges()
     m_desk->clock.advance(14s);
     QVERIFY(!bar->isHidden());
     m_desk->clock.advance(1s);
-    QVERIFY(bar->isHidden() && m_desk->takeCommands().isEmpty()); // nothing goes back by itself
+    QVERIFY(bar->isHidden() && m_desk->takeCommands().filter("W").isEmpty()); // nothing goes back by itself
     QCOMPARE(int(m_desk->monitor().value(std::uint8_t(command))), value);
 
     m_desk->monitor().refuseWrites(2);
