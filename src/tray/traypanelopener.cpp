@@ -8,6 +8,9 @@
 #include "platform/desk.h"
 #include "tray/traypanel.h"
 
+/// Within these milliseconds the notification area that was pressed may take the focus back.
+static constexpr qint64 kComes = 400;
+
 TrayPanelOpener::TrayPanelOpener(CommandQueue &queue, QObject *parent) : QObject(parent), m_queue(queue)
 {
     connect(qApp, &QGuiApplication::focusWindowChanged, this, &TrayPanelOpener::followFocus);
@@ -103,10 +106,11 @@ void TrayPanelOpener::followFocus(const QWindow *focused)
             return;
         }
     }
-    if (!m_hadFocus)
+    const QDateTime now = platform::desk().clock().now();
+    if (!m_hadFocus || m_opened.msecsTo(now) < kComes)
         return; // what was under way before it came
     close();
-    m_left = platform::desk().clock().now();
+    m_left = now;
 }
 
 void TrayPanelOpener::showStatus(const MonitorStatus &status)
