@@ -1,5 +1,8 @@
 #include "reconciler.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/linkstatus.h"
@@ -105,12 +108,13 @@ void Reconciler::ask()
         page->reconcile();
 }
 
-/// Whoever asked: what was not told is asked for again.
+/// Whoever asked: what was not told is asked for again. Only a try of its own makes the pauses longer: a page that
+/// asks beside it is no second one.
 void Reconciler::answered(int unanswered)
 {
     const bool wasSilent = !m_facts.answers;
-    m_facts.isAsking = false;
-    m_facts.vainTries = unanswered == 0 ? 0 : m_facts.vainTries + 1;
+    const bool wasTry = std::exchange(m_facts.isAsking, false);
+    m_facts.vainTries = unanswered == 0 ? 0 : wasTry ? m_facts.vainTries + 1 : std::max(m_facts.vainTries, 1);
     if (unanswered != 0)
         m_facts.asked = platform::desk().clock().now();
     if (wasSilent && monitorAnswers())
