@@ -21,7 +21,7 @@ private Q_SLOTS:
 
 protected:
     SettingsPage *anyPage(int which);
-    PanelPage *page(int which) { return static_cast<PanelPage *>(anyPage(which)); }
+    PanelPage *page(int which) { return qobject_cast<PanelPage *>(anyPage(which)); }
     QPushButton *button(int which, const QString &name) { return anyPage(which)->findChild<QPushButton *>(name); }
     /// Until every question has been answered, and the pages know.
     bool settle();
