@@ -153,6 +153,8 @@ void TestCare::undoOfRiskyChanges()
     QFETCH(const int, value);
     QFETCH(const bool, offered);
     start(10);
+    m_desk->clock.advance(1min); // what is asked once, behind the start
+    QTRY_VERIFY(m_window->findChild<CommandQueue *>()->isIdle());
     SettingsPage *settings = m_window->settingsPage(page);
     const UndoBar *bar = settings->undoBar();
     const auto change = [&] {
@@ -176,8 +178,7 @@ void TestCare::undoOfRiskyChanges()
     looked.set_value();
     QVERIFY(isFree.get()); // the window did not wait for it
     QTest::keyClick(bar->button(), Qt::Key_Space);
-    QCOMPARE(m_desk->takeCommands().filter("W"),
-             QStringList{QStringLiteral("W %1=%2").arg(command, 0, 16).arg(before)});
+    QCOMPARE(m_desk->takeCommands(), QStringList{QStringLiteral("W %1=%2").arg(command, 0, 16).arg(before)});
     QVERIFY(bar->isHidden() && deviceState.confirmed(Command(command)) == before);
 
     QVERIFY(change());
@@ -186,7 +187,7 @@ void TestCare::undoOfRiskyChanges()
     m_desk->clock.advance(14s);
     QVERIFY(!bar->isHidden());
     m_desk->clock.advance(1s);
-    QVERIFY(bar->isHidden() && m_desk->takeCommands().filter("W").isEmpty()); // nothing goes back by itself
+    QVERIFY(bar->isHidden() && m_desk->takeCommands().isEmpty()); // nothing goes back by itself
     QCOMPARE(int(m_desk->monitor().value(std::uint8_t(command))), value);
 
     m_desk->monitor().refuseWrites(2);
