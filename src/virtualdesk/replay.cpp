@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <limits>
 
+#include <QByteArrayList>
 #include <QDebug>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -101,13 +102,17 @@ std::optional<Replay> parseRecording(const QByteArray &bytes, int monitor, QStri
 {
     std::vector<QJsonValue> monitors;
     std::vector<Replay::Line> lines;
-    int number = 0;
-    for (const QByteArray &text : bytes.split('\n')) {
-        ++number;
+    const QByteArrayList texts = bytes.split('\n'); // the last one is behind the last line's end
+    for (int number = 1; number <= texts.size(); ++number) {
+        const QByteArray &text = texts[number - 1];
         if (text.trimmed().isEmpty())
             continue;
         const QJsonObject object = QJsonDocument::fromJson(text).object();
         const std::optional<Replay::Line> line = parseLine(object, number);
+        if (!line && number == texts.size()) {
+            qWarning("the recording is cut off within line %d", number);
+            break;
+        }
         if (!line) {
             error = QStringLiteral("line %1 is no recorded request").arg(number);
             return {};

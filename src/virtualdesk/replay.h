@@ -44,7 +44,8 @@ private:
 };
 
 /// Reads a recording: the requests to one of its monitors, by their order of appearance from 0. Nothing, with error
-/// set, for what is no recording or does not have so many monitors.
+/// set, for what is no recording or does not have so many monitors. A last line that is cut off is left out, with a
+/// warning.
 std::optional<Replay> parseRecording(const QByteArray &bytes, int monitor, QString &error);
 
 } // namespace virtualdesk

@@ -112,6 +112,13 @@ void SmallMatrix::drawSheets()
     }
 }
 
+/// Out of sight the sheets would only take room.
+void SmallMatrix::hideEvent(QHideEvent *)
+{
+    m_drawnForm = nullptr;
+    m_dark = m_lit[0] = m_lit[1] = {};
+}
+
 void SmallMatrix::paintEvent(QPaintEvent *)
 {
     if (!m_frame)

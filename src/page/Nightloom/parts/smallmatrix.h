@@ -28,6 +28,7 @@ public:
     QString valueText() const override;
 
 protected:
+    void hideEvent(QHideEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
