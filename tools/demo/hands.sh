@@ -47,10 +47,10 @@ click_on() {
 
 # Prints the point of a slider of 0 to 100 where a value has its handle: value_place NAME VALUE
 value_place() {
-    local place x y width height
+    local place x y width height handle=$((HANDLE * percent / 100))
     place=$(place_of "$1_slider")
     read -r x y width height <<<"$place"
-    printf '%s %s\n' $((x + HANDLE * scale / 2 + (width - HANDLE * scale) * $2 / 100)) $((y + height / 2))
+    printf '%s %s\n' $((x + handle / 2 + (width - handle) * $2 / 100)) $((y + height / 2))
 }
 
 # Drags a slider in a few moves, as a hand would: drag NAME FROM TO
@@ -72,5 +72,5 @@ drag() {
 put_mouse_away() {
     local X Y WIDTH HEIGHT
     eval "$(timeout 5 xdotool getwindowgeometry --shell "$1" 2>/dev/null | grep -E '^(X|Y|WIDTH|HEIGHT)=[-0-9]*$')"
-    point_at $((X + WIDTH / 2)) $((Y + HEIGHT - EDGE * scale))
+    point_at $((X + WIDTH / 2)) $((Y + HEIGHT - EDGE * percent / 100))
 }

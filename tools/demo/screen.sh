@@ -9,7 +9,7 @@ SCREEN_GROUND='#070a09'
 # What follows is for the tools that source this file.
 # shellcheck disable=SC2034
 program_window=''
-scale=1 # pixels a point
+percent=100 # pixels for a hundred points
 
 started=() # processes to end with the tool
 places=''  # where a program answers where its controls are, see hands.sh
@@ -93,12 +93,12 @@ find_window() {
     for id in $(timeout 5 xdotool search --onlyvisible --name "^$1\$" 2>/dev/null); do
         WIDTH=0
         eval "$(timeout 5 xdotool getwindowgeometry --shell "$id" 2>/dev/null | grep '^WIDTH=[0-9]*$')"
-        ((WIDTH >= $2 * scale)) && { printf '%s\n' "$id" && return; }
+        ((WIDTH >= $2 * percent / 100)) && { printf '%s\n' "$id" && return; }
     done
     return 1
 }
 
 # Moves a window's corner to a place in points, and waits until it is there.
 move_window() {
-    timeout 5 xdotool windowmove --sync "$1" $(($2 * scale)) $(($3 * scale)) || die "the window does not move"
+    timeout 5 xdotool windowmove --sync "$1" $(($2 * percent / 100)) $(($3 * percent / 100)) || die "the window does not move"
 }
