@@ -237,6 +237,12 @@ void TestReach::arrowsOnlyMove()
         QCOMPARE(sent(presses[way]), QStringLiteral("W 57=3"));
         QVERIFY(seen(buttons[3])->state().checked && !seen(buttons[1])->state().checked);
     }
+    virtualdesk::DeskWindow desk(m_desk->desk);
+    auto *tabs = desk.findChild<QTabBar *>();
+    for (const auto &[walk, open] : {std::pair(Qt::Key_Right, 0), {Qt::Key_End, 0}, {Qt::Key_Return, 3}}) {
+        QTest::keyClick(tabs, walk);
+        QCOMPARE(tabs->currentIndex(), open);
+    }
 }
 
 /// Also those that send when they are let go.

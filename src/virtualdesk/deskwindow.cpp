@@ -3,12 +3,11 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QScreen>
-#include <QTabBar>
-#include <QTabWidget>
 #include <QVBoxLayout>
 
 #include "virtualdesk/accessorypanel.h"
 #include "virtualdesk/deskroles.h"
+#include "virtualdesk/desktabs.h"
 #include "virtualdesk/desktoppanel.h"
 #include "virtualdesk/monitorpanel.h"
 #include "virtualdesk/soundpanel.h"
@@ -60,7 +59,7 @@ QToolTip { color: #ffffff; background-color: #1b2320; border: 1px solid rgb(27,8
 
 } // namespace
 
-DeskWindow::DeskWindow(VirtualDesk &desk) : m_tabs(new QTabWidget(this))
+DeskWindow::DeskWindow(VirtualDesk &desk) : m_tabs(new DeskTabs(this))
 {
     describeDeskToAssistiveSoftware();
     setAttribute(Qt::WA_ShowWithoutActivating);
@@ -70,8 +69,6 @@ DeskWindow::DeskWindow(VirtualDesk &desk) : m_tabs(new QTabWidget(this))
     QFont font = this->font();
     font.setPixelSize(13);
     setFont(font);
-    m_tabs->tabBar()->setDrawBase(false);
-    m_tabs->tabBar()->setObjectName(QStringLiteral("deskTabs"));
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(kMargin, 8, kMargin, kMargin);
