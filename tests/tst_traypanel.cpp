@@ -298,6 +298,9 @@ void TestTrayPanel::keyboard()
     Q_EMIT qGuiApp->focusWindowChanged(panel().windowHandle());
     Q_EMIT qGuiApp->focusWindowChanged(nullptr); // the notification area takes it back at first
     QVERIFY(m_window->trayPanel()->isOpen());
+    panel().move(-5000, 0); // its screen goes
+    Q_EMIT QGuiApplication::primaryScreen()->availableGeometryChanged({});
+    QTRY_VERIFY(QGuiApplication::primaryScreen()->availableGeometry().contains(panel().geometry()));
     m_desk->clock.advance(400ms);
     Q_EMIT qGuiApp->focusWindowChanged(nullptr);
     QVERIFY(!m_window->trayPanel()->isOpen());

@@ -14,7 +14,7 @@ Tray::Tray(CommandQueue &queue, QWidget *window) : QObject(window), m_panel(new 
         return;
     }
     m_icon = new TrayIcon(window);
-    connect(m_icon, &TrayIcon::pressed, this, [this] { m_panel->press(m_icon->geometry()); });
+    connect(m_icon, &TrayIcon::pressed, this, [this] { m_panel->press([this] { return m_icon->geometry(); }); });
     connect(m_icon, &TrayIcon::showWanted, this, &Tray::showWanted);
     connect(m_icon, &TrayIcon::exitWanted, this, &Tray::exitWanted);
     m_icon->show();

@@ -11,7 +11,10 @@
 #include <QVBoxLayout>
 
 #include "controls/accessiblecontrol.h"
+#include "controls/captionlabel.h"
+#include "controls/captions.h"
 #include "controls/focusring.h"
+#include "controls/metrics.h"
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/devicestate.h"
@@ -28,8 +31,7 @@
 namespace {
 
 constexpr int kWidth = 360;
-constexpr int kMargin = 20;
-constexpr int kRowSpacing = 14;
+constexpr int kMargin = 16;
 
 } // namespace
 
@@ -53,7 +55,7 @@ void TrayPanel::build()
     setFixedWidth(kWidth);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(kMargin, 16, kMargin, 12);
-    column->setSpacing(12);
+    column->setSpacing(metrics::kGap);
     m_header = new TrayPanelHeader(column, this);
     m_scroll = new QScrollArea(this);
     m_scroll->setWidgetResizable(true);
@@ -72,15 +74,15 @@ QWidget *TrayPanel::buildBody()
     m_body->setObjectName(QStringLiteral("customArea"));
     auto *column = new QVBoxLayout(m_body);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(12);
+    column->setSpacing(metrics::kGap);
     m_scene = new TrayScene(texts(), column, m_body);
     connect(m_scene, &TrayScene::sceneChosen, this, &TrayPanel::sceneChosen);
     connect(m_scene, &TrayScene::halfChosen, this, &TrayPanel::halfChosen);
     connect(m_scene, &TrayScene::sceneChosen, this, &TrayPanel::showScene);
     connect(m_scene, &TrayScene::halfChosen, this, &TrayPanel::showScene);
     m_places = new QVBoxLayout;
-    m_places->setSpacing(kRowSpacing);
-    column->addSpacing(4);
+    m_places->setSpacing(metrics::kRowGap);
+    column->addSpacing(metrics::kGap);
     column->addLayout(m_places);
     m_arrange = makePlainButton(LABEL("Arrange the window"), QStringLiteral("arrangeWindow"), texts(), m_body);
     connect(m_arrange, &QPushButton::clicked, this, &TrayPanel::zonesWanted);
@@ -116,8 +118,17 @@ void TrayPanel::showChosen()
         m_places->addWidget(holder);
         holder->show();
     }
+    shrinkCaptions();
     orderKeyboard();
     updateInterfaceData();
+}
+
+void TrayPanel::shrinkCaptions()
+{
+    QList<CaptionLabel *> captions;
+    for (int i = 0; i < m_places->count(); ++i)
+        captions += m_places->itemAt(i)->widget()->findChildren<CaptionLabel *>();
+    shrinkTogether(captions);
 }
 
 /// From the first control to the last as they stand, whenever they were made.
@@ -216,6 +227,7 @@ void TrayPanel::updateInterfaceData()
 void TrayPanel::updateControlText()
 {
     SettingsPage::updateControlText();
+    shrinkCaptions();
     m_footer->updateControlText();
     m_scene->fill();
     showScene();

@@ -69,6 +69,7 @@ private:
     QWidget *buildBody();
     Row &rowOf(const TrayControl &control);
     void showChosen();
+    void shrinkCaptions();
     void orderKeyboard();
     void showScene();
     void showTwoOptions(Row &row);

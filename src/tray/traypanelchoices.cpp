@@ -28,8 +28,11 @@ constexpr Offer kOffers[] = {
 std::optional<TrayControl> findIn(const Section &section, Command command, const DeviceState &state)
 {
     if (const auto *group = std::get_if<OptionGroup>(&section)) {
-        if (group->command == command && state.has(group->needs))
-            return TrayControl{command, group->label, *group};
+        if (group->command == command && state.has(group->needs)) {
+            OptionGroup two = *group; // of its options two are to be seen at a time: off and another
+            two.look = GroupLook::Switch;
+            return TrayControl{command, group->label, two};
+        }
     } else if (const auto *grid = std::get_if<SliderGrid>(&section)) {
         for (const SliderSpec &spec : grid->sliders) {
             if (spec.command == command && state.has(spec.needs))

@@ -14,6 +14,10 @@ static constexpr qint64 kComes = 400;
 TrayPanelOpener::TrayPanelOpener(CommandQueue &queue, QObject *parent) : QObject(parent), m_queue(queue)
 {
     connect(qApp, &QGuiApplication::focusWindowChanged, this, &TrayPanelOpener::followFocus);
+    connect(qApp, &QGuiApplication::screenAdded, this, &TrayPanelOpener::followScreen);
+    connect(qApp, &QGuiApplication::screenRemoved, this, &TrayPanelOpener::followScreens);
+    for (const QScreen *screen : QGuiApplication::screens())
+        followScreen(screen);
 }
 
 TrayPanelOpener::~TrayPanelOpener() = default;
@@ -33,7 +37,7 @@ TrayPressFacts TrayPanelOpener::facts() const
 }
 
 /// A question that stands in the window is not to be missed behind the panel.
-void TrayPanelOpener::press(const QRect &icon)
+void TrayPanelOpener::press(const IconPlace &icon)
 {
     const TrayPress meaning = QApplication::activeModalWidget() ? TrayPress::ShowWindow : meaningOfTrayPress(facts());
     if (meaning == TrayPress::Open)
@@ -51,10 +55,13 @@ void TrayPanelOpener::close()
         m_panel->hide();
 }
 
-void TrayPanelOpener::open(const QRect &icon)
+void TrayPanelOpener::open(const IconPlace &icon)
 {
     make();
-    m_icon = icon.isEmpty() ? QRect(QCursor::pos(), QSize(1, 1)) : icon;
+    m_iconPlace = icon;
+    m_icon = icon ? icon() : QRect();
+    if (m_icon.isEmpty())
+        m_icon = QRect(QCursor::pos(), QSize(1, 1));
     m_opened = platform::desk().clock().now();
     m_left = {};
     m_hadFocus = false;
@@ -93,6 +100,27 @@ void TrayPanelOpener::place()
     const QRect available = screen->availableGeometry();
     m_panel->fitInto(available.height() - 2 * kTrayPanelGap);
     m_panel->move(placeTrayPanel(m_icon, available, m_panel->size()));
+}
+
+void TrayPanelOpener::followScreen(const QScreen *screen)
+{
+    connect(screen, &QScreen::availableGeometryChanged, this, &TrayPanelOpener::followScreens);
+    followScreens();
+}
+
+/// When all has been told: the taskbar moves with its screen, and so does the icon.
+void TrayPanelOpener::followScreens()
+{
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (!isOpen())
+                return;
+            if (const QRect icon = m_iconPlace ? m_iconPlace() : QRect(); !icon.isEmpty())
+                m_icon = icon;
+            place();
+        },
+        Qt::QueuedConnection);
 }
 
 /// A press elsewhere takes the focus away; the panel's own lists do not count.

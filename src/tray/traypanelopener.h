@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include <QDateTime>
@@ -22,9 +23,11 @@ public:
     explicit TrayPanelOpener(CommandQueue &queue, QObject *parent = nullptr);
     ~TrayPanelOpener() override;
 
-    /// The icon was pressed, by mouse or keyboard. An icon whose place the tray does not tell has an empty rectangle:
-    /// then the pointer's place counts.
-    void press(const QRect &icon);
+    using IconPlace = std::function<QRect()>;
+
+    /// The icon was pressed, by mouse or keyboard. The panel asks where it is once more when the displays change. An
+    /// icon whose place the tray does not tell has no place, or an empty one: then the pointer's place counts.
+    void press(const IconPlace &icon);
 
     void close();
 
@@ -48,9 +51,11 @@ Q_SIGNALS:
     void windowWanted();
 
 private:
-    void open(const QRect &icon);
+    void open(const IconPlace &icon);
     void make();
     void place();
+    void followScreen(const QScreen *screen);
+    void followScreens();
     void followFocus(const QWindow *focused);
     TrayPressFacts facts() const;
 
@@ -59,7 +64,8 @@ private:
     MonitorStatus m_status;
     bool m_usable = true;
     bool m_hadFocus = false; ///< since it was opened
-    QRect m_icon;            ///< at which the panel stands
-    QDateTime m_opened;      ///< when it was opened last
-    QDateTime m_left;        ///< when it closed because the user went elsewhere
+    IconPlace m_iconPlace;
+    QRect m_icon;       ///< at which the panel stands
+    QDateTime m_opened; ///< when it was opened last
+    QDateTime m_left;   ///< when it closed because the user went elsewhere
 };

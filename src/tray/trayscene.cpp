@@ -43,7 +43,7 @@ QWidget *TrayScene::buildHalves(BoundTexts &texts, QWidget *body)
     auto *halves = new QWidget(body);
     auto *row = new QHBoxLayout(halves);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(8);
+    row->setSpacing(0);
     m_halves = new QButtonGroup(halves);
     describeAs(halves, QAccessible::Grouping);
     texts.bind(kHalvesLabel, [halves](const QString &text) { halves->setAccessibleName(text); });
@@ -61,6 +61,7 @@ QWidget *TrayScene::buildHalves(BoundTexts &texts, QWidget *body)
         row->addWidget(half, 1);
         connect(half, &QPushButton::clicked, this, [this, half] { Q_EMIT halfChosen(half == m_default); });
     }
+    layInTrack(halves, {m_default, m_custom});
     return halves;
 }
 

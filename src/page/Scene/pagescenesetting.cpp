@@ -126,7 +126,7 @@ QScrollArea *pageSceneSetting::buildControls(QWidget *parent)
     m_customArea = new QWidget(scroll->viewport());
     m_customArea->setObjectName(QStringLiteral("customArea"));
     auto *column = new QVBoxLayout(m_customArea);
-    column->setContentsMargins(0, 0, 16, 0);
+    column->setContentsMargins(0, 0, metrics::kGap, 0);
     column->setSpacing(metrics::kRowGap);
     setLocks(sceneLocks());
     buildSections(sceneSections(), column);

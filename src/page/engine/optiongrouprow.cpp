@@ -135,6 +135,8 @@ void OptionGroupRow::addSwatches(BoundTexts &texts, FlowLayout *flow)
 void OptionGroupRow::addMarks(FlowLayout *flow)
 {
     m_mark->setFixedHeight(m_caption->height());
+    if (m_group.look == GroupLook::Switch)
+        m_mark->setFixedWidth(ValueMark::kSize + 2 * metrics::kGap); // the gaps that the flow does not have then
     QSizePolicy markPolicy = m_mark->sizePolicy();
     markPolicy.setRetainSizeWhenHidden(true); // the buttons must not jump when it comes
     m_mark->setSizePolicy(markPolicy);
@@ -172,6 +174,8 @@ void OptionGroupRow::makeNarrow(int captionWidth)
 {
     m_caption->setFixedWidth(captionWidth);
     m_halfSize = HalfSize::Narrow;
+    if (m_group.look == GroupLook::Switch)
+        m_mark->setFixedWidth(ValueMark::kSize + metrics::kGap);
     for (QPushButton *button : m_buttons)
         dress(button);
 }
