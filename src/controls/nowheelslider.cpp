@@ -81,22 +81,35 @@ QSize NoWheelSlider::minimumSizeHint() const
     return QSize(3 * kHandle, kHeight);
 }
 
-QRect NoWheelSlider::grooveRect() const
+void NoWheelSlider::setWholeGroove(bool whole)
+{
+    m_wholeGroove = whole;
+    update();
+}
+
+/// Where the handle's centre goes.
+QRect NoWheelSlider::pathRect() const
 {
     return QRect(kHandle / 2, (height() - kGroove) / 2, width() - kHandle, kGroove);
 }
 
+QRect NoWheelSlider::grooveRect() const
+{
+    const int further = m_wholeGroove ? kHandle / 2 : 0;
+    return pathRect().adjusted(-further, 0, further, 0);
+}
+
 QPoint NoWheelSlider::handleCentre() const
 {
-    const QRect groove = grooveRect();
-    const int offset = QStyle::sliderPositionFromValue(minimum(), maximum(), sliderPosition(), groove.width());
-    return QPoint(groove.left() + offset, height() / 2);
+    const QRect path = pathRect();
+    const int offset = QStyle::sliderPositionFromValue(minimum(), maximum(), sliderPosition(), path.width());
+    return QPoint(path.left() + offset, height() / 2);
 }
 
 int NoWheelSlider::valueAt(int x) const
 {
-    const QRect groove = grooveRect();
-    return QStyle::sliderValueFromPosition(minimum(), maximum(), x - groove.left(), groove.width());
+    const QRect path = pathRect();
+    return QStyle::sliderValueFromPosition(minimum(), maximum(), x - path.left(), path.width());
 }
 
 void NoWheelSlider::wheelEvent(QWheelEvent *event)

@@ -27,6 +27,9 @@ public:
     /// The value in words, translated, with its unit.
     QString valueText() const;
 
+    /// Has the groove reach both ends of the slider, for where nothing stands before it; the handle stays inside.
+    void setWholeGroove(bool whole);
+
     /// Moves there as by a key: from sliderPressed() to sliderReleased().
     void moveAtOnce(int value);
 
@@ -45,6 +48,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    QRect pathRect() const;
     QRect grooveRect() const;
     QPoint handleCentre() const;
     int valueAt(int x) const;
@@ -59,4 +63,5 @@ private:
     /// From the handle's centre to where the mouse took hold of it.
     int m_grabOffset = 0;
     bool m_unknown = false;
+    bool m_wholeGroove = false;
 };

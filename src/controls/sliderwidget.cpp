@@ -88,6 +88,7 @@ void SliderWidget::showAccent()
 void SliderWidget::hideCaption()
 {
     m_captionLabel->hide();
+    m_slider->setWholeGroove(true);
 }
 
 void SliderWidget::setHelp(const QString &sentence)

@@ -3,6 +3,7 @@
 #include <QVBoxLayout>
 
 #include "controls/accessiblecontrol.h"
+#include "controls/metrics.h"
 #include "controls/palette.h"
 #include "controls/picturelabel.h"
 #include "controls/pictures.h"
@@ -26,7 +27,7 @@ EmptyPage::EmptyPage(QWidget *parent) : QLabel(parent), m_title(new QLabel(this)
     for (QLabel *label : {static_cast<QLabel *>(picture), m_title, m_noteLabel})
         column->addWidget(label, 0, Qt::AlignHCenter);
     column->addStretch(3);
-    column->setSpacing(12);
+    column->setSpacing(metrics::kGap);
 }
 
 void EmptyPage::showEntry(const char *label, const QString &why)

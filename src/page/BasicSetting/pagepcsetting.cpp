@@ -7,6 +7,7 @@
 #include <QHBoxLayout>
 
 #include "controls/messagebox.h"
+#include "controls/metrics.h"
 #include "controls/sharedfonts.h"
 #include "ddc_protocol/automaticwriter.h"
 #include "ddc_protocol/displayenumeration.h"
@@ -126,7 +127,7 @@ QWidget *pagePCSetting::buildMachine()
         [hint](const QString &text) { hint->setText(text); });
     auto *column = new QVBoxLayout(part);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(12);
+    column->setSpacing(metrics::kGap);
     column->addWidget(m_machines);
     column->addWidget(hint);
     return part;

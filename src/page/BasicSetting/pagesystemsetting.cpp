@@ -4,6 +4,7 @@
 #include <QGridLayout>
 #include <QPushButton>
 
+#include "controls/metrics.h"
 #include "controls/palette.h"
 #include "ddc_protocol/monitoridentity.h"
 #include "ddc_protocol/settingsstore.h"
@@ -33,7 +34,8 @@ QWidget *pageSystemSetting::buildPart(const char *)
     auto *part = new QWidget(this);
     auto *grid = new QGridLayout(part);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->setVerticalSpacing(16);
+    grid->setHorizontalSpacing(metrics::kGap);
+    grid->setVerticalSpacing(metrics::kRowGap);
     auto *question = new QLabel(part);
     question->setStyleSheet(Palette::styled(u"color: @soft; font-size: 14px;"));
     question->setWordWrap(true);

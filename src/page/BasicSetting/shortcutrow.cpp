@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "controls/accessiblecontrol.h"
+#include "controls/metrics.h"
 #include "controls/pictures.h"
 #include "controls/zelmarkeysequenceedit.h"
 #include "page/engine/listpage.h"
@@ -80,8 +81,8 @@ void ShortcutRow::buildSide(int direction)
 void ShortcutRow::layOut()
 {
     auto *grid = new QGridLayout(this);
-    grid->setContentsMargins(16, 8, 12, 8);
-    grid->setHorizontalSpacing(12);
+    grid->setContentsMargins(16, 8, 16, 8);
+    grid->setHorizontalSpacing(metrics::kGap);
     grid->setVerticalSpacing(4);
     int column = 0;
     grid->addWidget(m_switch, 0, column++);

@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 
+#include "controls/metrics.h"
 #include "following/followscenes.h"
 #include "page/engine/dropdown.h"
 #include "page/engine/listpage.h"
@@ -48,8 +49,8 @@ FollowRow::FollowRow(QWidget *parent)
 void FollowRow::layOut()
 {
     auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(16, 8, 12, 8);
-    row->setSpacing(12);
+    row->setContentsMargins(16, 8, 16, 8);
+    row->setSpacing(metrics::kGap);
     row->addWidget(m_name);
     row->addWidget(m_pathField, 1);
     row->addWidget(m_scenes);

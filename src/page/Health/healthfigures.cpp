@@ -6,6 +6,7 @@
 
 #include "controls/captionlabel.h"
 #include "controls/dash.h"
+#include "controls/metrics.h"
 #include "controls/sharedfonts.h"
 #include "controls/timecurve.h"
 #include "page/Health/healthlabel.h"
@@ -21,7 +22,7 @@ HealthFigures::HealthFigures(BoundTexts &texts, QWidget *parent) : QWidget(paren
 {
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(12);
+    column->setSpacing(metrics::kGap);
     auto *row = new QHBoxLayout;
     row->setSpacing(8);
     for (int i = 0; i < kHealthFigures; ++i)

@@ -15,7 +15,7 @@ constexpr char kColorTemperatureHelp[] =
 constexpr char kLowBlueLightHelp[] = LABEL("Takes blue out of the picture, which is easier on the eyes. 0 = off.");
 
 constexpr int kWideCaption = metrics::kCaptionWidth;
-constexpr int kNarrowCaption = 52;
+constexpr int kNarrowCaption = 64;
 
 const SliderSpec kPictureSliders[] = {
     sliderOf(Command::Brightness, 0, 100),

@@ -145,7 +145,8 @@ void PageControls::addSliders(const SliderGrid &grid, std::span<const LockRule> 
         ++cell;
     }
     for (int i = 0; i < grid.columns; ++i) {
-        cells->addItem(new QSpacerItem(0, 0), cell / grid.columns + 1, i); // an empty column is as wide as the others
+        if (i >= cell) // an empty column is as wide as the others, and as far from them
+            cells->addWidget(new QWidget(column->parentWidget()), 0, i);
         cells->setColumnStretch(i, 1);
     }
     column->addLayout(cells);

@@ -20,6 +20,15 @@ QLabel *makeLine(const QString &name, const QFont &font, QWidget *parent)
     return line;
 }
 
+/// As it is laid out, which may be more than its font tells.
+int lineHeight(QLabel *line)
+{
+    line->setText(QStringLiteral(" "));
+    const int height = line->sizeHint().height();
+    line->clear();
+    return height;
+}
+
 } // namespace
 
 PageHead::PageHead(QWidget *parent)
@@ -33,10 +42,11 @@ PageHead::PageHead(QWidget *parent)
     m_help->setSizePolicy(helpPolicy);
     const QFontMetrics title = m_title->fontMetrics();
     const QFontMetrics help = m_help->fontMetrics();
+    const int titleTop = metrics::kTitleBaseline - title.ascent();
     const int helpTop = metrics::kHelpBaseline - help.ascent();
     auto *words = new QVBoxLayout;
-    words->setContentsMargins(0, metrics::kTitleBaseline - title.ascent(), 0, 0);
-    words->setSpacing(helpTop - metrics::kTitleBaseline - title.descent());
+    words->setContentsMargins(0, titleTop, 0, 0);
+    words->setSpacing(helpTop - titleTop - lineHeight(m_title));
     words->addWidget(m_title);
     words->addWidget(m_help);
     m_corner->setContentsMargins(metrics::kBlockGap, metrics::kBlockGap, 0, 0);
@@ -48,7 +58,7 @@ PageHead::PageHead(QWidget *parent)
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addLayout(line);
-    column->addSpacing(metrics::kStripTop - metrics::kHelpBaseline - help.descent());
+    column->addSpacing(metrics::kStripTop - helpTop - lineHeight(m_help));
     column->addWidget(m_strip);
 }
 

@@ -6,6 +6,7 @@
 
 #include "PictureAudioCom/soundanalyzer.h"
 #include "controls/announcer.h"
+#include "controls/metrics.h"
 #include "controls/sharedfonts.h"
 #include "ddc_protocol/settingsstore.h"
 #include "page/Nightloom/music/audiopicture.h"
@@ -79,7 +80,7 @@ QWidget *pageLEDMusic::buildPart(const char *)
     m_note->setMinimumHeight(QFontMetrics(noteFont).height()); // the picture must not jump when it goes
     auto *column = new QVBoxLayout(part);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(12);
+    column->setSpacing(metrics::kGap);
     column->addWidget(m_picture, 1);
     column->addWidget(m_note);
     return part;
