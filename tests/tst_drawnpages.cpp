@@ -38,13 +38,15 @@ void TestDrawnPages::pointingShowsAndSendsNothing()
     const auto seen = [stage] { return stage->picture()->grab().toImage(); };
     const QImage before = seen();
     const QPointF inside(5, 5);
-    QEnterEvent enter(inside, inside, inside);
-    QCoreApplication::sendEvent(button(Office, "Paper_Paper_B5"), &enter);
-    QCOMPARE(stage->preview(), std::optional(std::pair(Command::Paper, 2)));
-    QVERIFY(seen() != before);
-    QEvent leave(QEvent::Leave);
-    QCoreApplication::sendEvent(button(Office, "Paper_Paper_B5"), &leave);
-    QVERIFY(!stage->preview() && seen() == before);
+    for (const auto &[option, value] : {std::pair("Paper_Paper_B5", 2), {"Paper_Custom Size", 4}}) {
+        QEnterEvent enter(inside, inside, inside);
+        QCoreApplication::sendEvent(button(Office, option), &enter);
+        QCOMPARE(stage->preview(), std::optional(std::pair(Command::Paper, value)));
+        QVERIFY(seen() != before);
+        QEvent leave(QEvent::Leave);
+        QCoreApplication::sendEvent(button(Office, option), &leave);
+        QVERIFY(!stage->preview() && seen() == before);
+    }
     QCOMPARE(m_desk->takeCommands(), QStringList());
 
     // What is refused is not said to be on.

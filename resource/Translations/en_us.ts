@@ -400,8 +400,8 @@
         <translation>A quarter of the screen&apos;s width: hides least of the first input.</translation>
     </message>
     <message>
-        <source>A sheet as large as you set it below.</source>
-        <translation>A sheet as large as you set it below.</translation>
+        <source>A sheet as large as you set it above.</source>
+        <translation>A sheet as large as you set it above.</translation>
     </message>
     <message>
         <source>A sheet of 125 × 176 mm, as of a paperback.</source>
@@ -540,10 +540,6 @@
         <translation>Animate Mode</translation>
     </message>
     <message>
-        <source>Animate: 1050 cells a frame. Aligned: %1, as this form saves.</source>
-        <translation>Animate: 1050 cells a frame. Aligned: %1, as this form saves.</translation>
-    </message>
-    <message>
         <source>Animations</source>
         <translation>Animations</translation>
     </message>
@@ -606,6 +602,10 @@
     <message>
         <source>As fast as it goes. Bright rims may follow what moves.</source>
         <translation>As fast as it goes. Bright rims may follow what moves.</translation>
+    </message>
+    <message>
+        <source>As saved: %1 cells a frame, not 1050.</source>
+        <translation>As saved: %1 cells a frame, not 1050.</translation>
     </message>
     <message>
         <source>Asked again and told; nothing to do.</source>
@@ -2492,6 +2492,10 @@
         <translation>Only the modes &quot;Normal&quot; and &quot;Effect&quot; have a colour of their own.</translation>
     </message>
     <message>
+        <source>Only the monitor that this tool sets can be read.</source>
+        <translation>Only the monitor that this tool sets can be read.</translation>
+    </message>
+    <message>
         <source>Only the small window of PIP has a size and a place.</source>
         <translation>Only the small window of PIP has a size and a place.</translation>
     </message>
@@ -2926,6 +2930,10 @@
     <message>
         <source>Save File</source>
         <translation>Save File</translation>
+    </message>
+    <message>
+        <source>Save, export or import the animation first.</source>
+        <translation>Save, export or import the animation first.</translation>
     </message>
     <message>
         <source>Scan it with a phone to read more about your monitor.</source>

@@ -161,11 +161,11 @@
     </message>
     <message>
         <source>%1 was not taken</source>
-        <translation>「%1」を設定できませんでした</translation>
+        <translation>「%1」を設定できません</translation>
     </message>
     <message>
         <source>%1 was not told</source>
-        <translation>「%1」を読み取れませんでした</translation>
+        <translation>「%1」を読み取れません</translation>
     </message>
     <message>
         <source>%1 · %2</source>
@@ -361,11 +361,11 @@
     </message>
     <message>
         <source>A faint light, for a dark room.</source>
-        <translation>暗い部屋向けのかすかな光です。</translation>
+        <translation>暗い部屋向けの淡い光です。</translation>
     </message>
     <message>
         <source>A line of text that the matrix shows, standing or scrolling.</source>
-        <translation>マトリックスに静止またはスクロールで表示する 1 行のテキスト。</translation>
+        <translation>マトリクスに静止またはスクロールで表示する 1 行のテキスト。</translation>
     </message>
     <message>
         <source>A little cooler than usual.</source>
@@ -400,8 +400,8 @@
         <translation>画面の幅の 4 分の 1。1 つ目の入力を隠す部分が最も少なくなります。</translation>
     </message>
     <message>
-        <source>A sheet as large as you set it below.</source>
-        <translation>下で設定した大きさの用紙です。</translation>
+        <source>A sheet as large as you set it above.</source>
+        <translation>上で設定した大きさの用紙です。</translation>
     </message>
     <message>
         <source>A sheet of 125 × 176 mm, as of a paperback.</source>
@@ -540,10 +540,6 @@
         <translation>アニメーション</translation>
     </message>
     <message>
-        <source>Animate: 1050 cells a frame. Aligned: %1, as this form saves.</source>
-        <translation>1 フレームは 1050 セル。整列ではこの形状の %1 セル。</translation>
-    </message>
-    <message>
         <source>Animations</source>
         <translation>アニメーション</translation>
     </message>
@@ -606,6 +602,10 @@
     <message>
         <source>As fast as it goes. Bright rims may follow what moves.</source>
         <translation>最速です。動くものに明るい縁が付くことがあります。</translation>
+    </message>
+    <message>
+        <source>As saved: %1 cells a frame, not 1050.</source>
+        <translation>保存と同じ %1 セル/フレーム(通常 1050)</translation>
     </message>
     <message>
         <source>Asked again and told; nothing to do.</source>
@@ -1185,7 +1185,7 @@
     </message>
     <message>
         <source>Draw frames cell by cell; the matrix plays them in a loop.</source>
-        <translation>フレームを 1 マスずつ描きます。マトリックスは繰り返し再生します。</translation>
+        <translation>フレームを 1 セルずつ描きます。マトリクスは繰り返し再生します。</translation>
     </message>
     <message>
         <source>Drawn by the monitor itself, so it works in every game and is no program that a game could see.</source>
@@ -1633,7 +1633,7 @@
     </message>
     <message>
         <source>How and where the monitor shows its menu, and how soon it sleeps without a signal (No Signal Timer).</source>
-        <translation>モニターのメニューの表示方法と位置です。「無信号タイマー」は信号がないときにスリープするまでの時間です。</translation>
+        <translation>メニューの表示方法と位置です。「無信号タイマー」は信号がないときにスリープするまでの時間です。</translation>
     </message>
     <message>
         <source>How bright the lamp shines that tells that the monitor is on. Close = dark, Level3 = brightest.</source>
@@ -1793,7 +1793,7 @@
     </message>
     <message>
         <source>LANGUAGE_SHORTCUTKEY_DESC</source>
-        <translation>モニターの機能に、デスクトップのどこでも使えるキーを割り当てます。Ctrl または Alt と英字か数字を押します。Backspace で消去します。</translation>
+        <translation>モニターの機能に、どこでも使えるキーを割り当てます。Ctrl または Alt と英字か数字です。Backspace で消去します。</translation>
     </message>
     <message>
         <source>LED matrix</source>
@@ -2065,7 +2065,7 @@
     </message>
     <message>
         <source>Makes what moves look sharper. Close = off; Low to High and Ull-Level1 to 3 are stronger in turn.</source>
-        <translation>動きのある映像をくっきり見せます。「低」から「高」、「Ull レベル 1」から「Ull レベル 3」の順に強くなります。</translation>
+        <translation>動きをくっきり見せます。「低」から「高」、「Ull レベル 1」から「Ull レベル 3」の順に強くなります。</translation>
     </message>
     <message>
         <source>Manual</source>
@@ -2253,7 +2253,7 @@
     </message>
     <message>
         <source>Must match the computer&apos;s signal. RGB Auto = found out by itself, RGB Limit = 16 to 235, RGB Full = 0 to 255.</source>
-        <translation>パソコンの信号に合わせます。「RGB 自動」は自動判別、リミテッドは 16～235、フルは 0～255 です。</translation>
+        <translation>コンピューターの信号に合わせます。「RGB 自動」は自動判別、リミテッドは 16～235、フルは 0～255。</translation>
     </message>
     <message>
         <source>My layout</source>
@@ -2490,6 +2490,10 @@
     <message>
         <source>Only the modes &quot;Normal&quot; and &quot;Effect&quot; have a colour of their own.</source>
         <translation>色を選べるのはモード「通常」と「エフェクト」だけです。</translation>
+    </message>
+    <message>
+        <source>Only the monitor that this tool sets can be read.</source>
+        <translation>読み取れるのは、このツールで設定中のモニターだけです。</translation>
     </message>
     <message>
         <source>Only the small window of PIP has a size and a place.</source>
@@ -2928,6 +2932,10 @@
         <translation>ファイルを保存</translation>
     </message>
     <message>
+        <source>Save, export or import the animation first.</source>
+        <translation>先にアニメーションを保存、書き出し、または読み込んでください。</translation>
+    </message>
+    <message>
         <source>Scan it with a phone to read more about your monitor.</source>
         <translation>スマートフォンで読み取ると、モニターの詳しい情報を確認できます。</translation>
     </message>
@@ -3293,7 +3301,7 @@
     </message>
     <message>
         <source>The LED matrix moves with the sound that this computer plays. Close = off, Open = on.</source>
-        <translation>LED マトリクスがパソコンの音に合わせて動きます。</translation>
+        <translation>LED マトリクスがコンピューターの音に合わせて動きます。</translation>
     </message>
     <message>
         <source>The accessory becomes the next of its models; the button is up while it is the first</source>
@@ -3657,7 +3665,7 @@
     </message>
     <message>
         <source>The usual for web, office, photos and most games.</source>
-        <translation>Web、オフィス、写真、多くのゲームの標準です。</translation>
+        <translation>ウェブ、オフィス、写真、多くのゲームの標準です。</translation>
     </message>
     <message>
         <source>The usual light.</source>
@@ -3665,7 +3673,7 @@
     </message>
     <message>
         <source>The usual white for web, photos and films.</source>
-        <translation>Web、写真、映画の標準の白です。</translation>
+        <translation>ウェブ、写真、映画の標準の白です。</translation>
     </message>
     <message>
         <source>The version of your monitor&apos;s firmware.</source>

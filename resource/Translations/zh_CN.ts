@@ -400,8 +400,8 @@
         <translation>屏幕宽度的四分之一：遮住第一路输入最少。</translation>
     </message>
     <message>
-        <source>A sheet as large as you set it below.</source>
-        <translation>按下方设置的尺寸显示纸张。</translation>
+        <source>A sheet as large as you set it above.</source>
+        <translation>按上方设置的尺寸显示纸张。</translation>
     </message>
     <message>
         <source>A sheet of 125 × 176 mm, as of a paperback.</source>
@@ -540,10 +540,6 @@
         <translation>动画模式</translation>
     </message>
     <message>
-        <source>Animate: 1050 cells a frame. Aligned: %1, as this form saves.</source>
-        <translation>每帧 1050 格；对齐为此形状的 %1 格。</translation>
-    </message>
-    <message>
         <source>Animations</source>
         <translation>动画</translation>
     </message>
@@ -606,6 +602,10 @@
     <message>
         <source>As fast as it goes. Bright rims may follow what moves.</source>
         <translation>最快。移动物体后可能出现亮边。</translation>
+    </message>
+    <message>
+        <source>As saved: %1 cells a frame, not 1050.</source>
+        <translation>按保存格式每帧 %1 格，而非 1050 格。</translation>
     </message>
     <message>
         <source>Asked again and told; nothing to do.</source>
@@ -2492,6 +2492,10 @@
         <translation>仅“常亮”和“灯效”模式可以设置颜色。</translation>
     </message>
     <message>
+        <source>Only the monitor that this tool sets can be read.</source>
+        <translation>只能读取本工具所设置的显示器。</translation>
+    </message>
+    <message>
         <source>Only the small window of PIP has a size and a place.</source>
         <translation>只有 PIP 的小窗口才有大小和位置。</translation>
     </message>
@@ -2926,6 +2930,10 @@
     <message>
         <source>Save File</source>
         <translation>保存文件</translation>
+    </message>
+    <message>
+        <source>Save, export or import the animation first.</source>
+        <translation>请先保存、导出或导入动画。</translation>
     </message>
     <message>
         <source>Scan it with a phone to read more about your monitor.</source>

@@ -400,8 +400,8 @@
         <translation>螢幕寬度的四分之一：遮住第一路輸入最少。</translation>
     </message>
     <message>
-        <source>A sheet as large as you set it below.</source>
-        <translation>依下方設定的尺寸顯示紙張。</translation>
+        <source>A sheet as large as you set it above.</source>
+        <translation>依上方設定的尺寸顯示紙張。</translation>
     </message>
     <message>
         <source>A sheet of 125 × 176 mm, as of a paperback.</source>
@@ -540,10 +540,6 @@
         <translation>動畫模式</translation>
     </message>
     <message>
-        <source>Animate: 1050 cells a frame. Aligned: %1, as this form saves.</source>
-        <translation>每個畫格 1050 格；對齊為此形狀的 %1 格。</translation>
-    </message>
-    <message>
         <source>Animations</source>
         <translation>動畫</translation>
     </message>
@@ -606,6 +602,10 @@
     <message>
         <source>As fast as it goes. Bright rims may follow what moves.</source>
         <translation>最快。移動物體後方可能出現亮邊。</translation>
+    </message>
+    <message>
+        <source>As saved: %1 cells a frame, not 1050.</source>
+        <translation>依儲存格式每畫格 %1 格，非 1050 格。</translation>
     </message>
     <message>
         <source>Asked again and told; nothing to do.</source>
@@ -2253,7 +2253,7 @@
     </message>
     <message>
         <source>Must match the computer&apos;s signal. RGB Auto = found out by itself, RGB Limit = 16 to 235, RGB Full = 0 to 255.</source>
-        <translation>需與電腦的訊號一致。「RGB 自動」自動識別，有限範圍為 16 至 235，全範圍為 0 至 255。</translation>
+        <translation>需與電腦的訊號一致。「RGB 自動」自動辨識，有限範圍為 16 至 235，全範圍為 0 至 255。</translation>
     </message>
     <message>
         <source>My layout</source>
@@ -2490,6 +2490,10 @@
     <message>
         <source>Only the modes &quot;Normal&quot; and &quot;Effect&quot; have a colour of their own.</source>
         <translation>僅「恆亮」和「燈效」模式可以設定顏色。</translation>
+    </message>
+    <message>
+        <source>Only the monitor that this tool sets can be read.</source>
+        <translation>只能讀取本工具所設定的顯示器。</translation>
     </message>
     <message>
         <source>Only the small window of PIP has a size and a place.</source>
@@ -2928,6 +2932,10 @@
         <translation>儲存檔案</translation>
     </message>
     <message>
+        <source>Save, export or import the animation first.</source>
+        <translation>請先儲存、匯出或匯入動畫。</translation>
+    </message>
+    <message>
         <source>Scan it with a phone to read more about your monitor.</source>
         <translation>用手機掃描，進一步了解您的顯示器。</translation>
     </message>
@@ -3021,7 +3029,7 @@
     </message>
     <message>
         <source>Set everything back to how the monitor left the factory? The screen goes dark for a few seconds.</source>
-        <translation>要將顯示器的所有設定恢復為出廠狀態嗎？螢幕會暫時變黑數秒。</translation>
+        <translation>要將顯示器的所有設定恢復為原廠狀態嗎？螢幕會變黑數秒。</translation>
     </message>
     <message>
         <source>Sets everything in the monitor back to how it left the factory.</source>

@@ -58,7 +58,7 @@ void HealthPanel::build()
     m_isBuilt = true;
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(12);
+    column->setSpacing(metrics::kGap);
     auto *heading = new QHBoxLayout;
     heading->addWidget(makeHealthLabel(QStringLiteral("note"), 0,
                                        LABEL("How the link to the monitor has been since the "
@@ -176,6 +176,9 @@ void HealthPanel::fillButtons()
     m_read->setText(m_reading.isRunning() ? QObject::tr("Cancel") : QObject::tr("Read everything once"));
     const bool isInUse = chosen() < monitorList.size() && chosen() == currentMonitorIndex; // questions go to no other
     m_read->setEnabled(isInUse || m_reading.isRunning());
+    m_read->setToolTip(m_read->isEnabled() ? QString()
+                                           : QObject::tr("Only the monitor that this tool sets can be read."));
+    m_read->setAccessibleDescription(m_read->toolTip());
     const QSignalBlocker quiet(m_record);
     if (m_record->isChecked() && !linkRecorder.isRecording())
         say(linkRecorder.error()); // it has stopped by itself

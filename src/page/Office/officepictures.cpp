@@ -6,7 +6,7 @@
 #include "controls/gameoverlays.h"
 #include "controls/palette.h"
 #include "controls/screenguides.h"
-#include "ddc_protocol/settingsstore.h"
+#include "page/Office/papersize.h"
 
 using namespace screenguides;
 
@@ -35,9 +35,7 @@ void paintPaper(QPainter &painter, const QRectF &screen, const PictureValues &va
     if (option >= 1 && option <= 3)
         drawSheet(painter, screen, kSheets[option - 1]);
     else if (option == 4)
-        drawSheet(painter, screen,
-                  QSizeF(settingsInt(QStringLiteral("Office/PaperWidth"), 210, false),
-                         settingsInt(QStringLiteral("Office/PaperHeight"), 297, false)));
+        drawSheet(painter, screen, storedPaper());
 }
 
 void paintAlignment(QPainter &painter, const QRectF &screen, const PictureValues &values)

@@ -36,7 +36,7 @@ constexpr Option kPaper[] = {
     {LABEL("Paper_A4"), 1, LABEL("A sheet of 210 × 297 mm, upright, in the middle of the screen.")},
     {LABEL("Paper_B5"), 2, LABEL("A sheet of 176 × 250 mm, for books and brochures.")},
     {LABEL("Paper_B6"), 3, LABEL("A sheet of 125 × 176 mm, as of a paperback.")},
-    {LABEL("Custom Size"), 4, LABEL("A sheet as large as you set it below.")}};
+    {LABEL("Custom Size"), 4, LABEL("A sheet as large as you set it above.")}};
 constexpr Option kAlignment[] = {{LABEL("Close"), 0},
                                  {LABEL("Alignment_4"), 1, LABEL("Two columns and two rows.")},
                                  {LABEL("Alignment_6"), 2, LABEL("Three columns and two rows.")},

@@ -3,13 +3,15 @@
 #include <QHBoxLayout>
 #include <QSpinBox>
 
+#include "controls/captionlabel.h"
 #include "controls/desktoptoast.h"
+#include "controls/metrics.h"
 #include "controls/palette.h"
 #include "controls/wheeleventfilter.h"
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/devicestate.h"
-#include "ddc_protocol/settingsstore.h"
 #include "page/Office/officetable.h"
+#include "page/Office/papersize.h"
 #include "page/engine/labels.h"
 #include "page/engine/optionbutton.h"
 #include "platform/desk.h"
@@ -19,17 +21,7 @@ namespace {
 constexpr int kSmallestPaper = 10; // mm
 constexpr int kLargestPaper = 0x7FFF;
 constexpr int kHeightFlag = 0x8000; // tells the height from the width, which share a command
-const QString kWidthKey = QStringLiteral("Office/PaperWidth");
-const QString kHeightKey = QStringLiteral("Office/PaperHeight");
-constexpr QSize kA4(210, 297);
 constexpr platform::milliseconds kReminderShown{10000};
-
-/// The last size that was sent, in millimetres; A4 before the first.
-QSize storedPaper()
-{
-    const QSize stored(settingsInt(kWidthKey, 0, false), settingsInt(kHeightKey, 0, false));
-    return stored.isEmpty() ? kA4 : stored;
-}
 
 } // namespace
 
@@ -54,15 +46,17 @@ QWidget *PageOffice::buildPart(const char *)
     m_height = makeSizeField(QStringLiteral("paperHeight"));
     auto *row = new QHBoxLayout(m_paperSize);
     row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(metrics::kGap);
     for (const auto &[field, label] : {std::pair(m_width, LABEL("Width")), std::pair(m_height, LABEL("Height"))}) {
-        auto *caption = new QLabel(m_paperSize);
-        caption->setStyleSheet(Palette::styled(u"color: @soft; font-size: 15px; margin-right: 8px;"));
+        auto *caption = new CaptionLabel(QString(), 15, m_paperSize);
+        caption->setStyleSheet(Palette::styled(u"color: @soft;"));
         texts().bind(label, [caption, spin = field](const QString &text) {
             caption->setText(text);
             spin->setAccessibleName(text);
         });
         row->addWidget(caption);
         row->addWidget(field);
+        row->addSpacing(metrics::kGap);
     }
     auto *apply = new QPushButton(m_paperSize);
     apply->setObjectName(QStringLiteral("paperApply"));
@@ -84,7 +78,7 @@ QSpinBox *PageOffice::makeSizeField(const QString &name)
     auto *field = new QSpinBox(m_paperSize);
     field->setObjectName(name);
     field->setSuffix(QStringLiteral(" mm"));
-    field->setFixedSize(110, 34);
+    field->setFixedSize(110, metrics::kControlHeight);
     field->setRange(kSmallestPaper, kLargestPaper);
     field->setButtonSymbols(QAbstractSpinBox::NoButtons); // typed, or stepped by the arrow keys
     field->installEventFilter(new WheelEventFilter(field));
@@ -102,8 +96,8 @@ void PageOffice::sendPaperSize()
     showNotice(ok ? QString() : QObject::tr("The monitor did not take the size."));
     if (!ok)
         return;
-    const bool widthStored = storeSetting(kWidthKey, width);
-    showStored(storeSetting(kHeightKey, height) && widthStored, Unstored::HoldsUntilExit);
+    showStored(storePaper({width, height}), Unstored::HoldsUntilExit);
+    refreshPicture();
 }
 
 void PageOffice::showPaperSize()

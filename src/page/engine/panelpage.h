@@ -67,6 +67,9 @@ protected:
     /// Says under the title that a setting of the tool's own could not be stored, unless it was; returns whether.
     bool showStored(bool stored, Unstored otherwise);
 
+    /// Draws the open panel's picture anew, for what it shows beside the monitor's values.
+    void refreshPicture();
+
 private:
     PanelList *buildList();
     QWidget *makePanel(const PanelSpec &panel);
@@ -75,7 +78,6 @@ private:
     const PanelSpec &panelAt(int place) const { return m_panels[static_cast<std::size_t>(place)]; }
     void addPicture(int index, const PanelSpec &panel, QVBoxLayout *column);
     void followSliders(const PanelSpec &panel, PictureStage *stage);
-    void refreshPicture();
     void showKeys();
     void choose(int index);
     void showTitle();

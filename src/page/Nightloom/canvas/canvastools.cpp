@@ -6,8 +6,10 @@
 #include <QGridLayout>
 #include <QPushButton>
 #include <QShortcut>
+#include <QVBoxLayout>
 
 #include "controls/captionlabel.h"
+#include "controls/metrics.h"
 #include "controls/palette.h"
 #include "controls/sharedfonts.h"
 #include "controls/sliderwidget.h"
@@ -77,9 +79,12 @@ CanvasTools::CanvasTools(pageLEDMatrixCanvas &page, FramePlayer &player, BoundTe
     column->addWidget(makeToolLine(m_tools));
     buildViewTools(page, player, column);
     column->addWidget(makeToolLine(m_tools));
-    column->addWidget(buildModeBox());
-    column->addLayout(makeGrid(kFileTools, m_texts, page, m_tools));
-    column->addWidget(buildAlignedImport(page));
+    auto *files = new QVBoxLayout;
+    files->setSpacing(metrics::kGap);
+    files->addWidget(buildModeBox());
+    files->addLayout(makeGrid(kFileTools, m_texts, page, m_tools));
+    files->addWidget(buildAlignedImport(page));
+    column->addLayout(files);
     for (const Tool &tool : kFrameTools) {
         if (tool.keys)
             bindKeys(tool, page);
@@ -115,17 +120,18 @@ QWidget *CanvasTools::buildAlignedImport(const pageLEDMatrixCanvas &page)
     m_alignedNote->setObjectName(QStringLiteral("note"));
     m_alignedNote->setFont(noteFont);
     m_alignedNote->setWordWrap(true);
-    m_texts.bind(LABEL("Animate: 1050 cells a frame. Aligned: %1, as this form saves."), [this](const QString &text) {
+    m_texts.bind(LABEL("As saved: %1 cells a frame, not 1050."), [this](const QString &text) {
         m_alignedPattern = text;
         showAlignedNote();
     });
     QPushButton *button = makeToolButton(LABEL("Import Aligned"), m_texts, m_aligned);
+    button->setMaximumWidth(QWIDGETSIZE_MAX);
     connect(button, &QPushButton::clicked, &page, &pageLEDMatrixCanvas::importAligned);
-    auto *row = new QHBoxLayout(m_aligned);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(8);
-    row->addWidget(m_alignedNote, 1);
-    row->addWidget(button);
+    auto *column = new QVBoxLayout(m_aligned);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(metrics::kGap);
+    column->addWidget(button);
+    column->addWidget(m_alignedNote);
     return m_aligned;
 }
 
@@ -180,7 +186,10 @@ void CanvasTools::show(const Possible &possible)
         button(label)->setEnabled(possible.any);
     button("Undo")->setEnabled(possible.undo);
     button("Redo")->setEnabled(possible.redo);
-    button("Write Animate")->setEnabled(possible.write);
+    QPushButton *write = button("Write Animate");
+    write->setEnabled(possible.write);
+    write->setToolTip(possible.write ? QString() : QObject::tr("Save, export or import the animation first."));
+    write->setAccessibleDescription(write->toolTip());
     button("Preview")->setChecked(possible.plays);
     m_cellSize->setEnabled(possible.any);
 }

@@ -206,6 +206,7 @@ void FrameTabs::showInstead(int index)
 
 void FrameTabs::updateControlText()
 {
+    setAccessibleName(QObject::tr("Custom Mode"));
     for (int i = 0; i < count(); ++i)
         editor(i)->updateControlText();
 }

@@ -8,6 +8,8 @@
 #include <QVBoxLayout>
 
 #include "controls/accessiblecontrol.h"
+#include "controls/captionlabel.h"
+#include "controls/captions.h"
 #include "controls/metrics.h"
 #include "controls/sharedfonts.h"
 #include "page/Nightloom/parts/toolcolumn.h"
@@ -65,6 +67,7 @@ void LongWorkPage::layOut(QWidget *worked)
     m_side->setFixedWidth(kToolColumnWidth);
     m_tools = new QWidget(m_side);
     buildTools(makeToolColumn(m_tools), m_tools);
+    shrinkTogether(m_tools->findChildren<CaptionLabel *>());
     m_work->block({m_tools, worked});
     new SizeWatch(m_tools, [this] { fitTools(); });
     auto *column = new QVBoxLayout(m_side);
@@ -107,5 +110,6 @@ void LongWorkPage::fitTools()
 void LongWorkPage::updateControlText()
 {
     m_texts.retranslate();
+    shrinkTogether(m_tools->findChildren<CaptionLabel *>());
     fitTools();
 }
