@@ -3,10 +3,15 @@
 #include <algorithm>
 #include <cmath>
 
+#include <QLocale>
+
 namespace {
 
 constexpr char kVariable[] = "QT_SCALE_FACTOR";
 constexpr int kLeastHeight = 600;
+
+/// Points from line to line of the layout. These are whole pixels, or what is drawn anew leaves rows of what was there.
+constexpr int kGrid = 8;
 
 /// The user's own factor, which counts beside the screen's; 1 when it is none.
 double factorOf(const QByteArray &text)
@@ -27,7 +32,9 @@ double scaleToFit(const platform::WorkArea &area, const QSize &window)
     const double high = share(area.pixels.height(), window.height());
     // Pages scroll where the window is lower; sideways nothing does.
     const double least = std::min({1 / area.scale, 1.0, wide});
-    return std::clamp(std::min(wide, high), least, 1.0);
+    const double fitting = std::clamp(std::min(wide, high), least, 1.0);
+    const double ratio = fitting * area.scale; // pixels of a point
+    return fitting < 1 && ratio > 1 ? std::floor(ratio * kGrid) / kGrid / area.scale : fitting;
 }
 
 int heightToFit(const platform::WorkArea &area, double ratio)
@@ -43,7 +50,7 @@ WindowScale::WindowScale(const std::optional<platform::WorkArea> &area)
         m_before = qgetenv(kVariable);
     const double own = m_before ? factorOf(*m_before) : 1;
     const double fitting = scaleToFit({area->pixels, area->scale * own}, kWindowSize);
-    m_isSet = fitting < 1 && qputenv(kVariable, QByteArray::number(fitting * own));
+    m_isSet = fitting < 1 && qputenv(kVariable, QByteArray::number(fitting * own, 'g', QLocale::FloatingPointShortest));
 }
 
 void WindowScale::takeBack()

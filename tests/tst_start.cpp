@@ -132,10 +132,10 @@ void TestStart::windowFitsTheScreen()
 {
     // The user's own factor is there again afterwards, for the programs that are started from here.
     for (const auto &[pixels, scale, own, wanted, height] : {std::tuple(QSize(1920, 1040), 1.0, "", "", 800),
-                                                             {QSize(1920, 1020), 1.5, "", "0.85", 800},
+                                                             {QSize(1920, 1020), 1.5, "", "0.8333333333333334", 800},
                                                              {QSize(1366, 728), 1.0, "", "", 728},
                                                              {QSize(1366, 728), 1.25, "", "0.8", 728},
-                                                             {QSize(1920, 1020), 1.0, "1.5", "1.275", 800},
+                                                             {QSize(1920, 1020), 1.0, "1.5", "1.25", 800},
                                                              {QSize(1024, 500), 1.0, "junk", "0.8", 625},
                                                              {QSize(1080, 1880), 1.0, "", "0.843", 800},
                                                              {QSize(3840, 2060), 2.0, "", "", 800}}) {
