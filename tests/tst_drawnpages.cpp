@@ -10,6 +10,7 @@
 #include "page/MultiWindow/pagemultiwindow.h"
 #include "page/MultiWindow/windowarranger.h"
 #include "page/engine/optiongrouprow.h"
+#include "page/engine/optionwords.h"
 #include "page/engine/picturestage.h"
 #include "support/pagessuite.h"
 
@@ -21,6 +22,8 @@ class TestDrawnPages : public PagesSuite
     Q_OBJECT
 private Q_SLOTS:
     void pointingShowsAndSendsNothing();
+    void optionsAreExplained();
+    void wordsBesideTheControls();
     void smallWindowIsArranged_data();
     void smallWindowIsArranged();
     void ownLightColor();
@@ -91,6 +94,69 @@ void TestDrawnPages::pointingShowsAndSendsNothing()
         QCOMPARE(std::ranges::any_of(labels, [](const QLabel *label) { return label->text().contains("Ctrl+Alt+C"); }),
                  qstrcmp(switched, "on") == 0);
     }
+}
+
+/// Itself or by its group; but for a switch beside the options of its own command, and names of languages.
+void TestDrawnPages::optionsAreExplained()
+{
+    for (int which = 0; which < kPageNames; ++which) {
+        const auto &rows = anyPage(which)->optionGroups();
+        for (const OptionGroupRow *row : rows) {
+            const OptionGroup &group = row->group();
+            const bool repeats = std::ranges::count_if(rows, [&group](const OptionGroupRow *other) {
+                                     return other->group().command == group.command;
+                                 }) > 1;
+            for (const Option &option : group.options)
+                QVERIFY2(option.words || group.help || (repeats && group.look == GroupLook::Switch) ||
+                             group.command == Command::OsdLanguage,
+                         qPrintable(QString("%1 of %2").arg(option.label, group.label)));
+        }
+    }
+}
+
+/// What is told of an option while the pointer is on it, what of the one that is on, and whether a switch turns it off.
+void TestDrawnPages::wordsBesideTheControls()
+{
+    for (const auto &[command, value] : {std::pair(Command::CareMode, 1),
+                                         {Command::LightMode, 1},
+                                         {Command::LightTimer, 2},
+                                         {Command::LightWithScreen, 0},
+                                         {Command::QuickBoot, 0},
+                                         {Command::HawkEyeVision, 0},
+                                         {Command::HawkEyeContrast, 2}})
+        deviceState.told(command, value);
+    struct Told
+    {
+        int page;
+        const char *panel, *option, *before, *pointed, *after;
+    };
+    for (const auto &[which, panel, option, before, pointed, after] :
+         {Told{Care, "panelCarePlan", "Care Mode_Auto", "Manual", "begins by itself", "Manual"},
+          {Care, "panelCarePlan", "Desktop Reminder_         Disable", "", "never over", "Switched on."},
+          {Lighting, "pageLightMode", "Light Mode_Eye Care", "On now.", "calm white", "On now."},
+          {Lighting, "pageLightTimes", "Light Timer_Close", "On now.", "goes out by itself", "On now."},
+          {Io, "pageQuickBoot", "Quick Boot_         Enable", "Switched off.", "Quick Boot · Enable", "Switched off."},
+          {Game, "gameHawkEye", "HawkEye Contrast_Level5", "", "fog", "switched off now."}}) {
+        page(which)->resize(1000, 680);
+        page(which)->show();
+        for (int place = 0; !button(which, option)->isVisible(); ++place)
+            page(which)->showPanel(place);
+        const auto *words = page(which)->findChild<QWidget *>(panel)->findChild<OptionWords *>();
+        const auto shown = [words] {
+            QString all;
+            for (const QLabel *label : words->findChildren<QLabel *>())
+                all += label->isHidden() ? QString() : label->text() + '\n';
+            return all;
+        };
+        QEnterEvent enter({}, {}, {});
+        QEvent leave(QEvent::Leave);
+        QVERIFY2(shown().contains(before), qPrintable(shown()));
+        QCoreApplication::sendEvent(button(which, option), &enter);
+        QVERIFY2(shown().contains(pointed), qPrintable(shown()));
+        QCoreApplication::sendEvent(button(which, option), &leave);
+        QVERIFY2(shown().contains(after), qPrintable(shown()));
+    }
+    QVERIFY(settle() && m_desk->takeCommands().filter("W").isEmpty());
 }
 
 using Arrange = std::function<void(WindowArranger &)>;

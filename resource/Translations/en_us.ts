@@ -176,6 +176,10 @@
         <translation>%1 · protocol faults: %2 · open handles: %3</translation>
     </message>
     <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
         <source>%1, %2</source>
         <translation>%1, %2</translation>
     </message>
@@ -340,6 +344,10 @@
         <translation>A balanced picture for every day.</translation>
     </message>
     <message>
+        <source>A calm white on the wall, for long evenings at the screen.</source>
+        <translation>A calm white on the wall, for long evenings at the screen.</translation>
+    </message>
+    <message>
         <source>A circle, for what is in the middle.</source>
         <translation>A circle, for what is in the middle.</translation>
     </message>
@@ -348,8 +356,16 @@
         <translation>A colour that can be seen to change is sent, at most one a second.</translation>
     </message>
     <message>
+        <source>A colour that few games have themselves.</source>
+        <translation>A colour that few games have themselves.</translation>
+    </message>
+    <message>
         <source>A crosshair that takes the colour that stands out and opens while the picture moves.</source>
         <translation>A crosshair that takes the colour that stands out and opens while the picture moves.</translation>
+    </message>
+    <message>
+        <source>A dark rim: the eye stays in the middle.</source>
+        <translation>A dark rim: the eye stays in the middle.</translation>
     </message>
     <message>
         <source>A diagonal and the lines that meet it: for pictures with a slant.</source>
@@ -364,8 +380,20 @@
         <translation>A faint light, for a dark room.</translation>
     </message>
     <message>
+        <source>A light runs around the ring.</source>
+        <translation>A light runs around the ring.</translation>
+    </message>
+    <message>
         <source>A line of text that the matrix shows, standing or scrolling.</source>
         <translation>A line of text that the matrix shows, standing or scrolling.</translation>
+    </message>
+    <message>
+        <source>A little above the middle, as games need it that look over a shoulder.</source>
+        <translation>A little above the middle, as games need it that look over a shoulder.</translation>
+    </message>
+    <message>
+        <source>A little below the middle, for a view that is tilted up.</source>
+        <translation>A little below the middle, for a view that is tilted up.</translation>
     </message>
     <message>
         <source>A little cooler than usual.</source>
@@ -392,12 +420,20 @@
         <translation>A mixture of your own: set its red, green and blue with the sliders below.</translation>
     </message>
     <message>
+        <source>A point of light runs along the belt, like a bead.</source>
+        <translation>A point of light runs along the belt, like a bead.</translation>
+    </message>
+    <message>
         <source>A protractor around the middle, to measure angles.</source>
         <translation>A protractor around the middle, to measure angles.</translation>
     </message>
     <message>
         <source>A quarter of the screen&apos;s width: hides least of the first input.</source>
         <translation>A quarter of the screen&apos;s width: hides least of the first input.</translation>
+    </message>
+    <message>
+        <source>A shade at the rim that is hardly noticed.</source>
+        <translation>A shade at the rim that is hardly noticed.</translation>
     </message>
     <message>
         <source>A sheet as large as you set it above.</source>
@@ -430,6 +466,10 @@
     <message>
         <source>A tone</source>
         <translation>A tone</translation>
+    </message>
+    <message>
+        <source>A very dark rim, for games that play in the middle.</source>
+        <translation>A very dark rim, for games that play in the middle.</translation>
     </message>
     <message>
         <source>A white behind the screen that spares the eyes. Warm in the evening, cold by day.</source>
@@ -504,8 +544,20 @@
         <translation>Alignment_9</translation>
     </message>
     <message>
+        <source>All colours at once, which turn around the ring.</source>
+        <translation>All colours at once, which turn around the ring.</translation>
+    </message>
+    <message>
         <source>All file (*.*)</source>
         <translation>All file (*.*)</translation>
+    </message>
+    <message>
+        <source>All lamps come and go slowly. The quietest effect.</source>
+        <translation>All lamps come and go slowly. The quietest effect.</translation>
+    </message>
+    <message>
+        <source>All lamps follow sound or screen in one colour.</source>
+        <translation>All lamps follow sound or screen in one colour.</translation>
     </message>
     <message>
         <source>All shortcuts rest while the switch above is off.</source>
@@ -706,6 +758,10 @@
     <message>
         <source>Bright middle tones, for a bright room.</source>
         <translation>Bright middle tones, for a bright room.</translation>
+    </message>
+    <message>
+        <source>Bright on nearly everything but grass.</source>
+        <translation>Bright on nearly everything but grass.</translation>
     </message>
     <message>
         <source>Bright parts shine when the signal has the range for it.</source>
@@ -920,6 +976,10 @@
         <translation>Color Temperature</translation>
     </message>
     <message>
+        <source>Colour and brightness follow what this computer plays. For music.</source>
+        <translation>Colour and brightness follow what this computer plays. For music.</translation>
+    </message>
+    <message>
         <source>Combination to press</source>
         <translation>Combination to press</translation>
     </message>
@@ -948,12 +1008,24 @@
         <translation>Counterclockwise</translation>
     </message>
     <message>
+        <source>Counts down from this. Take as long as you mean to play.</source>
+        <translation>Counts down from this. Take as long as you mean to play.</translation>
+    </message>
+    <message>
         <source>Counts down in a corner, so that you notice how long you have played.</source>
         <translation>Counts down in a corner, so that you notice how long you have played.</translation>
     </message>
     <message>
         <source>Counts up in a corner, to the time that you choose, and begins again.</source>
         <translation>Counts up in a corner, to the time that you choose, and begins again.</translation>
+    </message>
+    <message>
+        <source>Counts up to this and begins again. Take the length of a round.</source>
+        <translation>Counts up to this and begins again. Take the length of a round.</translation>
+    </message>
+    <message>
+        <source>Covers least. For a screen that is near.</source>
+        <translation>Covers least. For a screen that is near.</translation>
     </message>
     <message>
         <source>Cross</source>
@@ -1078,6 +1150,10 @@
     <message>
         <source>Darker black, for films and games.</source>
         <translation>Darker black, for films and games.</translation>
+    </message>
+    <message>
+        <source>Deep and high tones are stronger, as in a cinema.</source>
+        <translation>Deep and high tones are stronger, as in a cinema.</translation>
     </message>
     <message>
         <source>Deep contrast for films.</source>
@@ -1332,6 +1408,14 @@
         <translation>Falling Peaks</translation>
     </message>
     <message>
+        <source>Far above the middle, for games that aim high on the screen.</source>
+        <translation>Far above the middle, for games that aim high on the screen.</translation>
+    </message>
+    <message>
+        <source>Far below the middle, for games that aim low on the screen.</source>
+        <translation>Far below the middle, for games that aim low on the screen.</translation>
+    </message>
+    <message>
         <source>Fast</source>
         <translation>Fast</translation>
     </message>
@@ -1384,6 +1468,26 @@
         <translation>Scene Following</translation>
     </message>
     <message>
+        <source>For a laptop whose picture comes by its USB cable. Off if that socket only carries data and power.</source>
+        <translation>For a laptop whose picture comes by its USB cable. Off if that socket only carries data and power.</translation>
+    </message>
+    <message>
+        <source>For a player or a console that is to wake the monitor. Quick Boot cannot be on at the same time.</source>
+        <translation>For a player or a console that is to wake the monitor. Quick Boot cannot be on at the same time.</translation>
+    </message>
+    <message>
+        <source>For a screen that is left alone for long. Films and games move and are not dimmed.</source>
+        <translation>For a screen that is left alone for long. Films and games move and are not dimmed.</translation>
+    </message>
+    <message>
+        <source>For a screen that is used for pictures and texts in turn. Leave it off while you judge colours.</source>
+        <translation>For a screen that is used for pictures and texts in turn. Leave it off while you judge colours.</translation>
+    </message>
+    <message>
+        <source>For charging a telephone at the monitor, and for keyboard and mouse. Off saves power in standby.</source>
+        <translation>For charging a telephone at the monitor, and for keyboard and mouse. Off saves power in standby.</translation>
+    </message>
+    <message>
         <source>For code on a dark ground.</source>
         <translation>For code on a dark ground.</translation>
     </message>
@@ -1396,12 +1500,40 @@
         <translation>For computers, which send 0 to 255.</translation>
     </message>
     <message>
+        <source>For fast games in which a crosshair that stands still gets lost.</source>
+        <translation>For fast games in which a crosshair that stands still gets lost.</translation>
+    </message>
+    <message>
         <source>For finding out why a monitor does not answer as it should.</source>
         <translation>For finding out why a monitor does not answer as it should.</translation>
     </message>
     <message>
+        <source>For games in which every moment counts. For films and work leave it off.</source>
+        <translation>For games in which every moment counts. For films and work leave it off.</translation>
+    </message>
+    <message>
+        <source>For games in which the middle decides. Maps and figures at the rim get darker too.</source>
+        <translation>For games in which the middle decides. Maps and figures at the rim get darker too.</translation>
+    </message>
+    <message>
+        <source>For games that have no crosshair of their own, or one that is hard to see.</source>
+        <translation>For games that have no crosshair of their own, or one that is hard to see.</translation>
+    </message>
+    <message>
+        <source>For games with far targets. It covers a part of the picture.</source>
+        <translation>For games with far targets. It covers a part of the picture.</translation>
+    </message>
+    <message>
+        <source>For games, whose pictures come now faster, now slower. The computer must have it switched on as well.</source>
+        <translation>For games, whose pictures come now faster, now slower. The computer must have it switched on as well.</translation>
+    </message>
+    <message>
         <source>For most games.</source>
         <translation>For most games.</translation>
+    </message>
+    <message>
+        <source>For placing windows, pictures or a drawing evenly around the middle.</source>
+        <translation>For placing windows, pictures or a drawing evenly around the middle.</translation>
     </message>
     <message>
         <source>For players and consoles that send 16 to 235. With a computer black looks grey.</source>
@@ -1418,6 +1550,10 @@
     <message>
         <source>For wide landscapes; coarse.</source>
         <translation>For wide landscapes; coarse.</translation>
+    </message>
+    <message>
+        <source>Found at once, also from far away.</source>
+        <translation>Found at once, also from far away.</translation>
     </message>
     <message>
         <source>Four bytes of the next scene-mode block get lost</source>
@@ -1636,12 +1772,24 @@
         <translation>How and where the monitor shows its menu, and how soon it sleeps without a signal (No Signal Timer).</translation>
     </message>
     <message>
+        <source>How bright the enlarged part is. Level3 = as the rest; higher ones show what is in the shade.</source>
+        <translation>How bright the enlarged part is. Level3 = as the rest; higher ones show what is in the shade.</translation>
+    </message>
+    <message>
         <source>How bright the lamp shines that tells that the monitor is on. Close = dark, Level3 = brightest.</source>
         <translation>How bright the lamp shines that tells that the monitor is on. Close = dark, Level3 = brightest.</translation>
     </message>
     <message>
         <source>How bright the middle tones are. The higher the value, the darker.</source>
         <translation>How bright the middle tones are. The higher the value, the darker.</translation>
+    </message>
+    <message>
+        <source>How clear its edges are. Level3 = as they come; lower ones hide coarse dots, higher ones show outlines.</source>
+        <translation>How clear its edges are. Level3 = as they come; lower ones hide coarse dots, higher ones show outlines.</translation>
+    </message>
+    <message>
+        <source>How far light and dark are apart in it. Level3 = as the rest; higher ones help in fog and dust.</source>
+        <translation>How far light and dark are apart in it. Level3 = as the rest; higher ones help in fog and dust.</translation>
     </message>
     <message>
         <source>How long the monitor waits without a signal before it sleeps.</source>
@@ -1708,6 +1856,14 @@
         <translation>ISP</translation>
     </message>
     <message>
+        <source>If you switch the monitor on several times a day. CEC cannot be on at the same time.</source>
+        <translation>If you switch the monitor on several times a day. CEC cannot be on at the same time.</translation>
+    </message>
+    <message>
+        <source>If you turn the screen now and then: the monitor&apos;s menu turns with it.</source>
+        <translation>If you turn the screen now and then: the monitor&apos;s menu turns with it.</translation>
+    </message>
+    <message>
         <source>Image sticking protection: clears what a picture leaves behind as soon as it is gone.</source>
         <translation>Image sticking protection: clears what a picture leaves behind as soon as it is gone.</translation>
     </message>
@@ -1718,6 +1874,10 @@
     <message>
         <source>Import Animate</source>
         <translation>Import Animate</translation>
+    </message>
+    <message>
+        <source>In the very middle, where most games aim.</source>
+        <translation>In the very middle, where most games aim.</translation>
     </message>
     <message>
         <source>Information</source>
@@ -1856,6 +2016,10 @@
         <translation>Layouts</translation>
     </message>
     <message>
+        <source>Leave it on, unless you see the clearing itself as a flicker when windows close.</source>
+        <translation>Leave it on, unless you see the clearing itself as a flicker when windows close.</translation>
+    </message>
+    <message>
         <source>Leaves the target free but for its very middle.</source>
         <translation>Leaves the target free but for its very middle.</translation>
     </message>
@@ -1878,6 +2042,10 @@
     <message>
         <source>Level1</source>
         <translation>Level1</translation>
+    </message>
+    <message>
+        <source>Level1 follows great changes only, for a quiet room; Level5 also small ones.</source>
+        <translation>Level1 follows great changes only, for a quiet room; Level5 also small ones.</translation>
     </message>
     <message>
         <source>Level2</source>
@@ -1954,6 +2122,10 @@
     <message>
         <source>Light Timer</source>
         <translation>Light Timer</translation>
+    </message>
+    <message>
+        <source>Light and dark follow each other around the ring.</source>
+        <translation>Light and dark follow each other around the ring.</translation>
     </message>
     <message>
         <source>Light in Standby</source>
@@ -2412,6 +2584,10 @@
         <translation>Nothing is dimmed.</translation>
     </message>
     <message>
+        <source>Nothing is drawn over the picture.</source>
+        <translation>Nothing is drawn over the picture.</translation>
+    </message>
+    <message>
         <source>Nothing is followed but in one of the two rhythm modes.</source>
         <translation>Nothing is followed but in one of the two rhythm modes.</translation>
     </message>
@@ -2478,6 +2654,14 @@
     <message>
         <source>On-screen menu</source>
         <translation>On-screen menu</translation>
+    </message>
+    <message>
+        <source>One colour melts into the next. Off = it changes at once.</source>
+        <translation>One colour melts into the next. Off = it changes at once.</translation>
+    </message>
+    <message>
+        <source>One colour that stands still. Calm enough for work.</source>
+        <translation>One colour that stands still. Calm enough for work.</translation>
     </message>
     <message>
         <source>One input fills the screen.</source>
@@ -2714,6 +2898,10 @@
     <message>
         <source>Quick Boot</source>
         <translation>Quick Boot</translation>
+    </message>
+    <message>
+        <source>Quiet: seen best on snow and bright walls.</source>
+        <translation>Quiet: seen best on snow and bright walls.</translation>
     </message>
     <message>
         <source>R</source>
@@ -3004,6 +3192,22 @@
         <translation>Sections</translation>
     </message>
     <message>
+        <source>Seen best in dark scenes.</source>
+        <translation>Seen best in dark scenes.</translation>
+    </message>
+    <message>
+        <source>Seen best in the dark and on blue.</source>
+        <translation>Seen best in the dark and on blue.</translation>
+    </message>
+    <message>
+        <source>Seen best on green and grey, as in woods and towns.</source>
+        <translation>Seen best on green and grey, as in woods and towns.</translation>
+    </message>
+    <message>
+        <source>Seen best on sand, fire and rust.</source>
+        <translation>Seen best on sand, fire and rust.</translation>
+    </message>
+    <message>
         <source>Select All</source>
         <translation>Select All</translation>
     </message>
@@ -3068,6 +3272,10 @@
         <translation>Sharpness</translation>
     </message>
     <message>
+        <source>Short flashes. Not for people who do not bear flashing light.</source>
+        <translation>Short flashes. Not for people who do not bear flashing light.</translation>
+    </message>
+    <message>
         <source>Shortcut Key</source>
         <translation>Shortcut Key</translation>
     </message>
@@ -3120,8 +3328,16 @@
         <translation>Silence</translation>
     </message>
     <message>
+        <source>Silences the monitor for a while; the volume stays as it is set.</source>
+        <translation>Silences the monitor for a while; the volume stays as it is set.</translation>
+    </message>
+    <message>
         <source>Simulated monitor</source>
         <translation>Simulated monitor</translation>
+    </message>
+    <message>
+        <source>Single points light up here and there.</source>
+        <translation>Single points light up here and there.</translation>
     </message>
     <message>
         <source>Size</source>
@@ -3260,8 +3476,24 @@
         <translation>Switch this row on to change its keys.</translation>
     </message>
     <message>
+        <source>Switched off.</source>
+        <translation>Switched off.</translation>
+    </message>
+    <message>
+        <source>Switched on.</source>
+        <translation>Switched on.</translation>
+    </message>
+    <message>
         <source>System Settings</source>
         <translation>System Settings</translation>
+    </message>
+    <message>
+        <source>Take one that goes with the wall: light on a coloured wall looks different.</source>
+        <translation>Take one that goes with the wall: light on a coloured wall looks different.</translation>
+    </message>
+    <message>
+        <source>Take the corner in which nothing stands that you need.</source>
+        <translation>Take the corner in which nothing stands that you need.</translation>
     </message>
     <message>
         <source>Taken by another</source>
@@ -3340,6 +3572,14 @@
         <translation>The answer to the next read never arrives</translation>
     </message>
     <message>
+        <source>The belt stands still in its colour.</source>
+        <translation>The belt stands still in its colour.</translation>
+    </message>
+    <message>
+        <source>The brightest light, for a bright room.</source>
+        <translation>The brightest light, for a bright room.</translation>
+    </message>
+    <message>
         <source>The brightest light, seen across a bright room.</source>
         <translation>The brightest light, seen across a bright room.</translation>
     </message>
@@ -3354,6 +3594,26 @@
     <message>
         <source>The cable is pulled out until the button is released</source>
         <translation>The cable is pulled out until the button is released</translation>
+    </message>
+    <message>
+        <source>The colour of the belt along the lower edge. Auto = runs through all colours.</source>
+        <translation>The colour of the belt along the lower edge. Auto = runs through all colours.</translation>
+    </message>
+    <message>
+        <source>The colour of the belt at the back of the foot.</source>
+        <translation>The colour of the belt at the back of the foot.</translation>
+    </message>
+    <message>
+        <source>The colour of the belt at the front of the foot.</source>
+        <translation>The colour of the belt at the front of the foot.</translation>
+    </message>
+    <message>
+        <source>The colour of the light on the desk. White is best for reading and writing.</source>
+        <translation>The colour of the light on the desk. White is best for reading and writing.</translation>
+    </message>
+    <message>
+        <source>The colour of the light on the wall behind the screen.</source>
+        <translation>The colour of the light on the wall behind the screen.</translation>
     </message>
     <message>
         <source>The colour of the steady light and of the effects. Auto = runs through all colours.</source>
@@ -3424,6 +3684,14 @@
         <translation>The lamp is dark. Only the picture tells that the monitor is on.</translation>
     </message>
     <message>
+        <source>The lamps behind the screen are dark.</source>
+        <translation>The lamps behind the screen are dark.</translation>
+    </message>
+    <message>
+        <source>The lamps take the colours of the picture&apos;s edges. For films and games.</source>
+        <translation>The lamps take the colours of the picture&apos;s edges. For films and games.</translation>
+    </message>
+    <message>
         <source>The language of the monitor&apos;s own menu, not of this tool.</source>
         <translation>The language of the monitor&apos;s own menu, not of this tool.</translation>
     </message>
@@ -3432,8 +3700,32 @@
         <translation>The layout has no such zone.</translation>
     </message>
     <message>
+        <source>The left and the right half follow each its own side. For films.</source>
+        <translation>The left and the right half follow each its own side. For films.</translation>
+    </message>
+    <message>
         <source>The light behind the picture is even. Best for text.</source>
         <translation>The light behind the picture is even. Best for text.</translation>
+    </message>
+    <message>
+        <source>The light flows along the belt.</source>
+        <translation>The light flows along the belt.</translation>
+    </message>
+    <message>
+        <source>The light moves by itself. For games and guests.</source>
+        <translation>The light moves by itself. For games and guests.</translation>
+    </message>
+    <message>
+        <source>The lighting goes out and comes back with the screen.</source>
+        <translation>The lighting goes out and comes back with the screen.</translation>
+    </message>
+    <message>
+        <source>The lighting goes out by itself after this time. Close = it stays on.</source>
+        <translation>The lighting goes out by itself after this time. Close = it stays on.</translation>
+    </message>
+    <message>
+        <source>The lighting stays on while the monitor sleeps, as a light for the night.</source>
+        <translation>The lighting stays on while the monitor sleeps, as a light for the night.</translation>
     </message>
     <message>
         <source>The maker&apos;s own tuning.</source>
@@ -3624,6 +3916,10 @@
         <translation>The socket that has a signal. For one computer, or one at a time.</translation>
     </message>
     <message>
+        <source>The sound as it comes, for music and all else.</source>
+        <translation>The sound as it comes, for music and all else.</translation>
+    </message>
+    <message>
         <source>The sound of the monitor. Audio Mute: Close = sound, Open = silence. Convo = for voices.</source>
         <translation>The sound of the monitor. Audio Mute: Close = sound, Open = silence. Convo = for voices.</translation>
     </message>
@@ -3682,6 +3978,14 @@
     <message>
         <source>The white of printed paper.</source>
         <translation>The white of printed paper.</translation>
+    </message>
+    <message>
+        <source>The whole belt comes and goes slowly.</source>
+        <translation>The whole belt comes and goes slowly.</translation>
+    </message>
+    <message>
+        <source>The whole belt flashes. Hard to bear beside work.</source>
+        <translation>The whole belt flashes. Hard to bear beside work.</translation>
     </message>
     <message>
         <source>The window cannot be resized.</source>
@@ -3784,8 +4088,20 @@
         <translation>Times</translation>
     </message>
     <message>
+        <source>To know how long a round has gone on without looking away.</source>
+        <translation>To know how long a round has gone on without looking away.</translation>
+    </message>
+    <message>
         <source>To see how the reminder looks.</source>
         <translation>To see how the reminder looks.</translation>
+    </message>
+    <message>
+        <source>To see whether a game runs as smoothly as the monitor could show it.</source>
+        <translation>To see whether a game runs as smoothly as the monitor could show it.</translation>
+    </message>
+    <message>
+        <source>To stop in time.</source>
+        <translation>To stop in time.</translation>
     </message>
     <message>
         <source>Today&apos;s automatic changes of this monitor are used up (%1). They go on tomorrow; what you set yourself is not limited.</source>
@@ -3984,6 +4300,10 @@
         <translation>Vivid colours for animation.</translation>
     </message>
     <message>
+        <source>Voices come forward, for talks and conferences.</source>
+        <translation>Voices come forward, for talks and conferences.</translation>
+    </message>
+    <message>
         <source>Volume</source>
         <translation>Volume</translation>
     </message>
@@ -4056,6 +4376,10 @@
         <translation>When the lighting goes out by itself, and whether it stays on in standby.</translation>
     </message>
     <message>
+        <source>Where others pass by, or a hand easily touches the monitor&apos;s buttons.</source>
+        <translation>Where others pass by, or a hand easily touches the monitor&apos;s buttons.</translation>
+    </message>
+    <message>
         <source>Which cable the monitor&apos;s USB sockets go to, and how fast the picture comes through DP or Type-C.</source>
         <translation>Which cable the monitor&apos;s USB sockets go to, and how fast the picture comes through DP or Type-C.</translation>
     </message>
@@ -4074,6 +4398,10 @@
     <message>
         <source>Which socket the picture comes from. Auto = the one that has a signal.</source>
         <translation>Which socket the picture comes from. Auto = the one that has a signal.</translation>
+    </message>
+    <message>
+        <source>Which way round the light runs, as seen from behind.</source>
+        <translation>Which way round the light runs, as seen from behind.</translation>
     </message>
     <message>
         <source>White</source>

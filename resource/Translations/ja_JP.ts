@@ -176,6 +176,10 @@
         <translation>%1 · プロトコルエラー: %2 · 開いているハンドル: %3</translation>
     </message>
     <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
         <source>%1, %2</source>
         <translation>%1、%2</translation>
     </message>
@@ -340,6 +344,10 @@
         <translation>日常使いに適したバランスのよい画質です。</translation>
     </message>
     <message>
+        <source>A calm white on the wall, for long evenings at the screen.</source>
+        <translation>壁を照らす落ち着いた白です。夜に長く画面を見るときに。</translation>
+    </message>
+    <message>
         <source>A circle, for what is in the middle.</source>
         <translation>円。中央の主題に向いています。</translation>
     </message>
@@ -348,8 +356,16 @@
         <translation>見て分かる色の変化だけを、1 秒に 1 回まで送ります。</translation>
     </message>
     <message>
+        <source>A colour that few games have themselves.</source>
+        <translation>ゲームの中にはあまりない色です。</translation>
+    </message>
+    <message>
         <source>A crosshair that takes the colour that stands out and opens while the picture moves.</source>
         <translation>目立つ色になり、画面が動くと開く照準です。</translation>
+    </message>
+    <message>
+        <source>A dark rim: the eye stays in the middle.</source>
+        <translation>縁が暗くなり、視線が中央にとどまります。</translation>
     </message>
     <message>
         <source>A diagonal and the lines that meet it: for pictures with a slant.</source>
@@ -364,8 +380,20 @@
         <translation>暗い部屋向けの淡い光です。</translation>
     </message>
     <message>
+        <source>A light runs around the ring.</source>
+        <translation>光が輪に沿って走ります。</translation>
+    </message>
+    <message>
         <source>A line of text that the matrix shows, standing or scrolling.</source>
         <translation>マトリクスに静止またはスクロールで表示する 1 行のテキスト。</translation>
+    </message>
+    <message>
+        <source>A little above the middle, as games need it that look over a shoulder.</source>
+        <translation>中央より少し上です。肩越し視点のゲーム向けです。</translation>
+    </message>
+    <message>
+        <source>A little below the middle, for a view that is tilted up.</source>
+        <translation>中央より少し下です。視点が上を向くゲーム向けです。</translation>
     </message>
     <message>
         <source>A little cooler than usual.</source>
@@ -392,12 +420,20 @@
         <translation>自分だけの配合です。赤・緑・青を下のスライダーで設定します。</translation>
     </message>
     <message>
+        <source>A point of light runs along the belt, like a bead.</source>
+        <translation>光の粒がライトバーに沿って走ります。</translation>
+    </message>
+    <message>
         <source>A protractor around the middle, to measure angles.</source>
         <translation>中央に分度器を表示し、角度を測れます。</translation>
     </message>
     <message>
         <source>A quarter of the screen&apos;s width: hides least of the first input.</source>
         <translation>画面の幅の 4 分の 1。1 つ目の入力を隠す部分が最も少なくなります。</translation>
+    </message>
+    <message>
+        <source>A shade at the rim that is hardly noticed.</source>
+        <translation>ほとんど気付かない程度に縁が暗くなります。</translation>
     </message>
     <message>
         <source>A sheet as large as you set it above.</source>
@@ -430,6 +466,10 @@
     <message>
         <source>A tone</source>
         <translation>単音</translation>
+    </message>
+    <message>
+        <source>A very dark rim, for games that play in the middle.</source>
+        <translation>縁がとても暗くなります。中央で展開するゲーム向けです。</translation>
     </message>
     <message>
         <source>A white behind the screen that spares the eyes. Warm in the evening, cold by day.</source>
@@ -504,8 +544,20 @@
         <translation>9 分割</translation>
     </message>
     <message>
+        <source>All colours at once, which turn around the ring.</source>
+        <translation>すべての色が同時に現れ、輪に沿って回ります。</translation>
+    </message>
+    <message>
         <source>All file (*.*)</source>
         <translation>すべてのファイル (*.*)</translation>
+    </message>
+    <message>
+        <source>All lamps come and go slowly. The quietest effect.</source>
+        <translation>すべてのライトがゆっくり明滅します。最も静かなエフェクトです。</translation>
+    </message>
+    <message>
+        <source>All lamps follow sound or screen in one colour.</source>
+        <translation>すべてのライトが 1 色で音や画面に合わせます。</translation>
     </message>
     <message>
         <source>All shortcuts rest while the switch above is off.</source>
@@ -706,6 +758,10 @@
     <message>
         <source>Bright middle tones, for a bright room.</source>
         <translation>中間の階調が明るめです。明るい部屋に向いています。</translation>
+    </message>
+    <message>
+        <source>Bright on nearly everything but grass.</source>
+        <translation>草の上を除き、ほとんどの場面で明るく見えます。</translation>
     </message>
     <message>
         <source>Bright parts shine when the signal has the range for it.</source>
@@ -920,6 +976,10 @@
         <translation>色温</translation>
     </message>
     <message>
+        <source>Colour and brightness follow what this computer plays. For music.</source>
+        <translation>色と明るさがパソコンの音に合わせて変わります。音楽向けです。</translation>
+    </message>
+    <message>
         <source>Combination to press</source>
         <translation>押す組み合わせ</translation>
     </message>
@@ -948,12 +1008,24 @@
         <translation>反時計回り</translation>
     </message>
     <message>
+        <source>Counts down from this. Take as long as you mean to play.</source>
+        <translation>この時間からカウントダウンします。プレイする予定の長さに合わせてください。</translation>
+    </message>
+    <message>
         <source>Counts down in a corner, so that you notice how long you have played.</source>
         <translation>画面の隅でカウントダウンし、プレイ時間がわかります。</translation>
     </message>
     <message>
         <source>Counts up in a corner, to the time that you choose, and begins again.</source>
         <translation>画面の隅で計時し、選んだ時間になると最初に戻ります。</translation>
+    </message>
+    <message>
+        <source>Counts up to this and begins again. Take the length of a round.</source>
+        <translation>この時間まで計り、最初に戻ります。1 ラウンドの長さに合わせてください。</translation>
+    </message>
+    <message>
+        <source>Covers least. For a screen that is near.</source>
+        <translation>隠す部分が最も少なく、近くで見る画面向けです。</translation>
     </message>
     <message>
         <source>Cross</source>
@@ -1078,6 +1150,10 @@
     <message>
         <source>Darker black, for films and games.</source>
         <translation>黒がより深くなります。映画やゲームに向いています。</translation>
+    </message>
+    <message>
+        <source>Deep and high tones are stronger, as in a cinema.</source>
+        <translation>映画館のように低音と高音を強めます。</translation>
     </message>
     <message>
         <source>Deep contrast for films.</source>
@@ -1332,6 +1408,14 @@
         <translation>ピークの落下</translation>
     </message>
     <message>
+        <source>Far above the middle, for games that aim high on the screen.</source>
+        <translation>中央よりかなり上です。画面の上の方を狙うゲーム向けです。</translation>
+    </message>
+    <message>
+        <source>Far below the middle, for games that aim low on the screen.</source>
+        <translation>中央よりかなり下です。画面の下の方を狙うゲーム向けです。</translation>
+    </message>
+    <message>
         <source>Fast</source>
         <translation>速い</translation>
     </message>
@@ -1384,6 +1468,26 @@
         <translation>シーン連動の設定</translation>
     </message>
     <message>
+        <source>For a laptop whose picture comes by its USB cable. Off if that socket only carries data and power.</source>
+        <translation>USB ケーブルで映像を送るノートパソコン向けです。その端子がデータと給電だけならオフにします。</translation>
+    </message>
+    <message>
+        <source>For a player or a console that is to wake the monitor. Quick Boot cannot be on at the same time.</source>
+        <translation>プレーヤーやゲーム機でモニターの電源を入れたい場合に使います。「高速起動」と同時にはオンにできません。</translation>
+    </message>
+    <message>
+        <source>For a screen that is left alone for long. Films and games move and are not dimmed.</source>
+        <translation>長く放置される画面向けです。動きのある映画やゲームは暗くなりません。</translation>
+    </message>
+    <message>
+        <source>For a screen that is used for pictures and texts in turn. Leave it off while you judge colours.</source>
+        <translation>映像と文字を交互に見る画面向けです。色を確かめるときはオフにしてください。</translation>
+    </message>
+    <message>
+        <source>For charging a telephone at the monitor, and for keyboard and mouse. Off saves power in standby.</source>
+        <translation>モニターで電話を充電し、キーボードやマウスを使えます。オフにすると待機中の節電になります。</translation>
+    </message>
+    <message>
         <source>For code on a dark ground.</source>
         <translation>暗い背景のコード向けです。</translation>
     </message>
@@ -1396,12 +1500,40 @@
         <translation>0 から 255 を送るコンピューター向けです。</translation>
     </message>
     <message>
+        <source>For fast games in which a crosshair that stands still gets lost.</source>
+        <translation>動かない照準を見失いやすい、速いゲーム向けです。</translation>
+    </message>
+    <message>
         <source>For finding out why a monitor does not answer as it should.</source>
         <translation>モニターが正しく応答しない原因を調べるときに使います。</translation>
     </message>
     <message>
+        <source>For games in which every moment counts. For films and work leave it off.</source>
+        <translation>一瞬を争うゲーム向けです。映画や作業のときはオフにしてください。</translation>
+    </message>
+    <message>
+        <source>For games in which the middle decides. Maps and figures at the rim get darker too.</source>
+        <translation>中央が勝負を決めるゲーム向けです。縁の地図や数字も暗くなります。</translation>
+    </message>
+    <message>
+        <source>For games that have no crosshair of their own, or one that is hard to see.</source>
+        <translation>照準のないゲームや、照準が見にくいゲーム向けです。</translation>
+    </message>
+    <message>
+        <source>For games with far targets. It covers a part of the picture.</source>
+        <translation>標的が遠いゲーム向けです。画面の一部が隠れます。</translation>
+    </message>
+    <message>
+        <source>For games, whose pictures come now faster, now slower. The computer must have it switched on as well.</source>
+        <translation>描画の速さが変わるゲーム向けです。パソコン側でもオンにしてください。</translation>
+    </message>
+    <message>
         <source>For most games.</source>
         <translation>多くのゲームに向いています。</translation>
+    </message>
+    <message>
+        <source>For placing windows, pictures or a drawing evenly around the middle.</source>
+        <translation>ウィンドウや画像、図形を中央から均等に配置するときに使います。</translation>
     </message>
     <message>
         <source>For players and consoles that send 16 to 235. With a computer black looks grey.</source>
@@ -1418,6 +1550,10 @@
     <message>
         <source>For wide landscapes; coarse.</source>
         <translation>広い風景に向いています。画像は粗くなります。</translation>
+    </message>
+    <message>
+        <source>Found at once, also from far away.</source>
+        <translation>離れていてもすぐに見つかります。</translation>
     </message>
     <message>
         <source>Four bytes of the next scene-mode block get lost</source>
@@ -1636,12 +1772,24 @@
         <translation>メニューの表示方法と位置です。「無信号タイマー」は信号がないときにスリープするまでの時間です。</translation>
     </message>
     <message>
+        <source>How bright the enlarged part is. Level3 = as the rest; higher ones show what is in the shade.</source>
+        <translation>拡大部分の明るさです。「レベル 3」は周りと同じで、高くすると影の中が見えてきます。</translation>
+    </message>
+    <message>
         <source>How bright the lamp shines that tells that the monitor is on. Close = dark, Level3 = brightest.</source>
         <translation>モニターの電源ランプの明るさです。「レベル 3」が最も明るくなります。</translation>
     </message>
     <message>
         <source>How bright the middle tones are. The higher the value, the darker.</source>
         <translation>中間の明るさの見え方です。値が大きいほど暗くなります。</translation>
+    </message>
+    <message>
+        <source>How clear its edges are. Level3 = as they come; lower ones hide coarse dots, higher ones show outlines.</source>
+        <translation>拡大部分の輪郭の鮮明さです。「レベル 3」はそのまま、低いと粗さが目立たず、高いと輪郭が際立ちます。</translation>
+    </message>
+    <message>
+        <source>How far light and dark are apart in it. Level3 = as the rest; higher ones help in fog and dust.</source>
+        <translation>拡大部分の明暗の差です。「レベル 3」は周りと同じで、高くすると霧や砂ぼこりの中で見やすくなります。</translation>
     </message>
     <message>
         <source>How long the monitor waits without a signal before it sleeps.</source>
@@ -1708,6 +1856,14 @@
         <translation>ISP</translation>
     </message>
     <message>
+        <source>If you switch the monitor on several times a day. CEC cannot be on at the same time.</source>
+        <translation>1 日に何度もモニターの電源を入れる場合に使います。CEC と同時にはオンにできません。</translation>
+    </message>
+    <message>
+        <source>If you turn the screen now and then: the monitor&apos;s menu turns with it.</source>
+        <translation>画面をときどき回す場合に使います。モニターのメニューも一緒に回ります。</translation>
+    </message>
+    <message>
         <source>Image sticking protection: clears what a picture leaves behind as soon as it is gone.</source>
         <translation>残像防止: 画面が消えたあとに残る像をすぐに消します。</translation>
     </message>
@@ -1718,6 +1874,10 @@
     <message>
         <source>Import Animate</source>
         <translation>読み込み</translation>
+    </message>
+    <message>
+        <source>In the very middle, where most games aim.</source>
+        <translation>ちょうど中央です。ほとんどのゲームはここを狙います。</translation>
     </message>
     <message>
         <source>Information</source>
@@ -1856,6 +2016,10 @@
         <translation>レイアウト</translation>
     </message>
     <message>
+        <source>Leave it on, unless you see the clearing itself as a flicker when windows close.</source>
+        <translation>ウィンドウを閉じたときのちらつきが気にならなければ、オンのままにしてください。</translation>
+    </message>
+    <message>
         <source>Leaves the target free but for its very middle.</source>
         <translation>真ん中だけを残して標的を隠しません。</translation>
     </message>
@@ -1878,6 +2042,10 @@
     <message>
         <source>Level1</source>
         <translation>レベル 1</translation>
+    </message>
+    <message>
+        <source>Level1 follows great changes only, for a quiet room; Level5 also small ones.</source>
+        <translation>「レベル 1」は大きな変化だけに合わせ、静かな部屋向けです。「レベル 5」は小さな変化にも合わせます。</translation>
     </message>
     <message>
         <source>Level2</source>
@@ -1954,6 +2122,10 @@
     <message>
         <source>Light Timer</source>
         <translation>消灯タイマー</translation>
+    </message>
+    <message>
+        <source>Light and dark follow each other around the ring.</source>
+        <translation>明るい所と暗い所が輪に沿って流れます。</translation>
     </message>
     <message>
         <source>Light in Standby</source>
@@ -2412,6 +2584,10 @@
         <translation>暗くしません。</translation>
     </message>
     <message>
+        <source>Nothing is drawn over the picture.</source>
+        <translation>画面の上には何も描かれません。</translation>
+    </message>
+    <message>
         <source>Nothing is followed but in one of the two rhythm modes.</source>
         <translation>連動するのは 2 つの連動モードのときだけです。</translation>
     </message>
@@ -2478,6 +2654,14 @@
     <message>
         <source>On-screen menu</source>
         <translation>オンスクリーンメニュー</translation>
+    </message>
+    <message>
+        <source>One colour melts into the next. Off = it changes at once.</source>
+        <translation>色が次の色へなめらかに変わります。オフ = すぐに変わります。</translation>
+    </message>
+    <message>
+        <source>One colour that stands still. Calm enough for work.</source>
+        <translation>動かない 1 色の光です。作業の邪魔になりません。</translation>
     </message>
     <message>
         <source>One input fills the screen.</source>
@@ -2714,6 +2898,10 @@
     <message>
         <source>Quick Boot</source>
         <translation>高速起動</translation>
+    </message>
+    <message>
+        <source>Quiet: seen best on snow and bright walls.</source>
+        <translation>控えめな色です。雪や明るい壁の上で最もよく見えます。</translation>
     </message>
     <message>
         <source>R</source>
@@ -3004,6 +3192,22 @@
         <translation>カテゴリ</translation>
     </message>
     <message>
+        <source>Seen best in dark scenes.</source>
+        <translation>暗い場面で最もよく見えます。</translation>
+    </message>
+    <message>
+        <source>Seen best in the dark and on blue.</source>
+        <translation>暗い所や青の上で最もよく見えます。</translation>
+    </message>
+    <message>
+        <source>Seen best on green and grey, as in woods and towns.</source>
+        <translation>森や街など、緑や灰色の上で最もよく見えます。</translation>
+    </message>
+    <message>
+        <source>Seen best on sand, fire and rust.</source>
+        <translation>砂や炎、錆びた色の上で最もよく見えます。</translation>
+    </message>
+    <message>
         <source>Select All</source>
         <translation>すべて選択</translation>
     </message>
@@ -3068,6 +3272,10 @@
         <translation>シャープネス</translation>
     </message>
     <message>
+        <source>Short flashes. Not for people who do not bear flashing light.</source>
+        <translation>短い点滅です。点滅が苦手な方は使わないでください。</translation>
+    </message>
+    <message>
         <source>Shortcut Key</source>
         <translation>ショートカットキー</translation>
     </message>
@@ -3120,8 +3328,16 @@
         <translation>無音</translation>
     </message>
     <message>
+        <source>Silences the monitor for a while; the volume stays as it is set.</source>
+        <translation>モニターの音を一時的に消します。音量の設定は変わりません。</translation>
+    </message>
+    <message>
         <source>Simulated monitor</source>
         <translation>シミュレートされたモニター</translation>
+    </message>
+    <message>
+        <source>Single points light up here and there.</source>
+        <translation>あちこちで点が光ります。</translation>
     </message>
     <message>
         <source>Size</source>
@@ -3260,8 +3476,24 @@
         <translation>キーを変えるには、この行をオンにしてください。</translation>
     </message>
     <message>
+        <source>Switched off.</source>
+        <translation>オフです。</translation>
+    </message>
+    <message>
+        <source>Switched on.</source>
+        <translation>オンです。</translation>
+    </message>
+    <message>
         <source>System Settings</source>
         <translation>システム設定</translation>
+    </message>
+    <message>
+        <source>Take one that goes with the wall: light on a coloured wall looks different.</source>
+        <translation>壁に合う色を選んでください。色のある壁では見え方が変わります。</translation>
+    </message>
+    <message>
+        <source>Take the corner in which nothing stands that you need.</source>
+        <translation>必要なものが表示されない隅を選んでください。</translation>
     </message>
     <message>
         <source>Taken by another</source>
@@ -3340,6 +3572,14 @@
         <translation>次の読み取りの応答が届きません</translation>
     </message>
     <message>
+        <source>The belt stands still in its colour.</source>
+        <translation>ライトバーは色を保ったまま動きません。</translation>
+    </message>
+    <message>
+        <source>The brightest light, for a bright room.</source>
+        <translation>最も明るい光です。明るい部屋向けです。</translation>
+    </message>
+    <message>
         <source>The brightest light, seen across a bright room.</source>
         <translation>最も明るい光です。明るい部屋でも見えます。</translation>
     </message>
@@ -3354,6 +3594,26 @@
     <message>
         <source>The cable is pulled out until the button is released</source>
         <translation>ボタンを戻すまでケーブルを抜いた状態にします</translation>
+    </message>
+    <message>
+        <source>The colour of the belt along the lower edge. Auto = runs through all colours.</source>
+        <translation>下縁のライトバーの色です。自動 = すべての色を順に巡ります。</translation>
+    </message>
+    <message>
+        <source>The colour of the belt at the back of the foot.</source>
+        <translation>スタンド後ろ側のライトバーの色です。</translation>
+    </message>
+    <message>
+        <source>The colour of the belt at the front of the foot.</source>
+        <translation>スタンド前側のライトバーの色です。</translation>
+    </message>
+    <message>
+        <source>The colour of the light on the desk. White is best for reading and writing.</source>
+        <translation>机を照らす光の色です。読み書きには白が最適です。</translation>
+    </message>
+    <message>
+        <source>The colour of the light on the wall behind the screen.</source>
+        <translation>画面の後ろの壁を照らす光の色です。</translation>
     </message>
     <message>
         <source>The colour of the steady light and of the effects. Auto = runs through all colours.</source>
@@ -3424,6 +3684,14 @@
         <translation>ランプは消えます。モニターがオンかどうかは画面だけで分かります。</translation>
     </message>
     <message>
+        <source>The lamps behind the screen are dark.</source>
+        <translation>画面の後ろのライトは消えます。</translation>
+    </message>
+    <message>
+        <source>The lamps take the colours of the picture&apos;s edges. For films and games.</source>
+        <translation>ライトが画面の端の色になります。映画やゲーム向けです。</translation>
+    </message>
+    <message>
         <source>The language of the monitor&apos;s own menu, not of this tool.</source>
         <translation>モニターのメニューの言語です。このツールの言語ではありません。</translation>
     </message>
@@ -3432,8 +3700,32 @@
         <translation>レイアウトにその領域はありません。</translation>
     </message>
     <message>
+        <source>The left and the right half follow each its own side. For films.</source>
+        <translation>左右がそれぞれの側に合わせます。映画向けです。</translation>
+    </message>
+    <message>
         <source>The light behind the picture is even. Best for text.</source>
         <translation>バックライトが均一になります。文字に最適です。</translation>
+    </message>
+    <message>
+        <source>The light flows along the belt.</source>
+        <translation>光がライトバーに沿って流れます。</translation>
+    </message>
+    <message>
+        <source>The light moves by itself. For games and guests.</source>
+        <translation>光が自動で動きます。ゲームや来客のときに。</translation>
+    </message>
+    <message>
+        <source>The lighting goes out and comes back with the screen.</source>
+        <translation>ライトが画面と一緒に消え、一緒に点きます。</translation>
+    </message>
+    <message>
+        <source>The lighting goes out by itself after this time. Close = it stays on.</source>
+        <translation>この時間がたつとライトが自動で消えます。オフ = 点いたままです。</translation>
+    </message>
+    <message>
+        <source>The lighting stays on while the monitor sleeps, as a light for the night.</source>
+        <translation>モニターの待機中もライトが点いたままで、常夜灯になります。</translation>
     </message>
     <message>
         <source>The maker&apos;s own tuning.</source>
@@ -3624,6 +3916,10 @@
         <translation>信号のある端子を使います。コンピューターが 1 台、または 1 台ずつ使うとき向けです。</translation>
     </message>
     <message>
+        <source>The sound as it comes, for music and all else.</source>
+        <translation>元の音のままです。音楽などすべてに向きます。</translation>
+    </message>
+    <message>
         <source>The sound of the monitor. Audio Mute: Close = sound, Open = silence. Convo = for voices.</source>
         <translation>モニターの音声です。「ミュート」がオンのときは音が出ません。「会話」は人の声に向いています。</translation>
     </message>
@@ -3682,6 +3978,14 @@
     <message>
         <source>The white of printed paper.</source>
         <translation>印刷用紙の白です。</translation>
+    </message>
+    <message>
+        <source>The whole belt comes and goes slowly.</source>
+        <translation>ライトバー全体がゆっくり明滅します。</translation>
+    </message>
+    <message>
+        <source>The whole belt flashes. Hard to bear beside work.</source>
+        <translation>ライトバー全体が点滅します。作業には向きません。</translation>
     </message>
     <message>
         <source>The window cannot be resized.</source>
@@ -3784,8 +4088,20 @@
         <translation>時間</translation>
     </message>
     <message>
+        <source>To know how long a round has gone on without looking away.</source>
+        <translation>画面から目を離さずに、ラウンドの経過時間がわかります。</translation>
+    </message>
+    <message>
         <source>To see how the reminder looks.</source>
         <translation>お知らせの見え方を確かめるためのものです。</translation>
+    </message>
+    <message>
+        <source>To see whether a game runs as smoothly as the monitor could show it.</source>
+        <translation>ゲームがモニターの性能どおりに滑らかに動いているかがわかります。</translation>
+    </message>
+    <message>
+        <source>To stop in time.</source>
+        <translation>遊びすぎを防ぎます。</translation>
     </message>
     <message>
         <source>Today&apos;s automatic changes of this monitor are used up (%1). They go on tomorrow; what you set yourself is not limited.</source>
@@ -3984,6 +4300,10 @@
         <translation>アニメーションに適した鮮やかな色です。</translation>
     </message>
     <message>
+        <source>Voices come forward, for talks and conferences.</source>
+        <translation>人の声を際立たせます。通話や会議向けです。</translation>
+    </message>
+    <message>
         <source>Volume</source>
         <translation>音量</translation>
     </message>
@@ -4056,6 +4376,10 @@
         <translation>ライトが自動で消える時間と、待機中も点灯するかどうか。</translation>
     </message>
     <message>
+        <source>Where others pass by, or a hand easily touches the monitor&apos;s buttons.</source>
+        <translation>人が通る場所や、モニターのボタンに手が触れやすい場所で使います。</translation>
+    </message>
+    <message>
         <source>Which cable the monitor&apos;s USB sockets go to, and how fast the picture comes through DP or Type-C.</source>
         <translation>モニターの USB 端子をどのケーブルにつなぐかと、DP または Type-C の映像の速さです。</translation>
     </message>
@@ -4074,6 +4398,10 @@
     <message>
         <source>Which socket the picture comes from. Auto = the one that has a signal.</source>
         <translation>映像を受け取る端子です。「自動」は信号のある端子を選びます。</translation>
+    </message>
+    <message>
+        <source>Which way round the light runs, as seen from behind.</source>
+        <translation>後ろから見た、光の回る向きです。</translation>
     </message>
     <message>
         <source>White</source>

@@ -176,6 +176,10 @@
         <translation>%1 · 协议错误：%2 · 打开的句柄：%3</translation>
     </message>
     <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
         <source>%1, %2</source>
         <translation>%1、%2</translation>
     </message>
@@ -340,6 +344,10 @@
         <translation>均衡的画面，适合日常使用。</translation>
     </message>
     <message>
+        <source>A calm white on the wall, for long evenings at the screen.</source>
+        <translation>在墙上投射柔和的白光，适合夜间长时间看屏幕。</translation>
+    </message>
+    <message>
         <source>A circle, for what is in the middle.</source>
         <translation>圆形，适合位于中央的主体。</translation>
     </message>
@@ -348,8 +356,16 @@
         <translation>仅在颜色明显变化时发送，每秒最多一次。</translation>
     </message>
     <message>
+        <source>A colour that few games have themselves.</source>
+        <translation>游戏画面中少见的颜色。</translation>
+    </message>
+    <message>
         <source>A crosshair that takes the colour that stands out and opens while the picture moves.</source>
         <translation>准星会采用醒目的颜色，并在画面移动时张开。</translation>
+    </message>
+    <message>
+        <source>A dark rim: the eye stays in the middle.</source>
+        <translation>边缘较暗，视线停留在中央。</translation>
     </message>
     <message>
         <source>A diagonal and the lines that meet it: for pictures with a slant.</source>
@@ -364,8 +380,20 @@
         <translation>微弱的灯光，适合黑暗的房间。</translation>
     </message>
     <message>
+        <source>A light runs around the ring.</source>
+        <translation>一道光沿灯环流动。</translation>
+    </message>
+    <message>
         <source>A line of text that the matrix shows, standing or scrolling.</source>
         <translation>一行文字，在矩阵上静止或滚动显示。</translation>
+    </message>
+    <message>
+        <source>A little above the middle, as games need it that look over a shoulder.</source>
+        <translation>略高于中央，适合越肩视角的游戏。</translation>
+    </message>
+    <message>
+        <source>A little below the middle, for a view that is tilted up.</source>
+        <translation>略低于中央，适合视角偏上的游戏。</translation>
     </message>
     <message>
         <source>A little cooler than usual.</source>
@@ -392,12 +420,20 @@
         <translation>您自己的配色：用下方的滑块设置红、绿、蓝。</translation>
     </message>
     <message>
+        <source>A point of light runs along the belt, like a bead.</source>
+        <translation>光点如珠子般沿灯带滑过。</translation>
+    </message>
+    <message>
         <source>A protractor around the middle, to measure angles.</source>
         <translation>以屏幕中央为圆心的量角器，用来测量角度。</translation>
     </message>
     <message>
         <source>A quarter of the screen&apos;s width: hides least of the first input.</source>
         <translation>屏幕宽度的四分之一：遮住第一路输入最少。</translation>
+    </message>
+    <message>
+        <source>A shade at the rim that is hardly noticed.</source>
+        <translation>边缘略暗，几乎察觉不到。</translation>
     </message>
     <message>
         <source>A sheet as large as you set it above.</source>
@@ -430,6 +466,10 @@
     <message>
         <source>A tone</source>
         <translation>单音</translation>
+    </message>
+    <message>
+        <source>A very dark rim, for games that play in the middle.</source>
+        <translation>边缘很暗，适合集中在中央的游戏。</translation>
     </message>
     <message>
         <source>A white behind the screen that spares the eyes. Warm in the evening, cold by day.</source>
@@ -504,8 +544,20 @@
         <translation>9 分格</translation>
     </message>
     <message>
+        <source>All colours at once, which turn around the ring.</source>
+        <translation>所有颜色同时出现，并沿灯环转动。</translation>
+    </message>
+    <message>
         <source>All file (*.*)</source>
         <translation>所有文件 (*.*)</translation>
+    </message>
+    <message>
+        <source>All lamps come and go slowly. The quietest effect.</source>
+        <translation>所有灯光缓缓明暗，是最平静的灯效。</translation>
+    </message>
+    <message>
+        <source>All lamps follow sound or screen in one colour.</source>
+        <translation>所有灯光以同一颜色跟随声音或屏幕。</translation>
     </message>
     <message>
         <source>All shortcuts rest while the switch above is off.</source>
@@ -706,6 +758,10 @@
     <message>
         <source>Bright middle tones, for a bright room.</source>
         <translation>中间调较亮，适合明亮的房间。</translation>
+    </message>
+    <message>
+        <source>Bright on nearly everything but grass.</source>
+        <translation>除草地外，几乎在任何背景上都明亮。</translation>
     </message>
     <message>
         <source>Bright parts shine when the signal has the range for it.</source>
@@ -920,6 +976,10 @@
         <translation>色温</translation>
     </message>
     <message>
+        <source>Colour and brightness follow what this computer plays. For music.</source>
+        <translation>颜色和亮度随电脑播放的声音变化，适合音乐。</translation>
+    </message>
+    <message>
         <source>Combination to press</source>
         <translation>要按下的组合键</translation>
     </message>
@@ -948,12 +1008,24 @@
         <translation>逆时针</translation>
     </message>
     <message>
+        <source>Counts down from this. Take as long as you mean to play.</source>
+        <translation>从此时间开始倒计时。请按打算游玩的时长选择。</translation>
+    </message>
+    <message>
         <source>Counts down in a corner, so that you notice how long you have played.</source>
         <translation>在屏幕一角倒计时，提醒您已经玩了多久。</translation>
     </message>
     <message>
         <source>Counts up in a corner, to the time that you choose, and begins again.</source>
         <translation>在屏幕一角计时，到所选时间后重新开始。</translation>
+    </message>
+    <message>
+        <source>Counts up to this and begins again. Take the length of a round.</source>
+        <translation>计时到此时间后重新开始。请按一局的时长选择。</translation>
+    </message>
+    <message>
+        <source>Covers least. For a screen that is near.</source>
+        <translation>遮挡最少，适合近距离的屏幕。</translation>
     </message>
     <message>
         <source>Cross</source>
@@ -1078,6 +1150,10 @@
     <message>
         <source>Darker black, for films and games.</source>
         <translation>黑色更深，适合电影和游戏。</translation>
+    </message>
+    <message>
+        <source>Deep and high tones are stronger, as in a cinema.</source>
+        <translation>低音和高音更强，如同影院。</translation>
     </message>
     <message>
         <source>Deep contrast for films.</source>
@@ -1332,6 +1408,14 @@
         <translation>峰值回落</translation>
     </message>
     <message>
+        <source>Far above the middle, for games that aim high on the screen.</source>
+        <translation>远高于中央，适合瞄准点偏高的游戏。</translation>
+    </message>
+    <message>
+        <source>Far below the middle, for games that aim low on the screen.</source>
+        <translation>远低于中央，适合瞄准点偏低的游戏。</translation>
+    </message>
+    <message>
         <source>Fast</source>
         <translation>快</translation>
     </message>
@@ -1384,6 +1468,26 @@
         <translation>情景跟随设置</translation>
     </message>
     <message>
+        <source>For a laptop whose picture comes by its USB cable. Off if that socket only carries data and power.</source>
+        <translation>适合通过 USB 线缆传输画面的笔记本电脑。若该接口只传输数据和供电，请关闭。</translation>
+    </message>
+    <message>
+        <source>For a player or a console that is to wake the monitor. Quick Boot cannot be on at the same time.</source>
+        <translation>让播放器或游戏机唤醒显示器。不能与“快速启动”同时开启。</translation>
+    </message>
+    <message>
+        <source>For a screen that is left alone for long. Films and games move and are not dimmed.</source>
+        <translation>适合长时间无人操作的屏幕。电影和游戏画面在动，不会变暗。</translation>
+    </message>
+    <message>
+        <source>For a screen that is used for pictures and texts in turn. Leave it off while you judge colours.</source>
+        <translation>适合交替查看图片和文字的屏幕。需要判断颜色时请关闭。</translation>
+    </message>
+    <message>
+        <source>For charging a telephone at the monitor, and for keyboard and mouse. Off saves power in standby.</source>
+        <translation>可在显示器上为手机充电，并使用键盘和鼠标。关闭可在待机时省电。</translation>
+    </message>
+    <message>
         <source>For code on a dark ground.</source>
         <translation>适合深色背景的代码。</translation>
     </message>
@@ -1396,12 +1500,40 @@
         <translation>适合发送 0 至 255 的电脑。</translation>
     </message>
     <message>
+        <source>For fast games in which a crosshair that stands still gets lost.</source>
+        <translation>适合静止准星容易看丢的快节奏游戏。</translation>
+    </message>
+    <message>
         <source>For finding out why a monitor does not answer as it should.</source>
         <translation>帮助查明显示器为何没有正常应答。</translation>
     </message>
     <message>
+        <source>For games in which every moment counts. For films and work leave it off.</source>
+        <translation>适合分秒必争的游戏。看电影或工作时请关闭。</translation>
+    </message>
+    <message>
+        <source>For games in which the middle decides. Maps and figures at the rim get darker too.</source>
+        <translation>适合胜负取决于画面中央的游戏。边缘的地图和数字也会变暗。</translation>
+    </message>
+    <message>
+        <source>For games that have no crosshair of their own, or one that is hard to see.</source>
+        <translation>适合没有准星或准星不清楚的游戏。</translation>
+    </message>
+    <message>
+        <source>For games with far targets. It covers a part of the picture.</source>
+        <translation>适合目标较远的游戏。会遮住一部分画面。</translation>
+    </message>
+    <message>
+        <source>For games, whose pictures come now faster, now slower. The computer must have it switched on as well.</source>
+        <translation>适合画面时快时慢的游戏。电脑上也须开启此功能。</translation>
+    </message>
+    <message>
         <source>For most games.</source>
         <translation>适合大多数游戏。</translation>
+    </message>
+    <message>
+        <source>For placing windows, pictures or a drawing evenly around the middle.</source>
+        <translation>便于将窗口、图片或图形均匀地排在中央四周。</translation>
     </message>
     <message>
         <source>For players and consoles that send 16 to 235. With a computer black looks grey.</source>
@@ -1418,6 +1550,10 @@
     <message>
         <source>For wide landscapes; coarse.</source>
         <translation>适合开阔的场景，画面较粗糙。</translation>
+    </message>
+    <message>
+        <source>Found at once, also from far away.</source>
+        <translation>从远处也能立刻看到。</translation>
     </message>
     <message>
         <source>Four bytes of the next scene-mode block get lost</source>
@@ -1636,12 +1772,24 @@
         <translation>显示器自身菜单的显示方式和位置。“无信号定时器”设定无信号多久后休眠。</translation>
     </message>
     <message>
+        <source>How bright the enlarged part is. Level3 = as the rest; higher ones show what is in the shade.</source>
+        <translation>放大部分的亮度。“等级 3”与其余画面相同，等级越高越能看清阴影中的细节。</translation>
+    </message>
+    <message>
         <source>How bright the lamp shines that tells that the monitor is on. Close = dark, Level3 = brightest.</source>
         <translation>显示器开启时指示灯的亮度。“等级 3”最亮。</translation>
     </message>
     <message>
         <source>How bright the middle tones are. The higher the value, the darker.</source>
         <translation>中间色调的亮度。数值越大，画面越暗。</translation>
+    </message>
+    <message>
+        <source>How clear its edges are. Level3 = as they come; lower ones hide coarse dots, higher ones show outlines.</source>
+        <translation>放大部分边缘的清晰度。“等级 3”保持原样，较低的等级淡化颗粒，较高的等级突出轮廓。</translation>
+    </message>
+    <message>
+        <source>How far light and dark are apart in it. Level3 = as the rest; higher ones help in fog and dust.</source>
+        <translation>放大部分的明暗差别。“等级 3”与其余画面相同，等级越高越适合雾和沙尘。</translation>
     </message>
     <message>
         <source>How long the monitor waits without a signal before it sleeps.</source>
@@ -1708,6 +1856,14 @@
         <translation>ISP</translation>
     </message>
     <message>
+        <source>If you switch the monitor on several times a day. CEC cannot be on at the same time.</source>
+        <translation>适合每天多次开启显示器。不能与 CEC 同时开启。</translation>
+    </message>
+    <message>
+        <source>If you turn the screen now and then: the monitor&apos;s menu turns with it.</source>
+        <translation>适合偶尔旋转屏幕：显示器菜单会随之旋转。</translation>
+    </message>
+    <message>
         <source>Image sticking protection: clears what a picture leaves behind as soon as it is gone.</source>
         <translation>残影防护：画面消失后立即清除其残留。</translation>
     </message>
@@ -1718,6 +1874,10 @@
     <message>
         <source>Import Animate</source>
         <translation>导入动画</translation>
+    </message>
+    <message>
+        <source>In the very middle, where most games aim.</source>
+        <translation>正中央，大多数游戏的瞄准点。</translation>
     </message>
     <message>
         <source>Information</source>
@@ -1856,6 +2016,10 @@
         <translation>布局</translation>
     </message>
     <message>
+        <source>Leave it on, unless you see the clearing itself as a flicker when windows close.</source>
+        <translation>建议保持开启，除非关闭窗口时您会看到清除造成的闪烁。</translation>
+    </message>
+    <message>
         <source>Leaves the target free but for its very middle.</source>
         <translation>除正中心外不遮挡目标。</translation>
     </message>
@@ -1878,6 +2042,10 @@
     <message>
         <source>Level1</source>
         <translation>等级 1</translation>
+    </message>
+    <message>
+        <source>Level1 follows great changes only, for a quiet room; Level5 also small ones.</source>
+        <translation>“等级 1”只跟随大的变化，适合安静的房间；“等级 5”也跟随小的变化。</translation>
     </message>
     <message>
         <source>Level2</source>
@@ -1954,6 +2122,10 @@
     <message>
         <source>Light Timer</source>
         <translation>灯光定时</translation>
+    </message>
+    <message>
+        <source>Light and dark follow each other around the ring.</source>
+        <translation>明暗沿灯环交替流动。</translation>
     </message>
     <message>
         <source>Light in Standby</source>
@@ -2412,6 +2584,10 @@
         <translation>不会变暗。</translation>
     </message>
     <message>
+        <source>Nothing is drawn over the picture.</source>
+        <translation>画面上不叠加任何内容。</translation>
+    </message>
+    <message>
         <source>Nothing is followed but in one of the two rhythm modes.</source>
         <translation>仅在两种律动模式下才会跟随。</translation>
     </message>
@@ -2478,6 +2654,14 @@
     <message>
         <source>On-screen menu</source>
         <translation>屏幕菜单</translation>
+    </message>
+    <message>
+        <source>One colour melts into the next. Off = it changes at once.</source>
+        <translation>颜色逐渐过渡到下一种。关闭 = 立即变换。</translation>
+    </message>
+    <message>
+        <source>One colour that stands still. Calm enough for work.</source>
+        <translation>固定的单色灯光，平静，适合工作。</translation>
     </message>
     <message>
         <source>One input fills the screen.</source>
@@ -2714,6 +2898,10 @@
     <message>
         <source>Quick Boot</source>
         <translation>快速启动</translation>
+    </message>
+    <message>
+        <source>Quiet: seen best on snow and bright walls.</source>
+        <translation>不张扬：在雪地和明亮的墙面上最醒目。</translation>
     </message>
     <message>
         <source>R</source>
@@ -3004,6 +3192,22 @@
         <translation>栏目</translation>
     </message>
     <message>
+        <source>Seen best in dark scenes.</source>
+        <translation>在昏暗的场景中最醒目。</translation>
+    </message>
+    <message>
+        <source>Seen best in the dark and on blue.</source>
+        <translation>在黑暗中和蓝色上最醒目。</translation>
+    </message>
+    <message>
+        <source>Seen best on green and grey, as in woods and towns.</source>
+        <translation>在绿色和灰色上最醒目，例如树林和城市。</translation>
+    </message>
+    <message>
+        <source>Seen best on sand, fire and rust.</source>
+        <translation>在沙地、火焰和锈色上最醒目。</translation>
+    </message>
+    <message>
         <source>Select All</source>
         <translation>全选</translation>
     </message>
@@ -3068,6 +3272,10 @@
         <translation>锐度</translation>
     </message>
     <message>
+        <source>Short flashes. Not for people who do not bear flashing light.</source>
+        <translation>短促的闪光。对闪光敏感者请勿使用。</translation>
+    </message>
+    <message>
         <source>Shortcut Key</source>
         <translation>快捷键</translation>
     </message>
@@ -3120,8 +3328,16 @@
         <translation>无声</translation>
     </message>
     <message>
+        <source>Silences the monitor for a while; the volume stays as it is set.</source>
+        <translation>让显示器暂时静音，音量设置保持不变。</translation>
+    </message>
+    <message>
         <source>Simulated monitor</source>
         <translation>模拟显示器</translation>
+    </message>
+    <message>
+        <source>Single points light up here and there.</source>
+        <translation>光点此起彼伏地亮起。</translation>
     </message>
     <message>
         <source>Size</source>
@@ -3260,8 +3476,24 @@
         <translation>打开这一行的开关后才能更改按键。</translation>
     </message>
     <message>
+        <source>Switched off.</source>
+        <translation>已关闭。</translation>
+    </message>
+    <message>
+        <source>Switched on.</source>
+        <translation>已开启。</translation>
+    </message>
+    <message>
         <source>System Settings</source>
         <translation>系统设置</translation>
+    </message>
+    <message>
+        <source>Take one that goes with the wall: light on a coloured wall looks different.</source>
+        <translation>请按墙面选择：灯光照在有色的墙上会有不同的效果。</translation>
+    </message>
+    <message>
+        <source>Take the corner in which nothing stands that you need.</source>
+        <translation>请选择没有所需内容的角落。</translation>
     </message>
     <message>
         <source>Taken by another</source>
@@ -3340,6 +3572,14 @@
         <translation>下一次读取收不到应答</translation>
     </message>
     <message>
+        <source>The belt stands still in its colour.</source>
+        <translation>灯带保持自己的颜色，静止不动。</translation>
+    </message>
+    <message>
+        <source>The brightest light, for a bright room.</source>
+        <translation>最亮的灯光，适合明亮的房间。</translation>
+    </message>
+    <message>
         <source>The brightest light, seen across a bright room.</source>
         <translation>最亮的灯光，在明亮的房间里也能看到。</translation>
     </message>
@@ -3354,6 +3594,26 @@
     <message>
         <source>The cable is pulled out until the button is released</source>
         <translation>线缆保持拔出，直到松开按钮</translation>
+    </message>
+    <message>
+        <source>The colour of the belt along the lower edge. Auto = runs through all colours.</source>
+        <translation>底边灯带的颜色。自动 = 依次变换所有颜色。</translation>
+    </message>
+    <message>
+        <source>The colour of the belt at the back of the foot.</source>
+        <translation>底座后侧灯带的颜色。</translation>
+    </message>
+    <message>
+        <source>The colour of the belt at the front of the foot.</source>
+        <translation>底座前侧灯带的颜色。</translation>
+    </message>
+    <message>
+        <source>The colour of the light on the desk. White is best for reading and writing.</source>
+        <translation>桌面灯光的颜色。白色最适合读写。</translation>
+    </message>
+    <message>
+        <source>The colour of the light on the wall behind the screen.</source>
+        <translation>屏幕后墙面灯光的颜色。</translation>
     </message>
     <message>
         <source>The colour of the steady light and of the effects. Auto = runs through all colours.</source>
@@ -3424,6 +3684,14 @@
         <translation>指示灯不亮，只有画面表明显示器已开启。</translation>
     </message>
     <message>
+        <source>The lamps behind the screen are dark.</source>
+        <translation>屏幕背后的灯不亮。</translation>
+    </message>
+    <message>
+        <source>The lamps take the colours of the picture&apos;s edges. For films and games.</source>
+        <translation>灯光采用画面边缘的颜色，适合电影和游戏。</translation>
+    </message>
+    <message>
         <source>The language of the monitor&apos;s own menu, not of this tool.</source>
         <translation>显示器自身菜单的语言，而不是本工具的语言。</translation>
     </message>
@@ -3432,8 +3700,32 @@
         <translation>布局中没有这个区域。</translation>
     </message>
     <message>
+        <source>The left and the right half follow each its own side. For films.</source>
+        <translation>左右两半各自跟随自己的一侧，适合看电影。</translation>
+    </message>
+    <message>
         <source>The light behind the picture is even. Best for text.</source>
         <translation>背光均匀，最适合阅读文字。</translation>
+    </message>
+    <message>
+        <source>The light flows along the belt.</source>
+        <translation>灯光沿灯带流动。</translation>
+    </message>
+    <message>
+        <source>The light moves by itself. For games and guests.</source>
+        <translation>灯光自动变化，适合游戏和聚会。</translation>
+    </message>
+    <message>
+        <source>The lighting goes out and comes back with the screen.</source>
+        <translation>灯光随屏幕一同熄灭和亮起。</translation>
+    </message>
+    <message>
+        <source>The lighting goes out by itself after this time. Close = it stays on.</source>
+        <translation>灯光在此时间后自动熄灭。关闭 = 一直亮着。</translation>
+    </message>
+    <message>
+        <source>The lighting stays on while the monitor sleeps, as a light for the night.</source>
+        <translation>显示器待机时灯光保持亮起，可作夜灯。</translation>
     </message>
     <message>
         <source>The maker&apos;s own tuning.</source>
@@ -3624,6 +3916,10 @@
         <translation>自动使用有信号的接口，适合一台电脑或每次一台。</translation>
     </message>
     <message>
+        <source>The sound as it comes, for music and all else.</source>
+        <translation>保持原声，适合音乐及其他内容。</translation>
+    </message>
+    <message>
         <source>The sound of the monitor. Audio Mute: Close = sound, Open = silence. Convo = for voices.</source>
         <translation>显示器的声音。“静音”开启时没有声音，“对话”适合人声。</translation>
     </message>
@@ -3682,6 +3978,14 @@
     <message>
         <source>The white of printed paper.</source>
         <translation>印刷纸张的白色。</translation>
+    </message>
+    <message>
+        <source>The whole belt comes and goes slowly.</source>
+        <translation>整条灯带缓缓明暗。</translation>
+    </message>
+    <message>
+        <source>The whole belt flashes. Hard to bear beside work.</source>
+        <translation>整条灯带闪烁，不适合工作时使用。</translation>
     </message>
     <message>
         <source>The window cannot be resized.</source>
@@ -3784,8 +4088,20 @@
         <translation>定时</translation>
     </message>
     <message>
+        <source>To know how long a round has gone on without looking away.</source>
+        <translation>视线不离画面，即可了解一局已进行多久。</translation>
+    </message>
+    <message>
         <source>To see how the reminder looks.</source>
         <translation>用于查看提醒的样子。</translation>
+    </message>
+    <message>
+        <source>To see whether a game runs as smoothly as the monitor could show it.</source>
+        <translation>查看游戏是否达到显示器所能呈现的流畅度。</translation>
+    </message>
+    <message>
+        <source>To stop in time.</source>
+        <translation>提醒您适时停止。</translation>
     </message>
     <message>
         <source>Today&apos;s automatic changes of this monitor are used up (%1). They go on tomorrow; what you set yourself is not limited.</source>
@@ -3984,6 +4300,10 @@
         <translation>色彩鲜艳，适合动画。</translation>
     </message>
     <message>
+        <source>Voices come forward, for talks and conferences.</source>
+        <translation>突出人声，适合通话和会议。</translation>
+    </message>
+    <message>
         <source>Volume</source>
         <translation>音量</translation>
     </message>
@@ -4056,6 +4376,10 @@
         <translation>灯光何时自动熄灭，以及待机时是否保持亮灯。</translation>
     </message>
     <message>
+        <source>Where others pass by, or a hand easily touches the monitor&apos;s buttons.</source>
+        <translation>适合有他人经过，或容易误触显示器按键的场合。</translation>
+    </message>
+    <message>
         <source>Which cable the monitor&apos;s USB sockets go to, and how fast the picture comes through DP or Type-C.</source>
         <translation>显示器的 USB 接口连到哪条线缆，以及 DP 或 Type-C 传输画面的速度。</translation>
     </message>
@@ -4074,6 +4398,10 @@
     <message>
         <source>Which socket the picture comes from. Auto = the one that has a signal.</source>
         <translation>画面来自哪个接口。“自动”选择有信号的接口。</translation>
+    </message>
+    <message>
+        <source>Which way round the light runs, as seen from behind.</source>
+        <translation>灯光转动的方向（从背后看）。</translation>
     </message>
     <message>
         <source>White</source>

@@ -176,6 +176,10 @@
         <translation>%1 · 通訊協定錯誤：%2 · 開啟的控制代碼：%3</translation>
     </message>
     <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
         <source>%1, %2</source>
         <translation>%1、%2</translation>
     </message>
@@ -340,6 +344,10 @@
         <translation>均衡的畫面，適合日常使用。</translation>
     </message>
     <message>
+        <source>A calm white on the wall, for long evenings at the screen.</source>
+        <translation>在牆上投射柔和的白光，適合夜間長時間看螢幕。</translation>
+    </message>
+    <message>
         <source>A circle, for what is in the middle.</source>
         <translation>圓形，適合位於中央的主體。</translation>
     </message>
@@ -348,8 +356,16 @@
         <translation>僅在顏色明顯變化時傳送，每秒最多一次。</translation>
     </message>
     <message>
+        <source>A colour that few games have themselves.</source>
+        <translation>遊戲畫面中少見的顏色。</translation>
+    </message>
+    <message>
         <source>A crosshair that takes the colour that stands out and opens while the picture moves.</source>
         <translation>準心會採用醒目的顏色，並在畫面移動時張開。</translation>
+    </message>
+    <message>
+        <source>A dark rim: the eye stays in the middle.</source>
+        <translation>邊緣較暗，視線停留在中央。</translation>
     </message>
     <message>
         <source>A diagonal and the lines that meet it: for pictures with a slant.</source>
@@ -364,8 +380,20 @@
         <translation>微弱的燈光，適合黑暗的房間。</translation>
     </message>
     <message>
+        <source>A light runs around the ring.</source>
+        <translation>一道光沿燈環流動。</translation>
+    </message>
+    <message>
         <source>A line of text that the matrix shows, standing or scrolling.</source>
         <translation>一行文字，在矩陣上靜止或捲動顯示。</translation>
+    </message>
+    <message>
+        <source>A little above the middle, as games need it that look over a shoulder.</source>
+        <translation>略高於中央，適合越肩視角的遊戲。</translation>
+    </message>
+    <message>
+        <source>A little below the middle, for a view that is tilted up.</source>
+        <translation>略低於中央，適合視角偏上的遊戲。</translation>
     </message>
     <message>
         <source>A little cooler than usual.</source>
@@ -392,12 +420,20 @@
         <translation>您自己的配色：用下方的滑桿設定紅、綠、藍。</translation>
     </message>
     <message>
+        <source>A point of light runs along the belt, like a bead.</source>
+        <translation>光點如珠子般沿燈帶滑過。</translation>
+    </message>
+    <message>
         <source>A protractor around the middle, to measure angles.</source>
         <translation>以螢幕中央為圓心的量角器，用來測量角度。</translation>
     </message>
     <message>
         <source>A quarter of the screen&apos;s width: hides least of the first input.</source>
         <translation>螢幕寬度的四分之一：遮住第一路輸入最少。</translation>
+    </message>
+    <message>
+        <source>A shade at the rim that is hardly noticed.</source>
+        <translation>邊緣略暗，幾乎察覺不到。</translation>
     </message>
     <message>
         <source>A sheet as large as you set it above.</source>
@@ -430,6 +466,10 @@
     <message>
         <source>A tone</source>
         <translation>單音</translation>
+    </message>
+    <message>
+        <source>A very dark rim, for games that play in the middle.</source>
+        <translation>邊緣很暗，適合集中在中央的遊戲。</translation>
     </message>
     <message>
         <source>A white behind the screen that spares the eyes. Warm in the evening, cold by day.</source>
@@ -504,8 +544,20 @@
         <translation>9 分格</translation>
     </message>
     <message>
+        <source>All colours at once, which turn around the ring.</source>
+        <translation>所有顏色同時出現，並沿燈環轉動。</translation>
+    </message>
+    <message>
         <source>All file (*.*)</source>
         <translation>所有檔案 (*.*)</translation>
+    </message>
+    <message>
+        <source>All lamps come and go slowly. The quietest effect.</source>
+        <translation>所有燈光緩緩明暗，是最平靜的燈效。</translation>
+    </message>
+    <message>
+        <source>All lamps follow sound or screen in one colour.</source>
+        <translation>所有燈光以同一顏色跟隨聲音或螢幕。</translation>
     </message>
     <message>
         <source>All shortcuts rest while the switch above is off.</source>
@@ -706,6 +758,10 @@
     <message>
         <source>Bright middle tones, for a bright room.</source>
         <translation>中間調較亮，適合明亮的房間。</translation>
+    </message>
+    <message>
+        <source>Bright on nearly everything but grass.</source>
+        <translation>除草地外，幾乎在任何背景上都明亮。</translation>
     </message>
     <message>
         <source>Bright parts shine when the signal has the range for it.</source>
@@ -920,6 +976,10 @@
         <translation>色溫</translation>
     </message>
     <message>
+        <source>Colour and brightness follow what this computer plays. For music.</source>
+        <translation>顏色和亮度隨電腦播放的聲音變化，適合音樂。</translation>
+    </message>
+    <message>
         <source>Combination to press</source>
         <translation>要按下的組合鍵</translation>
     </message>
@@ -948,12 +1008,24 @@
         <translation>逆時針</translation>
     </message>
     <message>
+        <source>Counts down from this. Take as long as you mean to play.</source>
+        <translation>從此時間開始倒數計時。請依打算遊玩的時間長短選擇。</translation>
+    </message>
+    <message>
         <source>Counts down in a corner, so that you notice how long you have played.</source>
         <translation>在螢幕一角倒數計時，提醒您已經玩了多久。</translation>
     </message>
     <message>
         <source>Counts up in a corner, to the time that you choose, and begins again.</source>
         <translation>在螢幕一角計時，到所選時間後重新開始。</translation>
+    </message>
+    <message>
+        <source>Counts up to this and begins again. Take the length of a round.</source>
+        <translation>計時到此時間後重新開始。請依一局的時間長短選擇。</translation>
+    </message>
+    <message>
+        <source>Covers least. For a screen that is near.</source>
+        <translation>遮擋最少，適合近距離的螢幕。</translation>
     </message>
     <message>
         <source>Cross</source>
@@ -1078,6 +1150,10 @@
     <message>
         <source>Darker black, for films and games.</source>
         <translation>黑色更深，適合電影和遊戲。</translation>
+    </message>
+    <message>
+        <source>Deep and high tones are stronger, as in a cinema.</source>
+        <translation>低音和高音更強，如同電影院。</translation>
     </message>
     <message>
         <source>Deep contrast for films.</source>
@@ -1332,6 +1408,14 @@
         <translation>峰值回落</translation>
     </message>
     <message>
+        <source>Far above the middle, for games that aim high on the screen.</source>
+        <translation>遠高於中央，適合瞄準點偏高的遊戲。</translation>
+    </message>
+    <message>
+        <source>Far below the middle, for games that aim low on the screen.</source>
+        <translation>遠低於中央，適合瞄準點偏低的遊戲。</translation>
+    </message>
+    <message>
         <source>Fast</source>
         <translation>快</translation>
     </message>
@@ -1384,6 +1468,26 @@
         <translation>情境跟隨設定</translation>
     </message>
     <message>
+        <source>For a laptop whose picture comes by its USB cable. Off if that socket only carries data and power.</source>
+        <translation>適合透過 USB 纜線傳輸畫面的筆記型電腦。若該連接埠只傳輸資料和供電，請關閉。</translation>
+    </message>
+    <message>
+        <source>For a player or a console that is to wake the monitor. Quick Boot cannot be on at the same time.</source>
+        <translation>讓播放器或遊戲機喚醒顯示器。不能與「快速啟動」同時開啟。</translation>
+    </message>
+    <message>
+        <source>For a screen that is left alone for long. Films and games move and are not dimmed.</source>
+        <translation>適合長時間無人操作的螢幕。電影和遊戲畫面在動，不會變暗。</translation>
+    </message>
+    <message>
+        <source>For a screen that is used for pictures and texts in turn. Leave it off while you judge colours.</source>
+        <translation>適合交替檢視圖片和文字的螢幕。需要判斷顏色時請關閉。</translation>
+    </message>
+    <message>
+        <source>For charging a telephone at the monitor, and for keyboard and mouse. Off saves power in standby.</source>
+        <translation>可在顯示器上為手機充電，並使用鍵盤和滑鼠。關閉可在待機時省電。</translation>
+    </message>
+    <message>
         <source>For code on a dark ground.</source>
         <translation>適合深色背景的程式碼。</translation>
     </message>
@@ -1396,12 +1500,40 @@
         <translation>適合傳送 0 至 255 的電腦。</translation>
     </message>
     <message>
+        <source>For fast games in which a crosshair that stands still gets lost.</source>
+        <translation>適合靜止準心容易看丟的快節奏遊戲。</translation>
+    </message>
+    <message>
         <source>For finding out why a monitor does not answer as it should.</source>
         <translation>協助查明顯示器為何沒有正常回應。</translation>
     </message>
     <message>
+        <source>For games in which every moment counts. For films and work leave it off.</source>
+        <translation>適合分秒必爭的遊戲。看電影或工作時請關閉。</translation>
+    </message>
+    <message>
+        <source>For games in which the middle decides. Maps and figures at the rim get darker too.</source>
+        <translation>適合勝負取決於畫面中央的遊戲。邊緣的地圖和數字也會變暗。</translation>
+    </message>
+    <message>
+        <source>For games that have no crosshair of their own, or one that is hard to see.</source>
+        <translation>適合沒有準心或準心不清楚的遊戲。</translation>
+    </message>
+    <message>
+        <source>For games with far targets. It covers a part of the picture.</source>
+        <translation>適合目標較遠的遊戲。會遮住一部分畫面。</translation>
+    </message>
+    <message>
+        <source>For games, whose pictures come now faster, now slower. The computer must have it switched on as well.</source>
+        <translation>適合畫面時快時慢的遊戲。電腦上也須開啟此功能。</translation>
+    </message>
+    <message>
         <source>For most games.</source>
         <translation>適合大多數遊戲。</translation>
+    </message>
+    <message>
+        <source>For placing windows, pictures or a drawing evenly around the middle.</source>
+        <translation>便於將視窗、圖片或圖形均勻地排在中央四周。</translation>
     </message>
     <message>
         <source>For players and consoles that send 16 to 235. With a computer black looks grey.</source>
@@ -1418,6 +1550,10 @@
     <message>
         <source>For wide landscapes; coarse.</source>
         <translation>適合開闊的場景，畫面較粗糙。</translation>
+    </message>
+    <message>
+        <source>Found at once, also from far away.</source>
+        <translation>從遠處也能立刻看到。</translation>
     </message>
     <message>
         <source>Four bytes of the next scene-mode block get lost</source>
@@ -1636,12 +1772,24 @@
         <translation>顯示器本身選單的顯示方式和位置。「無訊號計時器」設定無訊號多久後休眠。</translation>
     </message>
     <message>
+        <source>How bright the enlarged part is. Level3 = as the rest; higher ones show what is in the shade.</source>
+        <translation>放大部分的亮度。「等級 3」與其餘畫面相同，等級越高越能看清陰影中的細節。</translation>
+    </message>
+    <message>
         <source>How bright the lamp shines that tells that the monitor is on. Close = dark, Level3 = brightest.</source>
         <translation>顯示器開啟時指示燈的亮度。「等級 3」最亮。</translation>
     </message>
     <message>
         <source>How bright the middle tones are. The higher the value, the darker.</source>
         <translation>中間色調的亮度。數值越大，畫面越暗。</translation>
+    </message>
+    <message>
+        <source>How clear its edges are. Level3 = as they come; lower ones hide coarse dots, higher ones show outlines.</source>
+        <translation>放大部分邊緣的清晰度。「等級 3」保持原樣，較低的等級淡化顆粒，較高的等級突顯輪廓。</translation>
+    </message>
+    <message>
+        <source>How far light and dark are apart in it. Level3 = as the rest; higher ones help in fog and dust.</source>
+        <translation>放大部分的明暗差別。「等級 3」與其餘畫面相同，等級越高越適合霧和沙塵。</translation>
     </message>
     <message>
         <source>How long the monitor waits without a signal before it sleeps.</source>
@@ -1708,6 +1856,14 @@
         <translation>ISP</translation>
     </message>
     <message>
+        <source>If you switch the monitor on several times a day. CEC cannot be on at the same time.</source>
+        <translation>適合每天多次開啟顯示器。不能與 CEC 同時開啟。</translation>
+    </message>
+    <message>
+        <source>If you turn the screen now and then: the monitor&apos;s menu turns with it.</source>
+        <translation>適合偶爾旋轉螢幕：顯示器選單會隨之旋轉。</translation>
+    </message>
+    <message>
         <source>Image sticking protection: clears what a picture leaves behind as soon as it is gone.</source>
         <translation>殘影防護：畫面消失後立即清除其殘留。</translation>
     </message>
@@ -1718,6 +1874,10 @@
     <message>
         <source>Import Animate</source>
         <translation>匯入動畫</translation>
+    </message>
+    <message>
+        <source>In the very middle, where most games aim.</source>
+        <translation>正中央，大多數遊戲的瞄準點。</translation>
     </message>
     <message>
         <source>Information</source>
@@ -1856,6 +2016,10 @@
         <translation>版面配置</translation>
     </message>
     <message>
+        <source>Leave it on, unless you see the clearing itself as a flicker when windows close.</source>
+        <translation>建議保持開啟，除非關閉視窗時您會看到清除造成的閃爍。</translation>
+    </message>
+    <message>
         <source>Leaves the target free but for its very middle.</source>
         <translation>除正中心外不遮擋目標。</translation>
     </message>
@@ -1878,6 +2042,10 @@
     <message>
         <source>Level1</source>
         <translation>等級 1</translation>
+    </message>
+    <message>
+        <source>Level1 follows great changes only, for a quiet room; Level5 also small ones.</source>
+        <translation>「等級 1」只跟隨大的變化，適合安靜的房間；「等級 5」也跟隨小的變化。</translation>
     </message>
     <message>
         <source>Level2</source>
@@ -1954,6 +2122,10 @@
     <message>
         <source>Light Timer</source>
         <translation>燈光定時</translation>
+    </message>
+    <message>
+        <source>Light and dark follow each other around the ring.</source>
+        <translation>明暗沿燈環交替流動。</translation>
     </message>
     <message>
         <source>Light in Standby</source>
@@ -2412,6 +2584,10 @@
         <translation>不會變暗。</translation>
     </message>
     <message>
+        <source>Nothing is drawn over the picture.</source>
+        <translation>畫面上不疊加任何內容。</translation>
+    </message>
+    <message>
         <source>Nothing is followed but in one of the two rhythm modes.</source>
         <translation>僅在兩種律動模式下才會跟隨。</translation>
     </message>
@@ -2478,6 +2654,14 @@
     <message>
         <source>On-screen menu</source>
         <translation>螢幕選單</translation>
+    </message>
+    <message>
+        <source>One colour melts into the next. Off = it changes at once.</source>
+        <translation>顏色逐漸過渡到下一種。關閉 = 立即變換。</translation>
+    </message>
+    <message>
+        <source>One colour that stands still. Calm enough for work.</source>
+        <translation>固定的單色燈光，平靜，適合工作。</translation>
     </message>
     <message>
         <source>One input fills the screen.</source>
@@ -2714,6 +2898,10 @@
     <message>
         <source>Quick Boot</source>
         <translation>快速啟動</translation>
+    </message>
+    <message>
+        <source>Quiet: seen best on snow and bright walls.</source>
+        <translation>不張揚：在雪地和明亮的牆面上最醒目。</translation>
     </message>
     <message>
         <source>R</source>
@@ -3004,6 +3192,22 @@
         <translation>分類</translation>
     </message>
     <message>
+        <source>Seen best in dark scenes.</source>
+        <translation>在昏暗的場景中最醒目。</translation>
+    </message>
+    <message>
+        <source>Seen best in the dark and on blue.</source>
+        <translation>在黑暗中和藍色上最醒目。</translation>
+    </message>
+    <message>
+        <source>Seen best on green and grey, as in woods and towns.</source>
+        <translation>在綠色和灰色上最醒目，例如樹林和城市。</translation>
+    </message>
+    <message>
+        <source>Seen best on sand, fire and rust.</source>
+        <translation>在沙地、火焰和鏽色上最醒目。</translation>
+    </message>
+    <message>
         <source>Select All</source>
         <translation>全選</translation>
     </message>
@@ -3068,6 +3272,10 @@
         <translation>銳利度</translation>
     </message>
     <message>
+        <source>Short flashes. Not for people who do not bear flashing light.</source>
+        <translation>短促的閃光。對閃光敏感者請勿使用。</translation>
+    </message>
+    <message>
         <source>Shortcut Key</source>
         <translation>快速鍵</translation>
     </message>
@@ -3120,8 +3328,16 @@
         <translation>無聲</translation>
     </message>
     <message>
+        <source>Silences the monitor for a while; the volume stays as it is set.</source>
+        <translation>讓顯示器暫時靜音，音量設定保持不變。</translation>
+    </message>
+    <message>
         <source>Simulated monitor</source>
         <translation>模擬顯示器</translation>
+    </message>
+    <message>
+        <source>Single points light up here and there.</source>
+        <translation>光點此起彼落地亮起。</translation>
     </message>
     <message>
         <source>Size</source>
@@ -3260,8 +3476,24 @@
         <translation>開啟這一列的開關後才能變更按鍵。</translation>
     </message>
     <message>
+        <source>Switched off.</source>
+        <translation>已關閉。</translation>
+    </message>
+    <message>
+        <source>Switched on.</source>
+        <translation>已開啟。</translation>
+    </message>
+    <message>
         <source>System Settings</source>
         <translation>系統設定</translation>
+    </message>
+    <message>
+        <source>Take one that goes with the wall: light on a coloured wall looks different.</source>
+        <translation>請依牆面選擇：燈光照在有色的牆上會有不同的效果。</translation>
+    </message>
+    <message>
+        <source>Take the corner in which nothing stands that you need.</source>
+        <translation>請選擇沒有所需內容的角落。</translation>
     </message>
     <message>
         <source>Taken by another</source>
@@ -3340,6 +3572,14 @@
         <translation>下一次讀取收不到回應</translation>
     </message>
     <message>
+        <source>The belt stands still in its colour.</source>
+        <translation>燈帶保持自己的顏色，靜止不動。</translation>
+    </message>
+    <message>
+        <source>The brightest light, for a bright room.</source>
+        <translation>最亮的燈光，適合明亮的房間。</translation>
+    </message>
+    <message>
         <source>The brightest light, seen across a bright room.</source>
         <translation>最亮的燈光，在明亮的房間裡也看得到。</translation>
     </message>
@@ -3354,6 +3594,26 @@
     <message>
         <source>The cable is pulled out until the button is released</source>
         <translation>纜線保持拔出，直到放開按鈕</translation>
+    </message>
+    <message>
+        <source>The colour of the belt along the lower edge. Auto = runs through all colours.</source>
+        <translation>底邊燈帶的顏色。自動 = 依序變換所有顏色。</translation>
+    </message>
+    <message>
+        <source>The colour of the belt at the back of the foot.</source>
+        <translation>底座後側燈帶的顏色。</translation>
+    </message>
+    <message>
+        <source>The colour of the belt at the front of the foot.</source>
+        <translation>底座前側燈帶的顏色。</translation>
+    </message>
+    <message>
+        <source>The colour of the light on the desk. White is best for reading and writing.</source>
+        <translation>桌面燈光的顏色。白色最適合讀寫。</translation>
+    </message>
+    <message>
+        <source>The colour of the light on the wall behind the screen.</source>
+        <translation>螢幕後牆面燈光的顏色。</translation>
     </message>
     <message>
         <source>The colour of the steady light and of the effects. Auto = runs through all colours.</source>
@@ -3424,6 +3684,14 @@
         <translation>指示燈不亮，只有畫面表示顯示器已開啟。</translation>
     </message>
     <message>
+        <source>The lamps behind the screen are dark.</source>
+        <translation>螢幕背後的燈不亮。</translation>
+    </message>
+    <message>
+        <source>The lamps take the colours of the picture&apos;s edges. For films and games.</source>
+        <translation>燈光採用畫面邊緣的顏色，適合電影和遊戲。</translation>
+    </message>
+    <message>
         <source>The language of the monitor&apos;s own menu, not of this tool.</source>
         <translation>顯示器本身選單的語言，而不是本工具的語言。</translation>
     </message>
@@ -3432,8 +3700,32 @@
         <translation>版面中沒有這個區域。</translation>
     </message>
     <message>
+        <source>The left and the right half follow each its own side. For films.</source>
+        <translation>左右兩半各自跟隨自己的一側，適合看電影。</translation>
+    </message>
+    <message>
         <source>The light behind the picture is even. Best for text.</source>
         <translation>背光均勻，最適合閱讀文字。</translation>
+    </message>
+    <message>
+        <source>The light flows along the belt.</source>
+        <translation>燈光沿燈帶流動。</translation>
+    </message>
+    <message>
+        <source>The light moves by itself. For games and guests.</source>
+        <translation>燈光自動變化，適合遊戲和聚會。</translation>
+    </message>
+    <message>
+        <source>The lighting goes out and comes back with the screen.</source>
+        <translation>燈光隨螢幕一同熄滅和亮起。</translation>
+    </message>
+    <message>
+        <source>The lighting goes out by itself after this time. Close = it stays on.</source>
+        <translation>燈光在此時間後自動熄滅。關閉 = 一直亮著。</translation>
+    </message>
+    <message>
+        <source>The lighting stays on while the monitor sleeps, as a light for the night.</source>
+        <translation>顯示器待機時燈光保持亮起，可作夜燈。</translation>
     </message>
     <message>
         <source>The maker&apos;s own tuning.</source>
@@ -3624,6 +3916,10 @@
         <translation>自動使用有訊號的連接埠，適合一台電腦或每次一台。</translation>
     </message>
     <message>
+        <source>The sound as it comes, for music and all else.</source>
+        <translation>保持原聲，適合音樂及其他內容。</translation>
+    </message>
+    <message>
         <source>The sound of the monitor. Audio Mute: Close = sound, Open = silence. Convo = for voices.</source>
         <translation>顯示器的聲音。「靜音」開啟時沒有聲音，「對話」適合人聲。</translation>
     </message>
@@ -3682,6 +3978,14 @@
     <message>
         <source>The white of printed paper.</source>
         <translation>印刷紙張的白色。</translation>
+    </message>
+    <message>
+        <source>The whole belt comes and goes slowly.</source>
+        <translation>整條燈帶緩緩明暗。</translation>
+    </message>
+    <message>
+        <source>The whole belt flashes. Hard to bear beside work.</source>
+        <translation>整條燈帶閃爍，不適合工作時使用。</translation>
     </message>
     <message>
         <source>The window cannot be resized.</source>
@@ -3784,8 +4088,20 @@
         <translation>定時</translation>
     </message>
     <message>
+        <source>To know how long a round has gone on without looking away.</source>
+        <translation>視線不離畫面，即可了解一局已進行多久。</translation>
+    </message>
+    <message>
         <source>To see how the reminder looks.</source>
         <translation>用於查看提醒的樣子。</translation>
+    </message>
+    <message>
+        <source>To see whether a game runs as smoothly as the monitor could show it.</source>
+        <translation>檢視遊戲是否達到顯示器所能呈現的流暢度。</translation>
+    </message>
+    <message>
+        <source>To stop in time.</source>
+        <translation>提醒您適時停止。</translation>
     </message>
     <message>
         <source>Today&apos;s automatic changes of this monitor are used up (%1). They go on tomorrow; what you set yourself is not limited.</source>
@@ -3984,6 +4300,10 @@
         <translation>色彩鮮豔，適合動畫。</translation>
     </message>
     <message>
+        <source>Voices come forward, for talks and conferences.</source>
+        <translation>突顯人聲，適合通話和會議。</translation>
+    </message>
+    <message>
         <source>Volume</source>
         <translation>音量</translation>
     </message>
@@ -4056,6 +4376,10 @@
         <translation>燈光何時自動熄滅，以及待機時是否保持亮燈。</translation>
     </message>
     <message>
+        <source>Where others pass by, or a hand easily touches the monitor&apos;s buttons.</source>
+        <translation>適合有他人經過，或容易誤觸顯示器按鍵的場合。</translation>
+    </message>
+    <message>
         <source>Which cable the monitor&apos;s USB sockets go to, and how fast the picture comes through DP or Type-C.</source>
         <translation>顯示器的 USB 連接埠連到哪條纜線，以及 DP 或 Type-C 傳輸畫面的速度。</translation>
     </message>
@@ -4074,6 +4398,10 @@
     <message>
         <source>Which socket the picture comes from. Auto = the one that has a signal.</source>
         <translation>畫面來自哪個連接埠。「自動」選擇有訊號的連接埠。</translation>
+    </message>
+    <message>
+        <source>Which way round the light runs, as seen from behind.</source>
+        <translation>燈光轉動的方向（從背後看）。</translation>
     </message>
     <message>
         <source>White</source>

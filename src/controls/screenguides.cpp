@@ -1,8 +1,12 @@
 #include "controls/screenguides.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
+#include <QFont>
+#include <QFontMetrics>
+#include <QObject>
 #include <QPainter>
 #include <QRectF>
 
@@ -17,6 +21,9 @@ constexpr QRgb kWall = 0xff18242e;
 constexpr QRgb kWindow = 0xffe8ebe8;
 constexpr QRgb kWriting = 0xffb9bfbb;
 constexpr QRgb kSymbol = 0xff2a3a46;
+
+constexpr int kLabelPixels = 13;
+constexpr int kLabelHeight = 20;
 
 void drawCentred(QPainter &painter, const QRectF &screen, QRectF rect)
 {
@@ -45,9 +52,31 @@ void drawDesktop(QPainter &painter, const QRectF &screen)
     }
 }
 
-void drawSheet(QPainter &painter, const QRectF &screen, const QSizeF &millimetres)
+/// On a plate below a thing; in its lower edge where the screen ends.
+void drawLabel(QPainter &painter, const QRectF &screen, const QRectF &thing, const QString &text)
 {
-    drawCentred(painter, screen, QRectF(QPointF(), millimetres * (screen.height() / kScreenHeight)));
+    QFont font = painter.font();
+    font.setPixelSize(kLabelPixels);
+    QRectF plate(0, 0, QFontMetrics(font).horizontalAdvance(text) + 16, kLabelHeight);
+    plate.moveCenter(QPointF(thing.center().x(), 0));
+    plate.moveTop(std::min(thing.bottom(), screen.bottom() - kLabelHeight));
+    painter.save();
+    const QPen pen = painter.pen();
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0, 0, 0, 170));
+    painter.drawRoundedRect(plate.adjusted(0, 1, 0, -1), 4, 4);
+    painter.setFont(font);
+    painter.setPen(pen.color());
+    painter.drawText(plate, Qt::AlignCenter, text);
+    painter.restore();
+}
+
+void drawSheet(QPainter &painter, const QRectF &screen, const QSize &millimetres)
+{
+    QRectF sheet(QPointF(), QSizeF(millimetres) * (screen.height() / kScreenHeight));
+    sheet.moveCenter(screen.center());
+    painter.drawRect(sheet);
+    drawLabel(painter, screen, sheet, QObject::tr("%1 × %2 mm").arg(millimetres.width()).arg(millimetres.height()));
 }
 
 void drawGrid(QPainter &painter, const QRectF &screen, int columns, int rows)

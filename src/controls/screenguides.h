@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QSizeF>
+#include <QSize>
 
 class QPainter;
 class QRectF;
@@ -11,8 +11,9 @@ namespace screenguides {
 /// A desktop with a document, for things to be laid over.
 void drawDesktop(QPainter &painter, const QRectF &screen);
 
-/// The outline of a sheet in the middle of the screen, in millimetres of a screen that is 340 mm high.
-void drawSheet(QPainter &painter, const QRectF &screen, const QSizeF &millimetres);
+/// The outline of a sheet in the middle of the screen, in millimetres of a screen that is 340 mm high, and below it how
+/// large it is.
+void drawSheet(QPainter &painter, const QRectF &screen, const QSize &millimetres);
 
 /// Lines that divide the screen into columns and rows of one size.
 void drawGrid(QPainter &painter, const QRectF &screen, int columns, int rows);

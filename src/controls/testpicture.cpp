@@ -46,6 +46,28 @@ Channel channel(const PictureLook &look, double gain)
     return values;
 }
 
+/// A tower far away in the middle of the picture, with somebody beside it: small things that a setting may bring out.
+void drawTower(QPainter &painter, const QRectF &all)
+{
+    constexpr QRgb kStone = 0xffe3d3b0, kRoof = 0xff44566e, kDark = 0xff1c2a30;
+    painter.save();
+    painter.translate(all.center());
+    const double unit = all.height() / 100;
+    painter.scale(unit, unit);
+    painter.fillRect(QRectF(-2, -3, 4, 9), QColor(kStone));
+    for (const QRectF &opening : {QRectF(-0.8, -1.5, 1.6, 2), QRectF(-0.9, 3, 1.8, 3)})
+        painter.fillRect(opening, QColor(kDark));
+    painter.setBrush(QColor(kRoof));
+    painter.drawPolygon(QPolygonF{QPointF(-3, -3), {0, -6.5}, {3, -3}});
+    painter.fillRect(QRectF(-0.2, -9.6, 0.4, 3.4), QColor(kDark));
+    painter.setBrush(QColor(kCard[1]));
+    painter.drawPolygon(QPolygonF{QPointF(0.2, -9.6), {3, -8.7}, {0.2, -7.8}});
+    painter.setBrush(QColor(kDark));
+    painter.drawEllipse(QPointF(4.4, 3.6), 0.6, 0.6);
+    painter.drawRoundedRect(QRectF(3.8, 4.3, 1.2, 2), 0.4, 0.4);
+    painter.restore();
+}
+
 QImage landscape(const QSize &size)
 {
     QImage image(size, QImage::Format_RGB32);
@@ -68,6 +90,7 @@ QImage landscape(const QSize &size)
         painter.setBrush(QColor(hill.colour));
         painter.drawPolygon(shape);
     }
+    drawTower(painter, all);
     const double side = all.height() * 0.09;
     for (std::size_t i = 0; i < std::size(kCard); ++i)
         painter.fillRect(QRectF(side * (0.6 + 1.15 * double(i)), all.height() - 1.6 * side, side, side),

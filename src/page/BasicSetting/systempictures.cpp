@@ -1,14 +1,17 @@
 #include "page/BasicSetting/systempictures.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include <QObject>
 #include <QPainter>
+#include <QPolygonF>
 #include <QRadialGradient>
 
 #include "controls/palette.h"
 #include "controls/screenguides.h"
 #include "controls/testpicture.h"
+#include "page/BasicSetting/systemtable.h"
 
 namespace systempictures {
 
@@ -114,8 +117,76 @@ void paintMenuLock(QPainter &painter, const QRectF &screen, const PictureValues 
     painter.drawRoundedRect(QRectF(middle.x() - 19, middle.y() - 12, 38, 30), 4, 4);
 }
 
+/// The menu speaks: its language's own name stands in it.
+void paintLanguage(QPainter &painter, const QRectF &screen, const PictureValues &values)
+{
+    screenguides::drawDesktop(painter, screen);
+    QRectF menu(0, 0, screen.width() * 0.5, screen.height() * 0.56);
+    menu.moveCenter(screen.center());
+    drawMenu(painter, menu, 1);
+    const QRectF line(menu.left() + 12, menu.top() + menu.height() * 0.25, menu.width() - 24, menu.height() * 0.2);
+    painter.fillRect(line, QColor(Palette::kMint));
+    painter.setPen(QColor(Palette::kInk));
+    painter.drawText(line.adjusted(10, 0, -10, 0), Qt::AlignLeft | Qt::AlignVCenter,
+                     QString::fromUtf8(osdLanguageName(values(Command::OsdLanguage, 0))));
+}
+
+/// The loudspeaker, with waves as far as it is heard, and a stroke through it while it is not.
+void drawSpeaker(QPainter &painter, const QRectF &place, int waves, bool isMute)
+{
+    const double unit = place.height() / 8;
+    const QPointF middle = place.center();
+    const QColor colour(isMute ? Palette::kEdge : Palette::kMint);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colour);
+    painter.drawRect(QRectF(middle.x() - 3.5 * unit, middle.y() - unit, 1.5 * unit, 2 * unit));
+    painter.drawPolygon(QPolygonF{middle + QPointF(-2.2, -1) * unit, middle + QPointF(0, -2.6) * unit,
+                                  middle + QPointF(0, 2.6) * unit, middle + QPointF(-2.2, 1) * unit});
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(colour, unit * 0.55, Qt::SolidLine, Qt::RoundCap));
+    for (int wave = 1; wave <= waves && !isMute; ++wave) {
+        const double radius = (0.6 + wave) * unit;
+        painter.drawArc(QRectF(middle.x() - radius, middle.y() - radius, 2 * radius, 2 * radius), -45 * 16, 90 * 16);
+    }
+    if (isMute)
+        painter.drawLine(middle + QPointF(-4, 3) * unit, middle + QPointF(2, -3) * unit);
+}
+
+/// How much of each tone is heard, from low to high, by the sound's mode.
+double toneLevel(int mode, double tone)
+{
+    const double fromMiddle = std::abs(tone - 0.5) * 2;
+    if (mode == 1) // a film has its thunder and its glass
+        return 0.45 + 0.5 * fromMiddle * fromMiddle;
+    return mode == 2 ? 0.95 - 0.8 * fromMiddle : 0.62; // voices lie in the middle
+}
+
+void paintAudio(QPainter &painter, const QRectF &screen, const PictureValues &values)
+{
+    painter.fillRect(screen, QColor(0xff111715));
+    const bool isMute = values.is(Command::AudioMute, 1);
+    const double volume = values(Command::AudioVolume, 50) / 100.0;
+    const double unit = screen.height() / 16;
+    drawSpeaker(painter, QRectF(screen.left(), screen.top() + 4 * unit, 9 * unit, 8 * unit),
+                static_cast<int>(std::ceil(volume * 3)), isMute);
+    constexpr int kTones = 14;
+    const double step = (screen.width() - 11 * unit) / kTones;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(isMute ? Palette::kRestingEdge : Palette::kMint));
+    for (int tone = 0; tone < kTones; ++tone) {
+        const double swing = 0.8 + 0.2 * std::sin(tone * 2.4); // as sound is
+        const double level = isMute ? 0 : toneLevel(values(Command::AudioMode, 0), tone / (kTones - 1.0)) * volume;
+        const double height = std::max(4.0, 12 * unit * level * swing);
+        painter.drawRoundedRect(
+            QRectF(screen.left() + 9.5 * unit + step * tone, screen.bottom() - 2 * unit - height, step * 0.6, height),
+            2, 2);
+    }
+}
+
 } // namespace
 
+const PanelPicture kAudio{paintAudio};
+const PanelPicture kLanguage{paintLanguage};
 const PanelPicture kOsd{paintOsd};
 const PanelPicture kPowerSaving{paintPowerSaving};
 const PanelPicture kPowerLed{paintPowerLed};

@@ -5,6 +5,6 @@
 // What the monitor's own settings look like.
 namespace systempictures {
 
-extern const PanelPicture kOsd, kPowerSaving, kPowerLed, kGravity, kMenuLock;
+extern const PanelPicture kAudio, kLanguage, kOsd, kPowerSaving, kPowerLed, kGravity, kMenuLock;
 
 } // namespace systempictures

@@ -1,5 +1,8 @@
 #include "page/BasicSetting/systemtable.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "controls/metrics.h"
 #include "page/BasicSetting/systempictures.h"
 #include "page/engine/commandrows.h"
@@ -34,7 +37,15 @@ const SliderSpec kOsd[] = {
     sliderOf(Command::NoSignalTimer, 0, 100, SendOn::Move, kNoSignalTimerHelp),
 };
 const SliderSpec kVolume[] = {sliderOf(Command::AudioVolume, 0, 100)};
-constexpr Option kAudioMode[] = {{LABEL("Standard"), 0}, {LABEL("Movie"), 1}, {LABEL("Convo"), 2}};
+constexpr Option kAudioMode[] = {{LABEL("Standard"), 0, LABEL("The sound as it comes, for music and all else.")},
+                                 {LABEL("Movie"), 1, LABEL("Deep and high tones are stronger, as in a cinema.")},
+                                 {LABEL("Convo"), 2, LABEL("Voices come forward, for talks and conferences.")}};
+
+// When to switch them on.
+constexpr char kAudioMuteWhen[] = LABEL("Silences the monitor for a while; the volume stays as it is set.");
+constexpr char kGravitySensorWhen[] = LABEL("If you turn the screen now and then: the monitor's menu turns with it.");
+constexpr char kMenuLockWhen[] = LABEL("Where others pass by, or a hand easily touches the monitor's buttons.");
+
 constexpr Option kPowerSaving[] = {{LABEL("Close"), 0, LABEL("As bright as you set it.")},
                                    {LABEL("Level1"), 1, LABEL("A little darker, and a little cheaper.")},
                                    {LABEL("Level2"), 2, LABEL("Clearly darker: for texts, not for pictures.")}};
@@ -77,30 +88,43 @@ constexpr Option kLanguages[] = {
 const Section kOutputRange[] = {groupOf(Command::OutputRange, kOutputRangeOptions)};
 const Section kOsdSetting[] = {SliderGrid{nullptr, 1, kCaption, kOsd}};
 const Section kPowerSavingPanel[] = {groupOf(Command::PowerSaving, kPowerSaving)};
-const Section kAudioSettings[] = {SliderGrid{nullptr, 1, kCaption, kVolume}, switchOf(Command::AudioMute, kCloseOpen),
+const Section kAudioSettings[] = {SliderGrid{nullptr, 1, kCaption, kVolume},
+                                  switchOf(Command::AudioMute, kCloseOpen, kAudioMuteWhen),
                                   groupOf(Command::AudioMode, kAudioMode)};
 const Section kPowerLedPanel[] = {groupOf(Command::PowerLed, kPowerLed)};
-const Section kGravitySensor[] = {switchOf(Command::GravitySensor, kCloseOpen)};
+const Section kGravitySensor[] = {switchOf(Command::GravitySensor, kCloseOpen, kGravitySensorWhen)};
 const Section kResetFactory[] = {CustomPart{kResetPart}};
 const Section kOsdLanguage[] = {groupOf(Command::OsdLanguage, kLanguages)};
-const Section kMenuLock[] = {switchOf(Command::MenuLock)};
+const Section kMenuLock[] = {switchOf(Command::MenuLock, kSwitchOptions, kMenuLockWhen)};
 
 const PanelSpec kPanels[] = {
     panelOf(Command::OutputRange, "output_range", "pageOutputRange", kOutputRange, kRangeHelp, &commonpictures::kRange),
     {LABEL("OSD Setting"), "osd_setting", "pageOSDSetting", kOsdSetting, {}, kOSDSettingHelp, &systempictures::kOsd},
     panelOf(Command::PowerSaving, "power_saving", "pagePowerSaving", kPowerSavingPanel, kPowerSavingHelp,
             &systempictures::kPowerSaving),
-    {LABEL("Audio Settings"), "audio_settings", "pageAduioSettings", kAudioSettings, {}, kAudioSettingsHelp}, // spelled
-                                                                                                              // so
+    {LABEL("Audio Settings"),
+     "audio_settings",
+     "pageAduioSettings", // spelled so
+     kAudioSettings,
+     {},
+     kAudioSettingsHelp,
+     &systempictures::kAudio},
     panelOf(Command::PowerLed, "power_led", "pagePowerLED", kPowerLedPanel, kPowerLEDHelp, &systempictures::kPowerLed),
     panelOf(Command::GravitySensor, "gravity_sensor", "pageGravitySensor", kGravitySensor, kGravitySensorHelp,
             &systempictures::kGravity),
     panelOf(Command::ResetFactory, "reset_factory", "pageRestFactorySettings", kResetFactory, kResetFactoryHelp),
-    panelOf(Command::OsdLanguage, "osd_language", "pageLanguage", kOsdLanguage, kLanguageHelp),
+    panelOf(Command::OsdLanguage, "osd_language", "pageLanguage", kOsdLanguage, kLanguageHelp,
+            &systempictures::kLanguage),
     panelOf(Command::MenuLock, "menu_lock", "pageMenuLock", kMenuLock, kMenuLockHelp, &systempictures::kMenuLock),
 };
 
 } // namespace
+
+const char *osdLanguageName(int value)
+{
+    const auto *found = std::ranges::find(kLanguages, value, &Option::value);
+    return found == std::end(kLanguages) ? "" : found->label;
+}
 
 std::span<const PanelSpec> systemPanels()
 {

@@ -12,7 +12,8 @@
 namespace {
 
 constexpr double kShape = 16.0 / 9;
-constexpr int kGlowScale = 8; // light has no edges: it is drawn small
+constexpr double kWhole = 1.24; // from the upper edge to the foot, in heights of the back
+constexpr int kGlowScale = 8;   // light has no edges: it is drawn small
 constexpr double kRadius = 14;
 constexpr QRgb kWall = 0xff0a0e0c, kBack = 0xff1a211e, kBackEnd = 0xff131916, kStand = 0xff2b3631;
 
@@ -24,9 +25,10 @@ struct Stage
 
     explicit Stage(const QRect &area) : room(area)
     {
-        const double height = std::min(room.height() * 0.66, room.width() * 0.62 / kShape);
+        const double height = std::min(room.height() * 0.66, room.width() * 0.74 / kShape);
+        const double top = std::max(room.height() * 0.12, (room.height() - kWhole * height) / 2);
         back = QRectF(0, 0, height * kShape, height);
-        back.moveCenter({room.center().x(), room.top() + room.height() * 0.12 + height / 2});
+        back.moveCenter({room.center().x(), room.top() + top + height / 2});
         const double across = height * 0.46;
         ring = QRectF(0, 0, across, across);
         ring.moveCenter(back.center() - QPointF(0, height * 0.04));

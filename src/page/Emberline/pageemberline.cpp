@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <span>
 
 #include <QHBoxLayout>
 
@@ -18,6 +19,7 @@
 #include "page/Emberline/rhythmlight.h"
 #include "page/engine/labels.h"
 #include "page/engine/optiongrouprow.h"
+#include "page/engine/optionwords.h"
 
 namespace {
 
@@ -53,15 +55,25 @@ QWidget *pageEmberline::buildPart(const char *name)
     return qstrcmp(name, kTemperatureEndsPart) == 0 ? buildTemperatureEnds() : buildView();
 }
 
+/// The lamps, and beside them what the options above them do.
 QWidget *pageEmberline::buildView()
 {
-    auto *view = new LightView(this);
+    auto *stage = new QWidget(this);
+    auto *view = new LightView(stage);
     texts().bind(LABEL("The monitor from behind, with its lamps"),
                  [view](const QString &text) { view->setAccessibleName(text); });
     view->setLook(lightLook(deviceState));
     m_views.push_back(view);
-    followPointing(); // of what stands above it
-    return view;
+    const auto above = std::span(optionGroups()).subspan(m_followed);
+    auto *words = new OptionWords({above.begin(), above.end()}, OptionWords::Shape::Column, stage);
+    keepFresh(words);
+    followPointing();
+    auto *row = new QHBoxLayout(stage);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(metrics::kBlockGap);
+    row->addWidget(view, 3);
+    row->addWidget(words, 1);
+    return stage;
 }
 
 QWidget *pageEmberline::buildOwnColor()

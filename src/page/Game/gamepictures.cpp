@@ -80,6 +80,27 @@ double level(const PictureValues &values, Command command)
     return 0.3 + 0.1 * values(command, 2);
 }
 
+/// With edges that stand out the more, the higher the amount; below 0 with softer ones.
+QImage sharpened(const QImage &image, double amount)
+{
+    const QImage soft = image.scaled(image.size() / 3, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                            .scaled(image.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    QImage result(image.size(), QImage::Format_RGB32);
+    const auto mix = [amount](int is, int isSoft) {
+        return std::clamp(is + static_cast<int>(std::lround(amount * (is - isSoft))), 0, 255);
+    };
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb is = image.pixel(x, y);
+            const QRgb isSoft = soft.pixel(x, y);
+            result.setPixel(
+                x, y,
+                qRgb(mix(qRed(is), qRed(isSoft)), mix(qGreen(is), qGreen(isSoft)), mix(qBlue(is), qBlue(isSoft))));
+        }
+    }
+    return result;
+}
+
 void paintHawkEye(QPainter &painter, const QRectF &screen, const PictureValues &values)
 {
     drawGame(painter, screen);
@@ -91,14 +112,10 @@ void paintHawkEye(QPainter &painter, const QRectF &screen, const PictureValues &
                                                               .contrast = level(values, Command::HawkEyeContrast)});
     QRectF lens(0, 0, screen.height() * 0.5, screen.height() * 0.5);
     lens.moveCenter(screen.center());
-    painter.save();
-    painter.setClipRect(lens);
-    painter.translate(screen.center());
-    painter.scale(zoom, zoom);
-    // Sharper means that what is enlarged is not smoothed.
-    painter.setRenderHint(QPainter::SmoothPixmapTransform, values(Command::HawkEyeSharpness, 2) < 3);
-    painter.drawImage(-QPointF(image.width() / 2.0, image.height() / 2.0), image);
-    painter.restore();
+    QRect seen(QPoint(), (lens.size() / zoom).toSize());
+    seen.moveCenter(image.rect().center());
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(lens, sharpened(image.copy(seen), 0.6 * (values(Command::HawkEyeSharpness, 2) - 2)));
     painter.setPen(QPen(QColor(255, 255, 255, 170), 1));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(lens);

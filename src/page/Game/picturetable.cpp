@@ -17,6 +17,10 @@ constexpr char kHDRHelp[] =
 constexpr char kAdaptiveSyncHelp[] =
     LABEL("The monitor keeps pace with the game: no torn or jerky pictures. Game Rush must be off.");
 
+// When to switch it on.
+constexpr char kAdaptiveSyncWhen[] =
+    LABEL("For games, whose pictures come now faster, now slower. The computer must have it switched on as well.");
+
 constexpr int kCaption = metrics::kCaptionWidth;
 
 // The switches of the motion function and of local dimming always send 0, although the option "Close" of the same
@@ -43,13 +47,14 @@ constexpr SliderSpec kSuperResolution[] = {
     {"SR", LABEL("SR"), Command::SuperResolution, 0, 5, SendOn::ReleaseWithStore}};
 const SliderSpec kHaloControl[] = {sliderOf(Command::HaloControl, 0, 100, SendOn::ReleaseWithStore)};
 
-constexpr OptionGroup makeSwitch(const char *label, Command command, std::span<const Option> halves = kSwitchOptions)
+constexpr OptionGroup makeSwitch(const char *label, Command command, std::span<const Option> halves,
+                                 const char *help = nullptr)
 {
-    return {label, command, halves, {}, GroupLook::Switch};
+    return {label, command, halves, {}, GroupLook::Switch, help};
 }
 
 // Its panel, unlike its value in the list of all, is there for every monitor that has this page.
-const Section kGameRush[] = {makeSwitch(LABEL("Game Rush"), Command::GameRush)};
+const Section kGameRush[] = {makeSwitch(LABEL("Game Rush"), Command::GameRush, kSwitchOptions, kGameRushWhen)};
 const Section kDyds[] = {makeSwitch(LABEL("DyDs"), Command::MotionTech, kAlwaysOff),
                          OptionGroup{LABEL("DyDs"), Command::MotionTech, kMotionOptions}};
 const Section kMpcs[] = {makeSwitch(LABEL("MPCS"), Command::MotionTech, kAlwaysOff),
@@ -64,7 +69,7 @@ const Section kSuperResolutionPanel[] = {SliderGrid{nullptr, 1, kCaption, kSuper
 const Section kLocalDimmingPanel[] = {switchOf(Command::LocalDimming, kAlwaysOff),
                                       groupOf(Command::LocalDimming, kLocalDimming)};
 const Section kHaloControlPanel[] = {SliderGrid{nullptr, 1, kCaption, kHaloControl}};
-const Section kAdaptiveSync[] = {switchOf(Command::AdaptiveSync)};
+const Section kAdaptiveSync[] = {switchOf(Command::AdaptiveSync, kSwitchOptions, kAdaptiveSyncWhen)};
 
 // The motion function has another name where it is another one.
 const PanelSpec kPanels[] = {

@@ -1,11 +1,14 @@
 #include "page/IO/pageiosetting.h"
-#include "controls/palette.h"
-#include "ddc_protocol/devicestate.h"
 
+#include "controls/palette.h"
 #include "controls/picturelabel.h"
 #include "controls/sharedfonts.h"
+#include "ddc_protocol/devicestate.h"
+#include "page/IO/iopictures.h"
 #include "page/IO/iotable.h"
 #include "page/engine/optiongrouprow.h"
+#include "page/engine/optionwords.h"
+#include "page/engine/picturestage.h"
 
 namespace {
 
@@ -42,6 +45,13 @@ QWidget *pageIOSetting::buildPart(const char *name)
     part->setObjectName(QLatin1String(name));
     part->setStyleSheet(Palette::styled(u"color: @bright;"));
     return part;
+}
+
+/// The picture of the input stands beside the sockets, so that both are seen as one.
+void pageIOSetting::stageBuilt(const PanelSpec &panel, PictureStage &stage)
+{
+    if (panel.picture == &iopictures::kInput)
+        stage.words()->putAbove(m_preview);
 }
 
 void pageIOSetting::updateInterfaceData()

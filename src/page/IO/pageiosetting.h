@@ -17,6 +17,7 @@ public:
 protected:
     QWidget *buildPart(const char *name) override;
     void followValue(Command command) override;
+    void stageBuilt(const PanelSpec &panel, PictureStage &stage) override;
 
 private:
     bool excludes(Command other, const char *label, int value);

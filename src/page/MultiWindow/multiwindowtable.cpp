@@ -38,7 +38,7 @@ constexpr LockRule kLocks[] = {
 const Section kSections[] = {
     groupOf(Command::MultiWindow, kModes),
     OptionGroup{LABEL("Size"), Command::InsetSize, kSizes}, // short, where the page says whose
-    OptionGroup{LABEL("Place"), Command::InsetPlace, kCornerOptions},
+    OptionGroup{LABEL("Place"), Command::InsetPlace, kCornerOptions, {}, GroupLook::Buttons, kCornerHelp},
 };
 const PanelSpec kPanels[] = {
     panelOf(Command::MultiWindow, "multi_window", "panelMultiWindow", kSections, kHelp, &kWindowsPicture)};

@@ -6,6 +6,7 @@
 #include "page/engine/labels.h"
 #include "page/engine/listed.h"
 #include "page/engine/optiongrouprow.h"
+#include "page/engine/picturestage.h"
 
 namespace {
 
@@ -25,9 +26,9 @@ pageMultiWindow::pageMultiWindow(CommandQueue &queue, QWidget *parent)
 }
 
 /// What is dragged goes the way of the option that is pressed: with its locks, its marks and its refusal.
-void pageMultiWindow::pictureBuilt(MonitorPicture *picture)
+void pageMultiWindow::stageBuilt(const PanelSpec &, PictureStage &stage)
 {
-    m_arranger = new WindowArranger(picture);
+    m_arranger = new WindowArranger(stage.picture());
     const auto choose = [this](Command command) {
         return [this, command](int value) { optionGroup(command)->buttonOf(value)->click(); };
     };

@@ -19,7 +19,7 @@ public:
     WindowArranger *arranger() const { return m_arranger; }
 
 protected:
-    void pictureBuilt(MonitorPicture *picture) override;
+    void stageBuilt(const PanelSpec &panel, PictureStage &stage) override;
     void followValue(Command command) override;
 
 private:

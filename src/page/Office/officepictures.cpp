@@ -30,7 +30,7 @@ void paintDesktop(QPainter &painter, const QRectF &screen, const PictureValues &
 void paintPaper(QPainter &painter, const QRectF &screen, const PictureValues &values)
 {
     takePen(painter, values);
-    static constexpr QSizeF kSheets[] = {{210, 297}, {176, 250}, {125, 176}};
+    static constexpr QSize kSheets[] = {{210, 297}, {176, 250}, {125, 176}};
     const int option = values(Command::Paper, 0);
     if (option >= 1 && option <= 3)
         drawSheet(painter, screen, kSheets[option - 1]);

@@ -20,6 +20,9 @@ constexpr char kCompositionHelp[] =
 constexpr char kEyeshieldRemindHelp[] =
     LABEL("Reminds you to rest your eyes each time the chosen span has passed. Close = off.");
 
+// When to switch them on.
+constexpr char kAlignmentAidWhen[] = LABEL("For placing windows, pictures or a drawing evenly around the middle.");
+
 constexpr char kRestWords[] =
     LABEL("The monitor reminds you each time that this has passed. Look far away for a minute then.");
 constexpr Option kEyeshield[] = {{LABEL("Close"), 0, LABEL("The monitor does not remind you.")},
@@ -32,22 +35,22 @@ constexpr Option kEyeshield[] = {{LABEL("Close"), 0, LABEL("The monitor does not
                                  {LABEL("3.5 Hour"), 7, kRestWords},
                                  {LABEL("4 Hour"), 8, kRestWords}};
 constexpr Option kPaper[] = {
-    {LABEL("Close"), 0},
+    {LABEL("Close"), 0, kNothingDrawnWords},
     {LABEL("Paper_A4"), 1, LABEL("A sheet of 210 × 297 mm, upright, in the middle of the screen.")},
     {LABEL("Paper_B5"), 2, LABEL("A sheet of 176 × 250 mm, for books and brochures.")},
     {LABEL("Paper_B6"), 3, LABEL("A sheet of 125 × 176 mm, as of a paperback.")},
     {LABEL("Custom Size"), 4, LABEL("A sheet as large as you set it above.")}};
-constexpr Option kAlignment[] = {{LABEL("Close"), 0},
+constexpr Option kAlignment[] = {{LABEL("Close"), 0, kNothingDrawnWords},
                                  {LABEL("Alignment_4"), 1, LABEL("Two columns and two rows.")},
                                  {LABEL("Alignment_6"), 2, LABEL("Three columns and two rows.")},
                                  {LABEL("Alignment_9"), 3, LABEL("Three columns and three rows.")}};
 
 // The off option of this group has a label of its own.
-constexpr Option kRuler[] = {{LABEL("Angle close"), 0},
+constexpr Option kRuler[] = {{LABEL("Angle close"), 0, kNothingDrawnWords},
                              {LABEL("Ruler"), 1, LABEL("Marks along two edges, to measure and compare lengths.")},
                              {LABEL("Angle Ruler"), 2, LABEL("A protractor around the middle, to measure angles.")}};
 constexpr Option kComposition[] = {
-    {LABEL("Close"), 0},
+    {LABEL("Close"), 0, kNothingDrawnWords},
     {LABEL("Triangle"), 1, LABEL("A diagonal and the lines that meet it: for pictures with a slant.")},
     {LABEL("Frame"), 2, LABEL("Keeps what matters away from the edges.")},
     {LABEL("Golden Section"), 3, LABEL("Lines at 38 and 62 per cent: balanced, and less rigid than thirds.")},
@@ -57,10 +60,10 @@ constexpr Option kComposition[] = {
 const Section kPaperPanel[] = {groupOf(Command::Paper, kPaper), CustomPart{kPaperSizePart}};
 const Section kAlignmentPanel[] = {groupOf(Command::Alignment, kAlignment)};
 const Section kRulerPanel[] = {groupOf(Command::Ruler, kRuler)};
-const Section kAlignmentAid[] = {switchOf(Command::AlignmentAid, kCloseOpen)};
+const Section kAlignmentAid[] = {switchOf(Command::AlignmentAid, kCloseOpen, kAlignmentAidWhen)};
 const Section kCompositionPanel[] = {groupOf(Command::Composition, kComposition)};
 const Section kEyeshieldPanel[] = {groupOf(Command::RestTimer, kEyeshield)};
-const Section kAiDualMode[] = {switchOf(Command::AiDualMode, kCloseOpen)};
+const Section kAiDualMode[] = {switchOf(Command::AiDualMode, kCloseOpen, kAiDualModeWhen)};
 
 const PanelSpec kPanels[] = {
     panelOf(Command::Paper, "office_paper", "pagePaper", kPaperPanel, kPaperHelp, &officepictures::kPaper),

@@ -60,11 +60,6 @@ CarePanel::CarePanel(BoundTexts &texts, QWidget *parent)
         [effect](const QString &text) { effect->setText(text); });
     texts.bind(LABEL("Use and care of the last five weeks"),
                [this](const QString &text) { m_calendar->setAccessibleName(text); });
-    legend->setFixedWidth(m_calendar->width());
-    auto *left = new QVBoxLayout;
-    left->addWidget(m_calendar);
-    left->addWidget(legend);
-    left->addStretch(1);
     auto *right = new QVBoxLayout;
     right->setSpacing(metrics::kGap);
     for (QLabel *line : {m_used, m_last, m_next, effect})
@@ -72,11 +67,15 @@ CarePanel::CarePanel(BoundTexts &texts, QWidget *parent)
     right->addSpacing(metrics::kGap);
     right->addWidget(m_start, 0, Qt::AlignLeft);
     right->addStretch(1);
-    auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(0, metrics::kGap, 0, 0);
+    auto *row = new QHBoxLayout;
     row->setSpacing(metrics::kBlockGap);
-    row->addLayout(left);
+    row->addWidget(m_calendar, 0, Qt::AlignTop);
     row->addLayout(right, 1);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, metrics::kGap, 0, 0);
+    column->setSpacing(metrics::kGap);
+    column->addLayout(row);
+    column->addWidget(legend);
 }
 
 void CarePanel::show(const CareHistory &history, const CareFacts &facts, const QDateTime &now)

@@ -21,6 +21,11 @@ constexpr char kBoundaryHelp[] = LABEL(
 constexpr char kIspHelp[] =
     LABEL("Image sticking protection: clears what a picture leaves behind as soon as it is gone.");
 
+// When to switch them on.
+constexpr char kStillWhen[] =
+    LABEL("For a screen that is left alone for long. Films and games move and are not dimmed.");
+constexpr char kIspWhen[] = LABEL("Leave it on, unless you see the clearing itself as a flicker when windows close.");
+
 constexpr char kLow[] = LABEL("A little darker: hardly to be seen, for normal work.");
 constexpr char kMedium[] = LABEL("Visibly darker, for long days with the same windows.");
 constexpr char kHigh[] = LABEL("Much darker: the best protection where the same picture stands for hours.");
@@ -63,11 +68,12 @@ const Section kPlan[] = {
     CustomPart{kCarePart},
 };
 const Section kShiftPanel[] = {groupOf(Command::PixelShift, kShift)};
-const Section kStillPanel[] = {switchOf(Command::StillPicture), groupOf(Command::DetectionRate, kRate)};
+const Section kStillPanel[] = {switchOf(Command::StillPicture, kSwitchOptions, kStillWhen),
+                               groupOf(Command::DetectionRate, kRate)};
 const Section kIconPanel[] = {groupOf(Command::StaticIcon, kLevels)};
 const Section kTaskbarPanel[] = {groupOf(Command::Taskbar, kLevels)};
 const Section kBoundaryPanel[] = {groupOf(Command::Boundary, kLevels)};
-const Section kIspPanel[] = {switchOf(Command::CareIsp)};
+const Section kIspPanel[] = {switchOf(Command::CareIsp, kSwitchOptions, kIspWhen)};
 
 const PanelSpec kPanels[] = {
     {LABEL("Care Plan"), "care_plan", "panelCarePlan", kPlan, Capability::OledPanel, kPlanHelp},

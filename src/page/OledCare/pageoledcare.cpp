@@ -1,12 +1,17 @@
 #include "page/OledCare/pageoledcare.h"
 
+#include <QVBoxLayout>
+
 #include "controls/desktopquestion.h"
 #include "controls/messagebox.h"
+#include "controls/metrics.h"
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/monitoridentity.h"
 #include "page/OledCare/carepanel.h"
 #include "page/OledCare/caretable.h"
+#include "page/engine/optiongrouprow.h"
+#include "page/engine/optionwords.h"
 #include "platform/desk.h"
 
 pageOledCare::pageOledCare(CommandQueue &queue, QWidget *parent)
@@ -30,7 +35,16 @@ QWidget *pageOledCare::buildPart(const char *)
 {
     m_care = new CarePanel(texts(), this);
     connect(m_care->startButton(), &QPushButton::clicked, this, &pageOledCare::startCare);
-    return m_care;
+    auto *part = new QWidget(this);
+    const QList<OptionGroupRow *> above = findChildren<OptionGroupRow *>(); // the plan's panel is the first one
+    auto *words = new OptionWords({above.begin(), above.end()}, OptionWords::Shape::Band, part);
+    keepFresh(words);
+    auto *column = new QVBoxLayout(part);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(metrics::kRowGap);
+    column->addWidget(m_care);
+    column->addWidget(words);
+    return part;
 }
 
 std::optional<int> pageOledCare::ownValue(const char *)

@@ -25,6 +25,7 @@
 #include "page/engine/halfbutton.h"
 #include "page/engine/labels.h"
 #include "page/engine/optiongrouprow.h"
+#include "page/engine/optionwords.h"
 #include "page/engine/pagehead.h"
 #include "page/engine/pagestyle.h"
 #include "page/engine/picturestage.h"
@@ -142,8 +143,9 @@ void pageSceneSetting::refreshStage()
         return;
     if (!m_stage) {
         std::vector<OptionGroupRow *> rows = optionGroups();
-        std::erase_if(rows, [](const OptionGroupRow *row) { return row->group().options.front().words == nullptr; });
-        m_stage = new PictureStage(kScenePicture, std::move(rows), m_areas->widget(1), PictureStage::Shape::Strip);
+        std::erase_if(rows, [](const OptionGroupRow *row) { return !OptionWords::hasWords(row->group()); });
+        m_stage =
+            new PictureStage(kScenePicture, std::move(rows), nullptr, m_areas->widget(1), PictureStage::Shape::Strip);
         m_areas->widget(1)->layout()->addWidget(m_stage);
     }
     m_stage->refresh();

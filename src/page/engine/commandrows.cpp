@@ -14,10 +14,10 @@ OptionGroup picturesOf(Command command, std::span<const Option> options, DrawOpt
     return {name.label, command, options, name.needs, GroupLook::Pictures, nullptr, draw, caption};
 }
 
-OptionGroup swatchesOf(Command command, std::span<const Option> options, const char *caption)
+OptionGroup swatchesOf(Command command, std::span<const Option> options, const char *caption, const char *help)
 {
     const CommandName &name = nameOf(command);
-    return {name.label, command, options, name.needs, GroupLook::Swatches, nullptr, nullptr, caption};
+    return {name.label, command, options, name.needs, GroupLook::Swatches, help, nullptr, caption};
 }
 
 OptionGroup switchOf(Command command, std::span<const Option> halves, const char *help)

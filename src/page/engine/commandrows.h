@@ -11,7 +11,8 @@ OptionGroup groupOf(Command command, std::span<const Option> options, const char
 
 /// Options that are chosen from drawings, or from colour swatches.
 OptionGroup picturesOf(Command command, std::span<const Option> options, DrawOption draw, const char *caption);
-OptionGroup swatchesOf(Command command, std::span<const Option> options, const char *caption = nullptr);
+OptionGroup swatchesOf(Command command, std::span<const Option> options, const char *caption = nullptr,
+                       const char *help = nullptr);
 
 OptionGroup switchOf(Command command, std::span<const Option> halves = kSwitchOptions, const char *help = nullptr);
 

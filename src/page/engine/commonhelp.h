@@ -25,3 +25,9 @@ inline constexpr char kNightVisionHelp[] =
     LABEL("Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = when needed.");
 inline constexpr char kAiDualModeHelp[] =
     LABEL("Lets the monitor switch between its two modes by itself. Close = off, Open = on.");
+
+// When to switch them on, beside the picture of what they do.
+inline constexpr char kGameRushWhen[] =
+    LABEL("For games in which every moment counts. For films and work leave it off.");
+inline constexpr char kAiDualModeWhen[] =
+    LABEL("For a screen that is used for pictures and texts in turn. Leave it off while you judge colours.");

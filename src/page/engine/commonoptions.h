@@ -5,6 +5,9 @@
 
 // Options that several pages offer with the same values.
 
+// Of options that take away what the others draw.
+inline constexpr char kNothingDrawnWords[] = LABEL("Nothing is drawn over the picture.");
+
 // The halves of a switch, as those of kSwitchOptions.
 inline constexpr Option kCloseOpen[] = {{LABEL("Close"), 0}, {LABEL("Open"), 1}};
 
@@ -47,6 +50,7 @@ inline constexpr Option kNightVisionOptions[] = {
 inline constexpr Option kFiveLevels[] = {
     {LABEL("Level1"), 0}, {LABEL("Level2"), 1}, {LABEL("Level3"), 2}, {LABEL("Level4"), 3}, {LABEL("Level5"), 4}};
 
-// A corner of the screen.
+// A corner of the screen, and when to take which.
+inline constexpr char kCornerHelp[] = LABEL("Take the corner in which nothing stands that you need.");
 inline constexpr Option kCornerOptions[] = {
     {LABEL("Top Left"), 0}, {LABEL("Top Right"), 1}, {LABEL("Bottom Left"), 2}, {LABEL("Bottom Right"), 3}};

@@ -17,6 +17,7 @@
 #include "ddc_protocol/monitoridentity.h"
 #include "ddc_protocol/settingsstore.h"
 #include "page/engine/optiongrouprow.h"
+#include "page/engine/optionwords.h"
 #include "page/engine/pagehead.h"
 #include "page/engine/pagestyle.h"
 #include "page/engine/panellist.h"
@@ -174,9 +175,9 @@ void PanelPage::addPicture(int index, const PanelSpec &panel, QVBoxLayout *colum
 {
     delete column->takeAt(column->count() - 1);
     const QList<OptionGroupRow *> rows = column->parentWidget()->findChildren<OptionGroupRow *>();
-    auto *stage = new PictureStage(*panel.picture, {rows.begin(), rows.end()}, column->parentWidget());
+    auto *stage = new PictureStage(*panel.picture, {rows.begin(), rows.end()}, panel.label, column->parentWidget());
     m_pictures[index] = stage;
-    pictureBuilt(stage->picture());
+    stageBuilt(panel, *stage);
     column->addWidget(stage, 1);
     followSliders(panel, stage);
 }
@@ -206,13 +207,17 @@ void PanelPage::refreshPicture()
         addPicture(place, panel, static_cast<QVBoxLayout *>(m_stack->currentWidget()->layout()));
     if (const auto stage = m_pictures.find(place); stage != m_pictures.end())
         stage->second->refresh();
+    for (OptionWords *words : m_words) {
+        if (words->isVisible())
+            words->refresh();
+    }
 }
 
 /// Keys may have been given anew on another page meanwhile.
 void PanelPage::showKeys()
 {
     if (const auto stage = m_pictures.find(m_stack->currentIndex()); isVisible() && stage != m_pictures.end())
-        stage->second->setKeys(keysOf(panelAt(stage->first)));
+        stage->second->words()->setKeys(keysOf(panelAt(stage->first)));
 }
 
 void PanelPage::updateControlText()
@@ -222,6 +227,8 @@ void PanelPage::updateControlText()
     showTitle();
     for (const auto &[panel, stage] : m_pictures)
         stage->refresh();
+    for (OptionWords *words : m_words)
+        words->refresh();
     showKeys();
 }
 

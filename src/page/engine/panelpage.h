@@ -4,7 +4,7 @@
 #include "page/engine/storenotice.h"
 
 class LeftTabButton;
-class MonitorPicture;
+class OptionWords;
 class PanelList;
 class PictureStage;
 class QStackedWidget;
@@ -46,8 +46,11 @@ protected:
 
     void showEvent(QShowEvent *event) override;
 
-    /// A panel's drawn monitor has been made: a page may lay something of its own on it.
-    virtual void pictureBuilt(MonitorPicture *) {}
+    /// A panel's drawn monitor has been made: a page may lay something of its own on it, or put it beside.
+    virtual void stageBuilt(const PanelSpec &, PictureStage &) {}
+
+    /// Words that a page lays beside a part of its own are renewed with the values that they tell of.
+    void keepFresh(OptionWords *words) { m_words.push_back(words); }
 
     /// The keys that do from everywhere what a panel does, in rich text for beside its picture; empty for none.
     virtual QString keysOf(const PanelSpec &) { return {}; }
@@ -90,4 +93,5 @@ private:
     PageHead *m_head = nullptr;
     bool m_drawsLater = false;                ///< the panels stand before their pictures
     std::map<int, PictureStage *> m_pictures; ///< by panel
+    std::vector<OptionWords *> m_words;       ///< beside parts of the page's own
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include <QWidget>
@@ -9,7 +10,7 @@
 
 class MonitorPicture;
 class OptionGroupRow;
-class QLabel;
+class OptionWords;
 
 /// The drawn monitor below the controls of a panel, and beside it what the option that is on, and the one that is
 /// pointed at, do. Pointing sends nothing.
@@ -20,8 +21,8 @@ public:
     /// The room of a panel, or a strip below a long list of controls: a small monitor, the words side by side.
     enum class Shape { Panel, Strip };
 
-    /// For the rows of one panel. Shows what the snapshot holds.
-    PictureStage(const PanelPicture &picture, std::vector<OptionGroupRow *> rows, QWidget *parent,
+    /// For the rows of one panel. Shows what the snapshot holds. @p about: see OptionWords.
+    PictureStage(const PanelPicture &picture, std::vector<OptionGroupRow *> rows, const char *about, QWidget *parent,
                  Shape shape = Shape::Panel);
 
     /// Shows the screen as it would look with a value, such as that of a slider that is held; nothing ends it.
@@ -30,31 +31,18 @@ public:
     /// A value has changed, or the language.
     void refresh();
 
-    /// Says below the words which keys do the same, in rich text; nothing when it is empty.
-    void setKeys(const QString &keys);
-
     /// The value that is tried out; nothing while none is.
-    std::optional<std::pair<Command, int>> preview() const { return m_preview; }
+    std::optional<std::pair<Command, int>> preview() const;
+
     MonitorPicture *picture() const { return m_picture; }
+    OptionWords *words() const { return m_words; }
 
 private:
-    void layOut();
     PictureValues values(bool withPreview) const;
     void paint(QPainter &painter, const QRectF &screen) const;
-    void point(const OptionGroupRow *row, std::optional<int> value);
-    void showWords();
+    void showPreview();
 
     const PanelPicture &m_spec;
-    const bool m_isStrip;
-    std::vector<OptionGroupRow *> m_rows;
-    const OptionGroupRow *m_told; ///< the row that the words are of
     MonitorPicture *m_picture;
-    QLabel *m_onName;
-    QLabel *m_onNow;
-    QLabel *m_onWords;
-    QWidget *m_line;
-    QLabel *m_pointedName;
-    QLabel *m_pointedWords;
-    QLabel *m_keys;
-    std::optional<std::pair<Command, int>> m_preview;
+    OptionWords *m_words;
 };
