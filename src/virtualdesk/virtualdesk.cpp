@@ -9,6 +9,7 @@
 namespace virtualdesk {
 
 constexpr platform::milliseconds kMonitorWakes{2000};
+constexpr std::uint64_t kColourBits = 32; // of the displays: what the message of their change tells
 
 VirtualDesk::VirtualDesk(platform::Clock &clock, const DeskSetup &setup)
     : m_clock(clock), m_events(setup.events), m_displays(setup, m_handles), m_process(m_handles), m_accessory(clock),
@@ -97,12 +98,18 @@ void VirtualDesk::wake()
     m_displays.renew();
     m_registrations.tellSystem(platform::kMessagePowerBroadcast, platform::kPowerResumeAutomatic);
     m_registrations.tellSystem(platform::kMessagePowerBroadcast, platform::kPowerResumeSuspend);
-    m_registrations.tellSystem(platform::kMessageDisplayChange, 32);
+    m_registrations.tellSystem(platform::kMessageDisplayChange, kColourBits);
     m_clock.callLater(kMonitorWakes, this, [this] {
         for (std::size_t i = 0; i < monitorCount(); ++i)
             monitor(i).setAsleep(false);
         Q_EMIT monitorsChanged();
     });
+}
+
+void VirtualDesk::changeDisplays()
+{
+    m_displays.renew();
+    m_registrations.tellSystem(platform::kMessageDisplayChange, kColourBits);
 }
 
 void VirtualDesk::apply(std::size_t index, const MonitorEvent &event)

@@ -47,6 +47,8 @@ public:
     /// It wakes, tells the windows so, more than once, as Windows does, and has new handles; the monitors answer two
     /// seconds later.
     void wake();
+    /// The displays stand otherwise or show another resolution: they have new handles, and the windows are told.
+    void changeDisplays();
     /// Does to a monitor what a script may ask for.
     void apply(std::size_t index, const MonitorEvent &event);
     /// Starts the timed events of the script; calls after the first do nothing.

@@ -1,12 +1,15 @@
 #include "platform/virtual/processdesk.h"
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <utility>
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QGuiApplication>
 #include <QMetaObject>
+#include <QScreen>
 
 #include "platform/systemclock.h"
 #include "platform/virtual/virtualplatform.h"
@@ -72,11 +75,27 @@ public:
         const QString places = qEnvironmentVariable("QUORVEL_DESK_PLACES");
         if (!places.isEmpty())
             new virtualdesk::Whereabouts(places, qApp);
+        if (!m_onScreen) {
+            followScreen(QGuiApplication::primaryScreen());
+            QObject::connect(qGuiApp, &QGuiApplication::primaryScreenChanged, qGuiApp, [this](QScreen *screen) {
+                followScreen(screen);
+                ownDesk.changeDisplays();
+            });
+        }
         if (m_window == nullptr && qEnvironmentVariable("QUORVEL_DESK_WINDOW") != QLatin1String("0"))
             new FirstPaint([this] { showWindow(); });
     }
 
 private:
+    /// The first display is the screen that the program is really shown on: when that changes, the desk's windows are
+    /// told, as the system would tell them.
+    void followScreen(QScreen *screen)
+    {
+        m_onScreen = std::make_unique<QObject>();
+        if (screen != nullptr)
+            QObject::connect(screen, &QScreen::geometryChanged, m_onScreen.get(), [this] { ownDesk.changeDisplays(); });
+    }
+
     void showWindow()
     {
         m_window = std::make_unique<virtualdesk::DeskWindow>(ownDesk);
@@ -87,6 +106,7 @@ private:
 
     std::optional<virtualdesk::RequestLog> m_requestLog;
     std::unique_ptr<virtualdesk::DeskWindow> m_window;
+    std::unique_ptr<QObject> m_onScreen; ///< follows the screen as long as it is the first one
 };
 
 } // namespace
