@@ -977,7 +977,7 @@
     </message>
     <message>
         <source>Colour and brightness follow what this computer plays. For music.</source>
-        <translation>色と明るさがパソコンの音に合わせて変わります。音楽向けです。</translation>
+        <translation>色と明るさがコンピューターの音に合わせて変わります。音楽向けです。</translation>
     </message>
     <message>
         <source>Combination to press</source>
@@ -1469,7 +1469,7 @@
     </message>
     <message>
         <source>For a laptop whose picture comes by its USB cable. Off if that socket only carries data and power.</source>
-        <translation>USB ケーブルで映像を送るノートパソコン向けです。その端子がデータと給電だけならオフにします。</translation>
+        <translation>USB ケーブルで映像を送るノートコンピューター向けです。その端子がデータと給電だけならオフにします。</translation>
     </message>
     <message>
         <source>For a player or a console that is to wake the monitor. Quick Boot cannot be on at the same time.</source>
@@ -1525,7 +1525,7 @@
     </message>
     <message>
         <source>For games, whose pictures come now faster, now slower. The computer must have it switched on as well.</source>
-        <translation>描画の速さが変わるゲーム向けです。パソコン側でもオンにしてください。</translation>
+        <translation>描画の速さが変わるゲーム向けです。コンピューター側でもオンにしてください。</translation>
     </message>
     <message>
         <source>For most games.</source>
@@ -2249,7 +2249,7 @@
     </message>
     <message>
         <source>Matches notebooks with a Display P3 screen.</source>
-        <translation>Display P3 画面のノートパソコンと色を合わせます。</translation>
+        <translation>Display P3 画面のノートコンピューターと色を合わせます。</translation>
     </message>
     <message>
         <source>Matrix Brightness</source>
