@@ -204,8 +204,8 @@ void TestCanvas::toolsFitALowPage()
         page->setGeometry(0, 0, 1000, height);
         QCoreApplication::processEvents();
         int lowest = 0; // by the order in which they were made, row by row
-        for (const char *tool :
-             {"Add Frame", "Delete Frame", "Undo", "Preview", "Save Animate", "Import Aligned", "Cancel"}) {
+        for (const char *tool : {"Add Frame", "Delete Frame", "Undo", "Preview", "Save Animate", "Export Animate",
+                                 "Import Aligned", "Cancel"}) {
             const QRect place(page->button(tool)->mapTo(page.get(), QPoint()), page->button(tool)->size());
             QVERIFY2(place.top() - lowest > 8, tool); // the gap between what belongs together
             lowest = place.bottom();
