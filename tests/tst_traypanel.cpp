@@ -145,6 +145,7 @@ void TestTrayPanel::opensTrue()
     QVERIFY(shown<QPushButton>("Night Vision: Level2")->isChecked()); // in place of the usual one
     QVERIFY(shown<QPushButton>("Night Vision: Close") && !shown<QPushButton>("Night Vision: Auto-L1"));
     QVERIFY(!m_window->isVisible() && panel().accessibleName().contains("connected"));
+    QCOMPARE(panel().optionGroup(Command::NightVision)->height(), 36); // in one line
 
     m_desk->clock.advance(50ms);
     Q_EMIT icon.activated(QSystemTrayIcon::DoubleClick);

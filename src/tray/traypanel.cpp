@@ -190,6 +190,8 @@ void TrayPanel::fitInto(int height)
     m_scroll->setFixedHeight(wanted);
     const int whole = layout()->totalHeightForWidth(width());
     m_scroll->setFixedHeight(std::max(wanted - std::max(whole - height, 0), 0));
+    // A bar that came for a moment would stay: it takes the room in which a row of two options is one line.
+    m_scroll->setVerticalScrollBarPolicy(whole > height ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
     setFixedHeight(std::min(whole, height));
     layout()->activate();
 }

@@ -175,7 +175,7 @@ void OptionGroupRow::makeNarrow(int captionWidth)
     m_caption->setFixedWidth(captionWidth);
     m_halfSize = HalfSize::Narrow;
     if (m_group.look == GroupLook::Switch)
-        m_mark->setFixedWidth(ValueMark::kSize + metrics::kGap);
+        m_mark->setFixedWidth(2 * metrics::kGap);
     for (QPushButton *button : m_buttons)
         dress(button);
 }
