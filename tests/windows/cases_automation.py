@@ -4,12 +4,20 @@ import contextlib
 import shutil
 import time
 
-from casekit import REGISTERS, open_page, started
+from casekit import REGISTERS, open_page, started, writes_of
 from rig import START_SECONDS, wait_for, windows_path
 
 PROBLEM_COLOUR = "#da676d"
 SCREEN = "1600x1000"  # the rig's display
 BRIGHTNESS = 0x10
+CARE_DUE, CARE_MODE, CAPABILITIES = 0x08, 0x0A, 0xED
+BY_HAND = 1
+OLED_PANEL = 4
+REMINDER_LOOK = 11  # s
+GAME_FUNCTIONS = 1 << 10
+LIGHT_MODE, LIGHT_SOURCE, LEFT_TONE, RIGHT_TONE = 0x75, 0x83, 0x88, 0x89
+ZONE_RHYTHM = 4
+FROM_SCREEN = 1
 KEYS = "[basicMode]\nswitchStatus=on\n\n[12]\nswitchStatus=on\nplusKey=Ctrl+B\nsubKey=Ctrl+Alt+D\n"
 MOD_CONTROL = "2"
 
@@ -42,13 +50,21 @@ def problem_dots(run, window):
     return float(share)
 
 
-def in_front(run, name):
-    """Starts a program of that name that comes to the front when it is told to."""
+def in_front(run, name, *colours):
+    """Starts a program of that name that comes to the front when it is told to; with colours its window fills the
+    screen. Returns its process."""
     program = run.folder / f"{name}.exe"
     shutil.copy(run.rig.standins / "frontprobe.exe", program)
-    run.start_other(program)
+    process = run.start_other(program, *colours)
     wait_for(lambda: (run.folder / f"{name}.came").exists(), f"the program {name}")
     wait_for(lambda: run.window(rf"{name}\.exe"), f"the window of {name}")
+    return process
+
+
+def is_front(run, name):
+    """Whether Windows itself takes the program for the one in front: the display knows it earlier."""
+    told = run.folder / f"{name}.front"
+    return told.exists() and told.read_text().split()[-1:] == ["1"]
 
 
 def come(run, name):
@@ -156,7 +172,8 @@ def case_splitter(rig):
                 screen, screen.replace(" ", "%20")))
         run.start_and_show()
         in_front(run, "Painter")
-        wait_for(lambda: run.active_title() == "Painter.exe", "the keyboard of the other program")
+        wait_for(lambda: is_front(run, "Painter"), "the other program in front")
+        come(run, "Painter")  # Windows tells it by itself; Wine may soon take no window for the one in front
         before = place_of(run, "Painter")[0]
         for key, zone in (("ctrl+1", 0), ("ctrl+1", 1), ("ctrl+1", 2), ("ctrl+1", 3), ("ctrl+1", 0), ("ctrl+2", 3)):
             run.press(key)
@@ -168,6 +185,42 @@ def case_splitter(rig):
             run.click(f"zone_{number}")
             wait_for(lambda: in_zone(run, "Painter", zone) if zone else place_of(run, "Painter")[0] == before,
                      f"what number {number} does")
+
+
+def case_care_reminder(rig):
+    """A panel whose care is due: the user is reminded when another program comes to the front, not before; "Later" is
+    kept in the settings, and nothing is written to the monitor."""
+    care = dict.fromkeys(range(0x01, 0x0F), 0) | {CARE_DUE: 1, CARE_MODE: BY_HAND}
+    with started(rig, "care_reminder", registers=REGISTERS | care | {CAPABILITIES: OLED_PANEL}) as run:
+        run.start_and_show()
+        run.settled()
+        time.sleep(REMINDER_LOOK)
+        assert not run.seen("questionLater")
+        in_front(run, "Painter")
+        x, y, width, height = run.window(r"Painter\.exe")
+        run.click_at(x + width // 2, y + height // 2)
+        wait_for(lambda: run.seen("questionLater"), "the reminder", 2 * REMINDER_LOOK)
+        run.click("questionLater")
+        wait_for(lambda: "later:" in (run.folder / "config.ini").read_text(), "the reminder to be put off")
+        assert writes_of(run.requests()) == [], run.requests()
+
+
+def case_light_follows_screen(rig):
+    """The lamps' left and right zone take the colours of what another program shows there, and those of the next one;
+    a colour is 5 bits of red, 6 of green, 5 of blue."""
+    light = {CAPABILITIES: GAME_FUNCTIONS, LIGHT_MODE: ZONE_RHYTHM, LIGHT_SOURCE: FROM_SCREEN}
+    with started(rig, "light_follows_screen", registers=REGISTERS | light) as run:
+        run.start_and_show()
+        for name, colours, tones in (("Painter", ("ff0000", "0000ff"), (0xF800, 0x001F)),
+                                     ("Writer", ("00ff00", "ff0000"), (0x07E0, 0xF800))):
+            program = in_front(run, name, *colours)
+            for code, tone in zip((LEFT_TONE, RIGHT_TONE), tones):
+                wait_for(lambda: f"W {code:02X} {tone}" in run.requests(), f"the colour of {name} at {code:02X}")
+            last = [[request for request in run.requests() if request.startswith(f"W {code:02X}")][-1]
+                    for code in (LEFT_TONE, RIGHT_TONE)]
+            assert last == [f"W {code:02X} {tone}" for code, tone in zip((LEFT_TONE, RIGHT_TONE), tones)], last
+            program.kill()
+            program.wait(10)
 
 
 def case_settings_file(rig):

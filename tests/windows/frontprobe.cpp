@@ -2,10 +2,12 @@
 // title, and each time a file <name>.come lies in the working folder it removes that file and announces its window as
 // the one in front. Wine does not announce that by itself. <name>.came tells when, in milliseconds, a line each time.
 // <name>.place tells each place that the window had, and what windows may fill of the screen, a line each: left, top,
-// right and bottom of both. It runs until it is killed.
+// right and bottom of both; <name>.front whether the system takes it for the one in front, 1 or 0. With two colours,
+// such as ff0000 0000ff, the window fills the screen and its halves have these. It runs until it is killed.
 
 #include <array>
 #include <chrono>
+#include <cwchar>
 #include <filesystem>
 #include <fstream>
 
@@ -16,6 +18,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr DWORD kPollMs = 5;
+constexpr DWORD kPaintMs = 100;
 
 fs::path ownFile()
 {
@@ -57,18 +60,47 @@ void handleMessages()
         DispatchMessageW(&message);
 }
 
+HWND makeWindow(bool fillsScreen)
+{
+    const int width = GetSystemMetrics(SM_CXSCREEN);
+    const int height = GetSystemMetrics(SM_CYSCREEN);
+    const RECT place = fillsScreen ? RECT{0, 0, width, height} : RECT{1300, 20, 240, 120};
+    return CreateWindowExW(0, L"STATIC", ownFile().filename().c_str(),
+                           (fillsScreen ? WS_POPUP : WS_OVERLAPPEDWINDOW) | WS_VISIBLE, place.left, place.top,
+                           place.right, place.bottom, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
+}
+
+/// The halves of a window, each in a colour written RRGGBB.
+void fill(HWND window, wchar_t **colours)
+{
+    RECT half = {};
+    GetClientRect(window, &half);
+    half.right /= 2;
+    HDC context = GetDC(window);
+    for (int side = 0; side < 2; ++side) {
+        const unsigned long colour = std::wcstoul(colours[side], nullptr, 16);
+        HBRUSH brush = CreateSolidBrush(RGB(colour >> 16 & 0xff, colour >> 8 & 0xff, colour & 0xff));
+        FillRect(context, &half, brush);
+        DeleteObject(brush);
+        OffsetRect(&half, half.right - half.left, 0);
+    }
+    ReleaseDC(window, context);
+}
+
 } // namespace
 
-int wmain()
+int wmain(int count, wchar_t **arguments)
 {
     const fs::path name = ownFile().stem();
-    HWND window = CreateWindowExW(0, L"STATIC", ownFile().filename().c_str(), WS_OVERLAPPEDWINDOW | WS_VISIBLE, 1300,
-                                  20, 240, 120, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
+    const bool hasColours = count == 3;
+    HWND window = makeWindow(hasColours);
     if (!window)
         return 1;
     std::ofstream came(fs::path(name) += L".came", std::ios::binary);
     std::ofstream places(fs::path(name) += L".place", std::ios::binary);
+    std::ofstream fronts(fs::path(name) += L".front", std::ios::binary);
     RECT told = {};
+    bool wasFront = false;
     const fs::path order = fs::path(name) += L".come";
     for (;;) {
         handleMessages();
@@ -76,11 +108,17 @@ int wmain()
             tell(places, place);
             told = place.window;
         }
+        if (const bool isFront = GetForegroundWindow() == window; isFront != wasFront) {
+            fronts << isFront << std::endl;
+            wasFront = isFront;
+        }
+        if (hasColours)
+            fill(window, arguments + 1);
         std::error_code error;
         if (fs::remove(order, error)) {
             came << nowMs() << std::endl;
             NotifyWinEvent(EVENT_SYSTEM_FOREGROUND, window, OBJID_WINDOW, CHILDID_SELF);
         }
-        Sleep(kPollMs);
+        Sleep(hasColours ? kPaintMs : kPollMs);
     }
 }

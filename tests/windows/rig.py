@@ -210,16 +210,17 @@ class Run:
         """The title of the window that has the keyboard; unlike a search, in any script."""
         return self.rig.run(["xdotool", "getactivewindow", "getwindowname"])
 
-    def place(self, name):
-        """(x, y, width, height) on the screen of what can be seen of the control of that name; waits for it."""
+    def seen(self, name):
+        """(x, y, width, height) on the screen of what can be seen of the control of that name; empty for nothing."""
         answer = self.monitor / "place.txt"
+        answer.unlink(missing_ok=True)
+        put(self.monitor / "where.txt", name)
+        wait_for(answer.exists, f"the place of {name}")
+        return tuple(map(int, answer.read_text().split()))
 
-        def asked():
-            answer.unlink(missing_ok=True)
-            put(self.monitor / "where.txt", name)
-            wait_for(answer.exists, f"the place of {name}")
-            return tuple(map(int, answer.read_text().split()))
-        return wait_for(asked, f"{name} to be seen")
+    def place(self, name):
+        """The same, once there is something to be seen of it."""
+        return wait_for(lambda: self.seen(name), f"{name} to be seen")
 
     def click(self, name):
         """Presses the left mouse button in the middle of a control."""
