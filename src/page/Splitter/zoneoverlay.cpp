@@ -140,10 +140,12 @@ void ZoneOverlay::keyPressEvent(QKeyEvent *event)
 void ZoneOverlay::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
-    if (event->type() != QEvent::ActivationChange || isActiveWindow())
+    if (event->type() != QEvent::ActivationChange)
         return;
     const QDateTime now = platform::desk().clock().now();
-    if (platform::endOf(m_opened, kSettles, now) <= now)
+    if (isActiveWindow())
+        m_opened = now; // on a busy machine it comes to the front long after it was shown
+    else if (platform::endOf(m_opened, kSettles, now) <= now)
         hide();
 }
 
