@@ -12,8 +12,6 @@
 #include "platform/desk.h"
 #include "platform/ending.h"
 
-static constexpr platform::milliseconds kPace{120};
-
 CommandQueue::CommandQueue(QObject *parent) : QObject(parent)
 {
     qRegisterMetaType<Command>();
@@ -25,7 +23,7 @@ CommandQueue::~CommandQueue()
     {
         const std::lock_guard lock(m_mutex);
         m_stop = true;
-        releaseAll();
+        m_waiting.releaseAll();
     }
     m_wake.notify_one();
     m_thread.join();
@@ -36,10 +34,7 @@ void CommandQueue::post(Command command, int value)
     deviceState.wish(command, value);
     {
         const std::lock_guard lock(m_mutex);
-        if (Pending *waiting = find(command))
-            *waiting = {command, value};
-        else
-            m_pending.push_back({command, value});
+        m_waiting.put(command, value);
     }
     m_wake.notify_one();
 }
@@ -49,52 +44,22 @@ void CommandQueue::postPaced(Command command, int value)
     deviceState.wish(command, value);
     platform::Clock &clock = platform::desk().clock();
     const QDateTime now = clock.now();
-    platform::milliseconds pause{0};
-    unsigned hold = 0;
+    std::optional<WaitingValues::Hold> hold;
     {
         const std::lock_guard lock(m_mutex);
-        if (Pending *waiting = find(command)) {
-            waiting->value = value;
-            return;
-        }
-        if (const auto next = m_paced.find(command); next != m_paced.end())
-            pause = platform::milliseconds(std::clamp<qint64>(now.msecsTo(next->second), 0, kPace.count()));
-        hold = pause.count() > 0 ? ++m_holds : 0;
-        m_pending.push_back({command, value, hold});
-        m_paced.insert_or_assign(command, now.addMSecs((pause + kPace).count()));
+        hold = m_waiting.putPaced(command, value, now);
     }
-    if (hold == 0)
+    if (!hold)
         return m_wake.notify_one();
-    clock.callLater(pause, this, [this, hold] { release(hold); });
-}
-
-CommandQueue::Pending *CommandQueue::find(Command command)
-{
-    const auto found = std::find_if(m_pending.begin(), m_pending.end(),
-                                    [command](const Pending &pending) { return pending.command == command; });
-    return found == m_pending.end() ? nullptr : &*found;
-}
-
-bool CommandQueue::hasValue() const
-{
-    return std::any_of(m_pending.begin(), m_pending.end(), Pending::mayGo);
+    clock.callLater(hold->pause, this, [this, number = hold->number] { release(number); });
 }
 
 void CommandQueue::release(unsigned hold)
 {
     {
         const std::lock_guard lock(m_mutex);
-        for (Pending &pending : m_pending)
-            pending.hold = pending.hold == hold ? 0 : pending.hold;
+        m_waiting.release(hold);
     }
-    m_wake.notify_one();
-}
-
-/// Nothing waits for its pause any more. Under the mutex.
-void CommandQueue::releaseAll()
-{
-    for (Pending &pending : m_pending)
-        pending.hold = 0;
     m_wake.notify_one();
 }
 
@@ -156,17 +121,24 @@ void CommandQueue::tellAsked()
     Q_EMIT asked(unanswered);
 }
 
+/// Nothing waits for its pause any more. Under the mutex.
+void CommandQueue::hurry()
+{
+    m_waiting.releaseAll();
+    m_wake.notify_one();
+}
+
 void CommandQueue::drain()
 {
     std::unique_lock lock(m_mutex);
-    releaseAll();
+    hurry();
     m_idle.wait(lock, [this] { return isSent() || platform::programEnds(); });
 }
 
 bool CommandQueue::drainFor(platform::milliseconds limit)
 {
     std::unique_lock lock(m_mutex);
-    releaseAll();
+    hurry();
     return m_idle.wait_for(lock, limit, [this] { return isSent(); });
 }
 
@@ -174,8 +146,8 @@ void CommandQueue::run()
 {
     std::unique_lock lock(m_mutex);
     for (;;) {
-        m_wake.wait(lock, [this] { return m_stop || hasValue() || hasQuestion(); });
-        if (hasValue())
+        m_wake.wait(lock, [this] { return m_stop || m_waiting.hasReady() || hasQuestion(); });
+        if (m_waiting.hasReady())
             sendNext(lock);
         else if (m_stop)
             return;
@@ -188,16 +160,14 @@ void CommandQueue::run()
 
 void CommandQueue::sendNext(std::unique_lock<std::mutex> &lock)
 {
-    const auto first = std::find_if(m_pending.begin(), m_pending.end(), Pending::mayGo);
-    const Pending next = *first;
-    m_pending.erase(first);
+    const WaitingValues::Value next = m_waiting.takeReady();
     m_sending = true;
     lock.unlock();
     const bool ok = sendWish(next.command, next.value);
     Q_EMIT sent(next.command, next.value, ok);
     lock.lock();
     m_sending = false;
-    if (m_pending.empty())
+    if (m_waiting.isEmpty())
         m_idle.notify_all();
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <condition_variable>
-#include <map>
 #include <mutex>
 #include <optional>
 #include <span>
@@ -12,6 +11,7 @@
 
 #include "ddc_protocol/command.h"
 #include "ddc_protocol/valuewatch.h"
+#include "ddc_protocol/waitingvalues.h"
 #include "platform/clock.h"
 
 /// Commands that must not hold up the window, carried by a thread of its own. The values of dragged sliders: of each
@@ -80,20 +80,9 @@ Q_SIGNALS:
     void asked(int unanswered);
 
 private:
-    struct Pending
-    {
-        Command command;
-        int value;
-        unsigned hold = 0; ///< the pause that it waits for; 0 for none
-
-        static bool mayGo(const Pending &pending) { return pending.hold == 0; }
-    };
-
-    bool isSent() const { return m_pending.empty() && !m_sending; }
-    bool hasValue() const;
-    Pending *find(Command command);
+    bool isSent() const { return m_waiting.isEmpty() && !m_sending; }
     void release(unsigned hold);
-    void releaseAll();
+    void hurry();
     void run();
     void sendNext(std::unique_lock<std::mutex> &lock);
     bool hasQuestion() const { return !m_questions.empty() || m_blockQuestion; }
@@ -105,9 +94,7 @@ private:
     std::mutex m_mutex;
     std::condition_variable m_wake;
     std::condition_variable m_idle;
-    std::vector<Pending> m_pending;
-    std::map<Command, QDateTime> m_paced; ///< when the next value may go
-    unsigned m_holds = 0;
+    WaitingValues m_waiting;
     std::vector<Command> m_questions;
     std::optional<int> m_blockQuestion; ///< its mode
     int m_unanswered = 0;               ///< of the questions since the last was told

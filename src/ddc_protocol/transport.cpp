@@ -7,13 +7,9 @@
 #include "ddc_protocol/commandtable.h"
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/displayenumeration.h"
-#include "ddc_protocol/linkrecorder.h"
-#include "ddc_protocol/linkrecords.h"
-#include "ddc_protocol/linkstatus.h"
 #include "ddc_protocol/monitoridentity.h"
 #include "ddc_protocol/writecounts.h"
 #include "platform/desk.h"
-#include "platform/ending.h"
 
 using platform::milliseconds;
 
@@ -25,7 +21,6 @@ std::atomic<int> reloadEdidType = kFullRead;
 
 namespace {
 
-constexpr std::uint32_t kNoAnswer = 0xFFFFFFFF;
 constexpr int kWriteAttempts = 2;
 constexpr int kReadAttempts = 5;
 constexpr milliseconds kWritePause{100};
@@ -33,7 +28,6 @@ constexpr milliseconds kReadPause{250};
 constexpr std::size_t kPacketVendorByte = 3;
 constexpr std::size_t kPacketCodeByte = 5;
 
-std::recursive_mutex s_transport;
 std::function<void()> s_reconnect;
 
 QString hex(std::uint32_t number)
@@ -58,46 +52,6 @@ void keepTold(COMMAND_set_Type row, std::uint32_t value)
     const bool isMode = value >= 1 && value <= kHighestSceneMode;
     if (!monitorList.empty() && (commandOf(row) != Command::SceneMode || isMode))
         deviceState.told(commandOf(row), static_cast<int>(value));
-}
-
-/// The monitor that commands go to; nothing when it could not be fetched. The first search takes any stored index, so
-/// it may lie beyond the list; such a request must fail like a monitor that does not answer.
-std::optional<platform::PhysicalMonitorHandle> selectedMonitor()
-{
-    const std::size_t index = currentMonitorIndex;
-    if (index < monitorList.size())
-        return monitorList[index].target();
-    qDebug().nospace() << "Monitor index " << index << " is beyond the " << monitorList.size() << " found";
-    return std::nullopt;
-}
-
-/// Every request to a monitor is made here and nowhere else, so that what is noted is what was on the wire. Under the
-/// lock; without a monitor nothing is on it.
-void makeRequest(std::optional<platform::PhysicalMonitorHandle> monitor, LinkRequest &request)
-{
-    if (monitor) {
-        platform::MonitorConfiguration &monitors = platform::desk().monitors();
-        platform::Clock &clock = platform::desk().clock();
-        request.at = clock.now();
-        if (request.isWrite)
-            request.reply.answered = monitors.setFeature(*monitor, request.code, request.value);
-        else
-            request.reply = monitors.getFeature(*monitor, request.code);
-        // Somebody may set the clock back meanwhile.
-        request.duration = static_cast<int>(std::max<qint64>(request.at.msecsTo(clock.now()), 0));
-        const std::size_t index = currentMonitorIndex;
-        const MonitorIdentity identity = index < monitorList.size() ? monitorList[index].identity : MonitorIdentity();
-        linkRecords.note(identity, request);
-        linkRecorder.note(identity, request);
-    }
-    noteRequest(request.code, request.reply.answered);
-}
-
-platform::VcpReply read(std::optional<platform::PhysicalMonitorHandle> monitor, LinkRequest request)
-{
-    if (!platform::programEnds()) // else nobody uses the answer any more, and whoever asks is waited for
-        makeRequest(monitor, request);
-    return request.reply;
 }
 
 Attempt attemptOf(int number)
@@ -138,11 +92,6 @@ int readCommand(COMMAND_set_Type command, bool logged)
 
 } // namespace
 
-std::unique_lock<std::recursive_mutex> lockTransport()
-{
-    return std::unique_lock(s_transport);
-}
-
 void setReconnectHandler(std::function<void()> handler)
 {
     const auto lock = lockTransport();
@@ -165,31 +114,6 @@ int BuildCommandPacket(COMMAND_set_Type command, std::uint16_t value)
     }
     commandPacket[length - 1] = checksum;
     return static_cast<int>(length);
-}
-
-platform::VcpReply requestBlockPart(std::optional<platform::PhysicalMonitorHandle> monitor, std::uint8_t code,
-                                    Attempt attempt)
-{
-    return read(monitor, {.code = code, .isBlock = true, .isRetry = attempt == Attempt::Again});
-}
-
-std::uint32_t GetVcpValue(std::uint8_t code, Attempt attempt)
-{
-    const auto lock = lockTransport();
-    if (monitorList.empty())
-        return 0;
-    const platform::VcpReply reply = read(selectedMonitor(), {.code = code, .isRetry = attempt == Attempt::Again});
-    return reply.answered ? reply.current : kNoAnswer;
-}
-
-bool SetVcpValue(std::uint8_t code, std::uint32_t value, Attempt attempt)
-{
-    const auto lock = lockTransport();
-    if (monitorList.empty())
-        return false;
-    LinkRequest request{.isWrite = true, .code = code, .value = value, .isRetry = attempt == Attempt::Again};
-    makeRequest(selectedMonitor(), request);
-    return request.reply.answered;
 }
 
 bool Korvu_SetCommandVal(COMMAND_set_Type command, std::uint16_t value, std::uint16_t)
@@ -250,7 +174,7 @@ bool Korvu_GetCommandValMax(COMMAND_set_Type command, std::uint32_t &current, st
         return false;
     BuildCommandPacket(command, 0);
     GetVcpValue(commandPacket[kPacketVendorByte]);
-    const platform::VcpReply reply = read(selectedMonitor(), {.code = commandPacket[kPacketCodeByte]});
+    const platform::VcpReply reply = readVcp(commandPacket[kPacketCodeByte], Attempt::First);
     current = reply.current;
     maximum = reply.maximum;
     return true;

@@ -4,11 +4,11 @@
 #include <atomic>
 #include <cstdint>
 #include <functional>
-#include <mutex>
 #include <optional>
 #include <vector>
 
 #include "ddc_protocol/command.h"
+#include "ddc_protocol/vcprequest.h"
 #include "platform/monitorconfiguration.h"
 
 // The vendor commands over DDC/CI. Every command is a request on the vendor code 0x99 and then one on its own code.
@@ -26,8 +26,8 @@ extern std::vector<std::uint8_t> tableBuffer;
 /// The low 8 bits of the last table read's result; the failure -1 reads back as 255.
 extern std::atomic<std::uint8_t> tableReadLength;
 
-/// While set, Korvu_SetCommandVal sends nothing and returns false. Set by the main window and the pages while they
-/// move their own controls.
+/// While set, Korvu_SetCommandVal sends nothing and returns false. Set by the main window while it is built, and
+/// by the set of pages while it fills them.
 extern std::atomic<bool> commandsSuspended;
 
 /// Why the device session searches: see ReloadReason. Written by the session, and by a failed command.
@@ -47,19 +47,6 @@ inline constexpr std::uint16_t kRetryCount = 10;
 
 /// Fills commandPacket for a command and its value; returns the packet's length, 9.
 int BuildCommandPacket(COMMAND_set_Type command, std::uint16_t value);
-
-/// Whether a request opens another attempt at what failed, for the record of the link only.
-enum class Attempt { First, Again };
-
-/// One read request of a table stream to a monitor; no answer without one.
-platform::VcpReply requestBlockPart(std::optional<platform::PhysicalMonitorHandle> monitor, std::uint8_t code,
-                                    Attempt attempt = Attempt::First);
-
-/// One read request. The current value; 0xFFFFFFFF when the monitor did not answer, 0 when there is no monitor at all.
-std::uint32_t GetVcpValue(std::uint8_t code, Attempt attempt = Attempt::First);
-
-/// One write request. False when the monitor did not take it or there is none.
-bool SetVcpValue(std::uint8_t code, std::uint32_t value, Attempt attempt = Attempt::First);
 
 /// Writes a command, in at most 2 attempts 100 ms apart. True when both requests went through. After the second
 /// failure the session is asked to find the monitor again. The last argument is not used.
@@ -97,9 +84,6 @@ int DDCCIReadTable(std::optional<platform::PhysicalMonitorHandle> monitor, std::
 /// DDCCIReadTable without retries.
 int readTableOnce(std::optional<platform::PhysicalMonitorHandle> monitor, std::uint8_t a, std::uint8_t b,
                   std::uint8_t c, std::uint8_t *buffer, int length);
-
-/// Keeps other threads' commands out while held; the holder itself may go on sending.
-[[nodiscard]] std::unique_lock<std::recursive_mutex> lockTransport();
 
 /// Who finds the monitor again after a failed write; empty takes it away. Called on the thread that wrote.
 void setReconnectHandler(std::function<void()> handler);
