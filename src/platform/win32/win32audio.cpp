@@ -17,6 +17,8 @@
 
 #include <QtGlobal>
 
+#include "platform/win32/compointer.h"
+
 namespace platform {
 
 namespace {
@@ -34,30 +36,6 @@ static_assert(sizeof(AudioFormat) == sizeof(WAVEFORMATEXTENSIBLE));
 static_assert(offsetof(AudioFormat, extraSize) == offsetof(WAVEFORMATEX, cbSize));
 static_assert(offsetof(AudioFormat, channelMask) == offsetof(WAVEFORMATEXTENSIBLE, dwChannelMask));
 static_assert(offsetof(AudioFormat, subFormat) == offsetof(WAVEFORMATEXTENSIBLE, SubFormat));
-
-/// Owns one reference of a COM object.
-template <typename Interface> class ComPointer
-{
-public:
-    ComPointer() = default;
-    ~ComPointer()
-    {
-        if (m_object)
-            m_object->Release();
-    }
-    ComPointer(ComPointer &&other) noexcept : m_object(std::exchange(other.m_object, nullptr)) {}
-    ComPointer(const ComPointer &) = delete;
-    ComPointer &operator=(const ComPointer &) = delete;
-    ComPointer &operator=(ComPointer &&) = delete;
-
-    Interface *operator->() const { return m_object; }
-    /// Where a call puts its result; only for an empty pointer.
-    Interface **put() { return &m_object; }
-    void **putVoid() { return reinterpret_cast<void **>(&m_object); }
-
-private:
-    Interface *m_object = nullptr;
-};
 
 AudioResult code(HRESULT result)
 {

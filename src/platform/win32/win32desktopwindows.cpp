@@ -6,16 +6,13 @@
 
 #include <dwmapi.h>
 
+#include "platform/win32/win32rects.h"
+
 namespace platform {
 
 static_assert(kStyleMaximised == WS_MAXIMIZE && kStyleMinimised == WS_MINIMIZE && kStyleVisible == WS_VISIBLE);
 static_assert(kStyleSizable == WS_THICKFRAME && kStyleCaption == WS_CAPTION);
 static_assert(int(ShowWindowAs::Maximised) == SW_MAXIMIZE && int(ShowWindowAs::Restored) == SW_RESTORE);
-
-static QRect rectOf(const RECT &rect)
-{
-    return {rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top};
-}
 
 WindowHandle Win32DesktopWindows::foregroundWindow()
 {

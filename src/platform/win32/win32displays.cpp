@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 
+#include "platform/win32/win32rects.h"
 #include "platform/win32/win32strings.h"
 
 namespace platform {
@@ -42,11 +43,6 @@ std::optional<DisplayDevice> displayDevice(const wchar_t *adapterName, std::uint
     if (!EnumDisplayDevicesW(adapterName, index, &device, flags))
         return std::nullopt;
     return DisplayDevice{QString::fromWCharArray(device.DeviceName), QString::fromWCharArray(device.DeviceID)};
-}
-
-QRect rectOf(const RECT &rect)
-{
-    return {rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top};
 }
 
 BOOL CALLBACK visitDisplay(HMONITOR display, HDC, LPRECT, LPARAM visit)
@@ -139,7 +135,7 @@ std::optional<WorkArea> Win32Displays::workArea()
         SetThreadDpiAwarenessContext(before);
     if (!known)
         return std::nullopt;
-    return WorkArea{{area.right - area.left, area.bottom - area.top}, dpi / double(USER_DEFAULT_SCREEN_DPI)};
+    return WorkArea{rectOf(area).size(), dpi / double(USER_DEFAULT_SCREEN_DPI)};
 }
 
 bool Win32Displays::animatesControls()
