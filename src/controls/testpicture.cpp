@@ -124,3 +124,8 @@ QImage testPicture(const QSize &size, const PictureLook &look)
     }
     return image;
 }
+
+void drawTestPicture(QPainter &painter, const QRectF &screen, const PictureLook &look)
+{
+    painter.drawImage(screen.topLeft(), testPicture(screen.size().toSize(), look));
+}

@@ -3,6 +3,9 @@
 #include <QImage>
 #include <QSize>
 
+class QPainter;
+class QRectF;
+
 /// How a picture is shown by a monitor, for a drawing that makes settings understood: not calibrated, but in the right
 /// direction and strong enough to be seen.
 struct PictureLook
@@ -21,3 +24,6 @@ struct PictureLook
 
 /// A landscape with dark and bright parts and full colours, as such a monitor shows it.
 QImage testPicture(const QSize &size, const PictureLook &look);
+
+/// The same over the whole screen of a drawn monitor.
+void drawTestPicture(QPainter &painter, const QRectF &screen, const PictureLook &look = {});

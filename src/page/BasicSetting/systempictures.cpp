@@ -17,11 +17,6 @@ namespace systempictures {
 
 namespace {
 
-void drawPicture(QPainter &painter, const QRectF &screen, const PictureLook &look)
-{
-    painter.drawImage(screen.topLeft(), testPicture(screen.size().toSize(), look));
-}
-
 /// The monitor's menu, as large as it is on a screen of this size.
 QRectF menuOn(const QRectF &screen, const PictureValues &values)
 {
@@ -61,7 +56,7 @@ void paintOsd(QPainter &painter, const QRectF &screen, const PictureValues &valu
 
 void paintPowerSaving(QPainter &painter, const QRectF &screen, const PictureValues &values)
 {
-    drawPicture(painter, screen, {.brightness = 0.5 - 0.13 * std::clamp(values(Command::PowerSaving, 0), 0, 2)});
+    drawTestPicture(painter, screen, {.brightness = 0.5 - 0.13 * std::clamp(values(Command::PowerSaving, 0), 0, 2)});
 }
 
 void paintPowerLed(QPainter &painter, const QRectF &screen, const PictureValues &values)

@@ -11,35 +11,30 @@ namespace enhancepictures {
 
 namespace {
 
-void drawPicture(QPainter &painter, const QRectF &screen, const PictureLook &look)
-{
-    painter.drawImage(screen.topLeft(), testPicture(screen.size().toSize(), look));
-}
-
 void paintHdr(QPainter &painter, const QRectF &screen, const PictureValues &values)
 {
     static constexpr PictureLook kLooks[] = {{},
                                              {.contrast = 0.65, .saturation = 0.55},
                                              {.contrast = 0.7, .saturation = 0.65, .shadows = 0.5},
                                              {.brightness = 0.45, .contrast = 0.75, .saturation = 0.6}};
-    drawPicture(painter, screen, kLooks[std::clamp(values(Command::Hdr, 0), 0, 3)]);
+    drawTestPicture(painter, screen, kLooks[std::clamp(values(Command::Hdr, 0), 0, 3)]);
 }
 
 void paintColor(QPainter &painter, const QRectF &screen, const PictureValues &values)
 {
-    drawPicture(painter, screen, {.saturation = 0.5 + values(Command::ColorEnhance, 0) / 20.0});
+    drawTestPicture(painter, screen, {.saturation = 0.5 + values(Command::ColorEnhance, 0) / 20.0});
 }
 
 void paintContrast(QPainter &painter, const QRectF &screen, const PictureValues &values)
 {
-    drawPicture(painter, screen, {.contrast = 0.5 + values(Command::ContrastEnhance, 0) / 12.0});
+    drawTestPicture(painter, screen, {.contrast = 0.5 + values(Command::ContrastEnhance, 0) / 12.0});
 }
 
 void paintShadows(QPainter &painter, const QRectF &screen, const PictureValues &values)
 {
     const double level = values(Command::BlackLevel, 50) / 100.0;
-    drawPicture(painter, screen,
-                {.shadows = std::max(0.0, level * 2 - 1), .gamma = 2.2 + std::max(0.0, 1 - level * 2)});
+    drawTestPicture(painter, screen,
+                    {.shadows = std::max(0.0, level * 2 - 1), .gamma = 2.2 + std::max(0.0, 1 - level * 2)});
 }
 
 /// Enlarged as from a smaller picture, and drawn the sharper the higher the level.

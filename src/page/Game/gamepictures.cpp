@@ -16,14 +16,9 @@ namespace {
 
 constexpr int kRed = 0;
 
-void drawGame(QPainter &painter, const QRectF &screen, const PictureLook &look = {})
-{
-    painter.drawImage(screen.topLeft(), testPicture(screen.size().toSize(), look));
-}
-
 void paintRush(QPainter &painter, const QRectF &screen, const PictureValues &values)
 {
-    drawGame(painter, screen);
+    drawTestPicture(painter, screen);
     // What moves: with the delay of before behind it, and without.
     const bool isFast = values.is(Command::GameRush, 1);
     const QPointF hand = screen.center() + QPointF(screen.width() * 0.18, 0);
@@ -39,7 +34,7 @@ void paintRush(QPainter &painter, const QRectF &screen, const PictureValues &val
 
 void paintCrosshair(QPainter &painter, const QRectF &screen, const PictureValues &values)
 {
-    drawGame(painter, screen);
+    drawTestPicture(painter, screen);
     const bool isTold = values.valueOf(Command::CrosshairShape) && values.valueOf(Command::CrosshairColor) &&
                         values.valueOf(Command::CrosshairPlace);
     if (isTold && (values.is(Command::Crosshair, 1) || values.isPreview()))
@@ -50,20 +45,20 @@ void paintCrosshair(QPainter &painter, const QRectF &screen, const PictureValues
 /// One half for the game and one, warmer, for what is read.
 void paintDualMode(QPainter &painter, const QRectF &screen, const PictureValues &values)
 {
-    drawGame(painter, screen);
+    drawTestPicture(painter, screen);
     if (!values.is(Command::AiDualMode, 1))
         return;
     QRectF right = screen;
     right.setLeft(screen.center().x());
     painter.save();
     painter.setClipRect(right, Qt::IntersectClip);
-    drawGame(painter, screen, {.contrast = 0.42, .saturation = 0.4, .kelvin = 4600});
+    drawTestPicture(painter, screen, {.contrast = 0.42, .saturation = 0.4, .kelvin = 4600});
     painter.restore();
 }
 
 void paintMovingCrosshair(QPainter &painter, const QRectF &screen, const PictureValues &values)
 {
-    drawGame(painter, screen);
+    drawTestPicture(painter, screen);
     if (!values.is(Command::MovingCrosshair, 1) && !values.isPreview())
         return;
     // It opens while the picture moves: at rest, and around it as it is then.
@@ -103,7 +98,7 @@ QImage sharpened(const QImage &image, double amount)
 
 void paintHawkEye(QPainter &painter, const QRectF &screen, const PictureValues &values)
 {
-    drawGame(painter, screen);
+    drawTestPicture(painter, screen);
     if (!values.is(Command::HawkEyeVision, 1) && !values.isPreview())
         return;
     static constexpr double kZooms[] = {1.5, 2, 4};
@@ -125,20 +120,20 @@ void paintNightVision(QPainter &painter, const QRectF &screen, const PictureValu
 {
     static constexpr double kLifts[] = {0, 0.45, 0.9, 0.45, 0.9};
     const int option = std::clamp(values(Command::NightVision, 0), 0, 4);
-    drawGame(painter, screen,
-             {.shadows = kLifts[option], .gamma = 2.2 - kLifts[option], .day = 0.25 + 0.3 * kLifts[option]});
+    drawTestPicture(painter, screen,
+                    {.shadows = kLifts[option], .gamma = 2.2 - kLifts[option], .day = 0.25 + 0.3 * kLifts[option]});
 }
 
 void paintRefreshRate(QPainter &painter, const QRectF &screen, const PictureValues &values)
 {
-    drawGame(painter, screen);
+    drawTestPicture(painter, screen);
     if (values.is(Command::RefreshRate, 1) || values.isPreview())
         drawReadout(painter, screen, values(Command::RefreshRatePlace, 1), QStringLiteral("165 Hz"));
 }
 
 void paintStopwatch(QPainter &painter, const QRectF &screen, const PictureValues &values)
 {
-    drawGame(painter, screen);
+    drawTestPicture(painter, screen);
     static constexpr int kMinutes[] = {15, 30, 60, 90};
     const int minutes = kMinutes[std::clamp(values(Command::StopwatchTime, 1), 1, 4) - 1];
     if (values.is(Command::Stopwatch, 1) || values.isPreview())
@@ -148,7 +143,7 @@ void paintStopwatch(QPainter &painter, const QRectF &screen, const PictureValues
 
 void paintGameTime(QPainter &painter, const QRectF &screen, const PictureValues &values)
 {
-    drawGame(painter, screen);
+    drawTestPicture(painter, screen);
     const int minutes = 20 + 10 * std::clamp(values(Command::GameTimeLength, 1), 1, 4);
     if (values.is(Command::GameTime, 1) || values.isPreview())
         drawReadout(painter, screen, values(Command::GameTimePlace, 0), QStringLiteral("%1:00").arg(minutes));
@@ -156,7 +151,7 @@ void paintGameTime(QPainter &painter, const QRectF &screen, const PictureValues 
 
 void paintFocusDimming(QPainter &painter, const QRectF &screen, const PictureValues &values)
 {
-    drawGame(painter, screen);
+    drawTestPicture(painter, screen);
     if (values.is(Command::FocusDimming, 1) || values.isPreview())
         drawFocusDimming(painter, screen, values(Command::FocusDimmingLevel, 0));
 }

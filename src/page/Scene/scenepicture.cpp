@@ -75,7 +75,7 @@ void paint(QPainter &painter, const QRectF &screen, const PictureValues &values)
     if (own != std::end(kOwnPictures))
         own->picture.screen(painter, screen, values);
     else
-        painter.drawImage(screen.topLeft(), testPicture(screen.size().toSize(), lookOf(values)));
+        drawTestPicture(painter, screen, lookOf(values));
 }
 
 } // namespace

@@ -77,7 +77,7 @@ void paintRange(QPainter &painter, const QRectF &screen, const PictureValues &va
     // A signal of the other range looks washed out.
     const bool isOther = values.is(Command::OutputRange, 1);
     const PictureLook look = isOther ? PictureLook{.contrast = 0.36, .shadows = 0.3} : PictureLook{};
-    painter.drawImage(screen.topLeft(), testPicture(screen.size().toSize(), look));
+    drawTestPicture(painter, screen, look);
 }
 
 } // namespace
