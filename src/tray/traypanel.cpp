@@ -23,6 +23,7 @@
 #include "page/engine/optiongrouprow.h"
 #include "page/engine/pagestyle.h"
 #include "page/engine/plainbutton.h"
+#include "page/engine/scrollarea.h"
 #include "page/engine/storenotice.h"
 #include "tray/traypanelfooter.h"
 #include "tray/traypanelheader.h"
@@ -57,11 +58,7 @@ void TrayPanel::build()
     column->setContentsMargins(kMargin, 16, kMargin, 12);
     column->setSpacing(metrics::kGap);
     m_header = new TrayPanelHeader(column, this);
-    m_scroll = new QScrollArea(this);
-    m_scroll->setWidgetResizable(true);
-    m_scroll->setFrameShape(QFrame::NoFrame);
-    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_scroll->setFocusPolicy(Qt::NoFocus);
+    m_scroll = makeScrollArea(this);
     m_scroll->setWidget(buildBody());
     column->addWidget(m_scroll);
     m_footer = new TrayPanelFooter(m_choices, column, this);

@@ -6,9 +6,7 @@
 #include <QPushButton>
 #include <QStandardItemModel>
 
-#include "controls/accessiblecontrol.h"
 #include "controls/dash.h"
-#include "controls/focusgroup.h"
 #include "controls/metrics.h"
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/scenemodes.h"
@@ -41,13 +39,6 @@ TrayScene::TrayScene(BoundTexts &texts, QVBoxLayout *column, QWidget *body) : QO
 QWidget *TrayScene::buildHalves(BoundTexts &texts, QWidget *body)
 {
     auto *halves = new QWidget(body);
-    auto *row = new QHBoxLayout(halves);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(0);
-    m_halves = new QButtonGroup(halves);
-    describeAs(halves, QAccessible::Grouping);
-    texts.bind(kHalvesLabel, [halves](const QString &text) { halves->setAccessibleName(text); });
-    auto *stop = new FocusGroup(halves);
     m_default = new QPushButton(halves);
     m_custom = new QPushButton(halves);
     for (QPushButton *half : {m_default, m_custom}) {
@@ -56,11 +47,12 @@ QWidget *TrayScene::buildHalves(BoundTexts &texts, QWidget *body)
         half->setFixedHeight(metrics::kControlHeight);
         texts.bind(half == m_default ? kDefaultLabel : kCustomLabel,
                    [half](const QString &text) { half->setText(text.trimmed()); });
-        m_halves->addButton(half);
-        stop->add(half);
-        row->addWidget(half, 1);
         connect(half, &QPushButton::clicked, this, [this, half] { Q_EMIT halfChosen(half == m_default); });
     }
+    QHBoxLayout *row = joinHalves(halves, m_default, m_custom, texts);
+    row->setSpacing(0);
+    row->setStretch(0, 1);
+    row->setStretch(1, 1);
     layInTrack(halves, {m_default, m_custom});
     return halves;
 }
@@ -84,7 +76,7 @@ void TrayScene::show(Mark mark)
     const SceneMode *mode = mark != Mark::Unknown ? sceneModeOf(value) : nullptr;
     m_scene->setCurrentIndex(mode ? m_scene->findData(mode->value) : -1);
     QPushButton *half = value % 2 != 0 ? m_default : m_custom;
-    checkOnly(*m_halves, mode ? half : nullptr);
+    checkOnly(*half->group(), mode ? half : nullptr);
     m_words = mode ? listed({QObject::tr(mode->label), half->text()}) : kDash;
     m_scene->setAccessibleDescription(markText(mark));
 }

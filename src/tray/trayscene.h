@@ -5,7 +5,6 @@
 #include "controls/valuemark.h"
 
 class BoundTexts;
-class QButtonGroup;
 class QComboBox;
 class QPushButton;
 class QVBoxLayout;
@@ -43,7 +42,6 @@ private:
     QWidget *buildHalves(BoundTexts &texts, QWidget *body);
 
     QComboBox *m_scene;
-    QButtonGroup *m_halves = nullptr;
     QPushButton *m_default = nullptr;
     QPushButton *m_custom = nullptr;
     QString m_words;

@@ -2,10 +2,14 @@
 
 #include <utility>
 
+#include <QButtonGroup>
 #include <QEvent>
+#include <QHBoxLayout>
 #include <QPainter>
 #include <QPushButton>
 
+#include "controls/accessiblecontrol.h"
+#include "controls/focusgroup.h"
 #include "controls/metrics.h"
 #include "controls/palette.h"
 #include "page/engine/boundtexts.h"
@@ -90,6 +94,22 @@ QPushButton *makeHalfButton(const char *label, BoundTexts &texts, QWidget *paren
         dressHalfButton(button);
     });
     return button;
+}
+
+QHBoxLayout *joinHalves(QWidget *holder, QPushButton *defaultHalf, QPushButton *customHalf, BoundTexts &texts)
+{
+    describeAs(holder, QAccessible::Grouping);
+    texts.bind(kHalvesLabel, [holder](const QString &text) { holder->setAccessibleName(text); });
+    auto *choice = new QButtonGroup(holder);
+    auto *stop = new FocusGroup(holder);
+    auto *row = new QHBoxLayout(holder);
+    row->setContentsMargins(0, 0, 0, 0);
+    for (QPushButton *half : {defaultHalf, customHalf}) {
+        choice->addButton(half);
+        stop->add(half);
+        row->addWidget(half);
+    }
+    return row;
 }
 
 void layInTrack(QWidget *holder, const std::vector<QPushButton *> &halves)

@@ -5,6 +5,7 @@
 #include <QtGlobal>
 
 class BoundTexts;
+class QHBoxLayout;
 class QPushButton;
 class QWidget;
 
@@ -23,6 +24,10 @@ void dressHalfButton(QPushButton *button, HalfSize size = HalfSize::Wide);
 
 /// Makes one control of halves that lie side by side: the track around them is painted by what holds them.
 void layInTrack(QWidget *holder, const std::vector<QPushButton *> &halves);
+
+/// Makes one choice of the two halves of a scene mode: one of them is checked, and both are one Tab stop. The row in
+/// which they lie in the holder.
+QHBoxLayout *joinHalves(QWidget *holder, QPushButton *defaultHalf, QPushButton *customHalf, BoundTexts &texts);
 
 /// One half of a two-way selector, checkable.
 QPushButton *makeHalfButton(const char *label, BoundTexts &texts, QWidget *parent);

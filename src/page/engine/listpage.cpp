@@ -18,6 +18,7 @@
 #include "page/engine/pagehead.h"
 #include "page/engine/pagestyle.h"
 #include "page/engine/plainbutton.h"
+#include "page/engine/scrollarea.h"
 #include "page/engine/storenotice.h"
 
 namespace {
@@ -49,10 +50,7 @@ ListPage::ListPage(const QString &name, const char *title, const char *descripti
 
     m_nothing->setObjectName(QStringLiteral("note"));
     m_nothing->setWordWrap(true);
-    m_texts.bind(title, [this](const QString &text) {
-        m_head->setTitle(text);
-        setAccessibleName(text);
-    });
+    m_texts.bind(title, [this](const QString &text) { m_head->setTitle(text); });
     if (nothing)
         m_texts.bind(nothing, [this](const QString &text) { m_nothing->setText(text); });
     m_texts.bind(description, [this](const QString &text) { m_head->setHelp(text); });
@@ -93,11 +91,7 @@ bool ListPage::eventFilter(QObject *watched, QEvent *event)
 
 QWidget *ListPage::buildList()
 {
-    m_area = new QScrollArea(this);
-    m_area->setWidgetResizable(true);
-    m_area->setFrameShape(QFrame::NoFrame);
-    m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_area->setFocusPolicy(Qt::NoFocus);
+    m_area = makeScrollArea(this);
     auto *content = new QWidget(m_area);
     content->setObjectName(QStringLiteral("customArea"));
     m_rows = new QVBoxLayout(content);

@@ -164,10 +164,8 @@ int OptionGroupRow::indexOf(const QObject *button) const
 
 QPushButton *OptionGroupRow::buttonOf(int value) const
 {
-    // Of two with one value the first is the off side.
-    const auto option = std::ranges::find(m_group.options, value, &Option::value);
-    const auto place = static_cast<std::size_t>(option - m_group.options.begin());
-    return place < m_buttons.size() ? m_buttons[place] : nullptr;
+    const Option *option = optionOf(m_group, value);
+    return option ? m_buttons[static_cast<std::size_t>(option - m_group.options.data())] : nullptr;
 }
 
 void OptionGroupRow::makeNarrow(int captionWidth)

@@ -29,13 +29,9 @@ QLabel *makeLabel(int pixels, const char *colour, QWidget *parent)
 }
 
 /// The option of a row for a value; null when it has none.
-const Option *optionOf(const OptionGroupRow *row, std::optional<int> value)
+const Option *optionFor(const OptionGroupRow *row, std::optional<int> value)
 {
-    if (!row || !value)
-        return nullptr;
-    const auto options = row->group().options;
-    const auto found = std::ranges::find(options, *value, &Option::value);
-    return found == options.end() ? nullptr : &*found;
+    return row && value ? optionOf(row->group(), *value) : nullptr;
 }
 
 bool hasOwnWords(const OptionGroupRow *row)
@@ -194,24 +190,24 @@ bool OptionWords::isIdle(int value) const
 
 OptionWords::Said OptionWords::sayOn(int value) const
 {
-    const Option *option = optionOf(m_told, value);
+    const Option *option = optionFor(m_told, value);
     if (!option)
         return {};
     const QString words = wordsOf(m_told->group(), *option);
     if (m_told->group().look == GroupLook::Switch) // whatever its halves are called
         return {nameOf(m_told), value != 0 ? QObject::tr("Switched on.") : QObject::tr("Switched off."), words};
-    const QString name = QObject::tr(option->label).trimmed();
+    const QString name = optionName(*option);
     return {m_isOneOfMany ? nameOf(m_told) + QStringLiteral(" · ") + name : name,
             isIdle(value) ? QObject::tr("Chosen, and switched off now.") : QObject::tr("On now."), words};
 }
 
 OptionWords::Said OptionWords::sayPointed(int value) const
 {
-    const Option *option = optionOf(m_told, value);
+    const Option *option = optionFor(m_told, value);
     if (!option)
         return {};
     const bool isWhose = m_isOneOfMany || m_told->group().look == GroupLook::Switch;
-    const QString name = QObject::tr(option->label).trimmed();
+    const QString name = optionName(*option);
     return {isWhose ? nameOf(m_told) + QStringLiteral(" · ") + name : name, {}, wordsOf(m_told->group(), *option)};
 }
 

@@ -15,43 +15,14 @@
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/devicestate.h"
 #include "page/engine/boundtexts.h"
-#include "page/engine/labels.h"
 #include "page/engine/optiongrouprow.h"
+#include "page/engine/tableslider.h"
 
 namespace {
 
 constexpr int kColumnSpacing = 40;
 constexpr int kHeadingPixels = 15;
 constexpr int kSignSpacing = 4;
-
-/// What is seen of an accent, and what is said of it where the caption is a single letter.
-struct AccentLook
-{
-    Accent accent;
-    QRgb colour;
-    const char *name;
-};
-constexpr AccentLook kAccents[] = {
-    {Accent::Red, 0xffff6b6b, LABEL("Red")},     {Accent::Yellow, 0xffffd166, LABEL("Yellow")},
-    {Accent::Green, 0xff4be08a, LABEL("Green")}, {Accent::Cyan, 0xff4bd6e0, LABEL("Cyan")},
-    {Accent::Blue, 0xff5aa9ff, LABEL("Blue")},   {Accent::Magenta, 0xffd98bff, LABEL("Magenta")},
-};
-
-/// Null for the look's own accent.
-const AccentLook *lookOf(Accent accent)
-{
-    const auto *found = std::find_if(std::begin(kAccents), std::end(kAccents),
-                                     [accent](const AccentLook &look) { return look.accent == accent; });
-    return found == std::end(kAccents) ? nullptr : found;
-}
-
-/// Sliders under a heading are told apart by it: "Hue: Red".
-QString spokenName(const SliderGrid &grid, const AccentLook *look, const QString &caption)
-{
-    if (!grid.heading)
-        return caption;
-    return QStringLiteral("%1: %2").arg(QObject::tr(grid.heading), look ? QObject::tr(look->name) : caption);
-}
 
 void shrinkRowCaptions(const QWidget &panel)
 {
@@ -140,7 +111,7 @@ void PageControls::addSliders(const SliderGrid &grid, std::span<const LockRule> 
     cells->setVerticalSpacing(metrics::kRowGap);
     int cell = 0;
     for (const SliderSpec &spec : grid.sliders) {
-        cells->addLayout(makeSlider(spec, grid, locks, column->parentWidget()), cell / grid.columns,
+        cells->addLayout(makeSliderCell(spec, grid, locks, column->parentWidget()), cell / grid.columns,
                          cell % grid.columns);
         ++cell;
     }
@@ -153,20 +124,10 @@ void PageControls::addSliders(const SliderGrid &grid, std::span<const LockRule> 
 }
 
 /// A slider, and behind it the room for a lock in grids where one may come: the sliders must not jump then.
-QLayout *PageControls::makeSlider(const SliderSpec &spec, const SliderGrid &grid, std::span<const LockRule> locks,
-                                  QWidget *parent)
+QLayout *PageControls::makeSliderCell(const SliderSpec &spec, const SliderGrid &grid, std::span<const LockRule> locks,
+                                      QWidget *parent)
 {
-    auto *slider = new SliderWidget(QLatin1String(spec.name), spec.minimum, spec.maximum, parent);
-    slider->setCaptionWidth(grid.captionWidth);
-    slider->setFixedHeight(metrics::kControlHeight);
-    const AccentLook *look = lookOf(spec.accent);
-    slider->setAccent(look ? QColor(look->colour) : QColor());
-    if (grid.showsAccents)
-        slider->showAccent();
-    if (spec.help)
-        m_texts.bind(spec.help, [slider](const QString &text) { slider->setHelp(text); });
-    m_texts.bind(spec.caption,
-                 [slider, grid, look](const QString &text) { slider->setCaption(text, spokenName(grid, look, text)); });
+    SliderWidget *slider = makeSlider(spec, grid, m_texts, parent);
     connect(slider, &SliderWidget::sliderValueChanged, this, &PageControls::sliderChanged);
     m_sliders.push_back(slider);
     if (!deviceState.has(spec.needs))
@@ -256,10 +217,10 @@ QString PageControls::wordsFor(Command command, int value) const
 {
     if (const OptionGroupRow *row = group(command)) {
         const QString name = QObject::tr(row->group().label);
-        const auto chosen = std::ranges::find(row->group().options, value, &Option::value);
-        if (chosen == row->group().options.end())
+        const Option *chosen = optionOf(row->group(), value);
+        if (!chosen)
             return name;
-        const QString option = QObject::tr(chosen->label).trimmed(); // a button may show a picture instead
+        const QString option = optionName(*chosen); // a button may show a picture instead
         return row->hasCaption() ? QStringLiteral("%1: %2").arg(name, option) : option;
     }
     for (const Slider &entry : m_sliderEntries) {

@@ -99,8 +99,8 @@ private:
     void addOptions(const OptionGroup &group, QVBoxLayout *column);
     void addOwnOptions(const OptionGroup &group, QVBoxLayout *column);
     void addSliders(const SliderGrid &grid, std::span<const LockRule> locks, QVBoxLayout *column);
-    QLayout *makeSlider(const SliderSpec &spec, const SliderGrid &grid, std::span<const LockRule> locks,
-                        QWidget *parent);
+    QLayout *makeSliderCell(const SliderSpec &spec, const SliderGrid &grid, std::span<const LockRule> locks,
+                            QWidget *parent);
     LockSign *makeSign(SliderWidget *slider);
 
     BoundTexts &m_texts;

@@ -31,8 +31,8 @@ int lineHeight(QLabel *line)
 
 } // namespace
 
-PageHead::PageHead(QWidget *parent)
-    : QWidget(parent), m_title(makeLine(QStringLiteral("title"), titleFont, this)),
+PageHead::PageHead(QWidget *page)
+    : QWidget(page), m_page(*page), m_title(makeLine(QStringLiteral("title"), titleFont, this)),
       m_help(makeLine(QStringLiteral("help"), noteFont, this)), m_corner(new QHBoxLayout),
       m_strip(new MessageStrip(this))
 {
@@ -65,6 +65,7 @@ PageHead::PageHead(QWidget *parent)
 void PageHead::setTitle(const QString &title)
 {
     m_title->setText(title);
+    m_page.setAccessibleName(title);
 }
 
 void PageHead::setHelp(const QString &sentence)

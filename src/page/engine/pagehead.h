@@ -11,8 +11,10 @@ class QLabel;
 class PageHead : public QWidget
 {
 public:
-    explicit PageHead(QWidget *parent);
+    /// Belongs to the page.
+    explicit PageHead(QWidget *page);
 
+    /// Assistive software calls the page by its title.
     void setTitle(const QString &title);
 
     /// The sentence may be empty; its line stays.
@@ -24,6 +26,7 @@ public:
     MessageStrip *strip() const { return m_strip; }
 
 private:
+    QWidget &m_page;
     QLabel *m_title;
     QLabel *m_help;
     QHBoxLayout *m_corner;

@@ -4,7 +4,7 @@
 #include <span>
 #include <variant>
 
-#include <QtGlobal>
+#include <QString>
 
 #include "ddc_protocol/command.h"
 
@@ -84,6 +84,12 @@ struct CustomPart
 {
     const char *name;
 };
+
+/// The option of a value, of two with one value the first, which is the off side; null where the group has none.
+const Option *optionOf(const OptionGroup &group, int value);
+
+/// What an option is called outside of its button, in the language of now.
+QString optionName(const Option &option);
 
 using Section = std::variant<SliderGrid, OptionGroup, CustomPart>;
 

@@ -12,6 +12,7 @@
 #include "page/engine/boundtexts.h"
 #include "page/engine/labels.h"
 #include "page/engine/pagetable.h"
+#include "page/engine/scrollarea.h"
 
 namespace {
 
@@ -35,12 +36,8 @@ PanelList::PanelList(BoundTexts &texts, QWidget *parent) : QFrame(parent), m_tex
     m_column->setSpacing(2);
     m_column->addStretch(1);
 
-    m_area = new QScrollArea(this);
-    m_area->setWidgetResizable(true);
-    m_area->setFrameShape(QFrame::NoFrame);
+    m_area = makeScrollArea(this);
     m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_area->setFocusPolicy(Qt::NoFocus);
     m_area->setWidget(entries);
     QPushButton *upper = makeArrow(QStringLiteral("pushButton_Upper"), QStringLiteral("▲"), -1);
     QPushButton *down = makeArrow(QStringLiteral("pushButton_Down"), QStringLiteral("▼"), 1);

@@ -7,7 +7,6 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
-#include "controls/accessiblecontrol.h"
 #include "controls/captions.h"
 #include "controls/lefttabbutton.h"
 #include "controls/metrics.h"
@@ -19,6 +18,7 @@
 #include "page/engine/optiongrouprow.h"
 #include "page/engine/optionwords.h"
 #include "page/engine/pagehead.h"
+#include "page/engine/pagepanel.h"
 #include "page/engine/pagestyle.h"
 #include "page/engine/panellist.h"
 #include "page/engine/picturestage.h"
@@ -67,9 +67,9 @@ void PanelPage::build()
     addUndoBar(column);
     row->addLayout(column, 1);
     for (const PanelSpec &panel : m_panels) {
-        QWidget *content = makePanel(panel);
-        fillPanel(m_stack->count(), content); // before it is shown: what it asks for goes by what is in sight
-        m_stack->addWidget(content);
+        m_built.push_back(new PagePanel(panel, m_stack));
+        fillPanel(*m_built.back()); // before it is shown: what it asks for goes by what is in sight
+        m_stack->addWidget(m_built.back());
     }
     offerPanels();
     showPanel(0);
@@ -102,17 +102,6 @@ std::vector<LeftTabButton *> PanelPage::entries() const
     return shown;
 }
 
-QWidget *PanelPage::makePanel(const PanelSpec &panel)
-{
-    auto *content = new QWidget(m_stack);
-    content->setObjectName(QLatin1String(panel.widgetName));
-    describeAs(content, QAccessible::Pane);
-    auto *column = new QVBoxLayout(content);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(metrics::kRowGap);
-    return content;
-}
-
 bool PanelPage::offers(const PanelSpec &panel) const
 {
     return isOffered(panel, deviceState);
@@ -125,9 +114,9 @@ void PanelPage::offerPanels()
         const bool isThere = offers(panelAt(place));
         if (m_entries)
             m_entries->offer(place, isThere);
-        fillPanel(place, m_stack->widget(place));
+        fillPanel(*m_built[static_cast<std::size_t>(place)]);
     }
-    const PanelSpec &open = panelAt(m_stack->currentIndex());
+    const PanelSpec &open = shownPanel()->spec();
     if (offers(open) || panelCount() == 0)
         return;
     showPanel(0);
@@ -144,69 +133,41 @@ void PanelPage::followCapability()
     QMetaObject::invokeMethod(this, &PanelPage::reconcile, Qt::QueuedConnection); // what is new is in sight by then
 }
 
-/// Once, and only for a monitor that has it.
-void PanelPage::fillPanel(int place, QWidget *content)
+/// Null until the first one stands.
+PagePanel *PanelPage::shownPanel() const
 {
-    const PanelSpec &panel = panelAt(place);
-    if (!offers(panel) || !m_filled.insert(place).second)
+    const int place = m_stack->currentIndex();
+    return place < 0 ? nullptr : m_built[static_cast<std::size_t>(place)];
+}
+
+/// Once, and only for a monitor that has it.
+void PanelPage::fillPanel(PagePanel &panel)
+{
+    if (!offers(panel.spec()) || panel.isFinished())
         return;
-    auto *column = static_cast<QVBoxLayout *>(content->layout());
     const std::size_t groupsBefore = optionGroups().size();
     const std::size_t slidersBefore = sliders().size();
-    buildSections(panel.sections, column);
-    const std::span rows = std::span(optionGroups()).subspan(groupsBefore);
-    const std::span ownSliders = std::span(sliders()).subspan(slidersBefore);
-    const bool repeatTitle =
-        std::ranges::all_of(
-            rows, [&panel](const OptionGroupRow *row) { return qstrcmp(row->group().label, panel.label) == 0; }) &&
-        std::ranges::all_of(
-            ownSliders, [&panel](const SliderWidget *slider) { return slider->name() == QLatin1String(panel.label); });
-    if (repeatTitle) { // else the controls would not line up
-        std::ranges::for_each(rows, &OptionGroupRow::hideCaption);
-        std::ranges::for_each(ownSliders, &SliderWidget::hideCaption);
-    }
-    column->addStretch(1);
-    if (panel.picture && !m_drawsLater)
-        addPicture(place, panel, column);
+    buildSections(panel.spec().sections, panel.column());
+    panel.finish(std::span(optionGroups()).subspan(groupsBefore), std::span(sliders()).subspan(slidersBefore));
+    if (!m_drawsLater)
+        addPicture(panel);
 }
 
-/// In place of the stretch below the controls.
-void PanelPage::addPicture(int index, const PanelSpec &panel, QVBoxLayout *column)
+void PanelPage::addPicture(PagePanel &panel)
 {
-    delete column->takeAt(column->count() - 1);
-    const QList<OptionGroupRow *> rows = column->parentWidget()->findChildren<OptionGroupRow *>();
-    auto *stage = new PictureStage(*panel.picture, {rows.begin(), rows.end()}, panel.label, column->parentWidget());
-    m_pictures[index] = stage;
-    stageBuilt(panel, *stage);
-    column->addWidget(stage, 1);
-    followSliders(panel, stage);
-}
-
-/// Those that are sent when they are let go are seen at work while they are held.
-void PanelPage::followSliders(const PanelSpec &panel, PictureStage *stage)
-{
-    for (const Section &section : panel.sections) {
-        const auto *grid = std::get_if<SliderGrid>(&section);
-        for (const SliderSpec &spec : grid ? grid->sliders : std::span<const SliderSpec>()) {
-            if (const SliderWidget *widget = slider(spec.name))
-                connect(widget, &SliderWidget::sliderValueChanged, stage,
-                        [stage, command = spec.command](const QString &, int value, bool released) {
-                            stage->tryOut(released ? std::nullopt : std::optional(std::pair(command, value)));
-                        });
-        }
-    }
+    if (PictureStage *stage = panel.addPicture())
+        stageBuilt(panel.spec(), *stage);
 }
 
 void PanelPage::refreshPicture()
 {
     if (!isVisible())
         return;
-    const int place = m_stack->currentIndex();
-    const PanelSpec &panel = panelAt(place);
-    if (panel.picture && m_filled.contains(place) && !m_pictures.contains(place))
-        addPicture(place, panel, static_cast<QVBoxLayout *>(m_stack->currentWidget()->layout()));
-    if (const auto stage = m_pictures.find(place); stage != m_pictures.end())
-        stage->second->refresh();
+    PagePanel *panel = shownPanel();
+    if (panel && panel->isFinished())
+        addPicture(*panel);
+    if (panel && panel->stage())
+        panel->stage()->refresh();
     for (OptionWords *words : m_words) {
         if (words->isVisible())
             words->refresh();
@@ -216,8 +177,9 @@ void PanelPage::refreshPicture()
 /// Keys may have been given anew on another page meanwhile.
 void PanelPage::showKeys()
 {
-    if (const auto stage = m_pictures.find(m_stack->currentIndex()); isVisible() && stage != m_pictures.end())
-        stage->second->words()->setKeys(keysOf(panelAt(stage->first)));
+    const PagePanel *panel = shownPanel();
+    if (isVisible() && panel && panel->stage())
+        panel->stage()->words()->setKeys(keysOf(panel->spec()));
 }
 
 void PanelPage::updateControlText()
@@ -225,8 +187,10 @@ void PanelPage::updateControlText()
     SettingsPage::updateControlText();
     shrinkTogether(entries());
     showTitle();
-    for (const auto &[panel, stage] : m_pictures)
-        stage->refresh();
+    for (const PagePanel *panel : m_built) {
+        if (panel->stage())
+            panel->stage()->refresh();
+    }
     for (OptionWords *words : m_words)
         words->refresh();
     showKeys();
@@ -236,11 +200,10 @@ void PanelPage::showTitle()
 {
     if (m_panels.empty() || !m_head)
         return;
-    const PanelSpec &panel = panelAt(m_stack->currentIndex());
+    const PanelSpec &panel = shownPanel()->spec();
     const QString title = QObject::tr(panel.label);
     m_head->setTitle(title);
-    setAccessibleName(title);
-    m_stack->currentWidget()->setAccessibleName(title);
+    shownPanel()->setAccessibleName(title);
     m_head->setHelp(panel.help ? QObject::tr(panel.help) : QString());
 }
 
@@ -298,9 +261,8 @@ QString PanelPage::optionText(Command command, int value) const
             const auto *group = std::get_if<OptionGroup>(&section);
             if (!group || group->command != command || *group->options.front().label == ' ')
                 continue; // "Enable" and "Disable", with their blanks: that a function is on has words of its own
-            const auto option = std::ranges::find(group->options, value, &Option::value);
-            if (option != group->options.end())
-                return QObject::tr(option->label).trimmed();
+            if (const Option *option = optionOf(*group, value))
+                return optionName(*option);
         }
     }
     return {};

@@ -1,10 +1,14 @@
 #pragma once
 
+#include <span>
+#include <vector>
+
 #include "page/engine/settingspage.h"
 #include "page/engine/storenotice.h"
 
 class LeftTabButton;
 class OptionWords;
+class PagePanel;
 class PanelList;
 class PictureStage;
 class QStackedWidget;
@@ -75,23 +79,21 @@ protected:
 
 private:
     PanelList *buildList();
-    QWidget *makePanel(const PanelSpec &panel);
-    void fillPanel(int place, QWidget *content);
+    void fillPanel(PagePanel &panel);
     void followCapability();
     const PanelSpec &panelAt(int place) const { return m_panels[static_cast<std::size_t>(place)]; }
-    void addPicture(int index, const PanelSpec &panel, QVBoxLayout *column);
-    void followSliders(const PanelSpec &panel, PictureStage *stage);
+    PagePanel *shownPanel() const;
+    void addPicture(PagePanel &panel);
     void showKeys();
     void choose(int index);
     void showTitle();
 
     OwnList m_list;
     std::span<const PanelSpec> m_panels; ///< of all models; a place is one in these
-    std::set<int> m_filled;              ///< places whose panels have their controls
+    std::vector<PagePanel *> m_built;    ///< by place
     PanelList *m_entries = nullptr;      ///< on pages with a list of their own
     QStackedWidget *m_stack;
     PageHead *m_head = nullptr;
-    bool m_drawsLater = false;                ///< the panels stand before their pictures
-    std::map<int, PictureStage *> m_pictures; ///< by panel
-    std::vector<OptionWords *> m_words;       ///< beside parts of the page's own
+    bool m_drawsLater = false;          ///< the panels stand before their pictures
+    std::vector<OptionWords *> m_words; ///< beside parts of the page's own
 };

@@ -23,11 +23,8 @@ const QColor kTime = Palette::kMint;
 /// An option's value in the words of its group.
 QString wordOf(const OptionGroup &group, int value)
 {
-    for (const Option &option : group.options) {
-        if (option.value == value)
-            return QObject::tr(option.label).trimmed();
-    }
-    return QString::number(value);
+    const Option *option = optionOf(group, value);
+    return option ? optionName(*option) : QString::number(value);
 }
 
 } // namespace

@@ -11,7 +11,6 @@
 #include "controls/captionlabel.h"
 #include "controls/captions.h"
 #include "controls/metrics.h"
-#include "controls/sharedfonts.h"
 #include "page/Nightloom/parts/toolcolumn.h"
 #include "page/engine/pagehead.h"
 #include "page/engine/pagestyle.h"
@@ -51,10 +50,7 @@ LongWorkPage::LongWorkPage(const QString &name, const char *title, const char *h
     setObjectName(name);
     describeAs(this, QAccessible::Pane);
     dressPage(this);
-    m_texts.bind(title, [this](const QString &text) {
-        m_head->setTitle(text);
-        setAccessibleName(text);
-    });
+    m_texts.bind(title, [this](const QString &text) { m_head->setTitle(text); });
     m_texts.bind(help, [this](const QString &text) { m_head->setHelp(text); });
     connect(m_work, &WorkPanel::begins, this, &LongWorkPage::busyBegins);
     connect(m_work, &WorkPanel::cancelled, this, &LongWorkPage::cancelWork);
