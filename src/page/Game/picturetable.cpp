@@ -1,7 +1,6 @@
 #include "page/Game/picturetable.h"
 
 #include "controls/metrics.h"
-#include "ddc_protocol/devicestate.h"
 #include "page/Game/enhancepictures.h"
 #include "page/Game/gamepictures.h"
 #include "page/engine/commandrows.h"
@@ -32,12 +31,8 @@ constexpr Option kHdr[] = {{LABEL("Close"), 0, LABEL("Every picture is shown wit
                            {LABEL("Game"), 2, LABEL("As Auto, with dark parts that stay readable.")},
                            {LABEL("Movie"), 3, LABEL("As Auto, with deep shadows as a film wants them.")}};
 
-// The last option is "High" here and "Strong" on the scene page; the value is the same.
-constexpr Option kLocalDimming[] = {{LABEL("Close"), 2, kDimmingCloseWords},
-                                    {LABEL("Low"), 3, kDimmingLowWords},
-                                    {LABEL("Smooth"), 4, kDimmingSmoothWords},
-                                    {LABEL("Medium"), 5, kDimmingMediumWords},
-                                    {LABEL("High"), 6, kDimmingHighWords}};
+// "Strong" on the scene page.
+constexpr std::array kLocalDimming = dimmingOptions(LABEL("High"));
 
 const SliderSpec kColorEnhance[] = {sliderOf(Command::ColorEnhance, 0, 10, SendOn::ReleaseWithStore)};
 const SliderSpec kContrastEnhance[] = {sliderOf(Command::ContrastEnhance, 0, 5, SendOn::ReleaseWithStore)};

@@ -46,12 +46,8 @@ constexpr Option kGamma[] = {{LABEL("1.6"), 0, LABEL("Very bright middle tones: 
                              {LABEL("2.6"), 5, LABEL("Dark and rich in contrast, as films look in a cinema.")},
                              {LABEL("CAD/CAM"), 7, LABEL("Lifts thin lines and dark surfaces of drawings.")}};
 
-// The monitor numbers these from 2: 0 and 1 belong to other models.
-constexpr Option kLocalDimming[] = {{LABEL("Close"), 2, kDimmingCloseWords},
-                                    {LABEL("Low"), 3, kDimmingLowWords},
-                                    {LABEL("Smooth"), 4, kDimmingSmoothWords},
-                                    {LABEL("Medium"), 5, kDimmingMediumWords},
-                                    {LABEL("Strong"), 6, kDimmingHighWords}};
+// "High" on the picture page.
+constexpr std::array kLocalDimming = dimmingOptions(LABEL("Strong"));
 
 constexpr char kMixtureWords[] = LABEL("A mixture of your own: set its red, green and blue with the sliders below.");
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 #include "page/engine/labels.h"
 #include "page/engine/pagetable.h"
 
@@ -28,12 +30,16 @@ inline constexpr Option kMotionOptions[] = {
     {LABEL("Ull-Level2"), 7, LABEL("Sharper still, with a short delay.")},
     {LABEL("Ull-Level3"), 8, LABEL("The sharpest movement, for the fastest games.")}};
 
-// What local dimming does, whatever a page calls its options.
-inline constexpr char kDimmingCloseWords[] = LABEL("The light behind the picture is even. Best for text.");
-inline constexpr char kDimmingLowWords[] = LABEL("Dark parts become a little darker.");
-inline constexpr char kDimmingSmoothWords[] = LABEL("Dims gently, so that changes are hardly noticed.");
-inline constexpr char kDimmingMediumWords[] = LABEL("Darker black, for films and games.");
-inline constexpr char kDimmingHighWords[] = LABEL("The deepest black. A glow may show around bright things.");
+/// The options of local dimming, which the monitor numbers from 2 as well; pages have names of their own for the
+/// strongest, a source text.
+constexpr std::array<Option, 5> dimmingOptions(const char *strongest)
+{
+    return {{{LABEL("Close"), 2, LABEL("The light behind the picture is even. Best for text.")},
+             {LABEL("Low"), 3, LABEL("Dark parts become a little darker.")},
+             {LABEL("Smooth"), 4, LABEL("Dims gently, so that changes are hardly noticed.")},
+             {LABEL("Medium"), 5, LABEL("Darker black, for films and games.")},
+             {strongest, 6, LABEL("The deepest black. A glow may show around bright things.")}}};
+}
 
 inline constexpr Option kOutputRangeOptions[] = {
     {LABEL("RGB Auto"), 0, LABEL("The monitor finds out which range the computer sends.")},
