@@ -1,37 +1,24 @@
 #include "page/Scene/pagescenesetting.h"
 
-#include <QButtonGroup>
-#include <QHBoxLayout>
-#include <QPainter>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
-#include "controls/accessiblecontrol.h"
-#include "controls/focusgroup.h"
 #include "controls/metrics.h"
-#include "controls/monitorpicture.h"
-#include "controls/sharedfonts.h"
+#include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/scenemodes.h"
 #include "ddc_protocol/valuewatch.h"
+#include "page/Scene/customhalf.h"
+#include "page/Scene/factoryhalf.h"
 #include "page/Scene/scenelocks.h"
-#include "page/Scene/scenelooks.h"
-#include "page/Scene/scenepicture.h"
 #include "page/Scene/scenetable.h"
 #include "page/Scene/workthread.h"
 #include "page/engine/halfbutton.h"
-#include "page/engine/labels.h"
 #include "page/engine/optiongrouprow.h"
-#include "page/engine/optionwords.h"
 #include "page/engine/pagehead.h"
 #include "page/engine/pagestyle.h"
-#include "page/engine/picturestage.h"
-#include "page/engine/plainbutton.h"
-
-static constexpr QSize kLook(420, 280); // of the drawn monitor
 
 pageSceneSetting::pageSceneSetting(SearchDeviceDlg &session, CommandQueue &queue, QWidget *parent)
     : SettingsPage(queue, parent), m_worker(new WorkThread(session, this)), m_areas(new QStackedWidget(this))
@@ -43,9 +30,7 @@ pageSceneSetting::pageSceneSetting(SearchDeviceDlg &session, CommandQueue &queue
     column->setContentsMargins(metrics::kBlockGap, 0, metrics::kBlockGap, 16);
     column->setSpacing(metrics::kGap);
     buildHead(column);
-    m_areas->addWidget(buildDefaultArea());
-    m_areas->addWidget(buildCustomArea());
-    column->addWidget(m_areas, 1);
+    buildHalves(column);
     addUndoBar(column);
 
     addRules();
@@ -63,97 +48,39 @@ void pageSceneSetting::buildHead(QVBoxLayout *column)
 {
     m_head = addHead(column);
     auto *holder = new QWidget(m_head);
-    describeAs(holder, QAccessible::Grouping);
-    texts().bind(kHalvesLabel, [holder](const QString &text) { holder->setAccessibleName(text); });
-    auto *row = new QHBoxLayout(holder);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(0);
     m_defaultButton = makeHalfButton(kDefaultLabel, texts(), holder);
     m_customButton = makeHalfButton(kCustomLabel, texts(), holder);
-    auto *halves = new QButtonGroup(holder);
-    auto *stop = new FocusGroup(holder);
+    joinHalves(holder, m_defaultButton, m_customButton, texts())->setSpacing(0);
     layInTrack(holder, {m_defaultButton, m_customButton});
     m_head->corner()->addWidget(holder, 0, Qt::AlignTop);
-    for (QPushButton *half : {m_defaultButton, m_customButton}) {
-        halves->addButton(half);
-        stop->add(half);
-        row->addWidget(half);
+    for (QPushButton *half : {m_defaultButton, m_customButton})
         connect(half, &QPushButton::clicked, this, &pageSceneSetting::onHalfClicked);
-    }
 }
 
-QWidget *pageSceneSetting::buildDefaultArea()
+void pageSceneSetting::buildHalves(QVBoxLayout *column)
 {
-    auto *area = new QWidget(m_areas);
-    m_look = new MonitorPicture(area);
-    m_look->setFixedSize(kLook);
-    m_look->setPainter([](QPainter &painter, const QRectF &screen) {
-        painter.drawImage(screen.topLeft(),
-                          testPicture(screen.size().toSize(), sceneLook(deviceState.value(Command::SceneMode))));
-    });
-    m_defaultText = new QLabel(area);
-    m_defaultText->setObjectName(QStringLiteral("note"));
-    m_defaultText->setFont(noteFont);
-    m_defaultText->setAlignment(Qt::AlignCenter);
-    auto *column = new QVBoxLayout(area);
-    column->setSpacing(16);
-    column->addStretch(2);
-    column->addWidget(m_look, 0, Qt::AlignHCenter);
-    column->addWidget(m_defaultText);
-    auto *own = makePlainButton(LABEL("Make it your own"), QStringLiteral("makeOwn"), texts(), area);
-    connect(own, &QPushButton::clicked, m_customButton, &QPushButton::click);
-    column->addWidget(own, 0, Qt::AlignHCenter);
-    column->addStretch(3);
-    return area;
-}
-
-QWidget *pageSceneSetting::buildCustomArea()
-{
-    auto *area = new QWidget(m_areas);
-    auto *column = new QVBoxLayout(area);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(metrics::kGap);
-    column->addWidget(buildControls(area), 1);
-    return area;
-}
-
-QScrollArea *pageSceneSetting::buildControls(QWidget *parent)
-{
-    auto *scroll = new QScrollArea(parent);
-    scroll->setWidgetResizable(true);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    m_customArea = new QWidget(scroll->viewport());
-    m_customArea->setObjectName(QStringLiteral("customArea"));
-    auto *column = new QVBoxLayout(m_customArea);
-    column->setContentsMargins(0, 0, metrics::kGap, 0);
-    column->setSpacing(metrics::kRowGap);
+    m_factoryHalf = new FactoryHalf(texts(), m_areas);
+    connect(m_factoryHalf->ownButton(), &QPushButton::clicked, m_customButton, &QPushButton::click);
+    m_customHalf = new CustomHalf(m_areas);
     setLocks(sceneLocks());
-    buildSections(sceneSections(), column);
-    column->addStretch(1);
-    scroll->setWidget(m_customArea);
-    return scroll;
+    buildSections(sceneSections(), m_customHalf->controls());
+    m_customHalf->controls()->addStretch(1);
+    m_areas->addWidget(m_factoryHalf);
+    m_areas->addWidget(m_customHalf);
+    column->addWidget(m_areas, 1);
 }
 
 /// What is not in sight is neither built nor drawn.
-void pageSceneSetting::refreshStage()
+void pageSceneSetting::refreshPicture()
 {
     if (!isVisible() || m_defaultView)
         return;
-    if (!m_stage) {
-        std::vector<OptionGroupRow *> rows = optionGroups();
-        std::erase_if(rows, [](const OptionGroupRow *row) { return !OptionWords::hasWords(row->group()); });
-        m_stage =
-            new PictureStage(kScenePicture, std::move(rows), nullptr, m_areas->widget(1), PictureStage::Shape::Strip);
-        m_areas->widget(1)->layout()->addWidget(m_stage);
-    }
-    m_stage->refresh();
+    m_customHalf->refreshPicture(optionGroups());
 }
 
 void pageSceneSetting::addRules()
 {
-    connect(&queue().values(), &ValueWatch::changed, this, &pageSceneSetting::refreshStage);
+    connect(&queue().values(), &ValueWatch::changed, this, &pageSceneSetting::refreshPicture);
     beforeSending(Command::ColorTemperature, [this](int value) { fillUserColours(value); });
     for (int channel = 0; channel < 3; ++channel) {
         chooseCommand(kUserColourSliders[channel], [this, channel]() -> std::optional<Command> {
@@ -180,7 +107,7 @@ void pageSceneSetting::showHalf(bool defaultView)
     m_customButton->setChecked(!defaultView);
     m_areas->setCurrentIndex(defaultView ? 0 : 1);
     showTitle();
-    refreshStage();
+    refreshPicture();
     Q_EMIT viewShown(defaultView);
 }
 
@@ -249,21 +176,16 @@ void pageSceneSetting::showModeResult(bool ok)
 void pageSceneSetting::showTitle()
 {
     const SceneMode *mode = sceneModeOf(deviceState.value(Command::SceneMode));
-    const QString title = mode ? QObject::tr(mode->label) : QObject::tr("Scene");
-    m_head->setTitle(title);
-    setAccessibleName(title);
+    m_head->setTitle(mode ? QObject::tr(mode->label) : QObject::tr("Scene"));
     m_head->setHelp(m_defaultView ? QObject::tr("The picture as the factory set it.")
                                   : QObject::tr("Your own picture. Changes are sent to the monitor as you make them."));
-    m_defaultText->setText(mode ? QObject::tr(mode->hint) : QString());
-    m_look->setAccessibleName(QObject::tr("What it looks like"));
-    m_look->setAccessibleDescription(m_defaultText->text());
-    m_look->update();
+    m_factoryHalf->showMode(mode);
 }
 
 void pageSceneSetting::showEvent(QShowEvent *event)
 {
     SettingsPage::showEvent(event);
-    refreshStage();
+    refreshPicture();
 }
 
 /// Whoever comes back, or looks at another monitor, begins anew.
@@ -291,11 +213,38 @@ void pageSceneSetting::updateInterfaceData()
     fillCustomArea();
 }
 
+void pageSceneSetting::fillCustomArea()
+{
+    if (!showsValues())
+        return;
+    const Updating updating(*this);
+    m_filled = m_filled || deviceState.sceneBlockValid();
+    SettingsPage::updateInterfaceData();
+    if (deviceState.isKnown(Command::ColorTemperature))
+        fillUserColours(deviceState.value(Command::ColorTemperature));
+    if (OptionGroupRow *dimming = optionGroup(Command::LocalDimming))
+        dimming->setVisible(deviceState.has(dimming->group().needs) &&
+                            deviceState.value(Command::SceneMode) != kMpcsFpsCustom);
+    update();
+}
+
+void pageSceneSetting::fillUserColours(int temperature)
+{
+    const Updating updating(*this);
+    m_userColourSlot = userSlot(temperature);
+    for (int channel = 0; channel < 3; ++channel) {
+        SliderWidget *colour = slider(kUserColourSliders[channel]);
+        colour->setValue(0);
+        if (m_userColourSlot != 0)
+            fillSlider(colour, kUserColours[m_userColourSlot - 1][channel]);
+    }
+}
+
 void pageSceneSetting::updateControlText()
 {
     SettingsPage::updateControlText();
     showTitle();
-    refreshStage();
+    refreshPicture();
 }
 
 void pageSceneSetting::reconcile()

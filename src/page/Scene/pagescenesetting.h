@@ -2,10 +2,9 @@
 
 #include "page/engine/settingspage.h"
 
-class MonitorPicture;
-class PictureStage;
+class CustomHalf;
+class FactoryHalf;
 class QPushButton;
-class QScrollArea;
 class QStackedWidget;
 class SearchDeviceDlg;
 class WorkThread;
@@ -58,10 +57,8 @@ private Q_SLOTS:
 private:
     void buildHead(QVBoxLayout *column);
     void showModeResult(bool ok);
-    QWidget *buildDefaultArea();
-    QWidget *buildCustomArea();
-    QScrollArea *buildControls(QWidget *parent);
-    void refreshStage();
+    void buildHalves(QVBoxLayout *column);
+    void refreshPicture();
     void addRules();
 
     void showHalf(bool defaultView);
@@ -72,13 +69,11 @@ private:
 
     WorkThread *m_worker;
     PageHead *m_head = nullptr;
-    MonitorPicture *m_look = nullptr; ///< how the mode shows a picture
-    QLabel *m_defaultText = nullptr;
     QPushButton *m_defaultButton = nullptr;
     QPushButton *m_customButton = nullptr;
-    QStackedWidget *m_areas = nullptr;
-    QWidget *m_customArea = nullptr;
-    PictureStage *m_stage = nullptr; ///< how the custom half shows a picture; built when it is looked at
+    QStackedWidget *m_areas;
+    FactoryHalf *m_factoryHalf = nullptr;
+    CustomHalf *m_customHalf = nullptr;
     bool m_defaultView = true;
     bool m_filled = false;    ///< a block of this session was shown
     int m_userColourSlot = 0; ///< which user preset the R, G, B sliders edit; 0 none
