@@ -1,18 +1,14 @@
 #include "page/Emberline/rhythmlight.h"
 
-#include <algorithm>
 #include <initializer_list>
 #include <utility>
 
-#include "PictureAudioCom/lightcolour.h"
 #include "PictureAudioCom/soundanalyzer.h"
 #include "PictureAudioCom/soundcolours.h"
-#include "ddc_protocol/automaticwriter.h"
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/displayenumeration.h"
 #include "ddc_protocol/linkstatus.h"
-#include "page/Emberline/lightlook.h"
 #include "page/Emberline/lighttable.h"
 #include "platform/desk.h"
 
@@ -22,15 +18,6 @@ constexpr platform::milliseconds kAskAfter{2000}; // what is in sight comes firs
 constexpr platform::milliseconds kLookEvery{100};
 constexpr platform::milliseconds kListenEvery{3000};
 
-constexpr int kTries = 10; // of what did not arrive, one a second; then fewer, for the monitor may not have it
-constexpr platform::milliseconds kTryEvery{1000};
-constexpr platform::milliseconds kTryLater{30'000};
-
-/// How far a colour must be from the last one, by the level that is set. The highest follows what is just seen on a
-/// wall.
-constexpr double kSeen[] = {24, 16, 11, 8, 5};
-constexpr int kUsualLevel = 2;
-
 /// The tones that a mode shows.
 std::initializer_list<Command> tonesOf(std::optional<int> mode)
 {
@@ -39,17 +26,6 @@ std::initializer_list<Command> tonesOf(std::optional<int> mode)
     if (mode == kGlobalRhythmMode)
         return kGlobal;
     return mode == kZoneRhythmMode ? kZones : std::initializer_list<Command>();
-}
-
-double seenDifference()
-{
-    const int level = deviceState.confirmed(Command::LightRhythmLevel).value_or(kUsualLevel);
-    return kSeen[std::clamp(level, 0, 4)];
-}
-
-platform::milliseconds pauseAfter(int vainTries)
-{
-    return vainTries < kTries ? kTryEvery : kTryLater;
 }
 
 /// The part of the desktop that the monitor shows.
@@ -62,7 +38,7 @@ QRect screenOfMonitor()
 } // namespace
 
 RhythmLight::RhythmLight(CommandQueue &queue, AutomaticWriter &writer, QObject *parent)
-    : QObject(parent), m_queue(queue), m_writer(writer)
+    : QObject(parent), m_queue(queue), m_lamps(writer)
 {
     connect(&queue.values(), &ValueWatch::changed, this, &RhythmLight::onValueChanged);
     connect(&m_sampler, &ScreenSampler::looked, this, [this](bool ok, const ZoneColours &colours) {
@@ -79,7 +55,6 @@ RhythmLight::RhythmLight(CommandQueue &queue, AutomaticWriter &writer, QObject *
         m_heard = true;
         show(soundColours(heights));
     });
-    connect(&writer, &AutomaticWriter::settled, this, &RhythmLight::onSettled);
     followLink();
 }
 
@@ -90,6 +65,7 @@ void RhythmLight::systemNoticed(SystemNotice notice)
     const bool isLocked = notice == SystemNotice::Locked;
     if (std::exchange(m_isLocked, isLocked) == isLocked)
         return;
+    m_lamps.setLocked(isLocked);
     forgetLamps();
     follow();
 }
@@ -122,8 +98,7 @@ void RhythmLight::onValueChanged(Command command)
 void RhythmLight::forgetLamps()
 {
     m_darkTries = 0;
-    for (auto &[tone, lamp] : m_lamps)
-        lamp = {{}, lamp.isByLock};
+    m_lamps.forget();
 }
 
 void RhythmLight::follow()
@@ -163,8 +138,8 @@ void RhythmLight::setSource(Source source)
         return;
     m_source = source;
     ++m_run;
-    m_isUsedUp = AutomaticWriter::isDayUsedUp();
-    forgetLamps();
+    m_darkTries = 0;
+    m_lamps.startRun();
     if (source == Source::Sound)
         m_sound.begin();
     else
@@ -206,23 +181,10 @@ void RhythmLight::show(const ZoneColours &colours)
 {
     const auto tones = tonesOf(deviceState.confirmed(Command::LightMode));
     for (const Command tone : tones)
-        wish(tone, tone == Command::LightGlobalTone ? colours.global
-                   : tone == Command::LightLeftTone ? colours.left
-                                                    : colours.right);
-    setState(m_isUsedUp ? State::UsedUp : State::Follows);
-}
-
-/// The way back from the lock's darkness is the user's own doing as well.
-void RhythmLight::wish(Command tone, QRgb color)
-{
-    Lamp &lamp = m_lamps[tone];
-    if (lamp.wished && visibleDifference(*lamp.wished, color) < seenDifference())
-        return;
-    lamp.wished = color;
-    if (lamp.isByLock)
-        m_writer.wantNow(tone, toneOf(color));
-    else
-        m_writer.want(tone, toneOf(color));
+        m_lamps.show(tone, tone == Command::LightGlobalTone ? colours.global
+                           : tone == Command::LightLeftTone ? colours.left
+                                                            : colours.right);
+    setState(m_lamps.isUsedUp() ? State::UsedUp : State::Follows);
 }
 
 /// Locking is the user's own doing: it does not wait for the budget of automatic writes, nor for what the lamps follow
@@ -235,42 +197,13 @@ void RhythmLight::keepDark()
     ++m_darkLooks;
     if (!canBeDark)
         return;
-    bool isDone = mode.has_value();
     if (!mode)
         m_queue.ask(Command::LightMode);
-    for (const Command tone : tonesOf(mode)) {
-        Lamp &lamp = m_lamps[tone];
-        lamp.isByLock = true;
-        if (lamp.isDark)
-            continue;
-        isDone = false;
-        m_writer.wantNow(tone, 0);
-    }
-    if (isDone)
+    if (m_lamps.darken(tonesOf(mode)) && mode)
         return;
-    platform::desk().clock().callLater(pauseAfter(++m_darkTries), this, [this, looks = m_darkLooks] {
+    platform::desk().clock().callLater(RhythmLamps::pauseAfter(++m_darkTries), this, [this, looks = m_darkLooks] {
         if (m_isLocked && looks == m_darkLooks)
             keepDark();
-    });
-}
-
-/// What did not arrive is wished again, if it is still to be seen then.
-void RhythmLight::onSettled(Command command, int value, bool ok)
-{
-    const auto found = m_lamps.find(command);
-    if (found == m_lamps.end())
-        return;
-    Lamp &lamp = found->second;
-    m_isUsedUp = AutomaticWriter::isDayUsedUp();
-    if (ok) {
-        lamp.vainTries = 0;
-        lamp.isDark = value == 0;
-        lamp.isByLock = lamp.isByLock && (m_isLocked || lamp.isDark);
-        return;
-    }
-    platform::desk().clock().callLater(pauseAfter(++lamp.vainTries), this, [this, command, run = m_run] {
-        if (run == m_run)
-            m_lamps[command].wished.reset();
     });
 }
 

@@ -1,14 +1,13 @@
 #pragma once
 
 #include <map>
-#include <optional>
 
 #include <QObject>
-#include <QRgb>
 
 #include "PictureAudioCom/screensampler.h"
 #include "PictureAudioCom/sounduse.h"
 #include "ddc_protocol/command.h"
+#include "page/Emberline/rhythmlamps.h"
 #include "systemnotices.h"
 
 class AutomaticWriter;
@@ -46,14 +45,6 @@ Q_SIGNALS:
 private:
     enum class Source { None, Sound, Screen };
 
-    struct Lamp
-    {
-        std::optional<QRgb> wished; ///< the newest colour
-        bool isByLock = false;      ///< what it shows, until a colour has arrived again
-        bool isDark = false;
-        int vainTries = 0; ///< in a row
-    };
-
     void onValueChanged(Command command);
     void follow();
     Source wantedSource();
@@ -63,13 +54,11 @@ private:
     void listen();
     void lookLater();
     void show(const ZoneColours &colours);
-    void wish(Command tone, QRgb color);
     void keepDark();
-    void onSettled(Command command, int value, bool ok);
     void setState(State state);
 
     CommandQueue &m_queue;
-    AutomaticWriter &m_writer;
+    RhythmLamps m_lamps;
     ScreenSampler m_sampler;
     SoundUse m_sound;
     Source m_source = Source::None;
@@ -79,9 +68,7 @@ private:
     bool m_mayAsk = false;           ///< the monitor was not found just now
     int m_found = 0;                 ///< how often it was
     std::map<Command, bool> m_asked; ///< what the monitor was asked for since it was found
-    std::map<Command, Lamp> m_lamps; ///< by their tones
     int m_run = 0;                   ///< what was to come in an earlier one does not any more
-    bool m_isUsedUp = false;         ///< the monitor's budget of today
     int m_darkTries = 0;             ///< since the session was locked, or the monitor found
     unsigned m_darkLooks = 0;
 };
