@@ -4,11 +4,11 @@
 #include <QCoreApplication>
 #include <QDebug>
 #include <QDir>
-#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
 
 #include "controls/messagebox.h"
 #include "controls/metrics.h"
-#include "controls/sharedfonts.h"
 #include "ddc_protocol/automaticwriter.h"
 #include "ddc_protocol/displayenumeration.h"
 #include "ddc_protocol/settingsstore.h"
@@ -17,7 +17,7 @@
 #include "page/engine/commandrows.h"
 #include "page/engine/dropdown.h"
 #include "page/engine/labels.h"
-#include "page/engine/optiongrouprow.h"
+#include "page/engine/note.h"
 #include "platform/desk.h"
 #include "relaunch.h"
 #include "searchdevicedlg.h"
@@ -102,9 +102,7 @@ QWidget *pagePCSetting::buildPart(const char *name)
 
 QWidget *pagePCSetting::buildVersion()
 {
-    auto *version = new QLabel(this);
-    version->setObjectName(QStringLiteral("note"));
-    version->setFont(noteFont);
+    QLabel *version = makeNote(this);
     texts().bind(LABEL("Tool Version: "),
                  [version](const QString &text) { version->setText(text + QStringLiteral(QUORVEL_VERSION)); });
     return version;
@@ -118,9 +116,7 @@ QWidget *pagePCSetting::buildMachine()
     m_machines->setFixedSize(320, 36);
     connect(m_machines, &QComboBox::currentIndexChanged, this, &pagePCSetting::onComboxIndexChanged);
     texts().bind(LABEL("Machine Select"), [this](const QString &text) { m_machines->setAccessibleName(text); });
-    auto *hint = new QLabel(part);
-    hint->setObjectName(QStringLiteral("note"));
-    hint->setFont(noteFont);
+    QLabel *hint = makeNote(part);
     hint->setWordWrap(true);
     texts().bind(
         LABEL("Recommended to set [Expand These Monitors] in the System-> Screen when operating multiple monitors."),

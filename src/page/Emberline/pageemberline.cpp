@@ -10,7 +10,6 @@
 #include "controls/colorpicker.h"
 #include "controls/metrics.h"
 #include "controls/palette.h"
-#include "controls/sharedfonts.h"
 #include "ddc_protocol/automaticwriter.h"
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/devicestate.h"
@@ -18,6 +17,7 @@
 #include "page/Emberline/lightview.h"
 #include "page/Emberline/rhythmlight.h"
 #include "page/engine/labels.h"
+#include "page/engine/note.h"
 #include "page/engine/optiongrouprow.h"
 #include "page/engine/optionwords.h"
 
@@ -99,9 +99,7 @@ QWidget *pageEmberline::buildOwnColor()
 
 QWidget *pageEmberline::buildRhythmNote()
 {
-    m_rhythmNote = new QLabel(this);
-    m_rhythmNote->setObjectName(QStringLiteral("note"));
-    m_rhythmNote->setFont(noteFont);
+    m_rhythmNote = makeNote(this);
     m_rhythmNote->setWordWrap(true);
     showRhythm();
     return m_rhythmNote;

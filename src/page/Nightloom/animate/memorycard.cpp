@@ -7,9 +7,9 @@
 #include "controls/accessiblecontrol.h"
 #include "controls/captionlabel.h"
 #include "controls/metrics.h"
-#include "controls/sharedfonts.h"
 #include "page/Nightloom/parts/smallmatrix.h"
 #include "page/engine/boundtexts.h"
+#include "page/engine/note.h"
 #include "usb-hid/accessorylink.h"
 
 namespace {
@@ -23,14 +23,12 @@ constexpr int kNoteHeight = 88;
 
 MemoryCard::MemoryCard(const AnimationMemory &memory, BoundTexts &texts, QWidget *parent)
     : QFrame(parent), m_memory(memory), m_name(new CaptionLabel(QString(), kNamePixels, this)),
-      m_picture(new SmallMatrix(this)), m_note(new QLabel(this))
+      m_picture(new SmallMatrix(this)), m_note(makeNote(this))
 {
     setObjectName(QStringLiteral("matrixCard"));
     describeAs(this, QAccessible::Grouping);
     m_name->setObjectName(QStringLiteral("matrixName"));
     m_name->setFixedHeight(kNameHeight); // cards differ by a pixel
-    m_note->setObjectName(QStringLiteral("note"));
-    m_note->setFont(noteFont);
     m_note->setWordWrap(true);
     m_note->setFixedHeight(kNoteHeight);
     m_note->setAlignment(Qt::AlignLeft | Qt::AlignTop);

@@ -11,7 +11,6 @@
 #include "controls/captionlabel.h"
 #include "controls/metrics.h"
 #include "controls/palette.h"
-#include "controls/sharedfonts.h"
 #include "controls/sliderwidget.h"
 #include "ledmatrix/animationfile.h"
 #include "ledmatrix/devicememory.h"
@@ -20,6 +19,7 @@
 #include "page/Nightloom/parts/toolcolumn.h"
 #include "page/engine/dropdown.h"
 #include "page/engine/labels.h"
+#include "page/engine/note.h"
 
 namespace {
 
@@ -116,9 +116,7 @@ void CanvasTools::buildViewTools(const pageLEDMatrixCanvas &page, FramePlayer &p
 QWidget *CanvasTools::buildAlignedImport(const pageLEDMatrixCanvas &page)
 {
     m_aligned = new QWidget(m_tools);
-    m_alignedNote = new QLabel(m_aligned);
-    m_alignedNote->setObjectName(QStringLiteral("note"));
-    m_alignedNote->setFont(noteFont);
+    m_alignedNote = makeNote(m_aligned);
     m_alignedNote->setWordWrap(true);
     m_texts.bind(LABEL("As saved: %1 cells a frame, not 1050."), [this](const QString &text) {
         m_alignedPattern = text;

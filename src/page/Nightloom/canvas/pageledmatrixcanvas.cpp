@@ -2,15 +2,14 @@
 
 #include <utility>
 
-#include <QHBoxLayout>
 #include <QPushButton>
 
-#include "controls/sharedfonts.h"
 #include "ledmatrix/animationfile.h"
 #include "page/Nightloom/canvas/canvastools.h"
 #include "page/Nightloom/canvas/frametabs.h"
 #include "page/Nightloom/parts/matrixeditor.h"
 #include "page/engine/labels.h"
+#include "page/engine/note.h"
 #include "page/engine/pagehead.h"
 #include "usb-hid/accessorylink.h"
 #include "usb-hid/accessoryupload.h"
@@ -22,10 +21,8 @@ pageLEDMatrixCanvas::pageLEDMatrixCanvas(AccessoryCheck ensureConnected, QWidget
       CanvasQuestions(this), m_tabs(new FrameTabs(this)),
       m_files(
           m_drawings, *m_tabs, *work(), *this, [this] { return this->ensureConnected(); }, &sendAnmateData),
-      m_count(new QLabel(this))
+      m_count(makeNote(this))
 {
-    m_count->setObjectName(QStringLiteral("note"));
-    m_count->setFont(noteFont);
     head()->corner()->addWidget(m_count, 0, Qt::AlignTop);
     layOut(m_tabs);
     connect(&m_files, &CanvasFiles::begins, this, &pageLEDMatrixCanvas::endStrokes);

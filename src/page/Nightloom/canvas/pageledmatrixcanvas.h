@@ -29,7 +29,6 @@ public:
 
     /// Counts the frames. It is compared before a frame is added, so one frame more than the maximum finds room.
     int frameCounter() const { return static_cast<int>(m_drawings.state().frames.size()); }
-    std::uint8_t modeByte() const { return m_files.memory().number; }
     QString dataFile() const { return m_files.dataFile(); }
 
     /// Uploads the job's file; whether the accessory took it whole. For LEDThread, which runs it: touches nothing of

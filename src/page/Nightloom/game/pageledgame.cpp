@@ -7,22 +7,23 @@
 #include <utility>
 
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QVBoxLayout>
 
 #include "controls/captionlabel.h"
 #include "controls/focusgroup.h"
 #include "controls/metrics.h"
 #include "controls/palette.h"
-#include "controls/sharedfonts.h"
 #include "controls/sliderwidget.h"
 #include "controls/wheeleventfilter.h"
 #include "ddc_protocol/settingsstore.h"
+#include "page/Nightloom/game/eventcard.h"
 #include "page/Nightloom/parts/ownslider.h"
-#include "page/Nightloom/parts/smallmatrix.h"
-#include "page/Nightloom/render/eventpictures.h"
 #include "page/Nightloom/work/livedisplay.h"
 #include "page/engine/labels.h"
+#include "page/engine/note.h"
 #include "page/engine/optiongrouprow.h"
 #include "page/engine/plainbutton.h"
 #include "usb-hid/accessorysettings.h"
@@ -35,8 +36,6 @@ constexpr char kIntervalKey[] = "GameVS/PlayingInterval";
 constexpr char kBrightnessKey[] = "GameVS/Brightness";
 constexpr int kAllEvents = (1 << kGameEvents) - 1;
 constexpr int kShortest = 1, kLongest = 60, kUsualInterval = 5; // seconds
-constexpr QSize kPictureSize(280, 224);
-constexpr int kCardMargin = 12;
 
 constexpr char kEvents[] = LABEL("Events");
 constexpr char kInterval[] = LABEL("Playing Interval");
@@ -83,6 +82,11 @@ pageLEDGame::pageLEDGame(LiveDisplay &display, CommandQueue &queue, QWidget *par
     : PanelPage(QStringLiteral("pageLEDGame"), OwnList::None, queue, parent), m_display(display)
 {
     buildPanelsWhenShown(panels());
+}
+
+const SmallMatrix *pageLEDGame::picture() const
+{
+    return m_card ? m_card->picture() : nullptr;
 }
 
 OptionGroupRow *pageLEDGame::eventOptions() const
@@ -160,23 +164,11 @@ QWidget *pageLEDGame::makeInterval(QWidget *parent)
 QWidget *pageLEDGame::buildPicture()
 {
     auto *part = new QWidget(this);
-    auto *card = new QFrame(part);
-    card->setObjectName(QStringLiteral("matrixCard"));
-    m_pictureName = new CaptionLabel(QString(), 15, card);
-    m_pictureName->setObjectName(QStringLiteral("matrixName"));
-    m_picture = new SmallMatrix(card);
-    m_picture->setFixedSize(kPictureSize);
-    auto *column = new QVBoxLayout(card);
-    column->setContentsMargins(kCardMargin, kCardMargin, kCardMargin, kCardMargin);
-    column->setSpacing(metrics::kGap);
-    column->addWidget(m_pictureName);
-    column->addWidget(m_picture);
-    auto *note = new QLabel(part);
-    note->setObjectName(QStringLiteral("note"));
-    note->setFont(noteFont);
+    m_card = new EventCard(part);
+    QLabel *note = makeNote(part);
     texts().bind(LABEL("Point at an event to see its picture."), [note](const QString &text) { note->setText(text); });
     QHBoxLayout *row = makeRow(part);
-    row->addWidget(card);
+    row->addWidget(m_card);
     row->addWidget(note, 0, Qt::AlignTop);
     row->addStretch(1);
     connect(eventOptions(), &OptionGroupRow::optionPointed, this, [this](std::optional<int> bit) {
@@ -199,11 +191,7 @@ void pageLEDGame::showEvent(QShowEvent *event)
 /// The last event that was pointed at stays.
 void pageLEDGame::showPicture()
 {
-    const MatrixForm *form = accessoryLink.form;
-    m_picture->showFrame(form ? std::optional(eventPicture(*form, static_cast<GameEvent>(m_pointed))) : std::nullopt);
-    const QString name = QObject::tr(kEventOptions[m_pointed].label);
-    m_pictureName->setText(name);
-    m_picture->setAccessibleName(QStringLiteral("%1: %2").arg(name, QObject::tr("LED matrix")));
+    m_card->tell(static_cast<GameEvent>(m_pointed), QObject::tr(kEventOptions[m_pointed].label));
 }
 
 std::optional<int> pageLEDGame::ownValue(const char *)

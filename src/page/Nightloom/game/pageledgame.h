@@ -4,7 +4,7 @@
 
 #include "page/engine/panelpage.h"
 
-class CaptionLabel;
+class EventCard;
 class LiveDisplay;
 class SmallMatrix;
 class QSpinBox;
@@ -23,7 +23,7 @@ public:
     OptionGroupRow *eventOptions() const;
     QSpinBox *intervalField() const { return m_interval; }
     SliderWidget *brightnessSlider() const { return m_brightness; }
-    const SmallMatrix *picture() const { return m_picture; }
+    const SmallMatrix *picture() const;
 
 protected:
     QWidget *buildPart(const char *name) override;
@@ -53,8 +53,7 @@ private:
     LiveDisplay &m_display;
     QSpinBox *m_interval = nullptr;
     SliderWidget *m_brightness = nullptr;
-    SmallMatrix *m_picture = nullptr;
-    CaptionLabel *m_pictureName = nullptr;
+    EventCard *m_card = nullptr;
     std::optional<int> m_events; ///< a bit an event; the accessory does not tell, so nothing until they are chosen once
     Look m_look{};
     int m_pointed = 0; ///< the event whose picture is shown

@@ -13,6 +13,7 @@
 #include "page/Nightloom/work/livedisplay.h"
 #include "page/engine/commandrows.h"
 #include "page/engine/commonoptions.h"
+#include "page/engine/note.h"
 #include "page/engine/optiongrouprow.h"
 
 namespace {
@@ -73,9 +74,7 @@ QWidget *pageLEDMusic::buildPart(const char *)
     auto *part = new QWidget(this);
     m_picture = new AudioPicture(part);
     texts().bind(LABEL("Spectrum"), [this](const QString &text) { m_picture->setAccessibleName(text); });
-    m_note = new QLabel(part);
-    m_note->setObjectName(QStringLiteral("note"));
-    m_note->setFont(noteFont);
+    m_note = makeNote(part);
     m_note->setWordWrap(true);
     m_note->setMinimumHeight(QFontMetrics(noteFont).height()); // the picture must not jump when it goes
     auto *column = new QVBoxLayout(part);

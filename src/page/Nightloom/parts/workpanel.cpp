@@ -11,10 +11,10 @@
 
 #include "controls/announcer.h"
 #include "controls/messagestrip.h"
-#include "controls/sharedfonts.h"
 #include "page/Nightloom/parts/toolcolumn.h"
 #include "page/engine/boundtexts.h"
 #include "page/engine/labels.h"
+#include "page/engine/note.h"
 #include "platform/desk.h"
 #include "usb-hid/accessoryupload.h"
 
@@ -35,7 +35,7 @@ milliseconds timeLeft(std::span<const WorkStep> steps, std::size_t step, int pro
 
 WorkPanel::WorkPanel(BoundTexts &texts, MessageStrip &strip, QWidget *parent)
     : QWidget(parent), m_strip(strip), m_bar(new QProgressBar(this)),
-      m_cancel(makeToolButton(LABEL("Cancel"), texts, this)), m_step(new QLabel(this))
+      m_cancel(makeToolButton(LABEL("Cancel"), texts, this)), m_step(makeNote(this))
 {
     layOut();
     m_bar->setRange(0, kProgressEnd);
@@ -56,8 +56,6 @@ void WorkPanel::layOut()
     policy.setRetainSizeWhenHidden(true); // short work would make what is below it jump
     m_cancel->setSizePolicy(policy);
     m_cancel->hide();
-    m_step->setObjectName(QStringLiteral("note"));
-    m_step->setFont(noteFont);
     auto *row = new QHBoxLayout;
     row->setSpacing(8);
     row->addWidget(m_bar, 1);
