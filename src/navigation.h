@@ -34,6 +34,7 @@ inline constexpr int kFamilies = 9;
 inline constexpr int kSceneFamilies = 4; ///< the first families show scene modes
 inline constexpr int kAccessoryFamily = 7;
 
+/// The tabs in their order.
 std::span<const NavigationFamily, kFamilies> navigationFamilies();
 
 /// Why an entry's page would be empty for the connected monitor, by its name; empty where the monitor has what the page

@@ -3,7 +3,6 @@
 #include <cstdlib>
 
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QDebug>
 #include <QHBoxLayout>
 #include <QScopeGuard>

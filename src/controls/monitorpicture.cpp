@@ -5,7 +5,6 @@
 #include <utility>
 
 #include <QPainter>
-#include <QPainterPath>
 
 #include "controls/accessiblecontrol.h"
 #include "controls/palette.h"

@@ -39,4 +39,5 @@ inline constexpr qint64 kBetweenWrites = 1000; // ms
 /// And so many a day and monitor, unless the user says otherwise.
 inline constexpr qint64 kWritesADay = 2000;
 
+/// What becomes of a wish now.
 WriteDecision planWrite(const WriteFacts &facts, const QDateTime &now);

@@ -1,6 +1,5 @@
 #include "virtualdesk/desktoppanel.h"
 
-#include <QDir>
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QKeySequenceEdit>

@@ -5,7 +5,6 @@
 #include <span>
 
 #include <QByteArray>
-#include <QSize>
 #include <QString>
 
 namespace virtualdesk {

@@ -2,7 +2,6 @@
 
 #include <array>
 
-#include <QColor>
 #include <QImage>
 
 namespace virtualdesk {

@@ -2,7 +2,6 @@
 
 #include <atomic>
 #include <deque>
-#include <functional>
 #include <mutex>
 #include <optional>
 #include <vector>

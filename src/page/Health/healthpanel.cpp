@@ -12,6 +12,7 @@
 
 #include "controls/announcer.h"
 #include "controls/metrics.h"
+#include "ddc_protocol/displayenumeration.h"
 #include "ddc_protocol/linkrecorder.h"
 #include "ddc_protocol/linkrecords.h"
 #include "page/Health/healtherrors.h"

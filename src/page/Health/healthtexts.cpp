@@ -6,6 +6,7 @@
 #include "controls/dash.h"
 #include "ddc_protocol/commandnames.h"
 #include "ddc_protocol/devicestate.h"
+#include "ddc_protocol/displayenumeration.h"
 #include "ddc_protocol/monitoridentity.h"
 #include "ddc_protocol/writecounts.h"
 #include "page/engine/labels.h"

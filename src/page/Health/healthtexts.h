@@ -3,7 +3,6 @@
 #include <QDateTime>
 #include <QString>
 
-#include "ddc_protocol/displayenumeration.h"
 #include "ddc_protocol/linkrecord.h"
 
 // What the health page says, translated; the report is made of the same sentences.

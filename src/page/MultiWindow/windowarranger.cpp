@@ -1,7 +1,6 @@
 #include "page/MultiWindow/windowarranger.h"
 
 #include <algorithm>
-#include <utility>
 
 #include <QPainter>
 

@@ -12,7 +12,7 @@
 /// A look counts as use of the panel at most so much: what lies further back than that, the computer slept.
 inline constexpr platform::milliseconds kCareLook = std::chrono::minutes(30);
 
-inline constexpr platform::milliseconds kCareTakes = std::chrono::minutes(6);
+/// How long "Later" keeps the reminder away.
 inline constexpr platform::milliseconds kCarePutOff = std::chrono::hours(1);
 
 /// What the decision rests on.

@@ -1,7 +1,5 @@
 #include "page/Splitter/zoneoverlay.h"
 
-#include <algorithm>
-
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>

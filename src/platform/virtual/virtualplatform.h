@@ -35,9 +35,6 @@ public:
     /// Starts the script's timed events.
     void mainWindowShown() override;
 
-protected:
-    virtualdesk::VirtualDesk &virtualDesk() { return m_desk; }
-
 private:
     virtualdesk::VirtualDesk &m_desk;
     Clock &m_clock;

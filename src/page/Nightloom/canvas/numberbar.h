@@ -16,9 +16,6 @@ class NumberBar : public QTabBar
 public:
     explicit NumberBar(QWidget *parent = nullptr);
 
-    /// The tab that has the focus while the bar has it; -1 without tabs.
-    int focusedTab() const { return m_focused; }
-
 protected:
     QSize tabSizeHint(int index) const override;
     void keyPressEvent(QKeyEvent *event) override;
@@ -32,5 +29,5 @@ private:
     void bringIntoSight();
 
     FocusRing m_ring;
-    int m_focused = -1;
+    int m_focused = -1; ///< the tab that has the focus while the bar has it; -1 without tabs
 };

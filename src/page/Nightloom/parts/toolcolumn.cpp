@@ -1,7 +1,6 @@
 #include "page/Nightloom/parts/toolcolumn.h"
 
 #include <QFrame>
-#include <QHBoxLayout>
 #include <QPushButton>
 #include <QVBoxLayout>
 
