@@ -122,6 +122,18 @@ void settle(platform::milliseconds duration)
         QCoreApplication::processEvents();
 }
 
+/// What the window saw of the hand.
+void countSeen(benchmark::State &state, const Watch &watch, const std::vector<Clock::time_point> &sent)
+{
+    const auto [worst, mean] = delays(sent, watch.moves);
+    state.counters["longest_move_gap_ms"] = longestGap(watch.moves);
+    state.counters["longest_paint_gap_ms"] = longestGap(watch.paints);
+    state.counters["worst_move_delay_ms"] = worst;
+    state.counters["mean_move_delay_ms"] = mean;
+    state.counters["moves"] = static_cast<double>(watch.moves.size());
+    state.counters["paints"] = static_cast<double>(watch.paints.size());
+}
+
 void dragBrightness(benchmark::State &state)
 {
     BenchDesk desk;
@@ -156,13 +168,7 @@ void dragBrightness(benchmark::State &state)
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         hand.join();
         settle(500ms); // what was sent last takes two requests, behind two that may be under way
-        const auto [worst, mean] = delays(sent, watch.moves);
-        state.counters["longest_move_gap_ms"] = longestGap(watch.moves);
-        state.counters["longest_paint_gap_ms"] = longestGap(watch.paints);
-        state.counters["worst_move_delay_ms"] = worst;
-        state.counters["mean_move_delay_ms"] = mean;
-        state.counters["moves"] = static_cast<double>(watch.moves.size());
-        state.counters["paints"] = static_cast<double>(watch.paints.size());
+        countSeen(state, watch, sent);
         state.counters["commands"] = static_cast<double>(brightnessWrites(desk.monitor()));
         state.counters["shown"] = slider->value();
         state.counters["monitor_has"] = desk.monitor().value(kBrightnessCode);

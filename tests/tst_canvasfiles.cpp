@@ -37,6 +37,9 @@ private Q_SLOTS:
     void cancelledUpload();
     void cancelledFiles();
     void timeLeft();
+
+private:
+    int holdUploadAt(int chunks, std::atomic<bool> &held);
 };
 
 void TestCanvasFiles::importRules()
@@ -290,6 +293,18 @@ void TestCanvasFiles::upload()
         QCOMPARE(readText(kKept), before.join());
 }
 
+/// Lets no chunk through from then on until the upload is cancelled. The listener, which is to be taken away.
+int TestCanvasFiles::holdUploadAt(int chunks, std::atomic<bool> &held)
+{
+    return accessory().addListener([this, chunks, &held, stop = uploadStop()] {
+        if (accessory().state().upload.received != chunks || stop.stop_requested())
+            return;
+        held = true;
+        for (const QDeadlineTimer patience(10000); !stop.stop_requested() && !patience.hasExpired();)
+            std::this_thread::yield();
+    });
+}
+
 void TestCanvasFiles::cancelledUpload()
 {
     for (const int heldAt : {0, 3, 17}) { // chunks that are out when Cancel is pressed: none, some, and all
@@ -303,15 +318,8 @@ void TestCanvasFiles::cancelledUpload()
         QVERIFY(finish(*page, &AnsweredCanvas::saveAnimate));
         QPushButton *write = page->button("Write Animate");
         write->setFocus();
-        const std::stop_token stop = uploadStop();
         std::atomic<bool> held = false;
-        const int listener = accessory().addListener([&] {
-            if (accessory().state().upload.received != heldAt || stop.stop_requested())
-                return;
-            held = true;
-            for (const QDeadlineTimer patience(10000); !stop.stop_requested() && !patience.hasExpired();)
-                std::this_thread::yield();
-        });
+        const int listener = holdUploadAt(heldAt, held);
         page->writeAnimate();
         QTRY_VERIFY(held);
         QCOMPARE(page->focusWidget(), page->work()->cancelButton());

@@ -29,6 +29,8 @@ private Q_SLOTS:
     void lockedEntriesSayWhy();
     void undoOfRiskyChanges_data();
     void undoOfRiskyChanges();
+    void undoOfferEnds_data() { undoOfRiskyChanges_data(); }
+    void undoOfferEnds();
     void writesAreCounted();
     void writeBudget_data();
     void writeBudget();
@@ -38,6 +40,9 @@ private:
     QStringList unexplained(SettingsPage *page) const;
     QStringList deadEnds(SettingsPage *page) const;
     void show(SettingsPage *page) const;
+    void startAndSettle();
+    bool makeChange();
+    const UndoBar *undoBar() const;
 };
 
 /// Controls of a page that are disabled, themselves or around them, without a word.
@@ -145,26 +150,41 @@ void TestCare::undoOfRiskyChanges_data()
     QTest::newRow("nothing changed") << PageId::IoSetting << 0x60 << 2 << 2 << false;
 }
 
-void TestCare::undoOfRiskyChanges()
+/// Makes the change of the row; whether the way back is offered.
+bool TestCare::makeChange()
 {
     QFETCH(const PageId, page);
     QFETCH(const int, command);
     QFETCH(const int, before);
     QFETCH(const int, value);
-    QFETCH(const bool, offered);
+    deviceState.store(Command(command), before);
+    m_window->settingsPage(page)->optionGroup(Command(command))->buttonOf(value)->click();
+    QCoreApplication::processEvents();
+    m_desk->takeCommands();
+    return undoBar()->offered().has_value();
+}
+
+const UndoBar *TestCare::undoBar() const
+{
+    QFETCH(const PageId, page);
+    return m_window->settingsPage(page)->undoBar();
+}
+
+void TestCare::startAndSettle()
+{
     start(10);
     m_desk->clock.advance(1min); // what is asked once, behind the start
     QTRY_VERIFY(m_window->findChild<CommandQueue *>()->isIdle());
-    SettingsPage *settings = m_window->settingsPage(page);
-    const UndoBar *bar = settings->undoBar();
-    const auto change = [&] {
-        deviceState.store(Command(command), before);
-        settings->optionGroup(Command(command))->buttonOf(value)->click();
-        QCoreApplication::processEvents();
-        m_desk->takeCommands();
-        return bar->offered().has_value();
-    };
-    QCOMPARE(change(), offered);
+}
+
+void TestCare::undoOfRiskyChanges()
+{
+    QFETCH(const int, command);
+    QFETCH(const int, before);
+    QFETCH(const bool, offered);
+    startAndSettle();
+    const UndoBar *bar = undoBar();
+    QCOMPARE(makeChange(), offered);
     if (!offered)
         return;
     std::promise<void> held, looked;
@@ -180,10 +200,21 @@ void TestCare::undoOfRiskyChanges()
     QTest::keyClick(bar->button(), Qt::Key_Space);
     QCOMPARE(m_desk->takeCommands(), QStringList{QStringLiteral("W %1=%2").arg(command, 0, 16).arg(before)});
     QVERIFY(bar->isHidden() && deviceState.confirmed(Command(command)) == before);
+}
 
-    QVERIFY(change());
+void TestCare::undoOfferEnds()
+{
+    QFETCH(const int, command);
+    QFETCH(const int, before);
+    QFETCH(const int, value);
+    QFETCH(const bool, offered);
+    if (!offered)
+        return;
+    startAndSettle();
+    const UndoBar *bar = undoBar();
+    QVERIFY(makeChange());
     m_desk->clock.advance(14s);
-    QVERIFY(change()); // has its own time
+    QVERIFY(makeChange()); // has its own time
     m_desk->clock.advance(14s);
     QVERIFY(!bar->isHidden());
     m_desk->clock.advance(1s);
@@ -191,15 +222,15 @@ void TestCare::undoOfRiskyChanges()
     QCOMPARE(int(m_desk->monitor().value(std::uint8_t(command))), value);
 
     m_desk->monitor().refuseWrites(2);
-    QVERIFY(!change()); // there is nothing to go back from
+    QVERIFY(!makeChange()); // there is nothing to go back from
     m_desk->clock.advance(1min);
     QTRY_VERIFY(m_window->findChild<CommandQueue *>()->isIdle()); // what the refusal led to
-    QVERIFY(change());
+    QVERIFY(makeChange());
     m_desk->monitor().setValue(std::uint8_t(command), std::uint16_t(before)); // by the monitor's own buttons
     deviceState.told(Command(command), before);
     QCoreApplication::processEvents();
     QVERIFY(!bar->offered());
-    QVERIFY(change());
+    QVERIFY(makeChange());
     currentMonitorIndex = 1;
     bar->button()->click();
     QVERIFY(!bar->offered() && m_desk->takeCommands(1).isEmpty());

@@ -16,28 +16,46 @@
 
 using virtualdesk::kForEver;
 
+/// The ring in red, everything else dark.
+constexpr std::pair<Command, int> kSteadyRed[] = {
+    {Command::LightMode, 1},           {Command::LightColor, 0},     {Command::LightBrightness, 100},
+    {Command::LampBeltBrightness, 0},  {Command::LampBeltColor, 1},  {Command::LampBeltFrontColor, 1},
+    {Command::LampBeltRearColor, 1},   {Command::LampBeltEffect, 0}, {Command::LightFrontBrightness, 0},
+    {Command::LightRearBrightness, 0},
+};
+
 /// What pages draw of the monitor: pictures of what options do, windows that are arranged, lamps.
 class TestDrawnPages : public PagesSuite
 {
     Q_OBJECT
 private Q_SLOTS:
     void pointingShowsAndSendsNothing();
+    void refusedIsNotOn();
+    void crosshairIsExact();
     void optionsAreExplained();
     void wordsBesideTheControls();
     void smallWindowIsArranged_data();
     void smallWindowIsArranged();
     void ownLightColor();
     void lightIsPlayed();
+
+private:
+    PictureStage *openPaper();
 };
+
+PictureStage *TestDrawnPages::openPaper()
+{
+    page(Office)->resize(1000, 680);
+    page(Office)->show();
+    const bool isSettled = settle();
+    m_desk->takeCommands();
+    return isSettled ? page(Office)->findChild<QWidget *>("pagePaper")->findChild<PictureStage *>() : nullptr;
+}
 
 void TestDrawnPages::pointingShowsAndSendsNothing()
 {
-    PanelPage *office = page(Office);
-    office->resize(1000, 680);
-    office->show();
-    QVERIFY(settle());
-    m_desk->takeCommands();
-    auto *stage = office->findChild<QWidget *>("pagePaper")->findChild<PictureStage *>();
+    const PictureStage *stage = openPaper();
+    QVERIFY(stage);
     const auto seen = [stage] { return stage->picture()->grab().toImage(); };
     const QImage before = seen();
     const QPointF inside(5, 5);
@@ -51,8 +69,12 @@ void TestDrawnPages::pointingShowsAndSendsNothing()
         QVERIFY(!stage->preview() && seen() == before);
     }
     QCOMPARE(m_desk->takeCommands(), QStringList());
+}
 
-    // What is refused is not said to be on.
+void TestDrawnPages::refusedIsNotOn()
+{
+    const PictureStage *stage = openPaper();
+    QVERIFY(stage);
     m_desk->monitor().refuse(0xEC, kForEver);
     const auto words = [stage] {
         QStringList shown;
@@ -65,10 +87,11 @@ void TestDrawnPages::pointingShowsAndSendsNothing()
     QVERIFY(settle());
     QVERIFY(deviceState.state(Command::Paper) == ValueState::Refused);
     QCOMPARE(words(), wordsBefore);
-    m_desk->monitor().recover();
-    m_desk->takeCommands();
+}
 
-    // What the monitor lays over a game is shown to the pixel: a green cross of 25 pixels in the middle.
+/// What the monitor lays over a game is shown to the pixel: a green cross of 25 pixels in the middle.
+void TestDrawnPages::crosshairIsExact()
+{
     PanelPage *game = page(Game);
     game->resize(1000, 680);
     for (const auto &[command, value] : {std::pair(Command::Crosshair, 1),
@@ -256,16 +279,7 @@ void TestDrawnPages::ownLightColor()
 /// While somebody can see it, something moves and the user lets it; each lamp as it is set.
 void TestDrawnPages::lightIsPlayed()
 {
-    for (const auto &[command, value] : {std::pair(Command::LightMode, 1),
-                                         {Command::LightColor, 0},
-                                         {Command::LightBrightness, 100},
-                                         {Command::LampBeltBrightness, 0},
-                                         {Command::LampBeltColor, 1},
-                                         {Command::LampBeltFrontColor, 1},
-                                         {Command::LampBeltRearColor, 1},
-                                         {Command::LampBeltEffect, 0},
-                                         {Command::LightFrontBrightness, 0},
-                                         {Command::LightRearBrightness, 0}}) {
+    for (const auto &[command, value] : kSteadyRed) {
         deviceState.told(command, value);
         m_desk->monitor().setValue(static_cast<std::uint8_t>(command), static_cast<std::uint16_t>(value));
     }

@@ -70,6 +70,7 @@ private Q_SLOTS:
     void emptyKeyFieldSaysSo();
     void dialogIsAcceptedByItsButton();
     void coloursCanBeTold();
+    void coloursHaveNames();
     void longTipsAreBroken();
 };
 
@@ -297,11 +298,15 @@ void TestFields::coloursCanBeTold()
                          qPrintable(QColor(front).name() + " on " + QColor(behind).name()));
         }
     }
+}
+
+void TestFields::coloursHaveNames()
+{
     QFile sheet(QFINDTESTDATA("../resource/css/page_scene_mode.css"));
     QVERIFY(sheet.open(QIODevice::ReadOnly));
     const QString style = QString::fromUtf8(sheet.readAll());
     QVERIFY(!style.contains(QRegularExpression("#[0-9a-f]{6}"))); // each colour by its name
-    QVERIFY(!styled(style).contains(u'@'));
+    QVERIFY(!Palette::styled(style).contains(u'@'));
     // The texts of captions, values and boxes have always had colours of their own.
     const QStringList own = {"captionlabel.cpp", "sliderwidget.cpp", "messagebox.cpp"};
     for (const char *folder : {"controls", "page", "tray"}) {

@@ -48,6 +48,19 @@ void addMeaning(Meanings &meanings, const QString &icon, const QString &caption)
         captions.append(caption);
 }
 
+Meanings meaningsIn(const MainWindow &window)
+{
+    Meanings meanings;
+    for (const SceneMode &mode : sceneModes())
+        addMeaning(meanings, Pictures::kRoot + "img/entry/" + mode.icon, mode.label);
+    for (const LeftTabButton *button : window.findChildren<LeftTabButton *>())
+        if (!button->isHidden()) // another model's name for the same thing
+            addMeaning(meanings, button->icon(), button->caption());
+    for (const TopTab *tab : window.tabs()->tabs())
+        addMeaning(meanings, tab->icon(), tab->accessibleName());
+    return meanings;
+}
+
 } // namespace
 
 class TestMainWindow : public WindowFixture
@@ -229,15 +242,8 @@ void TestMainWindow::otherEntriesNameThemselves()
     QCOMPARE(opened, (QList<int>{0, 0, 0, 0, 0, 5}));       // the first, and then the one that was left open
     QVERIFY(m_desk->takeRequests().filter("W ").isEmpty()); // opening pages asks, but sends nothing
 
-    Meanings meanings;
-    for (const SceneMode &mode : sceneModes())
-        addMeaning(meanings, Pictures::kRoot + "img/entry/" + mode.icon, mode.label);
-    for (const LeftTabButton *button : m_window->findChildren<LeftTabButton *>())
-        if (!button->isHidden()) // another model's name for the same thing
-            addMeaning(meanings, button->icon(), button->caption());
-    for (const TopTab *tab : m_window->tabs()->tabs())
-        addMeaning(meanings, tab->icon(), tab->accessibleName());
-    for (const QStringList &captions : std::as_const(meanings))
+    const Meanings meanings = meaningsIn(*m_window);
+    for (const QStringList &captions : meanings)
         QVERIFY2(captions.size() == 1, qPrintable("one icon means: " + captions.join(", ")));
     QCOMPARE(unexplained, QStringList());
     QVERIFY(meanings.size() > 80); // pages' own entries among them

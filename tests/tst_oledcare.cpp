@@ -58,7 +58,8 @@ private Q_SLOTS:
     void reminder();
     void history_data();
     void history();
-    void fromUseToCare();
+    void fromUseToReminder();
+    void fromReminderToCare();
     void careIsRefused();
     void panelsApart();
 
@@ -72,6 +73,7 @@ private:
             QCoreApplication::processEvents();
         }
     }
+    std::pair<QStringList, QStringList> useForFourHours();
     bool isReminded() const { return m_page->reminder() && m_page->reminder()->isVisible(); }
 
     std::unique_ptr<SessionDesk> m_desk;
@@ -202,15 +204,21 @@ void TestOledCare::history()
     QVERIFY(history.text().size() < 1024);
 }
 
-void TestOledCare::fromUseToCare()
+/// What was asked of the monitor before and after the four hours that its care comes after.
+std::pair<QStringList, QStringList> TestOledCare::useForFourHours()
+{
+    pass(3h + 59min, 1min);
+    const QStringList before = m_desk->takeCommands();
+    m_desk->monitor().setValue(0x08, 1);
+    pass(3min);
+    return {before, m_desk->takeCommands()};
+}
+
+void TestOledCare::fromUseToReminder()
 {
     virtualdesk::UserSetup &user = m_desk->desk.user;
     virtualdesk::Applications &programs = m_desk->desk.applications();
-    pass(3h + 59min, 1min);
-    QCOMPARE(m_desk->takeCommands(), QStringList()); // nothing polls
-    m_desk->monitor().setValue(0x08, 1);
-    pass(3min);
-    QCOMPARE(m_desk->takeCommands(), (QStringList{"R 05", "R 08"}));
+    QCOMPARE(useForFourHours(), std::pair(QStringList(), QStringList({"R 05", "R 08"}))); // nothing polls
     programs.bringToFront(0);
     for (const auto &[state, idle, front, shown] : {std::tuple(5, 0ms, 0, false),
                                                     {3, milliseconds(1h), 1, false},
@@ -231,6 +239,15 @@ void TestOledCare::fromUseToCare()
     pass(2min);
     QVERIFY(isReminded());
     QCOMPARE(m_desk->takeCommands().filter("W"), QStringList());
+}
+
+void TestOledCare::fromReminderToCare()
+{
+    useForFourHours();
+    m_desk->desk.user = {milliseconds(1h), 5}; // nobody is disturbed
+    pass(20s);
+    QVERIFY(isReminded());
+    m_desk->takeCommands();
     m_page->reminder()->yesButton()->click();
     QVERIFY(m_page->asked == 1 && !isReminded());
     QCOMPARE(m_desk->takeCommands(), QStringList());

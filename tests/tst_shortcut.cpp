@@ -4,8 +4,10 @@
 #include "platform/desk.h"
 #include "platform/nativekeys.h"
 #include "shortcut/qxtglobalshortcut.h"
+#include "shortcut/shortcutlist.h"
 #include "shortcut/shortcutrunner.h"
 #include "support/deskfixture.h"
+#include "support/fulldisk.h"
 
 using namespace platform;
 
@@ -14,6 +16,7 @@ namespace {
 constexpr int kPlus = 0;
 constexpr int kMinus = 1;
 constexpr int kAudioMute = 23;
+const char *const kSaverArgument = "--save-again-and-again";
 
 /// Hears what is left of a message behind the filters installed after it.
 struct LastFilter : QAbstractNativeEventFilter
@@ -82,6 +85,30 @@ constexpr Step kSteps[] = {
 };
 // clang-format on
 
+/// Two lists of different lengths, so that a half-written one is neither.
+ShortcutList listOf(int length)
+{
+    ShortcutList list;
+    for (int function = 0; function < length; ++function)
+        list.entries.push_back({function, true, QStringLiteral("Ctrl+%1").arg(function % 10), QStringLiteral("Alt+Q")});
+    return list;
+}
+
+/// Saves for ever; what the test kills.
+int saveAgainAndAgain()
+{
+    ManualClock clock;
+    virtualdesk::VirtualDesk desk(clock);
+    platform::VirtualPlatform platform(desk, clock);
+    platform::installDesk(&platform);
+    for (int i = 0; i < 1000000 && saveShortcuts(listOf(i % 2 == 0 ? 24 : 3)); ++i) {
+        if (i == 0)
+            puts("saving");
+        fflush(stdout);
+    }
+    return 1;
+}
+
 } // namespace
 
 class TestShortcut : public DeskSuite
@@ -100,6 +127,8 @@ private Q_SLOTS:
     void newSequenceReplacesTheOld();
     void destructorGivesTheKeyBack();
     void filterLivesAsLongAsAnyShortcut();
+    void fullDisk();
+    void killedWhileSaving();
 };
 
 void TestShortcut::init()
@@ -293,5 +322,36 @@ void TestShortcut::filterLivesAsLongAsAnyShortcut()
     }
 }
 
-QTEST_MAIN(TestShortcut)
+void TestShortcut::fullDisk()
+{
+    QVERIFY(saveShortcuts(listOf(3)));
+    {
+        const FullDisk full(200); // its lock fits, and a good part of the list
+        QVERIFY(!saveShortcuts(listOf(24)));
+    }
+    QVERIFY(loadShortcuts() == listOf(3));
+}
+
+void TestShortcut::killedWhileSaving()
+{
+    for (int round = 0; round < 12; ++round) {
+        QProcess saver;
+        saver.start(QCoreApplication::applicationFilePath(), {QLatin1String(kSaverArgument)});
+        QVERIFY(saver.waitForReadyRead(60000));
+        saver.waitForFinished(round); // let it save on for some milliseconds
+        saver.kill();
+        QVERIFY(saver.waitForFinished());
+        const ShortcutList list = loadShortcuts();
+        QVERIFY(list == listOf(24) || list == listOf(3));
+    }
+}
+
+int main(int argc, char *argv[])
+{
+    if (argc > 1 && qstrcmp(argv[1], kSaverArgument) == 0)
+        return saveAgainAndAgain();
+    QGuiApplication application(argc, argv);
+    TestShortcut test;
+    return QTest::qExec(&test, argc, argv);
+}
 #include "tst_shortcut.moc"

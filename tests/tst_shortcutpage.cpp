@@ -9,7 +9,6 @@
 #include "platform/nativemessage.h"
 #include "shortcut/shortcutlist.h"
 #include "support/deskfixture.h"
-#include "support/fulldisk.h"
 
 using namespace std::chrono_literals;
 
@@ -17,7 +16,6 @@ namespace {
 
 constexpr std::uint32_t kControl = platform::kModifierControl;
 constexpr std::uint32_t kAlt = platform::kModifierAlt;
-const char *const kSaverArgument = "--save-again-and-again";
 const QString kFile = QStringLiteral("basicMode.ini");
 
 /// Answers the dialog at once and counts how often it was shown.
@@ -35,30 +33,6 @@ protected:
             whileShown();
     }
 };
-
-/// Two lists of different lengths, so that a half-written one is neither.
-ShortcutList listOf(int length)
-{
-    ShortcutList list;
-    for (int function = 0; function < length; ++function)
-        list.entries.push_back({function, true, QStringLiteral("Ctrl+%1").arg(function % 10), QStringLiteral("Alt+Q")});
-    return list;
-}
-
-/// Saves for ever; what the test kills.
-int saveAgainAndAgain()
-{
-    ManualClock clock;
-    virtualdesk::VirtualDesk desk(clock);
-    platform::VirtualPlatform platform(desk, clock);
-    platform::installDesk(&platform);
-    for (int i = 0; i < 1000000 && saveShortcuts(listOf(i % 2 == 0 ? 24 : 3)); ++i) {
-        if (i == 0)
-            puts("saving");
-        fflush(stdout);
-    }
-    return 1;
-}
 
 } // namespace
 
@@ -81,7 +55,6 @@ private Q_SLOTS:
     void keysInUse();
     void applyWaitsForChanges();
     void unwritableFile();
-    void killedWhileSaving();
 
 private:
     void start();
@@ -370,13 +343,7 @@ void TestShortcutPage::applyWaitsForChanges()
 
 void TestShortcutPage::unwritableFile()
 {
-    const ShortcutList before{true, {{12, true, QStringLiteral("Ctrl+B"), {}}}};
-    start(before.entries);
-    {
-        const FullDisk full(200); // its lock fits, and a good part of the list
-        QVERIFY(!saveShortcuts(listOf(24)));
-    }
-    QVERIFY(loadShortcuts() == before);
+    start({{12, true, QStringLiteral("Ctrl+B"), {}}});
     QVERIFY(QDir().mkdir(kFile + QStringLiteral(".d"))); // a folder under the file's name takes no settings
     QFile::remove(kFile);
     QVERIFY(QDir().rename(kFile + QStringLiteral(".d"), kFile));
@@ -388,26 +355,5 @@ void TestShortcutPage::unwritableFile()
     QVERIFY(loadShortcuts().entries.empty()); // nobody is told what the file did not take
 }
 
-void TestShortcutPage::killedWhileSaving()
-{
-    for (int round = 0; round < 12; ++round) {
-        QProcess saver;
-        saver.start(QCoreApplication::applicationFilePath(), {QLatin1String(kSaverArgument)});
-        QVERIFY(saver.waitForReadyRead(60000));
-        saver.waitForFinished(round); // let it save on for some milliseconds
-        saver.kill();
-        QVERIFY(saver.waitForFinished());
-        const ShortcutList list = loadShortcuts();
-        QVERIFY(list == listOf(24) || list == listOf(3));
-    }
-}
-
-int main(int argc, char *argv[])
-{
-    if (argc > 1 && qstrcmp(argv[1], kSaverArgument) == 0)
-        return saveAgainAndAgain();
-    QApplication application(argc, argv);
-    TestShortcutPage test;
-    return QTest::qExec(&test, argc, argv);
-}
+QTEST_MAIN(TestShortcutPage)
 #include "tst_shortcutpage.moc"

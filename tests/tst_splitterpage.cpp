@@ -42,6 +42,7 @@ private Q_SLOTS:
     void openedFromElsewhere();
     void goesWithTheFront();
     void drawingByMouseAndKeys();
+    void layoutsOfTheUsersOwn();
     void unwritableFile();
     void screensChange();
 
@@ -295,6 +296,15 @@ void TestSplitterPage::drawingByMouseAndKeys()
         QCOMPARE(zones(), expected);
         QCOMPARE(loadLayouts(page().model().screen().key()).chosen, page().model().chosen()); // stored at once
     }
+}
+
+void TestSplitterPage::layoutsOfTheUsersOwn()
+{
+    startWith();
+    openPage();
+    const QString halves = zones();
+    button("layoutNew")->click();
+    button("layoutCutAcross")->click();
     auto *name = page().findChild<QLineEdit *>(QStringLiteral("layoutName"));
     name->setText(QStringLiteral("  Code / chat "));
     Q_EMIT name->editingFinished();

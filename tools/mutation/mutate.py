@@ -272,7 +272,7 @@ def summary(lines: list[str]) -> str:
                      for room, count in sorted(tried.items(), key=lambda item: (item[0] == "all", item[0])))
 
 
-def main() -> int:
+def arguments() -> argparse.Namespace:
     parser = argparse.ArgumentParser(prog="tools/mutate", description=__doc__)
     parser.add_argument("--count", type=int, default=20, help="mutants that compile (default 20)")
     parser.add_argument("--seed", type=int, default=1, help="which mutants (default 1)")
@@ -280,8 +280,11 @@ def main() -> int:
     parser.add_argument("--again", action="store_true", help="try those once more that survived")
     parser.add_argument("--list", action="store_true", help="name the mutants and try none")
     parser.add_argument("--jobs", type=int, default=1, help="for the first build (default 1)")
-    options = parser.parse_args()
+    return parser.parse_args()
 
+
+def main() -> int:
+    options = arguments()
     mutants = all_mutants(options.seed, options.only)
     if options.list:
         print(*(f"{mutant.file}:{mutant.line}\t{mutant.what}" for mutant in mutants[:options.count]), sep="\n")
