@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include <QHBoxLayout>
 #include <QPushButton>
 
 #include "ledmatrix/animationfile.h"
