@@ -21,7 +21,7 @@ const char *const kSaverArgument = "--save-again-and-again";
 /// Hears what is left of a message behind the filters installed after it.
 struct LastFilter : QAbstractNativeEventFilter
 {
-    LastFilter() { qApp->installNativeEventFilter(this); }
+    LastFilter() { QCoreApplication::instance()->installNativeEventFilter(this); }
     bool nativeEventFilter(const QByteArray &, void *message, qintptr *) override
     {
         messages += static_cast<NativeMessage *>(message)->message == kMessageHotKey;
