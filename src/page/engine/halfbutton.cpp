@@ -77,9 +77,9 @@ void dressHalfButton(QPushButton *button, HalfSize size)
     // The blanks before the label are balanced behind it, so that the word stands in the middle.
     const qsizetype blanks = button->text().size() - QStringView(button->text()).trimmed().size();
     const int width = QFontMetrics(font).horizontalAdvance(QString(blanks, QLatin1Char(' ')));
-    dressByPictures(button, pictures);
-    if (width > 0)
-        button->setStyleSheet(QStringLiteral("padding-right: %1px;").arg(width));
+    const QString style = optionStyle(pictures) + QStringLiteral("QPushButton { padding-right: %1px; }").arg(width);
+    if (button->styleSheet() != style)
+        button->setStyleSheet(style);
 }
 
 QPushButton *makeHalfButton(const char *label, BoundTexts &texts, QWidget *parent)

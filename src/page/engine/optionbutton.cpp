@@ -4,8 +4,6 @@
 
 #include <QPushButton>
 #include <QString>
-#include <QStyle>
-#include <QVariant>
 
 #include "controls/metrics.h"
 #include "controls/palette.h"
@@ -23,38 +21,28 @@ struct ButtonSize
 };
 constexpr ButtonSize kButtonSizes[] = {{78, "small"}, {124, "big"}, {196, "wide"}};
 
-constexpr const char *kPictures[] = {"small", "big", "wide", "selector", "narrow"}; // what there are drawings of
+// Four states by picture, in the order normal, hover, checked, disabled; then the keyboard focus and the text colours.
+const char *const kPictureStyle = "QPushButton { border-image: url(%1);}QPushButton:hover { border-image: url(%2);}"
+                                  "QPushButton:checked { border-image: url(%3);}"
+                                  "QPushButton:disabled { border-image: url(%4);}";
+constexpr char16_t kTextStyle[] =
+    u"QPushButton:focus { border-image: url(%1);}QPushButton:checked:focus { border-image: url(%2);}"
+    "QPushButton { color: @soft; }QPushButton:checked { color: @ink; }"
+    "QPushButton:disabled { color: @disabled; }"
+    "QPushButton:checked:disabled { border-image: url(%3); }";
 
-// @at is the button, @img where its drawings lie. The states by picture, then the colours of the text.
-constexpr char16_t kStyle[] = u"@at { border-image: url(@img_normal.png); color: @soft; }"
-                              "@at:hover { border-image: url(@img_hover.png); }"
-                              "@at:checked { border-image: url(@img_checked.png); color: @ink; }"
-                              "@at:disabled { border-image: url(@img_disabled.png); color: @disabled; }"
-                              "@at:focus { border-image: url(@img_focus.png); }"
-                              "@at:checked:focus { border-image: url(@img_checkedfocus.png); }"
-                              "@at:checked:disabled { border-image: url(@img_checkeddisabled.png); }";
+QString picture(const char *size, const char *state)
+{
+    return Pictures::kRoot + QStringLiteral("img/option/%1_%2.png").arg(QLatin1String(size), QLatin1String(state));
+}
 
 } // namespace
 
-QString optionStyle()
+QString optionStyle(const char *pictures)
 {
-    QString style;
-    for (const char *pictures : kPictures) {
-        const QLatin1String name(pictures);
-        style += QString::fromUtf16(kStyle)
-                     .replace(QLatin1String("@at"), QStringLiteral("QPushButton[pictures=\"%1\"]").arg(name))
-                     .replace(QLatin1String("@img"), Pictures::kRoot + QStringLiteral("img/option/") + name);
-    }
-    return Palette::styled(style);
-}
-
-void dressByPictures(QPushButton *button, const char *pictures)
-{
-    if (button->property("pictures").toByteArray() == pictures)
-        return;
-    button->setProperty("pictures", QByteArray(pictures));
-    button->style()->unpolish(button); // or it would keep the look that it has
-    button->style()->polish(button);
+    const auto of = [pictures](const char *state) { return picture(pictures, state); };
+    return QString::fromLatin1(kPictureStyle).arg(of("normal"), of("hover"), of("checked"), of("disabled")) +
+           Palette::styled(kTextStyle).arg(of("focus"), of("checkedfocus"), of("checkeddisabled"));
 }
 
 void dressOptionButton(QPushButton *button)
@@ -66,6 +54,8 @@ void dressOptionButton(QPushButton *button)
     const ButtonSize *size = kButtonSizes;
     while (size != std::end(kButtonSizes) - 1 && size->width < needed)
         ++size;
+    if (button->width() == size->width && !button->styleSheet().isEmpty())
+        return; // a style sheet is dear, and it would be the same
     button->setFixedSize(size->width, metrics::kControlHeight);
-    dressByPictures(button, size->pictures);
+    button->setStyleSheet(optionStyle(size->pictures));
 }

@@ -4,13 +4,11 @@
 #include <QWidget>
 
 #include "controls/palette.h"
-#include "page/engine/optionbutton.h"
 
 static QString readStyle()
 {
     QFile file(QStringLiteral(":/resource/css/page_scene_mode.css"));
-    return file.open(QIODevice::ReadOnly) ? Palette::styled(QString::fromUtf8(file.readAll())) + optionStyle()
-                                          : QString();
+    return file.open(QIODevice::ReadOnly) ? Palette::styled(QString::fromUtf8(file.readAll())) : QString();
 }
 
 void dressPage(QWidget *page)
