@@ -21,6 +21,7 @@ FramelessWindow::FramelessWindow(const QString &picture)
     QSize size = pixmap(Qt::ReturnByValue).deviceIndependentSize().toSize();
     if (const auto area = platform::desk().displays().workArea())
         size.setHeight(std::min(size.height(), heightToFit(*area, devicePixelRatioF())));
+    setPictureHeight(size.height());
     setFixedSize(size);
 }
 

@@ -114,6 +114,7 @@ void MainWindow::createFollowers()
         *m_queue, m_session, [this] { return pagesInSight(); }, this);
     connect(m_reconciler, &Reconciler::linkChanged, this, &MainWindow::updateInterface);
     connect(m_reconciler, &Reconciler::linkChanged, m_rhythm, &RhythmLight::followLink);
+    connect(m_navigator->pageStack(), &QStackedWidget::currentChanged, this, &MainWindow::followSight);
     connect(m_status, &StatusCard::retryWanted, m_reconciler,
             [this] { m_reconciler->systemNoticed(SystemNotice::DisplaysChanged); });
     new SessionEnd(
@@ -240,6 +241,24 @@ void MainWindow::cameToFront()
 {
     if (std::exchange(m_wasInFront, true) && m_reconciler) // the first time everything has just been read
         m_reconciler->want();
+}
+
+/// It may be shown without coming to the front.
+void MainWindow::showEvent(QShowEvent *event)
+{
+    FramelessWindow::showEvent(event);
+    followSight();
+}
+
+/// An empty page names the mode that is on; every other page asks for what it shows itself.
+void MainWindow::followSight()
+{
+    if (!m_reconciler)
+        return;
+    if (!m_pages.shownBy(m_navigator->pageStack()->currentWidget()))
+        m_reconciler->wantMode();
+    else
+        m_reconciler->look();
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

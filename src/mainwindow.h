@@ -75,6 +75,7 @@ public:
 
 protected:
     void cameToFront() override;
+    void showEvent(QShowEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
     /// Tells the user that the accessory is not connected, and waits for the answer.
@@ -102,6 +103,7 @@ private:
     void connectScene();
     void placeParts();
     void followSent(Command command);
+    void followSight();
     std::vector<Page *> pagesInSight() const;
 
     SearchDeviceDlg &m_session;

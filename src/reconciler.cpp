@@ -39,6 +39,12 @@ void Reconciler::want()
     look();
 }
 
+void Reconciler::wantMode()
+{
+    m_facts.isWanted = m_facts.isWanted || !deviceState.isFresh(Command::SceneMode);
+    look();
+}
+
 void Reconciler::note()
 {
     m_facts.isWanted = true;

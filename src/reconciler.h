@@ -27,6 +27,9 @@ public:
     /// Something happened after which what is shown may not hold.
     void want();
 
+    /// Something came into sight that shows the scene mode, which may have been told long ago.
+    void wantMode();
+
     /// The computer woke, its displays changed, somebody is back.
     void systemNoticed(SystemNotice notice);
 

@@ -18,8 +18,8 @@ public:
     /// Whether another instance answered while this one was constructed.
     bool isRunning() const { return m_isRunning; }
 
-    /// Whether the program's machine-wide name is another instance's. One with more rights than this one may not even
-    /// let it be opened.
+    /// Whether the program's name in the user's session is another instance's. One with more rights than this one may
+    /// not even let it be opened.
     static bool isNameTaken(const platform::NamedMutex &name);
 
     /// Makes place for a copy that is started instead of this instance: what begins now, finds no server.

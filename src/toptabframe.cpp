@@ -15,7 +15,7 @@ namespace {
 constexpr int kMarkLeft = 24;
 constexpr int kMarkSide = 32;
 constexpr int kNameLeft = 66;
-constexpr int kNamePixels = 18;
+constexpr int kProductPixels = 18;
 constexpr int kTabsLeft = 216;
 
 } // namespace
@@ -95,7 +95,7 @@ void TopTabFrame::paintEvent(QPaintEvent *)
     Pictures::draw(painter, QRect(kMarkLeft, (height() - kMarkSide) / 2, kMarkSide, kMarkSide),
                    Pictures::kRoot + QStringLiteral("img/logo.png"));
     QFont name = font();
-    name.setPixelSize(kNamePixels);
+    name.setPixelSize(kProductPixels);
     name.setLetterSpacing(QFont::AbsoluteSpacing, 3);
     painter.setFont(name);
     painter.setPen(QColor(Palette::kText));

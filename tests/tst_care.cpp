@@ -4,6 +4,7 @@
 #include <QtTest>
 
 #include "controls/locksign.h"
+#include "controls/messagestrip.h"
 #include "controls/nowheelslider.h"
 #include "ddc_protocol/automaticwriter.h"
 #include "ddc_protocol/commandqueue.h"
@@ -200,6 +201,10 @@ void TestCare::undoOfRiskyChanges()
     QTest::keyClick(bar->button(), Qt::Key_Space);
     QCOMPARE(m_desk->takeCommands(), QStringList{QStringLiteral("W %1=%2").arg(command, 0, 16).arg(before)});
     QVERIFY(bar->isHidden() && deviceState.confirmed(Command(command)) == before);
+    m_desk->monitor().refuse(static_cast<std::uint8_t>(command), 2);
+    QVERIFY(!makeChange());
+    bar->parentWidget()->findChild<MessageStrip *>()->button()->click(); // "Try again"
+    QVERIFY(bar->offered().has_value());
 }
 
 void TestCare::undoOfferEnds()

@@ -19,6 +19,7 @@
 #include "controls/pictures.h"
 #include "controls/switchbutton.h"
 #include "controls/switchbuttonrectangle.h"
+#include "controls/wrappedlabel.h"
 #include "support/controlevents.h"
 #include "support/datarow.h"
 
@@ -333,6 +334,20 @@ void TestControls::captionFits()
         if (percent > 0)
             QVERIFY(QFontMetrics(fitted.font).horizontalAdvance(fitted.text) <= width);
         QCOMPARE(fitted.text == text, !elided);
+    }
+    // A last line of a word or so takes words from those before it; there are never more lines for it.
+    const QFontMetrics metrics(font);
+    const int room = metrics.horizontalAdvance(text) + 4;
+    const auto linesIn = [&](const QString &words, int width) {
+        return metrics.boundingRect(QRect(0, 0, width, 999), Qt::TextWordWrap, words).height() / metrics.height();
+    };
+    for (const auto &[rest, lines, evened] :
+         {std::tuple("", 1, false), {" now", 2, true}, {" on and on it goes", 2, false}}) {
+        const QString words = text + QLatin1String(rest);
+        const int even = evenWidth(words, font, room);
+        QCOMPARE(even < room, evened);
+        QCOMPARE(linesIn(words, even), lines);
+        QVERIFY(!evened || even < metrics.horizontalAdvance(QStringLiteral("A caption of some")));
     }
     CaptionLabel alone(QStringLiteral("Mode"), 20), beside(QStringLiteral("Mode"), 20), longer(text, 20);
     for (CaptionLabel *label : {&alone, &beside, &longer})

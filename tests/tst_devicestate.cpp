@@ -43,6 +43,8 @@ void TestDeviceState::perform(const QString &step)
         deviceState.wish(command, value);
     else if (what == "preview")
         deviceState.preview(command, value);
+    else if (what == "drop")
+        deviceState.dropPreview(command);
     else if (what == "taken")
         deviceState.taken(command, value);
     else if (what == "refused")
@@ -90,6 +92,8 @@ void TestDeviceState::steps_data()
     row("told 3,wish 5,doubt 0", "pending 5, has 3");
     row("told 3,preview 9", "known 9, has 3");
     row("preview 9", "unknown 9, has ?");
+    row("told 3,preview 9,drop 0", "known 3, has 3");
+    row("told 3,wish 5,drop 0", "pending 5, has 3");
     row("told 3,store -1", "unknown -1, has ?");
     row("wish 5,store 4", "known 4, has 4");
 }
@@ -108,6 +112,8 @@ void TestDeviceState::halvesAndModes_data()
     row("mode told 10,block 10", "known 7, has 7", true);
     row("mode told 10,block 10,mode taken 9", "unknown 0, has ?", true); // the factory half's own is not known yet
     row("mode told 10,block 10,mode taken 9,told 50", "known 50, has 50", true);
+    row("mode told 9,told 50,mode wish 9,mode taken 9", "unknown 50, has 50", false); // which makes it the factory's
+    row("mode told 10,block 10,preview 9,mode told 9,mode told 10", "known 7, has 7", true);
     row("mode told 10,block 10,mode taken 9,told 50,mode taken 10", "known 7, has 7", true);
     row("mode told 9,wish 40,taken 40,mode taken 10", "unknown 0, has ?", false);
     row("mode told 10,block 10,mode taken 12", "unknown 0, has ?", false);

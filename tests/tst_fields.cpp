@@ -23,6 +23,7 @@ SliderWidget *laidOutSlider(Said &said)
                      [&said](const QString &name, int value, bool released) {
                          said << QStringLiteral("%1 %2 %3").arg(name).arg(value).arg(released ? "end" : "step");
                      });
+    QObject::connect(widget, &SliderWidget::holdLost, widget, [&said](const QString &name) { said << name + " lost"; });
     widget->resize(400, 30);
     widget->layout()->activate();
     return widget;
@@ -117,7 +118,13 @@ void TestFields::sliderReports_data()
     QTest::newRow("disabled in mid-drag") << Action([](SliderWidget *widget) {
         QTest::mousePress(widget->slider(), Qt::LeftButton, {}, pointOf(widget->slider(), 30));
         widget->setEnabled(false);
-    }) << Said{"Brightness 30 step", "Brightness 30 end"};
+    }) << Said{"Brightness 30 step", "Brightness lost"};
+    QTest::newRow("hidden in mid-drag") << Action([](SliderWidget *widget) {
+        widget->show();
+        QTest::mousePress(widget->slider(), Qt::LeftButton, {}, pointOf(widget->slider(), 30));
+        widget->hide();
+        QTest::mouseRelease(widget->slider(), Qt::LeftButton, {}, pointOf(widget->slider(), 60));
+    }) << Said{"Brightness 30 step", "Brightness lost"};
 }
 
 void TestFields::sliderReports()
@@ -307,8 +314,8 @@ void TestFields::coloursHaveNames()
     const QString style = QString::fromUtf8(sheet.readAll());
     QVERIFY(!style.contains(QRegularExpression("#[0-9a-f]{6}"))); // each colour by its name
     QVERIFY(!Palette::styled(style).contains(u'@'));
-    // The texts of captions, values and boxes have always had colours of their own.
-    const QStringList own = {"captionlabel.cpp", "sliderwidget.cpp", "messagebox.cpp"};
+    // The texts of boxes have always had colours of their own.
+    const QStringList own = {"messagebox.cpp"};
     for (const char *folder : {"controls", "page", "tray"}) {
         QDirIterator files(QFileInfo(sheet.fileName()).path() + "/../../src/" + folder, {"*.cpp"}, QDir::Files,
                            QDirIterator::Subdirectories);

@@ -6,6 +6,7 @@
 #include "ddc_protocol/scenemodes.h"
 #include "page/Office/pageoffice.h"
 #include "page/emptypage.h"
+#include "page/engine/optiongrouprow.h"
 #include "page/engine/panelpage.h"
 #include "support/windowfixture.h"
 #include "support/wirevalues.h"
@@ -124,6 +125,13 @@ void TestMainWindow::frameByItself()
     QVERIFY(!event.isAccepted() && m_window->isHidden());
     m_window->showWindow();
     QVERIFY(m_window->isVisible());
+
+    m_window->setPictureHeight(800);
+    const QImage whole = m_window->pixmap().toImage().convertToFormat(QImage::Format_ARGB32);
+    m_window->setPictureHeight(620); // on a low screen: what is drawn at the edges stays as it is
+    const QImage lower = m_window->pixmap().toImage().convertToFormat(QImage::Format_ARGB32);
+    QCOMPARE(lower.copy(0, 0, 1280, 80), whole.copy(0, 0, 1280, 80));
+    QCOMPARE(lower.copy(0, 540, 1280, 80), whole.copy(0, 720, 1280, 80));
 }
 
 void TestMainWindow::openingFamily()
@@ -241,6 +249,10 @@ void TestMainWindow::otherEntriesNameThemselves()
     opened.append(m_window->leftBar(kAccessoryFamily)->current());
     QCOMPARE(opened, (QList<int>{0, 0, 0, 0, 0, 5}));       // the first, and then the one that was left open
     QVERIFY(m_desk->takeRequests().filter("W ").isEmpty()); // opening pages asks, but sends nothing
+
+    // A sheet of a whole page is worked out, and kept, for each widget on it.
+    for (const OptionGroupRow *row : m_window->findChildren<OptionGroupRow *>())
+        QVERIFY2(!row->testAttribute(Qt::WA_StyleSheet), row->group().label);
 
     const Meanings meanings = meaningsIn(*m_window);
     for (const QStringList &captions : meanings)

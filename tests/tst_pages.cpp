@@ -145,7 +145,9 @@ void TestPages::answersDoNotOverwriteTheUser()
 void TestPages::refusedSettingIsTold()
 {
     m_desk->monitor().refuse(0xC5, 2);
+    page(System)->slider("V-Position")->slider()->setSliderPosition(7); // is taken first, and told afterwards
     QTest::mouseClick(button(System, "Power LED_Level3"), Qt::LeftButton);
+    QVERIFY(settle());
     QVERIFY(page(System)->notice().contains("did not take"));
     QTest::mouseClick(button(System, "Power LED_Level3"), Qt::LeftButton);
     QCOMPARE(page(System)->notice(), QString());

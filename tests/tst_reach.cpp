@@ -13,6 +13,8 @@
 #include "tray/traypanel.h"
 #include "tray/traypanelopener.h"
 #include "virtualdesk/deskwindow.h"
+#include "virtualdesk/osdfunctions.h"
+#include "virtualdesk/osdlist.h"
 
 using namespace std::chrono_literals;
 
@@ -187,6 +189,10 @@ void TestReach::everyControlSaysWhatItIs()
     m_window->onSpliter();
     virtualdesk::DeskWindow desk(m_desk->desk);
     desk.show();
+    QScrollBar *menu = desk.findChild<virtualdesk::OsdList *>()->verticalScrollBar();
+    menu->setValue(menu->maximum()); // its rows are made as they come into sight
+    const QList<QPushButton *> steps = desk.findChildren<QPushButton *>(QStringLiteral("osdButton"));
+    QCOMPARE(std::size_t(steps.size()), 2 * virtualdesk::osdMenu().size());
     for (QWidget *other :
          std::initializer_list<QWidget *>{m_window->trayPanel()->panel(), m_window->splitting()->overlay(), &desk}) {
         for (const QString &fault : faultsIn(other))

@@ -4,6 +4,7 @@
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/linkstatus.h"
+#include "ddc_protocol/valuechanges.h"
 #include "page/engine/panelpage.h"
 #include "page/engine/settingspage.h"
 #include "platform/nativemessage.h"
@@ -25,6 +26,8 @@ private Q_SLOTS:
     void minusKeyIntoAnotherMode();
     void factoryHalfIsNotTheUsers();
     void heldSliderIsLeftAlone();
+    void heldSliderIsTakenAway();
+    void emptyPageAsksForTheMode();
     void unknownSliderAtItsEndSends();
     void marks();
     void statusFollowsEveryRequest();
@@ -146,6 +149,12 @@ void TestTruth::factoryHalfIsNotTheUsers()
     settle();
     QCOMPARE(lies(), QStringList());
     QCOMPARE(deviceState.value(Command::SceneMode), 9);
+    picture->slider("CR Enhance")->slider()->moveAtOnce(5);
+    settle();
+    QVERIFY(sendValue(Command::SceneMode, 9)); // by a key: the monitor takes back what was changed
+    settle();
+    QVERIFY(picture->slider("CR Enhance")->value() != 5);
+    QCOMPARE(lies(), QStringList());
 }
 
 void TestTruth::heldSliderIsLeftAlone()
@@ -162,6 +171,42 @@ void TestTruth::heldSliderIsLeftAlone()
     brightness->setSliderDown(false);
     settle();
     QCOMPARE(int(m_desk->monitor().value(0x10)), 33);
+    brightness->setSliderDown(true);
+    m_desk->monitor().setValue(0x10, 21);
+    m_window->systemNoticed(SystemNotice::Unlocked);
+    settle();
+    brightness->setSliderDown(false);
+    QCOMPARE(brightness->value(), 21);
+}
+
+/// Another half or a lock takes a slider out of the user's hand: what he had not let go of is not sent.
+void TestTruth::heldSliderIsTakenAway()
+{
+    for (const int mode : {9, 22}) {
+        start(10);
+        NoWheelSlider *colour = slider("Color Enchance")->slider();
+        colour->setSliderDown(true);
+        colour->setSliderPosition(7);
+        m_desk->takeCommands();
+        m_desk->monitor().setValue(0x22, static_cast<std::uint16_t>(mode));
+        m_window->systemNoticed(SystemNotice::Unlocked);
+        settle();
+        QVERIFY(!colour->isSliderDown());
+        QCOMPARE(m_desk->takeCommands().filter("W"), QStringList());
+        QCOMPARE(lies(), QStringList());
+        cleanup();
+    }
+}
+
+/// The page of a family none of whose modes is on names the one that is.
+void TestTruth::emptyPageAsksForTheMode()
+{
+    start(10);
+    m_desk->monitor().setValue(0x22, 13);
+    m_desk->clock.advance(3s);
+    QTest::mouseClick(m_window->tabs()->tabs()[1], Qt::LeftButton);
+    settle();
+    QCOMPARE(deviceState.value(Command::SceneMode), 13);
 }
 
 void TestTruth::unknownSliderAtItsEndSends()

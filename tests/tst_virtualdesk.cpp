@@ -1,6 +1,7 @@
 #include <optional>
 #include <thread>
 
+#include <QPushButton>
 #include <QtTest>
 
 #include "platform/virtual/virtualplatform.h"
@@ -9,12 +10,17 @@
 #include "support/vendorpairs.h"
 #include "virtualdesk/deskscript.h"
 #include "virtualdesk/desksetup.h"
+#include "virtualdesk/monitorpanel.h"
+#include "virtualdesk/osdfunctions.h"
 #include "virtualdesk/requestlog.h"
 #include "virtualdesk/simulatedmonitor.h"
 #include "virtualdesk/virtualdesk.h"
 
 using namespace std::chrono_literals;
 using namespace virtualdesk;
+
+// The screen is one of 200 %: what the toolkit counts in points is not what the system counts in pixels.
+[[maybe_unused]] static const bool s_isScaled = qputenv("QT_SCALE_FACTOR", "2");
 
 using Steps = QList<QPair<int, int>>; // code, and the value written or -1 for a read
 
@@ -39,6 +45,10 @@ private Q_SLOTS:
     void keepsABlockPerMode();
     void faultsStrikeAndEnd();
     void spendsItsLatency();
+    void takesItsTime();
+    void menuFitsTheModel();
+    void fullBufferForgets();
+    void endsListeners();
 };
 
 void TestVirtualDesk::enumeratesWhatIsPlugged()
@@ -49,6 +59,9 @@ void TestVirtualDesk::enumeratesWhatIsPlugged()
     QCOMPARE(displays.activePaths()->size(), 2u);
     QVERIFY(displays.activePaths()->at(0) != displays.activePaths()->at(1));
     QVERIFY(!displays.screens().at(0).geometry.intersects(displays.screens().at(1).geometry));
+    QCOMPARE(displays.screens().at(0).geometry, QGuiApplication::primaryScreen()->geometry());
+    QCOMPARE(displays.info(desk.displays().enumerate().at(0))->bounds.size(),
+             2 * QGuiApplication::primaryScreen()->size());
 
     // From the display's name to the EDID that tells the model.
     const auto device = displays.monitor(displays.adapter(1)->name, 0);
@@ -166,6 +179,7 @@ static const std::pair<QByteArray, QString> kScriptFaults[] = {
     {R"({"accessory": {"faults": [{"event": "sing"}]}})", "\"sing\""},
     {R"({"administrater": true})", "\"administrater\""},
     {R"({"displays": [{"nam": "x"}, {}]})", "\"nam\""},
+    {R"({"displays": [{"bounds": [0, 0, "wide", 600]}, {}]})", "\"bounds\""},
     {R"({"monitors": [{"model": "Q27-OLED", "pluged": false}]})", "\"pluged\""},
     {R"({"monitors": [{"model": "Q27-OLED", "edid": {"random": 1, "sed": 2}}]})", "\"sed\""},
     {R"({"latency": {"reed_ms": 1}})", "\"reed_ms\""},
@@ -179,6 +193,10 @@ static const std::pair<QByteArray, QString> kScriptFaults[] = {
     {R"({"programs": [{"path": "x", "window": {"shape": "round"}}]})", "\"round\""},
     {R"({"user": {"notification_state": 8}})", "\"notification_state\""},
     {R"({"audio": []})", "\"audio\""},
+    {R"({"user": 5})", "\"user\""},
+    {R"({"displays": [5, {}]})", "\"displays\""},
+    {R"({"monitors": [{"model": "Q27-OLED", "values": [16]}]})", "\"values\""},
+    {R"({"screen": {"picture": 1}})", "\"picture\""},
     {R"({"audio": {"plays": "jazz"}})", "\"jazz\""},
     {R"({"audio": {"plays": "wave", "file": "none.wav"}})", "none.wav"},
     {R"({"audio": {"rat": 48000}})", "\"rat\""},
@@ -225,6 +243,10 @@ void TestVirtualDesk::holdsNamesOnce()
     QCOMPARE(two.process().createMutex("QUORVEL").error, platform::kErrorAlreadyExists);
     one.process().closeHandle(held.handle);
     QCOMPARE(two.process().createMutex("QUORVEL").error, 0u);
+    QVERIFY(one.startUp().setValue("QUORVEL", "x") && two.startUp().value("QUORVEL") == "x");
+    first.process().setFolder(folder.filePath("gone/far"));
+    QVERIFY(QDir(folder.path()).mkpath("gone") && writeText(folder.filePath("gone/far"), "no folder"));
+    QVERIFY(!one.startUp().setValue("QUORVEL", "x"));
 }
 
 void TestVirtualDesk::logsRequests()
@@ -370,6 +392,92 @@ void TestVirtualDesk::spendsItsLatency()
     writePair(monitor, 0x10, 1);
     readPair(monitor, 0x10);
     QCOMPARE(before.msecsTo(m_clock.now()), (2 * kRealisticRead + 2 * kRealisticWrite).count());
+}
+
+/// What goes on for a while ends when it should, and only then.
+void TestVirtualDesk::takesItsTime()
+{
+    VirtualDesk desk(m_clock);
+    SimulatedMonitor &monitor = desk.monitor(0);
+    for (const bool reset : {false, true}) {
+        monitor.setValue(kCareNowCode, 1); // by its own button, before anybody has asked it anything
+        QCOMPARE(int(monitor.value(kCareRunningCode)), 1);
+        if (reset)
+            QVERIFY(writePair(monitor, kResetCode, 0));
+        else
+            m_clock.advance(6min);
+        QCOMPARE(int(monitor.value(kCareRunningCode)), 0);
+    }
+    monitor.setValue(kCareNowCode, 1);
+    QCOMPARE(int(monitor.value(kCareRunningCode)), 1);
+
+    for (const bool sleepsAgain : {true, false}) {
+        desk.sleep();
+        desk.wake();
+        if (sleepsAgain)
+            desk.sleep();
+        m_clock.advance(2s);
+        QCOMPARE(monitor.isAsleep(), sleepsAgain);
+    }
+}
+
+/// Buttons stand beside the functions that the model has, and change nothing where there is no monitor.
+void TestVirtualDesk::menuFitsTheModel()
+{
+    const MonitorModel &model = *findModel("Q32-MPCS"); // which lacks most
+    const auto functions = std::ranges::count_if(
+        osdMenu(), [&model](const OsdFunction &function) { return hasFunction(model, function.code); });
+    for (const bool hasMonitor : {true, false}) {
+        DeskSetup setup = defaultSetup();
+        setup.monitors.resize(hasMonitor ? 1 : 0, MonitorSetup());
+        for (MonitorSetup &monitor : setup.monitors)
+            monitor.model = &model;
+        VirtualDesk desk(m_clock, setup);
+        MonitorPanel panel(desk);
+        panel.resize(400, 8000); // all rows are in sight
+        panel.show();
+        const auto shown = [&panel] {
+            const auto buttons = panel.findChildren<QPushButton *>("osdButton");
+            return std::ranges::count_if(buttons, [&](const QWidget *button) { return button->isVisibleTo(&panel); });
+        };
+        if (hasMonitor)
+            QTRY_COMPARE(shown(), 2 * functions);
+        for (const QPushButton *button : panel.findChildren<QPushButton *>("osdButton"))
+            QCOMPARE(button->isEnabled(), hasMonitor);
+    }
+}
+
+/// A client that did not look for ten seconds finds as much as its buffer holds, and what plays now behind it.
+void TestVirtualDesk::fullBufferForgets()
+{
+    EndpointSetup setup;
+    setup.mix = MixKind::Integer;
+    setup.sound.sound = Sound::Tone;
+    SimulatedEndpoint endpoint(m_clock, setup);
+    LoopbackStream stream;
+    endpoint.ask(stream, &LoopbackStream::open);
+    endpoint.ask(stream, &LoopbackStream::initialise, platform::kStreamLoopback, 1'000'000 /* 100 ms */,
+                 endpoint.mixFormat());
+    QCOMPARE(endpoint.ask(stream, &LoopbackStream::start), platform::kAudioOk);
+    m_clock.advance(10s);
+    int packets = 0;
+    platform::AudioPacket packet;
+    while (endpoint.ask(stream, &LoopbackStream::getBuffer, packet) == platform::kAudioOk) {
+        QCOMPARE(endpoint.ask(stream, &LoopbackStream::releaseBuffer, packet.frames), platform::kAudioOk);
+        ++packets;
+    }
+    QCOMPARE(packets, 10);
+}
+
+void TestVirtualDesk::endsListeners()
+{
+    Listeners<> listeners;
+    int second = 0;
+    int calls = 0;
+    listeners.add([&] { listeners.remove(second); });
+    second = listeners.add([&calls] { ++calls; });
+    listeners.tell();
+    QCOMPARE(calls, 0); // whoever ended it may have deleted what it belongs to
 }
 
 QTEST_MAIN(TestVirtualDesk)

@@ -15,6 +15,9 @@ IDEOGRAPH = r"\u3005\u3400-\u9fff"
 CJK = rf"[{IDEOGRAPH}\u3041-\u30fa\u30fc\uac00-\ud7a3]"
 LATIN = r"[0-9A-Za-z\u00c0-\u024f%]"
 UNPARTED = re.compile(rf"{CJK}{LATIN}|{LATIN}{CJK}")
+# A line must not end between a figure and the word that it belongs to, nor begin with "=": %1 may be a figure as well.
+UNTIED = re.compile(rf"(?<={CJK}) (?=\d|%L?\d|=)|(?<=\d) (?={CJK})")
+TIE = "\u00a0"
 # Arguments may hold either kind, tags and mnemonics are not seen.
 UNSEEN = re.compile(r"%L?\d{1,2}|</?[A-Za-z][^<>]*>|\(&\w\)")
 
@@ -48,8 +51,11 @@ class Wording:
         found = [f'has "{word.word}", but the word is {word.instead}' for word in self.replaced.get(language, ())
                  if word.word in without(text.lower(), word.within)]
         term = self.terms.get(language, {}).get(english.strip())
-        if term and text.strip() != term:
+        if term and text.strip() != tied(term):
             found.append(f'is "{text.strip()}", but the word is {term}')
+        if untied := UNTIED.search(text):
+            start, end = untied.span()
+            found.append(f'may break within "{text[start - 1:end + 1]}": run tools/translations update')
         if parting := UNPARTED.search(UNSEEN.sub("\0", text)):
             found.append(f'no blank within "{parting[0]}"')
         if re.search(r"：\s", text):
@@ -57,6 +63,11 @@ class Wording:
         if strange := [c for c in re.findall(rf"[{IDEOGRAPH}]", text) if not c.encode(SCRIPTS.get(language, "utf-8"), "ignore")]:
             found.append(f"strange to the language: {', '.join(strange)}")
         return found
+
+
+def tied(text: str) -> str:
+    """The text with blanks that do not break between figures and Chinese or Japanese words."""
+    return UNTIED.sub(TIE, text)
 
 
 def rows(page: str):

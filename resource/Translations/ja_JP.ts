@@ -33,127 +33,127 @@
     </message>
     <message>
         <source>%1 cannot be written. Nothing was changed.</source>
-        <translation>%1 に書き込めません。変更はありません。</translation>
+        <translation>%1&#xa0;に書き込めません。変更はありません。</translation>
     </message>
     <message>
         <source>%1 cannot be written: what is set here lasts until the program ends.</source>
-        <translation>%1 に書き込めません。ここでの設定はアプリの終了まで有効です。</translation>
+        <translation>%1&#xa0;に書き込めません。ここでの設定はアプリの終了まで有効です。</translation>
     </message>
     <message>
         <source>%1 does not have &quot;%2&quot;.</source>
-        <translation>%1 には「%2」がありません。</translation>
+        <translation>%1&#xa0;には「%2」がありません。</translation>
     </message>
     <message>
         <source>%1 goes to the level before.</source>
-        <translation>%1 で前のレベルにします。</translation>
+        <translation>%1: 前のレベル</translation>
     </message>
     <message>
         <source>%1 goes to the next level.</source>
-        <translation>%1 で次のレベルにします。</translation>
+        <translation>%1: 次のレベル</translation>
     </message>
     <message>
         <source>%1 has no OLED panel to care for.</source>
-        <translation>%1 にはケアの対象となる OLED パネルがありません。</translation>
+        <translation>%1&#xa0;にはケアの対象となる OLED パネルがありません。</translation>
     </message>
     <message>
         <source>%1 has no game functions.</source>
-        <translation>%1 にはゲーム機能がありません。</translation>
+        <translation>%1&#xa0;にはゲーム機能がありません。</translation>
     </message>
     <message>
         <source>%1 holds no saved drawing. It stays as it is until you save.</source>
-        <translation>%1 には保存された描画がありません。保存するまでファイルはそのまま残ります。</translation>
+        <translation>%1&#xa0;には保存された描画がありません。保存するまでファイルはそのまま残ります。</translation>
     </message>
     <message>
         <source>%1 hours of use counted</source>
-        <translation>使用時間の累計: %1 時間</translation>
+        <translation>使用時間の累計: %1&#xa0;時間</translation>
     </message>
     <message>
         <source>%1 hours of use since the last care</source>
-        <translation>前回のケアから %1 時間使用</translation>
+        <translation>前回のケアから&#xa0;%1&#xa0;時間使用</translation>
     </message>
     <message>
         <source>%1 in all, %2 by itself today</source>
-        <translation>計 %1 回、本日自動 %2 回</translation>
+        <translation>計&#xa0;%1&#xa0;回、本日自動&#xa0;%2&#xa0;回</translation>
     </message>
     <message>
         <source>%1 is in the list already.</source>
-        <translation>%1 は既にリストにあります。</translation>
+        <translation>%1&#xa0;は既にリストにあります。</translation>
     </message>
     <message>
         <source>%1 is taken by another program or function and does nothing here.</source>
-        <translation>%1 は他のアプリまたは機能が使用中のため、ここでは動作しません。</translation>
+        <translation>%1&#xa0;は他のアプリまたは機能が使用中のため、ここでは動作しません。</translation>
     </message>
     <message>
         <source>%1 moves it to the corner before.</source>
-        <translation>%1 で前の隅へ移動します。</translation>
+        <translation>%1: 前の隅へ移動</translation>
     </message>
     <message>
         <source>%1 moves it to the next corner.</source>
-        <translation>%1 で次の隅へ移動します。</translation>
+        <translation>%1: 次の隅へ移動</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation>%1 ミリ秒</translation>
+        <translation>%1&#xa0;ミリ秒</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation>%1（最大 %2）</translation>
+        <translation>%1（最大&#xa0;%2）</translation>
     </message>
     <message>
         <source>%1 of %2 lost</source>
-        <translation>%2 回中 %1 回失敗</translation>
+        <translation>%2&#xa0;回中&#xa0;%1&#xa0;回失敗</translation>
     </message>
     <message>
         <source>%1 of %2 values were told, in %3 s.</source>
-        <translation>%2 個の値のうち %1 個を %3 秒で読み取りました。</translation>
+        <translation>%2&#xa0;個の値のうち&#xa0;%1&#xa0;個を&#xa0;%3&#xa0;秒で読み取りました。</translation>
     </message>
     <message>
         <source>%1 requests are recorded in %2</source>
-        <translation>%1 件の要求を %2 に記録しました</translation>
+        <translation>%1&#xa0;件の要求を&#xa0;%2&#xa0;に記録しました</translation>
     </message>
     <message>
         <source>%1 rows, %2 cells, %3 on</source>
-        <translation>%1 行、%2 セル、点灯 %3</translation>
+        <translation>%1&#xa0;行、%2&#xa0;セル、点灯&#xa0;%3</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation>%1 秒</translation>
+        <translation>%1&#xa0;秒</translation>
     </message>
     <message>
         <source>%1 s left</source>
-        <translation>残り %1 秒</translation>
+        <translation>残り&#xa0;%1&#xa0;秒</translation>
     </message>
     <message>
         <source>%1 steps the colour.</source>
-        <translation>%1 で色を切り替えます。</translation>
+        <translation>%1: 色を切り替え</translation>
     </message>
     <message>
         <source>%1 steps the corner.</source>
-        <translation>%1 で隅を切り替えます。</translation>
+        <translation>%1: 隅を切り替え</translation>
     </message>
     <message>
         <source>%1 steps the length.</source>
-        <translation>%1 で長さを切り替えます。</translation>
+        <translation>%1: 長さを切り替え</translation>
     </message>
     <message>
         <source>%1 steps the shape.</source>
-        <translation>%1 で形を切り替えます。</translation>
+        <translation>%1: 形を切り替え</translation>
     </message>
     <message>
         <source>%1 steps the time.</source>
-        <translation>%1 で時間を切り替えます。</translation>
+        <translation>%1: 時間を切り替え</translation>
     </message>
     <message>
         <source>%1 succeeded</source>
-        <translation>%1 回成功</translation>
+        <translation>%1&#xa0;回成功</translation>
     </message>
     <message>
         <source>%1 switches it off.</source>
-        <translation>%1 でオフにします。</translation>
+        <translation>%1: オフにする</translation>
     </message>
     <message>
         <source>%1 switches it on.</source>
-        <translation>%1 でオンにします。</translation>
+        <translation>%1: オンにする</translation>
     </message>
     <message>
         <source>%1 was changed to &quot;%2&quot;.</source>
@@ -185,7 +185,7 @@
     </message>
     <message>
         <source>%1, chunk %2 of %3</source>
-        <translation>%1、チャンク %2 / %3</translation>
+        <translation>%1、チャンク&#xa0;%2 / %3</translation>
     </message>
     <message>
         <source>%1, frames: %2</source>
@@ -197,11 +197,11 @@
     </message>
     <message>
         <source>1 Hour</source>
-        <translation>1 時間</translation>
+        <translation>1&#xa0;時間</translation>
     </message>
     <message>
         <source>1.5 Hour</source>
-        <translation>1.5 時間</translation>
+        <translation>1.5&#xa0;時間</translation>
     </message>
     <message>
         <source>1.6</source>
@@ -213,23 +213,23 @@
     </message>
     <message>
         <source>10 min</source>
-        <translation>10 分前</translation>
+        <translation>10&#xa0;分前</translation>
     </message>
     <message>
         <source>12 Hour</source>
-        <translation>12 時間</translation>
+        <translation>12&#xa0;時間</translation>
     </message>
     <message>
         <source>15 min</source>
-        <translation>15 分</translation>
+        <translation>15&#xa0;分</translation>
     </message>
     <message>
         <source>2 Hour</source>
-        <translation>2 時間</translation>
+        <translation>2&#xa0;時間</translation>
     </message>
     <message>
         <source>2 Zone Rhythm</source>
-        <translation>2 ゾーン連動</translation>
+        <translation>2&#xa0;ゾーン連動</translation>
     </message>
     <message>
         <source>2.0</source>
@@ -245,7 +245,7 @@
     </message>
     <message>
         <source>2.5 Hour</source>
-        <translation>2.5 時間</translation>
+        <translation>2.5&#xa0;時間</translation>
     </message>
     <message>
         <source>2.6</source>
@@ -253,31 +253,31 @@
     </message>
     <message>
         <source>24 Hour</source>
-        <translation>24 時間</translation>
+        <translation>24&#xa0;時間</translation>
     </message>
     <message>
         <source>3 Hour</source>
-        <translation>3 時間</translation>
+        <translation>3&#xa0;時間</translation>
     </message>
     <message>
         <source>3.5 Hour</source>
-        <translation>3.5 時間</translation>
+        <translation>3.5&#xa0;時間</translation>
     </message>
     <message>
         <source>30 min</source>
-        <translation>30 分</translation>
+        <translation>30&#xa0;分</translation>
     </message>
     <message>
         <source>30s</source>
-        <translation>30 秒</translation>
+        <translation>30&#xa0;秒</translation>
     </message>
     <message>
         <source>4 Hour</source>
-        <translation>4 時間</translation>
+        <translation>4&#xa0;時間</translation>
     </message>
     <message>
         <source>40 min</source>
-        <translation>40 分</translation>
+        <translation>40&#xa0;分</translation>
     </message>
     <message>
         <source>5.4G</source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>50 min</source>
-        <translation>50 分</translation>
+        <translation>50&#xa0;分</translation>
     </message>
     <message>
         <source>5000K</source>
@@ -297,7 +297,7 @@
     </message>
     <message>
         <source>60 min</source>
-        <translation>60 分</translation>
+        <translation>60&#xa0;分</translation>
     </message>
     <message>
         <source>6300K</source>
@@ -317,7 +317,7 @@
     </message>
     <message>
         <source>8 Hour</source>
-        <translation>8 時間</translation>
+        <translation>8&#xa0;時間</translation>
     </message>
     <message>
         <source>8.1G</source>
@@ -325,7 +325,7 @@
     </message>
     <message>
         <source>90 min</source>
-        <translation>90 分</translation>
+        <translation>90&#xa0;分</translation>
     </message>
     <message>
         <source>9300K</source>
@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>A colour that can be seen to change is sent, at most one a second.</source>
-        <translation>見て分かる色の変化だけを、1 秒に 1 回まで送ります。</translation>
+        <translation>見て分かる色の変化だけを、1&#xa0;秒に&#xa0;1&#xa0;回まで送ります。</translation>
     </message>
     <message>
         <source>A colour that few games have themselves.</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>A line of text that the matrix shows, standing or scrolling.</source>
-        <translation>マトリクスに静止またはスクロールで表示する 1 行のテキスト。</translation>
+        <translation>マトリクスに静止またはスクロールで表示する&#xa0;1&#xa0;行のテキスト。</translation>
     </message>
     <message>
         <source>A little above the middle, as games need it that look over a shoulder.</source>
@@ -429,7 +429,7 @@
     </message>
     <message>
         <source>A quarter of the screen&apos;s width: hides least of the first input.</source>
-        <translation>画面の幅の 4 分の 1。1 つ目の入力を隠す部分が最も少なくなります。</translation>
+        <translation>画面の幅の&#xa0;4&#xa0;分の&#xa0;1。1&#xa0;つ目の入力を隠す部分が最も少なくなります。</translation>
     </message>
     <message>
         <source>A shade at the rim that is hardly noticed.</source>
@@ -461,7 +461,7 @@
     </message>
     <message>
         <source>A third of the screen&apos;s width.</source>
-        <translation>画面の幅の 3 分の 1。</translation>
+        <translation>画面の幅の&#xa0;3&#xa0;分の&#xa0;1。</translation>
     </message>
     <message>
         <source>A tone</source>
@@ -481,7 +481,7 @@
     </message>
     <message>
         <source>A wide gamut under a D50 light.</source>
-        <translation>D50 光源での広い色域です。</translation>
+        <translation>D50&#xa0;光源での広い色域です。</translation>
     </message>
     <message>
         <source>AI Dual Mode</source>
@@ -533,15 +533,15 @@
     </message>
     <message>
         <source>Alignment_4</source>
-        <translation>4 分割</translation>
+        <translation>4&#xa0;分割</translation>
     </message>
     <message>
         <source>Alignment_6</source>
-        <translation>6 分割</translation>
+        <translation>6&#xa0;分割</translation>
     </message>
     <message>
         <source>Alignment_9</source>
-        <translation>9 分割</translation>
+        <translation>9&#xa0;分割</translation>
     </message>
     <message>
         <source>All colours at once, which turn around the ring.</source>
@@ -557,7 +557,7 @@
     </message>
     <message>
         <source>All lamps follow sound or screen in one colour.</source>
-        <translation>すべてのライトが 1 色で音や画面に合わせます。</translation>
+        <translation>すべてのライトが&#xa0;1&#xa0;色で音や画面に合わせます。</translation>
     </message>
     <message>
         <source>All shortcuts rest while the switch above is off.</source>
@@ -609,7 +609,7 @@
     </message>
     <message>
         <source>Answer times, last ten minutes</source>
-        <translation>直近 10 分間の応答時間</translation>
+        <translation>直近&#xa0;10&#xa0;分間の応答時間</translation>
     </message>
     <message>
         <source>Answers</source>
@@ -657,7 +657,7 @@
     </message>
     <message>
         <source>As saved: %1 cells a frame, not 1050.</source>
-        <translation>保存と同じ %1 セル/フレーム(通常 1050)</translation>
+        <translation>保存と同じ&#xa0;%1&#xa0;セル/フレーム(通常&#xa0;1050)</translation>
     </message>
     <message>
         <source>Asked again and told; nothing to do.</source>
@@ -701,7 +701,7 @@
     </message>
     <message>
         <source>Automatic changes</source>
-        <translation>自動変更（1 日）</translation>
+        <translation>自動変更（1&#xa0;日）</translation>
     </message>
     <message>
         <source>B</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = when needed.</source>
-        <translation>暗い場面を明るくします。「レベル 1」と「レベル 2」は常に、「自動 L1」と「自動 L2」は映像に応じて働きます。</translation>
+        <translation>暗い場面を明るくします。「レベル」は常に、「自動」は映像に応じて働きます。</translation>
     </message>
     <message>
         <source>Brightness</source>
@@ -781,7 +781,7 @@
     </message>
     <message>
         <source>Brings the monitor&apos;s firmware up to date. Leave the monitor switched on until it has finished.</source>
-        <translation>モニターのファームウェアを更新するアプリを起動します。完了するまでモニターの電源を切らないでください。</translation>
+        <translation>ファームウェアの更新アプリを起動します。完了するまでモニターの電源を切らないでください。</translation>
     </message>
     <message>
         <source>Buffer error</source>
@@ -857,7 +857,7 @@
     </message>
     <message>
         <source>Care evens out how the pixels have aged, so that no picture stays visible. It takes about 6 minutes.</source>
-        <translation>ケアは画素の劣化をそろえ、焼き付きを防ぎます。約 6 分かかります。</translation>
+        <translation>ケアは画素の劣化をそろえ、焼き付きを防ぎます。約&#xa0;6&#xa0;分かかります。</translation>
     </message>
     <message>
         <source>Care is due.</source>
@@ -865,11 +865,11 @@
     </message>
     <message>
         <source>Care is due. The picture goes black for about 6 minutes.</source>
-        <translation>ケアの時期です。画面が約 6 分間黒くなります。</translation>
+        <translation>ケアの時期です。画面が約&#xa0;6&#xa0;分間黒くなります。</translation>
     </message>
     <message>
         <source>Care is due: the monitor begins when it goes to standby.</source>
-        <translation>ケアの時期です。モニターがスタンバイに入ると自動で始まります。</translation>
+        <translation>ケアの時期です。モニターが待機状態になると自動で始まります。</translation>
     </message>
     <message>
         <source>Care is running. Leave the monitor on until the picture is back.</source>
@@ -877,7 +877,7 @@
     </message>
     <message>
         <source>Care takes about 6 minutes, in which the picture is black. It evens out how the pixels have aged; nothing that is open is lost.</source>
-        <translation>ケアは約 6 分で、その間は画面が黒くなります。画素の劣化をそろえます。開いているものは失われません。</translation>
+        <translation>ケアは約&#xa0;6&#xa0;分で、その間は画面が黒くなります。画素の劣化をそろえます。開いているものは失われません。</translation>
     </message>
     <message>
         <source>Caret</source>
@@ -917,7 +917,7 @@
     </message>
     <message>
         <source>Cinema colours at a D65 white.</source>
-        <translation>D65 白色点での映画の色です。</translation>
+        <translation>D65&#xa0;白色点での映画の色です。</translation>
     </message>
     <message>
         <source>Clean Frame</source>
@@ -941,7 +941,7 @@
     </message>
     <message>
         <source>Close = dark, Normal = one colour, Effect = it moves, Rhythm = follows sound or screen, Eye Care = calm white.</source>
-        <translation>オフ = 消灯、通常 = 一色、エフェクト = 動く光、連動 = 音や画面に合わせる、アイケア = 白い光。</translation>
+        <translation>オフ&#xa0;= 消灯、通常&#xa0;= 一色、エフェクト&#xa0;= 動く光、連動&#xa0;= 音や画面に合わせる、アイケア&#xa0;= 白い光。</translation>
     </message>
     <message>
         <source>Close window</source>
@@ -973,7 +973,7 @@
     </message>
     <message>
         <source>Color Temperature</source>
-        <translation>色温</translation>
+        <translation>色温度</translation>
     </message>
     <message>
         <source>Colour and brightness follow what this computer plays. For music.</source>
@@ -1021,7 +1021,7 @@
     </message>
     <message>
         <source>Counts up to this and begins again. Take the length of a round.</source>
-        <translation>この時間まで計り、最初に戻ります。1 ラウンドの長さに合わせてください。</translation>
+        <translation>この時間まで計り、最初に戻ります。1&#xa0;ラウンドの長さに合わせてください。</translation>
     </message>
     <message>
         <source>Covers least. For a screen that is near.</source>
@@ -1077,7 +1077,7 @@
     </message>
     <message>
         <source>DCI-P3 Mode</source>
-        <translation>DCI-P3 モード</translation>
+        <translation>DCI-P3&#xa0;モード</translation>
     </message>
     <message>
         <source>DCI-P3(D65)</source>
@@ -1201,7 +1201,7 @@
     </message>
     <message>
         <source>Dims signs that stand still, such as a station&apos;s logo. Close = off; Low to High are stronger in turn.</source>
-        <translation>テレビ局のロゴなど、動かないマークを暗くします。オフ = 使わない、低から高へ順に強くなります。</translation>
+        <translation>テレビ局のロゴなど、動かないマークを暗くします。オフ&#xa0;= 使わない、低から高へ順に強くなります。</translation>
     </message>
     <message>
         <source>Dims soon: spares the panel most.</source>
@@ -1209,7 +1209,7 @@
     </message>
     <message>
         <source>Dims the border between bright and dark, as beside black bars. Close = off; Low to High are stronger in turn.</source>
-        <translation>黒帯の脇など、明暗の境目を暗くします。オフ = 使わない、低から高へ順に強くなります。</translation>
+        <translation>黒帯の脇など、明暗の境目を暗くします。オフ&#xa0;= 使わない、低から高へ順に強くなります。</translation>
     </message>
     <message>
         <source>Dims the light behind dark parts, so that black is deeper. Close = off; the others are stronger in turn.</source>
@@ -1221,7 +1221,7 @@
     </message>
     <message>
         <source>Dims the taskbar, which always stands in one place. Close = off; Low to High are stronger in turn.</source>
-        <translation>いつも同じ場所にあるタスクバーを暗くします。オフ = 使わない、低から高へ順に強くなります。</translation>
+        <translation>いつも同じ場所にあるタスクバーを暗くします。オフ&#xa0;= 使わない、低から高へ順に強くなります。</translation>
     </message>
     <message>
         <source>Direction</source>
@@ -1233,7 +1233,7 @@
     </message>
     <message>
         <source>Display P3 Mode</source>
-        <translation>Display P3 モード</translation>
+        <translation>Display P3&#xa0;モード</translation>
     </message>
     <message>
         <source>Display Version</source>
@@ -1261,7 +1261,7 @@
     </message>
     <message>
         <source>Draw frames cell by cell; the matrix plays them in a loop.</source>
-        <translation>フレームを 1 セルずつ描きます。マトリクスは繰り返し再生します。</translation>
+        <translation>フレームを&#xa0;1&#xa0;セルずつ描きます。マトリクスは繰り返し再生します。</translation>
     </message>
     <message>
         <source>Drawn by the monitor itself, so it works in every game and is no program that a game could see.</source>
@@ -1273,7 +1273,7 @@
     </message>
     <message>
         <source>Draws lines that divide the screen. Close = none; Alignment_4, Alignment_6 and Alignment_9 = into 4, 6 or 9 parts.</source>
-        <translation>画面を 4、6、9 つに分ける線を表示します。</translation>
+        <translation>画面を&#xa0;4、6、9&#xa0;つに分ける線を表示します。</translation>
     </message>
     <message>
         <source>Draws the outline of a sheet on the screen. Close = none, Custom Size = as large as you set it.</source>
@@ -1361,7 +1361,7 @@
     </message>
     <message>
         <source>Every packet holds 7001 frames until the button is released</source>
-        <translation>ボタンを戻すまで、各パケットは 7001 フレームになります</translation>
+        <translation>ボタンを戻すまで、各パケットは&#xa0;7001&#xa0;フレームになります</translation>
     </message>
     <message>
         <source>Every picture is shown with the usual range.</source>
@@ -1369,7 +1369,7 @@
     </message>
     <message>
         <source>Every request takes 400 ms longer</source>
-        <translation>すべての要求に 400 ミリ秒余計にかかります</translation>
+        <translation>すべての要求に&#xa0;400&#xa0;ミリ秒余計にかかります</translation>
     </message>
     <message>
         <source>Everything that the panel can show.</source>
@@ -1441,7 +1441,7 @@
     </message>
     <message>
         <source>First control</source>
-        <translation>1 つ目の項目</translation>
+        <translation>1&#xa0;つ目の項目</translation>
     </message>
     <message>
         <source>Flicker</source>
@@ -1497,7 +1497,7 @@
     </message>
     <message>
         <source>For computers, which send 0 to 255.</source>
-        <translation>0 から 255 を送るコンピューター向けです。</translation>
+        <translation>0&#xa0;から&#xa0;255&#xa0;を送るコンピューター向けです。</translation>
     </message>
     <message>
         <source>For fast games in which a crosshair that stands still gets lost.</source>
@@ -1537,7 +1537,7 @@
     </message>
     <message>
         <source>For players and consoles that send 16 to 235. With a computer black looks grey.</source>
-        <translation>16 から 235 を送るプレーヤーやゲーム機向けです。コンピューターでは黒が灰色に見えます。</translation>
+        <translation>16&#xa0;から&#xa0;235&#xa0;を送るプレーヤーやゲーム機向けです。コンピューターでは黒が灰色に見えます。</translation>
     </message>
     <message>
         <source>For scenes that are near.</source>
@@ -1557,7 +1557,7 @@
     </message>
     <message>
         <source>Four bytes of the next scene-mode block get lost</source>
-        <translation>次のシーンモードのデータから 4 バイトが失われます</translation>
+        <translation>次のシーンモードのデータから&#xa0;4&#xa0;バイトが失われます</translation>
     </message>
     <message>
         <source>Frame</source>
@@ -1565,7 +1565,7 @@
     </message>
     <message>
         <source>Frame %1</source>
-        <translation>フレーム %1</translation>
+        <translation>フレーム&#xa0;%1</translation>
     </message>
     <message>
         <source>Frames/s</source>
@@ -1577,7 +1577,7 @@
     </message>
     <message>
         <source>Frames: %1, of which the accessory takes %2</source>
-        <translation>フレーム数: %1（アクセサリに入るのは %2 まで）</translation>
+        <translation>フレーム数: %1（アクセサリに入るのは&#xa0;%2&#xa0;まで）</translation>
     </message>
     <message>
         <source>Frequency</source>
@@ -1589,7 +1589,7 @@
     </message>
     <message>
         <source>Front Brightness</source>
-        <translation>前面の明るさ</translation>
+        <translation>前面の輝度</translation>
     </message>
     <message>
         <source>Front Color</source>
@@ -1709,7 +1709,7 @@
     </message>
     <message>
         <source>Halves</source>
-        <translation>2 分割</translation>
+        <translation>2&#xa0;分割</translation>
     </message>
     <message>
         <source>Hanging</source>
@@ -1717,7 +1717,7 @@
     </message>
     <message>
         <source>HawkEye Brightness</source>
-        <translation>ホークアイの明るさ</translation>
+        <translation>ホークアイの輝度</translation>
     </message>
     <message>
         <source>HawkEye Contrast</source>
@@ -1773,11 +1773,11 @@
     </message>
     <message>
         <source>How bright the enlarged part is. Level3 = as the rest; higher ones show what is in the shade.</source>
-        <translation>拡大部分の明るさです。「レベル 3」は周りと同じで、高くすると影の中が見えてきます。</translation>
+        <translation>拡大部分の明るさです。「レベル&#xa0;3」は周りと同じで、高くすると影の中が見えてきます。</translation>
     </message>
     <message>
         <source>How bright the lamp shines that tells that the monitor is on. Close = dark, Level3 = brightest.</source>
-        <translation>モニターの電源ランプの明るさです。「レベル 3」が最も明るくなります。</translation>
+        <translation>モニターの電源ランプの明るさです。「レベル&#xa0;3」が最も明るくなります。</translation>
     </message>
     <message>
         <source>How bright the middle tones are. The higher the value, the darker.</source>
@@ -1785,11 +1785,11 @@
     </message>
     <message>
         <source>How clear its edges are. Level3 = as they come; lower ones hide coarse dots, higher ones show outlines.</source>
-        <translation>拡大部分の輪郭の鮮明さです。「レベル 3」はそのまま、低いと粗さが目立たず、高いと輪郭が際立ちます。</translation>
+        <translation>拡大部分の輪郭の鮮明さです。「レベル&#xa0;3」はそのまま、低いと粗さが目立たず、高いと輪郭が際立ちます。</translation>
     </message>
     <message>
         <source>How far light and dark are apart in it. Level3 = as the rest; higher ones help in fog and dust.</source>
-        <translation>拡大部分の明暗の差です。「レベル 3」は周りと同じで、高くすると霧や砂ぼこりの中で見やすくなります。</translation>
+        <translation>拡大部分の明暗の差です。「レベル&#xa0;3」は周りと同じで、高くすると霧や砂ぼこりの中で見やすくなります。</translation>
     </message>
     <message>
         <source>How long the monitor waits without a signal before it sleeps.</source>
@@ -1797,7 +1797,7 @@
     </message>
     <message>
         <source>How often a day the tool may change the monitor without your doing.</source>
-        <translation>ツールが 1 日に自動でモニターを変更してよい回数です。</translation>
+        <translation>ツールが&#xa0;1&#xa0;日に自動でモニターを変更してよい回数です。</translation>
     </message>
     <message>
         <source>How pictures with a high dynamic range are shown. Close = off, Auto = when the signal has it.</source>
@@ -1817,11 +1817,11 @@
     </message>
     <message>
         <source>How the print will look under a D55 light.</source>
-        <translation>D55 光源での印刷物の見え方です。</translation>
+        <translation>D55&#xa0;光源での印刷物の見え方です。</translation>
     </message>
     <message>
         <source>How the print will look under a D58 light.</source>
-        <translation>D58 光源での印刷物の見え方です。</translation>
+        <translation>D58&#xa0;光源での印刷物の見え方です。</translation>
     </message>
     <message>
         <source>How the print will look.</source>
@@ -1833,7 +1833,7 @@
     </message>
     <message>
         <source>How warm white looks. 5000K = warmest, 9300K = coldest, User1 to User3 = your own mixtures.</source>
-        <translation>白の色合いです。5000K が最も暖かく、9300K が最も冷たい色で、ユーザー 1～3 は自由に調整できます。</translation>
+        <translation>白の色合いです。5000K が最も暖かく、9300K が最も冷たい色で、ユーザー&#xa0;1～3&#xa0;は自由に調整できます。</translation>
     </message>
     <message>
         <source>Hue</source>
@@ -1857,7 +1857,7 @@
     </message>
     <message>
         <source>If you switch the monitor on several times a day. CEC cannot be on at the same time.</source>
-        <translation>1 日に何度もモニターの電源を入れる場合に使います。CEC と同時にはオンにできません。</translation>
+        <translation>1&#xa0;日に何度もモニターの電源を入れる場合に使います。CEC と同時にはオンにできません。</translation>
     </message>
     <message>
         <source>If you turn the screen now and then: the monitor&apos;s menu turns with it.</source>
@@ -1969,7 +1969,7 @@
     </message>
     <message>
         <source>Lamp Belt Brightness</source>
-        <translation>バーの明るさ</translation>
+        <translation>バーの輝度</translation>
     </message>
     <message>
         <source>Lamp Belt Color</source>
@@ -1977,7 +1977,7 @@
     </message>
     <message>
         <source>Lamp Belt Effect</source>
-        <translation>バーの効果</translation>
+        <translation>バーのエフェクト</translation>
     </message>
     <message>
         <source>Lamp Belt Front Color</source>
@@ -2033,7 +2033,7 @@
     </message>
     <message>
         <source>Lets the monitor switch between its two modes by itself. Close = off, Open = on.</source>
-        <translation>モニターが 2 つのモードを自動で切り替えます。</translation>
+        <translation>モニターが&#xa0;2&#xa0;つのモードを自動で切り替えます。</translation>
     </message>
     <message>
         <source>Level</source>
@@ -2041,27 +2041,27 @@
     </message>
     <message>
         <source>Level1</source>
-        <translation>レベル 1</translation>
+        <translation>レベル&#xa0;1</translation>
     </message>
     <message>
         <source>Level1 follows great changes only, for a quiet room; Level5 also small ones.</source>
-        <translation>「レベル 1」は大きな変化だけに合わせ、静かな部屋向けです。「レベル 5」は小さな変化にも合わせます。</translation>
+        <translation>「レベル&#xa0;1」は大きな変化だけに合わせ、静かな部屋向けです。「レベル&#xa0;5」は小さな変化にも合わせます。</translation>
     </message>
     <message>
         <source>Level2</source>
-        <translation>レベル 2</translation>
+        <translation>レベル&#xa0;2</translation>
     </message>
     <message>
         <source>Level3</source>
-        <translation>レベル 3</translation>
+        <translation>レベル&#xa0;3</translation>
     </message>
     <message>
         <source>Level4</source>
-        <translation>レベル 4</translation>
+        <translation>レベル&#xa0;4</translation>
     </message>
     <message>
         <source>Level5</source>
-        <translation>レベル 5</translation>
+        <translation>レベル&#xa0;5</translation>
     </message>
     <message>
         <source>Lifts thin lines and dark surfaces of drawings.</source>
@@ -2069,7 +2069,7 @@
     </message>
     <message>
         <source>Light Brightness</source>
-        <translation>ライトの明るさ</translation>
+        <translation>ライトの輝度</translation>
     </message>
     <message>
         <source>Light Color</source>
@@ -2093,7 +2093,7 @@
     </message>
     <message>
         <source>Light Effect</source>
-        <translation>ライトの効果</translation>
+        <translation>ライトのエフェクト</translation>
     </message>
     <message>
         <source>Light Level</source>
@@ -2133,7 +2133,7 @@
     </message>
     <message>
         <source>Lighter = used longer that day, ring = cared for.</source>
-        <translation>明るいほど長く使った日、輪 = ケアをした日。</translation>
+        <translation>明るいほど長く使った日、輪&#xa0;= ケアをした日。</translation>
     </message>
     <message>
         <source>Lighting</source>
@@ -2141,7 +2141,7 @@
     </message>
     <message>
         <source>Lines at 38 and 62 per cent: balanced, and less rigid than thirds.</source>
-        <translation>38 % と 62 % の線。三分割より自然な均衡です。</translation>
+        <translation>38 % と&#xa0;62 % の線。三分割より自然な均衡です。</translation>
     </message>
     <message>
         <source>Lines at thirds: put what matters where they cross.</source>
@@ -2229,7 +2229,7 @@
     </message>
     <message>
         <source>Makes colours stronger. 0 = off.</source>
-        <translation>色を鮮やかにします。0 でオフです。</translation>
+        <translation>色を鮮やかにします。0&#xa0;でオフです。</translation>
     </message>
     <message>
         <source>Makes dark parts lighter or darker, so that you see what is in the shadows.</source>
@@ -2237,7 +2237,7 @@
     </message>
     <message>
         <source>Makes what moves look sharper. Close = off; Low to High and Ull-Level1 to 3 are stronger in turn.</source>
-        <translation>動きをくっきり見せます。「低」から「高」、「Ull レベル 1」から「Ull レベル 3」の順に強くなります。</translation>
+        <translation>動きをくっきり見せます。「低」から「高」、「Ull レベル&#xa0;1」から「Ull レベル&#xa0;3」の順に強くなります。</translation>
     </message>
     <message>
         <source>Manual</source>
@@ -2245,11 +2245,11 @@
     </message>
     <message>
         <source>Marks along two edges, to measure and compare lengths.</source>
-        <translation>2 辺に目盛りを表示し、長さを測れます。</translation>
+        <translation>2&#xa0;辺に目盛りを表示し、長さを測れます。</translation>
     </message>
     <message>
         <source>Matches notebooks with a Display P3 screen.</source>
-        <translation>Display P3 画面のノートコンピューターと色を合わせます。</translation>
+        <translation>Display P3&#xa0;画面のノートコンピューターと色を合わせます。</translation>
     </message>
     <message>
         <source>Matrix Brightness</source>
@@ -2265,15 +2265,15 @@
     </message>
     <message>
         <source>Matrix Mode1</source>
-        <translation>マトリクスのモード 1</translation>
+        <translation>マトリクスのモード&#xa0;1</translation>
     </message>
     <message>
         <source>Matrix Mode2</source>
-        <translation>マトリクスのモード 2</translation>
+        <translation>マトリクスのモード&#xa0;2</translation>
     </message>
     <message>
         <source>Matrix Mode3</source>
-        <translation>マトリクスのモード 3</translation>
+        <translation>マトリクスのモード&#xa0;3</translation>
     </message>
     <message>
         <source>Matrix Power Off</source>
@@ -2289,7 +2289,7 @@
     </message>
     <message>
         <source>Maximum 192 frames</source>
-        <translation>最大 192 フレーム</translation>
+        <translation>最大&#xa0;192&#xa0;フレーム</translation>
     </message>
     <message>
         <source>Median answer</source>
@@ -2345,27 +2345,27 @@
     </message>
     <message>
         <source>Mode %1</source>
-        <translation>モード %1</translation>
+        <translation>モード&#xa0;%1</translation>
     </message>
     <message>
         <source>Mode1</source>
-        <translation>モード 1</translation>
+        <translation>モード&#xa0;1</translation>
     </message>
     <message>
         <source>Mode2</source>
-        <translation>モード 2</translation>
+        <translation>モード&#xa0;2</translation>
     </message>
     <message>
         <source>Mode3</source>
-        <translation>モード 3</translation>
+        <translation>モード&#xa0;3</translation>
     </message>
     <message>
         <source>Mode4</source>
-        <translation>モード 4</translation>
+        <translation>モード&#xa0;4</translation>
     </message>
     <message>
         <source>Mode5</source>
-        <translation>モード 5</translation>
+        <translation>モード&#xa0;5</translation>
     </message>
     <message>
         <source>Model</source>
@@ -2381,7 +2381,7 @@
     </message>
     <message>
         <source>More than two fifths of the screen&apos;s width: small text stays readable.</source>
-        <translation>画面の幅の 5 分の 2 以上。小さな文字も読めます。</translation>
+        <translation>画面の幅の&#xa0;5&#xa0;分の&#xa0;2&#xa0;以上。小さな文字も読めます。</translation>
     </message>
     <message>
         <source>Motion</source>
@@ -2401,7 +2401,7 @@
     </message>
     <message>
         <source>Moves the whole picture by a few pixels now and then, so that edges do not burn in. Close = off.</source>
-        <translation>ときどき画面全体を数画素ずらし、輪郭の焼き付きを防ぎます。オフ = 使わない。</translation>
+        <translation>ときどき画面全体を数画素ずらし、輪郭の焼き付きを防ぎます。オフ&#xa0;= 使わない。</translation>
     </message>
     <message>
         <source>Movie</source>
@@ -2425,7 +2425,7 @@
     </message>
     <message>
         <source>Must match the computer&apos;s signal. RGB Auto = found out by itself, RGB Limit = 16 to 235, RGB Full = 0 to 255.</source>
-        <translation>コンピューターの信号に合わせます。「RGB 自動」は自動判別、リミテッドは 16～235、フルは 0～255。</translation>
+        <translation>コンピューターの信号に合わせます。「RGB 自動」は自動判別、リミテッドは&#xa0;16～235、フルは&#xa0;0～255。</translation>
     </message>
     <message>
         <source>My layout</source>
@@ -2493,7 +2493,7 @@
     </message>
     <message>
         <source>Night View C.T</source>
-        <translation>夜間色温</translation>
+        <translation>夜間色温度</translation>
     </message>
     <message>
         <source>Night Vision</source>
@@ -2517,7 +2517,7 @@
     </message>
     <message>
         <source>No answer for %1 s</source>
-        <translation>%1 秒間応答なし</translation>
+        <translation>%1&#xa0;秒間応答なし</translation>
     </message>
     <message>
         <source>No care has been seen yet: hours count from the first start of this tool.</source>
@@ -2589,7 +2589,7 @@
     </message>
     <message>
         <source>Nothing is followed but in one of the two rhythm modes.</source>
-        <translation>連動するのは 2 つの連動モードのときだけです。</translation>
+        <translation>連動するのは&#xa0;2&#xa0;つの連動モードのときだけです。</translation>
     </message>
     <message>
         <source>Nothing is heard: no program plays, or the sound output is gone.</source>
@@ -2657,15 +2657,15 @@
     </message>
     <message>
         <source>One colour melts into the next. Off = it changes at once.</source>
-        <translation>色が次の色へなめらかに変わります。オフ = すぐに変わります。</translation>
+        <translation>色が次の色へなめらかに変わります。オフ&#xa0;= すぐに変わります。</translation>
     </message>
     <message>
         <source>One colour that stands still. Calm enough for work.</source>
-        <translation>動かない 1 色の光です。作業の邪魔になりません。</translation>
+        <translation>動かない&#xa0;1&#xa0;色の光です。作業の邪魔になりません。</translation>
     </message>
     <message>
         <source>One input fills the screen.</source>
-        <translation>1 つの入力を画面全体に表示します。</translation>
+        <translation>1&#xa0;つの入力を画面全体に表示します。</translation>
     </message>
     <message>
         <source>Onion Skin</source>
@@ -2729,15 +2729,15 @@
     </message>
     <message>
         <source>Paper_A4</source>
-        <translation>A4 用紙</translation>
+        <translation>A4&#xa0;用紙</translation>
     </message>
     <message>
         <source>Paper_B5</source>
-        <translation>B5 用紙</translation>
+        <translation>B5&#xa0;用紙</translation>
     </message>
     <message>
         <source>Paper_B6</source>
-        <translation>B6 用紙</translation>
+        <translation>B6&#xa0;用紙</translation>
     </message>
     <message>
         <source>Parameters of the mode</source>
@@ -2753,7 +2753,7 @@
     </message>
     <message>
         <source>Photographs at a D65 white.</source>
-        <translation>D65 白色点での写真向けです。</translation>
+        <translation>D65&#xa0;白色点での写真向けです。</translation>
     </message>
     <message>
         <source>Picture Enhance</source>
@@ -2761,11 +2761,11 @@
     </message>
     <message>
         <source>Picture by picture: two inputs side by side, each on half of the screen, to work on both.</source>
-        <translation>ピクチャーバイピクチャー: 2 つの入力を左右半分ずつに並べ、両方で作業できます。</translation>
+        <translation>ピクチャーバイピクチャー: 2&#xa0;つの入力を左右半分ずつに並べ、両方で作業できます。</translation>
     </message>
     <message>
         <source>Picture in picture: a second input in a small window over the first, to keep an eye on another computer.</source>
-        <translation>ピクチャーインピクチャー: 2 つ目の入力を小さな子画面で重ねます。別のコンピューターの様子を見ておけます。</translation>
+        <translation>ピクチャーインピクチャー: 2&#xa0;つ目の入力を小さな子画面で重ねます。別のコンピューターの様子を見ておけます。</translation>
     </message>
     <message>
         <source>Pictures are shown as they come.</source>
@@ -2861,7 +2861,7 @@
     </message>
     <message>
         <source>Proofs under a D50 light.</source>
-        <translation>D50 光源での校正刷り向けです。</translation>
+        <translation>D50&#xa0;光源での校正刷り向けです。</translation>
     </message>
     <message>
         <source>Pull out</source>
@@ -2889,7 +2889,7 @@
     </message>
     <message>
         <source>Quarters</source>
-        <translation>4 分割</translation>
+        <translation>4&#xa0;分割</translation>
     </message>
     <message>
         <source>Questions and answers about your monitor, in your web browser.</source>
@@ -2925,7 +2925,7 @@
     </message>
     <message>
         <source>Raises the contrast between light and dark parts. 0 = off.</source>
-        <translation>明るい部分と暗い部分の差を強めます。0 でオフです。</translation>
+        <translation>明るい部分と暗い部分の差を強めます。0&#xa0;でオフです。</translation>
     </message>
     <message>
         <source>Rate</source>
@@ -2945,7 +2945,7 @@
     </message>
     <message>
         <source>Reading sample 0123</source>
-        <translation>読書サンプル 0123</translation>
+        <translation>読書サンプル&#xa0;0123</translation>
     </message>
     <message>
         <source>Reading: %1 of %2</source>
@@ -2953,7 +2953,7 @@
     </message>
     <message>
         <source>Rear Brightness</source>
-        <translation>背面の明るさ</translation>
+        <translation>背面の輝度</translation>
     </message>
     <message>
         <source>Rear Color</source>
@@ -2965,7 +2965,7 @@
     </message>
     <message>
         <source>Rec.709 Mode</source>
-        <translation>Rec.709 モード</translation>
+        <translation>Rec.709&#xa0;モード</translation>
     </message>
     <message>
         <source>Recommended to set [Expand These Monitors] in the System-&gt; Screen when operating multiple monitors.</source>
@@ -2985,7 +2985,7 @@
     </message>
     <message>
         <source>Red, green and blue belong to User1, User2 and User3 of Color Temperature.</source>
-        <translation>赤・緑・青は、色温がユーザー 1～3 のときに調整できます。</translation>
+        <translation>赤・緑・青は、色温度がユーザー&#xa0;1～3&#xa0;のときに調整できます。</translation>
     </message>
     <message>
         <source>Redo</source>
@@ -3069,7 +3069,7 @@
     </message>
     <message>
         <source>Row %1, cell %2: %3</source>
-        <translation>%1 行目 %2 番目: %3</translation>
+        <translation>%1&#xa0;行目&#xa0;%2&#xa0;番目: %3</translation>
     </message>
     <message>
         <source>Ruler</source>
@@ -3101,7 +3101,7 @@
     </message>
     <message>
         <source>Saturation follows Color Enchance while that is above 0.</source>
-        <translation>色彩強調が 0 より大きい間、彩度はそれに従います。</translation>
+        <translation>色彩強調が&#xa0;0&#xa0;より大きい間、彩度はそれに従います。</translation>
     </message>
     <message>
         <source>Save</source>
@@ -3181,11 +3181,11 @@
     </message>
     <message>
         <source>Second control</source>
-        <translation>2 つ目の項目</translation>
+        <translation>2&#xa0;つ目の項目</translation>
     </message>
     <message>
         <source>Second tone</source>
-        <translation>2 つ目の音</translation>
+        <translation>2&#xa0;つ目の音</translation>
     </message>
     <message>
         <source>Sections</source>
@@ -3313,7 +3313,7 @@
     </message>
     <message>
         <source>Shows in a corner how many pictures a second the monitor gets.</source>
-        <translation>モニターが 1 秒間に受け取る画面の数を隅に表示します。</translation>
+        <translation>モニターが&#xa0;1&#xa0;秒間に受け取る画面の数を隅に表示します。</translation>
     </message>
     <message>
         <source>Shows on the desktop what a shortcut has just changed.</source>
@@ -3321,7 +3321,7 @@
     </message>
     <message>
         <source>Shows two inputs at once. Drag the small window of PIP to a corner, or one of its edges to a size.</source>
-        <translation>2 つの入力を同時に表示します。PIP の子画面は隅までドラッグでき、端をドラッグするとサイズが変わります。</translation>
+        <translation>2&#xa0;つの入力を同時に表示します。PIP の子画面は隅までドラッグでき、端をドラッグするとサイズが変わります。</translation>
     </message>
     <message>
         <source>Silence</source>
@@ -3389,7 +3389,7 @@
     </message>
     <message>
         <source>Sound = what this computer plays, Screen = the picture&apos;s edges. Higher levels follow smaller changes.</source>
-        <translation>サウンド = この PC の再生音、画面 = 画面の縁の色。レベルが高いほど細かい変化に連動します。</translation>
+        <translation>サウンド&#xa0;= このコンピューターの再生音、画面&#xa0;= 画面の縁の色。レベルが高いほど細かい変化に連動します。</translation>
     </message>
     <message>
         <source>Sound output</source>
@@ -3461,7 +3461,7 @@
     </message>
     <message>
         <source>Super Resolution: makes blurred or enlarged pictures look sharper. 0 = off.</source>
-        <translation>超解像: ぼやけた映像や拡大した映像をくっきり見せます。0 でオフです。</translation>
+        <translation>超解像: ぼやけた映像や拡大した映像をくっきり見せます。0&#xa0;でオフです。</translation>
     </message>
     <message>
         <source>Switch off</source>
@@ -3501,7 +3501,7 @@
     </message>
     <message>
         <source>Takes blue out of the picture, which is easier on the eyes. 0 = off.</source>
-        <translation>映像の青い光を減らし、目の負担を和らげます。0 でオフです。</translation>
+        <translation>映像の青い光を減らし、目の負担を和らげます。0&#xa0;でオフです。</translation>
     </message>
     <message>
         <source>Tapering</source>
@@ -3529,7 +3529,7 @@
     </message>
     <message>
         <source>The APP will restart automatically when switching languages.</source>
-        <translation>言語を切り替えると、アプリは自動的に再起動します。</translation>
+        <translation>言語を切り替えると、アプリが再起動します。</translation>
     </message>
     <message>
         <source>The LED matrix moves with the sound that this computer plays. Close = off, Open = on.</source>
@@ -3561,7 +3561,7 @@
     </message>
     <message>
         <source>The accessory takes %1 of the %2 frames.</source>
-        <translation>%2 フレームのうち、アクセサリに入るのは最初の %1 フレームです。</translation>
+        <translation>%2&#xa0;フレームのうち、アクセサリに入るのは最初の&#xa0;%1&#xa0;フレームです。</translation>
     </message>
     <message>
         <source>The accessory takes no report until the button is released</source>
@@ -3589,7 +3589,7 @@
     </message>
     <message>
         <source>The cable is pulled out at the eighth report from now</source>
-        <translation>今から 8 番目のレポートでケーブルが抜かれます</translation>
+        <translation>今から&#xa0;8&#xa0;番目のレポートでケーブルが抜かれます</translation>
     </message>
     <message>
         <source>The cable is pulled out until the button is released</source>
@@ -3597,7 +3597,7 @@
     </message>
     <message>
         <source>The colour of the belt along the lower edge. Auto = runs through all colours.</source>
-        <translation>下縁のライトバーの色です。自動 = すべての色を順に巡ります。</translation>
+        <translation>下縁のライトバーの色です。自動&#xa0;= すべての色を順に巡ります。</translation>
     </message>
     <message>
         <source>The colour of the belt at the back of the foot.</source>
@@ -3617,7 +3617,7 @@
     </message>
     <message>
         <source>The colour of the steady light and of the effects. Auto = runs through all colours.</source>
-        <translation>通常とエフェクトの色です。自動 = すべての色を順に巡ります。</translation>
+        <translation>通常とエフェクトの色です。自動&#xa0;= すべての色を順に巡ります。</translation>
     </message>
     <message>
         <source>The colours of the cinema.</source>
@@ -3653,7 +3653,7 @@
     </message>
     <message>
         <source>The file holds %1 frames; the first %2 were taken.</source>
-        <translation>ファイルには %1 フレームあり、最初の %2 フレームを読み込みました。</translation>
+        <translation>ファイルには&#xa0;%1&#xa0;フレームあり、最初の&#xa0;%2&#xa0;フレームを読み込みました。</translation>
     </message>
     <message>
         <source>The file holds no whole frame.</source>
@@ -3721,7 +3721,7 @@
     </message>
     <message>
         <source>The lighting goes out by itself after this time. Close = it stays on.</source>
-        <translation>この時間がたつとライトが自動で消えます。オフ = 点いたままです。</translation>
+        <translation>この時間がたつとライトが自動で消えます。オフ&#xa0;= 点いたままです。</translation>
     </message>
     <message>
         <source>The lighting stays on while the monitor sleeps, as a light for the night.</source>
@@ -3745,7 +3745,7 @@
     </message>
     <message>
         <source>The monitor begins by itself when it goes to standby.</source>
-        <translation>モニターがスタンバイに入ると自動で始まります。</translation>
+        <translation>モニターが待機状態になると自動で始まります。</translation>
     </message>
     <message>
         <source>The monitor comes on faster, but needs more power while it is off.</source>
@@ -3809,7 +3809,7 @@
     </message>
     <message>
         <source>The monitor keeps pace with the game: no torn or jerky pictures. Game Rush must be off.</source>
-        <translation>モニターがゲームの描画に合わせ、映像の乱れやカクつきを防ぎます。「ゲームラッシュ」はオフにしてください。</translation>
+        <translation>ゲームの描画に合わせ、映像の乱れやカクつきを防ぎます。「ゲームラッシュ」はオフにしてください。</translation>
     </message>
     <message>
         <source>The monitor notices when its screen is turned upright. Close = off, Open = on.</source>
@@ -3817,7 +3817,7 @@
     </message>
     <message>
         <source>The monitor reminds you each time that this has passed. Look far away for a minute then.</source>
-        <translation>この時間が過ぎるたびにモニターがお知らせします。1 分ほど遠くを見てください。</translation>
+        <translation>この時間が過ぎるたびにモニターがお知らせします。1&#xa0;分ほど遠くを見てください。</translation>
     </message>
     <message>
         <source>The monitor takes no value until the button is released</source>
@@ -3833,11 +3833,11 @@
     </message>
     <message>
         <source>The monitor uses less power. Close = off, Level2 saves the most.</source>
-        <translation>モニターの消費電力を減らします。「レベル 2」が最も節電になります。</translation>
+        <translation>モニターの消費電力を減らします。「レベル&#xa0;2」が最も節電になります。</translation>
     </message>
     <message>
         <source>The next care is due after %1 more hours of use.</source>
-        <translation>あと %1 時間使うと次のケアの時期です。</translation>
+        <translation>あと&#xa0;%1&#xa0;時間使うと次のケアの時期です。</translation>
     </message>
     <message>
         <source>The next client is not initialised</source>
@@ -3853,7 +3853,7 @@
     </message>
     <message>
         <source>The page %1 could not be opened.</source>
-        <translation>ページ %1 を開けませんでした。</translation>
+        <translation>ページ&#xa0;%1&#xa0;を開けませんでした。</translation>
     </message>
     <message>
         <source>The picture as the factory set it.</source>
@@ -3861,7 +3861,7 @@
     </message>
     <message>
         <source>The picture goes black for about 6 minutes, and the monitor must stay on. Begin now?</source>
-        <translation>画面が約 6 分間黒くなります。その間モニターの電源は切らないでください。今すぐ始めますか?</translation>
+        <translation>画面が約&#xa0;6&#xa0;分間黒くなります。その間モニターの電源は切らないでください。今すぐ始めますか？</translation>
     </message>
     <message>
         <source>The picture stays where it is.</source>
@@ -3913,7 +3913,7 @@
     </message>
     <message>
         <source>The socket that has a signal. For one computer, or one at a time.</source>
-        <translation>信号のある端子を使います。コンピューターが 1 台、または 1 台ずつ使うとき向けです。</translation>
+        <translation>信号のある端子を使います。コンピューターが&#xa0;1&#xa0;台、または&#xa0;1&#xa0;台ずつ使うとき向けです。</translation>
     </message>
     <message>
         <source>The sound as it comes, for music and all else.</source>
@@ -3949,11 +3949,11 @@
     </message>
     <message>
         <source>The text is too long: %1 of its %2 characters fit.</source>
-        <translation>テキストが長すぎます。%2 文字のうち先頭の %1 文字だけが収まります。</translation>
+        <translation>テキストが長すぎます。%2&#xa0;文字のうち先頭の&#xa0;%1&#xa0;文字だけが収まります。</translation>
     </message>
     <message>
         <source>The upgrade program %1 could not be started.</source>
-        <translation>更新アプリ %1 を起動できませんでした。</translation>
+        <translation>更新アプリ&#xa0;%1&#xa0;を起動できませんでした。</translation>
     </message>
     <message>
         <source>The upgrade program is running already.</source>
@@ -4029,7 +4029,7 @@
     </message>
     <message>
         <source>Thirds</source>
-        <translation>3 分割</translation>
+        <translation>3&#xa0;分割</translation>
     </message>
     <message>
         <source>This function has its row already.</source>
@@ -4057,7 +4057,7 @@
     </message>
     <message>
         <source>This slider counts while Color Temperature is Night View C.T.</source>
-        <translation>このスライダーは、色温が「夜間色温」のときに働きます。</translation>
+        <translation>このスライダーは、色温度が「夜間色温度」のときに働きます。</translation>
     </message>
     <message>
         <source>This tool says on the desktop that care is due: never over a program that fills the screen.</source>
@@ -4065,11 +4065,11 @@
     </message>
     <message>
         <source>Three columns and three rows.</source>
-        <translation>3 列 3 行。</translation>
+        <translation>3&#xa0;列&#xa0;3&#xa0;行。</translation>
     </message>
     <message>
         <source>Three columns and two rows.</source>
-        <translation>3 列 2 行。</translation>
+        <translation>3&#xa0;列&#xa0;2&#xa0;行。</translation>
     </message>
     <message>
         <source>Time</source>
@@ -4105,7 +4105,7 @@
     </message>
     <message>
         <source>Today&apos;s automatic changes of this monitor are used up (%1). They go on tomorrow; what you set yourself is not limited.</source>
-        <translation>このモニターへの今日の自動変更は上限（%1 回）に達しました。続きは明日行います。ご自身での設定に制限はありません。</translation>
+        <translation>このモニターへの今日の自動変更は上限（%1&#xa0;回）に達しました。続きは明日行います。ご自身での設定に制限はありません。</translation>
     </message>
     <message>
         <source>Tool Settings</source>
@@ -4165,11 +4165,11 @@
     </message>
     <message>
         <source>Two columns and two rows.</source>
-        <translation>2 列 2 行。</translation>
+        <translation>2&#xa0;列&#xa0;2&#xa0;行。</translation>
     </message>
     <message>
         <source>Two tones</source>
-        <translation>2 つの音</translation>
+        <translation>2&#xa0;つの音</translation>
     </message>
     <message>
         <source>Type the combination here, then press it on the whole desktop</source>
@@ -4197,15 +4197,15 @@
     </message>
     <message>
         <source>Ull-Level1</source>
-        <translation>Ull レベル 1</translation>
+        <translation>Ull レベル&#xa0;1</translation>
     </message>
     <message>
         <source>Ull-Level2</source>
-        <translation>Ull レベル 2</translation>
+        <translation>Ull レベル&#xa0;2</translation>
     </message>
     <message>
         <source>Ull-Level3</source>
-        <translation>Ull レベル 3</translation>
+        <translation>Ull レベル&#xa0;3</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -4233,31 +4233,31 @@
     </message>
     <message>
         <source>Use and care of the last five weeks</source>
-        <translation>最近 5 週間の使用とケア</translation>
+        <translation>最近&#xa0;5&#xa0;週間の使用とケア</translation>
     </message>
     <message>
         <source>User1</source>
-        <translation>ユーザー 1</translation>
+        <translation>ユーザー&#xa0;1</translation>
     </message>
     <message>
         <source>User1 R G B</source>
-        <translation>ユーザー 1 R G B</translation>
+        <translation>ユーザー&#xa0;1 R G B</translation>
     </message>
     <message>
         <source>User2</source>
-        <translation>ユーザー 2</translation>
+        <translation>ユーザー&#xa0;2</translation>
     </message>
     <message>
         <source>User2 R G B</source>
-        <translation>ユーザー 2 R G B</translation>
+        <translation>ユーザー&#xa0;2 R G B</translation>
     </message>
     <message>
         <source>User3</source>
-        <translation>ユーザー 3</translation>
+        <translation>ユーザー&#xa0;3</translation>
     </message>
     <message>
         <source>User3 R G B</source>
-        <translation>ユーザー 3 R G B</translation>
+        <translation>ユーザー&#xa0;3 R G B</translation>
     </message>
     <message>
         <source>UserB</source>
@@ -4345,7 +4345,7 @@
     </message>
     <message>
         <source>What is asked and answered is recorded in %1</source>
-        <translation>要求と応答を %1 に記録しています</translation>
+        <translation>要求と応答を&#xa0;%1&#xa0;に記録しています</translation>
     </message>
     <message>
         <source>What it looks like</source>
@@ -4369,7 +4369,7 @@
     </message>
     <message>
         <source>Wheel: one step · Tab, arrows · Esc closes</source>
-        <translation>ホイールで 1 段階 · Tab・矢印キー · Esc で閉じる</translation>
+        <translation>ホイールで&#xa0;1&#xa0;段階 · Tab・矢印キー · Esc で閉じる</translation>
     </message>
     <message>
         <source>When the lighting goes out by itself, and whether it stays on in standby.</source>
@@ -4461,7 +4461,7 @@
     </message>
     <message>
         <source>Zone %1 of %2</source>
-        <translation>領域 %1/%2</translation>
+        <translation>領域&#xa0;%1/%2</translation>
     </message>
     <message>
         <source>Zone before</source>
@@ -4469,7 +4469,7 @@
     </message>
     <message>
         <source>Zones for %1</source>
-        <translation>%1 の領域</translation>
+        <translation>%1&#xa0;の領域</translation>
     </message>
     <message>
         <source>Zoom</source>
@@ -4493,7 +4493,7 @@
     </message>
     <message>
         <source>firmware %1</source>
-        <translation>ファームウェア %1</translation>
+        <translation>ファームウェア&#xa0;%1</translation>
     </message>
     <message>
         <source>garbled</source>
@@ -4517,15 +4517,15 @@
     </message>
     <message>
         <source>made %1</source>
-        <translation>%1 年製</translation>
+        <translation>%1&#xa0;年製</translation>
     </message>
     <message>
         <source>made %1, week %2</source>
-        <translation>%1 年第 %2 週製</translation>
+        <translation>%1&#xa0;年第&#xa0;%2&#xa0;週製</translation>
     </message>
     <message>
         <source>mode %1</source>
-        <translation>モード %1</translation>
+        <translation>モード&#xa0;%1</translation>
     </message>
     <message>
         <source>no answer</source>
@@ -4541,7 +4541,7 @@
     </message>
     <message>
         <source>not a WAV file of 16-bit or floating-point samples</source>
-        <translation>16 ビットまたは浮動小数点の WAV ファイルではありません</translation>
+        <translation>16&#xa0;ビットまたは浮動小数点の WAV ファイルではありません</translation>
     </message>
     <message>
         <source>nothing</source>
@@ -4585,7 +4585,7 @@
     </message>
     <message>
         <source>sRGB primaries with gamma 2.2.</source>
-        <translation>sRGB の三原色、ガンマ 2.2 です。</translation>
+        <translation>sRGB の三原色、ガンマ&#xa0;2.2&#xa0;です。</translation>
     </message>
     <message>
         <source>sRGB(2.2)</source>
@@ -4597,11 +4597,11 @@
     </message>
     <message>
         <source>serial %1</source>
-        <translation>シリアル番号 %1</translation>
+        <translation>シリアル番号&#xa0;%1</translation>
     </message>
     <message>
         <source>slowest %1</source>
-        <translation>最遅 %1</translation>
+        <translation>最遅&#xa0;%1</translation>
     </message>
     <message>
         <source>text</source>
@@ -4625,15 +4625,15 @@
     </message>
     <message>
         <source>x1.5</source>
-        <translation>1.5 倍</translation>
+        <translation>1.5&#xa0;倍</translation>
     </message>
     <message>
         <source>x2</source>
-        <translation>2 倍</translation>
+        <translation>2&#xa0;倍</translation>
     </message>
     <message>
         <source>x4</source>
-        <translation>4 倍</translation>
+        <translation>4&#xa0;倍</translation>
     </message>
 </context>
 <context>
@@ -4726,7 +4726,7 @@
     <message>
         <source>Cursor at %1, %2
 Press ESC to cancel</source>
-        <translation>カーソル位置 %1, %2
+        <translation>カーソル位置&#xa0;%1, %2
 Esc キーでキャンセル</translation>
     </message>
     <message>
@@ -4759,7 +4759,7 @@ Please verify the correct file name was given.</source>
     <message>
         <source>%1 already exists.
 Do you want to replace it?</source>
-        <translation>%1 は既に存在します。
+        <translation>%1&#xa0;は既に存在します。
 置き換えますか？</translation>
     </message>
     <message>
@@ -4870,7 +4870,7 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>Go to the parent directory</source>
-        <translation>1 つ上のフォルダーに移動します</translation>
+        <translation>1&#xa0;つ上のフォルダーに移動します</translation>
     </message>
     <message>
         <source>List View</source>
@@ -4890,7 +4890,7 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>Parent Directory</source>
-        <translation>1 つ上のフォルダー</translation>
+        <translation>1&#xa0;つ上のフォルダー</translation>
     </message>
     <message>
         <source>Recent Places</source>
@@ -5018,19 +5018,19 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>Page down</source>
-        <translation>1 ページ下</translation>
+        <translation>1&#xa0;ページ下</translation>
     </message>
     <message>
         <source>Page left</source>
-        <translation>1 ページ左</translation>
+        <translation>1&#xa0;ページ左</translation>
     </message>
     <message>
         <source>Page right</source>
-        <translation>1 ページ右</translation>
+        <translation>1&#xa0;ページ右</translation>
     </message>
     <message>
         <source>Page up</source>
-        <translation>1 ページ上</translation>
+        <translation>1&#xa0;ページ上</translation>
     </message>
     <message>
         <source>Right edge</source>

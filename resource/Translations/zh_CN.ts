@@ -33,15 +33,15 @@
     </message>
     <message>
         <source>%1 cannot be written. Nothing was changed.</source>
-        <translation>无法写入 %1，未作任何更改。</translation>
+        <translation>无法写入&#xa0;%1，未作任何更改。</translation>
     </message>
     <message>
         <source>%1 cannot be written: what is set here lasts until the program ends.</source>
-        <translation>无法写入 %1：此处的设置在程序结束前有效。</translation>
+        <translation>无法写入&#xa0;%1：此处的设置在程序结束前有效。</translation>
     </message>
     <message>
         <source>%1 does not have &quot;%2&quot;.</source>
-        <translation>%1 没有“%2”。</translation>
+        <translation>%1&#xa0;没有“%2”。</translation>
     </message>
     <message>
         <source>%1 goes to the level before.</source>
@@ -53,35 +53,35 @@
     </message>
     <message>
         <source>%1 has no OLED panel to care for.</source>
-        <translation>%1 没有需要护理的 OLED 面板。</translation>
+        <translation>%1&#xa0;没有需要护理的 OLED 面板。</translation>
     </message>
     <message>
         <source>%1 has no game functions.</source>
-        <translation>%1 没有游戏功能。</translation>
+        <translation>%1&#xa0;没有游戏功能。</translation>
     </message>
     <message>
         <source>%1 holds no saved drawing. It stays as it is until you save.</source>
-        <translation>%1 中没有已保存的绘图。在您保存之前，该文件保持不变。</translation>
+        <translation>%1&#xa0;中没有已保存的绘图。在您保存之前，该文件保持不变。</translation>
     </message>
     <message>
         <source>%1 hours of use counted</source>
-        <translation>已累计使用 %1 小时</translation>
+        <translation>已累计使用&#xa0;%1&#xa0;小时</translation>
     </message>
     <message>
         <source>%1 hours of use since the last care</source>
-        <translation>上次护理后已使用 %1 小时</translation>
+        <translation>上次护理后已使用&#xa0;%1&#xa0;小时</translation>
     </message>
     <message>
         <source>%1 in all, %2 by itself today</source>
-        <translation>共 %1 次，今日自动 %2 次</translation>
+        <translation>共&#xa0;%1&#xa0;次，今日自动&#xa0;%2&#xa0;次</translation>
     </message>
     <message>
         <source>%1 is in the list already.</source>
-        <translation>%1 已在列表中。</translation>
+        <translation>%1&#xa0;已在列表中。</translation>
     </message>
     <message>
         <source>%1 is taken by another program or function and does nothing here.</source>
-        <translation>%1 已被其他程序或功能占用，在此不起作用。</translation>
+        <translation>%1&#xa0;已被其他程序或功能占用，在此不起作用。</translation>
     </message>
     <message>
         <source>%1 moves it to the corner before.</source>
@@ -93,35 +93,35 @@
     </message>
     <message>
         <source>%1 ms</source>
-        <translation>%1 毫秒</translation>
+        <translation>%1&#xa0;毫秒</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation>%1（共 %2）</translation>
+        <translation>%1（共&#xa0;%2）</translation>
     </message>
     <message>
         <source>%1 of %2 lost</source>
-        <translation>%2 次中丢失 %1 次</translation>
+        <translation>%2&#xa0;次中丢失&#xa0;%1&#xa0;次</translation>
     </message>
     <message>
         <source>%1 of %2 values were told, in %3 s.</source>
-        <translation>已读取 %2 个值中的 %1 个，用时 %3 秒。</translation>
+        <translation>已读取&#xa0;%2&#xa0;个值中的&#xa0;%1&#xa0;个，用时&#xa0;%3&#xa0;秒。</translation>
     </message>
     <message>
         <source>%1 requests are recorded in %2</source>
-        <translation>已将 %1 次请求记录到 %2</translation>
+        <translation>已将&#xa0;%1&#xa0;次请求记录到&#xa0;%2</translation>
     </message>
     <message>
         <source>%1 rows, %2 cells, %3 on</source>
-        <translation>%1 行，%2 格，亮 %3 格</translation>
+        <translation>%1&#xa0;行，%2&#xa0;格，亮&#xa0;%3&#xa0;格</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation>%1 秒</translation>
+        <translation>%1&#xa0;秒</translation>
     </message>
     <message>
         <source>%1 s left</source>
-        <translation>剩余 %1 秒</translation>
+        <translation>剩余&#xa0;%1&#xa0;秒</translation>
     </message>
     <message>
         <source>%1 steps the colour.</source>
@@ -145,7 +145,7 @@
     </message>
     <message>
         <source>%1 succeeded</source>
-        <translation>%1 次成功</translation>
+        <translation>%1&#xa0;次成功</translation>
     </message>
     <message>
         <source>%1 switches it off.</source>
@@ -185,7 +185,7 @@
     </message>
     <message>
         <source>%1, chunk %2 of %3</source>
-        <translation>%1，第 %2 个数据块，共 %3 个</translation>
+        <translation>%1，第&#xa0;%2&#xa0;个数据块，共&#xa0;%3&#xa0;个</translation>
     </message>
     <message>
         <source>%1, frames: %2</source>
@@ -197,11 +197,11 @@
     </message>
     <message>
         <source>1 Hour</source>
-        <translation>1 小时</translation>
+        <translation>1&#xa0;小时</translation>
     </message>
     <message>
         <source>1.5 Hour</source>
-        <translation>1.5 小时</translation>
+        <translation>1.5&#xa0;小时</translation>
     </message>
     <message>
         <source>1.6</source>
@@ -213,19 +213,19 @@
     </message>
     <message>
         <source>10 min</source>
-        <translation>10 分钟前</translation>
+        <translation>10&#xa0;分钟前</translation>
     </message>
     <message>
         <source>12 Hour</source>
-        <translation>12 小时</translation>
+        <translation>12&#xa0;小时</translation>
     </message>
     <message>
         <source>15 min</source>
-        <translation>15 分钟</translation>
+        <translation>15&#xa0;分钟</translation>
     </message>
     <message>
         <source>2 Hour</source>
-        <translation>2 小时</translation>
+        <translation>2&#xa0;小时</translation>
     </message>
     <message>
         <source>2 Zone Rhythm</source>
@@ -245,7 +245,7 @@
     </message>
     <message>
         <source>2.5 Hour</source>
-        <translation>2.5 小时</translation>
+        <translation>2.5&#xa0;小时</translation>
     </message>
     <message>
         <source>2.6</source>
@@ -253,31 +253,31 @@
     </message>
     <message>
         <source>24 Hour</source>
-        <translation>24 小时</translation>
+        <translation>24&#xa0;小时</translation>
     </message>
     <message>
         <source>3 Hour</source>
-        <translation>3 小时</translation>
+        <translation>3&#xa0;小时</translation>
     </message>
     <message>
         <source>3.5 Hour</source>
-        <translation>3.5 小时</translation>
+        <translation>3.5&#xa0;小时</translation>
     </message>
     <message>
         <source>30 min</source>
-        <translation>30 分钟</translation>
+        <translation>30&#xa0;分钟</translation>
     </message>
     <message>
         <source>30s</source>
-        <translation>30 秒</translation>
+        <translation>30&#xa0;秒</translation>
     </message>
     <message>
         <source>4 Hour</source>
-        <translation>4 小时</translation>
+        <translation>4&#xa0;小时</translation>
     </message>
     <message>
         <source>40 min</source>
-        <translation>40 分钟</translation>
+        <translation>40&#xa0;分钟</translation>
     </message>
     <message>
         <source>5.4G</source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>50 min</source>
-        <translation>50 分钟</translation>
+        <translation>50&#xa0;分钟</translation>
     </message>
     <message>
         <source>5000K</source>
@@ -297,7 +297,7 @@
     </message>
     <message>
         <source>60 min</source>
-        <translation>60 分钟</translation>
+        <translation>60&#xa0;分钟</translation>
     </message>
     <message>
         <source>6300K</source>
@@ -317,7 +317,7 @@
     </message>
     <message>
         <source>8 Hour</source>
-        <translation>8 小时</translation>
+        <translation>8&#xa0;小时</translation>
     </message>
     <message>
         <source>8.1G</source>
@@ -325,7 +325,7 @@
     </message>
     <message>
         <source>90 min</source>
-        <translation>90 分钟</translation>
+        <translation>90&#xa0;分钟</translation>
     </message>
     <message>
         <source>9300K</source>
@@ -441,15 +441,15 @@
     </message>
     <message>
         <source>A sheet of 125 × 176 mm, as of a paperback.</source>
-        <translation>一张 125 × 176 mm 的纸，与平装小开本相同。</translation>
+        <translation>一张&#xa0;125 × 176 mm 的纸，与平装小开本相同。</translation>
     </message>
     <message>
         <source>A sheet of 176 × 250 mm, for books and brochures.</source>
-        <translation>一张 176 × 250 mm 的纸，适合书籍和小册子。</translation>
+        <translation>一张&#xa0;176 × 250 mm 的纸，适合书籍和小册子。</translation>
     </message>
     <message>
         <source>A sheet of 210 × 297 mm, upright, in the middle of the screen.</source>
-        <translation>一张 210 × 297 mm 的纸，竖放在屏幕中央。</translation>
+        <translation>一张&#xa0;210 × 297 mm 的纸，竖放在屏幕中央。</translation>
     </message>
     <message>
         <source>A soft page for long texts.</source>
@@ -481,7 +481,7 @@
     </message>
     <message>
         <source>A wide gamut under a D50 light.</source>
-        <translation>D50 光源下的广色域。</translation>
+        <translation>D50&#xa0;光源下的广色域。</translation>
     </message>
     <message>
         <source>AI Dual Mode</source>
@@ -533,15 +533,15 @@
     </message>
     <message>
         <source>Alignment_4</source>
-        <translation>4 分格</translation>
+        <translation>4&#xa0;分格</translation>
     </message>
     <message>
         <source>Alignment_6</source>
-        <translation>6 分格</translation>
+        <translation>6&#xa0;分格</translation>
     </message>
     <message>
         <source>Alignment_9</source>
-        <translation>9 分格</translation>
+        <translation>9&#xa0;分格</translation>
     </message>
     <message>
         <source>All colours at once, which turn around the ring.</source>
@@ -657,7 +657,7 @@
     </message>
     <message>
         <source>As saved: %1 cells a frame, not 1050.</source>
-        <translation>按保存格式每帧 %1 格，而非 1050 格。</translation>
+        <translation>按保存格式每帧&#xa0;%1&#xa0;格，而非&#xa0;1050&#xa0;格。</translation>
     </message>
     <message>
         <source>Asked again and told; nothing to do.</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = when needed.</source>
-        <translation>提亮昏暗的场景。“等级 1”和“等级 2”始终生效，“自动 L1”和“自动 L2”随画面调整。</translation>
+        <translation>提亮昏暗的场景。“等级&#xa0;1”和“等级&#xa0;2”始终生效，“自动 L1”和“自动 L2”随画面调整。</translation>
     </message>
     <message>
         <source>Brightness</source>
@@ -857,7 +857,7 @@
     </message>
     <message>
         <source>Care evens out how the pixels have aged, so that no picture stays visible. It takes about 6 minutes.</source>
-        <translation>护理使像素的老化趋于一致，不留残影。约需 6 分钟。</translation>
+        <translation>护理使像素的老化趋于一致，不留残影。约需&#xa0;6&#xa0;分钟。</translation>
     </message>
     <message>
         <source>Care is due.</source>
@@ -865,7 +865,7 @@
     </message>
     <message>
         <source>Care is due. The picture goes black for about 6 minutes.</source>
-        <translation>需要护理了。画面会变黑约 6 分钟。</translation>
+        <translation>需要护理了。画面会变黑约&#xa0;6&#xa0;分钟。</translation>
     </message>
     <message>
         <source>Care is due: the monitor begins when it goes to standby.</source>
@@ -877,7 +877,7 @@
     </message>
     <message>
         <source>Care takes about 6 minutes, in which the picture is black. It evens out how the pixels have aged; nothing that is open is lost.</source>
-        <translation>护理约需 6 分钟，其间画面为黑色。它使像素的老化趋于一致；已打开的内容不会丢失。</translation>
+        <translation>护理约需&#xa0;6&#xa0;分钟，其间画面为黑色。它使像素的老化趋于一致；已打开的内容不会丢失。</translation>
     </message>
     <message>
         <source>Caret</source>
@@ -917,7 +917,7 @@
     </message>
     <message>
         <source>Cinema colours at a D65 white.</source>
-        <translation>D65 白点下的影院色彩。</translation>
+        <translation>D65&#xa0;白点下的影院色彩。</translation>
     </message>
     <message>
         <source>Clean Frame</source>
@@ -941,7 +941,7 @@
     </message>
     <message>
         <source>Close = dark, Normal = one colour, Effect = it moves, Rhythm = follows sound or screen, Eye Care = calm white.</source>
-        <translation>关闭 = 熄灯，常亮 = 单色，灯效 = 动态，律动 = 跟随声音或屏幕，护眼 = 柔和白光。</translation>
+        <translation>关闭&#xa0;= 熄灯，普通&#xa0;= 单色，灯效&#xa0;= 动态，律动&#xa0;= 跟随声音或屏幕，护眼&#xa0;= 柔和白光。</translation>
     </message>
     <message>
         <source>Close window</source>
@@ -1077,7 +1077,7 @@
     </message>
     <message>
         <source>DCI-P3 Mode</source>
-        <translation>DCI-P3 模式</translation>
+        <translation>DCI-P3&#xa0;模式</translation>
     </message>
     <message>
         <source>DCI-P3(D65)</source>
@@ -1201,7 +1201,7 @@
     </message>
     <message>
         <source>Dims signs that stand still, such as a station&apos;s logo. Close = off; Low to High are stronger in turn.</source>
-        <translation>使静止的图标变暗，例如电视台的台标。关闭 = 不启用；从低到高依次增强。</translation>
+        <translation>使静止的图标变暗，例如电视台的台标。关闭&#xa0;= 不启用；从低到高依次增强。</translation>
     </message>
     <message>
         <source>Dims soon: spares the panel most.</source>
@@ -1209,7 +1209,7 @@
     </message>
     <message>
         <source>Dims the border between bright and dark, as beside black bars. Close = off; Low to High are stronger in turn.</source>
-        <translation>使明暗交界处变暗，例如黑边旁。关闭 = 不启用；从低到高依次增强。</translation>
+        <translation>使明暗交界处变暗，例如黑边旁。关闭&#xa0;= 不启用；从低到高依次增强。</translation>
     </message>
     <message>
         <source>Dims the light behind dark parts, so that black is deeper. Close = off; the others are stronger in turn.</source>
@@ -1221,7 +1221,7 @@
     </message>
     <message>
         <source>Dims the taskbar, which always stands in one place. Close = off; Low to High are stronger in turn.</source>
-        <translation>使始终停在一处的任务栏变暗。关闭 = 不启用；从低到高依次增强。</translation>
+        <translation>使始终停在一处的任务栏变暗。关闭&#xa0;= 不启用；从低到高依次增强。</translation>
     </message>
     <message>
         <source>Direction</source>
@@ -1233,7 +1233,7 @@
     </message>
     <message>
         <source>Display P3 Mode</source>
-        <translation>Display P3 模式</translation>
+        <translation>Display P3&#xa0;模式</translation>
     </message>
     <message>
         <source>Display Version</source>
@@ -1273,7 +1273,7 @@
     </message>
     <message>
         <source>Draws lines that divide the screen. Close = none; Alignment_4, Alignment_6 and Alignment_9 = into 4, 6 or 9 parts.</source>
-        <translation>在屏幕上显示分格线，将画面分成 4、6 或 9 格。</translation>
+        <translation>在屏幕上显示分格线，将画面分成&#xa0;4、6&#xa0;或&#xa0;9&#xa0;格。</translation>
     </message>
     <message>
         <source>Draws the outline of a sheet on the screen. Close = none, Custom Size = as large as you set it.</source>
@@ -1361,7 +1361,7 @@
     </message>
     <message>
         <source>Every packet holds 7001 frames until the button is released</source>
-        <translation>松开按钮前，每个数据包都含 7001 帧</translation>
+        <translation>松开按钮前，每个数据包都含&#xa0;7001&#xa0;帧</translation>
     </message>
     <message>
         <source>Every picture is shown with the usual range.</source>
@@ -1369,7 +1369,7 @@
     </message>
     <message>
         <source>Every request takes 400 ms longer</source>
-        <translation>每个请求多花 400 毫秒</translation>
+        <translation>每个请求多花&#xa0;400&#xa0;毫秒</translation>
     </message>
     <message>
         <source>Everything that the panel can show.</source>
@@ -1497,7 +1497,7 @@
     </message>
     <message>
         <source>For computers, which send 0 to 255.</source>
-        <translation>适合发送 0 至 255 的电脑。</translation>
+        <translation>适合发送&#xa0;0&#xa0;至&#xa0;255&#xa0;的电脑。</translation>
     </message>
     <message>
         <source>For fast games in which a crosshair that stands still gets lost.</source>
@@ -1537,7 +1537,7 @@
     </message>
     <message>
         <source>For players and consoles that send 16 to 235. With a computer black looks grey.</source>
-        <translation>适合发送 16 至 235 的播放器和游戏机。用于电脑时黑色会发灰。</translation>
+        <translation>适合发送&#xa0;16&#xa0;至&#xa0;235&#xa0;的播放器和游戏机。用于电脑时黑色会发灰。</translation>
     </message>
     <message>
         <source>For scenes that are near.</source>
@@ -1565,7 +1565,7 @@
     </message>
     <message>
         <source>Frame %1</source>
-        <translation>第 %1 帧</translation>
+        <translation>第&#xa0;%1&#xa0;帧</translation>
     </message>
     <message>
         <source>Frames/s</source>
@@ -1577,7 +1577,7 @@
     </message>
     <message>
         <source>Frames: %1, of which the accessory takes %2</source>
-        <translation>帧数：%1，配件最多接收 %2 帧</translation>
+        <translation>帧数：%1，配件最多接收&#xa0;%2&#xa0;帧</translation>
     </message>
     <message>
         <source>Frequency</source>
@@ -1773,11 +1773,11 @@
     </message>
     <message>
         <source>How bright the enlarged part is. Level3 = as the rest; higher ones show what is in the shade.</source>
-        <translation>放大部分的亮度。“等级 3”与其余画面相同，等级越高越能看清阴影中的细节。</translation>
+        <translation>放大部分的亮度。“等级&#xa0;3”与其余画面相同，等级越高越能看清阴影中的细节。</translation>
     </message>
     <message>
         <source>How bright the lamp shines that tells that the monitor is on. Close = dark, Level3 = brightest.</source>
-        <translation>显示器开启时指示灯的亮度。“等级 3”最亮。</translation>
+        <translation>显示器开启时指示灯的亮度。“等级&#xa0;3”最亮。</translation>
     </message>
     <message>
         <source>How bright the middle tones are. The higher the value, the darker.</source>
@@ -1785,11 +1785,11 @@
     </message>
     <message>
         <source>How clear its edges are. Level3 = as they come; lower ones hide coarse dots, higher ones show outlines.</source>
-        <translation>放大部分边缘的清晰度。“等级 3”保持原样，较低的等级淡化颗粒，较高的等级突出轮廓。</translation>
+        <translation>放大部分边缘的清晰度。“等级&#xa0;3”保持原样，较低的等级淡化颗粒，较高的等级突出轮廓。</translation>
     </message>
     <message>
         <source>How far light and dark are apart in it. Level3 = as the rest; higher ones help in fog and dust.</source>
-        <translation>放大部分的明暗差别。“等级 3”与其余画面相同，等级越高越适合雾和沙尘。</translation>
+        <translation>放大部分的明暗差别。“等级&#xa0;3”与其余画面相同，等级越高越适合雾和沙尘。</translation>
     </message>
     <message>
         <source>How long the monitor waits without a signal before it sleeps.</source>
@@ -1817,11 +1817,11 @@
     </message>
     <message>
         <source>How the print will look under a D55 light.</source>
-        <translation>印刷品在 D55 光源下的效果。</translation>
+        <translation>印刷品在 D55&#xa0;光源下的效果。</translation>
     </message>
     <message>
         <source>How the print will look under a D58 light.</source>
-        <translation>印刷品在 D58 光源下的效果。</translation>
+        <translation>印刷品在 D58&#xa0;光源下的效果。</translation>
     </message>
     <message>
         <source>How the print will look.</source>
@@ -1833,7 +1833,7 @@
     </message>
     <message>
         <source>How warm white looks. 5000K = warmest, 9300K = coldest, User1 to User3 = your own mixtures.</source>
-        <translation>白色的冷暖。5000K 最暖，9300K 最冷，用户 1 至用户 3 由您自行调配。</translation>
+        <translation>白色的冷暖。5000K 最暖，9300K 最冷，用户&#xa0;1&#xa0;至用户&#xa0;3&#xa0;由您自行调配。</translation>
     </message>
     <message>
         <source>Hue</source>
@@ -2041,27 +2041,27 @@
     </message>
     <message>
         <source>Level1</source>
-        <translation>等级 1</translation>
+        <translation>等级&#xa0;1</translation>
     </message>
     <message>
         <source>Level1 follows great changes only, for a quiet room; Level5 also small ones.</source>
-        <translation>“等级 1”只跟随大的变化，适合安静的房间；“等级 5”也跟随小的变化。</translation>
+        <translation>“等级&#xa0;1”只跟随大的变化，适合安静的房间；“等级&#xa0;5”也跟随小的变化。</translation>
     </message>
     <message>
         <source>Level2</source>
-        <translation>等级 2</translation>
+        <translation>等级&#xa0;2</translation>
     </message>
     <message>
         <source>Level3</source>
-        <translation>等级 3</translation>
+        <translation>等级&#xa0;3</translation>
     </message>
     <message>
         <source>Level4</source>
-        <translation>等级 4</translation>
+        <translation>等级&#xa0;4</translation>
     </message>
     <message>
         <source>Level5</source>
-        <translation>等级 5</translation>
+        <translation>等级&#xa0;5</translation>
     </message>
     <message>
         <source>Lifts thin lines and dark surfaces of drawings.</source>
@@ -2133,7 +2133,7 @@
     </message>
     <message>
         <source>Lighter = used longer that day, ring = cared for.</source>
-        <translation>越亮 = 当天使用越久，圆环 = 做过护理。</translation>
+        <translation>越亮&#xa0;= 当天使用越久，圆环&#xa0;= 做过护理。</translation>
     </message>
     <message>
         <source>Lighting</source>
@@ -2141,7 +2141,7 @@
     </message>
     <message>
         <source>Lines at 38 and 62 per cent: balanced, and less rigid than thirds.</source>
-        <translation>线位于 38% 和 62% 处，比三分法更自然均衡。</translation>
+        <translation>线位于&#xa0;38% 和&#xa0;62% 处，比三分法更自然均衡。</translation>
     </message>
     <message>
         <source>Lines at thirds: put what matters where they cross.</source>
@@ -2229,7 +2229,7 @@
     </message>
     <message>
         <source>Makes colours stronger. 0 = off.</source>
-        <translation>让色彩更鲜艳。0 为关闭。</translation>
+        <translation>让色彩更鲜艳。0&#xa0;为关闭。</translation>
     </message>
     <message>
         <source>Makes dark parts lighter or darker, so that you see what is in the shadows.</source>
@@ -2237,7 +2237,7 @@
     </message>
     <message>
         <source>Makes what moves look sharper. Close = off; Low to High and Ull-Level1 to 3 are stronger in turn.</source>
-        <translation>让运动画面更清晰。从“低”到“高”以及“Ull 等级 1”到“Ull 等级 3”，效果依次增强。</translation>
+        <translation>让运动画面更清晰。从“低”到“高”以及“Ull 等级&#xa0;1”到“Ull 等级&#xa0;3”，效果依次增强。</translation>
     </message>
     <message>
         <source>Manual</source>
@@ -2249,7 +2249,7 @@
     </message>
     <message>
         <source>Matches notebooks with a Display P3 screen.</source>
-        <translation>与配备 Display P3 屏幕的笔记本电脑一致。</translation>
+        <translation>与配备 Display P3&#xa0;屏幕的笔记本电脑一致。</translation>
     </message>
     <message>
         <source>Matrix Brightness</source>
@@ -2265,15 +2265,15 @@
     </message>
     <message>
         <source>Matrix Mode1</source>
-        <translation>矩阵模式 1</translation>
+        <translation>矩阵模式&#xa0;1</translation>
     </message>
     <message>
         <source>Matrix Mode2</source>
-        <translation>矩阵模式 2</translation>
+        <translation>矩阵模式&#xa0;2</translation>
     </message>
     <message>
         <source>Matrix Mode3</source>
-        <translation>矩阵模式 3</translation>
+        <translation>矩阵模式&#xa0;3</translation>
     </message>
     <message>
         <source>Matrix Power Off</source>
@@ -2289,7 +2289,7 @@
     </message>
     <message>
         <source>Maximum 192 frames</source>
-        <translation>最多 192 帧</translation>
+        <translation>最多&#xa0;192&#xa0;帧</translation>
     </message>
     <message>
         <source>Median answer</source>
@@ -2345,27 +2345,27 @@
     </message>
     <message>
         <source>Mode %1</source>
-        <translation>模式 %1</translation>
+        <translation>模式&#xa0;%1</translation>
     </message>
     <message>
         <source>Mode1</source>
-        <translation>模式 1</translation>
+        <translation>模式&#xa0;1</translation>
     </message>
     <message>
         <source>Mode2</source>
-        <translation>模式 2</translation>
+        <translation>模式&#xa0;2</translation>
     </message>
     <message>
         <source>Mode3</source>
-        <translation>模式 3</translation>
+        <translation>模式&#xa0;3</translation>
     </message>
     <message>
         <source>Mode4</source>
-        <translation>模式 4</translation>
+        <translation>模式&#xa0;4</translation>
     </message>
     <message>
         <source>Mode5</source>
-        <translation>模式 5</translation>
+        <translation>模式&#xa0;5</translation>
     </message>
     <message>
         <source>Model</source>
@@ -2401,7 +2401,7 @@
     </message>
     <message>
         <source>Moves the whole picture by a few pixels now and then, so that edges do not burn in. Close = off.</source>
-        <translation>不时将整个画面移动几个像素，避免边缘烧屏。关闭 = 不启用。</translation>
+        <translation>不时将整个画面移动几个像素，避免边缘烧屏。关闭&#xa0;= 不启用。</translation>
     </message>
     <message>
         <source>Movie</source>
@@ -2425,7 +2425,7 @@
     </message>
     <message>
         <source>Must match the computer&apos;s signal. RGB Auto = found out by itself, RGB Limit = 16 to 235, RGB Full = 0 to 255.</source>
-        <translation>需与电脑的信号一致。“RGB 自动”自动识别，有限范围为 16 至 235，全范围为 0 至 255。</translation>
+        <translation>需与电脑的信号一致。“RGB 自动”自动识别，有限范围为&#xa0;16&#xa0;至&#xa0;235，全范围为&#xa0;0&#xa0;至&#xa0;255。</translation>
     </message>
     <message>
         <source>My layout</source>
@@ -2517,7 +2517,7 @@
     </message>
     <message>
         <source>No answer for %1 s</source>
-        <translation>%1 秒无应答</translation>
+        <translation>%1&#xa0;秒无应答</translation>
     </message>
     <message>
         <source>No care has been seen yet: hours count from the first start of this tool.</source>
@@ -2569,7 +2569,7 @@
     </message>
     <message>
         <source>Not uploaded from here. In Custom Mode it is &quot;%1&quot;.</source>
-        <translation>尚未从此处写入。对应自定义模式中的“%1”。</translation>
+        <translation>尚未从此处写入。对应自定义模式“%1”。</translation>
     </message>
     <message>
         <source>Nothing above the point: for shots that fall.</source>
@@ -2657,7 +2657,7 @@
     </message>
     <message>
         <source>One colour melts into the next. Off = it changes at once.</source>
-        <translation>颜色逐渐过渡到下一种。关闭 = 立即变换。</translation>
+        <translation>颜色逐渐过渡到下一种。关闭&#xa0;= 立即变换。</translation>
     </message>
     <message>
         <source>One colour that stands still. Calm enough for work.</source>
@@ -2673,7 +2673,7 @@
     </message>
     <message>
         <source>Only the modes &quot;Normal&quot; and &quot;Effect&quot; have a colour of their own.</source>
-        <translation>仅“常亮”和“灯效”模式可以设置颜色。</translation>
+        <translation>仅“普通”和“灯效”模式可以设置颜色。</translation>
     </message>
     <message>
         <source>Only the monitor that this tool sets can be read.</source>
@@ -2729,15 +2729,15 @@
     </message>
     <message>
         <source>Paper_A4</source>
-        <translation>A4 纸</translation>
+        <translation>A4&#xa0;纸</translation>
     </message>
     <message>
         <source>Paper_B5</source>
-        <translation>B5 纸</translation>
+        <translation>B5&#xa0;纸</translation>
     </message>
     <message>
         <source>Paper_B6</source>
-        <translation>B6 纸</translation>
+        <translation>B6&#xa0;纸</translation>
     </message>
     <message>
         <source>Parameters of the mode</source>
@@ -2753,7 +2753,7 @@
     </message>
     <message>
         <source>Photographs at a D65 white.</source>
-        <translation>D65 白点下的照片。</translation>
+        <translation>D65&#xa0;白点下的照片。</translation>
     </message>
     <message>
         <source>Picture Enhance</source>
@@ -2861,7 +2861,7 @@
     </message>
     <message>
         <source>Proofs under a D50 light.</source>
-        <translation>D50 光源下的打样。</translation>
+        <translation>D50&#xa0;光源下的打样。</translation>
     </message>
     <message>
         <source>Pull out</source>
@@ -2925,7 +2925,7 @@
     </message>
     <message>
         <source>Raises the contrast between light and dark parts. 0 = off.</source>
-        <translation>增强明暗部分的对比。0 为关闭。</translation>
+        <translation>增强明暗部分的对比。0&#xa0;为关闭。</translation>
     </message>
     <message>
         <source>Rate</source>
@@ -2945,7 +2945,7 @@
     </message>
     <message>
         <source>Reading sample 0123</source>
-        <translation>阅读示例 0123</translation>
+        <translation>阅读示例&#xa0;0123</translation>
     </message>
     <message>
         <source>Reading: %1 of %2</source>
@@ -2965,7 +2965,7 @@
     </message>
     <message>
         <source>Rec.709 Mode</source>
-        <translation>Rec.709 模式</translation>
+        <translation>Rec.709&#xa0;模式</translation>
     </message>
     <message>
         <source>Recommended to set [Expand These Monitors] in the System-&gt; Screen when operating multiple monitors.</source>
@@ -2985,7 +2985,7 @@
     </message>
     <message>
         <source>Red, green and blue belong to User1, User2 and User3 of Color Temperature.</source>
-        <translation>红、绿、蓝只用于色温的“用户 1”“用户 2”“用户 3”。</translation>
+        <translation>红、绿、蓝只用于色温的“用户&#xa0;1”“用户&#xa0;2”“用户&#xa0;3”。</translation>
     </message>
     <message>
         <source>Redo</source>
@@ -3069,7 +3069,7 @@
     </message>
     <message>
         <source>Row %1, cell %2: %3</source>
-        <translation>第 %1 行第 %2 格：%3</translation>
+        <translation>第&#xa0;%1&#xa0;行第&#xa0;%2&#xa0;格：%3</translation>
     </message>
     <message>
         <source>Ruler</source>
@@ -3101,7 +3101,7 @@
     </message>
     <message>
         <source>Saturation follows Color Enchance while that is above 0.</source>
-        <translation>色彩增强大于 0 时，饱和度由它决定。</translation>
+        <translation>色彩增强大于&#xa0;0&#xa0;时，饱和度由它决定。</translation>
     </message>
     <message>
         <source>Save</source>
@@ -3389,7 +3389,7 @@
     </message>
     <message>
         <source>Sound = what this computer plays, Screen = the picture&apos;s edges. Higher levels follow smaller changes.</source>
-        <translation>声音 = 本机播放的声音，屏幕 = 画面边缘的颜色。等级越高，跟随的变化越细微。</translation>
+        <translation>声音&#xa0;= 本机播放的声音，屏幕&#xa0;= 画面边缘的颜色。等级越高，跟随的变化越细微。</translation>
     </message>
     <message>
         <source>Sound output</source>
@@ -3461,7 +3461,7 @@
     </message>
     <message>
         <source>Super Resolution: makes blurred or enlarged pictures look sharper. 0 = off.</source>
-        <translation>超分辨率：让模糊或放大的画面更清晰。0 为关闭。</translation>
+        <translation>超分辨率：让模糊或放大的画面更清晰。0&#xa0;为关闭。</translation>
     </message>
     <message>
         <source>Switch off</source>
@@ -3469,11 +3469,11 @@
     </message>
     <message>
         <source>Switch on</source>
-        <translation>打开</translation>
+        <translation>开启</translation>
     </message>
     <message>
         <source>Switch this row on to change its keys.</source>
-        <translation>打开这一行的开关后才能更改按键。</translation>
+        <translation>开启这一行的开关后才能更改按键。</translation>
     </message>
     <message>
         <source>Switched off.</source>
@@ -3501,7 +3501,7 @@
     </message>
     <message>
         <source>Takes blue out of the picture, which is easier on the eyes. 0 = off.</source>
-        <translation>减少画面中的蓝光，让眼睛更舒适。0 为关闭。</translation>
+        <translation>减少画面中的蓝光，让眼睛更舒适。0&#xa0;为关闭。</translation>
     </message>
     <message>
         <source>Tapering</source>
@@ -3557,11 +3557,11 @@
     </message>
     <message>
         <source>The accessory shows what this computer plays as soon as the music mode is open.</source>
-        <translation>打开音乐模式后，配件会显示本机正在播放的声音。</translation>
+        <translation>开启音乐模式后，配件会显示本机正在播放的声音。</translation>
     </message>
     <message>
         <source>The accessory takes %1 of the %2 frames.</source>
-        <translation>共 %2 帧，配件只接收前 %1 帧。</translation>
+        <translation>共&#xa0;%2&#xa0;帧，配件只接收前&#xa0;%1&#xa0;帧。</translation>
     </message>
     <message>
         <source>The accessory takes no report until the button is released</source>
@@ -3597,7 +3597,7 @@
     </message>
     <message>
         <source>The colour of the belt along the lower edge. Auto = runs through all colours.</source>
-        <translation>底边灯带的颜色。自动 = 依次变换所有颜色。</translation>
+        <translation>底边灯带的颜色。自动&#xa0;= 依次变换所有颜色。</translation>
     </message>
     <message>
         <source>The colour of the belt at the back of the foot.</source>
@@ -3617,7 +3617,7 @@
     </message>
     <message>
         <source>The colour of the steady light and of the effects. Auto = runs through all colours.</source>
-        <translation>常亮与灯效的颜色。自动 = 依次变换所有颜色。</translation>
+        <translation>“普通”和“灯效”模式的颜色。自动&#xa0;= 依次变换所有颜色。</translation>
     </message>
     <message>
         <source>The colours of the cinema.</source>
@@ -3653,7 +3653,7 @@
     </message>
     <message>
         <source>The file holds %1 frames; the first %2 were taken.</source>
-        <translation>文件中有 %1 帧，只导入了前 %2 帧。</translation>
+        <translation>文件中有&#xa0;%1&#xa0;帧，只导入了前&#xa0;%2&#xa0;帧。</translation>
     </message>
     <message>
         <source>The file holds no whole frame.</source>
@@ -3721,7 +3721,7 @@
     </message>
     <message>
         <source>The lighting goes out by itself after this time. Close = it stays on.</source>
-        <translation>灯光在此时间后自动熄灭。关闭 = 一直亮着。</translation>
+        <translation>灯光在此时间后自动熄灭。关闭&#xa0;= 一直亮着。</translation>
     </message>
     <message>
         <source>The lighting stays on while the monitor sleeps, as a light for the night.</source>
@@ -3833,11 +3833,11 @@
     </message>
     <message>
         <source>The monitor uses less power. Close = off, Level2 saves the most.</source>
-        <translation>让显示器更省电。“等级 2”最省电。</translation>
+        <translation>让显示器更省电。“等级&#xa0;2”最省电。</translation>
     </message>
     <message>
         <source>The next care is due after %1 more hours of use.</source>
-        <translation>再使用 %1 小时后需要下一次护理。</translation>
+        <translation>再使用&#xa0;%1&#xa0;小时后需要下一次护理。</translation>
     </message>
     <message>
         <source>The next client is not initialised</source>
@@ -3853,7 +3853,7 @@
     </message>
     <message>
         <source>The page %1 could not be opened.</source>
-        <translation>无法打开网页 %1。</translation>
+        <translation>无法打开网页&#xa0;%1。</translation>
     </message>
     <message>
         <source>The picture as the factory set it.</source>
@@ -3861,7 +3861,7 @@
     </message>
     <message>
         <source>The picture goes black for about 6 minutes, and the monitor must stay on. Begin now?</source>
-        <translation>画面会变黑约 6 分钟，其间请勿关闭显示器。现在开始吗？</translation>
+        <translation>画面会变黑约&#xa0;6&#xa0;分钟，其间请勿关闭显示器。现在开始吗？</translation>
     </message>
     <message>
         <source>The picture stays where it is.</source>
@@ -3949,11 +3949,11 @@
     </message>
     <message>
         <source>The text is too long: %1 of its %2 characters fit.</source>
-        <translation>文字过长：共 %2 个字符，只容得下前 %1 个。</translation>
+        <translation>文字过长：共&#xa0;%2&#xa0;个字符，只容得下前&#xa0;%1&#xa0;个。</translation>
     </message>
     <message>
         <source>The upgrade program %1 could not be started.</source>
-        <translation>无法启动升级程序 %1。</translation>
+        <translation>无法启动升级程序&#xa0;%1。</translation>
     </message>
     <message>
         <source>The upgrade program is running already.</source>
@@ -4105,7 +4105,7 @@
     </message>
     <message>
         <source>Today&apos;s automatic changes of this monitor are used up (%1). They go on tomorrow; what you set yourself is not limited.</source>
-        <translation>今天对此显示器的自动更改次数已用完（%1 次），明天继续。您自己的设置不受限制。</translation>
+        <translation>今天对此显示器的自动更改次数已用完（%1&#xa0;次），明天继续。您自己的设置不受限制。</translation>
     </message>
     <message>
         <source>Tool Settings</source>
@@ -4197,15 +4197,15 @@
     </message>
     <message>
         <source>Ull-Level1</source>
-        <translation>Ull 等级 1</translation>
+        <translation>Ull 等级&#xa0;1</translation>
     </message>
     <message>
         <source>Ull-Level2</source>
-        <translation>Ull 等级 2</translation>
+        <translation>Ull 等级&#xa0;2</translation>
     </message>
     <message>
         <source>Ull-Level3</source>
-        <translation>Ull 等级 3</translation>
+        <translation>Ull 等级&#xa0;3</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -4237,27 +4237,27 @@
     </message>
     <message>
         <source>User1</source>
-        <translation>用户 1</translation>
+        <translation>用户&#xa0;1</translation>
     </message>
     <message>
         <source>User1 R G B</source>
-        <translation>用户 1 R G B</translation>
+        <translation>用户&#xa0;1 R G B</translation>
     </message>
     <message>
         <source>User2</source>
-        <translation>用户 2</translation>
+        <translation>用户&#xa0;2</translation>
     </message>
     <message>
         <source>User2 R G B</source>
-        <translation>用户 2 R G B</translation>
+        <translation>用户&#xa0;2 R G B</translation>
     </message>
     <message>
         <source>User3</source>
-        <translation>用户 3</translation>
+        <translation>用户&#xa0;3</translation>
     </message>
     <message>
         <source>User3 R G B</source>
-        <translation>用户 3 R G B</translation>
+        <translation>用户&#xa0;3 R G B</translation>
     </message>
     <message>
         <source>UserB</source>
@@ -4345,7 +4345,7 @@
     </message>
     <message>
         <source>What is asked and answered is recorded in %1</source>
-        <translation>请求与应答正在记录到 %1</translation>
+        <translation>请求与应答正在记录到&#xa0;%1</translation>
     </message>
     <message>
         <source>What it looks like</source>
@@ -4461,7 +4461,7 @@
     </message>
     <message>
         <source>Zone %1 of %2</source>
-        <translation>区域 %1/%2</translation>
+        <translation>区域&#xa0;%1/%2</translation>
     </message>
     <message>
         <source>Zone before</source>
@@ -4469,7 +4469,7 @@
     </message>
     <message>
         <source>Zones for %1</source>
-        <translation>%1 的区域</translation>
+        <translation>%1&#xa0;的区域</translation>
     </message>
     <message>
         <source>Zoom</source>
@@ -4493,7 +4493,7 @@
     </message>
     <message>
         <source>firmware %1</source>
-        <translation>固件 %1</translation>
+        <translation>固件&#xa0;%1</translation>
     </message>
     <message>
         <source>garbled</source>
@@ -4517,15 +4517,15 @@
     </message>
     <message>
         <source>made %1</source>
-        <translation>%1 年制造</translation>
+        <translation>%1&#xa0;年制造</translation>
     </message>
     <message>
         <source>made %1, week %2</source>
-        <translation>%1 年第 %2 周制造</translation>
+        <translation>%1&#xa0;年第&#xa0;%2&#xa0;周制造</translation>
     </message>
     <message>
         <source>mode %1</source>
-        <translation>模式 %1</translation>
+        <translation>模式&#xa0;%1</translation>
     </message>
     <message>
         <source>no answer</source>
@@ -4541,7 +4541,7 @@
     </message>
     <message>
         <source>not a WAV file of 16-bit or floating-point samples</source>
-        <translation>不是 16 位或浮点采样的 WAV 文件</translation>
+        <translation>不是&#xa0;16&#xa0;位或浮点采样的 WAV 文件</translation>
     </message>
     <message>
         <source>nothing</source>
@@ -4585,7 +4585,7 @@
     </message>
     <message>
         <source>sRGB primaries with gamma 2.2.</source>
-        <translation>sRGB 三原色，伽马 2.2。</translation>
+        <translation>sRGB 三原色，伽马&#xa0;2.2。</translation>
     </message>
     <message>
         <source>sRGB(2.2)</source>
@@ -4597,11 +4597,11 @@
     </message>
     <message>
         <source>serial %1</source>
-        <translation>序列号 %1</translation>
+        <translation>序列号&#xa0;%1</translation>
     </message>
     <message>
         <source>slowest %1</source>
-        <translation>最慢 %1</translation>
+        <translation>最慢&#xa0;%1</translation>
     </message>
     <message>
         <source>text</source>
@@ -4625,15 +4625,15 @@
     </message>
     <message>
         <source>x1.5</source>
-        <translation>1.5 倍</translation>
+        <translation>1.5&#xa0;倍</translation>
     </message>
     <message>
         <source>x2</source>
-        <translation>2 倍</translation>
+        <translation>2&#xa0;倍</translation>
     </message>
     <message>
         <source>x4</source>
-        <translation>4 倍</translation>
+        <translation>4&#xa0;倍</translation>
     </message>
 </context>
 <context>
@@ -4726,7 +4726,7 @@
     <message>
         <source>Cursor at %1, %2
 Press ESC to cancel</source>
-        <translation>光标位于 %1, %2
+        <translation>光标位于&#xa0;%1, %2
 按 Esc 取消</translation>
     </message>
     <message>
@@ -4759,7 +4759,7 @@ Please verify the correct file name was given.</source>
     <message>
         <source>%1 already exists.
 Do you want to replace it?</source>
-        <translation>%1 已存在。
+        <translation>%1&#xa0;已存在。
 要替换它吗？</translation>
     </message>
     <message>

@@ -33,15 +33,15 @@
     </message>
     <message>
         <source>%1 cannot be written. Nothing was changed.</source>
-        <translation>無法寫入 %1，未做任何變更。</translation>
+        <translation>無法寫入&#xa0;%1，未做任何變更。</translation>
     </message>
     <message>
         <source>%1 cannot be written: what is set here lasts until the program ends.</source>
-        <translation>無法寫入 %1：此處的設定在應用程式結束前有效。</translation>
+        <translation>無法寫入&#xa0;%1：此處的設定在應用程式結束前有效。</translation>
     </message>
     <message>
         <source>%1 does not have &quot;%2&quot;.</source>
-        <translation>%1 沒有「%2」。</translation>
+        <translation>%1&#xa0;沒有「%2」。</translation>
     </message>
     <message>
         <source>%1 goes to the level before.</source>
@@ -53,35 +53,35 @@
     </message>
     <message>
         <source>%1 has no OLED panel to care for.</source>
-        <translation>%1 沒有需要保養的 OLED 面板。</translation>
+        <translation>%1&#xa0;沒有需要保養的 OLED 面板。</translation>
     </message>
     <message>
         <source>%1 has no game functions.</source>
-        <translation>%1 沒有遊戲功能。</translation>
+        <translation>%1&#xa0;沒有遊戲功能。</translation>
     </message>
     <message>
         <source>%1 holds no saved drawing. It stays as it is until you save.</source>
-        <translation>%1 中沒有已儲存的繪圖。在您儲存之前，該檔案維持不變。</translation>
+        <translation>%1&#xa0;中沒有已儲存的繪圖。在您儲存之前，該檔案維持不變。</translation>
     </message>
     <message>
         <source>%1 hours of use counted</source>
-        <translation>已累計使用 %1 小時</translation>
+        <translation>已累計使用&#xa0;%1&#xa0;小時</translation>
     </message>
     <message>
         <source>%1 hours of use since the last care</source>
-        <translation>上次保養後已使用 %1 小時</translation>
+        <translation>上次保養後已使用&#xa0;%1&#xa0;小時</translation>
     </message>
     <message>
         <source>%1 in all, %2 by itself today</source>
-        <translation>共 %1 次，今日自動 %2 次</translation>
+        <translation>共&#xa0;%1&#xa0;次，今日自動&#xa0;%2&#xa0;次</translation>
     </message>
     <message>
         <source>%1 is in the list already.</source>
-        <translation>%1 已在清單中。</translation>
+        <translation>%1&#xa0;已在清單中。</translation>
     </message>
     <message>
         <source>%1 is taken by another program or function and does nothing here.</source>
-        <translation>%1 已被其他應用程式或功能佔用，在此不起作用。</translation>
+        <translation>%1&#xa0;已被其他應用程式或功能佔用，在此不起作用。</translation>
     </message>
     <message>
         <source>%1 moves it to the corner before.</source>
@@ -93,35 +93,35 @@
     </message>
     <message>
         <source>%1 ms</source>
-        <translation>%1 毫秒</translation>
+        <translation>%1&#xa0;毫秒</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation>%1（共 %2）</translation>
+        <translation>%1（共&#xa0;%2）</translation>
     </message>
     <message>
         <source>%1 of %2 lost</source>
-        <translation>%2 次中遺失 %1 次</translation>
+        <translation>%2&#xa0;次中遺失&#xa0;%1&#xa0;次</translation>
     </message>
     <message>
         <source>%1 of %2 values were told, in %3 s.</source>
-        <translation>已讀取 %2 個值中的 %1 個，用時 %3 秒。</translation>
+        <translation>已讀取&#xa0;%2&#xa0;個值中的&#xa0;%1&#xa0;個，用時&#xa0;%3&#xa0;秒。</translation>
     </message>
     <message>
         <source>%1 requests are recorded in %2</source>
-        <translation>已將 %1 次請求記錄到 %2</translation>
+        <translation>已將&#xa0;%1&#xa0;次要求記錄到&#xa0;%2</translation>
     </message>
     <message>
         <source>%1 rows, %2 cells, %3 on</source>
-        <translation>%1 列，%2 格，亮 %3 格</translation>
+        <translation>%1&#xa0;列，%2&#xa0;格，亮&#xa0;%3&#xa0;格</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation>%1 秒</translation>
+        <translation>%1&#xa0;秒</translation>
     </message>
     <message>
         <source>%1 s left</source>
-        <translation>剩餘 %1 秒</translation>
+        <translation>剩餘&#xa0;%1&#xa0;秒</translation>
     </message>
     <message>
         <source>%1 steps the colour.</source>
@@ -145,7 +145,7 @@
     </message>
     <message>
         <source>%1 succeeded</source>
-        <translation>%1 次成功</translation>
+        <translation>%1&#xa0;次成功</translation>
     </message>
     <message>
         <source>%1 switches it off.</source>
@@ -185,7 +185,7 @@
     </message>
     <message>
         <source>%1, chunk %2 of %3</source>
-        <translation>%1，第 %2 個區塊，共 %3 個</translation>
+        <translation>%1，第&#xa0;%2&#xa0;個區塊，共&#xa0;%3&#xa0;個</translation>
     </message>
     <message>
         <source>%1, frames: %2</source>
@@ -197,11 +197,11 @@
     </message>
     <message>
         <source>1 Hour</source>
-        <translation>1 小時</translation>
+        <translation>1&#xa0;小時</translation>
     </message>
     <message>
         <source>1.5 Hour</source>
-        <translation>1.5 小時</translation>
+        <translation>1.5&#xa0;小時</translation>
     </message>
     <message>
         <source>1.6</source>
@@ -213,19 +213,19 @@
     </message>
     <message>
         <source>10 min</source>
-        <translation>10 分鐘前</translation>
+        <translation>10&#xa0;分鐘前</translation>
     </message>
     <message>
         <source>12 Hour</source>
-        <translation>12 小時</translation>
+        <translation>12&#xa0;小時</translation>
     </message>
     <message>
         <source>15 min</source>
-        <translation>15 分鐘</translation>
+        <translation>15&#xa0;分鐘</translation>
     </message>
     <message>
         <source>2 Hour</source>
-        <translation>2 小時</translation>
+        <translation>2&#xa0;小時</translation>
     </message>
     <message>
         <source>2 Zone Rhythm</source>
@@ -245,7 +245,7 @@
     </message>
     <message>
         <source>2.5 Hour</source>
-        <translation>2.5 小時</translation>
+        <translation>2.5&#xa0;小時</translation>
     </message>
     <message>
         <source>2.6</source>
@@ -253,31 +253,31 @@
     </message>
     <message>
         <source>24 Hour</source>
-        <translation>24 小時</translation>
+        <translation>24&#xa0;小時</translation>
     </message>
     <message>
         <source>3 Hour</source>
-        <translation>3 小時</translation>
+        <translation>3&#xa0;小時</translation>
     </message>
     <message>
         <source>3.5 Hour</source>
-        <translation>3.5 小時</translation>
+        <translation>3.5&#xa0;小時</translation>
     </message>
     <message>
         <source>30 min</source>
-        <translation>30 分鐘</translation>
+        <translation>30&#xa0;分鐘</translation>
     </message>
     <message>
         <source>30s</source>
-        <translation>30 秒</translation>
+        <translation>30&#xa0;秒</translation>
     </message>
     <message>
         <source>4 Hour</source>
-        <translation>4 小時</translation>
+        <translation>4&#xa0;小時</translation>
     </message>
     <message>
         <source>40 min</source>
-        <translation>40 分鐘</translation>
+        <translation>40&#xa0;分鐘</translation>
     </message>
     <message>
         <source>5.4G</source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>50 min</source>
-        <translation>50 分鐘</translation>
+        <translation>50&#xa0;分鐘</translation>
     </message>
     <message>
         <source>5000K</source>
@@ -297,7 +297,7 @@
     </message>
     <message>
         <source>60 min</source>
-        <translation>60 分鐘</translation>
+        <translation>60&#xa0;分鐘</translation>
     </message>
     <message>
         <source>6300K</source>
@@ -317,7 +317,7 @@
     </message>
     <message>
         <source>8 Hour</source>
-        <translation>8 小時</translation>
+        <translation>8&#xa0;小時</translation>
     </message>
     <message>
         <source>8.1G</source>
@@ -325,7 +325,7 @@
     </message>
     <message>
         <source>90 min</source>
-        <translation>90 分鐘</translation>
+        <translation>90&#xa0;分鐘</translation>
     </message>
     <message>
         <source>9300K</source>
@@ -441,15 +441,15 @@
     </message>
     <message>
         <source>A sheet of 125 × 176 mm, as of a paperback.</source>
-        <translation>一張 125 × 176 mm 的紙，與平裝小開本相同。</translation>
+        <translation>一張&#xa0;125 × 176 mm 的紙，與平裝小開本相同。</translation>
     </message>
     <message>
         <source>A sheet of 176 × 250 mm, for books and brochures.</source>
-        <translation>一張 176 × 250 mm 的紙，適合書籍和小冊子。</translation>
+        <translation>一張&#xa0;176 × 250 mm 的紙，適合書籍和小冊子。</translation>
     </message>
     <message>
         <source>A sheet of 210 × 297 mm, upright, in the middle of the screen.</source>
-        <translation>一張 210 × 297 mm 的紙，直放在螢幕中央。</translation>
+        <translation>一張&#xa0;210 × 297 mm 的紙，直放在螢幕中央。</translation>
     </message>
     <message>
         <source>A soft page for long texts.</source>
@@ -481,7 +481,7 @@
     </message>
     <message>
         <source>A wide gamut under a D50 light.</source>
-        <translation>D50 光源下的廣色域。</translation>
+        <translation>D50&#xa0;光源下的廣色域。</translation>
     </message>
     <message>
         <source>AI Dual Mode</source>
@@ -533,15 +533,15 @@
     </message>
     <message>
         <source>Alignment_4</source>
-        <translation>4 分格</translation>
+        <translation>4&#xa0;分格</translation>
     </message>
     <message>
         <source>Alignment_6</source>
-        <translation>6 分格</translation>
+        <translation>6&#xa0;分格</translation>
     </message>
     <message>
         <source>Alignment_9</source>
-        <translation>9 分格</translation>
+        <translation>9&#xa0;分格</translation>
     </message>
     <message>
         <source>All colours at once, which turn around the ring.</source>
@@ -657,7 +657,7 @@
     </message>
     <message>
         <source>As saved: %1 cells a frame, not 1050.</source>
-        <translation>依儲存格式每畫格 %1 格，非 1050 格。</translation>
+        <translation>依儲存格式每畫格&#xa0;%1&#xa0;格，非&#xa0;1050&#xa0;格。</translation>
     </message>
     <message>
         <source>Asked again and told; nothing to do.</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>Brightens dark scenes. Close = off, Level1 and Level2 = always, Auto-L1 and Auto-L2 = when needed.</source>
-        <translation>提亮昏暗的場景。「等級 1」和「等級 2」持續生效，「自動 L1」和「自動 L2」隨畫面調整。</translation>
+        <translation>提亮昏暗的場景。「等級&#xa0;1」和「等級&#xa0;2」持續生效，「自動 L1」和「自動 L2」隨畫面調整。</translation>
     </message>
     <message>
         <source>Brightness</source>
@@ -857,7 +857,7 @@
     </message>
     <message>
         <source>Care evens out how the pixels have aged, so that no picture stays visible. It takes about 6 minutes.</source>
-        <translation>保養使像素的老化趨於一致，不留殘影。約需 6 分鐘。</translation>
+        <translation>保養使像素的老化趨於一致，不留殘影。約需&#xa0;6&#xa0;分鐘。</translation>
     </message>
     <message>
         <source>Care is due.</source>
@@ -865,7 +865,7 @@
     </message>
     <message>
         <source>Care is due. The picture goes black for about 6 minutes.</source>
-        <translation>需要保養了。畫面會變黑約 6 分鐘。</translation>
+        <translation>需要保養了。畫面會變黑約&#xa0;6&#xa0;分鐘。</translation>
     </message>
     <message>
         <source>Care is due: the monitor begins when it goes to standby.</source>
@@ -877,7 +877,7 @@
     </message>
     <message>
         <source>Care takes about 6 minutes, in which the picture is black. It evens out how the pixels have aged; nothing that is open is lost.</source>
-        <translation>保養約需 6 分鐘，其間畫面為黑色。它使像素的老化趨於一致；已開啟的內容不會遺失。</translation>
+        <translation>保養約需&#xa0;6&#xa0;分鐘，其間畫面為黑色。它使像素的老化趨於一致；已開啟的內容不會遺失。</translation>
     </message>
     <message>
         <source>Caret</source>
@@ -917,7 +917,7 @@
     </message>
     <message>
         <source>Cinema colours at a D65 white.</source>
-        <translation>D65 白點下的電影院色彩。</translation>
+        <translation>D65&#xa0;白點下的電影院色彩。</translation>
     </message>
     <message>
         <source>Clean Frame</source>
@@ -941,7 +941,7 @@
     </message>
     <message>
         <source>Close = dark, Normal = one colour, Effect = it moves, Rhythm = follows sound or screen, Eye Care = calm white.</source>
-        <translation>關閉 = 熄燈，恆亮 = 單色，燈效 = 動態，律動 = 跟隨聲音或螢幕，護眼 = 柔和白光。</translation>
+        <translation>關閉&#xa0;= 熄燈，一般&#xa0;= 單色，燈效&#xa0;= 動態，律動&#xa0;= 跟隨聲音或螢幕，護眼&#xa0;= 柔和白光。</translation>
     </message>
     <message>
         <source>Close window</source>
@@ -1077,7 +1077,7 @@
     </message>
     <message>
         <source>DCI-P3 Mode</source>
-        <translation>DCI-P3 模式</translation>
+        <translation>DCI-P3&#xa0;模式</translation>
     </message>
     <message>
         <source>DCI-P3(D65)</source>
@@ -1201,7 +1201,7 @@
     </message>
     <message>
         <source>Dims signs that stand still, such as a station&apos;s logo. Close = off; Low to High are stronger in turn.</source>
-        <translation>使靜止的圖示變暗，例如電視台的台標。關閉 = 不啟用；從低到高依次增強。</translation>
+        <translation>使靜止的圖示變暗，例如電視台的台標。關閉&#xa0;= 不啟用；從低到高依次增強。</translation>
     </message>
     <message>
         <source>Dims soon: spares the panel most.</source>
@@ -1209,7 +1209,7 @@
     </message>
     <message>
         <source>Dims the border between bright and dark, as beside black bars. Close = off; Low to High are stronger in turn.</source>
-        <translation>使明暗交界處變暗，例如黑邊旁。關閉 = 不啟用；從低到高依次增強。</translation>
+        <translation>使明暗交界處變暗，例如黑邊旁。關閉&#xa0;= 不啟用；從低到高依次增強。</translation>
     </message>
     <message>
         <source>Dims the light behind dark parts, so that black is deeper. Close = off; the others are stronger in turn.</source>
@@ -1221,7 +1221,7 @@
     </message>
     <message>
         <source>Dims the taskbar, which always stands in one place. Close = off; Low to High are stronger in turn.</source>
-        <translation>使始終停在一處的工作列變暗。關閉 = 不啟用；從低到高依次增強。</translation>
+        <translation>使始終停在一處的工作列變暗。關閉&#xa0;= 不啟用；從低到高依次增強。</translation>
     </message>
     <message>
         <source>Direction</source>
@@ -1233,7 +1233,7 @@
     </message>
     <message>
         <source>Display P3 Mode</source>
-        <translation>Display P3 模式</translation>
+        <translation>Display P3&#xa0;模式</translation>
     </message>
     <message>
         <source>Display Version</source>
@@ -1273,7 +1273,7 @@
     </message>
     <message>
         <source>Draws lines that divide the screen. Close = none; Alignment_4, Alignment_6 and Alignment_9 = into 4, 6 or 9 parts.</source>
-        <translation>在螢幕上顯示分格線，將畫面分成 4、6 或 9 格。</translation>
+        <translation>在螢幕上顯示分格線，將畫面分成&#xa0;4、6&#xa0;或&#xa0;9&#xa0;格。</translation>
     </message>
     <message>
         <source>Draws the outline of a sheet on the screen. Close = none, Custom Size = as large as you set it.</source>
@@ -1361,7 +1361,7 @@
     </message>
     <message>
         <source>Every packet holds 7001 frames until the button is released</source>
-        <translation>放開按鈕前，每個封包都含 7001 個音框</translation>
+        <translation>放開按鈕前，每個封包都含&#xa0;7001&#xa0;個音框</translation>
     </message>
     <message>
         <source>Every picture is shown with the usual range.</source>
@@ -1369,7 +1369,7 @@
     </message>
     <message>
         <source>Every request takes 400 ms longer</source>
-        <translation>每個要求多花 400 毫秒</translation>
+        <translation>每個要求多花&#xa0;400&#xa0;毫秒</translation>
     </message>
     <message>
         <source>Everything that the panel can show.</source>
@@ -1497,7 +1497,7 @@
     </message>
     <message>
         <source>For computers, which send 0 to 255.</source>
-        <translation>適合傳送 0 至 255 的電腦。</translation>
+        <translation>適合傳送&#xa0;0&#xa0;至&#xa0;255&#xa0;的電腦。</translation>
     </message>
     <message>
         <source>For fast games in which a crosshair that stands still gets lost.</source>
@@ -1537,7 +1537,7 @@
     </message>
     <message>
         <source>For players and consoles that send 16 to 235. With a computer black looks grey.</source>
-        <translation>適合傳送 16 至 235 的播放器和遊戲機。用於電腦時黑色會發灰。</translation>
+        <translation>適合傳送&#xa0;16&#xa0;至&#xa0;235&#xa0;的播放器和遊戲機。用於電腦時黑色會發灰。</translation>
     </message>
     <message>
         <source>For scenes that are near.</source>
@@ -1565,7 +1565,7 @@
     </message>
     <message>
         <source>Frame %1</source>
-        <translation>第 %1 個畫格</translation>
+        <translation>第&#xa0;%1&#xa0;個畫格</translation>
     </message>
     <message>
         <source>Frames/s</source>
@@ -1577,7 +1577,7 @@
     </message>
     <message>
         <source>Frames: %1, of which the accessory takes %2</source>
-        <translation>畫格數：%1，配件最多接收 %2 個</translation>
+        <translation>畫格數：%1，配件最多接收&#xa0;%2&#xa0;個</translation>
     </message>
     <message>
         <source>Frequency</source>
@@ -1773,11 +1773,11 @@
     </message>
     <message>
         <source>How bright the enlarged part is. Level3 = as the rest; higher ones show what is in the shade.</source>
-        <translation>放大部分的亮度。「等級 3」與其餘畫面相同，等級越高越能看清陰影中的細節。</translation>
+        <translation>放大部分的亮度。「等級&#xa0;3」與其餘畫面相同，等級越高越能看清陰影中的細節。</translation>
     </message>
     <message>
         <source>How bright the lamp shines that tells that the monitor is on. Close = dark, Level3 = brightest.</source>
-        <translation>顯示器開啟時指示燈的亮度。「等級 3」最亮。</translation>
+        <translation>顯示器開啟時指示燈的亮度。「等級&#xa0;3」最亮。</translation>
     </message>
     <message>
         <source>How bright the middle tones are. The higher the value, the darker.</source>
@@ -1785,11 +1785,11 @@
     </message>
     <message>
         <source>How clear its edges are. Level3 = as they come; lower ones hide coarse dots, higher ones show outlines.</source>
-        <translation>放大部分邊緣的清晰度。「等級 3」保持原樣，較低的等級淡化顆粒，較高的等級突顯輪廓。</translation>
+        <translation>放大部分邊緣的清晰度。「等級&#xa0;3」保持原樣，較低的等級淡化顆粒，較高的等級突顯輪廓。</translation>
     </message>
     <message>
         <source>How far light and dark are apart in it. Level3 = as the rest; higher ones help in fog and dust.</source>
-        <translation>放大部分的明暗差別。「等級 3」與其餘畫面相同，等級越高越適合霧和沙塵。</translation>
+        <translation>放大部分的明暗差別。「等級&#xa0;3」與其餘畫面相同，等級越高越適合霧和沙塵。</translation>
     </message>
     <message>
         <source>How long the monitor waits without a signal before it sleeps.</source>
@@ -1817,11 +1817,11 @@
     </message>
     <message>
         <source>How the print will look under a D55 light.</source>
-        <translation>印刷品在 D55 光源下的效果。</translation>
+        <translation>印刷品在 D55&#xa0;光源下的效果。</translation>
     </message>
     <message>
         <source>How the print will look under a D58 light.</source>
-        <translation>印刷品在 D58 光源下的效果。</translation>
+        <translation>印刷品在 D58&#xa0;光源下的效果。</translation>
     </message>
     <message>
         <source>How the print will look.</source>
@@ -1833,7 +1833,7 @@
     </message>
     <message>
         <source>How warm white looks. 5000K = warmest, 9300K = coldest, User1 to User3 = your own mixtures.</source>
-        <translation>白色的冷暖。5000K 最暖，9300K 最冷，使用者 1 至使用者 3 由您自行調配。</translation>
+        <translation>白色的冷暖。5000K 最暖，9300K 最冷，使用者&#xa0;1&#xa0;至使用者&#xa0;3&#xa0;由您自行調配。</translation>
     </message>
     <message>
         <source>Hue</source>
@@ -2041,27 +2041,27 @@
     </message>
     <message>
         <source>Level1</source>
-        <translation>等級 1</translation>
+        <translation>等級&#xa0;1</translation>
     </message>
     <message>
         <source>Level1 follows great changes only, for a quiet room; Level5 also small ones.</source>
-        <translation>「等級 1」只跟隨大的變化，適合安靜的房間；「等級 5」也跟隨小的變化。</translation>
+        <translation>「等級&#xa0;1」只跟隨大的變化，適合安靜的房間；「等級&#xa0;5」也跟隨小的變化。</translation>
     </message>
     <message>
         <source>Level2</source>
-        <translation>等級 2</translation>
+        <translation>等級&#xa0;2</translation>
     </message>
     <message>
         <source>Level3</source>
-        <translation>等級 3</translation>
+        <translation>等級&#xa0;3</translation>
     </message>
     <message>
         <source>Level4</source>
-        <translation>等級 4</translation>
+        <translation>等級&#xa0;4</translation>
     </message>
     <message>
         <source>Level5</source>
-        <translation>等級 5</translation>
+        <translation>等級&#xa0;5</translation>
     </message>
     <message>
         <source>Lifts thin lines and dark surfaces of drawings.</source>
@@ -2133,7 +2133,7 @@
     </message>
     <message>
         <source>Lighter = used longer that day, ring = cared for.</source>
-        <translation>越亮 = 當天使用越久，圓環 = 做過保養。</translation>
+        <translation>越亮&#xa0;= 當天使用越久，圓環&#xa0;= 做過保養。</translation>
     </message>
     <message>
         <source>Lighting</source>
@@ -2141,7 +2141,7 @@
     </message>
     <message>
         <source>Lines at 38 and 62 per cent: balanced, and less rigid than thirds.</source>
-        <translation>線位於 38% 和 62% 處，比三分法更自然均衡。</translation>
+        <translation>線位於&#xa0;38% 和&#xa0;62% 處，比三分法更自然均衡。</translation>
     </message>
     <message>
         <source>Lines at thirds: put what matters where they cross.</source>
@@ -2229,7 +2229,7 @@
     </message>
     <message>
         <source>Makes colours stronger. 0 = off.</source>
-        <translation>讓色彩更鮮豔。0 為關閉。</translation>
+        <translation>讓色彩更鮮豔。0&#xa0;為關閉。</translation>
     </message>
     <message>
         <source>Makes dark parts lighter or darker, so that you see what is in the shadows.</source>
@@ -2237,7 +2237,7 @@
     </message>
     <message>
         <source>Makes what moves look sharper. Close = off; Low to High and Ull-Level1 to 3 are stronger in turn.</source>
-        <translation>讓動態畫面更清晰。從「低」到「高」以及「Ull 等級 1」到「Ull 等級 3」，效果依序增強。</translation>
+        <translation>讓動態畫面更清晰。從「低」到「高」以及「Ull 等級&#xa0;1」到「Ull 等級&#xa0;3」，效果依序增強。</translation>
     </message>
     <message>
         <source>Manual</source>
@@ -2249,7 +2249,7 @@
     </message>
     <message>
         <source>Matches notebooks with a Display P3 screen.</source>
-        <translation>與配備 Display P3 螢幕的筆記型電腦一致。</translation>
+        <translation>與配備 Display P3&#xa0;螢幕的筆記型電腦一致。</translation>
     </message>
     <message>
         <source>Matrix Brightness</source>
@@ -2265,15 +2265,15 @@
     </message>
     <message>
         <source>Matrix Mode1</source>
-        <translation>矩陣模式 1</translation>
+        <translation>矩陣模式&#xa0;1</translation>
     </message>
     <message>
         <source>Matrix Mode2</source>
-        <translation>矩陣模式 2</translation>
+        <translation>矩陣模式&#xa0;2</translation>
     </message>
     <message>
         <source>Matrix Mode3</source>
-        <translation>矩陣模式 3</translation>
+        <translation>矩陣模式&#xa0;3</translation>
     </message>
     <message>
         <source>Matrix Power Off</source>
@@ -2289,7 +2289,7 @@
     </message>
     <message>
         <source>Maximum 192 frames</source>
-        <translation>最多 192 個畫格</translation>
+        <translation>最多&#xa0;192&#xa0;個畫格</translation>
     </message>
     <message>
         <source>Median answer</source>
@@ -2345,27 +2345,27 @@
     </message>
     <message>
         <source>Mode %1</source>
-        <translation>模式 %1</translation>
+        <translation>模式&#xa0;%1</translation>
     </message>
     <message>
         <source>Mode1</source>
-        <translation>模式 1</translation>
+        <translation>模式&#xa0;1</translation>
     </message>
     <message>
         <source>Mode2</source>
-        <translation>模式 2</translation>
+        <translation>模式&#xa0;2</translation>
     </message>
     <message>
         <source>Mode3</source>
-        <translation>模式 3</translation>
+        <translation>模式&#xa0;3</translation>
     </message>
     <message>
         <source>Mode4</source>
-        <translation>模式 4</translation>
+        <translation>模式&#xa0;4</translation>
     </message>
     <message>
         <source>Mode5</source>
-        <translation>模式 5</translation>
+        <translation>模式&#xa0;5</translation>
     </message>
     <message>
         <source>Model</source>
@@ -2401,7 +2401,7 @@
     </message>
     <message>
         <source>Moves the whole picture by a few pixels now and then, so that edges do not burn in. Close = off.</source>
-        <translation>不時將整個畫面移動幾個像素，避免邊緣烙印。關閉 = 不啟用。</translation>
+        <translation>不時將整個畫面移動幾個像素，避免邊緣烙印。關閉&#xa0;= 不啟用。</translation>
     </message>
     <message>
         <source>Movie</source>
@@ -2425,7 +2425,7 @@
     </message>
     <message>
         <source>Must match the computer&apos;s signal. RGB Auto = found out by itself, RGB Limit = 16 to 235, RGB Full = 0 to 255.</source>
-        <translation>需與電腦的訊號一致。「RGB 自動」自動辨識，有限範圍為 16 至 235，全範圍為 0 至 255。</translation>
+        <translation>需與電腦的訊號一致。「RGB 自動」自動辨識，有限範圍為&#xa0;16&#xa0;至&#xa0;235，全範圍為&#xa0;0&#xa0;至&#xa0;255。</translation>
     </message>
     <message>
         <source>My layout</source>
@@ -2517,7 +2517,7 @@
     </message>
     <message>
         <source>No answer for %1 s</source>
-        <translation>%1 秒無回應</translation>
+        <translation>%1&#xa0;秒無回應</translation>
     </message>
     <message>
         <source>No care has been seen yet: hours count from the first start of this tool.</source>
@@ -2657,7 +2657,7 @@
     </message>
     <message>
         <source>One colour melts into the next. Off = it changes at once.</source>
-        <translation>顏色逐漸過渡到下一種。關閉 = 立即變換。</translation>
+        <translation>顏色逐漸過渡到下一種。關閉&#xa0;= 立即變換。</translation>
     </message>
     <message>
         <source>One colour that stands still. Calm enough for work.</source>
@@ -2665,7 +2665,7 @@
     </message>
     <message>
         <source>One input fills the screen.</source>
-        <translation>一路輸入占滿整個螢幕。</translation>
+        <translation>一路輸入佔滿整個螢幕。</translation>
     </message>
     <message>
         <source>Onion Skin</source>
@@ -2673,7 +2673,7 @@
     </message>
     <message>
         <source>Only the modes &quot;Normal&quot; and &quot;Effect&quot; have a colour of their own.</source>
-        <translation>僅「恆亮」和「燈效」模式可以設定顏色。</translation>
+        <translation>僅「一般」和「燈效」模式可以設定顏色。</translation>
     </message>
     <message>
         <source>Only the monitor that this tool sets can be read.</source>
@@ -2729,15 +2729,15 @@
     </message>
     <message>
         <source>Paper_A4</source>
-        <translation>A4 紙</translation>
+        <translation>A4&#xa0;紙</translation>
     </message>
     <message>
         <source>Paper_B5</source>
-        <translation>B5 紙</translation>
+        <translation>B5&#xa0;紙</translation>
     </message>
     <message>
         <source>Paper_B6</source>
-        <translation>B6 紙</translation>
+        <translation>B6&#xa0;紙</translation>
     </message>
     <message>
         <source>Parameters of the mode</source>
@@ -2753,7 +2753,7 @@
     </message>
     <message>
         <source>Photographs at a D65 white.</source>
-        <translation>D65 白點下的相片。</translation>
+        <translation>D65&#xa0;白點下的相片。</translation>
     </message>
     <message>
         <source>Picture Enhance</source>
@@ -2761,7 +2761,7 @@
     </message>
     <message>
         <source>Picture by picture: two inputs side by side, each on half of the screen, to work on both.</source>
-        <translation>畫面並排：兩路輸入左右各占半個螢幕，便於同時處理。</translation>
+        <translation>畫面並排：兩路輸入左右各佔半個螢幕，便於同時處理。</translation>
     </message>
     <message>
         <source>Picture in picture: a second input in a small window over the first, to keep an eye on another computer.</source>
@@ -2861,7 +2861,7 @@
     </message>
     <message>
         <source>Proofs under a D50 light.</source>
-        <translation>D50 光源下的打樣。</translation>
+        <translation>D50&#xa0;光源下的打樣。</translation>
     </message>
     <message>
         <source>Pull out</source>
@@ -2925,7 +2925,7 @@
     </message>
     <message>
         <source>Raises the contrast between light and dark parts. 0 = off.</source>
-        <translation>增強明暗部分的對比。0 為關閉。</translation>
+        <translation>增強明暗部分的對比。0&#xa0;為關閉。</translation>
     </message>
     <message>
         <source>Rate</source>
@@ -2945,7 +2945,7 @@
     </message>
     <message>
         <source>Reading sample 0123</source>
-        <translation>閱讀範例 0123</translation>
+        <translation>閱讀範例&#xa0;0123</translation>
     </message>
     <message>
         <source>Reading: %1 of %2</source>
@@ -2965,7 +2965,7 @@
     </message>
     <message>
         <source>Rec.709 Mode</source>
-        <translation>Rec.709 模式</translation>
+        <translation>Rec.709&#xa0;模式</translation>
     </message>
     <message>
         <source>Recommended to set [Expand These Monitors] in the System-&gt; Screen when operating multiple monitors.</source>
@@ -2985,7 +2985,7 @@
     </message>
     <message>
         <source>Red, green and blue belong to User1, User2 and User3 of Color Temperature.</source>
-        <translation>紅、綠、藍只用於色溫的「使用者 1」「使用者 2」「使用者 3」。</translation>
+        <translation>紅、綠、藍只用於色溫的「使用者&#xa0;1」「使用者&#xa0;2」「使用者&#xa0;3」。</translation>
     </message>
     <message>
         <source>Redo</source>
@@ -3069,7 +3069,7 @@
     </message>
     <message>
         <source>Row %1, cell %2: %3</source>
-        <translation>第 %1 列第 %2 格：%3</translation>
+        <translation>第&#xa0;%1&#xa0;列第&#xa0;%2&#xa0;格：%3</translation>
     </message>
     <message>
         <source>Ruler</source>
@@ -3101,7 +3101,7 @@
     </message>
     <message>
         <source>Saturation follows Color Enchance while that is above 0.</source>
-        <translation>色彩增強大於 0 時，飽和度由它決定。</translation>
+        <translation>色彩增強大於&#xa0;0&#xa0;時，飽和度由它決定。</translation>
     </message>
     <message>
         <source>Save</source>
@@ -3389,7 +3389,7 @@
     </message>
     <message>
         <source>Sound = what this computer plays, Screen = the picture&apos;s edges. Higher levels follow smaller changes.</source>
-        <translation>聲音 = 本機播放的聲音，螢幕 = 畫面邊緣的顏色。等級越高，跟隨的變化越細微。</translation>
+        <translation>聲音&#xa0;= 本機播放的聲音，螢幕&#xa0;= 畫面邊緣的顏色。等級越高，跟隨的變化越細微。</translation>
     </message>
     <message>
         <source>Sound output</source>
@@ -3461,7 +3461,7 @@
     </message>
     <message>
         <source>Super Resolution: makes blurred or enlarged pictures look sharper. 0 = off.</source>
-        <translation>超解析度：讓模糊或放大的畫面更清晰。0 為關閉。</translation>
+        <translation>超解析度：讓模糊或放大的畫面更清晰。0&#xa0;為關閉。</translation>
     </message>
     <message>
         <source>Switch off</source>
@@ -3501,7 +3501,7 @@
     </message>
     <message>
         <source>Takes blue out of the picture, which is easier on the eyes. 0 = off.</source>
-        <translation>減少畫面中的藍光，讓眼睛更舒適。0 為關閉。</translation>
+        <translation>減少畫面中的藍光，讓眼睛更舒適。0&#xa0;為關閉。</translation>
     </message>
     <message>
         <source>Tapering</source>
@@ -3561,7 +3561,7 @@
     </message>
     <message>
         <source>The accessory takes %1 of the %2 frames.</source>
-        <translation>共 %2 個畫格，配件只接收前 %1 個。</translation>
+        <translation>共&#xa0;%2&#xa0;個畫格，配件只接收前&#xa0;%1&#xa0;個。</translation>
     </message>
     <message>
         <source>The accessory takes no report until the button is released</source>
@@ -3597,7 +3597,7 @@
     </message>
     <message>
         <source>The colour of the belt along the lower edge. Auto = runs through all colours.</source>
-        <translation>底邊燈帶的顏色。自動 = 依序變換所有顏色。</translation>
+        <translation>底邊燈帶的顏色。自動&#xa0;= 依序變換所有顏色。</translation>
     </message>
     <message>
         <source>The colour of the belt at the back of the foot.</source>
@@ -3617,7 +3617,7 @@
     </message>
     <message>
         <source>The colour of the steady light and of the effects. Auto = runs through all colours.</source>
-        <translation>恆亮與燈效的顏色。自動 = 依序變換所有顏色。</translation>
+        <translation>「一般」和「燈效」模式的顏色。自動&#xa0;= 依序變換所有顏色。</translation>
     </message>
     <message>
         <source>The colours of the cinema.</source>
@@ -3653,7 +3653,7 @@
     </message>
     <message>
         <source>The file holds %1 frames; the first %2 were taken.</source>
-        <translation>檔案中有 %1 個畫格，只匯入了前 %2 個。</translation>
+        <translation>檔案中有&#xa0;%1&#xa0;個畫格，只匯入了前&#xa0;%2&#xa0;個。</translation>
     </message>
     <message>
         <source>The file holds no whole frame.</source>
@@ -3721,7 +3721,7 @@
     </message>
     <message>
         <source>The lighting goes out by itself after this time. Close = it stays on.</source>
-        <translation>燈光在此時間後自動熄滅。關閉 = 一直亮著。</translation>
+        <translation>燈光在此時間後自動熄滅。關閉&#xa0;= 一直亮著。</translation>
     </message>
     <message>
         <source>The lighting stays on while the monitor sleeps, as a light for the night.</source>
@@ -3833,11 +3833,11 @@
     </message>
     <message>
         <source>The monitor uses less power. Close = off, Level2 saves the most.</source>
-        <translation>讓顯示器更省電。「等級 2」最省電。</translation>
+        <translation>讓顯示器更省電。「等級&#xa0;2」最省電。</translation>
     </message>
     <message>
         <source>The next care is due after %1 more hours of use.</source>
-        <translation>再使用 %1 小時後需要下一次保養。</translation>
+        <translation>再使用&#xa0;%1&#xa0;小時後需要下一次保養。</translation>
     </message>
     <message>
         <source>The next client is not initialised</source>
@@ -3853,7 +3853,7 @@
     </message>
     <message>
         <source>The page %1 could not be opened.</source>
-        <translation>無法開啟網頁 %1。</translation>
+        <translation>無法開啟網頁&#xa0;%1。</translation>
     </message>
     <message>
         <source>The picture as the factory set it.</source>
@@ -3861,7 +3861,7 @@
     </message>
     <message>
         <source>The picture goes black for about 6 minutes, and the monitor must stay on. Begin now?</source>
-        <translation>畫面會變黑約 6 分鐘，其間請勿關閉顯示器。現在開始嗎？</translation>
+        <translation>畫面會變黑約&#xa0;6&#xa0;分鐘，其間請勿關閉顯示器。現在開始嗎？</translation>
     </message>
     <message>
         <source>The picture stays where it is.</source>
@@ -3949,11 +3949,11 @@
     </message>
     <message>
         <source>The text is too long: %1 of its %2 characters fit.</source>
-        <translation>文字過長：共 %2 個字元，只容得下前 %1 個。</translation>
+        <translation>文字過長：共&#xa0;%2&#xa0;個字元，只容得下前&#xa0;%1&#xa0;個。</translation>
     </message>
     <message>
         <source>The upgrade program %1 could not be started.</source>
-        <translation>無法啟動升級應用程式 %1。</translation>
+        <translation>無法啟動升級應用程式&#xa0;%1。</translation>
     </message>
     <message>
         <source>The upgrade program is running already.</source>
@@ -4105,7 +4105,7 @@
     </message>
     <message>
         <source>Today&apos;s automatic changes of this monitor are used up (%1). They go on tomorrow; what you set yourself is not limited.</source>
-        <translation>今天對此顯示器的自動變更次數已用完（%1 次），明天繼續。您自己的設定不受限制。</translation>
+        <translation>今天對此顯示器的自動變更次數已用完（%1&#xa0;次），明天繼續。您自己的設定不受限制。</translation>
     </message>
     <message>
         <source>Tool Settings</source>
@@ -4197,15 +4197,15 @@
     </message>
     <message>
         <source>Ull-Level1</source>
-        <translation>Ull 等級 1</translation>
+        <translation>Ull 等級&#xa0;1</translation>
     </message>
     <message>
         <source>Ull-Level2</source>
-        <translation>Ull 等級 2</translation>
+        <translation>Ull 等級&#xa0;2</translation>
     </message>
     <message>
         <source>Ull-Level3</source>
-        <translation>Ull 等級 3</translation>
+        <translation>Ull 等級&#xa0;3</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -4237,27 +4237,27 @@
     </message>
     <message>
         <source>User1</source>
-        <translation>使用者 1</translation>
+        <translation>使用者&#xa0;1</translation>
     </message>
     <message>
         <source>User1 R G B</source>
-        <translation>使用者 1 R G B</translation>
+        <translation>使用者&#xa0;1 R G B</translation>
     </message>
     <message>
         <source>User2</source>
-        <translation>使用者 2</translation>
+        <translation>使用者&#xa0;2</translation>
     </message>
     <message>
         <source>User2 R G B</source>
-        <translation>使用者 2 R G B</translation>
+        <translation>使用者&#xa0;2 R G B</translation>
     </message>
     <message>
         <source>User3</source>
-        <translation>使用者 3</translation>
+        <translation>使用者&#xa0;3</translation>
     </message>
     <message>
         <source>User3 R G B</source>
-        <translation>使用者 3 R G B</translation>
+        <translation>使用者&#xa0;3 R G B</translation>
     </message>
     <message>
         <source>UserB</source>
@@ -4345,7 +4345,7 @@
     </message>
     <message>
         <source>What is asked and answered is recorded in %1</source>
-        <translation>請求與回應正在記錄到 %1</translation>
+        <translation>要求與回應正在記錄到&#xa0;%1</translation>
     </message>
     <message>
         <source>What it looks like</source>
@@ -4461,7 +4461,7 @@
     </message>
     <message>
         <source>Zone %1 of %2</source>
-        <translation>區域 %1/%2</translation>
+        <translation>區域&#xa0;%1/%2</translation>
     </message>
     <message>
         <source>Zone before</source>
@@ -4469,7 +4469,7 @@
     </message>
     <message>
         <source>Zones for %1</source>
-        <translation>%1 的區域</translation>
+        <translation>%1&#xa0;的區域</translation>
     </message>
     <message>
         <source>Zoom</source>
@@ -4493,7 +4493,7 @@
     </message>
     <message>
         <source>firmware %1</source>
-        <translation>韌體 %1</translation>
+        <translation>韌體&#xa0;%1</translation>
     </message>
     <message>
         <source>garbled</source>
@@ -4517,15 +4517,15 @@
     </message>
     <message>
         <source>made %1</source>
-        <translation>%1 年製造</translation>
+        <translation>%1&#xa0;年製造</translation>
     </message>
     <message>
         <source>made %1, week %2</source>
-        <translation>%1 年第 %2 週製造</translation>
+        <translation>%1&#xa0;年第&#xa0;%2&#xa0;週製造</translation>
     </message>
     <message>
         <source>mode %1</source>
-        <translation>模式 %1</translation>
+        <translation>模式&#xa0;%1</translation>
     </message>
     <message>
         <source>no answer</source>
@@ -4541,7 +4541,7 @@
     </message>
     <message>
         <source>not a WAV file of 16-bit or floating-point samples</source>
-        <translation>不是 16 位元或浮點取樣的 WAV 檔案</translation>
+        <translation>不是&#xa0;16&#xa0;位元或浮點取樣的 WAV 檔案</translation>
     </message>
     <message>
         <source>nothing</source>
@@ -4549,7 +4549,7 @@
     </message>
     <message>
         <source>nothing asked yet</source>
-        <translation>尚未請求</translation>
+        <translation>尚無要求</translation>
     </message>
     <message>
         <source>now</source>
@@ -4585,7 +4585,7 @@
     </message>
     <message>
         <source>sRGB primaries with gamma 2.2.</source>
-        <translation>sRGB 三原色，伽瑪 2.2。</translation>
+        <translation>sRGB 三原色，伽瑪&#xa0;2.2。</translation>
     </message>
     <message>
         <source>sRGB(2.2)</source>
@@ -4597,11 +4597,11 @@
     </message>
     <message>
         <source>serial %1</source>
-        <translation>序號 %1</translation>
+        <translation>序號&#xa0;%1</translation>
     </message>
     <message>
         <source>slowest %1</source>
-        <translation>最慢 %1</translation>
+        <translation>最慢&#xa0;%1</translation>
     </message>
     <message>
         <source>text</source>
@@ -4625,15 +4625,15 @@
     </message>
     <message>
         <source>x1.5</source>
-        <translation>1.5 倍</translation>
+        <translation>1.5&#xa0;倍</translation>
     </message>
     <message>
         <source>x2</source>
-        <translation>2 倍</translation>
+        <translation>2&#xa0;倍</translation>
     </message>
     <message>
         <source>x4</source>
-        <translation>4 倍</translation>
+        <translation>4&#xa0;倍</translation>
     </message>
 </context>
 <context>
@@ -4726,7 +4726,7 @@
     <message>
         <source>Cursor at %1, %2
 Press ESC to cancel</source>
-        <translation>游標位於 %1, %2
+        <translation>游標位於&#xa0;%1, %2
 按 Esc 取消</translation>
     </message>
     <message>
@@ -4759,7 +4759,7 @@ Please verify the correct file name was given.</source>
     <message>
         <source>%1 already exists.
 Do you want to replace it?</source>
-        <translation>%1 已存在。
+        <translation>%1&#xa0;已存在。
 要取代它嗎？</translation>
     </message>
     <message>

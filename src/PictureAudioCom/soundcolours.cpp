@@ -7,7 +7,7 @@
 namespace {
 
 constexpr double kLastHue = 280.0 / 360; // violet: beyond it the hues come back to red
-constexpr double kDarkest = 0.2;
+constexpr double kDarkestShare = 0.2;
 
 /// The colour of some bars: their middle tone, as bright as they are full.
 QRgb colourOf(const QList<int> &heights, qsizetype first, qsizetype last, int highest)
@@ -23,7 +23,7 @@ QRgb colourOf(const QList<int> &heights, qsizetype first, qsizetype last, int hi
     const double tone = moment / sum / static_cast<double>(std::max<qsizetype>(heights.size() - 1, 1));
     const double fill = sum / static_cast<double>(last - first);
     return QColor::fromHsvF(static_cast<float>(tone * kLastHue), 1.0f,
-                            static_cast<float>(kDarkest + (1 - kDarkest) * fill))
+                            static_cast<float>(kDarkestShare + (1 - kDarkestShare) * fill))
         .rgb();
 }
 

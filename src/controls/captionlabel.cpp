@@ -8,6 +8,7 @@
 #include <QStyleOption>
 
 #include "controls/captions.h"
+#include "controls/dress.h"
 #include "controls/palette.h"
 #include "controls/tooltips.h"
 
@@ -42,7 +43,7 @@ void CaptionLabel::setCaptionSize(int pixels)
 
 void CaptionLabel::dressForRow()
 {
-    setStyleSheet(QStringLiteral("QLabel { color: #FFFFFF; }QLabel:disabled { color: #000; }"));
+    dressText(this, {.colour = 0xffffffff, .disabled = 0xff000000});
     m_isForRow = true;
 }
 

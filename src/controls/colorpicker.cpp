@@ -7,13 +7,13 @@
 #include "controls/pictures.h"
 
 namespace {
-constexpr QSize kSize(56, 34);
+constexpr QSize kPickerSize(56, 34);
 constexpr int kFrameWidth = 5;
 } // namespace
 
 ColorPicker::ColorPicker(QWidget *parent) : PaintedControl(parent)
 {
-    setFixedSize(kSize);
+    setFixedSize(kPickerSize);
     m_swatchRect = rect().adjusted(kFrameWidth, kFrameWidth, -kFrameWidth, -kFrameWidth);
     setAccessibleDescription(m_color.name());
 }

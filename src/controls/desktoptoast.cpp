@@ -11,9 +11,10 @@
 #include "controls/captionlabel.h"
 #include "controls/palette.h"
 #include "controls/sharedfonts.h"
+#include "controls/wrappedlabel.h"
 
 static constexpr int kDistance = 24; // from the edges of the screen
-static constexpr int kRadius = 12;
+static constexpr int kToastRadius = 12;
 static constexpr int kWidth = 320;
 static constexpr int kSide = 20;
 static constexpr int kEdge = 14;    // above the title
@@ -28,7 +29,7 @@ DesktopToast::DesktopToast(QWidget *parent)
 
 DesktopToast::DesktopToast(QWidget *parent, Qt::WindowFlags flags)
     : QWidget(parent, flags), m_title(new CaptionLabel(QString(), QFontInfo(noteFont).pixelSize(), this)),
-      m_text(new QLabel(this))
+      m_text(new WrappedLabel(this))
 {
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_TranslucentBackground);
@@ -84,7 +85,7 @@ void DesktopToast::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QColor(Palette::kRim));
     painter.setBrush(Palette::translucent(Palette::kFloating, 240));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kToastRadius, kToastRadius);
     if (m_level)
         drawBar(painter);
 }

@@ -107,3 +107,17 @@ void dressDialog(QDialog *dialog)
 {
     dialog->setStyleSheet(Palette::styled(kDialogStyle));
 }
+
+void dressText(QWidget *label, const TextLook &look)
+{
+    QPalette palette = label->palette();
+    palette.setColor(QPalette::All, QPalette::WindowText, look.colour);
+    if (look.disabled)
+        palette.setColor(QPalette::Disabled, QPalette::WindowText, look.disabled);
+    label->setPalette(palette);
+    if (look.pixels == 0)
+        return;
+    QFont font = label->font();
+    font.setPixelSize(look.pixels);
+    label->setFont(font);
+}

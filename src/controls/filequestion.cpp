@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr QSize kSize(860, 540);
+constexpr QSize kQuestionSize(860, 540);
 constexpr int kPlacesWidth = 160;
 
 QIcon fileIcon(const char *name)
@@ -55,9 +55,9 @@ void dress(QFileDialog &dialog)
     }
     for (QPushButton *button : dialog.findChildren<QPushButton *>())
         button->setIcon({});
-    dialog.resize(kSize);
+    dialog.resize(kQuestionSize);
     if (auto *splitter = dialog.findChild<QSplitter *>())
-        splitter->setSizes({kPlacesWidth, kSize.width() - kPlacesWidth});
+        splitter->setSizes({kPlacesWidth, kQuestionSize.width() - kPlacesWidth});
     if (auto *tree = dialog.findChild<QTreeView *>()) {
         tree->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
         tree->header()->setSectionResizeMode(0, QHeaderView::Stretch);

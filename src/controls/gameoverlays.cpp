@@ -23,8 +23,8 @@ constexpr Bar kRing[] = {{-4, -10, 8, 2}, {-4, 8, 8, 2}, {-10, -4, 2, 8}, {8, -4
                          {4, 6, 4, 2},    {6, 4, 2, 4},  {-2, -2, 4, 4}};
 constexpr Bar kCaret[] = {{-1, -2, 2, 4}, {-3, 1, 2, 4}, {1, 1, 2, 4},   {-5, 4, 2, 4}, {3, 4, 2, 4},
                           {-7, 7, 2, 4},  {5, 7, 2, 4},  {-9, 10, 2, 4}, {7, 10, 2, 4}};
-constexpr Bar kDot[] = {{-3, -2, 6, 4}};
-constexpr std::span<const Bar> kShapes[] = {kPlus, kOpenPlus, kDottedPlus, kRing, kCaret, kDot};
+constexpr Bar kShotDot[] = {{-3, -2, 6, 4}};
+constexpr std::span<const Bar> kShapes[] = {kPlus, kOpenPlus, kDottedPlus, kRing, kCaret, kShotDot};
 
 // The last one is no colour: it turns what lies behind into its opposite.
 constexpr QRgb kColours[] = {0xffff5a5a, 0xffffd84a, 0xff4bff7d, 0xff45e6ff, 0xff4b7dff, 0xffbf4bff, 0xffffffff};

@@ -9,14 +9,14 @@ namespace {
 constexpr QSize kTileSize(90, 82);
 constexpr QRect kIconRect(33, 18, 24, 24);
 constexpr QRect kCaptionRect(5, 50, 80, 24);
-constexpr int kCaptionPixels = 14;
-const QColor kCheckedText = Palette::kMint;
-const QColor kNormalText = Palette::kDim;
-const QColor kDisabledText = Palette::kDisabled;
+constexpr int kTilePixels = 14;
+const QColor kTileChecked = Palette::kMint;
+const QColor kTileNormal = Palette::kDim;
+const QColor kTileDisabled = Palette::kDisabled;
 } // namespace
 
 IconTextButton::IconTextButton(const QString &iconBase, const QString &caption, QWidget *parent)
-    : CaptionedControl(kCaptionPixels, parent),
+    : CaptionedControl(kTilePixels, parent),
       m_normalPicture(Pictures::kRoot + QStringLiteral("img/icontext/normal.png")),
       m_checkedPicture(Pictures::kRoot + QStringLiteral("img/icontext/checked.png")), m_iconBase(iconBase)
 {
@@ -42,7 +42,7 @@ void IconTextButton::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     drawTile(painter);
-    const QColor text = !isEnabled() ? kDisabledText : isChecked() ? kCheckedText : kNormalText;
+    const QColor text = !isEnabled() ? kTileDisabled : isChecked() ? kTileChecked : kTileNormal;
     drawIcon(painter, text);
     drawCaption(painter, kCaptionRect, Qt::AlignCenter, text);
     drawFocus(painter, QRect(QPoint(), kTileSize), 10.0);
@@ -54,7 +54,7 @@ void IconTextButton::drawTile(QPainter &painter) const
     const bool lit = isEnabled() && (isChecked() || isHovered());
     if (Pictures::draw(painter, tile, lit ? m_checkedPicture : m_normalPicture))
         return;
-    painter.setPen(lit ? kCheckedText : QColor(Palette::kRim));
+    painter.setPen(lit ? kTileChecked : QColor(Palette::kRim));
     painter.setBrush(lit ? QColor(Palette::kLit) : QColor(Palette::kTip));
     painter.drawRoundedRect(QRectF(tile).adjusted(0.5, 0.5, -0.5, -0.5), 10, 10);
 }

@@ -6,35 +6,35 @@
 #include "controls/pictures.h"
 
 namespace {
-constexpr QSize kSize(208, 46);
+constexpr QSize kEntrySize(208, 46);
 constexpr int kLeastHeight = 34; // in a bar of many entries on a small screen
 constexpr int kIconLeft = 19;
 constexpr int kIconSide = 24;
 constexpr int kCaptionLeft = 51;
 constexpr int kCaptionRightMargin = 6;
-constexpr int kCaptionPixels = 19;
-const QColor kNormalText = Palette::kSoft;
-const QColor kCheckedText = Palette::kText;
-const QColor kDisabledText = Palette::kDisabled;
+constexpr int kEntryPixels = 19;
+const QColor kEntryNormal = Palette::kSoft;
+const QColor kEntryChecked = Palette::kText;
+const QColor kEntryDisabled = Palette::kDisabled;
 } // namespace
 
 LeftTabButton::LeftTabButton(const QString &iconBase, const QString &caption, QWidget *parent)
-    : CaptionedControl(kCaptionPixels, parent), m_iconBase(iconBase)
+    : CaptionedControl(kEntryPixels, parent), m_iconBase(iconBase)
 {
-    setFixedWidth(kSize.width());
-    setMaximumHeight(kSize.height());
+    setFixedWidth(kEntrySize.width());
+    setMaximumHeight(kEntrySize.height());
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Maximum);
     setCaption(caption);
 }
 
 QSize LeftTabButton::sizeHint() const
 {
-    return kSize;
+    return kEntrySize;
 }
 
 QSize LeftTabButton::minimumSizeHint() const
 {
-    return {kSize.width(), kLeastHeight};
+    return {kEntrySize.width(), kLeastHeight};
 }
 
 void LeftTabButton::setChecked(bool checked)
@@ -60,7 +60,7 @@ void LeftTabButton::setLock(const QString &reason)
 
 int LeftTabButton::captionSize() const
 {
-    return captionSizeWithin(kSize.width() - kCaptionLeft - kCaptionRightMargin);
+    return captionSizeWithin(kEntrySize.width() - kCaptionLeft - kCaptionRightMargin);
 }
 
 void LeftTabButton::press()
@@ -78,7 +78,7 @@ void LeftTabButton::paintEvent(QPaintEvent *)
     drawBackground(painter);
     drawIcon(painter);
     const bool usable = isEnabled() && m_selectable;
-    const QColor color = !usable ? kDisabledText : isChecked() ? kCheckedText : kNormalText;
+    const QColor color = !usable ? kEntryDisabled : isChecked() ? kEntryChecked : kEntryNormal;
     const QRect textRect = rect().adjusted(kCaptionLeft, 0, -kCaptionRightMargin, 0);
     drawCaption(painter, textRect, Qt::AlignLeft | Qt::AlignVCenter, color);
     drawFocus(painter, rect(), 8.0);
@@ -107,7 +107,7 @@ void LeftTabButton::drawIcon(QPainter &painter) const
     if (Pictures::draw(painter, icon, Pictures::ofState(m_iconBase, state)) ||
         Pictures::draw(painter, icon, Pictures::ofState(m_iconBase)))
         return;
-    painter.setPen(QPen(usable ? kNormalText : kDisabledText, 1.6));
+    painter.setPen(QPen(usable ? kEntryNormal : kEntryDisabled, 1.6));
     painter.setBrush(Qt::NoBrush);
     painter.drawEllipse(icon.adjusted(4, 4, -4, -4));
 }

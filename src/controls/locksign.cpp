@@ -6,8 +6,8 @@
 
 namespace {
 
-const QColor kDim = Palette::kDim;
-const QColor kMint = Palette::kMint;
+const QColor kSignDim = Palette::kDim;
+const QColor kPointedAt = Palette::kMint;
 
 } // namespace
 
@@ -28,7 +28,7 @@ void LockSign::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QColor color = isHovered() || hasFocus() ? kMint : kDim;
+    const QColor color = isHovered() || hasFocus() ? kPointedAt : kSignDim;
     const QPointF centre = QRectF(rect()).center();
     painter.setPen(QPen(color, 1.5));
     painter.setBrush(Qt::NoBrush);

@@ -2,15 +2,17 @@
 
 #include <algorithm>
 
+#include <QEvent>
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
 
 #include "controls/pictures.h"
+#include "controls/wrappedlabel.h"
 
 namespace {
 
-const char *const kStyle =
+const char *const kBoxStyle =
     "QMessageBox {background-color: #101611;}QLabel{ color: white;}"
     "QDialogButtonBox {qproperty-centerButtons: false;alignment: bottom right;}"
     "QMessageBox QPushButton { border: 1px solid #8f8f91; border-radius: 4px; padding: 4px 12px; color: white;}";
@@ -28,6 +30,28 @@ void drawSign(QMessageBox &box)
         label->setPixmap(sign);
 }
 
+/// Keeps the lines of the toolkit's own label about as long as each other where the last one were very short.
+class EvenLines : public QObject
+{
+public:
+    explicit EvenLines(QLabel *label) : QObject(label), m_label(*label) { label->installEventFilter(this); }
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Resize && m_label.wordWrap()) {
+            const QMargins margins = m_label.contentsMargins();
+            const int room = m_label.width() - margins.left() - std::max(m_label.indent(), 0);
+            const int rest = std::max(room - evenWidth(m_label.text(), m_label.font(), room) - 1, 0);
+            m_label.setContentsMargins(margins.left(), margins.top(), rest, margins.bottom());
+        }
+        return false;
+    }
+
+private:
+    QLabel &m_label;
+};
+
 /// A box in the program's look. It belongs to its parent, which may go while it is open.
 class Box
 {
@@ -35,9 +59,11 @@ public:
     Box(QMessageBox::Icon icon, const QString &title, const QString &text, QWidget *parent)
         : m_box(new QMessageBox(icon, title, text, QMessageBox::NoButton, parent))
     {
-        m_box->setStyleSheet(QLatin1String(kStyle));
+        m_box->setStyleSheet(QLatin1String(kBoxStyle));
         drawSign(*m_box);
         m_box->setTextFormat(Qt::PlainText); // it may name a file of any name
+        if (auto *label = m_box->findChild<QLabel *>(QStringLiteral("qt_msgbox_label")))
+            new EvenLines(label);
     }
     ~Box() { delete m_box; }
     Q_DISABLE_COPY_MOVE(Box)

@@ -6,17 +6,24 @@
 #include <QPushButton>
 
 #include "controls/announcer.h"
+#include "controls/dress.h"
 #include "controls/metrics.h"
 #include "controls/palette.h"
 #include "controls/sharedfonts.h"
+#include "controls/wrappedlabel.h"
 
 namespace {
 
-constexpr qreal kRadius = 8;
+constexpr qreal kStripRadius = 8;
 constexpr int kSign = 18; // the circle before the text
 constexpr int kSignLeft = 13;
 constexpr int kTextLeft = 40;
 constexpr int kBelow = metrics::kGap; // which comes and goes with the strip
+constexpr char16_t kActionStyle[] =
+    u"QPushButton { color: @mint; background: transparent; border: 1px solid transparent; border-radius: 6px;"
+    " padding: 3px 12px; outline: none; }"
+    "QPushButton:hover { background-color: rgba(123, 250, 219, 26); }"
+    "QPushButton:focus { border-color: @mint; }";
 
 struct Colors
 {
@@ -34,7 +41,8 @@ Colors colorsOf(MessageStrip::Tone tone)
 
 } // namespace
 
-MessageStrip::MessageStrip(QWidget *parent) : QFrame(parent), m_text(new QLabel(this)), m_button(new QPushButton(this))
+MessageStrip::MessageStrip(QWidget *parent)
+    : QFrame(parent), m_text(new WrappedLabel(this)), m_button(new QPushButton(this))
 {
     setObjectName(QStringLiteral("strip"));
     setMinimumHeight(metrics::kControlHeight + kBelow);
@@ -45,6 +53,7 @@ MessageStrip::MessageStrip(QWidget *parent) : QFrame(parent), m_text(new QLabel(
     m_button->setObjectName(QStringLiteral("stripAction"));
     m_button->setFocusPolicy(Qt::StrongFocus);
     m_button->setFont(noteFont);
+    m_button->setStyleSheet(Palette::styled(kActionStyle));
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(kTextLeft, 4, metrics::kGap, 4 + kBelow);
     row->setSpacing(metrics::kGap);
@@ -58,7 +67,7 @@ void MessageStrip::say(const QString &text, Tone tone, const QString &action)
 {
     const bool isNew = text != m_text->text() || isHidden();
     m_tone = tone;
-    m_text->setStyleSheet(QStringLiteral("color: %1;").arg(colorsOf(tone).text.name()));
+    dressText(m_text, {colorsOf(tone).text.rgb()});
     m_text->setText(text);
     m_button->setText(action);
     m_button->setVisible(!action.isEmpty());
@@ -82,7 +91,7 @@ void MessageStrip::paintEvent(QPaintEvent *)
     painter.setPen(Qt::NoPen);
     painter.setBrush(colors.ground);
     const QRect strip = rect().adjusted(0, 0, 0, -kBelow);
-    painter.drawRoundedRect(strip, kRadius, kRadius);
+    painter.drawRoundedRect(strip, kStripRadius, kStripRadius);
     const QRectF sign(kSignLeft, (strip.height() - kSign) / 2.0, kSign, kSign);
     painter.setPen(QPen(colors.sign, 1.5));
     painter.setBrush(Qt::NoBrush);

@@ -4,6 +4,7 @@
 #include <QLinearGradient>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QSignalBlocker>
 #include <QStyle>
 #include <QWheelEvent>
 
@@ -16,7 +17,7 @@ constexpr int kHandle = 2 * NoWheelSlider::kGrooveInset;
 constexpr int kGroove = 4;
 constexpr int kHeight = 26;
 const QColor kMintDark = Palette::kDeep;
-const QColor kMint = Palette::kMint;
+const QColor kFilled = Palette::kMint;
 const QColor kInside = Palette::kInk;
 
 bool isStepKey(int key)
@@ -166,6 +167,34 @@ void NoWheelSlider::keyReleaseEvent(QKeyEvent *event)
     setSliderDown(false);
 }
 
+/// The toolkit's slider is released as it is disabled, and goes on following the mouse while it is hidden.
+void NoWheelSlider::loseHold()
+{
+    if (!isSliderDown())
+        return;
+    m_heldKey = 0;
+    {
+        const QSignalBlocker quiet(this);
+        setSliderDown(false);
+    }
+    Q_EMIT holdLost();
+}
+
+void NoWheelSlider::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::EnabledChange && !isEnabled())
+        loseHold();
+    QSlider::changeEvent(event);
+}
+
+/// A window that is minimised comes back, and the hand is on it still.
+void NoWheelSlider::hideEvent(QHideEvent *event)
+{
+    if (!event->spontaneous())
+        loseHold();
+    QSlider::hideEvent(event);
+}
+
 void NoWheelSlider::focusInEvent(QFocusEvent *event)
 {
     m_focusRing.follow(event);
@@ -206,7 +235,7 @@ void NoWheelSlider::drawGroove(QPainter &painter) const
     filled.setRight(handleCentre().x());
     QLinearGradient mint(filled.topLeft(), filled.topRight());
     mint.setColorAt(0.0, kMintDark);
-    mint.setColorAt(1.0, kMint);
+    mint.setColorAt(1.0, kFilled);
     painter.setBrush(!isEnabled()         ? QBrush(QColor(Palette::kRestingMark))
                      : m_accent.isValid() ? QBrush(m_accent)
                                           : QBrush(mint));

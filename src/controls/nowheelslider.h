@@ -7,7 +7,8 @@
 
 /// A painted horizontal slider that leaves the mouse wheel to the page around it.
 /// A click on the groove jumps there. isSliderDown() is true while the user changes the value, by mouse or by
-/// keyboard: from sliderPressed() to sliderReleased(), which for a key is when it is let go.
+/// keyboard: from sliderPressed() to sliderReleased(), which for a key is when it is let go. One that is locked or goes
+/// out of sight meanwhile is not released: its hold is lost.
 class NoWheelSlider : public QSlider
 {
     Q_OBJECT
@@ -36,7 +37,13 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
+Q_SIGNALS:
+    /// Whoever holds it cannot set it any more; where it stands by now was not wanted to the end.
+    void holdLost();
+
 protected:
+    void changeEvent(QEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
@@ -48,6 +55,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void loseHold();
     QRect pathRect() const;
     QRect grooveRect() const;
     QPoint handleCentre() const;

@@ -28,6 +28,12 @@ QPixmap load(const QString &path, qreal ratio)
     return pixmap;
 }
 
+void forget(const QString &path)
+{
+    QPixmapCache::remove(path);
+    QPixmapCache::remove(doubledPath(path));
+}
+
 bool draw(QPainter &painter, const QRect &rect, const QString &path)
 {
     const QPixmap pixmap = load(path, painter.device()->devicePixelRatioF());

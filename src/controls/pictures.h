@@ -13,6 +13,9 @@ inline const QString kRoot = QStringLiteral(":/resource/");
 /// Above 1.0 the "@2x" file is taken if there is one. The result is null when no such picture exists.
 QPixmap load(const QString &path, qreal ratio);
 
+/// Gives the memory of a large picture back that is out of sight; it is loaded anew when it is wanted again.
+void forget(const QString &path);
+
 /// Fills @p rect with the picture at @p path. Returns false, with nothing drawn, when no such picture exists.
 bool draw(QPainter &painter, const QRect &rect, const QString &path);
 

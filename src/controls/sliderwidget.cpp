@@ -7,14 +7,15 @@
 
 #include "controls/captionlabel.h"
 #include "controls/dash.h"
+#include "controls/dress.h"
 
 namespace {
 constexpr int kCaptionPixels = 15;
 constexpr int kValueWidth = 40;
 constexpr int kSpacing = 8;
-constexpr int kDot = 8;
+constexpr int kColourDot = 8;
 constexpr qreal kDimmed = 0.35;
-const QString kValueStyle = QStringLiteral("QLabel { color: #FFFFFF; }QLabel:disabled { color: #444; }");
+constexpr TextLook kValueLook{.colour = 0xffffffff, .pixels = kCaptionPixels, .disabled = 0xff444444};
 } // namespace
 
 SliderWidget::SliderWidget(const QString &name, int minimum, int maximum, QWidget *parent)
@@ -26,10 +27,7 @@ SliderWidget::SliderWidget(const QString &name, int minimum, int maximum, QWidge
     m_captionLabel->setBuddy(m_slider);
     m_slider->setObjectName(name + QStringLiteral("_slider"));
     m_slider->setRange(minimum, maximum);
-    QFont font = m_valueLabel->font();
-    font.setPixelSize(kCaptionPixels);
-    m_valueLabel->setFont(font);
-    m_valueLabel->setStyleSheet(kValueStyle);
+    dressText(m_valueLabel, kValueLook);
     m_valueLabel->setFixedWidth(kValueWidth);
     m_valueLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 
@@ -45,6 +43,7 @@ SliderWidget::SliderWidget(const QString &name, int minimum, int maximum, QWidge
 
     connect(m_slider, &QSlider::valueChanged, this, &SliderWidget::onValueChanged);
     connect(m_slider, &QSlider::sliderReleased, this, &SliderWidget::onSliderReleased);
+    connect(m_slider, &NoWheelSlider::holdLost, this, [this] { Q_EMIT holdLost(this->name()); });
 }
 
 QString SliderWidget::caption() const
@@ -81,7 +80,7 @@ void SliderWidget::setAccent(const QColor &accent)
 void SliderWidget::showAccent()
 {
     m_showsAccent = true;
-    m_captionLabel->setContentsMargins(kDot + kSpacing, 0, 0, 0);
+    m_captionLabel->setContentsMargins(kColourDot + kSpacing, 0, 0, 0);
     update();
 }
 
@@ -106,7 +105,7 @@ void SliderWidget::paintEvent(QPaintEvent *)
     painter.setOpacity(isEnabled() ? 1 : kDimmed);
     painter.setPen(Qt::NoPen);
     painter.setBrush(m_accent);
-    painter.drawEllipse(0, (height() - kDot) / 2, kDot, kDot);
+    painter.drawEllipse(0, (height() - kColourDot) / 2, kColourDot, kColourDot);
 }
 
 void SliderWidget::setValue(int value)

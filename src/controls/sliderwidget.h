@@ -70,6 +70,9 @@ Q_SIGNALS:
     /// without a value that is taken hold of and not moved tells a step as well: where it is, is wanted now.
     void sliderValueChanged(QString sliderName, int value, bool bReleased);
 
+    /// See NoWheelSlider::holdLost.
+    void holdLost(const QString &name);
+
 protected:
     void resizeEvent(QResizeEvent *event) override;
     void paintEvent(QPaintEvent *event) override;

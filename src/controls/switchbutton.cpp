@@ -6,17 +6,17 @@
 #include "controls/pictures.h"
 
 namespace {
-constexpr QSize kSize(120, 38);
+constexpr QSize kSwitchSize(120, 38);
 constexpr int kTextPixels = 18;
 constexpr int kTextMargin = 6;
 const QColor kActiveText(0x7f, 0xf7, 0xd4);
 const QColor kOtherText = Palette::kError;
-const QColor kDisabledText = Palette::kDisabled;
+const QColor kSwitchDisabled = Palette::kDisabled;
 } // namespace
 
 SwitchButton::SwitchButton(QWidget *parent) : CheckedControl(parent), m_leftText(kTextPixels), m_rightText(kTextPixels)
 {
-    setFixedSize(kSize);
+    setFixedSize(kSwitchSize);
     updateTexts();
 }
 
@@ -66,8 +66,8 @@ void SwitchButton::paintEvent(QPaintEvent *)
     drawBackground(painter);
     const int half = width() / 2;
     const QRect left = QRect(0, 0, half, height()).adjusted(kTextMargin, 0, -kTextMargin, 0);
-    const QColor active = isEnabled() ? kActiveText : kDisabledText;
-    const QColor other = isEnabled() ? kOtherText : kDisabledText;
+    const QColor active = isEnabled() ? kActiveText : kSwitchDisabled;
+    const QColor other = isEnabled() ? kOtherText : kSwitchDisabled;
     m_leftText.draw(painter, left, Qt::AlignCenter, isChecked() ? other : active);
     m_rightText.draw(painter, left.translated(half, 0), Qt::AlignCenter, isChecked() ? active : other);
     drawFocus(painter, rect(), height() / 2.0);

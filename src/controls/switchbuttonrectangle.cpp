@@ -5,7 +5,7 @@
 #include "controls/palette.h"
 
 namespace {
-constexpr QSize kSize(20, 20);
+constexpr QSize kBoxSize(20, 20);
 const QColor kGround(1, 1, 1);
 const QColor kOutline = Palette::kRim;
 const QColor kHoveredOutline = Palette::translucent(Palette::kMint, 150);
@@ -15,7 +15,7 @@ const QColor kDisabled = Palette::kDisabled;
 
 SwitchButtonRectangle::SwitchButtonRectangle(QWidget *parent) : CheckedControl(parent)
 {
-    setFixedSize(kSize);
+    setFixedSize(kBoxSize);
 }
 
 void SwitchButtonRectangle::press()

@@ -7,7 +7,7 @@
 namespace {
 
 const QColor kQuiet = Palette::translucent(Palette::kMint, 0x90);
-const QColor kDim = Palette::kDim;
+const QColor kMarkDim = Palette::kDim;
 const QColor kRefused = Palette::kError;
 
 } // namespace
@@ -65,7 +65,7 @@ void ValueMark::paintEvent(QPaintEvent *)
         break;
     case Mark::Unknown:
     case Mark::Unchosen:
-        painter.fillRect(QRectF(centre.x() - 4, centre.y() - 0.75, 8, 1.5), kDim);
+        painter.fillRect(QRectF(centre.x() - 4, centre.y() - 0.75, 8, 1.5), kMarkDim);
         break;
     case Mark::Waiting:
         painter.setPen(Qt::NoPen);
@@ -73,7 +73,7 @@ void ValueMark::paintEvent(QPaintEvent *)
         painter.drawEllipse(centre, kRadius, kRadius);
         break;
     case Mark::Unconfirmed:
-        painter.setPen(QPen(kDim, 1.5));
+        painter.setPen(QPen(kMarkDim, 1.5));
         painter.drawEllipse(centre, kRadius, kRadius);
         break;
     case Mark::Refused:

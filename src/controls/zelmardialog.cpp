@@ -11,7 +11,7 @@
 namespace {
 const QString kBackground = Pictures::kRoot + QStringLiteral("img/basicSetting/shortcutKey/dialog.png");
 constexpr QSize kFallbackSize(420, 200);
-const QString kStyle =
+const QString kFrameStyle =
     QStringLiteral("QLabel#title { color: @text; font-size: 18px; }"
                    "QLabel#text { color: @soft; font-size: 15px; }"
                    "QPushButton { color: @ink; font-size: 15px; border: 1px solid transparent; border-radius: 8px;"
@@ -28,7 +28,7 @@ ZelmarDialog::ZelmarDialog(QWidget *parent) : QDialog(parent, Qt::Dialog | Qt::F
     setWindowTitle(QObject::tr("Hotkey conflict"));
     const QPixmap background = Pictures::load(kBackground, 1.0);
     setFixedSize(background.isNull() ? kFallbackSize : background.size());
-    setStyleSheet(Palette::styled(kStyle));
+    setStyleSheet(Palette::styled(kFrameStyle));
 
     auto *title = new QLabel(windowTitle(), this);
     title->setObjectName(QStringLiteral("title"));

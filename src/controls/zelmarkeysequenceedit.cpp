@@ -9,7 +9,7 @@
 
 namespace {
 constexpr QSize kLeastSize(120, 34);
-const QString kStyle =
+const QString kKeysStyle =
     QStringLiteral("QLineEdit { color: @mint; background: @well; border: 1px solid @edge; border-radius: 8px;"
                    " padding: 0 8px; font-size: 14px; }"
                    "QLineEdit:hover { background: @card; }"
@@ -79,7 +79,7 @@ ZelmarKeySequenceEdit::ZelmarKeySequenceEdit(QWidget *parent)
     describeControlsToAssistiveSoftware();
     m_lineEdit->setPlaceholderText(nothingSet());
     m_lineEdit->setAlignment(Qt::AlignCenter);
-    m_lineEdit->setStyleSheet(Palette::styled(kStyle));
+    m_lineEdit->setStyleSheet(Palette::styled(kKeysStyle));
     m_lineEdit->setMinimumSize(kLeastSize);
     m_lineEdit->installEventFilter(new KeyFieldFilter(this));
 }

@@ -107,6 +107,11 @@ void DeviceState::preview(Command command, int value)
     change(command, [value](StateEntry &entry) { entry.value = value; });
 }
 
+void DeviceState::dropPreview(Command command)
+{
+    change(command, [](StateEntry &entry) { entry.dropPreview(); });
+}
+
 void DeviceState::wish(Command command, int value)
 {
     change(command, [value](StateEntry &entry) {
@@ -118,6 +123,11 @@ void DeviceState::wish(Command command, int value)
 
 void DeviceState::taken(Command command, int value)
 {
+    if (command == Command::SceneMode && confirmed(command) == value && value % 2 != 0)
+        changeBlock([](StateStorage &storage) {
+            storage.doubtFactoryHalf();
+            return true;
+        });
     change(command, [=, this](StateEntry &entry) {
         const bool isPending = entry.state == ValueState::Pending;
         if (isInSceneBlock(command) && m_storage->leavesItsMode()) {

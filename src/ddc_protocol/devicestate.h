@@ -69,6 +69,9 @@ public:
     /// The user still moves a control: this is shown, and nothing is wished yet.
     void preview(Command command, int value);
 
+    /// The user does not move it any more, and wished nothing: what the monitor told is shown again.
+    void dropPreview(Command command);
+
     /// Somebody wants a value: it is shown, and pending until the monitor has taken or refused it.
     void wish(Command command, int value);
 

@@ -60,6 +60,12 @@ void StateEntry::doubt()
         state = ValueState::Unknown;
 }
 
+void StateEntry::dropPreview()
+{
+    if (state == ValueState::Known)
+        value = confirmed.value_or(value);
+}
+
 void StateStorage::clear()
 {
     m_entries.fill({});
@@ -103,8 +109,16 @@ void StateStorage::followSceneMode(int before)
         return;
     for (const Command command : kSceneBlockLayout)
         m_entries[placeOf(command)] = {};
+    for (StateEntry &each : custom)
+        each.dropPreview();
     if (!isSameMode(mode, before))
         forgetBlock();
+}
+
+void StateStorage::doubtFactoryHalf()
+{
+    for (const Command command : kSceneBlockLayout)
+        m_entries[placeOf(command)].doubt();
 }
 
 void StateStorage::forgetBlock()

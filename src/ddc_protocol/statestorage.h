@@ -20,6 +20,7 @@ struct StateEntry
     QDateTime refusedAt;
 
     void doubt();
+    void dropPreview();
 };
 
 /// What the snapshot keeps about all values, both halves of the mode that is on. Guarded by its owner.
@@ -45,6 +46,9 @@ public:
     /// After a change of the scene mode: another mode's block is not this one's, and another half's values are not this
     /// half's. Takes the mode that was on before.
     void followSceneMode(int before);
+
+    /// The mode was set once more, by which the monitor takes back what was changed of its factory half.
+    void doubtFactoryHalf();
 
     /// The monitor told a value, or took it.
     void keepConfirmed(StateEntry &entry, int value) const;

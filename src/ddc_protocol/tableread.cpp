@@ -42,7 +42,7 @@ private:
     int m_streamRetries = m_retries;
 };
 
-QString hex(std::uint8_t code)
+QString hexByte(std::uint8_t code)
 {
     return QString::number(code, 16);
 }
@@ -87,10 +87,10 @@ std::optional<int> TableRead::open(std::uint8_t a, std::uint8_t b, std::uint8_t 
             return {};
         } else {
             if (!mayRetry(m_thirdRetries)) {
-                qDebug().noquote().nospace() << "Faile to retry errorCode= 99 22 " << hex(c) << "\r";
+                qDebug().noquote().nospace() << "Faile to retry errorCode= 99 22 " << hexByte(c) << "\r";
                 return -1;
             }
-            qDebug().noquote().nospace() << "Fail to retry errorCode= " << hex(c) << " " << m_reply.error;
+            qDebug().noquote().nospace() << "Fail to retry errorCode= " << hexByte(c) << " " << m_reply.error;
         }
         if (!platform::desk().clock().sleepBeforeRetry(kPause))
             return 0;

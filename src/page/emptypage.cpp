@@ -3,6 +3,7 @@
 #include <QVBoxLayout>
 
 #include "controls/accessiblecontrol.h"
+#include "controls/dress.h"
 #include "controls/metrics.h"
 #include "controls/palette.h"
 #include "controls/picturelabel.h"
@@ -15,13 +16,13 @@ EmptyPage::EmptyPage(QWidget *parent) : QLabel(parent), m_title(new QLabel(this)
 {
     setObjectName(QStringLiteral("EmptyPage"));
     describeAs(this, QAccessible::Pane);
-    dressPage(this);
+    layGround(this);
     auto *picture = new PictureLabel(this);
     picture->setPicture(QStringLiteral("img/empty_page.png"));
     m_title->setFont(titleFont);
     m_noteLabel->setFont(noteFont);
-    m_title->setStyleSheet(Palette::styled(u"color: @text;"));
-    m_noteLabel->setStyleSheet(Palette::styled(u"color: @hint;"));
+    dressText(m_title, {Palette::kText});
+    dressText(m_noteLabel, {Palette::kHint});
     auto *column = new QVBoxLayout(this);
     column->addStretch(2);
     for (QLabel *label : {static_cast<QLabel *>(picture), m_title, m_noteLabel})

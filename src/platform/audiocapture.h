@@ -78,6 +78,7 @@ public:
     virtual AudioResult nextPacketSize(std::uint32_t &frames) = 0;
     /// GetBuffer; kAudioOutOfOrder while the buffer before is not released.
     virtual AudioResult getBuffer(AudioPacket &packet) = 0;
+    /// ReleaseBuffer: the packet's frames, all of them; or 0, and the same packet is handed out again.
     virtual AudioResult releaseBuffer(std::uint32_t frames) = 0;
 };
 
@@ -89,6 +90,7 @@ public:
 
     /// GetDevicePeriod: the default period in units of 100 ns.
     virtual AudioResult devicePeriod(std::int64_t &period) = 0;
+    /// GetMixFormat: that of the engine, as much of it as AudioFormat has room for.
     virtual AudioResult mixFormat(AudioFormat &format) = 0;
     /// IsFormatSupported: kAudioOk, or kAudioFalse when only something like it is.
     virtual AudioResult isFormatSupported(const AudioFormat &format) = 0;
@@ -96,7 +98,9 @@ public:
     virtual AudioResult initialize(std::uint32_t flags, std::int64_t duration, const AudioFormat &format) = 0;
     /// kAudioNotStopped when it runs already.
     virtual AudioResult start() = 0;
+    /// What was captured waits on.
     virtual AudioResult stop() = 0;
+    /// Forgets what was captured; kAudioNotStopped while it runs.
     virtual AudioResult reset() = 0;
     /// GetService for the capture client.
     virtual AudioResult captureClient(std::unique_ptr<AudioCaptureClient> &client) = 0;

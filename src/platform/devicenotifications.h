@@ -21,7 +21,8 @@ public:
     virtual void unregister(void *registration) = 0;
 
     /// Asks for the session being locked and unlocked (WTSRegisterSessionNotification) and for the console's display
-    /// being switched off and on (RegisterPowerSettingNotification); what is refused stays silent.
+    /// being switched off and on (RegisterPowerSettingNotification); what is refused stays silent. One window at a
+    /// time.
     virtual void registerSystem(WId window) = 0;
 
     /// Ends what registerSystem began.

@@ -85,7 +85,7 @@ public:
     /// The toolkit's screens, in its order.
     virtual std::vector<Screen> screens() = 0;
 
-    /// The primary screen's work area, on which the program opens (SystemParametersInfoW, GetDpiForSystem). May be
+    /// The primary screen's work area, on which the program opens (SystemParametersInfoW, GetDpiForMonitor). May be
     /// asked before the toolkit has begun; nothing when it is not known.
     virtual std::optional<WorkArea> workArea() = 0;
 

@@ -46,6 +46,9 @@ public:
     virtual QByteArray lineEnd() = 0;
 };
 
+/// The full path of this program's own file, whichever desk it has; known before there is an application object.
+QString ownProgramFile();
+
 /// The files of the system that the program runs on, whichever desk it has.
 std::unique_ptr<Files> createSystemFiles();
 

@@ -35,14 +35,14 @@ public:
     /// OpenProcess, not inheritable; null when the process is protected or gone.
     virtual void *openProcess(std::uint32_t access, std::uint32_t processId) = 0;
 
-    /// CloseHandle of what openProcess gave.
+    /// CloseHandle of what openProcess gave, which is not null.
     virtual void closeProcess(void *process) = 0;
 
     /// QueryFullProcessImageNameW into 260 characters: the program's path with backslashes; nothing when it fails, as
     /// it does for a longer path.
     virtual std::optional<QString> imageName(void *process) = 0;
 
-    /// GetWindowTextW, up to 512 characters.
+    /// GetWindowTextW, up to 511 characters; empty for a window that is gone or has no title.
     virtual QString windowText(WindowHandle window) = 0;
 };
 

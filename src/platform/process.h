@@ -27,7 +27,7 @@ class Process
 public:
     virtual ~Process() = default;
 
-    /// Whether the user has administrator rights (IsUserAnAdmin). False also when the question cannot be answered.
+    /// Whether this process has administrator rights (IsUserAnAdmin). False also when the question cannot be answered.
     virtual bool isUserAnAdmin() = 0;
 
     /// The full path of this program's own file, known before there is an application object.
@@ -48,7 +48,7 @@ public:
     /// success.
     virtual std::intptr_t shellExecuteRunas(const QString &file, const QString &parameters, const QString &folder) = 0;
 
-    /// Creates or opens a machine-wide name (CreateMutexW).
+    /// Creates or opens a name that all programs of the user's session share (CreateMutexW).
     virtual NamedMutex createMutex(const QString &name) = 0;
 
     /// Closes what createMutex gave (CloseHandle); a null handle is ignored.

@@ -59,7 +59,7 @@ void TrayPanel::build()
     column->setSpacing(metrics::kGap);
     m_header = new TrayPanelHeader(column, this);
     m_scroll = makeScrollArea(this);
-    m_scroll->setWidget(buildBody());
+    fillScrollArea(m_scroll, buildBody());
     column->addWidget(m_scroll);
     m_footer = new TrayPanelFooter(m_choices, column, this);
     connect(m_footer, &TrayPanelFooter::chosen, this, &TrayPanel::choose);

@@ -7,6 +7,7 @@
 
 #include "controls/captionlabel.h"
 #include "controls/dash.h"
+#include "controls/dress.h"
 #include "controls/palette.h"
 
 namespace {
@@ -21,6 +22,7 @@ TrayPanelHeader::TrayPanelHeader(QVBoxLayout *column, QWidget *panel) : QObject(
     auto *header = new QWidget(panel);
     m_name = new CaptionLabel(QString(), kNamePixels, header);
     m_name->setObjectName(QStringLiteral("title"));
+    dressText(m_name, {Palette::kText});
     m_state = new CaptionLabel(QString(), kStatePixels, header);
     m_state->setObjectName(QStringLiteral("note"));
     m_dot = new QLabel(QStringLiteral("●"), header);

@@ -20,16 +20,16 @@ struct Model
     bool tapers; ///< the third of three rows of a strip has a cell less, the one behind it another
 };
 
-constexpr Model kModels[] = {
+constexpr Model kFormModels[] = {
     {0, 2, 73, 25, true},
     {1, 1, 25, 42, false},
 };
 
 const Model *modelOf(int form)
 {
-    const auto *model =
-        std::find_if(std::begin(kModels), std::end(kModels), [form](const Model &each) { return each.number == form; });
-    return model == std::end(kModels) ? nullptr : model;
+    const auto *model = std::find_if(std::begin(kFormModels), std::end(kFormModels),
+                                     [form](const Model &each) { return each.number == form; });
+    return model == std::end(kFormModels) ? nullptr : model;
 }
 
 std::vector<MatrixRow> rowsOf(const Model &model)
@@ -53,7 +53,7 @@ const std::vector<MatrixRow> &matrixRows(int form)
 {
     static const auto all = [] {
         std::map<int, std::vector<MatrixRow>> models;
-        for (const Model &model : kModels)
+        for (const Model &model : kFormModels)
             models.emplace(model.number, rowsOf(model));
         return models;
     }();
@@ -83,7 +83,7 @@ double matrixRowPitch(int form)
 std::vector<int> knownForms()
 {
     std::vector<int> numbers;
-    std::transform(std::begin(kModels), std::end(kModels), std::back_inserter(numbers),
+    std::transform(std::begin(kFormModels), std::end(kFormModels), std::back_inserter(numbers),
                    [](const Model &model) { return model.number; });
     return numbers;
 }
@@ -91,7 +91,7 @@ std::vector<int> knownForms()
 int nextForm(int form)
 {
     const Model *model = modelOf(form);
-    return model && model + 1 != std::end(kModels) ? model[1].number : kModels[0].number;
+    return model && model + 1 != std::end(kFormModels) ? model[1].number : kFormModels[0].number;
 }
 
 /// The rows of a strip stand in its middle, as far as its lattice lets them.

@@ -16,14 +16,14 @@ namespace virtualdesk {
 
 namespace {
 
-constexpr int kMargin = 16;
+constexpr int kPanelMargin = 16;
 constexpr int kButtonColumns = 2;
 constexpr int kMidTransfer = 8; // writes until the device is pulled out
-constexpr std::chrono::milliseconds kRefreshDelay{40};
+constexpr std::chrono::milliseconds kScreenRefresh{40};
 constexpr int kTextMode = 0x2F;
 constexpr qsizetype kShownGameBytes = 10; // as many as any report uses
 
-constexpr char kStyle[] = R"(
+constexpr char kAccessoryStyle[] = R"(
 QLabel, QPushButton { font-size: 13px; }
 QLabel { color: #c9c9c9; }
 QLabel#value { color: #9cffc8; }
@@ -126,11 +126,11 @@ AccessoryPanel::AccessoryPanel(VirtualDesk &desk, QWidget *parent)
     : QWidget(parent), m_accessory(desk.accessory()), m_matrix(new AccessoryScreen(m_accessory, this)),
       m_buttons(new ActionButtons(kButtonColumns, this)), m_state(new QLabel(this)), m_lastFault(new QLabel(this))
 {
-    setStyleSheet(QLatin1String(kStyle));
+    setStyleSheet(QLatin1String(kAccessoryStyle));
     m_state->setObjectName(QStringLiteral("state"));
     m_lastFault->setObjectName(QStringLiteral("fault"));
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    layout->setContentsMargins(kPanelMargin, kPanelMargin, kPanelMargin, kPanelMargin);
     layout->setSpacing(8);
     layout->addWidget(m_matrix, 1);
     buildButtons();
@@ -140,7 +140,7 @@ AccessoryPanel::AccessoryPanel(VirtualDesk &desk, QWidget *parent)
     layout->addLayout(buildValues());
 
     m_refreshTimer.setSingleShot(true);
-    m_refreshTimer.setInterval(kRefreshDelay);
+    m_refreshTimer.setInterval(kScreenRefresh);
     connect(&m_refreshTimer, &QTimer::timeout, this, &AccessoryPanel::refresh);
     retranslate();
     m_listener = m_accessory.addListener([this] { accessoryChanged(); });

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <atomic>
+#include <utility>
 #include <vector>
 
 #include <QTimer>

@@ -1,6 +1,9 @@
 #include "virtualdesk/accessoryscreen.h"
 
 #include <algorithm>
+#include <chrono>
+#include <cstdint>
+#include <vector>
 
 #include "virtualdesk/accessoryforms.h"
 #include "virtualdesk/simulatedaccessory.h"

@@ -2,13 +2,14 @@
 
 #include <utility>
 
+#include "platform/foreground.h"
+
 namespace virtualdesk {
 
 namespace {
 
 using Shape = ApplicationWindow::Shape;
 
-constexpr std::uint32_t kForegroundEvent = 3;
 constexpr std::size_t kLongestPath = 259; // without its end
 
 // What stands for a window and for an open process: the program's place, from 1, behind a mark.
@@ -51,8 +52,8 @@ void Applications::setList(std::vector<Application> list)
 void Applications::bringToFront(std::size_t index)
 {
     m_front = index;
-    if (kForegroundEvent >= m_first && kForegroundEvent <= m_last)
-        raiseEvent(kForegroundEvent, windowOf(index));
+    if (platform::kEventForeground >= m_first && platform::kEventForeground <= m_last)
+        raiseEvent(platform::kEventForeground, windowOf(index));
 }
 
 void *Applications::windowOf(std::size_t index)

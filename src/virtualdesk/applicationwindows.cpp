@@ -31,7 +31,8 @@ platform::DisplayHandle ApplicationWindows::displayOf(void *window) const
     const auto handles = m_displays.enumerate();
     const ApplicationWindow *found = find(window);
     const auto below = std::find_if(handles.begin(), handles.end(), [this, found](platform::DisplayHandle handle) {
-        return found != nullptr && m_displays.info(handle)->bounds.contains(found->rect.center());
+        const auto info = found != nullptr ? m_displays.info(handle) : std::nullopt;
+        return info && info->bounds.contains(found->rect.center());
     });
     if (below != handles.end())
         return *below;

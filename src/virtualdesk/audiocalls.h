@@ -1,9 +1,11 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <functional>
 #include <mutex>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "platform/audiocapture.h"
@@ -59,10 +61,10 @@ public:
     std::optional<platform::AudioResult> enter(AudioCall call);
 
 private:
+    std::function<void(AudioCall, int)> m_probe;
     mutable std::mutex m_mutex; // guards what follows
     std::array<int, kAudioCalls> m_counts{};
     std::vector<AudioFault> m_faults;
-    std::function<void(AudioCall, int)> m_probe; // not guarded: set before
 };
 
 } // namespace virtualdesk

@@ -1,5 +1,7 @@
 #include "virtualdesk/deskscript.h"
 
+#include <utility>
+
 #include <QFile>
 #include <QJsonDocument>
 
@@ -17,12 +19,11 @@ constexpr int kHighestByte = 255;
 DisplaySetup readDisplay(ScriptObject object, std::size_t index)
 {
     DisplaySetup display;
-    display.deviceName = object.take("name").toString(QStringLiteral("\\\\.\\DISPLAY%1").arg(index + 1));
-    const QJsonArray bounds = object.list("bounds");
-    if (bounds.size() == 4)
-        display.bounds = QRect(bounds[0].toInt(), bounds[1].toInt(), bounds[2].toInt(), bounds[3].toInt());
-    else if (!bounds.isEmpty())
-        object.fail(QStringLiteral("\"bounds\" must be [x, y, width, height]"));
+    display.deviceName = QStringLiteral("\\\\.\\DISPLAY%1").arg(index + 1);
+    object.text("name", display.deviceName);
+    int bounds[4] = {};
+    object.numbers("bounds", bounds);
+    display.bounds = QRect(bounds[0], bounds[1], bounds[2], bounds[3]);
     object.finish();
     return display;
 }
@@ -67,7 +68,8 @@ UserSetup readUser(ScriptObject object)
 ScreenSetup readScreen(ScriptObject object)
 {
     ScreenSetup screen;
-    const QString fileName = object.take("picture").toString();
+    QString fileName;
+    object.text("picture", fileName);
     if (!fileName.isEmpty() && !screen.picture.load(fileName))
         object.fail(QStringLiteral("\"picture\" %1 cannot be read").arg(fileName));
     object.each("faults", [&screen](ScriptObject fault) {
@@ -133,11 +135,11 @@ DeskSetup readSetup(ScriptObject root)
     readMonitors(root, setup);
     readEvents(root, setup);
     if (root.has("accessory"))
-        setup.accessory = readAccessory(root.inside(root.take("accessory")));
+        setup.accessory = readAccessory(root.inside("accessory"));
     if (root.has("user"))
-        setup.user = readUser(root.inside(root.take("user")));
+        setup.user = readUser(root.inside("user"));
     if (root.has("screen"))
-        setup.screen = readScreen(root.inside(root.take("screen")));
+        setup.screen = readScreen(root.inside("screen"));
     setup.topology = readTopology(root);
     readLatency(root, setup.readLatency, setup.writeLatency);
     root.flag("administrator", setup.administrator);

@@ -114,6 +114,7 @@ void DesktopPanel::addProgram()
     m_desk.applications().setList(std::move(list));
     fillPrograms();
     m_programs->setCurrentRow(m_programs->count() - 1);
+    m_windows->update();
 }
 
 void DesktopPanel::bringToFront()

@@ -17,9 +17,9 @@ namespace virtualdesk {
 namespace {
 
 constexpr QSize kWindowSize(420, 760);
-constexpr int kMargin = 16;
+constexpr int kWindowMargin = 16;
 
-constexpr char kStyle[] = R"(
+constexpr char kWindowStyle[] = R"(
 virtualdesk--DeskWindow { background-color: #0d1210; }
 QTabWidget::pane { border: none; }
 QTabWidget > QWidget { background-color: transparent; }
@@ -65,13 +65,13 @@ DeskWindow::DeskWindow(VirtualDesk &desk) : m_tabs(new DeskTabs(this))
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_QuitOnClose, false);
     setAttribute(Qt::WA_StyledBackground);
-    setStyleSheet(QLatin1String(kStyle));
+    setStyleSheet(QLatin1String(kWindowStyle));
     QFont font = this->font();
     font.setPixelSize(13);
     setFont(font);
 
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(kMargin, 8, kMargin, kMargin);
+    layout->setContentsMargins(kWindowMargin, 8, kWindowMargin, kWindowMargin);
     layout->addWidget(m_tabs);
     addPanel<MonitorPanel>(desk, QT_TRANSLATE_NOOP("QObject", "Monitor"));
     addPanel<DesktopPanel>(desk, QT_TRANSLATE_NOOP("QObject", "Desktop"));
@@ -96,7 +96,7 @@ void DeskWindow::placeBesideProgram()
 {
     const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
     resize(kWindowSize.boundedTo(available.size()));
-    move(available.right() - width() - kMargin, available.top() + (available.height() - height()) / 2);
+    move(available.right() - width() - kWindowMargin, available.top() + (available.height() - height()) / 2);
 }
 
 void DeskWindow::changeEvent(QEvent *event)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <mutex>
 #include <utility>
@@ -8,7 +9,7 @@
 namespace virtualdesk {
 
 /// Who is told of something that happens on any thread, and in the same thread. Safe from any thread; one that is told
-/// may end itself, or make more of it happen.
+/// may end itself or another, or make more of it happen.
 template <typename... Told> class Listeners
 {
 public:
@@ -32,14 +33,18 @@ public:
     void tell(Told... told)
     {
         const std::lock_guard lock(m_mutex);
-        const auto listeners = m_listeners; // one may end itself
-        for (const auto &[id, listener] : listeners)
-            listener(told...);
+        const auto listeners = m_listeners; // one may end itself, or another
+        for (const auto &[id, listener] : listeners) {
+            if (std::ranges::count(m_listeners, id, &Entry::first) > 0)
+                listener(told...);
+        }
     }
 
 private:
+    using Entry = std::pair<int, Listener>;
+
     std::recursive_mutex m_mutex;
-    std::vector<std::pair<int, Listener>> m_listeners;
+    std::vector<Entry> m_listeners;
     int m_next = 1;
 };
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 
 namespace virtualdesk {
 
@@ -68,7 +69,7 @@ int LoopbackStream::packetFrames(const SoundEngine &engine) const
                                          : static_cast<int>(m_format.sampleRate) / kPacketsPerSecond;
 }
 
-/// Takes in what was played since the last look. A buffer that is full loses what comes.
+/// Takes in what was played since the last look. A buffer that is full loses what came first.
 void LoopbackStream::capture(const SoundEngine &engine)
 {
     if (!m_running)
@@ -79,8 +80,11 @@ void LoopbackStream::capture(const SoundEngine &engine)
         m_next = now - m_captured;
         return;
     }
+    if (fresh <= 0)
+        return;
     const std::int64_t room = std::max<std::int64_t>(m_bufferFrames, packetFrames(engine));
-    m_captured = std::min(m_captured + std::max<std::int64_t>(fresh, 0), room);
+    m_captured = std::min(m_captured + fresh, room);
+    m_next = now - m_captured;
 }
 
 Result LoopbackStream::start(const SoundEngine &engine)

@@ -10,7 +10,7 @@ namespace virtualdesk {
 
 namespace {
 
-constexpr int kMargin = 12;
+constexpr int kRim = 12;
 constexpr double kDot = 0.62;          // diameter, of the distance between two cells of a row
 constexpr double kDimmestLight = 0.35; // what is lit can be told from what is not
 const QColor kGround(0x08, 0x0b, 0x0a);
@@ -55,7 +55,7 @@ void MatrixView::paintEvent(QPaintEvent *)
     const double rowsPerCell = matrixRowPitch(m_form);
     const double wide = matrixColumns(m_form);
     const double high = static_cast<double>(rows.size()) * rowsPerCell;
-    const double pitch = std::min((width() - 2 * kMargin) / wide, (height() - 2 * kMargin) / high);
+    const double pitch = std::min((width() - 2 * kRim) / wide, (height() - 2 * kRim) / high);
     const QPointF origin((width() - wide * pitch) / 2, (height() - high * pitch) / 2);
 
     QColor lit = kLit;

@@ -123,6 +123,7 @@ void MonitorMemory::resetToFactory()
     }
     for (int mode = kFirstMode; mode <= kLastMode; ++mode)
         m_blocks[static_cast<std::size_t>(mode)] = factoryBlock(mode);
+    m_careEnds = {}; // its code says that none runs
     changeScene(kFirstMode);
 }
 

@@ -29,7 +29,8 @@ public:
     /// False where it is not kept as it was written.
     bool take(std::uint8_t code, std::uint32_t value);
 
-    /// Sets a value unchecked; scene mode and picture values have the effect that they have on the wire.
+    /// Sets a value unchecked; scene mode and picture values have the effect that they have on the wire. What takes its
+    /// time begins at the last passTime.
     void set(std::uint8_t code, std::uint16_t value);
 
     /// The block of a mode, kFirstMode..kLastMode.

@@ -10,7 +10,6 @@
 
 #include "virtualdesk/actionbuttons.h"
 #include "virtualdesk/labels.h"
-#include "virtualdesk/marked.h"
 #include "virtualdesk/osdfunctions.h"
 #include "virtualdesk/osdlist.h"
 #include "virtualdesk/screenview.h"
@@ -23,12 +22,9 @@ namespace {
 
 constexpr int kKeptLines = 400;
 constexpr std::size_t kShownAtOnce = 100;
-constexpr std::chrono::milliseconds kRefreshDelay{60};
+constexpr std::chrono::milliseconds kPanelRefresh{60};
 
 constexpr int kFaultColumns = 3;
-
-constexpr const char *kOutcomes[] = {NAME("ok"),      NAME("adjusted"), NAME("garbled"), NAME("unexpected"),
-                                     NAME("refused"), NAME("lost"),     NAME("deaf"),    NAME("unplugged")};
 
 QString requestLine(const Request &request)
 {
@@ -37,7 +33,7 @@ QString requestLine(const Request &request)
         .arg(QLatin1Char(request.kind == RequestKind::Read ? 'R' : 'W'))
         .arg(request.code, 2, 16, QLatin1Char('0'))
         .arg(request.value, 5)
-        .arg(QObject::tr(kOutcomes[static_cast<int>(request.outcome)]));
+        .arg(QObject::tr(wordOf(request.outcome)));
 }
 
 } // namespace
@@ -47,7 +43,7 @@ MonitorPanel::MonitorPanel(VirtualDesk &desk, QWidget *parent)
 {
     layOut();
     m_refreshTimer.setSingleShot(true);
-    m_refreshTimer.setInterval(kRefreshDelay);
+    m_refreshTimer.setInterval(kPanelRefresh);
     connect(&m_refreshTimer, &QTimer::timeout, this, &MonitorPanel::refresh);
     connect(&m_desk, &VirtualDesk::monitorsChanged, this, &MonitorPanel::askForRefresh);
     for (std::size_t i = 0; i < m_desk.monitorCount(); ++i)
@@ -71,10 +67,12 @@ void MonitorPanel::layOut()
     m_state = new QLabel(this);
     m_state->setObjectName(QStringLiteral("state"));
     m_osd = new OsdList(this);
+    m_osd->setEnabled(m_desk.monitorCount() > 0);
     connect(m_osd, &OsdList::stepped, this, [this](const OsdFunction &function, int direction) {
         monitor().setValue(function.code, osdStep(function, monitor().value(function.code), direction));
         askForRefresh();
     });
+    connect(m_osd, &OsdList::grown, this, &MonitorPanel::askForRefresh);
     m_osdTitle = makeTitle(this);
     m_requestsTitle = makeTitle(this);
     m_requests = new QPlainTextEdit(this);

@@ -24,7 +24,7 @@ std::optional<QByteArray> readEdid(ScriptObject &monitor)
     const QJsonValue value = monitor.take("edid");
     if (value.isObject()) {
         int length = 0;
-        ScriptObject edid = monitor.inside(value);
+        ScriptObject edid = monitor.inside("edid", value);
         edid.number("random", length, 0, 65536);
         edid.finish();
         return randomBytes(length);
@@ -39,7 +39,7 @@ std::optional<QByteArray> readEdid(ScriptObject &monitor)
 
 void readValues(ScriptObject &object, MonitorSetup &monitor)
 {
-    const QJsonObject values = object.take("values").toObject();
+    const QJsonObject values = object.members("values");
     for (auto it = values.begin(); it != values.end(); ++it) {
         bool ok = false;
         const int code = it.key().toInt(&ok, 0);
@@ -100,7 +100,7 @@ void readLatency(ScriptObject &object, std::chrono::milliseconds &read, std::chr
         read = kRealisticRead;
         write = kRealisticWrite;
     } else if (value.isObject()) {
-        ScriptObject latency = object.inside(value);
+        ScriptObject latency = object.inside("latency", value);
         read = latency.wait("read_ms");
         write = latency.wait("write_ms");
         latency.finish();

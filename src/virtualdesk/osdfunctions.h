@@ -28,7 +28,7 @@ struct OsdFunction
 /// The 168 command codes of the monitor, rising.
 std::span<const std::uint8_t> commandCodes();
 
-/// The function behind a command code; a nameless one of 0..255 when the OSD has no entry for it.
+/// The function behind a command code; a nameless one, of plain numbers, when the OSD has no entry for it.
 OsdFunction osdFunction(std::uint8_t code);
 
 /// The functions with a menu entry, in the order of the OSD.

@@ -1,8 +1,11 @@
 #include "virtualdesk/osdlist.h"
 
+#include <algorithm>
+
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollBar>
 
 #include "virtualdesk/labels.h"
 #include "virtualdesk/marked.h"
@@ -27,6 +30,14 @@ constexpr GatheredRow kGatheredRows[] = {
 };
 
 constexpr std::uint8_t kMotionCode = 0x48;
+constexpr int kPitch = 24; // from row to row, made or not
+constexpr QSize kButton(22, 20);
+constexpr int kRowsBeyond = 3; // what is in sight, so that Tab finds the next button
+
+int rowCount()
+{
+    return 1 + static_cast<int>(osdMenu().size() + std::size(kGatheredRows));
+}
 
 } // namespace
 
@@ -37,36 +48,75 @@ OsdList::OsdList(QWidget *parent) : QScrollArea(parent)
     auto *content = new QWidget(this);
     content->setObjectName(QStringLiteral("osd"));
     viewport()->setAutoFillBackground(false);
-    auto *grid = new QGridLayout(content);
-    grid->setContentsMargins(12, 8, 12, 8);
-    grid->setVerticalSpacing(4);
-    grid->setColumnStretch(0, 1);
-    const int rows = 1 + static_cast<int>(osdMenu().size() + std::size(kGatheredRows));
-    for (int row = 0; row < rows; ++row) {
-        m_rows.push_back(addValueLine(grid, row, content));
-        if (row > 0 && row <= static_cast<int>(osdMenu().size()))
-            addButtons(osdMenu()[static_cast<std::size_t>(row) - 1], grid, row);
-    }
+    m_grid = new QGridLayout(content);
+    m_grid->setContentsMargins(12, 6, 12, 6);
+    m_grid->setVerticalSpacing(0);
+    m_grid->setColumnStretch(0, 1);
+    for (int row = 0; row < rowCount(); ++row)
+        m_grid->setRowMinimumHeight(row, kPitch);
     setWidget(content);
+    makeRowsInSight();
 }
 
-void OsdList::addButtons(const OsdFunction &function, QGridLayout *grid, int row)
+void OsdList::resizeEvent(QResizeEvent *event)
+{
+    QScrollArea::resizeEvent(event);
+    makeRowsInSight();
+}
+
+void OsdList::scrollContentsBy(int dx, int dy)
+{
+    QScrollArea::scrollContentsBy(dx, dy);
+    makeRowsInSight();
+}
+
+int OsdList::rowsInSight() const
+{
+    const int bottom = verticalScrollBar()->value() + viewport()->height();
+    int rows = 0;
+    for (int height = 0; rows < rowCount() && height <= bottom; ++rows)
+        height += m_grid->rowMinimumHeight(rows); // a row that the monitor does not have is none
+    return rows;
+}
+
+void OsdList::makeRowsInSight()
+{
+    const int made = static_cast<int>(m_rows.size());
+    const int wanted = std::min(rowCount(), rowsInSight() + kRowsBeyond);
+    if (made >= wanted)
+        return;
+    for (int row = made; row < wanted; ++row) {
+        const auto [name, value] = addValueLine(m_grid, row, widget());
+        m_rows.push_back({name, value, {}});
+        if (row > 0 && row <= static_cast<int>(osdMenu().size()))
+            addButtons(osdMenu()[static_cast<std::size_t>(row) - 1], row);
+    }
+    retranslate();
+    Q_EMIT grown();
+}
+
+void OsdList::addButtons(const OsdFunction &function, int row)
 {
     for (const int direction : {-1, 1}) {
-        auto *button = new QPushButton(direction < 0 ? QStringLiteral("–") : QStringLiteral("+"), grid->parentWidget());
-        button->setFixedSize(22, 20);
+        auto *button = new QPushButton(direction < 0 ? QStringLiteral("–") : QStringLiteral("+"), widget());
+        button->setFixedSize(kButton);
         button->setObjectName(QStringLiteral("osdButton"));
         connect(button, &QPushButton::clicked, this,
                 [this, function, direction] { Q_EMIT stepped(function, direction); });
-        grid->addWidget(button, row, direction < 0 ? 2 : 3);
-        m_buttons.push_back(button);
+        m_grid->addWidget(button, row, direction < 0 ? 2 : 3);
+        if (m_lastButton)
+            setTabOrder(m_lastButton, button);
+        m_lastButton = button;
+        m_rows.back().buttons.push_back(button);
     }
 }
 
 void OsdList::retranslate()
 {
-    for (std::size_t i = 0; i < m_buttons.size(); ++i)
-        m_buttons[i]->setAccessibleName(osdName(osdMenu()[i / 2]) + QLatin1Char(' ') + m_buttons[i]->text());
+    for (std::size_t row = 1; row < m_rows.size(); ++row) { // the first row is the scene's
+        for (QPushButton *button : m_rows[row].buttons)
+            button->setAccessibleName(osdName(osdMenu()[row - 1]) + QLatin1Char(' ') + button->text());
+    }
 }
 
 void OsdList::show(const SimulatedMonitor &monitor)
@@ -85,15 +135,21 @@ void OsdList::show(const SimulatedMonitor &monitor)
             values.append(QString::number(monitor.value(static_cast<std::uint8_t>(gathered.first + i))));
         showRow(row++, QObject::tr(gathered.name), values.join(QLatin1String("  ")), true);
     }
+    makeRowsInSight();
 }
 
 void OsdList::showRow(std::size_t row, const QString &name, const QString &value, bool visible)
 {
-    const auto [nameLabel, valueLabel] = m_rows[row];
-    setTextOf(nameLabel, name);
-    setTextOf(valueLabel, value);
-    nameLabel->setVisible(visible);
-    valueLabel->setVisible(visible);
+    m_grid->setRowMinimumHeight(static_cast<int>(row), visible ? kPitch : 0);
+    if (row >= m_rows.size())
+        return;
+    const Row &shown = m_rows[row];
+    setTextOf(shown.name, name);
+    setTextOf(shown.value, value);
+    shown.name->setVisible(visible);
+    shown.value->setVisible(visible);
+    for (QPushButton *button : shown.buttons)
+        button->setVisible(visible);
 }
 
 } // namespace virtualdesk

@@ -23,6 +23,9 @@ enum class Outcome {
     Unplugged   ///< nobody is on the line
 };
 
+/// What an outcome is called: a source text, which the panel translates.
+const char *wordOf(Outcome outcome);
+
 /// One request as the monitor saw it.
 struct Request
 {

@@ -6,9 +6,6 @@
 
 namespace virtualdesk {
 
-// Never translated: programs read it.
-constexpr const char *kOutcomes[] = {"ok", "adjusted", "garbled", "unexpected", "refused", "lost", "deaf", "unplugged"};
-
 RequestLog::RequestLog(VirtualDesk &desk, const QString &fileName) : m_desk(desk), m_file(fileName)
 {
     if (!m_file.open(QIODevice::WriteOnly | QIODevice::Append)) {
@@ -36,7 +33,7 @@ void RequestLog::write(const char *monitor, const Request &request)
                              .arg(QLatin1Char(request.kind == RequestKind::Read ? 'R' : 'W'))
                              .arg(request.code, 2, 16, QLatin1Char('0'))
                              .arg(request.value)
-                             .arg(QLatin1String(kOutcomes[static_cast<int>(request.outcome)]));
+                             .arg(QLatin1String(wordOf(request.outcome))); // never translated: programs read it
     const std::lock_guard lock(m_mutex);
     m_file.write(line.toUtf8());
     m_file.flush();

@@ -1,5 +1,7 @@
 #include "virtualdesk/screenview.h"
 
+#include <iterator>
+
 #include <QEvent>
 #include <QPainter>
 #include <QPainterPath>

@@ -1,5 +1,6 @@
 #include "virtualdesk/scriptobject.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "virtualdesk/faults.h"
@@ -46,6 +47,14 @@ void ScriptObject::flag(const char *key, bool &target)
     target = value.toBool(target);
 }
 
+void ScriptObject::text(const char *key, QString &target)
+{
+    const QJsonValue value = take(key);
+    if (!value.isUndefined() && !value.isString())
+        fail(QStringLiteral("\"%1\" must be a text").arg(QLatin1String(key)));
+    target = value.toString(target);
+}
+
 void ScriptObject::times(int &target, int low)
 {
     constexpr char kKey[] = "times";
@@ -68,6 +77,29 @@ QJsonArray ScriptObject::list(const char *key)
     if (!value.isUndefined() && !value.isArray())
         fail(QStringLiteral("\"%1\" must be a list").arg(QLatin1String(key)));
     return value.toArray();
+}
+
+void ScriptObject::numbers(const char *key, std::span<int> target)
+{
+    if (!has(key))
+        return;
+    const QJsonArray given = list(key);
+    const auto isWhole = [](const QJsonValue &value) { return value.isDouble() && value.toInt(1) == value.toInt(0); };
+    if (given.size() != static_cast<qsizetype>(target.size()) || !std::all_of(given.begin(), given.end(), isWhole))
+        return fail(QStringLiteral("\"%1\" must be %2 numbers").arg(QLatin1String(key)).arg(target.size()));
+    std::transform(given.begin(), given.end(), target.begin(), [](const QJsonValue &value) { return value.toInt(); });
+}
+
+ScriptObject ScriptObject::inside(const char *key, const QJsonValue &value)
+{
+    if (!value.isObject())
+        fail(QStringLiteral("\"%1\" must be an object, or a list of them").arg(QLatin1String(key)));
+    return {value.toObject(), m_error};
+}
+
+QJsonObject ScriptObject::members(const char *key)
+{
+    return has(key) ? inside(key).m_object : QJsonObject();
 }
 
 void ScriptObject::finish()

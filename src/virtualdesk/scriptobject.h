@@ -2,7 +2,9 @@
 
 #include <chrono>
 #include <optional>
+#include <span>
 #include <type_traits>
+#include <utility>
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -15,8 +17,8 @@ namespace virtualdesk {
 class ScriptObject
 {
 public:
-    /// Anything but an object reads as an empty one. The text outlives it; it is empty until there is a mistake.
-    ScriptObject(const QJsonValue &value, QString &error) : m_object(value.toObject()), m_error(error) {}
+    /// The text outlives it; it is empty until there is a mistake.
+    ScriptObject(QJsonObject object, QString &error) : m_object(std::move(object)), m_error(error) {}
 
     void fail(const QString &text);
 
@@ -35,6 +37,8 @@ public:
     }
 
     void flag(const char *key, bool &target);
+
+    void text(const char *key, QString &target);
 
     /// One of some words, in the order of the enumeration.
     template <typename Choice, std::size_t Count>
@@ -62,12 +66,20 @@ public:
     {
         const QJsonArray entries = list(key);
         for (const QJsonValue &entry : entries)
-            read(inside(entry));
+            read(inside(key, entry));
     }
     QJsonArray list(const char *key);
 
-    /// The object that a value of this one is.
-    ScriptObject inside(const QJsonValue &value) const { return {value, m_error}; }
+    /// A list of as many whole numbers as the target has.
+    void numbers(const char *key, std::span<int> target);
+
+    /// The object that a value is which stands behind a key, or in the list there; anything else is a mistake, and
+    /// reads as an empty one.
+    ScriptObject inside(const char *key, const QJsonValue &value);
+    ScriptObject inside(const char *key) { return inside(key, take(key)); }
+
+    /// The same, to be read name by name; empty when the key is not there.
+    QJsonObject members(const char *key);
 
     /// A word that nothing here has.
     void failUnknown(const char *key, const QString &word);

@@ -61,7 +61,7 @@ public:
     /// The next writes fail, or, by kForEver, all until 0.
     void refuseWrites(int times);
     bool refusesWrites() const;
-    /// The next attempts to open it fail.
+    /// The next attempts to open it fail, or, by kForEver, all until 0.
     void failOpens(int times);
     /// Somebody pulls it out at the n-th write from now, which fails; 0 takes that back.
     void unplugAtWrite(int n);

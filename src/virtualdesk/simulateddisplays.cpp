@@ -80,7 +80,15 @@ std::optional<platform::DisplayInfo> SimulatedDisplays::info(platform::DisplayHa
     return platform::DisplayInfo{bounds, m_displays[*index].deviceName, bounds.adjusted(0, 0, 0, -kTaskbar)};
 }
 
-/// The first display is what the program is really shown on, as soon as there is a toolkit to ask.
+/// What a display is really shown on, as soon as there is a toolkit to ask: the first one, unless it has bounds of its
+/// own. Null for any other.
+const QScreen *SimulatedDisplays::realScreen(std::size_t display) const
+{
+    const bool hasToolkit = qobject_cast<QGuiApplication *>(QCoreApplication::instance()) != nullptr;
+    return hasToolkit && display == 0 && m_displays[0].bounds.isNull() ? QGuiApplication::primaryScreen() : nullptr;
+}
+
+/// In pixels, which the toolkit may count in points.
 QRect SimulatedDisplays::boundsOf(std::size_t display) const
 {
     if (!m_displays[display].bounds.isNull())
@@ -89,9 +97,9 @@ QRect SimulatedDisplays::boundsOf(std::size_t display) const
         const QRect before = boundsOf(display - 1);
         return {QPoint(before.right() + 1, before.top()), kSecondScreen};
     }
-    const bool hasToolkit = qobject_cast<QGuiApplication *>(QCoreApplication::instance()) != nullptr;
-    const QScreen *primary = hasToolkit ? QGuiApplication::primaryScreen() : nullptr;
-    return primary != nullptr ? primary->geometry() : QRect(QPoint(0, 0), kPlainScreen);
+    const QScreen *real = realScreen(display);
+    return real != nullptr ? QRect(real->geometry().topLeft(), real->size() * real->devicePixelRatio())
+                           : QRect(QPoint(0, 0), kPlainScreen);
 }
 
 std::optional<platform::DisplayDevice> SimulatedDisplays::adapter(std::uint32_t index) const
@@ -146,8 +154,10 @@ std::vector<platform::Screen> SimulatedDisplays::screens() const
         return *m_screens;
     std::vector<platform::Screen> screens;
     for (std::size_t display = 0; display < m_displays.size(); ++display) {
-        if (!pluggedOn(display).empty())
-            screens.push_back({m_displays[display].deviceName, boundsOf(display)});
+        if (pluggedOn(display).empty())
+            continue;
+        const QScreen *real = realScreen(display);
+        screens.push_back({m_displays[display].deviceName, real != nullptr ? real->geometry() : boundsOf(display)});
     }
     return screens;
 }

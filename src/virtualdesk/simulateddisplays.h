@@ -10,6 +10,8 @@
 #include "virtualdesk/desksetup.h"
 #include "virtualdesk/monitorhandles.h"
 
+class QScreen;
+
 namespace virtualdesk {
 
 /// The displays and the monitors on them, as the system enumerates them. Interface thread, except monitor().
@@ -72,6 +74,7 @@ private:
     };
 
     std::vector<std::size_t> pluggedOn(std::size_t display) const;
+    const QScreen *realScreen(std::size_t display) const;
     QRect boundsOf(std::size_t display) const;
     std::optional<std::size_t> displayOf(platform::DisplayHandle handle);
     QString hardwarePath(std::size_t index) const;

@@ -97,6 +97,7 @@ std::uint16_t SimulatedMonitor::maximum(std::uint8_t code) const
 void SimulatedMonitor::setValue(std::uint8_t code, std::uint16_t value)
 {
     const std::lock_guard lock(m_mutex);
+    m_memory.passTime(m_clock.now());
     m_memory.set(code, value);
 }
 

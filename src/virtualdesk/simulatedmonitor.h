@@ -74,6 +74,7 @@ public:
     void setAsleep(bool asleep) { m_asleep = asleep; }
     bool isAsleep() const { return m_asleep; }
 
+    /// Pulled out, it forgets what it was in the middle of being told.
     void setPlugged(bool plugged);
     bool isPlugged() const
     {

@@ -7,7 +7,7 @@ namespace virtualdesk {
 
 namespace {
 
-constexpr SoundFault kFaults[] = {
+constexpr SoundFault kSoundFaults[] = {
     {NAME("Pull out"), NAME("There is no sound output until the button is released"),
      [](SimulatedEndpoint &endpoint, bool on) { endpoint.setPresent(!on); },
      [](const SimulatedEndpoint &endpoint) { return !endpoint.setup().present; }},
@@ -43,7 +43,7 @@ constexpr SoundFault kFaults[] = {
 
 std::span<const SoundFault> soundFaults()
 {
-    return kFaults;
+    return kSoundFaults;
 }
 
 } // namespace virtualdesk

@@ -29,7 +29,7 @@ constexpr const char *kMixes[] = {NAME("Extensible, floating point"), NAME("Plai
 constexpr int kRates[] = {44100, 48000, 96000, 192000};
 constexpr int kChannels[] = {1, 2, 6, 8};
 
-constexpr int kFaultColumns = 3;
+constexpr int kSoundFaultColumns = 3;
 
 constexpr double kLowestTone = 55; // Hz
 constexpr int kStepsPerOctave = 10;
@@ -55,7 +55,7 @@ void choose(QComboBox *box, int value, const char *text)
     box->setCurrentIndex(box->findData(value));
 }
 
-constexpr char kStyle[] = R"(
+constexpr char kSoundStyle[] = R"(
 QSlider::groove:horizontal { height: 4px; background: #2c3a34; border-radius: 2px; }
 QSlider::sub-page:horizontal { background: #1f8f74; border-radius: 2px; }
 QSlider::handle:horizontal { width: 14px; height: 14px; margin: -5px 0; border-radius: 7px; background: #7bfadb; }
@@ -69,9 +69,9 @@ SoundPanel::SoundPanel(VirtualDesk &desk, QWidget *parent)
     : QWidget(parent), m_endpoint(desk.sound()), m_wave(m_endpoint.setup().sound.wave), m_soundTitle(makeTitle(this)),
       m_deviceTitle(makeTitle(this)), m_faultTitle(makeTitle(this)), m_state(new QLabel(this)),
       m_column(new QVBoxLayout(this)), m_rows(new PanelRows(m_column, this)),
-      m_faults(new ActionButtons(kFaultColumns, this))
+      m_faults(new ActionButtons(kSoundFaultColumns, this))
 {
-    setStyleSheet(QLatin1String(kStyle));
+    setStyleSheet(QLatin1String(kSoundStyle));
     m_column->setContentsMargins(0, 8, 0, 0);
     m_column->setSpacing(8);
     buildSound();
@@ -162,12 +162,9 @@ bool SoundPanel::chooseFile()
         this, QObject::tr("A WAV file"), QString(), QStringLiteral("*.wav"), nullptr, QFileDialog::DontUseNativeDialog);
     if (fileName.isEmpty())
         return false;
-    QString error;
-    auto wave = readWave(fileName, error);
-    if (!wave) {
-        m_state->setText(error);
+    auto wave = readWave(fileName, m_fileFault);
+    if (!wave)
         return false;
-    }
     m_wave = std::make_shared<const WaveData>(std::move(*wave));
     m_waveName = QFileInfo(fileName).fileName();
     return true;
@@ -176,6 +173,7 @@ bool SoundPanel::chooseFile()
 /// Changes one thing about what plays; the others stay as they are, also where a control cannot show them exactly.
 void SoundPanel::change(const std::function<void(SoundSetup &)> &edit)
 {
+    m_fileFault.clear();
     SoundSetup sound = m_endpoint.setup().sound;
     edit(sound);
     m_endpoint.play(sound);
@@ -200,7 +198,7 @@ void SoundPanel::showWhatIs()
     choose(m_channels, setup.channels, "%1");
     m_mix->setCurrentIndex(static_cast<int>(setup.mix));
     m_faults->showStates();
-    m_state->setText(sound == Sound::Wave ? m_waveName : QString());
+    m_state->setText(m_fileFault.isEmpty() && sound == Sound::Wave ? m_waveName : m_fileFault);
 }
 
 void SoundPanel::retranslate()

@@ -42,6 +42,7 @@ private:
     SimulatedEndpoint &m_endpoint;
     std::shared_ptr<const WaveData> m_wave;
     QString m_waveName;
+    QString m_fileFault; ///< of the file that was chosen last; empty as soon as something else is chosen
     QLabel *m_soundTitle;
     QLabel *m_deviceTitle;
     QLabel *m_faultTitle;

@@ -1,14 +1,16 @@
 #include "virtualdesk/soundscript.h"
 
 #include <iterator>
+#include <memory>
+#include <utility>
 
 namespace virtualdesk {
 
 namespace {
 
 // In the order of their enumerations.
-constexpr const char *kSounds[] = {"nothing", "silence", "tone", "two_tones", "sweep", "noise", "wave"};
-constexpr const char *kMixes[] = {"extensible_float", "float", "extensible_integer", "integer"};
+constexpr const char *kSoundWords[] = {"nothing", "silence", "tone", "two_tones", "sweep", "noise", "wave"};
+constexpr const char *kMixWords[] = {"extensible_float", "float", "extensible_integer", "integer"};
 constexpr const char *kCalls[] = {"create_enumerator",
                                   "default_endpoint",
                                   "create_event",
@@ -61,17 +63,14 @@ void readWaveFile(ScriptObject &object, SoundSetup &sound)
 
 void readSoundScript(ScriptObject &root, EndpointSetup &setup, std::vector<AudioFault> &faults)
 {
-    const QJsonValue value = root.take("audio");
-    if (!value.isObject())
-        return root.fail(QStringLiteral("\"audio\" must be an object"));
-    ScriptObject object = root.inside(value);
+    ScriptObject object = root.inside("audio");
     object.flag("present", setup.present);
     object.flag("converts_rates", setup.convertsRates);
-    object.choice("mix", setup.mix, kMixes);
+    object.choice("mix", setup.mix, kMixWords);
     object.number("rate", setup.sampleRate, 1000, 768000);
     object.number("channels", setup.channels, 1, 16);
     object.number("packet_frames", setup.packetFrames, 1, 100000);
-    object.choice("plays", setup.sound.sound, kSounds);
+    object.choice("plays", setup.sound.sound, kSoundWords);
     object.number("frequency", setup.sound.frequency, 1, 100000);
     object.number("second_frequency", setup.sound.secondFrequency, 1, 100000);
     object.number("volume", setup.sound.volume, 0, 100);

@@ -16,7 +16,7 @@ namespace {
 constexpr double kSweepFrom = 80; // Hz
 constexpr double kSweepTo = 8000;
 constexpr double kSweepSeconds = 8;
-constexpr int kChunkHead = 8;
+constexpr int kWaveChunkHead = 8;
 constexpr int kFormatLength = 16;
 constexpr std::uint16_t kPcm = 1;
 constexpr std::uint16_t kFloat = 3;
@@ -101,15 +101,15 @@ std::optional<WaveData> readWave(const QString &fileName, QString &error)
     QByteArrayView data;
     if (bytes.startsWith("RIFF") && bytes.mid(8, 4) == "WAVE") {
         qsizetype at = 12;
-        while (at + kChunkHead <= bytes.size() && data.isEmpty()) {
+        while (at + kWaveChunkHead <= bytes.size() && data.isEmpty()) {
             const qsizetype length = qFromLittleEndian<quint32>(bytes.constData() + at + 4);
             const QByteArrayView chunk =
-                QByteArrayView(bytes).sliced(at + kChunkHead, std::min(length, bytes.size() - at - kChunkHead));
+                QByteArrayView(bytes).sliced(at + kWaveChunkHead, std::min(length, bytes.size() - at - kWaveChunkHead));
             if (bytes.mid(at, 4) == "fmt ")
                 format = parseFormat(chunk);
             else if (bytes.mid(at, 4) == "data")
                 data = chunk;
-            at += kChunkHead + length + length % 2;
+            at += kWaveChunkHead + length + length % 2;
         }
     }
     const bool known = (format.tag == kPcm && format.bits == 16) || (format.tag == kFloat && format.bits == 32);

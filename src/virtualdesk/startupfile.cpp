@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QSettings>
+#include <QVariant>
 
 namespace virtualdesk {
 
@@ -18,16 +19,22 @@ std::optional<QString> StartUpFile::value(const QString &name) const
 
 bool StartUpFile::setValue(const QString &name, const QString &text)
 {
-    if (writable)
-        QSettings(m_fileName, QSettings::IniFormat).setValue(name, text);
-    return writable;
+    return change([&](QSettings &file) { file.setValue(name, text); });
 }
 
 bool StartUpFile::removeValue(const QString &name)
 {
-    if (writable)
-        QSettings(m_fileName, QSettings::IniFormat).remove(name);
-    return writable;
+    return change([&](QSettings &file) { file.remove(name); });
+}
+
+bool StartUpFile::change(const std::function<void(QSettings &)> &edit)
+{
+    if (!writable)
+        return false;
+    QSettings file(m_fileName, QSettings::IniFormat);
+    edit(file);
+    file.sync();
+    return file.status() == QSettings::NoError;
 }
 
 } // namespace virtualdesk

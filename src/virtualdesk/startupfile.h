@@ -1,8 +1,11 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 
 #include <QString>
+
+class QSettings;
 
 namespace virtualdesk {
 
@@ -14,7 +17,9 @@ public:
     explicit StartUpFile(const QString &folder) { setFolder(folder); }
     void setFolder(const QString &folder);
 
+    /// The text of a value; nothing when there is none.
     std::optional<QString> value(const QString &name) const;
+    /// Each is false when the system refuses it, or the disk.
     bool setValue(const QString &name, const QString &text);
     bool removeValue(const QString &name);
 
@@ -22,6 +27,8 @@ public:
     bool writable = true;
 
 private:
+    bool change(const std::function<void(QSettings &)> &edit);
+
     QString m_fileName;
 };
 

@@ -88,6 +88,7 @@ void VirtualDesk::announceOnOwnThread(const std::function<void()> &announce)
 
 void VirtualDesk::sleep()
 {
+    ++m_sleeps;
     for (std::size_t i = 0; i < monitorCount(); ++i)
         monitor(i).setAsleep(true);
     Q_EMIT monitorsChanged();
@@ -99,7 +100,9 @@ void VirtualDesk::wake()
     m_registrations.tellSystem(platform::kMessagePowerBroadcast, platform::kPowerResumeAutomatic);
     m_registrations.tellSystem(platform::kMessagePowerBroadcast, platform::kPowerResumeSuspend);
     m_registrations.tellSystem(platform::kMessageDisplayChange, kColourBits);
-    m_clock.callLater(kMonitorWakes, this, [this] {
+    m_clock.callLater(kMonitorWakes, this, [this, sleeps = m_sleeps] {
+        if (sleeps != m_sleeps) // gone to sleep again
+            return;
         for (std::size_t i = 0; i < monitorCount(); ++i)
             monitor(i).setAsleep(false);
         Q_EMIT monitorsChanged();

@@ -94,6 +94,7 @@ private:
 
     platform::Clock &m_clock;
     std::vector<TimedEvent> m_events;
+    int m_sleeps = 0; ///< so far
     MonitorHandles m_handles;
     SimulatedDisplays m_displays;
     SimulatedProcess m_process;

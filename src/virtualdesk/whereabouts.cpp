@@ -1,5 +1,7 @@
 #include "virtualdesk/whereabouts.h"
 
+#include <utility>
+
 #include <QApplication>
 #include <QFile>
 #include <QSaveFile>

@@ -1,6 +1,7 @@
 #include "virtualdesk/windowsview.h"
 
 #include <algorithm>
+#include <vector>
 
 #include <QPainter>
 
@@ -44,8 +45,10 @@ void WindowsView::paintEvent(QPaintEvent *)
     QRect desktop;
     std::vector<QRect> bounds;
     for (const platform::DisplayHandle display : m_desk.displays().enumerate()) {
-        bounds.push_back(m_desk.displays().info(display)->bounds);
-        desktop |= bounds.back();
+        if (const auto info = m_desk.displays().info(display)) {
+            bounds.push_back(info->bounds);
+            desktop |= info->bounds;
+        }
     }
     QPainter painter(this);
     QFont small = font();

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "controls/dash.h"
+#include "controls/dress.h"
 #include "controls/lefttabbutton.h"
 #include "controls/palette.h"
 #include "controls/picturelabel.h"
@@ -35,7 +36,7 @@ const Section kVersionPanel[] = {CustomPart{kVersion}};
 const Section kQrCodePanel[] = {CustomPart{kQrCode}};
 const Section kKnowledgePanel[] = {CustomPart{kKnowledge}};
 const Section kUpgradePanel[] = {CustomPart{kUpgrade}};
-const PanelSpec kPanels[] = {
+const PanelSpec kServicePanels[] = {
     {kVersion, "display_version", "pageDisplayVersion", kVersionPanel, {}, kDisplayVersionHelp},
     {kQrCode, "qr_code", "pageQrCode", kQrCodePanel, {}, kQrCodeHelp},
     {kKnowledge, "knowledge", "pageKnowledge", kKnowledgePanel, {}, kKnowledgeHelp},
@@ -88,7 +89,7 @@ bool hasContents(const QString &label)
 pageServicesSetting::pageServicesSetting(CommandQueue &queue, QWidget *parent)
     : PanelPage(QStringLiteral("pageServicesSetting"), OwnList::Shown, queue, parent)
 {
-    buildPanels(kPanels);
+    buildPanels(kServicePanels);
 }
 
 QWidget *pageServicesSetting::buildPart(const char *name)
@@ -106,7 +107,7 @@ QWidget *pageServicesSetting::buildVersion()
 {
     m_version = new QLabel(this);
     m_version->setObjectName(QStringLiteral("displayVersion"));
-    m_version->setStyleSheet(Palette::styled(u"color: @mint; font-size: 28px;"));
+    dressText(m_version, {Palette::kMint, 28});
     texts().bind(kVersion, [this](const QString &text) { m_version->setAccessibleDescription(text); });
     return m_version;
 }

@@ -4,6 +4,7 @@
 #include <QGridLayout>
 #include <QPushButton>
 
+#include "controls/dress.h"
 #include "controls/metrics.h"
 #include "controls/palette.h"
 #include "ddc_protocol/monitoridentity.h"
@@ -37,7 +38,7 @@ QWidget *pageSystemSetting::buildPart(const char *)
     grid->setHorizontalSpacing(metrics::kGap);
     grid->setVerticalSpacing(metrics::kRowGap);
     auto *question = new QLabel(part);
-    question->setStyleSheet(Palette::styled(u"color: @soft; font-size: 14px;"));
+    dressText(question, {Palette::kSoft, 14});
     question->setWordWrap(true);
     texts().bind(
         LABEL("Set everything back to how the monitor left the factory? The screen goes dark for a few seconds."),

@@ -27,7 +27,7 @@ QRectF menuOn(const QRectF &screen, const PictureValues &values)
     return menu;
 }
 
-void drawMenu(QPainter &painter, const QRectF &menu, double opacity)
+void drawMenu(QPainter &painter, const QRectF &menu, double opacity, int rows = 5)
 {
     painter.save();
     painter.setOpacity(opacity);
@@ -35,7 +35,7 @@ void drawMenu(QPainter &painter, const QRectF &menu, double opacity)
     painter.setBrush(QColor(Palette::kGround));
     painter.drawRoundedRect(menu, 6, 6);
     painter.setPen(Qt::NoPen);
-    for (int row = 0; row < 5; ++row) {
+    for (int row = 0; row < rows; ++row) {
         painter.setBrush(QColor(row == 1 ? Palette::kMint : Palette::kRestingEdge));
         painter.drawRoundedRect(QRectF(menu.left() + 12, menu.top() + menu.height() * (0.12 + 0.17 * row),
                                        menu.width() * (0.7 - 0.08 * (row % 3)), menu.height() * 0.07),
@@ -48,7 +48,7 @@ void paintOsd(QPainter &painter, const QRectF &screen, const PictureValues &valu
 {
     screenguides::drawDesktop(painter, screen);
     const QRectF menu = menuOn(screen, values);
-    drawMenu(painter, menu, 1 - 0.8 * values(Command::OsdTransparency, 0) / 100.0);
+    drawMenu(painter, menu, 1 - 0.8 * values(Command::OsdTransparency, 0) / 100.0, 4); // the time is the last
     painter.setPen(QColor(Palette::kText));
     painter.drawText(menu.adjusted(0, 0, -10, -6), Qt::AlignRight | Qt::AlignBottom,
                      QObject::tr("%1 s").arg(values(Command::OsdShowTime, 20)));

@@ -97,7 +97,7 @@ const Section kResetFactory[] = {CustomPart{kResetPart}};
 const Section kOsdLanguage[] = {groupOf(Command::OsdLanguage, kLanguages)};
 const Section kMenuLock[] = {switchOf(Command::MenuLock, kSwitchOptions, kMenuLockWhen)};
 
-const PanelSpec kPanels[] = {
+const PanelSpec kSystemPanels[] = {
     panelOf(Command::OutputRange, "output_range", "pageOutputRange", kOutputRange, kRangeHelp, &commonpictures::kRange),
     {LABEL("OSD Setting"), "osd_setting", "pageOSDSetting", kOsdSetting, {}, kOSDSettingHelp, &systempictures::kOsd},
     panelOf(Command::PowerSaving, "power_saving", "pagePowerSaving", kPowerSavingPanel, kPowerSavingHelp,
@@ -128,5 +128,5 @@ const char *osdLanguageName(int value)
 
 std::span<const PanelSpec> systemPanels()
 {
-    return kPanels;
+    return kSystemPanels;
 }

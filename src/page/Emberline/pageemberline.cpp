@@ -8,6 +8,7 @@
 
 #include "controls/captionlabel.h"
 #include "controls/colorpicker.h"
+#include "controls/dress.h"
 #include "controls/metrics.h"
 #include "controls/palette.h"
 #include "ddc_protocol/automaticwriter.h"
@@ -27,11 +28,11 @@ constexpr int kCaptionPixels = 15;
 constexpr int kEndsHeight = 20;
 constexpr int kValueWidth = 96; // behind a slider: its value and the room for a lock
 
-QLabel *makeCaption(QWidget *parent)
+QLabel *makeCaption(QRgb colour, QWidget *parent)
 {
     auto *label = new CaptionLabel(QString(), kCaptionPixels, parent);
     label->setFixedHeight(metrics::kControlHeight);
-    label->setStyleSheet(Palette::styled(u"color: @text;"));
+    dressText(label, {colour});
     return label;
 }
 
@@ -81,7 +82,7 @@ QWidget *pageEmberline::buildOwnColor()
     m_ownColorRow = new QWidget(this);
     m_ownColor = new ColorPicker(m_ownColorRow);
     m_ownColor->setObjectName(QStringLiteral("ownLightColor"));
-    QLabel *caption = makeCaption(m_ownColorRow);
+    QLabel *caption = makeCaption(Palette::kText, m_ownColorRow);
     caption->setFixedWidth(metrics::kCaptionWidth);
     texts().bind(LABEL("Custom Color"), [this, caption](const QString &text) {
         caption->setText(text);
@@ -130,8 +131,7 @@ QWidget *pageEmberline::buildTemperatureEnds()
     auto *row = new QHBoxLayout(ends);
     row->setContentsMargins(metrics::kCaptionWidth + metrics::kGap, 0, kValueWidth, 0);
     for (const char *label : {LABEL("Warm"), LABEL("Cold")}) {
-        QLabel *caption = makeCaption(ends);
-        caption->setStyleSheet(Palette::styled(u"color: @dim;"));
+        QLabel *caption = makeCaption(Palette::kDim, ends);
         caption->setFixedHeight(kEndsHeight); // which keeps it close to its slider
         texts().bind(label, [caption](const QString &text) { caption->setText(text); });
         if (row->count() != 0)

@@ -106,7 +106,7 @@ const Section kFocus[] = {switchOf(Command::FocusDimming, kSwitchOptions, kFocus
                           groupOf(Command::FocusDimmingLevel, kStrengths, nullptr, kLevel)};
 const Section kDual[] = {switchOf(Command::AiDualMode, kCloseOpen, kAiDualModeWhen)};
 
-const PanelSpec kPanels[] = {
+const PanelSpec kGamePanels[] = {
     panelOf(Command::GameRush, "game_rush", "gameRush", kRush, kGameRushHelp, &gamepictures::kRush),
     panelOf(Command::Crosshair, "crosshair", "gameCrosshair", kCrosshair, kCrosshairHelp, &gamepictures::kCrosshair),
     panelOf(Command::HawkEyeVision, "hawkeye_vision", "gameHawkEye", kHawkEye, kHawkEyeHelp, &gamepictures::kHawkEye),
@@ -127,5 +127,5 @@ const PanelSpec kPanels[] = {
 
 std::span<const PanelSpec> gamePanels()
 {
-    return kPanels;
+    return kGamePanels;
 }

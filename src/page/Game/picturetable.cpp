@@ -67,7 +67,7 @@ const Section kHaloControlPanel[] = {SliderGrid{nullptr, 1, kCaption, kHaloContr
 const Section kAdaptiveSync[] = {switchOf(Command::AdaptiveSync, kSwitchOptions, kAdaptiveSyncWhen)};
 
 // The motion function has another name where it is another one.
-const PanelSpec kPanels[] = {
+const PanelSpec kPicturePanels[] = {
     {LABEL("Game Rush"), "game_rush", "pageGameRush", kGameRush, {}, kGameRushHelp, &gamepictures::kRush},
     {LABEL("DyDs"), "motion", "pageMotion", kDyds, {}, kMotionHelp, &commonpictures::kMotion, Capability::MpcsMotion},
     {LABEL("MPCS"), "motion", "pageMpcs", kMpcs, Capability::MpcsMotion, kMotionHelp, &commonpictures::kMotion},
@@ -105,5 +105,5 @@ const PanelSpec kPanels[] = {
 
 std::span<const PanelSpec> picturePanels()
 {
-    return kPanels;
+    return kPicturePanels;
 }

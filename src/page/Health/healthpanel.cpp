@@ -22,6 +22,7 @@
 #include "page/engine/boundtexts.h"
 #include "page/engine/dropdown.h"
 #include "page/engine/labels.h"
+#include "page/engine/pagestyle.h"
 #include "page/engine/plainbutton.h"
 #include "platform/desk.h"
 
@@ -57,6 +58,7 @@ HealthPanel::~HealthPanel()
 void HealthPanel::build()
 {
     m_isBuilt = true;
+    dressPage(this);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(metrics::kGap);

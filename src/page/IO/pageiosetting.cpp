@@ -1,5 +1,6 @@
 #include "page/IO/pageiosetting.h"
 
+#include "controls/dress.h"
 #include "controls/palette.h"
 #include "controls/picturelabel.h"
 #include "controls/sharedfonts.h"
@@ -43,7 +44,7 @@ QWidget *pageIOSetting::buildPart(const char *name)
         part = m_inputNow = new QLabel(this);
     part->setFont(noteFont);
     part->setObjectName(QLatin1String(name));
-    part->setStyleSheet(Palette::styled(u"color: @bright;"));
+    dressText(part, {Palette::kBright});
     return part;
 }
 

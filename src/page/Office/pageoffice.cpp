@@ -5,14 +5,15 @@
 
 #include "controls/captionlabel.h"
 #include "controls/desktoptoast.h"
+#include "controls/dress.h"
 #include "controls/metrics.h"
 #include "controls/palette.h"
-#include "controls/wheeleventfilter.h"
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/devicestate.h"
 #include "page/Office/officetable.h"
 #include "page/Office/papersize.h"
 #include "page/engine/labels.h"
+#include "page/engine/numberfield.h"
 #include "page/engine/optionbutton.h"
 #include "platform/desk.h"
 
@@ -42,14 +43,16 @@ PageOffice::~PageOffice() = default;
 QWidget *PageOffice::buildPart(const char *)
 {
     m_paperSize = new QWidget(this);
-    m_width = makeSizeField(QStringLiteral("paperWidth"));
-    m_height = makeSizeField(QStringLiteral("paperHeight"));
+    for (const auto &[field, name] : {std::pair(&m_width, "paperWidth"), {&m_height, "paperHeight"}}) {
+        *field = makeNumberField(QLatin1String(name), QStringLiteral(" mm"), m_paperSize);
+        (*field)->setRange(kSmallestPaper, kLargestPaper);
+    }
     auto *row = new QHBoxLayout(m_paperSize);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(metrics::kGap);
     for (const auto &[field, label] : {std::pair(m_width, LABEL("Width")), std::pair(m_height, LABEL("Height"))}) {
         auto *caption = new CaptionLabel(QString(), 15, m_paperSize);
-        caption->setStyleSheet(Palette::styled(u"color: @soft;"));
+        dressText(caption, {Palette::kSoft});
         texts().bind(label, [caption, spin = field](const QString &text) {
             caption->setText(text);
             spin->setAccessibleName(text);
@@ -71,18 +74,6 @@ QWidget *PageOffice::buildPart(const char *)
     m_width->setValue(paper.width());
     m_height->setValue(paper.height());
     return m_paperSize;
-}
-
-QSpinBox *PageOffice::makeSizeField(const QString &name)
-{
-    auto *field = new QSpinBox(m_paperSize);
-    field->setObjectName(name);
-    field->setSuffix(QStringLiteral(" mm"));
-    field->setFixedSize(110, metrics::kControlHeight);
-    field->setRange(kSmallestPaper, kLargestPaper);
-    field->setButtonSymbols(QAbstractSpinBox::NoButtons); // typed, or stepped by the arrow keys
-    field->installEventFilter(new WheelEventFilter(field));
-    return field;
 }
 
 /// The monitor takes a size by two writes of its office area's command: the width and, with the top bit, the height, in

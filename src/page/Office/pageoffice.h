@@ -24,7 +24,6 @@ protected:
     void followValue(Command command) override;
 
 private:
-    QSpinBox *makeSizeField(const QString &name);
     void sendPaperSize();
     void showPaperSize();
     void followRestTimer();

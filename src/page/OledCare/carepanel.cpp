@@ -4,8 +4,10 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "controls/dress.h"
 #include "controls/metrics.h"
 #include "controls/palette.h"
+#include "controls/wrappedlabel.h"
 #include "page/OledCare/carecalendar.h"
 #include "page/OledCare/carehistory.h"
 #include "page/engine/boundtexts.h"
@@ -14,12 +16,12 @@
 
 namespace {
 
-QLabel *makeLine(QStringView style, QWidget *parent)
+QLabel *makeLine(const TextLook &look, QWidget *parent)
 {
-    auto *line = new QLabel(parent);
+    auto *line = new WrappedLabel(parent);
     line->setWordWrap(true);
     line->setTextFormat(Qt::PlainText);
-    line->setStyleSheet(Palette::styled(style));
+    dressText(line, look);
     return line;
 }
 
@@ -45,13 +47,12 @@ QString nextCare(const CareFacts &facts)
 } // namespace
 
 CarePanel::CarePanel(BoundTexts &texts, QWidget *parent)
-    : QFrame(parent), m_calendar(new CareCalendar(this)), m_used(makeLine(u"color: @text; font-size: 17px;", this)),
-      m_last(makeLine(u"color: @soft; font-size: 14px;", this)),
-      m_next(makeLine(u"color: @bright; font-size: 15px;", this)),
+    : QFrame(parent), m_calendar(new CareCalendar(this)), m_used(makeLine({Palette::kText, 17}, this)),
+      m_last(makeLine({Palette::kSoft, 14}, this)), m_next(makeLine({Palette::kBright, 15}, this)),
       m_start(makePlainButton(LABEL("Start care"), QStringLiteral("startCare"), texts, this))
 {
-    auto *legend = makeLine(u"color: @hint; font-size: 13px;", this);
-    auto *effect = makeLine(u"color: @dim; font-size: 14px;", this);
+    auto *legend = makeLine({Palette::kHint, 13}, this);
+    auto *effect = makeLine({Palette::kDim, 14}, this);
     texts.bind(LABEL("Lighter = used longer that day, ring = cared for."),
                [legend](const QString &text) { legend->setText(text); });
     texts.bind(

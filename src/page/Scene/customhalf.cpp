@@ -22,7 +22,7 @@ CustomHalf::CustomHalf(QWidget *parent) : QWidget(parent)
     m_controls = new QVBoxLayout(content);
     m_controls->setContentsMargins(0, 0, metrics::kGap, 0);
     m_controls->setSpacing(metrics::kRowGap);
-    scroll->setWidget(content);
+    fillScrollArea(scroll, content);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(metrics::kGap);

@@ -24,7 +24,7 @@ pageSceneSetting::pageSceneSetting(SearchDeviceDlg &session, CommandQueue &queue
     : SettingsPage(queue, parent), m_worker(new WorkThread(session, this)), m_areas(new QStackedWidget(this))
 {
     setObjectName(QStringLiteral("pageSceneSetting"));
-    dressPage(this);
+    layGround(this);
 
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(metrics::kBlockGap, 0, metrics::kBlockGap, 16);

@@ -16,7 +16,7 @@ constexpr int kStep = kWholeSide / 48; // to which lines and edges snap; halves 
 constexpr int kReach = 7;              // points, of the mouse at an edge
 constexpr int kShortest = 12;          // points, of a line that cuts
 constexpr qreal kBezel = 8;
-constexpr qreal kRadius = 10;
+constexpr qreal kScreenRadius = 10;
 constexpr int kDigits = 22;
 
 int snapped(int part)
@@ -235,8 +235,9 @@ void LayoutEditor::paintEvent(QPaintEvent *)
     const QRectF screen = screenRect();
     painter.setPen(QPen(QColor(Palette::kRestingEdge), 1));
     painter.setBrush(QColor(Palette::kGround));
-    painter.drawRoundedRect(screen.adjusted(-kBezel + 1, -kBezel + 1, kBezel - 1, kBezel - 1), kRadius, kRadius);
+    painter.drawRoundedRect(screen.adjusted(-kBezel + 1, -kBezel + 1, kBezel - 1, kBezel - 1), kScreenRadius,
+                            kScreenRadius);
     const Zones &zones = m_seen ? *m_seen : m_layout.zones;
     drawZones(painter, screen, zones, {4, kDigits, m_seen ? std::nullopt : std::optional(m_zone)});
-    m_focusRing.draw(painter, screen.adjusted(-kBezel, -kBezel, kBezel, kBezel).toRect(), kRadius);
+    m_focusRing.draw(painter, screen.adjusted(-kBezel, -kBezel, kBezel, kBezel).toRect(), kScreenRadius);
 }

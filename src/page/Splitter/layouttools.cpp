@@ -7,7 +7,9 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "controls/dress.h"
 #include "controls/metrics.h"
+#include "controls/palette.h"
 #include "controls/sharedfonts.h"
 #include "page/Splitter/layouteditor.h"
 #include "page/engine/boundtexts.h"
@@ -63,12 +65,13 @@ LayoutTools::LayoutTools(LayoutModel &model, LayoutEditor &editor, BoundTexts &t
     for (const Tool &tool : kTools) {
         auto *button = makePlainButton(tool.label, QLatin1String(tool.name), texts, this);
         connect(button, &QPushButton::clicked, this, [this, &tool] { tool.act(m_model, m_editor); });
-        button->setStyleSheet(QStringLiteral("padding: 0 4px;")); // two stand side by side
+        dressPlainButton(button, QStringLiteral("QPushButton { padding: 0 4px; }")); // two stand side by side
         grid->addWidget(button, tool.row, tool.column, 1, tool.columns);
         m_buttons.push_back(button);
     }
     m_hint->setObjectName(QStringLiteral("help"));
     m_hint->setFont(noteFont);
+    dressText(m_hint, {Palette::kHint});
     m_hint->setWordWrap(true);
     grid->setRowStretch(grid->rowCount(), 1);
     for (const int column : {0, 1})

@@ -4,7 +4,9 @@
 #include <QLabel>
 
 #include "controls/captionlabel.h"
+#include "controls/dress.h"
 #include "controls/metrics.h"
+#include "controls/palette.h"
 #include "controls/zelmardialog.h"
 #include "controls/zelmarkeysequenceedit.h"
 #include "ddc_protocol/settingsstore.h"
@@ -47,6 +49,7 @@ SplitterKeys::SplitterKeys(KeyFields &fields, BoundTexts &texts, QWidget *parent
     grid->setHorizontalSpacing(metrics::kRowGap);
     grid->setVerticalSpacing(metrics::kGap / 2);
     m_problem->setObjectName(QStringLiteral("notice"));
+    dressText(m_problem, {Palette::kError});
     m_problem->setWordWrap(true);
     m_problem->setTextFormat(Qt::PlainText);
     for (const KeyOf &key : kKeys)

@@ -26,7 +26,7 @@ constexpr int kWidth = 420;
 constexpr int kSide = 20;
 constexpr int kTitlePixels = 18;
 constexpr int kGap = 6; // between zones
-constexpr int kRadius = 14;
+constexpr int kOverlayRadius = 14;
 constexpr QSize kTallest(kWidth - 2 * kSide, 320);
 
 constexpr char16_t kStyle[] =
@@ -153,5 +153,5 @@ void ZoneOverlay::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QColor(Palette::kChecked));
     painter.setBrush(QColor(Palette::kFloating));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kOverlayRadius, kOverlayRadius);
 }

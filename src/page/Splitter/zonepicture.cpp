@@ -4,7 +4,7 @@
 
 #include "controls/palette.h"
 
-static constexpr qreal kRadius = 4;
+static constexpr qreal kZoneRadius = 4;
 
 QRectF zoneOnPicture(const Zone &zone, const QRectF &screen)
 {
@@ -29,7 +29,7 @@ void drawZones(QPainter &painter, const QRectF &screen, std::span<const Zone> zo
                                                 : Palette::kEdge),
                             isMarked ? 2 : 1));
         painter.setBrush(QColor(isMarked || look.isLit ? Palette::kSelected : Palette::kField));
-        painter.drawRoundedRect(rect, kRadius, kRadius);
+        painter.drawRoundedRect(rect, kZoneRadius, kZoneRadius);
         if (look.digits == 0)
             continue;
         painter.setPen(QColor(isMarked ? Palette::kText : Palette::kSoft));

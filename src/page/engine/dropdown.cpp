@@ -9,10 +9,15 @@
 
 #include "controls/palette.h"
 #include "controls/wheeleventfilter.h"
+#include "page/engine/scrollarea.h"
 
-// Added to what the page's style says of every combo box: its arrow without a frame, and the open list.
-static const char16_t *const kStyle =
-    u"QComboBox { combobox-popup: 0; }" // a list of ten rows that scrolls, not a menu as high as the screen
+// The box, its arrow without a frame, and the open list. The size of its letters is its own: a page may have another.
+static const char16_t *const kDropDownStyle =
+    u"QComboBox { color: @text; background-color: @field; border: 1px solid @edge; border-radius: 8px;"
+    " padding: 0 8px; selection-background-color: @selected;"
+    " combobox-popup: 0; }" // a list of ten rows that scrolls, not a menu as high as the screen
+    "QComboBox:focus { border-color: @mint; }"
+    "QComboBox:disabled { color: @disabled; border-color: @restingEdge; }"
     "QComboBox::drop-down { border: none; width: 28px; }"
     "QComboBox::down-arrow { image: url(:/resource/img/option/drop.png); width: 14px; height: 14px; }"
     "QListView { background-color: @field; color: @soft; border: 1px solid @edge; outline: none; font-size: 14px; "
@@ -25,6 +30,8 @@ static const char16_t *const kStyle =
     "QListView::item:selected { background-color: @selected; color: @text; }";
 
 namespace {
+
+constexpr int kListPixels = 14;
 
 /// Opens the list by the keys that would change the value of a closed box: a held key must not send the monitor, or
 /// ask the user, whatever lies on its way.
@@ -51,7 +58,10 @@ QComboBox *makeDropDown(QWidget *parent)
     auto *box = new QComboBox(parent);
     box->setView(new QListView(box));                   // the style sheet reaches this view only, not the system's own
     box->setItemDelegate(new QStyledItemDelegate(box)); // as does this one
-    box->setStyleSheet(Palette::styled(kStyle));
+    QFont font = box->font();
+    font.setPixelSize(kListPixels);
+    box->setFont(font);
+    box->setStyleSheet(Palette::styled(kDropDownStyle) + scrollBarStyle());
     box->view()->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded); // a menu has none, and at first it was one
     box->installEventFilter(new WheelEventFilter(box));
     box->installEventFilter(new ListOpener(box));

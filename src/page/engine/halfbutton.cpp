@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr int kPixels = 15;
+constexpr int kHalfPixels = 15;
 
 // As in HalfSize.
 constexpr struct
@@ -72,7 +72,7 @@ void dressHalfButton(QPushButton *button, HalfSize size)
     const auto &[wide, pictures] = kSizes[static_cast<int>(size)];
     button->setFixedSize(wide, metrics::kControlHeight);
     QFont font = button->font();
-    font.setPixelSize(kPixels);
+    font.setPixelSize(kHalfPixels);
     button->setFont(font);
     // The blanks before the label are balanced behind it, so that the word stands in the middle.
     const qsizetype blanks = button->text().size() - QStringView(button->text()).trimmed().size();

@@ -4,6 +4,7 @@
 
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QImageReader>
 #include <QPainter>
 #include <QPushButton>
 #include <QScrollArea>
@@ -14,6 +15,7 @@
 #include "controls/messagestrip.h"
 #include "controls/metrics.h"
 #include "controls/pictures.h"
+#include "controls/wrappedlabel.h"
 #include "page/engine/labels.h"
 #include "page/engine/pagehead.h"
 #include "page/engine/pagestyle.h"
@@ -31,7 +33,7 @@ const char *const kTrashStyle = "QPushButton { border-image: url(%1trash_normal.
 
 QSize pageSize()
 {
-    static const QSize size = Pictures::load(kBackground, 1.0).size();
+    static const QSize size = QImageReader(kBackground).size(); // which the file tells without its pixels
     return size.isEmpty() ? kFallbackSize : size;
 }
 
@@ -39,7 +41,7 @@ QSize pageSize()
 
 ListPage::ListPage(const QString &name, const char *title, const char *description, const char *nothing,
                    QWidget *parent)
-    : QFrame(parent), m_head(new PageHead(this)), m_tools(new QHBoxLayout), m_nothing(new QLabel(this))
+    : QFrame(parent), m_head(new PageHead(this)), m_tools(new QHBoxLayout), m_nothing(new WrappedLabel(this))
 {
     setObjectName(name);
     describeAs(this, QAccessible::Pane);
@@ -79,6 +81,8 @@ bool ListPage::event(QEvent *event)
         parentWidget()->removeEventFilter(this);
     else if (event->type() == QEvent::ParentChange && parentWidget())
         parentWidget()->installEventFilter(this);
+    else if (event->type() == QEvent::Hide)
+        Pictures::forget(kBackground);
     return QFrame::event(event);
 }
 
@@ -101,7 +105,7 @@ QWidget *ListPage::buildList()
     m_nothing->setParent(content);
     m_rows->addWidget(m_nothing, 1);
     m_rows->addStretch();
-    m_area->setWidget(content);
+    fillScrollArea(m_area, content);
     return m_area;
 }
 

@@ -22,9 +22,10 @@ struct ButtonSize
 constexpr ButtonSize kButtonSizes[] = {{78, "small"}, {124, "big"}, {196, "wide"}};
 
 // Four states by picture, in the order normal, hover, checked, disabled; then the keyboard focus and the text colours.
-const char *const kPictureStyle = "QPushButton { border-image: url(%1);}QPushButton:hover { border-image: url(%2);}"
-                                  "QPushButton:checked { border-image: url(%3);}"
-                                  "QPushButton:disabled { border-image: url(%4);}";
+const char *const kOptionPictureStyle =
+    "QPushButton { border-image: url(%1);}QPushButton:hover { border-image: url(%2);}"
+    "QPushButton:checked { border-image: url(%3);}"
+    "QPushButton:disabled { border-image: url(%4);}";
 constexpr char16_t kTextStyle[] =
     u"QPushButton:focus { border-image: url(%1);}QPushButton:checked:focus { border-image: url(%2);}"
     "QPushButton { color: @soft; }QPushButton:checked { color: @ink; }"
@@ -41,7 +42,7 @@ QString picture(const char *size, const char *state)
 QString optionStyle(const char *pictures)
 {
     const auto of = [pictures](const char *state) { return picture(pictures, state); };
-    return QString::fromLatin1(kPictureStyle).arg(of("normal"), of("hover"), of("checked"), of("disabled")) +
+    return QString::fromLatin1(kOptionPictureStyle).arg(of("normal"), of("hover"), of("checked"), of("disabled")) +
            Palette::styled(kTextStyle).arg(of("focus"), of("checkedfocus"), of("checkeddisabled"));
 }
 

@@ -2,28 +2,27 @@
 
 #include <algorithm>
 
-#include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 
+#include "controls/dress.h"
 #include "controls/metrics.h"
 #include "controls/palette.h"
+#include "controls/wrappedlabel.h"
 #include "ddc_protocol/devicestate.h"
 #include "page/engine/optiongrouprow.h"
 
 namespace {
 
-constexpr int kWidth = 200;
+constexpr int kWordsWidth = 200;
 constexpr int kNamePixels = 18;
 constexpr int kWordsPixels = 14;
 
-QLabel *makeLabel(int pixels, const char *colour, QWidget *parent)
+QLabel *makeLabel(int pixels, QRgb colour, QWidget *parent)
 {
-    auto *label = new QLabel(parent);
-    label->setStyleSheet(Palette::styled(QStringLiteral("color: @%1; font-size: %2px; background: transparent;")
-                                             .arg(QLatin1String(colour))
-                                             .arg(pixels)));
+    auto *label = new WrappedLabel(parent);
+    dressText(label, {colour, pixels});
     label->setWordWrap(true);
     return label;
 }
@@ -64,9 +63,12 @@ bool hasSeveral(const std::vector<OptionGroupRow *> &rows)
            1;
 }
 
-/// What is on: never what is only wished, and may be refused. Of a setting of the tool's own, what is checked.
+/// What is on: never what is only wished, and may be refused. Of a setting of the tool's own, what is checked. Of no
+/// setting, nothing.
 std::optional<int> valueOn(const OptionGroupRow *row)
 {
+    if (!row)
+        return std::nullopt;
     if (const auto command = row->group().command)
         return deviceState.isKnown(*command) ? deviceState.confirmed(*command) : std::nullopt;
     const auto checked = std::ranges::find_if(row->buttons(), &QPushButton::isChecked);
@@ -94,10 +96,11 @@ QString inOneLine(const QString &name, const QString &now, const QString &words)
 OptionWords::OptionWords(std::vector<OptionGroupRow *> rows, Shape shape, QWidget *parent, const char *about)
     : QWidget(parent), m_shape(shape), m_rows(std::move(rows)), m_told(firstTold(m_rows)),
       m_master(masterOf(m_rows, about)), m_isOneOfMany(hasSeveral(m_rows)),
-      m_onName(makeLabel(kNamePixels, "text", this)), m_onNow(makeLabel(kWordsPixels, "signal", this)),
-      m_onWords(makeLabel(kWordsPixels, "soft", this)), m_line(new QFrame(this)),
-      m_pointedName(makeLabel(kNamePixels, "dim", this)), m_pointedWords(makeLabel(kWordsPixels, "dim", this)),
-      m_keys(makeLabel(kWordsPixels, "soft", this))
+      m_onName(makeLabel(kNamePixels, Palette::kText, this)), m_onNow(makeLabel(kWordsPixels, Palette::kSignal, this)),
+      m_onWords(makeLabel(kWordsPixels, Palette::kSoft, this)), m_line(new QWidget(this)),
+      m_pointedName(makeLabel(kNamePixels, Palette::kDim, this)),
+      m_pointedWords(makeLabel(kWordsPixels, Palette::kDim, this)),
+      m_keys(makeLabel(kWordsPixels, Palette::kSoft, this))
 {
     layOut();
     for (const OptionGroupRow *row : m_rows) {
@@ -117,7 +120,8 @@ bool OptionWords::hasWords(const OptionGroup &group)
 void OptionWords::layOut()
 {
     m_line->setFixedHeight(1);
-    m_line->setStyleSheet(Palette::styled(u"background: @hairline;"));
+    m_line->setPalette(QColor(Palette::kHairline));
+    m_line->setAutoFillBackground(true);
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(metrics::kBlockGap);
@@ -141,7 +145,7 @@ void OptionWords::layOut()
     m_keys->setTextFormat(Qt::RichText);
     m_keys->hide();
     for (QLabel *label : {m_onName, m_onWords, m_pointedName, m_pointedWords, m_keys})
-        label->setMinimumWidth(kWidth);
+        label->setMinimumWidth(kWordsWidth);
 }
 
 void OptionWords::putAbove(QWidget *part)
@@ -213,7 +217,7 @@ OptionWords::Said OptionWords::sayPointed(int value) const
 
 void OptionWords::refresh()
 {
-    const std::optional<int> on = m_told ? valueOn(m_told) : std::nullopt;
+    const std::optional<int> on = valueOn(m_told);
     if (m_pointed && m_pointed == on)
         m_pointed.reset(); // it has been chosen
     if (m_preview && deviceState.isKnown(m_preview->first) &&

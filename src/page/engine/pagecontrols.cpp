@@ -9,6 +9,7 @@
 
 #include "controls/captionlabel.h"
 #include "controls/captions.h"
+#include "controls/dress.h"
 #include "controls/locksign.h"
 #include "controls/metrics.h"
 #include "controls/palette.h"
@@ -102,7 +103,7 @@ void PageControls::addSliders(const SliderGrid &grid, std::span<const LockRule> 
 {
     if (grid.heading) {
         auto *heading = new CaptionLabel(QString(), kHeadingPixels, column->parentWidget());
-        heading->setStyleSheet(Palette::styled(u"color: @text;"));
+        dressText(heading, {Palette::kText});
         m_texts.bind(grid.heading, [heading](const QString &text) { heading->setText(text); });
         column->addWidget(heading);
     }
@@ -129,6 +130,7 @@ QLayout *PageControls::makeSliderCell(const SliderSpec &spec, const SliderGrid &
 {
     SliderWidget *slider = makeSlider(spec, grid, m_texts, parent);
     connect(slider, &SliderWidget::sliderValueChanged, this, &PageControls::sliderChanged);
+    connect(slider, &SliderWidget::holdLost, this, &PageControls::sliderHoldLost);
     m_sliders.push_back(slider);
     if (!deviceState.has(spec.needs))
         slider->hide();

@@ -89,6 +89,7 @@ Q_SIGNALS:
     void optionClicked(QPushButton *button);
     void ownOptionClicked(const char *group, int value);
     void sliderChanged(const QString &name, int value, bool released);
+    void sliderHoldLost(const QString &name);
 
     // The sign of what cannot be used is pressed.
 

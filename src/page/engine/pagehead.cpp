@@ -5,17 +5,21 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "controls/dress.h"
 #include "controls/messagestrip.h"
 #include "controls/metrics.h"
+#include "controls/palette.h"
 #include "controls/sharedfonts.h"
+#include "controls/wrappedlabel.h"
 
 namespace {
 
-QLabel *makeLine(const QString &name, const QFont &font, QWidget *parent)
+QLabel *makeLine(const QString &name, const QFont &font, QRgb colour, QWidget *parent)
 {
-    auto *line = new QLabel(parent);
+    auto *line = new WrappedLabel(parent);
     line->setObjectName(name);
     line->setFont(font);
+    dressText(line, {colour});
     line->setMinimumHeight(line->fontMetrics().height());
     return line;
 }
@@ -32,8 +36,8 @@ int lineHeight(QLabel *line)
 } // namespace
 
 PageHead::PageHead(QWidget *page)
-    : QWidget(page), m_page(*page), m_title(makeLine(QStringLiteral("title"), titleFont, this)),
-      m_help(makeLine(QStringLiteral("help"), noteFont, this)), m_corner(new QHBoxLayout),
+    : QWidget(page), m_page(*page), m_title(makeLine(QStringLiteral("title"), titleFont, Palette::kText, this)),
+      m_help(makeLine(QStringLiteral("help"), noteFont, Palette::kHint, this)), m_corner(new QHBoxLayout),
       m_strip(new MessageStrip(this))
 {
     m_help->setWordWrap(true);

@@ -60,11 +60,13 @@ void PagePanel::followSliders()
         const auto *grid = std::get_if<SliderGrid>(&section);
         for (const SliderSpec &spec : grid ? grid->sliders : std::span<const SliderSpec>()) {
             const auto slider = std::ranges::find(m_sliders, QLatin1String(spec.name), &SliderWidget::name);
-            if (slider != m_sliders.end())
-                connect(*slider, &SliderWidget::sliderValueChanged, m_stage,
-                        [stage = m_stage, command = spec.command](const QString &, int value, bool released) {
-                            stage->tryOut(released ? std::nullopt : std::optional(std::pair(command, value)));
-                        });
+            if (slider == m_sliders.end())
+                continue;
+            connect(*slider, &SliderWidget::sliderValueChanged, m_stage,
+                    [stage = m_stage, command = spec.command](const QString &, int value, bool released) {
+                        stage->tryOut(released ? std::nullopt : std::optional(std::pair(command, value)));
+                    });
+            connect(*slider, &SliderWidget::holdLost, m_stage, [stage = m_stage] { stage->tryOut(std::nullopt); });
         }
     }
 }

@@ -27,6 +27,7 @@ void PageResult::tell(const QString &why, std::function<void()> tryAgain)
 {
     m_tryAgain = std::move(tryAgain);
     m_monitor = {};
+    m_told = begin();
     if (m_head)
         m_head->strip()->say(why, MessageStrip::Tone::Refusal, m_tryAgain ? QObject::tr("Try again") : QString());
 }
@@ -41,4 +42,12 @@ void PageResult::show(bool ok, const QString &again, std::function<void()> tryAg
     if (!m_head)
         return Announcer::say(text);
     tell(text, std::move(tryAgain));
+}
+
+void PageResult::showOf(unsigned change, bool ok, const QString &again, std::function<void()> tryAgain)
+{
+    if (change < m_told)
+        return;
+    show(ok, again, std::move(tryAgain));
+    m_told = change;
 }

@@ -22,6 +22,9 @@ public:
     /// What is said now; empty when there is nothing to say.
     QString text() const;
 
+    /// The number of a change that begins now and whose result comes later.
+    unsigned begin() { return ++m_newest; }
+
     /// Says why something was not done, until something else is done; nothing when it is empty. It may be tried once
     /// more by @p tryAgain, while the monitor is the same one.
     void tell(const QString &why, std::function<void()> tryAgain = {});
@@ -29,8 +32,13 @@ public:
     /// Whether the monitor took what was set last. What is called @p again may be tried once more by @p tryAgain.
     void show(bool ok, const QString &again, std::function<void()> tryAgain);
 
+    /// The same of a change that began before; what was told of a newer one stays.
+    void showOf(unsigned change, bool ok, const QString &again, std::function<void()> tryAgain);
+
 private:
     PageHead *m_head = nullptr;
     std::function<void()> m_tryAgain; ///< what the monitor did not take
     MonitorAskedAbout m_monitor;      ///< that did not
+    unsigned m_newest = 0;            ///< change
+    unsigned m_told = 0;              ///< the change that is told of
 };

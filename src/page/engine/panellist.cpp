@@ -1,5 +1,6 @@
 #include "page/engine/panellist.h"
 
+#include <QPainter>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -8,6 +9,7 @@
 #include "controls/accessiblecontrol.h"
 #include "controls/focusgroup.h"
 #include "controls/lefttabbutton.h"
+#include "controls/palette.h"
 #include "controls/pictures.h"
 #include "page/engine/boundtexts.h"
 #include "page/engine/labels.h"
@@ -16,16 +18,19 @@
 
 namespace {
 
-constexpr int kWidth = 232;
+constexpr int kListWidth = 232;
 constexpr int kEntryPitch = 48;
 constexpr int kTop = 16;
+constexpr int kListEdge = 1; // the line between it and the panels
+constexpr char16_t kArrowStyle[] = u"QPushButton { background: transparent; border: none; color: @dim; }"
+                                   "QPushButton:hover { color: @mint; }";
 
 } // namespace
 
 PanelList::PanelList(BoundTexts &texts, QWidget *parent) : QFrame(parent), m_texts(texts)
 {
     setObjectName(QStringLiteral("frameLeftBar"));
-    setFixedWidth(kWidth);
+    setFixedWidth(kListWidth);
     auto *entries = new QFrame(this);
     entries->setObjectName(QStringLiteral("frameLeftBar2"));
     describeAs(entries, QAccessible::Grouping);
@@ -38,14 +43,14 @@ PanelList::PanelList(BoundTexts &texts, QWidget *parent) : QFrame(parent), m_tex
 
     m_area = makeScrollArea(this);
     m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_area->setWidget(entries);
+    fillScrollArea(m_area, entries);
     QPushButton *upper = makeArrow(QStringLiteral("pushButton_Upper"), QStringLiteral("▲"), -1);
     QPushButton *down = makeArrow(QStringLiteral("pushButton_Down"), QStringLiteral("▼"), 1);
     m_texts.bind(LABEL("Scroll up"), [upper](const QString &text) { upper->setAccessibleName(text); });
     m_texts.bind(LABEL("Scroll down"), [down](const QString &text) { down->setAccessibleName(text); });
 
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, kTop, 0, 0);
+    layout->setContentsMargins(0, kTop, kListEdge, 0);
     layout->addWidget(upper);
     layout->addWidget(m_area, 1);
     layout->addWidget(down);
@@ -56,6 +61,7 @@ QPushButton *PanelList::makeArrow(const QString &name, const QString &arrow, int
 {
     auto *button = new QPushButton(arrow, this);
     button->setObjectName(name);
+    button->setStyleSheet(Palette::styled(kArrowStyle));
     button->setFixedHeight(24);
     button->setFocusPolicy(Qt::NoFocus); // the keyboard walks the entries themselves
     button->hide();
@@ -83,6 +89,11 @@ void PanelList::add(const PanelSpec &panel)
 void PanelList::offer(int index, bool isOffered)
 {
     m_entries[static_cast<std::size_t>(index)]->setVisible(isOffered);
+}
+
+void PanelList::paintEvent(QPaintEvent *)
+{
+    QPainter(this).fillRect(width() - kListEdge, 0, kListEdge, height(), Palette::translucent(Palette::kMint, 26));
 }
 
 void PanelList::mark(int index)

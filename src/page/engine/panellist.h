@@ -36,6 +36,9 @@ Q_SIGNALS:
     /// The user chose an entry, by its place.
     void chosen(int index);
 
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
 private:
     QPushButton *makeArrow(const QString &name, const QString &arrow, int direction);
 

@@ -29,7 +29,7 @@ PanelPage::PanelPage(const QString &name, OwnList list, CommandQueue &queue, QWi
     : SettingsPage(queue, parent), m_list(list), m_stack(new QStackedWidget(this))
 {
     setObjectName(name);
-    dressPage(this);
+    layGround(this);
     m_stack->setObjectName(QStringLiteral("rightStackedWidget"));
     askWhenShown();
     connect(&queue.values(), &ValueWatch::changed, this, [this](Command command) {

@@ -11,12 +11,12 @@ namespace {
 constexpr int kSide = 50;
 constexpr int kIcon = 44;
 
-const char *const kStyle = "QPushButton { background: @card; border: 1px solid @edge; border-radius: 8px; }"
-                           "QPushButton:hover { border-color: @hoveredEdge; }"
-                           "QPushButton:checked { border: 2px solid @mint; }"
-                           "QPushButton:focus { border: 2px solid @hoveredEdge; }"
-                           "QPushButton:checked:focus { border: 2px solid @bright; }"
-                           "QPushButton:disabled { border-color: @restingEdge; }";
+const char *const kPictureStyle = "QPushButton { background: @card; border: 1px solid @edge; border-radius: 8px; }"
+                                  "QPushButton:hover { border-color: @hoveredEdge; }"
+                                  "QPushButton:checked { border: 2px solid @mint; }"
+                                  "QPushButton:focus { border: 2px solid @hoveredEdge; }"
+                                  "QPushButton:checked:focus { border: 2px solid @bright; }"
+                                  "QPushButton:disabled { border-color: @restingEdge; }";
 
 /// Draws at whatever scale the screen has.
 class DrawnIcon : public QIconEngine
@@ -51,5 +51,5 @@ void dressPictureButton(QPushButton *button, DrawOption draw, int value)
     button->setFixedSize(kSide, kSide);
     button->setIconSize(QSize(kIcon, kIcon));
     button->setIcon(QIcon(new DrawnIcon(draw, value)));
-    button->setStyleSheet(Palette::styled(QString::fromLatin1(kStyle)));
+    button->setStyleSheet(Palette::styled(QString::fromLatin1(kPictureStyle)));
 }

@@ -1,9 +1,13 @@
 #pragma once
 
+#include <QString>
+
 class BoundTexts;
 class QPushButton;
-class QString;
 class QWidget;
 
 /// A button of a page's own, beside the settings; its text, a source text, follows the language.
 QPushButton *makePlainButton(const char *label, const QString &name, BoundTexts &texts, QWidget *parent);
+
+/// Gives a button the look of those; @p more are rules that it has besides.
+void dressPlainButton(QPushButton *button, const QString &more = {});

@@ -27,6 +27,7 @@ SettingsPage::SettingsPage(CommandQueue &queue, QWidget *parent)
     connect(&m_controls, &PageControls::optionClicked, this, &SettingsPage::onOptionClicked);
     connect(&m_controls, &PageControls::ownOptionClicked, this, &SettingsPage::onOwnOptionClicked);
     connect(&m_controls, &PageControls::sliderChanged, this, &SettingsPage::onSliderChanged);
+    connect(&m_controls, &PageControls::sliderHoldLost, this, &SettingsPage::onSliderHoldLost);
     connect(&m_locks, &PageLocks::settingWanted, this, &SettingsPage::settingWanted);
     connect(&queue, &CommandQueue::sent, this, &SettingsPage::onSent);
     connect(&queue.values(), &ValueWatch::changed, this, &SettingsPage::onValueChanged);
@@ -57,7 +58,7 @@ void SettingsPage::addUndoBar(QVBoxLayout *column)
     m_undoBar = new UndoBar(this);
     column->addWidget(m_undoBar);
     connect(m_undoBar, &UndoBar::undoWanted, this, [this](const UndoOffer &offer) {
-        if (setOption(offer.command, offer.before)) // else it may be tried once more
+        if (setOption(offer.command, offer.before, WayBack::Taken)) // else it may be tried once more
             m_undoBar->check();
     });
 }
@@ -97,9 +98,7 @@ void SettingsPage::onOptionClicked(QPushButton *button)
         updateInterfaceData(); // the button shows again what is set
         return;
     }
-    const std::optional<int> before = deviceState.confirmed(choice->command);
-    if (setOption(choice->command, choice->value))
-        offerUndo(choice->command, before, choice->value);
+    setOption(choice->command, choice->value, WayBack::Offered);
 }
 
 void SettingsPage::onOwnOptionClicked(const char *group, int value)
@@ -115,15 +114,18 @@ void SettingsPage::offerUndo(Command command, std::optional<int> before, int val
         m_undoBar->offer(optionGroup(command)->group(), *before, value);
 }
 
-bool SettingsPage::setOption(Command command, int value)
+bool SettingsPage::setOption(Command command, int value, WayBack way)
 {
+    const std::optional<int> before = deviceState.confirmed(command);
     deviceState.preview(command, value); // what it locks follows before the monitor does
     m_locks.apply();
     apply(m_before, command, value);
     const bool ok = send(command, value);
     apply(m_after, command, value);
     fill(command);
-    showResult(ok, m_controls.wordsFor(command, value), [this, command, value] { setOption(command, value); });
+    showResult(ok, m_controls.wordsFor(command, value), [=, this] { setOption(command, value, way); });
+    if (ok && way == WayBack::Offered)
+        offerUndo(command, before, value);
     return ok;
 }
 
@@ -137,18 +139,36 @@ void SettingsPage::onSliderChanged(const QString &name, int value, bool released
         return;
     const SendOn sendOn = entry->spec.sendOn;
     if (released == (sendOn != SendOn::Move)) {
-        m_posted.insert(*command);
+        m_posted.insert_or_assign(*command, Posted{value, m_result.begin()});
         m_paced ? m_queue.postPaced(*command, value) : m_queue.post(*command, value);
         apply(m_after, *command, value);
     } else if (sendOn == SendOn::Release) {
         deviceState.preview(*command, value);
     }
+    if (released && showsValues())
+        fill(*command); // what was told while it was held
 }
 
+/// What is shown was not wanted to the end: nothing is sent.
+void SettingsPage::onSliderHoldLost(const QString &name)
+{
+    const PageControls::Slider *entry = m_controls.sliderEntry(name);
+    const std::optional<Command> command = entry ? entry->command() : std::nullopt;
+    if (!command)
+        return;
+    deviceState.dropPreview(*command);
+    if (showsValues())
+        fill(*command);
+}
+
+/// Of several values the newest one counts.
 void SettingsPage::onSent(Command command, int value, bool ok)
 {
-    if (m_posted.contains(command))
-        showResult(ok, m_controls.wordsFor(command, value), [this, command, value] { setOption(command, value); });
+    const auto posted = m_posted.find(command);
+    if (posted == m_posted.end() || posted->second.value != value)
+        return;
+    m_result.showOf(posted->second.change, ok, m_controls.wordsFor(command, value),
+                    [this, command, value] { setOption(command, value, WayBack::Offered); });
 }
 
 void SettingsPage::showEvent(QShowEvent *event)
@@ -180,11 +200,16 @@ SettingsPage::Mode SettingsPage::confirmedMode()
 void SettingsPage::followMode()
 {
     const Mode mode = confirmedMode();
-    if (deviceState.state(Command::SceneMode) == ValueState::Pending || std::exchange(m_shownMode, mode) == mode)
+    if (deviceState.state(Command::SceneMode) == ValueState::Pending)
         return;
-    if (showsValues())
+    const bool isOther = std::exchange(m_shownMode, mode) != mode;
+    const std::vector<Command> commands = m_controls.commandsInSight(this);
+    const bool isSetAnew = std::ranges::any_of(
+        commands, [](Command command) { return isInSceneBlock(command) && deviceState.isDoubted(command); });
+    if (isOther && showsValues())
         SettingsPage::updateInterfaceData();
-    reconcile();
+    if (isOther || isSetAnew)
+        reconcile();
 }
 
 /// Several controls may stand for one command, also on pages that are not in sight: those are filled when shown.

@@ -2,7 +2,6 @@
 
 #include <functional>
 #include <map>
-#include <set>
 #include <utility>
 #include <vector>
 
@@ -165,15 +164,26 @@ private Q_SLOTS:
     void onOptionClicked(QPushButton *button);
     void onOwnOptionClicked(const char *group, int value);
     void onSliderChanged(const QString &name, int value, bool released);
+    void onSliderHoldLost(const QString &name);
     void onSent(Command command, int value, bool ok);
     void onValueChanged(Command command);
 
 private:
     using Mode = std::pair<int, std::optional<int>>; ///< shown, and what the monitor has
 
+    /// Whether the way back from a risky change is offered.
+    enum class WayBack { Offered, Taken };
+
+    /// What a slider has put into the queue last.
+    struct Posted
+    {
+        int value;
+        unsigned change; ///< its number
+    };
+
     static Mode confirmedMode();
     void followMode();
-    bool setOption(Command command, int value);
+    bool setOption(Command command, int value, WayBack way);
     void offerUndo(Command command, std::optional<int> before, int value);
     void fill(Command command);
     void apply(const std::map<Command, Rule> &rules, Command command, int value) const;
@@ -192,5 +202,5 @@ private:
     std::map<Command, Rule> m_before;
     std::map<Command, Rule> m_after;
     std::map<Command, std::function<bool(int)>> m_vetoes;
-    std::set<Command> m_posted; ///< by this page: what becomes of them is told here
+    std::map<Command, Posted> m_posted; ///< by this page: what becomes of them is told here
 };

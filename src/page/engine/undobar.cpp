@@ -6,18 +6,20 @@
 #include <QPushButton>
 
 #include "controls/announcer.h"
+#include "controls/dress.h"
 #include "controls/palette.h"
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/monitoridentity.h"
+#include "page/engine/plainbutton.h"
 #include "platform/desk.h"
 
 namespace {
 
 constexpr platform::milliseconds kTick{100};
 constexpr int kButtonHeight = 34;
-constexpr qreal kRadius = 8;
+constexpr qreal kBarRadius = 8;
 const QColor kGround = Palette::kCard;
-const QColor kEdge = Palette::kHairline;
+const QColor kBarEdge = Palette::kHairline;
 const QColor kTime = Palette::kMint;
 
 /// An option's value in the words of its group.
@@ -32,10 +34,10 @@ QString wordOf(const OptionGroup &group, int value)
 UndoBar::UndoBar(QWidget *parent) : QFrame(parent), m_text(new QLabel(this)), m_button(new QPushButton(this))
 {
     setObjectName(QStringLiteral("undoBar"));
-    m_text->setStyleSheet(Palette::styled(u"color: @soft; font-size: 14px;"));
+    dressText(m_text, {Palette::kSoft, 14});
     m_text->setTextFormat(Qt::PlainText);
     m_text->setWordWrap(true);
-    m_button->setProperty("plain", true);
+    dressPlainButton(m_button);
     m_button->setFixedHeight(kButtonHeight);
     m_button->setFocusPolicy(Qt::StrongFocus);
     auto *row = new QHBoxLayout(this);
@@ -109,10 +111,10 @@ void UndoBar::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(kEdge);
+    painter.setPen(kBarEdge);
     painter.setBrush(kGround);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
-    const qreal whole = width() - 2 * kRadius;
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kBarRadius, kBarRadius);
+    const qreal whole = width() - 2 * kBarRadius;
     const qreal share = static_cast<qreal>(m_left.count()) / static_cast<qreal>(kOffered.count());
-    painter.fillRect(QRectF(kRadius, height() - 2.5, whole * share, 1.5), kTime);
+    painter.fillRect(QRectF(kBarRadius, height() - 2.5, whole * share, 1.5), kTime);
 }

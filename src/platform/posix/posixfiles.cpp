@@ -1,11 +1,13 @@
 #include <cerrno>
 #include <cstdio>
+#include <memory>
 #include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
@@ -111,6 +113,12 @@ public:
 };
 
 } // namespace
+
+QString ownProgramFile()
+{
+    const QString file = QFile::symLinkTarget(QStringLiteral("/proc/self/exe")); // where there is such a thing
+    return file.isEmpty() ? QCoreApplication::applicationFilePath() : file;
+}
 
 std::unique_ptr<Files> createSystemFiles()
 {

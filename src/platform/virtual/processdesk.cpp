@@ -8,8 +8,8 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QGuiApplication>
-#include <QMetaObject>
 #include <QScreen>
+#include <QTimerEvent>
 
 #include "platform/systemclock.h"
 #include "platform/virtual/virtualplatform.h"
@@ -48,10 +48,16 @@ protected:
     {
         if (event->type() == QEvent::Paint && watched->isWidgetType()) {
             qApp->removeEventFilter(this);
-            QMetaObject::invokeMethod(qApp, m_then, Qt::QueuedConnection);
-            deleteLater();
+            startTimer(0); // behind all that this painting queues, also for whoever waits to see it
         }
         return false;
+    }
+
+    void timerEvent(QTimerEvent *event) override
+    {
+        killTimer(event->timerId());
+        m_then();
+        deleteLater();
     }
 
 private:

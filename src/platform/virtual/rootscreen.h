@@ -13,7 +13,7 @@ namespace platform {
 /// asked.
 std::optional<WorkArea> rootWorkArea();
 
-/// Reads what that screen shows. Keeps its way to it, once it has found one.
+/// Reads what that screen shows. Looks for its way there when it is first asked, and anew when it has lost it.
 class RootPixels
 {
 public:

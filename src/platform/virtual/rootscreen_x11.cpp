@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include <xcb/randr.h>
@@ -46,20 +47,21 @@ QByteArray property(xcb_connection_t *x, xcb_window_t root, const char *name)
 /// The primary monitor, or the first one; the whole root window where monitors are not told of.
 QRect primaryMonitor(xcb_connection_t *x, const xcb_screen_t &screen)
 {
-    QRect first(0, 0, screen.width_in_pixels, screen.height_in_pixels);
+    const QRect whole(0, 0, screen.width_in_pixels, screen.height_in_pixels);
     const Reply<xcb_randr_get_monitors_reply_t> reply(
         xcb_randr_get_monitors_reply(x, xcb_randr_get_monitors(x, screen.root, 1), nullptr));
     if (!reply)
-        return first;
+        return whole;
+    std::optional<QRect> first;
     for (auto it = xcb_randr_get_monitors_monitors_iterator(reply.get()); it.rem > 0;
          xcb_randr_monitor_info_next(&it)) {
         const QRect monitor(it.data->x, it.data->y, it.data->width, it.data->height);
         if (it.data->primary)
             return monitor;
-        if (it.index == 0)
+        if (!first)
             first = monitor;
     }
-    return first;
+    return first.value_or(whole);
 }
 
 /// Four numbers a desktop, the first of which counts.

@@ -1,5 +1,7 @@
 #include "platform/virtual/virtualaudio.h"
 
+#include <utility>
+
 #include "virtualdesk/simulatedendpoint.h"
 
 namespace platform {

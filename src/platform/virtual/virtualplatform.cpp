@@ -3,7 +3,6 @@
 #include <optional>
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QProcess>
 #include <QStandardPaths>
 
@@ -32,12 +31,7 @@ public:
 
     bool isUserAnAdmin() override { return m_desk.process().administrator; }
 
-    QString ownFile() override
-    {
-        const QString file = QFile::symLinkTarget(QStringLiteral("/proc/self/exe")); // where there is such a thing
-        return file.isEmpty() ? QCoreApplication::applicationFilePath() : file;
-    }
-
+    QString ownFile() override { return ownProgramFile(); }
     QStringList systemFolders() override { return m_desk.process().systemFolders; }
     QString localDataFolder() override { return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation); }
     bool restrictLibraries() override { return m_desk.process().restrictsLibraries; }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstring>
+#include <memory>
 #include <utility>
 
 #include <windows.h>
@@ -23,11 +24,13 @@ namespace platform {
 
 namespace {
 
-static_assert(kAudioBufferError == static_cast<AudioResult>(AUDCLNT_E_BUFFER_ERROR));
+static_assert(kAudioOk == S_OK && kAudioFalse == S_FALSE);
 static_assert(kAudioBufferEmpty == static_cast<AudioResult>(AUDCLNT_S_BUFFER_EMPTY));
 static_assert(kAudioDeviceInvalidated == static_cast<AudioResult>(AUDCLNT_E_DEVICE_INVALIDATED));
 static_assert(kAudioOutOfOrder == static_cast<AudioResult>(AUDCLNT_E_OUT_OF_ORDER));
 static_assert(kAudioServiceNotRunning == static_cast<AudioResult>(AUDCLNT_E_SERVICE_NOT_RUNNING));
+static_assert(kAudioBufferError == static_cast<AudioResult>(AUDCLNT_E_BUFFER_ERROR));
+static_assert(kFormatPcm == WAVE_FORMAT_PCM && kBufferSilent == AUDCLNT_BUFFERFLAGS_SILENT);
 static_assert(kFormatFloat == WAVE_FORMAT_IEEE_FLOAT && kFormatExtensible == WAVE_FORMAT_EXTENSIBLE);
 static_assert(kSubFormatPcm == Guid{STATIC_KSDATAFORMAT_SUBTYPE_PCM});
 static_assert(kSubFormatFloat == Guid{STATIC_KSDATAFORMAT_SUBTYPE_IEEE_FLOAT});

@@ -37,8 +37,10 @@ static_assert(offsetof(DeviceInterfaceBroadcast, interfaceClass) ==
 static_assert(kMessageDisplayChange == WM_DISPLAYCHANGE && kMessagePowerBroadcast == WM_POWERBROADCAST);
 static_assert(kPowerResumeSuspend == PBT_APMRESUMESUSPEND && kPowerResumeAutomatic == PBT_APMRESUMEAUTOMATIC);
 static_assert(kPowerSettingChange == PBT_POWERSETTINGCHANGE && kMessageSessionChange == WM_WTSSESSION_CHANGE);
+static_assert(kMessageQueryEndSession == WM_QUERYENDSESSION && kMessageEndSession == WM_ENDSESSION);
 static_assert(kSessionLock == WTS_SESSION_LOCK);
 static_assert(kSessionUnlock == WTS_SESSION_UNLOCK);
+static_assert(offsetof(PowerSetting, setting) == offsetof(POWERBROADCAST_SETTING, PowerSetting));
 static_assert(offsetof(PowerSetting, length) == offsetof(POWERBROADCAST_SETTING, DataLength));
 static_assert(offsetof(PowerSetting, value) == offsetof(POWERBROADCAST_SETTING, Data));
 

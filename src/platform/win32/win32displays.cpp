@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <shellscalingapi.h>
+
 #include <QGuiApplication>
 #include <QScreen>
 
@@ -26,8 +28,7 @@ public:
         if (m_key)
             RegCloseKey(m_key);
     }
-    RegistryKey(const RegistryKey &) = delete;
-    RegistryKey &operator=(const RegistryKey &) = delete;
+    Q_DISABLE_COPY_MOVE(RegistryKey)
 
     explicit operator bool() const { return m_key; }
     HKEY get() const { return m_key; }
@@ -43,6 +44,15 @@ std::optional<DisplayDevice> displayDevice(const wchar_t *adapterName, std::uint
     if (!EnumDisplayDevicesW(adapterName, index, &device, flags))
         return std::nullopt;
     return DisplayDevice{QString::fromWCharArray(device.DeviceName), QString::fromWCharArray(device.DeviceID)};
+}
+
+/// Of the screen that is the primary one now: the system's own number is that of the log-on.
+UINT primaryDpi()
+{
+    UINT across = 0;
+    UINT down = 0;
+    const HMONITOR primary = MonitorFromPoint({0, 0}, MONITOR_DEFAULTTOPRIMARY);
+    return SUCCEEDED(GetDpiForMonitor(primary, MDT_EFFECTIVE_DPI, &across, &down)) ? across : GetDpiForSystem();
 }
 
 BOOL CALLBACK visitDisplay(HMONITOR display, HDC, LPRECT, LPARAM visit)
@@ -130,7 +140,7 @@ std::optional<WorkArea> Win32Displays::workArea()
     const DPI_AWARENESS_CONTEXT before = SetThreadDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
     RECT area = {};
     const BOOL known = SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
-    const UINT dpi = GetDpiForSystem();
+    const UINT dpi = primaryDpi();
     if (before)
         SetThreadDpiAwarenessContext(before);
     if (!known)

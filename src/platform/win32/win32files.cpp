@@ -1,3 +1,6 @@
+#include <array>
+#include <cstdlib>
+#include <memory>
 #include <utility>
 
 #include <windows.h>
@@ -21,6 +24,15 @@ bool finish(bool ok)
 {
     if (!ok)
         s_lastError = GetLastError();
+    return ok;
+}
+
+/// The same for what goes through the C runtime, which keeps the system's number where nobody clears it; 0 when it is
+/// the runtime itself that has no room.
+bool finishRuntime(bool ok, DWORD noRoom)
+{
+    if (!ok)
+        s_lastError = _doserrno != 0 ? _doserrno : noRoom;
     return ok;
 }
 
@@ -96,11 +108,19 @@ bool isHeld(DWORD error)
 }
 
 /// A file that others have open, and share, gives its name away and lives on without one. Two steps for the system, so
-/// only where it cannot be done in one.
+/// only where it cannot be done in one; and the old file keeps a name, or a second step that fails would cost it.
 bool replaceHeld(const QString &path, const QString &replaced)
 {
     constexpr DWORD kWithoutSecurity = REPLACEFILE_IGNORE_MERGE_ERRORS | REPLACEFILE_IGNORE_ACL_ERRORS;
-    return ReplaceFileW(wide(replaced), wide(path), nullptr, kWithoutSecurity, nullptr, nullptr);
+    const QString old = path + QLatin1String(".old");
+    if (ReplaceFileW(wide(replaced), wide(path), wide(old), kWithoutSecurity, nullptr, nullptr)) {
+        DeleteFileW(wide(old));
+        return true;
+    }
+    const DWORD error = GetLastError();
+    MoveFileExW(wide(old), wide(replaced), 0); // fails where the first step did
+    SetLastError(error);
+    return false;
 }
 
 class Win32Files final : public Files
@@ -117,15 +137,17 @@ public:
             s_lastError = ERROR_CANT_ACCESS_FILE;
             return -1;
         }
+        _doserrno = 0;
         const int descriptor = _open_osfhandle(reinterpret_cast<intptr_t>(file.get()), how.descriptorFlags | _O_BINARY);
-        if (finish(descriptor >= 0))
+        if (finishRuntime(descriptor >= 0, ERROR_TOO_MANY_OPEN_FILES))
             file.release(); // goes with the descriptor
         return descriptor;
     }
 
     bool write(QIODevice &device, const QByteArray &bytes) override
     {
-        return finish(device.write(bytes) == bytes.size());
+        _doserrno = 0;
+        return finishRuntime(device.write(bytes) == bytes.size(), ERROR_DISK_FULL);
     }
 
     bool flush(const QString &path) override
@@ -155,6 +177,13 @@ public:
 };
 
 } // namespace
+
+QString ownProgramFile()
+{
+    std::array<wchar_t, 32768> path; // the longest that the system knows
+    const DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
+    return QString::fromWCharArray(path.data(), static_cast<int>(length));
+}
 
 std::unique_ptr<Files> createSystemFiles()
 {

@@ -29,9 +29,10 @@ void *Win32Foreground::setWinEventHook(std::uint32_t first, std::uint32_t last, 
 
 void Win32Foreground::unhookWinEvent(void *hook)
 {
-    if (hook)
-        UnhookWinEvent(static_cast<HWINEVENTHOOK>(hook));
-    s_callback = nullptr;
+    if (!hook)
+        return;
+    UnhookWinEvent(static_cast<HWINEVENTHOOK>(hook));
+    s_callback = nullptr; // also for an event that is on its way
 }
 
 std::uint32_t Win32Foreground::processOf(WindowHandle window)

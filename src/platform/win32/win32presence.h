@@ -4,7 +4,7 @@
 
 namespace platform {
 
-/// user32's last input and front window, and the shell's opinion of notes on the desktop.
+/// user32's last input, and the shell's opinion of notes on the desktop.
 class Win32Presence final : public Presence
 {
 public:

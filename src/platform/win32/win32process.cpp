@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QProcess>
 
+#include "platform/files.h"
 #include "platform/win32/win32strings.h"
 
 namespace platform {
@@ -43,9 +44,7 @@ bool Win32Process::isUserAnAdmin()
 
 QString Win32Process::ownFile()
 {
-    std::array<wchar_t, 32768> path; // the longest that the system knows
-    const DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
-    return QString::fromWCharArray(path.data(), static_cast<int>(length));
+    return ownProgramFile();
 }
 
 QStringList Win32Process::systemFolders()

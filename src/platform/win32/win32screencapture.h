@@ -4,6 +4,7 @@
 
 namespace platform {
 
+/// gdi32's copies from the screen's device context, which spans all displays.
 class Win32ScreenCapture final : public ScreenCapture
 {
 public:

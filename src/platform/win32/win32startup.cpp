@@ -1,6 +1,7 @@
 #include "platform/win32/win32startup.h"
 
 #include <QSettings>
+#include <QVariant>
 
 namespace platform {
 

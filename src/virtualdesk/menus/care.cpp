@@ -16,7 +16,7 @@ constexpr OsdOption kCareMode[] = {{0, NAME("Auto")}, {1, NAME("Manual")}};
 constexpr OsdOption kCareInterval[] = {
     {0, NAME("4 Hour")}, {1, NAME("8 Hour")}, {2, NAME("12 Hour")}, {3, NAME("24 Hour")}};
 
-constexpr OsdFunction kMenu[] = {
+constexpr OsdFunction kCareMenu[] = {
     {0x01, NAME("Pixel Shift"), 2, 3, kPixelShift, OledPanel},
     {0x02, NAME("Still Picture"), 1, 1, kSwitch, OledPanel},
     {0x03, NAME("Detection Rate"), 1, 2, kDetection, OledPanel},
@@ -36,7 +36,7 @@ constexpr OsdFunction kMenu[] = {
 
 std::span<const OsdFunction> care()
 {
-    return kMenu;
+    return kCareMenu;
 }
 
 } // namespace virtualdesk::menus

@@ -18,7 +18,7 @@ constexpr OsdOption kCountDown[] = {{1, NAME("30 min")}, {2, NAME("40 min")}, {3
 constexpr OsdOption kZoom[] = {{0, NAME("x1.5")}, {1, NAME("x2")}, {2, NAME("x4")}};
 constexpr OsdOption kStrength[] = {{0, NAME("Low")}, {1, NAME("Medium")}, {2, NAME("High")}};
 
-constexpr OsdFunction kMenu[] = {
+constexpr OsdFunction kGameMenu[] = {
     {0x3D, NAME("Game Crosshair"), 0, 1, kSwitch, GameFunctions},
     {0x34, NAME("Crosshair Shape"), 1, 6, kShape, GameFunctions},
     {0x32, NAME("Crosshair Color"), 0, 7, kColor, GameFunctions},
@@ -47,7 +47,7 @@ constexpr OsdFunction kMenu[] = {
 
 std::span<const OsdFunction> game()
 {
-    return kMenu;
+    return kGameMenu;
 }
 
 } // namespace virtualdesk::menus

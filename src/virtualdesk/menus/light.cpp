@@ -23,7 +23,7 @@ constexpr OsdOption kLightTimer[] = {{0, NAME("Close")}, {1, NAME("30 min")}, {2
 constexpr OsdOption kBeltEffect[] = {{0, NAME("Normal")}, {1, NAME("Breathe")}, {2, NAME("Flicker")},
                                      {3, NAME("Water")},  {4, NAME("Star")},    {5, NAME("Pearl")}};
 
-constexpr OsdFunction kMenu[] = {
+constexpr OsdFunction kLightMenu[] = {
     {0x75, NAME("Light Mode"), 1, 5, kLightMode, GameFunctions},
     {0x76, NAME("Light Effect"), 0, 4, kLightEffect, GameFunctions},
     {0x77, NAME("Light Brightness"), 60, 100, {}, GameFunctions},
@@ -59,7 +59,7 @@ constexpr OsdFunction kMenu[] = {
 
 std::span<const OsdFunction> light()
 {
-    return kMenu;
+    return kLightMenu;
 }
 
 } // namespace virtualdesk::menus

@@ -19,7 +19,7 @@ constexpr OsdOption kRest[] = {{0, NAME("Close")},    {1, NAME("30s")},      {2,
                                {3, NAME("1.5 Hour")}, {4, NAME("2 Hour")},   {5, NAME("2.5 Hour")},
                                {6, NAME("3 Hour")},   {7, NAME("3.5 Hour")}, {8, NAME("4 Hour")}};
 
-constexpr OsdFunction kMenu[] = {
+constexpr OsdFunction kOfficeMenu[] = {
     {0xEC, NAME("Paper"), 0, 4, kPaper},
     {0xF1, NAME("Alignment"), 0, 3, kAlignment},
     {0xF2, NAME("Ruler"), 0, 2, kRuler},
@@ -39,7 +39,7 @@ constexpr OsdFunction kMenu[] = {
 
 std::span<const OsdFunction> office()
 {
-    return kMenu;
+    return kOfficeMenu;
 }
 
 } // namespace virtualdesk::menus

@@ -26,7 +26,7 @@ constexpr OsdOption kHdr[] = {{0, NAME("Close")}, {1, NAME("Auto")}, {2, NAME("G
 constexpr OsdOption kNightVision[] = {
     {0, NAME("Close")}, {1, NAME("Level1")}, {2, NAME("Level2")}, {3, NAME("Auto-L1")}, {4, NAME("Auto-L2")}};
 
-constexpr OsdFunction kMenu[] = {
+constexpr OsdFunction kPictureMenu[] = {
     {0x10, NAME("Brightness"), 50, 100, {}},
     {0x12, NAME("Contrast"), 50, 100, {}},
     {0x87, NAME("Sharpness"), 4, 8, {}},
@@ -53,7 +53,7 @@ constexpr OsdFunction kMenu[] = {
 
 std::span<const OsdFunction> picture()
 {
-    return kMenu;
+    return kPictureMenu;
 }
 
 } // namespace virtualdesk::menus

@@ -11,7 +11,7 @@ namespace {
 constexpr OsdOption kSaving[] = {{0, NAME("Close")}, {1, NAME("Level1")}, {2, NAME("Level2")}};
 constexpr OsdOption kLed[] = {{1, NAME("Close")}, {2, NAME("Level1")}, {3, NAME("Level2")}, {4, NAME("Level3")}};
 
-constexpr OsdFunction kMenu[] = {
+constexpr OsdFunction kSetupMenu[] = {
     {0xC0, NAME("Show Time(s)"), 20, 100, {}},    {0xC1, NAME("H-Position"), 50, 100, {}},
     {0xC2, NAME("V-Position"), 50, 100, {}},      {0xC3, NAME("Transparency"), 0, 100, {}},
     {0xC4, NAME("Menu Lock"), 0, 1, kSwitch},     {0xC5, NAME("Power LED"), 2, 4, kLed},
@@ -24,7 +24,7 @@ constexpr OsdFunction kMenu[] = {
 
 std::span<const OsdFunction> setup()
 {
-    return kMenu;
+    return kSetupMenu;
 }
 
 } // namespace virtualdesk::menus

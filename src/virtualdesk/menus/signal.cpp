@@ -16,7 +16,7 @@ constexpr OsdOption kRange[] = {{0, NAME("RGB Auto")}, {1, NAME("RGB Limit")}, {
 constexpr OsdOption kLink[] = {{0, NAME("5.4G")}, {1, NAME("8.1G")}};
 constexpr OsdOption kAudio[] = {{0, NAME("Standard")}, {1, NAME("Movie")}, {2, NAME("Convo")}};
 
-constexpr OsdFunction kMenu[] = {
+constexpr OsdFunction kSignalMenu[] = {
     {0x50, NAME("Multi-window"), 0, 2, kWindows}, {0x54, NAME("Inset Size"), 1, 2, kSize},
     {0x55, NAME("Inset Place"), 1, 3, kCorner},   {0x57, NAME("Input Signal"), 1, 5, kInput},
     {0x60, NAME("Output Range"), 0, 2, kRange},   {0x5F, NAME("USB Switch"), 0, 1, kUsb},
@@ -30,7 +30,7 @@ constexpr OsdFunction kMenu[] = {
 
 std::span<const OsdFunction> signal()
 {
-    return kMenu;
+    return kSignalMenu;
 }
 
 } // namespace virtualdesk::menus

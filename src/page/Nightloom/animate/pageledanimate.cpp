@@ -16,6 +16,7 @@
 #include "page/Nightloom/work/livedisplay.h"
 #include "page/engine/labels.h"
 #include "page/engine/optiongrouprow.h"
+#include "page/engine/pagestyle.h"
 #include "usb-hid/hidtransport.h"
 
 namespace {
@@ -66,6 +67,7 @@ QWidget *pageLEDAnimate::buildPart(const char *)
     if (const std::optional<int> stored = storedInt(QLatin1String(kChosenKey)))
         m_chosen = *stored & kAllMemories;
     auto *part = new QWidget(this);
+    dressPage(part); // for the cards
     auto *row = new QHBoxLayout(part);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(metrics::kGap);

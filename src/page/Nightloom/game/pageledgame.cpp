@@ -13,18 +13,20 @@
 #include <QVBoxLayout>
 
 #include "controls/captionlabel.h"
+#include "controls/dress.h"
 #include "controls/focusgroup.h"
 #include "controls/metrics.h"
 #include "controls/palette.h"
 #include "controls/sliderwidget.h"
-#include "controls/wheeleventfilter.h"
 #include "ddc_protocol/settingsstore.h"
 #include "page/Nightloom/game/eventcard.h"
 #include "page/Nightloom/parts/ownslider.h"
 #include "page/Nightloom/work/livedisplay.h"
 #include "page/engine/labels.h"
 #include "page/engine/note.h"
+#include "page/engine/numberfield.h"
 #include "page/engine/optiongrouprow.h"
+#include "page/engine/pagestyle.h"
 #include "page/engine/plainbutton.h"
 #include "usb-hid/accessorysettings.h"
 #include "usb-hid/hidtransport.h"
@@ -139,18 +141,15 @@ QWidget *pageLEDGame::makeInterval(QWidget *parent)
     auto *part = new QWidget(parent);
     auto *caption = new CaptionLabel(QString(), 15, part);
     caption->setFixedSize(metrics::kCaptionWidth, metrics::kControlHeight);
-    caption->setStyleSheet(Palette::styled(u"color: @text;"));
-    m_interval = new QSpinBox(part);
-    m_interval->setObjectName(QStringLiteral("playingInterval"));
-    m_interval->setFixedSize(110, metrics::kControlHeight);
+    dressText(caption, {Palette::kText});
+    m_interval = makeNumberField(QStringLiteral("playingInterval"), QString(), part);
     m_interval->setRange(kShortest, kLongest);
-    m_interval->setSuffix(QStringLiteral(" s"));
-    m_interval->setButtonSymbols(QAbstractSpinBox::NoButtons); // typed, or stepped by the arrow keys
-    m_interval->installEventFilter(new WheelEventFilter(m_interval));
     texts().bind(kInterval, [this, caption](const QString &text) {
         caption->setText(text);
         m_interval->setAccessibleName(text);
     });
+    texts().bind(LABEL("%1 s"),
+                 [this](const QString &text) { m_interval->setSuffix(text.section(QStringLiteral("%1"), 1)); });
     connect(m_interval, &QSpinBox::editingFinished, this, &pageLEDGame::takeLook);
     auto *row = new QHBoxLayout(part);
     row->setContentsMargins(0, 0, 0, 0);
@@ -164,6 +163,7 @@ QWidget *pageLEDGame::makeInterval(QWidget *parent)
 QWidget *pageLEDGame::buildPicture()
 {
     auto *part = new QWidget(this);
+    dressPage(part); // for the card
     m_card = new EventCard(part);
     QLabel *note = makeNote(part);
     texts().bind(LABEL("Point at an event to see its picture."), [note](const QString &text) { note->setText(text); });

@@ -49,6 +49,7 @@ LongWorkPage::LongWorkPage(const QString &name, const char *title, const char *h
 {
     setObjectName(name);
     describeAs(this, QAccessible::Pane);
+    layGround(this);
     dressPage(this);
     m_texts.bind(title, [this](const QString &text) { m_head->setTitle(text); });
     m_texts.bind(help, [this](const QString &text) { m_head->setHelp(text); });

@@ -13,10 +13,11 @@ SliderWidget *makeOwnSlider(const char *label, BoundTexts &texts, QWidget *paren
     slider->setCaptionWidth(metrics::kCaptionWidth);
     slider->setFixedHeight(metrics::kControlHeight);
     texts.bind(label, [slider](const QString &text) { slider->setCaption(text); });
-    QObject::connect(slider, &SliderWidget::sliderValueChanged, slider,
-                     [moved = std::move(moved)](const QString &, int, bool released) {
-                         if (released)
-                             moved();
-                     });
+    QObject::connect(slider, &SliderWidget::sliderValueChanged, slider, [moved](const QString &, int, bool released) {
+        if (released)
+            moved();
+    });
+    QObject::connect(slider, &SliderWidget::holdLost, slider,
+                     std::move(moved)); // what it shows is all there is to know
     return slider;
 }

@@ -10,8 +10,8 @@
 namespace {
 
 constexpr qreal kDot = 0.66; // diameter, of the distance between two cells of a row
-const QColor kDark = Palette::kRestingGroove;
-const QColor kLit = Palette::kMint;
+const QColor kRestingCell = Palette::kRestingGroove;
+const QColor kLitCell = Palette::kMint;
 
 /// From row to row, in cells.
 qreal rowPitchOf(const MatrixForm &form)
@@ -104,7 +104,7 @@ void SmallMatrix::drawSheets()
         QPainter painter(sheet);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(Qt::NoPen);
-        painter.setBrush(sheet == &m_dark ? kDark : kLit);
+        painter.setBrush(sheet == &m_dark ? kRestingCell : kLitCell);
         forEachCell(*m_drawnForm, [&](int row, int column) {
             if (sheet == &m_dark || sheet == &m_lit[static_cast<std::size_t>(row % 2)])
                 painter.drawEllipse(places.dot(row, column));

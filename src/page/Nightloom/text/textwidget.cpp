@@ -9,9 +9,12 @@
 #include <QScrollArea>
 
 #include "controls/accessiblecontrol.h"
+#include "controls/dress.h"
 #include "controls/focusgroup.h"
 #include "controls/metrics.h"
+#include "controls/palette.h"
 #include "controls/sharedfonts.h"
+#include "controls/wrappedlabel.h"
 #include "page/Nightloom/parts/matrixeditor.h"
 #include "page/Nightloom/parts/toolcolumn.h"
 #include "page/engine/boundtexts.h"
@@ -26,7 +29,7 @@ constexpr const char *kMotionLabels[] = {LABEL("Scroll Left"), LABEL("Scroll Rig
 
 TextWidget::TextWidget(BoundTexts &texts, QWidget *parent)
     : QWidget(parent), m_shown(m_form, {}, m_motion), m_input(new QLineEdit(this)), m_stage(new QScrollArea(this)),
-      m_fit(new QLabel(this))
+      m_fit(new WrappedLabel(this))
 {
     m_input->setObjectName(QStringLiteral("text"));
     m_input->setFixedHeight(metrics::kControlHeight);
@@ -40,6 +43,7 @@ TextWidget::TextWidget(BoundTexts &texts, QWidget *parent)
     column->addWidget(buildMotions(texts));
     m_fit->setObjectName(QStringLiteral("notice"));
     m_fit->setFont(noteFont);
+    dressText(m_fit, {Palette::kError});
     m_fit->setWordWrap(true);
     column->addWidget(m_fit);
     m_stage->setFrameShape(QFrame::NoFrame);
