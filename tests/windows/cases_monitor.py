@@ -173,7 +173,8 @@ def case_recording(rig):
         end = open_health()
         run.click("record")
         run.click("readEverything")
-        assert run.settled() > end  # what is not recorded any more
+        wait_for(lambda: len(run.requests()) > end, "requests that are not recorded any more")
+        run.settled()
         next(run.folder.glob("recording-*.jsonl")).rename(run.folder / "recording.jsonl")
         (run.folder / "bytes.txt").write_text("".join(line + "\n" for line in run.bytes_told()[begin:end]))
         replayed = subprocess.run([rig.suites / "tst_linkrecord", "recordingOfWindowsReplays"], text=True,

@@ -219,8 +219,11 @@ class Run:
         return tuple(map(int, answer.read_text().split()))
 
     def place(self, name):
-        """The same, once there is something to be seen of it."""
-        return wait_for(lambda: self.seen(name), f"{name} to be seen")
+        """The same, once there is something to be seen of it and it stays where it is."""
+        def still():
+            found = self.seen(name)
+            return found == self.seen(name) and found
+        return wait_for(still, f"{name} to be seen")
 
     def click(self, name):
         """Presses the left mouse button in the middle of a control."""
