@@ -61,8 +61,8 @@ private Q_SLOTS:
     void hoverEndsWithTheWindow();
     void swatchesAnswerMouseAndKeys();
     void pickerTakesOnlyAnAnswer();
-    void focusOutlineIsForTheKeyboard();
     void captionFits();
+    void shortLastLineTakesWords();
     void picturesAreSharp();
     void assistiveSoftwareSeesAndPresses();
 };
@@ -300,25 +300,6 @@ void TestControls::pickerTakesOnlyAnAnswer()
     QCOMPARE(spy.count(), 0);
 }
 
-void TestControls::focusOutlineIsForTheKeyboard()
-{
-    for (const auto &[reasons, shown] : {std::pair(QList{Qt::TabFocusReason}, true),
-                                         {{Qt::BacktabFocusReason}, true},
-                                         {{Qt::TabFocusReason, Qt::MouseFocusReason}, false},
-                                         {{Qt::TabFocusReason, Qt::ActiveWindowFocusReason}, true}, // as before
-                                         {{Qt::MouseFocusReason, Qt::ActiveWindowFocusReason}, false}}) {
-        FocusRing ring;
-        for (const Qt::FocusReason reason : reasons) {
-            const QFocusEvent out(QEvent::FocusOut, reason);
-            ring.follow(&out);
-            QVERIFY(!ring.isShown());
-            const QFocusEvent in(QEvent::FocusIn, reason);
-            ring.follow(&in);
-        }
-        QCOMPARE(ring.isShown(), shown);
-    }
-}
-
 void TestControls::captionFits()
 {
     const QString text = QStringLiteral("A caption of some length");
@@ -335,20 +316,6 @@ void TestControls::captionFits()
             QVERIFY(QFontMetrics(fitted.font).horizontalAdvance(fitted.text) <= width);
         QCOMPARE(fitted.text == text, !elided);
     }
-    // A last line of a word or so takes words from those before it; there are never more lines for it.
-    const QFontMetrics metrics(font);
-    const int room = metrics.horizontalAdvance(text) + 4;
-    const auto linesIn = [&](const QString &words, int width) {
-        return metrics.boundingRect(QRect(0, 0, width, 999), Qt::TextWordWrap, words).height() / metrics.height();
-    };
-    for (const auto &[rest, lines, evened] :
-         {std::tuple("", 1, false), {" now", 2, true}, {" on and on it goes", 2, false}}) {
-        const QString words = text + QLatin1String(rest);
-        const int even = evenWidth(words, font, room);
-        QCOMPARE(even < room, evened);
-        QCOMPARE(linesIn(words, even), lines);
-        QVERIFY(!evened || even < metrics.horizontalAdvance(QStringLiteral("A caption of some")));
-    }
     CaptionLabel alone(QStringLiteral("Mode"), 20), beside(QStringLiteral("Mode"), 20), longer(text, 20);
     for (CaptionLabel *label : {&alone, &beside, &longer})
         label->setFixedSize(90, 30);
@@ -362,6 +329,27 @@ void TestControls::captionFits()
     owner.show();
     const QHelpEvent hover(QEvent::ToolTip, {}, {});
     QVERIFY(caption.showToolTip(&hover, &owner) && QToolTip::text().contains(text));
+}
+
+/// There are never more lines for it.
+void TestControls::shortLastLineTakesWords()
+{
+    const QString text = QStringLiteral("A caption of some length");
+    QFont font;
+    font.setPixelSize(20);
+    const QFontMetrics metrics(font);
+    const int room = metrics.horizontalAdvance(text) + 4;
+    const auto linesIn = [&](const QString &words, int width) {
+        return metrics.boundingRect(QRect(0, 0, width, 999), Qt::TextWordWrap, words).height() / metrics.height();
+    };
+    for (const auto &[rest, lines, evened] :
+         {std::tuple("", 1, false), {" now", 2, true}, {" on and on it goes", 2, false}}) {
+        const QString words = text + QLatin1String(rest);
+        const int even = evenWidth(words, font, room);
+        QCOMPARE(even < room, evened);
+        QCOMPARE(linesIn(words, even), lines);
+        QVERIFY(!evened || even < metrics.horizontalAdvance(QStringLiteral("A caption of some")));
+    }
 }
 
 void TestControls::picturesAreSharp()

@@ -5,6 +5,7 @@
 #include <QtTest>
 #include <QtWidgets>
 
+#include "controls/focusring.h"
 #include "controls/palette.h"
 #include "controls/sharedfonts.h"
 #include "controls/sliderwidget.h"
@@ -66,6 +67,7 @@ private Q_SLOTS:
     void sliderIsDownDuringAKeyStep();
     void unknownValueEndsWithTheFirstOne();
     void wheelScrollsThePage();
+    void focusOutlineIsForTheKeyboard();
     void keyFieldCaptures();
     void keyFieldEndsAfterOneCombination();
     void emptyKeyFieldSaysSo();
@@ -194,6 +196,25 @@ void TestFields::wheelScrollsThePage()
         QCOMPARE(line->value(), 50);
         QCOMPARE(box->currentIndex(), 1);
         QVERIFY(area.verticalScrollBar()->value() > 0);
+    }
+}
+
+void TestFields::focusOutlineIsForTheKeyboard()
+{
+    for (const auto &[reasons, shown] : {std::pair(QList{Qt::TabFocusReason}, true),
+                                         {{Qt::BacktabFocusReason}, true},
+                                         {{Qt::TabFocusReason, Qt::MouseFocusReason}, false},
+                                         {{Qt::TabFocusReason, Qt::ActiveWindowFocusReason}, true}, // as before
+                                         {{Qt::MouseFocusReason, Qt::ActiveWindowFocusReason}, false}}) {
+        FocusRing ring;
+        for (const Qt::FocusReason reason : reasons) {
+            const QFocusEvent out(QEvent::FocusOut, reason);
+            ring.follow(&out);
+            QVERIFY(!ring.isShown());
+            const QFocusEvent in(QEvent::FocusIn, reason);
+            ring.follow(&in);
+        }
+        QCOMPARE(ring.isShown(), shown);
     }
 }
 

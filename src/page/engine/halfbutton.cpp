@@ -1,14 +1,12 @@
 #include "page/engine/halfbutton.h"
 
-#include <utility>
-
 #include <QButtonGroup>
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QPushButton>
 
 #include "controls/accessiblecontrol.h"
+#include "controls/behind.h"
 #include "controls/focusgroup.h"
 #include "controls/metrics.h"
 #include "controls/palette.h"
@@ -26,44 +24,22 @@ constexpr struct
     const char *pictures;
 } kSizes[] = {{128, "selector"}, {92, "narrow"}};
 
-/// Paints the track behind the halves, on what holds them.
-class Track : public QObject
+/// The groove that the halves in sight lie in.
+void paintTrack(const std::vector<QPushButton *> &halves, QPainter &painter)
 {
-public:
-    Track(QWidget *holder, std::vector<QPushButton *> halves) : QObject(holder), m_halves(std::move(halves))
-    {
-        holder->installEventFilter(this);
+    QRect around;
+    bool isUsable = false;
+    for (const QPushButton *half : halves) {
+        if (half->isHidden())
+            continue;
+        around |= half->geometry();
+        isUsable = isUsable || half->isEnabled();
     }
-
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (event->type() == QEvent::Paint)
-            paint(static_cast<QWidget *>(watched));
-        return false;
-    }
-
-private:
-    void paint(QWidget *holder) const
-    {
-        QRect around;
-        bool isUsable = false;
-        for (const QPushButton *half : m_halves) {
-            if (half->isHidden())
-                continue;
-            around |= half->geometry();
-            isUsable = isUsable || half->isEnabled();
-        }
-        const qreal radius = around.height() / 2.0;
-        QPainter painter(holder);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QColor(isUsable ? Palette::kTrack : Palette::kRestingEdge));
-        painter.setBrush(QColor(Palette::kWell));
-        painter.drawRoundedRect(QRectF(around).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
-    }
-
-    std::vector<QPushButton *> m_halves;
-};
+    const qreal radius = around.height() / 2.0;
+    painter.setPen(QColor(isUsable ? Palette::kTrack : Palette::kRestingEdge));
+    painter.setBrush(QColor(Palette::kWell));
+    painter.drawRoundedRect(QRectF(around).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+}
 
 } // namespace
 
@@ -114,5 +90,5 @@ QHBoxLayout *joinHalves(QWidget *holder, QPushButton *defaultHalf, QPushButton *
 
 void layInTrack(QWidget *holder, const std::vector<QPushButton *> &halves)
 {
-    new Track(holder, halves);
+    paintBehind(holder, [halves](QPainter &painter) { paintTrack(halves, painter); });
 }
