@@ -13,10 +13,10 @@
 #include "ddc_protocol/writekeeper.h"
 #include "page/Emberline/pageemberline.h"
 #include "page/Emberline/rhythmlight.h"
-#include "page/Scene/pagescenesetting.h"
 #include "page/Splitter/splitting.h"
 #include "page/monitorpages.h"
 #include "platform/ending.h"
+#include "scenehands.h"
 #include "searchdevicedlg.h"
 #include "sessionend.h"
 #include "statuscard.h"
@@ -56,7 +56,7 @@ MainWindow::MainWindow(SearchDeviceDlg &session)
     createPages();
     createFollowers();
     createTray();
-    connectScene();
+    (new SceneHands(*m_navigator, *m_modes, *m_checks, this))->join(*m_scenePage, *trayPanel(), *m_queue);
     m_session.setHost(this);
     commandsSuspended = false;
     updateControlText();
@@ -129,28 +129,6 @@ void MainWindow::createTray()
     connect(m_modes, &InterfaceModes::usableChanged, trayPanel(), &TrayPanelOpener::setUsable);
     connect(trayPanel(), &TrayPanelOpener::zonesWanted, this, &MainWindow::onSpliter);
     connect(trayPanel(), &TrayPanelOpener::opened, m_reconciler, &Reconciler::look);
-}
-
-/// Bars and tray panel are hands of the scene page: modes and halves go one way only.
-void MainWindow::connectScene()
-{
-    connect(m_navigator, &Navigator::sceneChosen, m_scenePage, &pageSceneSetting::chooseScene);
-    connect(trayPanel(), &TrayPanelOpener::sceneChosen, m_scenePage, &pageSceneSetting::chooseScene);
-    connect(trayPanel(), &TrayPanelOpener::halfChosen, m_scenePage, &pageSceneSetting::switchHalf);
-    connect(m_scenePage, &pageSceneSetting::viewShown, m_navigator, &Navigator::followSceneMode);
-    connect(m_scenePage, &pageSceneSetting::modeChangeBegins, this, [this] { setInterfaceMode(kLocked); });
-    connect(m_scenePage, &pageSceneSetting::modeChangeEnded, this, [this] {
-        setInterfaceMode(kByModel);
-        m_checks->readMissingBlock();
-    });
-    connect(&m_queue->values(), &ValueWatch::changed, this, [this](Command command) {
-        if (command == Command::Capability)
-            m_navigator->followMonitor();
-        if (command != Command::SceneMode)
-            return;
-        m_navigator->followSceneMode();
-        m_checks->readMissingBlock();
-    });
 }
 
 void MainWindow::onSpliter()

@@ -100,7 +100,6 @@ private:
     void createPages();
     void createFollowers();
     void createTray();
-    void connectScene();
     void placeParts();
     void followSent(Command command);
     void followSight();
