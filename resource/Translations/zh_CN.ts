@@ -1981,11 +1981,11 @@
     </message>
     <message>
         <source>Lamp Belt Front Color</source>
-        <translation>灯带前部颜色</translation>
+        <translation>灯带前灯颜色</translation>
     </message>
     <message>
         <source>Lamp Belt Rear Color</source>
-        <translation>灯带后部颜色</translation>
+        <translation>灯带后灯颜色</translation>
     </message>
     <message>
         <source>Language</source>

@@ -1981,11 +1981,11 @@
     </message>
     <message>
         <source>Lamp Belt Front Color</source>
-        <translation>燈帶前部顏色</translation>
+        <translation>燈帶前燈顏色</translation>
     </message>
     <message>
         <source>Lamp Belt Rear Color</source>
-        <translation>燈帶後部顏色</translation>
+        <translation>燈帶後燈顏色</translation>
     </message>
     <message>
         <source>Language</source>

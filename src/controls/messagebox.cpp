@@ -2,10 +2,12 @@
 
 #include <algorithm>
 
-#include <QEvent>
+#include <QApplication>
 #include <QLabel>
+#include <QLayout>
 #include <QPointer>
 #include <QPushButton>
+#include <QShowEvent>
 
 #include "controls/pictures.h"
 #include "controls/wrappedlabel.h"
@@ -30,26 +32,37 @@ void drawSign(QMessageBox &box)
         label->setPixmap(sign);
 }
 
-/// Keeps the lines of the toolkit's own label about as long as each other where the last one were very short.
-class EvenLines : public QObject
+/// The toolkit's box with its words in the program's font, and no wider than lines of about one length need.
+class EvenBox : public QMessageBox
 {
 public:
-    explicit EvenLines(QLabel *label) : QObject(label), m_label(*label) { label->installEventFilter(this); }
+    EvenBox(Icon icon, const QString &title, const QString &text, QWidget *parent)
+        : QMessageBox(icon, title, text, NoButton, parent),
+          m_words(findChild<QLabel *>(QStringLiteral("qt_msgbox_label")))
+    {
+        setTextFormat(Qt::PlainText); // it may name a file of any name
+        if (m_words)
+            m_words->setFont(QApplication::font()); // the system has one of its own for boxes
+    }
 
 protected:
-    bool eventFilter(QObject *, QEvent *event) override
+    void showEvent(QShowEvent *event) override
     {
-        if (event->type() == QEvent::Resize && m_label.wordWrap()) {
-            const QMargins margins = m_label.contentsMargins();
-            const int room = m_label.width() - margins.left() - std::max(m_label.indent(), 0);
-            const int rest = std::max(room - evenWidth(m_label.text(), m_label.font(), room) - 1, 0);
-            m_label.setContentsMargins(margins.left(), margins.top(), rest, margins.bottom());
-        }
-        return false;
+        QMessageBox::showEvent(event);
+        if (!m_words || !m_words->wordWrap())
+            return;
+        layout()->activate();
+        const int room = m_words->contentsRect().width() - std::max(m_words->indent(), 0);
+        const int rest = std::min(room - evenWidth(m_words->text(), m_words->font(), room) - 1,
+                                  width() - layout()->totalMinimumSize().width());
+        if (rest <= 0)
+            return;
+        setFixedWidth(width() - rest);
+        move(x() + rest / 2, y());
     }
 
 private:
-    QLabel &m_label;
+    QLabel *m_words;
 };
 
 /// A box in the program's look. It belongs to its parent, which may go while it is open.
@@ -57,13 +70,10 @@ class Box
 {
 public:
     Box(QMessageBox::Icon icon, const QString &title, const QString &text, QWidget *parent)
-        : m_box(new QMessageBox(icon, title, text, QMessageBox::NoButton, parent))
+        : m_box(new EvenBox(icon, title, text, parent))
     {
         m_box->setStyleSheet(QLatin1String(kBoxStyle));
         drawSign(*m_box);
-        m_box->setTextFormat(Qt::PlainText); // it may name a file of any name
-        if (auto *label = m_box->findChild<QLabel *>(QStringLiteral("qt_msgbox_label")))
-            new EvenLines(label);
     }
     ~Box() { delete m_box; }
     Q_DISABLE_COPY_MOVE(Box)
