@@ -9,7 +9,8 @@
 
 SceneHands::SceneHands(Navigator &navigator, InterfaceModes &modes, MonitorChecks &checks, QObject *parent)
     : QObject(parent), m_navigator(navigator), m_modes(modes), m_checks(checks)
-{}
+{
+}
 
 void SceneHands::join(pageSceneSetting &page, TrayPanelOpener &trayPanel, CommandQueue &queue)
 {

@@ -1,13 +1,14 @@
 #pragma once
 
-#include <array>
+#include <memory>
 #include <optional>
 
-#include <QPixmap>
 #include <QWidget>
 
 #include "controls/accessiblecontrol.h"
 #include "ledmatrix/matrixframe.h"
+
+class DotSheets;
 
 /// A matrix that only shows, as one sees the accessory: round cells, the odd ones of staggered rows between the even.
 class SmallMatrix : public QWidget, public Described
@@ -32,10 +33,6 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void drawSheets();
-
     std::optional<MatrixFrame> m_frame;
-    const MatrixForm *m_drawnForm = nullptr; ///< of the sheets
-    QPixmap m_dark;                          ///< the matrix while nothing is on
-    std::array<QPixmap, 2> m_lit;            ///< all cells on: of the even rows, and of the odd ones
+    std::shared_ptr<const DotSheets> m_sheets; ///< while it is in sight
 };
