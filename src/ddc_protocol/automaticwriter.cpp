@@ -22,11 +22,7 @@ AutomaticWriter::AutomaticWriter(CommandQueue &queue, QObject *parent) : QObject
     connect(&queue, &CommandQueue::answered, this, &AutomaticWriter::onAnswered);
     connect(&queue, &CommandQueue::gaveUp, this, [this](const QList<Command> &commands) {
         for (const Command command : commands)
-            onAnswered(command);
-    });
-    connect(&queue, &CommandQueue::asked, this, [this] { // somebody may have dropped the questions
-        if (m_step == Step::Asks && !m_queue.isAsking())
-            onAnswered(m_wishes.front().command);
+            onAnswered(command, false);
     });
 }
 
@@ -134,11 +130,12 @@ void AutomaticWriter::dropOthers()
     }
 }
 
-/// Or was not answered.
-void AutomaticWriter::onAnswered(Command command)
+/// What was told may be in doubt again by now: then it is asked once more.
+void AutomaticWriter::onAnswered(Command command, bool told)
 {
     if (m_step != Step::Asks || m_wishes.front().command != command)
         return;
+    m_wishes.front().wasAsked = !told;
     setStep(Step::Begins);
     goOn();
 }

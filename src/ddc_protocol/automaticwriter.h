@@ -54,7 +54,7 @@ private:
     void goOn();
     void setStep(Step step);
     void wait(const WriteDecision &decision);
-    void onAnswered(Command command);
+    void onAnswered(Command command, bool told);
     void onSent(Command command, int value, bool ok);
     void onSentNow(Command command, int value, bool ok);
     void settle(bool ok);

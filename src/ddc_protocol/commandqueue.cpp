@@ -101,15 +101,27 @@ void CommandQueue::askBlock(int mode)
 
 void CommandQueue::dropQuestions()
 {
-    {
-        const std::lock_guard lock(m_mutex);
-        m_unanswered += static_cast<int>(m_questions.size()) + (m_blockQuestion ? 1 : 0);
-        m_questions.clear();
-        m_blockQuestion.reset();
-        if (m_asking || m_unanswered == 0)
-            return; // the one under way ends them, or there was none
-    }
+    std::unique_lock lock(m_mutex);
+    m_unanswered += static_cast<int>(m_questions.size()) + (m_blockQuestion ? 1 : 0);
+    giveUp(lock);
+    if (m_asking || hasQuestion() || m_unanswered == 0)
+        return; // the last one ends them, or there was none
+    lock.unlock();
     tellAsked();
+}
+
+/// Nothing of what waits is asked for any more.
+void CommandQueue::giveUp(std::unique_lock<std::mutex> &lock)
+{
+    if (!hasQuestion())
+        return;
+    const QList<Command> commands(m_questions.begin(), m_questions.end());
+    const bool block = m_blockQuestion.has_value();
+    m_questions.clear();
+    m_blockQuestion.reset();
+    lock.unlock();
+    Q_EMIT gaveUp(commands, block);
+    lock.lock();
 }
 
 /// Whoever waits for his answer waits for this.
@@ -205,15 +217,8 @@ void CommandQueue::noteAnswer(bool told, std::unique_lock<std::mutex> &lock)
     m_asking = false;
     if (!told) {
         ++m_unanswered;
-        if (!monitorAnswers() && hasQuestion()) {
-            const QList<Command> commands(m_questions.begin(), m_questions.end());
-            const bool block = m_blockQuestion.has_value();
-            m_questions.clear();
-            m_blockQuestion.reset();
-            lock.unlock();
-            Q_EMIT gaveUp(commands, block);
-            lock.lock();
-        }
+        if (!monitorAnswers())
+            giveUp(lock);
     }
     if (hasQuestion())
         return;

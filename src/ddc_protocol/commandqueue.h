@@ -71,8 +71,8 @@ Q_SIGNALS:
     /// The same for a scene block.
     void blockAnswered(bool told);
 
-    /// These values, and a block or not, are not asked for any more: the monitor is silent. Emitted on the queue's
-    /// thread.
+    /// These values, and a block or not, are not asked for any more: the monitor is silent, or they were dropped.
+    /// Emitted on the queue's thread, or by whoever drops them.
     void gaveUp(const QList<Command> &commands, bool block);
 
     /// All questions were asked, or given up; what was told is in the snapshot, and so many were not answered. Emitted
@@ -83,6 +83,7 @@ private:
     bool isSent() const { return m_waiting.isEmpty() && !m_sending; }
     void release(unsigned hold);
     void hurry();
+    void giveUp(std::unique_lock<std::mutex> &lock);
     void run();
     void sendNext(std::unique_lock<std::mutex> &lock);
     bool hasQuestion() const { return !m_questions.empty() || m_blockQuestion; }

@@ -50,8 +50,8 @@ void EverythingRead::cancel()
 {
     if (!m_isRunning)
         return;
-    m_queue.dropQuestions();
     end(End::Cancelled);
+    m_queue.dropQuestions();
 }
 
 void EverythingRead::end(End how)

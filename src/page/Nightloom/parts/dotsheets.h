@@ -12,8 +12,8 @@ struct MatrixForm;
 /// How high a form is in the distances between two cells of a row.
 qreal rowsHigh(const MatrixForm &form);
 
-/// Pictures of all dots of a form, in the middle of a room. A round dot is dear, and five animations draw fifty thousand
-/// a second: each is drawn once for all matrices of that size, and then copied.
+/// Pictures of all dots of a form, in the middle of a room. A round dot is dear, and five animations draw fifty
+/// thousand a second: each is drawn once for all matrices of that size, and then copied.
 class DotSheets
 {
 public:
