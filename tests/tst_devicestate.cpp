@@ -93,7 +93,10 @@ void TestDeviceState::steps_data()
     row("told 3,preview 9", "known 9, has 3");
     row("preview 9", "unknown 9, has ?");
     row("told 3,preview 9,drop 0", "known 3, has 3");
-    row("told 3,wish 5,drop 0", "pending 5, has 3");
+    row("told 3,wish 5,preview 9,drop 0", "pending 5, has 3");
+    row("told 3,wish 5,preview 9,taken 5", "known 9, has 5"); // it is still moved
+    row("told 3,wish 5,preview 9,refused 5,drop 0", "refused 5, has 3");
+    row("told 3,doubt 0,preview 9,drop 0", "unknown 3, has 3");
     row("told 3,store -1", "unknown -1, has ?");
     row("wish 5,store 4", "known 4, has 4");
 }

@@ -121,6 +121,21 @@ void TestFields::sliderReports_data()
         QTest::mousePress(widget->slider(), Qt::LeftButton, {}, pointOf(widget->slider(), 30));
         widget->setEnabled(false);
     }) << Said{"Brightness 30 step", "Brightness lost"};
+    QTest::newRow("disabled while a key holds it") << Action([](SliderWidget *widget) {
+        widget->show();
+        widget->activateWindow();
+        widget->slider()->setFocus();
+        QVERIFY(QTest::qWaitForWindowActive(widget) && widget->slider()->hasFocus());
+        QTest::keyPress(widget->slider(), Qt::Key_Right);
+        widget->setEnabled(false);
+    }) << Said{"Brightness 51 step", "Brightness lost"};
+    QTest::newRow("taken away from a key that stays down") << Action([](SliderWidget *widget) {
+        QTest::keyPress(widget->slider(), Qt::Key_Right);
+        widget->slider()->loseHold();
+        QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Right, Qt::NoModifier, QString(), true);
+        QApplication::sendEvent(widget->slider(), &repeated);
+        QTest::keyRelease(widget->slider(), Qt::Key_Right);
+    }) << Said{"Brightness 51 step", "Brightness lost"};
     QTest::newRow("hidden in mid-drag") << Action([](SliderWidget *widget) {
         widget->show();
         QTest::mousePress(widget->slider(), Qt::LeftButton, {}, pointOf(widget->slider(), 30));

@@ -149,6 +149,17 @@ void TestScenePage::colorTemperature()
     }
     QTest::mouseClick(option(Command::ColorTemperature, 8), Qt::LeftButton);
     QCOMPARE(m_page->slider("UserB")->value(), 13); // each preset keeps its own
+
+    NoWheelSlider *red = m_page->slider("UserR")->slider();
+    red->setSliderDown(true);
+    red->setSliderPosition(44);
+    m_queue->drain();
+    QCoreApplication::processEvents();
+    QCOMPARE(red->value(), 44);
+    deviceState.told(Command::ColorTemperature, 9); // by the monitor's own buttons
+    QCoreApplication::processEvents();
+    QVERIFY(!red->isSliderDown());
+    QCOMPARE(red->value(), 14);
 }
 
 void TestScenePage::colorEnhanceHoldsSaturation()

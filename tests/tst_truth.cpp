@@ -179,10 +179,10 @@ void TestTruth::heldSliderIsLeftAlone()
     QCOMPARE(brightness->value(), 21);
 }
 
-/// Another half or a lock takes a slider out of the user's hand: what he had not let go of is not sent.
+/// Another half, another mode or a lock takes a slider out of the user's hand: what he had not let go of is not sent.
 void TestTruth::heldSliderIsTakenAway()
 {
-    for (const int mode : {9, 22}) {
+    for (const int mode : {9, 12, 22}) {
         start(10);
         NoWheelSlider *colour = slider("Color Enchance")->slider();
         colour->setSliderDown(true);
@@ -251,14 +251,21 @@ void TestTruth::statusFollowsEveryRequest()
 {
     start(10);
     QCOMPARE(status(), QStringLiteral("1. Q27-OLED connected"));
+    static_cast<PanelPage *>(m_window->settingsPage(PageId::PictureEnhance))
+        ->showPanel("CR Enhance"); // each mode's own
     m_desk->monitor().goDeaf();
-    for (const char *page : {"I/O Settings", "System Settings", "I/O Settings"}) {
-        openPage(8, page); // its questions go unanswered
+    for (const auto &[family, page] : {std::pair(8, "I/O Settings"), {8, "System Settings"}, {5, "Picture Enhance"}}) {
+        openPage(family, page); // its questions go unanswered
         settle();
         QCOMPARE(status(), QStringLiteral("1. Q27-OLED no answer"));
     }
-    m_desk->monitor().recover();
     m_desk->clock.advance(1s); // the first pause: what the pages asked were no tries
+    settle();
+    QVERIFY(m_desk->takeCommands().endsWith("R 22!"));
+    settle();
+    QCOMPARE(m_desk->takeRequests(), QStringList()); // before the second pause is over
+    m_desk->monitor().recover();
+    m_desk->clock.advance(2s);
     settle();
     QCOMPARE(status(), QStringLiteral("1. Q27-OLED connected"));
     QCOMPARE(lies(), QStringList());

@@ -150,6 +150,8 @@ void NoWheelSlider::mouseReleaseEvent(QMouseEvent *event)
 void NoWheelSlider::keyPressEvent(QKeyEvent *event)
 {
     if (isStepKey(event->key())) {
+        if (event->isAutoRepeat() && m_heldKey != event->key())
+            return; // its hold was lost
         // Down before the step, so that whoever hears of the step knows that more may come.
         m_heldKey = event->key();
         setSliderDown(true);
@@ -205,6 +207,8 @@ void NoWheelSlider::focusInEvent(QFocusEvent *event)
 void NoWheelSlider::focusOutEvent(QFocusEvent *event)
 {
     m_focusRing.follow(event);
+    if (!isEnabled())
+        loseHold(); // the toolkit takes the focus from what it disables before it says so
     // The key's release will go to another widget.
     if (m_heldKey != 0) {
         m_heldKey = 0;

@@ -34,6 +34,9 @@ public:
     /// Moves there as by a key: from sliderPressed() to sliderReleased().
     void moveAtOnce(int value);
 
+    /// Takes it out of the user's hand, if it is held.
+    void loseHold();
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -55,7 +58,6 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void loseHold();
     QRect pathRect() const;
     QRect grooveRect() const;
     QPoint handleCentre() const;

@@ -54,7 +54,8 @@ void DeviceState::clear()
 int DeviceState::value(Command command) const
 {
     const std::lock_guard lock(m_mutex);
-    return m_storage->entry(command).value;
+    const StateEntry &found = m_storage->entry(command);
+    return found.preview.value_or(found.value);
 }
 
 ValueState DeviceState::state(Command command) const
@@ -89,6 +90,12 @@ bool DeviceState::isSceneBlockFresh() const
                                                  [this](auto &entry) { return m_storage->isFresh(entry); });
 }
 
+unsigned DeviceState::timesSetAnew() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_storage->timesSetAnew();
+}
+
 void DeviceState::mayHaveChanged()
 {
     const std::lock_guard lock(m_mutex);
@@ -104,17 +111,18 @@ std::optional<QDateTime> DeviceState::pendingSince(Command command) const
 
 void DeviceState::preview(Command command, int value)
 {
-    change(command, [value](StateEntry &entry) { entry.value = value; });
+    change(command, [value](StateEntry &entry) { entry.preview = value; });
 }
 
 void DeviceState::dropPreview(Command command)
 {
-    change(command, [](StateEntry &entry) { entry.dropPreview(); });
+    change(command, [](StateEntry &entry) { entry.preview.reset(); });
 }
 
 void DeviceState::wish(Command command, int value)
 {
     change(command, [value](StateEntry &entry) {
+        entry.preview.reset();
         entry.value = value;
         entry.state = ValueState::Pending;
         entry.wishedAt = platform::desk().clock().now();
@@ -123,11 +131,6 @@ void DeviceState::wish(Command command, int value)
 
 void DeviceState::taken(Command command, int value)
 {
-    if (command == Command::SceneMode && confirmed(command) == value && value % 2 != 0)
-        changeBlock([](StateStorage &storage) {
-            storage.doubtFactoryHalf();
-            return true;
-        });
     change(command, [=, this](StateEntry &entry) {
         const bool isPending = entry.state == ValueState::Pending;
         if (isInSceneBlock(command) && m_storage->leavesItsMode()) {
@@ -135,6 +138,8 @@ void DeviceState::taken(Command command, int value)
             entry.value = isPending ? entry.confirmed.value_or(entry.value) : entry.value;
             return; // the half that is to be on keeps what it has
         }
+        if (command == Command::SceneMode && entry.confirmed == value && value % 2 != 0)
+            m_storage->setAnew();
         m_storage->keepConfirmed(entry, value);
         if (isPending && entry.value != value)
             return; // a newer wish follows

@@ -43,8 +43,8 @@ public:
     /// Everything zero and unknown, but the scene mode 10 and the scene-mode block marked as not read.
     void clear();
 
-    /// The value to show: the user's wish, else what the monitor told last; 0 when there is neither, -1 after a patient
-    /// read without an answer.
+    /// The value to show: where the user moves a control to, else his wish, else what the monitor told last; 0 when
+    /// there is none, -1 after a patient read without an answer.
     int value(Command command) const;
 
     ValueState state(Command command) const;
@@ -66,10 +66,10 @@ public:
 
     // Wishes.
 
-    /// The user still moves a control: this is shown, and nothing is wished yet.
+    /// The user still moves a control: this is shown until he wishes it or drops it, and nothing is wished yet.
     void preview(Command command, int value);
 
-    /// The user does not move it any more, and wished nothing: what the monitor told is shown again.
+    /// The user does not move it any more, and wished nothing: what was shown before is shown again.
     void dropPreview(Command command);
 
     /// Somebody wants a value: it is shown, and pending until the monitor has taken or refused it.
@@ -121,6 +121,9 @@ public:
 
     /// Whether that was a moment ago: see isFresh.
     bool isSceneBlockFresh() const;
+
+    /// How often a mode whose factory half was on has been set once more: what was told of that half is then in doubt.
+    unsigned timesSetAnew() const;
 
     /// Something happened after which the monitor may have other values than it told. What is shown stays.
     void mayHaveChanged();

@@ -60,12 +60,6 @@ void StateEntry::doubt()
         state = ValueState::Unknown;
 }
 
-void StateEntry::dropPreview()
-{
-    if (state == ValueState::Known)
-        value = confirmed.value_or(value);
-}
-
 void StateStorage::clear()
 {
     m_entries.fill({});
@@ -110,13 +104,14 @@ void StateStorage::followSceneMode(int before)
     for (const Command command : kSceneBlockLayout)
         m_entries[placeOf(command)] = {};
     for (StateEntry &each : custom)
-        each.dropPreview();
+        each.preview.reset();
     if (!isSameMode(mode, before))
         forgetBlock();
 }
 
-void StateStorage::doubtFactoryHalf()
+void StateStorage::setAnew()
 {
+    ++m_timesSetAnew;
     for (const Command command : kSceneBlockLayout)
         m_entries[placeOf(command)].doubt();
 }

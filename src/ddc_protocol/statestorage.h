@@ -11,7 +11,8 @@
 /// What the snapshot keeps about one value.
 struct StateEntry
 {
-    int value = 0; ///< shown
+    int value = 0;              ///< wished, or told
+    std::optional<int> preview; ///< shown in its place while a control is moved
     ValueState state = ValueState::Unknown;
     std::optional<int> confirmed; ///< by the monitor
     QDateTime confirmedAt;
@@ -20,7 +21,6 @@ struct StateEntry
     QDateTime refusedAt;
 
     void doubt();
-    void dropPreview();
 };
 
 /// What the snapshot keeps about all values, both halves of the mode that is on. Guarded by its owner.
@@ -47,8 +47,9 @@ public:
     /// half's. Takes the mode that was on before.
     void followSceneMode(int before);
 
-    /// The mode was set once more, by which the monitor takes back what was changed of its factory half.
-    void doubtFactoryHalf();
+    /// The mode that is on was set once more, by which the monitor takes back what was changed of its factory half.
+    void setAnew();
+    unsigned timesSetAnew() const { return m_timesSetAnew; }
 
     /// The monitor told a value, or took it.
     void keepConfirmed(StateEntry &entry, int value) const;
@@ -66,6 +67,7 @@ public:
 
 private:
     std::array<StateEntry, kCommandCodes> m_entries;
+    unsigned m_timesSetAnew = 0;
     unsigned m_era = 0; ///< grows with everything after which the monitor may have changed
 };
 

@@ -231,9 +231,14 @@ void pageSceneSetting::fillCustomArea()
 void pageSceneSetting::fillUserColours(int temperature)
 {
     const Updating updating(*this);
-    m_userColourSlot = userSlot(temperature);
+    const int slot = userSlot(temperature);
+    for (int channel = 0; slot != m_userColourSlot && channel < 3; ++channel)
+        slider(kUserColourSliders[channel])->slider()->loseHold(); // it stands for another mixture now
+    m_userColourSlot = slot;
     for (int channel = 0; channel < 3; ++channel) {
         SliderWidget *colour = slider(kUserColourSliders[channel]);
+        if (colour->isHeld())
+            continue;
         colour->setValue(0);
         if (m_userColourSlot != 0)
             fillSlider(colour, kUserColours[m_userColourSlot - 1][channel]);

@@ -52,7 +52,7 @@ void PageValues::fill(SliderWidget *slider, Command command) const
     if (slider->isHeld())
         return;
     const Mark mark = markOf(command);
-    if (mark != Mark::Unknown && mark != Mark::Unconfirmed)
+    if (mark != Mark::Unknown && (mark != Mark::Unconfirmed || deviceState.isDoubted(command)))
         slider->setValue(deviceState.value(command));
     slider->setMark(mark);
 }

@@ -174,7 +174,8 @@ void SettingsPage::onSent(Command command, int value, bool ok)
 void SettingsPage::showEvent(QShowEvent *event)
 {
     QLabel::showEvent(event);
-    m_shownMode = confirmedMode();
+    m_shownMode = modeNow();
+    m_lastMode = m_shownMode.shown;
     updateInterfaceData(); // another page may have changed what this one shows
     reconcile();
 }
@@ -191,25 +192,32 @@ void SettingsPage::reconcile()
     m_queue.askAll(commands, {});
 }
 
-SettingsPage::Mode SettingsPage::confirmedMode()
+SettingsPage::Mode SettingsPage::modeNow()
 {
-    return {deviceState.value(Command::SceneMode), deviceState.confirmed(Command::SceneMode)};
+    return {deviceState.value(Command::SceneMode), deviceState.confirmed(Command::SceneMode),
+            deviceState.timesSetAnew()};
 }
 
 /// Another mode or half has values of its own.
 void SettingsPage::followMode()
 {
-    const Mode mode = confirmedMode();
-    if (deviceState.state(Command::SceneMode) == ValueState::Pending)
+    const Mode mode = modeNow();
+    if (std::exchange(m_lastMode, mode.shown) != mode.shown)
+        letGo();
+    if (deviceState.state(Command::SceneMode) == ValueState::Pending || std::exchange(m_shownMode, mode) == mode)
         return;
-    const bool isOther = std::exchange(m_shownMode, mode) != mode;
-    const std::vector<Command> commands = m_controls.commandsInSight(this);
-    const bool isSetAnew = std::ranges::any_of(
-        commands, [](Command command) { return isInSceneBlock(command) && deviceState.isDoubted(command); });
-    if (isOther && showsValues())
+    if (showsValues())
         SettingsPage::updateInterfaceData();
-    if (isOther || isSetAnew)
-        reconcile();
+    reconcile();
+}
+
+/// What is in the user's hand was meant for the mode before.
+void SettingsPage::letGo()
+{
+    for (const PageControls::Slider &entry : m_controls.sliderEntries()) {
+        if (const std::optional<Command> command = entry.command(); command && isInSceneBlock(*command))
+            entry.widget->slider()->loseHold();
+    }
 }
 
 /// Several controls may stand for one command, also on pages that are not in sight: those are filled when shown.

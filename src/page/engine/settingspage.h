@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -169,7 +170,15 @@ private Q_SLOTS:
     void onValueChanged(Command command);
 
 private:
-    using Mode = std::pair<int, std::optional<int>>; ///< shown, and what the monitor has
+    /// The values that a mode has of its own are others as soon as one of these is.
+    struct Mode
+    {
+        int shown = 0;
+        std::optional<int> confirmed; ///< what the monitor has
+        unsigned timesSetAnew = 0;
+
+        bool operator==(const Mode &) const = default;
+    };
 
     /// Whether the way back from a risky change is offered.
     enum class WayBack { Offered, Taken };
@@ -181,8 +190,9 @@ private:
         unsigned change; ///< its number
     };
 
-    static Mode confirmedMode();
+    static Mode modeNow();
     void followMode();
+    void letGo();
     bool setOption(Command command, int value, WayBack way);
     void offerUndo(Command command, std::optional<int> before, int value);
     void fill(Command command);
@@ -196,7 +206,8 @@ private:
     PageResult m_result;
     bool m_updating = false;
     bool m_asksWhenShown = false;
-    Mode m_shownMode;
+    Mode m_shownMode;   ///< whose values are shown
+    int m_lastMode = 0; ///< that was wished or told, also while it is on its way
     UndoBar *m_undoBar = nullptr;
     bool m_paced = false;
     std::map<Command, Rule> m_before;
