@@ -8,6 +8,7 @@
 #include "controls/behind.h"
 #include "controls/metrics.h"
 #include "controls/palette.h"
+#include "page/engine/scrollarea.h"
 
 namespace {
 
@@ -39,7 +40,8 @@ void layGround(QWidget *page)
 static QString readStyle()
 {
     QFile file(QStringLiteral(":/resource/css/page_scene_mode.css"));
-    return file.open(QIODevice::ReadOnly) ? Palette::styled(QString::fromUtf8(file.readAll())) : QString();
+    return file.open(QIODevice::ReadOnly) ? Palette::styled(QString::fromUtf8(file.readAll())) + scrollBarStyle()
+                                          : QString();
 }
 
 void dressPage(QWidget *page)
