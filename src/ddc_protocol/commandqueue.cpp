@@ -88,12 +88,6 @@ bool CommandQueue::isIdle()
     return isSent() && !hasQuestion() && !m_asking;
 }
 
-bool CommandQueue::isAsking()
-{
-    const std::lock_guard lock(m_mutex);
-    return hasQuestion() || m_asking;
-}
-
 void CommandQueue::askBlock(int mode)
 {
     askAll({}, mode);

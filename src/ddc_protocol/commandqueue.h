@@ -52,9 +52,6 @@ public:
     /// Blocks until everything posted has been sent, or the time is over; false then. For those who end at once after.
     bool drainFor(platform::milliseconds limit);
 
-    /// Whether a question waits or is under way.
-    bool isAsking();
-
     /// Whether nothing waits or is under way, neither a value nor a question.
     bool isIdle();
 
