@@ -245,6 +245,14 @@ void TestDrawnPages::smallWindowIsArranged()
     QCOMPARE(windows->toolTip().isEmpty(), mode == 1);
     QCOMPARE(button(Windows, "Place_Top Left")->isEnabled(), mode == 1);
     QVERIFY(!windows->valueText().isEmpty());
+    for (const Command odd : {Command::InsetPlace, Command::InsetSize}) { // no option has that number
+        deviceState.told(odd, 84);
+        page(Windows)->updateInterfaceData();
+        act(*windows);
+        QCOMPARE(m_desk->takeCommands().join(' '), QString());
+        QVERIFY(windows->insetNow().isEmpty());
+        deviceState.told(odd, 1);
+    }
 }
 
 /// Three values that are told as one, and what is known of the lamps then.

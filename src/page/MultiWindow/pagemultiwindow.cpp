@@ -60,11 +60,13 @@ void pageMultiWindow::showWindows()
     if (!m_arranger) // before the page is first shown
         return;
     const auto words = [this](Command command, std::optional<int> value) {
-        const QPushButton *button = value ? optionGroup(command)->buttonOf(*value) : nullptr;
-        return button ? button->text() : QObject::tr("unknown");
+        return value ? optionGroup(command)->buttonOf(*value)->text() : QObject::tr("unknown");
     };
-    const WindowsShown shown{shownValue(deviceState, Command::MultiWindow),
-                             shownValue(deviceState, Command::InsetPlace), shownValue(deviceState, Command::InsetSize)};
+    const auto valueOf = [this](Command command) {
+        const std::optional<int> value = shownValue(deviceState, command);
+        return value && optionGroup(command)->canShow(*value) ? value : std::nullopt;
+    };
+    const WindowsShown shown{valueOf(Command::MultiWindow), valueOf(Command::InsetPlace), valueOf(Command::InsetSize)};
     m_arranger->showWindows(shown);
     const LockRule *lock = lockOf(multiWindowLocks(), Command::InsetPlace, 0, deviceState);
     m_arranger->setLock(lock ? QObject::tr(lock->reason) : QString());

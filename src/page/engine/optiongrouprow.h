@@ -31,6 +31,9 @@ public:
     /// The button of an option's value; null when the group has no such option.
     QPushButton *buttonOf(int value) const;
 
+    /// Whether a value stands for something here: for one of the options, or for several where that may be.
+    bool canShow(int value) const { return m_group.look == GroupLook::Several || buttonOf(value) != nullptr; }
+
     /// Fixes the heading's width, in pixels, where it stands below captions of another width; a switch is narrow there.
     void makeNarrow(int captionWidth);
 

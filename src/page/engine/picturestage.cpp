@@ -1,5 +1,6 @@
 #include "page/engine/picturestage.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <QHBoxLayout>
@@ -8,6 +9,7 @@
 #include "controls/metrics.h"
 #include "controls/monitorpicture.h"
 #include "ddc_protocol/devicestate.h"
+#include "page/engine/optiongrouprow.h"
 #include "page/engine/optionwords.h"
 
 namespace {
@@ -34,10 +36,9 @@ std::optional<int> wishedValue(Command command)
 
 PictureStage::PictureStage(const PanelPicture &picture, std::vector<OptionGroupRow *> rows, const char *about,
                            QWidget *parent, Shape shape)
-    : QWidget(parent), m_spec(picture), m_picture(new MonitorPicture(this)),
-      m_words(new OptionWords(std::move(rows),
-                              shape == Shape::Strip ? OptionWords::Shape::Columns : OptionWords::Shape::Column, this,
-                              about))
+    : QWidget(parent), m_spec(picture), m_rows(std::move(rows)), m_picture(new MonitorPicture(this)),
+      m_words(new OptionWords(m_rows, shape == Shape::Strip ? OptionWords::Shape::Columns : OptionWords::Shape::Column,
+                              this, about))
 {
     m_picture->setPainter([this](QPainter &painter, const QRectF &screen) { paint(painter, screen); });
     if (shape == Shape::Strip) {
@@ -53,13 +54,22 @@ PictureStage::PictureStage(const PanelPicture &picture, std::vector<OptionGroupR
     showPreview();
 }
 
+/// Nobody knows what a number stands for that none of the options has.
+std::optional<int> PictureStage::ifOffered(Command command, std::optional<int> value) const
+{
+    const auto isFor = [command](const OptionGroupRow *row) { return row->group().command == command; };
+    const auto offers = [&](const OptionGroupRow *row) { return isFor(row) && row->canShow(*value); };
+    const bool isKnown = value && (std::ranges::none_of(m_rows, isFor) || std::ranges::any_of(m_rows, offers));
+    return isKnown ? value : std::nullopt;
+}
+
 PictureValues PictureStage::values(bool withPreview) const
 {
     const auto preview = withPreview ? m_words->preview() : std::nullopt;
-    return {[preview, withPreview](Command command) -> std::optional<int> {
+    return {[this, preview, withPreview](Command command) -> std::optional<int> {
                 if (preview && preview->first == command)
                     return preview->second;
-                return withPreview ? wishedValue(command) : monitorValue(command);
+                return ifOffered(command, withPreview ? wishedValue(command) : monitorValue(command));
             },
             preview ? std::optional(preview->first) : std::nullopt};
 }

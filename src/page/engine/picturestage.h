@@ -38,11 +38,13 @@ public:
     OptionWords *words() const { return m_words; }
 
 private:
+    std::optional<int> ifOffered(Command command, std::optional<int> value) const;
     PictureValues values(bool withPreview) const;
     void paint(QPainter &painter, const QRectF &screen) const;
     void showPreview();
 
     const PanelPicture &m_spec;
+    const std::vector<OptionGroupRow *> m_rows;
     MonitorPicture *m_picture;
     OptionWords *m_words;
 };
