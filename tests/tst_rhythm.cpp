@@ -217,9 +217,15 @@ private Q_SLOTS:
         QCOMPARE(nextWrites(2s), QStringList{"W 86=2016"}); // 63 of 63 green
         QCOMPARE(int(light->state()), int(RhythmLight::State::Follows));
         openPage(5, "Emberline");
+        QVERIFY(storeSetting("Care/AutomaticWrites", 0));
+        showHalves(qRgb(0, 0, 255), qRgb(0, 0, 255));
+        look(); // it waits for tomorrow now
+        m_desk->takeCommands();
         m_window->findChild<QPushButton *>("Light Mode_Normal")->click();
         QTRY_COMPARE(int(light->state()), int(RhythmLight::State::Off));
-        pass(250ms); // a look that was under way
+        QVERIFY(storeSetting("Care/AutomaticWrites", -1));
+        QCOMPARE(nextWrites(2min), QStringList{"W 75=1"}); // what waited is not wanted any more
+        pass(250ms);                                       // a look that was under way
         const int copies = screen().copies();
         pass(5s);
         QCOMPARE(screen().copies(), copies);

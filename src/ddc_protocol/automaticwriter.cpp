@@ -38,17 +38,28 @@ void AutomaticWriter::want(Command command, int value)
     goOn();
 }
 
-void AutomaticWriter::wantNow(Command command, int value)
+void AutomaticWriter::takeBack(Command command)
 {
     const bool isSending = m_step == Step::Sends;
     const auto begin = m_wishes.begin() + (isSending ? 1 : 0);
     m_wishes.erase(std::remove_if(begin, m_wishes.end(), [=](const Wish &wish) { return wish.command == command; }),
                    m_wishes.end());
-    if (!isSending) { // the first may be another one now
-        setStep(Step::Begins);
-        for (Wish &wish : m_wishes)
-            wish.wasAsked = false;
-    }
+    if (isSending)
+        return;
+    setStep(Step::Begins); // the first may be another one now
+    for (Wish &wish : m_wishes)
+        wish.wasAsked = false;
+}
+
+void AutomaticWriter::drop(Command command)
+{
+    takeBack(command);
+    goOn();
+}
+
+void AutomaticWriter::wantNow(Command command, int value)
+{
+    takeBack(command);
     m_now.insert_or_assign(command, value);
     m_queue.post(command, value);
     goOn();

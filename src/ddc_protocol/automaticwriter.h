@@ -29,6 +29,9 @@ public:
     /// not counted there.
     void wantNow(Command command, int value);
 
+    /// Takes back what was wanted of a command and is not on its way yet. Nobody is told.
+    void drop(Command command);
+
     /// Whether the monitor in use takes no more of them today.
     static bool isDayUsedUp();
 
@@ -51,6 +54,7 @@ private:
     /// What the first wish is at. Only what belongs to that leads on.
     enum class Step { Begins, Asks, Waits, Sends };
 
+    void takeBack(Command command);
     void goOn();
     void setStep(Step step);
     void wait(const WriteDecision &decision);

@@ -46,8 +46,10 @@ void RhythmLamps::startRun()
 
 void RhythmLamps::forget()
 {
-    for (auto &[tone, lamp] : m_lamps)
+    for (auto &[tone, lamp] : m_lamps) {
         lamp = {{}, lamp.isByLock};
+        m_writer.drop(tone);
+    }
 }
 
 /// The way back from the lock's darkness is the user's own doing as well.

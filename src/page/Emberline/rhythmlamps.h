@@ -23,7 +23,7 @@ public:
     /// Something else is followed from now on, or nothing.
     void startRun();
 
-    /// Nobody knows what they show now.
+    /// Nobody knows what they show now, and what they were to show is not wanted any more.
     void forget();
 
     /// While the session is locked they are to be dark.
