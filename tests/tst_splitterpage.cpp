@@ -328,6 +328,10 @@ void TestSplitterPage::unwritableFile()
     button("layoutNew")->click();
     QCOMPARE(page().tiles().size(), std::size_t(4));
     QVERIFY(page().notice().contains(QLatin1String(kConfigFile)));
+    QVERIFY(QDir().rmdir(QLatin1String(kConfigFile)));
+    button("layoutNew")->click();
+    QCOMPARE(page().tiles().size(), std::size_t(5));
+    QCOMPARE(page().notice(), QString());
 }
 
 void TestSplitterPage::screensChange()

@@ -18,6 +18,7 @@ bool LayoutModel::store(const ScreenLayouts &layouts)
         return false;
     }
     m_layouts = layouts;
+    Q_EMIT stored();
     return true;
 }
 

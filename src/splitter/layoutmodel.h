@@ -44,6 +44,9 @@ public:
 Q_SIGNALS:
     void changed();
 
+    /// A change has been stored.
+    void stored();
+
     /// A change could not be stored, and was not made.
     void unstored();
 

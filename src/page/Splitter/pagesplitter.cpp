@@ -42,6 +42,7 @@ pageSplitter::pageSplitter(KeyFields &fields, QWidget *parent)
     connect(m_keys, &SplitterKeys::noticed, this, [this](const QString &text) { tell(text, true); });
     connect(m_keys, &SplitterKeys::unstored, this,
             [this] { tell(storeNotice(Unstored::HoldsUntilExit, QLatin1String(kConfigFile)), true); });
+    connect(&m_model, &LayoutModel::stored, this, [this] { tell({}, false); });
     connect(&m_model, &LayoutModel::unstored, this,
             [this] { tell(storeNotice(Unstored::Undone, QLatin1String(kConfigFile)), true); });
 }
