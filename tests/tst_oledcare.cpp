@@ -303,6 +303,14 @@ void TestOledCare::careIsRefused()
         QCOMPARE((m_desk->takeCommands() + m_desk->takeCommands(1)).filter("W"), QStringList());
     }
     currentMonitorIndex = 0;
+    m_page->meanwhile = [] {};
+    m_desk->monitor().refuse(0x0E, 2);
+    m_page->carePanel()->startButton()->click();
+    QVERIFY(m_page->notice().contains("Start care"));
+    currentMonitorIndex = 1; // which refused nothing
+    m_page->updateInterfaceData();
+    QCOMPARE(m_page->notice(), QString());
+    currentMonitorIndex = 0;
 }
 
 /// A monitor without such a panel is left alone, and each that has one keeps its own count.

@@ -17,6 +17,9 @@ class MonitorAskedAbout
 public:
     bool isInUse() const { return monitorIdentity() == m_identity; }
 
+    /// Not while there is none.
+    bool isAnotherInUse() const { return !isInUse() && !monitorIdentity().isEmpty(); }
+
 private:
     QString m_identity = monitorIdentity();
 };

@@ -32,6 +32,12 @@ void PageResult::tell(const QString &why, std::function<void()> tryAgain)
         m_head->strip()->say(why, MessageStrip::Tone::Refusal, m_tryAgain ? QObject::tr("Try again") : QString());
 }
 
+void PageResult::followMonitor()
+{
+    if (m_monitor.isAnotherInUse())
+        tell({});
+}
+
 void PageResult::show(bool ok, const QString &again, std::function<void()> tryAgain)
 {
     tell({});

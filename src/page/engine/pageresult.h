@@ -35,10 +35,13 @@ public:
     /// The same of a change that began before; what was told of a newer one stays.
     void showOf(unsigned change, bool ok, const QString &again, std::function<void()> tryAgain);
 
+    /// What was said of another monitor than the one in use is not said any more.
+    void followMonitor();
+
 private:
     PageHead *m_head = nullptr;
     std::function<void()> m_tryAgain; ///< what the monitor did not take
-    MonitorAskedAbout m_monitor;      ///< that did not
+    MonitorAskedAbout m_monitor;      ///< of which something is said
     unsigned m_newest = 0;            ///< change
     unsigned m_told = 0;              ///< the change that is told of
 };

@@ -251,6 +251,7 @@ QWidget *SettingsPage::buildPart(const char *)
 void SettingsPage::updateInterfaceData()
 {
     const Updating updating(*this);
+    m_result.followMonitor();
     m_values.fillAll();
     showOwnValues();
     m_locks.apply();
