@@ -1,6 +1,7 @@
 #include <QPushButton>
 #include <QtTest>
 
+#include "controls/messagestrip.h"
 #include "controls/monitorpicture.h"
 #include "controls/nowheelslider.h"
 #include "controls/sliderwidget.h"
@@ -11,6 +12,8 @@
 #include "page/engine/optiongrouprow.h"
 #include "page/engine/picturestage.h"
 #include "support/sessiondesk.h"
+
+using namespace std::chrono_literals;
 
 class TestScenePage : public QObject
 {
@@ -26,6 +29,7 @@ private Q_SLOTS:
     void halves();
     void halfWithUnreadBlock();
     void chooseScene();
+    void refusedModeIsTriedAgain();
     void factoryEditsAreNotTheUsers();
     void customHalfIsPictured();
 
@@ -271,6 +275,30 @@ void TestScenePage::chooseScene()
     QVERIFY(!deviceState.sceneBlockValid());             // and the block on the page does no longer
     QVERIFY(m_page->isDefaultView());
     QCOMPARE(deviceState.lastSceneModeSent.load(), 13);
+}
+
+/// The monitor is asked for its mode as soon as it took none, and tells the one that it is in.
+void TestScenePage::refusedModeIsTriedAgain()
+{
+    const auto rows = {std::tuple(13, "Night Mode", "W 22=13"), {9, "Movie Mode: Default", "W 22=9"}};
+    for (const auto &[wished, name, sent] : rows) {
+        start(10);
+        setReconnectHandler([] { deviceState.told(Command::SceneMode, 10); });
+        m_desk->monitor().refuse(0x22, 2); // the command with its retry
+        if (wished == 13)
+            m_page->chooseScene(13);
+        else
+            QTest::mouseClick(half("        Default"), Qt::LeftButton);
+        QCOMPARE(m_page->notice(), QStringLiteral("The monitor did not take \"%1\".").arg(QLatin1String(name)));
+        QTRY_VERIFY(half("        Custom")->isChecked());
+        m_desk->clock.advance(1min); // whatever is still known of the refusal
+        deviceState.told(Command::SceneMode, 10);
+        m_desk->takeCommands();
+        m_page->findChild<MessageStrip *>()->button()->click(); // "Try again"
+        QCOMPARE(m_desk->takeCommands(), QStringList{QLatin1String(sent)});
+        QCOMPARE(m_page->notice(), QString());
+        cleanup();
+    }
 }
 
 void TestScenePage::factoryEditsAreNotTheUsers()

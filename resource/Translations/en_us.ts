@@ -196,6 +196,10 @@
         <translation>%1. The window keeps a size of its own.</translation>
     </message>
     <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
         <source>1 Hour</source>
         <translation>1 Hour</translation>
     </message>

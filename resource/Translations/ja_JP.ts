@@ -196,6 +196,10 @@
         <translation>%1。ウィンドウは独自のサイズのままです。</translation>
     </message>
     <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
         <source>1 Hour</source>
         <translation>1&#xa0;時間</translation>
     </message>

@@ -196,6 +196,10 @@
         <translation>%1。该窗口保持自己的大小。</translation>
     </message>
     <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
         <source>1 Hour</source>
         <translation>1&#xa0;小时</translation>
     </message>

@@ -196,6 +196,10 @@
         <translation>%1。該視窗保持自己的大小。</translation>
     </message>
     <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
         <source>1 Hour</source>
         <translation>1&#xa0;小時</translation>
     </message>

@@ -9,6 +9,7 @@
 
 #include "controls/announcer.h"
 #include "controls/captionlabel.h"
+#include "controls/labelled.h"
 #include "controls/palette.h"
 #include "controls/sharedfonts.h"
 #include "controls/wrappedlabel.h"
@@ -59,7 +60,7 @@ void DesktopToast::showNote(const QString &title, const QString &text, std::opti
     resize(kWidth, layout()->totalHeightForWidth(kWidth)); // adjustSize() would break the text at a width of its own
     moveToCorner();
     show();
-    Announcer::say(QStringLiteral("%1: %2").arg(title, text));
+    Announcer::say(labelled(title, text));
     update();
 }
 

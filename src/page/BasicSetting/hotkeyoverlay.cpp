@@ -1,6 +1,7 @@
 #include "page/BasicSetting/hotkeyoverlay.h"
 
 #include "controls/desktoptoast.h"
+#include "controls/labelled.h"
 #include "ddc_protocol/settingsstore.h"
 #include "platform/desk.h"
 
@@ -52,7 +53,7 @@ void HotkeyOverlay::show(const QString &title, const QString &text, std::optiona
 
 QString HotkeyOverlay::text() const
 {
-    return QStringLiteral("%1: %2").arg(m_toast->title(), m_toast->text());
+    return labelled(m_toast->title(), m_toast->text());
 }
 
 std::optional<double> HotkeyOverlay::level() const

@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "controls/accessiblecontrol.h"
+#include "controls/labelled.h"
 #include "controls/metrics.h"
 #include "controls/pictures.h"
 #include "controls/zelmarkeysequenceedit.h"
@@ -155,7 +156,7 @@ void ShortcutRow::explainFields()
     const QString lock = m_entry.isOn ? QString() : QObject::tr("Switch this row on to change its keys.");
     for (const auto &[edit, text] : {std::pair(plusEdit(), meaning.plus), {minusEdit(), meaning.minus}}) {
         edit->setToolTip(lock.isEmpty() ? text : lock);
-        edit->setAccessibleName(QStringLiteral("%1: %2").arg(m_name->text(), text));
+        edit->setAccessibleName(labelled(m_name->text(), text));
         edit->setAccessibleDescription(lock);
     }
 }
@@ -167,7 +168,7 @@ void ShortcutRow::updateControlText()
     m_switch->setAccessibleName(name);
     explainFields();
     m_trash->setToolTip(QObject::tr("Delete"));
-    m_trash->setAccessibleName(QStringLiteral("%1: %2").arg(name, m_trash->toolTip()));
+    m_trash->setAccessibleName(labelled(name, m_trash->toolTip()));
     dressSwitch(m_switch, m_entry.isOn);
     showProblems();
 }

@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 
+#include "controls/labelled.h"
 #include "controls/metrics.h"
 #include "following/followscenes.h"
 #include "page/engine/dropdown.h"
@@ -79,7 +80,7 @@ void FollowRow::showNames()
     m_pathField->setAccessibleName(program);
     showPath();
     m_scenes->setAccessibleName(program);
-    m_trash->setAccessibleName(QStringLiteral("%1: %2").arg(program, m_trash->toolTip()));
+    m_trash->setAccessibleName(labelled(program, m_trash->toolTip()));
 }
 
 /// As much of the path as there is room for, without what is in its middle.

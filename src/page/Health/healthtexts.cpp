@@ -4,6 +4,7 @@
 #include <QStringList>
 
 #include "controls/dash.h"
+#include "controls/labelled.h"
 #include "ddc_protocol/commandnames.h"
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/displayenumeration.h"
@@ -184,7 +185,7 @@ QString healthReport(std::size_t index, const LinkRecord &record, const QDateTim
                       now.toString(QStringLiteral("yyyy-MM-dd hh:mm:ss")), monitorFacts(index)};
     for (int i = 0; i < kHealthFigures; ++i) {
         const HealthFigure figure = healthFigure(i, index, record);
-        lines += QStringLiteral("%1: %2 (%3)").arg(QObject::tr(figureCaption(i)), figure.value, figure.detail);
+        lines += labelled(QObject::tr(figureCaption(i)), QStringLiteral("%1 (%2)").arg(figure.value, figure.detail));
     }
     lines += QObject::tr("Last errors") + QLatin1Char(':');
     for (const LinkError &error : record.errors())

@@ -4,6 +4,7 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include "controls/labelled.h"
 #include "controls/metrics.h"
 #include "controls/sliderwidget.h"
 #include "ddc_protocol/commandqueue.h"
@@ -129,7 +130,7 @@ void pageSceneSetting::switchHalf(bool defaultView)
     showHalf(defaultView);
     if (blockValid) {
         if (changed)
-            showModeResult(send(Command::SceneMode, wanted));
+            showModeResult(wanted, send(Command::SceneMode, wanted));
         fillCustomArea();
         return;
     }
@@ -144,7 +145,7 @@ void pageSceneSetting::switchHalf(bool defaultView)
 void pageSceneSetting::onWorkFinished()
 {
     updateInterfaceData();
-    showModeResult(m_worker->isTaken());
+    showModeResult(m_worker->mode(), m_worker->isTaken());
     Q_EMIT modeChangeEnded();
 }
 
@@ -157,19 +158,21 @@ void pageSceneSetting::chooseScene(int value)
     queue().drain(); // a drag's last value belongs to the mode that is left
     deviceState.wish(Command::SceneMode, wanted->value);
     showHalf(true);
-    showModeResult(send(Command::SceneMode, wanted->value));
+    showModeResult(wanted->value, send(Command::SceneMode, wanted->value));
 }
 
-/// The half or mode that is shown was wished and not taken: it may be wished once more.
-void pageSceneSetting::showModeResult(bool ok)
+/// What was wished is told and may be wished once more, whichever mode the monitor has told since.
+void pageSceneSetting::showModeResult(int wished, bool ok)
 {
-    const int wished = deviceState.value(Command::SceneMode);
     const SceneMode *mode = sceneModeOf(wished);
-    showResult(ok, mode ? QObject::tr(mode->label) : QString(), [this, wished] {
-        if (wished % 2 != 0)
-            chooseScene(wished);
+    const auto isHalf = [mode] { return mode == sceneModeOf(deviceState.confirmed(Command::SceneMode).value_or(0)); };
+    const QString name = mode ? QObject::tr(mode->label) : QString();
+    const char *half = wished % 2 != 0 ? kDefaultLabel : kCustomLabel;
+    showResult(ok, isHalf() ? labelled(name, QObject::tr(half).trimmed()) : name, [this, wished, isHalf] {
+        if (isHalf())
+            switchHalf(wished % 2 != 0);
         else
-            switchHalf(false);
+            chooseScene(wished);
     });
 }
 

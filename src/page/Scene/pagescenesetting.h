@@ -56,7 +56,7 @@ private Q_SLOTS:
 
 private:
     void buildHead(QVBoxLayout *column);
-    void showModeResult(bool ok);
+    void showModeResult(int wished, bool ok);
     void buildHalves(QVBoxLayout *column);
     void refreshPicture();
     void addRules();

@@ -16,7 +16,10 @@ public:
     /// Starts the work for a scene mode; the work before has finished.
     void begin(int mode);
 
-    /// Whether the monitor took the mode of the last work; one that a newer mode made needless counts as taken. Once it
+    /// The mode of the last work.
+    int mode() const { return m_mode; }
+
+    /// Whether the monitor took it; one that a newer mode made needless counts as taken. Once it
     /// has finished.
     bool isTaken() const { return m_taken; }
 

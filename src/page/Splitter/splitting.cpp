@@ -2,6 +2,7 @@
 
 #include <QStackedWidget>
 
+#include "controls/labelled.h"
 #include "following/foregroundwatch.h"
 #include "page/BasicSetting/hotkeyoverlay.h"
 #include "page/Splitter/pagesplitter.h"
@@ -77,5 +78,5 @@ void Splitting::tell(const SplitResult &result)
     else
         m_notes.showNote(title, words);
     if (m_page->isVisible())
-        m_page->tell(result.window.isEmpty() ? words : QStringLiteral("%1: %2").arg(title, words), isRefusal);
+        m_page->tell(result.window.isEmpty() ? words : labelled(title, words), isRefusal);
 }

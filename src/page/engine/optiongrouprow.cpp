@@ -10,6 +10,7 @@
 #include "controls/captionlabel.h"
 #include "controls/colorselecter.h"
 #include "controls/focusgroup.h"
+#include "controls/labelled.h"
 #include "controls/locksign.h"
 #include "controls/metrics.h"
 #include "controls/pictures.h"
@@ -96,7 +97,7 @@ QPushButton *OptionGroupRow::addButton(const Option &option, BoundTexts &texts)
     if (m_group.look == GroupLook::Pictures)
         dressPictureButton(button, m_group.draw, option.value);
     texts.bind(option.label, [this, button](const QString &text) {
-        button->setAccessibleName(QStringLiteral("%1: %2").arg(QObject::tr(m_group.label), text.trimmed()));
+        button->setAccessibleName(labelled(QObject::tr(m_group.label), text.trimmed()));
         if (m_group.look == GroupLook::Pictures)
             return button->setToolTip(text);
         button->setText(text);

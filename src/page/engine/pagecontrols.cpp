@@ -10,6 +10,7 @@
 #include "controls/captionlabel.h"
 #include "controls/captions.h"
 #include "controls/dress.h"
+#include "controls/labelled.h"
 #include "controls/locksign.h"
 #include "controls/metrics.h"
 #include "controls/palette.h"
@@ -223,11 +224,11 @@ QString PageControls::wordsFor(Command command, int value) const
         if (!chosen)
             return name;
         const QString option = optionName(*chosen); // a button may show a picture instead
-        return row->hasCaption() ? QStringLiteral("%1: %2").arg(name, option) : option;
+        return row->hasCaption() ? labelled(name, option) : option;
     }
     for (const Slider &entry : m_sliderEntries) {
         if (entry.command() == command)
-            return QStringLiteral("%1: %2").arg(entry.widget->caption()).arg(value);
+            return labelled(entry.widget->caption(), QString::number(value));
     }
     return {};
 }

@@ -6,6 +6,7 @@
 #include <QColor>
 #include <QObject>
 
+#include "controls/labelled.h"
 #include "controls/metrics.h"
 #include "controls/sliderwidget.h"
 #include "page/engine/boundtexts.h"
@@ -40,7 +41,7 @@ QString spokenName(const SliderGrid &grid, const AccentLook *look, const QString
 {
     if (!grid.heading)
         return caption;
-    return QStringLiteral("%1: %2").arg(QObject::tr(grid.heading), look ? QObject::tr(look->name) : caption);
+    return labelled(QObject::tr(grid.heading), look ? QObject::tr(look->name) : caption);
 }
 
 } // namespace

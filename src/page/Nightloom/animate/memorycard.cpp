@@ -6,6 +6,7 @@
 
 #include "controls/accessiblecontrol.h"
 #include "controls/captionlabel.h"
+#include "controls/labelled.h"
 #include "controls/metrics.h"
 #include "page/Nightloom/parts/smallmatrix.h"
 #include "page/engine/boundtexts.h"
@@ -47,7 +48,7 @@ void MemoryCard::retranslate()
     const QString name = QObject::tr(m_memory.label);
     setAccessibleName(name);
     m_name->setText(name);
-    m_picture->setAccessibleName(QStringLiteral("%1: %2").arg(name, QObject::tr("LED matrix")));
+    m_picture->setAccessibleName(labelled(name, QObject::tr("LED matrix")));
     m_note->setText(noteText());
 }
 

@@ -3,6 +3,7 @@
 #include <QVBoxLayout>
 
 #include "controls/captionlabel.h"
+#include "controls/labelled.h"
 #include "controls/metrics.h"
 #include "page/Nightloom/parts/smallmatrix.h"
 #include "usb-hid/accessorylink.h"
@@ -33,5 +34,5 @@ void EventCard::tell(GameEvent event, const QString &name)
     const MatrixForm *form = accessoryLink.form;
     m_picture->showFrame(form ? std::optional(eventPicture(*form, event)) : std::nullopt);
     m_name->setText(name);
-    m_picture->setAccessibleName(QStringLiteral("%1: %2").arg(name, QObject::tr("LED matrix")));
+    m_picture->setAccessibleName(labelled(name, QObject::tr("LED matrix")));
 }
