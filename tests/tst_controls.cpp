@@ -16,6 +16,7 @@
 #include "controls/icontextbutton.h"
 #include "controls/icontextbutton2.h"
 #include "controls/lefttabbutton.h"
+#include "controls/phrases.h"
 #include "controls/pictures.h"
 #include "controls/switchbutton.h"
 #include "controls/switchbuttonrectangle.h"
@@ -63,6 +64,7 @@ private Q_SLOTS:
     void pickerTakesOnlyAnAnswer();
     void captionFits();
     void shortLastLineTakesWords();
+    void linesEndAtPhrases();
     void picturesAreSharp();
     void assistiveSoftwareSeesAndPresses();
 };
@@ -350,6 +352,20 @@ void TestControls::shortLastLineTakesWords()
         QCOMPARE(linesIn(words, even), lines);
         QVERIFY(!evened || even < metrics.horizontalAdvance(QStringLiteral("A caption of some")));
     }
+}
+
+void TestControls::linesEndAtPhrases()
+{
+    QCOMPARE(
+        phrasesOf(QStringLiteral("お使いの画面で「オフ」を選ぶと、Type-C 端子の映像が出ません。")),
+        QStringList({"お使いの", "画面で", "「オフ」を", "選ぶと、", "Type-C ", "端子の", "映像が", "出ません。"}));
+    QCOMPARE(phrasesOf(QStringLiteral("显示器自动识别")), QStringList());
+    const QFont font;
+    const auto widthOf = [&font](const QString &text) { return qCeil(QFontMetricsF(font).horizontalAdvance(text)); };
+    const QString text = QStringLiteral("色を確かめるときはオフにしてください。");
+    const QString lines = QStringLiteral("色を確かめるときは\nオフにしてください。");
+    QCOMPARE(endedAtPhrases(text, font, widthOf(QStringLiteral("色を確かめるときはオフに"))), lines);
+    QCOMPARE(endedAtPhrases(text, font, widthOf(QStringLiteral("色を確かめると"))), text); // a phrase is longer
 }
 
 void TestControls::picturesAreSharp()
