@@ -116,6 +116,7 @@ void PanelPage::offerPanels()
             m_entries->offer(place, isThere);
         fillPanel(*m_built[static_cast<std::size_t>(place)]);
     }
+    shrinkTogether(entries());
     const PanelSpec &open = shownPanel()->spec();
     if (offers(open) || panelCount() == 0)
         return;
