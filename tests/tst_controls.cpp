@@ -16,11 +16,9 @@
 #include "controls/icontextbutton.h"
 #include "controls/icontextbutton2.h"
 #include "controls/lefttabbutton.h"
-#include "controls/phrases.h"
 #include "controls/pictures.h"
 #include "controls/switchbutton.h"
 #include "controls/switchbuttonrectangle.h"
-#include "controls/wrappedlabel.h"
 #include "support/controlevents.h"
 #include "support/datarow.h"
 
@@ -63,8 +61,6 @@ private Q_SLOTS:
     void swatchesAnswerMouseAndKeys();
     void pickerTakesOnlyAnAnswer();
     void captionFits();
-    void shortLastLineTakesWords();
-    void linesEndAtPhrases();
     void picturesAreSharp();
     void assistiveSoftwareSeesAndPresses();
 };
@@ -331,41 +327,6 @@ void TestControls::captionFits()
     owner.show();
     const QHelpEvent hover(QEvent::ToolTip, {}, {});
     QVERIFY(caption.showToolTip(&hover, &owner) && QToolTip::text().contains(text));
-}
-
-/// There are never more lines for it.
-void TestControls::shortLastLineTakesWords()
-{
-    const QString text = QStringLiteral("A caption of some length");
-    QFont font;
-    font.setPixelSize(20);
-    const QFontMetrics metrics(font);
-    const int room = metrics.horizontalAdvance(text) + 4;
-    const auto linesIn = [&](const QString &words, int width) {
-        return metrics.boundingRect(QRect(0, 0, width, 999), Qt::TextWordWrap, words).height() / metrics.height();
-    };
-    for (const auto &[rest, lines, evened] :
-         {std::tuple("", 1, false), {" now", 2, true}, {" on and on it goes", 2, false}}) {
-        const QString words = text + QLatin1String(rest);
-        const int even = evenWidth(words, font, room);
-        QCOMPARE(even < room, evened);
-        QCOMPARE(linesIn(words, even), lines);
-        QVERIFY(!evened || even < metrics.horizontalAdvance(QStringLiteral("A caption of some")));
-    }
-}
-
-void TestControls::linesEndAtPhrases()
-{
-    QCOMPARE(
-        phrasesOf(QStringLiteral("お使いの画面で「オフ」を選ぶと、Type-C 端子の映像が出ません。")),
-        QStringList({"お使いの", "画面で", "「オフ」を", "選ぶと、", "Type-C ", "端子の", "映像が", "出ません。"}));
-    QCOMPARE(phrasesOf(QStringLiteral("显示器自动识别")), QStringList());
-    const QFont font;
-    const auto widthOf = [&font](const QString &text) { return qCeil(QFontMetricsF(font).horizontalAdvance(text)); };
-    const QString text = QStringLiteral("色を確かめるときはオフにしてください。");
-    const QString lines = QStringLiteral("色を確かめるときは\nオフにしてください。");
-    QCOMPARE(endedAtPhrases(text, font, widthOf(QStringLiteral("色を確かめるときはオフに"))), lines);
-    QCOMPARE(endedAtPhrases(text, font, widthOf(QStringLiteral("色を確かめると"))), text); // a phrase is longer
 }
 
 void TestControls::picturesAreSharp()

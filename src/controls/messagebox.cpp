@@ -3,11 +3,13 @@
 #include <algorithm>
 
 #include <QApplication>
+#include <QFontMetricsF>
 #include <QLabel>
 #include <QLayout>
 #include <QPointer>
 #include <QPushButton>
 #include <QShowEvent>
+#include <QtMath>
 
 #include "controls/pictures.h"
 #include "controls/wrappedlabel.h"
@@ -53,16 +55,28 @@ protected:
             return;
         layout()->activate();
         const int room = m_words->contentsRect().width() - std::max(m_words->indent(), 0);
-        const int rest = std::min(room - evenWidth(m_words->text(), m_words->font(), room) - 1,
-                                  width() - layout()->totalMinimumSize().width());
+        const QFontMetricsF metrics(m_words->font());
+        qreal widest = 0;
+        const QStringList lines = evenLines(m_words->text(), m_words->font(), room).split(u'\n');
+        for (const QString &line : lines)
+            widest = std::max(widest, metrics.horizontalAdvance(line));
+        const int rest = std::min(room - qCeil(widest) - 1, width() - layout()->totalMinimumSize().width());
         if (rest <= 0)
             return;
+        m_isEven = true;
         setFixedWidth(width() - rest);
         move(x() + rest / 2, y());
     }
 
+    /// Laid out anew, the toolkit's box would take the width of its own again.
+    bool event(QEvent *event) override
+    {
+        return m_isEven && event->type() == QEvent::LayoutRequest ? QDialog::event(event) : QMessageBox::event(event);
+    }
+
 private:
     QLabel *m_words;
+    bool m_isEven = false;
 };
 
 /// A box in the program's look. It belongs to its parent, which may go while it is open.

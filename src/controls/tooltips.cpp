@@ -9,6 +9,7 @@
 
 #include "controls/palette.h"
 #include "controls/sharedfonts.h"
+#include "controls/wrappedlabel.h"
 
 namespace {
 
@@ -57,9 +58,13 @@ QString broken(const QString &line)
 
 QString tipText(const QString &text)
 {
-    QStringList lines = text.split(u'\n');
-    for (QString &line : lines)
-        line = broken(line);
+    QStringList lines;
+    const QStringList paragraphs = text.split(u'\n');
+    for (const QString &paragraph : paragraphs) {
+        const QStringList even = evenLines(paragraph, QToolTip::font(), kTipWidth).split(u'\n');
+        for (const QString &line : even)
+            lines.append(broken(line)); // a word may be longer
+    }
     const QString whole = lines.join(u'\n');
     return Qt::mightBeRichText(whole) ? Qt::convertFromPlainText(whole) : whole;
 }

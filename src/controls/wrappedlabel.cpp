@@ -35,6 +35,18 @@ Lines linesIn(QTextLayout &layout, int width)
     return lines;
 }
 
+/// The text of the layout with its lines at that width.
+QString brokenAt(int width, QTextLayout &layout)
+{
+    linesIn(layout, width);
+    QStringList lines;
+    for (int i = 0; i < layout.lineCount(); ++i) {
+        const QTextLine line = layout.lineAt(i);
+        lines.append(layout.text().mid(line.textStart(), line.textLength()).trimmed());
+    }
+    return lines.join(u'\n');
+}
+
 /// The least width that makes no more lines than the room does, or the room where its last line is long enough.
 template <typename LinesAt> int evenWidthOf(LinesAt linesAt, int room)
 {
@@ -80,35 +92,29 @@ Lines measured(const QStringList &lines, const QFontMetricsF &metrics)
 
 } // namespace
 
-int evenWidth(const QString &text, const QFont &font, int room)
+QString evenLines(const QString &text, const QFont &font, int room)
 {
     QTextLayout layout(QString(text).replace(u'\n', QChar::LineSeparator), font);
-    return evenWidthOf([&layout](int width) { return linesIn(layout, width); }, room);
-}
-
-QString endedAtPhrases(const QString &text, const QFont &font, int room)
-{
-    const QStringList phrases = phrasesOf(text);
-    if (phrases.isEmpty() || text.contains(u'\n'))
-        return text;
+    const auto wordsAt = [&layout](int width) { return linesIn(layout, width); };
     const QFontMetricsF metrics(font);
-    QTextLayout layout(text, font);
-    const auto linesAt = [&](int width) { return measured(laidInto(width, phrases, metrics), metrics); };
-    const Lines whole = linesAt(room);
-    if (whole.count > linesIn(layout, room).count || whole.widest > room)
-        return text;
-    return laidInto(evenWidthOf(linesAt, room), phrases, metrics).join(u'\n');
+    const QStringList phrases = text.contains(u'\n') ? QStringList() : phrasesOf(text);
+    const auto phrasesAt = [&](int width) { return measured(laidInto(width, phrases, metrics), metrics); };
+    const Lines ofPhrases = phrasesAt(room);
+    if (!phrases.isEmpty() && ofPhrases.count <= wordsAt(room).count && ofPhrases.widest <= room)
+        return laidInto(evenWidthOf(phrasesAt, room), phrases, metrics).join(u'\n');
+    const int even = evenWidthOf(wordsAt, room);
+    return even < room ? brokenAt(even, layout) : text;
 }
 
-void WrappedLabel::wrapInto(int room)
+const QString &WrappedLabel::linesIn(int room)
 {
-    if (m_text == text() && m_font == font() && m_room == room)
-        return;
-    m_text = text();
-    m_font = font();
-    m_room = room;
-    m_lines = endedAtPhrases(m_text, m_font, m_room);
-    m_even = ::evenWidth(m_lines, m_font, m_room);
+    if (m_text != text() || m_font != font() || m_room != room) {
+        m_text = text();
+        m_font = font();
+        m_room = room;
+        m_lines = evenLines(m_text, m_font, m_room);
+    }
+    return m_lines;
 }
 
 void WrappedLabel::paintEvent(QPaintEvent *event)
@@ -119,16 +125,9 @@ void WrappedLabel::paintEvent(QPaintEvent *event)
     QPainter painter(this);
     drawFrame(&painter);
     const Qt::Alignment side = QStyle::visualAlignment(layoutDirection(), alignment());
-    QRect lines = contentsRect();
-    const QRect room = lines;
-    wrapInto(room.width());
-    lines.setWidth(std::min(m_even + 1, room.width())); // it is drawn by whole points
-    if (side.testFlag(Qt::AlignHCenter))
-        lines.moveCenter(room.center());
-    else if (side.testFlag(Qt::AlignRight))
-        lines.moveRight(room.right());
+    const QRect room = contentsRect();
     QStyleOption option;
     option.initFrom(this);
-    style()->drawItemText(&painter, lines, int(side) | Qt::TextWordWrap, option.palette, isEnabled(), m_lines,
-                          foregroundRole());
+    style()->drawItemText(&painter, room, int(side) | Qt::TextWordWrap, option.palette, isEnabled(),
+                          linesIn(room.width()), foregroundRole());
 }

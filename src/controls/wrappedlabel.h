@@ -16,21 +16,16 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void wrapInto(int room);
+    const QString &linesIn(int room);
 
-    QString m_lines; ///< what is drawn, in so many points
-    int m_even = 0;
+    QString m_lines;
 
-    // What both were found for.
+    // What they were found for.
     QString m_text;
     QFont m_font;
     int m_room = 0;
 };
 
-/// How wide, in points, the lines of @p text are to be in @p room: that, or less where the last line were very short.
-/// There are never more lines for it.
-int evenWidth(const QString &text, const QFont &font, int room);
-
-/// The text with its lines in @p room ended at phrases, if it has some and they need no more lines; else the text
-/// itself.
-QString endedAtPhrases(const QString &text, const QFont &font, int room);
+/// The text with its lines in @p room ended where they are about as long as each other, if the last one were very
+/// short, and at phrases, if it has some; else the text itself. There are never more lines for it.
+QString evenLines(const QString &text, const QFont &font, int room);

@@ -1,0 +1,74 @@
+#include <QtTest>
+
+#include "controls/messagebox.h"
+#include "controls/phrases.h"
+#include "controls/wrappedlabel.h"
+
+/// Where lines of text end.
+class TestLines : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void shortLastLineTakesWords();
+    void linesEndAtPhrases();
+    void boxIsAsWideAsItsLines();
+};
+
+/// There are never more lines for it.
+void TestLines::shortLastLineTakesWords()
+{
+    const QString text = QStringLiteral("A caption of some length");
+    QFont font;
+    font.setPixelSize(20);
+    const QFontMetrics metrics(font);
+    const int room = metrics.horizontalAdvance(text) + 4;
+    const auto linesIn = [&](const QString &words, int width) {
+        return metrics.boundingRect(QRect(0, 0, width, 999), Qt::TextWordWrap, words).height() / metrics.height();
+    };
+    for (const auto &[rest, lines, evened] :
+         {std::tuple("", 1, false), {" now", 2, true}, {" on and on it goes", 2, false}}) {
+        const QString words = text + QLatin1String(rest);
+        const QString even = evenLines(words, font, room);
+        QCOMPARE(even != words, evened);
+        QCOMPARE(linesIn(even, room), lines);
+        const QString first = even.section(u'\n', 0, 0);
+        QVERIFY(!evened ||
+                metrics.horizontalAdvance(first) < metrics.horizontalAdvance(QStringLiteral("A caption of some")));
+    }
+}
+
+void TestLines::linesEndAtPhrases()
+{
+    QCOMPARE(
+        phrasesOf(QStringLiteral("お使いの画面で「オフ」を選ぶと、Type-C 端子の映像が出ません。")),
+        QStringList({"お使いの", "画面で", "「オフ」を", "選ぶと、", "Type-C ", "端子の", "映像が", "出ません。"}));
+    QCOMPARE(phrasesOf(QStringLiteral("显示器自动识别")), QStringList());
+    const QFont font;
+    const auto widthOf = [&font](const QString &text) { return qCeil(QFontMetricsF(font).horizontalAdvance(text)); };
+    const QString text = QStringLiteral("色を確かめるときはオフにしてください。");
+    const QString lines = QStringLiteral("色を確かめるときは\nオフにしてください。");
+    QCOMPARE(evenLines(text, font, widthOf(QStringLiteral("色を確かめるときはオフに"))), lines);
+    QCOMPARE(evenLines(text, font, widthOf(QStringLiteral("色を確かめると"))), text); // a phrase is longer
+}
+
+/// Also once the toolkit has laid it out anew.
+void TestLines::boxIsAsWideAsItsLines()
+{
+    const int usual = std::min(QGuiApplication::primaryScreen()->size().width() / 2, 500);
+    QString text = QStringLiteral("Some");
+    while (QFontMetrics(QApplication::font()).horizontalAdvance(text) < usual - 50)
+        text += QStringLiteral(" words");
+    int width = 0;
+    QTimer::singleShot(0, this, [&width] {
+        QCoreApplication::processEvents();
+        QWidget *box = QApplication::activeModalWidget();
+        width = box->width();
+        box->close();
+    });
+    showMessage(QMessageBox::Warning, QStringLiteral("Warning"), text, QStringLiteral("OK"), QMessageBox::YesRole,
+                nullptr);
+    QVERIFY(width > 0 && width < usual * 9 / 10);
+}
+
+QTEST_MAIN(TestLines)
+#include "tst_lines.moc"
