@@ -255,15 +255,16 @@ def case_killed_while_saving(rig):
         def others():  # beside the file while it is written; an empty one is only just being made
             return [other for other in run.folder.glob(file.name + ".*") if other.stat().st_size]
 
-        def begun():
-            with contextlib.suppress(FileNotFoundError):  # gone while it was looked at
-                return others()
-
         def changed():
             return file.read_bytes() != old
 
+        def begun():  # a busy machine may look too late
+            with contextlib.suppress(FileNotFoundError):  # gone while it was looked at
+                return others() or changed()
+
         left = []
-        for moment in (changed, begun) * 3:  # what the last one leaves meets the next start
+        while len(left) < 6 or (len(left) < 20 and not {old, new} <= set(left)):
+            moment = begun if len(left) % 2 else changed  # what the last one leaves meets the next start
             for other in run.folder.glob(file.name + ".*"):
                 other.unlink()
             file.write_bytes(old)

@@ -10,14 +10,6 @@ STANDARD = ("entry_Standard Mode", (1, 2))
 CAD_CAM = ("entry_CAD/CAM Mode", (3, 4))
 
 
-def colours_of(run, window):
-    """How many colours the window's part of the screen has: a bare one has few."""
-    x, y, width, height = window
-    picture = run.folder / "shown.png"
-    run.rig.screenshot(picture)
-    return int(run.rig.run(["convert", str(picture), "-crop", f"{width}x{height}+{x}+{y}", "-format", "%k", "info:"]))
-
-
 def case_first_read(rig):
     """The first read goes out in its order, the vendor code before each; showing it writes nothing back."""
     with started(rig, "first_read") as run:
@@ -30,7 +22,7 @@ def case_first_read(rig):
         assert codes_of(requests)[:len(expected)] == expected, requests
         assert not [request for request in requests if "refused" in request], requests
         assert window[2:] == (1280, 800), f"the window is {window[2]} x {window[3]}"
-        wait_for(lambda: colours_of(run, window) > 500, "the painted window")
+        wait_for(lambda: run.colours(window) > 500, "the painted window")
         assert not writes_of(run.requests()), run.requests()
 
 

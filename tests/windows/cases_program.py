@@ -27,9 +27,7 @@ def case_second_instance(rig):
 
 def expect_refusal(run):
     second = run.start()
-    wait_for(lambda: run.window("Information"), "the box of the second instance", START_SECONDS)
-    run.rig.screenshot(run.folder / "box.png")
-    run.press("Return")
+    run.answer("Information", START_SECONDS)
     assert second.wait(15) == EXIT_REFUSED, second.returncode
 
 
@@ -141,7 +139,7 @@ def case_restart(rig):
             wait_for(lambda: run.window("Exit"), "the exit box of the last copy", START_SECONDS)
             last = rig.copies()
             assert len(last) == 1 and last != second, (second, last)
-            run.press("Return")
+            run.answer("Exit")
             wait_for(lambda: not rig.copies(), "the last copy to end")
     finally:
         rig.end_copies()  # a copy that a failed case left behind

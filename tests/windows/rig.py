@@ -10,6 +10,7 @@ import time
 
 TITLE = "QUORVEL"
 EDID_KEY = (r"HKLM\SYSTEM\CurrentControlSet\Enum\DISPLAY\Default_Monitor\0000&0000\Device Parameters")
+BOX_COLOURS = 40  # of its words and its sign
 COMMAND_SECONDS = 60
 SOUND_KEY = r"HKLM\Software\Classes\CLSID\{BCDE0395-E52F-467C-8E3D-C4579291692E}\InprocServer32"
 START_SECONDS = 40
@@ -209,6 +210,22 @@ class Run:
     def active_title(self):
         """The title of the window that has the keyboard; unlike a search, in any script."""
         return self.rig.run(["xdotool", "getactivewindow", "getwindowname"])
+
+    def colours(self, window):
+        """How many colours the window's part of the screen has: one that is not painted yet has few."""
+        x, y, width, height = window
+        picture = self.folder / "shown.png"
+        self.rig.screenshot(picture)
+        return int(self.rig.run(["convert", str(picture), "-crop", f"{width}x{height}+{x}+{y}", "-format", "%k", "info:"]))
+
+    def answer(self, title, seconds=15.0):
+        """Waits for the box of that title, painted and with the keyboard, keeps its picture and takes its usual answer."""
+        def is_ready():
+            box = self.window(title)
+            return box and self.active_title() == title and self.colours(box) > BOX_COLOURS
+        wait_for(is_ready, f"the box {title}", seconds)
+        self.rig.screenshot(self.folder / "box.png")
+        self.press("Return")
 
     def seen(self, name):
         """(x, y, width, height) on the screen of what can be seen of the control of that name; empty for nothing."""
