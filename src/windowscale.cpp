@@ -30,9 +30,7 @@ double scaleToFit(const platform::WorkArea &area, const QSize &window)
     };
     const double wide = share(area.pixels.width(), window.width());
     const double high = share(area.pixels.height(), window.height());
-    // Pages scroll where the window is lower; sideways nothing does.
-    const double least = std::min({1 / area.scale, 1.0, wide});
-    const double fitting = std::clamp(std::min(wide, high), least, 1.0);
+    const double fitting = std::clamp(std::min(wide, high), std::min(1 / area.scale, 1.0), 1.0);
     const double ratio = fitting * area.scale; // pixels of a point
     return fitting < 1 && ratio > 1 ? std::floor(ratio * kGrid) / kGrid / area.scale : fitting;
 }

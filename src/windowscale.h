@@ -11,7 +11,8 @@
 inline constexpr QSize kWindowSize{1280, 800};
 
 /// The factor by which the whole program is drawn so that a window of @p window points fits the work area: 1 where it
-/// does as it is. Never so small that a point becomes less than a pixel, which the toolkit cannot draw.
+/// does as it is. Never so small that a point becomes less than a pixel: the toolkit draws it as large as one then, and
+/// cuts off what lies beyond the smaller place that it has for it.
 double scaleToFit(const platform::WorkArea &area, const QSize &window);
 
 /// How high the window may be, in points, where even that does not fit: at least 600, so that the work area of a
