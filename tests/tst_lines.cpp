@@ -42,6 +42,7 @@ void TestLines::linesEndAtPhrases()
     QCOMPARE(
         phrasesOf(QStringLiteral("お使いの画面で「オフ」を選ぶと、Type-C 端子の映像が出ません。")),
         QStringList({"お使いの", "画面で", "「オフ」を", "選ぶと、", "Type-C ", "端子の", "映像が", "出ません。"}));
+    QCOMPARE(phrasesOf(QStringLiteral("オフ\u00a0= 点いたままです。")).size(), 1);
     QCOMPARE(phrasesOf(QStringLiteral("显示器自动识别")), QStringList());
     const QFont font;
     const auto widthOf = [&font](const QString &text) { return qCeil(QFontMetricsF(font).horizontalAdvance(text)); };
@@ -60,8 +61,9 @@ void TestLines::boxIsAsWideAsItsLines()
         text += QStringLiteral(" words");
     int width = 0;
     QTimer::singleShot(0, this, [&width] {
-        QCoreApplication::processEvents();
         QWidget *box = QApplication::activeModalWidget();
+        QEvent request(QEvent::LayoutRequest);
+        QCoreApplication::sendEvent(box, &request);
         width = box->width();
         box->close();
     });

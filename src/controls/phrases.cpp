@@ -36,7 +36,7 @@ QStringList phrasesOf(const QString &line)
     QTextBoundaryFinder finder(QTextBoundaryFinder::Line, line);
     qsizetype begin = 0;
     for (qsizetype end = finder.toNextBoundary(); end > 0; end = finder.toNextBoundary()) {
-        if (end < line.size() && !endsPhrase(line[end - 1], line[end]))
+        if (end < line.size() && (!endsPhrase(line[end - 1], line[end]) || QStringView(line).left(end).endsWith(u"= ")))
             continue;
         phrases.append(line.mid(begin, end - begin));
         begin = end;
