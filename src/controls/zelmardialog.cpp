@@ -7,6 +7,7 @@
 
 #include "controls/palette.h"
 #include "controls/pictures.h"
+#include "controls/wrappedlabel.h"
 
 namespace {
 const QString kBackground = Pictures::kRoot + QStringLiteral("img/basicSetting/shortcutKey/dialog.png");
@@ -32,7 +33,7 @@ ZelmarDialog::ZelmarDialog(QWidget *parent) : QDialog(parent, Qt::Dialog | Qt::F
 
     auto *title = new QLabel(windowTitle(), this);
     title->setObjectName(QStringLiteral("title"));
-    auto *text = new QLabel(QObject::tr("The hotkey you set is occupied,please reset it again!"), this);
+    auto *text = new WrappedLabel(QObject::tr("The hotkey you set is occupied,please reset it again!"), this);
     text->setObjectName(QStringLiteral("text"));
     text->setWordWrap(true);
     text->setAlignment(Qt::AlignCenter);

@@ -7,6 +7,7 @@
 #include "controls/dress.h"
 #include "controls/metrics.h"
 #include "controls/palette.h"
+#include "controls/wrappedlabel.h"
 #include "ddc_protocol/monitoridentity.h"
 #include "ddc_protocol/settingsstore.h"
 #include "ddc_protocol/transport.h"
@@ -37,7 +38,7 @@ QWidget *pageSystemSetting::buildPart(const char *)
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(metrics::kGap);
     grid->setVerticalSpacing(metrics::kRowGap);
-    auto *question = new QLabel(part);
+    auto *question = new WrappedLabel(part);
     dressText(question, {Palette::kSoft, 14});
     question->setWordWrap(true);
     texts().bind(

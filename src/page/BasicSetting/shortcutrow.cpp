@@ -8,6 +8,7 @@
 #include "controls/labelled.h"
 #include "controls/metrics.h"
 #include "controls/pictures.h"
+#include "controls/wrappedlabel.h"
 #include "controls/zelmarkeysequenceedit.h"
 #include "page/engine/listpage.h"
 #include "shortcut/shortcutfunctions.h"
@@ -51,7 +52,7 @@ void dressSwitch(QPushButton *button, bool on)
 
 ShortcutRow::ShortcutRow(const ShortcutEntry &entry, QWidget *parent)
     : QFrame(parent), m_entry(entry), m_switch(new QPushButton(this)), m_name(new QLabel(this)),
-      m_problem(new QLabel(this)), m_trash(makeTrashButton(this))
+      m_problem(new WrappedLabel(this)), m_trash(makeTrashButton(this))
 {
     setObjectName(QStringLiteral("listRow"));
     m_problem->setObjectName(QStringLiteral("problem"));

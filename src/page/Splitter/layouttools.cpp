@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include <QGridLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -11,6 +10,7 @@
 #include "controls/metrics.h"
 #include "controls/palette.h"
 #include "controls/sharedfonts.h"
+#include "controls/wrappedlabel.h"
 #include "page/Splitter/layouteditor.h"
 #include "page/engine/boundtexts.h"
 #include "page/engine/labels.h"
@@ -48,7 +48,7 @@ const LayoutTools::Tool LayoutTools::kTools[] = {
 };
 
 LayoutTools::LayoutTools(LayoutModel &model, LayoutEditor &editor, BoundTexts &texts, QWidget *parent)
-    : QWidget(parent), m_model(model), m_editor(editor), m_name(new QLineEdit(this)), m_hint(new QLabel(parent))
+    : QWidget(parent), m_model(model), m_editor(editor), m_name(new QLineEdit(this)), m_hint(new WrappedLabel(parent))
 {
     m_name->setObjectName(QStringLiteral("layoutName"));
     m_name->setMaxLength(kLongestLayoutName);

@@ -1,12 +1,12 @@
 #include "page/Splitter/splitterkeys.h"
 
 #include <QGridLayout>
-#include <QLabel>
 
 #include "controls/captionlabel.h"
 #include "controls/dress.h"
 #include "controls/metrics.h"
 #include "controls/palette.h"
+#include "controls/wrappedlabel.h"
 #include "controls/zelmardialog.h"
 #include "controls/zelmarkeysequenceedit.h"
 #include "ddc_protocol/settingsstore.h"
@@ -42,7 +42,7 @@ QString settingOf(SplitAction action)
 } // namespace
 
 SplitterKeys::SplitterKeys(KeyFields &fields, BoundTexts &texts, QWidget *parent)
-    : QWidget(parent), m_fields(fields), m_problem(new QLabel(this))
+    : QWidget(parent), m_fields(fields), m_problem(new WrappedLabel(this))
 {
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);

@@ -15,6 +15,7 @@
 #include "controls/metrics.h"
 #include "controls/palette.h"
 #include "controls/sharedfonts.h"
+#include "controls/wrappedlabel.h"
 #include "page/Splitter/zonepicture.h"
 #include "platform/desk.h"
 #include "platform/pause.h"
@@ -53,7 +54,8 @@ QScreen *toolkitScreen(const QRect &screen)
 
 ZoneOverlay::ZoneOverlay()
     : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint),
-      m_title(new CaptionLabel(QString(), kTitlePixels, this)), m_picture(new QWidget(this)), m_hint(new QLabel(this))
+      m_title(new CaptionLabel(QString(), kTitlePixels, this)), m_picture(new QWidget(this)),
+      m_hint(new WrappedLabel(this))
 {
     setObjectName(QStringLiteral("ZoneOverlay"));
     setAttribute(Qt::WA_TranslucentBackground);

@@ -1,13 +1,13 @@
 #include "page/engine/undobar.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QPainter>
 #include <QPushButton>
 
 #include "controls/announcer.h"
 #include "controls/dress.h"
 #include "controls/palette.h"
+#include "controls/wrappedlabel.h"
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/monitoridentity.h"
 #include "page/engine/plainbutton.h"
@@ -31,7 +31,7 @@ QString wordOf(const OptionGroup &group, int value)
 
 } // namespace
 
-UndoBar::UndoBar(QWidget *parent) : QFrame(parent), m_text(new QLabel(this)), m_button(new QPushButton(this))
+UndoBar::UndoBar(QWidget *parent) : QFrame(parent), m_text(new WrappedLabel(this)), m_button(new QPushButton(this))
 {
     setObjectName(QStringLiteral("undoBar"));
     dressText(m_text, {Palette::kSoft, 14});
