@@ -13,6 +13,7 @@
 #include "virtualdesk/monitorpanel.h"
 #include "virtualdesk/osdfunctions.h"
 #include "virtualdesk/requestlog.h"
+#include "virtualdesk/screenview.h"
 #include "virtualdesk/simulatedmonitor.h"
 #include "virtualdesk/virtualdesk.h"
 
@@ -45,6 +46,7 @@ private Q_SLOTS:
     void spendsItsLatency();
     void takesItsTime();
     void menuFitsTheModel();
+    void darkScreenSaysWhy();
     void fullBufferForgets();
     void endsListeners();
 };
@@ -328,6 +330,26 @@ void TestVirtualDesk::menuFitsTheModel()
         for (const QPushButton *button : panel.findChildren<QPushButton *>("osdButton"))
             QCOMPARE(button->isEnabled(), hasMonitor);
     }
+}
+
+/// The panel's screen is dark while the monitor sleeps or has no cable, and says which of both it is.
+void TestVirtualDesk::darkScreenSaysWhy()
+{
+    VirtualDesk desk(m_clock);
+    MonitorPanel panel(desk);
+    panel.resize(400, 800);
+    panel.show();
+    const auto *screen = panel.findChild<ScreenView *>();
+    const QString lit = sceneName(desk.monitor(0).value(kSceneCode));
+    QTRY_COMPARE(screen->accessibleDescription(), lit);
+    desk.sleep();
+    QTRY_COMPARE(screen->accessibleDescription(), QString("Asleep"));
+    desk.unplug(0);
+    QTRY_COMPARE(screen->accessibleDescription(), QString("Unplugged"));
+    desk.plug(0);
+    desk.wake();
+    m_clock.advance(2s);
+    QTRY_COMPARE(screen->accessibleDescription(), lit);
 }
 
 /// A client that did not look for ten seconds finds as much as its buffer holds, and what plays now behind it.

@@ -672,6 +672,10 @@
         <translation>Asked again; nothing to do.</translation>
     </message>
     <message>
+        <source>Asleep</source>
+        <translation>Asleep</translation>
+    </message>
+    <message>
         <source>Assist</source>
         <translation>Assist</translation>
     </message>

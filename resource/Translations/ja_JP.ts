@@ -672,6 +672,10 @@
         <translation>読み直しました。操作は不要です。</translation>
     </message>
     <message>
+        <source>Asleep</source>
+        <translation>スリープ中</translation>
+    </message>
+    <message>
         <source>Assist</source>
         <translation>アシスト</translation>
     </message>

@@ -672,6 +672,10 @@
         <translation>已重新读取，无需处理。</translation>
     </message>
     <message>
+        <source>Asleep</source>
+        <translation>睡眠中</translation>
+    </message>
+    <message>
         <source>Assist</source>
         <translation>助攻</translation>
     </message>

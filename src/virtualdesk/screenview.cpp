@@ -95,6 +95,14 @@ QImage paintScene(const QSize &size, qreal ratio)
     return image;
 }
 
+/// Why the monitor shows nothing; empty while it is lit.
+QString darknessOf(const SimulatedMonitor &monitor)
+{
+    if (!monitor.isPlugged())
+        return QObject::tr("Unplugged");
+    return monitor.isAsleep() ? QObject::tr("Asleep") : QString();
+}
+
 } // namespace
 
 ScreenView::ScreenView(QWidget *parent) : QWidget(parent)
@@ -118,13 +126,13 @@ void ScreenView::show(const SimulatedMonitor &monitor)
 {
     const Picture picture = pictureOf(monitor);
     const QString caption = sceneName(monitor.value(kSceneCode));
-    const bool plugged = monitor.isPlugged();
-    if (picture == m_picture && caption == m_caption && plugged == m_plugged && !m_developed.isNull())
+    const QString darkness = darknessOf(monitor);
+    if (picture == m_picture && caption == m_caption && darkness == m_darkness && !m_developed.isNull())
         return;
     m_picture = picture;
     m_caption = caption;
-    m_plugged = plugged;
-    setAccessibleDescription(plugged ? caption : QObject::tr("Unplugged"));
+    m_darkness = darkness;
+    setAccessibleDescription(darkness.isEmpty() ? caption : darkness);
     develop();
 }
 
@@ -161,14 +169,14 @@ void ScreenView::paintEvent(QPaintEvent *)
     painter.setBrush(QColor(0x08, 0x0b, 0x0a));
     painter.drawRoundedRect(QRectF(body).adjusted(0.5, 0.5, -0.5, -0.5), 8, 8);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(m_plugged ? QColor(0x00, 0xff, 0x71) : QColor(0xda, 0x67, 0x6d));
+    painter.setBrush(m_darkness.isEmpty() ? QColor(0x00, 0xff, 0x71) : QColor(0xda, 0x67, 0x6d));
     painter.drawRoundedRect(QRectF(width() / 2.0 - 12, body.bottom() - 4.5, 24, 2.5), 1, 1);
 
     const QRect screen = screenRect();
-    if (!m_plugged) {
+    if (!m_darkness.isEmpty()) {
         painter.fillRect(screen, Qt::black);
         painter.setPen(QColor(0xad, 0xad, 0xad));
-        painter.drawText(screen, Qt::AlignCenter, QObject::tr("Unplugged"));
+        painter.drawText(screen, Qt::AlignCenter, m_darkness);
         return;
     }
     painter.drawImage(screen.topLeft(), m_developed);

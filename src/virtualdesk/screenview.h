@@ -36,8 +36,8 @@ private:
     QImage m_scene;     // the test scene at the size of the screen
     QImage m_developed; // the same with the picture values
     Picture m_picture;
-    QString m_caption; // the scene mode, in the corner of the screen
-    bool m_plugged = true;
+    QString m_caption;  // the scene mode, in the corner of the screen
+    QString m_darkness; // why nothing is shown; empty while the screen is lit
 };
 
 } // namespace virtualdesk
