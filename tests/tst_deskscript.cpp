@@ -21,6 +21,7 @@ private:
 private Q_SLOTS:
     void readsScripts();
     void namesScriptFaults();
+    void timingOfTheProcess();
 };
 
 /// A script that says something of everything.
@@ -136,6 +137,24 @@ void TestDeskScript::namesScriptFaults()
         QCOMPARE(setup.monitors.size(), 2u);
         QCOMPARE(setup.readLatency, kRealisticRead);
     }
+}
+
+/// The timing of the program's desk: real unless the script tells one, and the variable wins over both.
+void TestDeskScript::timingOfTheProcess()
+{
+    QTemporaryDir folder;
+    const QString fileName = folder.filePath("desk.json");
+    qputenv("QUORVEL_DESK_SCRIPT", fileName.toLocal8Bit());
+    const auto readLatency = [&fileName](const QByteArray &script) {
+        return writeText(fileName, script) ? setupFromEnvironment().readLatency : -1ms;
+    };
+    QCOMPARE(readLatency("{}"), kRealisticRead);
+    QCOMPARE(readLatency(R"({"latency": "none"})"), 0ms);
+    QCOMPARE(readLatency(R"({"latency": {"read_ms": 4}})"), 4ms);
+    qputenv("QUORVEL_DESK_LATENCY", "none");
+    QCOMPARE(readLatency(R"({"latency": "realistic"})"), 0ms);
+    qunsetenv("QUORVEL_DESK_LATENCY");
+    qunsetenv("QUORVEL_DESK_SCRIPT");
 }
 
 QTEST_MAIN(TestDeskScript)

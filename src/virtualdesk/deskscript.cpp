@@ -123,9 +123,9 @@ void readEvents(ScriptObject &root, DeskSetup &setup)
     });
 }
 
-DeskSetup readSetup(ScriptObject root)
+/// Changes a set-up by what the script says.
+DeskSetup readSetup(ScriptObject root, DeskSetup setup)
 {
-    DeskSetup setup = defaultSetup();
     const std::vector<DisplaySetup> own = std::exchange(setup.displays, {});
     root.each("displays", [&setup](const ScriptObject &display) {
         setup.displays.push_back(readDisplay(display, setup.displays.size()));
@@ -166,7 +166,7 @@ DeskSetup defaultSetup()
     return setup;
 }
 
-std::optional<DeskSetup> parseDeskScript(const QByteArray &json, QString &error)
+std::optional<DeskSetup> parseDeskScript(const QByteArray &json, QString &error, const DeskSetup &usual)
 {
     QJsonParseError fault;
     const QJsonDocument document = QJsonDocument::fromJson(json, &fault);
@@ -180,7 +180,7 @@ std::optional<DeskSetup> parseDeskScript(const QByteArray &json, QString &error)
         return std::nullopt;
     }
     error.clear();
-    DeskSetup setup = readSetup({document.object(), error});
+    DeskSetup setup = readSetup({document.object(), error}, usual);
     if (!error.isEmpty())
         return std::nullopt;
     return setup;
@@ -199,7 +199,7 @@ DeskSetup setupFromEnvironment()
         QString error;
         std::optional<DeskSetup> scripted;
         if (file.open(QIODevice::ReadOnly))
-            scripted = parseDeskScript(file.readAll(), error);
+            scripted = parseDeskScript(file.readAll(), error, setup);
         else
             error = file.errorString();
         if (scripted)

@@ -9,7 +9,7 @@
 
 namespace virtualdesk {
 
-/// Reads a desk from JSON. What the script leaves out is as in the default desk. On a fault the result is empty and
+/// Reads a desk from JSON. What the script leaves out is as in the usual desk. On a fault the result is empty and
 /// error says what is wrong and where; a key that nothing reads is one. Codes are numbers or text such as "0x10"; all
 /// keys:
 ///
@@ -43,11 +43,12 @@ namespace virtualdesk {
 /// opening. A fault of the accessory is {"event": "refuse_writes" or "fail_open", "times": ...}, or {"event": "unplug",
 /// "at_write": n}. A monitor with a "replay" answers what one was recorded to answer, that of the recording's monitors
 /// by their order of appearance; where the program departs from the recording a warning tells so.
-std::optional<DeskSetup> parseDeskScript(const QByteArray &json, QString &error);
+std::optional<DeskSetup> parseDeskScript(const QByteArray &json, QString &error,
+                                         const DeskSetup &usual = defaultSetup());
 
-/// The desk of this process: from the file that QUORVEL_DESK_SCRIPT names, else the default desk with realistic timing.
-/// A file that cannot be used is named in a warning, and the default desk taken. QUORVEL_DESK_LATENCY ("realistic" or
-/// "none") wins over both.
+/// The desk of this process: the default desk with realistic timing and something to be heard, changed by the file that
+/// QUORVEL_DESK_SCRIPT names. A file that cannot be used is named in a warning and changes nothing. Over both wins
+/// QUORVEL_DESK_LATENCY ("realistic" or "none"). Files that a script names are looked for in the working folder.
 DeskSetup setupFromEnvironment();
 
 } // namespace virtualdesk

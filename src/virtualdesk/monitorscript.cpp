@@ -94,9 +94,11 @@ MonitorEvent readEvent(ScriptObject &object)
 void readLatency(ScriptObject &object, std::chrono::milliseconds &read, std::chrono::milliseconds &write)
 {
     const QJsonValue value = object.take("latency");
-    if (value.isUndefined() || value == QLatin1String("none"))
+    if (value.isUndefined())
         return;
-    if (value == QLatin1String("realistic")) {
+    if (value == QLatin1String("none")) {
+        read = write = std::chrono::milliseconds(0);
+    } else if (value == QLatin1String("realistic")) {
         read = kRealisticRead;
         write = kRealisticWrite;
     } else if (value.isObject()) {
