@@ -47,8 +47,9 @@ std::optional<DeskSetup> parseDeskScript(const QByteArray &json, QString &error,
                                          const DeskSetup &usual = defaultSetup());
 
 /// The desk of this process: the default desk with realistic timing and something to be heard, changed by the file that
-/// QUORVEL_DESK_SCRIPT names. A file that cannot be used is named in a warning and changes nothing. Over both wins
-/// QUORVEL_DESK_LATENCY ("realistic" or "none"). Files that a script names are looked for in the working folder.
+/// QUORVEL_DESK_SCRIPT names. A file that cannot be used is named in a warning and changes nothing. Over both, but for
+/// what a script says of one monitor, wins QUORVEL_DESK_LATENCY ("realistic" or "none"). Files that a script names are
+/// looked for in the working folder.
 DeskSetup setupFromEnvironment();
 
 } // namespace virtualdesk
