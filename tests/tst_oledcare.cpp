@@ -258,8 +258,9 @@ void TestOledCare::fromReminderToCare()
     QCOMPARE(m_desk->takeCommands().join(' '), QString("W 0e=1 R 05 R 08 R 05 R 08 R 05 R 08")); // each half minute
     m_page->carePanel()->startButton()->click();
     QVERIFY(m_page->asked == 2 && m_page->notice().contains("running"));
+    QVERIFY(QFile::remove(kConfigFile) && QDir().mkdir(kConfigFile)); // what is counted anew cannot be stored yet
     pass(6min);
-    QVERIFY(!isReminded());
+    QVERIFY(!isReminded() && QDir().rmdir(kConfigFile));
     m_desk->takeCommands();
     const CareHistory &history = m_page->keeper().history();
     QVERIFY(history.last && history.used < 120 && history.days.back().cares == 1);
@@ -267,6 +268,9 @@ void TestOledCare::fromReminderToCare()
     const QString said = m_page->carePanel()->lines().join('|');
     QVERIFY2(said.contains("0.0 hours of use since") && said.contains("after 4.0 more"), qPrintable(said));
     const QDateTime last = *history.last;
+    pass(31min, 1min);
+    const auto stored = readAllSettings(kConfigFile);
+    QVERIFY(std::ranges::any_of(stored, [](const auto &each) { return each.second.contains("last:"); }));
     pass(1s, 1s);                 // until the page has been told what it asked for
     deviceState.forgetSettings(); // as when the program starts
     m_desk->monitor().setValue(0x08, 1);

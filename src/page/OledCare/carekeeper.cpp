@@ -120,7 +120,8 @@ void CareKeeper::look()
     const QDateTime now = timeNow();
     count(now);
     noteTold(now);
-    if (m_history.used - m_stored >= kCareLook.count() / 1000)
+    const bool isCountedAnew = m_history.used < m_stored; // since a care that could not be stored
+    if (isCountedAnew || m_history.used - m_stored >= kCareLook.count() / 1000)
         store();
     const CareStep step = planCare(facts(), now);
     platform::Clock &clock = platform::desk().clock();
