@@ -342,7 +342,10 @@ void TestSplitterPage::screensChange()
     button("layoutNew")->click();
     for (const auto &[screen, tiles] : {std::pair(QRect(0, 0, 800, 600), 4), {kScreen, 5}}) {
         m_desk->desk.displays().setDisplays({{QStringLiteral("\\\\.\\DISPLAY1"), screen}});
+        m_window->onSpliter();
+        QVERIFY(overlay()->isVisible());
         m_desk->desk.changeDisplays();
+        QVERIFY(!overlay()->isVisible());
         QCOMPARE(page().tiles().size(), std::size_t(tiles));
         QVERIFY(!button("layoutUndo")->isEnabled()); // what was changed belongs to another screen
     }

@@ -24,8 +24,11 @@ Splitting::~Splitting() = default;
 
 void Splitting::systemNoticed(SystemNotice notice)
 {
-    if (notice == SystemNotice::DisplaysChanged)
-        m_page->followScreens();
+    if (notice != SystemNotice::DisplaysChanged)
+        return;
+    m_page->followScreens();
+    if (m_overlay)
+        m_overlay->hide(); // its zones are of the screen as it was
 }
 
 void Splitting::act(SplitAction action)
