@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QShowEvent>
 #include <QSignalBlocker>
 
 #include "controls/accessiblecontrol.h"
@@ -105,6 +106,8 @@ void pageSplitter::showEvent(QShowEvent *event)
     ListPage::showEvent(event);
     if (!m_editor)
         build();
+    if (!event->spontaneous())
+        tell({}, false); // it was of another moment
     fillScreens();
 }
 
