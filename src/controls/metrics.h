@@ -15,6 +15,8 @@ inline constexpr int kTitleBaseline = 41;
 inline constexpr int kHelpBaseline = 67;
 inline constexpr int kStripTop = 83; ///< the first row stands a gap below, or below the strip while that is shown
 
+inline constexpr int kPageBottom = 16; ///< below what a page holds
+
 inline constexpr int kCaptionWidth = 150; ///< before options and grooves, so that both begin at one edge
 
 } // namespace metrics

@@ -5,10 +5,11 @@
 #include <QPainter>
 #include <QSignalBlocker>
 
+#include "controls/metrics.h"
 #include "controls/palette.h"
 
 namespace {
-constexpr QSize kLeastSize(120, 34);
+constexpr QSize kLeastSize(120, metrics::kControlHeight);
 const QString kKeysStyle =
     QStringLiteral("QLineEdit { color: @mint; background: @well; border: 1px solid @edge; border-radius: 8px;"
                    " padding: 0 8px; font-size: 14px; }"

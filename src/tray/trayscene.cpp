@@ -27,7 +27,6 @@ static void addHeading(QComboBox *box, const char *label)
 
 TrayScene::TrayScene(BoundTexts &texts, QVBoxLayout *column, QWidget *body) : QObject(body), m_scene(makeDropDown(body))
 {
-    m_scene->setFixedHeight(metrics::kControlHeight);
     m_scene->setPlaceholderText(kDash);
     m_scene->setMaxVisibleItems(12);
     connect(m_scene, &QComboBox::activated, this,

@@ -113,7 +113,7 @@ QWidget *pagePCSetting::buildMachine()
     auto *part = new QWidget(this);
     m_machines = makeDropDown(part);
     m_machines->setObjectName(QStringLiteral("machines"));
-    m_machines->setFixedSize(320, 36);
+    m_machines->setFixedWidth(320);
     connect(m_machines, &QComboBox::currentIndexChanged, this, &pagePCSetting::onComboxIndexChanged);
     texts().bind(LABEL("Machine Select"), [this](const QString &text) { m_machines->setAccessibleName(text); });
     QLabel *hint = makeNote(part);

@@ -32,7 +32,7 @@ pageShortcutKey::pageShortcutKey(KeyFields &fields, QWidget *parent)
 
 void pageShortcutKey::buildTools()
 {
-    m_functions->setFixedSize(260, 36);
+    m_functions->setFixedWidth(260);
     auto *add = makeButton(LABEL("LANGUAGE_ADD_KEY"), QStringLiteral("pushButton_2"));
     connect(add, &QPushButton::clicked, this, &pageShortcutKey::on_pushButton_2_clicked);
     tools()->addWidget(m_functions);

@@ -40,7 +40,7 @@ FollowRow::FollowRow(QWidget *parent)
     m_name->setFixedWidth(kColumnWidth);
     m_pathField->setObjectName(QStringLiteral("path"));
     m_pathField->setEnabled(false);
-    m_scenes->setFixedSize(kColumnWidth, 36);
+    m_scenes->setFixedWidth(kColumnWidth);
     layOut();
     updateControlText();
     connect(m_scenes, &QComboBox::currentIndexChanged, this, [this](int scene) { Q_EMIT sceneChosen(m_index, scene); });

@@ -28,7 +28,7 @@ pageSceneSetting::pageSceneSetting(SearchDeviceDlg &session, CommandQueue &queue
     layGround(this);
 
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(metrics::kBlockGap, 0, metrics::kBlockGap, 16);
+    column->setContentsMargins(metrics::kBlockGap, 0, metrics::kBlockGap, metrics::kPageBottom);
     column->setSpacing(metrics::kGap);
     buildHead(column);
     buildHalves(column);

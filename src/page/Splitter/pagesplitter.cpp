@@ -63,7 +63,7 @@ void pageSplitter::buildTools()
 {
     m_screens = makeDropDown(this);
     m_screens->setObjectName(QStringLiteral("screenBox"));
-    m_screens->setFixedSize(kScreenWidth, metrics::kControlHeight);
+    m_screens->setFixedWidth(kScreenWidth);
     connect(m_screens, &QComboBox::currentIndexChanged, this, [this](int index) {
         if (index >= 0)
             m_model.showScreen(m_known[static_cast<std::size_t>(index)]);

@@ -7,6 +7,7 @@
 #include <QStandardItemModel>
 #include <QStyledItemDelegate>
 
+#include "controls/metrics.h"
 #include "controls/palette.h"
 #include "controls/wheeleventfilter.h"
 #include "page/engine/scrollarea.h"
@@ -61,6 +62,7 @@ QComboBox *makeDropDown(QWidget *parent)
     QFont font = box->font();
     font.setPixelSize(kListPixels);
     box->setFont(font);
+    box->setFixedHeight(metrics::kControlHeight);
     box->setStyleSheet(Palette::styled(kDropDownStyle) + scrollBarStyle());
     box->view()->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded); // a menu has none, and at first it was one
     box->installEventFilter(new WheelEventFilter(box));

@@ -60,7 +60,7 @@ ListPage::ListPage(const QString &name, const char *title, const char *descripti
 
     auto *column = new QVBoxLayout(this);
     constexpr int kSides = metrics::kBlockGap + metrics::kPageBorder; // which its picture has
-    column->setContentsMargins(kSides, metrics::kPageBorder, kSides, 16);
+    column->setContentsMargins(kSides, metrics::kPageBorder, kSides, metrics::kPageBottom);
     column->setSpacing(metrics::kGap);
     column->addWidget(m_head);
     column->addLayout(m_tools);

@@ -23,8 +23,6 @@
 #include "page/engine/panellist.h"
 #include "page/engine/picturestage.h"
 
-static constexpr int kBottom = 16;
-
 PanelPage::PanelPage(const QString &name, OwnList list, CommandQueue &queue, QWidget *parent)
     : SettingsPage(queue, parent), m_list(list), m_stack(new QStackedWidget(this))
 {
@@ -56,7 +54,8 @@ void PanelPage::build()
     if (m_head)
         return;
     auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(m_list == OwnList::Shown ? 0 : metrics::kBlockGap, 0, metrics::kBlockGap, kBottom);
+    row->setContentsMargins(m_list == OwnList::Shown ? 0 : metrics::kBlockGap, 0, metrics::kBlockGap,
+                            metrics::kPageBottom);
     row->setSpacing(metrics::kBlockGap);
     if (m_list == OwnList::Shown)
         row->addWidget(buildList());

@@ -6,6 +6,7 @@
 
 #include "controls/announcer.h"
 #include "controls/dress.h"
+#include "controls/metrics.h"
 #include "controls/palette.h"
 #include "controls/wrappedlabel.h"
 #include "ddc_protocol/devicestate.h"
@@ -16,7 +17,6 @@
 namespace {
 
 constexpr platform::milliseconds kTick{100};
-constexpr int kButtonHeight = 34;
 constexpr qreal kBarRadius = 8;
 const QColor kGround = Palette::kCard;
 const QColor kBarEdge = Palette::kHairline;
@@ -38,7 +38,7 @@ UndoBar::UndoBar(QWidget *parent) : QFrame(parent), m_text(new WrappedLabel(this
     m_text->setTextFormat(Qt::PlainText);
     m_text->setWordWrap(true);
     dressPlainButton(m_button);
-    m_button->setFixedHeight(kButtonHeight);
+    m_button->setFixedHeight(metrics::kControlHeight);
     m_button->setFocusPolicy(Qt::StrongFocus);
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(16, 8, 8, 10);

@@ -78,7 +78,7 @@ void LongWorkPage::layOut(QWidget *worked)
     row->addWidget(worked, 1);
     row->addWidget(m_side);
     auto *page = new QVBoxLayout(this);
-    page->setContentsMargins(metrics::kBlockGap, 0, metrics::kBlockGap, 16);
+    page->setContentsMargins(metrics::kBlockGap, 0, metrics::kBlockGap, metrics::kPageBottom);
     page->setSpacing(metrics::kGap);
     page->addWidget(m_head);
     page->addLayout(row, 1);
