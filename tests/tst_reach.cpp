@@ -94,9 +94,14 @@ QString faultOf(Interface *at, std::map<QString, int> &names)
     if (isRole(at, {QAccessible::Slider, QAccessible::RadioButton}) &&
         names[QString::number(at->role()) + nameOf(at)]++ > 0)
         return QStringLiteral("the name of another one");
-    if (isRole(at, {QAccessible::Slider, QAccessible::Chart, QAccessible::Canvas}) &&
+    if (isRole(at, {QAccessible::Slider, QAccessible::Chart, QAccessible::Canvas, QAccessible::ColorChooser}) &&
         at->text(QAccessible::Value).isEmpty())
         return QStringLiteral("no value");
+    if (at->state().disabled && qobject_cast<QPushButton *>(at->object()) &&
+        at->text(QAccessible::Description).isEmpty())
+        return QStringLiteral("locked without a reason");
+    if (at->role() == QAccessible::ComboBox && nameOf(at) == at->text(QAccessible::Value))
+        return QStringLiteral("no name but its value");
     std::vector<Interface *> choices;
     for (int i = 0; i < at->childCount(); ++i) {
         if (Interface *child = at->child(i); child && isChoice(child) && !child->state().invisible)
@@ -263,6 +268,13 @@ void TestReach::assistiveSoftwareMovesSliders()
         QCOMPARE(slider->text(QAccessible::Value), QLatin1String(text));
         slider->actionInterface()->doAction(QAccessibleActionInterface::decreaseAction());
         QTRY_COMPARE(int(m_desk->monitor().value(std::uint8_t(code))), value - 1);
+    }
+    m_window->page(PageId::SystemSetting)->widget()->show();
+    for (const auto &[name, text] :
+         {std::pair("Show Time(s)", "20 s"), {"No Signal Timer", "20 min"}, {"H-Position", "20 %"}}) {
+        SliderWidget *slider = m_window->settingsPage(PageId::SystemSetting)->slider(name);
+        slider->setValue(20);
+        QCOMPARE(seen(slider->slider())->text(QAccessible::Value), QLatin1String(text));
     }
     SliderWidget *unread = m_window->scenePage()->slider("Contrast");
     unread->setMark(Mark::Unknown);

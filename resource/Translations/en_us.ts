@@ -84,6 +84,10 @@
         <translation>%1 is taken by another program or function and does nothing here.</translation>
     </message>
     <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
         <source>%1 moves it to the corner before.</source>
         <translation>%1 moves it to the corner before.</translation>
     </message>
@@ -506,6 +510,10 @@
     <message>
         <source>Add Scence</source>
         <translation>Add Scence</translation>
+    </message>
+    <message>
+        <source>Add a frame first.</source>
+        <translation>Add a frame first.</translation>
     </message>
     <message>
         <source>Adobe</source>
@@ -2552,6 +2560,10 @@
         <translation>No window is in front: press on the one that you mean first.</translation>
     </message>
     <message>
+        <source>No zone beside it can take this one.</source>
+        <translation>No zone beside it can take this one.</translation>
+    </message>
+    <message>
         <source>Noise</source>
         <translation>Noise</translation>
     </message>
@@ -4020,6 +4032,14 @@
         <translation>The window&apos;s program has more rights than this one and cannot be moved.</translation>
     </message>
     <message>
+        <source>The zone is too small to be cut.</source>
+        <translation>The zone is too small to be cut.</translation>
+    </message>
+    <message>
+        <source>There are as many layouts as there can be. Delete one first.</source>
+        <translation>There are as many layouts as there can be. Delete one first.</translation>
+    </message>
+    <message>
         <source>There is no sound output until the button is released</source>
         <translation>There is no sound output until the button is released</translation>
     </message>
@@ -4032,8 +4052,16 @@
         <translation>There is no text yet.</translation>
     </message>
     <message>
+        <source>There is nothing to redo.</source>
+        <translation>There is nothing to redo.</translation>
+    </message>
+    <message>
         <source>There is nothing to set here yet.</source>
         <translation>There is nothing to set here yet.</translation>
+    </message>
+    <message>
+        <source>There is nothing to undo.</source>
+        <translation>There is nothing to undo.</translation>
     </message>
     <message>
         <source>Thirds</source>

@@ -84,6 +84,10 @@
         <translation>%1&#xa0;は他のアプリまたは機能が使用中のため、ここでは動作しません。</translation>
     </message>
     <message>
+        <source>%1 min</source>
+        <translation>%1&#xa0;分</translation>
+    </message>
+    <message>
         <source>%1 moves it to the corner before.</source>
         <translation>%1: 前の隅へ移動</translation>
     </message>
@@ -506,6 +510,10 @@
     <message>
         <source>Add Scence</source>
         <translation>シーンを追加</translation>
+    </message>
+    <message>
+        <source>Add a frame first.</source>
+        <translation>先にフレームを追加してください。</translation>
     </message>
     <message>
         <source>Adobe</source>
@@ -2552,6 +2560,10 @@
         <translation>前面にウィンドウがありません。先に目的のウィンドウをクリックしてください。</translation>
     </message>
     <message>
+        <source>No zone beside it can take this one.</source>
+        <translation>隣に統合できる領域がありません。</translation>
+    </message>
+    <message>
         <source>Noise</source>
         <translation>ノイズ</translation>
     </message>
@@ -4020,6 +4032,14 @@
         <translation>このウィンドウのアプリはより高い権限で動いているため、移動できません。</translation>
     </message>
     <message>
+        <source>The zone is too small to be cut.</source>
+        <translation>この領域は小さすぎて、これ以上分割できません。</translation>
+    </message>
+    <message>
+        <source>There are as many layouts as there can be. Delete one first.</source>
+        <translation>レイアウトの数が上限に達しています。先に&#xa0;1&#xa0;つ削除してください。</translation>
+    </message>
+    <message>
         <source>There is no sound output until the button is released</source>
         <translation>ボタンを戻すまで、音声出力がありません</translation>
     </message>
@@ -4032,8 +4052,16 @@
         <translation>テキストがまだありません。</translation>
     </message>
     <message>
+        <source>There is nothing to redo.</source>
+        <translation>やり直す操作はありません。</translation>
+    </message>
+    <message>
         <source>There is nothing to set here yet.</source>
         <translation>ここにはまだ設定できる項目がありません。</translation>
+    </message>
+    <message>
+        <source>There is nothing to undo.</source>
+        <translation>元に戻す操作はありません。</translation>
     </message>
     <message>
         <source>Thirds</source>

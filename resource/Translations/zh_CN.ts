@@ -84,6 +84,10 @@
         <translation>%1&#xa0;已被其他程序或功能占用，在此不起作用。</translation>
     </message>
     <message>
+        <source>%1 min</source>
+        <translation>%1&#xa0;分钟</translation>
+    </message>
+    <message>
         <source>%1 moves it to the corner before.</source>
         <translation>%1：移到上一个角落。</translation>
     </message>
@@ -506,6 +510,10 @@
     <message>
         <source>Add Scence</source>
         <translation>添加情景</translation>
+    </message>
+    <message>
+        <source>Add a frame first.</source>
+        <translation>请先添加一帧。</translation>
     </message>
     <message>
         <source>Adobe</source>
@@ -2552,6 +2560,10 @@
         <translation>前面没有窗口：请先点击要排列的窗口。</translation>
     </message>
     <message>
+        <source>No zone beside it can take this one.</source>
+        <translation>没有可并入的相邻区域。</translation>
+    </message>
+    <message>
         <source>Noise</source>
         <translation>噪声</translation>
     </message>
@@ -4020,6 +4032,14 @@
         <translation>该窗口的程序权限高于本程序，无法移动。</translation>
     </message>
     <message>
+        <source>The zone is too small to be cut.</source>
+        <translation>该区域太小，无法再分割。</translation>
+    </message>
+    <message>
+        <source>There are as many layouts as there can be. Delete one first.</source>
+        <translation>布局数量已达上限。请先删除一个。</translation>
+    </message>
+    <message>
         <source>There is no sound output until the button is released</source>
         <translation>松开按钮前，没有声音输出</translation>
     </message>
@@ -4032,8 +4052,16 @@
         <translation>还没有文字。</translation>
     </message>
     <message>
+        <source>There is nothing to redo.</source>
+        <translation>没有可重做的操作。</translation>
+    </message>
+    <message>
         <source>There is nothing to set here yet.</source>
         <translation>这里暂时没有可设置的内容。</translation>
+    </message>
+    <message>
+        <source>There is nothing to undo.</source>
+        <translation>没有可撤销的操作。</translation>
     </message>
     <message>
         <source>Thirds</source>

@@ -84,6 +84,10 @@
         <translation>%1&#xa0;已被其他應用程式或功能佔用，在此不起作用。</translation>
     </message>
     <message>
+        <source>%1 min</source>
+        <translation>%1&#xa0;分鐘</translation>
+    </message>
+    <message>
         <source>%1 moves it to the corner before.</source>
         <translation>%1：移到上一個角落。</translation>
     </message>
@@ -506,6 +510,10 @@
     <message>
         <source>Add Scence</source>
         <translation>新增情境</translation>
+    </message>
+    <message>
+        <source>Add a frame first.</source>
+        <translation>請先新增畫格。</translation>
     </message>
     <message>
         <source>Adobe</source>
@@ -2552,6 +2560,10 @@
         <translation>前面沒有視窗：請先點選要排列的視窗。</translation>
     </message>
     <message>
+        <source>No zone beside it can take this one.</source>
+        <translation>沒有可併入的相鄰區域。</translation>
+    </message>
+    <message>
         <source>Noise</source>
         <translation>雜訊</translation>
     </message>
@@ -4020,6 +4032,14 @@
         <translation>該視窗的應用程式權限高於本工具，無法移動。</translation>
     </message>
     <message>
+        <source>The zone is too small to be cut.</source>
+        <translation>此區域太小，無法再分割。</translation>
+    </message>
+    <message>
+        <source>There are as many layouts as there can be. Delete one first.</source>
+        <translation>版面數量已達上限。請先刪除一個。</translation>
+    </message>
+    <message>
         <source>There is no sound output until the button is released</source>
         <translation>放開按鈕前，沒有音訊輸出</translation>
     </message>
@@ -4032,8 +4052,16 @@
         <translation>還沒有文字。</translation>
     </message>
     <message>
+        <source>There is nothing to redo.</source>
+        <translation>沒有可重做的動作。</translation>
+    </message>
+    <message>
         <source>There is nothing to set here yet.</source>
         <translation>這裡暫時沒有可設定的內容。</translation>
+    </message>
+    <message>
+        <source>There is nothing to undo.</source>
+        <translation>沒有可復原的動作。</translation>
     </message>
     <message>
         <source>Thirds</source>

@@ -3,8 +3,10 @@
 #include <functional>
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAccessibleWidget>
 #include <QButtonGroup>
+#include <QComboBox>
 
 #include "controls/accessiblecontrol.h"
 #include "controls/nowheelslider.h"
@@ -186,6 +188,42 @@ private:
     NoWheelSlider *slider() const { return static_cast<NoWheelSlider *>(object()); }
 };
 
+/// The toolkit's own has the chosen entry for a name on some systems, and then nothing tells what it is chosen for.
+class AccessibleBox : public AccessiblePart
+{
+public:
+    explicit AccessibleBox(QWidget *box) : AccessiblePart(box, QAccessible::ComboBox) {}
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.expandable = true;
+        state.expanded = box()->view()->isVisible();
+        return state;
+    }
+
+    int childCount() const override { return 1; }
+    QAccessibleInterface *child(int index) const override
+    {
+        return index == 0 ? QAccessible::queryAccessibleInterface(box()->view()) : nullptr;
+    }
+    int indexOfChild(const QAccessibleInterface *child) const override
+    {
+        return child->object() == box()->view() ? 0 : -1;
+    }
+
+protected:
+    QString valueText() const override { return box()->currentText(); }
+    QStringList actions() const override { return {pressAction()}; }
+    std::function<void()> actionFor(const QString &) override
+    {
+        return [box = box()] { box->showPopup(); };
+    }
+
+private:
+    QComboBox *box() const { return static_cast<QComboBox *>(object()); }
+};
+
 class AccessibleHolder : public AccessiblePart
 {
 public:
@@ -203,7 +241,9 @@ constexpr struct
 {
     const char *className;
     QAccessibleInterface *(*make)(QWidget *widget);
-} kKinds[] = {{"QPushButton", &make<AccessibleButton>}, {"NoWheelSlider", &make<AccessibleSlider>}};
+} kKinds[] = {{"QPushButton", &make<AccessibleButton>},
+              {"QComboBox", &make<AccessibleBox>},
+              {"NoWheelSlider", &make<AccessibleSlider>}};
 
 } // namespace
 

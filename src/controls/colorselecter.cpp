@@ -35,6 +35,11 @@ void ColorSelecter::setSwatchNames(const QStringList &names)
     m_names = names;
 }
 
+QString ColorSelecter::valueText() const
+{
+    return m_names.value(m_selected, QObject::tr("unknown"));
+}
+
 QSize ColorSelecter::sizeHint() const
 {
     return QSize(count() * kStep, kHighlight + 4);

@@ -35,6 +35,8 @@ public:
     QSize minimumSizeHint() const override;
 
     QAccessible::Role accessibleRole() const override { return QAccessible::ColorChooser; }
+    /// Which swatch is selected; the description names the highlighted one.
+    QString valueText() const override;
     /// Selects the highlighted swatch.
     void press() override;
 

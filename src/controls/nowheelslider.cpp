@@ -57,12 +57,19 @@ void NoWheelSlider::setUnknown(bool unknown)
     update();
 }
 
+void NoWheelSlider::setUnit(const QString &pattern)
+{
+    m_unit = pattern;
+}
+
 QString NoWheelSlider::valueText() const
 {
     if (m_unknown)
         return QObject::tr("unknown");
-    return minimum() == 0 && maximum() == 100 ? QObject::tr("%1 %").arg(value())
-                                              : QObject::tr("%1 of %2").arg(value()).arg(maximum());
+    const bool isShare = minimum() == 0 && maximum() == 100;
+    QString text = !m_unit.isEmpty() ? m_unit : isShare ? QObject::tr("%1 %") : QObject::tr("%1 of %2");
+    return text.replace(QLatin1String("%1"), QString::number(value()))
+        .replace(QLatin1String("%2"), QString::number(maximum()));
 }
 
 void NoWheelSlider::moveAtOnce(int value)

@@ -25,6 +25,10 @@ public:
     /// Shows a hollow, dimmed handle: the value was not read yet.
     void setUnknown(bool unknown);
 
+    /// What the value counts, translated, such as "%1 s"; by itself it is a percentage, or so many of the most: "%1 of
+    /// %2".
+    void setUnit(const QString &pattern);
+
     /// The value in words, translated, with its unit.
     QString valueText() const;
 
@@ -67,6 +71,7 @@ private:
     void drawRing(QPainter &painter, const QRect &handle) const;
 
     QColor m_accent;
+    QString m_unit;
     FocusRing m_focusRing;
     /// The key that holds the slider down, 0 for none.
     int m_heldKey = 0;

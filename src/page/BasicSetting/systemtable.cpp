@@ -29,12 +29,19 @@ constexpr char kNoSignalTimerHelp[] = LABEL("How long the monitor waits without 
 
 constexpr int kCaption = metrics::kCaptionWidth;
 
+/// For the two that are no percentages.
+SliderSpec inUnit(SliderSpec slider, const char *unit)
+{
+    slider.unit = unit;
+    return slider;
+}
+
 const SliderSpec kOsd[] = {
-    sliderOf(Command::OsdShowTime, 5, 100),
+    inUnit(sliderOf(Command::OsdShowTime, 5, 100), LABEL("%1 s")),
     sliderOf(Command::OsdHPosition, 0, 100),
     sliderOf(Command::OsdVPosition, 0, 100),
     sliderOf(Command::OsdTransparency, 0, 100),
-    sliderOf(Command::NoSignalTimer, 0, 100, SendOn::Move, kNoSignalTimerHelp),
+    inUnit(sliderOf(Command::NoSignalTimer, 0, 100, SendOn::Move, kNoSignalTimerHelp), LABEL("%1 min")),
 };
 const SliderSpec kVolume[] = {sliderOf(Command::AudioVolume, 0, 100)};
 constexpr Option kAudioMode[] = {{LABEL("Standard"), 0, LABEL("The sound as it comes, for music and all else.")},

@@ -70,7 +70,7 @@ void HealthPanel::build()
                        1);
     m_monitors = makeDropDown(this);
     m_monitors->setObjectName(QStringLiteral("healthMonitors"));
-    m_monitors->setFixedSize(220, metrics::kControlHeight);
+    m_monitors->setFixedWidth(220);
     m_texts.bind(LABEL("Machine Select"), [this](const QString &text) { m_monitors->setAccessibleName(text); });
     connect(m_monitors, &QComboBox::currentIndexChanged, this, &HealthPanel::refresh);
     heading->addWidget(m_monitors);
@@ -178,10 +178,8 @@ void HealthPanel::fillButtons()
 {
     m_read->setText(m_reading.isRunning() ? QObject::tr("Cancel") : QObject::tr("Read everything once"));
     const bool isInUse = chosen() < monitorList.size() && chosen() == currentMonitorIndex; // questions go to no other
-    m_read->setEnabled(isInUse || m_reading.isRunning());
-    m_read->setToolTip(m_read->isEnabled() ? QString()
-                                           : QObject::tr("Only the monitor that this tool sets can be read."));
-    m_read->setAccessibleDescription(m_read->toolTip());
+    allowButton(m_read, isInUse || m_reading.isRunning(),
+                QObject::tr("Only the monitor that this tool sets can be read."));
     const QSignalBlocker quiet(m_record);
     if (m_record->isChecked() && !linkRecorder.isRecording())
         say(linkRecorder.error()); // it has stopped by itself

@@ -23,28 +23,34 @@ struct LayoutTools::Tool
     const char *name;
     bool (*canBeDone)(const LayoutModel &model, const LayoutEditor &editor);
     void (*act)(LayoutModel &model, LayoutEditor &editor);
+    bool isForOwn;      ///< changes the layout, which some never are
+    const char *whyNot; ///< why it cannot be done otherwise; null for what always can
     int row;
     int column = 0;
     int columns = 1;
 };
 
+static constexpr char kTooSmall[] = LABEL("The zone is too small to be cut.");
+
 const LayoutTools::Tool LayoutTools::kTools[] = {
     {LABEL("New layout"), "layoutNew", [](const LayoutModel &model, const LayoutEditor &) { return model.canAdd(); },
-     [](LayoutModel &model, LayoutEditor &) { model.add(QObject::tr("My layout")); }, 1, 0, 2},
+     [](LayoutModel &model, LayoutEditor &) { model.add(QObject::tr("My layout")); }, false,
+     LABEL("There are as many layouts as there can be. Delete one first."), 1, 0, 2},
     {LABEL("Cut upright"), "layoutCutUpright",
      [](const LayoutModel &, const LayoutEditor &editor) { return editor.canCut(Cut::Upright); },
-     [](LayoutModel &, LayoutEditor &editor) { editor.cut(Cut::Upright); }, 2},
+     [](LayoutModel &, LayoutEditor &editor) { editor.cut(Cut::Upright); }, true, kTooSmall, 2},
     {LABEL("Cut across"), "layoutCutAcross",
      [](const LayoutModel &, const LayoutEditor &editor) { return editor.canCut(Cut::Across); },
-     [](LayoutModel &, LayoutEditor &editor) { editor.cut(Cut::Across); }, 2, 1},
+     [](LayoutModel &, LayoutEditor &editor) { editor.cut(Cut::Across); }, true, kTooSmall, 2, 1},
     {LABEL("Give the zone away"), "layoutJoin",
      [](const LayoutModel &, const LayoutEditor &editor) { return editor.canJoin(); },
-     [](LayoutModel &, LayoutEditor &editor) { editor.join(); }, 3, 0, 2},
+     [](LayoutModel &, LayoutEditor &editor) { editor.join(); }, true, LABEL("No zone beside it can take this one."), 3,
+     0, 2},
     {LABEL("Undo"), "layoutUndo", [](const LayoutModel &model, const LayoutEditor &) { return model.canUndo(); },
-     [](LayoutModel &model, LayoutEditor &) { model.undo(); }, 4},
+     [](LayoutModel &model, LayoutEditor &) { model.undo(); }, false, LABEL("There is nothing to undo."), 4},
     {LABEL("Delete layout"), "layoutDelete",
      [](const LayoutModel &model, const LayoutEditor &) { return model.chosen().isOwn; },
-     [](LayoutModel &model, LayoutEditor &) { model.remove(); }, 4, 1},
+     [](LayoutModel &model, LayoutEditor &) { model.remove(); }, true, nullptr, 4, 1},
 };
 
 LayoutTools::LayoutTools(LayoutModel &model, LayoutEditor &editor, BoundTexts &texts, QWidget *parent)
@@ -88,6 +94,8 @@ void LayoutTools::showLayout()
                         ? QObject::tr("Draw a line through a zone to cut it, or drag an edge. With the keyboard: the "
                                       "arrows choose a zone, Ctrl and an arrow moves its edge.")
                         : QObject::tr("This layout stays as it is. \"New layout\" makes one of your own of it."));
+    m_name->setToolTip(layout.isOwn ? QString() : m_hint->text());
+    m_name->setAccessibleDescription(m_name->toolTip());
     m_editor.setAccessibleName(m_name->text());
     m_editor.setAccessibleDescription(m_hint->text());
     showPossible();
@@ -99,7 +107,9 @@ void LayoutTools::showPossible()
     bool hadFocus = false;
     for (std::size_t i = 0; i < m_buttons.size(); ++i) {
         hadFocus = hadFocus || m_buttons[i]->hasFocus();
-        m_buttons[i]->setEnabled(kTools[i].canBeDone(m_model, m_editor));
+        const Tool &tool = kTools[i];
+        allowButton(m_buttons[i], tool.canBeDone(m_model, m_editor),
+                    tool.isForOwn && !m_model.chosen().isOwn ? m_hint->text() : QObject::tr(tool.whyNot));
     }
     const bool isLeft =
         std::none_of(m_buttons.begin(), m_buttons.end(), [](const auto *each) { return each->hasFocus(); });

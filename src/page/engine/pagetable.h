@@ -67,6 +67,7 @@ struct SliderSpec
     Accent accent = Accent::Mint;
     std::optional<Capability> needs = {};
     const char *help = nullptr; ///< as a group's
+    const char *unit = nullptr; ///< of the value in words, such as "%1 s": see NoWheelSlider::setUnit
 };
 
 /// Sliders in columns, filled row by row, under a heading if there is one.

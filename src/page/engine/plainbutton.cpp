@@ -35,3 +35,10 @@ QPushButton *makePlainButton(const char *label, const QString &name, BoundTexts 
     texts.bind(label, [button](const QString &text) { button->setText(text); });
     return button;
 }
+
+void allowButton(QPushButton *button, bool can, const QString &whyNot)
+{
+    button->setEnabled(can);
+    button->setToolTip(can ? QString() : whyNot);
+    button->setAccessibleDescription(button->toolTip());
+}

@@ -55,6 +55,8 @@ SliderWidget *makeSlider(const SliderSpec &spec, const SliderGrid &grid, BoundTe
     slider->setAccent(look ? QColor(look->colour) : QColor());
     if (grid.showsAccents)
         slider->showAccent();
+    if (spec.unit)
+        texts.bind(spec.unit, [slider](const QString &pattern) { slider->slider()->setUnit(pattern); });
     if (spec.help)
         texts.bind(spec.help, [slider](const QString &text) { slider->setHelp(text); });
     texts.bind(spec.caption,

@@ -20,6 +20,7 @@
 #include "page/engine/dropdown.h"
 #include "page/engine/labels.h"
 #include "page/engine/note.h"
+#include "page/engine/plainbutton.h"
 
 namespace {
 
@@ -144,7 +145,6 @@ QWidget *CanvasTools::buildModeBox()
     caption->setFixedWidth(kToolCaptionWidth);
     QComboBox *modes = makeDropDown(part);
     modes->setObjectName(QStringLiteral("modes"));
-    modes->setFixedHeight(36);
     for (const AnimationMemory &memory : kAnimationMemories) {
         const int place = modes->count();
         modes->addItem(QString());
@@ -180,14 +180,12 @@ QPushButton *CanvasTools::button(const char *label) const
 
 void CanvasTools::show(const Possible &possible)
 {
+    const QString noFrame = QObject::tr("Add a frame first.");
     for (const char *label : {"Duplicate Frame", "Delete Frame", "Clean Frame", "Preview"})
-        button(label)->setEnabled(possible.any);
-    button("Undo")->setEnabled(possible.undo);
-    button("Redo")->setEnabled(possible.redo);
-    QPushButton *write = button("Write Animate");
-    write->setEnabled(possible.write);
-    write->setToolTip(possible.write ? QString() : QObject::tr("Save, export or import the animation first."));
-    write->setAccessibleDescription(write->toolTip());
+        allowButton(button(label), possible.any, noFrame);
+    allowButton(button("Undo"), possible.undo, QObject::tr("There is nothing to undo."));
+    allowButton(button("Redo"), possible.redo, QObject::tr("There is nothing to redo."));
+    allowButton(button("Write Animate"), possible.write, QObject::tr("Save, export or import the animation first."));
     button("Preview")->setChecked(possible.plays);
-    m_cellSize->setEnabled(possible.any);
+    m_cellSize->setLock(possible.any ? QString() : noFrame);
 }
