@@ -269,6 +269,10 @@ void TestReach::assistiveSoftwareMovesSliders()
         slider->actionInterface()->doAction(QAccessibleActionInterface::decreaseAction());
         QTRY_COMPARE(int(m_desk->monitor().value(std::uint8_t(code))), value - 1);
     }
+    QWidget *below = m_window->scenePage()->slider("Hue_R")->slider();
+    QVERIFY(below->visibleRegion().isEmpty());
+    seen(below)->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+    QVERIFY(!below->visibleRegion().isEmpty()); // who is led there by a voice may see a little
     m_window->page(PageId::SystemSetting)->widget()->show();
     for (const auto &[name, text] :
          {std::pair("Show Time(s)", "20 s"), {"No Signal Timer", "20 min"}, {"H-Position", "20 %"}}) {

@@ -1,6 +1,7 @@
 #include <QtTest>
 #include <QtWidgets>
 
+#include "controls/accessiblecontrol.h"
 #include "controls/filequestion.h"
 #include "support/deskfixture.h"
 #include "toollanguage.h"
@@ -70,6 +71,11 @@ static void readWhole(const QAbstractItemModel *model, const QModelIndex &root)
 
 static void walkFileDialog(QFileDialog *dialog)
 {
+    describeControlsToAssistiveSoftware();
+    for (QComboBox *box : dialog->findChildren<QComboBox *>()) {
+        const QAccessibleInterface *seen = QAccessible::queryAccessibleInterface(box);
+        QVERIFY2(!seen->text(QAccessible::Name).isEmpty(), qPrintable(box->objectName()));
+    }
     auto *list = dialog->findChild<QAbstractItemView *>("listView");
     auto *name = dialog->findChild<QLineEdit *>("fileNameEdit");
     QTRY_VERIFY_WITH_TIMEOUT(list->model()->rowCount(list->rootIndex()) >= 3, 5000);

@@ -9,6 +9,7 @@
 #include <QComboBox>
 
 #include "controls/accessiblecontrol.h"
+#include "controls/focusgroup.h"
 #include "controls/nowheelslider.h"
 
 namespace {
@@ -53,8 +54,10 @@ public:
     void doAction(const QString &asked) override
     {
         const QString name = asked == toggleAction() ? pressAction() : asked;
-        if (!actions().contains(name))
-            return QAccessibleWidget::doAction(name);
+        if (!actions().contains(name)) {
+            QAccessibleWidget::doAction(name);
+            return bringIntoSight(widget()); // it may have the focus now, and Tab did not bring it there
+        }
         QMetaObject::invokeMethod(
             widget(),
             [control = widget(), act = actionFor(name)] {

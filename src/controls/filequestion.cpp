@@ -1,8 +1,10 @@
 #include "controls/filequestion.h"
 
+#include <QComboBox>
 #include <QFileDialog>
 #include <QFileIconProvider>
 #include <QHeaderView>
+#include <QLabel>
 #include <QPushButton>
 #include <QSplitter>
 #include <QToolButton>
@@ -55,6 +57,10 @@ void dress(QFileDialog &dialog)
     }
     for (QPushButton *button : dialog.findChildren<QPushButton *>())
         button->setIcon({});
+    for (const QString &box : {QStringLiteral("lookIn"), QStringLiteral("fileType")}) { // else nothing names them
+        if (auto *label = dialog.findChild<QLabel *>(box + QStringLiteral("Label")))
+            label->setBuddy(dialog.findChild<QComboBox *>(box + QStringLiteral("Combo")));
+    }
     dialog.resize(kQuestionSize);
     if (auto *splitter = dialog.findChild<QSplitter *>())
         splitter->setSizes({kPlacesWidth, kQuestionSize.width() - kPlacesWidth});
