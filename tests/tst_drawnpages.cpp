@@ -34,6 +34,7 @@ private Q_SLOTS:
     void crosshairIsExact();
     void optionsAreExplained();
     void wordsBesideTheControls();
+    void whatASwitchTurnsOff();
     void smallWindowIsArranged_data();
     void smallWindowIsArranged();
     void ownLightColor();
@@ -180,6 +181,28 @@ void TestDrawnPages::wordsBesideTheControls()
         QVERIFY2(shown().contains(after), qPrintable(shown()));
     }
     QVERIFY(settle() && m_desk->takeCommands().filter("W").isEmpty());
+}
+
+/// It is on only where the monitor has told that its switch is.
+void TestDrawnPages::whatASwitchTurnsOff()
+{
+    deviceState.told(Command::CrosshairShape, 1);
+    auto *game = page(Game);
+    game->resize(1000, 680);
+    game->show();
+    game->showPanel("Game Crosshair");
+    auto *words = game->findChild<QWidget *>("gameCrosshair")->findChild<OptionWords *>();
+    const auto isSaid = [words](const QString &text) {
+        words->refresh();
+        return std::ranges::any_of(words->findChildren<QLabel *>(),
+                                   [&text](const QLabel *label) { return label->text() == text; });
+    };
+    QVERIFY(isSaid("Shape · Cross"));
+    QVERIFY(!isSaid("On now.") && !isSaid("Chosen, and switched off now."));
+    deviceState.told(Command::Crosshair, 0);
+    QVERIFY(isSaid("Chosen, and switched off now."));
+    deviceState.told(Command::Crosshair, 1);
+    QVERIFY(isSaid("On now."));
 }
 
 using Arrange = std::function<void(WindowArranger &)>;

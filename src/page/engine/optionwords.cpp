@@ -184,12 +184,14 @@ QString OptionWords::nameOf(const OptionGroupRow *row) const
     return QObject::tr(row->group().caption ? row->group().caption : row->group().label);
 }
 
-/// Whether it does nothing now, as the panel's switch is off or something else locks it.
-bool OptionWords::isIdle(int value) const
+/// Nothing where it rests on a switch of which the monitor has not told whether it is on.
+QString OptionWords::stateOf(int value) const
 {
     const QPushButton *button = m_told->buttonOf(value);
-    return !(button && button->isEnabledTo(m_told)) ||
-           (m_master && deviceState.confirmed(*m_master->group().command) == 0);
+    const bool isLocked = !(button && button->isEnabledTo(m_told));
+    if (isLocked || (m_master && deviceState.confirmed(*m_master->group().command) == 0))
+        return QObject::tr("Chosen, and switched off now.");
+    return m_master && !valueOn(m_master) ? QString() : QObject::tr("On now.");
 }
 
 OptionWords::Said OptionWords::sayOn(int value) const
@@ -201,8 +203,7 @@ OptionWords::Said OptionWords::sayOn(int value) const
     if (m_told->group().look == GroupLook::Switch) // whatever its halves are called
         return {nameOf(m_told), value != 0 ? QObject::tr("Switched on.") : QObject::tr("Switched off."), words};
     const QString name = optionName(*option);
-    return {m_isOneOfMany ? nameOf(m_told) + QStringLiteral(" · ") + name : name,
-            isIdle(value) ? QObject::tr("Chosen, and switched off now.") : QObject::tr("On now."), words};
+    return {m_isOneOfMany ? nameOf(m_told) + QStringLiteral(" · ") + name : name, stateOf(value), words};
 }
 
 OptionWords::Said OptionWords::sayPointed(int value) const

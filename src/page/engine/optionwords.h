@@ -55,7 +55,7 @@ private:
     struct Said
     {
         QString name;
-        QString now; ///< whether it is on
+        QString now; ///< whether it is on, as far as that is known
         QString words;
     };
 
@@ -64,7 +64,7 @@ private:
     Said sayOn(int value) const;
     Said sayPointed(int value) const;
     QString nameOf(const OptionGroupRow *row) const;
-    bool isIdle(int value) const;
+    QString stateOf(int value) const;
     void show(const Said &on, const Said &pointed);
 
     const Shape m_shape;
