@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QScreen>
+#include <QWindow>
 
 #include "controls/accessiblecontrol.h"
 #include "controls/focusring.h"
@@ -37,7 +38,15 @@ void FramelessWindow::showInFront()
 void FramelessWindow::showEvent(QShowEvent *event)
 {
     PictureLabel::showEvent(event);
+    connect(windowHandle(), &QWindow::screenChanged, this, &FramelessWindow::keepSize,
+            static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::UniqueConnection));
     keepOnScreen();
+}
+
+/// In points: not every system gives a window more pixels that comes to a screen of a larger scale.
+void FramelessWindow::keepSize()
+{
+    windowHandle()->resize(minimumSize());
 }
 
 /// A screen may have gone since the window was hidden, or the system may have placed it half outside.

@@ -27,6 +27,7 @@ protected:
 
 private:
     void keepOnScreen();
+    void keepSize();
 
     std::optional<QPoint> m_dragStart; ///< where the window was taken hold of
 };

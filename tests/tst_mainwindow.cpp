@@ -125,6 +125,9 @@ void TestMainWindow::frameByItself()
     QVERIFY(!event.isAccepted() && m_window->isHidden());
     m_window->showWindow();
     QVERIFY(m_window->isVisible());
+    m_window->windowHandle()->resize(640, 400); // the same pixels on a screen of twice the scale
+    Q_EMIT m_window->windowHandle()->screenChanged(m_window->screen());
+    QTRY_COMPARE(m_window->windowHandle()->size(), m_window->minimumSize());
 
     m_window->setPictureHeight(800);
     const QImage whole = m_window->pixmap().toImage().convertToFormat(QImage::Format_ARGB32);
