@@ -186,11 +186,13 @@ void TestDrawnPages::wordsBesideTheControls()
 /// It is on only where the monitor has told that its switch is.
 void TestDrawnPages::whatASwitchTurnsOff()
 {
-    deviceState.told(Command::CrosshairShape, 1);
+    m_desk->monitor().setPlugged(false); // it tells nothing by itself
     auto *game = page(Game);
     game->resize(1000, 680);
     game->show();
     game->showPanel("Game Crosshair");
+    QVERIFY(settle());
+    deviceState.told(Command::CrosshairShape, 1);
     auto *words = game->findChild<QWidget *>("gameCrosshair")->findChild<OptionWords *>();
     const auto isSaid = [words](const QString &text) {
         words->refresh();
