@@ -317,6 +317,27 @@ private Q_SLOTS:
         QCOMPARE(screen().copies(), 0);
     }
 
+    /// What is sent differs from what the lamps show, not from what they were only to show.
+    void whatWaitsMayBeOutOfDate()
+    {
+        startIn(3, 0, 0, 0);
+        pass(2s);
+        QTRY_VERIFY(!SoundAnalyzer::instance().isRunning());
+        m_desk->takeCommands();
+        const auto hear = [this](int low, int next, int high) {
+            Q_EMIT SoundAnalyzer::instance().heightsReady({low, next, 1, 1, 1, 1, 1, 1, 1, 1, high});
+            settle();
+            return m_desk->takeCommands().filter("W").size();
+        };
+        QCOMPARE(hear(30, 1, 1), 1);
+        const int tone = m_desk->monitor().value(0x86);
+        QCOMPARE(hear(1, 1, 30), 0); // it waits for its second
+        QCOMPARE(hear(30, 5, 1), 0); // almost what it was: another tone, but nobody sees that
+        QCOMPARE(nextWrites(5s), QStringList());
+        QCOMPARE(int(m_desk->monitor().value(0x86)), tone);
+        QCOMPARE(hear(1, 1, 30), 1);
+    }
+
 private:
     virtualdesk::SimulatedScreen screenOnly;
 };

@@ -47,17 +47,29 @@ void RhythmLamps::startRun()
 void RhythmLamps::forget()
 {
     for (auto &[tone, lamp] : m_lamps) {
-        lamp = {{}, lamp.isByLock};
+        lamp = {{}, {}, lamp.isByLock};
         m_writer.drop(tone);
     }
 }
 
-/// The way back from the lock's darkness is the user's own doing as well.
+/// What waits may be out of date by now: then the lamp stays as it is.
 void RhythmLamps::show(Command tone, QRgb color)
 {
     Lamp &lamp = m_lamps[tone];
-    if (lamp.wished && visibleDifference(*lamp.wished, color) < seenDifference())
+    const auto isAsGood = [color](const std::optional<QRgb> &other) {
+        return other && visibleDifference(*other, color) < seenDifference();
+    };
+    if (isAsGood(lamp.wished ? lamp.wished : lamp.shown))
         return;
+    if (!isAsGood(lamp.shown))
+        return wish(tone, lamp, color);
+    lamp.wished.reset();
+    m_writer.drop(tone);
+}
+
+/// The way back from the lock's darkness is the user's own doing as well.
+void RhythmLamps::wish(Command tone, Lamp &lamp, QRgb color)
+{
     lamp.wished = color;
     if (lamp.isByLock)
         m_writer.wantNow(tone, toneOf(color));
@@ -89,6 +101,10 @@ void RhythmLamps::onSettled(Command command, int value, bool ok)
     m_isUsedUp = AutomaticWriter::isDayUsedUp();
     if (ok) {
         lamp.vainTries = 0;
+        const bool isWish = lamp.wished && toneOf(*lamp.wished) == value;
+        lamp.shown = isWish ? *lamp.wished : colorOfTone(value); // a tone is coarser than its colour
+        if (isWish)
+            lamp.wished.reset();
         lamp.isDark = value == 0;
         lamp.isByLock = lamp.isByLock && (m_isLocked || lamp.isDark);
         return;

@@ -45,13 +45,15 @@ public:
 private:
     struct Lamp
     {
-        std::optional<QRgb> wished; ///< the newest colour
+        std::optional<QRgb> wished; ///< that has not arrived yet
+        std::optional<QRgb> shown;  ///< that has
         bool isByLock = false;      ///< what it shows, until a colour has arrived again
         bool isDark = false;
         int vainTries = 0; ///< in a row
     };
 
     void onSettled(Command command, int value, bool ok);
+    void wish(Command tone, Lamp &lamp, QRgb color);
 
     AutomaticWriter &m_writer;
     std::map<Command, Lamp> m_lamps; ///< by their tones
