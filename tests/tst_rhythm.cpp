@@ -1,6 +1,7 @@
 #include <cmath>
 
 #include "PictureAudioCom/screencolours.h"
+#include "PictureAudioCom/screensampler.h"
 #include "PictureAudioCom/soundanalyzer.h"
 #include "PictureAudioCom/soundcolours.h"
 #include "page/Emberline/rhythmlight.h"
@@ -246,6 +247,8 @@ private Q_SLOTS:
         settle();
         QCOMPARE(int(m_desk->monitor().value(0x88)), 0); // and no time has passed
         QCOMPARE(int(m_desk->monitor().value(0x89)), 0);
+        const auto *light = m_window->findChild<RhythmLight *>();
+        QTRY_VERIFY(light->findChild<ScreenSampler *>()->isFinished()); // a look that was under way
         pass(250ms);
         m_desk->takeCommands();
         const int copies = screen().copies();
@@ -255,7 +258,9 @@ private Q_SLOTS:
         look();
         QCOMPARE(m_desk->takeCommands().filter("W") + nextWrites(2s), (QStringList{"W 88=65535", "W 89=65535"}));
         m_desk->monitor().setPlugged(false);
-        pass(3s);
+        showHalves(qRgb(255, 0, 0), qRgb(255, 0, 0)); // nobody knows of its silence before it is asked something
+        QTRY_VERIFY((m_desk->clock.advance(100ms), light->state() == RhythmLight::State::Off));
+        settle();
         const int before = screen().copies();
         pass(3s);
         QVERIFY(screen().copies() <= before + 1);

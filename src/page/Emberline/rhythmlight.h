@@ -59,7 +59,7 @@ private:
 
     CommandQueue &m_queue;
     RhythmLamps m_lamps;
-    ScreenSampler m_sampler;
+    ScreenSampler m_sampler{this};
     SoundUse m_sound;
     Source m_source = Source::None;
     State m_state = State::Off;
