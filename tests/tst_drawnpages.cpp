@@ -183,28 +183,53 @@ void TestDrawnPages::wordsBesideTheControls()
     QVERIFY(settle() && m_desk->takeCommands().filter("W").isEmpty());
 }
 
-/// It is on only where the monitor has told that its switch is.
+/// It is on only where the monitor has told what it rests on: its switch, or a mode.
 void TestDrawnPages::whatASwitchTurnsOff()
 {
     m_desk->monitor().setPlugged(false); // it tells nothing by itself
-    auto *game = page(Game);
-    game->resize(1000, 680);
-    game->show();
-    game->showPanel("Game Crosshair");
-    QVERIFY(settle());
-    deviceState.told(Command::CrosshairShape, 1);
-    auto *words = game->findChild<QWidget *>("gameCrosshair")->findChild<OptionWords *>();
-    const auto isSaid = [words](const QString &text) {
-        words->refresh();
-        return std::ranges::any_of(words->findChildren<QLabel *>(),
-                                   [&text](const QLabel *label) { return label->text() == text; });
+    struct Resting
+    {
+        int page;
+        const char *panel, *widget;
+        std::pair<Command, int> chosen;
+        const char *name;
+        Command on;
+        int offValue, onValue;
     };
-    QVERIFY(isSaid("Shape · Cross"));
-    QVERIFY(!isSaid("On now.") && !isSaid("Chosen, and switched off now."));
-    deviceState.told(Command::Crosshair, 0);
-    QVERIFY(isSaid("Chosen, and switched off now."));
-    deviceState.told(Command::Crosshair, 1);
-    QVERIFY(isSaid("On now."));
+    for (const Resting &row : {Resting{Game,
+                                       "Game Crosshair",
+                                       "gameCrosshair",
+                                       {Command::CrosshairShape, 1},
+                                       "Shape · Cross",
+                                       Command::Crosshair,
+                                       0,
+                                       1},
+                               Resting{Lighting,
+                                       "Effect",
+                                       "pageLightEffect",
+                                       {Command::LightEffect, 3},
+                                       "Effect · Wave",
+                                       Command::LightMode,
+                                       1,
+                                       2}}) {
+        auto *shownPage = page(row.page);
+        shownPage->resize(1000, 680);
+        shownPage->show();
+        shownPage->showPanel(row.panel);
+        QVERIFY(settle());
+        deviceState.told(row.chosen.first, row.chosen.second);
+        auto *words = shownPage->findChild<QWidget *>(row.widget)->findChild<OptionWords *>();
+        const auto isSaid = [words](const QString &text) {
+            return std::ranges::any_of(words->findChildren<QLabel *>(),
+                                       [&text](const QLabel *label) { return label->text() == text; });
+        };
+        QTRY_VERIFY(isSaid(row.name));
+        QVERIFY(!isSaid("On now.") && !isSaid("Chosen, and switched off now."));
+        deviceState.told(row.on, row.offValue);
+        QTRY_VERIFY(isSaid("Chosen, and switched off now."));
+        deviceState.told(row.on, row.onValue);
+        QTRY_VERIFY(isSaid("On now."));
+    }
 }
 
 using Arrange = std::function<void(WindowArranger &)>;

@@ -15,8 +15,8 @@ BY_HAND = 1
 OLED_PANEL = 4
 REMINDER_LOOK = 11  # s
 GAME_FUNCTIONS = 1 << 10
-LIGHT_MODE, LIGHT_SOURCE, LEFT_TONE, RIGHT_TONE = 0x75, 0x83, 0x88, 0x89
-ZONE_RHYTHM = 4
+LIGHT_MODE, LIGHT_SOURCE, ALL_TONE, LEFT_TONE, RIGHT_TONE = 0x75, 0x83, 0x86, 0x88, 0x89
+GLOBAL_RHYTHM, ZONE_RHYTHM = 3, 4
 FROM_SCREEN = 1
 KEYS = "[basicMode]\nswitchStatus=on\n\n[12]\nswitchStatus=on\nplusKey=Ctrl+B\nsubKey=Ctrl+Alt+D\n"
 MOD_CONTROL = "2"
@@ -206,21 +206,25 @@ def case_care_reminder(rig):
 
 
 def case_light_follows_screen(rig):
-    """The lamps' left and right zone take the colours of what another program shows there, and those of the next one;
-    a colour is 5 bits of red, 6 of green, 5 of blue."""
-    light = {CAPABILITIES: GAME_FUNCTIONS, LIGHT_MODE: ZONE_RHYTHM, LIGHT_SOURCE: FROM_SCREEN}
-    with started(rig, "light_follows_screen", registers=REGISTERS | light) as run:
-        run.start_and_show()
-        for name, colours, tones in (("Painter", ("ff0000", "0000ff"), (0xF800, 0x001F)),
-                                     ("Writer", ("00ff00", "ff0000"), (0x07E0, 0xF800))):
-            program = in_front(run, name, *colours)
-            for code, tone in zip((LEFT_TONE, RIGHT_TONE), tones):
-                wait_for(lambda: f"W {code:02X} {tone}" in run.requests(), f"the colour of {name} at {code:02X}")
-            last = [[request for request in run.requests() if request.startswith(f"W {code:02X}")][-1]
-                    for code in (LEFT_TONE, RIGHT_TONE)]
-            assert last == [f"W {code:02X} {tone}" for code, tone in zip((LEFT_TONE, RIGHT_TONE), tones)], last
-            program.kill()
-            program.wait(10)
+    """The lamps take the colours of what another program shows, left and right or all together, and those of the next
+    one; a colour is 5 bits of red, 6 of green, 5 of blue."""
+    zones = (LEFT_TONE, RIGHT_TONE)
+    for mode, shown in ((ZONE_RHYTHM, (("Painter", ("ff0000", "0000ff"), dict(zip(zones, (0xF800, 0x001F)))),
+                                       ("Writer", ("00ff00", "ff0000"), dict(zip(zones, (0x07E0, 0xF800)))))),
+                        (GLOBAL_RHYTHM, (("Painter", ("00ff00", "00ff00"), {ALL_TONE: 0x07E0}),))):
+        light = {CAPABILITIES: GAME_FUNCTIONS, LIGHT_MODE: mode, LIGHT_SOURCE: FROM_SCREEN}
+        with started(rig, "light_follows_screen", registers=REGISTERS | light) as run:
+            run.start_and_show()
+            for name, colours, tones in shown:
+                program = in_front(run, name, *colours)
+                for code, tone in tones.items():
+                    wait_for(lambda: last_write(run, code) == f"W {code:02X} {tone}", f"the colour of {name} at {code:02X}")
+                program.kill()
+                program.wait(10)
+
+
+def last_write(run, code):
+    return next((request for request in reversed(run.requests()) if request.startswith(f"W {code:02X}")), None)
 
 
 def case_settings_file(rig):

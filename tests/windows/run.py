@@ -12,11 +12,12 @@ import cases_accessory
 import cases_audio
 import cases_automation
 import cases_monitor
+import cases_pages
 import cases_program
 import cases_start
 from rig import Rig, edid
 
-AREAS = (cases_monitor, cases_program, cases_start, cases_automation, cases_accessory, cases_audio)
+AREAS = (cases_monitor, cases_pages, cases_program, cases_start, cases_automation, cases_accessory, cases_audio)
 CASES = [value for area in AREAS for name, value in vars(area).items() if name.startswith("case_")]
 
 

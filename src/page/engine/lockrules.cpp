@@ -62,6 +62,14 @@ const LockRule *lockOf(std::span<const LockRule> rules, Command group, int optio
     });
 }
 
+bool areLocksKnown(std::span<const LockRule> rules, Command group, const DeviceState &state)
+{
+    return !findRule(rules, [&](const LockRule &rule) {
+        const auto *options = std::get_if<OptionsOf>(&rule.controls);
+        return options && options->command == group && !shownValue(state, rule.target.command);
+    });
+}
+
 std::optional<int> shownValue(const DeviceState &state, Command command)
 {
     if (!state.isKnown(command) && !state.isDoubted(command))

@@ -51,6 +51,9 @@ const LockRule *ruleFor(std::span<const LockRule> rules, const QString &slider);
 const LockRule *lockOf(std::span<const LockRule> rules, const QString &slider, const DeviceState &state);
 const LockRule *lockOf(std::span<const LockRule> rules, Command group, int option, const DeviceState &state);
 
+/// Whether everything is known that may lock an option of a command.
+bool areLocksKnown(std::span<const LockRule> rules, Command group, const DeviceState &state);
+
 /// The value of a command when there is one to go by: told, or wished.
 std::optional<int> shownValue(const DeviceState &state, Command command);
 

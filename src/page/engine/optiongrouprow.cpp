@@ -116,6 +116,7 @@ void OptionGroupRow::addSwatches(BoundTexts &texts, FlowLayout *flow)
     for (const Option &option : m_group.options)
         pictures.append(Pictures::kRoot + QStringLiteral("img/") + QLatin1String(option.picture));
     m_swatches = new ColorSelecter(pictures, this);
+    m_swatches->setObjectName(QString::fromUtf8(m_group.label) + QStringLiteral("_swatches"));
     m_swatches->setFixedHeight(metrics::kControlHeight);
     flow->addWidget(m_swatches);
     texts.bind(m_group.label, [this](const QString &text) {
@@ -218,9 +219,10 @@ void OptionGroupRow::setMark(Mark mark)
     describe();
 }
 
-void OptionGroupRow::setLocks(const QStringList &reasons)
+void OptionGroupRow::setLocks(const QStringList &reasons, bool areAllKnown)
 {
     m_locks = reasons;
+    m_areLocksKnown = areAllKnown;
     QStringList said = reasons;
     said.removeAll(QString());
     said.removeDuplicates();

@@ -48,8 +48,10 @@ public:
     void setMark(Mark mark);
     Mark mark() const { return m_mark->mark(); }
 
-    /// Disables each option that has a reason, in the order of the options, and says the reasons.
-    void setLocks(const QStringList &reasons);
+    /// Disables each option that has a reason, in the order of the options, and says the reasons. They are not all
+    /// known while the monitor has not told what may lock an option.
+    void setLocks(const QStringList &reasons, bool areAllKnown);
+    bool areLocksKnown() const { return m_areLocksKnown; }
 
 Q_SIGNALS:
     /// The user chose the button, by mouse or keyboard.
@@ -85,6 +87,7 @@ private:
     HalfSize m_halfSize = HalfSize::Wide;
     QString m_help;
     QStringList m_locks; ///< of each option: why it is disabled
+    bool m_areLocksKnown = true;
 };
 
 /// Checks one button of an exclusive group, or none.

@@ -184,14 +184,15 @@ QString OptionWords::nameOf(const OptionGroupRow *row) const
     return QObject::tr(row->group().caption ? row->group().caption : row->group().label);
 }
 
-/// Nothing where it rests on a switch of which the monitor has not told whether it is on.
+/// Nothing where the monitor has not told what it rests on: whether its switch is on, and what may lock it.
 QString OptionWords::stateOf(int value) const
 {
     const QPushButton *button = m_told->buttonOf(value);
     const bool isLocked = !(button && button->isEnabledTo(m_told));
     if (isLocked || (m_master && deviceState.confirmed(*m_master->group().command) == 0))
         return QObject::tr("Chosen, and switched off now.");
-    return m_master && !valueOn(m_master) ? QString() : QObject::tr("On now.");
+    const bool isSure = (!m_master || valueOn(m_master)) && m_told->areLocksKnown();
+    return isSure ? QObject::tr("On now.") : QString();
 }
 
 OptionWords::Said OptionWords::sayOn(int value) const

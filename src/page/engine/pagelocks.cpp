@@ -37,7 +37,7 @@ void PageLocks::apply()
         QStringList reasons;
         for (const Option &option : row->group().options)
             reasons.append(reasonOf(lockOf(m_rules, *row->group().command, option.value, deviceState)));
-        row->setLocks(reasons);
+        row->setLocks(reasons, areLocksKnown(m_rules, *row->group().command, deviceState));
     }
 }
 
