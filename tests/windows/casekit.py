@@ -1,6 +1,6 @@
 """What several areas of cases share: the monitor that they start with, and steps."""
 
-from rig import Run
+from rig import Run, wait_for
 
 MOVIE_CUSTOM = 10
 REGISTERS = {0x22: MOVIE_CUSTOM, 0xED: 0, 0xEE: 0x0102, 0xF6: 1, 0xF7: 0}
@@ -12,6 +12,13 @@ def open_page(run, tab, entry):
     """Opens the entry of the left bar under a tab of the top bar."""
     run.click(f"tab_{tab}")
     run.click(f"entry_{entry}")
+
+
+def press_icon(rig, times=1):
+    """Presses the program's icon in the tray, which is a small window of Wine's here."""
+    tray = wait_for(lambda: rig.windows("Wine System Tray"), "the tray")[0]
+    rig.run(["xdotool", "mousemove", "--window", tray, "10", "10", "sleep", "0.3",
+             "click", "--repeat", str(times), "--delay", "150", "1"])
 
 
 def codes_of(requests):

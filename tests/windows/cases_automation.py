@@ -4,7 +4,7 @@ import contextlib
 import shutil
 import time
 
-from casekit import REGISTERS, open_page, started, writes_of
+from casekit import REGISTERS, open_page, press_icon, started, writes_of
 from rig import START_SECONDS, wait_for, windows_path
 
 PROBLEM_COLOUR = "#da676d"
@@ -161,7 +161,8 @@ def in_zone(run, name, zone):
 
 def case_splitter(rig):
     """Keys put the window of another program into every zone of an own layout, within one pixel, and back where it was;
-    so does a number on the overlay, and the number pressed once more gives the old place back."""
+    so does a number on the overlay, and the number pressed once more gives the old place back. The tray's panel leads to
+    the overlay as well."""
     zones = [(0, 0, 720, 5040), (720, 0, 5040, 1680), (720, 1680, 2891, 5040), (2891, 1680, 5040, 5040)]
     own = "Work:" + "+".join("-".join(map(str, zone)) for zone in zones)
     screen = f"QRV SIM 27 {SCREEN}"
@@ -185,6 +186,10 @@ def case_splitter(rig):
             run.click(f"zone_{number}")
             wait_for(lambda: in_zone(run, "Painter", zone) if zone else place_of(run, "Painter")[0] == before,
                      f"what number {number} does")
+        press_icon(rig)
+        run.click("arrangeWindow")
+        run.click("zone_4")
+        wait_for(lambda: in_zone(run, "Painter", zones[3]), "the zone chosen by way of the tray")
 
 
 def case_care_reminder(rig):

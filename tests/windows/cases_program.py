@@ -3,7 +3,7 @@
 import shutil
 import time
 
-from casekit import BLOCK, REGISTERS, open_page, started, writes_of
+from casekit import BLOCK, REGISTERS, open_page, press_icon, started, writes_of
 from rig import START_SECONDS, wait_for, windows_path
 
 EXIT_REFUSED = 255  # -1, as the shell sees it
@@ -29,13 +29,6 @@ def expect_refusal(run):
     second = run.start()
     run.answer("Information", START_SECONDS)
     assert second.wait(15) == EXIT_REFUSED, second.returncode
-
-
-def press_icon(rig, times=1):
-    """Presses the program's icon in the tray, which is a small window of Wine's here."""
-    tray = wait_for(lambda: rig.windows("Wine System Tray"), "the tray")[0]
-    rig.run(["xdotool", "mousemove", "--window", tray, "10", "10", "sleep", "0.3",
-             "click", "--repeat", str(times), "--delay", "150", "1"])
 
 
 def case_tray_panel(rig):
