@@ -4,26 +4,64 @@
 
 #include <QGuiApplication>
 #include <QMouseEvent>
+#include <QPixmap>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QWindow>
 
 #include "controls/accessiblecontrol.h"
 #include "controls/focusring.h"
+#include "controls/picturelabel.h"
+#include "page/engine/scrollarea.h"
 #include "platform/desk.h"
 #include "windowscale.h"
 
-FramelessWindow::FramelessWindow(const QString &picture)
+namespace {
+
+constexpr int kLeastHeight = 600; // points: the work area of a screen of 768 lines at 100 % is filled
+
+} // namespace
+
+FramelessWindow::FramelessWindow(const QString &picture) : m_ground(new PictureLabel(this))
 {
     setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint);
     setAttribute(Qt::WA_TranslucentBackground);
     describeAs(this, QAccessible::Window);
-    setPicture(picture);
-    setScaledContents(true);
-    QSize size = pixmap(Qt::ReturnByValue).deviceIndependentSize().toSize();
+    describeAs(m_ground, QAccessible::Client);
+    m_ground->setPicture(picture);
+    m_ground->setScaledContents(true);
+    layGround();
+}
+
+/// The picture is lower where that is enough; else there is room for a part of it, and bars that scroll.
+void FramelessWindow::layGround()
+{
+    QSize whole = m_ground->pixmap(Qt::ReturnByValue).deviceIndependentSize().toSize();
+    QSize room = whole;
     if (const auto area = platform::desk().displays().workArea())
-        size.setHeight(std::min(size.height(), heightToFit(*area, devicePixelRatioF())));
-    setPictureHeight(size.height());
-    setFixedSize(size);
+        room = room.boundedTo(roomFor(*area, devicePixelRatioF()));
+    const int barHeight = room.width() < whole.width() ? kScrollBarWidth : 0;
+    whole.setHeight(std::max(room.height() - barHeight, kLeastHeight));
+    m_ground->setPictureHeight(whole.height());
+    m_ground->setFixedSize(whole);
+    setFixedSize(room);
+    if (room.width() < whole.width() || room.height() < whole.height())
+        makeRoomScroll();
+}
+
+void FramelessWindow::makeRoomScroll()
+{
+    QScrollArea *area = makeScrollArea(this);
+    area->setGeometry(rect());
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    area->horizontalScrollBar()->setStyleSheet(scrollBarStyle());
+    fillScrollArea(area, m_ground);
+}
+
+QWidget *FramelessWindow::ground() const
+{
+    return m_ground;
 }
 
 void FramelessWindow::showInFront()
@@ -37,7 +75,7 @@ void FramelessWindow::showInFront()
 
 void FramelessWindow::showEvent(QShowEvent *event)
 {
-    PictureLabel::showEvent(event);
+    QWidget::showEvent(event);
     connect(windowHandle(), &QWindow::screenChanged, this, &FramelessWindow::keepSize,
             static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::UniqueConnection));
     keepOnScreen();
@@ -60,7 +98,7 @@ void FramelessWindow::keepOnScreen()
 
 void FramelessWindow::changeEvent(QEvent *event)
 {
-    PictureLabel::changeEvent(event);
+    QWidget::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActiveWindow())
         cameToFront();
 }
@@ -68,7 +106,7 @@ void FramelessWindow::changeEvent(QEvent *event)
 void FramelessWindow::keyPressEvent(QKeyEvent *event)
 {
     if (!pressFocused(event, this))
-        PictureLabel::keyPressEvent(event);
+        QWidget::keyPressEvent(event);
 }
 
 void FramelessWindow::mousePressEvent(QMouseEvent *event)

@@ -2,10 +2,13 @@
 
 #include <optional>
 
-#include "controls/picturelabel.h"
+#include <QWidget>
 
-/// A window whose frame is a picture, which gives it its size. It is dragged by any place that no control takes.
-class FramelessWindow : public PictureLabel
+class PictureLabel;
+
+/// A window whose frame is a picture, which gives it its size. Where the screen has less room its parts move together,
+/// and where that is not enough they scroll. It is dragged by any place that no control takes.
+class FramelessWindow : public QWidget
 {
 public:
     /// Shows the window in front of all others, also when it was minimised.
@@ -14,6 +17,9 @@ public:
 protected:
     /// The picture's path below the resource folder.
     explicit FramelessWindow(const QString &picture);
+
+    /// What everything in the window stands on; it may be larger than the window.
+    QWidget *ground() const;
 
     /// It is the window in use now, and was not before.
     virtual void cameToFront() = 0;
@@ -26,8 +32,11 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
+    void layGround();
+    void makeRoomScroll();
     void keepOnScreen();
     void keepSize();
 
+    PictureLabel *m_ground;
     std::optional<QPoint> m_dragStart; ///< where the window was taken hold of
 };

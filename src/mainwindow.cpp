@@ -42,7 +42,7 @@ MainWindow *MainWindow::instance()
 
 MainWindow::MainWindow(SearchDeviceDlg &session)
     : FramelessWindow(QStringLiteral("img/bg.png")), m_session(session), m_queue(new CommandQueue(this)),
-      m_navigator(new Navigator(m_pages, this)), m_status(new StatusCard(this)),
+      m_navigator(new Navigator(m_pages, ground())), m_status(new StatusCard(ground())),
       m_modes(new InterfaceModes(*m_navigator, this)), m_checks(new MonitorChecks(session, *m_queue, *m_modes, this)),
       m_accessory(new AccessoryPages([this] { warnNotConnected(); }, this))
 {
@@ -77,12 +77,14 @@ void MainWindow::placeParts()
 {
     connect(tabs(), &TopTabFrame::minimiseClicked, this, &QWidget::showMinimized);
     connect(tabs(), &TopTabFrame::closeClicked, this, &QWidget::close);
-    tabs()->setGeometry(0, 0, width(), kTopHeight);
-    const int cardTop = height() - kCardBottom - StatusCard::kHeight;
+    const QSize room = ground()->size();
+    tabs()->setGeometry(0, 0, room.width(), kTopHeight);
+    const int cardTop = room.height() - kCardBottom - StatusCard::kHeight;
     m_navigator->barStack()->setGeometry(0, kTopHeight, kLeftWidth, cardTop - kTopHeight);
     m_status->setGeometry(kCardMargin, cardTop, kLeftWidth - 2 * kCardMargin, StatusCard::kHeight);
     m_navigator->pageStack()->setGeometry(kLeftWidth + kMargin, kTopHeight + kMargin,
-                                          width() - kLeftWidth - 2 * kMargin, height() - kTopHeight - 2 * kMargin);
+                                          room.width() - kLeftWidth - 2 * kMargin,
+                                          room.height() - kTopHeight - 2 * kMargin);
 }
 
 void MainWindow::createPages()

@@ -8,7 +8,6 @@
 namespace {
 
 constexpr char kVariable[] = "QT_SCALE_FACTOR";
-constexpr int kLeastHeight = 600;
 
 /// Points from line to line of the layout. These are whole pixels, or what is drawn anew leaves rows of what was there.
 constexpr int kGrid = 8;
@@ -35,9 +34,10 @@ double scaleToFit(const platform::WorkArea &area, const QSize &window)
     return fitting < 1 && ratio > 1 ? std::floor(ratio * kGrid) / kGrid / area.scale : fitting;
 }
 
-int heightToFit(const platform::WorkArea &area, double ratio)
+QSize roomFor(const platform::WorkArea &area, double ratio)
 {
-    return std::clamp(static_cast<int>(area.pixels.height() / ratio), kLeastHeight, kWindowSize.height());
+    const QSize points(static_cast<int>(area.pixels.width() / ratio), static_cast<int>(area.pixels.height() / ratio));
+    return points.boundedTo(kWindowSize);
 }
 
 WindowScale::WindowScale(const std::optional<platform::WorkArea> &area)

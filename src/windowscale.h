@@ -15,9 +15,8 @@ inline constexpr QSize kWindowSize{1280, 800};
 /// cuts off what lies beyond the smaller place that it has for it.
 double scaleToFit(const platform::WorkArea &area, const QSize &window);
 
-/// How high the window may be, in points, where even that does not fit: at least 600, so that the work area of a
-/// screen of 768 lines at 100 % is filled.
-int heightToFit(const platform::WorkArea &area, double ratio);
+/// How much of the window the work area has room for, in points of @p ratio pixels, where even that does not fit.
+QSize roomFor(const platform::WorkArea &area, double ratio);
 
 /// Has the toolkit draw this process smaller where the screen is too small for the window. The toolkit reads the factor
 /// from the environment while the application object is made; made before it and taken back behind it, the factor

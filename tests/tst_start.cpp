@@ -131,22 +131,23 @@ void TestStart::copyFindsNoServer()
 void TestStart::windowFitsTheScreen()
 {
     // The user's own factor is there again afterwards, for the programs that are started from here.
-    for (const auto &[pixels, scale, own, wanted, height] : {std::tuple(QSize(1920, 1040), 1.0, "", "", 800),
-                                                             {QSize(1920, 1020), 1.5, "", "0.8333333333333334", 800},
-                                                             {QSize(1366, 728), 1.0, "", "", 728},
-                                                             {QSize(1366, 728), 1.25, "", "0.8", 728},
-                                                             {QSize(1920, 1020), 1.0, "1.5", "1.25", 800},
-                                                             {QSize(1024, 500), 1.0, "junk", "junk", 600},
-                                                             {QSize(1080, 1880), 1.0, "", "", 800},
-                                                             {QSize(1080, 1880), 1.25, "", "0.8", 800},
-                                                             {QSize(3840, 2060), 2.0, "", "", 800}}) {
+    for (const auto &[pixels, scale, own, wanted, room] :
+         {std::tuple(QSize(1920, 1040), 1.0, "", "", QSize(1280, 800)),
+          {QSize(1920, 1020), 1.5, "", "0.8333333333333334", QSize(1280, 800)},
+          {QSize(1366, 728), 1.0, "", "", QSize(1280, 728)},
+          {QSize(1366, 728), 1.25, "", "0.8", QSize(1280, 728)},
+          {QSize(1920, 1020), 1.0, "1.5", "1.25", QSize(1280, 800)},
+          {QSize(1024, 500), 1.0, "junk", "junk", QSize(1024, 500)},
+          {QSize(1080, 1880), 1.0, "", "", QSize(1080, 800)},
+          {QSize(1080, 1880), 1.25, "", "0.8", QSize(1080, 800)},
+          {QSize(3840, 2060), 2.0, "", "", QSize(1280, 800)}}) {
         if (*own)
             qputenv("QT_SCALE_FACTOR", own);
         const platform::WorkArea area{pixels, scale};
         WindowScale chosen(area);
         QCOMPARE(qgetenv("QT_SCALE_FACTOR"), QByteArray(wanted));
         const bool isNumber = QByteArray(wanted).toDouble() > 0;
-        QCOMPARE(heightToFit(area, scale * (isNumber ? QByteArray(wanted).toDouble() : 1)), height);
+        QCOMPARE(roomFor(area, scale * (isNumber ? QByteArray(wanted).toDouble() : 1)), room);
         chosen.takeBack();
         QCOMPARE(qgetenv("QT_SCALE_FACTOR"), QByteArray(own));
         qunsetenv("QT_SCALE_FACTOR");

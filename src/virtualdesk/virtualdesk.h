@@ -1,11 +1,13 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include <QObject>
 
 #include "platform/clock.h"
+#include "platform/displays.h"
 #include "virtualdesk/applications.h"
 #include "virtualdesk/applicationwindows.h"
 #include "virtualdesk/desksetup.h"
@@ -76,6 +78,8 @@ public:
     SimulatedAccessory &accessory() { return m_accessory; }
     /// Whether the user lets what is shown move.
     bool animatesControls = true;
+    /// How much of the screen windows may fill; without a value what the real one has.
+    std::optional<platform::WorkArea> workArea;
 
     /// Whether there are HID devices beside it.
     bool hasHidDevices = true;

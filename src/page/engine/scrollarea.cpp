@@ -10,7 +10,12 @@ static constexpr char16_t kBarStyle[] =
     "QScrollBar::handle:vertical { background: @scroll; border-radius: 3px; margin-left: 8px; min-height: 40px; }"
     "QScrollBar::handle:vertical:hover { background: @hoveredScroll; }"
     "QScrollBar::add-line:vertical, QScrollBar::sub-line:vertical { height: 0; }"
-    "QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical { background: transparent; }";
+    "QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical { background: transparent; }"
+    "QScrollBar:horizontal { background: @ground; height: 14px; margin: 0; }"
+    "QScrollBar::handle:horizontal { background: @scroll; border-radius: 3px; margin: 4px 0; min-width: 40px; }"
+    "QScrollBar::handle:horizontal:hover { background: @hoveredScroll; }"
+    "QScrollBar::add-line:horizontal, QScrollBar::sub-line:horizontal { width: 0; }"
+    "QScrollBar::add-page:horizontal, QScrollBar::sub-page:horizontal { background: transparent; }";
 
 QString scrollBarStyle()
 {

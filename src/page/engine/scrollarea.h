@@ -11,5 +11,8 @@ QScrollArea *makeScrollArea(QWidget *parent);
 /// Puts into such an area what it is for. What is behind the area is seen through it.
 void fillScrollArea(QScrollArea *area, QWidget *content);
 
-/// The look of a bar that scrolls up and down: a gap stands between it and what scrolls.
+/// How wide a bar that scrolls up and down is, and how high one that scrolls sideways, in points.
+inline constexpr int kScrollBarWidth = 14;
+
+/// The look of such bars: a gap stands between them and what scrolls.
 QString scrollBarStyle();

@@ -49,7 +49,7 @@ std::vector<Screen> VirtualDisplays::screens()
 
 std::optional<WorkArea> VirtualDisplays::workArea()
 {
-    return rootWorkArea();
+    return m_desk.workArea ? m_desk.workArea : rootWorkArea();
 }
 
 bool VirtualDisplays::animatesControls()
