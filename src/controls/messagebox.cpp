@@ -11,6 +11,7 @@
 #include <QShowEvent>
 #include <QtMath>
 
+#include "controls/metrics.h"
 #include "controls/pictures.h"
 #include "controls/wrappedlabel.h"
 
@@ -43,8 +44,10 @@ public:
           m_words(findChild<QLabel *>(QStringLiteral("qt_msgbox_label")))
     {
         setTextFormat(Qt::PlainText); // it may name a file of any name
-        if (m_words)
-            m_words->setFont(QApplication::font()); // the system has one of its own for boxes
+        if (!m_words)
+            return;
+        m_words->setFont(QApplication::font()); // the system has one of its own for boxes
+        m_words->installEventFilter(this);
     }
 
 protected:
@@ -68,6 +71,12 @@ protected:
         move(x() + rest / 2, y());
     }
 
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        const bool isDrawn = watched == m_words && event->type() == QEvent::Paint && m_lines.draw(*m_words);
+        return isDrawn || QMessageBox::eventFilter(watched, event);
+    }
+
     /// Laid out anew, the toolkit's box would take the width of its own again.
     bool event(QEvent *event) override
     {
@@ -76,6 +85,7 @@ protected:
 
 private:
     QLabel *m_words;
+    LabelLines m_lines;
     bool m_isEven = false;
 };
 
@@ -96,6 +106,7 @@ public:
     QPushButton *addButton(const QString &text, QMessageBox::ButtonRole role)
     {
         QPushButton *button = m_box->addButton(text, role);
+        button->setMinimumHeight(metrics::kControlHeight);
         button->setStyleSheet(QStringLiteral("QPushButton:focus { border-color: #7bfadb; }"));
         return button;
     }

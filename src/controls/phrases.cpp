@@ -4,6 +4,8 @@
 
 #include <QTextBoundaryFinder>
 
+#include "controls/chinesewords.h"
+
 namespace {
 
 bool isHiragana(QChar letter)
@@ -26,17 +28,41 @@ bool endsPhrase(QChar before, QChar after)
     return isHiragana(before) ? !beginsWord(before) : after == u'「';
 }
 
+/// Chinese has no letters between its words that would tell where these end.
+const QStringList &chineseWords()
+{
+    static const QStringList words = QString::fromUtf16(kChineseWords).split(u' ', Qt::SkipEmptyParts);
+    return words;
+}
+
+bool isInsideWord(const QString &line, qsizetype at)
+{
+    return std::ranges::any_of(chineseWords(), [&](const QString &word) {
+        const qsizetype begin = std::max<qsizetype>(at - word.size() + 1, 0);
+        const qsizetype found = line.indexOf(word, begin);
+        return found >= 0 && found < at;
+    });
+}
+
+bool hasWord(const QString &line)
+{
+    return std::ranges::any_of(chineseWords(), [&line](const QString &word) { return line.contains(word); });
+}
+
 } // namespace
 
 QStringList phrasesOf(const QString &line)
 {
-    if (std::none_of(line.begin(), line.end(), isHiragana))
+    const bool isJapanese = std::any_of(line.begin(), line.end(), isHiragana);
+    if (!isJapanese && !hasWord(line))
         return {};
     QStringList phrases;
     QTextBoundaryFinder finder(QTextBoundaryFinder::Line, line);
     qsizetype begin = 0;
     for (qsizetype end = finder.toNextBoundary(); end > 0; end = finder.toNextBoundary()) {
-        if (end < line.size() && (!endsPhrase(line[end - 1], line[end]) || QStringView(line).left(end).endsWith(u"= ")))
+        const bool isWhole =
+            isJapanese ? end == line.size() || endsPhrase(line[end - 1], line[end]) : !isInsideWord(line, end);
+        if (end < line.size() && (!isWhole || QStringView(line).left(end).endsWith(u"= ")))
             continue;
         phrases.append(line.mid(begin, end - begin));
         begin = end;

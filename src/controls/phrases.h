@@ -3,6 +3,6 @@
 #include <QString>
 #include <QStringList>
 
-/// The parts of one line of text behind which a reader of Japanese expects it to be broken: each a word with what hangs
-/// on it, rather than any letter. Nothing for a text without hiragana, whose words nothing tells apart.
+/// The parts of one line of text behind which a reader expects it to be broken, rather than at any letter. In Japanese
+/// each is a word with what hangs on it, in Chinese a known word or one letter. Nothing for a text of other languages.
 QStringList phrasesOf(const QString &line);

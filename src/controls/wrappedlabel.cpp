@@ -106,28 +106,37 @@ QString evenLines(const QString &text, const QFont &font, int room)
     return even < room ? brokenAt(even, layout) : text;
 }
 
-const QString &WrappedLabel::linesIn(int room)
+const QString &LabelLines::linesIn(int room, const QLabel &label)
 {
-    if (m_text != text() || m_font != font() || m_room != room) {
-        m_text = text();
-        m_font = font();
+    if (m_text != label.text() || m_font != label.font() || m_room != room) {
+        m_text = label.text();
+        m_font = label.font();
         m_room = room;
         m_lines = evenLines(m_text, m_font, m_room);
     }
     return m_lines;
 }
 
+bool LabelLines::draw(QLabel &label)
+{
+    const bool isRich =
+        label.textFormat() == Qt::RichText || (label.textFormat() == Qt::AutoText && Qt::mightBeRichText(label.text()));
+    if (isRich || !label.wordWrap())
+        return false;
+    QPainter painter(&label);
+    const Qt::Alignment side = QStyle::visualAlignment(label.layoutDirection(), label.alignment());
+    QRect room = label.contentsRect();
+    if (side & Qt::AlignLeft)
+        room.setLeft(room.left() + std::max(label.indent(), 0));
+    QStyleOption option;
+    option.initFrom(&label);
+    label.style()->drawItemText(&painter, room, int(side) | Qt::TextWordWrap, option.palette, label.isEnabled(),
+                                linesIn(room.width(), label), label.foregroundRole());
+    return true;
+}
+
 void WrappedLabel::paintEvent(QPaintEvent *event)
 {
-    const bool isRich = textFormat() == Qt::RichText || (textFormat() == Qt::AutoText && Qt::mightBeRichText(text()));
-    if (isRich || !wordWrap())
-        return QLabel::paintEvent(event);
-    QPainter painter(this);
-    drawFrame(&painter);
-    const Qt::Alignment side = QStyle::visualAlignment(layoutDirection(), alignment());
-    const QRect room = contentsRect();
-    QStyleOption option;
-    option.initFrom(this);
-    style()->drawItemText(&painter, room, int(side) | Qt::TextWordWrap, option.palette, isEnabled(),
-                          linesIn(room.width()), foregroundRole());
+    if (!m_lines.draw(*this))
+        QLabel::paintEvent(event);
 }
