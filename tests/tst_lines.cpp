@@ -1,5 +1,6 @@
 #include <QtTest>
 
+#include "controls/flowlayout.h"
 #include "controls/messagebox.h"
 #include "controls/phrases.h"
 #include "controls/wrappedlabel.h"
@@ -12,6 +13,7 @@ private Q_SLOTS:
     void shortLastLineTakesWords();
     void linesEndAtPhrases();
     void boxIsAsWideAsItsLines();
+    void widgetsStandInEvenLines();
 };
 
 /// There are never more lines for it.
@@ -72,6 +74,34 @@ void TestLines::boxIsAsWideAsItsLines()
     showMessage(QMessageBox::Warning, QStringLiteral("Warning"), text, QStringLiteral("OK"), QMessageBox::YesRole,
                 nullptr);
     QVERIFY(width > 0 && width < usual * 9 / 10);
+}
+
+/// The widgets in each line; none is alone on the last, and what hangs on the last one moves none of them.
+void TestLines::widgetsStandInEvenLines()
+{
+    constexpr int kWide = 40;
+    constexpr int kGap = 8;
+    for (const auto &[count, room, expected] :
+         {std::tuple(4, 4, "4 "), {5, 4, "3 2 "}, {7, 6, "4 3 "}, {9, 4, "3 3 3 "}, {3, 1, "1 1 1 "}}) {
+        QWidget holder;
+        auto *flow = new FlowLayout(kGap, &holder);
+        for (int i = 0; i < count; ++i) {
+            auto *widget = new QWidget(&holder);
+            widget->setFixedSize(kWide, kWide);
+            flow->addWidget(widget);
+        }
+        auto *mark = new QWidget(&holder);
+        mark->setFixedSize(kGap, kGap);
+        flow->addHanging(mark);
+        flow->setGeometry(QRect(0, 0, room * (kWide + kGap), 999));
+        std::map<int, int> lines;
+        for (int i = 0; i < count; ++i)
+            ++lines[flow->itemAt(i)->geometry().top()];
+        QString found;
+        for (const auto &[top, widgets] : lines)
+            found += QStringLiteral("%1 ").arg(widgets);
+        QCOMPARE(found, QLatin1String(expected));
+    }
 }
 
 QTEST_MAIN(TestLines)

@@ -9,6 +9,7 @@
 #include <QSignalBlocker>
 
 #include "controls/accessiblecontrol.h"
+#include "controls/flowlayout.h"
 #include "controls/focusgroup.h"
 #include "controls/metrics.h"
 #include "ddc_protocol/settingsstore.h"
@@ -16,7 +17,6 @@
 #include "page/Splitter/layouttile.h"
 #include "page/Splitter/layouttools.h"
 #include "page/engine/dropdown.h"
-#include "page/engine/flowlayout.h"
 #include "page/engine/labels.h"
 #include "page/engine/storenotice.h"
 

@@ -9,13 +9,13 @@
 #include "controls/accessiblecontrol.h"
 #include "controls/captionlabel.h"
 #include "controls/colorselecter.h"
+#include "controls/flowlayout.h"
 #include "controls/focusgroup.h"
 #include "controls/labelled.h"
 #include "controls/locksign.h"
 #include "controls/metrics.h"
 #include "controls/pictures.h"
 #include "page/engine/boundtexts.h"
-#include "page/engine/flowlayout.h"
 #include "page/engine/optionbutton.h"
 #include "page/engine/picturebutton.h"
 
@@ -142,9 +142,9 @@ void OptionGroupRow::addMarks(FlowLayout *flow)
     QSizePolicy markPolicy = m_mark->sizePolicy();
     markPolicy.setRetainSizeWhenHidden(true); // the buttons must not jump when it comes
     m_mark->setSizePolicy(markPolicy);
-    flow->addWidget(m_mark);
+    flow->addHanging(m_mark);
     m_sign->setFixedHeight(m_caption->height());
-    flow->addWidget(m_sign);
+    flow->addHanging(m_sign);
     connect(m_sign, &LockSign::pressed, this, &OptionGroupRow::lockPressed);
 }
 
