@@ -7,6 +7,7 @@
 
 #include "controls/announcer.h"
 #include "controls/messagebox.h"
+#include "controls/metrics.h"
 #include "controls/pictures.h"
 #include "ddc_protocol/commandqueue.h"
 #include "ddc_protocol/transport.h"
@@ -29,9 +30,6 @@ namespace {
 MainWindow *s_mainWindow = nullptr;
 constexpr int kTopHeight = 72;
 constexpr int kLeftWidth = 232;
-constexpr int kMargin = 24;
-constexpr int kCardMargin = 12; // as the entries above it
-constexpr int kCardBottom = 20;
 
 } // namespace
 
@@ -79,12 +77,18 @@ void MainWindow::placeParts()
     connect(tabs(), &TopTabFrame::closeClicked, this, &QWidget::close);
     const QSize room = ground()->size();
     tabs()->setGeometry(0, 0, room.width(), kTopHeight);
-    const int cardTop = room.height() - kCardBottom - StatusCard::kHeight;
+    placeStatus();
+    m_navigator->pageStack()->setGeometry(kLeftWidth + metrics::kBlockGap, kTopHeight + metrics::kBlockGap,
+                                          room.width() - kLeftWidth - 2 * metrics::kBlockGap,
+                                          room.height() - kTopHeight - 2 * metrics::kBlockGap);
+}
+
+/// The left bars have what it leaves.
+void MainWindow::placeStatus()
+{
+    const int cardTop = ground()->height() - metrics::kBlockGap - m_status->neededHeight();
     m_navigator->barStack()->setGeometry(0, kTopHeight, kLeftWidth, cardTop - kTopHeight);
-    m_status->setGeometry(kCardMargin, cardTop, kLeftWidth - 2 * kCardMargin, StatusCard::kHeight);
-    m_navigator->pageStack()->setGeometry(kLeftWidth + kMargin, kTopHeight + kMargin,
-                                          room.width() - kLeftWidth - 2 * kMargin,
-                                          room.height() - kTopHeight - 2 * kMargin);
+    m_status->setGeometry(metrics::kGap, cardTop, kLeftWidth - 2 * metrics::kGap, m_status->neededHeight());
 }
 
 void MainWindow::createPages()
@@ -178,6 +182,7 @@ void MainWindow::updateInterface()
 {
     const MonitorStatus status = monitorStatus(m_session);
     m_status->tell(status);
+    placeStatus();
     trayPanel()->showStatus(status);
 }
 

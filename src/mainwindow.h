@@ -101,6 +101,7 @@ private:
     void createFollowers();
     void createTray();
     void placeParts();
+    void placeStatus();
     void followSent(Command command);
     void followSight();
     std::vector<Page *> pagesInSight() const;

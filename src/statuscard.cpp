@@ -7,6 +7,7 @@
 
 #include "controls/announcer.h"
 #include "controls/dash.h"
+#include "controls/metrics.h"
 #include "controls/palette.h"
 #include "controls/sharedfonts.h"
 
@@ -21,10 +22,11 @@ constexpr int kNameTop = 10;
 constexpr int kStateTop = 34;
 constexpr int kLine = 22;
 constexpr int kRight = 8;
+constexpr int kRetryTop = kStateTop + kLine + metrics::kGap;
 
 const char *const kRetryStyle =
     "QPushButton { color: @mint; background: transparent; border: 1px solid @edge; border-radius: 6px;"
-    " padding: 1px 10px; outline: none; }"
+    " outline: none; }"
     "QPushButton:hover { background-color: @field; }QPushButton:focus { border-color: @mint; }";
 
 } // namespace
@@ -52,10 +54,14 @@ void StatusCard::tell(const MonitorStatus &status)
     setAccessibleName(said);
     m_retry->setText(QObject::tr("Retry"));
     m_retry->setToolTip(QObject::tr("Look for the monitor again"));
-    m_retry->adjustSize();
-    m_retry->move(width() - kRight - m_retry->width(), kStateTop + (kLine - m_retry->height()) / 2);
+    m_retry->setGeometry(kLeft, kRetryTop, width() - 2 * kLeft, metrics::kControlHeight);
     m_retry->setVisible(!status.isGood);
     update();
+}
+
+int StatusCard::neededHeight() const
+{
+    return m_retry->isHidden() ? kRetryTop : kRetryTop + metrics::kControlHeight + metrics::kGap;
 }
 
 /// A long name is whole in its tip.
@@ -79,9 +85,7 @@ void StatusCard::paintEvent(QPaintEvent *)
     painter.restore();
     painter.setPen(QColor(Palette::kHairline));
     painter.drawPath(card);
-    const int right = m_retry->isHidden() ? width() - kRight : m_retry->x() - kRight;
-    m_name.draw(painter, QRect(kLeft, kNameTop, width() - kLeft - kRight, kLine), Qt::AlignLeft | Qt::AlignVCenter,
-                Palette::kText);
-    m_state.draw(painter, QRect(kLeft, kStateTop, right - kLeft, kLine), Qt::AlignLeft | Qt::AlignVCenter,
-                 Palette::kDim);
+    const int room = width() - kLeft - kRight;
+    m_name.draw(painter, QRect(kLeft, kNameTop, room, kLine), Qt::AlignLeft | Qt::AlignVCenter, Palette::kText);
+    m_state.draw(painter, QRect(kLeft, kStateTop, room, kLine), Qt::AlignLeft | Qt::AlignVCenter, Palette::kDim);
 }

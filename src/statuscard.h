@@ -12,11 +12,12 @@ class StatusCard : public QLabel
 {
     Q_OBJECT
 public:
-    static constexpr int kHeight = 64; ///< points
-
     explicit StatusCard(QWidget *parent);
 
     void tell(const MonitorStatus &status);
+
+    /// Higher while the monitor is silent, for the button.
+    int neededHeight() const;
 
 Q_SIGNALS:
     void retryWanted();
