@@ -8,16 +8,15 @@
 #include "controls/accessiblecontrol.h"
 #include "controls/focusgroup.h"
 #include "controls/lefttabbutton.h"
+#include "controls/metrics.h"
 #include "controls/pictures.h"
-
-static constexpr int kSpacing = 2;
 
 LeftBar::LeftBar(std::vector<NavigationEntry> entries, QWidget *parent)
     : QWidget(parent), m_stop(new FocusGroup(this)), m_column(new QVBoxLayout(this))
 {
     describeAs(this, QAccessible::Grouping);
-    m_column->setContentsMargins(12, 12, 12, 0);
-    m_column->setSpacing(kSpacing);
+    m_column->setContentsMargins(metrics::kGap, metrics::kGap, metrics::kGap, 0);
+    m_column->setSpacing(0);
     m_column->addStretch(1);
     setEntries(std::move(entries));
 }

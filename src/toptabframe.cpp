@@ -5,6 +5,7 @@
 
 #include "controls/accessiblecontrol.h"
 #include "controls/focusgroup.h"
+#include "controls/metrics.h"
 #include "controls/palette.h"
 #include "controls/pictures.h"
 #include "navigation.h"
@@ -14,7 +15,7 @@ namespace {
 
 constexpr int kMarkLeft = 24;
 constexpr int kMarkSide = 32;
-constexpr int kNameLeft = 66;
+constexpr int kNameLeft = 64;
 constexpr int kProductPixels = 18;
 constexpr int kTabsLeft = 216;
 
@@ -23,7 +24,7 @@ constexpr int kTabsLeft = 216;
 TopTabFrame::TopTabFrame(QWidget *parent) : QFrame(parent)
 {
     auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(kTabsLeft, 0, 16, 0);
+    row->setContentsMargins(kTabsLeft, 0, metrics::kInset, 0);
     row->setSpacing(0);
     m_list = new QWidget(this);
     describeAs(m_list, QAccessible::PageTabList);

@@ -150,27 +150,7 @@ private Q_SLOTS:
 
 private:
     OptionGroupRow *openInputs();
-    /// Opens every page, and of pages with panels each.
-    void onEveryPage(const std::function<void(QWidget *page)> &look);
 };
-
-void TestReach::onEveryPage(const std::function<void(QWidget *page)> &look)
-{
-    const auto *stack = m_window->scenePage()->parentWidget();
-    for (int family = 0; family < kFamilies; ++family) {
-        QTest::mouseClick(m_window->tabs()->tabs()[static_cast<std::size_t>(family)], Qt::LeftButton);
-        for (LeftTabButton *entry : m_window->leftBar(family)->buttons()) {
-            QTest::mouseClick(entry, Qt::LeftButton);
-            auto *page = static_cast<const QStackedWidget *>(stack)->currentWidget();
-            auto *panels = qobject_cast<PanelPage *>(page);
-            for (int i = 0; i < (panels ? panels->panelCount() : 1); ++i) {
-                if (panels && !panels->entries().empty())
-                    panels->showPanel(i);
-                look(page);
-            }
-        }
-    }
-}
 
 void TestReach::everyControlSaysWhatItIs()
 {

@@ -10,17 +10,18 @@
 #include "controls/announcer.h"
 #include "controls/captionlabel.h"
 #include "controls/labelled.h"
+#include "controls/metrics.h"
 #include "controls/palette.h"
 #include "controls/sharedfonts.h"
 #include "controls/wrappedlabel.h"
 
-static constexpr int kDistance = 24; // from the edges of the screen
+static constexpr int kDistance = metrics::kBlockGap; // from the edges of the screen
 static constexpr int kToastRadius = 12;
 static constexpr int kWidth = 320;
-static constexpr int kSide = 20;
-static constexpr int kEdge = 14;    // above the title
-static constexpr int kBarRoom = 16; // for the bar below the text; a note without one has it around its text
-static constexpr int kBarHeight = 6;
+static constexpr int kSide = metrics::kBlockGap;
+static constexpr int kEdge = metrics::kInset;    // above the title
+static constexpr int kBarRoom = metrics::kInset; // for the bar; a note without one has it around its text
+static constexpr int kBarHeight = 8;
 
 DesktopToast::DesktopToast(QWidget *parent)
     : DesktopToast(parent, Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
@@ -40,6 +41,7 @@ DesktopToast::DesktopToast(QWidget *parent, Qt::WindowFlags flags)
     m_text->setTextFormat(Qt::PlainText);
     m_text->setWordWrap(true);
     auto *column = new QVBoxLayout(this);
+    column->setSpacing(metrics::kGap);
     column->addWidget(m_title);
     column->addWidget(m_text);
     setFixedWidth(kWidth);

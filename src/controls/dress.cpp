@@ -5,8 +5,9 @@
 #include <QEvent>
 #include <QMenu>
 #include <QPalette>
-#include <QStyle>
+#include <QProxyStyle>
 
+#include "controls/metrics.h"
 #include "controls/palette.h"
 #include "controls/tooltips.h"
 
@@ -52,7 +53,9 @@ constexpr char16_t kMenuStyle[] =
 constexpr char16_t kDialogStyle[] =
     u"QDialog { background-color: @floating; }"
     "QLineEdit, QSpinBox, QComboBox, QPushButton { color: @text; background-color: @field;"
-    " border: 1px solid @edge; border-radius: 6px; padding: 4px 8px; min-height: 20px; font-size: 14px; }"
+    " border: 1px solid @edge; border-radius: 6px; padding: 4px 8px; min-height: 26px; font-size: 14px; }" // 36 in all,
+                                                                                                           // as every
+                                                                                                           // control is
     "QPushButton { min-width: 72px; }"
     "QLineEdit:hover, QSpinBox:hover, QComboBox:hover, QPushButton:hover { border-color: @hoveredEdge; }"
     "QLineEdit:focus, QSpinBox:focus, QComboBox:focus, QPushButton:focus { border-color: @mint; }"
@@ -86,13 +89,35 @@ protected:
     }
 };
 
+/// The toolkit's own style with the program's gaps, which every layout has that sets none of its own.
+class GridStyle : public QProxyStyle
+{
+public:
+    using QProxyStyle::QProxyStyle;
+
+    int pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const override
+    {
+        switch (metric) {
+        case PM_LayoutHorizontalSpacing:
+        case PM_LayoutVerticalSpacing:
+            return metrics::kGap;
+        case PM_LayoutLeftMargin:
+        case PM_LayoutTopMargin:
+        case PM_LayoutRightMargin:
+        case PM_LayoutBottomMargin:
+            return metrics::kInset;
+        default:
+            return QProxyStyle::pixelMetric(metric, option, widget);
+        }
+    }
+};
+
 } // namespace
 
 void dressApplication()
 {
-    const QString fusion = QStringLiteral("fusion"); // the same everywhere, and the only one that heeds a palette
-    if (QApplication::style()->name() != fusion)
-        QApplication::setStyle(fusion);
+    if (!dynamic_cast<GridStyle *>(QApplication::style())) // the same everywhere, and the only one that heeds a palette
+        QApplication::setStyle(new GridStyle(QStringLiteral("fusion")));
     QPalette palette;
     for (const Role &role : kRoles) {
         palette.setColor(QPalette::All, role.role, role.colour);

@@ -6,8 +6,9 @@
 #include "controls/pictures.h"
 
 namespace {
-constexpr QSize kEntrySize(208, 46);
-constexpr int kLeastHeight = 34; // in a bar of many entries on a small screen
+constexpr QSize kEntrySize(216, 48);
+constexpr int kPlateEdge = 1;    // above and below its plate, so that those of neighbours do not touch
+constexpr int kLeastHeight = 36; // in a bar of many entries on a small screen
 constexpr int kIconLeft = 19;
 constexpr int kIconSide = 24;
 constexpr int kCaptionLeft = 51;
@@ -81,7 +82,12 @@ void LeftTabButton::paintEvent(QPaintEvent *)
     const QColor color = !usable ? kEntryDisabled : isChecked() ? kEntryChecked : kEntryNormal;
     const QRect textRect = rect().adjusted(kCaptionLeft, 0, -kCaptionRightMargin, 0);
     drawCaption(painter, textRect, Qt::AlignLeft | Qt::AlignVCenter, color);
-    drawFocus(painter, rect(), 8.0);
+    drawFocus(painter, plate(), 8.0);
+}
+
+QRect LeftTabButton::plate() const
+{
+    return rect().adjusted(0, kPlateEdge, 0, -kPlateEdge);
 }
 
 void LeftTabButton::drawBackground(QPainter &painter) const
@@ -90,13 +96,13 @@ void LeftTabButton::drawBackground(QPainter &painter) const
     const QString state = isChecked() ? QStringLiteral("checked")
                           : hovered   ? QStringLiteral("hover")
                                       : QStringLiteral("normal");
-    if (Pictures::draw(painter, rect(), Pictures::ofState(Pictures::kRoot + QStringLiteral("img/left/tab"), state)))
+    if (Pictures::draw(painter, plate(), Pictures::ofState(Pictures::kRoot + QStringLiteral("img/left/tab"), state)))
         return;
     if (!isChecked() && !hovered)
         return;
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(isChecked() ? Palette::kLit : Palette::kField));
-    painter.drawRoundedRect(rect(), 8, 8);
+    painter.drawRoundedRect(plate(), 8, 8);
 }
 
 void LeftTabButton::drawIcon(QPainter &painter) const

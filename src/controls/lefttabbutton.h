@@ -43,6 +43,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    QRect plate() const;
     void drawBackground(QPainter &painter) const;
     void drawIcon(QPainter &painter) const;
 

@@ -21,7 +21,7 @@ constexpr int kTextLeft = 40;
 constexpr int kBelow = metrics::kGap; // which comes and goes with the strip
 constexpr char16_t kActionStyle[] =
     u"QPushButton { color: @mint; background: transparent; border: 1px solid transparent; border-radius: 6px;"
-    " padding: 3px 12px; outline: none; }"
+    " padding: 0 12px; outline: none; }"
     "QPushButton:hover { background-color: rgba(123, 250, 219, 26); }"
     "QPushButton:focus { border-color: @mint; }";
 
@@ -50,12 +50,14 @@ MessageStrip::MessageStrip(QWidget *parent)
     m_text->setFont(noteFont);
     m_text->setWordWrap(true);
     m_text->setTextFormat(Qt::PlainText);
+    m_text->setContentsMargins(0, metrics::kLineGap, 0, metrics::kLineGap);
     m_button->setObjectName(QStringLiteral("stripAction"));
     m_button->setFocusPolicy(Qt::StrongFocus);
     m_button->setFont(noteFont);
+    m_button->setFixedHeight(metrics::kControlHeight);
     m_button->setStyleSheet(Palette::styled(kActionStyle));
     auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(kTextLeft, 4, metrics::kGap, 4 + kBelow);
+    row->setContentsMargins(kTextLeft, 0, metrics::kGap, kBelow);
     row->setSpacing(metrics::kGap);
     row->addWidget(m_text, 1);
     row->addWidget(m_button);

@@ -8,11 +8,11 @@
 #include "controls/captionlabel.h"
 #include "controls/dash.h"
 #include "controls/dress.h"
+#include "controls/metrics.h"
 
 namespace {
 constexpr int kCaptionPixels = 15;
 constexpr int kValueWidth = 40;
-constexpr int kSpacing = 8;
 constexpr int kColourDot = 8;
 constexpr qreal kDimmed = 0.35;
 constexpr TextLook kValueLook{.colour = 0xffffffff, .pixels = kCaptionPixels, .disabled = 0xff444444};
@@ -33,7 +33,7 @@ SliderWidget::SliderWidget(const QString &name, int minimum, int maximum, QWidge
 
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(kSpacing);
+    row->setSpacing(metrics::kGap);
     row->addWidget(m_captionLabel);
     row->addWidget(m_slider, 1);
     row->addWidget(m_valueLabel);
@@ -80,7 +80,7 @@ void SliderWidget::setAccent(const QColor &accent)
 void SliderWidget::showAccent()
 {
     m_showsAccent = true;
-    m_captionLabel->setContentsMargins(kColourDot + kSpacing, 0, 0, 0);
+    m_captionLabel->setContentsMargins(kColourDot + metrics::kGap, 0, 0, 0);
     update();
 }
 

@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "controls/metrics.h"
 #include "controls/palette.h"
 #include "controls/pictures.h"
 #include "controls/wrappedlabel.h"
@@ -42,7 +43,8 @@ ZelmarDialog::ZelmarDialog(QWidget *parent) : QDialog(parent, Qt::Dialog | Qt::F
     setAccessibleDescription(text->text());
 
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(24, 16, 24, 20);
+    column->setContentsMargins(metrics::kBlockGap, metrics::kInset, metrics::kBlockGap, metrics::kBlockGap);
+    column->setSpacing(metrics::kGap);
     column->addWidget(title);
     column->addWidget(text, 1);
     column->addWidget(ok, 0, Qt::AlignHCenter);

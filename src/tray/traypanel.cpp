@@ -32,7 +32,6 @@
 namespace {
 
 constexpr int kWidth = 360;
-constexpr int kMargin = 16;
 
 } // namespace
 
@@ -55,7 +54,7 @@ void TrayPanel::build()
     dressPage(this);
     setFixedWidth(kWidth);
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(kMargin, 16, kMargin, 12);
+    column->setContentsMargins(metrics::kInset, metrics::kInset, metrics::kInset, metrics::kInset);
     column->setSpacing(metrics::kGap);
     m_header = new TrayPanelHeader(column, this);
     m_scroll = makeScrollArea(this);
@@ -83,6 +82,7 @@ QWidget *TrayPanel::buildBody()
     column->addLayout(m_places);
     m_arrange = makePlainButton(LABEL("Arrange the window"), QStringLiteral("arrangeWindow"), texts(), m_body);
     connect(m_arrange, &QPushButton::clicked, this, &TrayPanel::zonesWanted);
+    column->addSpacing(metrics::kGap);
     column->addWidget(m_arrange);
     column->addStretch(1);
     return m_body;

@@ -7,6 +7,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "controls/metrics.h"
 #include "controls/palette.h"
 #include "controls/pictures.h"
 #include "page/engine/labels.h"
@@ -19,7 +20,7 @@ TrayPanelFooter::TrayPanelFooter(const TrayChoices &choices, QVBoxLayout *column
     auto *footer = new QWidget(panel);
     auto *row = new QHBoxLayout(footer);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(8);
+    row->setSpacing(metrics::kGap);
     m_hint = new QLabel(footer);
     m_hint->setObjectName(QStringLiteral("panelHint"));
     m_hint->setWordWrap(true);

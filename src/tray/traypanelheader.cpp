@@ -8,6 +8,7 @@
 #include "controls/captionlabel.h"
 #include "controls/dash.h"
 #include "controls/dress.h"
+#include "controls/metrics.h"
 #include "controls/palette.h"
 
 namespace {
@@ -30,7 +31,7 @@ TrayPanelHeader::TrayPanelHeader(QVBoxLayout *column, QWidget *panel) : QObject(
     m_sceneMark = new ValueMark(header);
     auto *grid = new QGridLayout(header);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->setVerticalSpacing(4);
+    grid->setVerticalSpacing(metrics::kLineGap);
     grid->addWidget(m_name, 0, 0);
     grid->addWidget(m_dot, 0, 1, Qt::AlignRight);
     grid->addWidget(m_state, 1, 0);

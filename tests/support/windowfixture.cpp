@@ -1,5 +1,10 @@
 #include "support/windowfixture.h"
 
+#include <QStackedWidget>
+#include <QtTest>
+
+#include "page/engine/panelpage.h"
+
 void WindowFixture::start(int scene, std::size_t monitor, const std::function<void()> &prepare)
 {
     m_desk = std::make_unique<SessionDesk>(scene, monitor);
@@ -22,4 +27,22 @@ void WindowFixture::cleanup()
     m_window.reset();
     QVERIFY(!MainWindow::instance());
     m_desk.reset();
+}
+
+void WindowFixture::onEveryPage(const std::function<void(QWidget *page)> &look)
+{
+    const auto *stack = m_window->scenePage()->parentWidget();
+    for (int family = 0; family < kFamilies; ++family) {
+        QTest::mouseClick(m_window->tabs()->tabs()[static_cast<std::size_t>(family)], Qt::LeftButton);
+        for (LeftTabButton *entry : m_window->leftBar(family)->buttons()) {
+            QTest::mouseClick(entry, Qt::LeftButton);
+            auto *page = static_cast<const QStackedWidget *>(stack)->currentWidget();
+            auto *panels = qobject_cast<PanelPage *>(page);
+            for (int i = 0; i < (panels ? panels->panelCount() : 1); ++i) {
+                if (panels && !panels->entries().empty())
+                    panels->showPanel(i);
+                look(page);
+            }
+        }
+    }
 }

@@ -83,9 +83,9 @@ void ShortcutRow::buildSide(int direction)
 void ShortcutRow::layOut()
 {
     auto *grid = new QGridLayout(this);
-    grid->setContentsMargins(16, 8, 16, 8);
+    grid->setContentsMargins(metrics::kInset, metrics::kGap, metrics::kInset, metrics::kGap);
     grid->setHorizontalSpacing(metrics::kGap);
-    grid->setVerticalSpacing(4);
+    grid->setVerticalSpacing(metrics::kLineGap);
     int column = 0;
     grid->addWidget(m_switch, 0, column++);
     grid->addWidget(m_name, 0, column++);

@@ -26,7 +26,7 @@ namespace {
 
 constexpr int kCaptionPixels = 15;
 constexpr int kEndsHeight = 20;
-constexpr int kValueWidth = 96; // behind a slider: its value and the room for a lock
+constexpr int kValueWidth = 84; // behind a groove: its value and the room for a lock
 
 QLabel *makeCaption(QRgb colour, QWidget *parent)
 {

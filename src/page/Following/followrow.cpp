@@ -50,7 +50,7 @@ FollowRow::FollowRow(QWidget *parent)
 void FollowRow::layOut()
 {
     auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(16, 8, 16, 8);
+    row->setContentsMargins(metrics::kInset, metrics::kGap, metrics::kInset, metrics::kGap);
     row->setSpacing(metrics::kGap);
     row->addWidget(m_name);
     row->addWidget(m_pathField, 1);

@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 
+#include "controls/metrics.h"
 #include "page/Health/healthlabel.h"
 #include "page/Health/healthtexts.h"
 #include "page/engine/boundtexts.h"
@@ -21,8 +22,8 @@ QWidget *makeError(const LinkError &error, QWidget *parent)
     row->setObjectName(QStringLiteral("healthError"));
     row->setMinimumHeight(kErrorHeight);
     auto *cells = new QHBoxLayout(row);
-    cells->setContentsMargins(16, 2, 8, 2);
-    cells->setSpacing(16);
+    cells->setContentsMargins(metrics::kInset, 0, metrics::kGap, 0);
+    cells->setSpacing(metrics::kInset);
     QLabel *const time = makeHealthLabel(QStringLiteral("note"), 13, row);
     time->setText(error.until.toString(QStringLiteral("hh:mm:ss")));
     time->setFixedWidth(kTimeWidth);
@@ -50,7 +51,7 @@ HealthErrors::HealthErrors(BoundTexts &texts, QWidget *parent) : QScrollArea(par
     content->setObjectName(QStringLiteral("customArea"));
     m_rows = new QVBoxLayout(content);
     m_rows->setContentsMargins(0, 0, 0, 0);
-    m_rows->setSpacing(4);
+    m_rows->setSpacing(metrics::kLineGap);
     m_rows->setAlignment(Qt::AlignTop);
     setWidget(content);
 }

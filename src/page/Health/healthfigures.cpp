@@ -24,7 +24,7 @@ HealthFigures::HealthFigures(BoundTexts &texts, QWidget *parent) : QWidget(paren
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(metrics::kGap);
     auto *row = new QHBoxLayout;
-    row->setSpacing(8);
+    row->setSpacing(metrics::kGap);
     for (int i = 0; i < kHealthFigures; ++i)
         row->addWidget(buildTile(m_tiles[static_cast<std::size_t>(i)], figureCaption(i)), 1);
     column->addLayout(row);
@@ -37,8 +37,8 @@ QWidget *HealthFigures::buildTile(Tile &tile, const char *caption)
     frame->setObjectName(QStringLiteral("healthTile"));
     frame->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // all of one width, whatever they say
     auto *column = new QVBoxLayout(frame);
-    column->setContentsMargins(16, 10, 8, 10);
-    column->setSpacing(2);
+    column->setContentsMargins(metrics::kInset, metrics::kGap, metrics::kGap, metrics::kGap);
+    column->setSpacing(metrics::kLineGap);
     QLabel *const title = makeHealthLabel(QStringLiteral("note"), 13, caption, m_texts, frame);
     tile.value = makeHealthLabel(QStringLiteral("healthValue"), 26, frame);
     tile.detail = new CaptionLabel(QString(), 13, frame);
@@ -54,7 +54,7 @@ QWidget *HealthFigures::buildCurve()
     auto *frame = new QFrame(this);
     frame->setObjectName(QStringLiteral("healthTile"));
     auto *column = new QVBoxLayout(frame);
-    column->setContentsMargins(16, 8, 16, 8);
+    column->setContentsMargins(metrics::kInset, metrics::kGap, metrics::kInset, metrics::kGap);
     column->setSpacing(0);
     column->addWidget(
         makeHealthLabel(QStringLiteral("note"), 13, LABEL("Answer times, last ten minutes"), m_texts, frame));

@@ -92,7 +92,7 @@ QWidget *HealthPanel::buildButtons()
     auto *part = new QWidget(this);
     auto *row = new QHBoxLayout(part);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(8);
+    row->setSpacing(metrics::kGap);
     m_read = makePlainButton(LABEL("Read everything once"), QStringLiteral("readEverything"), m_texts, part);
     m_read->setProperty("waiting", true);
     connect(m_read, &QPushButton::clicked, this, &HealthPanel::onReadPressed);

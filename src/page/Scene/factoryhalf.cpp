@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "controls/metrics.h"
 #include "controls/monitorpicture.h"
 #include "controls/testpicture.h"
 #include "ddc_protocol/devicestate.h"
@@ -25,7 +26,7 @@ FactoryHalf::FactoryHalf(BoundTexts &texts, QWidget *parent)
     });
     m_words->setAlignment(Qt::AlignCenter);
     auto *column = new QVBoxLayout(this);
-    column->setSpacing(16);
+    column->setSpacing(metrics::kInset);
     column->addStretch(2);
     column->addWidget(m_look, 0, Qt::AlignHCenter);
     column->addWidget(m_words);

@@ -47,7 +47,7 @@ SplitterKeys::SplitterKeys(KeyFields &fields, BoundTexts &texts, QWidget *parent
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(metrics::kRowGap);
-    grid->setVerticalSpacing(metrics::kGap / 2);
+    grid->setVerticalSpacing(metrics::kLineGap);
     m_problem->setObjectName(QStringLiteral("notice"));
     dressText(m_problem, {Palette::kError});
     m_problem->setWordWrap(true);

@@ -24,9 +24,8 @@ namespace {
 
 constexpr platform::milliseconds kSettles{500}; // while it opens the front may come and go
 constexpr int kWidth = 420;
-constexpr int kSide = 20;
+constexpr int kSide = metrics::kBlockGap;
 constexpr int kTitlePixels = 18;
-constexpr int kGap = 6; // between zones
 constexpr int kOverlayRadius = 14;
 constexpr QSize kTallest(kWidth - 2 * kSide, 320);
 
@@ -68,7 +67,7 @@ ZoneOverlay::ZoneOverlay()
     m_hint->setWordWrap(true);
     m_hint->setAlignment(Qt::AlignHCenter);
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(kSide, kSide - 4, kSide, kSide - 4);
+    column->setContentsMargins(kSide, metrics::kInset, kSide, metrics::kInset);
     column->setSpacing(metrics::kGap);
     column->addWidget(m_title);
     column->addWidget(m_picture, 0, Qt::AlignHCenter);
@@ -110,7 +109,7 @@ void ZoneOverlay::makeZones(const SplitLayout &layout, std::optional<int> curren
         button->setAccessibleName(QObject::tr("Zone %1 of %2").arg(zone + 1).arg(layout.zones.size()));
         button->setCheckable(true);
         button->setChecked(zone == current);
-        constexpr int kHalf = kGap / 2;
+        constexpr int kHalf = metrics::kGap / 2; // of what is between zones
         button->setGeometry(
             zoneOnPicture(layout.zones[i], m_picture->rect()).toRect().adjusted(kHalf, kHalf, -kHalf, -kHalf));
         connect(button, &QPushButton::clicked, this, [this, zone] { choose(zone); });

@@ -100,7 +100,7 @@ QWidget *ListPage::buildList()
     content->setObjectName(QStringLiteral("customArea"));
     m_rows = new QVBoxLayout(content);
     m_rows->setContentsMargins(0, 0, 0, 0);
-    m_rows->setSpacing(8);
+    m_rows->setSpacing(metrics::kGap);
     m_nothing->setAlignment(Qt::AlignCenter);
     m_nothing->setParent(content);
     m_rows->addWidget(m_nothing, 1);
@@ -193,7 +193,7 @@ void ListPage::paintEvent(QPaintEvent *)
 QPushButton *makeTrashButton(QWidget *parent)
 {
     auto *button = new QPushButton(parent);
-    button->setFixedSize(32, 32);
+    button->setFixedSize(metrics::kControlHeight, metrics::kControlHeight);
     const QString folder = Pictures::kRoot + QStringLiteral("img/basicSetting/shortcutKey/");
     button->setStyleSheet(QString::fromLatin1(kTrashStyle).arg(folder));
     return button;

@@ -9,6 +9,7 @@
 #include "controls/accessiblecontrol.h"
 #include "controls/focusgroup.h"
 #include "controls/lefttabbutton.h"
+#include "controls/metrics.h"
 #include "controls/palette.h"
 #include "controls/pictures.h"
 #include "page/engine/boundtexts.h"
@@ -20,7 +21,6 @@ namespace {
 
 constexpr int kListWidth = 232;
 constexpr int kEntryPitch = 48;
-constexpr int kTop = 16;
 constexpr int kListEdge = 1; // the line between it and the panels
 constexpr char16_t kArrowStyle[] = u"QPushButton { background: transparent; border: none; color: @dim; }"
                                    "QPushButton:hover { color: @mint; }";
@@ -37,8 +37,8 @@ PanelList::PanelList(BoundTexts &texts, QWidget *parent) : QFrame(parent), m_tex
     m_texts.bind(LABEL("Settings"), [entries](const QString &text) { entries->setAccessibleName(text); });
     m_stop = new FocusGroup(entries);
     m_column = new QVBoxLayout(entries);
-    m_column->setContentsMargins(12, 0, 12, 0);
-    m_column->setSpacing(2);
+    m_column->setContentsMargins(metrics::kGap, 0, metrics::kGap, 0);
+    m_column->setSpacing(0);
     m_column->addStretch(1);
 
     m_area = makeScrollArea(this);
@@ -50,7 +50,7 @@ PanelList::PanelList(BoundTexts &texts, QWidget *parent) : QFrame(parent), m_tex
     m_texts.bind(LABEL("Scroll down"), [down](const QString &text) { down->setAccessibleName(text); });
 
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, kTop, kListEdge, 0);
+    layout->setContentsMargins(0, metrics::kInset, 0, 0);
     layout->addWidget(upper);
     layout->addWidget(m_area, 1);
     layout->addWidget(down);

@@ -41,7 +41,8 @@ UndoBar::UndoBar(QWidget *parent) : QFrame(parent), m_text(new WrappedLabel(this
     m_button->setFixedHeight(metrics::kControlHeight);
     m_button->setFocusPolicy(Qt::StrongFocus);
     auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(16, 8, 8, 10);
+    row->setContentsMargins(metrics::kInset, metrics::kGap, metrics::kGap, metrics::kGap);
+    row->setSpacing(metrics::kInset);
     row->addWidget(m_text, 1);
     row->addWidget(m_button);
     connect(m_button, &QPushButton::clicked, this, [this] {

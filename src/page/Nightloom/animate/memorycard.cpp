@@ -15,7 +15,6 @@
 
 namespace {
 
-constexpr int kMargin = 12;
 constexpr int kNamePixels = 15;
 constexpr int kNameHeight = 22;
 constexpr int kNoteHeight = 88;
@@ -34,7 +33,7 @@ MemoryCard::MemoryCard(const AnimationMemory &memory, BoundTexts &texts, QWidget
     m_note->setFixedHeight(kNoteHeight);
     m_note->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    column->setContentsMargins(metrics::kInset, metrics::kInset, metrics::kInset, metrics::kInset);
     column->setSpacing(metrics::kGap);
     column->addWidget(m_name);
     column->addWidget(m_picture);

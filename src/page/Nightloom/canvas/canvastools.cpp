@@ -51,7 +51,7 @@ constexpr Tool kFileTools[] = {
 QGridLayout *makeGrid(std::span<const Tool> tools, BoundTexts &texts, const pageLEDMatrixCanvas &page, QWidget *parent)
 {
     auto *grid = new QGridLayout;
-    grid->setSpacing(8);
+    grid->setSpacing(metrics::kGap);
     for (int i = 0; i < static_cast<int>(tools.size()); ++i) {
         const Tool &tool = tools[static_cast<std::size_t>(i)];
         QPushButton *button = makeToolButton(tool.label, texts, parent);
@@ -95,7 +95,7 @@ CanvasTools::CanvasTools(pageLEDMatrixCanvas &page, FramePlayer &player, BoundTe
 void CanvasTools::buildViewTools(const pageLEDMatrixCanvas &page, FramePlayer &player, QVBoxLayout *column)
 {
     auto *row = new QHBoxLayout;
-    row->setSpacing(8);
+    row->setSpacing(metrics::kGap);
     QPushButton *preview = makeToolButton(LABEL("Preview"), m_texts, m_tools);
     QPushButton *onionSkin = makeToolButton(LABEL("Onion Skin"), m_texts, m_tools);
     preview->setCheckable(true);
@@ -139,7 +139,7 @@ QWidget *CanvasTools::buildModeBox()
     auto *part = new QWidget(m_tools);
     auto *row = new QHBoxLayout(part);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(8);
+    row->setSpacing(metrics::kGap);
     auto *caption = new CaptionLabel(QString(), 15, part);
     caption->setStyleSheet(Palette::styled(u"QLabel { color: @text; } QLabel:disabled { color: @disabled; }"));
     caption->setFixedWidth(kToolCaptionWidth);

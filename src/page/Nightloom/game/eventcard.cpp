@@ -12,7 +12,6 @@ namespace {
 
 constexpr QSize kPictureSize(280, 224);
 constexpr int kNamePixels = 15;
-constexpr int kMargin = 12;
 
 } // namespace
 
@@ -23,7 +22,7 @@ EventCard::EventCard(QWidget *parent)
     m_name->setObjectName(QStringLiteral("matrixName"));
     m_picture->setFixedSize(kPictureSize);
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    column->setContentsMargins(metrics::kInset, metrics::kInset, metrics::kInset, metrics::kInset);
     column->setSpacing(metrics::kGap);
     column->addWidget(m_name);
     column->addWidget(m_picture);

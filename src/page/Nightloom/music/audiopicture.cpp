@@ -4,6 +4,7 @@
 
 #include <QPainter>
 
+#include "controls/metrics.h"
 #include "controls/palette.h"
 #include "usb-hid/accessorylink.h"
 
@@ -11,7 +12,6 @@ namespace {
 
 constexpr int kStepsPerLimit = 3;
 constexpr int kMatrixWidth = 270;
-constexpr int kGap = 28;
 constexpr int kCaptionHeight = 24;
 constexpr int kCaptionPixels = 12;
 constexpr int kCell = 10; // before it is scaled to what fits
@@ -89,14 +89,15 @@ void AudioPicture::setTemplate(AudioTemplate which)
 
 void AudioPicture::paintEvent(QPaintEvent *)
 {
+    using namespace metrics;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRect matrix(width() - kMatrixWidth, 0, kMatrixWidth, height());
-    const QRect bars(0, 0, matrix.left() - kGap, height());
+    const QRect bars(0, 0, matrix.left() - kBlockGap, height());
     paintPanel(painter, bars);
     paintPanel(painter, matrix);
-    paintBars(painter, bars.adjusted(20, 20, -20, -12));
-    paintMatrix(painter, matrix.adjusted(10, 12, -10, -12));
+    paintBars(painter, bars.adjusted(kBlockGap, kBlockGap, -kBlockGap, -kInset));
+    paintMatrix(painter, matrix.adjusted(kGap, kInset, -kGap, -kInset));
 }
 
 /// How high a bar is, of what it can be.

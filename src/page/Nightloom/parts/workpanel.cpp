@@ -11,6 +11,7 @@
 
 #include "controls/announcer.h"
 #include "controls/messagestrip.h"
+#include "controls/metrics.h"
 #include "page/Nightloom/parts/toolcolumn.h"
 #include "page/engine/boundtexts.h"
 #include "page/engine/labels.h"
@@ -57,12 +58,12 @@ void WorkPanel::layOut()
     m_cancel->setSizePolicy(policy);
     m_cancel->hide();
     auto *row = new QHBoxLayout;
-    row->setSpacing(8);
+    row->setSpacing(metrics::kGap);
     row->addWidget(m_bar, 1);
     row->addWidget(m_cancel, 0, Qt::AlignRight);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(8);
+    column->setSpacing(metrics::kGap);
     column->addLayout(row);
     column->addWidget(m_step);
 }
