@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include "controls/labelled.h"
 #include "controls/palette.h"
 
 namespace {
@@ -17,9 +18,9 @@ LockSign::LockSign(QWidget *parent) : PaintedControl(parent)
     hide();
 }
 
-void LockSign::setReason(const QString &reason)
+void LockSign::setReason(const QString &locked, const QString &reason)
 {
-    setAccessibleName(reason);
+    setAccessibleName(labelled(locked, reason));
     setToolTip(reason);
     setVisible(!reason.isEmpty());
 }

@@ -14,9 +14,10 @@ public:
 
     explicit LockSign(QWidget *parent = nullptr);
 
-    /// The sentence, translated; its accessible name and its tooltip. Empty hides the sign.
-    void setReason(const QString &reason);
-    QString reason() const { return accessibleName(); }
+    /// What cannot be used, and the sentence that says why, both translated: together they are its accessible name, the
+    /// reason is its tooltip. No reason hides the sign.
+    void setReason(const QString &locked, const QString &reason);
+    QString reason() const { return toolTip(); }
 
     QAccessible::Role accessibleRole() const override { return QAccessible::Button; }
     void press() override { Q_EMIT pressed(); }

@@ -226,7 +226,7 @@ void OptionGroupRow::setLocks(const QStringList &reasons, bool areAllKnown)
     QStringList said = reasons;
     said.removeAll(QString());
     said.removeDuplicates();
-    m_sign->setReason(said.join(QLatin1Char('\n')));
+    m_sign->setReason(accessibleName(), said.join(QLatin1Char('\n')));
     for (std::size_t i = 0; i < m_buttons.size(); ++i)
         m_buttons[i]->setEnabled(m_locks.value(static_cast<qsizetype>(i)).isEmpty());
     m_caption->setEnabled(m_locks.isEmpty() || m_locks.contains(QString())); // as that of a slider that is locked

@@ -31,7 +31,7 @@ void PageLocks::apply()
             continue;
         const QString reason = reasonOf(lockOf(m_rules, entry.widget->name(), deviceState));
         entry.widget->setLock(reason);
-        entry.sign->setReason(reason);
+        entry.sign->setReason(entry.widget->accessibleName(), reason);
     }
     for (OptionGroupRow *row : m_controls.groups()) {
         QStringList reasons;
