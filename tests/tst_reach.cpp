@@ -91,7 +91,7 @@ QString faultOf(Interface *at, std::map<QString, int> &names)
                                       QAccessible::Canvas})) &&
         !isNamed)
         return QStringLiteral("no name");
-    if (isRole(at, {QAccessible::Slider, QAccessible::RadioButton}) &&
+    if (isRole(at, {QAccessible::Slider, QAccessible::RadioButton, QAccessible::Button}) &&
         names[QString::number(at->role()) + nameOf(at)]++ > 0)
         return QStringLiteral("the name of another one");
     if (isRole(at, {QAccessible::Slider, QAccessible::Chart, QAccessible::Canvas, QAccessible::ColorChooser}) &&
@@ -145,6 +145,7 @@ class TestReach : public WindowFixture
 private Q_SLOTS:
     void everyControlSaysWhatItIs();
     void arrowsOnlyMove();
+    void entriesTellTheirStates();
     void assistiveSoftwareMovesSliders();
     void oneObjectTells();
 
@@ -234,6 +235,53 @@ void TestReach::arrowsOnlyMove()
         QTest::keyClick(tabs, walk);
         QCOMPARE(tabs->currentIndex(), open);
     }
+}
+
+/// Of lists and bars of tabs, whose entries are no widgets.
+void TestReach::entriesTellTheirStates()
+{
+    start(10);
+    const auto open = [this](int family, const char *label) {
+        QTest::mouseClick(m_window->tabs()->tabs()[static_cast<std::size_t>(family)], Qt::LeftButton);
+        QTest::mouseClick(entry(family, label), Qt::LeftButton);
+    };
+    m_window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    open(kFamilies - 2, "Custom Mode");
+    const QWidget *canvas = m_window->page(PageId::LedCanvas)->widget();
+    canvas->findChild<QPushButton *>(QStringLiteral("Add Frame"))->click();
+    auto *tabs = canvas->findChild<QTabBar *>();
+    const auto told = [tabs] {
+        QStringList said = {nameOf(seen(tabs))};
+        walk(seen(tabs), [&said](Interface *at) {
+            if (at->state().selected)
+                said += nameOf(at) + QStringLiteral(" chosen");
+            if (at->state().focused)
+                said += nameOf(at) + QStringLiteral(" focused");
+        });
+        return said.join(QStringLiteral(", "));
+    };
+    QCOMPARE(told(), QStringLiteral("Frames, Frame 2 chosen"));
+    tabs->setFocus();
+    QTest::keyClick(tabs, Qt::Key_Home);
+    QCOMPARE(told(), QStringLiteral("Frames, Frame 1 focused, Frame 2 chosen"));
+    seen(tabs)->child(0)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QTRY_COMPARE(told(), QStringLiteral("Frames, Frame 1 chosen, Frame 1 focused"));
+
+    open(kFamilies - 1, "Shortcut Key");
+    const QWidget *keys = m_window->page(PageId::ShortcutKey)->widget();
+    auto *box = keys->findChild<QComboBox *>();
+    box->setCurrentIndex(1);
+    keys->findChild<QPushButton *>(QStringLiteral("pushButton_2"))->click();
+    box->showPopup();
+    Interface *list = seen(box)->child(0);
+    Interface *listed = list->child(1);
+    QCOMPARE(nameOf(list), nameOf(seen(box)));
+    QVERIFY(listed->state().disabled && !listed->state().selectable && listed->state().checked);
+    QVERIFY(!listed->text(QAccessible::Description).isEmpty() && listed->actionInterface()->actionNames().isEmpty());
+    QVERIFY(!list->child(2)->state().disabled && !list->child(2)->state().checked);
+    list->child(2)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QTRY_COMPARE(box->currentIndex(), 2);
 }
 
 /// Also those that send when they are let go.

@@ -44,6 +44,10 @@
         <translation>%1 does not have &quot;%2&quot;.</translation>
     </message>
     <message>
+        <source>%1 frames a second</source>
+        <translation>%1 frames a second</translation>
+    </message>
+    <message>
         <source>%1 goes to the level before.</source>
         <translation>%1 goes to the level before.</translation>
     </message>
@@ -110,6 +114,10 @@
     <message>
         <source>%1 of %2 values were told, in %3 s.</source>
         <translation>%1 of %2 values were told, in %3 s.</translation>
+    </message>
+    <message>
+        <source>%1 pixels</source>
+        <translation>%1 pixels</translation>
     </message>
     <message>
         <source>%1 requests are recorded in %2</source>
@@ -1582,6 +1590,10 @@
     <message>
         <source>Frame %1</source>
         <translation>Frame %1</translation>
+    </message>
+    <message>
+        <source>Frames</source>
+        <translation>Frames</translation>
     </message>
     <message>
         <source>Frames/s</source>

@@ -44,6 +44,10 @@
         <translation>%1&#xa0;には「%2」がありません。</translation>
     </message>
     <message>
+        <source>%1 frames a second</source>
+        <translation>毎秒&#xa0;%1&#xa0;フレーム</translation>
+    </message>
+    <message>
         <source>%1 goes to the level before.</source>
         <translation>%1: 前のレベル</translation>
     </message>
@@ -110,6 +114,10 @@
     <message>
         <source>%1 of %2 values were told, in %3 s.</source>
         <translation>%2&#xa0;個の値のうち&#xa0;%1&#xa0;個を&#xa0;%3&#xa0;秒で読み取りました。</translation>
+    </message>
+    <message>
+        <source>%1 pixels</source>
+        <translation>%1&#xa0;ピクセル</translation>
     </message>
     <message>
         <source>%1 requests are recorded in %2</source>
@@ -1582,6 +1590,10 @@
     <message>
         <source>Frame %1</source>
         <translation>フレーム&#xa0;%1</translation>
+    </message>
+    <message>
+        <source>Frames</source>
+        <translation>フレーム</translation>
     </message>
     <message>
         <source>Frames/s</source>

@@ -44,6 +44,10 @@
         <translation>%1&#xa0;沒有「%2」。</translation>
     </message>
     <message>
+        <source>%1 frames a second</source>
+        <translation>每秒&#xa0;%1&#xa0;畫格</translation>
+    </message>
+    <message>
         <source>%1 goes to the level before.</source>
         <translation>%1：切換到上一級。</translation>
     </message>
@@ -110,6 +114,10 @@
     <message>
         <source>%1 of %2 values were told, in %3 s.</source>
         <translation>已讀取&#xa0;%2&#xa0;個值中的&#xa0;%1&#xa0;個，用時&#xa0;%3&#xa0;秒。</translation>
+    </message>
+    <message>
+        <source>%1 pixels</source>
+        <translation>%1&#xa0;像素</translation>
     </message>
     <message>
         <source>%1 requests are recorded in %2</source>
@@ -1582,6 +1590,10 @@
     <message>
         <source>Frame %1</source>
         <translation>第&#xa0;%1&#xa0;個畫格</translation>
+    </message>
+    <message>
+        <source>Frames</source>
+        <translation>畫格</translation>
     </message>
     <message>
         <source>Frames/s</source>

@@ -9,6 +9,7 @@
 #include <QComboBox>
 
 #include "controls/accessiblecontrol.h"
+#include "controls/accessibleentries.h"
 #include "controls/focusgroup.h"
 #include "controls/nowheelslider.h"
 
@@ -232,6 +233,14 @@ class AccessibleHolder : public AccessiblePart
 public:
     explicit AccessibleHolder(QWidget *widget) : AccessiblePart(widget) {}
     QAccessible::Role role() const override { return roleOf(object(), QAccessible::Client); }
+
+    /// What hands the focus on never has it.
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = AccessiblePart::state();
+        state.focusable = state.focusable && !widget()->focusProxy();
+        return state;
+    }
 };
 
 template <class Kind> QAccessibleInterface *make(QWidget *widget)
@@ -244,8 +253,9 @@ constexpr struct
 {
     const char *className;
     QAccessibleInterface *(*make)(QWidget *widget);
-} kKinds[] = {{"QPushButton", &make<AccessibleButton>},
-              {"QComboBox", &make<AccessibleBox>},
+} kKinds[] = {{"QPushButton", &make<AccessibleButton>},  {"QComboBox", &make<AccessibleBox>},
+              {"QListView", &make<AccessibleList>},      {"QTabBar", &make<AccessibleTabs>},
+              {"QTabWidget", &make<AccessibleHolder>},   {"QKeySequenceEdit", &make<AccessibleHolder>},
               {"NoWheelSlider", &make<AccessibleSlider>}};
 
 } // namespace

@@ -16,6 +16,7 @@ constexpr struct
     {"virtualdesk::DesktopPanel", QAccessible::Pane},   {"virtualdesk::AccessoryPanel", QAccessible::Pane},
     {"virtualdesk::SoundPanel", QAccessible::Pane},     {"virtualdesk::ScreenView", QAccessible::Graphic},
     {"virtualdesk::WindowsView", QAccessible::Graphic}, {"virtualdesk::MatrixView", QAccessible::Graphic},
+    {"virtualdesk::OsdList", QAccessible::Pane},
 };
 
 QAccessibleInterface *describe(const QString &className, QObject *object)

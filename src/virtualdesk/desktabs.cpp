@@ -19,7 +19,7 @@ public:
     {
         setDrawBase(false);
         setObjectName(QStringLiteral("deskTabs"));
-        connect(this, &QTabBar::currentChanged, this, [this](int index) { m_focused = index; });
+        connect(this, &QTabBar::currentChanged, this, [this](int index) { setFocused(index); });
     }
 
 protected:
@@ -36,7 +36,7 @@ protected:
 
     void focusInEvent(QFocusEvent *event) override
     {
-        m_focused = currentIndex();
+        setFocused(currentIndex());
         QTabBar::focusInEvent(event);
         update();
     }
@@ -75,9 +75,16 @@ private:
         }
     }
 
+    /// What tells assistive software of the tabs knows the property.
+    void setFocused(int index)
+    {
+        m_focused = index;
+        setProperty("focusedEntry", index);
+    }
+
     void moveTo(int index)
     {
-        m_focused = std::clamp(index, 0, count() - 1);
+        setFocused(std::clamp(index, 0, count() - 1));
         update();
         QAccessibleEvent told(this, QAccessible::Focus);
         told.setChild(m_focused);

@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QKeySequenceEdit>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QTextDocument>
@@ -138,6 +139,8 @@ void DesktopPanel::retranslate()
 {
     m_keyTitle->setText(QObject::tr("Keyboard"));
     m_key->setAccessibleName(QObject::tr("Combination to press"));
+    if (auto *field = m_key->findChild<QLineEdit *>()) // which has the focus
+        field->setAccessibleName(m_key->accessibleName());
     m_key->setToolTip(QObject::tr("Type the combination here, then press it on the whole desktop"));
     m_press->setText(QObject::tr("Press"));
     m_take->setText(QObject::tr("Taken by another"));

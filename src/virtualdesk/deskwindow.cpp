@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QTabBar>
 #include <QVBoxLayout>
 
 #include "virtualdesk/accessorypanel.h"
@@ -109,6 +110,7 @@ void DeskWindow::changeEvent(QEvent *event)
 void DeskWindow::retranslate()
 {
     setWindowTitle(QObject::tr("QUORVEL desk"));
+    m_tabs->tabBar()->setAccessibleName(QObject::tr("Sections"));
     for (const auto &retranslatePanel : m_retranslate)
         retranslatePanel();
 }

@@ -55,7 +55,7 @@ void pageShortcutKey::fillFunctions()
 /// A function has one row: those that have theirs are ticked and cannot be chosen.
 void pageShortcutKey::markFunctions()
 {
-    markListed(m_functions, [this](const QVariant &function) {
+    markListed(m_functions, QObject::tr("This function has its row already."), [this](const QVariant &function) {
         return std::any_of(m_rows.begin(), m_rows.end(),
                            [number = function.toInt()](const ShortcutRow *row) { return row->function() == number; });
     });

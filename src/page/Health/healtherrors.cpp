@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 
+#include "controls/accessiblecontrol.h"
 #include "controls/metrics.h"
 #include "page/Health/healthlabel.h"
 #include "page/Health/healthtexts.h"
@@ -42,6 +43,7 @@ QWidget *makeError(const LinkError &error, QWidget *parent)
 
 HealthErrors::HealthErrors(BoundTexts &texts, QWidget *parent) : QScrollArea(parent)
 {
+    describeAs(this, QAccessible::Pane);
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
     setFixedHeight(kHeight);

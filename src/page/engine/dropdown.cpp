@@ -70,13 +70,14 @@ QComboBox *makeDropDown(QWidget *parent)
     return box;
 }
 
-void markListed(QComboBox *box, const std::function<bool(const QVariant &)> &isListed)
+void markListed(QComboBox *box, const QString &reason, const std::function<bool(const QVariant &)> &isListed)
 {
     const auto *model = static_cast<QStandardItemModel *>(box->model());
     for (int row = 0; row < model->rowCount(); ++row) {
         QStandardItem *item = model->item(row);
         const bool listed = isListed(item->data(Qt::UserRole));
         item->setEnabled(!listed);
+        item->setToolTip(listed ? reason : QString());
         item->setData(listed ? Qt::Checked : Qt::Unchecked, Qt::CheckStateRole);
     }
 }

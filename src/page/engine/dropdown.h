@@ -3,6 +3,7 @@
 #include <functional>
 
 class QComboBox;
+class QString;
 class QVariant;
 class QWidget;
 
@@ -10,5 +11,5 @@ class QWidget;
 /// closed.
 QComboBox *makeDropDown(QWidget *parent);
 
-/// Ticks the entries of a drop-down whose data are listed elsewhere already; they cannot be chosen.
-void markListed(QComboBox *box, const std::function<bool(const QVariant &)> &isListed);
+/// Ticks the entries of a drop-down whose data are listed elsewhere already; they cannot be chosen, for this reason.
+void markListed(QComboBox *box, const QString &reason, const std::function<bool(const QVariant &)> &isListed);

@@ -24,8 +24,7 @@
 
 namespace {
 
-constexpr int kSmallestCell = 6; // pixels
-constexpr int kBiggestCell = 20;
+constexpr ToolSlider kCellSize = {LABEL("Cell Size"), 6, 20, LABEL("%1 pixels")};
 
 struct Tool
 {
@@ -105,8 +104,7 @@ void CanvasTools::buildViewTools(const pageLEDMatrixCanvas &page, FramePlayer &p
     row->addWidget(preview);
     row->addWidget(onionSkin);
     column->addLayout(row);
-    m_cellSize = makeToolSlider(LABEL("Cell Size"), kSmallestCell, kBiggestCell, matrixForms().front().cellSize,
-                                m_texts, m_tools);
+    m_cellSize = makeToolSlider(kCellSize, matrixForms().front().cellSize, m_texts, m_tools);
     connect(m_cellSize, &SliderWidget::sliderValueChanged, this,
             [this](const QString &, int value) { Q_EMIT cellSizeChosen(value); });
     column->addWidget(makeSpeedSlider(player, m_texts, m_tools));

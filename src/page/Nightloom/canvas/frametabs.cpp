@@ -164,7 +164,12 @@ void FrameTabs::addSheet(int index, const AnimationFrame &frame)
     connect(matrixEditor, &MatrixEditor::cursorMoved, m_view,
             [this](const QRect &cell) { m_view->ensureVisible(cell.center().x(), cell.center().y()); });
     insertTab(index, page, QString::number(frame.number));
-    tabBar()->setAccessibleTabName(index, QObject::tr("Frame %1").arg(frame.number));
+    nameTab(index);
+}
+
+void FrameTabs::nameTab(int index)
+{
+    tabBar()->setAccessibleTabName(index, QObject::tr("Frame %1").arg(tabText(index)));
 }
 
 QByteArrayList FrameTabs::digits() const
@@ -207,6 +212,9 @@ void FrameTabs::showInstead(int index)
 void FrameTabs::updateControlText()
 {
     setAccessibleName(QObject::tr("Custom Mode"));
-    for (int i = 0; i < count(); ++i)
+    tabBar()->setAccessibleName(QObject::tr("Frames"));
+    for (int i = 0; i < count(); ++i) {
+        nameTab(i);
         editor(i)->updateControlText();
+    }
 }

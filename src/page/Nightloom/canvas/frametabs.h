@@ -53,6 +53,7 @@ private:
     void closeSheet();
     FrameSheet *sheet(int index) const;
     void addSheet(int index, const AnimationFrame &frame);
+    void nameTab(int index);
     void removeTabsWithout(const AnimationState &state, const std::function<void(int removed)> &removed);
     void showOnionSkin();
 

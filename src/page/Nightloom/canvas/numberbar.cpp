@@ -8,12 +8,20 @@
 #include <QPainter>
 #include <QToolButton>
 
+#include "controls/accessibleentries.h"
+
 NumberBar::NumberBar(QWidget *parent) : QTabBar(parent)
 {
     connect(this, &QTabBar::currentChanged, this, [this](int index) {
-        m_focused = index;
+        setFocused(index);
         update();
     });
+}
+
+void NumberBar::setFocused(int index)
+{
+    m_focused = index;
+    setProperty(kFocusedEntry, index);
 }
 
 /// Numbers need no measuring: the bar asks for every tab's size again whenever one comes.
@@ -58,7 +66,7 @@ std::optional<int> NumberBar::placeFor(const QKeyEvent &event) const
 
 void NumberBar::moveTo(int index)
 {
-    m_focused = std::clamp(index, 0, std::max(count() - 1, 0));
+    setFocused(std::clamp(index, 0, std::max(count() - 1, 0)));
     const QFocusEvent byKey(QEvent::FocusIn, Qt::TabFocusReason); // also where the focus came by the mouse
     m_ring.follow(&byKey);
     bringIntoSight();
@@ -87,7 +95,7 @@ void NumberBar::bringIntoSight()
 
 void NumberBar::focusInEvent(QFocusEvent *event)
 {
-    m_focused = currentIndex();
+    setFocused(currentIndex());
     m_ring.follow(event);
     QTabBar::focusInEvent(event);
 }

@@ -25,6 +25,7 @@ protected:
 
 private:
     std::optional<int> placeFor(const QKeyEvent &event) const;
+    void setFocused(int index);
     void moveTo(int index);
     void bringIntoSight();
 

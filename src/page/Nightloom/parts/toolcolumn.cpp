@@ -52,19 +52,21 @@ QWidget *makeToolLine(QWidget *parent)
     return line;
 }
 
-SliderWidget *makeToolSlider(const char *label, int minimum, int maximum, int value, BoundTexts &texts, QWidget *parent)
+SliderWidget *makeToolSlider(const ToolSlider &made, int value, BoundTexts &texts, QWidget *parent)
 {
-    auto *slider = new SliderWidget(QLatin1String(label), minimum, maximum, parent);
+    auto *slider = new SliderWidget(QLatin1String(made.label), made.minimum, made.maximum, parent);
     slider->setCaptionWidth(kToolCaptionWidth);
     slider->setValue(value);
-    texts.bind(label, [slider](const QString &text) { slider->setCaption(text); });
+    texts.bind(made.unit, [slider](const QString &pattern) { slider->slider()->setUnit(pattern); });
+    texts.bind(made.label, [slider](const QString &text) { slider->setCaption(text); });
     return slider;
 }
 
 SliderWidget *makeSpeedSlider(FramePlayer &player, BoundTexts &texts, QWidget *parent)
 {
-    SliderWidget *slider =
-        makeToolSlider(LABEL("Frames/s"), FramePlayer::kSlowest, FramePlayer::kFastest, player.speed(), texts, parent);
+    constexpr ToolSlider kSpeed = {LABEL("Frames/s"), FramePlayer::kSlowest, FramePlayer::kFastest,
+                                   LABEL("%1 frames a second")};
+    SliderWidget *slider = makeToolSlider(kSpeed, player.speed(), texts, parent);
     QObject::connect(slider, &SliderWidget::sliderValueChanged, &player,
                      [&player](const QString &, int value) { player.setSpeed(value); });
     return slider;

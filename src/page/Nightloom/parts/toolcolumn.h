@@ -18,9 +18,15 @@ QVBoxLayout *makeToolColumn(QWidget *tools);
 /// A button with the column's look, named after its label.
 QPushButton *makeToolButton(const char *label, BoundTexts &texts, QWidget *parent);
 
-/// A captioned slider.
-SliderWidget *makeToolSlider(const char *label, int minimum, int maximum, int value, BoundTexts &texts,
-                             QWidget *parent);
+/// A captioned slider; its label and its unit, such as "%1 s", are source texts.
+struct ToolSlider
+{
+    const char *label;
+    int minimum;
+    int maximum;
+    const char *unit;
+};
+SliderWidget *makeToolSlider(const ToolSlider &made, int value, BoundTexts &texts, QWidget *parent);
 
 /// The slider that sets how fast a player plays.
 SliderWidget *makeSpeedSlider(FramePlayer &player, BoundTexts &texts, QWidget *parent);
