@@ -84,6 +84,8 @@ void TestShell::languages()
         application.switchApplicationLanguage(code);
         QCOMPARE(QObject::tr("Brightness"), QString(brightness));       // the older translation is gone, not below
         QVERIFY(QObject::tr("        Default").startsWith("        ")); // the blanks are part of the label
+        QCOMPARE(QLocale().language(), QLocale(QString(code)).language());
+        QCOMPARE(QLocale().script(), QLocale(QString(code)).script());
     }
     for (const auto &[code, families] : std::initializer_list<std::pair<const char *, const char *>>{
              {"zh_TW", "Noto Sans CJK TC|common|Quorvel Scripts"},

@@ -69,6 +69,18 @@ static void readWhole(const QAbstractItemModel *model, const QModelIndex &root)
     }
 }
 
+/// Sizes and dates, whatever the system speaks.
+static void speaksJapanese(const QFileDialog *dialog, const QAbstractItemModel *files)
+{
+    const QModelIndex root = dialog->findChild<QAbstractItemView *>("listView")->rootIndex();
+    const QModelIndexList found = files->match(files->index(0, 0, root), Qt::DisplayRole, "there.csv");
+    QCOMPARE(found.size(), 1);
+    const QDateTime date = QFileInfo(dialog->directory(), "there.csv").lastModified();
+    QCOMPARE(found.first().siblingAtColumn(1).data().toString(), QStringLiteral("1 バイト"));
+    QCOMPARE(found.first().siblingAtColumn(3).data().toString(),
+             QLocale(QLocale::Japanese).toString(date, QLocale::ShortFormat));
+}
+
 static void walkFileDialog(QFileDialog *dialog)
 {
     describeControlsToAssistiveSoftware();
@@ -80,6 +92,7 @@ static void walkFileDialog(QFileDialog *dialog)
     auto *name = dialog->findChild<QLineEdit *>("fileNameEdit");
     QTRY_VERIFY_WITH_TIMEOUT(list->model()->rowCount(list->rootIndex()) >= 3, 5000);
     readWhole(list->model(), list->rootIndex());
+    speaksJapanese(dialog, list->model());
     openMenu(name);
     openMenu(dialog->findChild<QAbstractItemView *>("sidebar"));
     for (const char *text : {"there.csv", "nowhere.csv", "none/none.csv"}) {
@@ -106,6 +119,7 @@ private Q_SLOTS:
         Listener listener;
         QVERIFY(writeText("there.csv", "1") && writeText("locked.csv", "1") && QDir().mkdir("folder"));
         QVERIFY(QFile::setPermissions("locked.csv", QFile::ReadOwner));
+        QLocale::setDefault(QLocale(QLocale::Japanese));
         lookInto(&walkFileDialog);
         askForFile(nullptr, "caption", m_desk->folder(), "*.*");
         lookInto(&walkFileDialog);

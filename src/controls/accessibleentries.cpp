@@ -102,8 +102,8 @@ QAccessibleInterface *AccessibleEntries::child(int index) const
     m_entries.resize(std::max(m_entries.size(), static_cast<std::size_t>(index) + 1), 0);
     QAccessible::Id &id = m_entries[static_cast<std::size_t>(index)];
     if (id == 0)
-        id = QAccessible::registerAccessibleInterface(
-            new AccessibleEntry(const_cast<AccessibleEntries *>(this), index));
+        id =
+            QAccessible::registerAccessibleInterface(new AccessibleEntry(const_cast<AccessibleEntries *>(this), index));
     return QAccessible::accessibleInterface(id);
 }
 
@@ -186,7 +186,9 @@ void AccessibleTabs::press(int index)
     bar()->setCurrentIndex(index);
 }
 
-AccessibleList::AccessibleList(QWidget *list) : AccessibleEntries(list, QAccessible::List, QAccessible::ListItem) {}
+AccessibleList::AccessibleList(QWidget *list) : AccessibleEntries(list, QAccessible::List, QAccessible::ListItem)
+{
+}
 
 QString AccessibleList::text(QAccessible::Text which) const
 {

@@ -3,8 +3,11 @@
 #include <QComboBox>
 #include <QFileDialog>
 #include <QFileIconProvider>
+#include <QFileSystemModel>
 #include <QHeaderView>
+#include <QIdentityProxyModel>
 #include <QLabel>
+#include <QLocale>
 #include <QPushButton>
 #include <QSplitter>
 #include <QToolButton>
@@ -42,6 +45,29 @@ public:
     }
 };
 
+/// Sizes and dates in the language of the program: those of the toolkit are always in the system's.
+class LocalColumns : public QIdentityProxyModel
+{
+public:
+    using QIdentityProxyModel::QIdentityProxyModel;
+
+    QVariant data(const QModelIndex &index, int role) const override
+    {
+        const QVariant own = QIdentityProxyModel::data(index, role);
+        if (role != Qt::DisplayRole || own.toString().isEmpty()) // folders have no size
+            return own;
+        const auto *files = static_cast<const QFileSystemModel *>(sourceModel());
+        const QModelIndex file = mapToSource(index);
+        return index.column() == kSize   ? QLocale().formattedDataSize(files->size(file))
+               : index.column() == kDate ? QLocale().toString(files->lastModified(file), QLocale::ShortFormat)
+                                         : own;
+    }
+
+private:
+    static constexpr int kSize = 1;
+    static constexpr int kDate = 3;
+};
+
 /// Its buttons in the hand of the program's icons, and room for names and dates.
 void dress(QFileDialog &dialog)
 {
@@ -74,6 +100,7 @@ QString ask(QFileDialog &dialog, QFileDialog::AcceptMode mode)
 {
     static PlainIcons icons; // the dialog's own thread may still ask while the dialog goes
     dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setProxyModel(new LocalColumns(&dialog));
     dialog.setIconProvider(&icons);
     dialog.setAcceptMode(mode);
     dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
