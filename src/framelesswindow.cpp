@@ -19,7 +19,7 @@
 
 namespace {
 
-constexpr int kLeastHeight = 600; // points: the work area of a screen of 768 lines at 100 % is filled
+constexpr int kLeastHeight = 720; // points: a screen of 768 lines at 100 % has as many beside its taskbar
 
 } // namespace
 
@@ -41,21 +41,25 @@ void FramelessWindow::layGround()
     QSize room = whole;
     if (const auto area = platform::desk().displays().workArea())
         room = room.boundedTo(roomFor(*area, devicePixelRatioF()));
-    const int barHeight = room.width() < whole.width() ? kScrollBarWidth : 0;
-    whole.setHeight(std::max(room.height() - barHeight, kLeastHeight));
+    const bool isNarrow = room.width() < whole.width();
+    whole.setHeight(std::max(room.height() - (isNarrow ? kScrollBarWidth : 0), kLeastHeight));
     m_ground->setPictureHeight(whole.height());
     m_ground->setFixedSize(whole);
     setFixedSize(room);
-    if (room.width() < whole.width() || room.height() < whole.height())
-        makeRoomScroll();
+    if (isNarrow || room.height() < whole.height())
+        makeRoomScroll(isNarrow);
 }
 
-void FramelessWindow::makeRoomScroll()
+void FramelessWindow::makeRoomScroll(bool isNarrow)
 {
     QScrollArea *area = makeScrollArea(this);
     area->setGeometry(rect());
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    area->horizontalScrollBar()->setStyleSheet(scrollBarStyle());
+    QScrollBar *bar = area->horizontalScrollBar();
+    bar->setStyleSheet(scrollBarStyle());
+    if (isNarrow)
+        area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    else // the other bar lies over the right margin, to which nothing needs to scroll
+        connect(bar, &QScrollBar::valueChanged, bar, [bar] { bar->setValue(0); });
     fillScrollArea(area, m_ground);
 }
 

@@ -33,7 +33,7 @@ protected:
 
 private:
     void layGround();
-    void makeRoomScroll();
+    void makeRoomScroll(bool isNarrow);
     void keepOnScreen();
     void keepSize();
 

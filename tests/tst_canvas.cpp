@@ -192,7 +192,7 @@ void TestCanvas::onlyKeysScroll()
     QTest::mousePress(editor, Qt::LeftButton, {}, pen); // and the page goes before the button is released
 }
 
-/// 768 lines leave the page 648, however much it wants; the tools were squeezed, and lay over each other.
+/// 720 lines leave the page 600, however much it wants; the tools were squeezed, and lay over each other.
 void TestCanvas::toolsFitALowPage()
 {
     QWidget window;
@@ -200,7 +200,7 @@ void TestCanvas::toolsFitALowPage()
     page->setParent(&window);
     page->show();
     window.show();
-    for (const int height : {680, 648}) {
+    for (const int height : {680, 600}) {
         page->setGeometry(0, 0, 1000, height);
         QCoreApplication::processEvents();
         int lowest = 0; // by the order in which they were made, row by row

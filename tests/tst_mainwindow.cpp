@@ -1,7 +1,6 @@
 #include <QtTest>
 #include <QtWidgets>
 
-#include "controls/picturelabel.h"
 #include "controls/pictures.h"
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/scenemodes.h"
@@ -70,7 +69,6 @@ class TestMainWindow : public WindowFixture
     Q_OBJECT
 private Q_SLOTS:
     void frameByItself();
-    void smallScreen();
     void openingFamily();
     void entriesByModel();
     void entriesSwitchTheScene();
@@ -130,41 +128,6 @@ void TestMainWindow::frameByItself()
     m_window->windowHandle()->resize(640, 400); // the same pixels on a screen of twice the scale
     Q_EMIT m_window->windowHandle()->screenChanged(m_window->screen());
     QTRY_COMPARE(m_window->windowHandle()->size(), m_window->minimumSize());
-}
-
-/// Where the screen has no room for the window, it is lower, with the picture's edges as they are drawn, and where that
-/// is not enough, its parts scroll and come into sight with the keyboard.
-void TestMainWindow::smallScreen()
-{
-    const auto ground = [this](QSize pixels) {
-        start(10, 0, [&] { m_desk->desk.workArea = platform::WorkArea{pixels, 1.0}; });
-        return m_window->findChild<PictureLabel *>()->pixmap().toImage().convertToFormat(QImage::Format_ARGB32);
-    };
-    const QImage whole = ground({1920, 1040});
-    cleanup();
-    const QImage lower = ground({1366, 620});
-    QCOMPARE(m_window->size(), QSize(1280, 620));
-    QCOMPARE(lower.copy(0, 0, 1280, 80), whole.copy(0, 0, 1280, 80));
-    QCOMPARE(lower.copy(0, 540, 1280, 80), whole.copy(0, 720, 1280, 80));
-    cleanup();
-    QCOMPARE(ground({1024, 540}).size(), QSize(1280, 600));
-    QCOMPARE(m_window->size(), QSize(1024, 540));
-    const auto isInSight = [](const QWidget *part) { return part->visibleRegion().boundingRect() == part->rect(); };
-    const auto *close = m_window->findChild<QWidget *>("windowClose");
-    const auto &tabs = m_window->tabs()->tabs();
-    const auto &entries = m_window->leftBar(0)->buttons();
-    QVERIFY(isInSight(tabs.front()) && !isInSight(tabs.back()) && !isInSight(close));
-    m_window->activateWindow();
-    tabs.front()->setFocus();
-    QTest::keyClick(tabs.front(), Qt::Key_End);
-    QVERIFY(isInSight(tabs.back()) && !isInSight(entries.front()));
-    entries.front()->setFocus();
-    QTest::keyClick(entries.front(), Qt::Key_End);
-    QVERIFY(isInSight(entries.back()));
-    const auto *scrolled = m_window->findChild<QScrollArea *>();
-    scrolled->horizontalScrollBar()->setValue(1280);
-    scrolled->verticalScrollBar()->setValue(0);
-    QVERIFY(isInSight(close));
 }
 
 void TestMainWindow::openingFamily()

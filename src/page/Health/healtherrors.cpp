@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int kHeight = 136; // three errors; the others scroll
+constexpr int kHeight = 136; // three errors; the others scroll, and on a low screen all but the first
 constexpr int kErrorHeight = 40;
 constexpr int kTimeWidth = 62;
 constexpr int kTextWidth = 250;
@@ -46,7 +46,8 @@ HealthErrors::HealthErrors(BoundTexts &texts, QWidget *parent) : QScrollArea(par
     describeAs(this, QAccessible::Pane);
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
-    setFixedHeight(kHeight);
+    setMinimumHeight(kErrorHeight);
+    setMaximumHeight(kHeight);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     texts.bind(LABEL("Last errors"), [this](const QString &text) { setAccessibleName(text); });
     auto *content = new QWidget(this);

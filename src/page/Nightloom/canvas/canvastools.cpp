@@ -122,13 +122,12 @@ QWidget *CanvasTools::buildAlignedImport(const pageLEDMatrixCanvas &page)
         showAlignedNote();
     });
     QPushButton *button = makeToolButton(LABEL("Import Aligned"), m_texts, m_aligned);
-    button->setMaximumWidth(QWIDGETSIZE_MAX);
     connect(button, &QPushButton::clicked, &page, &pageLEDMatrixCanvas::importAligned);
-    auto *column = new QVBoxLayout(m_aligned);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(metrics::kGap);
-    column->addWidget(button);
-    column->addWidget(m_alignedNote);
+    auto *row = new QHBoxLayout(m_aligned);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(metrics::kGap);
+    row->addWidget(button);
+    row->addWidget(m_alignedNote, 1);
     return m_aligned;
 }
 

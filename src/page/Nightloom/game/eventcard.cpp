@@ -10,7 +10,8 @@
 
 namespace {
 
-constexpr QSize kPictureSize(280, 224);
+constexpr QSize kPictureSize(280, 224); // lower on a low screen
+constexpr int kLeastPicture = 144;
 constexpr int kNamePixels = 15;
 
 } // namespace
@@ -20,7 +21,10 @@ EventCard::EventCard(QWidget *parent)
 {
     setObjectName(QStringLiteral("matrixCard"));
     m_name->setObjectName(QStringLiteral("matrixName"));
-    m_picture->setFixedSize(kPictureSize);
+    m_picture->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    m_picture->setFixedWidth(kPictureSize.width());
+    m_picture->setMinimumHeight(kLeastPicture);
+    m_picture->setMaximumHeight(kPictureSize.height());
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(metrics::kInset, metrics::kInset, metrics::kInset, metrics::kInset);
     column->setSpacing(metrics::kGap);
