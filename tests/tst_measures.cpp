@@ -44,22 +44,31 @@ bool isPlainField(const QWidget *widget)
            qobject_cast<const QAbstractSpinBox *>(widget) || qobject_cast<const QKeySequenceEdit *>(widget);
 }
 
-/// What breaks the measures of all pages: gaps off the grid, and other heights of controls. A page's head stands on its
-/// baselines instead.
-void addUnmeasured(QWidget *window, QSet<QString> &found)
+QString nameOf(const QWidget *widget)
 {
-    QCoreApplication::processEvents(); // layouts wait for them
+    return QLatin1String(widget->metaObject()->className()) + QLatin1Char(' ') + widget->objectName();
+}
+
+/// Layouts with a gap off the grid. A page's head stands on its baselines instead.
+void addOffGrid(QWidget *window, QSet<QString> &found)
+{
     const auto isOff = [](int gap) { return gap % metrics::kLineGap != 0; };
     QWidgetList all = window->findChildren<QWidget *>();
     all.append(window);
     for (const QWidget *widget : std::as_const(all)) {
-        const QString name = QLatin1String(widget->metaObject()->className()) + QLatin1Char(' ') + widget->objectName();
         const bool isHead =
             dynamic_cast<const PageHead *>(widget) || dynamic_cast<const PageHead *>(widget->parentWidget());
         if (widget->isVisible() && widget->layout() && !isHead && std::ranges::any_of(gapsOf(widget->layout()), isOff))
-            found.insert(QStringLiteral("%1: gaps").arg(name));
+            found.insert(nameOf(widget) + QStringLiteral(": gaps"));
+    }
+}
+
+void addOtherHeights(QWidget *window, QSet<QString> &found)
+{
+    QCoreApplication::processEvents(); // layouts wait for them
+    for (const QWidget *widget : window->findChildren<QWidget *>()) {
         if (widget->isVisible() && isPlainField(widget) && widget->height() != metrics::kControlHeight)
-            found.insert(QStringLiteral("%1: %2 high").arg(name).arg(widget->height()));
+            found.insert(QStringLiteral("%1: %2 high").arg(nameOf(widget)).arg(widget->height()));
     }
 }
 
@@ -81,13 +90,21 @@ void TestMeasures::gapsAndHeightsAreShared()
          {std::pair(PageId::ShortcutKey, "pushButton_2"), {PageId::LedCanvas, "Add Frame"}})
         m_window->page(page)->widget()->findChild<QPushButton *>(QLatin1String(button))->click();
     QSet<QString> found;
-    onEveryPage([&](QWidget *) { addUnmeasured(m_window.get(), found); });
+    const auto look = [&found](QWidget *window) {
+        addOffGrid(window, found);
+        addOtherHeights(window, found);
+    };
+    onEveryPage([&](QWidget *) { look(m_window.get()); });
     m_desk->desk.unplug(0);
     m_desk->clock.advance(300ms);
     QVERIFY(m_window->findChild<QPushButton *>(QStringLiteral("retry"))->isVisible());
-    addUnmeasured(m_window.get(), found);
+    look(m_window.get());
     m_window->trayPanel()->press({});
-    addUnmeasured(m_window->trayPanel()->panel(), found);
+    look(m_window->trayPanel()->panel());
+    QColorDialog colours; // the gaps within it are the toolkit's own
+    colours.setOption(QColorDialog::DontUseNativeDialog);
+    colours.show();
+    addOtherHeights(&colours, found);
     QStringList sorted = found.values();
     sorted.sort();
     QVERIFY2(sorted.isEmpty(), qPrintable(sorted.join(QLatin1Char('\n'))));

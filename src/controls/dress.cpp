@@ -1,6 +1,7 @@
 #include "controls/dress.h"
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QDialog>
 #include <QEvent>
 #include <QMenu>
@@ -57,6 +58,7 @@ constexpr char16_t kDialogStyle[] =
                                                                                                            // as every
                                                                                                            // control is
     "QPushButton { min-width: 72px; }"
+    "QSpinBox::up-button, QSpinBox::down-button { width: 0; }"
     "QLineEdit:hover, QSpinBox:hover, QComboBox:hover, QPushButton:hover { border-color: @hoveredEdge; }"
     "QLineEdit:focus, QSpinBox:focus, QComboBox:focus, QPushButton:focus { border-color: @mint; }"
     "QPushButton:pressed { background-color: @selected; }"
@@ -71,8 +73,9 @@ constexpr char16_t kDialogStyle[] =
     "QAbstractItemView { color: @soft; background-color: @card; border: 1px solid @edge; font-size: 14px; }"
     "QHeaderView::section { color: @dim; background-color: @field; border: none; padding: 4px 8px; font-size: 13px; }";
 
-/// Many menus are the toolkit's own, made as they are wanted: each gets its look just before it is shown.
-class MenuFilter : public QObject
+/// Many menus and the question for a colour are the toolkit's own, made as they are wanted: each gets its look just
+/// before it is shown.
+class DressFilter : public QObject
 {
 public:
     using QObject::QObject;
@@ -85,11 +88,14 @@ protected:
         auto *widget = static_cast<QWidget *>(watched);
         if (widget->isWindow() && qobject_cast<QMenu *>(widget))
             widget->setStyleSheet(Palette::styled(kMenuStyle));
+        else if (auto *dialog = qobject_cast<QColorDialog *>(widget))
+            dressDialog(dialog);
         return false;
     }
 };
 
-/// The toolkit's own style with the program's gaps, which every layout has that sets none of its own.
+/// The toolkit's own style with the program's gaps, which every layout has that sets none of its own, and without
+/// pictures on the buttons of dialogs.
 class GridStyle : public QProxyStyle
 {
 public:
@@ -110,6 +116,13 @@ public:
             return QProxyStyle::pixelMetric(metric, option, widget);
         }
     }
+
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *more) const override
+    {
+        const bool isIcon = hint == SH_DialogButtonBox_ButtonsHaveIcons; // they are in another hand than ours
+        return isIcon ? 0 : QProxyStyle::styleHint(hint, option, widget, more);
+    }
 };
 
 } // namespace
@@ -125,7 +138,7 @@ void dressApplication()
     }
     QApplication::setPalette(palette);
     dressToolTips();
-    qApp->installEventFilter(new MenuFilter(qApp));
+    qApp->installEventFilter(new DressFilter(qApp));
 }
 
 void dressDialog(QDialog *dialog)

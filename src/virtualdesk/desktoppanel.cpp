@@ -47,7 +47,7 @@ DesktopPanel::DesktopPanel(VirtualDesk &desk, QWidget *parent)
     column->addWidget(m_keyTitle);
     column->addWidget(buildKeyboard());
     column->addWidget(m_keyResult);
-    column->addSpacing(12);
+    column->addSpacing(16);
     column->addWidget(m_programTitle);
     column->addWidget(m_programs, 1);
     column->addWidget(m_windows);

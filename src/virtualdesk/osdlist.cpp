@@ -49,7 +49,7 @@ OsdList::OsdList(QWidget *parent) : QScrollArea(parent)
     content->setObjectName(QStringLiteral("osd"));
     viewport()->setAutoFillBackground(false);
     m_grid = new QGridLayout(content);
-    m_grid->setContentsMargins(12, 6, 12, 6);
+    m_grid->setContentsMargins(16, 8, 16, 8);
     m_grid->setVerticalSpacing(0);
     m_grid->setColumnStretch(0, 1);
     for (int row = 0; row < rowCount(); ++row)

@@ -121,7 +121,7 @@ void SoundPanel::buildSound()
 
 void SoundPanel::buildDevice()
 {
-    m_column->addSpacing(12);
+    m_column->addSpacing(16);
     m_column->addWidget(m_deviceTitle);
     m_rate = m_rows->addBox(NAME("Rate"));
     for (const int rate : kRates)
@@ -145,7 +145,7 @@ void SoundPanel::buildDevice()
 
 void SoundPanel::buildFaults()
 {
-    m_column->addSpacing(12);
+    m_column->addSpacing(16);
     m_column->addWidget(m_faultTitle);
     for (const SoundFault &fault : soundFaults()) {
         PanelAction action{{}, fault.text, fault.tip, [this, &fault](bool on) { fault.set(m_endpoint, on); }, {}};
