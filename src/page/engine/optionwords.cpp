@@ -83,11 +83,11 @@ QString wordsOf(const OptionGroup &group, const Option &option)
     return words ? QObject::tr(words) : QString();
 }
 
-/// Without headings: the name in the text's own line.
-QString inOneLine(const QString &name, const QString &now, const QString &words)
+/// Without headings: the name in small letters, on a line of its own that ends where the words begin.
+QString inSmall(const QString &name, const QString &now, const QString &words)
 {
     const QString form = Palette::styled(QStringLiteral("<span style=\"color: @text\">%1</span> "
-                                                        "<span style=\"color: @signal\">%2</span> %3"));
+                                                        "<span style=\"color: @signal\">%2</span><br>%3"));
     return name.isEmpty() ? QString() : form.arg(name.toHtmlEscaped(), now.toHtmlEscaped(), words.toHtmlEscaped());
 }
 
@@ -241,9 +241,9 @@ void OptionWords::show(const Said &on, const Said &pointed)
     };
     put(m_onName, isBand ? QString() : on.name);
     put(m_onNow, isBand ? QString() : on.now);
-    put(m_onWords, isBand ? inOneLine(on.name, on.now, on.words) : on.words);
+    put(m_onWords, isBand ? inSmall(on.name, on.now, on.words) : on.words);
     put(m_pointedName, isBand ? QString() : pointed.name);
-    put(m_pointedWords, isBand ? inOneLine(pointed.name, {}, pointed.words) : pointed.words);
+    put(m_pointedWords, isBand ? inSmall(pointed.name, {}, pointed.words) : pointed.words);
     m_line->setVisible(m_shape == Shape::Column && !on.name.isEmpty() && !pointed.name.isEmpty());
     const Said &told = pointed.name.isEmpty() ? on : pointed;
     m_toldText = told.name.isEmpty() ? QString() : QStringLiteral("%1. %2").arg(told.name, told.words);
