@@ -81,6 +81,32 @@ static void speaksJapanese(const QFileDialog *dialog, const QAbstractItemModel *
              QLocale(QLocale::Japanese).toString(date, QLocale::ShortFormat));
 }
 
+static bool hasOurIcons(const QAbstractItemModel *model, const QModelIndex &root)
+{
+    for (int row = 0; row < model->rowCount(root); ++row) {
+        const auto shown = model->index(row, 0, root).data(Qt::DecorationRole).value<QIcon>().pixmap(16).toImage();
+        const QStringList kinds = {"folder", "file", "computer", "drive"};
+        if (shown.isNull() || std::none_of(kinds.begin(), kinds.end(), [&shown](const QString &kind) {
+                return QIcon(":/resource/img/file/" + kind + ".png").pixmap(16).toImage() == shown;
+            }))
+            return false;
+    }
+    return model->rowCount(root) > 0;
+}
+
+/// Also when the toolkit's thread comes late with those that it asked for before it knew the program's.
+static void keepsOurIcons(QFileDialog *dialog, const QAbstractItemView *list)
+{
+    static QFileIconProvider toolkit;
+    dialog->setIconProvider(&toolkit);
+    QVERIFY(hasOurIcons(list->model(), list->rootIndex()));
+    for (QAbstractItemModel *places : {dialog->findChild<QAbstractItemView *>("sidebar")->model(),
+                                       dialog->findChild<QComboBox *>("lookInCombo")->model()}) {
+        places->setData(places->index(0, 0), toolkit.icon(QFileIconProvider::Trashcan), Qt::DecorationRole);
+        QVERIFY(hasOurIcons(places, {}));
+    }
+}
+
 static void walkFileDialog(QFileDialog *dialog)
 {
     describeControlsToAssistiveSoftware();
@@ -93,6 +119,7 @@ static void walkFileDialog(QFileDialog *dialog)
     QTRY_VERIFY_WITH_TIMEOUT(list->model()->rowCount(list->rootIndex()) >= 3, 5000);
     readWhole(list->model(), list->rootIndex());
     speaksJapanese(dialog, list->model());
+    keepsOurIcons(dialog, list);
     openMenu(name);
     openMenu(dialog->findChild<QAbstractItemView *>("sidebar"));
     for (const char *text : {"there.csv", "nowhere.csv", "none/none.csv"}) {

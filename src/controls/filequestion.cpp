@@ -20,6 +20,7 @@ namespace {
 
 constexpr QSize kQuestionSize(860, 540);
 constexpr int kPlacesWidth = 160;
+constexpr int kPlaceUrl = Qt::UserRole + 1; // the toolkit's role of a place's address
 
 QIcon fileIcon(const char *name)
 {
@@ -45,19 +46,31 @@ public:
     }
 };
 
-/// Sizes and dates in the language of the program: those of the toolkit are always in the system's.
-class LocalColumns : public QIdentityProxyModel
+/// They outlive each dialog, whose thread may still ask while the dialog goes.
+PlainIcons &plainIcons()
+{
+    static PlainIcons icons;
+    return icons;
+}
+
+/// Sizes and dates in the language of the program: those of the toolkit are always in the system's. And the icons once
+/// more: the dialog's thread may have asked for the toolkit's before it was told of ours.
+class FileTable : public QIdentityProxyModel
 {
 public:
     using QIdentityProxyModel::QIdentityProxyModel;
 
     QVariant data(const QModelIndex &index, int role) const override
     {
+        const auto *files = static_cast<const QFileSystemModel *>(sourceModel());
+        const QModelIndex file = mapToSource(index);
+        if (role == Qt::DecorationRole && index.column() == 0)
+            return plainIcons().icon(!file.parent().isValid() ? PlainIcons::Drive
+                                     : files->isDir(file)     ? PlainIcons::Folder
+                                                              : PlainIcons::File);
         const QVariant own = QIdentityProxyModel::data(index, role);
         if (role != Qt::DisplayRole || own.toString().isEmpty()) // folders have no size
             return own;
-        const auto *files = static_cast<const QFileSystemModel *>(sourceModel());
-        const QModelIndex file = mapToSource(index);
         return index.column() == kSize   ? QLocale().formattedDataSize(files->size(file))
                : index.column() == kDate ? QLocale().toString(files->lastModified(file), QLocale::ShortFormat)
                                          : own;
@@ -67,6 +80,23 @@ private:
     static constexpr int kSize = 1;
     static constexpr int kDate = 3;
 };
+
+/// The same for the places beside the files and for the folders above them, which have a model of their own.
+void keepIcons(QAbstractItemModel *places)
+{
+    const auto keep = [places] {
+        for (int row = 0; row < places->rowCount(); ++row) {
+            const QModelIndex place = places->index(row, 0);
+            const bool isFolder = place.data(kPlaceUrl).toUrl().path().size() > 1;
+            const QIcon icon = plainIcons().icon(isFolder ? PlainIcons::Folder : PlainIcons::Computer);
+            if (place.data(Qt::DecorationRole).value<QIcon>().cacheKey() != icon.cacheKey())
+                places->setData(place, icon, Qt::DecorationRole);
+        }
+    };
+    QObject::connect(places, &QAbstractItemModel::dataChanged, places, keep);
+    QObject::connect(places, &QAbstractItemModel::rowsInserted, places, keep);
+    keep();
+}
 
 /// Its buttons in the hand of the program's icons, and room for names and dates.
 void dress(QFileDialog &dialog)
@@ -87,6 +117,8 @@ void dress(QFileDialog &dialog)
         if (auto *label = dialog.findChild<QLabel *>(box + QStringLiteral("Label")))
             label->setBuddy(dialog.findChild<QComboBox *>(box + QStringLiteral("Combo")));
     }
+    keepIcons(dialog.findChild<QComboBox *>(QStringLiteral("lookInCombo"))->model());
+    keepIcons(dialog.findChild<QAbstractItemView *>(QStringLiteral("sidebar"))->model());
     dialog.resize(kQuestionSize);
     if (auto *splitter = dialog.findChild<QSplitter *>())
         splitter->setSizes({kPlacesWidth, kQuestionSize.width() - kPlacesWidth});
@@ -98,10 +130,9 @@ void dress(QFileDialog &dialog)
 
 QString ask(QFileDialog &dialog, QFileDialog::AcceptMode mode)
 {
-    static PlainIcons icons; // the dialog's own thread may still ask while the dialog goes
     dialog.setOption(QFileDialog::DontUseNativeDialog);
-    dialog.setProxyModel(new LocalColumns(&dialog));
-    dialog.setIconProvider(&icons);
+    dialog.setIconProvider(&plainIcons());
+    dialog.setProxyModel(new FileTable(&dialog));
     dialog.setAcceptMode(mode);
     dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     dress(dialog);
