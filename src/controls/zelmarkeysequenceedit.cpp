@@ -80,6 +80,8 @@ ZelmarKeySequenceEdit::ZelmarKeySequenceEdit(QWidget *parent)
     describeControlsToAssistiveSoftware();
     m_lineEdit->setPlaceholderText(nothingSet());
     m_lineEdit->setAlignment(Qt::AlignCenter);
+    m_lineEdit->setReadOnly(true); // what is pasted, dropped or cut would not be the combination that is bound
+    m_lineEdit->setContextMenuPolicy(Qt::PreventContextMenu);
     m_lineEdit->setStyleSheet(Palette::styled(kKeysStyle));
     m_lineEdit->setMinimumSize(kLeastSize);
     m_lineEdit->installEventFilter(new KeyFieldFilter(this));
