@@ -51,12 +51,11 @@ constexpr char16_t kMenuStyle[] =
     "QMenu::item:disabled { color: @disabled; background-color: transparent; }"
     "QMenu::separator { height: 1px; background-color: @hairline; margin: 4px 8px; }";
 
+// Its controls are 36 points high, as all are.
 constexpr char16_t kDialogStyle[] =
     u"QDialog { background-color: @floating; }"
     "QLineEdit, QSpinBox, QComboBox, QPushButton { color: @text; background-color: @field;"
-    " border: 1px solid @edge; border-radius: 6px; padding: 4px 8px; min-height: 26px; font-size: 14px; }" // 36 in all,
-                                                                                                           // as every
-                                                                                                           // control is
+    " border: 1px solid @edge; border-radius: 6px; padding: 4px 8px; min-height: 26px; font-size: 14px; }"
     "QPushButton { min-width: 72px; }"
     "QSpinBox::up-button, QSpinBox::down-button { width: 0; }"
     "QLineEdit:hover, QSpinBox:hover, QComboBox:hover, QPushButton:hover { border-color: @hoveredEdge; }"

@@ -117,8 +117,10 @@ void dress(QFileDialog &dialog)
         if (auto *label = dialog.findChild<QLabel *>(box + QStringLiteral("Label")))
             label->setBuddy(dialog.findChild<QComboBox *>(box + QStringLiteral("Combo")));
     }
-    keepIcons(dialog.findChild<QComboBox *>(QStringLiteral("lookInCombo"))->model());
-    keepIcons(dialog.findChild<QAbstractItemView *>(QStringLiteral("sidebar"))->model());
+    if (auto *above = dialog.findChild<QComboBox *>(QStringLiteral("lookInCombo")))
+        keepIcons(above->model());
+    if (auto *beside = dialog.findChild<QAbstractItemView *>(QStringLiteral("sidebar")))
+        keepIcons(beside->model());
     dialog.resize(kQuestionSize);
     if (auto *splitter = dialog.findChild<QSplitter *>())
         splitter->setSizes({kPlacesWidth, kQuestionSize.width() - kPlacesWidth});
