@@ -2,6 +2,7 @@
 #include <QtWidgets>
 
 #include "controls/accessiblecontrol.h"
+#include "controls/dress.h"
 #include "controls/filequestion.h"
 #include "support/deskfixture.h"
 #include "toollanguage.h"
@@ -141,6 +142,17 @@ class TestToolkit : public DeskSuite
 {
     Q_OBJECT
 private Q_SLOTS:
+    /// Some systems have fonts of their own for menus and questions.
+    void oneFontForAll()
+    {
+        constexpr const char *kKinds[] = {"QMenu", "QMessageBox", "QAbstractItemView"};
+        for (const char *kind : kKinds)
+            QApplication::setFont(QFont("of the system"), kind);
+        dressApplication();
+        for (const char *kind : kKinds)
+            QCOMPARE(QApplication::font(kind), QApplication::font());
+    }
+
     void everyTextIsTranslated()
     {
         Listener listener;

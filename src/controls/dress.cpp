@@ -136,6 +136,8 @@ void dressApplication()
         palette.setColor(QPalette::Disabled, role.role, role.disabled);
     }
     QApplication::setPalette(palette);
+    for (const char *kind : {"QMenu", "QMessageBox", "QAbstractItemView"}) // Windows has fonts of its own for these
+        QApplication::setFont(QApplication::font(), kind);
     dressToolTips();
     qApp->installEventFilter(new DressFilter(qApp));
 }

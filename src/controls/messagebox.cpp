@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include <QApplication>
 #include <QFontMetricsF>
 #include <QLabel>
 #include <QLayout>
@@ -44,10 +43,8 @@ public:
           m_words(findChild<QLabel *>(QStringLiteral("qt_msgbox_label")))
     {
         setTextFormat(Qt::PlainText); // it may name a file of any name
-        if (!m_words)
-            return;
-        m_words->setFont(QApplication::font()); // the system has one of its own for boxes
-        m_words->installEventFilter(this);
+        if (m_words)
+            m_words->installEventFilter(this);
     }
 
 protected:
