@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <array>
 #include <set>
 
 #include <QtTest>
@@ -130,13 +131,15 @@ class TestAgreement : public DeskSuite
     }
 
     /// Each key is pressed often enough to come round.
-    void walkKeys()
+    void walkKeys(std::span<const std::uint8_t> switchedOff = {})
     {
         const ReadRow read = [this](COMMAND_set_Type row) {
             return static_cast<int>(readPair(*m_monitor, commandCode(row)).current);
         };
         for (const ShortcutFunction *function : shortcutFunctionsOf(deviceState)) {
             for (int press = 0; press < 40; ++press) {
+                for (const std::uint8_t aid : switchedOff)
+                    m_monitor->setValue(aid, 0);
                 const ShortcutStep step =
                     shortcutStep(function->rule, press < 20 ? ShortcutKey::Plus : ShortcutKey::Minus, read);
                 offer(Command(commandCode(step.row)), function->name, step.value);
@@ -172,6 +175,7 @@ class TestAgreement : public DeskSuite
         deviceState.store(Command::Capability, model.capabilities);
         walkPages();
         walkKeys();
+        walkKeys(std::array<std::uint8_t, 4>{0x30, 0x3D, 0x3E, 0x3F}); // the aids, which go on otherwise from there
         for (const auto &[code, values] : m_offered) {
             if (!hasName(static_cast<std::uint8_t>(code)))
                 differ(static_cast<std::uint8_t>(code), "", "it has no name");

@@ -119,6 +119,7 @@ private Q_SLOTS:
     void cleanup();
     void steps_data();
     void steps();
+    void roundsOfAnAid();
     void restsAfterAKey();
     void sceneKeyKeepsTheSnapshotTrue();
     void nativeKeys();
@@ -175,6 +176,26 @@ void TestShortcut::steps()
     runner.shortcutKeyCommand(kAudioMute, kPlus);
     QCOMPARE(m_desk->takeCommands().size(), step.rests ? 0 : 1);
     QCOMPARE(m_desk->clock.tasksWaiting(), std::size_t(1)); // the rest of one key, whichever it was
+}
+
+/// What a key is for is seen on the screen: the press behind the one that ends a round shows the aid again.
+void TestShortcut::roundsOfAnAid()
+{
+    for (const auto &[function, code, shown] : {std::tuple(24, 0x30, "111011110"),
+                                                {25, 0x3D, "11111101111110"},
+                                                {26, 0x3E, "1111011110"},
+                                                {27, 0x3F, "111011110"}}) {
+        ShortcutRunner runner;
+        QString seen;
+        while (seen.size() < qsizetype(qstrlen(shown))) {
+            m_desk->clock.advance(milliseconds(200));
+            runner.shortcutKeyCommand(function, kPlus);
+            const int isOn = m_desk->monitor().value(static_cast<std::uint8_t>(code));
+            QCOMPARE(deviceState.confirmed(Command(code)), std::optional(isOn)); // pages show it at once
+            seen += QString::number(isOn);
+        }
+        QCOMPARE(seen, QString(shown));
+    }
 }
 
 void TestShortcut::restsAfterAKey()

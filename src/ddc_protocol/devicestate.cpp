@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "ddc_protocol/shownaids.h"
 #include "ddc_protocol/statestorage.h"
 #include "platform/desk.h"
 
@@ -146,6 +147,8 @@ void DeviceState::taken(Command command, int value)
         entry.value = value;
         entry.state = ValueState::Known;
     });
+    if (const std::optional<Command> onOff = switchedOnBy(command))
+        told(*onOff, 1);
 }
 
 void DeviceState::refused(Command command, int value)

@@ -77,7 +77,7 @@ public:
 
     // Answers of the monitor.
 
-    /// The monitor took a value.
+    /// The monitor took a value, and with some it has switched a game aid on.
     void taken(Command command, int value);
 
     /// The monitor did not take a value. What is shown stays; a Sharpness leaves the block in doubt.

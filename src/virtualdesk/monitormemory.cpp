@@ -70,6 +70,8 @@ bool MonitorMemory::take(std::uint8_t code, std::uint32_t value)
     if (isTaken) {
         const std::uint32_t limit = isNumber ? function.maximum : 0xFFFF;
         set(code, static_cast<std::uint16_t>(std::min(value, limit)));
+        if (function.shows != 0)
+            m_values[function.shows] = 1;
     }
     return isTaken && inRange;
 }

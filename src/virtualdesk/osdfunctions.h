@@ -23,6 +23,7 @@ struct OsdFunction
     std::uint16_t maximum;              ///< highest value; what the reply reports as maximum
     std::span<const OsdOption> options; ///< the only values taken; empty for a plain number 0..maximum
     std::uint16_t needs = 0;            ///< the bit of the capability word that only its models have
+    std::uint8_t shows = 0;             ///< code of the switch that comes on with a value over the link; 0 for none
 };
 
 /// The 168 command codes of the monitor, rising.
