@@ -315,6 +315,10 @@ void TestDrawnPages::ownLightColor()
         lighting->updateInterfaceData();
         QCOMPARE(!lighting->ownColor()->parentWidget()->isHidden(), color == 8);
     }
+    deviceState.told(Command::LightRed, 200); // a part of it is no colour yet
+    lighting->updateInterfaceData();
+    QCOMPARE(lighting->ownColor()->accessibleDescription(), QString("unknown"));
+    QCOMPARE(lightLook(deviceState).color, LightLook::Color(qRgb(255, 255, 255)));
     for (const auto &[refused, said, shown] : {std::tuple(std::vector<std::uint8_t>(), "", qRgb(250, 128, 7)),
                                                {{0x7B}, "only a part", qRgb(0, 128, 9)}, // what the monitor has then
                                                {{0x7A, 0x7B, 0x7C}, "did not take", qRgb(0, 128, 9)}}) {

@@ -3,6 +3,7 @@
 #include <QColorDialog>
 #include <QPainter>
 
+#include "controls/dash.h"
 #include "controls/palette.h"
 #include "controls/pictures.h"
 
@@ -23,7 +24,15 @@ void ColorPicker::setColor(const QColor &color)
     if (!color.isValid())
         return;
     m_color = color;
+    m_isKnown = true;
     setAccessibleDescription(color.name());
+    update();
+}
+
+void ColorPicker::setUnknown()
+{
+    m_isKnown = false;
+    setAccessibleDescription(QObject::tr("unknown"));
     update();
 }
 
@@ -65,9 +74,14 @@ void ColorPicker::paintEvent(QPaintEvent *)
         painter.setBrush(QColor(Palette::kWell));
         painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 8, 8);
     }
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(m_color);
-    painter.drawRoundedRect(m_swatchRect, 4, 4);
+    if (m_isKnown) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(m_color);
+        painter.drawRoundedRect(m_swatchRect, 4, 4);
+    } else {
+        painter.setPen(QColor(Palette::kText));
+        painter.drawText(m_swatchRect, Qt::AlignCenter, kDash);
+    }
     painter.setOpacity(1.0);
     drawFocus(painter, rect(), 8.0);
 }

@@ -17,6 +17,9 @@ public:
     /// Sets the colour without a signal; an invalid colour is ignored.
     void setColor(const QColor &color);
 
+    /// Nobody knows the colour: a dash stands in its place until it is set or asked for.
+    void setUnknown();
+
     /// The part of the control that is filled with the colour and takes presses.
     QRect swatchRect() const { return m_swatchRect; }
 
@@ -40,5 +43,6 @@ protected:
 
 private:
     QColor m_color = Qt::white;
+    bool m_isKnown = true;
     QRect m_swatchRect;
 };

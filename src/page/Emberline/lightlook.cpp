@@ -9,6 +9,7 @@
 namespace {
 
 constexpr QRgb kLampColors[] = {0xffff2f2f, 0xffffd22e, 0xff35ff5c, 0xff2ee9ff, 0xff2f62ff, 0xffb63cff, 0xffffffff};
+constexpr int kWhite = 6;                     // what is drawn for a colour that nobody knows
 constexpr double kLevels[] = {0.3, 0.6, 1.0}; // soft, standard, highlight
 constexpr double kSpeeds = 10, kPercent = 100;
 
@@ -58,7 +59,7 @@ public:
 
     double share(Command command, double of100, int unknown) const { return of(command, unknown) / of100; }
     double level(Command command) const { return kLevels[std::clamp(of(command, 1), 0, 2)]; }
-    LightLook::Color color(Command command) const { return lampColor(of(command, 6)); }
+    LightLook::Color color(Command command) const { return lampColor(of(command, kWhite)); }
 
 private:
     const DeviceState &m_state;
@@ -93,7 +94,7 @@ LightLook lightLook(const DeviceState &state, const std::optional<LightPreview> 
     look.effect = values.option(Command::LightEffect, LightLook::Effect::Flicker);
     look.color = values.color(Command::LightColor);
     if (values.of(Command::LightColor) == kOwnLightColor)
-        look.color = qRgb(values.of(Command::LightRed), values.of(Command::LightGreen), values.of(Command::LightBlue));
+        look.color = ownLightColor(state).value_or(kLampColors[kWhite]);
     look.brightness = values.share(Command::LightBrightness, kPercent, 100);
     look.speed = values.share(Command::LightSpeed, kSpeeds, 5);
     look.isReversed = values.of(Command::LightDirection) != 0;

@@ -165,8 +165,8 @@ void pageEmberline::showLight()
     if (!m_ownColorRow)
         return;
     m_ownColorRow->setVisible(deviceState.value(Command::LightColor) == kOwnLightColor);
-    if (const std::optional<QRgb> color = ownLightColor(deviceState))
-        m_ownColor->setColor(QColor(*color));
+    const std::optional<QRgb> color = ownLightColor(deviceState);
+    color ? m_ownColor->setColor(QColor(*color)) : m_ownColor->setUnknown();
 }
 
 void pageEmberline::updateInterfaceData()
