@@ -12,6 +12,7 @@
 
 #include "controls/accessiblecontrol.h"
 #include "controls/focusring.h"
+#include "controls/palette.h"
 #include "controls/picturelabel.h"
 #include "page/engine/scrollarea.h"
 #include "platform/desk.h"
@@ -32,35 +33,80 @@ FramelessWindow::FramelessWindow(const QString &picture) : m_ground(new PictureL
     m_ground->setPicture(picture);
     m_ground->setScaledContents(true);
     layGround();
+    fitScreen();
+    connect(qApp, &QGuiApplication::primaryScreenChanged, this, [this](const QScreen *screen) {
+        followScreen(screen);
+        QMetaObject::invokeMethod(this, &FramelessWindow::takeRoom, Qt::QueuedConnection);
+    });
+    followScreen(QGuiApplication::primaryScreen());
 }
 
-/// The picture is lower where that is enough; else there is room for a part of it, and bars that scroll.
+/// How much of that there is room for on the screen now.
+QSize FramelessWindow::roomOf(const QSize &wanted) const
+{
+    const auto area = platform::desk().displays().workArea();
+    return area ? wanted.boundedTo(roomFor(*area, devicePixelRatioF())) : wanted;
+}
+
+/// The picture is lower where that is enough. It stays as it is then, as does what stands on it.
 void FramelessWindow::layGround()
 {
     QSize whole = m_ground->pixmap(Qt::ReturnByValue).deviceIndependentSize().toSize();
-    QSize room = whole;
-    if (const auto area = platform::desk().displays().workArea())
-        room = room.boundedTo(roomFor(*area, devicePixelRatioF()));
-    const bool isNarrow = room.width() < whole.width();
-    whole.setHeight(std::max(room.height() - (isNarrow ? kScrollBarWidth : 0), kLeastHeight));
+    const QSize room = roomOf(whole);
+    const int bar = room.width() < whole.width() ? kScrollBarWidth : 0;
+    whole.setHeight(std::max(room.height() - bar, kLeastHeight));
     m_ground->setPictureHeight(whole.height());
     m_ground->setFixedSize(whole);
-    setFixedSize(room);
-    if (isNarrow || room.height() < whole.height())
-        makeRoomScroll(isNarrow);
 }
 
-void FramelessWindow::makeRoomScroll(bool isNarrow)
+/// Where there is room for a part of the ground only, there are bars that scroll.
+void FramelessWindow::fitScreen()
 {
-    QScrollArea *area = makeScrollArea(this);
-    area->setGeometry(rect());
-    QScrollBar *bar = area->horizontalScrollBar();
+    const QSize whole = m_ground->minimumSize();
+    const bool isNarrow = roomOf(whole).width() < whole.width();
+    const QSize room = roomOf(whole + QSize(0, isNarrow ? kScrollBarWidth : 0));
+    if (!m_area && room != whole)
+        makeRoomScroll();
+    setFixedSize(room);
+    if (!m_area)
+        return;
+    m_area->setGeometry(rect());
+    m_area->setHorizontalScrollBarPolicy(isNarrow ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
+}
+
+void FramelessWindow::makeRoomScroll()
+{
+    m_area = makeScrollArea(this);
+    QScrollBar *bar = m_area->horizontalScrollBar();
     bar->setStyleSheet(scrollBarStyle());
-    if (isNarrow)
-        area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    else // the other bar lies over the right margin, to which nothing needs to scroll
-        connect(bar, &QScrollBar::valueChanged, bar, [bar] { bar->setValue(0); });
-    fillScrollArea(area, m_ground);
+    m_area->verticalScrollBar()->setStyleSheet(scrollBarStyle() +
+                                               Palette::styled(u"QScrollBar:vertical { background: @ground; }"));
+    auto *corner = new QWidget(m_area);
+    corner->setAutoFillBackground(true);
+    corner->setPalette(QColor(Palette::kGround));
+    m_area->setCornerWidget(corner);
+    connect(bar, &QScrollBar::valueChanged, bar, [this, bar] {
+        if (m_area->horizontalScrollBarPolicy() == Qt::ScrollBarAlwaysOff)
+            bar->setValue(0); // the other bar lies over the right margin, to which nothing needs to scroll
+    });
+    fillScrollArea(m_area, m_ground);
+    m_area->show();
+}
+
+/// When the system has told all of a change.
+void FramelessWindow::followScreen(const QScreen *screen)
+{
+    if (screen)
+        connect(screen, &QScreen::availableGeometryChanged, this, &FramelessWindow::takeRoom,
+                static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::UniqueConnection));
+}
+
+/// The screen may get smaller or larger while the window is open.
+void FramelessWindow::takeRoom()
+{
+    fitScreen();
+    if (isVisible())
+        keepOnScreen();
 }
 
 QWidget *FramelessWindow::ground() const

@@ -5,9 +5,12 @@
 #include <QWidget>
 
 class PictureLabel;
+class QScreen;
+class QScrollArea;
 
 /// A window whose frame is a picture, which gives it its size. Where the screen has less room its parts move together,
-/// and where that is not enough they scroll. It is dragged by any place that no control takes.
+/// and where that is not enough, or the room gets less while the window is open, they scroll. It is dragged by any
+/// place that no control takes.
 class FramelessWindow : public QWidget
 {
 public:
@@ -32,11 +35,16 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
+    QSize roomOf(const QSize &wanted) const;
     void layGround();
-    void makeRoomScroll(bool isNarrow);
+    void fitScreen();
+    void makeRoomScroll();
+    void followScreen(const QScreen *screen);
+    void takeRoom();
     void keepOnScreen();
     void keepSize();
 
     PictureLabel *m_ground;
+    QScrollArea *m_area = nullptr;     ///< none until the screen has too little room
     std::optional<QPoint> m_dragStart; ///< where the window was taken hold of
 };

@@ -4,6 +4,7 @@
 
 #include <QStackedWidget>
 
+#include "controls/focusgroup.h"
 #include "controls/lefttabbutton.h"
 #include "ddc_protocol/devicestate.h"
 #include "ddc_protocol/scenemodes.h"
@@ -128,7 +129,9 @@ void Navigator::showSetting(Command command)
     openFamilyOfScene();
     const LeftBar *left = bar(m_family);
     const int index = std::max(left->current(), 0); // the bar may not have the mode that is on
-    left->buttons()[static_cast<std::size_t>(index)]->setFocus(Qt::ShortcutFocusReason);
+    LeftTabButton *entry = left->buttons()[static_cast<std::size_t>(index)];
+    entry->setFocus(Qt::ShortcutFocusReason);
+    bringIntoSight(entry);
 }
 
 Page *Navigator::current() const

@@ -12,6 +12,7 @@ class TestSmallScreen : public WindowFixture
     Q_OBJECT
 private Q_SLOTS:
     void whatScrolls();
+    void theScreenChanges();
     void nothingIsSqueezed_data();
     void nothingIsSqueezed();
 
@@ -59,6 +60,30 @@ void TestSmallScreen::whatScrolls()
     scrolled->horizontalScrollBar()->setValue(1280);
     scrolled->verticalScrollBar()->setValue(0);
     QVERIFY(isInSight(close));
+    Q_EMIT m_window->findChild<SettingsPage *>()->settingWanted(Command::SceneMode);
+    QVERIFY(qobject_cast<LeftTabButton *>(m_window->focusWidget()) && isInSight(m_window->focusWidget()));
+}
+
+/// The window has no more than the screen's room, whatever that was before; what its bars lie on is no hole in it.
+void TestSmallScreen::theScreenChanges()
+{
+    startOn({1920, 1040});
+    const auto change = [this](QSize pixels) {
+        m_desk->desk.workArea = platform::WorkArea{pixels, 1.0};
+        const QScreen *screen = QGuiApplication::primaryScreen();
+        Q_EMIT QGuiApplication::primaryScreen()->availableGeometryChanged(screen->availableGeometry());
+        QCoreApplication::processEvents();
+        return m_window->size();
+    };
+    QCOMPARE(change({1366, 728}), QSize(1280, 728));
+    const QPoint onBar(1278, 700);
+    QCOMPARE(m_window->grab().toImage().pixelColor(onBar).alpha(), 255);
+    QCOMPARE(change({800, 560}), QSize(800, 560));
+    const QScrollBar *across = m_window->findChild<QScrollArea *>()->horizontalScrollBar();
+    QVERIFY(across->isVisible());
+    QCOMPARE(change({1080, 1880}), QSize(1080, 800));
+    QCOMPARE(change({1920, 1040}), QSize(1280, 800));
+    QVERIFY(!across->isVisible());
 }
 
 /// What can be seen and is lower than it must be: of a text all lines count.

@@ -9,6 +9,7 @@
 #include "controls/captionlabel.h"
 #include "controls/colorpicker.h"
 #include "controls/dress.h"
+#include "controls/focusgroup.h"
 #include "controls/metrics.h"
 #include "controls/palette.h"
 #include "ddc_protocol/automaticwriter.h"
@@ -221,6 +222,8 @@ void pageEmberline::goToMode(Command command)
     showPanel(kLightModePanel);
     if (const OptionGroupRow *row = optionGroup(command); row && !row->buttons().empty()) {
         QPushButton *chosen = row->buttonOf(deviceState.value(command));
-        (chosen ? chosen : row->buttons().front())->setFocus(Qt::ShortcutFocusReason);
+        QPushButton *place = chosen ? chosen : row->buttons().front();
+        place->setFocus(Qt::ShortcutFocusReason);
+        bringIntoSight(place);
     }
 }

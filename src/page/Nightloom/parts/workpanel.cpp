@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "controls/announcer.h"
+#include "controls/focusgroup.h"
 #include "controls/messagestrip.h"
 #include "controls/metrics.h"
 #include "page/Nightloom/parts/toolcolumn.h"
@@ -185,8 +186,10 @@ void WorkPanel::takeFocus()
         taken = taken || (m_focusBefore && widget->isAncestorOf(m_focusBefore));
         widget->setEnabled(false);
     }
-    if (taken)
-        m_cancel->setFocus();
+    if (!taken)
+        return;
+    m_cancel->setFocus();
+    bringIntoSight(m_cancel);
 }
 
 void WorkPanel::giveFocusBack()
