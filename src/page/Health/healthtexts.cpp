@@ -61,9 +61,10 @@ HealthFigure written(std::size_t index)
 {
     const QString monitor = index < monitorList.size() ? identityText(monitorList[index].identity) : QString();
     const WriteCount all = writeCounts.countOf(monitor);
-    const QString detail = QObject::tr("%1 in all, %2 by itself today")
-                               .arg(number(static_cast<std::uint64_t>(all.inAll)))
-                               .arg(writeCounts.countOf(monitor, WriteCounts::kAutomatic).today);
+    const auto byItself = writeCounts.countOf(monitor, WriteCounts::kAutomatic).today;
+    const QString detail =
+        QObject::tr("%1 in all, %2 by itself today")
+            .arg(number(static_cast<std::uint64_t>(all.inAll)), number(static_cast<std::uint64_t>(byItself)));
     return {number(static_cast<std::uint64_t>(all.today)), detail};
 }
 
