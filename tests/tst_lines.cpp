@@ -12,6 +12,7 @@ class TestLines : public QObject
 private Q_SLOTS:
     void shortLastLineTakesWords();
     void linesEndAtPhrases();
+    void labelIsAsHighAsItsPhrases();
     void boxIsAsWideAsItsLines();
     void widgetsStandInEvenLines();
 };
@@ -45,8 +46,10 @@ void TestLines::linesEndAtPhrases()
         phrasesOf(QStringLiteral("お使いの画面で「オフ」を選ぶと、Type-C 端子の映像が出ません。")),
         QStringList({"お使いの", "画面で", "「オフ」を", "選ぶと、", "Type-C ", "端子の", "映像が", "出ません。"}));
     QCOMPARE(phrasesOf(QStringLiteral("オフ\u00a0= 点いたままです。")).size(), 1);
-    QCOMPARE(phrasesOf(QStringLiteral("由电脑决定，而非 LED。")), // 决定 is not listed
-             QStringList({"由", "电脑", "决", "定，", "而", "非 ", "LED。"}));
+    QCOMPARE(phrasesOf(QStringLiteral("由电脑支配，而非 LED。")), // 支配 is not listed
+             QStringList({"由", "电脑", "支", "配，", "而", "非 ", "LED。"}));
+    QCOMPARE(phrasesOf(QStringLiteral("屏幕“标尺”“角度 尺”的「色」。")), // a quoted label is one word
+             QStringList({"屏幕", "“标尺”", "“角度 尺”", "的", "「色」。"}));
     QCOMPARE(phrasesOf(QStringLiteral("A caption")), QStringList());
     const QFont font;
     const auto widthOf = [&font](const QString &text) { return qCeil(QFontMetricsF(font).horizontalAdvance(text)); };
@@ -54,6 +57,24 @@ void TestLines::linesEndAtPhrases()
     const QString lines = QStringLiteral("色を確かめるときは\nオフにしてください。");
     QCOMPARE(evenLines(text, font, widthOf(QStringLiteral("色を確かめるときはオフに"))), lines);
     QCOMPARE(evenLines(text, font, widthOf(QStringLiteral("色を確かめると"))), text); // a phrase is longer
+    QCOMPARE(evenLines(QStringLiteral("Rhythm · Screen"), font, widthOf(QStringLiteral("Rhythm · Scr"))),
+             QStringLiteral("Rhythm\nScreen"));
+}
+
+/// One line more, for which the label is as high; none more where that line has no room.
+void TestLines::labelIsAsHighAsItsPhrases()
+{
+    WrappedLabel label;
+    label.setWordWrap(true);
+    label.setText(QStringLiteral("明るさを確かめるときは消してください。"));
+    const QFontMetrics metrics(label.font());
+    const int room = metrics.horizontalAdvance(QStringLiteral("明るさを確かめるとき"));
+    const int height = metrics.height() + 2 * metrics.lineSpacing();
+    QVERIFY(label.QLabel::heightForWidth(room) < height);
+    QCOMPARE(label.heightForWidth(room), height);
+    QCOMPARE(evenLines(label.text(), label.font(), room, 1),
+             QStringLiteral("明るさを\n確かめるときは\n消してください。"));
+    QCOMPARE(evenLines(label.text(), label.font(), room), label.text());
 }
 
 /// Also once the toolkit has laid it out anew.

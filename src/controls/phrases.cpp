@@ -44,6 +44,34 @@ bool isInsideWord(const QString &line, qsizetype at)
     });
 }
 
+/// A quoted label is one word. The toolkit breaks no line beside such marks: other languages have them without blanks.
+bool beginsQuote(QChar letter)
+{
+    return letter == u'“' || letter == u'「';
+}
+
+bool endsQuote(QChar letter)
+{
+    return letter == u'”' || letter == u'」';
+}
+
+bool isInsideQuote(QStringView line, qsizetype at)
+{
+    const QStringView before = line.left(at);
+    const auto begin = std::find_if(before.rbegin(), before.rend(), beginsQuote);
+    return begin != before.rend() && std::none_of(before.rbegin(), begin, endsQuote);
+}
+
+bool isBesideQuote(QStringView line, qsizetype at)
+{
+    return beginsQuote(line[at]) || (endsQuote(line[at - 1]) && line[at].isLetterOrNumber());
+}
+
+bool endsWord(const QString &line, qsizetype at, bool isBoundary)
+{
+    return (isBoundary || isBesideQuote(line, at)) && !isInsideWord(line, at) && !isInsideQuote(line, at);
+}
+
 bool hasWord(const QString &line)
 {
     return std::ranges::any_of(chineseWords(), [&line](const QString &word) { return line.contains(word); });
@@ -59,13 +87,16 @@ QStringList phrasesOf(const QString &line)
     QStringList phrases;
     QTextBoundaryFinder finder(QTextBoundaryFinder::Line, line);
     qsizetype begin = 0;
-    for (qsizetype end = finder.toNextBoundary(); end > 0; end = finder.toNextBoundary()) {
+    for (qsizetype end = 1; end < line.size(); ++end) {
+        finder.setPosition(end);
+        const bool isBoundary = finder.isAtBoundary();
         const bool isWhole =
-            isJapanese ? end == line.size() || endsPhrase(line[end - 1], line[end]) : !isInsideWord(line, end);
-        if (end < line.size() && (!isWhole || QStringView(line).left(end).endsWith(u"= ")))
+            isJapanese ? isBoundary && endsPhrase(line[end - 1], line[end]) : endsWord(line, end, isBoundary);
+        if (!isWhole || QStringView(line).left(end).endsWith(u"= "))
             continue;
         phrases.append(line.mid(begin, end - begin));
         begin = end;
     }
+    phrases.append(line.mid(begin));
     return phrases;
 }

@@ -90,9 +90,22 @@ Lines measured(const QStringList &lines, const QFontMetricsF &metrics)
     return all;
 }
 
+bool isWrapped(const QLabel &label)
+{
+    const bool isRich =
+        label.textFormat() == Qt::RichText || (label.textFormat() == Qt::AutoText && Qt::mightBeRichText(label.text()));
+    return !isRich && label.wordWrap();
+}
+
+int heightOf(const QString &lines, int room, const QFont &font)
+{
+    return QFontMetrics(font).boundingRect(QRect(0, 0, room, QWIDGETSIZE_MAX), Qt::TextWordWrap, lines).height();
+}
+
 } // namespace
 
-QString evenLines(const QString &text, const QFont &font, int room)
+/// The dot between two parts is dropped where a line ends between them.
+QString evenLines(const QString &text, const QFont &font, int room, int more)
 {
     QTextLayout layout(QString(text).replace(u'\n', QChar::LineSeparator), font);
     const auto wordsAt = [&layout](int width) { return linesIn(layout, width); };
@@ -100,10 +113,12 @@ QString evenLines(const QString &text, const QFont &font, int room)
     const QStringList phrases = text.contains(u'\n') ? QStringList() : phrasesOf(text);
     const auto phrasesAt = [&](int width) { return measured(laidInto(width, phrases, metrics), metrics); };
     const Lines ofPhrases = phrasesAt(room);
-    if (!phrases.isEmpty() && ofPhrases.count <= wordsAt(room).count && ofPhrases.widest <= room)
+    if (!phrases.isEmpty() && ofPhrases.count <= wordsAt(room).count + more && ofPhrases.widest <= room)
         return laidInto(evenWidthOf(phrasesAt, room), phrases, metrics).join(u'\n');
     const int even = evenWidthOf(wordsAt, room);
-    return even < room ? brokenAt(even, layout) : text;
+    if (even == room && !text.contains(u'·'))
+        return text;
+    return brokenAt(even, layout).replace(QStringLiteral(" ·\n"), QStringLiteral("\n"));
 }
 
 const QString &LabelLines::linesIn(int room, const QLabel &label)
@@ -112,27 +127,42 @@ const QString &LabelLines::linesIn(int room, const QLabel &label)
         m_text = label.text();
         m_font = label.font();
         m_room = room;
-        m_lines = evenLines(m_text, m_font, m_room);
+        m_lines = evenLines(m_text, m_font, m_room, 1);
     }
     return m_lines;
 }
 
+int LabelLines::heightForWidth(int width, const QLabel &label)
+{
+    if (!isWrapped(label))
+        return 0;
+    const QMargins margins = label.contentsMargins();
+    const int room = width - margins.left() - margins.right() - std::max(label.indent(), 0);
+    return heightOf(linesIn(room, label), room, label.font()) + margins.top() + margins.bottom();
+}
+
 bool LabelLines::draw(QLabel &label)
 {
-    const bool isRich =
-        label.textFormat() == Qt::RichText || (label.textFormat() == Qt::AutoText && Qt::mightBeRichText(label.text()));
-    if (isRich || !label.wordWrap())
+    if (!isWrapped(label))
         return false;
     QPainter painter(&label);
     const Qt::Alignment side = QStyle::visualAlignment(label.layoutDirection(), label.alignment());
     QRect room = label.contentsRect();
     if (side & Qt::AlignLeft)
         room.setLeft(room.left() + std::max(label.indent(), 0));
+    QString lines = linesIn(room.width(), label);
+    if (heightOf(lines, room.width(), label.font()) > room.height()) // somebody else has set its height
+        lines = evenLines(label.text(), label.font(), room.width());
     QStyleOption option;
     option.initFrom(&label);
-    label.style()->drawItemText(&painter, room, int(side) | Qt::TextWordWrap, option.palette, label.isEnabled(),
-                                linesIn(room.width(), label), label.foregroundRole());
+    label.style()->drawItemText(&painter, room, int(side) | Qt::TextWordWrap, option.palette, label.isEnabled(), lines,
+                                label.foregroundRole());
     return true;
+}
+
+int WrappedLabel::heightForWidth(int width) const
+{
+    return std::max(QLabel::heightForWidth(width), m_lines.heightForWidth(width, *this));
 }
 
 void WrappedLabel::paintEvent(QPaintEvent *event)

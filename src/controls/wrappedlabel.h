@@ -10,6 +10,9 @@ public:
     /// Draws them in place of the label's own. False, and nothing drawn, where its text is rich or is not wrapped.
     bool draw(QLabel &label);
 
+    /// What they need; nothing where draw() would draw nothing.
+    int heightForWidth(int width, const QLabel &label);
+
 private:
     const QString &linesIn(int room, const QLabel &label);
 
@@ -22,21 +25,23 @@ private:
 };
 
 /// A label that has no last line of two letters: its wrapped lines are then about as long as each other. Japanese ends
-/// its lines at phrases where no more lines come of it. The room that it takes is that of every label, so that nothing
-/// beside it moves. Rich text is drawn as ever.
+/// its lines at phrases and Chinese at words, where one line more does for it and the label may be as high. Rich text
+/// is drawn as ever.
 class WrappedLabel : public QLabel
 {
     Q_OBJECT
 public:
     using QLabel::QLabel;
 
+    int heightForWidth(int width) const override;
+
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    LabelLines m_lines;
+    mutable LabelLines m_lines; ///< found by whoever asks first
 };
 
 /// The text with its lines in @p room ended where they are about as long as each other, if the last one were very
-/// short, and at phrases, if it has some; else the text itself. There are never more lines for it.
-QString evenLines(const QString &text, const QFont &font, int room);
+/// short, and at phrases, if it has some and not more than @p more lines come of it; else the text itself.
+QString evenLines(const QString &text, const QFont &font, int room, int more = 0);
