@@ -1493,7 +1493,7 @@
     </message>
     <message>
         <source>For a laptop whose picture comes by its USB cable. Off if that socket only carries data and power.</source>
-        <translation>USB ケーブルで映像を送るノートコンピューター向けです。その端子がデータと給電だけならオフにします。</translation>
+        <translation>USB ケーブルで映像を送るノートコンピューター用です。その端子がデータと給電だけならオフにします。</translation>
     </message>
     <message>
         <source>For a player or a console that is to wake the monitor. Quick Boot cannot be on at the same time.</source>
@@ -3285,7 +3285,7 @@
     </message>
     <message>
         <source>Sharp motion with local dimming.</source>
-        <translation>ローカルディミングとくっきりした動きを両立します。</translation>
+        <translation>ローカルディミングと鮮明な動きを両立します。</translation>
     </message>
     <message>
         <source>Sharp movement for games.</source>
@@ -3641,7 +3641,7 @@
     </message>
     <message>
         <source>The colour of the light on the desk. White is best for reading and writing.</source>
-        <translation>机を照らす光の色です。読み書きには白が最適です。</translation>
+        <translation>机を照らす光の色です。読書には白が最適です。</translation>
     </message>
     <message>
         <source>The colour of the light on the wall behind the screen.</source>
@@ -4409,7 +4409,7 @@
     </message>
     <message>
         <source>What moves looks clearly sharper. Good for sport.</source>
-        <translation>動くものがはっきりくっきりします。スポーツに向いています。</translation>
+        <translation>動くものがはっきり見えます。スポーツに向いています。</translation>
     </message>
     <message>
         <source>What plays</source>

@@ -677,7 +677,7 @@
     </message>
     <message>
         <source>As saved: %1 cells a frame, not 1050.</source>
-        <translation>按保存格式每帧&#xa0;%1&#xa0;格，而非&#xa0;1050&#xa0;格。</translation>
+        <translation>同保存的&#xa0;%1&#xa0;格，而非每帧&#xa0;1050&#xa0;格。</translation>
     </message>
     <message>
         <source>Asked again and told; nothing to do.</source>

@@ -677,7 +677,7 @@
     </message>
     <message>
         <source>As saved: %1 cells a frame, not 1050.</source>
-        <translation>依儲存格式每畫格&#xa0;%1&#xa0;格，非&#xa0;1050&#xa0;格。</translation>
+        <translation>同儲存的&#xa0;%1&#xa0;格，非每畫格&#xa0;1050&#xa0;格。</translation>
     </message>
     <message>
         <source>Asked again and told; nothing to do.</source>
