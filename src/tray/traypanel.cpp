@@ -31,7 +31,7 @@
 
 namespace {
 
-constexpr int kWidth = 360;
+constexpr int kWidth = 368;
 
 } // namespace
 

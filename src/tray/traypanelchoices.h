@@ -10,7 +10,7 @@ class DeviceState;
 // What can stand on the panel of the tray icon: sliders and options of the pages, by the pages' own tables.
 
 inline constexpr int kTrayPlaces = 2;         ///< of the user's choice
-inline constexpr int kTrayCaptionWidth = 118; ///< pixels
+inline constexpr int kTrayCaptionWidth = 126; ///< pixels
 
 /// A control as the page that has it describes it.
 struct TrayControl
