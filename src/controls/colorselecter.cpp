@@ -9,6 +9,7 @@
 namespace {
 constexpr int kSwatch = 28;
 constexpr int kHighlight = 36;
+constexpr int kAround = (kHighlight - kSwatch) / 2; // of the highlight, on each side
 constexpr int kStep = 44;
 } // namespace
 
@@ -140,7 +141,7 @@ void ColorSelecter::resizeEvent(QResizeEvent *)
     m_rects.clear();
     const int step = count() > 0 ? qMin(kStep, width() / count()) : kStep;
     for (int i = 0; i < count(); ++i)
-        m_rects.append(QRect(i * step + (step - kSwatch) / 2, (height() - kSwatch) / 2, kSwatch, kSwatch));
+        m_rects.append(QRect(i * step + kAround, (height() - kSwatch) / 2, kSwatch, kSwatch));
 }
 
 void ColorSelecter::paintEvent(QPaintEvent *)
@@ -149,10 +150,8 @@ void ColorSelecter::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     for (int i = 0; i < m_rects.size(); ++i)
         drawSwatch(painter, i);
-    if (!m_rects.isEmpty()) {
-        const int around = (kHighlight - kSwatch) / 2 + 2;
-        drawFocus(painter, m_rects.first().united(m_rects.last()).adjusted(-around, -around, around, around));
-    }
+    if (!m_rects.isEmpty())
+        drawFocus(painter, m_rects.first().united(m_rects.last()).adjusted(-kAround, -kAround, kAround, kAround));
 }
 
 void ColorSelecter::drawSwatch(QPainter &painter, int index) const

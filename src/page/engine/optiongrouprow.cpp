@@ -40,7 +40,8 @@ OptionGroupRow::OptionGroupRow(const OptionGroup &group, BoundTexts &texts, QWid
       m_exclusive(new QButtonGroup(this)), m_mark(new ValueMark(this)), m_sign(new LockSign(this))
 {
     m_exclusive->setExclusive(group.look != GroupLook::Several);
-    m_caption->setFixedSize(metrics::kCaptionWidth, metrics::kControlHeight);
+    const bool hasPictures = group.look == GroupLook::Pictures; // the caption stands beside the middle of its options
+    m_caption->setFixedSize(metrics::kCaptionWidth, hasPictures ? kPictureButtonSide : metrics::kControlHeight);
     m_caption->dressForRow();
     describeAs(this, QAccessible::Grouping);
     bindTexts(texts);

@@ -8,7 +8,6 @@
 
 namespace {
 
-constexpr int kSide = 50;
 constexpr int kIcon = 44;
 
 const char *const kPictureStyle = "QPushButton { background: @card; border: 1px solid @edge; border-radius: 8px; }"
@@ -48,7 +47,7 @@ private:
 
 void dressPictureButton(QPushButton *button, DrawOption draw, int value)
 {
-    button->setFixedSize(kSide, kSide);
+    button->setFixedSize(kPictureButtonSide, kPictureButtonSide);
     button->setIconSize(QSize(kIcon, kIcon));
     button->setIcon(QIcon(new DrawnIcon(draw, value)));
     button->setStyleSheet(Palette::styled(QString::fromLatin1(kPictureStyle)));
