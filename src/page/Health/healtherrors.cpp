@@ -59,6 +59,11 @@ HealthErrors::HealthErrors(BoundTexts &texts, QWidget *parent) : QScrollArea(par
     setWidget(content);
 }
 
+QSize HealthErrors::sizeHint() const
+{
+    return {QScrollArea::sizeHint().width(), kHeight};
+}
+
 void HealthErrors::fill(const LinkRecord &record)
 {
     while (QLayoutItem *item = m_rows->takeAt(0)) {

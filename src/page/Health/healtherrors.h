@@ -15,6 +15,9 @@ public:
     /// Shows those of a record, in the language of now.
     void fill(const LinkRecord &record);
 
+    /// As high as several of them where there is room, whatever their number: what is below does not move as they come.
+    QSize sizeHint() const override;
+
 private:
     QVBoxLayout *m_rows;
 };
