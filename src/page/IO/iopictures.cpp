@@ -2,10 +2,13 @@
 
 #include <span>
 
+#include <QFontInfo>
 #include <QPainter>
 #include <QPolygonF>
 #include <QString>
 
+#include "controls/captions.h"
+#include "controls/metrics.h"
 #include "controls/palette.h"
 #include "controls/testpicture.h"
 
@@ -23,6 +26,15 @@ constexpr Socket kInputs[] = {{"DP1", 0.8, 1}, {"DP2", 0.8, 2}, {"Type-C", 0.5, 
 constexpr Socket kUpstream[] = {{"Type-C", 0.5, 0}, {"Type-B", 0.6, 1}};
 constexpr int kByItself = 0; // "Auto": any of them
 
+/// The names stand side by side: all of them are as small as the widest needs.
+QFont fontOfNames(const QFont &usual, std::span<const Socket> sockets, double room)
+{
+    QFont font = usual;
+    for (const Socket &socket : sockets)
+        font = fitCaption(QLatin1String(socket.name), font, QFontInfo(font).pixelSize(), int(room)).font;
+    return font;
+}
+
 /// The monitor's back with a row of sockets; the cable of the one that is chosen shines.
 void drawSockets(QPainter &painter, const QRectF &screen, std::span<const Socket> sockets, int chosen, bool any)
 {
@@ -30,6 +42,8 @@ void drawSockets(QPainter &painter, const QRectF &screen, std::span<const Socket
     const double cell = screen.width() / double(sockets.size() + 1);
     const double top = screen.center().y() - 14;
     double left = screen.left() + cell / 2;
+    const QFont usual = painter.font();
+    painter.setFont(fontOfNames(usual, sockets, cell - metrics::kInset));
     for (const Socket &socket : sockets) {
         const bool isOn = any || socket.value == chosen;
         const QColor colour(isOn ? Palette::kMint : Palette::kEdge);
@@ -47,6 +61,7 @@ void drawSockets(QPainter &painter, const QRectF &screen, std::span<const Socket
         }
         left += cell;
     }
+    painter.setFont(usual);
 }
 
 void paintInput(QPainter &painter, const QRectF &screen, const PictureValues &values)
