@@ -25,7 +25,7 @@ CustomHalf::CustomHalf(QWidget *parent) : QWidget(parent)
     fillScrollArea(scroll, content);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(metrics::kGap);
+    column->setSpacing(metrics::kRowGap); // the lower edge of what scrolls is then between two rows
     column->addWidget(scroll, 1);
 }
 
