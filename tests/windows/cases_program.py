@@ -43,7 +43,7 @@ def case_tray_panel(rig):
         wait_for(lambda: run.logged("Reconnet device..."), "the reconnection")
         press_icon(rig)
         panel = x, y, width, height = wait_for(run.window, "the panel")
-        assert width == 360 and x >= 0 and y >= 0 and x + width <= 1600 and y + height <= 1000, panel
+        assert width == 368 and x >= 0 and y >= 0 and x + width <= 1600 and y + height <= 1000, panel
         begin = run.settled()
         run.click("panelHint")  # Wine's tray, a window itself, has the keyboard
         x, y, width, height = run.place("Brightness_slider")
