@@ -1,6 +1,7 @@
 #include "controls/phrases.h"
 
 #include <algorithm>
+#include <vector>
 
 #include <QTextBoundaryFinder>
 
@@ -35,13 +36,17 @@ const QStringList &chineseWords()
     return words;
 }
 
-bool isInsideWord(const QString &line, qsizetype at)
+/// The letters of a line before which it is within such a word.
+using InWords = std::vector<bool>;
+
+InWords findWords(const QString &line)
 {
-    return std::ranges::any_of(chineseWords(), [&](const QString &word) {
-        const qsizetype begin = std::max<qsizetype>(at - word.size() + 1, 0);
-        const qsizetype found = line.indexOf(word, begin);
-        return found >= 0 && found < at;
-    });
+    InWords inWords(static_cast<std::size_t>(line.size()));
+    for (const QString &word : chineseWords()) {
+        for (qsizetype at = line.indexOf(word); at >= 0; at = line.indexOf(word, at + 1))
+            std::fill_n(inWords.begin() + at + 1, word.size() - 1, true);
+    }
+    return inWords;
 }
 
 /// A quoted label is one word. The toolkit breaks no line beside such marks: other languages have them without blanks.
@@ -67,14 +72,9 @@ bool isBesideQuote(QStringView line, qsizetype at)
     return beginsQuote(line[at]) || (endsQuote(line[at - 1]) && line[at].isLetterOrNumber());
 }
 
-bool endsWord(const QString &line, qsizetype at, bool isBoundary)
+bool endsWord(QStringView line, qsizetype at, bool isBoundary)
 {
-    return (isBoundary || isBesideQuote(line, at)) && !isInsideWord(line, at) && !isInsideQuote(line, at);
-}
-
-bool hasWord(const QString &line)
-{
-    return std::ranges::any_of(chineseWords(), [&line](const QString &word) { return line.contains(word); });
+    return (isBoundary || isBesideQuote(line, at)) && !isInsideQuote(line, at);
 }
 
 } // namespace
@@ -82,7 +82,9 @@ bool hasWord(const QString &line)
 QStringList phrasesOf(const QString &line)
 {
     const bool isJapanese = std::any_of(line.begin(), line.end(), isHiragana);
-    if (!isJapanese && !hasWord(line))
+    const bool isHan = std::any_of(line.begin(), line.end(), [](QChar c) { return c.script() == QChar::Script_Han; });
+    const InWords inWords = isHan && !isJapanese ? findWords(line) : InWords();
+    if (!isJapanese && std::find(inWords.begin(), inWords.end(), true) == inWords.end())
         return {};
     QStringList phrases;
     QTextBoundaryFinder finder(QTextBoundaryFinder::Line, line);
@@ -90,8 +92,8 @@ QStringList phrasesOf(const QString &line)
     for (qsizetype end = 1; end < line.size(); ++end) {
         finder.setPosition(end);
         const bool isBoundary = finder.isAtBoundary();
-        const bool isWhole =
-            isJapanese ? isBoundary && endsPhrase(line[end - 1], line[end]) : endsWord(line, end, isBoundary);
+        const bool isWhole = isJapanese ? isBoundary && endsPhrase(line[end - 1], line[end])
+                                        : !inWords[static_cast<std::size_t>(end)] && endsWord(line, end, isBoundary);
         if (!isWhole || QStringView(line).left(end).endsWith(u"= "))
             continue;
         phrases.append(line.mid(begin, end - begin));
