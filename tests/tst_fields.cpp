@@ -300,13 +300,12 @@ void TestFields::emptyKeyFieldSaysSo()
     field.clear();
     QVERIFY(field.grab(inside).toImage() == empty);
     QCOMPARE(line->placeholderText(), QStringLiteral("NA"));
-    // Nothing but keys changes what it says.
-    QMimeData text;
+    QMimeData text; // nothing but keys changes what it says
     text.setText(QStringLiteral("x"));
     QDragEnterEvent dragged({}, Qt::CopyAction, &text, Qt::LeftButton, {});
     QContextMenuEvent menu(QContextMenuEvent::Mouse, {}, field.mapToGlobal(QPoint()));
-    for (QEvent *event : std::initializer_list<QEvent *>{&dragged, &menu})
-        QCoreApplication::sendEvent(line, event);
+    QCoreApplication::sendEvent(line, &dragged);
+    QCoreApplication::sendEvent(line, &menu);
     QVERIFY(!dragged.isAccepted() && !QApplication::activePopupWidget());
 }
 
