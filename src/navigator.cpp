@@ -129,9 +129,7 @@ void Navigator::showSetting(Command command)
     openFamilyOfScene();
     const LeftBar *left = bar(m_family);
     const int index = std::max(left->current(), 0); // the bar may not have the mode that is on
-    LeftTabButton *entry = left->buttons()[static_cast<std::size_t>(index)];
-    entry->setFocus(Qt::ShortcutFocusReason);
-    bringIntoSight(entry);
+    focusInSight(left->buttons()[static_cast<std::size_t>(index)], Qt::ShortcutFocusReason);
 }
 
 Page *Navigator::current() const

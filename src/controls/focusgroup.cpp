@@ -115,3 +115,9 @@ void bringIntoSight(QWidget *control)
             area->ensureWidgetVisible(control);
     }
 }
+
+void focusInSight(QWidget *control, Qt::FocusReason reason)
+{
+    control->setFocus(reason);
+    bringIntoSight(control);
+}

@@ -31,3 +31,6 @@ private:
 
 /// Scrolls whatever scrolls around a control so that it is seen.
 void bringIntoSight(QWidget *control);
+
+/// Gives a control the keyboard where no key of the user did, which would have brought it into sight.
+void focusInSight(QWidget *control, Qt::FocusReason reason);

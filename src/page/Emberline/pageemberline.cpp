@@ -166,8 +166,10 @@ void pageEmberline::showLight()
     if (!m_ownColorRow)
         return;
     m_ownColorRow->setVisible(deviceState.value(Command::LightColor) == kOwnLightColor);
-    const std::optional<QRgb> color = ownLightColor(deviceState);
-    color ? m_ownColor->setColor(QColor(*color)) : m_ownColor->setUnknown();
+    if (const std::optional<QRgb> color = ownLightColor(deviceState))
+        m_ownColor->setColor(QColor(*color));
+    else
+        m_ownColor->setUnknown();
 }
 
 void pageEmberline::updateInterfaceData()
@@ -222,8 +224,6 @@ void pageEmberline::goToMode(Command command)
     showPanel(kLightModePanel);
     if (const OptionGroupRow *row = optionGroup(command); row && !row->buttons().empty()) {
         QPushButton *chosen = row->buttonOf(deviceState.value(command));
-        QPushButton *place = chosen ? chosen : row->buttons().front();
-        place->setFocus(Qt::ShortcutFocusReason);
-        bringIntoSight(place);
+        focusInSight(chosen ? chosen : row->buttons().front(), Qt::ShortcutFocusReason);
     }
 }

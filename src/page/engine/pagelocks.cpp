@@ -76,6 +76,5 @@ void PageLocks::goTo(const LockRule *rule)
         Q_EMIT settingWanted(rule->target.command);
         return;
     }
-    bringIntoSight(control);
-    control->setFocus(Qt::ShortcutFocusReason); // which shows the keyboard's place
+    focusInSight(control, Qt::ShortcutFocusReason); // which shows the keyboard's place
 }

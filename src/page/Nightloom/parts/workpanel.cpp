@@ -186,10 +186,8 @@ void WorkPanel::takeFocus()
         taken = taken || (m_focusBefore && widget->isAncestorOf(m_focusBefore));
         widget->setEnabled(false);
     }
-    if (!taken)
-        return;
-    m_cancel->setFocus();
-    bringIntoSight(m_cancel);
+    if (taken)
+        focusInSight(m_cancel, Qt::OtherFocusReason);
 }
 
 void WorkPanel::giveFocusBack()
