@@ -273,6 +273,12 @@ void TestSplitter::whoIsMeant()
         QCOMPARE(m_splitter.windowMeant(), virtualdesk::Applications::windowOf(front));
     }
     m_splitter.noteInFront(virtualdesk::Applications::windowOf(1));
+    for (const char16_t *shell : {u"Shell_TrayWnd", u"TopLevelWindowForOverflowXamlIsland"}) { // on the way to the icon
+        applications.ofWindow(virtualdesk::Applications::windowOf(0))->window.className = QString::fromUtf16(shell);
+        applications.bringToFront(0);
+        m_splitter.noteInFront(virtualdesk::Applications::windowOf(0));
+        QCOMPARE(m_splitter.windowMeant(), virtualdesk::Applications::windowOf(1));
+    }
     applications.leaveFront(); // this program came
     QCOMPARE(m_splitter.windowMeant(), virtualdesk::Applications::windowOf(1));
     applications.setList({});

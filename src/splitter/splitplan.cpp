@@ -11,8 +11,19 @@ namespace {
 constexpr int kHandle = 40; ///< pixels of a title bar
 constexpr int kAsGood = 1;  ///< pixels by which the edges of a window may miss its zone's
 
-constexpr QLatin1String kShellClasses[] = {QLatin1String("Progman"), QLatin1String("WorkerW"),
-                                           QLatin1String("Shell_TrayWnd"), QLatin1String("Shell_SecondaryTrayWnd")};
+/// The classes of the desktop, of the taskbars, and of what the user passes on the way to an icon of the tray: what
+/// holds the hidden icons (Windows 10, 11, and the tray of Wine), start menu and search, and the choice of a task
+/// (Windows 10, 11).
+constexpr QLatin1String kShellClasses[] = {QLatin1String("Progman"),
+                                           QLatin1String("WorkerW"),
+                                           QLatin1String("Shell_TrayWnd"),
+                                           QLatin1String("Shell_SecondaryTrayWnd"),
+                                           QLatin1String("NotifyIconOverflowWindow"),
+                                           QLatin1String("TopLevelWindowForOverflowXamlIsland"),
+                                           QLatin1String("__winex11_standalone_tray"),
+                                           QLatin1String("Windows.UI.Core.CoreWindow"),
+                                           QLatin1String("MultitaskingViewFrame"),
+                                           QLatin1String("XamlExplorerHostIslandWindow")};
 
 bool has(const WindowFacts &window, std::uint32_t style)
 {

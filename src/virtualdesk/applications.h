@@ -21,6 +21,7 @@ struct ApplicationWindow
     bool isHung = false;
     bool hasMoreRights = false; ///< it cannot be moved from here
     QSize least = {};           ///< the smallest size that it takes
+    QString className = QStringLiteral("Window");
 };
 
 /// A program that runs on the desk.

@@ -85,6 +85,12 @@ std::uint32_t ApplicationWindows::style(void *window) const
     return style;
 }
 
+QString ApplicationWindows::className(void *window) const
+{
+    const ApplicationWindow *found = find(window);
+    return found != nullptr ? found->className : QString();
+}
+
 bool ApplicationWindows::isHung(void *window) const
 {
     const ApplicationWindow *found = find(window);

@@ -30,6 +30,7 @@ public:
     std::optional<QRect> rect(void *window) const;
     std::optional<QRect> visibleRect(void *window) const;
     std::uint32_t style(void *window) const;
+    QString className(void *window) const;
     bool isHung(void *window) const;
     platform::DisplayHandle displayOf(void *window) const;
     /// The error's number; 0 when it was moved, which may be into a size of its own.

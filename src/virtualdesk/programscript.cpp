@@ -17,6 +17,8 @@ ApplicationWindow readWindow(ScriptObject object)
     window.least = QSize(least[0], least[1]);
     object.number("frame", window.frame, 0, 100);
     object.choice("shape", window.shape, kShapes);
+    if (object.has("class"))
+        window.className = object.take("class").toString();
     object.flag("sizable", window.isSizable);
     object.flag("hung", window.isHung);
     object.flag("more_rights", window.hasMoreRights);

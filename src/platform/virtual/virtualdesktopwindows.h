@@ -15,7 +15,7 @@ public:
     std::optional<QRect> windowRect(WindowHandle window) override { return m_windows.rect(window); }
     std::optional<QRect> visibleRect(WindowHandle window) override { return m_windows.visibleRect(window); }
     std::uint32_t style(WindowHandle window) override { return m_windows.style(window); }
-    QString className(WindowHandle) override { return QStringLiteral("Window"); }
+    QString className(WindowHandle window) override { return m_windows.className(window); }
     bool isHung(WindowHandle window) override { return m_windows.isHung(window); }
     DisplayHandle displayOf(WindowHandle window) override { return m_windows.displayOf(window); }
     std::uint32_t moveWindow(WindowHandle window, const QRect &rect) override { return m_windows.move(window, rect); }
