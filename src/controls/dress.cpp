@@ -10,6 +10,7 @@
 
 #include "controls/metrics.h"
 #include "controls/palette.h"
+#include "controls/pictures.h"
 #include "controls/tooltips.h"
 
 namespace {
@@ -138,6 +139,7 @@ void dressApplication()
     QApplication::setPalette(palette);
     for (const char *kind : {"QMenu", "QMessageBox", "QAbstractItemView"}) // Windows has fonts of its own for these
         QApplication::setFont(QApplication::font(), kind);
+    Pictures::keepFew();
     dressToolTips();
     qApp->installEventFilter(new DressFilter(qApp));
 }

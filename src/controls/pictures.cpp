@@ -1,16 +1,25 @@
 #include "controls/pictures.h"
 
 #include <QFile>
+#include <QGuiApplication>
 #include <QPixmapCache>
 
 namespace Pictures {
 namespace {
+constexpr int kKept = 4096; // kB at 100 %
+
 QString doubledPath(const QString &path)
 {
     const qsizetype dot = path.lastIndexOf(QLatin1Char('.'));
     return dot < 0 ? path : path.left(dot) + QStringLiteral("@2x") + path.mid(dot);
 }
 } // namespace
+
+void keepFew()
+{
+    const qreal ratio = qGuiApp->devicePixelRatio();
+    QPixmapCache::setCacheLimit(qRound(kKept * ratio * ratio));
+}
 
 QPixmap load(const QString &path, qreal ratio)
 {

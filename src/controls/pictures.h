@@ -9,6 +9,10 @@ namespace Pictures {
 /// The folder that every picture name of the controls starts with.
 inline const QString kRoot = QStringLiteral(":/resource/");
 
+/// Keeps about as many pictures loaded as a page shows, at the scale of the sharpest screen, rather than those of pages
+/// that nobody looks at any more.
+void keepFew();
+
 /// Loads the picture at @p path for a device pixel ratio of @p ratio, from the cache when it was loaded before.
 /// Above 1.0 the "@2x" file is taken if there is one. The result is null when no such picture exists.
 QPixmap load(const QString &path, qreal ratio);
