@@ -245,6 +245,17 @@ void TestTruth::marks()
     QTRY_COMPARE(slider("Brightness")->value(), 20); // as the monitor said when it was found again
     QVERIFY(!slider("Brightness")->toolTip().isEmpty());
     QCOMPARE(slider("Contrast")->mark(), Mark::None);
+    m_desk->monitor().setValue(0xCC, 99); // a language that this program does not know
+    openPage(8, "System Settings");
+    SettingsPage *system = m_window->settingsPage(PageId::SystemSetting);
+    static_cast<PanelPage *>(system)->showPanel("OSD Language");
+    settle();
+    QCOMPARE(system->optionGroup(Command::OsdLanguage)->mark(), Mark::Unlisted);
+    SettingsPage *enhance = m_window->settingsPage(PageId::PictureEnhance); // a switch, and options that have the value
+    static_cast<PanelPage *>(enhance)->showPanel("DyDs");
+    openPage(5, "Picture Enhance");
+    settle();
+    QCOMPARE(enhance->optionGroup(Command::MotionTech)->mark(), Mark::None);
 }
 
 void TestTruth::statusFollowsEveryRequest()

@@ -3820,6 +3820,10 @@
         <translation>The monitor from behind, with its lamps</translation>
     </message>
     <message>
+        <source>The monitor has a value that is none of these.</source>
+        <translation>The monitor has a value that is none of these.</translation>
+    </message>
+    <message>
         <source>The monitor has not told this value yet.</source>
         <translation>The monitor has not told this value yet.</translation>
     </message>

@@ -3820,6 +3820,10 @@
         <translation>モニターの背面とライト</translation>
     </message>
     <message>
+        <source>The monitor has a value that is none of these.</source>
+        <translation>モニターの値はこの一覧にありません。</translation>
+    </message>
+    <message>
         <source>The monitor has not told this value yet.</source>
         <translation>この値はまだモニターから読み取れていません。</translation>
     </message>

@@ -3820,6 +3820,10 @@
         <translation>显示器背面及其灯光</translation>
     </message>
     <message>
+        <source>The monitor has a value that is none of these.</source>
+        <translation>显示器的值不在这些选项之中。</translation>
+    </message>
+    <message>
         <source>The monitor has not told this value yet.</source>
         <translation>尚未从显示器读取此值。</translation>
     </message>

@@ -3820,6 +3820,10 @@
         <translation>顯示器背面及其燈光</translation>
     </message>
     <message>
+        <source>The monitor has a value that is none of these.</source>
+        <translation>顯示器的值不在這些選項之中。</translation>
+    </message>
+    <message>
         <source>The monitor has not told this value yet.</source>
         <translation>尚未從顯示器讀取此值。</translation>
     </message>

@@ -19,6 +19,8 @@ QString markText(Mark mark)
         break;
     case Mark::Unknown:
         return QObject::tr("The monitor has not told this value yet.");
+    case Mark::Unlisted:
+        return QObject::tr("The monitor has a value that is none of these.");
     case Mark::Unchosen:
         return QObject::tr("Not chosen here yet. The accessory does not tell what it has.");
     case Mark::Waiting:
@@ -64,6 +66,7 @@ void ValueMark::paintEvent(QPaintEvent *)
     case Mark::None:
         break;
     case Mark::Unknown:
+    case Mark::Unlisted:
     case Mark::Unchosen:
         painter.fillRect(QRectF(centre.x() - 4, centre.y() - 0.75, 8, 1.5), kMarkDim);
         break;

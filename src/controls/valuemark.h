@@ -6,6 +6,7 @@
 enum class Mark {
     None,
     Unknown,     ///< a dash: nobody has told it
+    Unlisted,    ///< a dash: the monitor told one that is none of the options
     Unchosen,    ///< a dash: the device never tells it, and nobody has chosen it here yet
     Waiting,     ///< on its way for longer than one expects
     Unconfirmed, ///< what is shown was so before; the monitor did not tell it again

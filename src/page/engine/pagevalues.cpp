@@ -42,9 +42,18 @@ void PageValues::fill(OptionGroupRow *row) const
 {
     const Command command = *row->group().command;
     const Mark mark = markOf(command);
+    const int value = deviceState.value(command);
     if (mark != Mark::Unconfirmed)
-        row->showValue(mark != Mark::Unknown ? std::optional(deviceState.value(command)) : std::nullopt);
-    row->setMark(mark);
+        row->showValue(mark != Mark::Unknown ? std::optional(value) : std::nullopt);
+    row->setMark(mark == Mark::None && !isListed(command, value) ? Mark::Unlisted : mark);
+}
+
+/// A switch whose halves do not stand for the value may have its options in a row of their own.
+bool PageValues::isListed(Command command, int value) const
+{
+    return std::ranges::any_of(m_controls.groups(), [&](const OptionGroupRow *row) {
+        return row->group().command == command && row->canShow(value);
+    });
 }
 
 void PageValues::fill(SliderWidget *slider, Command command) const

@@ -41,6 +41,7 @@ public:
 
 private:
     void fill(OptionGroupRow *row) const;
+    bool isListed(Command command, int value) const;
 
     QObject &m_page;
     const PageControls &m_controls;
