@@ -337,10 +337,13 @@ void TestReach::oneObjectTells()
     WorkPanel work(texts, strip);
     work.begin({{"", 0, 100, platform::milliseconds(100)}});
     QStringList progress;
-    for (int i = 0; i <= 100; ++i)
+    for (int i = 0; i <= 100; ++i) { // what is quick is not told on its way
+        m_desk->clock.advance(i <= 50 ? 100ms : 0ms);
         progress += told([&] { work.showProgress(i); });
+    }
+    progress += told([&] { work.end(true); });
     progress.removeAll(QString());
-    QCOMPARE(progress.join(QLatin1Char(' ')), QStringLiteral("25% 50% 75% 100%"));
+    QCOMPARE(progress.join(QLatin1Char(' ')), QStringLiteral("25% 50% 100%"));
     QVERIFY(told([&] {
                 m_desk->desk.unplug(0);
                 m_window->deviceRemoved();

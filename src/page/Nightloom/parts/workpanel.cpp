@@ -18,9 +18,12 @@
 #include "page/engine/labels.h"
 #include "page/engine/note.h"
 #include "platform/desk.h"
+#include "platform/pause.h"
 #include "usb-hid/accessoryupload.h"
 
 using platform::milliseconds;
+
+static constexpr milliseconds kBreath{1000}; // between two tellings of how far it is
 
 milliseconds timeLeft(std::span<const WorkStep> steps, std::size_t step, int progress, milliseconds gone)
 {
@@ -77,6 +80,7 @@ void WorkPanel::begin(std::vector<WorkStep> steps)
     m_failed = false;
     m_cancelled = false;
     m_told = {m_steps.size(), 0}; // nothing
+    m_toldAt = m_stepBegan.addMSecs(-kBreath.count());
     showNotice({});
     showProgress(m_steps.front().from);
     takeFocus();
@@ -108,8 +112,11 @@ void WorkPanel::tellProgress()
 {
     constexpr int kQuarter = kProgressEnd / 4;
     const std::pair now(m_now, m_bar->value() / kQuarter);
-    if (std::exchange(m_told, now) == now)
+    const QDateTime time = platform::desk().clock().now();
+    if (now == m_told || platform::endOf(m_toldAt, kBreath, time) > time)
         return;
+    m_told = now;
+    m_toldAt = time;
     QStringList parts = {stepName(), m_bar->text()};
     parts.removeAll(QString());
     Announcer::say(parts.join(QLatin1Char(' ')));

@@ -98,6 +98,7 @@ private:
     std::size_t m_now = 0;         ///< the step that goes on
     QDateTime m_stepBegan;
     std::pair<std::size_t, int> m_told; ///< the step and the quarter of the whole that were told last
+    QDateTime m_toldAt;
     platform::milliseconds m_left{};
     QPointer<QWidget> m_focusBefore; ///< while nothing can be used
     bool m_failed = false;
