@@ -61,6 +61,11 @@ template <typename Dialog> static void lookInto(void (*look)(Dialog *))
     });
 }
 
+static void isOnScreen(QDialog *dialog)
+{
+    QVERIFY(dialog->screen()->availableGeometry().contains(dialog->frameGeometry()));
+}
+
 static void readWhole(const QAbstractItemModel *model, const QModelIndex &root)
 {
     for (int column = 0; column < model->columnCount(root); ++column) {
@@ -151,6 +156,16 @@ private Q_SLOTS:
         dressApplication();
         for (const char *kind : kKinds)
             QCOMPARE(QApplication::font(kind), QApplication::font());
+    }
+
+    /// Also the dialog for files, on a screen that is smaller than it would be.
+    void dialogsFitTheScreen()
+    {
+        dressApplication();
+        lookInto(&isOnScreen);
+        askForFile(nullptr, "caption", m_desk->folder(), "*.*");
+        lookInto(&isOnScreen);
+        QColorDialog::getColor(Qt::red, nullptr, {}, QColorDialog::DontUseNativeDialog);
     }
 
     void everyTextIsTranslated()

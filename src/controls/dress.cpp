@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QPalette>
 #include <QProxyStyle>
+#include <QScreen>
 
 #include "controls/metrics.h"
 #include "controls/palette.h"
@@ -73,8 +74,16 @@ constexpr char16_t kDialogStyle[] =
     "QAbstractItemView { color: @soft; background-color: @card; border: 1px solid @edge; font-size: 14px; }"
     "QHeaderView::section { color: @dim; background-color: @field; border: none; padding: 4px 8px; font-size: 13px; }";
 
+constexpr QSize kSystemFrame(16, 48); // what a system draws around a window, if much
+
+/// No larger than the screen has room for it, of which the toolkit thinks for some of its dialogs only.
+void fitScreen(QDialog *dialog)
+{
+    dialog->resize(dialog->size().boundedTo(dialog->screen()->availableSize() - kSystemFrame));
+}
+
 /// Many menus and the question for a colour are the toolkit's own, made as they are wanted: each gets its look just
-/// before it is shown.
+/// before it is shown, and its size as it is.
 class DressFilter : public QObject
 {
 public:
@@ -83,14 +92,22 @@ public:
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        if (event->type() != QEvent::Polish || !watched->isWidgetType())
+        if (!watched->isWidgetType())
             return false;
-        auto *widget = static_cast<QWidget *>(watched);
+        if (event->type() == QEvent::Polish)
+            dress(static_cast<QWidget *>(watched));
+        else if (auto *dialog = qobject_cast<QDialog *>(watched); dialog && event->type() == QEvent::Show)
+            fitScreen(dialog);
+        return false;
+    }
+
+private:
+    static void dress(QWidget *widget)
+    {
         if (widget->isWindow() && qobject_cast<QMenu *>(widget))
             widget->setStyleSheet(Palette::styled(kMenuStyle));
         else if (auto *dialog = qobject_cast<QColorDialog *>(widget))
             dressDialog(dialog);
-        return false;
     }
 };
 
