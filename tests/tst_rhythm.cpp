@@ -8,6 +8,7 @@
 #include "support/truthfixture.h"
 
 using namespace std::chrono_literals;
+using virtualdesk::AudioCall;
 using virtualdesk::kForEver;
 
 namespace {
@@ -125,13 +126,19 @@ class TestRhythm : public TruthFixture
         m_desk->desk.registrations().tellSystem(platform::kMessageSessionChange, sessionEvent);
     }
 
-    void startIn(int mode, int source, QRgb left, QRgb right)
+    void startIn(int mode, int source, QRgb left, QRgb right, bool canHear = false)
     {
         start(10, 0, [=, this] {
             for (const auto &[code, value] :
                  {std::pair(0x75, mode), {0x83, source}, {0x84, 4}, {0x86, 1}, {0x88, 1}, {0x89, 1}})
                 m_desk->monitor().setValue(static_cast<std::uint8_t>(code), static_cast<std::uint16_t>(value));
-            m_desk->desk.sound().fail({virtualdesk::AudioCall::CreateEnumerator, platform::kAudioFailed, kForEver});
+            if (!canHear)
+                m_desk->desk.sound().fail({AudioCall::CreateEnumerator, platform::kAudioFailed, kForEver});
+            m_desk->desk.sound().setProbe([](AudioCall call, int) {
+                QSemaphore none; // a capture waits here for its end: the clock would not hold it back
+                while (call == AudioCall::NextPacketSize && !SoundAnalyzer::instance().isInterruptionRequested())
+                    none.tryAcquire(1, 1);
+            });
             showHalves(left, right);
         });
         QCOMPARE(screen().copies(), 0); // nobody knows the mode yet
@@ -320,6 +327,24 @@ private Q_SLOTS:
         const int tone = m_desk->monitor().value(0x86);
         QVERIFY(tone >> 11 > 5 && (tone & 0x7FF) == 0); // red alone
         QCOMPARE(screen().copies(), 0);
+    }
+
+    /// Nothing plays: it is listened anew, but not while somebody else listens, whose capture that would end.
+    void silenceIsHeardTogether()
+    {
+        startIn(3, 0, 0, 0, true);
+        const auto &analyzer = SoundAnalyzer::instance();
+        pass(2s);
+        QTRY_VERIFY(analyzer.isCapturing());
+        pass(3s);
+        QTRY_VERIFY(!analyzer.isRunning());
+        SoundUse music;
+        music.begin();
+        pass(3s);
+        QTRY_VERIFY(analyzer.isCapturing());
+        QSignalSpy ends(&analyzer, &SoundAnalyzer::ended);
+        pass(9s);
+        QVERIFY(analyzer.isCapturing() && ends.isEmpty());
     }
 
     /// What is sent differs from what the lamps show, not from what they were only to show.

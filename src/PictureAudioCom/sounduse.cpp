@@ -15,3 +15,8 @@ void SoundUse::end()
     if (std::exchange(m_isOn, false) && --SoundAnalyzer::instance().m_uses == 0)
         SoundAnalyzer::instance().stop();
 }
+
+bool SoundUse::isAlone() const
+{
+    return SoundAnalyzer::instance().m_uses == (m_isOn ? 1 : 0);
+}

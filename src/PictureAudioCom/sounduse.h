@@ -12,6 +12,9 @@ public:
     /// Stops the capture when nobody else uses it.
     void end();
 
+    /// Whether nobody else uses it.
+    bool isAlone() const;
+
 private:
     bool m_isOn = false;
 };

@@ -152,13 +152,14 @@ void RhythmLight::setSource(Source source)
 }
 
 /// The sound output may come and go, another may have become the default one, which the old capture does not hear, and
-/// somebody else may have stopped it: whatever it was, it is listened anew.
+/// somebody else may have stopped it: whatever it was, it is listened anew. Who else uses the analyser does so too, and
+/// would take the end of its capture for a failure.
 void RhythmLight::listen()
 {
     SoundAnalyzer &analyzer = SoundAnalyzer::instance();
     if (!analyzer.isRunning())
         analyzer.start();
-    else if (!m_heard && analyzer.isCapturing())
+    else if (!m_heard && analyzer.isCapturing() && m_sound.isAlone())
         analyzer.stop(); // it starts at the next look
     if (!std::exchange(m_heard, false))
         setState(State::Holds);
