@@ -234,6 +234,7 @@ void TestSplitter::refusals_data()
     row("rights", changed(&ApplicationWindow::hasMoreRights, true), int(SplitRefusal::MoreRights));
     row("size", changed(&ApplicationWindow::isSizable, false), int(SplitRefusal::FixedSize));
     row("silent", changed(&ApplicationWindow::isHung, true), int(SplitRefusal::Hung));
+    row("hidden", changed(&ApplicationWindow::shape, Shape::Hidden), int(SplitRefusal::NoWindow));
     row("minimised", changed(&ApplicationWindow::shape, Shape::Minimised), int(SplitRefusal::Minimised));
     row("full screen", changed(&ApplicationWindow::shape, Shape::FullScreen), int(SplitRefusal::FullScreen));
     ApplicationWindow maximised = changed(&ApplicationWindow::shape, Shape::Maximised);
@@ -281,6 +282,8 @@ void TestSplitter::whoIsMeant()
     }
     applications.leaveFront(); // this program came
     QCOMPARE(m_splitter.windowMeant(), virtualdesk::Applications::windowOf(1));
+    applications.ofWindow(virtualdesk::Applications::windowOf(1))->window.shape = Shape::Hidden; // closed to its icon
+    QVERIFY(!m_splitter.windowMeant());
     applications.setList({});
     QVERIFY(!m_splitter.windowMeant()); // its window is gone
     QCOMPARE(m_splitter.arrange(virtualdesk::Applications::windowOf(1), {Kind::Next}).refusal, SplitRefusal::NoWindow);

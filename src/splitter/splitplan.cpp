@@ -38,7 +38,7 @@ bool isFullScreen(const WindowFacts &window)
 
 SplitRefusal refusalOf(const WindowFacts &window)
 {
-    if (!window.id.handle || window.style == 0 || isShellWindow(window.className))
+    if (!window.id.handle || !has(window, platform::kStyleVisible) || isShellWindow(window.className))
         return SplitRefusal::NoWindow;
     if (window.screen.isEmpty())
         return SplitRefusal::NoScreen;

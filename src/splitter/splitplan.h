@@ -14,7 +14,7 @@
 /// Why a window stays where it is.
 enum class SplitRefusal {
     None,
-    NoWindow, ///< none is in front, or only the desktop and the taskbar
+    NoWindow, ///< none is in front, or only the desktop and the taskbar; or it is hidden
     NoScreen, ///< the screen that it is on cannot be told
     Hung,     ///< it does not answer
     Minimised,

@@ -12,6 +12,12 @@ platform::DesktopWindows &windows()
     return platform::desk().windows();
 }
 
+/// A window that is gone has no style, and one whose program was closed to its icon is hidden.
+bool isShown(platform::WindowHandle window)
+{
+    return window && (windows().style(window) & platform::kStyleVisible) != 0;
+}
+
 } // namespace
 
 bool WindowSplitter::isForeign(platform::WindowHandle window) const
@@ -25,7 +31,7 @@ platform::WindowHandle WindowSplitter::windowMeant() const
     const platform::WindowHandle front = windows().foregroundWindow();
     if (isForeign(front))
         return front;
-    return m_before && windows().style(m_before) != 0 ? m_before : nullptr;
+    return isShown(m_before) ? m_before : nullptr;
 }
 
 void WindowSplitter::noteInFront(platform::WindowHandle window)

@@ -12,7 +12,7 @@ namespace virtualdesk {
 /// The window of a program.
 struct ApplicationWindow
 {
-    enum class Shape { Normal, Maximised, Minimised, FullScreen };
+    enum class Shape { Normal, Maximised, Minimised, FullScreen, Hidden }; ///< hidden: only in the tray
 
     QRect rect = {80, 60, 800, 560}; ///< in pixels of the desktop, the frame that cannot be seen included
     int frame = 0;                   ///< pixels of it at the left, at the right and below

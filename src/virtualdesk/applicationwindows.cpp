@@ -44,7 +44,7 @@ std::optional<QRect> ApplicationWindows::rect(void *window) const
     const ApplicationWindow *found = find(window);
     if (found == nullptr)
         return std::nullopt;
-    if (found->shape == ApplicationWindow::Shape::Normal)
+    if (found->shape == ApplicationWindow::Shape::Normal || found->shape == ApplicationWindow::Shape::Hidden)
         return found->rect;
     if (found->shape == ApplicationWindow::Shape::Minimised)
         return kMinimised;
@@ -75,7 +75,7 @@ std::uint32_t ApplicationWindows::style(void *window) const
     const ApplicationWindow *found = find(window);
     if (found == nullptr)
         return 0;
-    std::uint32_t style = platform::kStyleVisible;
+    std::uint32_t style = found->shape != Shape::Hidden ? platform::kStyleVisible : 0;
     if (found->shape != Shape::FullScreen)
         style |= platform::kStyleCaption | (found->isSizable ? platform::kStyleSizable : 0);
     if (found->shape == Shape::Maximised)

@@ -25,7 +25,7 @@ namespace virtualdesk {
 ///       "events": [{"at_ms": 1000, "monitor": 0, "event": ...}],
 ///       "programs": [{"path": "C:\\Notes\\notes.exe", "protected": false,
 ///                     "window": {"rect": [80, 60, 800, 560], "frame": 8, "least": [0, 0], "sizable": true,
-///                                "shape": "normal" | "maximised" | "minimised" | "full_screen",
+///                                "shape": "normal" | "maximised" | "minimised" | "full_screen" | "hidden",
 ///                                "hung": false, "more_rights": false, "class": "Window"}}],
 ///       "audio": {"present": true, "mix": "extensible_float" | "float" | "extensible_integer" | "integer",
 ///                 "rate": 48000, "channels": 2, "converts_rates": false, "packet_frames": 480,

@@ -4,7 +4,7 @@ namespace virtualdesk {
 
 namespace {
 
-constexpr const char *kShapes[] = {"normal", "maximised", "minimised", "full_screen"};
+constexpr const char *kShapes[] = {"normal", "maximised", "minimised", "full_screen", "hidden"};
 
 ApplicationWindow readWindow(ScriptObject object)
 {

@@ -67,9 +67,10 @@ void WindowsView::paintEvent(QPaintEvent *)
     std::stable_partition(order.begin(), order.end(), [front](std::size_t index) { return index != front; });
     for (const std::size_t index : order) {
         const auto rect = m_desk.windows().visibleRect(Applications::windowOf(index));
-        const auto shape = list[index].window.shape;
-        const bool covers = shape == ApplicationWindow::Shape::FullScreen && index != front; // would hide all others
-        if (rect && !covers && shape != ApplicationWindow::Shape::Minimised)
+        using Shape = ApplicationWindow::Shape;
+        const Shape shape = list[index].window.shape;
+        const bool covers = shape == Shape::FullScreen && index != front; // would hide all others
+        if (rect && !covers && shape != Shape::Minimised && shape != Shape::Hidden)
             paintWindow(painter, place.mapRect(QRectF(*rect)), list[index].path.section(QLatin1Char('\\'), -1),
                         index == front);
     }
