@@ -37,7 +37,7 @@ void CareCalendar::setDays(const QDate &today, std::vector<CareDay> days)
     update();
 }
 
-/// The numbers stay dark on the lightest squares and light on the others.
+/// The lightest square is dark enough for a white number.
 void CareCalendar::drawDay(QPainter &painter, const QRectF &square, const QDate &date) const
 {
     const auto day = std::ranges::find(m_days, date, &CareDay::date);
