@@ -1,5 +1,6 @@
 """What reaches the monitor, and what the program makes of one that is silent, nameless or new."""
 
+import re
 import subprocess
 import time
 
@@ -157,10 +158,15 @@ def case_recording(rig):
         begin = open_health()
         run.click("record")
         run.settled()
-        for refused, act in ((("R 12", "R FE"), lambda: run.click("readEverything")), ((), lambda: run.click("tab_Scene")),
-                             (("W 10",), lambda: slide(40)), ((), lambda: slide(80)), ((), lambda: run.click(STANDARD[0]))):
+        for refused, act, request in ((("R 12", "R FE"), lambda: run.click("readEverything"), "R 12 refused"),
+                                      ((), lambda: run.click("tab_Scene"), ""),
+                                      (("W 10",), lambda: slide(40), r"W 10 \d+ refused"),
+                                      ((), lambda: slide(80), r"W 10 \d+$"),
+                                      ((), lambda: run.click(STANDARD[0]), "W 22")):
+            seen = len(run.requests())
             run.refuse(*refused)
             act()
+            wait_for(lambda: re.search(request, "\n".join(run.requests()[seen:]), re.MULTILINE), request)
             run.settled()
         end = open_health()
         run.click("record")
