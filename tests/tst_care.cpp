@@ -308,6 +308,16 @@ void TestCare::writeBudget()
     QCOMPARE(decision.dayIsUsedUp, next.date() > QDate(2024, 3, 9));
 }
 
+/// The first answer is taken for one of before the writer heard of the value: so it asks once more.
+static void doubtFirstAnswer(const CommandQueue &queue, Command doubted, QObject *until)
+{
+    const auto doubt = [doubted, isDoubted = false](Command command, bool) mutable {
+        if (command == doubted && !std::exchange(isDoubted, true))
+            deviceState.mayHaveChanged();
+    };
+    QObject::connect(&queue, &CommandQueue::answered, until, doubt, Qt::DirectConnection);
+}
+
 void TestCare::automaticWrites()
 {
     start(10);
@@ -321,14 +331,7 @@ void TestCare::automaticWrites()
     m_desk->clock.advance(1min);
     m_desk->takeCommands();
     auto &queue = *m_window->findChild<CommandQueue *>();
-    bool isDoubted = false; // what was told, before the writer heard of it: so it asks once more
-    connect(
-        &queue, &CommandQueue::answered, &writer,
-        [&](Command command, bool) {
-            if (command == Command::OsdHPosition && !std::exchange(isDoubted, true))
-                deviceState.mayHaveChanged();
-        },
-        Qt::DirectConnection);
+    doubtFirstAnswer(queue, Command::OsdHPosition, &writer);
     writer.want(Command::AudioVolume, 31);
     writer.want(Command::PowerSaving, 1);
     writer.want(Command::AudioMode, 1);

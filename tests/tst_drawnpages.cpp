@@ -183,41 +183,33 @@ void TestDrawnPages::wordsBesideTheControls()
     QVERIFY(settle() && m_desk->takeCommands().filter("W").isEmpty());
 }
 
+/// An option that is chosen, and what it rests on.
+struct Resting
+{
+    int page;
+    const char *panel, *widget;
+    Command group;
+    int chosen;
+    const char *name;
+    Command on;
+    int offValue, onValue;
+};
+constexpr Resting kResting[] = {
+    {Game, "Game Crosshair", "gameCrosshair", Command::CrosshairShape, 1, "Shape · Cross", Command::Crosshair, 0, 1},
+    {Lighting, "Effect", "pageLightEffect", Command::LightEffect, 3, "Effect · Wave", Command::LightMode, 1, 2},
+};
+
 /// It is on only where the monitor has told what it rests on: its switch, or a mode.
 void TestDrawnPages::whatASwitchTurnsOff()
 {
     m_desk->monitor().setPlugged(false); // it tells nothing by itself
-    struct Resting
-    {
-        int page;
-        const char *panel, *widget;
-        std::pair<Command, int> chosen;
-        const char *name;
-        Command on;
-        int offValue, onValue;
-    };
-    for (const Resting &row : {Resting{Game,
-                                       "Game Crosshair",
-                                       "gameCrosshair",
-                                       {Command::CrosshairShape, 1},
-                                       "Shape · Cross",
-                                       Command::Crosshair,
-                                       0,
-                                       1},
-                               Resting{Lighting,
-                                       "Effect",
-                                       "pageLightEffect",
-                                       {Command::LightEffect, 3},
-                                       "Effect · Wave",
-                                       Command::LightMode,
-                                       1,
-                                       2}}) {
+    for (const Resting &row : kResting) {
         auto *shownPage = page(row.page);
         shownPage->resize(1000, 680);
         shownPage->show();
         shownPage->showPanel(row.panel);
         QVERIFY(settle());
-        deviceState.told(row.chosen.first, row.chosen.second);
+        deviceState.told(row.group, row.chosen);
         auto *words = shownPage->findChild<QWidget *>(row.widget)->findChild<OptionWords *>();
         const auto isSaid = [words](const QString &text) {
             return std::ranges::any_of(words->findChildren<QLabel *>(),

@@ -77,16 +77,15 @@ private Q_SLOTS:
     void longTipsAreBroken();
 };
 
-void TestFields::sliderReports_data()
-{
-    using Action = std::function<void(SliderWidget *)>;
-    columns<Action, Said>("action", "expected");
+using SliderAction = std::function<void(SliderWidget *)>;
 
-    // The slider stands at 50.
-    QTest::newRow("groove click jumps") << Action([](SliderWidget *widget) {
+/// The slider stands at 50, here and in the rows below.
+static void addMouseRows()
+{
+    QTest::newRow("groove click jumps") << SliderAction([](SliderWidget *widget) {
         QTest::mouseClick(widget->slider(), Qt::LeftButton, {}, pointOf(widget->slider(), 80));
     }) << Said{"Brightness 80 step", "Brightness 80 end"};
-    QTest::newRow("drag keeps hold where it took it") << Action([](SliderWidget *widget) {
+    QTest::newRow("drag keeps hold where it took it") << SliderAction([](SliderWidget *widget) {
         const QPoint grab = pointOf(widget->slider(), 50) + QPoint(6, 0);
         QTest::mousePress(widget->slider(), Qt::LeftButton, {}, grab);
         const QPoint to = pointOf(widget->slider(), 70) + QPoint(6, 0);
@@ -94,49 +93,21 @@ void TestFields::sliderReports_data()
         QApplication::sendEvent(widget->slider(), &move);
         QTest::mouseRelease(widget->slider(), Qt::LeftButton, {}, to);
     }) << Said{"Brightness 70 step", "Brightness 70 end"};
-    QTest::newRow("held key ends once") << Action([](SliderWidget *widget) {
-        QTest::keyPress(widget->slider(), Qt::Key_Left);
-        for (const QEvent::Type type : {QEvent::KeyRelease, QEvent::KeyPress}) {
-            QKeyEvent repeated(type, Qt::Key_Left, Qt::NoModifier, QString(), true);
-            QApplication::sendEvent(widget->slider(), &repeated);
-        }
-        QTest::keyRelease(widget->slider(), Qt::Key_Left);
-    }) << Said{"Brightness 49 step", "Brightness 48 step", "Brightness 48 end"};
-    QTest::newRow("key held while the focus goes") << Action([](SliderWidget *widget) {
-        QTest::keyPress(widget->slider(), Qt::Key_Right);
-        sendFocus(widget->slider(), QEvent::FocusOut, Qt::OtherFocusReason);
-        QTest::keyRelease(widget->slider(), Qt::Key_Right);
-    }) << Said{"Brightness 51 step", "Brightness 51 end"};
-    QTest::newRow("set by the program") << Action([](SliderWidget *widget) {
+    QTest::newRow("set by the program") << SliderAction([](SliderWidget *widget) {
         widget->setValue(20);
         widget->setValue(20);
     }) << Said{"Brightness 20 step"};
-    QTest::newRow("double click is two presses") << Action([](SliderWidget *widget) {
+    QTest::newRow("double click is two presses") << SliderAction([](SliderWidget *widget) {
         const QPoint point = pointOf(widget->slider(), 50);
         QTest::mouseClick(widget->slider(), Qt::LeftButton, {}, point);
         QTest::mouseDClick(widget->slider(), Qt::LeftButton, {}, point);
         QTest::mouseRelease(widget->slider(), Qt::LeftButton, {}, point);
     }) << Said{"Brightness 50 end", "Brightness 50 end"};
-    QTest::newRow("disabled in mid-drag") << Action([](SliderWidget *widget) {
+    QTest::newRow("disabled in mid-drag") << SliderAction([](SliderWidget *widget) {
         QTest::mousePress(widget->slider(), Qt::LeftButton, {}, pointOf(widget->slider(), 30));
         widget->setEnabled(false);
     }) << Said{"Brightness 30 step", "Brightness lost"};
-    QTest::newRow("disabled while a key holds it") << Action([](SliderWidget *widget) {
-        widget->show();
-        widget->activateWindow();
-        widget->slider()->setFocus();
-        QVERIFY(QTest::qWaitForWindowActive(widget) && widget->slider()->hasFocus());
-        QTest::keyPress(widget->slider(), Qt::Key_Right);
-        widget->setEnabled(false);
-    }) << Said{"Brightness 51 step", "Brightness lost"};
-    QTest::newRow("taken away from a key that stays down") << Action([](SliderWidget *widget) {
-        QTest::keyPress(widget->slider(), Qt::Key_Right);
-        widget->slider()->loseHold();
-        QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Right, Qt::NoModifier, QString(), true);
-        QApplication::sendEvent(widget->slider(), &repeated);
-        QTest::keyRelease(widget->slider(), Qt::Key_Right);
-    }) << Said{"Brightness 51 step", "Brightness lost"};
-    QTest::newRow("hidden in mid-drag") << Action([](SliderWidget *widget) {
+    QTest::newRow("hidden in mid-drag") << SliderAction([](SliderWidget *widget) {
         widget->show();
         QTest::mousePress(widget->slider(), Qt::LeftButton, {}, pointOf(widget->slider(), 30));
         widget->hide();
@@ -144,9 +115,48 @@ void TestFields::sliderReports_data()
     }) << Said{"Brightness 30 step", "Brightness lost"};
 }
 
+static void addKeyRows()
+{
+    QTest::newRow("held key ends once") << SliderAction([](SliderWidget *widget) {
+        QTest::keyPress(widget->slider(), Qt::Key_Left);
+        for (const QEvent::Type type : {QEvent::KeyRelease, QEvent::KeyPress}) {
+            QKeyEvent repeated(type, Qt::Key_Left, Qt::NoModifier, QString(), true);
+            QApplication::sendEvent(widget->slider(), &repeated);
+        }
+        QTest::keyRelease(widget->slider(), Qt::Key_Left);
+    }) << Said{"Brightness 49 step", "Brightness 48 step", "Brightness 48 end"};
+    QTest::newRow("key held while the focus goes") << SliderAction([](SliderWidget *widget) {
+        QTest::keyPress(widget->slider(), Qt::Key_Right);
+        sendFocus(widget->slider(), QEvent::FocusOut, Qt::OtherFocusReason);
+        QTest::keyRelease(widget->slider(), Qt::Key_Right);
+    }) << Said{"Brightness 51 step", "Brightness 51 end"};
+    QTest::newRow("disabled while a key holds it") << SliderAction([](SliderWidget *widget) {
+        widget->show();
+        widget->activateWindow();
+        widget->slider()->setFocus();
+        QVERIFY(QTest::qWaitForWindowActive(widget) && widget->slider()->hasFocus());
+        QTest::keyPress(widget->slider(), Qt::Key_Right);
+        widget->setEnabled(false);
+    }) << Said{"Brightness 51 step", "Brightness lost"};
+    QTest::newRow("taken away from a key that stays down") << SliderAction([](SliderWidget *widget) {
+        QTest::keyPress(widget->slider(), Qt::Key_Right);
+        widget->slider()->loseHold();
+        QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Right, Qt::NoModifier, QString(), true);
+        QApplication::sendEvent(widget->slider(), &repeated);
+        QTest::keyRelease(widget->slider(), Qt::Key_Right);
+    }) << Said{"Brightness 51 step", "Brightness lost"};
+}
+
+void TestFields::sliderReports_data()
+{
+    columns<SliderAction, Said>("action", "expected");
+    addMouseRows();
+    addKeyRows();
+}
+
 void TestFields::sliderReports()
 {
-    const auto [action, expected] = fetch<std::function<void(SliderWidget *)>, Said>();
+    const auto [action, expected] = fetch<SliderAction, Said>();
     Said said;
     const std::unique_ptr<SliderWidget> widget(laidOutSlider(said));
     widget->setValue(50);

@@ -211,6 +211,14 @@ void TestMainWindow::entrySwitchesTheScene()
     QCOMPARE(m_window->leftBar(0)->current(), -1); // the mode that is on belongs to the other family
 }
 
+/// Of everything that was opened.
+static void lookIsCheap(const MainWindow &window)
+{
+    // A sheet of a whole page is worked out, and kept, for each widget on it.
+    for (const OptionGroupRow *row : window.findChildren<OptionGroupRow *>())
+        QVERIFY2(!row->testAttribute(Qt::WA_StyleSheet), row->group().label);
+}
+
 void TestMainWindow::otherEntriesNameThemselves()
 {
     start(10);
@@ -246,10 +254,7 @@ void TestMainWindow::otherEntriesNameThemselves()
     QCOMPARE(opened, (QList<int>{0, 0, 0, 0, 0, 5}));       // the first, and then the one that was left open
     QVERIFY(m_desk->takeRequests().filter("W ").isEmpty()); // opening pages asks, but sends nothing
 
-    // A sheet of a whole page is worked out, and kept, for each widget on it.
-    for (const OptionGroupRow *row : m_window->findChildren<OptionGroupRow *>())
-        QVERIFY2(!row->testAttribute(Qt::WA_StyleSheet), row->group().label);
-
+    lookIsCheap(*m_window);
     const Meanings meanings = meaningsIn(*m_window);
     for (const QStringList &captions : meanings)
         QVERIFY2(captions.size() == 1, qPrintable("one icon means: " + captions.join(", ")));

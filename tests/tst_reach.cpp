@@ -145,11 +145,13 @@ class TestReach : public WindowFixture
 private Q_SLOTS:
     void everyControlSaysWhatItIs();
     void arrowsOnlyMove();
-    void entriesTellTheirStates();
+    void tabsTellTheirStates();
+    void listedEntriesTellTheirStates();
     void assistiveSoftwareMovesSliders();
     void oneObjectTells();
 
 private:
+    void open(int family, const char *label);
     OptionGroupRow *openInputs();
 };
 
@@ -189,11 +191,16 @@ void TestReach::everyControlSaysWhatItIs()
     QVERIFY2(sorted.isEmpty(), qPrintable(sorted.join(QLatin1Char('\n'))));
 }
 
+void TestReach::open(int family, const char *label)
+{
+    QTest::mouseClick(m_window->tabs()->tabs()[static_cast<std::size_t>(family)], Qt::LeftButton);
+    QTest::mouseClick(entry(family, label), Qt::LeftButton);
+}
+
 OptionGroupRow *TestReach::openInputs()
 {
     start(10);
-    QTest::mouseClick(m_window->tabs()->tabs().back(), Qt::LeftButton);
-    QTest::mouseClick(entry(kFamilies - 1, "I/O Settings"), Qt::LeftButton);
+    open(kFamilies - 1, "I/O Settings");
     auto *page = static_cast<PanelPage *>(m_window->settingsPage(PageId::IoSetting));
     page->showPanel("Input Signal");
     m_window->activateWindow();
@@ -237,14 +244,10 @@ void TestReach::arrowsOnlyMove()
     }
 }
 
-/// Of lists and bars of tabs, whose entries are no widgets.
-void TestReach::entriesTellTheirStates()
+/// Those of a bar are no widgets.
+void TestReach::tabsTellTheirStates()
 {
     start(10);
-    const auto open = [this](int family, const char *label) {
-        QTest::mouseClick(m_window->tabs()->tabs()[static_cast<std::size_t>(family)], Qt::LeftButton);
-        QTest::mouseClick(entry(family, label), Qt::LeftButton);
-    };
     m_window->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
     open(kFamilies - 2, "Custom Mode");
@@ -267,7 +270,12 @@ void TestReach::entriesTellTheirStates()
     QCOMPARE(told(), QStringLiteral("Frames, Frame 1 focused, Frame 2 chosen"));
     seen(tabs)->child(0)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     QTRY_COMPARE(told(), QStringLiteral("Frames, Frame 1 chosen, Frame 1 focused"));
+}
 
+/// Nor are those of a list.
+void TestReach::listedEntriesTellTheirStates()
+{
+    start(10);
     open(kFamilies - 1, "Shortcut Key");
     const QWidget *keys = m_window->page(PageId::ShortcutKey)->widget();
     auto *box = keys->findChild<QComboBox *>();

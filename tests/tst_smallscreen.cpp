@@ -110,25 +110,13 @@ QStringList TestSmallScreen::squeezed() const
 QStringList TestSmallScreen::squeezedOnEachPage()
 {
     QStringList found;
-    for (std::size_t tab = 0; tab < m_window->tabs()->tabs().size(); ++tab) {
-        QTest::mouseClick(m_window->tabs()->tabs()[tab], Qt::LeftButton);
-        for (LeftTabButton *entry : m_window->leftBar(static_cast<int>(tab))->buttons()) {
-            if (entry->isHidden() || !entry->isSelectable())
-                continue;
-            QTest::mouseClick(entry, Qt::LeftButton);
-            const auto pages = m_window->findChildren<PanelPage *>();
-            const auto shown = std::ranges::find_if(pages, &QWidget::isVisible);
-            PanelPage *page = shown == pages.end() ? nullptr : *shown;
-            for (int panel = 0; panel < (page ? page->panelCount() : 1); ++panel) {
-                if (page)
-                    page->showPanel(panel);
-                QCoreApplication::processEvents();
-                (void)QTest::qWaitFor([this] { return squeezed().isEmpty(); }, 500); // laid out in several steps
-                for (const QString &part : squeezed())
-                    found << QString("%1 %2: %3").arg(entry->caption()).arg(panel).arg(part);
-            }
-        }
-    }
+    onEveryPage([&](const QWidget *page) {
+        QCoreApplication::processEvents();
+        QStringList parts;
+        (void)QTest::qWaitFor([&] { return (parts = squeezed()).isEmpty(); }); // laid out in several steps
+        for (const QString &part : std::as_const(parts))
+            found << QString("%1: %2").arg(page->objectName(), part);
+    });
     return found;
 }
 

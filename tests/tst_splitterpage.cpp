@@ -255,6 +255,13 @@ void TestSplitterPage::goesWithTheFront()
     }
 }
 
+static void dragOn(QWidget *widget, QPoint from, QPoint to)
+{
+    QTest::mousePress(widget, Qt::LeftButton, Qt::NoModifier, from);
+    QTest::mouseMove(widget, to);
+    QTest::mouseRelease(widget, Qt::LeftButton, Qt::NoModifier, to);
+}
+
 void TestSplitterPage::drawingByMouseAndKeys()
 {
     startWith();
@@ -263,11 +270,7 @@ void TestSplitterPage::drawingByMouseAndKeys()
         const QRectF screen = editor->screenRect();
         return (screen.topLeft() + QPointF(screen.width() * x, screen.height() * y)).toPoint();
     };
-    const auto drag = [&](QPoint from, QPoint to) {
-        QTest::mousePress(editor, Qt::LeftButton, Qt::NoModifier, from);
-        QTest::mouseMove(editor, to);
-        QTest::mouseRelease(editor, Qt::LeftButton, Qt::NoModifier, to);
-    };
+    const auto drag = [editor](QPoint from, QPoint to) { dragOn(editor, from, to); };
     const QString halves = zones();
     drag(at(0.25, 0.2), at(0.25, 0.7));
     QCOMPARE(zones(), halves); // a fixed one stays

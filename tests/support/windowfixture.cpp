@@ -35,6 +35,8 @@ void WindowFixture::onEveryPage(const std::function<void(QWidget *page)> &look)
     for (int family = 0; family < kFamilies; ++family) {
         QTest::mouseClick(m_window->tabs()->tabs()[static_cast<std::size_t>(family)], Qt::LeftButton);
         for (LeftTabButton *entry : m_window->leftBar(family)->buttons()) {
+            if (entry->isHidden() || !entry->isSelectable())
+                continue;
             QTest::mouseClick(entry, Qt::LeftButton);
             auto *page = static_cast<const QStackedWidget *>(stack)->currentWidget();
             auto *panels = qobject_cast<PanelPage *>(page);
