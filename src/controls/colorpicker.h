@@ -17,7 +17,7 @@ public:
     /// Sets the colour without a signal; an invalid colour is ignored.
     void setColor(const QColor &color);
 
-    /// Nobody knows the colour: a dash stands in its place until it is set or asked for.
+    /// Nobody knows the colour: a dash stands in its place until it is set, or the user chooses one.
     void setUnknown();
 
     /// The part of the control that is filled with the colour and takes presses.
