@@ -12,6 +12,7 @@ class TestLines : public QObject
 private Q_SLOTS:
     void shortLastLineTakesWords();
     void linesEndAtPhrases();
+    void linesEndWhereTheTextPauses();
     void labelIsAsHighAsItsPhrases();
     void boxIsAsWideAsItsLines();
     void widgetsStandInEvenLines();
@@ -51,6 +52,8 @@ void TestLines::linesEndAtPhrases()
     QCOMPARE(phrasesOf(QStringLiteral("屏幕“标尺”“角度 尺”的「色」。")), // a quoted label is one word
              QStringList({"屏幕", "“标尺”", "“角度 尺”", "的", "「色」。"}));
     QCOMPARE(phrasesOf(QStringLiteral("A caption")), QStringList());
+    QCOMPARE(phrasesOf(QStringLiteral("光り方を切り替え、書き込みます。")), // verbs of two verbs
+             QStringList({"光り方を", "切り替え、", "書き込みます。"}));
     const QFont font;
     const auto widthOf = [&font](const QString &text) { return qCeil(QFontMetricsF(font).horizontalAdvance(text)); };
     const QString text = QStringLiteral("色を確かめるときはオフにしてください。");
@@ -59,6 +62,27 @@ void TestLines::linesEndAtPhrases()
     QCOMPARE(evenLines(text, font, widthOf(QStringLiteral("色を確かめると"))), text); // a phrase is longer
     QCOMPARE(evenLines(QStringLiteral("Rhythm · Screen"), font, widthOf(QStringLiteral("Rhythm · Scr"))),
              QStringLiteral("Rhythm\nScreen"));
+}
+
+/// Where that takes no line more, and no line is less than half of another.
+void TestLines::linesEndWhereTheTextPauses()
+{
+    QCOMPARE(clausesOf(QStringLiteral("「甲。乙」，丙、丁：0.5 秒。")),
+             QStringList({"「甲。乙」，", "丙、丁：", "0.5 秒。"}));
+    QCOMPARE(clausesOf(QStringLiteral("消すと、暗いです。")), QStringList({"消すと、", "暗いです。"}));
+    const QFont font;
+    for (const auto &[room, text, lines] :
+         {std::tuple("A caption. For what", "A caption. For what is, so", "A caption.\nFor what is, so"),
+          {"A caption. For what is", "A caption. For what is long, so and on",
+           "A caption. For what is long, so and on"},
+          {"適合遊戲。看電影", "適合遊戲。看電影請關閉。", "適合遊戲。\n看電影請關閉。"},
+          {"電話を充電し続けます。", "電話を充電し続けます。消すと切れます。",
+           "電話を充電し続けます。\n消すと切れます。"},
+          {"交互に見るため", "交互に見る画面です。消せます。", "交互に見る\n画面です。\n消せます。"},
+          {"為手機充電並使用鍵盤。", "為手機充電並使用鍵盤。好", "為手機充電並\n使用鍵盤。好"}}) {
+        const int width = qCeil(QFontMetricsF(font).horizontalAdvance(QString::fromUtf8(room))) + 1;
+        QCOMPARE(evenLines(QString::fromUtf8(text), font, width), QString::fromUtf8(lines));
+    }
 }
 
 /// One line more, for which the label is as high; none more where that line has no room.

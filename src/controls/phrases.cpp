@@ -20,6 +20,15 @@ bool beginsWord(QChar letter)
     return letter == u'お' || letter == u'ご';
 }
 
+/// Between the two verbs of 書き込む or 切り替える, and before the 方 of 見え方, no word ends.
+bool isInsideCompound(QStringView line, qsizetype at)
+{
+    static const QString ends = QStringLiteral("いきしちみりぎじびえけせめれげべ");
+    static const QString seconds = QStringLiteral("込取替換出合付上下直返続消離戻始抜外方");
+    return at > 1 && line[at - 2].script() == QChar::Script_Han && ends.contains(line[at - 1]) &&
+           seconds.contains(line[at]);
+}
+
 bool endsPhrase(QChar before, QChar after)
 {
     if (before.isSpace() || before == u'、' || before == u'。')
@@ -77,7 +86,30 @@ bool endsWord(QStringView line, qsizetype at, bool isBoundary)
     return (isBoundary || isBesideQuote(line, at)) && !isInsideQuote(line, at);
 }
 
+/// Chinese counts things up with the comma that Japanese pauses at.
+bool isPause(QChar before, QChar after, bool isJapanese)
+{
+    if (QStringView(u".!?").contains(before))
+        return after.isSpace();
+    return QStringView(u"。！？，；：").contains(before) || (isJapanese && before == u'、');
+}
+
 } // namespace
+
+QStringList clausesOf(const QString &line)
+{
+    const bool isJapanese = std::any_of(line.begin(), line.end(), isHiragana);
+    QStringList clauses;
+    qsizetype begin = 0;
+    for (qsizetype end = 1; end < line.size(); ++end) {
+        if (endsQuote(line[end]) || !isPause(line[end - 1], line[end], isJapanese) || isInsideQuote(line, end))
+            continue;
+        clauses.append(line.mid(begin, end - begin));
+        begin = end;
+    }
+    clauses.append(line.mid(begin));
+    return clauses;
+}
 
 QStringList phrasesOf(const QString &line)
 {
@@ -92,8 +124,9 @@ QStringList phrasesOf(const QString &line)
     for (qsizetype end = 1; end < line.size(); ++end) {
         finder.setPosition(end);
         const bool isBoundary = finder.isAtBoundary();
-        const bool isWhole = isJapanese ? isBoundary && endsPhrase(line[end - 1], line[end])
-                                        : !inWords[static_cast<std::size_t>(end)] && endsWord(line, end, isBoundary);
+        const bool isWhole = isJapanese
+                                 ? isBoundary && endsPhrase(line[end - 1], line[end]) && !isInsideCompound(line, end)
+                                 : !inWords[static_cast<std::size_t>(end)] && endsWord(line, end, isBoundary);
         if (!isWhole || QStringView(line).left(end).endsWith(u"= "))
             continue;
         phrases.append(line.mid(begin, end - begin));

@@ -18,6 +18,7 @@ struct Lines
 {
     int count = 0;
     qreal widest = 0;
+    qreal narrowest = QWIDGETSIZE_MAX;
     qreal last = 0; ///< how wide that one is
 };
 
@@ -66,15 +67,21 @@ template <typename LinesAt> int evenWidthOf(LinesAt linesAt, int room)
     return most;
 }
 
+/// Puts a part of a text behind the last of its lines. False, and nothing changed, where there is no room.
+bool addTo(QStringList &lines, const QString &part, int width, const QFontMetricsF &metrics)
+{
+    if (lines.isEmpty() || metrics.horizontalAdvance((lines.back() + part).trimmed()) > width)
+        return false;
+    lines.back() += part;
+    return true;
+}
+
 /// Lays phrases into lines of at most that width, each as many as there is room for.
 QStringList laidInto(int width, const QStringList &phrases, const QFontMetricsF &metrics)
 {
     QStringList lines;
     for (const QString &phrase : phrases) {
-        const bool fits = !lines.isEmpty() && metrics.horizontalAdvance((lines.back() + phrase).trimmed()) <= width;
-        if (fits)
-            lines.back() += phrase;
-        else
+        if (!addTo(lines, phrase, width, metrics))
             lines.append(phrase);
     }
     return lines;
@@ -86,8 +93,29 @@ Lines measured(const QStringList &lines, const QFontMetricsF &metrics)
     for (const QString &line : lines) {
         all.last = metrics.horizontalAdvance(line.trimmed());
         all.widest = std::max(all.widest, all.last);
+        all.narrowest = std::min(all.narrowest, all.last);
     }
     return all;
+}
+
+/// Lays clauses into lines. One that is wider than a line has lines of its own, by its phrases.
+QStringList laidClauses(int width, const QStringList &clauses, const QFontMetricsF &metrics)
+{
+    QStringList lines;
+    for (const QString &clause : clauses) {
+        if (addTo(lines, clause, width, metrics))
+            continue;
+        const bool fits = metrics.horizontalAdvance(clause.trimmed()) <= width;
+        const QStringList phrases = fits ? QStringList() : phrasesOf(clause);
+        lines += phrases.isEmpty() ? QStringList{clause} : laidInto(width, phrases, metrics);
+    }
+    return lines;
+}
+
+/// Whether several lines are no more than that many, none of them stands out, and none looks like a rest of another.
+bool isWellLaid(const Lines &lines, int room, int most)
+{
+    return lines.count > 1 && lines.count <= most && lines.widest <= room && 2 * lines.narrowest >= lines.widest;
 }
 
 bool isWrapped(const QLabel &label)
@@ -95,6 +123,14 @@ bool isWrapped(const QLabel &label)
     const bool isRich =
         label.textFormat() == Qt::RichText || (label.textFormat() == Qt::AutoText && Qt::mightBeRichText(label.text()));
     return !isRich && label.wordWrap();
+}
+
+QString joined(const QStringList &lines)
+{
+    QStringList trimmed;
+    for (const QString &line : lines)
+        trimmed.append(line.trimmed());
+    return trimmed.join(u'\n');
 }
 
 int heightOf(const QString &lines, int room, const QFont &font)
@@ -110,11 +146,17 @@ QString evenLines(const QString &text, const QFont &font, int room, int more)
     QTextLayout layout(QString(text).replace(u'\n', QChar::LineSeparator), font);
     const auto wordsAt = [&layout](int width) { return linesIn(layout, width); };
     const QFontMetricsF metrics(font);
-    const QStringList phrases = text.contains(u'\n') ? QStringList() : phrasesOf(text);
+    const bool isOneLine = !text.contains(u'\n');
+    const QStringList phrases = isOneLine ? phrasesOf(text) : QStringList();
     const auto phrasesAt = [&](int width) { return measured(laidInto(width, phrases, metrics), metrics); };
+    const Lines ofWords = wordsAt(room);
     const Lines ofPhrases = phrasesAt(room);
-    if (!phrases.isEmpty() && ofPhrases.count <= wordsAt(room).count + more && ofPhrases.widest <= room)
-        return laidInto(evenWidthOf(phrasesAt, room), phrases, metrics).join(u'\n');
+    const bool hasPhrases = !phrases.isEmpty() && ofPhrases.count <= ofWords.count + more && ofPhrases.widest <= room;
+    const QStringList clauses = laidClauses(room, isOneLine ? clausesOf(text) : QStringList(), metrics);
+    if (isWellLaid(measured(clauses, metrics), room, hasPhrases ? ofPhrases.count : ofWords.count))
+        return joined(clauses);
+    if (hasPhrases)
+        return joined(laidInto(evenWidthOf(phrasesAt, room), phrases, metrics));
     const int even = evenWidthOf(wordsAt, room);
     if (even == room && !text.contains(u'·'))
         return text;

@@ -25,8 +25,8 @@ private:
 };
 
 /// A label that has no last line of two letters: its wrapped lines are then about as long as each other. Japanese ends
-/// its lines at phrases and Chinese at words, where one line more does for it and the label may be as high. Rich text
-/// is drawn as ever.
+/// its lines at phrases and Chinese at words, where one line more does for it and the label may be as high. Sentences
+/// and clauses have lines of their own where that takes none more. Rich text is drawn as ever.
 class WrappedLabel : public QLabel
 {
     Q_OBJECT
@@ -43,5 +43,6 @@ private:
 };
 
 /// The text with its lines in @p room ended where they are about as long as each other, if the last one were very
-/// short, and at phrases, if it has some and not more than @p more lines come of it; else the text itself.
+/// short, and at phrases, if it has some and not more than @p more lines come of it; else the text itself. Where no
+/// line more comes of it they end at sentences and clauses.
 QString evenLines(const QString &text, const QFont &font, int room, int more = 0);
