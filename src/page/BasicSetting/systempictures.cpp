@@ -27,6 +27,11 @@ QRectF menuOn(const QRectF &screen, const PictureValues &values)
     return menu;
 }
 
+// The rows of the menu, as shares of its height.
+constexpr double kMenuTop = 0.12;
+constexpr double kMenuPitch = 0.17;
+constexpr double kMenuRow = 0.07;
+
 void drawMenu(QPainter &painter, const QRectF &menu, double opacity, int rows = 5)
 {
     painter.save();
@@ -37,8 +42,8 @@ void drawMenu(QPainter &painter, const QRectF &menu, double opacity, int rows = 
     painter.setPen(Qt::NoPen);
     for (int row = 0; row < rows; ++row) {
         painter.setBrush(QColor(row == 1 ? Palette::kMint : Palette::kRestingEdge));
-        painter.drawRoundedRect(QRectF(menu.left() + 12, menu.top() + menu.height() * (0.12 + 0.17 * row),
-                                       menu.width() * (0.7 - 0.08 * (row % 3)), menu.height() * 0.07),
+        painter.drawRoundedRect(QRectF(menu.left() + 12, menu.top() + menu.height() * (kMenuTop + kMenuPitch * row),
+                                       menu.width() * (0.7 - 0.08 * (row % 3)), menu.height() * kMenuRow),
                                 2, 2);
     }
     painter.restore();
@@ -119,7 +124,9 @@ void paintLanguage(QPainter &painter, const QRectF &screen, const PictureValues 
     QRectF menu(0, 0, screen.width() * 0.5, screen.height() * 0.56);
     menu.moveCenter(screen.center());
     drawMenu(painter, menu, 1);
-    const QRectF line(menu.left() + 12, menu.top() + menu.height() * 0.25, menu.width() - 24, menu.height() * 0.2);
+    const double top = kMenuTop + kMenuRow / 2 + kMenuPitch / 2; // around the second row, up to the gaps beside it
+    const QRectF line(menu.left() + 12, menu.top() + menu.height() * top, menu.width() - 24,
+                      menu.height() * kMenuPitch);
     painter.fillRect(line, QColor(Palette::kMint));
     painter.setPen(QColor(Palette::kInk));
     painter.drawText(line.adjusted(10, 0, -10, 0), Qt::AlignLeft | Qt::AlignVCenter,

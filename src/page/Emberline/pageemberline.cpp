@@ -71,7 +71,7 @@ QWidget *pageEmberline::buildView()
     keepFresh(words);
     followPointing();
     auto *row = new QHBoxLayout(stage);
-    row->setContentsMargins(0, 0, 0, 0);
+    row->setContentsMargins(0, metrics::kGap, 0, 0); // a block's gap from the rows, as the pictures of all pages
     row->setSpacing(metrics::kBlockGap);
     row->addWidget(view, 3);
     row->addWidget(words, 1);

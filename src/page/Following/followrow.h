@@ -14,7 +14,7 @@ class FollowRow : public QFrame
 {
     Q_OBJECT
 public:
-    static constexpr int kHeight = 52; ///< pixels, the controls' 36 and what is around them
+    static constexpr int kHeight = 54; ///< pixels: the controls' 36, the gaps above and below, and the frame
 
     explicit FollowRow(QWidget *parent = nullptr);
 

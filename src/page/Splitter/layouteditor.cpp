@@ -53,7 +53,7 @@ QRectF LayoutEditor::screenRect() const
 {
     QSizeF size(m_screen);
     size.scale(QSizeF(rect().size()) - QSizeF(2 * kBezel, 2 * kBezel), Qt::KeepAspectRatio);
-    return {QPointF(kBezel, (height() - size.height()) / 2), size};
+    return {QPointF(kBezel, kBezel), size}; // begins where the tools beside it do
 }
 
 QPoint LayoutEditor::partsAt(const QPointF &place) const

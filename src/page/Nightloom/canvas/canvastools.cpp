@@ -126,7 +126,7 @@ QWidget *CanvasTools::buildAlignedImport(const pageLEDMatrixCanvas &page)
     auto *row = new QHBoxLayout(m_aligned);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(metrics::kGap);
-    row->addWidget(button);
+    row->addWidget(button, 0, Qt::AlignTop);
     row->addWidget(m_alignedNote, 1);
     return m_aligned;
 }

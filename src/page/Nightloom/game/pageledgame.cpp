@@ -168,6 +168,7 @@ QWidget *pageLEDGame::buildPicture()
     QLabel *note = makeNote(part);
     texts().bind(LABEL("Point at an event to see its picture."), [note](const QString &text) { note->setText(text); });
     QHBoxLayout *row = makeRow(part);
+    row->setSpacing(metrics::kBlockGap);
     row->addWidget(m_card);
     row->addWidget(note, 0, Qt::AlignTop);
     row->addStretch(1);

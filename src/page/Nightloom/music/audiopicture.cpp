@@ -143,10 +143,10 @@ void AudioPicture::paintBars(QPainter &painter, const QRect &area) const
         }
     }
     // No frequencies: which tones a band holds depends on the rate and the channels of what is heard.
-    const QRectF captions(area.left(), area.bottom() - kCaptionHeight, area.width(), kCaptionHeight);
+    const QRectF below(area.left(), area.bottom() - kCaptionHeight, pitch, kCaptionHeight);
     painter.setPen(kCaption);
-    painter.drawText(captions, Qt::AlignLeft | Qt::AlignBottom, QObject::tr("Low"));
-    painter.drawText(captions, Qt::AlignRight | Qt::AlignBottom, QObject::tr("High"));
+    painter.drawText(below, Qt::AlignHCenter | Qt::AlignBottom, QObject::tr("Low"));
+    painter.drawText(below.translated((count - 1) * pitch, 0), Qt::AlignHCenter | Qt::AlignBottom, QObject::tr("High"));
 }
 
 void AudioPicture::paintMatrix(QPainter &painter, const QRect &area) const

@@ -11,7 +11,7 @@
 namespace {
 
 constexpr qreal kDot = 0.66; // diameter, of the distance between two cells of a row
-const QColor kRestingCell = Palette::kRestingGroove;
+const QColor kRestingCell = Palette::kUnlit;
 const QColor kLitCell = Palette::kMint;
 
 /// From row to row, in cells.

@@ -16,9 +16,9 @@
 #include "controls/sharedfonts.h"
 #include "controls/wrappedlabel.h"
 #include "page/Nightloom/parts/matrixeditor.h"
-#include "page/Nightloom/parts/toolcolumn.h"
 #include "page/engine/boundtexts.h"
 #include "page/engine/labels.h"
+#include "page/engine/optionbutton.h"
 #include "usb-hid/accessorylink.h"
 
 namespace {
@@ -73,8 +73,14 @@ QWidget *TextWidget::buildMotions(BoundTexts &texts)
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(metrics::kGap);
     for (const char *label : kMotionLabels) {
-        QPushButton *button = makeToolButton(label, texts, motions);
+        auto *button = new QPushButton(motions);
+        button->setObjectName(QLatin1String(label));
         button->setCheckable(true);
+        texts.bind(label, [button](const QString &text) {
+            button->setText(text);
+            button->setAccessibleName(text);
+            dressOptionButton(button);
+        });
         exclusive->addButton(button);
         stop->add(button);
         const auto motion = static_cast<TextMotion>(m_motions.size());
