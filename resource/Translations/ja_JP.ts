@@ -5,11 +5,11 @@
     <name>QObject</name>
     <message>
         <source>         Disable</source>
-        <translation>         無効</translation>
+        <translation>         オフ</translation>
     </message>
     <message>
         <source>         Enable</source>
-        <translation>         有効</translation>
+        <translation>         オン</translation>
     </message>
     <message>
         <source>        Custom</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>A colour that can be seen to change is sent, at most one a second.</source>
-        <translation>見て分かる色の変化だけを、1&#xa0;秒に&#xa0;1&#xa0;回まで送ります。</translation>
+        <translation>見てわかる色の変化だけを、1&#xa0;秒に&#xa0;1&#xa0;回まで送ります。</translation>
     </message>
     <message>
         <source>A colour that few games have themselves.</source>
@@ -449,7 +449,7 @@
     </message>
     <message>
         <source>A shade at the rim that is hardly noticed.</source>
-        <translation>ほとんど気付かない程度に縁が暗くなります。</translation>
+        <translation>ほとんど気づかない程度に縁が暗くなります。</translation>
     </message>
     <message>
         <source>A sheet as large as you set it above.</source>
@@ -597,7 +597,7 @@
     </message>
     <message>
         <source>Angle Ruler</source>
-        <translation>角度定規</translation>
+        <translation>分度器</translation>
     </message>
     <message>
         <source>Angle close</source>
@@ -725,7 +725,7 @@
     </message>
     <message>
         <source>Automatic changes</source>
-        <translation>自動変更（1&#xa0;日）</translation>
+        <translation>自動変更(1&#xa0;日)</translation>
     </message>
     <message>
         <source>B</source>
@@ -1333,7 +1333,7 @@
     </message>
     <message>
         <source>Dynamic OD</source>
-        <translation>動的 OD</translation>
+        <translation>ダイナミック OD</translation>
     </message>
     <message>
         <source>E-Book</source>
@@ -1509,7 +1509,7 @@
     </message>
     <message>
         <source>For charging a telephone at the monitor, and for keyboard and mouse. Off saves power in standby.</source>
-        <translation>モニターで電話を充電し、キーボードやマウスを使えます。オフにすると待機中の節電になります。</translation>
+        <translation>モニターでスマートフォンを充電し、キーボードやマウスを使えます。オフにすると待機中の節電になります。</translation>
     </message>
     <message>
         <source>For code on a dark ground.</source>
@@ -1841,7 +1841,7 @@
     </message>
     <message>
         <source>How the link to the monitor has been since the program started.</source>
-        <translation>アプリ起動後のモニターとの通信状況です。</translation>
+        <translation>ツール起動後のモニターとの通信状況です。</translation>
     </message>
     <message>
         <source>How the print will look under a D55 light.</source>
@@ -2045,7 +2045,7 @@
     </message>
     <message>
         <source>Leave it on, unless you see the clearing itself as a flicker when windows close.</source>
-        <translation>ウィンドウを閉じたときのちらつきが気にならなければ、オンのままにしてください。</translation>
+        <translation>ウィンドウを閉じたときに画面のちらつきが気にならなければ、オンのままにしてください。</translation>
     </message>
     <message>
         <source>Leaves the target free but for its very middle.</source>
@@ -2349,11 +2349,11 @@
     </message>
     <message>
         <source>Middle+</source>
-        <translation>中央+</translation>
+        <translation>やや上</translation>
     </message>
     <message>
         <source>Middle-</source>
-        <translation>中央-</translation>
+        <translation>やや下</translation>
     </message>
     <message>
         <source>Minimise</source>
@@ -2601,7 +2601,7 @@
     </message>
     <message>
         <source>Not uploaded from here. In Custom Mode it is &quot;%1&quot;.</source>
-        <translation>ここからはまだ書き込まれていません。カスタムモードでは「%1」です。</translation>
+        <translation>まだここから書き込んでいません。カスタムモードでは「%1」です。</translation>
     </message>
     <message>
         <source>Nothing above the point: for shots that fall.</source>
@@ -3001,7 +3001,7 @@
     </message>
     <message>
         <source>Recommended to set [Expand These Monitors] in the System-&gt; Screen when operating multiple monitors.</source>
-        <translation>複数のモニターを使用する場合は、「システム -&gt; ディスプレイ」で[表示画面を拡張する]に設定することをお勧めします。</translation>
+        <translation>複数のモニターを使用する場合は、「システム -&gt; ディスプレイ」で「表示画面を拡張する」に設定することをお勧めします。</translation>
     </message>
     <message>
         <source>Record</source>
@@ -3269,7 +3269,7 @@
     </message>
     <message>
         <source>Sets everything in the monitor back to how it left the factory.</source>
-        <translation>モニターのすべての設定を出荷時の状態に戻します。</translation>
+        <translation>モニターのすべての設定を工場出荷時の状態に戻します。</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -3337,7 +3337,7 @@
     </message>
     <message>
         <source>Shows a ruler on the screen. Angle close = off, Ruler = for lengths, Angle Ruler = for angles.</source>
-        <translation>画面に定規を表示します。「定規」は長さ、「角度定規」は角度を測ります。</translation>
+        <translation>画面に定規を表示します。「定規」は長さ、「分度器」は角度を測ります。</translation>
     </message>
     <message>
         <source>Shows guide lines that help to line things up. Close = off, Open = on.</source>
@@ -3713,7 +3713,7 @@
     </message>
     <message>
         <source>The lamp is dark. Only the picture tells that the monitor is on.</source>
-        <translation>ランプは消えます。モニターがオンかどうかは画面だけで分かります。</translation>
+        <translation>ランプは消えます。モニターがオンかどうかは画面だけでわかります。</translation>
     </message>
     <message>
         <source>The lamps behind the screen are dark.</source>
@@ -4141,7 +4141,7 @@
     </message>
     <message>
         <source>To know how long a round has gone on without looking away.</source>
-        <translation>画面から目を離さずに、ラウンドの経過時間がわかります。</translation>
+        <translation>画面から目を離さずに、試合時間がわかります。</translation>
     </message>
     <message>
         <source>To see how the reminder looks.</source>

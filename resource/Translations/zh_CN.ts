@@ -597,7 +597,7 @@
     </message>
     <message>
         <source>Angle Ruler</source>
-        <translation>角度尺</translation>
+        <translation>量角器</translation>
     </message>
     <message>
         <source>Angle close</source>
@@ -629,7 +629,7 @@
     </message>
     <message>
         <source>Answer times, last ten minutes</source>
-        <translation>最近十分钟的应答时间</translation>
+        <translation>最近&#xa0;10&#xa0;分钟的应答时间</translation>
     </message>
     <message>
         <source>Answers</source>
@@ -1841,7 +1841,7 @@
     </message>
     <message>
         <source>How the link to the monitor has been since the program started.</source>
-        <translation>程序启动以来与显示器的连接状况。</translation>
+        <translation>本工具启动以来与显示器的连接状况。</translation>
     </message>
     <message>
         <source>How the print will look under a D55 light.</source>
@@ -2549,7 +2549,7 @@
     </message>
     <message>
         <source>No care has been seen yet: hours count from the first start of this tool.</source>
-        <translation>尚未见到护理：小时数从首次启动本工具起计算。</translation>
+        <translation>尚无护理记录：小时数从首次启动本工具起计算。</translation>
     </message>
     <message>
         <source>No file path selected.</source>
@@ -3001,7 +3001,7 @@
     </message>
     <message>
         <source>Recommended to set [Expand These Monitors] in the System-&gt; Screen when operating multiple monitors.</source>
-        <translation>使用多台显示器时，建议在“系统 -&gt; 屏幕”中设置[扩展这些显示器]。</translation>
+        <translation>使用多台显示器时，建议在“系统 -&gt; 屏幕”中设置“扩展这些显示器”。</translation>
     </message>
     <message>
         <source>Record</source>
@@ -3269,7 +3269,7 @@
     </message>
     <message>
         <source>Sets everything in the monitor back to how it left the factory.</source>
-        <translation>将显示器的所有设置恢复到出厂状态。</translation>
+        <translation>将显示器的所有设置恢复为出厂状态。</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -3337,7 +3337,7 @@
     </message>
     <message>
         <source>Shows a ruler on the screen. Angle close = off, Ruler = for lengths, Angle Ruler = for angles.</source>
-        <translation>在屏幕上显示标尺。“标尺”用于量长度，“角度尺”用于量角度。</translation>
+        <translation>在屏幕上显示标尺。“标尺”用于量长度，“量角器”用于量角度。</translation>
     </message>
     <message>
         <source>Shows guide lines that help to line things up. Close = off, Open = on.</source>
@@ -3769,7 +3769,7 @@
     </message>
     <message>
         <source>The monitor and devices at its HDMI sockets switch each other on and off.</source>
-        <translation>让显示器与接在 HDMI 接口上的设备一同开启和关闭。</translation>
+        <translation>让显示器与接在 HDMI 接口上的设备一同开机和关机。</translation>
     </message>
     <message>
         <source>The monitor answers nothing until the button is released</source>
@@ -4397,7 +4397,7 @@
     </message>
     <message>
         <source>What is asked and answered is recorded in %1</source>
-        <translation>请求与应答正在记录到&#xa0;%1</translation>
+        <translation>正在将请求与应答记录到&#xa0;%1</translation>
     </message>
     <message>
         <source>What it looks like</source>

@@ -597,7 +597,7 @@
     </message>
     <message>
         <source>Angle Ruler</source>
-        <translation>角度尺</translation>
+        <translation>量角器</translation>
     </message>
     <message>
         <source>Angle close</source>
@@ -629,7 +629,7 @@
     </message>
     <message>
         <source>Answer times, last ten minutes</source>
-        <translation>最近十分鐘的回應時間</translation>
+        <translation>最近&#xa0;10&#xa0;分鐘的回應時間</translation>
     </message>
     <message>
         <source>Answers</source>
@@ -1841,7 +1841,7 @@
     </message>
     <message>
         <source>How the link to the monitor has been since the program started.</source>
-        <translation>應用程式啟動以來與顯示器的連線狀況。</translation>
+        <translation>本工具啟動以來與顯示器的連線狀況。</translation>
     </message>
     <message>
         <source>How the print will look under a D55 light.</source>
@@ -2549,7 +2549,7 @@
     </message>
     <message>
         <source>No care has been seen yet: hours count from the first start of this tool.</source>
-        <translation>尚未見到保養：小時數從首次啟動本工具起計算。</translation>
+        <translation>尚無保養記錄：小時數從首次啟動本工具起計算。</translation>
     </message>
     <message>
         <source>No file path selected.</source>
@@ -2601,7 +2601,7 @@
     </message>
     <message>
         <source>Not uploaded from here. In Custom Mode it is &quot;%1&quot;.</source>
-        <translation>尚未由此寫入。對應自訂模式中的「%1」。</translation>
+        <translation>尚未從此處寫入。對應自訂模式「%1」。</translation>
     </message>
     <message>
         <source>Nothing above the point: for shots that fall.</source>
@@ -3001,7 +3001,7 @@
     </message>
     <message>
         <source>Recommended to set [Expand These Monitors] in the System-&gt; Screen when operating multiple monitors.</source>
-        <translation>使用多台顯示器時，建議在「系統 -&gt; 螢幕」中設定[延伸這些顯示器]。</translation>
+        <translation>使用多台顯示器時，建議在「系統 -&gt; 顯示器」中設定「延伸這些顯示器」。</translation>
     </message>
     <message>
         <source>Record</source>
@@ -3269,7 +3269,7 @@
     </message>
     <message>
         <source>Sets everything in the monitor back to how it left the factory.</source>
-        <translation>將顯示器的所有設定恢復到原廠狀態。</translation>
+        <translation>將顯示器的所有設定恢復為原廠狀態。</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -3337,7 +3337,7 @@
     </message>
     <message>
         <source>Shows a ruler on the screen. Angle close = off, Ruler = for lengths, Angle Ruler = for angles.</source>
-        <translation>在螢幕上顯示標尺。「標尺」用於量長度，「角度尺」用於量角度。</translation>
+        <translation>在螢幕上顯示標尺。「標尺」用於量長度，「量角器」用於量角度。</translation>
     </message>
     <message>
         <source>Shows guide lines that help to line things up. Close = off, Open = on.</source>
@@ -3353,7 +3353,7 @@
     </message>
     <message>
         <source>Shows two inputs at once. Drag the small window of PIP to a corner, or one of its edges to a size.</source>
-        <translation>同時顯示兩路輸入。可將 PIP 的小視窗拖到角落，或拖動其邊緣改變大小。</translation>
+        <translation>同時顯示兩路輸入。可將 PIP 的小視窗拖曳到角落，或拖曳其邊緣改變大小。</translation>
     </message>
     <message>
         <source>Silence</source>
@@ -3769,7 +3769,7 @@
     </message>
     <message>
         <source>The monitor and devices at its HDMI sockets switch each other on and off.</source>
-        <translation>讓顯示器與接在 HDMI 連接埠上的裝置一同開啟和關閉。</translation>
+        <translation>讓顯示器與接在 HDMI 連接埠上的裝置一同開機和關機。</translation>
     </message>
     <message>
         <source>The monitor answers nothing until the button is released</source>
@@ -4397,7 +4397,7 @@
     </message>
     <message>
         <source>What is asked and answered is recorded in %1</source>
-        <translation>要求與回應正在記錄到&#xa0;%1</translation>
+        <translation>正在將要求與回應記錄到&#xa0;%1</translation>
     </message>
     <message>
         <source>What it looks like</source>

@@ -15,6 +15,12 @@ namespace {
 
 constexpr qsizetype kNamesTold = 6;
 
+/// No blank stands behind a full-width stop.
+QString oneText(const QString &first, const QString &second)
+{
+    return first + (first.endsWith(u'。') ? QString() : QStringLiteral(" ")) + second;
+}
+
 } // namespace
 
 EverythingRead::EverythingRead(CommandQueue &queue, QObject *parent) : QObject(parent), m_queue(queue)
@@ -127,10 +133,10 @@ QString EverythingRead::summary() const
                              .arg(m_total)
                              .arg(QLocale().toString(static_cast<double>(m_duration) / 1000, 'f', 1));
     if (m_end == End::Silent)
-        return QObject::tr("The monitor does not answer; the reading was given up.") + QLatin1Char(' ') + told;
+        return oneText(QObject::tr("The monitor does not answer; the reading was given up."), told);
     if (m_end == End::Cancelled)
-        return QObject::tr("Cancelled.") + QLatin1Char(' ') + told;
+        return oneText(QObject::tr("Cancelled."), told);
     if (missing() == 0)
         return told;
-    return told + QLatin1Char(' ') + QObject::tr("Not told: %1").arg(missingNames());
+    return oneText(told, QObject::tr("Not told: %1").arg(missingNames()));
 }
