@@ -1829,7 +1829,7 @@
     </message>
     <message>
         <source>How pictures with a high dynamic range are shown. Close = off, Auto = when the signal has it.</source>
-        <translation>ハイダイナミックレンジ映像の表示方法です。「自動」は HDR 信号のときだけ有効になります。</translation>
+        <translation>ハイダイナミックレンジ映像の表示方法です。「自動」は HDR 信号のときだけオンになります。</translation>
     </message>
     <message>
         <source>How the LED matrix behind the monitor shines. Matrix Lamp and Clock: Close = off, Open = on.</source>
