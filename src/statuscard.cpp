@@ -55,6 +55,8 @@ void StatusCard::tell(const MonitorStatus &status)
     m_retry->setText(QObject::tr("Retry"));
     m_retry->setToolTip(QObject::tr("Look for the monitor again"));
     m_retry->setGeometry(kLeft, kRetryTop, width() - 2 * kLeft, metrics::kControlHeight);
+    if (status.isGood && m_retry->hasFocus())
+        setFocus(Qt::TabFocusReason); // a press too many would else reach what comes behind
     m_retry->setVisible(!status.isGood);
     update();
 }
@@ -70,6 +72,12 @@ bool StatusCard::event(QEvent *event)
     if (event->type() == QEvent::ToolTip && m_name.showToolTip(static_cast<QHelpEvent *>(event), this))
         return true;
     return QLabel::event(event);
+}
+
+void StatusCard::followFocus(const QFocusEvent *event)
+{
+    m_focusRing.follow(event);
+    update();
 }
 
 void StatusCard::paintEvent(QPaintEvent *)
@@ -88,4 +96,5 @@ void StatusCard::paintEvent(QPaintEvent *)
     const int room = width() - kLeft - kRight;
     m_name.draw(painter, QRect(kLeft, kNameTop, room, kLine), Qt::AlignLeft | Qt::AlignVCenter, Palette::kText);
     m_state.draw(painter, QRect(kLeft, kStateTop, room, kLine), Qt::AlignLeft | Qt::AlignVCenter, Palette::kDim);
+    m_focusRing.draw(painter, rect(), kRadius);
 }

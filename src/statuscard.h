@@ -3,6 +3,7 @@
 #include <QLabel>
 
 #include "controls/captions.h"
+#include "controls/focusring.h"
 #include "monitorstatus.h"
 
 class QPushButton;
@@ -25,10 +26,15 @@ Q_SIGNALS:
 protected:
     bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override { followFocus(event); }
+    void focusOutEvent(QFocusEvent *event) override { followFocus(event); }
 
 private:
+    void followFocus(const QFocusEvent *event);
+
     MonitorStatus m_status;
     Caption m_name;
     Caption m_state;
     QPushButton *m_retry;
+    FocusRing m_focusRing;
 };

@@ -4,6 +4,7 @@
 #include <QTimer>
 #include <QtTest>
 
+#include "controls/messagebox.h"
 #include "controls/zelmardialog.h"
 #include "controls/zelmarkeysequenceedit.h"
 #include "ddc_protocol/settingsstore.h"
@@ -41,6 +42,7 @@ private Q_SLOTS:
     void overlayByNumbers();
     void openedFromElsewhere();
     void goesWithTheFront();
+    void besideAQuestion();
     void drawingByMouseAndKeys();
     void layoutsOfTheUsersOwn();
     void unwritableFile();
@@ -253,6 +255,22 @@ void TestSplitterPage::goesWithTheFront()
         m_window->onSpliter();
         QCOMPARE(overlay()->isVisible(), shown);
     }
+}
+
+/// A question holds up the program's window, not the zones: they are for the window of another program.
+void TestSplitterPage::besideAQuestion()
+{
+    startWith();
+    QTimer::singleShot(0, this, [this] {
+        QPointer question = QApplication::activeModalWidget();
+        m_window->onSpliter();
+        const QPushButton *zone = overlay()->zones()[1];
+        QTest::mouseClick(overlay()->windowHandle(), Qt::LeftButton, {}, zone->mapTo(overlay(), zone->rect().center()));
+        QCOMPARE(place(), QStringLiteral("683,0 683x720"));
+        QVERIFY(question && question->isVisible());
+        question->close();
+    });
+    askYesNo(QStringLiteral("title"), QStringLiteral("text"), m_window.get());
 }
 
 static void dragOn(QWidget *widget, QPoint from, QPoint to)

@@ -45,6 +45,7 @@ private Q_SLOTS:
     void busyModeStopsTheLiveDisplay();
     void uploadKeepsTheOthersAway();
     void exitAsksOnce();
+    void retryPressedOnceMore();
 };
 
 void TestWindowLinks::hotKeysAndFollowingShow()
@@ -286,6 +287,23 @@ void TestWindowLinks::exitAsksOnce()
     }
     QVERIFY(QFile::exists(QLatin1String(pageLEDMatrixCanvas::kDataFile)));
     QVERIFY(m_desk->session().mayLeave());
+}
+
+/// Whoever presses "Retry" once more, as the monitor is back already, presses nothing else.
+void TestWindowLinks::retryPressedOnceMore()
+{
+    start(10);
+    m_window->activateWindow();
+    QTRY_VERIFY(m_window->isActiveWindow());
+    auto *retry = m_window->findChild<QPushButton *>(QStringLiteral("retry"));
+    m_desk->desk.unplug(0);
+    m_desk->clock.advance(300ms);
+    retry->setFocus(Qt::TabFocusReason);
+    QVERIFY(retry->hasFocus());
+    m_desk->desk.plug(0);
+    m_desk->clock.advance(5s);
+    QVERIFY(retry->isHidden());
+    QCOMPARE(m_window->focusWidget(), retry->parentWidget());
 }
 
 QTEST_MAIN(TestWindowLinks)

@@ -2,8 +2,10 @@
 
 #include <QColorDialog>
 #include <QPainter>
+#include <QPointer>
 
 #include "controls/dash.h"
+#include "controls/dress.h"
 #include "controls/palette.h"
 #include "controls/pictures.h"
 
@@ -47,7 +49,13 @@ void ColorPicker::onPickColor()
 
 QColor ColorPicker::askColor()
 {
-    return QColorDialog::getColor(m_color, this, QString(), QColorDialog::DontUseNativeDialog);
+    const QPointer dialog = new QColorDialog(m_color, this); // the picker may go while it is open
+    dialog->setOption(QColorDialog::DontUseNativeDialog);
+    holdUpItsWindow(dialog);
+    const bool isChosen = dialog->exec() == QDialog::Accepted && dialog;
+    const QColor chosen = isChosen ? dialog->selectedColor() : QColor();
+    delete dialog;
+    return chosen;
 }
 
 void ColorPicker::pressAt(const QPoint &position)

@@ -166,6 +166,11 @@ void dressDialog(QDialog *dialog)
     dialog->setStyleSheet(Palette::styled(kDialogStyle));
 }
 
+void holdUpItsWindow(QDialog *question)
+{
+    question->setWindowModality(question->parentWidget() ? Qt::WindowModal : Qt::ApplicationModal);
+}
+
 void dressText(QWidget *label, const TextLook &look)
 {
     QPalette palette = label->palette();

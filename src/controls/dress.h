@@ -13,6 +13,10 @@ void dressApplication();
 /// Gives the controls in one of the toolkit's own dialogs edges that can be seen.
 void dressDialog(QDialog *dialog);
 
+/// Lets a question hold up the window that it belongs to, and not what the program shows on the desktop beside it; one
+/// without a window holds up all of them. To be called before it is shown.
+void holdUpItsWindow(QDialog *question);
+
 /// How the text of a label looks.
 struct TextLook
 {

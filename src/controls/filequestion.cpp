@@ -138,6 +138,7 @@ QString ask(QFileDialog &dialog, QFileDialog::AcceptMode mode)
     dialog.setAcceptMode(mode);
     dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     dress(dialog);
+    holdUpItsWindow(&dialog);
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 

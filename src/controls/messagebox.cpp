@@ -10,6 +10,7 @@
 #include <QShowEvent>
 #include <QtMath>
 
+#include "controls/dress.h"
 #include "controls/metrics.h"
 #include "controls/pictures.h"
 #include "controls/wrappedlabel.h"
@@ -95,6 +96,7 @@ public:
     {
         m_box->setStyleSheet(QLatin1String(kBoxStyle));
         drawSign(*m_box);
+        holdUpItsWindow(m_box);
     }
     ~Box() { delete m_box; }
     Q_DISABLE_COPY_MOVE(Box)

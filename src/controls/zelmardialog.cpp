@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "controls/dress.h"
 #include "controls/metrics.h"
 #include "controls/palette.h"
 #include "controls/pictures.h"
@@ -27,6 +28,7 @@ const QString kFrameStyle =
 ZelmarDialog::ZelmarDialog(QWidget *parent) : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint)
 {
     setAttribute(Qt::WA_TranslucentBackground);
+    holdUpItsWindow(this);
     setWindowTitle(QObject::tr("Hotkey conflict"));
     const QPixmap background = Pictures::load(kBackground, 1.0);
     setFixedSize(background.isNull() ? kFallbackSize : background.size());
