@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QMouseEvent>
 #include <QPixmap>
 #include <QScreen>
@@ -120,7 +120,8 @@ void FramelessWindow::showInFront()
     show();
     keepOnScreen();
     raise();
-    activateWindow();
+    QWidget *const question = QApplication::activeModalWidget(); // which holds up the window
+    (question ? question : this)->activateWindow();
 }
 
 void FramelessWindow::showEvent(QShowEvent *event)

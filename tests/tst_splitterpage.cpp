@@ -263,12 +263,14 @@ void TestSplitterPage::besideAQuestion()
     startWith();
     QTimer::singleShot(0, this, [this] {
         QPointer question = QApplication::activeModalWidget();
+        const auto closeAnyhow = qScopeGuard([question] { question->close(); });
         m_window->onSpliter();
         const QPushButton *zone = overlay()->zones()[1];
         QTest::mouseClick(overlay()->windowHandle(), Qt::LeftButton, {}, zone->mapTo(overlay(), zone->rect().center()));
         QCOMPARE(place(), QStringLiteral("683,0 683x720"));
         QVERIFY(question && question->isVisible());
-        question->close();
+        m_window->showInFront();
+        QTRY_VERIFY(question->isActiveWindow()); // what the window waits for has the keyboard
     });
     askYesNo(QStringLiteral("title"), QStringLiteral("text"), m_window.get());
 }
