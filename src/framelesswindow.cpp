@@ -120,8 +120,7 @@ void FramelessWindow::showInFront()
     show();
     keepOnScreen();
     raise();
-    QWidget *const question = QApplication::activeModalWidget(); // which holds up the window
-    (question ? question : this)->activateWindow();
+    activateWindow();
 }
 
 void FramelessWindow::showEvent(QShowEvent *event)
@@ -150,8 +149,11 @@ void FramelessWindow::keepOnScreen()
 void FramelessWindow::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange && isActiveWindow())
-        cameToFront();
+    if (event->type() != QEvent::ActivationChange || !isActiveWindow())
+        return;
+    if (QWidget *question = QApplication::activeModalWidget()) // which holds up the window
+        question->activateWindow();
+    cameToFront();
 }
 
 void FramelessWindow::keyPressEvent(QKeyEvent *event)
