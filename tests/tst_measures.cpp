@@ -44,9 +44,12 @@ bool isPlainField(const QWidget *widget)
            qobject_cast<const QAbstractSpinBox *>(widget) || qobject_cast<const QKeySequenceEdit *>(widget);
 }
 
+/// With what it is in, down to what has a name of its own.
 QString nameOf(const QWidget *widget)
 {
-    return QLatin1String(widget->metaObject()->className()) + QLatin1Char(' ') + widget->objectName();
+    const QString name = QLatin1String(widget->metaObject()->className()) + QLatin1Char(' ') + widget->objectName();
+    const QWidget *around = widget->parentWidget();
+    return widget->objectName().isEmpty() && around ? nameOf(around) + QStringLiteral(" > ") + name : name;
 }
 
 /// Layouts with a gap off the grid. A page's head stands on its baselines instead.

@@ -111,7 +111,6 @@ QStringList TestSmallScreen::squeezedOnEachPage()
 {
     QStringList found;
     onEveryPage([&](const QWidget *page) {
-        QCoreApplication::processEvents();
         QStringList parts;
         (void)QTest::qWaitFor([&] { return (parts = squeezed()).isEmpty(); }); // laid out in several steps
         for (const QString &part : std::as_const(parts))

@@ -40,9 +40,11 @@ void WindowFixture::onEveryPage(const std::function<void(QWidget *page)> &look)
             QTest::mouseClick(entry, Qt::LeftButton);
             auto *page = static_cast<const QStackedWidget *>(stack)->currentWidget();
             auto *panels = qobject_cast<PanelPage *>(page);
-            for (int i = 0; i < (panels ? panels->panelCount() : 1); ++i) {
-                if (panels && !panels->entries().empty())
+            const int listed = panels ? static_cast<int>(panels->entries().size()) : 0;
+            for (int i = 0; i < std::max(listed, 1); ++i) {
+                if (listed > 0)
                     panels->showPanel(i);
+                QCoreApplication::processEvents(); // what is only made when it is shown comes into sight then
                 look(page);
             }
         }

@@ -23,7 +23,7 @@ protected:
     /// The entry of a family with this caption; null when there is none.
     LeftTabButton *entry(int family, const char *label) const;
 
-    /// Opens every page, and of pages with panels each.
+    /// Opens every page that can be chosen, and of pages with a list of panels each.
     void onEveryPage(const std::function<void(QWidget *page)> &look);
 
     std::unique_ptr<SessionDesk> m_desk;
