@@ -7,8 +7,8 @@
 class QListView;
 class QTabBar;
 
-/// The property of a bar of tabs, and of whatever else has entries that are no widgets, that says which one the
-/// keyboard is at: an int. Without it that is the one that is chosen.
+/// The property of a bar of tabs that says which one the keyboard is at: an int. Without it that is the one that is
+/// chosen.
 inline constexpr char kFocusedEntry[] = "focusedEntry";
 
 /// A widget whose entries are no widgets: each is told of by an interface of its own, made when it is first asked for.
