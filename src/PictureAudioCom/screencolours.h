@@ -45,7 +45,7 @@ private:
         /// Makes room for an area.
         platform::ScreenPart part(const QRect &wanted);
         bool isDark() const;
-        /// How many of its rows, or columns, are dark from the begin on, or from the end.
+        /// How many of its rows, or columns, are dark from the beginning on, or from the end.
         int darkRows(bool fromEnd) const;
         int darkColumns(bool fromEnd) const;
         std::ptrdiff_t bright(int x, int y, int width, int height) const; ///< so many pixels

@@ -14,7 +14,7 @@ class LightView : public QWidget, public Described
 public:
     explicit LightView(QWidget *parent = nullptr);
 
-    /// Plays another look, from its begin.
+    /// Plays another look, from its beginning.
     void setLook(const LightLook &look);
 
     /// Whether it plays, and does not only show a picture that stands.

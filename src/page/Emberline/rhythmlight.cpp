@@ -152,8 +152,8 @@ void RhythmLight::setSource(Source source)
 }
 
 /// The sound output may come and go, another may have become the default one, which the old capture does not hear, and
-/// somebody else may have stopped it: whatever it was, it is listened anew. Who else uses the analyser does so too, and
-/// would take the end of its capture for a failure.
+/// somebody else may have stopped it: whatever it was, it is listened anew. Whoever else uses the analyser does so too,
+/// and would take the end of its capture for a failure.
 void RhythmLight::listen()
 {
     SoundAnalyzer &analyzer = SoundAnalyzer::instance();
