@@ -7,9 +7,7 @@
 
 #include "controls/focusring.h"
 #include "controls/palette.h"
-#include "controls/sharedfonts.h"
 #include "controls/sliderwidget.h"
-#include "controls/tooltips.h"
 #include "controls/wheeleventfilter.h"
 #include "controls/zelmardialog.h"
 #include "controls/zelmarkeysequenceedit.h"
@@ -74,7 +72,6 @@ private Q_SLOTS:
     void dialogIsAcceptedByItsButton();
     void coloursCanBeTold();
     void coloursHaveNames();
-    void longTipsAreBroken();
 };
 
 using SliderAction = std::function<void(SliderWidget *)>;
@@ -378,30 +375,6 @@ void TestFields::coloursHaveNames()
             QVERIFY(source.open(QIODevice::ReadOnly));
             const bool isClean = !source.readAll().contains("color: #");
             QVERIFY2(isClean || own.contains(files.fileName()), qPrintable(files.fileName()));
-        }
-    }
-}
-
-void TestFields::longTipsAreBroken()
-{
-    setUpSharedFonts();
-    dressToolTips();
-    QWidget widget;
-    for (const QString &text :
-         {QStringLiteral("Saturation has no effect while Color Enchance is above zero.").repeated(3),
-          "C:/<b>" + QString(90, 'x'), QStringLiteral("亮度和对比度由显示器决定").repeated(20)}) {
-        widget.setToolTip(text);
-        QHelpEvent event(QEvent::ToolTip, {}, {});
-        QApplication::sendEvent(&widget, &event);
-        QTextDocument shown;
-        Qt::mightBeRichText(QToolTip::text()) ? shown.setHtml(QToolTip::text()) : shown.setPlainText(QToolTip::text());
-        const QStringList lines = shown.toPlainText().split('\n');
-        QCOMPARE(lines.join(QString()).remove(' '), QString(text).remove(' ')); // nothing is lost
-        for (const QString &line : lines)
-            QVERIFY(QFontMetrics(QToolTip::font()).horizontalAdvance(line) <= 360 && lines.size() > 1);
-        for (QWidget *tip : QApplication::topLevelWidgets()) {
-            if (tip->inherits("QTipLabel"))
-                QCOMPARE(tip->grab().toImage().pixel(0, tip->height() / 2), Palette::kEdge); // its frame
         }
     }
 }

@@ -1,8 +1,12 @@
 #include <QtTest>
+#include <QtWidgets>
 
 #include "controls/flowlayout.h"
 #include "controls/messagebox.h"
+#include "controls/palette.h"
 #include "controls/phrases.h"
+#include "controls/sharedfonts.h"
+#include "controls/tooltips.h"
 #include "controls/wrappedlabel.h"
 
 /// Where lines of text end.
@@ -16,6 +20,7 @@ private Q_SLOTS:
     void labelIsAsHighAsItsPhrases();
     void boxIsAsWideAsItsLines();
     void widgetsStandInEvenLines();
+    void longTipsAreBroken();
 };
 
 /// There are never more lines for it.
@@ -146,6 +151,30 @@ void TestLines::widgetsStandInEvenLines()
         for (const auto &[top, widgets] : lines)
             found += QStringLiteral("%1 ").arg(widgets);
         QCOMPARE(found, QLatin1String(expected));
+    }
+}
+
+void TestLines::longTipsAreBroken()
+{
+    setUpSharedFonts();
+    dressToolTips();
+    QWidget widget;
+    for (const QString &text :
+         {QStringLiteral("Saturation has no effect while Color Enchance is above zero.").repeated(3),
+          "C:/<b>" + QString(90, 'x'), QStringLiteral("亮度和对比度由显示器决定").repeated(20)}) {
+        widget.setToolTip(text);
+        QHelpEvent event(QEvent::ToolTip, {}, {});
+        QApplication::sendEvent(&widget, &event);
+        QTextDocument shown;
+        Qt::mightBeRichText(QToolTip::text()) ? shown.setHtml(QToolTip::text()) : shown.setPlainText(QToolTip::text());
+        const QStringList lines = shown.toPlainText().split('\n');
+        QCOMPARE(lines.join(QString()).remove(' '), QString(text).remove(' ')); // nothing is lost
+        for (const QString &line : lines)
+            QVERIFY(QFontMetrics(QToolTip::font()).horizontalAdvance(line) <= 360 && lines.size() > 1);
+        for (QWidget *tip : QApplication::topLevelWidgets()) {
+            if (tip->inherits("QTipLabel"))
+                QCOMPARE(tip->grab().toImage().pixel(0, tip->height() / 2), Palette::kEdge); // its frame
+        }
     }
 }
 
