@@ -69,7 +69,7 @@ void TestLines::linesEndAtPhrases()
              QStringLiteral("Rhythm\nScreen"));
 }
 
-/// Where that takes no line more, and no line is less than half of another.
+/// Where that takes no line more, no last line is very short, and no other less than half of one.
 void TestLines::linesEndWhereTheTextPauses()
 {
     QCOMPARE(clausesOf(QStringLiteral("「甲。乙」，丙、丁：0.5 秒。")),
@@ -80,6 +80,8 @@ void TestLines::linesEndWhereTheTextPauses()
          {std::tuple("A caption. For what", "A caption. For what is, so", "A caption.\nFor what is, so"),
           {"A caption. For what is", "A caption. For what is long, so and on",
            "A caption. For what is long, so and on"},
+          {"適合遊戲，也適合看電影。看", "適合遊戲，也適合看電影。看書關閉。", "適合遊戲，也適合看電影。\n看書關閉。"},
+          {"For what is longer", "Yes. For what is longer", "Yes. For what is longer"},
           {"適合遊戲。看電影", "適合遊戲。看電影請關閉。", "適合遊戲。\n看電影請關閉。"},
           {"電話を充電し続けます。", "電話を充電し続けます。消すと切れます。",
            "電話を充電し続けます。\n消すと切れます。"},

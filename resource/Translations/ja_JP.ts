@@ -1953,11 +1953,11 @@
     </message>
     <message>
         <source>Keyboard and mouse at the monitor belong to the computer at the Type-B socket.</source>
-        <translation>モニターにつないだキーボードとマウスは Type-B 端子のコンピューターで使えます。</translation>
+        <translation>モニターにつないだキーボードとマウスは、Type-B 端子のコンピューターで使えます。</translation>
     </message>
     <message>
         <source>Keyboard and mouse at the monitor belong to the computer at the Type-C socket.</source>
-        <translation>モニターにつないだキーボードとマウスは Type-C 端子のコンピューターで使えます。</translation>
+        <translation>モニターにつないだキーボードとマウスは、Type-C 端子のコンピューターで使えます。</translation>
     </message>
     <message>
         <source>Keys of the numeric pad cannot be used.</source>

@@ -18,8 +18,8 @@ struct Lines
 {
     int count = 0;
     qreal widest = 0;
-    qreal narrowest = QWIDGETSIZE_MAX;
-    qreal last = 0; ///< how wide that one is
+    qreal last = 0;                    ///< how wide that one is
+    qreal narrowest = QWIDGETSIZE_MAX; ///< of those before it
 };
 
 Lines linesIn(QTextLayout &layout, int width)
@@ -91,9 +91,10 @@ Lines measured(const QStringList &lines, const QFontMetricsF &metrics)
 {
     Lines all{static_cast<int>(lines.size())};
     for (const QString &line : lines) {
+        if (all.widest > 0)
+            all.narrowest = std::min(all.narrowest, all.last);
         all.last = metrics.horizontalAdvance(line.trimmed());
         all.widest = std::max(all.widest, all.last);
-        all.narrowest = std::min(all.narrowest, all.last);
     }
     return all;
 }
@@ -112,10 +113,11 @@ QStringList laidClauses(int width, const QStringList &clauses, const QFontMetric
     return lines;
 }
 
-/// Whether several lines are no more than that many, none of them stands out, and none looks like a rest of another.
+/// Whether several lines are no more than that many, none of them stands out, and none looks like one too many.
 bool isWellLaid(const Lines &lines, int room, int most)
 {
-    return lines.count > 1 && lines.count <= most && lines.widest <= room && 2 * lines.narrowest >= lines.widest;
+    return lines.count > 1 && lines.count <= most && lines.widest <= room && 2 * lines.narrowest >= lines.widest &&
+           lines.last * kShortLine >= room;
 }
 
 bool isWrapped(const QLabel &label)
