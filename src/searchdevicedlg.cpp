@@ -160,9 +160,7 @@ void SearchDeviceDlg::delayedSearchDevices()
     const int reason = reloadEdidType;
     qDebug() << "delayedSearchDevices: Reloader EDID Type:" << reason;
     if (reason == kRestartProgram) {
-        settingsInt(QString::fromLatin1(kRestartKey), 1, true);
-        if (!relaunchAndQuit())
-            goOnWithoutCopy();
+        restart();
     } else {
         searchDevices();
     }
@@ -214,11 +212,26 @@ void SearchDeviceDlg::onCurrentDeviceChanged(int index)
         tellNotRestarted();
 }
 
+/// Asked once more: since the user wanted it the window may have been shown again and drawn in.
+void SearchDeviceDlg::restart()
+{
+    const bool leaves = mayLeave();
+    if (platform::programEnds())
+        return;
+    if (!leaves)
+        return goOnWithoutCopy();
+    settingsInt(QString::fromLatin1(kRestartKey), 1, true);
+    if (relaunchAndQuit())
+        return;
+    settingsInt(QString::fromLatin1(kRestartKey), 0, true);
+    goOnWithoutCopy();
+    tellNotRestarted();
+}
+
 /// No copy takes this one's place, so this one reads what the copy would have read.
 void SearchDeviceDlg::goOnWithoutCopy()
 {
     reloadEdidType = kIdle; // a search that the reading lets in must not try it again
-    settingsInt(QString::fromLatin1(kRestartKey), 0, true);
     {
         const QScopedValueRollback searching(m_searching, true);
         if (readDataFromDevice() && m_host)
@@ -227,7 +240,6 @@ void SearchDeviceDlg::goOnWithoutCopy()
     runRememberedSearch();
     if (m_host)
         m_host->showWindow(); // whoever asked for a new start may have hidden it
-    tellNotRestarted();
 }
 
 void SearchDeviceDlg::tellNotRestarted()

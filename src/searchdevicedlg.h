@@ -72,6 +72,7 @@ private:
     void runRememberedSearch();
     void requestSearchAfter(int delay);
     void requestReconnect();
+    void restart();
     void goOnWithoutCopy();
 
     SessionHost *m_host = nullptr;

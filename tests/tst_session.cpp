@@ -48,9 +48,11 @@ public:
     {
         calls.append(accessoryLink.found || accessoryLink.opened ? "reopen" : "reopen anew");
     }
+    bool mayLeave() override { return !keepsWork; }
     QStringList take() { return std::exchange(calls, {}); }
 
     QStringList calls;
+    bool keepsWork = false;
     std::function<void()> onRefresh;
 };
 
@@ -339,8 +341,14 @@ void TestSession::chosenDeviceIsStoredAndTheProgramRestarts()
     QVERIFY(m_desk->takeCommands().contains("R ed")); // all that the copy would have read
     QCOMPARE(reloadEdidType.load(), int(kIdle));
     QCOMPARE(m_session->notRestarted, 2);
-    QCOMPARE(m_desk->desk.process().quits, 0);
     m_desk->desk.process().start = [] { return true; };
+    m_host.keepsWork = true; // begun since the restart was wanted
+    reloadEdidType = kRestartProgram;
+    m_session->delayedSearchDevices();
+    QCOMPARE(m_host.take(), (QStringList{"refresh", "show", "update"}));
+    QCOMPARE(m_session->notRestarted, 2);
+    QCOMPARE(m_desk->desk.process().quits, 0);
+    m_host.keepsWork = false;
     m_session->deviceBox()->setCurrentIndex(1);
     QCOMPARE(settingsInt(kDeviceIndexKey, 0, false), 1);
     QCOMPARE(m_desk->desk.process().quits, 1);

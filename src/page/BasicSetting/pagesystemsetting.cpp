@@ -57,7 +57,7 @@ QWidget *pageSystemSetting::buildPart(const char *)
 void pageSystemSetting::resetFactory()
 {
     const MonitorAskedAbout monitor;
-    if (!m_session.mayLeave()) // it ends in a restart that asks nobody
+    if (!m_session.mayLeave()) // it ends in a restart
         return;
     if (!monitor.isInUse())
         return showNotice(otherMonitorText());
