@@ -306,6 +306,7 @@ void TestFields::emptyKeyFieldSaysSo()
     QVERIFY(field.grab(inside).toImage() != empty);
     field.clear();
     QVERIFY(field.grab(inside).toImage() == empty);
+    QCOMPARE(line->palette().color(QPalette::PlaceholderText), QColor(Palette::kHint));
     QCOMPARE(line->placeholderText(), QStringLiteral("NA"));
     QMimeData text; // nothing but keys changes what it says
     text.setText(QStringLiteral("x"));

@@ -22,11 +22,23 @@ QString nothingSet()
     return QObject::tr("NA");
 }
 
+/// A style sheet makes the hint half as strong as the text, which is too weak to be read here.
+void strengthenHint(QLineEdit *lineEdit)
+{
+    const QColor hint = lineEdit->isEnabled() ? Palette::kHint : Palette::kDisabled;
+    QPalette palette = lineEdit->palette();
+    if (palette.color(QPalette::PlaceholderText) == hint)
+        return;
+    palette.setColor(QPalette::PlaceholderText, hint);
+    lineEdit->setPalette(palette);
+}
+
 /// Paints an empty line edit. The base class may have put a hint of its own there, and a line edit whose text is
 /// centred leaves its hint out while it has the focus.
 void paintEmpty(QLineEdit *lineEdit, QEvent *event)
 {
     lineEdit->setPlaceholderText(nothingSet());
+    strengthenHint(lineEdit);
     lineEdit->event(event);
     if (!lineEdit->hasFocus())
         return;
