@@ -183,7 +183,15 @@ QList<QPair<QString, QString>> readAllSettings(const QString &fileName)
 
 bool storeSetting(const QString &key, const QVariant &value, const QString &fileName)
 {
-    return changeFile(fileName, [&](Values &values) { values[normalizedKey(key)] = asRead(value); });
+    return storeSettings({{key, value}}, fileName);
+}
+
+bool storeSettings(const QList<QPair<QString, QVariant>> &settings, const QString &fileName)
+{
+    return changeFile(fileName, [&settings](Values &values) {
+        for (const auto &[key, value] : settings)
+            values[normalizedKey(key)] = asRead(value);
+    });
 }
 
 bool writeAllSettings(const QString &fileName, const QList<QPair<QString, QString>> &settings)

@@ -37,6 +37,10 @@ QList<QPair<QString, QString>> readAllSettings(const QString &fileName);
 [[nodiscard]] bool storeSetting(const QString &key, const QVariant &value,
                                 const QString &fileName = QString::fromLatin1(kConfigFile));
 
+/// Stores several at once: all of them or none.
+[[nodiscard]] bool storeSettings(const QList<QPair<QString, QVariant>> &settings,
+                                 const QString &fileName = QString::fromLatin1(kConfigFile));
+
 /// Replaces everything the file holds. False when it could not be written; then it holds the old settings.
 [[nodiscard]] bool writeAllSettings(const QString &fileName, const QList<QPair<QString, QString>> &settings);
 

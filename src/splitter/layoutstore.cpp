@@ -111,6 +111,6 @@ ScreenLayouts loadLayouts(const QString &screenKey)
 
 bool storeLayouts(const QString &screenKey, const ScreenLayouts &layouts)
 {
-    return storeSetting(keyOf("Layouts", screenKey), layoutsText(layouts.own)) &&
-           storeSetting(keyOf("Chosen", screenKey), chosenText(layouts.chosen));
+    return storeSettings({{keyOf("Layouts", screenKey), layoutsText(layouts.own)},
+                          {keyOf("Chosen", screenKey), chosenText(layouts.chosen)}});
 }

@@ -116,8 +116,8 @@ bool TrayChoices::choose(std::size_t place, Command command)
     if (elsewhere != m_chosen.end())
         *elsewhere = m_chosen[place];
     m_chosen[place] = command;
-    bool stored = true;
+    QList<QPair<QString, QVariant>> settings;
     for (std::size_t i = 0; i < m_chosen.size(); ++i)
-        stored = storeSetting(QLatin1String(kKeys[i]), QLatin1String(offer(m_chosen[i]).label)) && stored;
-    return stored;
+        settings.append({QLatin1String(kKeys[i]), QLatin1String(offer(m_chosen[i]).label)});
+    return storeSettings(settings);
 }

@@ -68,9 +68,9 @@ void pageSystemSetting::resetFactory()
     qDebug() << "reset begin";
     Q_EMIT resetBegins();
     reloadEdidType = kRestartProgram;
-    const bool brightness = storeSetting(QLatin1String(kLedBrightnessKey), kUsualLedBrightness);
-    const bool level = storeSetting(QLatin1String(kPlaybackLevelKey), kUsualPlaybackLevel);
-    showStored(brightness && level, Unstored::HoldsUntilExit);
+    const bool stored = storeSettings({{QLatin1String(kLedBrightnessKey), kUsualLedBrightness},
+                                       {QLatin1String(kPlaybackLevelKey), kUsualPlaybackLevel}});
+    showStored(stored, Unstored::HoldsUntilExit);
     platform::desk().clock().callLater(kResetTime, this, [this] {
         reloadEdidType = kRestartProgram; // whatever happened in between
         m_session.delayedSearchDevices();

@@ -20,6 +20,5 @@ QSize storedPaper()
 
 bool storePaper(const QSize &millimetres)
 {
-    const bool widthStored = storeSetting(kWidthKey, millimetres.width());
-    return storeSetting(kHeightKey, millimetres.height()) && widthStored;
+    return storeSettings({{kWidthKey, millimetres.width()}, {kHeightKey, millimetres.height()}});
 }

@@ -227,9 +227,9 @@ void pageLEDGame::takeLook()
     AccessoryReport report;
     buildGameSettings(report, static_cast<std::uint8_t>(wanted.interval), static_cast<std::uint8_t>(wanted.brightness));
     sendReport(report);
-    const bool intervalStored = storeSetting(QLatin1String(kIntervalKey), wanted.interval);
-    showStored(storeSetting(QLatin1String(kBrightnessKey), wanted.brightness) && intervalStored,
-               Unstored::HoldsUntilExit);
+    const bool stored = storeSettings(
+        {{QLatin1String(kIntervalKey), wanted.interval}, {QLatin1String(kBrightnessKey), wanted.brightness}});
+    showStored(stored, Unstored::HoldsUntilExit);
     showLook();
 }
 

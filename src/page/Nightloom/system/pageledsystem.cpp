@@ -152,8 +152,8 @@ void pageLEDSystem::onSliderReleased(SliderWidget *moved, Command command)
             const LiveDisplay::Pause pause(m_display);
             writePageReport(report);
         }
-        const bool levelStored = storeSetting(QLatin1String(kPlaybackLevelKey), level);
-        const bool stored = storeSetting(QLatin1String(kLedBrightnessKey), brightness) && levelStored;
+        const bool stored =
+            storeSettings({{QLatin1String(kPlaybackLevelKey), level}, {QLatin1String(kLedBrightnessKey), brightness}});
         m_unstored = stored ? std::nullopt : std::optional(std::pair(level, brightness));
         showStored(stored, Unstored::HoldsUntilExit);
         queue().post(command, value);
